@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/**
+ * The surroundings that every test program runs in: a home of its own, so that nothing of the user's is
+ * read or written, and one style for comparable pictures.
+ */
+class TestEnvironment
+{
+public:
+    TestEnvironment();
+
+    /// After construction of the application.
+    static void prepareApplication();
+
+    /// Fails the run when top-level widgets that did not exist before the tests are still alive: the
+    /// leak checker does not see them, because Qt's own list of widgets refers to them.
+    static int reportLeftovers(int result);
+
+private:
+    QTemporaryDir m_home;
+};
+
+/// The main function of a test program. Its last line includes "<this file>.moc".
+#define UIC_TEST_MAIN(TestClass)                                                                             \
+    int main(int argc, char** argv)                                                                          \
+    {                                                                                                        \
+        const TestEnvironment environment;                                                                   \
+        QApplication application(argc, argv);                                                                \
+        TestEnvironment::prepareApplication();                                                               \
+        int result = 0;                                                                                      \
+        {                                                                                                    \
+            TestClass test;                                                                                  \
+            result = QTest::qExec(&test, argc, argv);                                                        \
+        }                                                                                                    \
+        return TestEnvironment::reportLeftovers(result);                                                     \
+    }
