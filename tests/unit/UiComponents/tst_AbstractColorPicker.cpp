@@ -1,6 +1,12 @@
+#include "FakeColorPicker.h"
+#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <UiComponents/AbstractColorPicker.h>
+
+#include <QPointer>
+
+using OptionalColor = std::optional<QColor>;
 
 class tst_AbstractColorPicker : public QObject
 {
@@ -8,20 +14,66 @@ class tst_AbstractColorPicker : public QObject
 
 private Q_SLOTS:
     void metaObject();
+    void slotCallsTheVirtual();
+    void parentOwns();
+    void colorIsAMetaType();
+    void queuedConnectionCarriesTheColor();
 };
 
 void tst_AbstractColorPicker::metaObject()
 {
     const QMetaObject& meta = AbstractColorPicker::staticMetaObject;
-    const int first = meta.methodOffset();
-    QCOMPARE(meta.methodCount() - first, 3);
-    QCOMPARE(meta.method(first).methodSignature(), QByteArray("colorChanged(std::optional<QColor>)"));
-    QCOMPARE(meta.method(first).methodType(), QMetaMethod::Signal);
-    QCOMPARE(meta.method(first + 1).methodSignature(), QByteArray("pickingStopped()"));
-    QCOMPARE(meta.method(first + 1).methodType(), QMetaMethod::Signal);
-    QCOMPARE(meta.method(first + 2).methodSignature(), QByteArray("setColor(std::optional<QColor>)"));
-    QCOMPARE(meta.method(first + 2).methodType(), QMetaMethod::Slot);
-    QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
+    QCOMPARE(QByteArray(meta.className()), QByteArray("AbstractColorPicker"));
+    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(std::optional<QColor>)"),
+                                            QStringLiteral("signal pickingStopped()"),
+                                            QStringLiteral("slot setColor(std::optional<QColor>)")}));
+    QCOMPARE(ownProperties(meta), QStringList());
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+}
+
+void tst_AbstractColorPicker::slotCallsTheVirtual()
+{
+    FakeColorPicker picker;
+    const OptionalColor green = QColor(Qt::green);
+    QVERIFY(QMetaObject::invokeMethod(&picker, "setColor", Q_ARG(std::optional<QColor>, green)));
+    QCOMPARE(picker.received.size(), std::size_t(1));
+    QVERIFY(picker.received.front() == green);
+}
+
+void tst_AbstractColorPicker::parentOwns()
+{
+    QPointer<AbstractColorPicker> picker;
+    {
+        QObject parent;
+        picker = new FakeColorPicker(&parent);
+        QCOMPARE(picker->parent(), &parent);
+    }
+    QVERIFY(!picker);
+
+    const FakeColorPicker orphan;
+    QVERIFY(!orphan.parent());
+}
+
+void tst_AbstractColorPicker::colorIsAMetaType()
+{
+    const FakeColorPicker picker;
+    QCOMPARE(QMetaType::type("std::optional<QColor>"), qMetaTypeId<OptionalColor>());
+}
+
+void tst_AbstractColorPicker::queuedConnectionCarriesTheColor()
+{
+    FakeColorPicker picker;
+    std::vector<OptionalColor> seen;
+    connect(
+        &picker, &AbstractColorPicker::colorChanged, this,
+        [&seen](const OptionalColor& color) { seen.push_back(color); }, Qt::QueuedConnection);
+    picker.preview(QColor(Qt::blue));
+    picker.preview(std::nullopt);
+    QVERIFY(seen.empty());
+    QCoreApplication::processEvents();
+    QCOMPARE(seen.size(), std::size_t(2));
+    QVERIFY(seen.at(0) == OptionalColor(QColor(Qt::blue)));
+    QVERIFY(!seen.at(1).has_value());
 }
 
 UIC_TEST_MAIN(tst_AbstractColorPicker)

@@ -1,0 +1,56 @@
+#include "ColorInputWidget.h"
+
+#include "ColorPickerButton.h"
+
+#include <WidgetToolkit/OvBoxLayout.h>
+
+class ColorInputWidget::Private
+{
+public:
+    explicit Private(ColorInputWidget* field);
+
+    ColorInputWidget* const owner;
+    ColorPickerButton* const button;
+};
+
+ColorInputWidget::Private::Private(ColorInputWidget* field)
+    : owner(field)
+    , button(new ColorPickerButton(field))
+{
+    button->setObjectName(QStringLiteral("colorPicker"));
+
+    auto* layout = new OvHBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill();
+}
+
+ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    // A label whose buddy is the field gives its focus to what can be operated.
+    setFocusProxy(d->button);
+    if (color.isValid()) {
+        d->button->setColor(color);
+    }
+    // Last, so that the first value is not reported as a change.
+    connect(d->button, &ColorPickerButton::colorChanged, this, &ColorInputWidget::colorChanged);
+}
+
+ColorInputWidget::~ColorInputWidget() = default;
+
+void ColorInputWidget::setColor(const QColor& color)
+{
+    d->button->setColor(color);
+}
+
+void ColorInputWidget::setPicker(AbstractColorPicker* picker)
+{
+    d->button->setPicker(picker);
+}
+
+QWidget* ColorInputWidget::anchorWidget() const
+{
+    return d->button;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <UiComponents/UiComponentsExport.h>
+#include <WidgetToolkit/OvFrame.h>
+
+#include <QColor>
+
+#include <memory>
+
+class AbstractColorPicker;
+
+/**
+ * A colour field for a row of a form: a frame around one ColorPickerButton.
+ *
+ *     auto* field = new ColorInputWidget(form, QColor(Qt::red));
+ *     field->setPicker(new MyPicker);
+ *     connect(field, &ColorInputWidget::colorChanged, this, &Panel::applyColor);
+ *
+ * What the user can do with it, and what the colours mean, is ColorPickerButton's.
+ *
+ * **Style sheet.** The button's object name is "colorPicker"; the frame's metrics are OvFrame's
+ * properties: `ColorInputWidget { qproperty-layoutMargin: 2; }`.
+ */
+class UICOMPONENTS_EXPORT ColorInputWidget : public OvFrame
+{
+    Q_OBJECT
+
+public:
+    /// @p parent owns the field as usual. A valid @p color is the first value, set without a signal; an
+    /// invalid one leaves the field at several different colours, as a new ColorPickerButton is.
+    ColorInputWidget(QWidget* parent, const QColor& color);
+    ~ColorInputWidget() override;
+
+    /// Sets the value; an invalid @p color means no colour. Emits colorChanged() if it differs.
+    void setColor(const QColor& color);
+
+    /// Installs @p picker, which must not be null, in the button, which owns it from now on and deletes
+    /// the one before (see ColorPickerButton::setPicker()).
+    void setPicker(AbstractColorPicker* picker);
+
+    /// The button, for placing a pop-up picker beside the field. It lives as long as the field.
+    QWidget* anchorWidget() const;
+
+Q_SIGNALS:
+    /// The value became @p value, by picking or through setColor(); invalid means no colour.
+    void colorChanged(QColor value);
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};

@@ -1,0 +1,210 @@
+#include "ColorPickerButton.h"
+
+#include "AbstractColorPicker.h"
+
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QEvent>
+#include <QPointer>
+#include <QVariant>
+
+namespace {
+
+constexpr double enabledOpacity = 1.0;
+constexpr double disabledOpacity = 0.4;
+
+QString faceStyleSheet(const QColor& color, bool enabled)
+{
+    if (!color.isValid()) {
+        return QStringLiteral("background: transparent;");
+    }
+    return QStringLiteral("background: rgba(%1, %2, %3, %4)")
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue())
+        .arg(enabled ? enabledOpacity : disabledOpacity);
+}
+
+} // namespace
+
+class ColorPickerButton::Private
+{
+public:
+    explicit Private(ColorPickerButton* button);
+
+    void setPicker(AbstractColorPicker* newPicker);
+    void adoptResult(AbstractColorPicker* from);
+    void release();
+    void updateStyle();
+
+    ColorPickerButton* const owner;
+    QWidget* const face;
+    QPointer<AbstractColorPicker> picker;
+    std::optional<QColor> color;
+    bool isPressedByPick = false;
+};
+
+ColorPickerButton::Private::Private(ColorPickerButton* button)
+    : owner(button)
+    , face(new QWidget(button))
+{
+    face->setObjectName(QStringLiteral("color"));
+    face->setAttribute(Qt::WA_TransparentForMouseEvents);
+
+    auto* layout = new OvHBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill()->addStretch(0);
+    Util::installLayoutController(owner);
+}
+
+void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
+{
+    if (AbstractColorPicker* const old = picker) {
+        // A picker that reports its end while it is destroyed can no longer be asked for its colour.
+        old->disconnect(owner);
+        delete old;
+        release();
+    }
+    picker = newPicker;
+    newPicker->setParent(owner);
+
+    connect(newPicker, &AbstractColorPicker::colorChanged, owner, &ColorPickerButton::setColor);
+    connect(newPicker, &AbstractColorPicker::pickingStopped, owner,
+            [this, newPicker] { adoptResult(newPicker); });
+    connect(owner, &ColorPickerButton::colorChanged, newPicker,
+            [newPicker](const QColor& value) { newPicker->setColor(value); });
+    connect(newPicker, &QObject::destroyed, owner, [this] { release(); });
+}
+
+void ColorPickerButton::Private::adoptResult(AbstractColorPicker* from)
+{
+    const QPointer<ColorPickerButton> button = owner;
+    const QPointer<AbstractColorPicker> source = from;
+    Q_EMIT owner->pickingStopped();
+    if (button && source) {
+        button->setColor(source->color());
+    }
+    if (button) {
+        isPressedByPick = false;
+        button->setDown(false);
+    }
+}
+
+// Nothing is left that could report the end of the pick that pressed the button.
+void ColorPickerButton::Private::release()
+{
+    if (isPressedByPick) {
+        isPressedByPick = false;
+        owner->setDown(false);
+    }
+}
+
+void ColorPickerButton::Private::updateStyle()
+{
+    const QColor shown = color.value_or(QColor());
+    Util::applyProperty(owner, "nullColor", color.has_value() && !color->isValid());
+    Util::applyProperty(owner, "multiColor", !color.has_value());
+
+    const QString sheet = faceStyleSheet(shown, owner->isEnabled());
+    if (face->styleSheet() != sheet) {
+        face->setStyleSheet(sheet);
+    }
+}
+
+ColorPickerButton::ColorPickerButton(QWidget* parent)
+    : QToolButton(parent)
+    , d(std::make_unique<Private>(this))
+{
+    connect(this, &QAbstractButton::clicked, this, &ColorPickerButton::startPicking);
+    d->updateStyle();
+}
+
+ColorPickerButton::~ColorPickerButton()
+{
+    // Before the button is a mere QWidget: the picker's last signals must not reach it.
+    if (AbstractColorPicker* const picker = d->picker) {
+        picker->disconnect(this);
+        delete picker;
+    }
+}
+
+void ColorPickerButton::setPicker(AbstractColorPicker* picker)
+{
+    if (picker != d->picker || !picker) {
+        d->setPicker(picker);
+    }
+}
+
+std::optional<QColor> ColorPickerButton::color() const
+{
+    return d->color;
+}
+
+void ColorPickerButton::setColor(const std::optional<QColor>& color)
+{
+    if (color == d->color) {
+        return;
+    }
+    d->color = color;
+    d->updateStyle();
+    if (d->color) {
+        Q_EMIT colorChanged(*d->color);
+    }
+}
+
+bool ColorPickerButton::isPickingInProgress() const
+{
+    return d->picker->isInProgress();
+}
+
+void ColorPickerButton::startPicking()
+{
+    if (!d->picker) {
+        return;
+    }
+    const QPointer<ColorPickerButton> self = this;
+    Q_EMIT pickingStarted();
+    if (!self || !d->picker) {
+        return;
+    }
+    d->isPressedByPick = true;
+    setDown(true);
+    d->picker->pick();
+}
+
+void ColorPickerButton::stopPicking()
+{
+    if (d->picker) {
+        d->picker->stop();
+    }
+}
+
+void ColorPickerButton::hideEvent(QHideEvent* event)
+{
+    const QPointer<ColorPickerButton> self = this;
+    stopPicking();
+    if (self) {
+        QWidget::hideEvent(event);
+    }
+}
+
+void ColorPickerButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange) {
+        d->updateStyle();
+    }
+    QToolButton::changeEvent(event);
+}
+
+void ColorPickerButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    // A click may delete the button. QToolButton would then write into it to forget which part was
+    // pressed, which only a split button ever asks.
+    if (popupMode() == MenuButtonPopup) {
+        QToolButton::mouseReleaseEvent(event);
+    } else {
+        QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    }
+}

@@ -1,0 +1,846 @@
+#include "FakeColorPicker.h"
+#include "MetaObject.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorPickerButton.h>
+
+#include <QEventLoop>
+#include <QLayout>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <memory>
+
+using OptionalColor = std::optional<QColor>;
+
+namespace {
+
+QWidget* faceOf(const ColorPickerButton& button)
+{
+    return button.findChild<QWidget*>(QStringLiteral("color"), Qt::FindDirectChildrenOnly);
+}
+
+QString text(const OptionalColor& color)
+{
+    if (!color) {
+        return QStringLiteral("multiple");
+    }
+    return color->isValid() ? color->name(QColor::HexArgb) : QStringLiteral("none");
+}
+
+/// Everything that a button and its picker say, in order.
+class Protocol : public QObject
+{
+public:
+    void watch(ColorPickerButton* button)
+    {
+        connect(button, &ColorPickerButton::pickingStarted, this,
+                [this] { lines += QStringLiteral("started"); });
+        connect(button, &ColorPickerButton::pickingStopped, this,
+                [this] { lines += QStringLiteral("stopped"); });
+        connect(button, &ColorPickerButton::colorChanged, this,
+                [this](const QColor& color) { lines += QStringLiteral("changed ") + text(color); });
+    }
+
+    QStringList lines;
+};
+
+QString opaque(Qt::GlobalColor color)
+{
+    return QColor(color).name(QColor::HexArgb);
+}
+
+} // namespace
+
+class tst_ColorPickerButton : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metaObject();
+    void construction();
+
+    void newButtonShowsMultiple();
+    void states_data();
+    void states();
+    void setColorOfNoColorIsReported();
+    void sameColorIsReportedOnce();
+    void changeToMultipleIsShownButNotReported();
+    void colorModelCounts();
+    void disabledFaceIsDimmed();
+    void translucentColorIsShownOpaque();
+    void valueKeepsAlpha();
+    void setColorOfItsOwnValue();
+    void selectorsTakeEffectAtOnce();
+
+    void clickWithoutPicker();
+    void pickFromClickToColor();
+    void spaceStartsAPick();
+    void disabledButtonDoesNotPick();
+    void buttonIsPressedBeforePick();
+    void previewIsAdoptedAtOnce();
+    void silentEndKeepsThePress();
+    void restartAfterSilentEnd();
+    void stopPickingAsksThePicker();
+    void hidingStopsThePick();
+    void hidingAnIdleButtonAsksThePickerToStop();
+    void stoppedTwiceIsRelayedTwice();
+    void finalColorMayBeMultiple();
+    void pickerLearnsEachColor();
+    void pickerIsNotToldOfMultiple();
+    void pickerMayAnswerSetColor();
+
+    void pickerAnswersFromInsidePick();
+    void pickerRunsANestedLoop();
+
+    void secondPickerReplacesTheFirst();
+    void replacedPickerIsNoLongerHeard();
+    void installingTheSamePickerKeepsIt();
+    void pickerParentedElsewhereIsTakenOver();
+    void replacedWhilePickingReleases();
+    void pickerThatReportsFromItsDestructor();
+    void pickerDeletesItselfWhilePicking();
+    void pickerDeletesItselfAtTheEnd();
+    void pickerReplacedInASlot_data();
+    void pickerReplacedInASlot();
+    void pickerReplacedInsidePick();
+
+    void buttonOwnsThePicker();
+    void buttonDeletedWhilePicking();
+    void buttonDeletedInASlot_data();
+    void buttonDeletedInASlot();
+    void buttonDeletedByAClick();
+};
+
+void tst_ColorPickerButton::metaObject()
+{
+    const QMetaObject& meta = ColorPickerButton::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPickerButton"));
+    QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
+    QCOMPARE(
+        ownMethods(meta),
+        QStringList({QStringLiteral("signal pickingStarted()"), QStringLiteral("signal pickingStopped()"),
+                     QStringLiteral("signal colorChanged(QColor)"), QStringLiteral("slot startPicking()"),
+                     QStringLiteral("slot stopPicking()")}));
+    QCOMPARE(ownProperties(meta), QStringList());
+}
+
+void tst_ColorPickerButton::construction()
+{
+    QWidget parent;
+    const auto* button = new ColorPickerButton(&parent);
+    QCOMPARE(button->parentWidget(), &parent);
+
+    QLayout* layout = button->layout();
+    QVERIFY(layout);
+    QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
+    QCOMPARE(layout->contentsMargins(), QMargins());
+    QCOMPARE(layout->spacing(), 0);
+    QCOMPARE(layout->count(), 2);
+    QCOMPARE(layout->itemAt(0)->widget(), faceOf(*button));
+    QVERIFY(layout->itemAt(1)->spacerItem());
+}
+
+void tst_ColorPickerButton::newButtonShowsMultiple()
+{
+    const ColorPickerButton button;
+    QVERIFY(!button.color().has_value());
+    QCOMPARE(button.property("multiColor"), QVariant(true));
+    QCOMPARE(button.property("nullColor"), QVariant(false));
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::states_data()
+{
+    QTest::addColumn<OptionalColor>("color");
+    QTest::addColumn<bool>("nullColor");
+    QTest::addColumn<bool>("multiColor");
+    QTest::addColumn<QString>("face");
+
+    const QString transparent = QStringLiteral("background: transparent;");
+    QTest::newRow("red") << OptionalColor(QColor(255, 0, 0)) << false << false
+                         << QStringLiteral("background: rgba(255, 0, 0, 1)");
+    QTest::newRow("fully transparent") << OptionalColor(QColor(1, 2, 3, 0)) << false << false
+                                       << QStringLiteral("background: rgba(1, 2, 3, 1)");
+    QTest::newRow("hsv") << OptionalColor(QColor::fromHsv(120, 255, 255)) << false << false
+                         << QStringLiteral("background: rgba(0, 255, 0, 1)");
+    QTest::newRow("none") << OptionalColor(QColor()) << true << false << transparent;
+    QTest::newRow("multiple") << OptionalColor() << false << true << transparent;
+}
+
+void tst_ColorPickerButton::states()
+{
+    QFETCH(OptionalColor, color);
+    ColorPickerButton button;
+    button.setColor(QColor(9, 9, 9));
+    button.setColor(color);
+    QVERIFY(button.color() == color);
+    QTEST(button.property("nullColor").toBool(), "nullColor");
+    QTEST(button.property("multiColor").toBool(), "multiColor");
+    QTEST(faceOf(button)->styleSheet(), "face");
+}
+
+void tst_ColorPickerButton::setColorOfNoColorIsReported()
+{
+    ColorPickerButton button;
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.setColor(QColor());
+    QCOMPARE(button.property("nullColor"), QVariant(true));
+    QCOMPARE(button.property("multiColor"), QVariant(false));
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(!changed.front().front().value<QColor>().isValid());
+}
+
+void tst_ColorPickerButton::sameColorIsReportedOnce()
+{
+    ColorPickerButton button;
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.setColor(QColor(10, 20, 30));
+    button.setColor(QColor(10, 20, 30));
+    QCOMPARE(changed.size(), 1);
+    button.setColor(std::nullopt);
+    button.setColor(std::nullopt);
+    button.setColor(QColor());
+    button.setColor(QColor());
+    QCOMPARE(changed.size(), 2);
+}
+
+void tst_ColorPickerButton::changeToMultipleIsShownButNotReported()
+{
+    ColorPickerButton button;
+    button.setColor(QColor(10, 20, 30));
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.setColor(std::nullopt);
+    QCOMPARE(changed.size(), 0);
+    QVERIFY(!button.color().has_value());
+    QCOMPARE(button.property("multiColor"), QVariant(true));
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
+}
+
+void tst_ColorPickerButton::colorModelCounts()
+{
+    ColorPickerButton button;
+    button.setColor(QColor(255, 0, 0));
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.setColor(QColor(255, 0, 0).toHsv());
+    QCOMPARE(changed.size(), 1);
+}
+
+void tst_ColorPickerButton::disabledFaceIsDimmed()
+{
+    ColorPickerButton button;
+    button.setColor(QColor(1, 2, 3));
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(1, 2, 3, 1)"));
+    button.setEnabled(false);
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(1, 2, 3, 0.4)"));
+    button.setColor(QColor(4, 5, 6));
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(4, 5, 6, 0.4)"));
+    button.setEnabled(true);
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(4, 5, 6, 1)"));
+
+    QWidget parent;
+    button.setParent(&parent);
+    parent.setEnabled(false);
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(4, 5, 6, 0.4)"));
+    button.setParent(nullptr);
+}
+
+void tst_ColorPickerButton::translucentColorIsShownOpaque()
+{
+    ColorPickerButton button;
+    button.setStyleSheet(QStringLiteral("#color { min-width: 20px; min-height: 20px; }"));
+    button.setColor(QColor(200, 100, 50, 128));
+    QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(200, 100, 50, 1)"));
+    button.resize(40, 40);
+    button.show();
+    const QPoint middle = faceOf(button)->geometry().center();
+    QCOMPARE(button.grab().toImage().pixelColor(middle), QColor(200, 100, 50));
+}
+
+void tst_ColorPickerButton::valueKeepsAlpha()
+{
+    ColorPickerButton button;
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    const QColor translucent(200, 100, 50, 128);
+    button.setColor(translucent);
+    QVERIFY(button.color() == OptionalColor(translucent));
+    QCOMPARE(changed.front().front().value<QColor>(), translucent);
+    button.setColor(QColor(200, 100, 50, 129));
+    QCOMPARE(changed.size(), 2);
+}
+
+// A slot that changes the value again must not change what the first emission carries to later slots.
+void tst_ColorPickerButton::setColorOfItsOwnValue()
+{
+    ColorPickerButton button;
+    QStringList seen;
+    connect(&button, &ColorPickerButton::colorChanged, this, [&](const QColor& color) {
+        if (color == QColor(Qt::red)) {
+            button.setColor(QColor(Qt::blue));
+        }
+    });
+    connect(&button, &ColorPickerButton::colorChanged, this,
+            [&](const QColor& color) { seen += text(color); });
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(seen, QStringList({opaque(Qt::blue), opaque(Qt::red)}));
+    QVERIFY(button.color() == OptionalColor(QColor(Qt::blue)));
+}
+
+void tst_ColorPickerButton::selectorsTakeEffectAtOnce()
+{
+    ColorPickerButton button;
+    button.setStyleSheet(
+        QStringLiteral("ColorPickerButton { qproperty-text: colour; }"
+                       "ColorPickerButton[nullColor=\"true\"] { qproperty-text: blank; }"
+                       "ColorPickerButton[multiColor=\"true\"] { qproperty-text: several; }"));
+    button.ensurePolished();
+    QCOMPARE(button.text(), QStringLiteral("several"));
+    button.setColor(QColor());
+    QCOMPARE(button.text(), QStringLiteral("blank"));
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(button.text(), QStringLiteral("colour"));
+}
+
+void tst_ColorPickerButton::clickWithoutPicker()
+{
+    ColorPickerButton button;
+    Protocol protocol;
+    protocol.watch(&button);
+    button.click();
+    button.startPicking();
+    button.stopPicking();
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::pickFromClickToColor()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    Protocol protocol;
+    protocol.watch(&button);
+    button.show();
+
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(protocol.lines, QStringList({QStringLiteral("started")}));
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
+    QVERIFY(button.isDown());
+    QVERIFY(button.isPickingInProgress());
+
+    picker->preview(QColor(Qt::green));
+    picker->finish(QColor(Qt::blue));
+    QCOMPARE(protocol.lines,
+             QStringList({QStringLiteral("started"), QStringLiteral("changed ") + opaque(Qt::green),
+                          QStringLiteral("stopped"), QStringLiteral("changed ") + opaque(Qt::blue)}));
+    QVERIFY(!button.isDown());
+    QVERIFY(!button.isPickingInProgress());
+    QVERIFY(button.color() == OptionalColor(QColor(Qt::blue)));
+}
+
+void tst_ColorPickerButton::spaceStartsAPick()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.show();
+    QTest::keyClick(&button, Qt::Key_Space);
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
+    QVERIFY(button.isDown());
+}
+
+void tst_ColorPickerButton::disabledButtonDoesNotPick()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.setEnabled(false);
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(picker->calls, QStringList());
+}
+
+void tst_ColorPickerButton::buttonIsPressedBeforePick()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    bool downAtStart = true;
+    bool downAtPick = false;
+    connect(&button, &ColorPickerButton::pickingStarted, this, [&] { downAtStart = button.isDown(); });
+    picker->onPick = [&] { downAtPick = button.isDown(); };
+    button.startPicking();
+    QVERIFY(!downAtStart);
+    QVERIFY(downAtPick);
+}
+
+void tst_ColorPickerButton::previewIsAdoptedAtOnce()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.startPicking();
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    picker->preview(QColor(Qt::green));
+    QVERIFY(button.color() == OptionalColor(QColor(Qt::green)));
+    picker->preview(QColor(Qt::green));
+    picker->preview(std::nullopt);
+    QVERIFY(!button.color().has_value());
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(button.isDown());
+}
+
+void tst_ColorPickerButton::silentEndKeepsThePress()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    Protocol protocol;
+    protocol.watch(&button);
+    button.startPicking();
+    picker->finishInSilence();
+    QVERIFY(button.isDown());
+    QVERIFY(!button.isPickingInProgress());
+    QCOMPARE(protocol.lines, QStringList({QStringLiteral("started")}));
+}
+
+void tst_ColorPickerButton::restartAfterSilentEnd()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.startPicking();
+    picker->finishInSilence();
+    button.startPicking();
+    picker->finish(QColor(Qt::red));
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::stopPickingAsksThePicker()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    Protocol protocol;
+    protocol.watch(&button);
+    button.startPicking();
+    picker->preview(QColor(Qt::red));
+    button.stopPicking();
+    QCOMPARE(picker->calls.count(QStringLiteral("stop")), 1);
+    QVERIFY(!button.isDown());
+    QCOMPARE(protocol.lines,
+             QStringList({QStringLiteral("started"), QStringLiteral("changed ") + opaque(Qt::red),
+                          QStringLiteral("stopped")}));
+}
+
+void tst_ColorPickerButton::hidingStopsThePick()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.show();
+    button.startPicking();
+    picker->preview(QColor(Qt::red));
+    Protocol protocol;
+    protocol.watch(&button);
+    // The picker's word at the end is what counts, whatever it reported before.
+    button.setColor(QColor(Qt::yellow));
+    button.hide();
+    QCOMPARE(picker->calls.last(), QStringLiteral("setColor"));
+    QCOMPARE(picker->calls.count(QStringLiteral("stop")), 1);
+    QCOMPARE(protocol.lines,
+             QStringList({QStringLiteral("changed ") + opaque(Qt::yellow), QStringLiteral("stopped"),
+                          QStringLiteral("changed ") + opaque(Qt::red)}));
+    QVERIFY(!button.isDown());
+    QVERIFY(button.color() == OptionalColor(QColor(Qt::red)));
+}
+
+void tst_ColorPickerButton::hidingAnIdleButtonAsksThePickerToStop()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    Protocol protocol;
+    protocol.watch(&button);
+    button.show();
+    button.hide();
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("stop")}));
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_ColorPickerButton::stoppedTwiceIsRelayedTwice()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    QSignalSpy stopped(&button, &ColorPickerButton::pickingStopped);
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.startPicking();
+    picker->finish(QColor(Qt::red));
+    picker->finish(QColor(Qt::red));
+    QCOMPARE(stopped.size(), 2);
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::finalColorMayBeMultiple()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.setColor(QColor(Qt::red));
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.startPicking();
+    picker->finish(std::nullopt);
+    QVERIFY(!button.color().has_value());
+    QCOMPARE(changed.size(), 0);
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::pickerLearnsEachColor()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setColor(QColor(Qt::black));
+    button.setPicker(picker);
+    QCOMPARE(picker->received.size(), std::size_t(0));
+    button.setColor(QColor(Qt::red));
+    button.setColor(QColor());
+    QCOMPARE(picker->received.size(), std::size_t(2));
+    QVERIFY(picker->received.at(0) == OptionalColor(QColor(Qt::red)));
+    QVERIFY(picker->received.at(1) == OptionalColor(QColor()));
+}
+
+void tst_ColorPickerButton::pickerIsNotToldOfMultiple()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.setColor(QColor(Qt::red));
+    button.setColor(std::nullopt);
+    QCOMPARE(picker->received.size(), std::size_t(1));
+}
+
+void tst_ColorPickerButton::pickerMayAnswerSetColor()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    picker->onSetColor = [picker](const OptionalColor& color) { Q_EMIT picker->colorChanged(color); };
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(picker->received.size(), std::size_t(1));
+}
+
+void tst_ColorPickerButton::pickerAnswersFromInsidePick()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    picker->onPick = [picker] {
+        picker->preview(QColor(Qt::green));
+        picker->finish(QColor(Qt::red));
+    };
+    Protocol protocol;
+    protocol.watch(&button);
+    button.click();
+    QCOMPARE(protocol.lines,
+             QStringList({QStringLiteral("started"), QStringLiteral("changed ") + opaque(Qt::green),
+                          QStringLiteral("stopped"), QStringLiteral("changed ") + opaque(Qt::red)}));
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::pickerRunsANestedLoop()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    bool downInLoop = false;
+    picker->onPick = [&] {
+        QEventLoop loop;
+        QMetaObject::invokeMethod(
+            &loop,
+            [&] {
+                downInLoop = button.isDown();
+                loop.quit();
+            },
+            Qt::QueuedConnection);
+        loop.exec();
+        picker->finish(QColor(Qt::red));
+    };
+    button.click();
+    QVERIFY(downInLoop);
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::secondPickerReplacesTheFirst()
+{
+    ColorPickerButton button;
+    const QPointer<FakeColorPicker> first = new FakeColorPicker;
+    auto* second = new FakeColorPicker;
+    button.setPicker(first);
+    button.setPicker(second);
+    QVERIFY(!first);
+    QCOMPARE(second->parent(), &button);
+    button.startPicking();
+    QCOMPARE(second->calls, QStringList({QStringLiteral("pick")}));
+}
+
+void tst_ColorPickerButton::replacedPickerIsNoLongerHeard()
+{
+    ColorPickerButton button;
+    button.setPicker(new FakeColorPicker);
+    auto* second = new FakeColorPicker;
+    button.setPicker(second);
+    QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
+    QSignalSpy stopped(&button, &ColorPickerButton::pickingStopped);
+    second->preview(QColor(Qt::red));
+    second->finish(QColor(Qt::red));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(stopped.size(), 1);
+    QCOMPARE(second->received.size(), std::size_t(1));
+}
+
+void tst_ColorPickerButton::installingTheSamePickerKeepsIt()
+{
+    ColorPickerButton button;
+    const QPointer<FakeColorPicker> picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.setPicker(picker);
+    QVERIFY(picker);
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(picker->received.size(), std::size_t(1));
+}
+
+void tst_ColorPickerButton::pickerParentedElsewhereIsTakenOver()
+{
+    ColorPickerButton button;
+    QPointer<FakeColorPicker> picker;
+    {
+        QObject elsewhere;
+        picker = new FakeColorPicker(&elsewhere);
+        button.setPicker(picker);
+        QCOMPARE(picker->parent(), &button);
+    }
+    QVERIFY(picker);
+    button.startPicking();
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
+}
+
+void tst_ColorPickerButton::replacedWhilePickingReleases()
+{
+    ColorPickerButton button;
+    button.setPicker(new FakeColorPicker);
+    button.startPicking();
+    QSignalSpy stopped(&button, &ColorPickerButton::pickingStopped);
+    auto* second = new FakeColorPicker;
+    button.setPicker(second);
+    QVERIFY(!button.isDown());
+    QVERIFY(!button.isPickingInProgress());
+    QCOMPARE(stopped.size(), 0);
+}
+
+// Asking a picker for its colour while it is destroyed would call a pure virtual function.
+void tst_ColorPickerButton::pickerThatReportsFromItsDestructor()
+{
+    auto button = std::make_unique<ColorPickerButton>();
+    QSignalSpy stopped(button.get(), &ColorPickerButton::pickingStopped);
+    QSignalSpy changed(button.get(), &ColorPickerButton::colorChanged);
+    const auto install = [&] {
+        auto* picker = new FakeColorPicker;
+        picker->onDestruction = [picker] {
+            Q_EMIT picker->colorChanged(QColor(Qt::red));
+            Q_EMIT picker->pickingStopped();
+        };
+        button->setPicker(picker);
+        button->startPicking();
+    };
+    install();
+    install();
+    button.reset();
+    QCOMPARE(stopped.size(), 0);
+    QCOMPARE(changed.size(), 0);
+}
+
+void tst_ColorPickerButton::pickerDeletesItselfWhilePicking()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    picker->onPick = [picker] { delete picker; };
+    Protocol protocol;
+    protocol.watch(&button);
+    button.click();
+    QVERIFY(!button.isDown());
+    QCOMPARE(protocol.lines, QStringList({QStringLiteral("started")}));
+
+    button.click();
+    button.stopPicking();
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(protocol.lines.size(), 2);
+}
+
+void tst_ColorPickerButton::pickerDeletesItselfAtTheEnd()
+{
+    ColorPickerButton button;
+    const QPointer<FakeColorPicker> picker = new FakeColorPicker;
+    button.setPicker(picker);
+    connect(picker.data(), &AbstractColorPicker::pickingStopped, picker.data(), &QObject::deleteLater);
+    button.startPicking();
+    picker->finish(QColor(Qt::red));
+    QCoreApplication::sendPostedEvents(picker, QEvent::DeferredDelete);
+    QVERIFY(!picker);
+    QVERIFY(!button.isDown());
+    QVERIFY(button.color() == OptionalColor(QColor(Qt::red)));
+    button.startPicking();
+    QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::pickerReplacedInASlot_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QStringList>("secondIsAsked");
+    QTest::addColumn<bool>("pressed");
+    const int first = ColorPickerButton::staticMetaObject.methodOffset();
+    QTest::newRow("pickingStarted") << first << QStringList({QStringLiteral("pick")}) << true;
+    QTest::newRow("pickingStopped") << first + 1 << QStringList() << false;
+    QTest::newRow("colorChanged") << first + 2 << QStringList() << false;
+}
+
+void tst_ColorPickerButton::pickerReplacedInASlot()
+{
+    QFETCH(int, signal);
+    QFETCH(QStringList, secondIsAsked);
+    QFETCH(bool, pressed);
+
+    ColorPickerButton button;
+    QPointer<FakeColorPicker> first = new FakeColorPicker;
+    QPointer<FakeColorPicker> second;
+    button.setPicker(first);
+
+    const auto replace = [&] {
+        if (!second) {
+            second = new FakeColorPicker;
+            button.setPicker(second);
+        }
+    };
+    const int own = signal - ColorPickerButton::staticMetaObject.methodOffset();
+    if (own == 0) {
+        connect(&button, &ColorPickerButton::pickingStarted, this, replace);
+    } else if (own == 1) {
+        connect(&button, &ColorPickerButton::pickingStopped, this, replace);
+    } else {
+        connect(&button, &ColorPickerButton::colorChanged, this, replace);
+    }
+    button.startPicking();
+    if (first) {
+        Q_EMIT first->pickingStopped();
+    }
+    if (first) {
+        Q_EMIT first->colorChanged(QColor(Qt::green));
+    }
+    QVERIFY(!first);
+    QVERIFY(second);
+    QCOMPARE(second->calls, secondIsAsked);
+    QCOMPARE(button.isDown(), pressed);
+}
+
+void tst_ColorPickerButton::pickerReplacedInsidePick()
+{
+    ColorPickerButton button;
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    auto* second = new FakeColorPicker;
+    picker->onPick = [&button, second] { button.setPicker(second); };
+    button.click();
+    QVERIFY(!button.isDown());
+    QCOMPARE(second->calls, QStringList());
+}
+
+void tst_ColorPickerButton::buttonOwnsThePicker()
+{
+    QPointer<FakeColorPicker> picker = new FakeColorPicker;
+    {
+        ColorPickerButton button;
+        button.setPicker(picker);
+        QCOMPARE(picker->parent(), &button);
+    }
+    QVERIFY(!picker);
+}
+
+void tst_ColorPickerButton::buttonDeletedWhilePicking()
+{
+    auto* button = new ColorPickerButton;
+    auto* picker = new FakeColorPicker;
+    button->setPicker(picker);
+    QSignalSpy stopped(button, &ColorPickerButton::pickingStopped);
+    const QPointer<FakeColorPicker> guard = picker;
+    picker->onPick = [button] { delete button; };
+    button->startPicking();
+    QVERIFY(!guard);
+    QCOMPARE(stopped.size(), 0);
+}
+
+void tst_ColorPickerButton::buttonDeletedInASlot_data()
+{
+    QTest::addColumn<QString>("signal");
+    QTest::newRow("pickingStarted") << QStringLiteral("started");
+    QTest::newRow("pickingStopped") << QStringLiteral("stopped");
+    QTest::newRow("colorChanged by preview") << QStringLiteral("preview");
+    QTest::newRow("colorChanged at the end") << QStringLiteral("final");
+    QTest::newRow("colorChanged by setColor") << QStringLiteral("set");
+}
+
+void tst_ColorPickerButton::buttonDeletedInASlot()
+{
+    QFETCH(QString, signal);
+    QPointer<ColorPickerButton> button = new ColorPickerButton;
+    const QPointer<FakeColorPicker> picker = new FakeColorPicker;
+    button->setPicker(picker);
+    const auto destroy = [&button] { delete button; };
+    const auto destroyOnRed = [&button](const QColor& color) {
+        if (color == QColor(Qt::red)) {
+            delete button;
+        }
+    };
+    if (signal == QLatin1String("started")) {
+        connect(button.data(), &ColorPickerButton::pickingStarted, this, destroy);
+    } else if (signal == QLatin1String("stopped")) {
+        connect(button.data(), &ColorPickerButton::pickingStopped, this, destroy);
+    } else {
+        connect(button.data(), &ColorPickerButton::colorChanged, this, destroyOnRed);
+    }
+
+    if (signal == QLatin1String("set")) {
+        button->setColor(QColor(Qt::red));
+    } else {
+        button->startPicking();
+    }
+    if (signal == QLatin1String("preview")) {
+        Q_EMIT picker->colorChanged(QColor(Qt::red));
+    } else if (signal == QLatin1String("final")) {
+        picker->preview(QColor(Qt::green));
+        picker->finish(QColor(Qt::red));
+    } else if (signal == QLatin1String("stopped")) {
+        picker->finish(QColor(Qt::green));
+    }
+    QVERIFY(!button);
+    QVERIFY(!picker);
+}
+
+// Through the mouse, Qt's own handlers run after the slot.
+void tst_ColorPickerButton::buttonDeletedByAClick()
+{
+    QPointer<ColorPickerButton> button = new ColorPickerButton;
+    button->setPicker(new FakeColorPicker);
+    connect(button.data(), &ColorPickerButton::pickingStarted, this, [&button] { delete button; });
+    button->show();
+    QTest::mouseClick(button.data(), Qt::LeftButton);
+    QVERIFY(!button);
+}
+
+UIC_TEST_MAIN(tst_ColorPickerButton)
+#include "tst_ColorPickerButton.moc"
