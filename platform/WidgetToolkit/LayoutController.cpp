@@ -25,10 +25,14 @@ int verticalSpacingOf(const QLayout* layout)
 bool isColumn(const QLayout* layout)
 {
     const auto* box = qobject_cast<const QBoxLayout*>(layout);
-    return box && (box->direction() == QBoxLayout::TopToBottom || box->direction() == QBoxLayout::BottomToTop);
+    return box &&
+           (box->direction() == QBoxLayout::TopToBottom || box->direction() == QBoxLayout::BottomToTop);
 }
 
-QMargins marginsOf(const QLayout* layout) { return layout ? layout->contentsMargins() : QMargins(); }
+QMargins marginsOf(const QLayout* layout)
+{
+    return layout ? layout->contentsMargins() : QMargins();
+}
 
 } // namespace
 
@@ -49,25 +53,40 @@ int LayoutController::layoutMarginLeft() const
     return m_marginLeft.value_or(marginsOf(getLayout()).left());
 }
 
-void LayoutController::setLayoutMarginLeft(int pixels) { set(m_marginLeft, pixels); }
+void LayoutController::setLayoutMarginLeft(int pixels)
+{
+    set(m_marginLeft, pixels);
+}
 
-int LayoutController::layoutMarginTop() const { return m_marginTop.value_or(marginsOf(getLayout()).top()); }
+int LayoutController::layoutMarginTop() const
+{
+    return m_marginTop.value_or(marginsOf(getLayout()).top());
+}
 
-void LayoutController::setLayoutMarginTop(int pixels) { set(m_marginTop, pixels); }
+void LayoutController::setLayoutMarginTop(int pixels)
+{
+    set(m_marginTop, pixels);
+}
 
 int LayoutController::layoutMarginRight() const
 {
     return m_marginRight.value_or(marginsOf(getLayout()).right());
 }
 
-void LayoutController::setLayoutMarginRight(int pixels) { set(m_marginRight, pixels); }
+void LayoutController::setLayoutMarginRight(int pixels)
+{
+    set(m_marginRight, pixels);
+}
 
 int LayoutController::layoutMarginBottom() const
 {
     return m_marginBottom.value_or(marginsOf(getLayout()).bottom());
 }
 
-void LayoutController::setLayoutMarginBottom(int pixels) { set(m_marginBottom, pixels); }
+void LayoutController::setLayoutMarginBottom(int pixels)
+{
+    set(m_marginBottom, pixels);
+}
 
 void LayoutController::setLayoutSpacing(int pixels)
 {
@@ -80,14 +99,20 @@ int LayoutController::layoutHorizontalSpacing() const
     return m_horizontalSpacing.value_or(horizontalSpacingOf(getLayout()));
 }
 
-void LayoutController::setLayoutHorizontalSpacing(int pixels) { set(m_horizontalSpacing, pixels); }
+void LayoutController::setLayoutHorizontalSpacing(int pixels)
+{
+    set(m_horizontalSpacing, pixels);
+}
 
 int LayoutController::layoutVerticalSpacing() const
 {
     return m_verticalSpacing.value_or(verticalSpacingOf(getLayout()));
 }
 
-void LayoutController::setLayoutVerticalSpacing(int pixels) { set(m_verticalSpacing, pixels); }
+void LayoutController::setLayoutVerticalSpacing(int pixels)
+{
+    set(m_verticalSpacing, pixels);
+}
 
 void LayoutController::applyLayoutMetrics()
 {

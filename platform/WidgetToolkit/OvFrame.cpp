@@ -9,7 +9,10 @@ OvFrame::OvFrame(QWidget* parent, Qt::WindowFlags flags)
 
 OvFrame::~OvFrame() = default;
 
-QLayout* OvFrame::getLayout() const { return layout(); }
+QLayout* OvFrame::getLayout() const
+{
+    return layout();
+}
 
 bool OvFrame::event(QEvent* event)
 {

@@ -16,7 +16,10 @@ PropertyProviderBase::PropertyProviderBase(QWidget* owner)
 
 PropertyProviderBase::~PropertyProviderBase() = default;
 
-void PropertyProviderBase::setVisible(bool visible) { Q_UNUSED(visible) }
+void PropertyProviderBase::setVisible(bool visible)
+{
+    Q_UNUSED(visible)
+}
 
 bool PropertyProviderBase::eventFilter(QObject* watched, QEvent* event)
 {

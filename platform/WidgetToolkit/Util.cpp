@@ -9,7 +9,10 @@
 
 #include <cstring>
 
-void Util::applyStyleHint(QWidget* widget, const QString& hint) { applyProperty(widget, "styleHint", hint); }
+void Util::applyStyleHint(QWidget* widget, const QString& hint)
+{
+    applyProperty(widget, "styleHint", hint);
+}
 
 void Util::applyProperty(QWidget* widget, const char* name, const QVariant& value)
 {

@@ -4,6 +4,19 @@
 
 #include <cstdio>
 
+namespace {
+
+QtMessageHandler testHandler = nullptr;
+
+void dropPlatformLimits(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support "))) {
+        testHandler(type, context, message);
+    }
+}
+
+} // namespace
+
 TestEnvironment::TestEnvironment()
 {
     // Not QStandardPaths' test mode: that is one folder for all, and several tests run at once.
@@ -18,6 +31,17 @@ void TestEnvironment::prepareApplication()
     QApplication::setOrganizationName(QStringLiteral("UiComponents tests"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+}
+
+int TestEnvironment::run(QObject* test, int argc, char** argv)
+{
+    // What QTest::qExec() does, in the steps of which the first installs the handler that the tests have.
+    QTest::qInit(test, argc, argv);
+    testHandler = qInstallMessageHandler(dropPlatformLimits);
+    const int result = QTest::qRun();
+    qInstallMessageHandler(testHandler);
+    QTest::qCleanup();
+    return result;
 }
 
 int TestEnvironment::reportLeftovers(int result)

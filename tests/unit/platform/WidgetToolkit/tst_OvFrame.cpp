@@ -14,7 +14,8 @@ private Q_SLOTS:
 void tst_OvFrame::sheetSetsMetrics()
 {
     OvFrame frame;
-    frame.setStyleSheet(QStringLiteral("OvFrame { qproperty-layoutSpacing: 7; qproperty-layoutMarginTop: 3; }"));
+    frame.setStyleSheet(
+        QStringLiteral("OvFrame { qproperty-layoutSpacing: 7; qproperty-layoutMarginTop: 3; }"));
     auto* layout = new OvVBoxLayout(&frame);
     frame.ensurePolished();
     QCOMPARE(layout->spacing(), 7);

@@ -1,0 +1,64 @@
+#include "TesselLineEdit.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMimeData>
+
+namespace Orvane::Tessel {
+
+TesselLineEdit::TesselLineEdit(QWidget* parent)
+    : QLineEdit(parent)
+{
+}
+
+TesselLineEdit::~TesselLineEdit() = default;
+
+void TesselLineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    const QString menuName = QStringLiteral("tesselContextMenu");
+    // Asked for by code while a menu is open, a second one would leave the first behind it.
+    const auto openMenus = findChildren<QMenu*>(menuName, Qt::FindDirectChildrenOnly);
+    for (QMenu* open : openMenus) {
+        open->close();
+    }
+    auto* const menu = new QMenu(this);
+    menu->setObjectName(menuName);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+
+    const auto add = [this, menu](const QString& text, QKeySequence::StandardKey key, auto slot,
+                                  bool enabled) {
+        QAction* const action = menu->addAction(text);
+        action->setShortcut(key);
+        // Only to be read: the edit handles the keys itself.
+        action->setShortcutContext(Qt::WidgetShortcut);
+        action->setShortcutVisibleInContextMenu(true);
+        action->setEnabled(enabled);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    const bool writable = !isReadOnly();
+    const bool selected = hasSelectedText();
+    const bool readable = echoMode() == QLineEdit::Normal;
+    const QMimeData* const clipboard = QGuiApplication::clipboard()->mimeData();
+
+    add(tr("&Undo"), QKeySequence::Undo, &QLineEdit::undo, writable && isUndoAvailable());
+    add(tr("&Redo"), QKeySequence::Redo, &QLineEdit::redo, writable && isRedoAvailable());
+    menu->addSeparator();
+    add(tr("Cu&t"), QKeySequence::Cut, &QLineEdit::cut, writable && selected && readable);
+    add(tr("&Copy"), QKeySequence::Copy, &QLineEdit::copy, selected && readable);
+    add(tr("&Paste"), QKeySequence::Paste, &QLineEdit::paste,
+        writable && clipboard && clipboard->hasText() && !clipboard->text().isEmpty());
+    add(tr("&Delete"), QKeySequence::Delete, &QLineEdit::del, writable && selected);
+    menu->addSeparator();
+    add(tr("Select &All"), QKeySequence::SelectAll, &QLineEdit::selectAll,
+        !text().isEmpty() && selectedText() != text());
+
+    const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    menu->popup(byKeyboard ? mapToGlobal(cursorRect().intersected(rect()).bottomLeft()) : event->globalPos());
+    event->accept();
+}
+
+} // namespace Orvane::Tessel
