@@ -1,0 +1,125 @@
+#include "CommandLine.h"
+
+#include "LanguageController.h"
+#include "PageRegistry.h"
+#include "StyleController.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace {
+
+QString text(Qt::LayoutDirection direction)
+{
+    return direction == Qt::RightToLeft ? QStringLiteral("rtl") : QStringLiteral("ltr");
+}
+
+struct Options
+{
+    const QCommandLineOption page{QStringLiteral("page"), QStringLiteral("Start on the page ID."),
+                                  QStringLiteral("ID")};
+    const QCommandLineOption style{
+        QStringLiteral("style"),
+        QStringLiteral("dark, light, none, or a style sheet FILE that reloads when it is saved."),
+        QStringLiteral("STYLE"), QStringLiteral("dark")};
+    const QCommandLineOption language{QStringLiteral("language"), QStringLiteral("en, de or ja."),
+                                      QStringLiteral("CODE"), QStringLiteral("en")};
+    const QCommandLineOption direction{QStringLiteral("direction"), QStringLiteral("ltr or rtl."),
+                                       QStringLiteral("DIRECTION"), QStringLiteral("ltr")};
+    const QCommandLineOption tour{
+        QStringLiteral("tour"),
+        QStringLiteral("Render every page in every style to DIR/<id>-<style>.png and end. With --page, "
+                       "only that page. Needs no display."),
+        QStringLiteral("DIR")};
+    const QCommandLineOption list{QStringLiteral("list"),
+                                  QStringLiteral("Print id, title and covered classes of each page.")};
+    const QCommandLineOption stylingManual{
+        QStringLiteral("styling-manual"),
+        QStringLiteral("Print, in Markdown, what a style sheet can use of each component.")};
+    const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Print this text.")};
+
+    void addTo(QCommandLineParser& parser) const
+    {
+        parser.setApplicationDescription(QStringLiteral("Shows every component of UiComponents live."));
+        parser.addOptions({page, style, language, direction, tour, list, stylingManual, help});
+    }
+};
+
+/// Empty when all values are known.
+QString valueError(const CommandLine& line, const QString& direction)
+{
+    if (!line.page.isEmpty() && !PageRegistry::find(line.page)) {
+        return QStringLiteral("There is no page \"%1\". --list prints all.").arg(line.page);
+    }
+    if (!StyleController::builtInStyles().contains(line.style) && !QFileInfo(line.style).isFile()) {
+        return QStringLiteral("The style \"%1\" is neither dark, light, none nor a file.").arg(line.style);
+    }
+    if (!LanguageController::languages().contains(line.language)) {
+        return QStringLiteral("There is no language \"%1\", only %2.")
+            .arg(line.language, LanguageController::languages().join(QStringLiteral(", ")));
+    }
+    if (direction != text(line.direction)) {
+        return QStringLiteral("The direction \"%1\" is neither ltr nor rtl.").arg(direction);
+    }
+    return {};
+}
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList& arguments)
+{
+    const Options options;
+    QCommandLineParser parser;
+    options.addTo(parser);
+
+    CommandLine line;
+    if (!parser.parse(arguments)) {
+        line.error = parser.errorText();
+        return line;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        line.error = QStringLiteral("Unexpected argument \"%1\".").arg(parser.positionalArguments().first());
+        return line;
+    }
+    if (parser.isSet(options.help)) {
+        line.action = Action::Help;
+        return line;
+    }
+
+    line.page = parser.value(options.page);
+    line.style = parser.value(options.style);
+    line.language = parser.value(options.language);
+    const QString direction = parser.value(options.direction);
+    line.direction = direction == text(Qt::RightToLeft) ? Qt::RightToLeft : Qt::LeftToRight;
+    line.tourFolder = parser.value(options.tour);
+    if (parser.isSet(options.tour)) {
+        line.action = Action::Tour;
+    } else if (parser.isSet(options.list)) {
+        line.action = Action::List;
+    } else if (parser.isSet(options.stylingManual)) {
+        line.action = Action::StylingManual;
+    }
+    line.error = valueError(line, direction);
+    if (line.action == Action::Tour && line.tourFolder.isEmpty()) {
+        line.error = QStringLiteral("--tour needs a folder.");
+    }
+    return line;
+}
+
+QString CommandLine::helpText()
+{
+    QCommandLineParser parser;
+    Options().addTo(parser);
+    return parser.helpText();
+}
+
+QStringList CommandLine::arguments() const
+{
+    QStringList all = {QStringLiteral("--style"),     style,          QStringLiteral("--language"), language,
+                       QStringLiteral("--direction"), text(direction)};
+    if (!page.isEmpty()) {
+        all += {QStringLiteral("--page"), page};
+    }
+    return all;
+}

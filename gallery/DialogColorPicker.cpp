@@ -1,0 +1,130 @@
+#include "DialogColorPicker.h"
+
+#include <UiComponents/ColorPickerButton.h>
+
+#include <QColorDialog>
+#include <QScreen>
+
+namespace {
+
+// Between the field and the dialog, in pixels.
+constexpr int Gap = 6;
+
+} // namespace
+
+QPoint dialogPosition(const QRect& field, const QSize& size, const QRect& screen,
+                      Qt::LayoutDirection direction)
+{
+    const bool isRightToLeft = direction == Qt::RightToLeft;
+    const int x = isRightToLeft ? field.x() + field.width() - size.width() : field.x();
+    const int below = field.y() + field.height() + Gap;
+    const bool hasRoomBelow = below + size.height() <= screen.y() + screen.height();
+    const int y = hasRoomBelow ? below : field.y() - Gap - size.height();
+    const int lastX = qMax(screen.x(), screen.x() + screen.width() - size.width());
+    const int lastY = qMax(screen.y(), screen.y() + screen.height() - size.height());
+    return {qBound(screen.x(), x, lastX), qBound(screen.y(), y, lastY)};
+}
+
+DialogColorPicker::DialogColorPicker(QWidget* field)
+    : m_field(field)
+{
+}
+
+DialogColorPicker::~DialogColorPicker()
+{
+    closeDialog();
+}
+
+void DialogColorPicker::pick()
+{
+    if (m_isPicking || !m_field) {
+        return;
+    }
+    // The field tells its picker of definite colours only: a mixed one has to be asked for, or a
+    // cancelled pick would turn it into the colour before.
+    if (const auto* button = qobject_cast<ColorPickerButton*>(m_field.data())) {
+        m_color = button->color();
+    }
+    m_original = m_color;
+    m_isPicking = true;
+    m_dialog = makeDialog();
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
+}
+
+void DialogColorPicker::stop()
+{
+    finish(m_original);
+}
+
+void DialogColorPicker::setColor(const std::optional<QColor>& color)
+{
+    if (m_color == color) {
+        return;
+    }
+    m_color = color;
+    if (m_dialog && color && color->isValid()) {
+        m_dialog->setCurrentColor(*color);
+    }
+}
+
+QColorDialog* DialogColorPicker::makeDialog()
+{
+    auto* dialog = new QColorDialog(m_field->window());
+    dialog->setObjectName(QStringLiteral("colorPickerDialog"));
+    dialog->setOptions(QColorDialog::DontUseNativeDialog | QColorDialog::ShowAlphaChannel);
+    dialog->setWindowTitle(tr("Pick a colour"));
+    if (m_color && m_color->isValid()) {
+        dialog->setCurrentColor(*m_color);
+    }
+    connect(dialog, &QColorDialog::currentColorChanged, this, &DialogColorPicker::preview);
+    connect(dialog, &QDialog::accepted, this, [this] { finish(m_dialog->currentColor()); });
+    connect(dialog, &QDialog::rejected, this, [this] { finish(m_original); });
+    connect(dialog, &QObject::destroyed, this, [this] { finish(m_original); });
+
+    dialog->ensurePolished();
+    dialog->adjustSize();
+    const QRect field(m_field->mapToGlobal(QPoint()), m_field->size());
+    dialog->move(dialogPosition(field, dialog->size(), m_field->screen()->availableGeometry(),
+                                m_field->layoutDirection()));
+    return dialog;
+}
+
+void DialogColorPicker::preview(const QColor& color)
+{
+    if (m_color != color) {
+        m_color = color;
+        Q_EMIT colorChanged(color);
+    }
+}
+
+void DialogColorPicker::finish(const std::optional<QColor>& color)
+{
+    if (!m_isPicking || m_isFinishing) {
+        return;
+    }
+    m_isFinishing = true;
+    closeDialog();
+    const QPointer<DialogColorPicker> self(this);
+    if (m_color != color) {
+        m_color = color;
+        Q_EMIT colorChanged(color);
+    }
+    if (self) {
+        m_isFinishing = false;
+        m_isPicking = false;
+        Q_EMIT pickingStopped();
+    }
+}
+
+void DialogColorPicker::closeDialog()
+{
+    if (m_dialog) {
+        // Not deleted at once: this may run in one of the dialog's own signals.
+        m_dialog->disconnect(this);
+        m_dialog->hide();
+        m_dialog->deleteLater();
+        m_dialog = nullptr;
+    }
+}

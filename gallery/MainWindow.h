@@ -1,0 +1,64 @@
+#pragma once
+
+#include "CommandLine.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+class LanguageController;
+class Page;
+class PageList;
+class QFrame;
+class StyleController;
+class SwitchBar;
+
+/**
+ * The gallery's window: the list of pages, the page that is shown and the switches.
+ *
+ * Style, language and direction are those of the whole application: there is one gallery at a time.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Shows what @p start asks for; its action does not matter here.
+    explicit MainWindow(const CommandLine& start, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Page, style, language and direction of the moment, such that arguments() leads back here.
+    CommandLine state() const;
+
+    /// The page that is shown; built anew by a change of page, language or direction.
+    Page* page() const;
+
+    PageList* pageList() const { return m_list; }
+
+    /// An unknown id does nothing.
+    void showPage(const QString& id);
+
+    /// False, and nothing changes, for a file that cannot be read.
+    bool setStyleName(const QString& style);
+    void setLanguage(const QString& code);
+    void setDirection(Qt::LayoutDirection direction);
+
+Q_SIGNALS:
+    void pageShown(const QString& id);
+
+    /// The user wants the gallery at another scale factor, which Qt reads only when it starts.
+    void restartRequested(double scale);
+
+private:
+    void connectSwitches();
+    void addShortcuts();
+    void askForStyleFile();
+    void rebuildPage();
+
+    StyleController* const m_style;
+    LanguageController* const m_language;
+    SwitchBar* const m_switches;
+    PageList* const m_list;
+    QFrame* const m_pageHolder;
+    QPointer<Page> m_page;
+    QString m_pageId;
+};

@@ -1,0 +1,47 @@
+#include "MessageWatch.h"
+
+#include <utility>
+
+namespace {
+
+// The handler is a plain function, so the watch in use has to be found without it.
+MessageWatch* current = nullptr;
+
+/// Qt's off-screen platform says this of every window with a smallest size; it is nobody's fault.
+bool isPlatformRemark(const QString& message)
+{
+    return message == QLatin1String("This plugin does not support propagateSizeHints()");
+}
+
+} // namespace
+
+MessageWatch::MessageWatch()
+{
+    Q_ASSERT_X(!current, "MessageWatch", "one at a time");
+    current = this;
+    m_previous = qInstallMessageHandler(&MessageWatch::handle);
+}
+
+MessageWatch::~MessageWatch()
+{
+    qInstallMessageHandler(m_previous);
+    current = nullptr;
+}
+
+QStringList MessageWatch::takeWarnings()
+{
+    return std::exchange(m_warnings, {});
+}
+
+void MessageWatch::handle(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (isPlatformRemark(message)) {
+        return;
+    }
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        current->m_warnings.append(message);
+    }
+    if (current->m_previous) {
+        current->m_previous(type, context, message);
+    }
+}

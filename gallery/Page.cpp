@@ -1,0 +1,147 @@
+#include "Page.h"
+
+#include "PropertyPanel.h"
+#include "SignalLogView.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace {
+
+// The specimens take the height they want, up to this part of the whole.
+constexpr double LargestSpecimenShare = 0.6;
+
+} // namespace
+
+Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
+    : QFrame(parent)
+{
+    setObjectName(QStringLiteral("galleryPage"));
+    setAccessibleName(info.title);
+
+    auto* title = new QLabel(info.title, this);
+    title->setObjectName(QStringLiteral("pageTitle"));
+    auto* classes = new QLabel(info.covers.join(QStringLiteral("  ·  ")), this);
+    classes->setObjectName(QStringLiteral("pageClasses"));
+    classes->setWordWrap(true);
+    classes->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* text = new QLabel(introduction, this);
+    text->setObjectName(QStringLiteral("pageIntroduction"));
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+
+    m_demonstrationCard = makeCard("none", QString());
+    m_enabledCard = makeCard("enabled", tr("Enabled"));
+    m_disabledCard = makeCard("disabled", tr("Disabled"));
+    m_specimens = new QWidget;
+    m_specimens->setObjectName(QStringLiteral("specimens"));
+    auto* cards = new QVBoxLayout(m_specimens);
+    auto* twinCards = new QHBoxLayout;
+    twinCards->addWidget(m_enabledCard, 1);
+    twinCards->addWidget(m_disabledCard, 1);
+    cards->addWidget(m_demonstrationCard);
+    cards->addLayout(twinCards);
+    cards->addStretch();
+    cards->setContentsMargins(0, 0, 0, 0);
+    auto* specimenArea = new QScrollArea;
+    specimenArea->setObjectName(QStringLiteral("specimenArea"));
+    specimenArea->setWidgetResizable(true);
+    specimenArea->setFrameShape(QFrame::NoFrame);
+    specimenArea->setFocusPolicy(Qt::NoFocus);
+    specimenArea->setWidget(m_specimens);
+
+    m_properties = new PropertyPanel;
+    m_signalLog = new SignalLogView;
+    auto* inspector = new QSplitter(Qt::Horizontal);
+    inspector->setObjectName(QStringLiteral("inspector"));
+    inspector->setChildrenCollapsible(false);
+    inspector->addWidget(m_properties);
+    inspector->addWidget(m_signalLog);
+    inspector->setSizes({1, 1});
+    inspector->setStretchFactor(0, 1);
+    inspector->setStretchFactor(1, 1);
+
+    m_halves = new QSplitter(Qt::Vertical, this);
+    m_halves->setObjectName(QStringLiteral("pageHalves"));
+    m_halves->setChildrenCollapsible(false);
+    m_halves->addWidget(specimenArea);
+    m_halves->addWidget(inspector);
+    connect(m_halves, &QSplitter::splitterMoved, this, [this] { m_isSplitByUser = true; });
+    m_halves->installEventFilter(this);
+    m_specimens->installEventFilter(this);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(title);
+    layout->addWidget(classes);
+    layout->addWidget(text);
+    layout->addWidget(m_halves, 1);
+}
+
+Page::~Page() = default;
+
+void Page::prepareForPicture() {}
+
+void Page::addDemonstration(const QString& caption, QWidget* widget)
+{
+    addToCard(m_demonstrationCard, caption, widget);
+}
+
+void Page::describeStyling(QWidget* widget, const QString& sentence, const QStringList& hints)
+{
+    m_styleSubjects.append({widget, sentence, hints});
+}
+
+bool Page::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool hasNewHeight = event->type() == QEvent::LayoutRequest && watched == m_specimens;
+    if (hasNewHeight || (event->type() == QEvent::Resize && watched == m_halves)) {
+        fitSpecimens();
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void Page::fitSpecimens()
+{
+    if (m_isSplitByUser) {
+        return;
+    }
+    const int available = m_halves->height() - m_halves->handleWidth();
+    const int wanted = m_specimens->hasHeightForWidth() ? m_specimens->heightForWidth(m_specimens->width())
+                                                        : m_specimens->sizeHint().height();
+    const int upper = qMin(wanted, qRound(available * LargestSpecimenShare));
+    m_halves->setSizes({upper, available - upper});
+}
+
+QFrame* Page::makeCard(const char* twin, const QString& title)
+{
+    auto* card = new QFrame(this);
+    card->setObjectName(QStringLiteral("specimenCard"));
+    card->setProperty("twin", QString::fromUtf8(twin));
+    auto* layout = new QVBoxLayout(card);
+    if (!title.isEmpty()) {
+        auto* label = new QLabel(title, card);
+        label->setObjectName(QStringLiteral("cardTitle"));
+        layout->addWidget(label);
+    }
+    layout->addStretch();
+    card->hide();
+    return card;
+}
+
+void Page::addToCard(QFrame* card, const QString& caption, QWidget* widget)
+{
+    auto* layout = static_cast<QVBoxLayout*>(card->layout());
+    const int end = layout->count() - 1;
+    const bool fills = widget->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
+    layout->insertWidget(end, widget, 0, fills ? Qt::Alignment() : Qt::AlignLeft);
+    if (!caption.isEmpty()) {
+        auto* label = new QLabel(caption, card);
+        label->setObjectName(QStringLiteral("specimenCaption"));
+        layout->insertWidget(end, label);
+    }
+    card->show();
+}

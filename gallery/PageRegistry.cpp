@@ -1,0 +1,58 @@
+#include "PageRegistry.h"
+
+#include "pages/BoxLayoutPage.h"
+#include "pages/ColorInputPage.h"
+#include "pages/ColorPickerButtonPage.h"
+#include "pages/FramePage.h"
+#include "pages/PropertyProviderPage.h"
+#include "pages/StyleHintsPage.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+QVector<PageInfo> PageRegistry::pages()
+{
+    QVector<PageInfo> all = {
+        ColorPickerButtonPage::info(), ColorInputPage::info(), FramePage::info(),
+        BoxLayoutPage::info(),         StyleHintsPage::info(), PropertyProviderPage::info(),
+    };
+    std::stable_sort(all.begin(), all.end(),
+                     [](const PageInfo& one, const PageInfo& other) { return one.group < other.group; });
+    return all;
+}
+
+std::optional<PageInfo> PageRegistry::find(const QString& id)
+{
+    const QVector<PageInfo> all = pages();
+    const auto found =
+        std::find_if(all.cbegin(), all.cend(), [&id](const PageInfo& page) { return page.id == id; });
+    return found == all.cend() ? std::nullopt : std::optional<PageInfo>(*found);
+}
+
+QString PageRegistry::groupTitle(PageGroup group)
+{
+    switch (group) {
+    case PageGroup::Colour:
+        return QCoreApplication::translate("PageRegistry", "Colour");
+    case PageGroup::Inputs:
+        return QCoreApplication::translate("PageRegistry", "Inputs");
+    case PageGroup::Layout:
+        return QCoreApplication::translate("PageRegistry", "Layout and styling");
+    case PageGroup::Bubbles:
+        return QCoreApplication::translate("PageRegistry", "Bubbles and frames");
+    case PageGroup::Services:
+        return QCoreApplication::translate("PageRegistry", "Services");
+    }
+    return {};
+}
+
+bool PageRegistry::matches(const PageInfo& page, const QString& filter)
+{
+    const QStringList texts = QStringList{page.title, page.id} + page.covers + page.keywords;
+    const QStringList words = filter.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return std::all_of(words.cbegin(), words.cend(), [&texts](const QString& word) {
+        return std::any_of(texts.cbegin(), texts.cend(),
+                           [&word](const QString& text) { return text.contains(word, Qt::CaseInsensitive); });
+    });
+}

@@ -1,0 +1,173 @@
+#include "PropertyPanel.h"
+
+#include "DialogColorPicker.h"
+#include "PropertyEditor.h"
+
+#include <UiComponents/ColorInputWidget.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace {
+
+bool isQtClass(const QMetaObject* meta)
+{
+    const char* const name = meta->className();
+    return name[0] == 'Q' && name[1] >= 'A' && name[1] <= 'Z';
+}
+
+} // namespace
+
+QStringList ownPropertyNames(const QObject* object)
+{
+    const QMetaObject* const meta = object->metaObject();
+    const QMetaObject* qtClass = meta;
+    while (!isQtClass(qtClass)) {
+        qtClass = qtClass->superClass();
+    }
+    QStringList names;
+    for (int i = qtClass->propertyCount(); i < meta->propertyCount(); ++i) {
+        if (meta->property(i).isWritable()) {
+            names.append(QString::fromUtf8(meta->property(i).name()));
+        }
+    }
+    return names;
+}
+
+PropertyPanel::PropertyPanel(QWidget* parent)
+    : QFrame(parent)
+    , m_content(new QWidget)
+    , m_rows(new QFormLayout(m_content))
+{
+    setObjectName(QStringLiteral("propertyPanel"));
+
+    auto* title = new QLabel(tr("Properties"), this);
+    title->setObjectName(QStringLiteral("panelTitle"));
+    m_content->setObjectName(QStringLiteral("propertyRows"));
+    m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    auto* area = new QScrollArea(this);
+    area->setObjectName(QStringLiteral("propertyArea"));
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(m_content);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(title);
+    layout->addWidget(area, 1);
+}
+
+PropertyPanel::~PropertyPanel() = default;
+
+void PropertyPanel::addHeading(const QString& text)
+{
+    auto* label = new QLabel(text, m_content);
+    label->setObjectName(QStringLiteral("propertyHeading"));
+    m_rows->addRow(label);
+}
+
+void PropertyPanel::addProperties(const QObjectList& objects, const QStringList& names)
+{
+    if (objects.isEmpty()) {
+        return;
+    }
+    const QStringList wanted = names.isEmpty() ? ownPropertyNames(objects.first()) : names;
+    for (const QString& name : wanted) {
+        if (PropertyEditor* const editor = PropertyEditor::create(objects, name, m_content)) {
+            connect(editor, &PropertyEditor::edited, this, &PropertyPanel::refresh);
+            m_editors.append(editor);
+            addRow(name, editor);
+        }
+    }
+}
+
+void PropertyPanel::addSwitch(const QString& label, bool value, const std::function<void(bool)>& apply)
+{
+    auto* box = new QCheckBox(m_content);
+    box->setChecked(value);
+    connect(box, &QCheckBox::toggled, this, apply);
+    addRow(label, box);
+}
+
+void PropertyPanel::addNumber(const QString& label, int minimum, int maximum, int value,
+                              const std::function<void(int)>& apply)
+{
+    auto* box = new QSpinBox(m_content);
+    box->setRange(minimum, maximum);
+    box->setValue(value);
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, apply);
+    addRow(label, box);
+}
+
+void PropertyPanel::addFraction(const QString& label, double minimum, double maximum, double value,
+                                const std::function<void(double)>& apply)
+{
+    auto* box = new QDoubleSpinBox(m_content);
+    box->setRange(minimum, maximum);
+    box->setValue(value);
+    connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, apply);
+    addRow(label, box);
+}
+
+void PropertyPanel::addText(const QString& label, const QString& value,
+                            const std::function<void(const QString&)>& apply)
+{
+    auto* edit = new QLineEdit(value, m_content);
+    connect(edit, &QLineEdit::textChanged, this, apply);
+    addRow(label, edit);
+}
+
+void PropertyPanel::addChoice(const QString& label, const QStringList& choices, int current,
+                              const std::function<void(int)>& apply)
+{
+    auto* box = new QComboBox(m_content);
+    box->addItems(choices);
+    box->setCurrentIndex(current);
+    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, apply);
+    addRow(label, box);
+}
+
+void PropertyPanel::addColor(const QString& label, const QColor& value,
+                             const std::function<void(const QColor&)>& apply)
+{
+    auto* field = new ColorInputWidget(m_content, value);
+    field->setPicker(new DialogColorPicker(field->anchorWidget()));
+    connect(field, &ColorInputWidget::colorChanged, this, apply);
+    addRow(label, field);
+}
+
+void PropertyPanel::addAction(const QString& label, const std::function<void()>& run)
+{
+    auto* button = new QPushButton(label, m_content);
+    connect(button, &QPushButton::clicked, this, run);
+    m_rows->addRow(button);
+}
+
+void PropertyPanel::addRow(const QString& label, QWidget* control)
+{
+    if (control->accessibleName().isEmpty()) {
+        control->setAccessibleName(label);
+    }
+    m_rows->addRow(label, control);
+}
+
+bool PropertyPanel::isEmpty() const
+{
+    return m_rows->rowCount() == 0;
+}
+
+void PropertyPanel::refresh()
+{
+    for (PropertyEditor* editor : qAsConst(m_editors)) {
+        editor->refresh();
+    }
+}

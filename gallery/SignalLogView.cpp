@@ -1,0 +1,74 @@
+#include "SignalLogView.h"
+
+#include "SignalLogger.h"
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int MaximumLines = 500;
+
+} // namespace
+
+SignalLogView::SignalLogView(QWidget* parent)
+    : QFrame(parent)
+    , m_text(new QPlainTextEdit(this))
+    , m_logger(new SignalLogger([this](const QString& line) { addLine(line); }, this))
+{
+    setObjectName(QStringLiteral("signalLog"));
+
+    auto* title = new QLabel(tr("Signals"), this);
+    title->setObjectName(QStringLiteral("panelTitle"));
+    auto* clearButton = new QToolButton(this);
+    clearButton->setObjectName(QStringLiteral("clearSignals"));
+    clearButton->setText(tr("Clear"));
+    connect(clearButton, &QToolButton::clicked, this, &SignalLogView::clear);
+
+    m_text->setObjectName(QStringLiteral("signalLogText"));
+    m_text->setReadOnly(true);
+    m_text->setMaximumBlockCount(MaximumLines);
+    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_text->setLayoutDirection(Qt::LeftToRight);
+    m_text->setAccessibleName(tr("Signals"));
+    m_text->setPlaceholderText(tr("Use the component: its signals appear here."));
+
+    auto* header = new QHBoxLayout;
+    header->addWidget(title, 1);
+    header->addWidget(clearButton);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(header);
+    layout->addWidget(m_text, 1);
+}
+
+SignalLogView::~SignalLogView()
+{
+    // Children die after this class's part: what they emit then must not reach the text any more.
+    delete m_logger;
+}
+
+void SignalLogView::watch(const QObject* object, const QString& name)
+{
+    m_logger->watch(object, name);
+}
+
+void SignalLogView::addLine(const QString& line)
+{
+    m_text->appendPlainText(line);
+    Q_EMIT lineAdded(line);
+}
+
+void SignalLogView::clear()
+{
+    m_text->clear();
+}
+
+QStringList SignalLogView::lines() const
+{
+    return m_text->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}

@@ -1,0 +1,146 @@
+#include "StylingManual.h"
+
+#include "Page.h"
+#include "PageRegistry.h"
+#include "PropertyPanel.h"
+
+#include <QMetaProperty>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+QString code(const QString& text)
+{
+    return QStringLiteral("`%1`").arg(text);
+}
+
+QString className(const QObject* object)
+{
+    return QString::fromUtf8(object->metaObject()->className());
+}
+
+QString list(QStringList items)
+{
+    items.removeDuplicates();
+    std::transform(items.cbegin(), items.cend(), items.begin(), code);
+    return items.join(QStringLiteral(", "));
+}
+
+/// "a: int, b: QColor", of the properties that a sheet may set.
+QString properties(const QWidget* widget)
+{
+    QStringList texts;
+    const QStringList names = ownPropertyNames(widget);
+    for (const QString& name : names) {
+        const QMetaObject* const meta = widget->metaObject();
+        const QMetaProperty property = meta->property(meta->indexOfProperty(name.toUtf8().constData()));
+        if (property.isDesignable(widget)) {
+            texts.append(QStringLiteral("%1 (%2)").arg(code(name), QString::fromUtf8(property.typeName())));
+        }
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+QStringList dynamicProperties(const QWidget* widget)
+{
+    QStringList names;
+    const QList<QByteArray> all = widget->dynamicPropertyNames();
+    for (const QByteArray& name : all) {
+        // Qt keeps notes of its own on widgets this way, and the hint has a line to itself.
+        if (!name.startsWith("_q_") && name != "styleHint") {
+            names.append(QString::fromUtf8(name));
+        }
+    }
+    names.sort();
+    return names;
+}
+
+QStringList hints(const StyleSubject& subject)
+{
+    QStringList all = subject.hints;
+    const QString hint = subject.widget->property("styleHint").toString();
+    if (!hint.isEmpty()) {
+        all.append(hint);
+    }
+    return all;
+}
+
+/// Children that a sheet addresses: named by the component, not by Qt; and those of the library's classes.
+QList<const QWidget*> reachableChildren(const QWidget* widget)
+{
+    QList<const QWidget*> found;
+    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* child : children) {
+        const bool isNamed =
+            !child->objectName().isEmpty() && !child->objectName().startsWith(QLatin1String("qt_"));
+        if (isNamed || !className(child).startsWith(QLatin1Char('Q'))) {
+            found.append(child);
+        }
+        found.append(reachableChildren(child));
+    }
+    return found;
+}
+
+void appendLine(QString& text, const QString& label, const QString& value)
+{
+    if (!value.isEmpty()) {
+        text += QStringLiteral("- %1: %2\n").arg(label, value);
+    }
+}
+
+QString section(const StyleSubject& subject)
+{
+    const QWidget* const widget = subject.widget;
+    QString text = QStringLiteral("### %1\n\n%2\n\n").arg(className(widget), subject.sentence);
+    appendLine(text, QStringLiteral("Properties"), properties(widget));
+    appendLine(text, QStringLiteral("Dynamic properties"), list(dynamicProperties(widget)));
+    appendLine(text, QStringLiteral("Style hints"), list(hints(subject)));
+    const QList<const QWidget*> children = reachableChildren(widget);
+    for (const QWidget* child : children) {
+        QStringList facts;
+        if (!properties(child).isEmpty()) {
+            facts.append(QStringLiteral("properties %1").arg(properties(child)));
+        }
+        if (!dynamicProperties(child).isEmpty()) {
+            facts.append(QStringLiteral("dynamic properties %1").arg(list(dynamicProperties(child))));
+        }
+        const QString hint = child->property("styleHint").toString();
+        if (!hint.isEmpty()) {
+            facts.append(QStringLiteral("style hint %1").arg(code(hint)));
+        }
+        const QString name =
+            child->objectName().isEmpty() ? QString() : QStringLiteral("#") + child->objectName();
+        appendLine(text, QStringLiteral("Child %1").arg(code(className(child) + name)),
+                   facts.isEmpty() ? QStringLiteral("no properties of its own")
+                                   : facts.join(QStringLiteral("; ")));
+    }
+    return text + QLatin1Char('\n');
+}
+
+} // namespace
+
+QString stylingManual()
+{
+    QString text = QStringLiteral(
+        "# Styling\n\n"
+        "What a style sheet can use of each component. Generated from the running components by\n"
+        "`ui-components-gallery --styling-manual`; the tests compare it.\n\n"
+        "A property is set with `qproperty-<name>`, a dynamic property and a hint are selected with\n"
+        "`[name=\"value\"]` and `[styleHint=\"value\"]`, a child with `#name` or its class.\n\n");
+    const QVector<PageInfo> pages = PageRegistry::pages();
+    std::optional<PageGroup> group;
+    for (const PageInfo& info : pages) {
+        const std::unique_ptr<Page> page(info.create(nullptr));
+        const QVector<StyleSubject> subjects = page->styleSubjects();
+        for (const StyleSubject& subject : subjects) {
+            if (group != info.group) {
+                group = info.group;
+                text += QStringLiteral("## %1\n\n").arg(PageRegistry::groupTitle(info.group));
+            }
+            text += section(subject);
+        }
+    }
+    return text.trimmed() + QLatin1Char('\n');
+}

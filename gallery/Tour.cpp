@@ -1,0 +1,86 @@
+#include "Tour.h"
+
+#include "MainWindow.h"
+#include "MessageWatch.h"
+#include "Page.h"
+#include "PageRegistry.h"
+#include "StyleController.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+
+namespace {
+
+constexpr QSize PictureSize(1100, 760);
+
+} // namespace
+
+Tour::Tour(const CommandLine& request)
+    : m_request(request)
+{
+}
+
+bool Tour::run()
+{
+    if (!QDir().mkpath(m_request.tourFolder)) {
+        m_failures.append(QStringLiteral("%1: the folder cannot be made").arg(m_request.tourFolder));
+        return false;
+    }
+    // A cursor that blinks would make pictures differ.
+    QApplication::setCursorFlashTime(0);
+    const QVector<PageInfo> pages = PageRegistry::pages();
+    const QStringList styles = StyleController::builtInStyles();
+    for (const QString& style : styles) {
+        for (const PageInfo& page : pages) {
+            if (m_request.page.isEmpty() || m_request.page == page.id) {
+                render(page.id, style);
+            }
+        }
+    }
+    return m_failures.isEmpty();
+}
+
+QImage Tour::picture(MainWindow* window)
+{
+    QPixmap picture = window->grab();
+    QPainter painter(&picture);
+    const auto others = QApplication::topLevelWidgets();
+    for (QWidget* other : others) {
+        if (other != window && other->isVisible() && window->isAncestorOf(other->parentWidget())) {
+            painter.drawPixmap(window->mapFromGlobal(other->pos()), other->grab());
+        }
+    }
+    painter.end();
+    return picture.toImage();
+}
+
+void Tour::render(const QString& page, const QString& style)
+{
+    const QString name = QStringLiteral("%1-%2.png").arg(page, style);
+    MessageWatch messages;
+    CommandLine start = m_request;
+    start.page = page;
+    start.style = style;
+    {
+        MainWindow window(start);
+        window.setAttribute(Qt::WA_DontShowOnScreen);
+        window.resize(PictureSize);
+        window.show();
+        QCoreApplication::processEvents();
+        if (!window.page()) {
+            m_failures.append(QStringLiteral("%1: the page cannot be built").arg(name));
+            return;
+        }
+        window.page()->prepareForPicture();
+        QCoreApplication::processEvents();
+        if (!picture(&window).save(QDir(m_request.tourFolder).filePath(name))) {
+            m_failures.append(QStringLiteral("%1: the picture cannot be written").arg(name));
+        }
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QStringList warnings = messages.takeWarnings();
+    for (const QString& warning : warnings) {
+        m_failures.append(QStringLiteral("%1: %2").arg(name, warning));
+    }
+}

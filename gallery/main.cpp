@@ -1,0 +1,103 @@
+#include "CommandLine.h"
+#include "GalleryApplication.h"
+#include "MainWindow.h"
+#include "PageRegistry.h"
+#include "StylingManual.h"
+#include "Tour.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+namespace {
+
+constexpr int BadArguments = 2;
+
+bool isDisplayMissing()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+           qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#else
+    return false;
+#endif
+}
+
+int showWindow(const CommandLine& line)
+{
+    MainWindow window(line);
+    QObject::connect(&window, &MainWindow::restartRequested, &window, [&window](double scale) {
+        if (GalleryApplication::startAtScale(scale, window.state().arguments())) {
+            window.close();
+        }
+    });
+    window.show();
+    return QApplication::exec();
+}
+
+int makeTour(const CommandLine& line)
+{
+    Tour tour(line);
+    const bool isComplete = tour.run();
+    const QStringList failures = tour.failures();
+    for (const QString& failure : failures) {
+        QTextStream(stderr) << failure << '\n';
+    }
+    QTextStream(stdout) << line.tourFolder << '\n';
+    return isComplete ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+void printList()
+{
+    QTextStream out(stdout);
+    const QVector<PageInfo> pages = PageRegistry::pages();
+    for (const PageInfo& page : pages) {
+        out << page.id << '\t' << page.title << '\t' << page.covers.join(QLatin1Char(',')) << '\n';
+    }
+}
+
+int run(const CommandLine& line, bool hasDisplay)
+{
+    switch (line.action) {
+    case CommandLine::Action::Help:
+        QTextStream(stdout) << CommandLine::helpText();
+        return EXIT_SUCCESS;
+    case CommandLine::Action::List:
+        printList();
+        return EXIT_SUCCESS;
+    case CommandLine::Action::StylingManual:
+        QTextStream(stdout) << stylingManual();
+        return EXIT_SUCCESS;
+    case CommandLine::Action::Tour:
+        return makeTour(line);
+    case CommandLine::Action::Show:
+        break;
+    }
+    if (!hasDisplay) {
+        QTextStream(stderr) << "There is no display. --tour DIR renders the pages to pictures.\n";
+        return EXIT_FAILURE;
+    }
+    return showWindow(line);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const bool hasDisplay = !isDisplayMissing();
+    if (!hasDisplay) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("UiComponents"));
+    QApplication::setApplicationName(QStringLiteral("Gallery"));
+    GalleryApplication::prepare();
+
+    const CommandLine line = CommandLine::parse(QApplication::arguments());
+    if (!line.error.isEmpty()) {
+        QTextStream(stderr) << line.error << '\n';
+        return BadArguments;
+    }
+    return run(line, hasDisplay);
+}
