@@ -14,6 +14,9 @@ namespace {
 constexpr double enabledOpacity = 1.0;
 constexpr double disabledOpacity = 0.4;
 
+// What shows the colour where no sheet says how large the face is, in pixels.
+constexpr int bareFaceSize = 16;
+
 QString faceStyleSheet(const QColor& color, bool enabled)
 {
     if (!color.isValid()) {
@@ -51,6 +54,7 @@ ColorPickerButton::Private::Private(ColorPickerButton* button)
 {
     face->setObjectName(QStringLiteral("color"));
     face->setAttribute(Qt::WA_TransparentForMouseEvents);
+    face->setMinimumSize(bareFaceSize, bareFaceSize);
 
     auto* layout = new OvHBoxLayout(owner);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -28,8 +28,9 @@ class AbstractColorPicker;
  *
  * **Style sheet.** The face is a child QWidget named "color"; its size, border and drawing in the two
  * states without a colour are the sheet's, its background is written by the button, opaque whatever the
- * colour's alpha, and at opacity 0.4 while the button is disabled. The button carries the dynamic
- * properties "nullColor" and "multiColor" (bool). Margins and spacing around the face are set on
+ * colour's alpha, and at opacity 0.4 while the button is disabled. Without a sheet the face is at least
+ * 16 by 16 pixels, so that the colour is seen; a rule's min-width and min-height win. The button carries the
+ * dynamic properties "nullColor" and "multiColor" (bool). Margins and spacing around the face are set on
  * `ColorPickerButton > InstalledLayoutController` (see LayoutController).
  *
  *     ColorPickerButton #color { min-width: 40px; min-height: 16px; border-radius: 3px; }

@@ -61,6 +61,7 @@ private Q_SLOTS:
     void construction();
 
     void newButtonShowsMultiple();
+    void faceIsSeenWithoutASheet();
     void states_data();
     void states();
     void setColorOfNoColorIsReported();
@@ -149,6 +150,20 @@ void tst_ColorPickerButton::newButtonShowsMultiple()
     QCOMPARE(button.property("nullColor"), QVariant(false));
     QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
     QVERIFY(!button.isDown());
+}
+
+void tst_ColorPickerButton::faceIsSeenWithoutASheet()
+{
+    ColorPickerButton button;
+    button.setColor(QColor(200, 100, 50));
+    button.resize(40, 40);
+    button.show();
+    QVERIFY(faceOf(button)->width() >= 16);
+    QVERIFY(faceOf(button)->height() >= 16);
+    QCOMPARE(button.grab().toImage().pixelColor(faceOf(button)->geometry().center()), QColor(200, 100, 50));
+
+    button.setStyleSheet(QStringLiteral("#color { min-width: 5px; max-width: 5px; }"));
+    QTRY_COMPARE(faceOf(button)->width(), 5);
 }
 
 void tst_ColorPickerButton::states_data()
