@@ -1,6 +1,8 @@
 # Compiler settings and the one function that declares a library of this repository.
 
-include(GNUInstallDirs)
+if(UICOMPONENTS_INSTALL)
+    include(GNUInstallDirs)
+endif()
 include(GenerateExportHeader)
 
 set(CMAKE_CXX_STANDARD 17)
@@ -12,8 +14,8 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 if(UICOMPONENTS_DEVELOPER_MODE)
     set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
-    set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+    set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
     find_program(UICOMPONENTS_CCACHE ccache)
     if(UICOMPONENTS_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
         set(CMAKE_CXX_COMPILER_LAUNCHER "${UICOMPONENTS_CCACHE}")
@@ -50,13 +52,14 @@ if(UNIX AND NOT APPLE AND NOT UICOMPONENTS_SANITIZE)
     set(UICOMPONENTS_LINK_STRICT -Wl,--no-undefined)
 endif()
 
-# uic_library(<Name> FOLDER <below> PREFIX <output prefix> NAMESPACE <exported namespace>
+# uic_library(<Name> PREFIX <prefix of target and file> NAMESPACE <exported namespace>
 #     PUBLIC <class...>       names of header (and source) pairs that are installed
 #     INTERNAL <class...>     the same, for the folder's own use only
 #     LINK_PUBLIC <target...> LINK_PRIVATE <target...>)
 #
 # Makes <NAMESPACE>::<Name>, a shared library that is included as <Name/Class.h>, and <Name>Testable,
 # a static build of the same objects that tests of internal code link. A target must never link both.
+# The target itself carries the prefix, so that a host that embeds this project keeps short names free.
 function(uic_library name)
     cmake_parse_arguments(arg "" "PREFIX;NAMESPACE" "PUBLIC;INTERNAL;LINK_PUBLIC;LINK_PRIVATE" ${ARGN})
 
@@ -71,44 +74,67 @@ function(uic_library name)
     list(TRANSFORM arg_PUBLIC APPEND ".h" OUTPUT_VARIABLE headers)
 
     string(TOUPPER "${name}" upper)
-    set(generated "${CMAKE_BINARY_DIR}/export/${name}")
+    set(generated "${PROJECT_BINARY_DIR}/export/${name}")
     set(export_header "${generated}/${name}/${name}Export.h")
     get_filename_component(include_root "${CMAKE_CURRENT_SOURCE_DIR}" DIRECTORY)
 
-    add_library(${name}Objects OBJECT ${sources})
-    add_library(${name} SHARED $<TARGET_OBJECTS:${name}Objects>)
-    add_library(${arg_NAMESPACE}::${name} ALIAS ${name})
-    generate_export_header(${name} BASE_NAME ${upper} EXPORT_FILE_NAME "${export_header}")
+    set(library ${arg_PREFIX}${name})
+    set(objects ${library}Objects)
+    if(TARGET ${arg_NAMESPACE}::${name})
+        message(FATAL_ERROR "There is a target ${arg_NAMESPACE}::${name} already. "
+            "A host that brings its own sets UICOMPONENTS_BUNDLED_PLATFORM to OFF.")
+    endif()
+    if(NOT UICOMPONENTS_BUNDLED_PLATFORM)
+        uic_require_platform(${arg_LINK_PUBLIC} ${arg_LINK_PRIVATE})
+    endif()
+
+    add_library(${objects} OBJECT ${sources})
+    add_library(${library} SHARED $<TARGET_OBJECTS:${objects}>)
+    add_library(${arg_NAMESPACE}::${name} ALIAS ${library})
+    generate_export_header(${library} BASE_NAME ${upper} EXPORT_FILE_NAME "${export_header}")
     # The objects are those of the shared library, so they see its export macro as the library does.
-    target_compile_definitions(${name}Objects PRIVATE ${name}_EXPORTS)
-    set(flavours ${name})
+    target_compile_definitions(${objects} PRIVATE ${library}_EXPORTS)
+    set(flavours ${library})
     if(UICOMPONENTS_DEVELOPER_MODE)
-        add_library(${name}Testable STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${name}Objects>)
+        add_library(${name}Testable STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${objects}>)
         list(APPEND flavours ${name}Testable)
     endif()
-    foreach(target IN LISTS flavours ITEMS ${name}Objects)
+    foreach(target IN LISTS flavours ITEMS ${objects})
         target_include_directories(${target} PUBLIC
-            "$<BUILD_INTERFACE:${include_root}>" "$<BUILD_INTERFACE:${generated}>"
-            "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/uicomponents>")
+            "$<BUILD_INTERFACE:${include_root}>" "$<BUILD_INTERFACE:${generated}>")
         target_link_libraries(${target}
             PUBLIC ${arg_LINK_PUBLIC} PRIVATE ${arg_LINK_PRIVATE} $<BUILD_INTERFACE:UiComponentsBuildOptions>)
         target_compile_features(${target} PUBLIC cxx_std_17)
     endforeach()
     set_target_properties(${flavours} PROPERTIES AUTOMOC OFF LINKER_LANGUAGE CXX)
-    target_link_options(${name} PRIVATE ${UICOMPONENTS_LINK_STRICT})
-    set_target_properties(${name} PROPERTIES
-        OUTPUT_NAME "${arg_PREFIX}${name}" EXPORT_NAME ${name}
-        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_STRICT})
+    # While the major version is 0, a new minor version may break its users.
+    set(soversion ${PROJECT_VERSION_MAJOR})
+    if(soversion EQUAL 0)
+        set(soversion 0.${PROJECT_VERSION_MINOR})
+    endif()
+    set_target_properties(${library} PROPERTIES
+        OUTPUT_NAME "${library}" EXPORT_NAME ${name}
+        VERSION ${PROJECT_VERSION} SOVERSION ${soversion}
         INSTALL_RPATH "$ORIGIN"
-        UIC_PUBLIC_HEADERS "${headers}" UIC_LINK_PUBLIC "${arg_LINK_PUBLIC}"
-        UIC_LINK_PRIVATE "${arg_LINK_PRIVATE}" UIC_NAMESPACE "${arg_NAMESPACE}")
+        UIC_NAME ${name} UIC_NAMESPACE "${arg_NAMESPACE}"
+        UIC_PUBLIC "${arg_PUBLIC}" UIC_INTERNAL "${arg_INTERNAL}"
+        UIC_LINK_PUBLIC "${arg_LINK_PUBLIC}" UIC_LINK_PRIVATE "${arg_LINK_PRIVATE}")
+    if(NOT UICOMPONENTS_BUNDLED_PLATFORM)
+        # The platform of somebody else may be installed anywhere.
+        set_target_properties(${library} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+    endif()
+    set_property(GLOBAL APPEND PROPERTY UIC_LIBRARIES ${library})
 
-    set_property(GLOBAL APPEND PROPERTY UIC_LIBRARIES ${name})
-    install(TARGETS ${name} EXPORT ${arg_NAMESPACE}Targets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES ${headers} "${export_header}"
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/uicomponents/${name})
+    if(UICOMPONENTS_INSTALL)
+        target_include_directories(${library} PUBLIC
+            "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/uicomponents>")
+        install(TARGETS ${library} EXPORT ${arg_NAMESPACE}Targets
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        install(FILES ${headers} "${export_header}"
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/uicomponents/${name})
+    endif()
 endfunction()
 
 # uic_platform_library(<Name> ...): one of the replaceable libraries, as uic_library().

@@ -1,1 +1,98 @@
-# Install rules of the packages "Platform" and "UiComponents", their config files and pkg-config files.
+# The packages "Platform" and "UiComponents": exported targets, their config files and pkg-config files.
+# Included after every library has been declared.
+
+if(NOT UICOMPONENTS_INSTALL)
+    return()
+endif()
+include(CMakePackageConfigHelpers)
+
+set(UIC_PACKAGE_ROOT "${CMAKE_INSTALL_LIBDIR}/cmake")
+set(UIC_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+# uic_linked(<out> <prefix> <library...>): the names behind "<prefix>::" that the libraries link,
+# publicly or privately. A consumer's linker follows both.
+function(uic_linked out prefix)
+    set(found)
+    foreach(library IN LISTS ARGN)
+        get_target_property(public ${library} UIC_LINK_PUBLIC)
+        get_target_property(private ${library} UIC_LINK_PRIVATE)
+        foreach(link IN LISTS public private)
+            if(link MATCHES "^${prefix}::(.+)$")
+                list(APPEND found ${CMAKE_MATCH_1})
+            endif()
+        endforeach()
+    endforeach()
+    list(REMOVE_DUPLICATES found)
+    list(SORT found)
+    set(${out} "${found}" PARENT_SCOPE)
+endfunction()
+
+# uic_package(<Name> DESCRIPTION <text> LIBRARIES <target...> [REQUIRES <pkg-config module...>])
+function(uic_package name)
+    cmake_parse_arguments(arg "" "DESCRIPTION" "LIBRARIES;REQUIRES" ${ARGN})
+    set(destination "${UIC_PACKAGE_ROOT}/${name}")
+    uic_linked(UIC_QT_COMPONENTS Qt5 ${arg_LIBRARIES})
+    uic_linked(UIC_PLATFORM_TARGETS Platform ${arg_LIBRARIES})
+    list(TRANSFORM UIC_PLATFORM_TARGETS PREPEND "Platform::")
+    list(JOIN UIC_QT_COMPONENTS " " UIC_QT_COMPONENTS)
+    list(JOIN UIC_PLATFORM_TARGETS " " UIC_PLATFORM_TARGETS)
+
+    configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${name}Config.cmake.in"
+        "${PROJECT_BINARY_DIR}/package/${name}Config.cmake"
+        INSTALL_DESTINATION "${destination}" NO_SET_AND_CHECK_MACRO)
+    # While the major version is 0, a new minor version may break its users.
+    set(compatibility SameMajorVersion)
+    if(PROJECT_VERSION_MAJOR EQUAL 0)
+        set(compatibility SameMinorVersion)
+    endif()
+    write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/${name}ConfigVersion.cmake"
+        COMPATIBILITY ${compatibility})
+    install(FILES "${PROJECT_BINARY_DIR}/package/${name}Config.cmake"
+        "${PROJECT_BINARY_DIR}/package/${name}ConfigVersion.cmake" DESTINATION "${destination}")
+    install(EXPORT ${name}Targets NAMESPACE ${name}:: DESTINATION "${destination}")
+
+    # pkg-config finds the prefix from where the file lies, unless the folders are absolute.
+    set(UIC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+    set(UIC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}/uicomponents")
+    if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+        set(UIC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+        set(UIC_LIBDIR "${CMAKE_INSTALL_LIBDIR}")
+    else()
+        file(RELATIVE_PATH up "/prefix/${UIC_PKGCONFIG_DIR}" "/prefix")
+        string(REGEX REPLACE "/$" "" up "${up}")
+        set(UIC_PREFIX "\${pcfiledir}/${up}")
+    endif()
+    if(IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+        set(UIC_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/uicomponents")
+    endif()
+    set(UIC_NAME "${name}")
+    set(UIC_DESCRIPTION "${arg_DESCRIPTION}")
+    set(requires ${arg_REQUIRES})
+    set(libs)
+    foreach(library IN LISTS arg_LIBRARIES)
+        get_target_property(output ${library} OUTPUT_NAME)
+        list(APPEND libs "-l${output}")
+        get_target_property(public ${library} UIC_LINK_PUBLIC)
+        foreach(link IN LISTS public)
+            if(link MATCHES "^Qt5::(.+)$")
+                list(APPEND requires "Qt5${CMAKE_MATCH_1}")
+            endif()
+        endforeach()
+    endforeach()
+    list(REMOVE_DUPLICATES requires)
+    list(JOIN requires ", " UIC_REQUIRES)
+    list(JOIN libs " " UIC_LIBS)
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/package.pc.in" "${PROJECT_BINARY_DIR}/package/${name}.pc" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/package/${name}.pc" DESTINATION "${UIC_PKGCONFIG_DIR}")
+endfunction()
+
+get_property(libraries GLOBAL PROPERTY UIC_LIBRARIES)
+set(platform ${libraries})
+list(REMOVE_ITEM platform UiComponents)
+set(requires)
+if(UICOMPONENTS_BUNDLED_PLATFORM)
+    uic_package(Platform DESCRIPTION "The toolkit that UiComponents is built on" LIBRARIES ${platform})
+    set(requires "Platform = ${PROJECT_VERSION}")
+endif()
+# A host that brings its own platform libraries has its own way of naming them to pkg-config.
+uic_package(UiComponents DESCRIPTION "${PROJECT_DESCRIPTION}" LIBRARIES UiComponents REQUIRES ${requires})
