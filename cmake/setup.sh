@@ -1,0 +1,101 @@
+# Sourced by ./run and ./test: the packages that they need, and how a build directory is set up.
+# The caller has changed into the root of the checkout.
+
+# uic_packages <purpose...>: the Debian packages that each purpose needs, one a line.
+uic_packages()
+{
+    local purpose
+    for purpose in "$@"; do
+        case $purpose in
+            build)
+                echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev ;;
+            run | unit | gallery)
+                echo fonts-dejavu-core ;;
+            desktop)
+                echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils ;;
+            package)
+                echo fonts-dejavu-core pkg-config ;;
+            headers) ;;
+            conventions)
+                echo fonts-dejavu-core python3 clang-format ;;
+            *)
+                echo "uic_packages: unknown purpose $purpose" >&2
+                return 2 ;;
+        esac
+    done | tr ' ' '\n' | sort -u
+}
+
+# uic_missing <package...>: those that are not installed.
+uic_missing()
+{
+    comm -23 <(printf '%s\n' "$@" | sort -u) \
+        <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null |
+            sed -n 's/^installed //p' | sort -u)
+}
+
+# uic_install <package...>: installs what is missing; names what cannot be installed and fails.
+uic_install()
+{
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        echo "Not a Debian system; these have to be there already: $*" >&2
+        return 0
+    fi
+    local missing root=()
+    mapfile -t missing < <(uic_missing "$@")
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Missing packages, and neither root nor sudo to install them: ${missing[*]}" >&2
+            return 1
+        fi
+        root=(sudo)
+    fi
+    local apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive
+        apt-get -qq -o DPkg::Lock::Timeout=600 -o Dpkg::Use-Pty=0)
+    local install=("${apt[@]}" install -y --no-install-recommends)
+
+    echo "Installing ${missing[*]}" >&2
+    # Old lists may still do, so a failure here is not yet the end.
+    "${apt[@]}" update </dev/null >&2 || true
+    if ! "${install[@]}" "${missing[@]}" </dev/null >&2; then
+        # One by one, to tell which of them it is.
+        local package
+        for package in "${missing[@]}"; do
+            "${install[@]}" "$package" </dev/null >&2 || true
+        done
+    fi
+    mapfile -t missing < <(uic_missing "$@")
+    if [ ${#missing[@]} -gt 0 ]; then
+        echo "Cannot install: ${missing[*]}" >&2
+        return 1
+    fi
+}
+
+# uic_newer <file> [find expression]: true when a file or folder of the checkout is newer than <file>.
+uic_newer()
+{
+    [ -n "$(find . \( -path ./build -o -path ./.git \) -prune -o -newer "$@" -print -quit)" ]
+}
+
+# uic_configure <preset>: makes the build directory, or makes it anew where it belongs to another
+# checkout; does nothing when it is newer than every file that CMake reads.
+uic_configure()
+{
+    local build=build/$1 fresh=()
+    if [ -f "$build/CMakeCache.txt" ] &&
+        ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$build/CMakeCache.txt"; then
+        fresh=(--fresh)
+    elif [ -f "$build/build.ninja" ] && ! uic_newer "$build/build.ninja" \
+        \( -name CMakeLists.txt -o -name CMakePresets.json -o -name '*.cmake' -o -name '*.in' \); then
+        return 0
+    fi
+    # CMake writes the file only when it changes; without a new time it would count as old every time.
+    cmake --preset "$1" "${fresh[@]}" >&2 && touch "$build/build.ninja"
+}
+
+# uic_build <preset> [target]: builds it, all of it without a target.
+uic_build()
+{
+    cmake --build --preset "$1" ${2:+--target "$2"} >&2
+}
