@@ -1,0 +1,5 @@
+#include "SettingsStore.h"
+
+SettingsStore::SettingsStore() = default;
+
+SettingsStore::~SettingsStore() = default;
