@@ -1,0 +1,101 @@
+#include "QmlWindowFocusWorkaround.h"
+
+#include <QEvent>
+#include <QPointer>
+#include <QWidget>
+
+namespace {
+
+bool canTakeFocus(const QWidget* widget)
+{
+    return widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus;
+}
+
+bool contains(const QWidget* ancestor, const QWidget* widget)
+{
+    return widget && (widget == ancestor || ancestor->isAncestorOf(widget));
+}
+
+// A child of the dialog, which deletes it.
+class FocusKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    FocusKeeper(QWidget* dialog, QWidget* host)
+        : QObject(dialog)
+        , m_dialog(dialog)
+        , m_host(host)
+    {
+        dialog->installEventFilter(this);
+        host->installEventFilter(this);
+        connect(host, &QObject::destroyed, this, &QObject::deleteLater);
+    }
+
+    const QWidget* host() const { return m_host; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::Show:
+            // A spontaneous one comes from the window system: the window is no longer minimised.
+            if (!event->spontaneous()) {
+                takeFocus();
+            }
+            break;
+        case QEvent::WindowActivate:
+            // Qt sends it before it gives the focus to the widget that the window remembers.
+            if (watched == m_dialog && !isFocusElsewhere()) {
+                takeFocus();
+            }
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool isInDialog() const { return m_host && contains(m_dialog, m_host) && m_dialog->isVisible(); }
+
+    bool isFocusElsewhere() const
+    {
+        const QWidget* const focused = m_dialog->window()->focusWidget();
+        return focused && canTakeFocus(focused) && !contains(focused, m_host) && !contains(m_host, focused);
+    }
+
+    void takeFocus()
+    {
+        if (!isInDialog() || contains(m_host, m_host->window()->focusWidget())) {
+            return;
+        }
+        QWidget* candidate = m_host->nextInFocusChain();
+        while (candidate != m_host && !(m_host->isAncestorOf(candidate) && canTakeFocus(candidate))) {
+            candidate = candidate->nextInFocusChain();
+        }
+        if (canTakeFocus(candidate)) {
+            candidate->setFocus(Qt::OtherFocusReason);
+        }
+    }
+
+    QWidget* const m_dialog;
+    const QPointer<QWidget> m_host;
+};
+
+} // namespace
+
+void Orvane::Util::ApplyQmlWindowFocusWorkaround(QWidget* dialog, QWidget* qmlHost)
+{
+    if (!dialog || !qmlHost) {
+        return;
+    }
+    const auto keepers = dialog->findChildren<FocusKeeper*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const FocusKeeper* keeper : keepers) {
+        if (keeper->host() == qmlHost) {
+            return;
+        }
+    }
+    new FocusKeeper(dialog, qmlHost);
+}
+
+#include "QmlWindowFocusWorkaround.moc"
