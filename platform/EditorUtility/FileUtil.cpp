@@ -1,0 +1,92 @@
+#include "FileUtil.h"
+
+#include "PathWalk.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+class Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(FileUtil)
+
+public:
+    static QString of(PathWalk::Form form)
+    {
+        switch (form) {
+        case PathWalk::Form::Good:
+            break;
+        case PathWalk::Form::Empty:
+            return tr("No path is given");
+        case PathWalk::Form::Resource:
+            return tr("Not a path on a disk: %1");
+        case PathWalk::Form::NotStorable:
+            return tr("The path has characters that names on this disk cannot have: %1");
+        case PathWalk::Form::PathTooLong:
+            return tr("The path is too long: %1");
+        case PathWalk::Form::NameTooLong:
+            return tr("A name in the path is too long: %1");
+        }
+        return {};
+    }
+    static QString blocked() { return tr("A file is in the place of a folder: %1"); }
+};
+
+} // namespace
+
+bool FileUtil::isPathValid(const QString& path, QString* error)
+{
+    const PathWalk::Form form = PathWalk::form(path);
+    QString message;
+    if (form != PathWalk::Form::Good) {
+        message = Messages::of(form);
+    } else if (PathWalk::walk(path).isBlocked) {
+        message = Messages::blocked();
+    } else {
+        return true;
+    }
+    if (error) {
+        *error = message.replace(QLatin1String("%1"), path);
+    }
+    return false;
+}
+
+QString FileUtil::closestPath(const QString& path)
+{
+    const PathWalk::Form form = PathWalk::form(path);
+    if (form == PathWalk::Form::Empty || form == PathWalk::Form::Resource) {
+        return {};
+    }
+    return PathWalk::walk(path).closest;
+}
+
+bool FileUtil::isOperationAllowed(const QString& path, Operations operations)
+{
+    const Operations known = Read | Write;
+    if (PathWalk::form(path) != PathWalk::Form::Good || (operations & ~known) != 0) {
+        return false;
+    }
+    const QFileInfo entry(path);
+    if (!entry.exists()) {
+        return false;
+    }
+    if (operations == 0) {
+        return true;
+    }
+#ifdef Q_OS_UNIX
+    // Not QFileInfo's answer, which is that for the real user.
+    const int mode = (operations.testFlag(Read) ? R_OK : 0) | (operations.testFlag(Write) ? W_OK : 0) |
+                     (entry.isDir() ? X_OK : 0);
+    return faccessat(AT_FDCWD, QFile::encodeName(path).constData(), mode, AT_EACCESS) == 0;
+#else
+    return (!operations.testFlag(Read) || entry.isReadable()) &&
+           (!operations.testFlag(Write) || entry.isWritable());
+#endif
+}
