@@ -49,7 +49,6 @@ void DialogColorPicker::pick()
     m_isPicking = true;
     m_dialog = makeDialog();
     m_dialog->show();
-    m_dialog->raise();
     m_dialog->activateWindow();
 }
 

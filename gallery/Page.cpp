@@ -15,6 +15,18 @@ namespace {
 // The specimens take the height they want, up to this part of the whole.
 constexpr double LargestSpecimenShare = 0.6;
 
+constexpr double TitleFontFactor = 1.5;
+constexpr double CaptionFontFactor = 0.9;
+
+/// What an unstyled gallery looks like; a sheet's fonts win.
+void setFontOf(QWidget* widget, double sizeFactor, QFont::Weight weight)
+{
+    QFont font = widget->font();
+    font.setPointSizeF(font.pointSizeF() * sizeFactor);
+    font.setWeight(weight);
+    widget->setFont(font);
+}
+
 } // namespace
 
 Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
@@ -25,6 +37,7 @@ Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
 
     auto* title = new QLabel(info.title, this);
     title->setObjectName(QStringLiteral("pageTitle"));
+    setFontOf(title, TitleFontFactor, QFont::Bold);
     auto* classes = new QLabel(info.covers.join(QStringLiteral("  ·  ")), this);
     classes->setObjectName(QStringLiteral("pageClasses"));
     classes->setWordWrap(true);
@@ -120,11 +133,13 @@ QFrame* Page::makeCard(const char* twin, const QString& title)
 {
     auto* card = new QFrame(this);
     card->setObjectName(QStringLiteral("specimenCard"));
+    card->setFrameShape(QFrame::StyledPanel);
     card->setProperty("twin", QString::fromUtf8(twin));
     auto* layout = new QVBoxLayout(card);
     if (!title.isEmpty()) {
         auto* label = new QLabel(title, card);
         label->setObjectName(QStringLiteral("cardTitle"));
+        setFontOf(label, 1, QFont::DemiBold);
         layout->addWidget(label);
     }
     layout->addStretch();
@@ -141,6 +156,7 @@ void Page::addToCard(QFrame* card, const QString& caption, QWidget* widget)
     if (!caption.isEmpty()) {
         auto* label = new QLabel(caption, card);
         label->setObjectName(QStringLiteral("specimenCaption"));
+        setFontOf(label, CaptionFontFactor, QFont::Normal);
         layout->insertWidget(end, label);
     }
     card->show();

@@ -12,6 +12,7 @@
 
 namespace {
 
+constexpr int SideBarWidth = 252;
 constexpr int IdRole = Qt::UserRole;
 
 QListWidgetItem* makeHeading(const QString& title)
@@ -52,6 +53,7 @@ PageList::PageList(QWidget* parent)
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setTextElideMode(Qt::ElideRight);
 
+    setFixedWidth(SideBarWidth);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_search);
     layout->addWidget(m_list, 1);

@@ -16,6 +16,8 @@
 
 namespace {
 
+// Room for what is usual, not for the longest number there is.
+constexpr int NarrowestControl = 72;
 constexpr int FractionDigits = 4;
 constexpr double LargestFraction = 1e9;
 constexpr double FractionStep = 0.1;
@@ -131,7 +133,7 @@ void PropertyEditor::place(QWidget* control)
 {
     control->setObjectName(QString::fromUtf8(m_name));
     control->setAccessibleName(QString::fromUtf8(m_name));
-    control->setMinimumWidth(0);
+    control->setMinimumWidth(NarrowestControl);
     layout()->addWidget(control);
     setFocusProxy(control);
 }

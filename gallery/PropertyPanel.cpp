@@ -58,6 +58,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     area->setObjectName(QStringLiteral("propertyArea"));
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(m_content);
 
@@ -72,6 +73,10 @@ void PropertyPanel::addHeading(const QString& text)
 {
     auto* label = new QLabel(text, m_content);
     label->setObjectName(QStringLiteral("propertyHeading"));
+    QFont font = label->font();
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+    label->setWordWrap(true);
     m_rows->addRow(label);
 }
 

@@ -1,8 +1,10 @@
 #include "StyleController.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <optional>
 
@@ -11,8 +13,22 @@ namespace {
 // An editor saves in several steps, each of which is announced.
 constexpr int ReloadDelayMs = 50;
 
-std::optional<QByteArray> contentsOf(const QString& path)
+/// Where the sheet of @p style is; empty for none.
+QString pathOf(const QString& style)
 {
+    if (style == QLatin1String("none")) {
+        return {};
+    }
+    const bool isBuiltIn = StyleController::builtInStyles().contains(style);
+    return isBuiltIn ? QStringLiteral(":/styles/%1.qss").arg(style) : style;
+}
+
+std::optional<QByteArray> contentsOf(const QString& style)
+{
+    const QString path = pathOf(style);
+    if (path.isEmpty()) {
+        return QByteArray();
+    }
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
@@ -20,13 +36,25 @@ std::optional<QByteArray> contentsOf(const QString& path)
     return file.readAll();
 }
 
-// Qt reads a sheet that is named this way itself, and takes its relative urls from the sheet's folder.
-QString sheetFromFile(const QString& path)
-{
-    return QStringLiteral("file:///") + path;
-}
-
 } // namespace
+
+QString withAbsoluteUrls(const QString& sheet, const QString& folder)
+{
+    static const QRegularExpression url(QStringLiteral("url\\(\\s*([\"']?)([^\"')]+)\\1\\s*\\)"));
+    QString result;
+    int end = 0;
+    QRegularExpressionMatchIterator urls = url.globalMatch(sheet);
+    while (urls.hasNext()) {
+        const QRegularExpressionMatch match = urls.next();
+        const QString path = match.captured(2).trimmed();
+        result += sheet.midRef(end, match.capturedStart() - end);
+        // A colon: a resource, or a search path of the host's.
+        const bool isRelative = QDir::isRelativePath(path) && !path.contains(QLatin1Char(':'));
+        result += isRelative ? QStringLiteral("url(\"%1/%2\")").arg(folder, path) : match.captured();
+        end = match.capturedEnd();
+    }
+    return result + sheet.midRef(end);
+}
 
 StyleController::StyleController(QObject* parent)
     : QObject(parent)
@@ -48,31 +76,18 @@ QStringList StyleController::builtInStyles()
 
 bool StyleController::setStyle(const QString& style)
 {
-    const bool isBuiltIn = builtInStyles().contains(style);
-    const QString wanted = isBuiltIn ? style : QFileInfo(style).absoluteFilePath();
+    const QString wanted = builtInStyles().contains(style) ? style : QFileInfo(style).absoluteFilePath();
     if (wanted == m_style) {
         return true;
     }
-    QByteArray contents;
-    if (!isBuiltIn) {
-        const std::optional<QByteArray> read = contentsOf(wanted);
-        if (!read) {
-            return false;
-        }
-        contents = *read;
+    const std::optional<QByteArray> contents = contentsOf(wanted);
+    if (!contents) {
+        return false;
     }
-
     m_style = wanted;
-    m_contents = contents;
     m_reloadTimer.stop();
     watch();
-    if (!isBuiltIn) {
-        apply(sheetFromFile(wanted));
-    } else if (wanted == QLatin1String("none")) {
-        apply(QString());
-    } else {
-        apply(sheetFromFile(QStringLiteral(":/styles/%1.qss").arg(wanted)));
-    }
+    apply(*contents);
     return true;
 }
 
@@ -99,15 +114,15 @@ void StyleController::reload()
     if (!m_watcher.files().contains(m_style)) {
         m_watcher.addPath(m_style);
     }
-    if (*contents == m_contents) {
-        return;
+    if (*contents != m_contents) {
+        apply(*contents);
     }
-    m_contents = *contents;
-    apply(sheetFromFile(m_style));
 }
 
-void StyleController::apply(const QString& sheet)
+void StyleController::apply(const QByteArray& contents)
 {
-    qApp->setStyleSheet(sheet);
+    m_contents = contents;
+    qApp->setStyleSheet(
+        withAbsoluteUrls(QString::fromUtf8(contents), QFileInfo(pathOf(m_style)).absolutePath()));
     Q_EMIT styleApplied(m_style);
 }

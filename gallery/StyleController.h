@@ -33,10 +33,14 @@ Q_SIGNALS:
 private:
     void watch();
     void reload();
-    void apply(const QString& sheet);
+    void apply(const QByteArray& contents);
 
     QString m_style;
     QByteArray m_contents;
     QFileSystemWatcher m_watcher;
     QTimer m_reloadTimer;
 };
+
+/// @p sheet with the relative paths in its urls taken from @p folder, as its author meant them: Qt would
+/// take them from the program's working directory.
+QString withAbsoluteUrls(const QString& sheet, const QString& folder);

@@ -36,6 +36,9 @@ SwitchBar::SwitchBar(QWidget* parent)
     setMovable(false);
     setContextMenuPolicy(Qt::PreventContextMenu);
     m_name->setObjectName(QStringLiteral("applicationName"));
+    QFont nameFont = m_name->font();
+    nameFont.setBold(true);
+    m_name->setFont(nameFont);
 
     auto* gap = new QWidget(this);
     gap->setObjectName(QStringLiteral("switchBarGap"));

@@ -5,390 +5,390 @@
     <name>BoxLayoutPage</name>
     <message>
         <source>Box and grid layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>ボックスとグリッドのレイアウト</translation>
     </message>
     <message>
         <source>spacer</source>
-        <translation type="unfinished"></translation>
+        <translation>スペーサー</translation>
     </message>
     <message>
         <source>stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>伸縮</translation>
     </message>
     <message>
         <source>row</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>column</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボックスレイアウトは、所有者の子を作成順に並べるか、項目のリストを受け取ります。項目は伸縮係数を持つウィジェット、または伸縮・固定のスペーサーです。</translation>
     </message>
     <message>
         <source>autoFill() and a stretch behind</source>
-        <translation type="unfinished"></translation>
+        <translation>autoFill() と末尾の伸縮</translation>
     </message>
     <message>
         <source>addItems() with a spacer</source>
-        <translation type="unfinished"></translation>
+        <translation>スペーサー付きの addItems()</translation>
     </message>
     <message>
         <source>A column</source>
-        <translation type="unfinished"></translation>
+        <translation>縦並び</translation>
     </message>
     <message>
         <source>The spacer behind item 1</source>
-        <translation type="unfinished"></translation>
+        <translation>項目 1 の後のスペーサー</translation>
     </message>
     <message>
         <source>Policy</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>伸縮</translation>
     </message>
     <message>
         <source>Fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>固定</translation>
     </message>
     <message>
         <source>Factor or pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>係数またはピクセル</translation>
     </message>
     <message>
         <source>The frame around</source>
-        <translation type="unfinished"></translation>
+        <translation>周囲のフレーム</translation>
     </message>
 </context>
 <context>
     <name>ColorInputPage</name>
     <message>
         <source>Colour field</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーフィールド</translation>
     </message>
     <message>
         <source>colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>form</source>
-        <translation type="unfinished"></translation>
+        <translation>フォーム</translation>
     </message>
     <message>
         <source>row</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>picker</source>
-        <translation type="unfinished"></translation>
+        <translation>ピッカー</translation>
     </message>
     <message>
         <source>A colour button in a frame, ready for a row of a form. The frame&apos;s margins belong to the style sheet; the button inside is the anchor for a pop-up picker.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォームの行にそのまま置ける、枠に入ったカラーボタンです。枠の余白はスタイルシートが決め、中のボタンはポップアップ式ピッカーの基準になります。</translation>
     </message>
     <message>
         <source>Click it to pick a colour</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックして色を選択</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>No colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色なし</translation>
     </message>
     <message>
         <source>A frame around one colour button.</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーボタンを囲む枠です。</translation>
     </message>
 </context>
 <context>
     <name>ColorPickerButtonPage</name>
     <message>
         <source>Colour button</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーボタン</translation>
     </message>
     <message>
         <source>colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>picker</source>
-        <translation type="unfinished"></translation>
+        <translation>ピッカー</translation>
     </message>
     <message>
         <source>dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイアログ</translation>
     </message>
     <message>
         <source>A button whose face is a colour. A click hands over to an exchangeable picker, here Qt&apos;s colour dialog: every colour that is tried is on the button at once, and Cancel brings the old one back.</source>
-        <translation type="unfinished"></translation>
+        <translation>面そのものが色になるボタンです。クリックすると差し替え可能なピッカー（ここでは Qt のカラーダイアログ）に引き継ぎます。試した色はすぐボタンに反映され、キャンセルすると元の色に戻ります。</translation>
     </message>
     <message>
         <source>A colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>No colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色なし</translation>
     </message>
     <message>
         <source>Several colours</source>
-        <translation type="unfinished"></translation>
+        <translation>複数の色</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>Picking</source>
-        <translation type="unfinished"></translation>
+        <translation>選択</translation>
     </message>
     <message>
         <source>The face is a child of its own; the button says by dynamic properties when it has no colour, or several.</source>
-        <translation type="unfinished"></translation>
+        <translation>面は独立した子です。色がない場合や複数ある場合は、ボタンの動的プロパティで分かります。</translation>
     </message>
 </context>
 <context>
     <name>DialogColorPicker</name>
     <message>
         <source>Pick a colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色を選択</translation>
     </message>
 </context>
 <context>
     <name>FramePage</name>
     <message>
         <source>Frame and layout controller</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームとレイアウト制御</translation>
     </message>
     <message>
         <source>margins</source>
-        <translation type="unfinished"></translation>
+        <translation>余白</translation>
     </message>
     <message>
         <source>spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>間隔</translation>
     </message>
     <message>
         <source>Components build their layouts without margins and spacing; the style sheet sets both through the layout controller. A frame is its own controller, any other widget gets one installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>部品は余白も間隔もないレイアウトを組み、スタイルシートがレイアウト制御を通じて両方を決めます。フレームは自身が制御役で、他のウィジェットには制御役を取り付けます。</translation>
     </message>
     <message>
         <source>A frame controls its own layout</source>
-        <translation type="unfinished"></translation>
+        <translation>自身のレイアウトを制御するフレーム</translation>
     </message>
     <message>
         <source>A group box with an installed controller</source>
-        <translation type="unfinished"></translation>
+        <translation>制御役を取り付けたグループボックス</translation>
     </message>
     <message>
         <source>The base of composite components; a sheet sets the metrics of its layout through its properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>複合部品の土台です。レイアウトの寸法はプロパティを通じてスタイルシートが決めます。</translation>
     </message>
     <message>
         <source>Any widget with an installed controller: select the controller by its class name below the widget.</source>
-        <translation type="unfinished"></translation>
+        <translation>制御役を取り付けた任意のウィジェット。制御役はウィジェット配下のクラス名で選択します。</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>The style sheet %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>スタイルシート %1 を読み込めません。</translation>
     </message>
     <message>
         <source>Style sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>スタイルシート</translation>
     </message>
     <message>
         <source>Style sheets (*.qss)</source>
-        <translation type="unfinished"></translation>
+        <translation>スタイルシート (*.qss)</translation>
     </message>
     <message>
         <source>%1 – UiComponents Gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – UiComponents ギャラリー</translation>
     </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>無効</translation>
     </message>
 </context>
 <context>
     <name>PageList</name>
     <message>
         <source>Search title, class, keyword</source>
-        <translation type="unfinished"></translation>
+        <translation>題名・クラス・キーワードを検索</translation>
     </message>
     <message>
         <source>Search pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを検索</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ</translation>
     </message>
 </context>
 <context>
     <name>PageRegistry</name>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>Inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>入力</translation>
     </message>
     <message>
         <source>Layout and styling</source>
-        <translation type="unfinished"></translation>
+        <translation>レイアウトとスタイル</translation>
     </message>
     <message>
         <source>Bubbles and frames</source>
-        <translation type="unfinished"></translation>
+        <translation>吹き出しと枠</translation>
     </message>
     <message>
         <source>Services</source>
-        <translation type="unfinished"></translation>
+        <translation>サービス</translation>
     </message>
 </context>
 <context>
     <name>PropertyPanel</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>プロパティ</translation>
     </message>
 </context>
 <context>
     <name>PropertyProviderPage</name>
     <message>
         <source>Property provider</source>
-        <translation type="unfinished"></translation>
+        <translation>プロパティの提供役</translation>
     </message>
     <message>
         <source>A widget that paints itself takes its colours and sizes from a hidden child, which a style sheet selects by class name and writes with qproperty-.</source>
-        <translation type="unfinished"></translation>
+        <translation>自分で描画するウィジェットは、色や寸法を隠れた子から受け取ります。スタイルシートはその子をクラス名で選び、qproperty- で値を書き込みます。</translation>
     </message>
     <message>
         <source>A dial whose hand is styled</source>
-        <translation type="unfinished"></translation>
+        <translation>針の見た目を変えられる計器</translation>
     </message>
     <message>
         <source>An example: the provider is selected by its class name below the widget that it serves.</source>
-        <translation type="unfinished"></translation>
+        <translation>例：提供役は、仕えるウィジェット配下のクラス名で選択します。</translation>
     </message>
 </context>
 <context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
-        <translation type="unfinished"></translation>
+        <translation>シグナル</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>消去</translation>
     </message>
     <message>
         <source>Use the component: its signals appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>部品を操作すると、ここにシグナルが表示されます。</translation>
     </message>
 </context>
 <context>
     <name>StyleHintsPage</name>
     <message>
         <source>Style hints and properties</source>
-        <translation type="unfinished"></translation>
+        <translation>スタイルヒントとプロパティ</translation>
     </message>
     <message>
         <source>Code names a variant, the style sheet gives it a look: a hint is a dynamic property that the sheet selects on. Setting it polishes the widget again, and only when it changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>コードは種類を名付け、スタイルシートが見た目を与えます。ヒントはスタイルシートが選択に使う動的プロパティで、値が変わったときだけウィジェットに再適用されます。</translation>
     </message>
     <message>
         <source>A button</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタン</translation>
     </message>
     <message>
         <source>An edit</source>
-        <translation type="unfinished"></translation>
+        <translation>入力欄</translation>
     </message>
     <message>
         <source>A slider</source>
-        <translation type="unfinished"></translation>
+        <translation>スライダー</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>（なし）</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒント</translation>
     </message>
     <message>
         <source>Member name</source>
-        <translation type="unfinished"></translation>
+        <translation>メンバー名</translation>
     </message>
 </context>
 <context>
     <name>SwitchBar</name>
     <message>
         <source>A style sheet of your own that reloads when you save it</source>
-        <translation type="unfinished"></translation>
+        <translation>保存すると再読み込みされる独自のスタイルシート</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>スタイル</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>方向</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>倍率</translation>
     </message>
     <message>
         <source>Restarts the gallery on the same page</source>
-        <translation type="unfinished"></translation>
+        <translation>同じページでギャラリーを再起動します</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>暗色</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>明色</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>File…</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル…</translation>
     </message>
     <message>
         <source>Left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>左から右</translation>
     </message>
     <message>
         <source>Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>右から左</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,7 @@ namespace {
 OvFrame* makeFrame(QWidget* parent)
 {
     auto* frame = new OvFrame(parent);
+    frame->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     frame->setFrameShape(QFrame::StyledPanel);
     return frame;
 }

@@ -18,6 +18,7 @@ template <typename Widget>
 Widget* makeRow(QWidget* parent)
 {
     auto* row = new Widget(parent);
+    row->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     for (int i = 1; i <= TileCount; ++i) {
         new SampleTile(QString::number(i), row);
     }

@@ -1,0 +1,282 @@
+#include "TestMain.h"
+
+#include <UiComponents/ColorInputWidget.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include <gallery/GalleryApplication.h>
+#include <gallery/PropertyEditor.h>
+#include <gallery/PropertyPanel.h>
+#include <memory>
+
+class Specimen : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool flag MEMBER m_flag)
+    Q_PROPERTY(int count READ count WRITE setCount NOTIFY countChanged)
+    Q_PROPERTY(double share MEMBER m_share)
+    Q_PROPERTY(QString text MEMBER m_text NOTIFY textChanged)
+    Q_PROPERTY(QColor color MEMBER m_color)
+    Q_PROPERTY(Mode mode MEMBER m_mode)
+    Q_PROPERTY(int fixed READ count CONSTANT)
+    Q_PROPERTY(QPoint point MEMBER m_point)
+
+public:
+    enum Mode { Idle = 3, Busy = 9 };
+    Q_ENUM(Mode)
+
+    int count() const { return m_count; }
+    void setCount(int count)
+    {
+        // A property that does not take every value.
+        count = qBound(0, count, 10);
+        if (count != m_count) {
+            m_count = count;
+            Q_EMIT countChanged(count);
+        }
+    }
+
+    bool m_flag = true;
+    int m_count = 4;
+    double m_share = 0.123456;
+    QString m_text = QStringLiteral("start");
+    QColor m_color = Qt::red;
+    Mode m_mode = Busy;
+    QPoint m_point;
+
+Q_SIGNALS:
+    void countChanged(int count);
+    void textChanged();
+};
+
+class tst_PropertyEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void noEditorFor_data();
+    void noEditorFor();
+    void boolean();
+    void integer();
+    void fractionIsNotRoundedByShowingIt();
+    void text();
+    void color();
+    void enumeration();
+    void followsItsNotifySignal();
+    void readsAgainWithoutNotifySignal();
+    void aRefusedValueIsShownAsItIs();
+    void anObjectDies();
+    void aListenerDeletesTheEditor();
+    void panelTakesOwnPropertiesOfAClass();
+    void panelControlsReport();
+
+private:
+    template <typename Control>
+    Control* edit(const char* property)
+    {
+        m_editor.reset(PropertyEditor::create({m_one.get(), m_other.get()}, QString::fromUtf8(property)));
+        return m_editor ? m_editor->findChild<Control*>() : nullptr;
+    }
+
+    std::unique_ptr<Specimen> m_one;
+    std::unique_ptr<Specimen> m_other;
+    std::unique_ptr<PropertyEditor> m_editor;
+};
+
+void tst_PropertyEditor::initTestCase()
+{
+    GalleryApplication::prepare();
+}
+
+void tst_PropertyEditor::init()
+{
+    m_editor.reset();
+    m_one = std::make_unique<Specimen>();
+    m_other = std::make_unique<Specimen>();
+}
+
+void tst_PropertyEditor::noEditorFor_data()
+{
+    QTest::addColumn<QString>("property");
+    QTest::newRow("unknown") << "nothing";
+    QTest::newRow("empty") << "";
+    QTest::newRow("read-only") << "fixed";
+    QTest::newRow("type without control") << "point";
+}
+
+void tst_PropertyEditor::noEditorFor()
+{
+    QFETCH(QString, property);
+    QVERIFY(!PropertyEditor::create({m_one.get()}, property));
+    QVERIFY(!PropertyEditor::create({}, property));
+}
+
+void tst_PropertyEditor::boolean()
+{
+    auto* box = edit<QCheckBox>("flag");
+    QVERIFY(box->isChecked());
+    QSignalSpy edited(m_editor.get(), &PropertyEditor::edited);
+    box->click();
+    QCOMPARE(m_one->m_flag, false);
+    QCOMPARE(m_other->m_flag, false);
+    QCOMPARE(edited.count(), 1);
+}
+
+void tst_PropertyEditor::integer()
+{
+    auto* box = edit<QSpinBox>("count");
+    QCOMPARE(box->value(), 4);
+    box->setValue(7);
+    QCOMPARE(m_one->m_count, 7);
+    QCOMPARE(m_other->m_count, 7);
+}
+
+void tst_PropertyEditor::fractionIsNotRoundedByShowingIt()
+{
+    auto* box = edit<QDoubleSpinBox>("share");
+    QCOMPARE(box->value(), 0.1235);
+    m_editor->refresh();
+    QCOMPARE(m_one->m_share, 0.123456);
+    box->setValue(0.5);
+    QCOMPARE(m_one->m_share, 0.5);
+    QCOMPARE(m_other->m_share, 0.5);
+}
+
+void tst_PropertyEditor::text()
+{
+    auto* line = edit<QLineEdit>("text");
+    QCOMPARE(line->text(), QStringLiteral("start"));
+    line->setCursorPosition(2);
+    QTest::keyClick(line, Qt::Key_X);
+    QCOMPARE(m_one->m_text, QStringLiteral("stxart"));
+    QCOMPARE(m_other->m_text, QStringLiteral("stxart"));
+    // Rewriting the text would have sent the cursor to its end.
+    QCOMPARE(line->cursorPosition(), 3);
+}
+
+void tst_PropertyEditor::color()
+{
+    auto* field = edit<ColorInputWidget>("color");
+    field->setColor(Qt::blue);
+    QCOMPARE(m_one->m_color, QColor(Qt::blue));
+    QCOMPARE(m_other->m_color, QColor(Qt::blue));
+}
+
+void tst_PropertyEditor::enumeration()
+{
+    auto* box = edit<QComboBox>("mode");
+    QCOMPARE(box->currentText(), QStringLiteral("Busy"));
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Up);
+    QCOMPARE(m_one->m_mode, Specimen::Idle);
+    QCOMPARE(m_other->m_mode, Specimen::Idle);
+}
+
+void tst_PropertyEditor::followsItsNotifySignal()
+{
+    auto* box = edit<QSpinBox>("count");
+    QSignalSpy edited(m_editor.get(), &PropertyEditor::edited);
+    m_one->setCount(9);
+    QCOMPARE(box->value(), 9);
+    // Shown only: the other one is not written to.
+    QCOMPARE(m_other->m_count, 4);
+    QCOMPARE(edited.count(), 0);
+}
+
+void tst_PropertyEditor::readsAgainWithoutNotifySignal()
+{
+    auto* box = edit<QCheckBox>("flag");
+    m_one->m_flag = false;
+    QVERIFY(box->isChecked());
+    m_editor->refresh();
+    QVERIFY(!box->isChecked());
+    QVERIFY(m_other->m_flag);
+}
+
+void tst_PropertyEditor::aRefusedValueIsShownAsItIs()
+{
+    auto* box = edit<QSpinBox>("count");
+    box->setValue(50);
+    QCOMPARE(m_one->m_count, 10);
+    QCOMPARE(box->value(), 10);
+}
+
+void tst_PropertyEditor::anObjectDies()
+{
+    auto* box = edit<QSpinBox>("count");
+    m_one.reset();
+    box->setValue(6);
+    QCOMPARE(m_other->m_count, 6);
+    QVERIFY(m_editor->isEnabled());
+    m_other.reset();
+    box->setValue(5);
+    QVERIFY(!m_editor->isEnabled());
+}
+
+void tst_PropertyEditor::aListenerDeletesTheEditor()
+{
+    edit<QSpinBox>("count");
+    // Not in a slot of the spin box itself, which Qt's own code would not survive.
+    connect(m_one.get(), &Specimen::countChanged, m_editor.get(),
+            [this] { m_editor.release()->deleteLater(); });
+    auto* box = m_editor->findChild<QSpinBox*>();
+    box->setValue(8);
+    QCOMPARE(m_other->m_count, 8);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void tst_PropertyEditor::panelTakesOwnPropertiesOfAClass()
+{
+    const ColorInputWidget field(nullptr, QColor());
+    const QStringList names = ownPropertyNames(&field);
+    QVERIFY(names.contains(QStringLiteral("layoutMargin")));
+    QVERIFY(!names.contains(QStringLiteral("frameShape")));
+    const QObject plain;
+    QCOMPARE(ownPropertyNames(&plain), QStringList());
+
+    PropertyPanel panel;
+    QVERIFY(panel.isEmpty());
+    panel.addProperties({m_one.get(), m_other.get()});
+    // All but the read-only one and the one that no control fits.
+    QCOMPARE(panel.findChildren<PropertyEditor*>().size(), 6);
+    QVERIFY(!panel.isEmpty());
+}
+
+void tst_PropertyEditor::panelControlsReport()
+{
+    PropertyPanel panel;
+    QVariantList got;
+    panel.addSwitch(QStringLiteral("a"), false, [&got](bool on) { got.append(on); });
+    panel.addNumber(QStringLiteral("b"), 0, 9, 1, [&got](int number) { got.append(number); });
+    panel.addText(QStringLiteral("c"), QString(), [&got](const QString& text) { got.append(text); });
+    panel.addChoice(QStringLiteral("d"), {"x", "y"}, 0, [&got](int index) { got.append(index); });
+    panel.addFraction(QStringLiteral("e"), 0, 1, 0, [&got](double number) { got.append(number); });
+    panel.addColor(QStringLiteral("f"), Qt::red, [&got](const QColor& color) { got.append(color); });
+    panel.addAction(QStringLiteral("g"), [&got] { got.append(QStringLiteral("run")); });
+    QCOMPARE(got, QVariantList());
+
+    panel.findChild<QCheckBox*>()->click();
+    panel.findChild<QSpinBox*>()->setValue(5);
+    for (auto* line : panel.findChildren<QLineEdit*>()) {
+        if (!qobject_cast<QAbstractSpinBox*>(line->parent())) {
+            line->setText(QStringLiteral("t"));
+        }
+    }
+    panel.findChild<QComboBox*>()->setCurrentIndex(1);
+    panel.findChild<QDoubleSpinBox*>()->setValue(0.5);
+    panel.findChild<ColorInputWidget*>()->setColor(Qt::blue);
+    panel.findChild<QPushButton*>()->click();
+    const QVariantList expected = {
+        true, 5, QStringLiteral("t"), 1, 0.5, QColor(Qt::blue), QStringLiteral("run")};
+    QCOMPARE(got, expected);
+}
+
+UIC_TEST_MAIN(tst_PropertyEditor)
+#include "tst_PropertyEditor.moc"

@@ -1,0 +1,103 @@
+#include "TestMain.h"
+
+#include <gallery/GalleryApplication.h>
+#include <gallery/MainWindow.h>
+#include <gallery/PageRegistry.h>
+#include <gallery/Tour.h>
+
+class tst_Tour : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void onePage();
+    void everyPage();
+    void samePicturesAgain();
+    void aFolderThatCannotBeMade();
+    void aPictureThatCannotBeWritten();
+    void aWarningFailsIt();
+
+private:
+    static CommandLine request(const QString& folder, const QString& page);
+};
+
+CommandLine tst_Tour::request(const QString& folder, const QString& page)
+{
+    CommandLine line;
+    line.action = CommandLine::Action::Tour;
+    line.tourFolder = folder;
+    line.page = page;
+    return line;
+}
+
+void tst_Tour::initTestCase()
+{
+    GalleryApplication::prepare();
+}
+
+void tst_Tour::onePage()
+{
+    const QTemporaryDir folder;
+    Tour tour(request(folder.filePath("new/folder"), "frame"));
+    QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
+    const QStringList pictures = QDir(folder.filePath("new/folder")).entryList(QDir::Files, QDir::Name);
+    QCOMPARE(pictures, (QStringList{"frame-dark.png", "frame-light.png", "frame-none.png"}));
+    const QImage dark(folder.filePath("new/folder/frame-dark.png"));
+    const QImage light(folder.filePath("new/folder/frame-light.png"));
+    QCOMPARE(dark.size(), QSize(1100, 760));
+    QVERIFY(dark != light);
+}
+
+void tst_Tour::everyPage()
+{
+    const QTemporaryDir folder;
+    Tour tour(request(folder.path(), QString()));
+    QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 3 * PageRegistry::pages().size());
+}
+
+void tst_Tour::samePicturesAgain()
+{
+    const QTemporaryDir one;
+    const QTemporaryDir other;
+    QVERIFY(Tour(request(one.path(), QString())).run());
+    QVERIFY(Tour(request(other.path(), QString())).run());
+    const QStringList pictures = QDir(one.path()).entryList(QDir::Files);
+    for (const QString& name : pictures) {
+        QVERIFY2(QImage(one.filePath(name)) == QImage(other.filePath(name)), qPrintable(name));
+    }
+}
+
+void tst_Tour::aFolderThatCannotBeMade()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    Tour tour(request(file.fileName() + "/below", "frame"));
+    QVERIFY(!tour.run());
+    QCOMPARE(tour.failures().size(), 1);
+}
+
+void tst_Tour::aPictureThatCannotBeWritten()
+{
+    const QTemporaryDir folder;
+    // A folder where the picture should go stops root as well.
+    QVERIFY(QDir(folder.path()).mkdir("frame-dark.png"));
+    Tour tour(request(folder.path(), "frame"));
+    QVERIFY(!tour.run());
+    QCOMPARE(tour.failures().size(), 1);
+    QVERIFY(tour.failures().first().startsWith("frame-dark.png"));
+}
+
+void tst_Tour::aWarningFailsIt()
+{
+    const QTemporaryDir folder;
+    QTest::ignoreMessage(QtWarningMsg, "out of order");
+    QTimer::singleShot(0, this, [] { qWarning("out of order"); });
+    Tour tour(request(folder.path(), "frame"));
+    QVERIFY(!tour.run());
+    QCOMPARE(tour.failures(), QStringList{"frame-dark.png: out of order"});
+}
+
+UIC_TEST_MAIN(tst_Tour)
+#include "tst_Tour.moc"
