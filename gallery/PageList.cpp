@@ -54,6 +54,7 @@ PageList::PageList(QWidget* parent)
     m_list->setTextElideMode(Qt::ElideRight);
 
     setFixedWidth(SideBarWidth);
+    setFocusProxy(m_list);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_search);
     layout->addWidget(m_list, 1);

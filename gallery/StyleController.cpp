@@ -80,7 +80,7 @@ bool StyleController::setStyle(const QString& style)
     if (wanted == m_style) {
         return true;
     }
-    const std::optional<QByteArray> contents = contentsOf(wanted);
+    const std::optional<QByteArray> contents = style.isEmpty() ? std::nullopt : contentsOf(wanted);
     if (!contents) {
         return false;
     }
