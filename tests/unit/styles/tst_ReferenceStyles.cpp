@@ -1,0 +1,748 @@
+#include "TestMain.h"
+
+#include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/ColorPickerButton.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvFrame.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDockWidget>
+#include <QDoubleSpinBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QSizeGrip>
+#include <QSlider>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QToolButton>
+#include <QToolTip>
+#include <QTreeWidget>
+
+#include <cmath>
+#include <functional>
+#include <memory>
+
+namespace {
+
+using Change = std::function<void(QWidget*)>;
+
+const QStringList styles = {QStringLiteral("dark"), QStringLiteral("light")};
+
+QString resourceSheet(const QString& style)
+{
+    return QStringLiteral("file:///:/styles/%1.qss").arg(style);
+}
+
+QString textOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The rules of a sheet: selectors, and whether anything is between the braces.
+QStringList selectorsOf(const QString& style)
+{
+    QString text = textOf(QStringLiteral(":/styles/%1.qss").arg(style));
+    text.remove(
+        QRegularExpression(QStringLiteral("/\\*.*?\\*/"), QRegularExpression::DotMatchesEverythingOption));
+    QStringList selectors;
+    auto rules = QRegularExpression(QStringLiteral("([^{}]+)\\{[^{}]*\\}")).globalMatch(text);
+    while (rules.hasNext()) {
+        const QStringList parts = rules.next().captured(1).split(QLatin1Char(','));
+        for (const QString& part : parts) {
+            selectors.append(part.simplified());
+        }
+    }
+    return selectors;
+}
+
+QHash<QString, QColor> paletteOf(const QString& style)
+{
+    QHash<QString, QColor> colors;
+    const QStringList lines =
+        textOf(QStringLiteral(UIC_STYLES_DIR "/%1.palette").arg(style)).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const QStringList words = line.simplified().split(QLatin1Char(' '));
+        if (words.size() == 2) {
+            colors.insert(words.at(0), QColor(words.at(1)));
+        }
+    }
+    return colors;
+}
+
+/// Of WCAG 2, from 1 (the same) to 21 (black and white).
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double part) {
+            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
+    };
+    const double lighter = qMax(luminance(one), luminance(other));
+    const double darker = qMin(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+template <typename Widget>
+Widget* make(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+template <typename Button>
+Button* makeButton(QWidget* parent)
+{
+    auto* button = new Button(parent);
+    button->setText(QStringLiteral("Text"));
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+QLineEdit* makeEdit(QWidget* parent)
+{
+    return new QLineEdit(QStringLiteral("Text"), parent);
+}
+
+QSlider* makeSlider(QWidget* parent)
+{
+    auto* slider = new QSlider(Qt::Horizontal, parent);
+    slider->setValue(40);
+    return slider;
+}
+
+QComboBox* makeCombo(QWidget* parent)
+{
+    auto* box = new QComboBox(parent);
+    box->addItem(QStringLiteral("Text"));
+    box->view(); // Made when it is first asked for, with the pop-up around it.
+    return box;
+}
+
+OvFrame* makeFieldFrame(QWidget* parent)
+{
+    auto* frame = new OvFrame(parent);
+    auto* edit = makeEdit(frame);
+    Util::applyProperty(edit, "kitVersion", QStringLiteral("1.0"));
+    (new OvHBoxLayout(frame))->autoFill();
+    return frame;
+}
+
+ColorPickerButton* makeColorButton(QWidget* parent)
+{
+    auto* button = new ColorPickerButton(parent);
+    button->setColor(QColor(Qt::darkCyan));
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+QDialog* makeDialog(QWidget* parent)
+{
+    auto* dialog = new QDialog(parent);
+    // Into its parent's picture.
+    dialog->setWindowFlags(Qt::Widget);
+    return dialog;
+}
+
+/// A window for one child, without a layout and so without the size hints that the platform cannot take.
+class Host : public QWidget
+{
+public:
+    /// Shows @p child at its own size.
+    bool present(QWidget* child)
+    {
+        child->setParent(this, Qt::Widget);
+        child->ensurePolished();
+        child->resize(child->sizeHint().expandedTo(child->minimumSize()));
+        child->show();
+        resize(child->size());
+        show();
+        return QTest::qWaitForWindowExposed(this);
+    }
+};
+
+/// One of every widget that a rule may be about, in one widget.
+QMainWindow* makeEverything()
+{
+    auto* window = new QMainWindow;
+    auto* body = new QWidget(window);
+    window->setCentralWidget(body);
+    auto* layout = new QVBoxLayout(body);
+
+    const QVector<QWidget*> plain = {makeButton<QPushButton>(body),
+                                     makeButton<QToolButton>(body),
+                                     makeButton<QCheckBox>(body),
+                                     makeButton<QRadioButton>(body),
+                                     makeEdit(body),
+                                     makeSlider(body),
+                                     makeCombo(body),
+                                     make<QSpinBox>(body),
+                                     make<QDoubleSpinBox>(body),
+                                     make<QTextEdit>(body),
+                                     make<QPlainTextEdit>(body),
+                                     make<QProgressBar>(body),
+                                     make<QScrollBar>(body),
+                                     make<QLabel>(body),
+                                     make<QGroupBox>(body),
+                                     make<QListWidget>(body),
+                                     make<QTreeWidget>(body),
+                                     make<QTabWidget>(body),
+                                     make<QSizeGrip>(body),
+                                     makeFieldFrame(body),
+                                     makeColorButton(body),
+                                     new ColorInputWidget(body, QColor()),
+                                     make<QDialogButtonBox>(body),
+                                     new QTableWidget(2, 2, body),
+                                     makeDialog(body)};
+    for (QWidget* widget : plain) {
+        layout->addWidget(widget);
+    }
+    auto* splitter = new QSplitter(body);
+    splitter->addWidget(new QLabel(splitter));
+    splitter->addWidget(new QLabel(splitter));
+    layout->addWidget(splitter);
+
+    window->menuBar()->addMenu(QStringLiteral("Menu"))->addAction(QStringLiteral("Entry"));
+    window->addToolBar(QStringLiteral("Tools"))->addAction(QStringLiteral("Tool"));
+    window->statusBar()->showMessage(QStringLiteral("Ready"));
+    window->addDockWidget(Qt::LeftDockWidgetArea, new QDockWidget(QStringLiteral("Dock"), window));
+    return window;
+}
+
+/// Shows a widget alone on an active window, and takes its picture.
+class Stage
+{
+public:
+    explicit Stage(const std::function<QWidget*(QWidget*)>& maker)
+    {
+        m_window.resize(240, 80);
+        m_widget = maker(&m_window);
+        m_widget->ensurePolished();
+        m_widget->resize(m_widget->sizeHint().expandedTo(QSize(60, 24)));
+        m_widget->move(20, 20);
+        m_window.show();
+        m_window.activateWindow();
+        m_isActive = QTest::qWaitForWindowActive(&m_window);
+        m_window.setFocus();
+    }
+
+    bool isActive() const { return m_isActive; }
+    QWidget* widget() const { return m_widget; }
+    QImage picture() { return m_window.grab().toImage(); }
+
+private:
+    QWidget m_window;
+    QWidget* m_widget = nullptr;
+    bool m_isActive = false;
+};
+
+Change withHint(const char* name)
+{
+    return [name](QWidget* widget) { Util::applyStyleHint(widget, QString::fromLatin1(name)); };
+}
+
+Change withProperty(const char* name, const QVariant& value)
+{
+    return [name, value](QWidget* widget) { Util::applyProperty(widget, name, value); };
+}
+
+void disable(QWidget* widget)
+{
+    widget->setEnabled(false);
+}
+
+void focus(QWidget* widget)
+{
+    widget->setFocus(Qt::TabFocusReason);
+}
+
+void hover(QWidget* widget)
+{
+    widget->setAttribute(Qt::WA_UnderMouse);
+    QHoverEvent enter(QEvent::HoverEnter, QPointF(5, 5), QPointF(-1, -1));
+    QCoreApplication::sendEvent(widget, &enter);
+    // A push button goes by the mouse itself.
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &move);
+    widget->update();
+}
+
+void press(QWidget* widget)
+{
+    static_cast<QAbstractButton*>(widget)->setDown(true);
+}
+
+} // namespace
+
+using Maker = std::function<QWidget*(QWidget*)>;
+Q_DECLARE_METATYPE(Maker)
+Q_DECLARE_METATYPE(Change)
+
+class tst_ReferenceStyles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void sheetFitsEveryWidget_data();
+    void sheetFitsEveryWidget();
+    void sheetsDifferInColoursOnly();
+    void picturesExistAtBothScales();
+    void picturesAreFoundBesideTheFile();
+    void selectorsAreCheap();
+    void selectorsNameWhatExists();
+    void palettesAreNeutral();
+    void contrasts_data();
+    void contrasts();
+    void hookChangesThePicture_data();
+    void hookChangesThePicture();
+    void controlsHaveOneHeight_data();
+    void controlsHaveOneHeight();
+    void focusMovesNothing_data();
+    void focusMovesNothing();
+    void colorFieldTakesItsMetrics();
+    void droppedHintRestoresTheLook();
+    void labelsShowTheirSurface();
+};
+
+void tst_ReferenceStyles::initTestCase()
+{
+    Q_INIT_RESOURCE(styles);
+    for (const QString& style : styles) {
+        QVERIFY(!textOf(QStringLiteral(":/styles/%1.qss").arg(style)).isEmpty());
+        QVERIFY(!paletteOf(style).isEmpty());
+    }
+}
+
+void tst_ReferenceStyles::cleanup()
+{
+    qApp->setStyleSheet(QString());
+}
+
+void tst_ReferenceStyles::sheetFitsEveryWidget_data()
+{
+    QTest::addColumn<QString>("style");
+    for (const QString& style : styles) {
+        QTest::newRow(qPrintable(style)) << style;
+    }
+}
+
+// A rule that Qt cannot parse, a property that a class lacks and a picture that cannot be read are all
+// reported as warnings, which fail the run.
+void tst_ReferenceStyles::sheetFitsEveryWidget()
+{
+    QFETCH(QString, style);
+    qApp->setStyleSheet(resourceSheet(style));
+    const QColor surface = paletteOf(style).value(QStringLiteral("window"));
+
+    Host host;
+    QMainWindow* const window = makeEverything();
+    QVERIFY(host.present(window));
+    QCOMPARE(host.grab().toImage().pixelColor(1, window->height() / 2), surface);
+
+    Host other;
+    auto* dialog = new QColorDialog;
+    dialog->setOption(QColorDialog::DontUseNativeDialog);
+    QVERIFY(other.present(dialog));
+    QCOMPARE(other.grab().toImage().pixelColor(1, 1), surface);
+}
+
+void tst_ReferenceStyles::sheetsDifferInColoursOnly()
+{
+    const QRegularExpression color(QStringLiteral("#[0-9a-f]{6}\\b"));
+    QString dark = textOf(QStringLiteral(":/styles/dark.qss"));
+    QString light = textOf(QStringLiteral(":/styles/light.qss"));
+    QVERIFY(dark != light);
+    QCOMPARE(dark.remove(color).replace(QStringLiteral("style: dark"), QStringLiteral("style: light")),
+             light.remove(color));
+}
+
+void tst_ReferenceStyles::picturesExistAtBothScales()
+{
+    const QString text = textOf(QStringLiteral(":/styles/dark.qss"));
+    QStringList used;
+    auto urls = QRegularExpression(QStringLiteral("url\\(([^)]*)\\)")).globalMatch(text);
+    while (urls.hasNext()) {
+        used.append(urls.next().captured(1));
+    }
+    used.removeDuplicates();
+    QVERIFY(!used.isEmpty());
+    for (const QString& url : qAsConst(used)) {
+        const QImage single(QStringLiteral(":/styles/") + url);
+        QVERIFY2(!single.isNull(), qPrintable(url));
+        const QImage twice(QStringLiteral(":/styles/") +
+                           QString(url).replace(QLatin1String(".png"), QLatin1String("@2x.png")));
+        QVERIFY2(twice.size() == single.size() * 2, qPrintable(url));
+    }
+    const QStringList files = QDir(QStringLiteral(":/styles/images")).entryList();
+    for (const QString& file : files) {
+        const QString url = QStringLiteral("images/") + QString(file).remove(QLatin1String("@2x"));
+        QVERIFY2(used.contains(url), qPrintable(file));
+    }
+}
+
+// A host uses the installed files; what is beside them must be what the resources hold.
+void tst_ReferenceStyles::picturesAreFoundBesideTheFile()
+{
+    const auto pictureOfCheckBox = [](const QString& sheet) {
+        qApp->setStyleSheet(sheet);
+        QCheckBox box(QStringLiteral("Text"));
+        box.setChecked(true);
+        box.resize(80, 24);
+        return box.grab().toImage();
+    };
+    const QImage fromResource = pictureOfCheckBox(resourceSheet(styles.first()));
+    const QImage fromFile = pictureOfCheckBox(QStringLiteral("file:///" UIC_SHEETS_DIR "/dark.qss"));
+    QCOMPARE(fromFile, fromResource);
+
+    // And the mark is there at all.
+    const QImage withoutPicture = pictureOfCheckBox(
+        textOf(QStringLiteral(":/styles/dark.qss")).remove(QStringLiteral("image: url(images/check.png);")));
+    QVERIFY(withoutPicture != fromResource);
+}
+
+// Qt matches from the right, against every widget: at most one step up, and a class or name to index by.
+void tst_ReferenceStyles::selectorsAreCheap()
+{
+    const QStringList selectors = selectorsOf(styles.first());
+    QVERIFY(selectors.size() > 100);
+    const QRegularExpression indexed(QStringLiteral("^\\.?[A-Z#]"));
+    for (const QString& selector : selectors) {
+        const QStringList parts = QString(selector).remove(QLatin1String("> ")).split(QLatin1Char(' '));
+        QVERIFY2(parts.size() <= 2, qPrintable(selector));
+        QVERIFY2(indexed.match(parts.last()).hasMatch(), qPrintable(selector));
+    }
+}
+
+// A rule about a class or name that no widget has is dead.
+void tst_ReferenceStyles::selectorsNameWhatExists()
+{
+    const std::unique_ptr<QMainWindow> window(makeEverything());
+    QColorDialog dialog;
+    QMenu menu;
+    QWidgetList widgets = window->findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
+    widgets << window.get() << &dialog << &menu;
+    QSet<QString> known = {QStringLiteral("QToolTip")};
+    for (const QWidget* widget : qAsConst(widgets)) {
+        known.insert(QStringLiteral("#") + widget->objectName());
+        for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass()) {
+            known.insert(
+                QString::fromLatin1(meta->className()).replace(QLatin1String("::"), QLatin1String("--")));
+        }
+    }
+    const QStringList selectors = selectorsOf(styles.first());
+    const QRegularExpression name(QStringLiteral("(?:^|[ .])(#?[A-Za-z][A-Za-z-]*)"));
+    for (const QString& selector : selectors) {
+        auto names = name.globalMatch(selector);
+        QVERIFY2(names.hasNext(), qPrintable(selector));
+        while (names.hasNext()) {
+            QVERIFY2(known.contains(names.next().captured(1)), qPrintable(selector));
+        }
+    }
+}
+
+// Tinted greys would colour the user's judgement of a picture.
+void tst_ReferenceStyles::palettesAreNeutral()
+{
+    const QStringList tinted = {QStringLiteral("accent"), QStringLiteral("focus"),
+                                QStringLiteral("selection"), QStringLiteral("error"),
+                                QStringLiteral("swatch")};
+    for (const QString& style : styles) {
+        const QHash<QString, QColor> colors = paletteOf(style);
+        for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
+            const bool mayBeTinted =
+                std::any_of(tinted.cbegin(), tinted.cend(),
+                            [&it](const QString& prefix) { return it.key().startsWith(prefix); });
+            QVERIFY2(mayBeTinted || it->saturation() == 0, qPrintable(style + QLatin1Char(' ') + it.key()));
+        }
+    }
+}
+
+void tst_ReferenceStyles::contrasts_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QString>("upper");
+    QTest::addColumn<QString>("lower");
+    QTest::addColumn<double>("least");
+
+    struct Pair
+    {
+        const char* upper;
+        const char* lower;
+        double least;
+    };
+    // Texts, then marks that carry a meaning, then what is switched off and only must be seen.
+    constexpr Pair pairs[] = {
+        {"text", "window", 7},
+        {"text", "card", 7},
+        {"text", "popup", 7},
+        {"text", "field", 7},
+        {"text", "fieldLight", 7},
+        {"text", "button", 7},
+        {"text", "buttonHover", 7},
+        {"text", "buttonPressed", 7},
+        {"text", "greyOne", 4.5},
+        {"text", "greyOneHover", 4.5},
+        {"text", "greyTwo", 4.5},
+        {"text", "greyTwoHover", 4.5},
+        {"text", "greyPressed", 4.5},
+        {"text", "alternate", 7},
+        {"text", "tip", 7},
+        {"text", "itemHover", 7},
+        {"text", "errorField", 7},
+        {"textSecondary", "window", 4.5},
+        {"textSecondary", "card", 4.5},
+        {"accentText", "accent", 4.5},
+        {"accentText", "accentPressed", 4.5},
+        {"selectionText", "selection", 4.5},
+        {"error", "window", 4.5},
+        {"error", "card", 4.5},
+        {"focus", "window", 3},
+        {"focus", "card", 3},
+        {"focus", "field", 3},
+        {"focus", "popup", 3},
+        {"errorBorder", "window", 3},
+        {"errorBorder", "field", 3},
+        {"focusOnAccent", "accent", 2},
+        {"swatchNone", "swatchEmpty", 3},
+        {"accentText", "accentHover", 4},
+        {"textDisabled", "window", 2},
+        {"textDisabled", "fieldDisabled", 2},
+        {"textDisabled", "buttonDisabled", 2},
+    };
+    for (const QString& style : styles) {
+        for (const Pair& pair : pairs) {
+            QTest::addRow("%s: %s on %s", qPrintable(style), pair.upper, pair.lower)
+                << style << QString::fromLatin1(pair.upper) << QString::fromLatin1(pair.lower) << pair.least;
+        }
+    }
+}
+
+void tst_ReferenceStyles::contrasts()
+{
+    QFETCH(QString, style);
+    QFETCH(QString, upper);
+    QFETCH(QString, lower);
+    QFETCH(double, least);
+    const QHash<QString, QColor> colors = paletteOf(style);
+    QVERIFY(colors.contains(upper) && colors.contains(lower));
+    const double actual = contrast(colors.value(upper), colors.value(lower));
+    QVERIFY2(actual >= least, qPrintable(QString::number(actual)));
+}
+
+void tst_ReferenceStyles::hookChangesThePicture_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<Maker>("maker");
+    QTest::addColumn<Change>("change");
+
+    const QVector<QPair<const char*, Maker>> buttons = {{"QPushButton", makeButton<QPushButton>},
+                                                        {"QToolButton", makeButton<QToolButton>}};
+    const QVector<QPair<const char*, Maker>> fields = {
+        {"QLineEdit", makeEdit}, {"QSpinBox", make<QSpinBox>}, {"QComboBox", makeCombo}};
+
+    for (const QString& style : styles) {
+        const char* const sheet = style == styles.first() ? "dark" : "light";
+        const auto row = [&style, sheet](const char* widget, const char* hook, const Maker& maker,
+                                         const Change& change) {
+            QTest::addRow("%s: %s %s", sheet, widget, hook) << style << maker << change;
+        };
+        for (const auto& button : buttons) {
+            for (const char* name :
+                 {"LIGHT_GREY_ONE", "LIGHT_GREY_TWO", "WITHOUT_BG1", "WITHOUT_BG2", "WITHOUT_BG3"}) {
+                row(button.first, name, button.second, withHint(name));
+            }
+            row(button.first, "hover", button.second, hover);
+            row(button.first, "pressed", button.second, press);
+            row(button.first, "focus", button.second, focus);
+            row(button.first, "disabled", button.second, disable);
+        }
+        for (const auto& field : fields) {
+            row(field.first, "error", field.second, withHint("error"));
+            row(field.first, "hover", field.second, hover);
+            row(field.first, "focus", field.second, focus);
+            row(field.first, "disabled", field.second, disable);
+        }
+        row("QPushButton", "guideButton", makeButton<QPushButton>, withHint("guideButton"));
+        row("QPushButton", "guideMainButton", makeButton<QPushButton>, withHint("guideMainButton"));
+        row("QLineEdit", "INPUT_LIGHT", makeEdit, withHint("INPUT_LIGHT"));
+        row("QLineEdit", "kitVersion", makeEdit, withProperty("kitVersion", QStringLiteral("1.0")));
+        row("QSpinBox", "INPUT_LIGHT", make<QSpinBox>, withHint("INPUT_LIGHT"));
+        row("QComboBox", "SELECT_LIGHT", makeCombo, withHint("SELECT_LIGHT"));
+        row("QComboBox", "popupVisible", makeCombo, withProperty("popupVisible", true));
+        row("QSlider", "SLIDER_LIGHT", makeSlider, withHint("SLIDER_LIGHT"));
+        row("QSlider", "focus", makeSlider, focus);
+        row("QSlider", "disabled", makeSlider, disable);
+        row("QCheckBox", "hover", makeButton<QCheckBox>, hover);
+        row("QCheckBox", "focus", makeButton<QCheckBox>, focus);
+        row("QCheckBox", "disabled", makeButton<QCheckBox>, disable);
+        row("QRadioButton", "focus", makeButton<QRadioButton>, focus);
+        row("QDialog", "roundedEdges", makeDialog, withProperty("roundedEdges", true));
+        row("OvFrame", "focusHint", makeFieldFrame, withProperty("focusHint", true));
+        row("OvFrame", "error", makeFieldFrame, withHint("error"));
+        row("OvFrame", "LIGHT_GREY_ONE", makeFieldFrame, withHint("LIGHT_GREY_ONE"));
+        row("OvFrame", "LIGHT_GREY_TWO", makeFieldFrame, withHint("LIGHT_GREY_TWO"));
+        row("ColorPickerButton", "nullColor", makeColorButton,
+            [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(QColor()); });
+        row("ColorPickerButton", "multiColor", makeColorButton,
+            [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(std::nullopt); });
+        row("ColorPickerButton", "hover", makeColorButton, hover);
+        row("ColorPickerButton", "pressed", makeColorButton, press);
+        row("ColorPickerButton", "focus", makeColorButton, focus);
+        row("ColorPickerButton", "disabled", makeColorButton, disable);
+    }
+}
+
+void tst_ReferenceStyles::hookChangesThePicture()
+{
+    QFETCH(QString, style);
+    QFETCH(Maker, maker);
+    QFETCH(Change, change);
+    qApp->setStyleSheet(resourceSheet(style));
+    Stage stage(maker);
+    QVERIFY(stage.isActive());
+    const QImage before = stage.picture();
+    change(stage.widget());
+    QVERIFY(stage.picture() != before);
+}
+
+void tst_ReferenceStyles::controlsHaveOneHeight_data()
+{
+    sheetFitsEveryWidget_data();
+}
+
+// In a row of a form they stand side by side.
+void tst_ReferenceStyles::controlsHaveOneHeight()
+{
+    QFETCH(QString, style);
+    qApp->setStyleSheet(resourceSheet(style));
+    QFont font = QApplication::font();
+    font.setPixelSize(12);
+    QWidget window;
+    window.setFont(font);
+    const QVector<QWidget*> controls = {
+        makeButton<QPushButton>(&window), makeButton<QToolButton>(&window),       makeEdit(&window),
+        make<QSpinBox>(&window),          make<QDoubleSpinBox>(&window),          makeCombo(&window),
+        makeColorButton(&window),         new ColorInputWidget(&window, QColor())};
+    for (QWidget* control : controls) {
+        control->ensurePolished();
+        QVERIFY2(control->sizeHint().height() == 24,
+                 qPrintable(QStringLiteral("%1: %2")
+                                .arg(QString::fromLatin1(control->metaObject()->className()))
+                                .arg(control->sizeHint().height())));
+    }
+}
+
+void tst_ReferenceStyles::focusMovesNothing_data()
+{
+    QTest::addColumn<Maker>("maker");
+    QTest::newRow("QPushButton") << Maker(makeButton<QPushButton>);
+    QTest::newRow("QToolButton") << Maker(makeButton<QToolButton>);
+    QTest::newRow("QLineEdit") << Maker(makeEdit);
+    QTest::newRow("QComboBox") << Maker(makeCombo);
+    QTest::newRow("ColorPickerButton") << Maker(makeColorButton);
+}
+
+// The border grows inwards: what lies inside stays where it is.
+void tst_ReferenceStyles::focusMovesNothing()
+{
+    QFETCH(Maker, maker);
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    Stage stage(maker);
+    QVERIFY(stage.isActive());
+    QWidget* const widget = stage.widget();
+    auto* edit = qobject_cast<QLineEdit*>(widget);
+    if (edit) {
+        edit->setReadOnly(true); // without a text cursor
+    }
+    const QRect inside = widget->rect().adjusted(3, 3, -3, -3);
+    const QSize sizeBefore = widget->sizeHint();
+    const QImage before = widget->grab(inside).toImage();
+    focus(widget);
+    QVERIFY(widget->hasFocus());
+    if (edit) {
+        edit->deselect();
+    }
+    QCOMPARE(widget->sizeHint(), sizeBefore);
+    QCOMPARE(widget->grab(inside).toImage(), before);
+}
+
+void tst_ReferenceStyles::colorFieldTakesItsMetrics()
+{
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    Host host;
+    auto* row = new QWidget;
+    auto* field = new ColorInputWidget(row, QColor(Qt::red));
+    (new QHBoxLayout(row))->addWidget(field);
+    row->setMinimumWidth(400);
+    QVERIFY(host.present(row));
+    QCOMPARE(field->anchorWidget()->size(), QSize(44, 24));
+    const auto* face = field->anchorWidget()->findChild<QWidget*>(QStringLiteral("color"));
+    QCOMPARE(face->geometry(), QRect(3, 3, 38, 18));
+    // A form may be wider; the field keeps to its beginning.
+    QCOMPARE(field->width(), 44);
+}
+
+void tst_ReferenceStyles::droppedHintRestoresTheLook()
+{
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    Stage stage(makeEdit);
+    const QImage before = stage.picture();
+    Util::applyStyleHint(stage.widget(), QStringLiteral("error"));
+    QVERIFY(stage.picture() != before);
+    Util::applyStyleHint(stage.widget(), QString());
+    QCOMPARE(stage.picture(), before);
+}
+
+// Texts on a card, a bubble or a tab must not carry a rectangle of the window's colour with them.
+void tst_ReferenceStyles::labelsShowTheirSurface()
+{
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    Host host;
+    auto* surface = new QDialog;
+    Util::applyProperty(surface, "roundedEdges", true);
+    auto* layout = new QVBoxLayout(surface);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const QVector<QWidget*> children = {new QLabel(surface),
+                                        make<OvFrame>(surface),
+                                        make<QWidget>(surface),
+                                        makeButton<QCheckBox>(surface),
+                                        makeButton<QRadioButton>(surface),
+                                        makeSlider(surface)};
+    for (QWidget* child : children) {
+        child->setMinimumSize(120, 20);
+        layout->addWidget(child);
+    }
+    QVERIFY(host.present(surface));
+    const QImage picture = surface->grab().toImage();
+    const QColor expected = paletteOf(styles.first()).value(QStringLiteral("popup"));
+    for (const QWidget* child : children) {
+        QCOMPARE(picture.pixelColor(child->geometry().bottomRight() - QPoint(2, 0)), expected);
+    }
+}
+
+UIC_TEST_MAIN(tst_ReferenceStyles)
+#include "tst_ReferenceStyles.moc"
