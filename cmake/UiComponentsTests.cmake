@@ -1,20 +1,37 @@
-# uic_unit_test(<Class> LINK <target...>): tests/unit/<Library>/tst_<Class>.cpp, run off screen.
+# uic_test_program(<Class> NAME <test> LABEL <label> LINK <target...> [SOURCES <file...>]
+#     [LAUNCHER <command...>] ENVIRONMENT <variable...>): tst_<Class>.cpp of this folder, run as one test.
 #
 # A warning that the test did not announce with QTest::ignoreMessage() fails it.
-function(uic_unit_test class)
-    cmake_parse_arguments(arg "" "" "LINK;SOURCES" ${ARGN})
-    get_filename_component(library "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+function(uic_test_program class)
+    cmake_parse_arguments(arg "" "NAME;LABEL" "LINK;SOURCES;LAUNCHER;ENVIRONMENT" ${ARGN})
     set(target tst_${class})
     add_executable(${target} tst_${class}.cpp ${arg_SOURCES})
     target_link_libraries(${target} PRIVATE
         ${arg_LINK} UiComponentsTestSupport Qt5::Test UiComponentsBuildOptions)
     target_compile_definitions(${target} PRIVATE
         UIC_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
-    add_test(NAME unit.${library}.${class} COMMAND ${target} -silent)
-    set_tests_properties(unit.${library}.${class} PROPERTIES
-        LABELS unit TIMEOUT 300
+    add_test(NAME ${arg_NAME} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${target}> -silent)
+    set_tests_properties(${arg_NAME} PROPERTIES
+        LABELS ${arg_LABEL} TIMEOUT 300
         FAIL_REGULAR_EXPRESSION "QWARN|QCRITICAL|QSYSTEM|runtime error:"
-        ENVIRONMENT "${UIC_UNIT_ENVIRONMENT}")
+        ENVIRONMENT "${arg_ENVIRONMENT}")
+endfunction()
+
+# uic_unit_test(<Class> LINK <target...>): tests/unit/<Library>/tst_<Class>.cpp, run off screen.
+function(uic_unit_test class)
+    get_filename_component(library "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+    uic_test_program(${class} NAME unit.${library}.${class} LABEL unit
+        ENVIRONMENT ${UIC_UNIT_ENVIRONMENT} ${ARGN})
+endfunction()
+
+# uic_desktop_test(<Class> LINK <target...>): tests/desktop/tst_<Class>.cpp, run on a desktop of its own with
+# a window manager and a compositor. See RealInput.h.
+function(uic_desktop_test class)
+    uic_test_program(${class} NAME desktop.${class} LABEL desktop
+        LAUNCHER "${PROJECT_SOURCE_DIR}/tests/desktop/desktop-session"
+        ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${ARGN})
+    # Two desktops at once on a small machine only wait for each other.
+    set_tests_properties(desktop.${class} PROPERTIES PROCESSORS 2)
 endfunction()
 
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
@@ -26,3 +43,8 @@ if(UICOMPONENTS_SANITIZE)
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0"
         "ASAN_OPTIONS=detect_stack_use_after_return=1" "UBSAN_OPTIONS=print_stacktrace=1")
 endif()
+
+set(UIC_DESKTOP_ENVIRONMENT ${UIC_UNIT_ENVIRONMENT} "UIC_SCREENSHOTS=${PROJECT_BINARY_DIR}/screenshots")
+list(FILTER UIC_DESKTOP_ENVIRONMENT EXCLUDE REGEX "^(QT_QPA_PLATFORM|XDG_RUNTIME_DIR)=")
+# The platform plugin for X leaks a little when it is unloaded. The unit tests look for leaks of ours.
+list(TRANSFORM UIC_DESKTOP_ENVIRONMENT REPLACE "^ASAN_OPTIONS=" "ASAN_OPTIONS=detect_leaks=0:")

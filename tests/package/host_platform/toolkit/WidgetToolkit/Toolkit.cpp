@@ -13,7 +13,10 @@ OvFrame::OvFrame(QWidget* parent, Qt::WindowFlags flags)
 
 OvFrame::~OvFrame() = default;
 
-QLayout* OvFrame::getLayout() const { return layout(); }
+QLayout* OvFrame::getLayout() const
+{
+    return layout();
+}
 
 OvHBoxLayout::OvHBoxLayout(QWidget* owner)
     : QHBoxLayout(owner)
@@ -44,4 +47,7 @@ void Util::applyProperty(QWidget* widget, const char* name, const QVariant& valu
     widget->style()->polish(widget);
 }
 
-LayoutController* Util::installLayoutController(QWidget*) { return nullptr; }
+LayoutController* Util::installLayoutController(QWidget*)
+{
+    return nullptr;
+}

@@ -1,0 +1,120 @@
+#include "RealInput.h"
+
+#include <QCursor>
+#include <QDir>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QProcess>
+#include <QSaveFile>
+#include <QScreen>
+#include <QStringList>
+#include <QTest>
+#include <QWidget>
+
+namespace {
+
+constexpr int dragSteps = 8;
+
+bool xdotool(const QStringList& arguments)
+{
+    return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
+}
+
+QString buttonNumber(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::MiddleButton:
+        return QStringLiteral("2");
+    case Qt::RightButton:
+        return QStringLiteral("3");
+    default:
+        return QStringLiteral("1");
+    }
+}
+
+bool moveToGlobal(const QPoint& target)
+{
+    // Qt asks the server for the position. The events that are on their way by then are handled before
+    // the next move, or Qt would make one of the two.
+    const bool hasArrived =
+        xdotool({QStringLiteral("mousemove"), QString::number(target.x()), QString::number(target.y())}) &&
+        QTest::qWaitFor([target] { return QCursor::pos() == target; });
+    QCoreApplication::processEvents();
+    return hasArrived;
+}
+
+QPixmap grabScreen()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0);
+}
+
+} // namespace
+
+bool RealInput::showAndActivate(QWidget* window)
+{
+    window->show();
+    window->activateWindow();
+    return QTest::qWaitForWindowExposed(window) && QTest::qWaitForWindowActive(window);
+}
+
+bool RealInput::moveTo(const QWidget* widget, const QPoint& point)
+{
+    return moveToGlobal(widget->mapToGlobal(point));
+}
+
+bool RealInput::click(const QWidget* widget, const QPoint& point, Qt::MouseButton button)
+{
+    return moveTo(widget, point) && xdotool({QStringLiteral("click"), buttonNumber(button)});
+}
+
+bool RealInput::click(const QWidget* widget)
+{
+    return click(widget, widget->rect().center());
+}
+
+bool RealInput::drag(const QWidget* widget, const QPoint& from, const QPoint& to)
+{
+    // Global points: the widget may follow the mouse.
+    const QPoint start = widget->mapToGlobal(from);
+    const QPoint way = widget->mapToGlobal(to) - start;
+    if (!moveToGlobal(start) || !xdotool({QStringLiteral("mousedown"), QStringLiteral("1")})) {
+        return false;
+    }
+    bool isThere = true;
+    for (int step = 1; step <= dragSteps && isThere; ++step) {
+        isThere = moveToGlobal(start + way * step / dragSteps);
+    }
+    return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")}) && isThere;
+}
+
+bool RealInput::wheel(const QWidget* widget, const QPoint& point, int notches)
+{
+    // X has no wheel: buttons 4 and 5 are its two directions.
+    const QString button = notches > 0 ? QStringLiteral("4") : QStringLiteral("5");
+    return moveTo(widget, point) && xdotool({QStringLiteral("click"), QStringLiteral("--repeat"),
+                                             QString::number(qAbs(notches)), button});
+}
+
+bool RealInput::type(const QString& text)
+{
+    return xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+}
+
+bool RealInput::key(const QString& name)
+{
+    return xdotool({QStringLiteral("key"), name});
+}
+
+QColor RealInput::pixel(const QWidget* widget, const QPoint& point)
+{
+    return grabScreen().toImage().pixelColor(widget->mapToGlobal(point));
+}
+
+bool RealInput::saveScreenshot(const QString& name)
+{
+    const QDir folder(qEnvironmentVariable("UIC_SCREENSHOTS"));
+    // Another run of the same test may be writing the same picture.
+    QSaveFile file(folder.filePath(name + QStringLiteral(".png")));
+    return folder.mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
+           grabScreen().save(&file, "PNG") && file.commit();
+}

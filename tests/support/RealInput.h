@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QColor>
+#include <QPoint>
+#include <QString>
+#include <Qt>
+
+class QWidget;
+
+/**
+ * A user's mouse, keyboard and eyes for tests that run in desktop-session: input goes through the X server
+ * and the window manager, as real input does, and pixels are read from the screen.
+ *
+ * Points are in the coordinates of the widget that is given with them. Events arrive through the event
+ * loop: wait for their effect with QTRY_*.
+ */
+namespace RealInput {
+
+/// Shows @p window and waits until the window manager has made it the active one.
+bool showAndActivate(QWidget* window);
+
+/// Moves the mouse there and waits until Qt sees it there. False when it does not arrive.
+bool moveTo(const QWidget* widget, const QPoint& point);
+
+/// Moves to @p point, or to the widget's middle, and clicks.
+bool click(const QWidget* widget, const QPoint& point, Qt::MouseButton button = Qt::LeftButton);
+bool click(const QWidget* widget);
+
+/// Presses the left button at @p from, moves to @p to in small steps, and lets go.
+bool drag(const QWidget* widget, const QPoint& from, const QPoint& to);
+
+/// Turns the wheel over @p point by @p notches, away from the user when positive.
+bool wheel(const QWidget* widget, const QPoint& point, int notches);
+
+/// Types @p text into whatever has the keyboard.
+bool type(const QString& text);
+
+/// Presses and releases a key or a chord under its X name: "Escape", "ctrl+a".
+bool key(const QString& name);
+
+/// What the screen shows at @p point, after all windows were composed.
+QColor pixel(const QWidget* widget, const QPoint& point);
+
+/// Saves the whole screen as <name>.png in the folder that the build keeps for that.
+bool saveScreenshot(const QString& name);
+
+} // namespace RealInput
