@@ -1,0 +1,99 @@
+#include "HighlightFrame.h"
+
+#include "HighlightFrameOverlay.h"
+
+#include <QChildEvent>
+
+namespace Orvane::Gui {
+
+HighlightFrame::HighlightFrame(QWidget* target)
+    : m_target(target)
+{
+    if (!target) {
+        return;
+    }
+    for (QObject* child : target->children()) {
+        watchSibling(child);
+    }
+    // Known before it gets its parent: the event that announces it to the target is kept from it.
+    m_overlay = new HighlightFrameOverlay;
+    m_overlayChild = m_overlay;
+    target->installEventFilter(this);
+    m_overlay->setParent(target);
+    m_overlay->coverParent();
+    m_overlay->show();
+}
+
+HighlightFrame::~HighlightFrame()
+{
+    if (!m_overlay) {
+        return;
+    }
+    const QRegion outline = m_overlay->mask();
+    const QPointer<QWidget> target = m_target;
+    // The filter is still in place and keeps the removal from the target.
+    delete m_overlay;
+    if (target && target->isVisible() && !target->testAttribute(Qt::WA_WState_InPaintEvent)) {
+        target->repaint(outline);
+    }
+}
+
+bool HighlightFrame::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_target) {
+        if (targetEvent(event)) {
+            return true;
+        }
+    } else if (m_overlay && event->type() == QEvent::ZOrderChange && watched->parent() == m_target) {
+        m_overlay->raise();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// Returns whether the event is kept from the target.
+bool HighlightFrame::targetEvent(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Resize:
+        if (m_overlay) {
+            m_overlay->coverParent();
+        }
+        return false;
+    case QEvent::ChildAdded:
+    case QEvent::ChildPolished:
+    case QEvent::ChildRemoved:
+        return targetChildEvent(static_cast<QChildEvent*>(event));
+    default:
+        return false;
+    }
+}
+
+bool HighlightFrame::targetChildEvent(const QChildEvent* event)
+{
+    QObject* const child = event->child();
+    if (child == m_overlayChild) {
+        if (event->removed()) {
+            // The next child may get the same address.
+            m_overlayChild = nullptr;
+        }
+        return true;
+    }
+    if (event->removed()) {
+        child->removeEventFilter(this);
+    } else if (event->added() && m_overlay && child->isWidgetType()) {
+        watchSibling(child);
+        m_overlay->raise();
+    }
+    return false;
+}
+
+/// QWidget::raise() tells nobody but the raised widget. Overlays are not watched: two frames on one
+/// target would raise theirs over each other for ever.
+void HighlightFrame::watchSibling(QObject* child)
+{
+    if (child->isWidgetType() && !qobject_cast<HighlightFrameOverlay*>(child)) {
+        child->installEventFilter(this);
+    }
+}
+
+} // namespace Orvane::Gui
