@@ -1,0 +1,69 @@
+#pragma once
+
+// Internal: the geometry of PointingWidget, without a widget.
+
+#include <EditorWidgets/PointingWidget.h>
+
+#include <QMargins>
+#include <QPainterPath>
+#include <QPoint>
+#include <QRect>
+#include <QVector>
+
+/// The parts of a bubble's look that take room, in pixels, none negative.
+struct BubbleShape
+{
+    int borderWidth = 1;
+    int radius = 6;
+    int arrowWidth = 16;
+    int arrowLength = 8;
+};
+
+/// What a bubble is asked to do. All rectangles and points are in one coordinate system.
+struct BubbleRequest
+{
+    QSize size; ///< of the whole bubble, with its arrow
+    QPoint target;
+    PointingWidget::ArrowSide side = PointingWidget::ArrowSide::Top;
+    PointingWidget::ArrowPosition position = PointingWidget::ArrowPosition::Center;
+    int offset = 0;
+    BubbleShape shape;
+    QRect area; ///< the bubble stays inside
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+};
+
+/// Where the bubble goes and how its arrow is drawn.
+struct BubblePlacement
+{
+    QRect geometry;
+    PointingWidget::ArrowSide side = PointingWidget::ArrowSide::Top;
+    QPoint tip; ///< the pixel at the arrow's tip, in the bubble's coordinates
+    int base =
+        0; ///< the pixel in the middle of the arrow's foot, along its side, in the bubble's coordinates
+
+    bool operator==(const BubblePlacement& other) const
+    {
+        return geometry == other.geometry && side == other.side && tip == other.tip && base == other.base;
+    }
+};
+
+BubblePlacement placeBubble(const BubbleRequest& request);
+
+/// What the content must keep clear of: the arrow, the border and the rounded corners.
+QMargins bubbleMargins(const BubbleShape& shape, PointingWidget::ArrowSide side);
+
+/// The smallest size in which the corners and the arrow are drawn in full.
+QSize minimumBubbleSize(const BubbleShape& shape, PointingWidget::ArrowSide side);
+
+/// The line along the middle of the border, for a pen of bubblePenWidth() with round joins: it lies on
+/// whole device pixels at the scale @p scale. Empty for a size in which nothing can be drawn.
+QPainterPath bubblePath(const BubblePlacement& placement, const BubbleShape& shape, qreal scale = 1);
+
+/// The width of the border in whole device pixels at the scale @p scale, at least one unless there is none.
+qreal bubblePenWidth(const BubbleShape& shape, qreal scale = 1);
+
+/// Every pixel that the bubble paints, partly covered ones included.
+QRegion bubbleRegion(const BubblePlacement& placement, const BubbleShape& shape);
+
+/// The index of the rectangle that contains @p point or else is nearest to it; -1 for none.
+int nearestArea(const QPoint& point, const QVector<QRect>& areas);

@@ -1,0 +1,536 @@
+#include "PointingWidget.h"
+
+#include "BubblePlacement.h"
+
+#include <WidgetToolkit/OvFrame.h>
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QVector>
+
+#include <optional>
+
+class PointingWidget::Private : public QObject
+{
+public:
+    explicit Private(PointingWidget* bubble);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    QPoint origin() const;
+    QRect area() const;
+    void setShapeValue(int& value, int pixels, int most);
+    void applyMargins();
+    void fit();
+    void place();
+    void placeLater();
+    void watchAncestors();
+    void watchScreen(QScreen* screen);
+    void followDirection();
+    void parentShown();
+    void parentHidden();
+    void parentChanged();
+    bool waitsForParent() const;
+
+    PointingWidget* const q;
+    OvFrame* const contentFrame;
+    QVBoxLayout* const layout;
+
+    BubbleShape shape;
+    QColor backgroundColor;
+    QColor borderColor;
+    ArrowSide side = ArrowSide::Top;
+    ArrowPosition position = ArrowPosition::Center;
+    int offset = 0;
+
+    /// From the parent's upper left corner, in global pixels; mapping there and back could lose one at
+    /// fractional scales, and a re-aimed bubble would wander.
+    QPoint target;
+    bool hasTarget = false;
+    /// The target when it was last looked at, for when the parent is replaced.
+    QPoint lastGlobalTarget;
+
+    BubblePlacement placement;
+    /// Where the bubble was last sent. A window manager may put it elsewhere; asking again at every paint
+    /// would never end.
+    std::optional<QPoint> sentTo;
+    /// Whether the host wants to see the bubble, which then depends on the parent.
+    bool wanted = false;
+    /// The parent and its ancestors up to their window.
+    QVector<QPointer<QWidget>> ancestors;
+};
+
+PointingWidget::Private::Private(PointingWidget* bubble)
+    : q(bubble)
+    , contentFrame(new OvFrame(bubble))
+    , layout(new QVBoxLayout(bubble))
+{
+    contentFrame->setObjectName(QStringLiteral("contentFrame"));
+    layout->setSpacing(0);
+    layout->addWidget(contentFrame);
+    applyMargins();
+}
+
+bool PointingWidget::Private::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isParent = watched == q->parentWidget();
+    switch (event->type()) {
+    case QEvent::Move:
+        place();
+        break;
+    case QEvent::Resize:
+        if (isParent && !q->isWindow()) {
+            place();
+        }
+        break;
+    case QEvent::Show:
+        if (isParent) {
+            parentShown();
+        }
+        break;
+    case QEvent::Hide:
+        if (isParent) {
+            parentHidden();
+        }
+        break;
+    case QEvent::ParentChange:
+        watchAncestors();
+        place();
+        break;
+    case QEvent::LayoutDirectionChange:
+        if (isParent) {
+            followDirection();
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QPoint PointingWidget::Private::origin() const
+{
+    const QWidget* const parent = q->parentWidget();
+    return parent ? parent->mapToGlobal(QPoint()) : QPoint();
+}
+
+/// Where the bubble may be, in the coordinates of its pos().
+QRect PointingWidget::Private::area() const
+{
+    if (!q->isWindow()) {
+        return q->parentWidget()->rect();
+    }
+    const auto screens = QGuiApplication::screens();
+    QVector<QRect> geometries;
+    geometries.reserve(screens.size());
+    for (const QScreen* screen : screens) {
+        geometries.append(screen->geometry());
+    }
+    const int nearest = nearestArea(q->targetPoint(), geometries);
+    return nearest < 0 ? QRect() : screens.at(nearest)->availableGeometry();
+}
+
+void PointingWidget::Private::setShapeValue(int& value, int pixels, int most)
+{
+    pixels = qBound(0, pixels, most);
+    if (value == pixels) {
+        return;
+    }
+    value = pixels;
+    applyMargins();
+    place();
+    q->updateGeometry();
+    q->setMask(bubbleRegion(placement, shape));
+    q->update();
+}
+
+void PointingWidget::Private::applyMargins()
+{
+    layout->setContentsMargins(bubbleMargins(shape, placement.side));
+}
+
+void PointingWidget::Private::fit()
+{
+    // What changed while the bubble was hidden has not reached its minimum size yet.
+    layout->activate();
+    const QSize room = area().size();
+    QSize size = q->sizeHint();
+    size.setWidth(qBound(q->minimumWidth(), size.width(), qMin(q->maximumWidth(), room.width())));
+    if (layout->hasHeightForWidth()) {
+        size.setHeight(layout->totalHeightForWidth(size.width()));
+    }
+    size.setHeight(qMin(size.height(), room.height()));
+    q->resize(size);
+    place();
+}
+
+void PointingWidget::Private::place()
+{
+    BubbleRequest request;
+    request.size = q->size();
+    request.side = side;
+    request.position = position;
+    request.offset = offset;
+    request.shape = shape;
+    request.direction = q->layoutDirection();
+    lastGlobalTarget = q->targetPoint();
+    if (hasTarget) {
+        request.target = q->isWindow() ? lastGlobalTarget : target;
+        request.area = area();
+    } else {
+        // Somewhere with room: only the shape counts.
+        const int room = qMax(request.size.width(), request.size.height()) + shape.arrowWidth;
+        request.area = QRect(-room, -room, 2 * room + 1, 2 * room + 1);
+    }
+
+    const BubblePlacement old = placement;
+    placement = placeBubble(request);
+    if (placement.side != old.side) {
+        applyMargins();
+        // At once, not a turn later: the content and the arrow change places in one picture.
+        layout->activate();
+    }
+    if (placement.side != old.side || placement.tip != old.tip || placement.base != old.base ||
+        placement.geometry.size() != old.geometry.size()) {
+        q->setMask(bubbleRegion(placement, shape));
+        q->update();
+    }
+    const QPoint goal = placement.geometry.topLeft();
+    if (hasTarget && (sentTo != goal || !q->isVisible())) {
+        sentTo = goal;
+        q->move(goal);
+    }
+}
+
+/// While screens come and go, Qt moves windows itself; its last word comes before ours.
+void PointingWidget::Private::placeLater()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            sentTo.reset();
+            place();
+        },
+        Qt::QueuedConnection);
+}
+
+void PointingWidget::Private::watchAncestors()
+{
+    QVector<QPointer<QWidget>> now;
+    for (QWidget* ancestor = q->parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
+        now.append(ancestor);
+        if (ancestor->isWindow()) {
+            break;
+        }
+    }
+    // Those that stay are left alone: one of them may be calling its filters just now.
+    for (const QPointer<QWidget>& ancestor : qAsConst(ancestors)) {
+        if (ancestor && !now.contains(ancestor)) {
+            ancestor->removeEventFilter(this);
+        }
+    }
+    for (const QPointer<QWidget>& ancestor : qAsConst(now)) {
+        if (!ancestors.contains(ancestor)) {
+            ancestor->installEventFilter(this);
+        }
+    }
+    ancestors = now;
+}
+
+void PointingWidget::Private::watchScreen(QScreen* screen)
+{
+    connect(screen, &QScreen::geometryChanged, this, &Private::placeLater);
+    connect(screen, &QScreen::availableGeometryChanged, this, &Private::placeLater);
+}
+
+/// Qt gives a window the application's direction; a bubble takes its parent's, unless it was given one.
+void PointingWidget::Private::followDirection()
+{
+    const QWidget* const parent = q->parentWidget();
+    if (!parent || q->testAttribute(Qt::WA_SetLayoutDirection) ||
+        q->layoutDirection() == parent->layoutDirection()) {
+        return;
+    }
+    q->setLayoutDirection(parent->layoutDirection());
+    q->setAttribute(Qt::WA_SetLayoutDirection, false);
+}
+
+void PointingWidget::Private::parentShown()
+{
+    if (wanted && q->isWindow() && !q->isVisible()) {
+        q->QWidget::setVisible(true);
+    }
+}
+
+void PointingWidget::Private::parentHidden()
+{
+    if (!q->isWindow() || !q->isVisible()) {
+        return;
+    }
+    if (q->windowType() == Qt::Popup) {
+        wanted = false;
+    }
+    q->QWidget::setVisible(false);
+}
+
+void PointingWidget::Private::parentChanged()
+{
+    wanted = false;
+    watchAncestors();
+    followDirection();
+    target = lastGlobalTarget - origin();
+    place();
+}
+
+bool PointingWidget::Private::waitsForParent() const
+{
+    const QWidget* const parent = q->parentWidget();
+    return q->isWindow() && q->windowType() != Qt::Popup && parent && !parent->isVisible();
+}
+
+PointingWidget::PointingWidget(QWidget* parent)
+    : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
+    , d(std::make_unique<Private>(this))
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_WindowPropagation);
+    d->watchAncestors();
+    d->followDirection();
+    d->lastGlobalTarget = d->origin();
+    const auto screens = QGuiApplication::screens();
+    for (QScreen* screen : screens) {
+        d->watchScreen(screen);
+    }
+    connect(qGuiApp, &QGuiApplication::screenAdded, d.get(), [this](QScreen* screen) {
+        d->watchScreen(screen);
+        d->placeLater();
+    });
+    connect(qGuiApp, &QGuiApplication::screenRemoved, d.get(), &Private::placeLater);
+}
+
+PointingWidget::~PointingWidget() = default;
+
+void PointingWidget::pointTo(const QPoint& globalPos)
+{
+    d->target = globalPos - d->origin();
+    d->hasTarget = true;
+    d->place();
+}
+
+QPoint PointingWidget::targetPoint() const
+{
+    return d->origin() + d->target;
+}
+
+void PointingWidget::setArrowSide(ArrowSide side, ArrowPosition position)
+{
+    const bool known = side >= ArrowSide::Top && side <= ArrowSide::Left &&
+                       position >= ArrowPosition::Start && position <= ArrowPosition::End;
+    if (!known || (d->side == side && d->position == position)) {
+        return;
+    }
+    d->side = side;
+    d->position = position;
+    d->place();
+    updateGeometry();
+}
+
+PointingWidget::ArrowSide PointingWidget::arrowSide() const
+{
+    return d->side;
+}
+
+PointingWidget::ArrowPosition PointingWidget::arrowPosition() const
+{
+    return d->position;
+}
+
+PointingWidget::ArrowSide PointingWidget::effectiveArrowSide() const
+{
+    return d->placement.side;
+}
+
+void PointingWidget::setArrowOffset(int pixels)
+{
+    if (d->offset == pixels) {
+        return;
+    }
+    d->offset = pixels;
+    d->place();
+}
+
+int PointingWidget::arrowOffset() const
+{
+    return d->offset;
+}
+
+OvFrame* PointingWidget::contentFrame() const
+{
+    return d->contentFrame;
+}
+
+QColor PointingWidget::backgroundColor() const
+{
+    return d->backgroundColor;
+}
+
+void PointingWidget::setBackgroundColor(const QColor& color)
+{
+    if (d->backgroundColor == color) {
+        return;
+    }
+    d->backgroundColor = color;
+    update();
+}
+
+QColor PointingWidget::borderColor() const
+{
+    return d->borderColor;
+}
+
+void PointingWidget::setBorderColor(const QColor& color)
+{
+    if (d->borderColor == color) {
+        return;
+    }
+    d->borderColor = color;
+    update();
+}
+
+int PointingWidget::borderWidth() const
+{
+    return d->shape.borderWidth;
+}
+
+void PointingWidget::setBorderWidth(int pixels)
+{
+    d->setShapeValue(d->shape.borderWidth, pixels, 100);
+}
+
+int PointingWidget::radius() const
+{
+    return d->shape.radius;
+}
+
+void PointingWidget::setRadius(int pixels)
+{
+    d->setShapeValue(d->shape.radius, pixels, 1000);
+}
+
+int PointingWidget::arrowWidth() const
+{
+    return d->shape.arrowWidth;
+}
+
+void PointingWidget::setArrowWidth(int pixels)
+{
+    d->setShapeValue(d->shape.arrowWidth, pixels, 1000);
+}
+
+int PointingWidget::arrowLength() const
+{
+    return d->shape.arrowLength;
+}
+
+void PointingWidget::setArrowLength(int pixels)
+{
+    d->setShapeValue(d->shape.arrowLength, pixels, 1000);
+}
+
+QSize PointingWidget::sizeHint() const
+{
+    return QWidget::sizeHint().expandedTo(minimumBubbleSize(d->shape, d->side));
+}
+
+QSize PointingWidget::minimumSizeHint() const
+{
+    return QWidget::minimumSizeHint().expandedTo(minimumBubbleSize(d->shape, d->side));
+}
+
+void PointingWidget::setVisible(bool visible)
+{
+    d->wanted = visible;
+    if (!visible || !d->waitsForParent()) {
+        QWidget::setVisible(visible);
+    }
+}
+
+bool PointingWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && windowType() == Qt::Popup) {
+        // While a pop-up is open it gets every press, also one beside the arrow that its mask leaves out.
+        const QPoint position = static_cast<QMouseEvent*>(event)->pos();
+        if (rect().contains(position) && !mask().contains(position)) {
+            event->accept();
+            close();
+            return true;
+        }
+    }
+
+    const bool result = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Resize:
+        d->place();
+        break;
+    case QEvent::LayoutRequest:
+        d->fit();
+        break;
+    case QEvent::Move:
+        if (!event->spontaneous() && d->sentTo != pos()) {
+            d->sentTo.reset();
+        }
+        break;
+    case QEvent::LayoutDirectionChange:
+        d->followDirection();
+        d->place();
+        break;
+    case QEvent::ParentChange:
+        d->parentChanged();
+        break;
+    case QEvent::Close:
+        // Closing a bubble that waits for its parent does not reach setVisible().
+        d->wanted = d->wanted && !event->isAccepted();
+        break;
+    default:
+        break;
+    }
+    return result;
+}
+
+void PointingWidget::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    const qreal scale = devicePixelRatioF();
+    const QPalette& colors = palette();
+    const QColor background =
+        d->backgroundColor.isValid() ? d->backgroundColor : colors.color(QPalette::Window);
+    QColor border = d->borderColor;
+    if (!border.isValid()) {
+        const QColor text = colors.color(QPalette::WindowText);
+        const auto between = [](int a, int b) { return (2 * a + b) / 3; };
+        border = QColor(between(background.red(), text.red()), between(background.green(), text.green()),
+                        between(background.blue(), text.blue()), background.alpha());
+    }
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(background);
+    const qreal penWidth = bubblePenWidth(d->shape, scale);
+    painter.setPen(penWidth > 0 ? QPen(border, penWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin)
+                                : QPen(Qt::NoPen));
+    painter.drawPath(bubblePath(d->placement, d->shape, scale));
+}
+
+void PointingWidget::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The last moment before the window appears: its content is polished now, and its place current.
+    d->sentTo.reset();
+    d->fit();
+}
