@@ -36,6 +36,13 @@ std::optional<QByteArray> contentsOf(const QString& style)
     return file.readAll();
 }
 
+/// What the gallery's own window adds to a built-in sheet.
+QByteArray windowSheet(const QString& style)
+{
+    QFile file(QStringLiteral(":/gallery/%1.qss").arg(style));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 } // namespace
 
 QString withAbsoluteUrls(const QString& sheet, const QString& folder)
@@ -122,7 +129,8 @@ void StyleController::reload()
 void StyleController::apply(const QByteArray& contents)
 {
     m_contents = contents;
-    qApp->setStyleSheet(
-        withAbsoluteUrls(QString::fromUtf8(contents), QFileInfo(pathOf(m_style)).absolutePath()));
+    const QString sheet =
+        withAbsoluteUrls(QString::fromUtf8(contents), QFileInfo(pathOf(m_style)).absolutePath());
+    qApp->setStyleSheet(sheet + QString::fromUtf8(windowSheet(m_style)));
     Q_EMIT styleApplied(m_style);
 }

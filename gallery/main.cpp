@@ -89,12 +89,18 @@ int main(int argc, char** argv)
     }
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    const QApplication application(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    // Qt takes "--style" for its own and would remove it.
+    int ownNameOnly = 1;
+    const QApplication application(ownNameOnly, argv);
     QApplication::setOrganizationName(QStringLiteral("UiComponents"));
     QApplication::setApplicationName(QStringLiteral("Gallery"));
     GalleryApplication::prepare();
 
-    const CommandLine line = CommandLine::parse(QApplication::arguments());
+    const CommandLine line = CommandLine::parse(arguments);
     if (!line.error.isEmpty()) {
         QTextStream(stderr) << line.error << '\n';
         return BadArguments;

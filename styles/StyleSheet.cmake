@@ -1,17 +1,13 @@
-# uic_style_sheet(<output> TITLE <text> PALETTE <file> PARTS <template...>)
+# uic_style_sheet(<output> TEMPLATE <file> TITLE <text> PALETTE <file> [PARTIAL])
 #
-# Joins the templates and fills the colours in: "@name@" stands for the colour that the palette's line
-# "name #rrggbb" gives. A name without a colour, and a colour that no template uses, stop the configuration,
-# so that the palettes of one design cannot drift apart.
+# Fills a template with colours: "@name@" stands for the colour that the palette's line "name #rrggbb" gives.
+# A name without a colour stops the configuration, and so does a colour that the template does not use,
+# unless it is a PARTIAL one: the palettes of one design cannot drift apart.
 function(uic_style_sheet output)
-    cmake_parse_arguments(arg "" "TITLE;PALETTE" "PARTS" ${ARGN})
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${arg_PALETTE}" ${arg_PARTS})
+    cmake_parse_arguments(arg "PARTIAL" "TEMPLATE;TITLE;PALETTE" "" ${ARGN})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${arg_PALETTE}" "${arg_TEMPLATE}")
 
-    set(sheet "")
-    foreach(part IN LISTS arg_PARTS)
-        file(READ "${part}" text)
-        string(APPEND sheet "${text}")
-    endforeach()
+    file(READ "${arg_TEMPLATE}" sheet)
     string(REPLACE "@title@" "${arg_TITLE}" sheet "${sheet}")
 
     file(STRINGS "${arg_PALETTE}" lines REGEX "^[A-Za-z]+ +#")
@@ -21,7 +17,7 @@ function(uic_style_sheet output)
             message(FATAL_ERROR "${arg_PALETTE}: \"${line}\" is not a name and a colour")
         endif()
         string(FIND "${sheet}" "@${CMAKE_MATCH_1}@" position)
-        if(position EQUAL -1)
+        if(position EQUAL -1 AND NOT arg_PARTIAL)
             message(FATAL_ERROR "${arg_PALETTE}: nothing uses \"${CMAKE_MATCH_1}\"")
         endif()
         string(REPLACE "@${CMAKE_MATCH_1}@" "${CMAKE_MATCH_2}" sheet "${sheet}")

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void languageRebuildsThePage();
     void directionRebuildsThePage();
     void styleSwitch();
+    void styleSheetNamesExist();
     void unreadableStyleFile();
     void cancelledStyleFile();
     void scaleAsksForARestart();
@@ -227,6 +229,31 @@ void tst_MainWindow::styleSwitch()
     QVERIFY(m_window->setStyleName(sheet.fileName()));
     QCOMPARE(m_window->state().style, sheet.fileName());
     QVERIFY(button("styleSwitch", QString::fromUtf8("File…"))->isChecked());
+}
+
+// A rule about a name that no widget has is dead.
+void tst_MainWindow::styleSheetNamesExist()
+{
+    QFile sheet(":/gallery/dark.qss");
+    QVERIFY(sheet.open(QIODevice::ReadOnly));
+    QSet<QString> unseen;
+    auto names = QRegularExpression("^#([A-Za-z]+)", QRegularExpression::MultilineOption)
+                     .globalMatch(QString::fromUtf8(sheet.readAll()));
+    while (names.hasNext()) {
+        unseen.insert(names.next().captured(1));
+    }
+    QVERIFY(unseen.size() > 10);
+
+    open();
+    const QVector<PageInfo> pages = PageRegistry::pages();
+    for (const PageInfo& page : pages) {
+        m_window->showPage(page.id);
+        const auto widgets = m_window->findChildren<QWidget*>();
+        for (const QWidget* widget : widgets) {
+            unseen.remove(widget->objectName());
+        }
+    }
+    QVERIFY2(unseen.isEmpty(), qPrintable(unseen.values().join(", ")));
 }
 
 void tst_MainWindow::unreadableStyleFile()

@@ -95,6 +95,8 @@ void tst_StyleController::builtIn()
     QCOMPARE(applied.count(), 1);
     QCOMPARE(qApp->styleSheet().isEmpty(), style == "none");
     QVERIFY(style == "none" || QFile::exists(":/styles/" + style + ".qss"));
+    // With what the gallery's own window adds.
+    QCOMPARE(qApp->styleSheet().contains("#specimenCard"), style != "none");
 }
 
 void tst_StyleController::theSameStyleAgain()
@@ -112,6 +114,7 @@ void tst_StyleController::aFile()
     QVERIFY(controller.setStyle(path("own.qss")));
     QCOMPARE(controller.style(), path("own.qss"));
     QVERIFY(labelWidth() >= 111);
+    QCOMPARE(qApp->styleSheet(), QString("QLabel { min-width: 111px; }"));
 }
 
 void tst_StyleController::aFileThatIsNotThere()
