@@ -8,7 +8,7 @@ uic_packages()
     for purpose in "$@"; do
         case $purpose in
             build)
-                echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev ;;
+                echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools ;;
             run | unit | gallery)
                 echo fonts-dejavu-core ;;
             desktop)

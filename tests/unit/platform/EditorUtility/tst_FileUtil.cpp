@@ -498,7 +498,7 @@ void tst_FileUtil::readOnlyFileSystem()
         }
     }
     if (folder.isEmpty()) {
-        QSKIP("no read-only file system is mounted, and none can be");
+        QSKIP("only where a read-only file system is mounted, or root may mount one");
     }
     const bool canRead = FileUtil::isOperationAllowed(folder, Read);
     const bool canWrite = FileUtil::isOperationAllowed(folder, Write);
