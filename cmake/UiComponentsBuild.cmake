@@ -49,7 +49,12 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
 endif()
 if(UNIX AND NOT APPLE AND NOT UICOMPONENTS_SANITIZE)
     # A class with Q_OBJECT whose meta code is missing would otherwise link into a shared library.
-    set(UICOMPONENTS_LINK_STRICT -Wl,--no-undefined)
+    set(UICOMPONENTS_LINK_OPTIONS -Wl,--no-undefined)
+    # A library uses its own exported classes directly instead of looking them up by name while it is
+    # loaded. Its users must then be compiled with -fPIC, or they keep copies of the meta-objects; a Qt
+    # built with reduced relocations demands that for its own sake, and asks for it here.
+    list(APPEND UICOMPONENTS_LINK_OPTIONS
+        $<$<IN_LIST:-fPIC,$<TARGET_PROPERTY:Qt5::Core,INTERFACE_COMPILE_OPTIONS>>:-Wl,-Bsymbolic>)
 endif()
 
 # uic_library(<Name> PREFIX <prefix of target and file> NAMESPACE <exported namespace>
@@ -107,7 +112,7 @@ function(uic_library name)
         target_compile_features(${target} PUBLIC cxx_std_17)
     endforeach()
     set_target_properties(${flavours} PROPERTIES AUTOMOC OFF LINKER_LANGUAGE CXX)
-    target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_STRICT})
+    target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_OPTIONS})
     # While the major version is 0, a new minor version may break its users.
     set(soversion ${PROJECT_VERSION_MAJOR})
     if(soversion EQUAL 0)

@@ -2,6 +2,8 @@
 
 #include <gallery/CommandLine.h>
 
+Q_DECLARE_METATYPE(CommandLine::Action)
+
 class tst_CommandLine : public QObject
 {
     Q_OBJECT
@@ -115,8 +117,6 @@ void tst_CommandLine::argumentsLeadBack()
     QCOMPARE(again.language, line.language);
     QCOMPARE(again.direction, line.direction);
 }
-
-Q_DECLARE_METATYPE(CommandLine::Action)
 
 UIC_TEST_MAIN(tst_CommandLine)
 #include "tst_CommandLine.moc"
