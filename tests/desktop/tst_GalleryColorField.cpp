@@ -1,0 +1,151 @@
+#include "RealInput.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/ColorPickerButton.h>
+
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+#include <gallery/CommandLine.h>
+#include <gallery/GalleryApplication.h>
+#include <gallery/MainWindow.h>
+#include <gallery/Page.h>
+
+/**
+ * What a user does in the gallery's window: clicks the colour field, picks a colour in the dialog, sees the
+ * field change on the screen.
+ */
+class tst_GalleryColorField : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void pickedColourIsShown();
+    void escapeBringsTheColourBack();
+    void disabledFieldDoesNotAnswer();
+
+private:
+    QColor face() const { return RealInput::pixel(m_button, m_button->rect().center()); }
+    QColorDialog* dialog() const;
+    QColor clickBasicColour(QColorDialog* dialog, int row, int column) const;
+
+    std::unique_ptr<MainWindow> m_window;
+    ColorInputWidget* m_field = nullptr;
+    ColorInputWidget* m_disabledField = nullptr;
+    ColorPickerButton* m_button = nullptr;
+};
+
+void tst_GalleryColorField::initTestCase()
+{
+    GalleryApplication::prepare();
+}
+
+void tst_GalleryColorField::init()
+{
+    CommandLine start;
+    start.page = QStringLiteral("color-input");
+    m_window = std::make_unique<MainWindow>(start);
+    m_window->setGeometry(40, 40, 1100, 700);
+    QVERIFY(RealInput::showAndActivate(m_window.get()));
+
+    m_field = nullptr;
+    m_disabledField = nullptr;
+    const auto fields = m_window->page()->findChildren<ColorInputWidget*>();
+    for (ColorInputWidget* field : fields) {
+        (field->isEnabled() ? m_field : m_disabledField) = field;
+    }
+    QVERIFY(m_field && m_disabledField);
+    m_button = qobject_cast<ColorPickerButton*>(m_field->anchorWidget());
+    QVERIFY(m_button);
+    // The window is on the screen, with the field in its first colour.
+    QTRY_COMPARE(face(), *m_button->color());
+}
+
+void tst_GalleryColorField::cleanup()
+{
+    m_window.reset();
+}
+
+QColorDialog* tst_GalleryColorField::dialog() const
+{
+    auto* found = qobject_cast<QColorDialog*>(QApplication::activeWindow());
+    return found && found->isVisible() ? found : nullptr;
+}
+
+/// Clicks one of the basic colours of Qt's dialog and returns what the screen showed there before. Invalid
+/// when it could not be clicked.
+QColor tst_GalleryColorField::clickBasicColour(QColorDialog* dialog, int row, int column) const
+{
+    constexpr QSize Cell(28, 24);
+    const auto children = dialog->findChildren<QWidget*>();
+    for (const QWidget* child : children) {
+        if (child->inherits("QWellArray")) {
+            const QPoint middle(column * Cell.width() + Cell.width() / 2,
+                                row * Cell.height() + Cell.height() / 2);
+            const QColor shown = RealInput::pixel(child, middle);
+            return RealInput::click(child, middle) ? shown : QColor();
+        }
+    }
+    return {};
+}
+
+void tst_GalleryColorField::pickedColourIsShown()
+{
+    const QColor before = *m_button->color();
+    QSignalSpy changed(m_field, &ColorInputWidget::colorChanged);
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(dialog());
+    QVERIFY(m_button->isDown());
+
+    const QColor picked = clickBasicColour(dialog(), 3, 2);
+    QVERIFY(picked.isValid());
+    QVERIFY(picked != before);
+    // The field follows while the dialog is still open.
+    QTRY_COMPARE(face(), picked);
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field-picking")));
+
+    QVERIFY(RealInput::click(dialog()->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)));
+    QTRY_VERIFY(m_window->isActiveWindow());
+    QTRY_VERIFY(!m_button->isDown());
+    QCOMPARE(*m_button->color(), picked);
+    QTRY_COMPARE(face(), picked);
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field")));
+}
+
+void tst_GalleryColorField::escapeBringsTheColourBack()
+{
+    const QColor before = *m_button->color();
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(dialog());
+    const QColor tried = clickBasicColour(dialog(), 4, 5);
+    QVERIFY(tried.isValid() && tried != before);
+    QTRY_COMPARE(face(), tried);
+
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QTRY_VERIFY(m_window->isActiveWindow());
+    QTRY_COMPARE(face(), before);
+    QCOMPARE(*m_button->color(), before);
+    QVERIFY(!m_button->isDown());
+}
+
+void tst_GalleryColorField::disabledFieldDoesNotAnswer()
+{
+    QVERIFY(RealInput::click(m_disabledField->anchorWidget()));
+    // Clicked afterwards, so that the first click has been handled when this one opens the dialog.
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(dialog());
+    QVERIFY(m_button->isDown());
+    QVERIFY(!qobject_cast<ColorPickerButton*>(m_disabledField->anchorWidget())->isDown());
+    QCOMPARE(m_window->findChildren<QColorDialog*>().size(), 1);
+}
+
+UIC_TEST_MAIN(tst_GalleryColorField)
+#include "tst_GalleryColorField.moc"
