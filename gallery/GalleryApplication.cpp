@@ -10,6 +10,7 @@ static void initResources()
     Q_INIT_RESOURCE(styles);
     Q_INIT_RESOURCE(gallery_styles);
     Q_INIT_RESOURCE(translations);
+    Q_INIT_RESOURCE(gallery);
 }
 
 void GalleryApplication::prepare()

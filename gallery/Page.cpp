@@ -69,20 +69,20 @@ Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
 
     m_properties = new PropertyPanel;
     m_signalLog = new SignalLogView;
-    auto* inspector = new QSplitter(Qt::Horizontal);
-    inspector->setObjectName(QStringLiteral("inspector"));
-    inspector->setChildrenCollapsible(false);
-    inspector->addWidget(m_properties);
-    inspector->addWidget(m_signalLog);
-    inspector->setSizes({1, 1});
-    inspector->setStretchFactor(0, 1);
-    inspector->setStretchFactor(1, 1);
+    m_inspector = new QSplitter(Qt::Horizontal);
+    m_inspector->setObjectName(QStringLiteral("inspector"));
+    m_inspector->setChildrenCollapsible(false);
+    m_inspector->addWidget(m_properties);
+    m_inspector->addWidget(m_signalLog);
+    connect(m_inspector, &QSplitter::splitterMoved, this, [this] { m_isSplitByUser = true; });
+    m_inspector->setStretchFactor(0, 1);
+    m_inspector->setStretchFactor(1, 1);
 
     m_halves = new QSplitter(Qt::Vertical, this);
     m_halves->setObjectName(QStringLiteral("pageHalves"));
     m_halves->setChildrenCollapsible(false);
     m_halves->addWidget(specimenArea);
-    m_halves->addWidget(inspector);
+    m_halves->addWidget(m_inspector);
     connect(m_halves, &QSplitter::splitterMoved, this, [this] { m_isSplitByUser = true; });
     m_halves->installEventFilter(this);
     m_specimens->installEventFilter(this);
@@ -127,6 +127,7 @@ void Page::fitSpecimens()
                                                         : m_specimens->sizeHint().height();
     const int upper = qMin(wanted, qRound(available * LargestSpecimenShare));
     m_halves->setSizes({upper, available - upper});
+    m_inspector->setSizes({m_inspector->width() / 2, m_inspector->width() / 2});
 }
 
 QFrame* Page::makeCard(const char* twin, const QString& title)

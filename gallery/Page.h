@@ -100,6 +100,7 @@ private:
     QFrame* m_disabledCard = nullptr;
     QFrame* m_demonstrationCard = nullptr;
     QSplitter* m_halves = nullptr;
+    QSplitter* m_inspector = nullptr;
     QWidget* m_specimens = nullptr;
     PropertyPanel* m_properties = nullptr;
     SignalLogView* m_signalLog = nullptr;

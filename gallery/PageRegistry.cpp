@@ -3,9 +3,18 @@
 #include "pages/BoxLayoutPage.h"
 #include "pages/ColorInputPage.h"
 #include "pages/ColorPickerButtonPage.h"
+#include "pages/CustomizationPage.h"
+#include "pages/FormatFileSizePage.h"
 #include "pages/FramePage.h"
+#include "pages/PathPage.h"
+#include "pages/PixmapWidgetPage.h"
+#include "pages/PrivacyAccessPage.h"
 #include "pages/PropertyProviderPage.h"
+#include "pages/QmlFocusPage.h"
+#include "pages/SchedulerPage.h"
+#include "pages/SettingsPage.h"
 #include "pages/StyleHintsPage.h"
+#include "pages/TesselLineEditPage.h"
 
 #include <QCoreApplication>
 
@@ -14,8 +23,14 @@
 QVector<PageInfo> PageRegistry::pages()
 {
     QVector<PageInfo> all = {
-        ColorPickerButtonPage::info(), ColorInputPage::info(), FramePage::info(),
-        BoxLayoutPage::info(),         StyleHintsPage::info(), PropertyProviderPage::info(),
+        ColorPickerButtonPage::info(), ColorInputPage::info(),
+        TesselLineEditPage::info(),    FramePage::info(),
+        BoxLayoutPage::info(),         StyleHintsPage::info(),
+        PropertyProviderPage::info(),  PixmapWidgetPage::info(),
+        FormatFileSizePage::info(),    PathPage::info(),
+        SettingsPage::info(),          SchedulerPage::info(),
+        CustomizationPage::info(),     PrivacyAccessPage::info(),
+        QmlFocusPage::info(),
     };
     std::stable_sort(all.begin(), all.end(),
                      [](const PageInfo& one, const PageInfo& other) { return one.group < other.group; });

@@ -5,6 +5,7 @@
 
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
+#include <WidgetToolkit/OvGridLayout.h>
 
 namespace {
 
@@ -39,6 +40,19 @@ void fillWithItems(OvFrame* frame, LayoutHelpers::SpacerPolicy policy, int numbe
     }
 }
 
+OvFrame* makeGrid(QWidget* parent)
+{
+    OvFrame* const frame = makeFrame(parent);
+    const auto tile = [frame](const char* text) { return new SampleTile(QString::fromUtf8(text), frame); };
+    auto* grid = new OvGridLayout(frame);
+    grid->addRow({{tile("1 + 2"), LayoutHelpers::Alignment::Default},
+                  LayoutHelpers::CellModifier::SpanPrevious,
+                  {tile("3"), LayoutHelpers::Alignment::Right}},
+                 0);
+    grid->addRow({tile("4"), tile("5"), tile("6")}, 0);
+    return frame;
+}
+
 OvFrame* makeColumn(QWidget* parent)
 {
     OvFrame* const frame = makeFrame(parent);
@@ -58,18 +72,20 @@ PageInfo BoxLayoutPage::info()
             PageGroup::Layout,
             {tr("spacer"), tr("stretch"), tr("row"), tr("column"), QStringLiteral("autoFill")},
             {QStringLiteral("OvBoxLayout"), QStringLiteral("OvHBoxLayout"), QStringLiteral("OvVBoxLayout"),
-             QStringLiteral("LayoutHelpers")},
+             QStringLiteral("OvGridLayout"), QStringLiteral("LayoutHelpers")},
             &createPage<BoxLayoutPage>};
 }
 
 BoxLayoutPage::BoxLayoutPage(QWidget* parent)
     : Page(info(),
            tr("A box layout takes its owner's children in the order in which they were made, or a list of "
-              "items: widgets with a stretch factor, and spacers that stretch or keep their size."),
+              "items: widgets with a stretch factor, and spacers that stretch or keep their size. A grid is "
+              "filled row by row."),
            parent)
 {
     addTwins<OvFrame>(tr("autoFill() and a stretch behind"), &makeFilled);
     const auto items = addTwins<OvFrame>(tr("addItems() with a spacer"), &makeFrame);
+    addTwins<OvFrame>(tr("A grid: one cell spans two, one is aligned right"), &makeGrid);
     addTwins<OvFrame>(tr("A column"), &makeColumn);
 
     struct Spacer
