@@ -110,8 +110,10 @@ void Page::describeStyling(QWidget* widget, const QString& sentence, const QStri
 
 bool Page::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool hasNewHeight = event->type() == QEvent::LayoutRequest && watched == m_specimens;
-    if (hasNewHeight || (event->type() == QEvent::Resize && watched == m_halves)) {
+    if (watched == m_specimens && event->type() == QEvent::LayoutRequest) {
+        // Not before the specimens' own layout has answered the request.
+        QMetaObject::invokeMethod(this, &Page::fitSpecimens, Qt::QueuedConnection);
+    } else if (watched == m_halves && event->type() == QEvent::Resize) {
         fitSpecimens();
     }
     return QFrame::eventFilter(watched, event);
