@@ -1,13 +1,16 @@
 #include "PageRegistry.h"
 
 #include "pages/BoxLayoutPage.h"
+#include "pages/ColorHintPage.h"
 #include "pages/ColorInputPage.h"
 #include "pages/ColorPickerButtonPage.h"
 #include "pages/CustomizationPage.h"
 #include "pages/FormatFileSizePage.h"
 #include "pages/FramePage.h"
+#include "pages/HighlightFramePage.h"
 #include "pages/PathPage.h"
 #include "pages/PixmapWidgetPage.h"
+#include "pages/PointingPage.h"
 #include "pages/PrivacyAccessPage.h"
 #include "pages/PropertyProviderPage.h"
 #include "pages/QmlFocusPage.h"
@@ -15,6 +18,7 @@
 #include "pages/SettingsPage.h"
 #include "pages/StyleHintsPage.h"
 #include "pages/TesselLineEditPage.h"
+#include "pages/WorkaroundPage.h"
 
 #include <QCoreApplication>
 
@@ -23,13 +27,29 @@
 QVector<PageInfo> PageRegistry::pages()
 {
     QVector<PageInfo> all = {
-        ColorPickerButtonPage::info(), ColorInputPage::info(),
-        TesselLineEditPage::info(),    FramePage::info(),
-        BoxLayoutPage::info(),         StyleHintsPage::info(),
-        PropertyProviderPage::info(),  PixmapWidgetPage::info(),
-        FormatFileSizePage::info(),    PathPage::info(),
-        SettingsPage::info(),          SchedulerPage::info(),
-        CustomizationPage::info(),     PrivacyAccessPage::info(),
+        // colour
+        ColorPickerButtonPage::info(),
+        ColorInputPage::info(),
+        // inputs
+        TesselLineEditPage::info(),
+        // layout and styling
+        FramePage::info(),
+        BoxLayoutPage::info(),
+        StyleHintsPage::info(),
+        ColorHintPage::info(),
+        PropertyProviderPage::info(),
+        // bubbles and frames
+        PointingPage::info(),
+        WorkaroundPage::info(),
+        HighlightFramePage::info(),
+        PixmapWidgetPage::info(),
+        // services
+        FormatFileSizePage::info(),
+        PathPage::info(),
+        SettingsPage::info(),
+        SchedulerPage::info(),
+        CustomizationPage::info(),
+        PrivacyAccessPage::info(),
         QmlFocusPage::info(),
     };
     std::stable_sort(all.begin(), all.end(),

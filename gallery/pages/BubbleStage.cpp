@@ -1,0 +1,59 @@
+#include "BubbleStage.h"
+
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvFrame.h>
+
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+constexpr int MarkRadius = 4;
+constexpr int TextMargin = 8;
+
+} // namespace
+
+void fillBubble(PointingWidget* bubble, const QString& text)
+{
+    auto* layout = new OvVBoxLayout(bubble->contentFrame());
+    layout->addWidget(new QLabel(text, bubble->contentFrame()));
+    bubble->contentFrame()->setLayoutMargin(TextMargin);
+}
+
+BubbleStage::BubbleStage(const QString& text, const QPointF& spot, const QSize& smallest, QWidget* parent)
+    : QFrame(parent)
+    , m_spot(spot)
+    , m_bubble(new PointingWidget(this))
+{
+    setObjectName(QStringLiteral("bubbleStage"));
+    setFrameShape(QFrame::StyledPanel);
+    setMinimumSize(smallest);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_bubble->setWindowFlags(Qt::Widget);
+    fillBubble(m_bubble, text);
+    m_bubble->show();
+}
+
+BubbleStage::~BubbleStage() = default;
+
+QPoint BubbleStage::spot() const
+{
+    const double x = layoutDirection() == Qt::RightToLeft ? 1 - m_spot.x() : m_spot.x();
+    return mapToGlobal(QPoint(qRound(width() * x), qRound(height() * m_spot.y())));
+}
+
+void BubbleStage::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QPointF(mapFromGlobal(spot())) + QPointF(0.5, 0.5), MarkRadius, MarkRadius);
+}
+
+void BubbleStage::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    m_bubble->pointTo(spot());
+}
