@@ -1,0 +1,150 @@
+#include "OvComboBox.h"
+
+#include "PopupPlacement.h"
+#include "Util.h"
+
+#include <QAbstractItemView>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace {
+
+constexpr int usualContentsLength = 4; // characters that stay legible in a narrow panel
+constexpr int iconGap = 4;             // between icon and text, as QStyle draws the label
+
+int roomForIcon(const QComboBox* box)
+{
+    for (int i = 0; i < box->count(); ++i) {
+        if (!box->itemIcon(i).isNull()) {
+            return box->iconSize().width() + iconGap;
+        }
+    }
+    return 0;
+}
+
+// Looks no further than it has to: a list may be long.
+int widestText(const QComboBox* box, const QFontMetrics& metrics, int enough)
+{
+    int widest = metrics.horizontalAdvance(box->placeholderText());
+    for (int i = 0; i < box->count() && widest < enough; ++i) {
+        widest = qMax(widest, metrics.horizontalAdvance(box->itemText(i)));
+    }
+    return qMin(widest, enough);
+}
+
+} // namespace
+
+OvComboBox::OvComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    publishPopupVisible(false);
+}
+
+OvComboBox::~OvComboBox() = default;
+
+void OvComboBox::showPopup()
+{
+    // The container, which the pop-up lives in, outlasts a change of view but is made on demand.
+    popup()->installEventFilter(this);
+    QComboBox::showPopup();
+}
+
+void OvComboBox::hidePopup()
+{
+    QComboBox::hidePopup();
+    publishPopupVisible(popup()->isVisible());
+}
+
+QSize OvComboBox::minimumSizeHint() const
+{
+    // Not QComboBox's, which is cached and which a swallowed change of font or style would leave stale.
+    const QFontMetrics metrics(fontMetrics());
+    const int length = minimumContentsLength() > 0 ? minimumContentsLength() : usualContentsLength;
+    const int room = length * metrics.horizontalAdvance(QLatin1Char('X'));
+    const int icon = roomForIcon(this);
+    const int iconHeight = icon > 0 ? iconSize().height() : 0;
+    const QSize contents(widestText(this, metrics, room) + icon,
+                         qMax(qMax(metrics.height(), 14), iconHeight) + 2);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+}
+
+bool OvComboBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == popup()) {
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            placePopup();
+            publishPopupVisible(true);
+        } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            publishPopupVisible(false);
+        }
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+void OvComboBox::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QStylePainter painter(this);
+    painter.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (currentIndex() < 0 && !placeholderText().isEmpty()) {
+        option.palette.setBrush(QPalette::ButtonText, option.palette.brush(QPalette::PlaceholderText));
+        option.currentText = placeholderText();
+    }
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + iconGap;
+    const int margins = 2; // styles leave a pixel on both sides of the text
+    option.currentText =
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width() - icon - margins);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void OvComboBox::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus()) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+QWidget* OvComboBox::popup() const
+{
+    return view()->parentWidget();
+}
+
+void OvComboBox::placePopup()
+{
+    QWidget* const window = popup();
+    const QRect box(mapToGlobal(QPoint(0, 0)), size());
+    const QScreen* screen = QGuiApplication::screenAt(box.center());
+    if (!screen) {
+        screen = window->screen();
+    }
+    QAbstractItemView* const list = view();
+    const int around = window->width() - list->viewport()->width();
+    const int scrollBar =
+        list->verticalScrollBar()->isVisibleTo(list) ? 0 : list->verticalScrollBar()->sizeHint().width();
+    const int items = list->sizeHintForColumn(modelColumn());
+    const bool scrolls = list->model()->rowCount(list->rootIndex()) > maxVisibleItems();
+    const int wanted = items + around + (scrolls ? scrollBar : 0);
+    window->setGeometry(PopupPlacement::widened(window->geometry(), wanted, box, layoutDirection(),
+                                                screen->availableGeometry()));
+}
+
+void OvComboBox::publishPopupVisible(bool visible)
+{
+    Util::applyProperty(this, "popupVisible", visible);
+}

@@ -1,0 +1,117 @@
+#include "OvDoubleSlider.h"
+
+#include "StepMapping.h"
+
+#include <QPointer>
+
+#include <cmath>
+#include <optional>
+
+class OvDoubleSlider::Private
+{
+public:
+    explicit Private(OvDoubleSlider* slider)
+        : q(slider)
+    {
+    }
+
+    void takeStep();
+    void deriveValue();
+    void announce();
+
+    OvDoubleSlider* const q;
+    double multiplier = 1.0;
+    StepMapping::Scale scale;
+    std::optional<double> requested; // what setDoubleValue() was given, if no step was taken since
+    double value = 0.0;
+    double announced = 0.0;
+};
+
+void OvDoubleSlider::Private::takeStep()
+{
+    // The step was taken for the sake of the value: the value, which may lie beside it, stays.
+    if (scale.stepOf(value) == q->value()) {
+        return;
+    }
+    requested.reset();
+    value = scale.valueOf(q->value());
+    if (q->signalsBlocked()) {
+        announced = value;
+    }
+}
+
+void OvDoubleSlider::Private::deriveValue()
+{
+    if (!requested) {
+        value = scale.valueOf(q->value());
+        announce();
+        return;
+    }
+    value = qBound(scale.valueOf(q->minimum()), *requested, scale.valueOf(q->maximum()));
+    const QPointer<OvDoubleSlider> guard(q);
+    q->setValue(scale.stepOf(value));
+    if (guard) {
+        announce();
+    }
+}
+
+void OvDoubleSlider::Private::announce()
+{
+    if (value != announced) {
+        announced = value;
+        Q_EMIT q->doubleValueChanged(value);
+    }
+}
+
+OvDoubleSlider::OvDoubleSlider(QWidget* parent)
+    : OvCustomSlider(parent)
+    , d(std::make_unique<Private>(this))
+{
+    // Not from sliderChange(): behind that call QAbstractSlider still needs a living slider.
+    connect(this, &QAbstractSlider::valueChanged, this, [this] { d->announce(); });
+}
+
+OvDoubleSlider::~OvDoubleSlider() = default;
+
+double OvDoubleSlider::multiplier() const
+{
+    return d->multiplier;
+}
+
+void OvDoubleSlider::setMultiplier(double multiplier)
+{
+    if (multiplier == d->multiplier || !StepMapping::isMultiplier(multiplier)) {
+        return;
+    }
+    d->multiplier = multiplier;
+    d->scale = StepMapping::Scale(multiplier);
+    const QPointer<OvDoubleSlider> guard(this);
+    d->deriveValue();
+    if (guard && d->multiplier == multiplier) {
+        Q_EMIT multiplierChanged(multiplier);
+    }
+}
+
+double OvDoubleSlider::doubleValue() const
+{
+    return d->value;
+}
+
+void OvDoubleSlider::setDoubleValue(double value)
+{
+    if (std::isnan(value)) {
+        return;
+    }
+    d->requested = value + 0.0; // no negative zero
+    d->deriveValue();
+}
+
+void OvDoubleSlider::sliderChange(SliderChange change)
+{
+    OvCustomSlider::sliderChange(change);
+    if (change == SliderValueChange) {
+        d->takeStep();
+    } else if (change == SliderRangeChange && d->requested) {
+        d->deriveValue();
+    }
+}

@@ -1,0 +1,128 @@
+#include "OvDoubleSpinBox.h"
+
+#include "SpinBoxInput.h"
+
+#include <QPointer>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace {
+
+bool isDotOrComma(QChar character)
+{
+    return character == QLatin1Char('.') || character == QLatin1Char(',');
+}
+
+} // namespace
+
+OvDoubleSpinBox::OvDoubleSpinBox(QWidget* parent)
+    : QDoubleSpinBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+OvDoubleSpinBox::~OvDoubleSpinBox() = default;
+
+void OvDoubleSpinBox::setBothDecimalMarksAccepted(bool accepted)
+{
+    if (m_bothDecimalMarksAccepted == accepted) {
+        return;
+    }
+    m_bothDecimalMarksAccepted = accepted;
+    if (isGroupSeparatorShown()) {
+        setValue(value());
+    }
+}
+
+void OvDoubleSpinBox::setDecimals(int decimals)
+{
+    const int before = this->decimals();
+    const QPointer<OvDoubleSpinBox> guard(this);
+    QDoubleSpinBox::setDecimals(decimals);
+    if (guard && this->decimals() != before) {
+        Q_EMIT decimalsChanged(this->decimals());
+    }
+}
+
+QValidator::State OvDoubleSpinBox::validate(QString& input, int& pos) const
+{
+    if (!m_bothDecimalMarksAccepted) {
+        return QDoubleSpinBox::validate(input, pos);
+    }
+    const QString given = withLocaleMark(input);
+    QString text = given;
+    const QValidator::State state = QDoubleSpinBox::validate(text, pos);
+    if (text != given) {
+        // The base drops blanks, and a mark typed onto a mark. The one that was there stays.
+        const auto typed = std::find_if(input.cbegin(), input.cend(), [this](QChar c) { return isMark(c); });
+        input = typed == input.cend() ? text : withMark(text, *typed);
+    }
+    return state;
+}
+
+double OvDoubleSpinBox::valueFromText(const QString& text) const
+{
+    return QDoubleSpinBox::valueFromText(m_bothDecimalMarksAccepted ? withLocaleMark(text) : text);
+}
+
+QString OvDoubleSpinBox::textFromValue(double value) const
+{
+    QString text = QDoubleSpinBox::textFromValue(value);
+    if (m_bothDecimalMarksAccepted && isDotOrComma(locale().groupSeparator())) {
+        text.remove(locale().groupSeparator());
+    }
+    return text;
+}
+
+void OvDoubleSpinBox::fixup(QString& input) const
+{
+    // The base removes group separators, which would turn "1,5" into 15.
+    if (!m_bothDecimalMarksAccepted || !isDotOrComma(locale().groupSeparator())) {
+        QDoubleSpinBox::fixup(input);
+    }
+}
+
+void OvDoubleSpinBox::keyPressEvent(QKeyEvent* event)
+{
+    if (SpinBoxInput::isCommit(event)) {
+        SpinBoxInput::commit(this, lineEdit(), event);
+    } else {
+        QDoubleSpinBox::keyPressEvent(event);
+    }
+}
+
+void OvDoubleSpinBox::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus()) {
+        QDoubleSpinBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+QString OvDoubleSpinBox::withLocaleMark(const QString& text) const
+{
+    return withMark(text, locale().decimalPoint());
+}
+
+QString OvDoubleSpinBox::withMark(const QString& text, QChar mark) const
+{
+    if (!specialValueText().isEmpty() && text == specialValueText()) {
+        return text;
+    }
+    QString result = text;
+    const int from = text.startsWith(prefix()) ? prefix().size() : 0;
+    const int to = text.endsWith(suffix()) ? text.size() - suffix().size() : text.size();
+    for (int i = from; i < to; ++i) {
+        if (isMark(result.at(i))) {
+            result[i] = mark;
+        }
+    }
+    return result;
+}
+
+bool OvDoubleSpinBox::isMark(QChar character) const
+{
+    return isDotOrComma(character) || character == locale().decimalPoint();
+}

@@ -1,0 +1,31 @@
+#include "OvSpinBox.h"
+
+#include "SpinBoxInput.h"
+
+#include <QWheelEvent>
+
+OvSpinBox::OvSpinBox(QWidget* parent)
+    : QSpinBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+OvSpinBox::~OvSpinBox() = default;
+
+void OvSpinBox::keyPressEvent(QKeyEvent* event)
+{
+    if (SpinBoxInput::isCommit(event)) {
+        SpinBoxInput::commit(this, lineEdit(), event);
+    } else {
+        QSpinBox::keyPressEvent(event);
+    }
+}
+
+void OvSpinBox::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus()) {
+        QSpinBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+// Internal to WidgetToolkit: the input habits that OvSpinBox and OvDoubleSpinBox share.
+
+class QAbstractSpinBox;
+class QKeyEvent;
+class QLineEdit;
+
+namespace SpinBoxInput {
+
+/// True for Enter and Return.
+bool isCommit(const QKeyEvent* event);
+
+/// Does what QAbstractSpinBox does on Enter, with two differences: the value is announced only if the
+/// text changed it, and @p box may be deleted by any listener. @p edit is its line edit.
+void commit(QAbstractSpinBox* box, QLineEdit* edit, QKeyEvent* event);
+
+} // namespace SpinBoxInput
