@@ -1,9 +1,14 @@
 #include "TestMain.h"
 
+#include <DesignElements/TesselLineEdit.h>
+#include <EditorWidgets/PointingWidget.h>
+#include <EditorWidgets/Workaround.h>
+#include <GuiHelper/HighlightFrame.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
+#include <WidgetToolkit/OvPixmapWidget.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QCheckBox>
@@ -165,6 +170,14 @@ QDialog* makeDialog(QWidget* parent)
     return dialog;
 }
 
+PointingWidget* makeBubble(QWidget* parent)
+{
+    auto* bubble = new PointingWidget(parent);
+    bubble->setWindowFlags(Qt::Widget);
+    (new OvVBoxLayout(bubble->contentFrame()))->addWidget(new QLabel(QStringLiteral("Text")));
+    return bubble;
+}
+
 /// A window for one child, without a layout and so without the size hints that the platform cannot take.
 class Host : public QWidget
 {
@@ -214,10 +227,15 @@ QMainWindow* makeEverything()
                                      new ColorInputWidget(body, QColor()),
                                      make<QDialogButtonBox>(body),
                                      new QTableWidget(2, 2, body),
-                                     makeDialog(body)};
+                                     makeDialog(body),
+                                     make<Orvane::Tessel::TesselLineEdit>(body),
+                                     make<OvPixmapWidget>(body),
+                                     makeBubble(body)};
     for (QWidget* widget : plain) {
         layout->addWidget(widget);
     }
+    // Owned by its target.
+    (new Orvane::Gui::HighlightFrame(body))->setParent(body);
     auto* splitter = new QSplitter(body);
     splitter->addWidget(new QLabel(splitter));
     splitter->addWidget(new QLabel(splitter));
@@ -324,6 +342,8 @@ private Q_SLOTS:
     void focusMovesNothing_data();
     void focusMovesNothing();
     void colorFieldTakesItsMetrics();
+    void bubbleTakesItsLook();
+    void outlineTakesItsLook();
     void droppedHintRestoresTheLook();
     void labelsShowTheirSurface();
 };
@@ -445,7 +465,8 @@ void tst_ReferenceStyles::selectorsNameWhatExists()
     QMenu menu;
     QWidgetList widgets = window->findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
     widgets << window.get() << &dialog << &menu;
-    QSet<QString> known = {QStringLiteral("QToolTip")};
+    // These two live only while they show.
+    QSet<QString> known = {QStringLiteral("QToolTip"), QStringLiteral("#tesselContextMenu")};
     for (const QWidget* widget : qAsConst(widgets)) {
         known.insert(QStringLiteral("#") + widget->objectName());
         for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass()) {
@@ -706,6 +727,38 @@ void tst_ReferenceStyles::colorFieldTakesItsMetrics()
     QCOMPARE(field->width(), 44);
 }
 
+void tst_ReferenceStyles::bubbleTakesItsLook()
+{
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    const QHash<QString, QColor> colors = paletteOf(styles.first());
+    Host host;
+    PointingWidget* const bubble = makeBubble(&host);
+    QVERIFY(host.present(bubble));
+    QCOMPARE(bubble->backgroundColor(), colors.value(QStringLiteral("popup")));
+    QCOMPARE(bubble->borderColor(), colors.value(QStringLiteral("border")));
+    QCOMPARE(bubble->radius(), 8);
+    QCOMPARE(bubble->contentFrame()->layoutMargin(), 12);
+    QCOMPARE(bubble->contentFrame()->layout()->contentsMargins(), QMargins(12, 12, 12, 12));
+    QCOMPARE(bubble->contentFrame()->layout()->spacing(), 8);
+    // The content shows the bubble's surface, not one of its own.
+    QCOMPARE(bubble->grab().toImage().pixelColor(bubble->contentFrame()->geometry().center() + QPoint(0, 12)),
+             colors.value(QStringLiteral("popup")));
+}
+
+void tst_ReferenceStyles::outlineTakesItsLook()
+{
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    Host host;
+    auto* target = new QLabel;
+    target->setMinimumSize(80, 40);
+    const Orvane::Gui::HighlightFrame outline(target);
+    QVERIFY(host.present(target));
+    const QImage picture = host.grab().toImage();
+    const QHash<QString, QColor> colors = paletteOf(styles.first());
+    QCOMPARE(picture.pixelColor(1, 20), colors.value(QStringLiteral("focus")));
+    QCOMPARE(picture.pixelColor(3, 20), colors.value(QStringLiteral("window")));
+}
+
 void tst_ReferenceStyles::droppedHintRestoresTheLook()
 {
     qApp->setStyleSheet(resourceSheet(styles.first()));
@@ -723,6 +776,7 @@ void tst_ReferenceStyles::labelsShowTheirSurface()
     qApp->setStyleSheet(resourceSheet(styles.first()));
     Host host;
     auto* surface = new QDialog;
+    Workaround::Ui::apply(surface);
     Util::applyProperty(surface, "roundedEdges", true);
     auto* layout = new QVBoxLayout(surface);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -737,10 +791,11 @@ void tst_ReferenceStyles::labelsShowTheirSurface()
         layout->addWidget(child);
     }
     QVERIFY(host.present(surface));
-    const QImage picture = surface->grab().toImage();
+    const QPoint besideTheCorner(-12, 2);
+    const QImage picture = host.grab().toImage();
     const QColor expected = paletteOf(styles.first()).value(QStringLiteral("popup"));
     for (const QWidget* child : children) {
-        QCOMPARE(picture.pixelColor(child->geometry().bottomRight() - QPoint(2, 0)), expected);
+        QCOMPARE(picture.pixelColor(child->geometry().topRight() + besideTheCorner), expected);
     }
 }
 
