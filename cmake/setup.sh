@@ -1,5 +1,5 @@
-# Sourced by ./run and ./test: the packages that they need, and how a build directory is set up.
-# The caller has changed into the root of the checkout.
+# Sourced by ./run, ./test and benchmarks/run: the packages that they need, and how a build directory is set
+# up. The caller has changed into the root of the checkout.
 
 # uic_packages <purpose...>: the Debian packages that each purpose needs, one a line.
 uic_packages()
@@ -15,6 +15,8 @@ uic_packages()
                 echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils ;;
             package)
                 echo fonts-dejavu-core pkg-config ;;
+            benchmarks)
+                echo fonts-dejavu-core libbenchmark-dev python3 ;;
             headers) ;;
             conventions)
                 echo fonts-dejavu-core python3 clang-format ;;
