@@ -18,8 +18,7 @@ QLayout* InstalledLayoutController::getLayout() const
 bool InstalledLayoutController::eventFilter(QObject* watched, QEvent* event)
 {
     const bool consumed = PropertyProviderBase::eventFilter(watched, event);
-    const bool metricsMayDiffer = event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish;
-    if (metricsMayDiffer && watched == parent()) {
+    if (watched == parent() && (isLayoutEvent(event) || event->type() == QEvent::Polish)) {
         applyLayoutMetrics();
     }
     return consumed;

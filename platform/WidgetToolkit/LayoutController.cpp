@@ -1,6 +1,9 @@
 #include "LayoutController.h"
 
+#include "LayoutMetricsWatch.h"
+
 #include <QBoxLayout>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLayout>
 
@@ -143,11 +146,15 @@ void LayoutController::applyLayoutMetrics()
     }
 }
 
+bool LayoutController::isLayoutEvent(const QEvent* event)
+{
+    return event->type() == QEvent::LayoutRequest || event->type() == LayoutMetricsWatch::eventType();
+}
+
 void LayoutController::set(std::optional<int>& value, int pixels)
 {
-    if (pixels < 0 || value == pixels) {
-        return;
+    if (pixels >= 0) {
+        value = pixels;
+        applyLayoutMetrics();
     }
-    value = pixels;
-    applyLayoutMetrics();
 }

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+class QEvent;
 class QLayout;
 
 /**
@@ -30,11 +31,13 @@ class QLayout;
  * | `layoutHorizontalSpacing` | pixels | a grid's gap between columns; a row's gap          |
  * | `layoutVerticalSpacing`   | pixels | a grid's gap between rows; a column's gap          |
  *
+ * Of a general property and one for a side, the one that the sheet names later wins on that side.
+ *
  * A property that was never set leaves the layout alone and reads what the layout has (0 without a
  * layout). A negative value is ignored. A value that was set holds: it is written again when the layout
- * is replaced or when code changes the layout's margins afterwards, because a sheet's values win over
- * code everywhere else too. Values that a sheet no longer sets keep their last value, as all
- * `qproperty-` values of Qt do.
+ * is replaced or when code changes the layout's metrics afterwards, because a sheet's values win over
+ * code everywhere else too: at once in the toolkit's own layouts, in others when Qt next lays them out.
+ * Values that a sheet no longer sets keep their last value, as all `qproperty-` values of Qt do.
  */
 class WIDGETTOOLKIT_EXPORT LayoutController
 {
@@ -68,6 +71,10 @@ protected:
 
     /// Writes every value that was set into the layout, where it differs. Cheap when nothing differs.
     void applyLayoutMetrics();
+
+    /// Whether @p event, sent to the widget whose layout is controlled, says that the layout's metrics may
+    /// be others now.
+    static bool isLayoutEvent(const QEvent* event);
 
 private:
     void set(std::optional<int>& value, int pixels);

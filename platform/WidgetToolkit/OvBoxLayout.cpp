@@ -1,11 +1,34 @@
 #include "OvBoxLayout.h"
 
+#include "LayoutMetricsWatch.h"
 #include "PropertyProviderBase.h"
 
 #include <QWidget>
 
+class OvBoxLayout::Private
+{
+public:
+    LayoutMetricsWatch metrics;
+};
+
+namespace {
+
+bool holds(const QLayout* layout, QWidget* widget)
+{
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem* const item = layout->itemAt(i);
+        if (item->widget() == widget || (item->layout() && holds(item->layout(), widget))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 OvBoxLayout::OvBoxLayout(Direction direction, QWidget* owner)
     : QBoxLayout(direction, owner)
+    , d(std::make_unique<Private>())
 {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(0);
@@ -21,7 +44,7 @@ OvBoxLayout* OvBoxLayout::autoFill()
     }
     const auto children = owner->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* child : children) {
-        if (!child->isWindow() && !qobject_cast<PropertyProviderBase*>(child) && indexOf(child) < 0) {
+        if (!child->isWindow() && !qobject_cast<PropertyProviderBase*>(child) && !holds(this, child)) {
             addWidget(child);
         }
     }
@@ -48,6 +71,12 @@ OvBoxLayout* OvBoxLayout::addItems(std::initializer_list<LayoutHelpers::BoxItem>
         }
     }
     return this;
+}
+
+void OvBoxLayout::invalidate()
+{
+    QBoxLayout::invalidate();
+    d->metrics.check(this, spacing(), spacing());
 }
 
 OvHBoxLayout::OvHBoxLayout(QWidget* owner)

@@ -16,10 +16,8 @@ QLayout* OvFrame::getLayout() const
 
 bool OvFrame::event(QEvent* event)
 {
-    // Components zero a layout's margins when they build it, which may be after the sheet was applied.
-    // Qt posts a layout request for every such change, and polishes before the first show.
-    const bool metricsMayDiffer = event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish;
-    if (metricsMayDiffer) {
+    // Qt polishes before the first show, and components may replace a layout after that.
+    if (isLayoutEvent(event) || event->type() == QEvent::Polish) {
         applyLayoutMetrics();
     }
     return QFrame::event(event);

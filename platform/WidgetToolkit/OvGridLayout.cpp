@@ -1,5 +1,7 @@
 #include "OvGridLayout.h"
 
+#include "LayoutMetricsWatch.h"
+
 #include <QWidget>
 
 class OvGridLayout::Private
@@ -7,6 +9,7 @@ class OvGridLayout::Private
 public:
     // QGridLayout counts a row as soon as something asks for it, and an empty grid has one already.
     int nextRow = 0;
+    LayoutMetricsWatch metrics;
 };
 
 namespace {
@@ -76,6 +79,12 @@ OvGridLayout* OvGridLayout::addRow(std::initializer_list<LayoutHelpers::GridItem
         column += span;
     }
     return this;
+}
+
+void OvGridLayout::invalidate()
+{
+    QGridLayout::invalidate();
+    d->metrics.check(this, horizontalSpacing(), verticalSpacing());
 }
 
 int OvGridLayout::beginRow(int flag)

@@ -44,6 +44,8 @@ public:
     /// other. A modifier behind a free cell, or as the first one, leaves its cell free.
     OvGridLayout* addRow(std::initializer_list<LayoutHelpers::GridItem> items, int flag);
 
+    void invalidate() override;
+
 private:
     int beginRow(int flag);
 

@@ -37,3 +37,13 @@ bool PropertyProviderBase::eventFilter(QObject* watched, QEvent* event)
     }
     return QWidget::eventFilter(watched, event);
 }
+
+bool PropertyProviderBase::event(QEvent* event)
+{
+    if (event->type() == QEvent::ParentAboutToChange && parent()) {
+        parent()->removeEventFilter(this);
+    } else if (event->type() == QEvent::ParentChange && parent()) {
+        parent()->installEventFilter(this);
+    }
+    return QWidget::event(event);
+}

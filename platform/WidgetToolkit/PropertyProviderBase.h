@@ -16,7 +16,7 @@
  * it, takes no space in a layout, is left out by OvBoxLayout::autoFill(), and never takes mouse or
  * focus. It is polished before its owner is first resized or painted, also when it is made after the
  * owner was polished, and again whenever the sheet changes, so that the first picture already shows the
- * sheet's values.
+ * sheet's values. Setting another parent gives it another owner.
  */
 class WIDGETTOOLKIT_EXPORT PropertyProviderBase : public QWidget
 {
@@ -31,4 +31,7 @@ public:
     void setVisible(bool visible) override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    bool event(QEvent* event) override;
 };

@@ -19,14 +19,18 @@ class QWidget;
 namespace Util {
 
 /// Gives @p widget the style variant @p hint: sets the dynamic property "styleHint", which a sheet
-/// selects with `[styleHint="error"]`, and re-polishes the widget. An empty hint drops the variant. A
-/// null widget and an unchanged hint do nothing.
+/// selects with `[styleHint="error"]`, and re-polishes the widget. An empty hint drops the variant:
+/// neither that selector nor a plain `[styleHint]` selects the widget any more. A null widget and an
+/// unchanged hint do nothing.
 WIDGETTOOLKIT_EXPORT void applyStyleHint(QWidget* widget, const QString& hint);
 
 /// Sets the dynamic (or declared) property @p name of @p widget to @p value and, only when that changed
-/// it, re-polishes the widget, so that property selectors take effect at once. The widget's children are
-/// not re-polished: a rule that reaches a child through its parent's property takes effect on the child
-/// when the child itself is polished again. A null widget or name does nothing.
+/// it, re-polishes the widget, so that property selectors take effect at once. A value of another type is
+/// another value (true and 1), and an invalid one removes a dynamic property. Where the sheet's padding,
+/// border or margin of the widget changes with the property, the layout follows on the next turn of the
+/// event loop. The widget's children are not re-polished: a rule that reaches a child through its
+/// parent's property takes effect on the child when the child itself is polished again. A null widget or
+/// name does nothing.
 WIDGETTOOLKIT_EXPORT void applyProperty(QWidget* widget, const char* name, const QVariant& value);
 
 /// Unpolishes and polishes @p widget with its style, after a change that the sheet reads but Qt does not
