@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QVector>
+#include <QWindow>
 
 #include <optional>
 
@@ -29,6 +30,8 @@ public:
     void fit();
     void place();
     void placeLater();
+    void moved(bool byWindowManager);
+    void followWindow();
     void watchAncestors();
     void watchScreen(QScreen* screen);
     void followDirection();
@@ -56,9 +59,11 @@ public:
     QPoint lastGlobalTarget;
 
     BubblePlacement placement;
-    /// Where the bubble was last sent. A window manager may put it elsewhere; asking again at every paint
-    /// would never end.
+    /// Where the bubble was last sent. A window manager may put it elsewhere: it is asked once more, for
+    /// what Qt hears of a window that has just appeared is not always true, and then has its way. Asking
+    /// again at every paint would never end.
     std::optional<QPoint> sentTo;
+    bool askedAgain = false;
     /// Whether the host wants to see the bubble, which then depends on the parent.
     bool wanted = false;
     /// The parent and its ancestors up to their window.
@@ -88,13 +93,15 @@ bool PointingWidget::Private::eventFilter(QObject* watched, QEvent* event)
             place();
         }
         break;
+    // Not when the window manager hides the window, as when it is minimised: it does the same with the
+    // bubble, and one that is shown while its window comes back sends that away again.
     case QEvent::Show:
-        if (isParent) {
+        if (isParent && !event->spontaneous()) {
             parentShown();
         }
         break;
     case QEvent::Hide:
-        if (isParent) {
+        if (isParent && !event->spontaneous()) {
             parentHidden();
         }
         break;
@@ -201,9 +208,36 @@ void PointingWidget::Private::place()
         q->update();
     }
     const QPoint goal = placement.geometry.topLeft();
+    if (goal != old.geometry.topLeft()) {
+        askedAgain = false;
+    }
     if (hasTarget && (sentTo != goal || !q->isVisible())) {
         sentTo = goal;
         q->move(goal);
+    }
+}
+
+void PointingWidget::Private::moved(bool byWindowManager)
+{
+    if (!sentTo || sentTo == q->pos()) {
+        return;
+    }
+    if (!byWindowManager) {
+        sentTo.reset();
+    } else if (!askedAgain) {
+        askedAgain = true;
+        placeLater();
+    }
+}
+
+/// The bubble keeps above the window of its parent. Qt sets this when it makes the native window, and not
+/// again when an ancestor has gone to another window.
+void PointingWidget::Private::followWindow()
+{
+    const QWidget* const parent = q->parentWidget();
+    QWindow* const window = q->windowHandle();
+    if (window && parent && parent->window()->windowHandle()) {
+        window->setTransientParent(parent->window()->windowHandle());
     }
 }
 
@@ -482,9 +516,7 @@ bool PointingWidget::event(QEvent* event)
         d->fit();
         break;
     case QEvent::Move:
-        if (!event->spontaneous() && d->sentTo != pos()) {
-            d->sentTo.reset();
-        }
+        d->moved(event->spontaneous());
         break;
     case QEvent::LayoutDirectionChange:
         d->followDirection();
@@ -532,5 +564,7 @@ void PointingWidget::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     // The last moment before the window appears: its content is polished now, and its place current.
     d->sentTo.reset();
+    d->askedAgain = false;
+    d->followWindow();
     d->fit();
 }

@@ -30,11 +30,10 @@ HighlightFrame::~HighlightFrame()
         return;
     }
     const QRegion outline = m_overlay->mask();
-    const QPointer<QWidget> target = m_target;
     // The filter is still in place and keeps the removal from the target.
     delete m_overlay;
-    if (target && target->isVisible() && !target->testAttribute(Qt::WA_WState_InPaintEvent)) {
-        target->repaint(outline);
+    if (m_target && m_target->isVisible() && !m_target->testAttribute(Qt::WA_WState_InPaintEvent)) {
+        m_target->repaint(outline);
     }
 }
 

@@ -129,7 +129,7 @@ private Q_SLOTS:
     void removedFromInsidePaint();
     void targetDiesFirst();
     void overlayDeletedByTarget();
-    void targetDiesWithRaisedChildren();
+    void childrenDieAndAreRaised();
     void nullTarget();
     void twoFramesOnOneTarget_data();
     void twoFramesOnOneTarget();
@@ -511,21 +511,22 @@ void tst_HighlightFrame::overlayDeletedByTarget()
     QVERIFY(overlaysOf(&target).isEmpty());
 }
 
-void tst_HighlightFrame::targetDiesWithRaisedChildren()
+/// A child is raised while another one dies, and then the target with the rest.
+void tst_HighlightFrame::childrenDieAndAreRaised()
 {
     auto target = std::make_unique<WhiteWidget>();
     const HighlightFrame frame(target.get());
-    for (int i = 0; i < 3; ++i) {
-        auto* child = new WhiteWidget(target.get());
-        connect(child, &QObject::destroyed, target.get(), [&target] {
-            for (QWidget* sibling : target->findChildren<QWidget*>()) {
-                sibling->raise();
-            }
-        });
-    }
+    auto* first = new WhiteWidget(target.get());
+    auto* second = new WhiteWidget(target.get());
+    new WhiteWidget(target.get());
+    connect(first, &QObject::destroyed, second, [second] { second->raise(); });
     target->show();
-    delete target->children().constFirst();
+    delete first;
+    QCOMPARE(target->children().constLast(), overlayOf(target.get()));
+    QCOMPARE(target->children().indexOf(second), 1);
+    const QPointer<QWidget> overlay = overlayOf(target.get());
     target.reset();
+    QVERIFY(!overlay);
 }
 
 void tst_HighlightFrame::nullTarget()
