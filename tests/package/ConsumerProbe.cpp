@@ -11,7 +11,7 @@
 
 namespace {
 
-const QColor startColour = Qt::darkCyan;
+const QColor startColour(0, 128, 128);
 const QColor pickedColour(200, 80, 40);
 
 QColor middleOf(QWidget* widget)
