@@ -5,8 +5,6 @@
 
 namespace {
 
-using Orvane::Util::FileSizeUnit;
-
 constexpr int defaultKiloSize = 1024;
 constexpr int automaticPrecision = -1;
 constexpr int maximumPrecision = 60; // 1024 to the power of 6 in the denominator needs no more
@@ -86,7 +84,9 @@ QString localized(const Decimal& number, bool negative)
 
 } // namespace
 
-QString Orvane::Util::FormatFileSize(qint64 bytes, int precision, FileSizeUnit unit, int kiloSize)
+namespace Orvane::Util {
+
+QString FormatFileSize(qint64 bytes, int precision, FileSizeUnit unit, int kiloSize)
 {
     const quint64 kilo = kiloSize > 1 && kiloSize < defaultKiloSize ? kiloSize : defaultKiloSize;
     const int digits = qBound(automaticPrecision, precision, maximumPrecision);
@@ -111,3 +111,5 @@ QString Orvane::Util::FormatFileSize(qint64 bytes, int precision, FileSizeUnit u
     return QCoreApplication::translate("FormatFileSize", unitTexts[power])
         .arg(localized(inUnit(amount, factor, digits), negative));
 }
+
+} // namespace Orvane::Util

@@ -7,32 +7,42 @@
 
 enum class Answer { Yes, No, Unknown };
 
-/// Runs @p question as a user without privileges: directly where the tests run as one, and otherwise in a
-/// child process that gives up root's. Unknown where that did not work. The question must not use the
-/// event loop or QTest.
-inline Answer askAsNormalUser(const std::function<bool()>& question)
+/// Runs @p question in a child process that @p setUp has changed for good. Unknown where the set-up failed.
+/// Neither may use the event loop or QTest.
+inline Answer askInChild(const std::function<bool()>& setUp, const std::function<bool()>& question)
 {
-    if (geteuid() != 0) {
-        return question() ? Answer::Yes : Answer::No;
-    }
-    constexpr unsigned nobody = 65534;
+    enum Code { yes = 0, no = 1, failed = 2 };
     const pid_t child = fork();
     if (child == 0) {
-        if (setgroups(0, nullptr) != 0 || setgid(nobody) != 0 || setuid(nobody) != 0) {
-            _exit(2);
+        if (!setUp()) {
+            _exit(failed);
         }
-        _exit(question() ? 0 : 1);
+        _exit(question() ? yes : no);
     }
     int status = 0;
     if (child < 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status)) {
         return Answer::Unknown;
     }
     switch (WEXITSTATUS(status)) {
-    case 0:
+    case yes:
         return Answer::Yes;
-    case 1:
+    case no:
         return Answer::No;
     default:
         return Answer::Unknown;
     }
+}
+
+/// Runs @p question as a user without privileges: directly where the tests run as one, and otherwise in a
+/// child process that gives up root's.
+inline Answer askAsNormalUser(const std::function<bool()>& question)
+{
+    if (geteuid() != 0) {
+        return question() ? Answer::Yes : Answer::No;
+    }
+    const auto giveUpPrivileges = [] {
+        constexpr unsigned nobody = 65534;
+        return setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0;
+    };
+    return askInChild(giveUpPrivileges, question);
 }

@@ -31,7 +31,7 @@ void tst_PathWalk::forms_data()
     };
     const QString twoByteLetter(QChar(0xe4));
     QTest::newRow("null") << QString() << Form::Empty;
-    QTest::newRow("empty") << QStringLiteral("") << Form::Empty;
+    QTest::newRow("empty") << QString(QLatin1String("")) << Form::Empty;
     QTest::newRow("root") << QStringLiteral("/") << Form::Good;
     QTest::newRow("relative") << QStringLiteral("a/b") << Form::Good;
     QTest::newRow("blank") << QStringLiteral(" ") << Form::Good;

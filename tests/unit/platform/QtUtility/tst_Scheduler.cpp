@@ -4,9 +4,9 @@
 
 #include <QAbstractEventDispatcher>
 
+#include <array>
 #include <functional>
 #include <thread>
-#include <vector>
 
 using Orvane::Util::Scheduler;
 
@@ -142,7 +142,7 @@ void tst_Scheduler::theDelayStartsWithTheFirstRequest()
     target.scheduler.schedule();
     probe.deliverPosted();
     QCOMPARE(probe.timers().size(), 1);
-    QCOMPARE(probe.timers().first().timerId, timers.first().timerId);
+    QCOMPARE(probe.timers().constFirst().timerId, timers.first().timerId);
     QCOMPARE(probe.events, 1);
     QTRY_COMPARE(target.calls, 1);
     QCOMPARE(probe.timeouts, 1);
@@ -287,11 +287,11 @@ void tst_Scheduler::enabledAgainBeforeTheTimer()
     Probe probe(&target.scheduler);
     target.scheduler.schedule();
     probe.deliverPosted();
-    const int timer = probe.timers().first().timerId;
+    const int timer = probe.timers().constFirst().timerId;
     target.scheduler.setEnabled(false);
     target.scheduler.setEnabled(true);
     target.scheduler.schedule();
-    QCOMPARE(probe.timers().first().timerId, timer);
+    QCOMPARE(probe.timers().constFirst().timerId, timer);
     QTRY_COMPARE(target.calls, 1);
     QCOMPARE(probe.events, 1);
 }
@@ -322,7 +322,7 @@ void tst_Scheduler::strangeTimersChangeNothing()
     Probe probe(&target.scheduler);
     target.scheduler.schedule();
     probe.deliverPosted();
-    const int timer = probe.timers().first().timerId;
+    const int timer = probe.timers().constFirst().timerId;
     QTimerEvent strange(timer + 1000);
     QCoreApplication::sendEvent(&target.scheduler, &strange);
     QCOMPARE(target.calls, 0);
@@ -402,9 +402,9 @@ void tst_Scheduler::requestsFromManyThreads()
     Probe probe(&target.scheduler);
     bool isInOurThread = false;
     target.onCall = [&] { isInOurThread = QThread::currentThread() == target.scheduler.thread(); };
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([&target] {
+    std::array<std::thread, 4> threads;
+    for (std::thread& thread : threads) {
+        thread = std::thread([&target] {
             for (int n = 0; n < 1000; ++n) {
                 target.scheduler.schedule();
             }

@@ -8,8 +8,10 @@
 
 namespace {
 
-const QStringList threeColors{QStringLiteral("#ff8800"), QStringLiteral("#00ff88"),
-                              QStringLiteral("#8800ff")};
+QStringList threeColors()
+{
+    return {QStringLiteral("#ff8800"), QStringLiteral("#00ff88"), QStringLiteral("#8800ff")};
+}
 
 QString storeFile()
 {
@@ -79,12 +81,12 @@ void tst_Settings::keepsAnyTexts_data()
     for (int i = 0; i < 1000; ++i) {
         thousand += QString::number(i);
     }
-    QTest::newRow("three") << threeColors;
+    QTest::newRow("three") << threeColors();
     QTest::newRow("one") << QStringList{QStringLiteral("#00ff88")};
     QTest::newRow("none") << QStringList();
     QTest::newRow("one empty text") << QStringList{QLatin1String("")};
     QTest::newRow("two empty texts") << QStringList{QLatin1String(""), QLatin1String("")};
-    QTest::newRow("repeats") << threeColors + threeColors;
+    QTest::newRow("repeats") << threeColors() + threeColors();
     QTest::newRow("what an ini file gives a meaning")
         << QStringList{QStringLiteral("a, b; c=d"), QStringLiteral("\"x\\"), QStringLiteral("@Invalid()"),
                        QStringLiteral("[x]\n%41"), QStringLiteral(" blanks ")};
@@ -109,7 +111,7 @@ void tst_Settings::keepsAnyTexts()
 
 void tst_Settings::usesOneKeyOfTheHostApplication()
 {
-    Settings::setUserCustomColors(threeColors);
+    Settings::setUserCustomColors(threeColors());
     QVERIFY(storeFile().startsWith(QDir::homePath()));
     QVERIFY(storeFile().contains(QStringLiteral("UiComponents tests/tst_Settings")));
     QCOMPARE(QSettings().allKeys(), QStringList{QStringLiteral("userCustomColors")});
@@ -118,15 +120,15 @@ void tst_Settings::usesOneKeyOfTheHostApplication()
 void tst_Settings::leavesOtherKeysAlone()
 {
     QSettings().setValue(QStringLiteral("host/value"), 7);
-    Settings::setUserCustomColors(threeColors);
+    Settings::setUserCustomColors(threeColors());
     Settings::setUserCustomColors({});
     QCOMPARE(QSettings().value(QStringLiteral("host/value")).toInt(), 7);
 }
 
 void tst_Settings::survivesAKillRightAfterTheWrite()
 {
-    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors(threeColors); }));
-    QCOMPARE(Settings::userCustomColors(), threeColors);
+    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors(threeColors()); }));
+    QCOMPARE(Settings::userCustomColors(), threeColors());
     QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
     QCOMPARE(Settings::userCustomColors(), QStringList());
 }
@@ -171,8 +173,8 @@ void tst_Settings::oddStores()
     QVERIFY(writeFile(storeFile(), content));
     QTEST(Settings::userCustomColors(), "expected");
     // And it can be written over.
-    Settings::setUserCustomColors(threeColors);
-    QCOMPARE(Settings::userCustomColors(), threeColors);
+    Settings::setUserCustomColors(threeColors());
+    QCOMPARE(Settings::userCustomColors(), threeColors());
     QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
     QCOMPARE(Settings::userCustomColors(), QStringList());
 }
@@ -182,13 +184,13 @@ void tst_Settings::unwritableStore()
     // A file in the place of the folder stops even root.
     const QString folder = QFileInfo(storeFile()).path();
     QVERIFY(writeFile(folder, "in the way"));
-    Settings::setUserCustomColors(threeColors);
-    QCOMPARE(Settings::userCustomColors(), threeColors);
+    Settings::setUserCustomColors(threeColors());
+    QCOMPARE(Settings::userCustomColors(), threeColors());
     Settings::setUserCustomColors({});
     QCOMPARE(Settings::userCustomColors(), QStringList());
 
     QVERIFY(QFile::remove(folder));
-    Settings::setUserCustomColors(threeColors);
+    Settings::setUserCustomColors(threeColors());
     QVERIFY(QFileInfo::exists(storeFile()));
     QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({QStringLiteral("red")}); }));
     QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("red")});
@@ -198,8 +200,8 @@ void tst_Settings::withoutAnOrganization()
 {
     QCoreApplication::setOrganizationName(QString());
     QCOMPARE(Settings::userCustomColors(), QStringList());
-    Settings::setUserCustomColors(threeColors);
-    QCOMPARE(Settings::userCustomColors(), threeColors);
+    Settings::setUserCustomColors(threeColors());
+    QCOMPARE(Settings::userCustomColors(), threeColors());
     const QString name = QCoreApplication::applicationName();
     const QString file = QSettings(name, name).fileName();
     QVERIFY(QFileInfo::exists(file));

@@ -41,9 +41,18 @@ private:
     const std::shared_ptr<Journal> m_journal; // the store may live longer than the test
 };
 
-const QString key = QStringLiteral("userCustomColors");
-const QStringList twoColors{QStringLiteral("#112233"), QStringLiteral("#abcdef")};
-const QStringList oneColor{QStringLiteral("#445566")};
+QString key()
+{
+    return QStringLiteral("userCustomColors");
+}
+QStringList twoColors()
+{
+    return {QStringLiteral("#112233"), QStringLiteral("#abcdef")};
+}
+QStringList oneColor()
+{
+    return {QStringLiteral("#445566")};
+}
 
 } // namespace
 
@@ -70,17 +79,18 @@ void tst_SettingsStore::cleanup()
 
 void tst_SettingsStore::takesTheBuiltInStoresPlace()
 {
-    Settings::setUserCustomColors(twoColors);
+    Settings::setUserCustomColors(twoColors());
     const auto journal = std::make_shared<Journal>();
     Settings::setStore(std::make_unique<FakeStore>(journal));
     QCOMPARE(Settings::userCustomColors(), QStringList());
-    Settings::setUserCustomColors(oneColor);
-    QCOMPARE(journal->calls, QStringList({QStringLiteral("read ") + key, QStringLiteral("write ") + key}));
-    QCOMPARE(journal->values.value(key), QVariant(oneColor));
-    QCOMPARE(Settings::userCustomColors(), oneColor);
+    Settings::setUserCustomColors(oneColor());
+    QCOMPARE(journal->calls,
+             QStringList({QStringLiteral("read ") + key(), QStringLiteral("write ") + key()}));
+    QCOMPARE(journal->values.value(key()), QVariant(oneColor()));
+    QCOMPARE(Settings::userCustomColors(), oneColor());
 
     Settings::setStore(nullptr);
-    QCOMPARE(Settings::userCustomColors(), twoColors);
+    QCOMPARE(Settings::userCustomColors(), twoColors());
 }
 
 void tst_SettingsStore::ownershipGoesToSettings()
@@ -100,10 +110,10 @@ void tst_SettingsStore::everyReadAsksTheStore()
 {
     const auto journal = std::make_shared<Journal>();
     Settings::setStore(std::make_unique<FakeStore>(journal));
-    journal->values.insert(key, oneColor);
-    QCOMPARE(Settings::userCustomColors(), oneColor);
-    journal->values.insert(key, twoColors);
-    QCOMPARE(Settings::userCustomColors(), twoColors);
+    journal->values.insert(key(), oneColor());
+    QCOMPARE(Settings::userCustomColors(), oneColor());
+    journal->values.insert(key(), twoColors());
+    QCOMPARE(Settings::userCustomColors(), twoColors());
     QCOMPARE(journal->calls.size(), 2);
 }
 
@@ -111,20 +121,20 @@ void tst_SettingsStore::whatTheStoreRefusesIsKeptInMemory()
 {
     const auto journal = std::make_shared<Journal>();
     Settings::setStore(std::make_unique<FakeStore>(journal));
-    Settings::setUserCustomColors(oneColor);
+    Settings::setUserCustomColors(oneColor());
     journal->takesWrites = false;
-    Settings::setUserCustomColors(twoColors);
-    QCOMPARE(journal->values.value(key), QVariant(oneColor));
-    QCOMPARE(Settings::userCustomColors(), twoColors);
+    Settings::setUserCustomColors(twoColors());
+    QCOMPARE(journal->values.value(key()), QVariant(oneColor()));
+    QCOMPARE(Settings::userCustomColors(), twoColors());
     Settings::setUserCustomColors({});
     QCOMPARE(Settings::userCustomColors(), QStringList());
 
     journal->takesWrites = true;
-    Settings::setUserCustomColors(twoColors);
-    QCOMPARE(journal->values.value(key), QVariant(twoColors));
+    Settings::setUserCustomColors(twoColors());
+    QCOMPARE(journal->values.value(key()), QVariant(twoColors()));
     // The store's word counts again.
-    journal->values.insert(key, oneColor);
-    QCOMPARE(Settings::userCustomColors(), oneColor);
+    journal->values.insert(key(), oneColor());
+    QCOMPARE(Settings::userCustomColors(), oneColor());
 }
 
 void tst_SettingsStore::aNewStoreStartsWithItsOwnValues()
@@ -132,11 +142,11 @@ void tst_SettingsStore::aNewStoreStartsWithItsOwnValues()
     const auto full = std::make_shared<Journal>();
     full->takesWrites = false;
     Settings::setStore(std::make_unique<FakeStore>(full));
-    Settings::setUserCustomColors(twoColors);
+    Settings::setUserCustomColors(twoColors());
     const auto next = std::make_shared<Journal>();
-    next->values.insert(key, oneColor);
+    next->values.insert(key(), oneColor());
     Settings::setStore(std::make_unique<FakeStore>(next));
-    QCOMPARE(Settings::userCustomColors(), oneColor);
+    QCOMPARE(Settings::userCustomColors(), oneColor());
 }
 
 void tst_SettingsStore::oddValues_data()
@@ -150,7 +160,7 @@ void tst_SettingsStore::oddValues_data()
         thousand += QStringLiteral("#%1").arg(i, 6, 16, QLatin1Char('0'));
     }
     QTest::newRow("nothing") << QVariant() << QStringList();
-    QTest::newRow("list") << QVariant(twoColors) << twoColors;
+    QTest::newRow("list") << QVariant(twoColors()) << twoColors();
     QTest::newRow("empty list") << QVariant(QStringList()) << QStringList();
     QTest::newRow("list of variants")
         << QVariant(QVariantList{red, QByteArray("blue")}) << QStringList{red, QStringLiteral("blue")};
@@ -170,7 +180,7 @@ void tst_SettingsStore::oddValues()
 {
     QFETCH(QVariant, stored);
     const auto journal = std::make_shared<Journal>();
-    journal->values.insert(key, stored);
+    journal->values.insert(key(), stored);
     Settings::setStore(std::make_unique<FakeStore>(journal));
     QTEST(Settings::userCustomColors(), "expected");
 }
