@@ -56,12 +56,12 @@ public:
     }
 
 private:
-    bool isInDialog() const { return m_host && contains(m_dialog, m_host) && m_dialog->isVisible(); }
+    bool isInDialog() const { return m_host && contains(m_dialog, m_host); }
 
     bool isFocusElsewhere() const
     {
         const QWidget* const focused = m_dialog->window()->focusWidget();
-        return focused && canTakeFocus(focused) && !contains(focused, m_host) && !contains(m_host, focused);
+        return focused && focused->isVisible() && !contains(focused, m_host);
     }
 
     void takeFocus()

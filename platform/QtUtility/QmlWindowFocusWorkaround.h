@@ -17,8 +17,8 @@ namespace Orvane::Util {
  *
  * - when the dialog is shown, and when the host is put into it while it is shown, wherever the focus is
  *   elsewhere in the window;
- * - when the window becomes active and the focus was lost, which means on no widget of the window that
- *   could use it. A widget beside the view that the user moved to keeps it.
+ * - when the window becomes active and the focus was lost: nothing has it, or a hidden widget, or the
+ *   window or another widget around the host. A widget beside the view that the user moved to keeps it.
  *
  * A focus inside the host is never moved, and nothing happens at any other event. The workaround finds
  * the view through its focus policy alone: it works for every kind of view, and for none when nothing in

@@ -7,8 +7,7 @@
 
 namespace {
 
-// Opened anew for each call: the host may set its names later than it makes the first widget, and only
-// an object that is opened or synchronised looks at what other processes wrote.
+// Opened anew for each call: the host may set its names later than it makes the first widget.
 std::unique_ptr<QSettings> open()
 {
     const bool hasOrganization =
@@ -25,7 +24,7 @@ std::unique_ptr<QSettings> open()
 QVariant QSettingsStore::read(const QString& key) const
 {
     const auto settings = open();
-    settings->sync();
+    settings->sync(); // with what other processes wrote; opening alone does it for files only
     return settings->value(key);
 }
 

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void closest();
     void closestOfRelativePaths();
     void closestBelowNamesThatAreNoText();
+    void charactersThatCannotBeStoredNameNothing();
     void closestBelowALinkGoesUpFromItsTarget();
     void closestOfWhatANormalUserMayNotSee();
     void closestFollowsTheDisk();
@@ -297,6 +298,17 @@ void tst_FileUtil::closestBelowNamesThatAreNoText()
     QVERIFY(FileUtil::isOperationAllowed(QStringLiteral("."), Read | Write));
     QVERIFY(QDir::setCurrent(m_before));
     QCOMPARE(rmdir(raw.constData()), 0);
+}
+
+// Encoding such a name gives that of another folder.
+void tst_FileUtil::charactersThatCannotBeStoredNameNothing()
+{
+    const QString path = at(QStringLiteral("a")) + QChar(0xdc00);
+    const QString other = QFile::decodeName(QFile::encodeName(path));
+    QVERIFY(QDir().mkdir(other));
+    QCOMPARE(FileUtil::closestPath(other), other);
+    QCOMPARE(FileUtil::closestPath(path), m_root);
+    QVERIFY(!FileUtil::isOperationAllowed(path, Read));
 }
 
 void tst_FileUtil::closestBelowALinkGoesUpFromItsTarget()

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void theHostItself();
     void nothingToFocus();
     void aFieldThatTheUserWentToKeepsTheFocus();
+    void lostFocusComesBackOnActivation_data();
     void lostFocusComesBackOnActivation();
     void shownAgain();
     void hostPutIntoAShownDialog();
@@ -166,16 +167,34 @@ void tst_QmlWindowFocusWorkaround::aFieldThatTheUserWentToKeepsTheFocus()
     QTRY_COMPARE(QApplication::focusWidget(), scene.field);
 }
 
+void tst_QmlWindowFocusWorkaround::lostFocusComesBackOnActivation_data()
+{
+    QTest::addColumn<bool>("isHidden");
+
+    QTest::newRow("on the window itself") << false;
+    QTest::newRow("on a hidden widget") << true;
+}
+
 void tst_QmlWindowFocusWorkaround::lostFocusComesBackOnActivation()
 {
+    QFETCH(bool, isHidden);
     Scene scene;
+    scene.dialog.setFocusPolicy(Qt::StrongFocus);
+    auto* late = new QLineEdit(&scene.dialog); // so that the view is not just the next one in line
+    scene.dialog.layout()->addWidget(late);
+    QWidget::setTabOrder(late, scene.field);
     ApplyQmlWindowFocusWorkaround(&scene.dialog, scene.host);
     scene.show();
+    scene.field->setFocus();
     QDialog other;
     other.show();
     scene.activate(&other);
-    scene.dialog.setFocus(); // the window itself, as after the loss of a child that had the focus
-    QCOMPARE(scene.dialog.focusWidget(), &scene.dialog);
+    if (isHidden) {
+        scene.field->hide();
+    } else {
+        scene.dialog.setFocus();
+    }
+    QCOMPARE(scene.dialog.focusWidget(), isHidden ? scene.field : static_cast<QWidget*>(&scene.dialog));
     scene.activate(&scene.dialog);
     QTRY_COMPARE(QApplication::focusWidget(), scene.view);
 }
@@ -225,12 +244,18 @@ void tst_QmlWindowFocusWorkaround::hostOutsideTheDialog()
 {
     Scene scene;
     ApplyQmlWindowFocusWorkaround(&scene.dialog, scene.host);
-    scene.host->setParent(nullptr);
+    QWidget elsewhere;
+    auto* layout = new QHBoxLayout(&elsewhere);
+    auto* field = new QLineEdit(&elsewhere);
+    layout->addWidget(field);
+    layout->addWidget(scene.host);
+    field->setFocus();
+    elsewhere.show();
+    QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+    QTRY_COMPARE(QApplication::focusWidget(), field);
     scene.show();
-    scene.host->show();
-    QVERIFY(QTest::qWaitForWindowExposed(scene.host));
-    QCOMPARE(scene.dialog.focusWidget(), scene.field);
-    delete scene.host;
+    QTRY_COMPARE(QApplication::focusWidget(), scene.field);
+    QCOMPARE(elsewhere.focusWidget(), field);
 }
 
 void tst_QmlWindowFocusWorkaround::dialogInsideAnotherWindow()
@@ -261,6 +286,9 @@ void tst_QmlWindowFocusWorkaround::otherEventsMoveNothing()
     scene.view->setEnabled(true);
     scene.label->hide();
     scene.label->show();
+    QShowEvent unminimised;
+    QSpontaneKeyEvent::setSpontaneous(&unminimised);
+    qApp->notify(&scene.dialog, &unminimised);
     QTest::mouseClick(&scene.dialog, Qt::LeftButton);
     QTest::keyClick(scene.field, Qt::Key_A);
     QCoreApplication::processEvents();

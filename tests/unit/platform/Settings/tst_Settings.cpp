@@ -163,6 +163,8 @@ void tst_Settings::oddStores_data()
                                     << QStringList();
     QTest::newRow("group of that name") << QByteArray("[userCustomColors]\na=1\n") << QStringList();
     QTest::newRow("no ini file") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << QStringList();
+    QTest::newRow("broken section") << QByteArray("[General\nuserCustomColors=red\n")
+                                    << QStringList{QStringLiteral("red")};
     QTest::newRow("broken line before") << QByteArray("[General]\nbroken\nuserCustomColors=red, blue\n")
                                         << QStringList{QStringLiteral("red"), QStringLiteral("blue")};
 }
