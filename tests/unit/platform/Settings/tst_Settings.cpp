@@ -56,6 +56,7 @@ private Q_SLOTS:
     void sizesOfAnotherProcessesListDoNotMatter();
     void oddStores_data();
     void oddStores();
+    void aBrokenFileCanBeWritten();
     void unwritableStore();
     void withoutAnOrganization();
 };
@@ -177,6 +178,15 @@ void tst_Settings::oddStores()
     // And it can be written over.
     Settings::setUserCustomColors(threeColors());
     QCOMPARE(Settings::userCustomColors(), threeColors());
+    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
+    QCOMPARE(Settings::userCustomColors(), QStringList());
+}
+
+// QSettings reports what it could not read as an error of the write too.
+void tst_Settings::aBrokenFileCanBeWritten()
+{
+    QVERIFY(writeFile(storeFile(), "broken line\n"));
+    Settings::setUserCustomColors(threeColors());
     QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
     QCOMPARE(Settings::userCustomColors(), QStringList());
 }
