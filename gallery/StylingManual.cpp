@@ -4,6 +4,7 @@
 #include "PageRegistry.h"
 #include "PropertyPanel.h"
 
+#include <QFile>
 #include <QMetaProperty>
 
 #include <algorithm>
@@ -123,12 +124,9 @@ QString section(const StyleSubject& subject)
 
 QString stylingManual()
 {
-    QString text = QStringLiteral(
-        "# Styling\n\n"
-        "What a style sheet can use of each component. Generated from the running components by\n"
-        "`ui-components-gallery --styling-manual`; the tests compare it.\n\n"
-        "A property is set with `qproperty-<name>`, a dynamic property and a hint are selected with\n"
-        "`[name=\"value\"]` and `[styleHint=\"value\"]`, a child with `#name` or its class.\n\n");
+    QFile introduction(QStringLiteral(":/gallery/styling-introduction.md"));
+    QString text =
+        introduction.open(QIODevice::ReadOnly) ? QString::fromUtf8(introduction.readAll()) : QString();
     const QVector<PageInfo> pages = PageRegistry::pages();
     std::optional<PageGroup> group;
     for (const PageInfo& info : pages) {

@@ -11,6 +11,8 @@ private Q_SLOTS:
     void initTestCase() { GalleryApplication::prepare(); }
     void theSameTextAgain();
     void tellsNamesPropertiesAndStates();
+    void itsRulesAreRules();
+    void theCopyInTheDocumentationIsCurrent();
 };
 
 void tst_StylingManual::theSameTextAgain()
@@ -28,6 +30,30 @@ void tst_StylingManual::tellsNamesPropertiesAndStates()
     QVERIFY2(section.contains("`QWidget#color`"), qPrintable(section));
     QVERIFY2(section.contains("`InstalledLayoutController`: properties `layoutMargin` (int)"),
              qPrintable(section));
+}
+
+// What Qt cannot parse it reports as a warning, which fails the run.
+void tst_StylingManual::itsRulesAreRules()
+{
+    QString sheet;
+    const QStringList lines = stylingManual().split('\n');
+    for (const QString& line : lines) {
+        if (line.startsWith("    ") && line.contains('{')) {
+            sheet += line;
+        }
+    }
+    QVERIFY(sheet.count('{') > 5);
+    qApp->setStyleSheet(sheet);
+    QCOMPARE(qApp->styleSheet(), sheet);
+    qApp->setStyleSheet(QString());
+}
+
+void tst_StylingManual::theCopyInTheDocumentationIsCurrent()
+{
+    QFile copy(UIC_DOCS "/styling.md");
+    QVERIFY(copy.open(QIODevice::ReadOnly));
+    QVERIFY2(QString::fromUtf8(copy.readAll()) == stylingManual(),
+             "Run: ui-components-gallery --styling-manual > docs/styling.md");
 }
 
 UIC_TEST_MAIN(tst_StylingManual)
