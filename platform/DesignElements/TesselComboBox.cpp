@@ -1,0 +1,26 @@
+#include "TesselComboBox.h"
+
+#include "TesselItemDelegate.h"
+
+#include <WidgetToolkit/OvComboBox.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QAbstractItemView>
+#include <QVariant>
+
+void Orvane::Tessel::convertComboBoxToTessel(OvComboBox* comboBox)
+{
+    if (!comboBox) {
+        return;
+    }
+    QAbstractItemView* const view = comboBox->view();
+    if (view->objectName().isEmpty()) {
+        view->setObjectName(QStringLiteral("tesselComboBoxView"));
+    }
+    // Qt's own delegates draw rows as menu entries or by themselves, and no ::item rule reaches them.
+    const QAbstractItemDelegate* const delegate = comboBox->itemDelegate();
+    if (!delegate || delegate->inherits("QComboBoxDelegate") || delegate->inherits("QComboMenuDelegate")) {
+        comboBox->setItemDelegate(new TesselItemDelegate(comboBox));
+    }
+    ::Util::applyProperty(comboBox, "tessel", true);
+}

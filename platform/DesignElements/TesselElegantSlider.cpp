@@ -1,0 +1,124 @@
+#include "TesselElegantSlider.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
+namespace {
+
+constexpr qreal grooveThickness = 4.0;
+constexpr qreal handleDiameter = 14.0;
+constexpr qreal ringWidth = 2.0;
+
+// A sheet may speak of the slider's parts, or of nothing but its background and font, as a rule for all
+// widgets does. The style does not tell which; so a small slider is drawn twice, by the sheet and, upon the
+// sheet's background, by a style that does not know whose slider it is. Pictures that differ are the parts.
+bool hasPartsFromSheet(const QSlider* slider, QStyleOptionSlider option)
+{
+    if (!slider->testAttribute(Qt::WA_StyleSheet)) {
+        return false;
+    }
+    const QStyle* const style = slider->style();
+    option.rect = QRect(QPoint(), option.orientation == Qt::Horizontal ? QSize(64, 24) : QSize(24, 64));
+    const auto draw = [&](QPainter& painter, QStyle::SubControls parts, const QWidget* widget) {
+        option.subControls = parts;
+        style->drawComplexControl(QStyle::CC_Slider, &option, &painter, widget);
+    };
+    const QStyle::SubControls parts = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+    QImage bySheet(option.rect.size(), QImage::Format_ARGB32_Premultiplied);
+    bySheet.fill(Qt::transparent);
+    QImage byStyle = bySheet;
+    {
+        QPainter painter(&bySheet);
+        draw(painter, parts, slider);
+    }
+    {
+        QPainter painter(&byStyle);
+        draw(painter, QStyle::SC_None, slider);
+        draw(painter, parts, nullptr);
+    }
+    return bySheet != byStyle;
+}
+
+QRectF centredIn(const QRectF& room, const QSizeF& size)
+{
+    return {room.center() - QPointF(size.width() / 2, size.height() / 2), size};
+}
+
+void drawGroove(QPainter& painter, const QStyleOptionSlider& option, const QRectF& room,
+                const QPointF& handle)
+{
+    const bool horizontal = option.orientation == Qt::Horizontal;
+    const QRectF groove = centredIn(room, horizontal ? QSizeF(room.width(), grooveThickness)
+                                                     : QSizeF(grooveThickness, room.height()));
+    QRectF below = groove;
+    // Upside down, the least value is at the right or at the bottom.
+    if (horizontal) {
+        option.upsideDown ? below.setLeft(handle.x()) : below.setRight(handle.x());
+    } else {
+        option.upsideDown ? below.setTop(handle.y()) : below.setBottom(handle.y());
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(QPalette::Mid));
+    painter.drawRoundedRect(groove, grooveThickness / 2, grooveThickness / 2);
+    if (option.state.testFlag(QStyle::State_Enabled)) {
+        painter.setBrush(option.palette.color(QPalette::Highlight));
+        painter.drawRoundedRect(below, grooveThickness / 2, grooveThickness / 2);
+    }
+}
+
+void drawHandle(QPainter& painter, const QStyleOptionSlider& option, const QRectF& room)
+{
+    const qreal diameter = qMin(handleDiameter, qMin(room.width(), room.height()) - 1);
+    if (diameter <= 0) {
+        return;
+    }
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    const bool pressed = option.state.testFlag(QStyle::State_Sunken);
+    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+    const QColor face = option.palette.color(QPalette::Light);
+    const qreal pen = focused ? ringWidth : 1.0;
+    painter.setPen(QPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Dark), pen));
+    painter.setBrush(pressed ? face.darker(115) : hovered ? face.lighter(110) : face);
+    painter.drawEllipse(centredIn(room, QSizeF(diameter - pen, diameter - pen)));
+}
+
+} // namespace
+
+namespace Orvane::Tessel {
+
+TesselElegantSlider::TesselElegantSlider(QWidget* parent)
+    : OvCustomSlider(parent)
+{
+    setAttribute(Qt::WA_Hover);
+}
+
+TesselElegantSlider::~TesselElegantSlider() = default;
+
+void TesselElegantSlider::paintEvent(QPaintEvent* event)
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    if (hasPartsFromSheet(this, option)) {
+        OvCustomSlider::paintEvent(event);
+        return;
+    }
+    if (isSliderDown()) {
+        option.state |= QStyle::State_Sunken;
+    }
+    QPainter painter(this);
+    // The sheet's background, if there is one, comes along.
+    option.subControls = tickPosition() == NoTicks ? QStyle::SC_None : QStyle::SC_SliderTickmarks;
+    style()->drawComplexControl(QStyle::CC_Slider, &option, &painter, this);
+    // Drawn where the style has the parts, for that is where the mouse finds them.
+    const auto part = [&](QStyle::SubControl control) {
+        return QRectF(style()->subControlRect(QStyle::CC_Slider, &option, control, this));
+    };
+    const QRectF handle = part(QStyle::SC_SliderHandle);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawGroove(painter, option, part(QStyle::SC_SliderGroove), handle.center());
+    drawHandle(painter, option, handle);
+}
+
+} // namespace Orvane::Tessel

@@ -1,0 +1,23 @@
+#pragma once
+
+// Internal to DesignElements: the rows of a combo box that convertComboBoxToTessel() converted.
+
+#include <QStyledItemDelegate>
+
+namespace Orvane::Tessel {
+
+/// A styled delegate that also knows the separators of QComboBox::insertSeparator().
+class TesselItemDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit TesselItemDelegate(QObject* parent);
+    ~TesselItemDelegate() override;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+} // namespace Orvane::Tessel
