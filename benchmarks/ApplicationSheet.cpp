@@ -34,6 +34,8 @@ QString Bench::applicationSheet()
         QStringLiteral("*:disabled { color: #6d7179; }"),
         QStringLiteral("QPushButton[mode=\"active\"] { background: #2f6fde; border-color: #5b8ee6; }"),
         QStringLiteral("QPushButton[mode=\"idle\"] { background: #33373e; border-color: #43474f; }"),
+        QStringLiteral("QPushButton[mode=\"large\"] { padding: 8px 16px; }"),
+        QStringLiteral("QPushButton[mode=\"small\"] { padding: 2px 6px; }"),
     };
 
     static const std::array<const char*, 8> types{"QLabel",    "QPushButton", "QToolButton", "QLineEdit",

@@ -7,8 +7,8 @@
 namespace Bench {
 
 /// A style sheet of 300 rules in the mix that a large application has: type, class, descendant and child
-/// selectors, object names, dynamic properties, style hints, states and sub-controls. Two of its rules
-/// select the values "active" and "idle" of the property "mode" on any push button.
+/// selectors, object names, dynamic properties, style hints, states and sub-controls. On any push button
+/// the values "active" and "idle" of the property "mode" differ in colour, "large" and "small" in padding.
 QString applicationSheet();
 
 } // namespace Bench
