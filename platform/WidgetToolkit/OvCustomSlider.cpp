@@ -21,54 +21,56 @@ Span along(Qt::Orientation orientation, const QRect& rect)
                                          : Span{double(rect.y()), double(rect.height())};
 }
 
-Span handleSpan(const QSlider* slider, QStyleOptionSlider option, int position)
+// Where the handle is at an end of the range: one of two steps, for QStyle loses its way in one of more
+// than 31 bits.
+Span handleSpan(const QSlider* slider, QStyleOptionSlider option, bool atMaximum)
 {
-    option.sliderPosition = position;
+    option.minimum = 0;
+    option.maximum = 1;
+    option.sliderPosition = atMaximum ? 1 : 0;
     return along(slider->orientation(), slider->style()->subControlRect(QStyle::CC_Slider, &option,
                                                                         QStyle::SC_SliderHandle, slider));
 }
 
-// What a click beside the handle means.
-struct GrooveClick
+double placeOf(const QSlider* slider, const QPoint& point)
 {
-    int position;    // of the slider
-    QPoint onHandle; // where on the handle the drag that follows holds it
-};
-
-// The handle is measured at both ends of the range, because a style sheet can keep it off the groove's
-// ends in ways that QSlider's own mapping does not know.
-GrooveClick grooveClick(const QSlider* slider, const QStyleOptionSlider& option, const QRect& handle,
-                        const QPoint& click)
-{
-    const Qt::Orientation orientation = slider->orientation();
-    const QRect groove =
-        slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, slider);
-    const Span first = handleSpan(slider, option, slider->minimum());
-    const Span last = handleSpan(slider, option, slider->maximum());
-    const double place = (orientation == Qt::Horizontal ? click.x() : click.y()) + 0.5;
-    const double firstCentre = first.start + first.length / 2;
-    const double travel = last.start + last.length / 2 - firstCentre;
-    const double fraction = travel == 0.0 ? 0.0 : qBound(0.0, (place - firstCentre) / travel, 1.0);
-
-    const double range = double(slider->maximum()) - slider->minimum();
-    const double target = slider->minimum() + fraction * range;
-
-    // QSlider drags by the distance between the cursor and the handle's start, mapped over the groove.
-    const Span track = along(orientation, groove);
-    const Span knob = along(orientation, handle);
-    const double fromStart = travel < 0.0 ? 1.0 - fraction : fraction;
-    const double held = place - track.start - fromStart * (track.length - knob.length);
-    const int offset =
-        qBound(0, static_cast<int>(std::floor(held)), qMax(0, static_cast<int>(knob.length) - 1));
-
-    QPoint onHandle = handle.center();
-    if (orientation == Qt::Horizontal) {
-        onHandle.setX(handle.x() + offset);
-    } else {
-        onHandle.setY(handle.y() + offset);
-    }
-    return {static_cast<int>(std::floor(target + 0.5)), onHandle};
+    return (slider->orientation() == Qt::Horizontal ? point.x() : point.y()) + 0.5;
 }
+
+// The path that the middle of the handle takes, from minimum to maximum. It is measured at both ends of
+// the range, because a style sheet can keep the handle off the groove's ends in ways that QSlider's own
+// mapping does not know.
+class Track
+{
+public:
+    explicit Track(const QSlider* slider, const QStyleOptionSlider& option)
+        : m_minimum(slider->minimum())
+        , m_maximum(slider->maximum())
+    {
+        const Span first = handleSpan(slider, option, false);
+        const Span last = handleSpan(slider, option, true);
+        m_start = first.start + first.length / 2;
+        m_travel = last.start + last.length / 2 - m_start;
+    }
+
+    int positionAt(double place) const
+    {
+        const double fraction = m_travel == 0.0 ? 0.0 : qBound(0.0, (place - m_start) / m_travel, 1.0);
+        return static_cast<int>(std::floor(m_minimum + fraction * (m_maximum - m_minimum) + 0.5));
+    }
+
+    // The place on the track nearest to @p place.
+    double bounded(double place) const
+    {
+        return qBound(qMin(m_start, m_start + m_travel), place, qMax(m_start, m_start + m_travel));
+    }
+
+private:
+    double m_minimum;
+    double m_maximum;
+    double m_start;
+    double m_travel;
+};
 
 } // namespace
 
@@ -97,18 +99,35 @@ void OvCustomSlider::mousePressEvent(QMouseEvent* event)
     initStyleOption(&option);
     const QRect handle = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
     if (handle.contains(event->pos())) {
+        const Span span = along(orientation(), handle);
+        m_grip = placeOf(this, event->pos()) - (span.start + span.length / 2);
         QSlider::mousePressEvent(event);
         return;
     }
-    const GrooveClick click = grooveClick(this, option, handle, event->pos());
-    QMouseEvent onHandle(event->type(), click.onHandle, event->windowPos(), event->screenPos(),
+    const Track track(this, option);
+    const double place = placeOf(this, event->pos());
+    m_grip = place - track.bounded(place);
+    // QSlider takes a press for the beginning of a drag if it is on the handle.
+    QMouseEvent onHandle(event->type(), handle.center(), event->windowPos(), event->screenPos(),
                          event->button(), event->buttons(), event->modifiers(), event->source());
     const QPointer<OvCustomSlider> guard(this);
     QSlider::mousePressEvent(&onHandle);
     event->setAccepted(onHandle.isAccepted());
     if (guard && isSliderDown()) {
-        setSliderPosition(click.position);
+        setSliderPosition(track.positionAt(place));
     }
+}
+
+void OvCustomSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!isSliderDown() || !(event->buttons() & Qt::LeftButton)) {
+        QSlider::mouseMoveEvent(event);
+        return;
+    }
+    event->accept();
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    setSliderPosition(Track(this, option).positionAt(placeOf(this, event->pos()) - m_grip));
 }
 
 void OvCustomSlider::wheelEvent(QWheelEvent* event)

@@ -32,5 +32,9 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    double m_grip = 0.0; // of the drag: how far the cursor is from the handle's middle, in pixels
 };
