@@ -28,12 +28,12 @@ int roomForIcon(const QComboBox* box)
     return 0;
 }
 
-// Looks no further than it has to: a list may be long.
+// Looks no further than it has to: a list may be long. Bounding rectangles, as sizeHint() takes them.
 int widestText(const QComboBox* box, const QFontMetrics& metrics, int enough)
 {
-    int widest = metrics.horizontalAdvance(box->placeholderText());
+    int widest = metrics.boundingRect(box->placeholderText()).width();
     for (int i = 0; i < box->count() && widest < enough; ++i) {
-        widest = qMax(widest, metrics.horizontalAdvance(box->itemText(i)));
+        widest = qMax(widest, metrics.boundingRect(box->itemText(i)).width());
     }
     return qMin(widest, enough);
 }

@@ -16,6 +16,8 @@
  *   the range too. Without focus the event is ignored, so that a scroll area around it scrolls, and the
  *   wheel does not give it focus: its focus policy is Qt::StrongFocus.
  *
+ * A click finds its place in any range; but QStyle paints the handle wrongly in one of more than 31 bits.
+ *
  * A style sheet selects the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page`
  * and `::sub-page`. A listener of the signals of a click may delete the slider, save of sliderPressed(),
  * behind which QSlider goes on.
