@@ -77,6 +77,9 @@ PointingWidget::Private::Private(PointingWidget* bubble)
 {
     contentFrame->setObjectName(QStringLiteral("contentFrame"));
     layout->setSpacing(0);
+    // fit() keeps the minimum. The layout would enforce it in a step of its own, and window managers lose
+    // the second of two sizes that come at once.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(contentFrame);
     applyMargins();
 }
@@ -150,8 +153,7 @@ void PointingWidget::Private::setShapeValue(int& value, int pixels, int most)
     }
     value = pixels;
     applyMargins();
-    place();
-    q->updateGeometry();
+    fit();
     q->setMask(bubbleRegion(placement, shape));
     q->update();
 }
@@ -163,7 +165,7 @@ void PointingWidget::Private::applyMargins()
 
 void PointingWidget::Private::fit()
 {
-    // What changed while the bubble was hidden has not reached its minimum size yet.
+    // What changed while the bubble was hidden has not reached the layout yet.
     layout->activate();
     const QSize room = area().size();
     QSize size = q->sizeHint();
@@ -172,7 +174,7 @@ void PointingWidget::Private::fit()
         size.setHeight(layout->totalHeightForWidth(size.width()));
     }
     size.setHeight(qMin(size.height(), room.height()));
-    q->resize(size);
+    q->resize(size.expandedTo(q->minimumSizeHint()));
     place();
 }
 
@@ -372,7 +374,7 @@ void PointingWidget::setArrowSide(ArrowSide side, ArrowPosition position)
     d->side = side;
     d->position = position;
     d->place();
-    updateGeometry();
+    d->fit();
 }
 
 PointingWidget::ArrowSide PointingWidget::arrowSide() const

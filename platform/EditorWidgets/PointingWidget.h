@@ -9,6 +9,9 @@
 
 class OvFrame;
 
+// The properties are written by style sheets, and nobody waits for them to change.
+// clazy:excludeall=qproperty-without-notify
+
 /**
  * A bubble with an arrow that points at a spot.
  *
@@ -54,8 +57,6 @@ class OvFrame;
  * Sides are where they say, in right-to-left layouts too; start, end and offset on the top and bottom are
  * mirrored there.
  */
-// The properties are written by style sheets, and nobody waits for them to change.
-// clazy:excludeall=qproperty-without-notify
 class EDITORWIDGETS_EXPORT PointingWidget : public QWidget
 {
     Q_OBJECT

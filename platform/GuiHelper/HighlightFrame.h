@@ -39,7 +39,7 @@ public:
     explicit HighlightFrame(QWidget* target);
 
     /// Removes the outline. A target on screen is painted without it before the destructor returns, so
-    /// that the colours under the outline can be grabbed next.
+    /// that the colours under the outline can be grabbed next (a compositing desktop takes a frame longer).
     ~HighlightFrame() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
