@@ -22,7 +22,12 @@ constexpr double CaptionFontFactor = 0.9;
 void setFontOf(QWidget* widget, double sizeFactor, QFont::Weight weight)
 {
     QFont font = widget->font();
-    font.setPointSizeF(font.pointSizeF() * sizeFactor);
+    // One of the two is unset, depending on how the application's font was made.
+    if (font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * sizeFactor);
+    } else {
+        font.setPixelSize(qRound(font.pixelSize() * sizeFactor));
+    }
     font.setWeight(weight);
     widget->setFont(font);
 }

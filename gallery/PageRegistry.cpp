@@ -1,10 +1,15 @@
 #include "PageRegistry.h"
 
+#include "pages/BindWidgetsPage.h"
 #include "pages/BoxLayoutPage.h"
 #include "pages/ColorHintPage.h"
 #include "pages/ColorInputPage.h"
 #include "pages/ColorPickerButtonPage.h"
+#include "pages/ComboBoxPage.h"
+#include "pages/CustomSliderPage.h"
 #include "pages/CustomizationPage.h"
+#include "pages/DoubleSliderPage.h"
+#include "pages/DoubleSpinBoxPage.h"
 #include "pages/FormatFileSizePage.h"
 #include "pages/FramePage.h"
 #include "pages/HighlightFramePage.h"
@@ -16,6 +21,7 @@
 #include "pages/QmlFocusPage.h"
 #include "pages/SchedulerPage.h"
 #include "pages/SettingsPage.h"
+#include "pages/SpinBoxPage.h"
 #include "pages/StyleHintsPage.h"
 #include "pages/TesselLineEditPage.h"
 #include "pages/WorkaroundPage.h"
@@ -31,6 +37,12 @@ QVector<PageInfo> PageRegistry::pages()
         ColorPickerButtonPage::info(),
         ColorInputPage::info(),
         // inputs
+        SpinBoxPage::info(),
+        DoubleSpinBoxPage::info(),
+        CustomSliderPage::info(),
+        DoubleSliderPage::info(),
+        BindWidgetsPage::info(),
+        ComboBoxPage::info(),
         TesselLineEditPage::info(),
         // layout and styling
         FramePage::info(),

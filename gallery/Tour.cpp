@@ -13,6 +13,16 @@
 namespace {
 
 constexpr QSize PictureSize(1100, 760);
+constexpr int FontPixels = 13;
+
+/// Polishing asks for a new layout, and a layout that changes heights for another one.
+void settle()
+{
+    constexpr int Rounds = 4;
+    for (int i = 0; i < Rounds; ++i) {
+        QCoreApplication::processEvents();
+    }
+}
 
 } // namespace
 
@@ -27,8 +37,11 @@ bool Tour::run()
         m_failures.append(QStringLiteral("%1: the folder cannot be made").arg(m_request.tourFolder));
         return false;
     }
-    // A cursor that blinks would make pictures differ.
+    // A cursor that blinks would make pictures differ, and so would the user's or the platform's font size.
     QApplication::setCursorFlashTime(0);
+    QFont font = QApplication::font();
+    font.setPixelSize(FontPixels);
+    QApplication::setFont(font);
     const QVector<PageInfo> pages = PageRegistry::pages();
     const QStringList styles = StyleController::builtInStyles();
     for (const QString& style : styles) {
@@ -67,13 +80,13 @@ void Tour::render(const QString& page, const QString& style)
         window.setAttribute(Qt::WA_DontShowOnScreen);
         window.resize(PictureSize);
         window.show();
-        QCoreApplication::processEvents();
+        settle();
         if (!window.page()) {
             m_failures.append(QStringLiteral("%1: the page cannot be built").arg(name));
             return;
         }
         window.page()->prepareForPicture();
-        QCoreApplication::processEvents();
+        settle();
         if (!picture(&window).save(QDir(m_request.tourFolder).filePath(name))) {
             m_failures.append(QStringLiteral("%1: the picture cannot be written").arg(name));
         }

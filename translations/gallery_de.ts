@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size.</source>
-        <translation>Ein Kastenlayout nimmt die Kinder seines Besitzers in der Reihenfolge ihrer Entstehung auf oder eine Liste: Widgets mit einem Dehnfaktor und Abstände, die sich dehnen oder ihre Größe behalten.</translation>
+        <translation type="vanished">Ein Kastenlayout nimmt die Kinder seines Besitzers in der Reihenfolge ihrer Entstehung auf oder eine Liste: Widgets mit einem Dehnfaktor und Abstände, die sich dehnen oder ihre Größe behalten.</translation>
     </message>
     <message>
         <source>autoFill() and a stretch behind</source>
@@ -62,6 +62,57 @@
     <message>
         <source>The frame around</source>
         <translation>Der Rahmen darum</translation>
+    </message>
+    <message>
+        <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size. A grid is filled row by row.</source>
+        <translation>Ein Kastenlayout nimmt die Kinder seines Besitzers in der Reihenfolge ihrer Entstehung auf oder eine Liste: Widgets mit einem Dehnfaktor und Abstände, die sich dehnen oder ihre Größe behalten. Ein Raster wird Zeile für Zeile gefüllt.</translation>
+    </message>
+    <message>
+        <source>A grid: one cell spans two, one is aligned right</source>
+        <translation>Ein Raster: Eine Zelle reicht über zwei, eine steht rechts</translation>
+    </message>
+</context>
+<context>
+    <name>ColorHintPage</name>
+    <message>
+        <source>Colour variants</source>
+        <translation>Farbvarianten</translation>
+    </message>
+    <message>
+        <source>variant</source>
+        <translation>Variante</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>The editor&apos;s eight colour variants of plain controls, by name. Anything but one of the names is ignored; the empty text drops the variant.</source>
+        <translation>Die acht Farbvarianten des Editors für einfache Bedienelemente, nach Namen. Alles außer den Namen wird übergangen; der leere Text hebt die Variante auf.</translation>
+    </message>
+    <message>
+        <source>An edit</source>
+        <translation>Ein Eingabefeld</translation>
+    </message>
+    <message>
+        <source>Choose a variant below</source>
+        <translation>Wählen Sie unten eine Variante</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(keiner)</translation>
+    </message>
+    <message>
+        <source>Variant of the edit</source>
+        <translation>Variante des Feldes</translation>
+    </message>
+    <message>
+        <source>Any text</source>
+        <translation>Beliebiger Text</translation>
+    </message>
+    <message>
+        <source>Any plain control: ColorHint and Util::applyStyleHint() give it one of the shared variants.</source>
+        <translation>Jedes einfache Bedienelement: ColorHint und Util::applyStyleHint() geben ihm eine der gemeinsamen Varianten.</translation>
     </message>
 </context>
 <context>
@@ -155,10 +206,92 @@
     </message>
 </context>
 <context>
+    <name>CustomizationPage</name>
+    <message>
+        <source>Headings</source>
+        <translation>Überschriften</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>fett</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>script</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>
+        <translation>Überschriften sind fett, wo Sprache und Titel in einer Schrift stehen, die Fettdruck kennt, und schlicht, wo Fettdruck die Lesbarkeit stört. Auszeichnungen im Titel erscheinen als Text.</translation>
+    </message>
+    <message>
+        <source>Your title</source>
+        <translation>Ihr Titel</translation>
+    </message>
+    <message>
+        <source>A title of your own</source>
+        <translation>Ein eigener Titel</translation>
+    </message>
+    <message>
+        <source>As the present language shows them</source>
+        <translation>Wie die gegenwärtige Sprache sie zeigt</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>Pick a colour</source>
         <translation>Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>FormatFileSizePage</name>
+    <message>
+        <source>File sizes</source>
+        <translation>Dateigrößen</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
+        <translation>Schreibt eine Anzahl Bytes so, wie man sie liest, in Einheiten und Ziffern der gegenwärtigen Sprache, genau für jeden 64-Bit-Wert.</translation>
+    </message>
+    <message>
+        <source>Asked for</source>
+        <translation>Gefragt</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation>Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Bytes in a kilobyte</source>
+        <translation>Bytes je Kilobyte</translation>
     </message>
 </context>
 <context>
@@ -194,6 +327,49 @@
     <message>
         <source>Any widget with an installed controller: select the controller by its class name below the widget.</source>
         <translation>Jedes Widget mit eingesetzter Steuerung: Die Steuerung wird über ihren Klassennamen unter dem Widget ausgewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>HighlightFramePage</name>
+    <message>
+        <source>The target</source>
+        <translation>Das Ziel</translation>
+    </message>
+    <message>
+        <source>Still works</source>
+        <translation>Geht trotzdem</translation>
+    </message>
+    <message>
+        <source>Highlight frame</source>
+        <translation>Hervorhebung</translation>
+    </message>
+    <message>
+        <source>outline</source>
+        <translation>Umriss</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>Überlagerung</translation>
+    </message>
+    <message>
+        <source>Outlines a widget without its notice: it follows the target through moves, resizes and hiding, lies over all its children and takes neither mouse nor focus.</source>
+        <translation>Umrandet ein Widget, ohne dass es davon merkt: Sie folgt dem Ziel beim Bewegen, Ändern der Größe und Verbergen, liegt über allen Kindern und nimmt weder Maus noch Fokus.</translation>
+    </message>
+    <message>
+        <source>The outline, a child of the widget that it highlights.</source>
+        <translation>Der Umriss, ein Kind des hervorgehobenen Widgets.</translation>
+    </message>
+    <message>
+        <source>Highlighted</source>
+        <translation>Hervorgehoben</translation>
+    </message>
+    <message>
+        <source>Height of the target</source>
+        <translation>Höhe des Ziels</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
     </message>
 </context>
 <context>
@@ -265,6 +441,254 @@
     </message>
 </context>
 <context>
+    <name>PathPage</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Paths</source>
+        <translation>Pfade</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>permission</source>
+        <translation>Berechtigung</translation>
+    </message>
+    <message>
+        <source>validity</source>
+        <translation>Gültigkeit</translation>
+    </message>
+    <message>
+        <source>What an editor asks about a path that a user typed: whether it could be a folder, where the nearest one is, and what the program may do there.</source>
+        <translation>Was ein Editor über einen eingetippten Pfad wissen will: ob er ein Ordner sein könnte, wo der nächstgelegene ist und was das Programm dort darf.</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message>
+        <source>Root folder</source>
+        <translation>Wurzelordner</translation>
+    </message>
+    <message>
+        <source>A file in the place of a folder</source>
+        <translation>Eine Datei anstelle eines Ordners</translation>
+    </message>
+    <message>
+        <source>Empty path</source>
+        <translation>Leerer Pfad</translation>
+    </message>
+</context>
+<context>
+    <name>PixmapWidgetPage</name>
+    <message>
+        <source>Animated image</source>
+        <translation>Animiertes Bild</translation>
+    </message>
+    <message>
+        <source>movie</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <translation>Spielt ein animiertes Bild in der Größe des Widgets, wahrt die Proportionen, bleibt auf skalierten Bildschirmen scharf und ruht, solange es verborgen ist.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
+    </message>
+    <message>
+        <source>The animation</source>
+        <translation>Die Animation</translation>
+    </message>
+    <message>
+        <source>A file that is not there</source>
+        <translation>Eine Datei, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>Border and padding of a sheet surround the picture.</source>
+        <translation>Rand und Innenabstand eines Stylesheets umgeben das Bild.</translation>
+    </message>
+</context>
+<context>
+    <name>PointingPage</name>
+    <message>
+        <source>Arrow on top</source>
+        <translation>Pfeil oben</translation>
+    </message>
+    <message>
+        <source>on the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>on the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>Pointing bubble</source>
+        <translation>Sprechblase</translation>
+    </message>
+    <message>
+        <source>bubble</source>
+        <translation>Blase</translation>
+    </message>
+    <message>
+        <source>arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>pop-up</source>
+        <translation>Aufklappfenster</translation>
+    </message>
+    <message>
+        <source>A bubble whose arrow touches a spot. It stays on its screen, or inside its parent, goes to the other side where there is no room, and follows the widget that it annotates.</source>
+        <translation>Eine Blase, deren Pfeil eine Stelle berührt. Sie bleibt auf ihrem Bildschirm oder in ihrem Elternteil, weicht auf die andere Seite aus, wo kein Platz ist, und folgt dem Widget, das sie erläutert.</translation>
+    </message>
+    <message>
+        <source>Driven by the controls below</source>
+        <translation>Von den Reglern unten gesteuert</translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>All sides</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Side of the arrow</source>
+        <translation>Seite des Pfeils</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>A bubble of its own. It goes with the window.</source>
+        <translation>Eine eigene Blase. Sie geht mit dem Fenster.</translation>
+    </message>
+    <message>
+        <source>Open as a pop-up</source>
+        <translation>Als Aufklappfenster öffnen</translation>
+    </message>
+    <message>
+        <source>Painted by itself: a sheet sets colours and measures through the properties, and the content&apos;s margins on the frame inside.</source>
+        <translation>Zeichnet sich selbst: Ein Stylesheet setzt Farben und Maße über die Eigenschaften und die Ränder des Inhalts am Rahmen darin.</translation>
+    </message>
+</context>
+<context>
+    <name>PrivacyAccessPage</name>
+    <message>
+        <source>granted</source>
+        <translation>erlaubt</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>verweigert</translation>
+    </message>
+    <message>
+        <source>not available on this platform</source>
+        <translation>auf dieser Plattform nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Privacy access</source>
+        <translation>Zugriff auf Privates</translation>
+    </message>
+    <message>
+        <source>permission</source>
+        <translation>Berechtigung</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>capture</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Whether the system lets the program read the screen and the input of other programs, asked without troubling the user.</source>
+        <translation>Ob das System das Programm den Bildschirm und die Eingaben anderer Programme lesen lässt, gefragt, ohne den Benutzer zu stören.</translation>
+    </message>
+    <message>
+        <source>Platform</source>
+        <translation>Plattform</translation>
+    </message>
+    <message>
+        <source>Request %1</source>
+        <translation>%1 anfordern</translation>
+    </message>
+</context>
+<context>
     <name>PropertyPanel</name>
     <message>
         <source>Properties</source>
@@ -288,6 +712,163 @@
     <message>
         <source>An example: the provider is selected by its class name below the widget that it serves.</source>
         <translation>Ein Beispiel: Der Eigenschaftsgeber wird über seinen Klassennamen unter dem Widget ausgewählt, dem er dient.</translation>
+    </message>
+</context>
+<context>
+    <name>QmlFocusPage</name>
+    <message>
+        <source>Focus of hosted QML</source>
+        <translation>Fokus von eingebettetem QML</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Qt forgets the focus of a view whose host is taken out of a window and put back. With the workaround the keyboard goes to the view; without it, to whatever comes first.</source>
+        <translation>Qt vergisst den Fokus einer Ansicht, deren Träger aus einem Fenster genommen und zurückgelegt wird. Mit der Umgehung geht die Tastatur an die Ansicht, ohne sie an das, was zuerst kommt.</translation>
+    </message>
+    <message>
+        <source>A line edit stands for the view here: the workaround works for every kind</source>
+        <translation>Ein Eingabefeld steht hier für die Ansicht: Die Umgehung wirkt bei jeder Art</translation>
+    </message>
+    <message>
+        <source>Apply the workaround</source>
+        <translation>Umgehung anwenden</translation>
+    </message>
+    <message>
+        <source>Open the dialog</source>
+        <translation>Dialog öffnen</translation>
+    </message>
+    <message>
+        <source>Take the view out and put it back</source>
+        <translation>Ansicht herausnehmen und zurücklegen</translation>
+    </message>
+    <message>
+        <source>The view</source>
+        <translation>Die Ansicht</translation>
+    </message>
+    <message>
+        <source>no widget</source>
+        <translation>kein Widget</translation>
+    </message>
+    <message>
+        <source>Keyboard focus</source>
+        <translation>Tastaturfokus</translation>
+    </message>
+</context>
+<context>
+    <name>SchedulerPage</name>
+    <message>
+        <source>Scheduler</source>
+        <translation>Planer</translation>
+    </message>
+    <message>
+        <source>timer</source>
+        <translation>Zeitgeber</translation>
+    </message>
+    <message>
+        <source>delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>merge</source>
+        <translation>zusammenfassen</translation>
+    </message>
+    <message>
+        <source>burst</source>
+        <translation>Salve</translation>
+    </message>
+    <message>
+        <source>Merges a burst of requests into one deferred call. Later requests do not put the call off, so a steady stream of them still gets its calls.</source>
+        <translation>Fasst eine Salve von Anforderungen zu einem verzögerten Aufruf zusammen. Spätere Anforderungen schieben den Aufruf nicht auf, sodass auch ein stetiger Strom seine Aufrufe bekommt.</translation>
+    </message>
+    <message>
+        <source>Delay in milliseconds</source>
+        <translation>Verzögerung in Millisekunden</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>One request</source>
+        <translation>Eine Anforderung</translation>
+    </message>
+    <message>
+        <source>A burst of %1 requests</source>
+        <translation>Eine Salve von %1 Anforderungen</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Anforderungen</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Aufrufe</translation>
+    </message>
+    <message>
+        <source>A call is pending</source>
+        <translation>Ein Aufruf steht aus</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Custom colours and folders</source>
+        <translation>Eigene Farben und Ordner</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>store</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over.</source>
+        <translation>Die eigenen Farben überleben das Programm, auch wenn es gleich nach dem Schreiben beendet wird. Sie liegen unter dem Organisations- und Anwendungsnamen des Wirts oder in einem Speicher, den der Wirt übergibt.</translation>
+    </message>
+    <message>
+        <source>Custom colours</source>
+        <translation>Eigene Farben</translation>
+    </message>
+    <message>
+        <source>Standard folders</source>
+        <translation>Standardordner</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Neu lesen</translation>
     </message>
 </context>
 <context>
@@ -389,6 +970,92 @@
     <message>
         <source>Right to left</source>
         <translation>Von rechts nach links</translation>
+    </message>
+</context>
+<context>
+    <name>TesselLineEditPage</name>
+    <message>
+        <source>Line edit</source>
+        <translation>Eingabefeld</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>context menu</source>
+        <translation>Kontextmenü</translation>
+    </message>
+    <message>
+        <source>field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>The design system&apos;s line edit. Its context menu always has the same shape: what can do nothing at the moment is disabled, not missing.</source>
+        <translation>Das Eingabefeld des Designsystems. Sein Kontextmenü hat immer dieselbe Gestalt: Was gerade nichts bewirkt, ist inaktiv und fehlt nicht.</translation>
+    </message>
+    <message>
+        <source>A text</source>
+        <translation>Ein Text</translation>
+    </message>
+    <message>
+        <source>Text to edit</source>
+        <translation>Text zum Bearbeiten</translation>
+    </message>
+    <message>
+        <source>A placeholder</source>
+        <translation>Ein Platzhalter</translation>
+    </message>
+    <message>
+        <source>Name of the clip</source>
+        <translation>Name des Clips</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Nur lesen</translation>
+    </message>
+    <message>
+        <source>Text to copy</source>
+        <translation>Text zum Kopieren</translation>
+    </message>
+    <message>
+        <source>Selected as QLineEdit or, alone, as Orvane--Tessel--TesselLineEdit; its menu as QMenu#tesselContextMenu.</source>
+        <translation>Ausgewählt als QLineEdit oder, allein, als Orvane--Tessel--TesselLineEdit; das Menü als QMenu#tesselContextMenu.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkaroundPage</name>
+    <message>
+        <source>What lies behind shows through the corners.</source>
+        <translation>Was dahinter liegt, scheint durch die Ecken.</translation>
+    </message>
+    <message>
+        <source>Rounded pop-ups</source>
+        <translation>Abgerundete Aufklappfenster</translation>
+    </message>
+    <message>
+        <source>corner</source>
+        <translation>Ecke</translation>
+    </message>
+    <message>
+        <source>translucent</source>
+        <translation>durchscheinend</translation>
+    </message>
+    <message>
+        <source>Real rounded corners where desktops disagree about them: a widget with the property roundedEdges is translucent, and painted all the same.</source>
+        <translation>Echte runde Ecken, wo Arbeitsoberflächen sich uneins sind: Ein Widget mit der Eigenschaft roundedEdges ist durchscheinend und wird trotzdem gezeichnet.</translation>
+    </message>
+    <message>
+        <source>As a part of a window</source>
+        <translation>Als Teil eines Fensters</translation>
+    </message>
+    <message>
+        <source>Open a pop-up</source>
+        <translation>Aufklappfenster öffnen</translation>
+    </message>
+    <message>
+        <source>Any widget that Workaround::Ui::apply() prepared: a rule for the property gives it background, border and border-radius.</source>
+        <translation>Jedes Widget, das Workaround::Ui::apply() vorbereitet hat: Eine Regel für die Eigenschaft gibt ihm Hintergrund, Rand und Eckenradius.</translation>
     </message>
 </context>
 </TS>

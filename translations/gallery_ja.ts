@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size.</source>
-        <translation>ボックスレイアウトは、所有者の子を作成順に並べるか、項目のリストを受け取ります。項目は伸縮係数を持つウィジェット、または伸縮・固定のスペーサーです。</translation>
+        <translation type="vanished">ボックスレイアウトは、所有者の子を作成順に並べるか、項目のリストを受け取ります。項目は伸縮係数を持つウィジェット、または伸縮・固定のスペーサーです。</translation>
     </message>
     <message>
         <source>autoFill() and a stretch behind</source>
@@ -62,6 +62,57 @@
     <message>
         <source>The frame around</source>
         <translation>周囲のフレーム</translation>
+    </message>
+    <message>
+        <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size. A grid is filled row by row.</source>
+        <translation>ボックスレイアウトは、所有者の子を作成順に並べるか、項目のリストを受け取ります。項目は伸縮係数を持つウィジェット、または伸縮・固定のスペーサーです。グリッドは行ごとに埋まります。</translation>
+    </message>
+    <message>
+        <source>A grid: one cell spans two, one is aligned right</source>
+        <translation>グリッド：1 つのセルは 2 列分、1 つは右揃え</translation>
+    </message>
+</context>
+<context>
+    <name>ColorHintPage</name>
+    <message>
+        <source>Colour variants</source>
+        <translation>色の種類</translation>
+    </message>
+    <message>
+        <source>variant</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>The editor&apos;s eight colour variants of plain controls, by name. Anything but one of the names is ignored; the empty text drops the variant.</source>
+        <translation>エディターが標準の部品に用意する 8 つの色の種類を名前で指定します。それ以外の文字列は無視され、空文字列で解除されます。</translation>
+    </message>
+    <message>
+        <source>An edit</source>
+        <translation>入力欄</translation>
+    </message>
+    <message>
+        <source>Choose a variant below</source>
+        <translation>下で種類を選択</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>（なし）</translation>
+    </message>
+    <message>
+        <source>Variant of the edit</source>
+        <translation>入力欄の種類</translation>
+    </message>
+    <message>
+        <source>Any text</source>
+        <translation>任意の文字列</translation>
+    </message>
+    <message>
+        <source>Any plain control: ColorHint and Util::applyStyleHint() give it one of the shared variants.</source>
+        <translation>標準の部品すべて。ColorHint と Util::applyStyleHint() が共通の種類を与えます。</translation>
     </message>
 </context>
 <context>
@@ -155,10 +206,92 @@
     </message>
 </context>
 <context>
+    <name>CustomizationPage</name>
+    <message>
+        <source>Headings</source>
+        <translation>見出し</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>太字</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>script</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>
+        <translation>言語と題名の文字に太字の習慣があれば見出しは太字になり、太字が読みにくい文字では標準の太さになります。題名の中のマークアップは文字として表示されます。</translation>
+    </message>
+    <message>
+        <source>Your title</source>
+        <translation>任意の題名</translation>
+    </message>
+    <message>
+        <source>A title of your own</source>
+        <translation>自分の題名</translation>
+    </message>
+    <message>
+        <source>As the present language shows them</source>
+        <translation>現在の言語での表示</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>題名</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>Pick a colour</source>
         <translation>色を選択</translation>
+    </message>
+</context>
+<context>
+    <name>FormatFileSizePage</name>
+    <message>
+        <source>File sizes</source>
+        <translation>ファイルサイズ</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
+        <translation>バイト数を、現在の言語の単位と数字で読みやすく表します。64 ビットのどの値でも正確です。</translation>
+    </message>
+    <message>
+        <source>Asked for</source>
+        <translation>指定した値</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>バイト数</translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation>小数桁数</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Bytes in a kilobyte</source>
+        <translation>1 キロバイトのバイト数</translation>
     </message>
 </context>
 <context>
@@ -194,6 +327,49 @@
     <message>
         <source>Any widget with an installed controller: select the controller by its class name below the widget.</source>
         <translation>制御役を取り付けた任意のウィジェット。制御役はウィジェット配下のクラス名で選択します。</translation>
+    </message>
+</context>
+<context>
+    <name>HighlightFramePage</name>
+    <message>
+        <source>The target</source>
+        <translation>対象</translation>
+    </message>
+    <message>
+        <source>Still works</source>
+        <translation>操作できます</translation>
+    </message>
+    <message>
+        <source>Highlight frame</source>
+        <translation>強調枠</translation>
+    </message>
+    <message>
+        <source>outline</source>
+        <translation>輪郭</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>重ね表示</translation>
+    </message>
+    <message>
+        <source>Outlines a widget without its notice: it follows the target through moves, resizes and hiding, lies over all its children and takes neither mouse nor focus.</source>
+        <translation>対象に影響を与えずにウィジェットを縁取ります。移動・サイズ変更・非表示に追従し、すべての子の上に重なり、マウスもフォーカスも奪いません。</translation>
+    </message>
+    <message>
+        <source>The outline, a child of the widget that it highlights.</source>
+        <translation>輪郭。強調するウィジェットの子です。</translation>
+    </message>
+    <message>
+        <source>Highlighted</source>
+        <translation>強調表示</translation>
+    </message>
+    <message>
+        <source>Height of the target</source>
+        <translation>対象の高さ</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>表示</translation>
     </message>
 </context>
 <context>
@@ -265,6 +441,254 @@
     </message>
 </context>
 <context>
+    <name>PathPage</name>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Paths</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>permission</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>validity</source>
+        <translation>有効性</translation>
+    </message>
+    <message>
+        <source>What an editor asks about a path that a user typed: whether it could be a folder, where the nearest one is, and what the program may do there.</source>
+        <translation>入力されたパスについてエディターが知りたいこと：フォルダーになり得るか、最も近いフォルダーはどこか、そこで何が許されるか。</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>ホームフォルダー</translation>
+    </message>
+    <message>
+        <source>Root folder</source>
+        <translation>ルートフォルダー</translation>
+    </message>
+    <message>
+        <source>A file in the place of a folder</source>
+        <translation>フォルダーの位置にファイルがある</translation>
+    </message>
+    <message>
+        <source>Empty path</source>
+        <translation>空のパス</translation>
+    </message>
+</context>
+<context>
+    <name>PixmapWidgetPage</name>
+    <message>
+        <source>Animated image</source>
+        <translation>アニメーション画像</translation>
+    </message>
+    <message>
+        <source>movie</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>アニメーション</translation>
+    </message>
+    <message>
+        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <translation>アニメーション画像をウィジェットの大きさで再生します。縦横比を保ち、拡大された画面でも鮮明で、隠れている間は休みます。</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>The animation</source>
+        <translation>アニメーション</translation>
+    </message>
+    <message>
+        <source>A file that is not there</source>
+        <translation>存在しないファイル</translation>
+    </message>
+    <message>
+        <source>Border and padding of a sheet surround the picture.</source>
+        <translation>スタイルシートの境界線と内側の余白が画像を囲みます。</translation>
+    </message>
+</context>
+<context>
+    <name>PointingPage</name>
+    <message>
+        <source>Arrow on top</source>
+        <translation>矢印は上</translation>
+    </message>
+    <message>
+        <source>on the left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>on the right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Pointing bubble</source>
+        <translation>吹き出し</translation>
+    </message>
+    <message>
+        <source>bubble</source>
+        <translation>吹き出し</translation>
+    </message>
+    <message>
+        <source>arrow</source>
+        <translation>矢印</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>pop-up</source>
+        <translation>ポップアップ</translation>
+    </message>
+    <message>
+        <source>A bubble whose arrow touches a spot. It stays on its screen, or inside its parent, goes to the other side where there is no room, and follows the widget that it annotates.</source>
+        <translation>矢印が一点に触れる吹き出しです。画面または親の中に収まり、場所がなければ反対側に移り、説明するウィジェットに追従します。</translation>
+    </message>
+    <message>
+        <source>Driven by the controls below</source>
+        <translation>下の操作部で動かせます</translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation>ここから開始</translation>
+    </message>
+    <message>
+        <source>All sides</source>
+        <translation>すべての辺</translation>
+    </message>
+    <message>
+        <source>Side of the arrow</source>
+        <translation>矢印の辺</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>先頭</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>末尾</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>ずらし</translation>
+    </message>
+    <message>
+        <source>A bubble of its own. It goes with the window.</source>
+        <translation>独立した吹き出しです。ウィンドウと一緒に動きます。</translation>
+    </message>
+    <message>
+        <source>Open as a pop-up</source>
+        <translation>ポップアップとして開く</translation>
+    </message>
+    <message>
+        <source>Painted by itself: a sheet sets colours and measures through the properties, and the content&apos;s margins on the frame inside.</source>
+        <translation>自分で描画します。色と寸法はプロパティを通じて、内容の余白は中のフレームでスタイルシートが決めます。</translation>
+    </message>
+</context>
+<context>
+    <name>PrivacyAccessPage</name>
+    <message>
+        <source>granted</source>
+        <translation>許可</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>拒否</translation>
+    </message>
+    <message>
+        <source>not available on this platform</source>
+        <translation>このプラットフォームでは利用不可</translation>
+    </message>
+    <message>
+        <source>Privacy access</source>
+        <translation>プライバシーへのアクセス</translation>
+    </message>
+    <message>
+        <source>permission</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>capture</source>
+        <translation>取り込み</translation>
+    </message>
+    <message>
+        <source>Whether the system lets the program read the screen and the input of other programs, asked without troubling the user.</source>
+        <translation>他のプログラムの画面や入力を読むことをシステムが許しているかを、利用者を煩わせずに調べます。</translation>
+    </message>
+    <message>
+        <source>Platform</source>
+        <translation>プラットフォーム</translation>
+    </message>
+    <message>
+        <source>Request %1</source>
+        <translation>%1 を要求</translation>
+    </message>
+</context>
+<context>
     <name>PropertyPanel</name>
     <message>
         <source>Properties</source>
@@ -288,6 +712,163 @@
     <message>
         <source>An example: the provider is selected by its class name below the widget that it serves.</source>
         <translation>例：提供役は、仕えるウィジェット配下のクラス名で選択します。</translation>
+    </message>
+</context>
+<context>
+    <name>QmlFocusPage</name>
+    <message>
+        <source>Focus of hosted QML</source>
+        <translation>埋め込み QML のフォーカス</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>dialog</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>Qt forgets the focus of a view whose host is taken out of a window and put back. With the workaround the keyboard goes to the view; without it, to whatever comes first.</source>
+        <translation>ビューの入れ物をウィンドウから外して戻すと、Qt はフォーカスを忘れます。回避策を使うとキーボードはビューに届き、使わないと先頭の部品に移ります。</translation>
+    </message>
+    <message>
+        <source>A line edit stands for the view here: the workaround works for every kind</source>
+        <translation>ここでは入力欄がビューの代わりです。回避策はどの種類のビューにも効きます</translation>
+    </message>
+    <message>
+        <source>Apply the workaround</source>
+        <translation>回避策を適用</translation>
+    </message>
+    <message>
+        <source>Open the dialog</source>
+        <translation>ダイアログを開く</translation>
+    </message>
+    <message>
+        <source>Take the view out and put it back</source>
+        <translation>ビューを外して戻す</translation>
+    </message>
+    <message>
+        <source>The view</source>
+        <translation>ビュー</translation>
+    </message>
+    <message>
+        <source>no widget</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Keyboard focus</source>
+        <translation>キーボードフォーカス</translation>
+    </message>
+</context>
+<context>
+    <name>SchedulerPage</name>
+    <message>
+        <source>Scheduler</source>
+        <translation>スケジューラー</translation>
+    </message>
+    <message>
+        <source>timer</source>
+        <translation>タイマー</translation>
+    </message>
+    <message>
+        <source>delay</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>merge</source>
+        <translation>統合</translation>
+    </message>
+    <message>
+        <source>burst</source>
+        <translation>連続要求</translation>
+    </message>
+    <message>
+        <source>Merges a burst of requests into one deferred call. Later requests do not put the call off, so a steady stream of them still gets its calls.</source>
+        <translation>連続した要求を 1 回の遅延呼び出しにまとめます。後の要求で呼び出しが延びることはなく、絶え間ない要求でも呼び出しは行われます。</translation>
+    </message>
+    <message>
+        <source>Delay in milliseconds</source>
+        <translation>遅延（ミリ秒）</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>One request</source>
+        <translation>要求を 1 回</translation>
+    </message>
+    <message>
+        <source>A burst of %1 requests</source>
+        <translation>要求を %1 回連続</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>呼び出し</translation>
+    </message>
+    <message>
+        <source>A call is pending</source>
+        <translation>呼び出し待ち</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Custom colours and folders</source>
+        <translation>カスタム色とフォルダー</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>store</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>コンピューター</translation>
+    </message>
+    <message>
+        <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over.</source>
+        <translation>利用者の色は、書き込み直後に強制終了されても残ります。ホストの組織名とアプリケーション名の下、またはホストが渡した保存先に保存されます。</translation>
+    </message>
+    <message>
+        <source>Custom colours</source>
+        <translation>カスタム色</translation>
+    </message>
+    <message>
+        <source>Standard folders</source>
+        <translation>標準フォルダー</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>再読み込み</translation>
     </message>
 </context>
 <context>
@@ -389,6 +970,92 @@
     <message>
         <source>Right to left</source>
         <translation>右から左</translation>
+    </message>
+</context>
+<context>
+    <name>TesselLineEditPage</name>
+    <message>
+        <source>Line edit</source>
+        <translation>入力欄</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>context menu</source>
+        <translation>コンテキストメニュー</translation>
+    </message>
+    <message>
+        <source>field</source>
+        <translation>欄</translation>
+    </message>
+    <message>
+        <source>The design system&apos;s line edit. Its context menu always has the same shape: what can do nothing at the moment is disabled, not missing.</source>
+        <translation>デザインシステムの入力欄です。コンテキストメニューの形は常に同じで、今は使えない項目は消えずに無効になります。</translation>
+    </message>
+    <message>
+        <source>A text</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>Text to edit</source>
+        <translation>編集できる文字列</translation>
+    </message>
+    <message>
+        <source>A placeholder</source>
+        <translation>プレースホルダー</translation>
+    </message>
+    <message>
+        <source>Name of the clip</source>
+        <translation>クリップの名前</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>Text to copy</source>
+        <translation>コピーできる文字列</translation>
+    </message>
+    <message>
+        <source>Selected as QLineEdit or, alone, as Orvane--Tessel--TesselLineEdit; its menu as QMenu#tesselContextMenu.</source>
+        <translation>QLineEdit、または単独で Orvane--Tessel--TesselLineEdit として選択します。メニューは QMenu#tesselContextMenu です。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkaroundPage</name>
+    <message>
+        <source>What lies behind shows through the corners.</source>
+        <translation>角から背後が見えます。</translation>
+    </message>
+    <message>
+        <source>Rounded pop-ups</source>
+        <translation>角丸のポップアップ</translation>
+    </message>
+    <message>
+        <source>corner</source>
+        <translation>角</translation>
+    </message>
+    <message>
+        <source>translucent</source>
+        <translation>半透明</translation>
+    </message>
+    <message>
+        <source>Real rounded corners where desktops disagree about them: a widget with the property roundedEdges is translucent, and painted all the same.</source>
+        <translation>デスクトップ環境ごとに異なる角丸を正しく表示します。プロパティ roundedEdges を持つウィジェットは透過になり、それでもきちんと描画されます。</translation>
+    </message>
+    <message>
+        <source>As a part of a window</source>
+        <translation>ウィンドウの一部として</translation>
+    </message>
+    <message>
+        <source>Open a pop-up</source>
+        <translation>ポップアップを開く</translation>
+    </message>
+    <message>
+        <source>Any widget that Workaround::Ui::apply() prepared: a rule for the property gives it background, border and border-radius.</source>
+        <translation>Workaround::Ui::apply() で準備した任意のウィジェット。プロパティに対する規則で背景・境界線・角の半径を与えます。</translation>
     </message>
 </context>
 </TS>

@@ -1,4 +1,93 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
+<context>
+    <name>FileUtil</name>
+    <message>
+        <source>No path is given</source>
+        <translation>Es ist kein Pfad angegeben</translation>
+    </message>
+    <message>
+        <source>Not a path on a disk: %1</source>
+        <translation>Kein Pfad auf einem Datenträger: %1</translation>
+    </message>
+    <message>
+        <source>The path has characters that names on this disk cannot have: %1</source>
+        <translation>Der Pfad enthält Zeichen, die Namen auf diesem Datenträger nicht haben können: %1</translation>
+    </message>
+    <message>
+        <source>The path is too long: %1</source>
+        <translation>Der Pfad ist zu lang: %1</translation>
+    </message>
+    <message>
+        <source>A name in the path is too long: %1</source>
+        <translation>Ein Name im Pfad ist zu lang: %1</translation>
+    </message>
+    <message>
+        <source>A file is in the place of a folder: %1</source>
+        <translation>Anstelle eines Ordners steht eine Datei: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FormatFileSize</name>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 PB</translation>
+    </message>
+    <message>
+        <source>%1 EB</source>
+        <translation>%1 EB</translation>
+    </message>
+</context>
+<context>
+    <name>Orvane::Tessel::TesselLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Wieder&amp;herstellen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>A&amp;lles auswählen</translation>
+    </message>
+</context>
 </TS>

@@ -1,4 +1,93 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
+<context>
+    <name>FileUtil</name>
+    <message>
+        <source>No path is given</source>
+        <translation>パスが指定されていません</translation>
+    </message>
+    <message>
+        <source>Not a path on a disk: %1</source>
+        <translation>ディスク上のパスではありません: %1</translation>
+    </message>
+    <message>
+        <source>The path has characters that names on this disk cannot have: %1</source>
+        <translation>このディスクの名前に使えない文字がパスに含まれています: %1</translation>
+    </message>
+    <message>
+        <source>The path is too long: %1</source>
+        <translation>パスが長すぎます: %1</translation>
+    </message>
+    <message>
+        <source>A name in the path is too long: %1</source>
+        <translation>パスに含まれる名前が長すぎます: %1</translation>
+    </message>
+    <message>
+        <source>A file is in the place of a folder: %1</source>
+        <translation>フォルダーの位置にファイルがあります: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FormatFileSize</name>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 PB</translation>
+    </message>
+    <message>
+        <source>%1 EB</source>
+        <translation>%1 EB</translation>
+    </message>
+</context>
+<context>
+    <name>Orvane::Tessel::TesselLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+</context>
 </TS>
