@@ -108,9 +108,14 @@ void Page::addDemonstration(const QString& caption, QWidget* widget)
     addToCard(m_demonstrationCard, caption, widget);
 }
 
-void Page::describeStyling(QWidget* widget, const QString& sentence, const QStringList& hints)
+void Page::describeStyling(const StyleSubject& subject)
 {
-    m_styleSubjects.append({widget, sentence, hints});
+    m_styleSubjects.append(subject);
+}
+
+void Page::describeStyling(QWidget* widget, const QString& sentence)
+{
+    describeStyling(StyleSubject{widget, sentence, {}, {}});
 }
 
 bool Page::eventFilter(QObject* watched, QEvent* event)

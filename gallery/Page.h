@@ -39,6 +39,8 @@ struct StyleSubject
     QString sentence;
     /// The values of the property "styleHint" that it is made for.
     QStringList hints;
+    /// What the manual calls it; empty: its class name.
+    QString title;
 };
 
 /**
@@ -87,7 +89,8 @@ protected:
     void addDemonstration(const QString& caption, QWidget* widget);
 
     /// Adds @p widget to the manual of what a style sheet can use.
-    void describeStyling(QWidget* widget, const QString& sentence, const QStringList& hints = {});
+    void describeStyling(const StyleSubject& subject);
+    void describeStyling(QWidget* widget, const QString& sentence);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

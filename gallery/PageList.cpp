@@ -2,8 +2,9 @@
 
 #include "PageRegistry.h"
 
+#include <DesignElements/TesselLineEdit.h>
+
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -42,7 +43,7 @@ QString idOf(const QListWidgetItem* item)
 
 PageList::PageList(QWidget* parent)
     : QFrame(parent)
-    , m_search(new QLineEdit(this))
+    , m_search(new Orvane::Tessel::TesselLineEdit(this))
     , m_list(new QListWidget(this))
 {
     setObjectName(QStringLiteral("pageSideBar"));

@@ -3,14 +3,14 @@
 #include "DialogColorPicker.h"
 
 #include <UiComponents/ColorInputWidget.h>
+#include <WidgetToolkit/OvComboBox.h>
+#include <WidgetToolkit/OvDoubleSpinBox.h>
+#include <WidgetToolkit/OvSpinBox.h>
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMetaProperty>
-#include <QSpinBox>
 
 #include <limits>
 
@@ -67,13 +67,13 @@ bool PropertyEditor::build(const QMetaProperty& property)
         if (property.isFlagType()) {
             return false;
         }
-        auto* box = new QComboBox(this);
+        auto* box = new OvComboBox(this);
         const QMetaEnum enumeration = property.enumerator();
         for (int i = 0; i < enumeration.keyCount(); ++i) {
             box->addItem(QString::fromUtf8(enumeration.key(i)), enumeration.value(i));
         }
         m_show = [box](const QVariant& value) { box->setCurrentIndex(box->findData(value.toInt())); };
-        connect(box, QOverload<int>::of(&QComboBox::activated), this,
+        connect(box, QOverload<int>::of(&OvComboBox::activated), this,
                 [this, box](int index) { write(box->itemData(index)); });
         place(box);
         return true;
@@ -87,20 +87,20 @@ bool PropertyEditor::build(const QMetaProperty& property)
         return true;
     }
     case QMetaType::Int: {
-        auto* box = new QSpinBox(this);
+        auto* box = new OvSpinBox(this);
         box->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
         m_show = [box](const QVariant& value) { box->setValue(value.toInt()); };
-        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &PropertyEditor::write);
+        connect(box, QOverload<int>::of(&OvSpinBox::valueChanged), this, &PropertyEditor::write);
         place(box);
         return true;
     }
     case QMetaType::Double: {
-        auto* box = new QDoubleSpinBox(this);
+        auto* box = new OvDoubleSpinBox(this);
         box->setDecimals(FractionDigits);
         box->setRange(-LargestFraction, LargestFraction);
         box->setSingleStep(FractionStep);
         m_show = [box](const QVariant& value) { box->setValue(value.toDouble()); };
-        connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &PropertyEditor::write);
+        connect(box, QOverload<double>::of(&OvDoubleSpinBox::valueChanged), this, &PropertyEditor::write);
         place(box);
         return true;
     }

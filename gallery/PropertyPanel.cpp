@@ -4,17 +4,17 @@
 #include "PropertyEditor.h"
 
 #include <UiComponents/ColorInputWidget.h>
+#include <WidgetToolkit/OvComboBox.h>
+#include <WidgetToolkit/OvDoubleSpinBox.h>
+#include <WidgetToolkit/OvSpinBox.h>
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 namespace {
@@ -106,20 +106,20 @@ void PropertyPanel::addSwitch(const QString& label, bool value, const std::funct
 void PropertyPanel::addNumber(const QString& label, int minimum, int maximum, int value,
                               const std::function<void(int)>& apply)
 {
-    auto* box = new QSpinBox(m_content);
+    auto* box = new OvSpinBox(m_content);
     box->setRange(minimum, maximum);
     box->setValue(value);
-    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, apply);
+    connect(box, QOverload<int>::of(&OvSpinBox::valueChanged), this, apply);
     addRow(label, box);
 }
 
 void PropertyPanel::addFraction(const QString& label, double minimum, double maximum, double value,
                                 const std::function<void(double)>& apply)
 {
-    auto* box = new QDoubleSpinBox(m_content);
+    auto* box = new OvDoubleSpinBox(m_content);
     box->setRange(minimum, maximum);
     box->setValue(value);
-    connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, apply);
+    connect(box, QOverload<double>::of(&OvDoubleSpinBox::valueChanged), this, apply);
     addRow(label, box);
 }
 
@@ -134,10 +134,10 @@ void PropertyPanel::addText(const QString& label, const QString& value,
 void PropertyPanel::addChoice(const QString& label, const QStringList& choices, int current,
                               const std::function<void(int)>& apply)
 {
-    auto* box = new QComboBox(m_content);
+    auto* box = new OvComboBox(m_content);
     box->addItems(choices);
     box->setCurrentIndex(current);
-    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, apply);
+    connect(box, QOverload<int>::of(&OvComboBox::currentIndexChanged), this, apply);
     addRow(label, box);
 }
 

@@ -29,19 +29,40 @@ QString list(QStringList items)
     return items.join(QStringLiteral(", "));
 }
 
-/// "a: int, b: QColor", of the properties that a sheet may set.
+/// "`a`, `b` (int); `c` (QColor)", of the properties that a sheet may set.
 QString properties(const QWidget* widget)
 {
-    QStringList texts;
+    QString text;
+    QString lastType;
     const QStringList names = ownPropertyNames(widget);
     for (const QString& name : names) {
         const QMetaObject* const meta = widget->metaObject();
         const QMetaProperty property = meta->property(meta->indexOfProperty(name.toUtf8().constData()));
-        if (property.isDesignable(widget)) {
-            texts.append(QStringLiteral("%1 (%2)").arg(code(name), QString::fromUtf8(property.typeName())));
+        if (!property.isDesignable(widget)) {
+            continue;
+        }
+        const QString type = QString::fromUtf8(property.typeName());
+        if (!lastType.isEmpty()) {
+            text += type == lastType ? QStringLiteral(", ") : QStringLiteral(" (%1); ").arg(lastType);
+        }
+        text += code(name);
+        lastType = type;
+    }
+    return text.isEmpty() ? text : text + QStringLiteral(" (%1)").arg(lastType);
+}
+
+/// The class names that a sheet selects @p widget by, the nearest first, down to Qt's own.
+QStringList selectors(const QWidget* widget)
+{
+    QStringList names;
+    for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass()) {
+        const QString name = QString::fromUtf8(meta->className());
+        names.append(QString(name).replace(QStringLiteral("::"), QStringLiteral("--")));
+        if (name.startsWith(QLatin1Char('Q'))) {
+            break;
         }
     }
-    return texts.join(QStringLiteral(", "));
+    return names;
 }
 
 QStringList dynamicProperties(const QWidget* widget)
@@ -74,6 +95,9 @@ QList<const QWidget*> reachableChildren(const QWidget* widget)
     QList<const QWidget*> found;
     const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* child : children) {
+        if (child->metaObject()->indexOfClassInfo("styling") >= 0) {
+            continue;
+        }
         const bool isNamed =
             !child->objectName().isEmpty() && !child->objectName().startsWith(QLatin1String("qt_"));
         if (isNamed || !className(child).startsWith(QLatin1Char('Q'))) {
@@ -94,7 +118,9 @@ void appendLine(QString& text, const QString& label, const QString& value)
 QString section(const StyleSubject& subject)
 {
     const QWidget* const widget = subject.widget;
-    QString text = QStringLiteral("### %1\n\n%2\n\n").arg(className(widget), subject.sentence);
+    const QString title = subject.title.isEmpty() ? className(widget) : subject.title;
+    QString text = QStringLiteral("### %1\n\n%2\n\n").arg(title, subject.sentence);
+    appendLine(text, QStringLiteral("Selectors"), list(selectors(widget)));
     appendLine(text, QStringLiteral("Properties"), properties(widget));
     appendLine(text, QStringLiteral("Dynamic properties"), list(dynamicProperties(widget)));
     appendLine(text, QStringLiteral("Style hints"), list(hints(subject)));

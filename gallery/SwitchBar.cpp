@@ -3,9 +3,10 @@
 #include "LanguageController.h"
 #include "StyleController.h"
 
+#include <WidgetToolkit/OvComboBox.h>
+
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QComboBox>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,8 +25,8 @@ SwitchBar::SwitchBar(QWidget* parent)
     : QToolBar(parent)
     , m_styles(new QButtonGroup(this))
     , m_directions(new QButtonGroup(this))
-    , m_languages(new QComboBox(this))
-    , m_scales(new QComboBox(this))
+    , m_languages(new OvComboBox(this))
+    , m_scales(new OvComboBox(this))
     , m_name(new QLabel(QStringLiteral("UiComponents"), this))
     , m_styleLabel(new QLabel(this))
     , m_languageLabel(new QLabel(this))
@@ -67,9 +68,9 @@ SwitchBar::SwitchBar(QWidget* parent)
     });
     connect(m_directions, &QButtonGroup::idClicked, this,
             [this](int id) { Q_EMIT directionChosen(static_cast<Qt::LayoutDirection>(id)); });
-    connect(m_languages, QOverload<int>::of(&QComboBox::activated), this,
+    connect(m_languages, QOverload<int>::of(&OvComboBox::activated), this,
             [this](int index) { Q_EMIT languageChosen(m_languages->itemData(index).toString()); });
-    connect(m_scales, QOverload<int>::of(&QComboBox::activated), this,
+    connect(m_scales, QOverload<int>::of(&OvComboBox::activated), this,
             [this](int index) { Q_EMIT scaleChosen(m_scales->itemData(index).toDouble()); });
     retranslate();
 }

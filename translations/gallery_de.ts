@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>BindWidgetsPage</name>
+    <message>
+        <source>Slider and spin box in step</source>
+        <translation>Schieber und Zahlenfeld im Gleichschritt</translation>
+    </message>
+    <message>
+        <source>binding</source>
+        <translation>Bindung</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>Keeps a slider and a spin box on one value, in both directions. What is typed reads back digit for digit; the handle goes to the nearest step.</source>
+        <translation>Hält Schieber und Zahlenfeld in beiden Richtungen auf einem Wert. Was getippt wird, liest sich Ziffer für Ziffer zurück; der Griff geht zum nächsten Schritt.</translation>
+    </message>
+    <message>
+        <source>Whole numbers</source>
+        <translation>Ganze Zahlen</translation>
+    </message>
+    <message>
+        <source>Fractions</source>
+        <translation>Brüche</translation>
+    </message>
+</context>
+<context>
     <name>BoxLayoutPage</name>
     <message>
         <source>Box and grid layouts</source>
@@ -206,6 +237,100 @@
     </message>
 </context>
 <context>
+    <name>ComboBoxPage</name>
+    <message>
+        <source>Full HD, 1920 × 1080, 25 frames</source>
+        <translation>Full HD, 1920 × 1080, 25 Bilder</translation>
+    </message>
+    <message>
+        <source>Ultra HD, 3840 × 2160, 60 frames</source>
+        <translation>Ultra HD, 3840 × 2160, 60 Bilder</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>As the source</source>
+        <translation>Wie die Quelle</translation>
+    </message>
+    <message>
+        <source>Combo box</source>
+        <translation>Auswahlfeld</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>choice</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>pop-up</source>
+        <translation>Aufklappfenster</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>A combo box that gives way in a narrow panel: the text is cut off with an ellipsis, while the pop-up is as wide as its widest item. The wheel changes it only while it has the focus.</source>
+        <translation>Ein Auswahlfeld, das in schmalen Bereichen nachgibt: Der Text wird mit Auslassungspunkten gekürzt, die Liste ist so breit wie ihr breitester Eintrag. Das Mausrad ändert es nur mit Fokus.</translation>
+    </message>
+    <message>
+        <source>With room</source>
+        <translation>Mit Platz</translation>
+    </message>
+    <message>
+        <source>In a narrow panel</source>
+        <translation>In einem schmalen Bereich</translation>
+    </message>
+    <message>
+        <source>Width of the narrow one</source>
+        <translation>Breite des schmalen</translation>
+    </message>
+    <message>
+        <source>As QComboBox, with its sub-controls and its view, or alone by its class name; the pop-up&apos;s state is a dynamic property.</source>
+        <translation>Wie QComboBox mit Unterelementen und Ansicht oder allein über den Klassennamen; der Zustand der Liste ist eine dynamische Eigenschaft.</translation>
+    </message>
+</context>
+<context>
+    <name>CustomSliderPage</name>
+    <message>
+        <source>Slider</source>
+        <translation>Schieber</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>groove</source>
+        <translation>Rinne</translation>
+    </message>
+    <message>
+        <source>A slider that goes where it is clicked: a press on the groove moves the handle there at once and the drag goes on from it. The wheel changes it only while it has the focus.</source>
+        <translation>Ein Schieber, der dorthin geht, wo man klickt: Ein Druck auf die Rinne bewegt den Griff sofort dorthin, und das Ziehen geht von dort weiter. Das Mausrad ändert ihn nur mit Fokus.</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>As QSlider, with ::groove, ::handle, ::add-page and ::sub-page, or alone by its class name.</source>
+        <translation>Wie QSlider mit ::groove, ::handle, ::add-page und ::sub-page oder allein über den Klassennamen.</translation>
+    </message>
+</context>
+<context>
     <name>CustomizationPage</name>
     <message>
         <source>Headings</source>
@@ -249,6 +374,72 @@
     <message>
         <source>Pick a colour</source>
         <translation>Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSliderPage</name>
+    <message>
+        <source>Slider for fractions</source>
+        <translation>Schieber für Brüche</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>multiplier</source>
+        <translation>Multiplikator</translation>
+    </message>
+    <message>
+        <source>step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>A slider with a fractional value: its steps times a multiplier. A value that code sets is kept exactly, also between two steps, in whatever order multiplier, range and value come.</source>
+        <translation>Ein Schieber mit gebrochenem Wert: seine Schritte mal einem Multiplikator. Ein vom Code gesetzter Wert bleibt genau erhalten, auch zwischen zwei Schritten, in welcher Reihenfolge Multiplikator, Bereich und Wert auch kommen.</translation>
+    </message>
+    <message>
+        <source>As OvCustomSlider and QSlider, or alone by its class name.</source>
+        <translation>Wie OvCustomSlider und QSlider oder allein über den Klassennamen.</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSpinBoxPage</name>
+    <message>
+        <source>Spin box for fractions</source>
+        <translation>Zahlenfeld für Brüche</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>The spin box for fractions. On request it takes both the point and the comma as the decimal mark, whatever the language, so that nobody has to look for the right key.</source>
+        <translation>Das Zahlenfeld für Brüche. Auf Wunsch nimmt es in jeder Sprache Punkt und Komma als Dezimalzeichen, sodass niemand die richtige Taste suchen muss.</translation>
+    </message>
+    <message>
+        <source>The language&apos;s decimal mark</source>
+        <translation>Das Dezimalzeichen der Sprache</translation>
+    </message>
+    <message>
+        <source>Point and comma</source>
+        <translation>Punkt und Komma</translation>
+    </message>
+    <message>
+        <source>As QDoubleSpinBox, with its sub-controls, or alone by its class name.</source>
+        <translation>Wie QDoubleSpinBox mit seinen Unterelementen oder allein über den Klassennamen.</translation>
     </message>
 </context>
 <context>
@@ -884,6 +1075,41 @@
     <message>
         <source>Use the component: its signals appear here.</source>
         <translation>Bedienen Sie die Komponente: Ihre Signale erscheinen hier.</translation>
+    </message>
+</context>
+<context>
+    <name>SpinBoxPage</name>
+    <message>
+        <source>Spin box</source>
+        <translation>Zahlenfeld</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>integer</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>A spin box that is safe to scroll past, since the wheel changes it only while it has the focus, and quick to type into: Enter commits the number and leaves it selected.</source>
+        <translation>Ein Zahlenfeld, an dem man gefahrlos vorbeirollt, weil das Mausrad es nur mit Fokus ändert, und in das man schnell tippt: Die Eingabetaste übernimmt die Zahl und lässt sie ausgewählt.</translation>
+    </message>
+    <message>
+        <source>A number</source>
+        <translation>Eine Zahl</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>Mit Einheit</translation>
+    </message>
+    <message>
+        <source>As QSpinBox, with its sub-controls, or alone by its class name.</source>
+        <translation>Wie QSpinBox mit seinen Unterelementen oder allein über den Klassennamen.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>BindWidgetsPage</name>
+    <message>
+        <source>Slider and spin box in step</source>
+        <translation>スライダーとスピンボックスの連動</translation>
+    </message>
+    <message>
+        <source>binding</source>
+        <translation>連動</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>小数桁数</translation>
+    </message>
+    <message>
+        <source>Keeps a slider and a spin box on one value, in both directions. What is typed reads back digit for digit; the handle goes to the nearest step.</source>
+        <translation>スライダーとスピンボックスを双方向に同じ値に保ちます。入力した値は一桁も変わらず読み戻せ、つまみは最も近い段階に移ります。</translation>
+    </message>
+    <message>
+        <source>Whole numbers</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>Fractions</source>
+        <translation>小数</translation>
+    </message>
+</context>
+<context>
     <name>BoxLayoutPage</name>
     <message>
         <source>Box and grid layouts</source>
@@ -206,6 +237,100 @@
     </message>
 </context>
 <context>
+    <name>ComboBoxPage</name>
+    <message>
+        <source>Full HD, 1920 × 1080, 25 frames</source>
+        <translation>フル HD、1920 × 1080、25 フレーム</translation>
+    </message>
+    <message>
+        <source>Ultra HD, 3840 × 2160, 60 frames</source>
+        <translation>ウルトラ HD、3840 × 2160、60 フレーム</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>正方形</translation>
+    </message>
+    <message>
+        <source>As the source</source>
+        <translation>元のまま</translation>
+    </message>
+    <message>
+        <source>Combo box</source>
+        <translation>コンボボックス</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>一覧</translation>
+    </message>
+    <message>
+        <source>choice</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>pop-up</source>
+        <translation>ポップアップ</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>ホイール</translation>
+    </message>
+    <message>
+        <source>A combo box that gives way in a narrow panel: the text is cut off with an ellipsis, while the pop-up is as wide as its widest item. The wheel changes it only while it has the focus.</source>
+        <translation>狭いパネルでも収まるコンボボックスです。文字は省略記号で切り詰められ、ポップアップは最も広い項目の幅になります。ホイールはフォーカスがあるときだけ値を変えます。</translation>
+    </message>
+    <message>
+        <source>With room</source>
+        <translation>余裕のある幅</translation>
+    </message>
+    <message>
+        <source>In a narrow panel</source>
+        <translation>狭いパネル</translation>
+    </message>
+    <message>
+        <source>Width of the narrow one</source>
+        <translation>狭い方の幅</translation>
+    </message>
+    <message>
+        <source>As QComboBox, with its sub-controls and its view, or alone by its class name; the pop-up&apos;s state is a dynamic property.</source>
+        <translation>QComboBox とその部分要素・ビューとして、または単独でクラス名により選択します。ポップアップの状態は動的プロパティです。</translation>
+    </message>
+</context>
+<context>
+    <name>CustomSliderPage</name>
+    <message>
+        <source>Slider</source>
+        <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>ホイール</translation>
+    </message>
+    <message>
+        <source>groove</source>
+        <translation>溝</translation>
+    </message>
+    <message>
+        <source>A slider that goes where it is clicked: a press on the groove moves the handle there at once and the drag goes on from it. The wheel changes it only while it has the focus.</source>
+        <translation>クリックした場所に動くスライダーです。溝を押すとつまみがすぐそこへ移り、そのままドラッグできます。ホイールはフォーカスがあるときだけ値を変えます。</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>As QSlider, with ::groove, ::handle, ::add-page and ::sub-page, or alone by its class name.</source>
+        <translation>QSlider と ::groove、::handle、::add-page、::sub-page として、または単独でクラス名により選択します。</translation>
+    </message>
+</context>
+<context>
     <name>CustomizationPage</name>
     <message>
         <source>Headings</source>
@@ -249,6 +374,72 @@
     <message>
         <source>Pick a colour</source>
         <translation>色を選択</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSliderPage</name>
+    <message>
+        <source>Slider for fractions</source>
+        <translation>小数スライダー</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>multiplier</source>
+        <translation>倍率</translation>
+    </message>
+    <message>
+        <source>step</source>
+        <translation>段階</translation>
+    </message>
+    <message>
+        <source>A slider with a fractional value: its steps times a multiplier. A value that code sets is kept exactly, also between two steps, in whatever order multiplier, range and value come.</source>
+        <translation>小数の値を持つスライダーで、値は段階数と倍率の積です。コードで設定した値は、段階の間でも、倍率・範囲・値をどの順で設定しても、正確に保たれます。</translation>
+    </message>
+    <message>
+        <source>As OvCustomSlider and QSlider, or alone by its class name.</source>
+        <translation>OvCustomSlider と QSlider として、または単独でクラス名により選択します。</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSpinBoxPage</name>
+    <message>
+        <source>Spin box for fractions</source>
+        <translation>小数スピンボックス</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>小数桁数</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>コンマ</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>ホイール</translation>
+    </message>
+    <message>
+        <source>The spin box for fractions. On request it takes both the point and the comma as the decimal mark, whatever the language, so that nobody has to look for the right key.</source>
+        <translation>小数用のスピンボックスです。設定すると言語に関係なくピリオドとコンマの両方を小数点として受け付けるので、正しいキーを探す必要がありません。</translation>
+    </message>
+    <message>
+        <source>The language&apos;s decimal mark</source>
+        <translation>言語の小数点</translation>
+    </message>
+    <message>
+        <source>Point and comma</source>
+        <translation>ピリオドとコンマ</translation>
+    </message>
+    <message>
+        <source>As QDoubleSpinBox, with its sub-controls, or alone by its class name.</source>
+        <translation>QDoubleSpinBox とその部分要素として、または単独でクラス名により選択します。</translation>
     </message>
 </context>
 <context>
@@ -884,6 +1075,41 @@
     <message>
         <source>Use the component: its signals appear here.</source>
         <translation>部品を操作すると、ここにシグナルが表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>SpinBoxPage</name>
+    <message>
+        <source>Spin box</source>
+        <translation>スピンボックス</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>wheel</source>
+        <translation>ホイール</translation>
+    </message>
+    <message>
+        <source>integer</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>A spin box that is safe to scroll past, since the wheel changes it only while it has the focus, and quick to type into: Enter commits the number and leaves it selected.</source>
+        <translation>通り過ぎても安全で素早く入力できるスピンボックスです。ホイールはフォーカスがあるときだけ値を変え、Enter は数値を確定して選択したままにします。</translation>
+    </message>
+    <message>
+        <source>A number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>With a unit</source>
+        <translation>単位付き</translation>
+    </message>
+    <message>
+        <source>As QSpinBox, with its sub-controls, or alone by its class name.</source>
+        <translation>QSpinBox とその部分要素として、または単独でクラス名により選択します。</translation>
     </message>
 </context>
 <context>

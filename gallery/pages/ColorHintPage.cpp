@@ -75,8 +75,8 @@ ColorHintPage::ColorHintPage(QWidget* parent)
                 .arg(edits.enabled ? edits.enabled->property("styleHint").toString() : QString()));
     });
     signalLog()->watch(edits.enabled, QStringLiteral("edit"));
-    describeStyling(edits.enabled,
-                    tr("Any plain control: ColorHint and Util::applyStyleHint() give it one "
-                       "of the shared variants."),
-                    hints());
+    describeStyling({edits.enabled.data(),
+                     tr("Any plain control: ColorHint and Util::applyStyleHint() give it one of the shared "
+                        "variants."),
+                     hints(), QStringLiteral("ColorHint")});
 }

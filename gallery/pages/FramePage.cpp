@@ -63,6 +63,9 @@ FramePage::FramePage(QWidget* parent)
     signalLog()->watch(frames.enabled, QStringLiteral("frame"));
     describeStyling(frames.enabled, tr("The base of composite components; a sheet sets the metrics of its "
                                        "layout through its properties."));
-    describeStyling(boxes.enabled, tr("Any widget with an installed controller: select the controller by "
-                                      "its class name below the widget."));
+    describeStyling({boxes.enabled.data(),
+                     tr("Any widget with an installed controller: select the controller by its class name "
+                        "below the widget."),
+                     {},
+                     QStringLiteral("Util::installLayoutController()")});
 }

@@ -22,6 +22,9 @@ PropertyProviderPage::PropertyProviderPage(QWidget* parent)
     const auto dials = addTwins<SampleDial>(tr("A dial whose hand is styled"));
     properties()->addHeading(QStringLiteral("SampleDialStyle"));
     properties()->addProperties({dials.enabled->dialStyle(), dials.disabled->dialStyle()});
-    describeStyling(dials.enabled, tr("An example: the provider is selected by its class name below the "
-                                      "widget that it serves."));
+    describeStyling({dials.enabled.data(),
+                     tr("An example: the provider is selected by its class name below the widget that it "
+                        "serves."),
+                     {},
+                     QStringLiteral("PropertyProviderBase")});
 }

@@ -6,6 +6,8 @@
 class SampleTile : public QLabel
 {
     Q_OBJECT
+    // Content of a page, not a part of the component around it.
+    Q_CLASSINFO("styling", "none")
 
 public:
     SampleTile(const QString& text, QWidget* parent);

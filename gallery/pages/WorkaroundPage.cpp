@@ -61,6 +61,9 @@ WorkaroundPage::WorkaroundPage(QWidget* parent)
         popup->show();
     });
     signalLog()->watch(panels.enabled, QStringLiteral("panel"));
-    describeStyling(panels.enabled, tr("Any widget that Workaround::Ui::apply() prepared: a rule for the "
-                                       "property gives it background, border and border-radius."));
+    describeStyling({panels.enabled.data(),
+                     tr("Any widget that Workaround::Ui::apply() prepared: a rule for the property gives it "
+                        "background, border and border-radius."),
+                     {},
+                     QStringLiteral("Workaround::Ui")});
 }

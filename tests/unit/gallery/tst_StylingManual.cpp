@@ -13,6 +13,8 @@ private Q_SLOTS:
     void tellsNamesPropertiesAndStates();
     void itsRulesAreRules();
     void theCopyInTheDocumentationIsCurrent();
+    void tellsTypesAndSelectors();
+    void leavesOutTheContentOfPages();
 };
 
 void tst_StylingManual::theSameTextAgain()
@@ -27,8 +29,9 @@ void tst_StylingManual::tellsNamesPropertiesAndStates()
     QVERIFY(start > 0);
     const QString section = manual.mid(start, manual.indexOf("\n### ", start + 1) - start);
     QVERIFY2(section.contains("- Dynamic properties: `multiColor`, `nullColor`\n"), qPrintable(section));
+    QVERIFY2(section.contains("- Selectors: `ColorPickerButton`, `QToolButton`\n"), qPrintable(section));
     QVERIFY2(section.contains("`QWidget#color`"), qPrintable(section));
-    QVERIFY2(section.contains("`InstalledLayoutController`: properties `layoutMargin` (int)"),
+    QVERIFY2(section.contains("`InstalledLayoutController`: properties `layoutMargin`, `layoutMarginLeft`"),
              qPrintable(section));
 }
 
@@ -54,6 +57,21 @@ void tst_StylingManual::theCopyInTheDocumentationIsCurrent()
     QVERIFY(copy.open(QIODevice::ReadOnly));
     QVERIFY2(QString::fromUtf8(copy.readAll()) == stylingManual(),
              "Run: ui-components-gallery --styling-manual > docs/styling.md");
+}
+
+void tst_StylingManual::tellsTypesAndSelectors()
+{
+    const QString manual = stylingManual();
+    QVERIFY(manual.contains("- Selectors: `Orvane--Tessel--TesselLineEdit`, `QLineEdit`\n"));
+    QVERIFY(
+        manual.contains("- Child `SampleDialStyle`: properties `handColor` (QColor); `handWidth` (int)\n"));
+    QVERIFY(manual.contains("- Style hints: `LIGHT_GREY_ONE`, `LIGHT_GREY_TWO`, "));
+    QVERIFY(manual.contains("- Dynamic properties: `roundedEdges`\n"));
+}
+
+void tst_StylingManual::leavesOutTheContentOfPages()
+{
+    QVERIFY(!stylingManual().contains("SampleTile"));
 }
 
 UIC_TEST_MAIN(tst_StylingManual)
