@@ -11,6 +11,8 @@ uic_packages()
                 echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools ;;
             run | unit | gallery)
                 echo fonts-dejavu-core ;;
+            wayland)
+                echo qtwayland5 ;;
             desktop)
                 echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils ;;
             package)
