@@ -80,7 +80,11 @@ QColorDialog* DialogColorPicker::makeDialog()
     connect(dialog, &QColorDialog::currentColorChanged, this, &DialogColorPicker::preview);
     connect(dialog, &QDialog::accepted, this, [this] { finish(m_dialog->currentColor()); });
     connect(dialog, &QDialog::rejected, this, [this] { finish(m_original); });
-    connect(dialog, &QObject::destroyed, this, [this] { finish(m_original); });
+    connect(dialog, &QObject::destroyed, this, [this] {
+        // Still set, and no longer a dialog.
+        m_dialog.clear();
+        finish(m_original);
+    });
 
     dialog->ensurePolished();
     dialog->adjustSize();
