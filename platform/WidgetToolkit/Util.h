@@ -54,8 +54,9 @@ WIDGETTOOLKIT_EXPORT void bindWidgets(QAbstractSlider* slider, QSpinBox* spinBox
 /// digit: the spin box is never rewritten by an echo, and the slider's handle goes to the nearest step,
 /// halves away from zero. While the two are set up in any order, neither is moved because the other
 /// cannot show a value yet: a spin box with too few decimals leaves the slider's value alone and takes
-/// it over in full once it has them. Ranges that the slider's 32-bit steps cannot count are clamped on
-/// the slider and stay as they are on the spin box.
+/// it over in full once it has them: an OvDoubleSpinBox at once, a plain QDoubleSpinBox, which does not
+/// announce its decimals, when it is next shown, painted, focused or given a value. Ranges that the
+/// slider's 32-bit steps cannot count are clamped on the slider and stay as they are on the spin box.
 WIDGETTOOLKIT_EXPORT void bindWidgets(OvDoubleSlider* slider, QDoubleSpinBox* spinBox);
 
 namespace Details {

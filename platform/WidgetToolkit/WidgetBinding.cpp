@@ -55,7 +55,7 @@ WidgetBinding::WidgetBinding(QAbstractSlider* slider, QAbstractSpinBox* spinBox)
 
 WidgetBinding::~WidgetBinding()
 {
-    if (m_gone) {
+    if (m_gone != nullptr) {
         *m_gone = true;
     }
 }
@@ -73,7 +73,7 @@ bool WidgetBinding::exists(const QAbstractSlider* slider, const QAbstractSpinBox
 
 void WidgetBinding::synchronise(Side side)
 {
-    if (m_gone) {
+    if (m_gone != nullptr) {
         return;
     }
     bool gone = false;
