@@ -1,5 +1,7 @@
 #include "TestMain.h"
 
+#include <DesignElements/TesselComboBox.h>
+#include <DesignElements/TesselElegantSlider.h>
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorWidgets/PointingWidget.h>
 #include <EditorWidgets/Workaround.h>
@@ -7,8 +9,12 @@
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvComboBox.h>
+#include <WidgetToolkit/OvCustomSlider.h>
+#include <WidgetToolkit/OvDoubleSpinBox.h>
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/OvPixmapWidget.h>
+#include <WidgetToolkit/OvSpinBox.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QCheckBox>
@@ -130,18 +136,33 @@ QLineEdit* makeEdit(QWidget* parent)
     return new QLineEdit(QStringLiteral("Text"), parent);
 }
 
-QSlider* makeSlider(QWidget* parent)
+template <typename Slider>
+Slider* makeSlider(QWidget* parent)
 {
-    auto* slider = new QSlider(Qt::Horizontal, parent);
+    auto* slider = new Slider(parent);
+    slider->setOrientation(Qt::Horizontal);
     slider->setValue(40);
     return slider;
 }
 
-QComboBox* makeCombo(QWidget* parent)
+template <typename ComboBox>
+ComboBox* makeCombo(QWidget* parent)
 {
-    auto* box = new QComboBox(parent);
+    auto* box = new ComboBox(parent);
     box->addItem(QStringLiteral("Text"));
     box->view(); // Made when it is first asked for, with the pop-up around it.
+    return box;
+}
+
+void convertToTessel(QWidget* widget)
+{
+    Orvane::Tessel::convertComboBoxToTessel(static_cast<OvComboBox*>(widget));
+}
+
+OvComboBox* makeTesselCombo(QWidget* parent)
+{
+    auto* box = makeCombo<OvComboBox>(parent);
+    convertToTessel(box);
     return box;
 }
 
@@ -208,8 +229,13 @@ QMainWindow* makeEverything()
                                      makeButton<QCheckBox>(body),
                                      makeButton<QRadioButton>(body),
                                      makeEdit(body),
-                                     makeSlider(body),
-                                     makeCombo(body),
+                                     makeSlider<QSlider>(body),
+                                     makeCombo<QComboBox>(body),
+                                     makeTesselCombo(body),
+                                     make<OvSpinBox>(body),
+                                     make<OvDoubleSpinBox>(body),
+                                     makeSlider<OvCustomSlider>(body),
+                                     makeSlider<Orvane::Tessel::TesselElegantSlider>(body),
                                      make<QSpinBox>(body),
                                      make<QDoubleSpinBox>(body),
                                      make<QTextEdit>(body),
@@ -582,8 +608,10 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
 
     const QVector<QPair<const char*, Maker>> buttons = {{"QPushButton", makeButton<QPushButton>},
                                                         {"QToolButton", makeButton<QToolButton>}};
-    const QVector<QPair<const char*, Maker>> fields = {
-        {"QLineEdit", makeEdit}, {"QSpinBox", make<QSpinBox>}, {"QComboBox", makeCombo}};
+    const QVector<QPair<const char*, Maker>> fields = {{"QLineEdit", makeEdit},
+                                                       {"OvSpinBox", make<OvSpinBox>},
+                                                       {"OvDoubleSpinBox", make<OvDoubleSpinBox>},
+                                                       {"OvComboBox", makeCombo<OvComboBox>}};
 
     for (const QString& style : styles) {
         const char* const sheet = style == styles.first() ? "dark" : "light";
@@ -612,11 +640,14 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
         row("QLineEdit", "INPUT_LIGHT", makeEdit, withHint("INPUT_LIGHT"));
         row("QLineEdit", "kitVersion", makeEdit, withProperty("kitVersion", QStringLiteral("1.0")));
         row("QSpinBox", "INPUT_LIGHT", make<QSpinBox>, withHint("INPUT_LIGHT"));
-        row("QComboBox", "SELECT_LIGHT", makeCombo, withHint("SELECT_LIGHT"));
-        row("QComboBox", "popupVisible", makeCombo, withProperty("popupVisible", true));
-        row("QSlider", "SLIDER_LIGHT", makeSlider, withHint("SLIDER_LIGHT"));
-        row("QSlider", "focus", makeSlider, focus);
-        row("QSlider", "disabled", makeSlider, disable);
+        row("OvComboBox", "tessel", makeCombo<OvComboBox>, convertToTessel);
+        row("OvComboBox", "SELECT_LIGHT", makeCombo<OvComboBox>, withHint("SELECT_LIGHT"));
+        row("OvComboBox", "popupVisible", makeCombo<OvComboBox>, withProperty("popupVisible", true));
+        row("OvCustomSlider", "SLIDER_LIGHT", makeSlider<OvCustomSlider>, withHint("SLIDER_LIGHT"));
+        row("OvCustomSlider", "focus", makeSlider<OvCustomSlider>, focus);
+        row("OvCustomSlider", "disabled", makeSlider<OvCustomSlider>, disable);
+        row("TesselElegantSlider", "focus", makeSlider<Orvane::Tessel::TesselElegantSlider>, focus);
+        row("TesselElegantSlider", "disabled", makeSlider<Orvane::Tessel::TesselElegantSlider>, disable);
         row("QCheckBox", "hover", makeButton<QCheckBox>, hover);
         row("QCheckBox", "focus", makeButton<QCheckBox>, focus);
         row("QCheckBox", "disabled", makeButton<QCheckBox>, disable);
@@ -664,10 +695,19 @@ void tst_ReferenceStyles::controlsHaveOneHeight()
     font.setPixelSize(12);
     QWidget window;
     window.setFont(font);
-    const QVector<QWidget*> controls = {
-        makeButton<QPushButton>(&window), makeButton<QToolButton>(&window),       makeEdit(&window),
-        make<QSpinBox>(&window),          make<QDoubleSpinBox>(&window),          makeCombo(&window),
-        makeColorButton(&window),         new ColorInputWidget(&window, QColor())};
+    const QVector<QWidget*> controls = {makeButton<QPushButton>(&window),
+                                        makeButton<QToolButton>(&window),
+                                        makeEdit(&window),
+                                        make<QSpinBox>(&window),
+                                        make<QDoubleSpinBox>(&window),
+                                        makeCombo<OvComboBox>(&window),
+                                        makeTesselCombo(&window),
+                                        make<OvSpinBox>(&window),
+                                        make<OvDoubleSpinBox>(&window),
+                                        make<Orvane::Tessel::TesselLineEdit>(&window),
+                                        makeCombo<QComboBox>(&window),
+                                        makeColorButton(&window),
+                                        new ColorInputWidget(&window, QColor())};
     for (QWidget* control : controls) {
         control->ensurePolished();
         QVERIFY2(control->sizeHint().height() == 24,
@@ -683,7 +723,7 @@ void tst_ReferenceStyles::focusMovesNothing_data()
     QTest::newRow("QPushButton") << Maker(makeButton<QPushButton>);
     QTest::newRow("QToolButton") << Maker(makeButton<QToolButton>);
     QTest::newRow("QLineEdit") << Maker(makeEdit);
-    QTest::newRow("QComboBox") << Maker(makeCombo);
+    QTest::newRow("OvComboBox") << Maker(makeCombo<OvComboBox>);
     QTest::newRow("ColorPickerButton") << Maker(makeColorButton);
 }
 
@@ -785,7 +825,7 @@ void tst_ReferenceStyles::labelsShowTheirSurface()
                                         make<QWidget>(surface),
                                         makeButton<QCheckBox>(surface),
                                         makeButton<QRadioButton>(surface),
-                                        makeSlider(surface)};
+                                        makeSlider<QSlider>(surface)};
     for (QWidget* child : children) {
         child->setMinimumSize(120, 20);
         layout->addWidget(child);
