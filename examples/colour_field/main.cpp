@@ -57,8 +57,9 @@ int main(int argc, char** argv)
     window.setStyleSheet("ColorPickerButton > QWidget { min-width: 48px; min-height: 16px; }");
     QFormLayout form(&window);
 
-    auto* field = new ColorInputWidget(&window, Qt::darkCyan);
+    auto* field = new ColorInputWidget(&window, QColor());
     field->setPicker(new DialogPicker);
+    field->setColor(Qt::darkCyan); // after the picker, which learns each colour from then on
     form.addRow("Text colour", field);
 
     QObject::connect(field, &ColorInputWidget::colorChanged,

@@ -53,7 +53,8 @@ public:
     /// Installs @p picker, which must not be null, takes ownership of it whatever its parent was, and
     /// deletes the one before, also when that one is picking: the button is then released without a
     /// signal. Installing the installed picker again does nothing. A picker that is deleted by others,
-    /// or by itself, leaves a button without one.
+    /// or by itself, leaves a button without one. The picker is told of each colour from now on, not of
+    /// the one that the button has: install it first and set the colour then, or give it the colour too.
     void setPicker(AbstractColorPicker* picker);
 
     /// The value as it was set or picked, alpha included; empty at first.
