@@ -1,5 +1,6 @@
 #include "Page.h"
 
+#include "Labels.h"
 #include "PropertyPanel.h"
 #include "SignalLogView.h"
 
@@ -43,14 +44,17 @@ Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
     auto* title = new QLabel(info.title, this);
     title->setObjectName(QStringLiteral("pageTitle"));
     setFontOf(title, TitleFontFactor, QFont::Bold);
+    alignToLeadingEdge(title);
     auto* classes = new QLabel(info.covers.join(QStringLiteral("  ·  ")), this);
     classes->setObjectName(QStringLiteral("pageClasses"));
     classes->setWordWrap(true);
+    alignToLeadingEdge(classes);
     classes->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* text = new QLabel(introduction, this);
     text->setObjectName(QStringLiteral("pageIntroduction"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
+    alignToLeadingEdge(text);
 
     m_demonstrationCard = makeCard("none", QString());
     m_enabledCard = makeCard("enabled", tr("Enabled"));
@@ -153,6 +157,7 @@ QFrame* Page::makeCard(const char* twin, const QString& title)
         auto* label = new QLabel(title, card);
         label->setObjectName(QStringLiteral("cardTitle"));
         setFontOf(label, 1, QFont::DemiBold);
+        alignToLeadingEdge(label);
         layout->addWidget(label);
     }
     layout->addStretch();
@@ -170,6 +175,7 @@ void Page::addToCard(QFrame* card, const QString& caption, QWidget* widget)
         auto* label = new QLabel(caption, card);
         label->setObjectName(QStringLiteral("specimenCaption"));
         setFontOf(label, CaptionFontFactor, QFont::Normal);
+        alignToLeadingEdge(label);
         layout->insertWidget(end, label);
     }
     card->show();

@@ -122,6 +122,7 @@ bool PropertyEditor::build(const QMetaProperty& property)
         m_show = [field](const QVariant& value) { field->setColor(value.value<QColor>()); };
         connect(field, &ColorInputWidget::colorChanged, this, &PropertyEditor::write);
         place(field);
+        field->setMinimumWidth(0);
         static_cast<QHBoxLayout*>(layout())->addStretch();
         return true;
     }

@@ -1,6 +1,7 @@
 #include "PropertyPanel.h"
 
 #include "DialogColorPicker.h"
+#include "Labels.h"
 #include "PropertyEditor.h"
 
 #include <UiComponents/ColorInputWidget.h>
@@ -52,6 +53,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
 
     auto* title = new QLabel(tr("Properties"), this);
     title->setObjectName(QStringLiteral("panelTitle"));
+    alignToLeadingEdge(title);
     m_content->setObjectName(QStringLiteral("propertyRows"));
     m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     auto* area = new QScrollArea(this);
@@ -77,6 +79,7 @@ void PropertyPanel::addHeading(const QString& text)
     font.setWeight(QFont::DemiBold);
     label->setFont(font);
     label->setWordWrap(true);
+    alignToLeadingEdge(label);
     m_rows->addRow(label);
 }
 

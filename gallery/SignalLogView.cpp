@@ -1,5 +1,6 @@
 #include "SignalLogView.h"
 
+#include "Labels.h"
 #include "SignalLogger.h"
 
 #include <QFontDatabase>
@@ -24,6 +25,7 @@ SignalLogView::SignalLogView(QWidget* parent)
 
     auto* title = new QLabel(tr("Signals"), this);
     title->setObjectName(QStringLiteral("panelTitle"));
+    alignToLeadingEdge(title);
     auto* clearButton = new QToolButton(this);
     clearButton->setObjectName(QStringLiteral("clearSignals"));
     clearButton->setText(tr("Clear"));
@@ -35,6 +37,9 @@ SignalLogView::SignalLogView(QWidget* parent)
     m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_text->setLayoutDirection(Qt::LeftToRight);
+    QTextOption lines = m_text->document()->defaultTextOption();
+    lines.setTextDirection(Qt::LeftToRight);
+    m_text->document()->setDefaultTextOption(lines);
     m_text->setAccessibleName(tr("Signals"));
     m_text->setPlaceholderText(tr("Use the component: its signals appear here."));
 

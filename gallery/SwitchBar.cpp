@@ -51,6 +51,7 @@ SwitchBar::SwitchBar(QWidget* parent)
     addWidget(makeGroup("directionSwitch", m_directionLabel, makeSegments(m_directions, 2)));
     addWidget(makeGroup("scaleSwitch", m_scaleLabel, m_scales));
 
+    m_languages->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     const QStringList codes = LanguageController::languages();
     for (const QString& code : codes) {
         m_languages->addItem(LanguageController::nativeName(code), code);

@@ -38,8 +38,7 @@ BubbleStage::~BubbleStage() = default;
 
 QPoint BubbleStage::spot() const
 {
-    const double x = layoutDirection() == Qt::RightToLeft ? 1 - m_spot.x() : m_spot.x();
-    return mapToGlobal(QPoint(qRound(width() * x), qRound(height() * m_spot.y())));
+    return mapToGlobal(QPoint(qRound(width() * m_spot.x()), qRound(height() * m_spot.y())));
 }
 
 void BubbleStage::paintEvent(QPaintEvent* event)

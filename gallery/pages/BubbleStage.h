@@ -10,7 +10,8 @@ class BubbleStage : public QFrame
     Q_OBJECT
 
 public:
-    /// @p spot is the place of the mark, in parts of the stage's size.
+    /// @p spot is the place of the mark, in parts of the stage's size: sides are where they say in
+    /// right-to-left layouts too.
     BubbleStage(const QString& text, const QPointF& spot, const QSize& smallest, QWidget* parent);
     ~BubbleStage() override;
 

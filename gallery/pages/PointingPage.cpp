@@ -12,7 +12,7 @@ using ArrowPosition = PointingWidget::ArrowPosition;
 using ArrowSide = PointingWidget::ArrowSide;
 
 constexpr QSize SmallStage(150, 64);
-constexpr QSize LargeStage(300, 110);
+constexpr QSize LargeStage(300, 132);
 constexpr int LargestOffset = 200;
 
 struct Corner

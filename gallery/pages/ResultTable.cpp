@@ -1,5 +1,7 @@
 #include "ResultTable.h"
 
+#include "../Labels.h"
+
 #include <QFormLayout>
 #include <QLabel>
 
@@ -21,6 +23,7 @@ void ResultTable::setResult(const QString& name, const QString& value, Qt::TextF
         label = new QLabel(this);
         label->setObjectName(QStringLiteral("resultValue"));
         label->setWordWrap(true);
+        alignToLeadingEdge(label);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         auto* nameLabel = new QLabel(name, this);
         nameLabel->setObjectName(QStringLiteral("resultName"));
