@@ -23,6 +23,8 @@
 #include "pages/SettingsPage.h"
 #include "pages/SpinBoxPage.h"
 #include "pages/StyleHintsPage.h"
+#include "pages/TesselComboBoxPage.h"
+#include "pages/TesselElegantSliderPage.h"
 #include "pages/TesselLineEditPage.h"
 #include "pages/WorkaroundPage.h"
 
@@ -44,6 +46,8 @@ QVector<PageInfo> PageRegistry::pages()
         BindWidgetsPage::info(),
         ComboBoxPage::info(),
         TesselLineEditPage::info(),
+        TesselElegantSliderPage::info(),
+        TesselComboBoxPage::info(),
         // layout and styling
         FramePage::info(),
         BoxLayoutPage::info(),

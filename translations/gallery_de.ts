@@ -1199,6 +1199,88 @@
     </message>
 </context>
 <context>
+    <name>TesselComboBoxPage</name>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Multiplizieren</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Negativ multiplizieren</translation>
+    </message>
+    <message>
+        <source>Combo box of the design system</source>
+        <translation>Auswahlfeld des Designsystems</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>choice</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Gives a combo box the look of the design system in place: items, index and signals stay as they are.</source>
+        <translation>Gibt einem Auswahlfeld an Ort und Stelle das Aussehen des Designsystems: Einträge, Index und Signale bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>As it was</source>
+        <translation>Wie zuvor</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>Umgewandelt</translation>
+    </message>
+    <message>
+        <source>Convert the first one too</source>
+        <translation>Auch das erste umwandeln</translation>
+    </message>
+    <message>
+        <source>A combo box with the property; the view of its list has the object name tesselComboBoxView.</source>
+        <translation>Ein Auswahlfeld mit der Eigenschaft; die Ansicht seiner Liste hat den Objektnamen tesselComboBoxView.</translation>
+    </message>
+</context>
+<context>
+    <name>TesselElegantSliderPage</name>
+    <message>
+        <source>Elegant slider</source>
+        <translation>Eleganter Schieber</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>groove</source>
+        <translation>Rinne</translation>
+    </message>
+    <message>
+        <source>The design system&apos;s slider: a slim groove and a round handle. Where no style sheet speaks of its parts it draws them in the colours of its palette.</source>
+        <translation>Der Schieber des Designsystems: eine schlanke Rinne und ein runder Griff. Wo kein Stylesheet von seinen Teilen spricht, zeichnet er sie in den Farben seiner Palette.</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>As OvCustomSlider, with ::groove, ::handle, ::add-page and ::sub-page, or alone by its class name.</source>
+        <translation>Wie OvCustomSlider mit ::groove, ::handle, ::add-page und ::sub-page oder allein über den Klassennamen.</translation>
+    </message>
+</context>
+<context>
     <name>TesselLineEditPage</name>
     <message>
         <source>Line edit</source>

@@ -1199,6 +1199,88 @@
     </message>
 </context>
 <context>
+    <name>TesselComboBoxPage</name>
+    <message>
+        <source>Normal</source>
+        <translation>通常</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>乗算</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>スクリーン</translation>
+    </message>
+    <message>
+        <source>Combo box of the design system</source>
+        <translation>デザインシステムのコンボボックス</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>一覧</translation>
+    </message>
+    <message>
+        <source>choice</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Gives a combo box the look of the design system in place: items, index and signals stay as they are.</source>
+        <translation>コンボボックスにその場でデザインシステムの見た目を与えます。項目・インデックス・シグナルは変わりません。</translation>
+    </message>
+    <message>
+        <source>As it was</source>
+        <translation>元のまま</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>変換済み</translation>
+    </message>
+    <message>
+        <source>Convert the first one too</source>
+        <translation>最初の方も変換</translation>
+    </message>
+    <message>
+        <source>A combo box with the property; the view of its list has the object name tesselComboBoxView.</source>
+        <translation>このプロパティを持つコンボボックス。一覧のビューのオブジェクト名は tesselComboBoxView です。</translation>
+    </message>
+</context>
+<context>
+    <name>TesselElegantSliderPage</name>
+    <message>
+        <source>Elegant slider</source>
+        <translation>洗練されたスライダー</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>groove</source>
+        <translation>溝</translation>
+    </message>
+    <message>
+        <source>The design system&apos;s slider: a slim groove and a round handle. Where no style sheet speaks of its parts it draws them in the colours of its palette.</source>
+        <translation>デザインシステムのスライダーです。細い溝と丸いつまみを持ち、スタイルシートに指定がなければパレットの色で自ら描画します。</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>As OvCustomSlider, with ::groove, ::handle, ::add-page and ::sub-page, or alone by its class name.</source>
+        <translation>OvCustomSlider と ::groove、::handle、::add-page、::sub-page として、または単独でクラス名により選択します。</translation>
+    </message>
+</context>
+<context>
     <name>TesselLineEditPage</name>
     <message>
         <source>Line edit</source>
