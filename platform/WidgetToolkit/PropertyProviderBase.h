@@ -14,9 +14,9 @@
  *
  * The owner is the parent and deletes the provider. A provider is never visible, whatever is called on
  * it, takes no space in a layout, is left out by OvBoxLayout::autoFill(), and never takes mouse or
- * focus. It is polished before its owner is first resized or painted, also when it is made after the
- * owner was polished, and again whenever the sheet changes, so that the first picture already shows the
- * sheet's values. Setting another parent gives it another owner.
+ * focus. It is polished before its owner is told of its own first polish, of a resize or of a paint, also
+ * when it is made after the owner was polished, and again whenever the sheet changes, so that the first
+ * picture already shows the sheet's values. Setting another parent gives it another owner.
  */
 class WIDGETTOOLKIT_EXPORT PropertyProviderBase : public QWidget
 {

@@ -32,6 +32,7 @@ void tst_QSettingsStore::aMissingKeyIsInvalid()
 void tst_QSettingsStore::saysWhetherItCouldWrite()
 {
     const QString folder = QFileInfo(QSettings().fileName()).path();
+    QVERIFY(QDir().mkpath(folder));
     QVERIFY(QDir(folder).removeRecursively());
     QFile inTheWay(folder);
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));

@@ -36,10 +36,18 @@ public:
     }
 
     DotProvider* provider = nullptr;
+    QList<int> atPolish;
     QList<int> atResize;
     QList<int> atPaint;
 
 protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Polish) {
+            note(atPolish);
+        }
+        return QWidget::event(event);
+    }
     void resizeEvent(QResizeEvent*) override { note(atResize); }
     void paintEvent(QPaintEvent*) override { note(atPaint); }
 
@@ -73,6 +81,7 @@ private Q_SLOTS:
     void isNotPainted();
 
     void polishedBeforeFirstResizeAndPaint();
+    void polishedBeforeItsOwnersPolishEvent();
     void polishedBeforeExplicitResize();
     void polishedWhenOnlyGrabbed_data();
     void polishedWhenOnlyGrabbed();
@@ -199,6 +208,14 @@ void tst_PropertyProviderBase::polishedBeforeFirstResizeAndPaint()
     QVERIFY(!dial.atResize.isEmpty());
     QCOMPARE(dial.atResize.first(), 5);
     QCOMPARE(dial.atPaint.first(), 5);
+}
+
+void tst_PropertyProviderBase::polishedBeforeItsOwnersPolishEvent()
+{
+    qApp->setStyleSheet(five);
+    Dial dial;
+    dial.ensurePolished();
+    QCOMPARE(dial.atPolish, QList<int>{5});
 }
 
 void tst_PropertyProviderBase::polishedBeforeExplicitResize()
