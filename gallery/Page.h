@@ -23,10 +23,11 @@ struct Twins
     template <typename Function>
     void each(Function function) const
     {
-        for (const QPointer<Widget>& twin : {enabled, disabled}) {
-            if (twin) {
-                function(twin.data());
-            }
+        if (enabled) {
+            function(enabled.data());
+        }
+        if (disabled) {
+            function(disabled.data());
         }
     }
 };
@@ -72,7 +73,7 @@ protected:
     template <typename Widget, typename Make>
     Twins<Widget> addTwins(const QString& caption, Make make)
     {
-        const Twins<Widget> twins{make(m_enabledCard), make(m_disabledCard)};
+        Twins<Widget> twins{make(m_enabledCard), make(m_disabledCard)};
         twins.disabled->setEnabled(false);
         addToCard(m_enabledCard, caption, twins.enabled);
         addToCard(m_disabledCard, caption, twins.disabled);

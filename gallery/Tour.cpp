@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 constexpr QSize PictureSize(1100, 760);
@@ -26,8 +28,8 @@ void settle()
 
 } // namespace
 
-Tour::Tour(const CommandLine& request)
-    : m_request(request)
+Tour::Tour(CommandLine request)
+    : m_request(std::move(request))
 {
 }
 

@@ -14,7 +14,7 @@ class Tour
 {
 public:
     /// @p request names the folder, and the language and direction of the pictures.
-    explicit Tour(const CommandLine& request);
+    explicit Tour(CommandLine request);
 
     /// Writes all pictures. False when one of them could not be made or a warning was logged.
     bool run();

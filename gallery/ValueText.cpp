@@ -86,7 +86,7 @@ QString valueText(const QVariant& value)
     default:
         break;
     }
-    const QString enumerator = enumeratorText(value);
+    QString enumerator = enumeratorText(value);
     if (!enumerator.isEmpty()) {
         return enumerator;
     }
