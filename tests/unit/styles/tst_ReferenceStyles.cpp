@@ -367,6 +367,8 @@ private Q_SLOTS:
     void controlsHaveOneHeight();
     void focusMovesNothing_data();
     void focusMovesNothing();
+    void sliderIsFilledFromItsLeastValue_data();
+    void sliderIsFilledFromItsLeastValue();
     void colorFieldTakesItsMetrics();
     void bubbleTakesItsLook();
     void outlineTakesItsLook();
@@ -749,6 +751,53 @@ void tst_ReferenceStyles::focusMovesNothing()
     }
     QCOMPARE(widget->sizeHint(), sizeBefore);
     QCOMPARE(widget->grab(inside).toImage(), before);
+}
+
+void tst_ReferenceStyles::sliderIsFilledFromItsLeastValue_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<bool>("inverted");
+    QTest::addColumn<bool>("fromLeftOrTop");
+
+    QTest::newRow("left to right") << Qt::Horizontal << Qt::LeftToRight << false << true;
+    QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft << false << false;
+    QTest::newRow("left to right, inverted") << Qt::Horizontal << Qt::LeftToRight << true << false;
+    QTest::newRow("right to left, inverted") << Qt::Horizontal << Qt::RightToLeft << true << true;
+    QTest::newRow("upright") << Qt::Vertical << Qt::LeftToRight << false << false;
+    QTest::newRow("upright, right to left") << Qt::Vertical << Qt::RightToLeft << false << false;
+    QTest::newRow("upright, inverted") << Qt::Vertical << Qt::LeftToRight << true << true;
+}
+
+void tst_ReferenceStyles::sliderIsFilledFromItsLeastValue()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(bool, inverted);
+    QFETCH(bool, fromLeftOrTop);
+    qApp->setStyleSheet(resourceSheet(styles.first()));
+    const QHash<QString, QColor> colors = paletteOf(styles.first());
+    for (const bool isEnabled : {true, false}) {
+        const QColor filled =
+            colors.value(isEnabled ? QStringLiteral("accent") : QStringLiteral("filledDisabled"));
+        const QColor empty =
+            colors.value(isEnabled ? QStringLiteral("groove") : QStringLiteral("grooveDisabled"));
+        Host host;
+        host.setLayoutDirection(direction);
+        auto* slider = new QSlider(orientation, &host);
+        slider->setInvertedAppearance(inverted);
+        slider->setValue(50);
+        slider->setEnabled(isEnabled);
+        QVERIFY(host.present(slider));
+        const QImage picture = host.grab().toImage();
+        const QPoint middle = picture.rect().center();
+        const bool isHorizontal = orientation == Qt::Horizontal;
+        const QPoint away = isHorizontal ? QPoint(middle.x() / 2, 0) : QPoint(0, middle.y() / 2);
+        const QColor first = picture.pixelColor(middle - away);
+        const QColor last = picture.pixelColor(middle + away);
+        QCOMPARE(first, fromLeftOrTop ? filled : empty);
+        QCOMPARE(last, fromLeftOrTop ? empty : filled);
+    }
 }
 
 void tst_ReferenceStyles::colorFieldTakesItsMetrics()
