@@ -72,7 +72,7 @@ void tst_FormatFileSize::automatic_data()
     row("two decimals below ten", kilobyte + 256, "1.25 KB");
     row("no zeros at the end", kilobyte + 512, "1.5 KB");
     row("zero inside", kilobyte + 51, "1.05 KB");
-    row("half of the last digit goes up", 5 * kilobyte / 4 + kilobyte / 256, "1.25 KB"); // 1.2539
+    row("less than half of the last digit goes down", 5 * kilobyte / 4 + kilobyte / 256, "1.25 KB"); // 1.2539
     row("exactly half goes up", 10 * kilobyte + kilobyte / 4, "10.3 KB");
     row("rounds to ten", 10 * kilobyte - 1, "10 KB");
     row("one decimal from ten on", 12 * kilobyte + 512, "12.5 KB");

@@ -573,11 +573,16 @@ void tst_OvPixmapWidget::replacedInASlotOfItsMovie()
 {
     OvPixmapWidget widget;
     widget.setMoviePath(threeFrames());
-    connect(widget.movie(), &QMovie::frameChanged, &widget,
-            [&] { widget.setMoviePath(dataFile("no-delay.gif")); });
     const QPointer<QMovie> first = widget.movie();
+    // QMovie goes on behind its signals. It would read freed memory unnoticed: Qt is not instrumented.
+    bool outlivesItsSlot = false;
+    connect(first.data(), &QMovie::frameChanged, &widget, [&] {
+        widget.setMoviePath(dataFile("no-delay.gif"));
+        outlivesItsSlot = !first.isNull();
+    });
     widget.show();
     QTRY_VERIFY(!first);
+    QVERIFY(outlivesItsSlot);
     QCOMPARE(widget.movie()->state(), QMovie::Running);
     QCOMPARE(widget.sizeHint(), QSize(8, 8));
 }
@@ -596,20 +601,26 @@ void tst_OvPixmapWidget::deletedInASlotOfItsMovie()
     QPointer<OvPixmapWidget> widget = new OvPixmapWidget(&window);
     widget->setMoviePath(threeFrames());
     const QPointer<QMovie> movie = widget->movie();
+    bool outlivesItsSlot = false;
+    const auto destroy = [&] {
+        delete widget;
+        outlivesItsSlot = !movie.isNull();
+    };
     window.show();
     if (onPause) {
         widget->hide();
-        connect(widget->movie(), &QMovie::stateChanged, &window, [&](QMovie::MovieState state) {
+        connect(widget->movie(), &QMovie::stateChanged, &window, [destroy](QMovie::MovieState state) {
             if (state == QMovie::Paused) {
-                delete widget;
+                destroy();
             }
         });
         widget->movie()->start();
     } else {
-        connect(widget->movie(), &QMovie::frameChanged, &window, [&] { delete widget; });
+        connect(widget->movie(), &QMovie::frameChanged, &window, destroy);
     }
     QTRY_VERIFY(!widget);
     QTRY_VERIFY(!movie);
+    QVERIFY(outlivesItsSlot);
 }
 
 void tst_OvPixmapWidget::movieDiesWithTheWidget()
