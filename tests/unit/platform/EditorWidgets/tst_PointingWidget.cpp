@@ -431,6 +431,9 @@ void tst_PointingWidget::largeContentStaysWithinScreen()
     bubble.show();
     QVERIFY(bubble.height() <= screenArea().height());
     QVERIFY(bubble.width() <= screenArea().width());
+    label->setWordWrap(false);
+    QTRY_COMPARE(bubble.width(), screenArea().width());
+    QCOMPARE(bubble.x(), screenArea().x());
     // Content that insists gets its size, and its beginning is what is seen.
     label->setMinimumSize(5000, 5000);
     QTRY_VERIFY(bubble.width() > 5000);
