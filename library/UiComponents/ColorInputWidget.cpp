@@ -29,7 +29,9 @@ ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
-    // A label whose buddy is the field gives its focus to what can be operated.
+    // A label whose buddy is the field gives its focus to what can be operated; it asks the field's own
+    // policy whether there is anything.
+    setFocusPolicy(d->button->focusPolicy());
     setFocusProxy(d->button);
     if (color.isValid()) {
         d->button->setColor(color);

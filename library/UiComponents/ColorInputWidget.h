@@ -16,7 +16,8 @@ class AbstractColorPicker;
  *     field->setPicker(new MyPicker);
  *     connect(field, &ColorInputWidget::colorChanged, this, &Panel::applyColor);
  *
- * What the user can do with it, and what the colours mean, is ColorPickerButton's.
+ * What the user can do with it, and what the colours mean, is ColorPickerButton's. The focus is the
+ * button's too: a label whose buddy is the field gives it to the button, and Tab stops there once.
  *
  * **Style sheet.** The button's object name is "colorPicker"; the frame's metrics are OvFrame's
  * properties: `ColorInputWidget { qproperty-layoutMargin: 2; }`.

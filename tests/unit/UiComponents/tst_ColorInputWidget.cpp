@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void pickerIsTheButtons();
     void deletedInItsOwnSignal();
     void labelBuddyReachesTheButton();
+    void tabStopsOnceAtTheButton();
 };
 
 void tst_ColorInputWidget::metaObject()
@@ -146,12 +148,32 @@ void tst_ColorInputWidget::deletedInItsOwnSignal()
 void tst_ColorInputWidget::labelBuddyReachesTheButton()
 {
     QWidget form;
+    auto* edit = new QLineEdit(&form); // has the focus, which would else be the button's from the start
     auto* label = new QLabel(QStringLiteral("&Colour"), &form);
     auto* field = new ColorInputWidget(&form, Qt::red);
     label->setBuddy(field);
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
+    edit->setFocus();
+    QCOMPARE(form.focusWidget(), edit);
     QTest::keyClick(&form, Qt::Key_C, Qt::AltModifier);
+    QCOMPARE(form.focusWidget(), field->anchorWidget());
+}
+
+void tst_ColorInputWidget::tabStopsOnceAtTheButton()
+{
+    QWidget form;
+    auto* before = new QLineEdit(&form);
+    auto* field = new ColorInputWidget(&form, Qt::red);
+    auto* after = new QLineEdit(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    before->setFocus();
+    QTest::keyClick(before, Qt::Key_Tab);
+    QCOMPARE(form.focusWidget(), field->anchorWidget());
+    QTest::keyClick(field->anchorWidget(), Qt::Key_Tab);
+    QCOMPARE(form.focusWidget(), after);
+    QTest::keyClick(after, Qt::Key_Backtab);
     QCOMPARE(form.focusWidget(), field->anchorWidget());
 }
 
