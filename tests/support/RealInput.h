@@ -23,7 +23,7 @@ bool showAndActivate(QWidget* window);
 bool moveTo(const QWidget* widget, const QPoint& point);
 
 /// Moves to @p point, or to the widget's middle, and clicks.
-bool click(const QWidget* widget, const QPoint& point, Qt::MouseButton button = Qt::LeftButton);
+bool click(const QWidget* widget, const QPoint& point);
 bool click(const QWidget* widget);
 
 /// Presses the left button at @p from, moves to @p to in small steps, and lets go.
@@ -41,7 +41,8 @@ bool key(const QString& name);
 /// What the screen shows at @p point, after all windows were composed.
 QColor pixel(const QWidget* widget, const QPoint& point);
 
-/// Saves the whole screen as <name>.png in the folder that the build keeps for that.
+/// Saves the whole screen as <name>.png in the folder UIC_SCREENSHOTS, which the build sets, or with
+/// the temporary files.
 bool saveScreenshot(const QString& name);
 
 } // namespace RealInput
