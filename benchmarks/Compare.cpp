@@ -8,7 +8,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstring>
-#include <utility>
 #include <vector>
 #if defined(__GLIBC__)
 #include <malloc.h>

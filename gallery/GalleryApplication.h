@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /**
  * What a program that shows gallery pages, the gallery itself or a test, does once after its QApplication.

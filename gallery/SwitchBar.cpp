@@ -7,7 +7,6 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>

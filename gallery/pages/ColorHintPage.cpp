@@ -6,9 +6,9 @@
 #include <EditorWidgets/ColorHint.h>
 #include <WidgetToolkit/StyleHints.h>
 
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "PathWalk.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

@@ -1,10 +1,7 @@
 // Internal: how FileUtil takes a path apart.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
-
-#include <optional>
 
 namespace PathWalk {
 

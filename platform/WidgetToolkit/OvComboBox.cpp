@@ -11,8 +11,6 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
-#include <cmath>
-
 namespace {
 
 constexpr int usualContentsLength = 4; // characters that stay legible in a narrow panel

@@ -2,10 +2,8 @@
 #include "TestMain.h"
 
 #include <EditorWidgets/PointingWidget.h>
-#include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
 
-#include <QLabel>
 #include <QLineEdit>
 
 /**

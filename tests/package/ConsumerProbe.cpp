@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
 #include <QtTest>

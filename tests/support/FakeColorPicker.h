@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <utility>
 #include <vector>
 
 /// A picker that does what a test tells it to, and notes in order what it was asked to do.
