@@ -123,8 +123,9 @@ void tst_DialogColorPicker::cancelRestores()
     m_button->startPicking();
     dialog()->setCurrentColor(Qt::blue);
     QStringList order;
-    connect(m_picker, &AbstractColorPicker::colorChanged, this, [&order] { order.append("color"); });
-    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [&order] { order.append("stopped"); });
+    const QObject listener;
+    connect(m_picker, &AbstractColorPicker::colorChanged, &listener, [&order] { order.append("color"); });
+    connect(m_picker, &AbstractColorPicker::pickingStopped, &listener, [&order] { order.append("stopped"); });
     if (closes) {
         dialog()->close();
     } else {

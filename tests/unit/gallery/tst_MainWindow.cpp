@@ -92,7 +92,7 @@ QString tst_MainWindow::shownTitle() const
 void tst_MainWindow::startsOnTheFirstPage()
 {
     open();
-    const PageInfo first = PageRegistry::pages().first();
+    const PageInfo first = PageRegistry::pages().constFirst();
     QCOMPARE(m_window->state().page, first.id);
     QCOMPARE(m_window->state().style, QStringLiteral("dark"));
     QCOMPARE(shownTitle(), first.title);
@@ -237,8 +237,8 @@ void tst_MainWindow::styleSheetNamesExist()
     QFile sheet(":/gallery/dark.qss");
     QVERIFY(sheet.open(QIODevice::ReadOnly));
     QSet<QString> unseen;
-    auto names = QRegularExpression("^#([A-Za-z]+)", QRegularExpression::MultilineOption)
-                     .globalMatch(QString::fromUtf8(sheet.readAll()));
+    static const QRegularExpression name("^#([A-Za-z]+)", QRegularExpression::MultilineOption);
+    auto names = name.globalMatch(QString::fromUtf8(sheet.readAll()));
     while (names.hasNext()) {
         unseen.insert(names.next().captured(1));
     }
@@ -253,7 +253,7 @@ void tst_MainWindow::styleSheetNamesExist()
             unseen.remove(widget->objectName());
         }
     }
-    QVERIFY2(unseen.isEmpty(), qPrintable(unseen.values().join(", ")));
+    QVERIFY2(unseen.isEmpty(), qPrintable(QStringList(unseen.cbegin(), unseen.cend()).join(", ")));
 }
 
 void tst_MainWindow::unreadableStyleFile()

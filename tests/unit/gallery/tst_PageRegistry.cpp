@@ -53,7 +53,7 @@ void tst_PageRegistry::cleanup()
 void tst_PageRegistry::idsAreUniqueAndStable()
 {
     QSet<QString> ids;
-    const QRegularExpression kebab("^[a-z][a-z0-9]*(-[a-z0-9]+)*$");
+    static const QRegularExpression kebab("^[a-z][a-z0-9]*(-[a-z0-9]+)*$");
     const QVector<PageInfo> pages = PageRegistry::pages();
     QVERIFY(!pages.isEmpty());
     for (const PageInfo& page : pages) {

@@ -264,7 +264,8 @@ void tst_PropertyEditor::panelControlsReport()
 
     panel.findChild<QCheckBox*>()->click();
     panel.findChild<QSpinBox*>()->setValue(5);
-    for (auto* line : panel.findChildren<QLineEdit*>()) {
+    const auto lines = panel.findChildren<QLineEdit*>();
+    for (QLineEdit* line : lines) {
         if (!qobject_cast<QAbstractSpinBox*>(line->parent())) {
             line->setText(QStringLiteral("t"));
         }

@@ -234,7 +234,7 @@ void tst_StyleController::urls_data()
     QTest::newRow("quoted") << "image: url( 'b c.png' );"
                             << "image: url(\"/sheets/b c.png\");";
     QTest::newRow("several") << "url(a) url(/b) url(\"c\")"
-                             << "url(\"/sheets/a\") url(/b) url(\"/sheets/c\")";
+                             << R"(url("/sheets/a") url(/b) url("/sheets/c"))";
     QTest::newRow("resource") << "image: url(:/a.png);"
                               << "image: url(:/a.png);";
     QTest::newRow("search path") << "image: url(icons:a.png);"

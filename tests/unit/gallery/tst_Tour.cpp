@@ -86,7 +86,7 @@ void tst_Tour::aPictureThatCannotBeWritten()
     Tour tour(request(folder.path(), "frame"));
     QVERIFY(!tour.run());
     QCOMPARE(tour.failures().size(), 1);
-    QVERIFY(tour.failures().first().startsWith("frame-dark.png"));
+    QVERIFY(tour.failures().constFirst().startsWith("frame-dark.png"));
 }
 
 void tst_Tour::aWarningFailsIt()

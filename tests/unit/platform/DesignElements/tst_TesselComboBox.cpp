@@ -115,9 +115,9 @@ void tst_TesselComboBox::itemRulesAlsoWorkAfterASheetChange()
     box.show();
     convertComboBoxToTessel(&box);
     box.setStyleSheet(QStringLiteral("QAbstractItemView::item { background: #102030; }"));
-    QCOMPARE(rowColors(box).last(), QColor(0x10, 0x20, 0x30));
+    QCOMPARE(rowColors(box).constLast(), QColor(0x10, 0x20, 0x30));
     box.setStyleSheet(QStringLiteral("#tesselComboBoxView::item { background: #203040; }"));
-    QCOMPARE(rowColors(box).last(), QColor(0x20, 0x30, 0x40));
+    QCOMPARE(rowColors(box).constLast(), QColor(0x20, 0x30, 0x40));
 }
 
 void tst_TesselComboBox::itemsAndIndexStay()
