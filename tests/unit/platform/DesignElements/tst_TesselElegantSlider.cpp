@@ -1,9 +1,9 @@
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <DesignElements/TesselElegantSlider.h>
 
 #include <QStyleOptionSlider>
-#include <QWheelEvent>
 
 using Orvane::Tessel::TesselElegantSlider;
 
@@ -204,19 +204,14 @@ void tst_TesselElegantSlider::clickOnTheGrooveGoesThere()
 void tst_TesselElegantSlider::wheelNeedsFocus()
 {
     Slider slider;
-    const auto wheel = [&slider] {
-        QWheelEvent event(QPointF(5, 5), slider.mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, 120),
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&slider, &event);
-    };
     slider.show();
     QVERIFY(QTest::qWaitForWindowActive(&slider));
     slider.clearFocus();
-    wheel();
+    QVERIFY(!turnWheel(slider, 120));
     QCOMPARE(slider.value(), 50);
     slider.setFocus();
     QTRY_VERIFY(slider.hasFocus());
-    wheel();
+    QVERIFY(turnWheel(slider, 120));
     QVERIFY(slider.value() != 50);
 }
 

@@ -1,3 +1,4 @@
+#include "MarkingTranslator.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselLineEdit.h>
@@ -6,7 +7,6 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QPointer>
-#include <QTranslator>
 
 using Orvane::Tessel::TesselLineEdit;
 
@@ -55,19 +55,6 @@ QAction* entry(const QMenu& menu, const char* text)
     }
     return nullptr;
 }
-
-/// Translates every text of the class into itself in angle brackets.
-class BracketTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "Orvane::Tessel::TesselLineEdit") == 0
-                   ? QLatin1Char('<') + QLatin1String(text) + QLatin1Char('>')
-                   : QString();
-    }
-};
 
 } // namespace
 
@@ -138,7 +125,7 @@ void tst_TesselLineEdit::entriesInOrder()
 
 void tst_TesselLineEdit::entriesAreTranslated()
 {
-    BracketTranslator translator;
+    MarkingTranslator translator("Orvane::Tessel::TesselLineEdit");
     QCoreApplication::installTranslator(&translator);
     TesselLineEdit edit;
     const QStringList texts = textsOf(*openMenu(edit));

@@ -1,9 +1,8 @@
+#include "MarkingTranslator.h"
 #include "NormalUser.h"
 #include "TestMain.h"
 
 #include <EditorUtility/FileUtil.h>
-
-#include <QTranslator>
 
 #include <sched.h>
 #include <sys/mount.h>
@@ -13,21 +12,6 @@ using FileUtil::Read;
 using FileUtil::Write;
 
 namespace {
-
-// Marks every text of one context, so that translated ones are seen.
-class Marker : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* source, const char*, int) const override
-    {
-        return qstrcmp(context, "FileUtil") == 0
-                   ? QStringLiteral("[%2]").replace(QLatin1String("%2"), QString::fromLatin1(source))
-                   : QString();
-    }
-};
 
 bool setMode(const QString& path, mode_t mode)
 {
@@ -197,7 +181,7 @@ void tst_FileUtil::messagesHoldThePathAsItStands()
 
 void tst_FileUtil::messagesAreTranslated()
 {
-    Marker marker;
+    MarkingTranslator marker("FileUtil");
     QVERIFY(QCoreApplication::installTranslator(&marker));
     const QStringList paths{QString(),
                             QStringLiteral(":/x"),
@@ -208,7 +192,7 @@ void tst_FileUtil::messagesAreTranslated()
     for (const QString& path : paths) {
         QString error;
         QVERIFY(!FileUtil::isPathValid(path, &error));
-        QVERIFY2(error.startsWith(QLatin1Char('[')) && error.endsWith(QLatin1Char(']')), qPrintable(error));
+        QVERIFY2(error.startsWith(QLatin1Char('<')) && error.endsWith(QLatin1Char('>')), qPrintable(error));
     }
     QVERIFY(QCoreApplication::removeTranslator(&marker));
 }

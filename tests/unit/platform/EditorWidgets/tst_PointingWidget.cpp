@@ -4,7 +4,6 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
 
-#include <QCloseEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMetaEnum>
@@ -19,6 +18,8 @@ using ArrowPosition = PointingWidget::ArrowPosition;
 using ArrowSide = PointingWidget::ArrowSide;
 
 namespace {
+
+constexpr Qt::WindowFlags asPopup = Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
 
 QRect screenArea()
 {
@@ -706,7 +707,7 @@ void tst_PointingWidget::popupHidesWithParentForGood()
     QWidget parent;
     parent.show();
     PointingWidget bubble(&parent);
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     bubble.show();
     QCOMPARE(QApplication::activePopupWidget(), &bubble);
     parent.hide();
@@ -720,7 +721,7 @@ void tst_PointingWidget::popupShowsWithoutVisibleParent()
 {
     QWidget parent;
     PointingWidget bubble(&parent);
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     bubble.show();
     QVERIFY(bubble.isVisible());
 }
@@ -731,7 +732,7 @@ void tst_PointingWidget::popupFlags()
     button.setGeometry(200, 200, 100, 30);
     button.show();
     PointingWidget bubble(&button);
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     bubble.setAttribute(Qt::WA_TranslucentBackground);
     bubble.setArrowSide(static_cast<ArrowSide>(0), static_cast<ArrowPosition>(1));
     fill(bubble);
@@ -746,7 +747,7 @@ void tst_PointingWidget::popupFlags()
 void tst_PointingWidget::popupClosesOnClickBesideArrow()
 {
     PointingWidget bubble;
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     fill(bubble);
     bubble.pointTo(middle());
     bubble.show();
@@ -760,7 +761,7 @@ void tst_PointingWidget::popupClosesOnClickBesideArrow()
 void tst_PointingWidget::popupClosesOnClickOutside()
 {
     PointingWidget bubble;
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     fill(bubble);
     bubble.pointTo(middle());
     bubble.show();
@@ -772,7 +773,7 @@ void tst_PointingWidget::popupClosesOnClickOutside()
 void tst_PointingWidget::popupClosesOnEscape()
 {
     PointingWidget bubble;
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     fill(bubble);
     bubble.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bubble));
@@ -783,7 +784,7 @@ void tst_PointingWidget::popupClosesOnEscape()
 void tst_PointingWidget::clickOnContentKeepsPopup()
 {
     PointingWidget bubble;
-    bubble.setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    bubble.setWindowFlags(asPopup);
     auto* button = new QPushButton(QStringLiteral("Next"));
     (new OvVBoxLayout(bubble.contentFrame()))->addWidget(button);
     bubble.pointTo(middle());

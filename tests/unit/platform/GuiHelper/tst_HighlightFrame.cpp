@@ -73,18 +73,6 @@ protected:
     void paintEvent(QPaintEvent* event) override { QPainter(this).fillRect(event->rect(), Qt::white); }
 };
 
-class EventLog : public QObject
-{
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        types.append(event->type());
-        return QObject::eventFilter(watched, event);
-    }
-
-    QVector<QEvent::Type> types;
-};
-
 /// Counts the children that it is told of, as containers do that adopt them.
 class Container : public QWidget
 {

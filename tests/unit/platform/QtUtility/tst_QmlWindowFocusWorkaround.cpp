@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 
 using Orvane::Util::ApplyQmlWindowFocusWorkaround;
 

@@ -4,7 +4,6 @@
 #include <WidgetToolkit/OvGridLayout.h>
 
 #include <QBoxLayout>
-#include <QWidget>
 
 #include <functional>
 
@@ -14,11 +13,16 @@ namespace {
 class PlainController : public LayoutController
 {
 public:
+    explicit PlainController(QLayout* ofLayout = nullptr)
+        : layout(ofLayout)
+    {
+    }
+
     QLayout* getLayout() const override { return layout; }
     using LayoutController::applyLayoutMetrics;
     using LayoutController::isLayoutEvent;
 
-    QLayout* layout = nullptr;
+    QLayout* layout;
 };
 
 struct Property
@@ -91,8 +95,7 @@ void tst_LayoutController::unsetPropertyReadsTheLayout()
     layout.setContentsMargins(1, 2, 3, 4);
     layout.setHorizontalSpacing(5);
     layout.setVerticalSpacing(6);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     QCOMPARE(controller.layoutMargin(), 1);
     QCOMPARE(controller.layoutMarginLeft(), 1);
     QCOMPARE(controller.layoutMarginTop(), 2);
@@ -109,8 +112,7 @@ void tst_LayoutController::unsetPropertyLeavesTheLayoutAlone()
     layout.setContentsMargins(1, 2, 3, 4);
     layout.setHorizontalSpacing(5);
     layout.setVerticalSpacing(6);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMarginTop(20);
     controller.setLayoutVerticalSpacing(60);
     QCOMPARE(layout.contentsMargins(), QMargins(1, 20, 3, 4));
@@ -122,8 +124,7 @@ void tst_LayoutController::marginsReachTheirSide()
 {
     QHBoxLayout layout;
     layout.setContentsMargins(0, 0, 0, 0);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMarginLeft(1);
     QCOMPARE(layout.contentsMargins(), QMargins(1, 0, 0, 0));
     controller.setLayoutMarginTop(2);
@@ -137,8 +138,7 @@ void tst_LayoutController::marginsReachTheirSide()
 void tst_LayoutController::generalMarginReachesAllSides()
 {
     QHBoxLayout layout;
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMargin(7);
     QCOMPARE(layout.contentsMargins(), QMargins(7, 7, 7, 7));
     QCOMPARE(controller.layoutMargin(), 7);
@@ -147,8 +147,7 @@ void tst_LayoutController::generalMarginReachesAllSides()
 void tst_LayoutController::laterMarginWins()
 {
     QHBoxLayout layout;
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMargin(7);
     controller.setLayoutMarginTop(1);
     QCOMPARE(layout.contentsMargins(), QMargins(7, 1, 7, 7));
@@ -160,8 +159,7 @@ void tst_LayoutController::spacingOfARow()
 {
     QHBoxLayout layout;
     layout.setSpacing(0);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutVerticalSpacing(9);
     QCOMPARE(layout.spacing(), 0);
     controller.setLayoutHorizontalSpacing(4);
@@ -174,8 +172,7 @@ void tst_LayoutController::spacingOfAColumn()
 {
     QVBoxLayout layout;
     layout.setSpacing(0);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutHorizontalSpacing(9);
     QCOMPARE(layout.spacing(), 0);
     controller.setLayoutVerticalSpacing(4);
@@ -188,8 +185,7 @@ void tst_LayoutController::spacingOfAColumn()
 void tst_LayoutController::spacingOfAGrid()
 {
     OvGridLayout layout(nullptr);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutSpacing(6);
     QCOMPARE(layout.horizontalSpacing(), 6);
     QCOMPARE(layout.verticalSpacing(), 6);
@@ -198,8 +194,7 @@ void tst_LayoutController::spacingOfAGrid()
 void tst_LayoutController::spacingOfAGridIsKeptApart()
 {
     OvGridLayout layout(nullptr);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutHorizontalSpacing(2);
     controller.setLayoutVerticalSpacing(3);
     QCOMPARE(layout.horizontalSpacing(), 2);
@@ -210,8 +205,7 @@ void tst_LayoutController::spacingOfAGridIsKeptApart()
 void tst_LayoutController::negativeValuesAreIgnored()
 {
     QHBoxLayout layout;
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     for (const Property& property : properties) {
         property.set(controller, 5);
         property.set(controller, -1);
@@ -226,8 +220,7 @@ void tst_LayoutController::zeroIsAValue()
 {
     QHBoxLayout layout;
     layout.setContentsMargins(3, 3, 3, 3);
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMargin(0);
     QCOMPARE(layout.contentsMargins(), QMargins());
     layout.setContentsMargins(3, 3, 3, 3);
@@ -252,8 +245,7 @@ void tst_LayoutController::valuesSetBeforeTheLayoutAreApplied()
 void tst_LayoutController::valuesHoldAgainstCode()
 {
     QHBoxLayout layout;
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMargin(8);
     layout.setContentsMargins(0, 0, 0, 0);
     QCOMPARE(controller.layoutMargin(), 8);
@@ -265,8 +257,7 @@ void tst_LayoutController::sameValueAgainIsWritten()
 {
     // A sheet writes its values again whenever the widget is polished.
     QHBoxLayout layout;
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMargin(8);
     layout.setContentsMargins(0, 0, 0, 0);
     controller.setLayoutMargin(8);
@@ -291,8 +282,7 @@ public:
 void tst_LayoutController::nothingIsWrittenWhereNothingDiffers()
 {
     CountingLayout layout;
-    PlainController controller;
-    controller.layout = &layout;
+    PlainController controller(&layout);
     controller.setLayoutMargin(8);
     controller.setLayoutSpacing(2);
     layout.invalidations = 0;

@@ -1,3 +1,4 @@
+#include "SizedWidget.h"
 #include "TestMain.h"
 
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -10,13 +11,6 @@ using LayoutHelpers::BoxItem;
 using LayoutHelpers::SpacerPolicy;
 
 namespace {
-
-class SizedWidget : public QWidget
-{
-public:
-    using QWidget::QWidget;
-    QSize sizeHint() const override { return {20, 10}; }
-};
 
 QList<QWidget*> widgetsOf(const QLayout& layout)
 {

@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <WidgetToolkit/OvComboBox.h>
 
@@ -67,15 +68,10 @@ void tst_OvComboBox::wheelNeedsFocus()
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     other.setFocus();
-    const QPointF centre = box.rect().center();
-    QWheelEvent event(centre, box.mapToGlobal(centre.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&box, &event);
-    QVERIFY(!event.isAccepted());
+    QVERIFY(!turnWheel(box, -120));
     QCOMPARE(box.currentIndex(), 0);
     box.setFocus();
-    QApplication::sendEvent(&box, &event);
-    QVERIFY(event.isAccepted());
+    QVERIFY(turnWheel(box, -120));
     QCOMPARE(box.currentIndex(), 1);
 }
 

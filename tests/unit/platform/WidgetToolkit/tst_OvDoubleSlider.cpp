@@ -331,6 +331,8 @@ void tst_OvDoubleSlider::signalsOfTheMultiplier()
 void tst_OvDoubleSlider::signalsAreCoherent()
 {
     OvDoubleSlider slider;
+    QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
+    QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
     connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
             [&slider](double value) { QVERIFY(value == slider.doubleValue()); });
     connect(&slider, &QAbstractSlider::valueChanged, this, [&slider](int step) {
@@ -345,6 +347,8 @@ void tst_OvDoubleSlider::signalsAreCoherent()
     slider.setMultiplier(0.7);
     slider.setValue(3);
     slider.setRange(10, 20);
+    QVERIFY(steps.count() >= 5);
+    QVERIFY(values.count() >= 5);
 }
 
 void tst_OvDoubleSlider::signalAfterABlockedChange()
@@ -441,7 +445,7 @@ void tst_OvDoubleSlider::deletedByAListener()
     const QPointer<OvDoubleSlider> slider(new OvDoubleSlider);
     slider->resize(30, 200);
     slider->setDoubleValue(5.0);
-    const auto destroy = [slider] { delete slider.data(); };
+    const auto destroy = [target = slider.data()] { delete target; };
     switch (signal) {
     case 0:
         connect(slider, &QAbstractSlider::valueChanged, this, destroy);

@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 
@@ -65,15 +66,10 @@ void tst_OvDoubleSpinBox::wheelNeedsFocus()
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     other.setFocus();
-    const QPointF centre = box.rect().center();
-    QWheelEvent event(centre, box.mapToGlobal(centre.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&box, &event);
-    QVERIFY(!event.isAccepted());
+    QVERIFY(!turnWheel(box, 120));
     QCOMPARE(box.value(), 5.0);
     box.setFocus();
-    QApplication::sendEvent(&box, &event);
-    QVERIFY(event.isAccepted());
+    QVERIFY(turnWheel(box, 120));
     QCOMPARE(box.value(), 6.0);
 }
 
@@ -297,7 +293,8 @@ void tst_OvDoubleSpinBox::deletedByAListenerOfEnter()
     box->setKeyboardTracking(false);
     box->selectAll();
     QTest::keyClick(box.data(), Qt::Key_5);
-    connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this, [box] { delete box.data(); });
+    connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            [target = box.data()] { delete target; });
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(box, &enter);
     QVERIFY(box.isNull());

@@ -1,11 +1,11 @@
+#include "MetaObject.h"
+#include "SizedWidget.h"
 #include "TestMain.h"
 
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/OvGridLayout.h>
 #include <WidgetToolkit/Util.h>
-
-#include <QStyle>
 
 namespace {
 
@@ -14,13 +14,6 @@ const QString otherSheet =
     QStringLiteral("OvFrame { qproperty-layoutMargin: 9; qproperty-layoutSpacing: 1; }");
 const QMargins oneMargins(5, 5, 5, 5);
 const QMargins otherMargins(9, 9, 9, 9);
-
-class SizedWidget : public QWidget
-{
-public:
-    using QWidget::QWidget;
-    QSize sizeHint() const override { return {20, 10}; }
-};
 
 /// A component as they all are: children, then a layout whose metrics code sets to zero.
 class Component : public OvFrame
@@ -95,19 +88,13 @@ void tst_OvFrame::isAPlainFrame()
 
 void tst_OvFrame::properties()
 {
-    const QMetaObject& meta = OvFrame::staticMetaObject;
-    QStringList names;
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
-        const QMetaProperty property = meta.property(i);
-        names += QLatin1String(property.name());
-        QCOMPARE(property.userType(), int(QMetaType::Int));
-        QVERIFY2(property.isReadable() && property.isWritable(), property.name());
-    }
-    QCOMPARE(names, (QStringList{QStringLiteral("layoutMargin"), QStringLiteral("layoutMarginLeft"),
-                                 QStringLiteral("layoutMarginTop"), QStringLiteral("layoutMarginRight"),
-                                 QStringLiteral("layoutMarginBottom"), QStringLiteral("layoutSpacing"),
-                                 QStringLiteral("layoutHorizontalSpacing"),
-                                 QStringLiteral("layoutVerticalSpacing")}));
+    QCOMPARE(
+        ownProperties(OvFrame::staticMetaObject),
+        (QStringList{QStringLiteral("int layoutMargin rw"), QStringLiteral("int layoutMarginLeft rw"),
+                     QStringLiteral("int layoutMarginTop rw"), QStringLiteral("int layoutMarginRight rw"),
+                     QStringLiteral("int layoutMarginBottom rw"), QStringLiteral("int layoutSpacing rw"),
+                     QStringLiteral("int layoutHorizontalSpacing rw"),
+                     QStringLiteral("int layoutVerticalSpacing rw")}));
 }
 
 void tst_OvFrame::layoutIsTheControlledOne()

@@ -1,3 +1,4 @@
+#include "SizedWidget.h"
 #include "TestMain.h"
 
 #include <WidgetToolkit/OvGridLayout.h>
@@ -210,17 +211,6 @@ void tst_OvGridLayout::alignment_data()
     QTest::newRow("bottom") << Alignment::Bottom << Qt::Alignment(Qt::AlignBottom) << QRect(0, 50, 100, 10);
     QTest::newRow("centre") << Alignment::Center << Qt::Alignment(Qt::AlignCenter) << QRect(40, 25, 20, 10);
 }
-
-namespace {
-
-class SizedWidget : public QWidget
-{
-public:
-    using QWidget::QWidget;
-    QSize sizeHint() const override { return {20, 10}; }
-};
-
-} // namespace
 
 void tst_OvGridLayout::alignment()
 {

@@ -3,7 +3,6 @@
 #include <WidgetToolkit/OvPixmapWidget.h>
 
 #include <QMovie>
-#include <QPainter>
 #include <QPointer>
 #include <QVBoxLayout>
 
@@ -246,7 +245,8 @@ void tst_OvPixmapWidget::playsFromTheFirstFrameWhenShown()
     widget.show();
     QCOMPARE(widget.movie()->state(), QMovie::Running);
     QCOMPARE(widget.movie()->currentFrameNumber(), 0);
-    QTRY_COMPARE(frames.count(), 1);
+    // On a busy machine more than one frame goes by between two looks.
+    QTRY_VERIFY(!frames.isEmpty());
     QCOMPARE(frames.first().first().toInt(), 1);
 }
 

@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <WidgetToolkit/OvSpinBox.h>
 
@@ -25,16 +26,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-// Returns whether the event was accepted.
-bool turnWheel(QWidget* widget, int delta)
-{
-    const QPointF centre = widget->rect().center();
-    QWheelEvent event(centre, widget->mapToGlobal(centre.toPoint()), QPoint(), QPoint(0, delta), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(widget, &event);
-    return event.isAccepted();
-}
 
 QString selectedText(const QWidget& box)
 {
@@ -78,7 +69,7 @@ void tst_OvSpinBox::wheel()
     QVERIFY(QTest::qWaitForWindowActive(&window));
     (focused ? static_cast<QWidget*>(&box) : &other)->setFocus();
     QSignalSpy spy(&box, qOverload<int>(&QSpinBox::valueChanged));
-    const bool accepted = turnWheel(&box, delta);
+    const bool accepted = turnWheel(box, delta);
     QCOMPARE(box.value(), value);
     QCOMPARE(spy.count(), focused ? 1 : 0);
     QCOMPARE(box.hasFocus(), focused);
@@ -202,7 +193,7 @@ void tst_OvSpinBox::deletedByAListenerOfEnter()
     box->setKeyboardTracking(false);
     box->selectAll();
     QTest::keyClick(box.data(), Qt::Key_5);
-    const auto destroy = [box] { delete box.data(); };
+    const auto destroy = [target = box.data()] { delete target; };
     switch (signal) {
     case 0:
         connect(box, qOverload<int>(&QSpinBox::valueChanged), this, destroy);

@@ -3,7 +3,6 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/PropertyProviderBase.h>
 
-#include <QPainter>
 #include <QPointer>
 
 #include <functional>

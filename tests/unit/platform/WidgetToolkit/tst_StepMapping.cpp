@@ -1,3 +1,4 @@
+#include "DecimalNumber.h"
 #include "TestMain.h"
 
 #include <WidgetToolkit/StepMapping.h>
@@ -103,13 +104,8 @@ void tst_StepMapping::everyStepOfAPowerOfTenReadsAsDecimal()
         for (int i = 0; i < 3000; ++i) {
             // A walk over all of 32 bits in steps that no power of ten divides.
             const int step = static_cast<int>(static_cast<unsigned>(i) * 1431627u);
-            const QString digits =
-                QString::number(std::abs(qint64(step))).rightJustified(decimals + 1, QLatin1Char('0'));
-            const QString decimal = (step < 0 ? QStringLiteral("-") : QString()) +
-                                    digits.left(digits.size() - decimals) + QLatin1Char('.') +
-                                    digits.right(decimals);
-            const double meant = decimal.toDouble();
-            QVERIFY2(scale.valueOf(step) == meant, qPrintable(decimal));
+            const double meant = decimalNumber(step, decimals);
+            QVERIFY2(scale.valueOf(step) == meant, qPrintable(QString::number(meant, 'g', 17)));
             QCOMPARE(scale.stepOf(meant), step);
         }
     }

@@ -87,6 +87,28 @@ protected:
     }
 };
 
+/// Deletes what it watches at its first event of one type, as a filter may that keeps the event for itself.
+class DeletingFilter : public QObject
+{
+public:
+    explicit DeletingFilter(QEvent::Type type)
+        : m_type(type)
+    {
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != m_type) {
+            return false;
+        }
+        delete watched;
+        return true;
+    }
+
+private:
+    QEvent::Type m_type;
+};
+
 QColor textColor(const QWidget& widget)
 {
     return widget.palette().color(widget.foregroundRole());
@@ -432,20 +454,7 @@ void tst_Util::applyPropertyDeletedByItsChange()
 {
     QPointer<Trigger> label = new Trigger;
     label->ensurePolished();
-    QObject watcher;
-    // A filter may delete what it watches when it keeps the event for itself.
-    class Filter : public QObject
-    {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() == QEvent::DynamicPropertyChange) {
-                delete watched;
-                return true;
-            }
-            return false;
-        }
-    } filter;
+    DeletingFilter filter(QEvent::DynamicPropertyChange);
     label->installEventFilter(&filter);
     Util::applyProperty(label, "state", 1);
     QVERIFY(!label);
@@ -456,18 +465,7 @@ void tst_Util::applyPropertyDeletedByItsStyleChange()
     QWidget window;
     window.setStyleSheet(QStringLiteral("QLabel[state=\"1\"] { padding: 20px; border: 1px solid red; }"));
     QPointer<QLabel> label = new QLabel(&window);
-    class Filter : public QObject
-    {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() == QEvent::StyleChange) {
-                delete watched;
-                return true;
-            }
-            return false;
-        }
-    } filter;
+    DeletingFilter filter(QEvent::StyleChange);
     window.show();
     label->ensurePolished();
     label->installEventFilter(&filter);
@@ -504,7 +502,7 @@ void tst_Util::applyStyleHint()
 void tst_Util::applyStyleHintEmptyDrops_data()
 {
     QTest::addColumn<QString>("empty");
-    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("empty") << QString(QLatin1String(""));
     QTest::newRow("null") << QString();
 }
 
@@ -528,12 +526,12 @@ void tst_Util::applyStyleHintUnchanged()
     widget.ensurePolished();
     const int before = widget.polished();
     Util::applyStyleHint(&widget, QString());
-    Util::applyStyleHint(&widget, QStringLiteral(""));
+    Util::applyStyleHint(&widget, QLatin1String(""));
     QCOMPARE(widget.polished(), before);
     Util::applyStyleHint(&widget, QStringLiteral("error"));
     Util::applyStyleHint(&widget, QStringLiteral("error"));
     QCOMPARE(widget.polished(), before + 1);
-    Util::applyStyleHint(&widget, QStringLiteral(""));
+    Util::applyStyleHint(&widget, QLatin1String(""));
     Util::applyStyleHint(&widget, QString());
     QCOMPARE(widget.polished(), before + 2);
 }

@@ -1,3 +1,4 @@
+#include "DecimalNumber.h"
 #include "TestMain.h"
 
 #include <WidgetToolkit/OvDoubleSlider.h>
@@ -58,14 +59,6 @@ namespace {
 void bind(OvDoubleSlider* slider, QDoubleSpinBox* box)
 {
     Util::bindWidgets(slider, box);
-}
-
-// A decimal number without a double: digits times 10 to the power of -decimals.
-double decimalNumber(qint64 digits, int decimals)
-{
-    QString text = QString::number(std::abs(digits)).rightJustified(decimals + 1, QLatin1Char('0'));
-    text.insert(text.size() - decimals, QLatin1Char('.'));
-    return (digits < 0 ? QStringLiteral("-") + text : text).toDouble();
 }
 
 } // namespace
