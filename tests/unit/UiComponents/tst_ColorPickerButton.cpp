@@ -1,4 +1,5 @@
 #include "FakeColorPicker.h"
+#include "FreedMemory.h"
 #include "MetaObject.h"
 #include "TestMain.h"
 
@@ -834,15 +835,18 @@ void tst_ColorPickerButton::buttonDeletedInASlot()
     QVERIFY(!picker);
 }
 
-// Through the mouse, Qt's own handlers run after the slot.
+// Through the mouse, Qt's own handlers run after the slot, and QToolButton's writes into the button.
 void tst_ColorPickerButton::buttonDeletedByAClick()
 {
     QPointer<ColorPickerButton> button = new ColorPickerButton;
     button->setPicker(new FakeColorPicker);
     connect(button.data(), &ColorPickerButton::pickingStarted, this, [&button] { delete button; });
     button->show();
+    const FreedMemoryWatch memory;
     QTest::mouseClick(button.data(), Qt::LeftButton);
     QVERIFY(!button);
+    QVERIFY(memory.deleted() > 0);
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
 UIC_TEST_MAIN(tst_ColorPickerButton)
