@@ -77,8 +77,13 @@ void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
     connect(newPicker, &AbstractColorPicker::colorChanged, owner, &ColorPickerButton::setColor);
     connect(newPicker, &AbstractColorPicker::pickingStopped, owner,
             [this, newPicker] { adoptResult(newPicker); });
-    connect(owner, &ColorPickerButton::colorChanged, newPicker,
-            [newPicker](const QColor& value) { newPicker->setColor(value); });
+    connect(owner, &ColorPickerButton::colorChanged, newPicker, [this, newPicker](const QColor& value) {
+        // A slot may have set another colour, which the picker has heard of before this one.
+        const bool isOutdated = color && *color != value;
+        if (!isOutdated) {
+            newPicker->setColor(value);
+        }
+    });
     connect(newPicker, &QObject::destroyed, owner, [this] { release(); });
 }
 

@@ -96,6 +96,7 @@ private Q_SLOTS:
     void stoppedTwiceIsRelayedTwice();
     void finalColorMayBeMultiple();
     void pickerLearnsEachColor();
+    void pickerIsLeftWithTheLatestColor();
     void pickerIsNotToldOfMultiple();
     void pickerMayAnswerSetColor();
 
@@ -522,6 +523,22 @@ void tst_ColorPickerButton::pickerLearnsEachColor()
     QCOMPARE(picker->received.size(), std::size_t(2));
     QVERIFY(picker->received.at(0) == OptionalColor(QColor(Qt::red)));
     QVERIFY(picker->received.at(1) == OptionalColor(QColor()));
+}
+
+// A slot that sets another colour runs before the picker hears of the first.
+void tst_ColorPickerButton::pickerIsLeftWithTheLatestColor()
+{
+    ColorPickerButton button;
+    connect(&button, &ColorPickerButton::colorChanged, this, [&button](const QColor& color) {
+        if (color == QColor(Qt::red)) {
+            button.setColor(QColor(Qt::blue));
+        }
+    });
+    auto* picker = new FakeColorPicker;
+    button.setPicker(picker);
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(picker->received.size(), std::size_t(1));
+    QVERIFY(picker->received.back() == OptionalColor(QColor(Qt::blue)));
 }
 
 void tst_ColorPickerButton::pickerIsNotToldOfMultiple()
