@@ -214,6 +214,7 @@ void ColorPickerButton::mouseReleaseEvent(QMouseEvent* event)
     if (popupMode() == MenuButtonPopup) {
         QToolButton::mouseReleaseEvent(event);
     } else {
-        QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
     }
 }

@@ -56,7 +56,11 @@ namespace {
 
 using Change = std::function<void(QWidget*)>;
 
-const QStringList styles = {QStringLiteral("dark"), QStringLiteral("light")};
+const QStringList& styles()
+{
+    static const QStringList names = {QStringLiteral("dark"), QStringLiteral("light")};
+    return names;
+}
 
 QString resourceSheet(const QString& style)
 {
@@ -401,7 +405,7 @@ private Q_SLOTS:
 void tst_ReferenceStyles::initTestCase()
 {
     Q_INIT_RESOURCE(styles);
-    for (const QString& style : styles) {
+    for (const QString& style : styles()) {
         QVERIFY(!textOf(QStringLiteral(":/styles/%1.qss").arg(style)).isEmpty());
         QVERIFY(!paletteOf(style).isEmpty());
     }
@@ -415,7 +419,7 @@ void tst_ReferenceStyles::cleanup()
 void tst_ReferenceStyles::sheetFitsEveryWidget_data()
 {
     QTest::addColumn<QString>("style");
-    for (const QString& style : styles) {
+    for (const QString& style : styles()) {
         QTest::newRow(qPrintable(style)) << style;
     }
 }
@@ -484,7 +488,7 @@ void tst_ReferenceStyles::picturesAreFoundBesideTheFile()
         box.resize(80, 24);
         return box.grab().toImage();
     };
-    const QImage fromResource = pictureOfCheckBox(resourceSheet(styles.first()));
+    const QImage fromResource = pictureOfCheckBox(resourceSheet(styles().first()));
     const QImage fromFile = pictureOfCheckBox(QStringLiteral("file:///" UIC_SHEETS_DIR "/dark.qss"));
     QCOMPARE(fromFile, fromResource);
 
@@ -497,7 +501,7 @@ void tst_ReferenceStyles::picturesAreFoundBesideTheFile()
 // Qt matches from the right, against every widget: at most one step up, and a class or name to index by.
 void tst_ReferenceStyles::selectorsAreCheap()
 {
-    const QStringList selectors = selectorsOf(styles.first());
+    const QStringList selectors = selectorsOf(styles().first());
     QVERIFY(selectors.size() > 100);
     const QRegularExpression indexed(QStringLiteral("^\\.?[A-Z#]"));
     for (const QString& selector : selectors) {
@@ -524,7 +528,7 @@ void tst_ReferenceStyles::selectorsNameWhatExists()
                 QString::fromLatin1(meta->className()).replace(QLatin1String("::"), QLatin1String("--")));
         }
     }
-    const QStringList selectors = selectorsOf(styles.first());
+    const QStringList selectors = selectorsOf(styles().first());
     const QRegularExpression name(QStringLiteral("(?:^|[ .])(#?[A-Za-z][A-Za-z-]*)"));
     for (const QString& selector : selectors) {
         auto names = name.globalMatch(selector);
@@ -541,7 +545,7 @@ void tst_ReferenceStyles::palettesAreNeutral()
     const QStringList tinted = {QStringLiteral("accent"), QStringLiteral("focus"),
                                 QStringLiteral("selection"), QStringLiteral("error"),
                                 QStringLiteral("swatch")};
-    for (const QString& style : styles) {
+    for (const QString& style : styles()) {
         const QHash<QString, QColor> colors = paletteOf(style);
         for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
             const bool mayBeTinted =
@@ -604,7 +608,7 @@ void tst_ReferenceStyles::contrasts_data()
         {"textDisabled", "fieldDisabled", 2},
         {"textDisabled", "buttonDisabled", 2},
     };
-    for (const QString& style : styles) {
+    for (const QString& style : styles()) {
         for (const Pair& pair : pairs) {
             QTest::addRow("%s: %s on %s", qPrintable(style), pair.upper, pair.lower)
                 << style << QString::fromLatin1(pair.upper) << QString::fromLatin1(pair.lower) << pair.least;
@@ -637,8 +641,8 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
                                                        {"OvDoubleSpinBox", make<OvDoubleSpinBox>},
                                                        {"OvComboBox", makeCombo<OvComboBox>}};
 
-    for (const QString& style : styles) {
-        const char* const sheet = style == styles.first() ? "dark" : "light";
+    for (const QString& style : styles()) {
+        const char* const sheet = style == styles().first() ? "dark" : "light";
         const auto row = [&style, sheet](const char* widget, const char* hook, const Maker& maker,
                                          const Change& change) {
             QTest::addRow("%s: %s %s", sheet, widget, hook) << style << maker << change;
@@ -755,7 +759,7 @@ void tst_ReferenceStyles::focusMovesNothing_data()
 void tst_ReferenceStyles::focusMovesNothing()
 {
     QFETCH(Maker, maker);
-    qApp->setStyleSheet(resourceSheet(styles.first()));
+    qApp->setStyleSheet(resourceSheet(styles().first()));
     Stage stage(maker);
     QVERIFY(stage.isActive());
     QWidget* const widget = stage.widget();
@@ -790,8 +794,8 @@ void tst_ReferenceStyles::sliderIsFilledFromItsLeastValue()
     QFETCH(Qt::LayoutDirection, direction);
     QFETCH(bool, inverted);
     QFETCH(bool, fromLeftOrTop);
-    qApp->setStyleSheet(resourceSheet(styles.first()));
-    const QHash<QString, QColor> colors = paletteOf(styles.first());
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    const QHash<QString, QColor> colors = paletteOf(styles().first());
     for (const bool isEnabled : {true, false}) {
         const QColor filled =
             colors.value(isEnabled ? QStringLiteral("accent") : QStringLiteral("filledDisabled"));
@@ -817,7 +821,7 @@ void tst_ReferenceStyles::sliderIsFilledFromItsLeastValue()
 
 void tst_ReferenceStyles::colorFieldTakesItsMetrics()
 {
-    qApp->setStyleSheet(resourceSheet(styles.first()));
+    qApp->setStyleSheet(resourceSheet(styles().first()));
     Host host;
     auto* row = new QWidget;
     auto* field = new ColorInputWidget(row, QColor(Qt::red));
@@ -833,8 +837,8 @@ void tst_ReferenceStyles::colorFieldTakesItsMetrics()
 
 void tst_ReferenceStyles::bubbleTakesItsLook()
 {
-    qApp->setStyleSheet(resourceSheet(styles.first()));
-    const QHash<QString, QColor> colors = paletteOf(styles.first());
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    const QHash<QString, QColor> colors = paletteOf(styles().first());
     Host host;
     PointingWidget* const bubble = makeBubble(&host);
     QVERIFY(host.present(bubble));
@@ -851,21 +855,21 @@ void tst_ReferenceStyles::bubbleTakesItsLook()
 
 void tst_ReferenceStyles::outlineTakesItsLook()
 {
-    qApp->setStyleSheet(resourceSheet(styles.first()));
+    qApp->setStyleSheet(resourceSheet(styles().first()));
     Host host;
     auto* target = new QLabel;
     target->setMinimumSize(80, 40);
     const Orvane::Gui::HighlightFrame outline(target);
     QVERIFY(host.present(target));
     const QImage picture = host.grab().toImage();
-    const QHash<QString, QColor> colors = paletteOf(styles.first());
+    const QHash<QString, QColor> colors = paletteOf(styles().first());
     QCOMPARE(picture.pixelColor(1, 20), colors.value(QStringLiteral("focus")));
     QCOMPARE(picture.pixelColor(3, 20), colors.value(QStringLiteral("window")));
 }
 
 void tst_ReferenceStyles::droppedHintRestoresTheLook()
 {
-    qApp->setStyleSheet(resourceSheet(styles.first()));
+    qApp->setStyleSheet(resourceSheet(styles().first()));
     Stage stage(makeEdit);
     const QImage before = stage.picture();
     Util::applyStyleHint(stage.widget(), QStringLiteral("error"));
@@ -877,7 +881,7 @@ void tst_ReferenceStyles::droppedHintRestoresTheLook()
 // Texts on a card, a bubble or a tab must not carry a rectangle of the window's colour with them.
 void tst_ReferenceStyles::labelsShowTheirSurface()
 {
-    qApp->setStyleSheet(resourceSheet(styles.first()));
+    qApp->setStyleSheet(resourceSheet(styles().first()));
     Host host;
     auto* surface = new QDialog;
     Workaround::Ui::apply(surface);
@@ -897,7 +901,7 @@ void tst_ReferenceStyles::labelsShowTheirSurface()
     QVERIFY(host.present(surface));
     const QPoint besideTheCorner(-12, 2);
     const QImage picture = host.grab().toImage();
-    const QColor expected = paletteOf(styles.first()).value(QStringLiteral("popup"));
+    const QColor expected = paletteOf(styles().first()).value(QStringLiteral("popup"));
     for (const QWidget* child : children) {
         QCOMPARE(picture.pixelColor(child->geometry().topRight() + besideTheCorner), expected);
     }

@@ -36,11 +36,26 @@ QLineEdit* lineEdit(const QWidget& box)
     return box.findChild<QLineEdit*>();
 }
 
-const QLocale english(QLocale::English, QLocale::UnitedStates);
-const QLocale german(QLocale::German, QLocale::Germany);
-const QLocale french(QLocale::French, QLocale::France);
-const QLocale swiss(QLocale::German, QLocale::Switzerland);
-const QLocale arabic(QLocale::Arabic, QLocale::Egypt);
+QLocale english()
+{
+    return {QLocale::English, QLocale::UnitedStates};
+}
+QLocale german()
+{
+    return {QLocale::German, QLocale::Germany};
+}
+QLocale french()
+{
+    return {QLocale::French, QLocale::France};
+}
+QLocale swiss()
+{
+    return {QLocale::German, QLocale::Switzerland};
+}
+QLocale arabic()
+{
+    return {QLocale::Arabic, QLocale::Egypt};
+}
 
 } // namespace
 
@@ -112,20 +127,20 @@ void tst_OvDoubleSpinBox::decimalMarks_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("committed");
-    QTest::newRow("English, dot") << english << QStringLiteral("1.25") << 1.25 << QStringLiteral("1.25");
-    QTest::newRow("English, comma") << english << QStringLiteral("1,25") << 1.25 << QStringLiteral("1.25");
-    QTest::newRow("German, dot") << german << QStringLiteral("1.25") << 1.25 << QStringLiteral("1,25");
-    QTest::newRow("German, comma") << german << QStringLiteral("1,25") << 1.25 << QStringLiteral("1,25");
-    QTest::newRow("French, dot") << french << QStringLiteral("1.25") << 1.25 << QStringLiteral("1,25");
-    QTest::newRow("Swiss, comma") << swiss << QStringLiteral("1,25") << 1.25 << QStringLiteral("1.25");
+    QTest::newRow("English, dot") << english() << QStringLiteral("1.25") << 1.25 << QStringLiteral("1.25");
+    QTest::newRow("English, comma") << english() << QStringLiteral("1,25") << 1.25 << QStringLiteral("1.25");
+    QTest::newRow("German, dot") << german() << QStringLiteral("1.25") << 1.25 << QStringLiteral("1,25");
+    QTest::newRow("German, comma") << german() << QStringLiteral("1,25") << 1.25 << QStringLiteral("1,25");
+    QTest::newRow("French, dot") << french() << QStringLiteral("1.25") << 1.25 << QStringLiteral("1,25");
+    QTest::newRow("Swiss, comma") << swiss() << QStringLiteral("1,25") << 1.25 << QStringLiteral("1.25");
     QTest::newRow("English, comma and three digits")
-        << english << QStringLiteral("1,234") << 1.23 << QStringLiteral("1.23");
+        << english() << QStringLiteral("1,234") << 1.23 << QStringLiteral("1.23");
     QTest::newRow("German, dot and three digits")
-        << german << QStringLiteral("1.234") << 1.23 << QStringLiteral("1,23");
-    QTest::newRow("leading mark") << english << QStringLiteral(",5") << 0.5 << QStringLiteral("0.50");
-    QTest::newRow("trailing mark") << english << QStringLiteral("5,") << 5.0 << QStringLiteral("5.00");
-    QTest::newRow("negative") << english << QStringLiteral("-0,5") << -0.5 << QStringLiteral("-0.50");
-    QTest::newRow("two marks") << english << QStringLiteral("1.2,5") << 1.25 << QStringLiteral("1.25");
+        << german() << QStringLiteral("1.234") << 1.23 << QStringLiteral("1,23");
+    QTest::newRow("leading mark") << english() << QStringLiteral(",5") << 0.5 << QStringLiteral("0.50");
+    QTest::newRow("trailing mark") << english() << QStringLiteral("5,") << 5.0 << QStringLiteral("5.00");
+    QTest::newRow("negative") << english() << QStringLiteral("-0,5") << -0.5 << QStringLiteral("-0.50");
+    QTest::newRow("two marks") << english() << QStringLiteral("1.2,5") << 1.25 << QStringLiteral("1.25");
 }
 
 void tst_OvDoubleSpinBox::decimalMarks()
@@ -149,7 +164,7 @@ void tst_OvDoubleSpinBox::decimalMarks()
 void tst_OvDoubleSpinBox::oneMarkWithoutTheOption()
 {
     OvDoubleSpinBox box;
-    box.setLocale(german);
+    box.setLocale(german());
     box.selectAll();
     QTest::keyClicks(&box, QStringLiteral("1.5"));
     QTest::keyClick(&box, Qt::Key_Return);
@@ -160,9 +175,9 @@ void tst_OvDoubleSpinBox::textIsNotRewrittenBeforeCommit_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<QString>("typed");
-    QTest::newRow("English, comma") << english << QStringLiteral("0,5");
-    QTest::newRow("German, dot") << german << QStringLiteral("0.5");
-    QTest::newRow("Arabic, dot") << arabic << QStringLiteral("0.5");
+    QTest::newRow("English, comma") << english() << QStringLiteral("0,5");
+    QTest::newRow("German, dot") << german() << QStringLiteral("0.5");
+    QTest::newRow("Arabic, dot") << arabic() << QStringLiteral("0.5");
 }
 
 void tst_OvDoubleSpinBox::textIsNotRewrittenBeforeCommit()
@@ -186,7 +201,7 @@ void tst_OvDoubleSpinBox::textIsNotRewrittenBeforeCommit()
 void tst_OvDoubleSpinBox::markTypedOntoAMark()
 {
     OvDoubleSpinBox box;
-    box.setLocale(german);
+    box.setLocale(german());
     box.setBothDecimalMarksAccepted(true);
     lineEdit(box)->setText(QStringLiteral("1.5"));
     lineEdit(box)->setCursorPosition(1);
@@ -201,14 +216,14 @@ void tst_OvDoubleSpinBox::pasted_data()
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("value");
-    QTest::newRow("foreign mark") << english << QStringLiteral("3,75") << 3.75;
-    QTest::newRow("own mark") << german << QStringLiteral("3,75") << 3.75;
-    QTest::newRow("blanks around") << english << QStringLiteral(" 3,75 ") << 3.75;
-    QTest::newRow("thousands and fraction refused") << english << QStringLiteral("1,234.5") << 7.0;
-    QTest::newRow("thousands twice refused") << english << QStringLiteral("1,234,567") << 7.0;
-    QTest::newRow("too many digits refused") << english << QStringLiteral("1,2345") << 7.0;
-    QTest::newRow("three digits behind a mark are digits") << german << QStringLiteral("1.234") << 1.234;
-    QTest::newRow("words refused") << english << QStringLiteral("one") << 7.0;
+    QTest::newRow("foreign mark") << english() << QStringLiteral("3,75") << 3.75;
+    QTest::newRow("own mark") << german() << QStringLiteral("3,75") << 3.75;
+    QTest::newRow("blanks around") << english() << QStringLiteral(" 3,75 ") << 3.75;
+    QTest::newRow("thousands and fraction refused") << english() << QStringLiteral("1,234.5") << 7.0;
+    QTest::newRow("thousands twice refused") << english() << QStringLiteral("1,234,567") << 7.0;
+    QTest::newRow("too many digits refused") << english() << QStringLiteral("1,2345") << 7.0;
+    QTest::newRow("three digits behind a mark are digits") << german() << QStringLiteral("1.234") << 1.234;
+    QTest::newRow("words refused") << english() << QStringLiteral("one") << 7.0;
 }
 
 void tst_OvDoubleSpinBox::pasted()
@@ -233,7 +248,7 @@ void tst_OvDoubleSpinBox::unfinishedTextIsNotMisread()
 {
     // Not yet in the range, so the base tries again without group separators: that made 15 of it.
     OvDoubleSpinBox box;
-    box.setLocale(english);
+    box.setLocale(english());
     box.setRange(2.0, 100.0);
     box.setValue(40.0);
     box.setBothDecimalMarksAccepted(true);
@@ -247,7 +262,7 @@ void tst_OvDoubleSpinBox::unfinishedTextIsNotMisread()
 void tst_OvDoubleSpinBox::groupSeparators()
 {
     OvDoubleSpinBox box;
-    box.setLocale(english);
+    box.setLocale(english());
     box.setRange(0.0, 1e6);
     box.setGroupSeparatorShown(true);
     box.setValue(12345.5);
@@ -259,10 +274,10 @@ void tst_OvDoubleSpinBox::groupSeparators()
     QCOMPARE(box.text(), QStringLiteral("12,345.50"));
 
     // A separator that is neither of the two marks is no cause of doubt.
-    box.setLocale(swiss);
+    box.setLocale(swiss());
     box.setBothDecimalMarksAccepted(true);
     box.setValue(12345.5);
-    QVERIFY(box.text().contains(swiss.groupSeparator()));
+    QVERIFY(box.text().contains(swiss().groupSeparator()));
     box.interpretText();
     QCOMPARE(box.value(), 12345.5);
 }
@@ -270,7 +285,7 @@ void tst_OvDoubleSpinBox::groupSeparators()
 void tst_OvDoubleSpinBox::specialTextPrefixAndSuffixAreLeftAlone()
 {
     OvDoubleSpinBox box;
-    box.setLocale(german);
+    box.setLocale(german());
     box.setBothDecimalMarksAccepted(true);
     box.setPrefix(QStringLiteral("ca. "));
     box.setSuffix(QStringLiteral(" qm."));
