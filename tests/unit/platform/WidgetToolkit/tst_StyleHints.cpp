@@ -12,7 +12,6 @@ class tst_StyleHints : public QObject
 private Q_SLOTS:
     void textIsTheName_data();
     void textIsTheName();
-    void namesDiffer();
     void resourceName();
 };
 
@@ -39,13 +38,6 @@ void tst_StyleHints::textIsTheName()
     Util::applyStyleHint(&widget, hint);
     widget.ensurePolished();
     QCOMPARE(widget.toolTip(), hint);
-}
-
-void tst_StyleHints::namesDiffer()
-{
-    const QSet<QString> all{LIGHT_GREY_ONE, LIGHT_GREY_TWO, WITHOUT_BG1, WITHOUT_BG2,
-                            WITHOUT_BG3,    SELECT_LIGHT,   INPUT_LIGHT, SLIDER_LIGHT};
-    QCOMPARE(all.size(), 8);
 }
 
 void tst_StyleHints::resourceName()
