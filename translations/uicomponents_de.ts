@@ -90,4 +90,63 @@
         <translation>A&amp;lles auswählen</translation>
     </message>
 </context>
+<context>
+    <name>blendingModes</name>
+    <message>
+        <source>Overlay</source>
+        <translation>Ineinanderkopieren</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Aufhellen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>ColorDodge</source>
+        <translation>Farbig abwedeln</translation>
+    </message>
+    <message>
+        <source>LinearDodge</source>
+        <translation>Linear abwedeln</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Negativ multiplizieren</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Multiplizieren</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Abdunkeln</translation>
+    </message>
+    <message>
+        <source>ColorBurn</source>
+        <translation>Farbig nachbelichten</translation>
+    </message>
+    <message>
+        <source>HardLight</source>
+        <translation>Hartes Licht</translation>
+    </message>
+    <message>
+        <source>SoftLight</source>
+        <translation>Weiches Licht</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>Ausschluss</translation>
+    </message>
+    <message>
+        <source>SourceOver</source>
+        <translation>Normal</translation>
+    </message>
+</context>
 </TS>

@@ -90,4 +90,63 @@
         <translation>すべて選択(&amp;A)</translation>
     </message>
 </context>
+<context>
+    <name>blendingModes</name>
+    <message>
+        <source>Overlay</source>
+        <translation>オーバーレイ</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>比較（明）</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>ColorDodge</source>
+        <translation>覆い焼きカラー</translation>
+    </message>
+    <message>
+        <source>LinearDodge</source>
+        <translation>覆い焼き（リニア）</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>スクリーン</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差の絶対値</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>乗算</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>比較（暗）</translation>
+    </message>
+    <message>
+        <source>ColorBurn</source>
+        <translation>焼き込みカラー</translation>
+    </message>
+    <message>
+        <source>HardLight</source>
+        <translation>ハードライト</translation>
+    </message>
+    <message>
+        <source>SoftLight</source>
+        <translation>ソフトライト</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>除外</translation>
+    </message>
+    <message>
+        <source>SourceOver</source>
+        <translation>通常</translation>
+    </message>
+</context>
 </TS>

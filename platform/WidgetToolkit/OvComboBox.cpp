@@ -83,6 +83,9 @@ bool OvComboBox::eventFilter(QObject* watched, QEvent* event)
             publishPopupVisible(true);
         } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
             publishPopupVisible(false);
+        } else if (event->type() == QEvent::LanguageChange && popup()->isVisible()) {
+            // The box heard of it first, and its items may be longer now.
+            placePopup();
         }
     }
     return QComboBox::eventFilter(watched, event);

@@ -15,7 +15,8 @@
  *   with an ellipsis, at its end also when it is written from right to left.
  * - The pop-up is at least as wide as its widest item needs, scroll bar included, unless the screen is
  *   narrower. It lies on the screen as a whole, below or above the box as QComboBox has it, flush with
- *   the box's left edge, or the right one in a right-to-left layout.
+ *   the box's left edge, or the right one in a right-to-left layout. Where the items are translated while
+ *   it is open, on QEvent::LanguageChange, it is widened.
  *
  * The dynamic property "popupVisible" is true from when the pop-up opens until it closes, in whatever
  * way, and false at any other time; a style sheet selects `OvComboBox[popupVisible="true"]`. Apart from

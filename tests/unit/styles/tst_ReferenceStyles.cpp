@@ -6,6 +6,7 @@
 #include <EditorWidgets/PointingWidget.h>
 #include <EditorWidgets/Workaround.h>
 #include <GuiHelper/HighlightFrame.h>
+#include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -235,6 +236,7 @@ QMainWindow* makeEverything()
                                      makeSlider<QSlider>(body),
                                      makeCombo<QComboBox>(body),
                                      makeTesselCombo(body),
+                                     make<ColorBlendingComboBox>(body),
                                      make<OvSpinBox>(body),
                                      make<OvDoubleSpinBox>(body),
                                      makeSlider<OvCustomSlider>(body),
@@ -636,10 +638,12 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
 
     const QVector<QPair<const char*, Maker>> buttons = {{"QPushButton", makeButton<QPushButton>},
                                                         {"QToolButton", makeButton<QToolButton>}};
-    const QVector<QPair<const char*, Maker>> fields = {{"QLineEdit", makeEdit},
-                                                       {"OvSpinBox", make<OvSpinBox>},
-                                                       {"OvDoubleSpinBox", make<OvDoubleSpinBox>},
-                                                       {"OvComboBox", makeCombo<OvComboBox>}};
+    const QVector<QPair<const char*, Maker>> fields = {
+        {"QLineEdit", makeEdit},
+        {"OvSpinBox", make<OvSpinBox>},
+        {"OvDoubleSpinBox", make<OvDoubleSpinBox>},
+        {"OvComboBox", makeCombo<OvComboBox>},
+        {"ColorBlendingComboBox", make<ColorBlendingComboBox>}};
 
     for (const QString& style : styles()) {
         const char* const sheet = style == styles().first() ? "dark" : "light";
@@ -671,6 +675,9 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
         row("OvComboBox", "tessel", makeCombo<OvComboBox>, convertToTessel);
         row("OvComboBox", "SELECT_LIGHT", makeCombo<OvComboBox>, withHint("SELECT_LIGHT"));
         row("OvComboBox", "popupVisible", makeCombo<OvComboBox>, withProperty("popupVisible", true));
+        row("ColorBlendingComboBox", "SELECT_LIGHT", make<ColorBlendingComboBox>, withHint("SELECT_LIGHT"));
+        row("ColorBlendingComboBox", "popupVisible", make<ColorBlendingComboBox>,
+            withProperty("popupVisible", true));
         row("OvCustomSlider", "SLIDER_LIGHT", makeSlider<OvCustomSlider>, withHint("SLIDER_LIGHT"));
         row("OvCustomSlider", "focus", makeSlider<OvCustomSlider>, focus);
         row("OvCustomSlider", "disabled", makeSlider<OvCustomSlider>, disable);
@@ -730,6 +737,7 @@ void tst_ReferenceStyles::controlsHaveOneHeight()
                                         make<QDoubleSpinBox>(&window),
                                         makeCombo<OvComboBox>(&window),
                                         makeTesselCombo(&window),
+                                        make<ColorBlendingComboBox>(&window),
                                         make<OvSpinBox>(&window),
                                         make<OvDoubleSpinBox>(&window),
                                         make<Orvane::Tessel::TesselLineEdit>(&window),
@@ -752,6 +760,7 @@ void tst_ReferenceStyles::focusMovesNothing_data()
     QTest::newRow("QToolButton") << Maker(makeButton<QToolButton>);
     QTest::newRow("QLineEdit") << Maker(withoutCursor(makeEdit));
     QTest::newRow("OvComboBox") << Maker(makeCombo<OvComboBox>);
+    QTest::newRow("ColorBlendingComboBox") << Maker(make<ColorBlendingComboBox>);
     QTest::newRow("ColorPickerButton") << Maker(makeColorButton);
 }
 
@@ -763,7 +772,7 @@ void tst_ReferenceStyles::focusMovesNothing()
     Stage stage(maker);
     QVERIFY(stage.isActive());
     QWidget* const widget = stage.widget();
-    const QRect inside = widget->rect().adjusted(3, 3, -3, -3);
+    const QRect inside = widget->rect().adjusted(4, 3, -4, -3); // without round corners
     const QSize sizeBefore = widget->sizeHint();
     const QImage before = widget->grab(inside).toImage();
     focus(widget);

@@ -1,4 +1,5 @@
 #include "OvBoxLayout.h"
+#include "OvComboBox.h"
 #include "OvFrame.h"
 #include "Util.h"
 
@@ -39,6 +40,13 @@ OvHBoxLayout* OvHBoxLayout::addStretch(int stretch)
     QHBoxLayout::addStretch(stretch);
     return this;
 }
+
+OvComboBox::OvComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+}
+
+OvComboBox::~OvComboBox() = default;
 
 void Util::applyProperty(QWidget* widget, const char* name, const QVariant& value)
 {

@@ -1,0 +1,89 @@
+#include "ColorBlendingComboBox.h"
+
+#include <DesignElements/TesselComboBox.h>
+
+#include <QAbstractItemModel>
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <array>
+
+namespace {
+
+struct NamedMode
+{
+    BlendingMode mode;
+    const char* name;
+};
+
+// SourceOver is named apart from these.
+constexpr std::array<NamedMode, 13> sortedModes = {{
+    {BlendingMode::Overlay, QT_TRANSLATE_NOOP("blendingModes", "Overlay")},
+    {BlendingMode::Lighten, QT_TRANSLATE_NOOP("blendingModes", "Lighten")},
+    {BlendingMode::Color, QT_TRANSLATE_NOOP("blendingModes", "Color")},
+    {BlendingMode::ColorDodge, QT_TRANSLATE_NOOP("blendingModes", "ColorDodge")},
+    {BlendingMode::LinearDodge, QT_TRANSLATE_NOOP("blendingModes", "LinearDodge")},
+    {BlendingMode::Screen, QT_TRANSLATE_NOOP("blendingModes", "Screen")},
+    {BlendingMode::Difference, QT_TRANSLATE_NOOP("blendingModes", "Difference")},
+    {BlendingMode::Multiply, QT_TRANSLATE_NOOP("blendingModes", "Multiply")},
+    {BlendingMode::Darken, QT_TRANSLATE_NOOP("blendingModes", "Darken")},
+    {BlendingMode::ColorBurn, QT_TRANSLATE_NOOP("blendingModes", "ColorBurn")},
+    {BlendingMode::HardLight, QT_TRANSLATE_NOOP("blendingModes", "HardLight")},
+    {BlendingMode::SoftLight, QT_TRANSLATE_NOOP("blendingModes", "SoftLight")},
+    {BlendingMode::Exclusion, QT_TRANSLATE_NOOP("blendingModes", "Exclusion")},
+}};
+
+} // namespace
+
+ColorBlendingComboBox::ColorBlendingComboBox(QWidget* parent)
+    : OvComboBox(parent)
+{
+    Orvane::Tessel::convertComboBoxToTessel(this);
+    addItem(QString(), static_cast<int>(BlendingMode::SourceOver));
+    for (const NamedMode& each : sortedModes) {
+        addItem(QString(), static_cast<int>(each.mode));
+    }
+    retranslate();
+    connect(this, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        Q_EMIT blendingModeChanged(static_cast<BlendingMode>(itemData(index).toInt()));
+    });
+}
+
+ColorBlendingComboBox::~ColorBlendingComboBox() = default;
+
+int ColorBlendingComboBox::blendingModeAt(int index) const
+{
+    return itemData(index).toInt();
+}
+
+int ColorBlendingComboBox::currentBlendingMode() const
+{
+    return currentData().toInt();
+}
+
+int ColorBlendingComboBox::indexOf(BlendingMode mode) const
+{
+    return findData(static_cast<int>(mode), Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
+}
+
+void ColorBlendingComboBox::changeEvent(QEvent* event)
+{
+    // The base classes are left out on purpose; only the repaint that QWidget does there is made up for.
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    update();
+}
+
+void ColorBlendingComboBox::retranslate()
+{
+    // No name sorts before the empty one, in whatever language.
+    setItemText(indexOf(BlendingMode::SourceOver), QString());
+    for (const NamedMode& each : sortedModes) {
+        setItemText(indexOf(each.mode), QCoreApplication::translate("blendingModes", each.name));
+    }
+    model()->sort(0, Qt::AscendingOrder);
+    // Not item 0, which is another one where a host has taken SourceOver out.
+    setItemText(indexOf(BlendingMode::SourceOver),
+                QCoreApplication::translate("blendingModes", "SourceOver"));
+}

@@ -1,0 +1,28 @@
+#include "CustomColors.h"
+
+#include "ColorPalette.h"
+
+#include <Settings/Settings.h>
+
+namespace {
+
+constexpr int capacity = 8;
+
+} // namespace
+
+bool Util::appendCustomColor(const QString& colorName)
+{
+    if (ColorPalette::contains(QColor(colorName))) {
+        return false;
+    }
+    QStringList names = Settings::userCustomColors();
+    if (names.contains(colorName, Qt::CaseSensitive)) {
+        return false;
+    }
+    if (names.size() >= capacity) {
+        names.removeLast();
+    }
+    names.prepend(colorName);
+    Settings::setUserCustomColors(names);
+    return true;
+}

@@ -1,0 +1,8 @@
+#include "TesselComboBox.h"
+
+#include <WidgetToolkit/OvComboBox.h>
+
+void Orvane::Tessel::convertComboBoxToTessel(OvComboBox* comboBox)
+{
+    comboBox->setFrame(false);
+}
