@@ -1,6 +1,7 @@
 #include "PageRegistry.h"
 
 #include "pages/BindWidgetsPage.h"
+#include "pages/BlendingModesPage.h"
 #include "pages/BoxLayoutPage.h"
 #include "pages/ColorHintPage.h"
 #include "pages/ColorInputPage.h"
@@ -38,6 +39,7 @@ QVector<PageInfo> PageRegistry::pages()
         // colour
         ColorPickerButtonPage::info(),
         ColorInputPage::info(),
+        BlendingModesPage::info(),
         // inputs
         SpinBoxPage::info(),
         DoubleSpinBoxPage::info(),

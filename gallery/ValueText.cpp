@@ -36,12 +36,15 @@ QString objectText(const QObject* object)
                                           : QStringLiteral("%1 \"%2\"").arg(className, object->objectName());
 }
 
-/// Empty when the value is not an enumerator that its class declares.
+/// Empty when the value is no enumerator. One that no class declares has only a number.
 QString enumeratorText(const QVariant& value)
 {
-    const QMetaObject* const owner = QMetaType::metaObjectForType(value.userType());
-    if (!owner || !QMetaType::typeFlags(value.userType()).testFlag(QMetaType::IsEnumeration)) {
+    if (!QMetaType::typeFlags(value.userType()).testFlag(QMetaType::IsEnumeration)) {
         return {};
+    }
+    const QMetaObject* const owner = QMetaType::metaObjectForType(value.userType());
+    if (!owner) {
+        return QStringLiteral("%1(%2)").arg(QString::fromUtf8(value.typeName())).arg(value.toInt());
     }
     const QByteArray typeName(value.typeName());
     const QByteArray name = typeName.mid(typeName.lastIndexOf(':') + 1);

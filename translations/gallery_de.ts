@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>BlendingModesPage</name>
+    <message>
+        <source>Blending modes</source>
+        <translation>Mischmodi</translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>combo box</source>
+        <translation>Auswahlfeld</translation>
+    </message>
+    <message>
+        <source>composition</source>
+        <translation>Komposition</translation>
+    </message>
+    <message>
+        <source>How the colour of a layer is combined with what lies under it. The names are sorted in the user&apos;s language, behind the first, which is no blending at all. Here the layer is a grey ramp and three lights, on a landscape.</source>
+        <translation>Wie die Farbe einer Ebene mit dem verrechnet wird, was unter ihr liegt. Die Namen sind in der Sprache des Benutzers sortiert, hinter dem ersten, der gar nicht mischt. Hier ist die Ebene ein Grauverlauf mit drei Lichtern, auf einer Landschaft.</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>Einen Modus wählen</translation>
+    </message>
+    <message>
+        <source>Mode by its number</source>
+        <translation>Modus nach Nummer</translation>
+    </message>
+    <message>
+        <source>Opacity of the layer</source>
+        <translation>Deckkraft der Ebene</translation>
+    </message>
+    <message>
+        <source>As OvComboBox in the look of the design system, or alone by its class name; its list is #tesselComboBoxView.</source>
+        <translation>Als OvComboBox im Aussehen des Designsystems oder allein über den Klassennamen; seine Liste ist #tesselComboBoxView.</translation>
+    </message>
+</context>
+<context>
     <name>BoxLayoutPage</name>
     <message>
         <source>Box and grid layouts</source>
@@ -53,10 +92,6 @@
     <message>
         <source>column</source>
         <translation>Spalte</translation>
-    </message>
-    <message>
-        <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size.</source>
-        <translation type="vanished">Ein Kastenlayout nimmt die Kinder seines Besitzers in der Reihenfolge ihrer Entstehung auf oder eine Liste: Widgets mit einem Dehnfaktor und Abstände, die sich dehnen oder ihre Größe behalten.</translation>
     </message>
     <message>
         <source>autoFill() and a stretch behind</source>
@@ -1034,10 +1069,6 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over.</source>
-        <translation>Die eigenen Farben überleben das Programm, auch wenn es gleich nach dem Schreiben beendet wird. Sie liegen unter dem Organisations- und Anwendungsnamen des Wirts oder in einem Speicher, den der Wirt übergibt.</translation>
-    </message>
-    <message>
         <source>Custom colours</source>
         <translation>Eigene Farben</translation>
     </message>
@@ -1060,6 +1091,10 @@
     <message>
         <source>Read again</source>
         <translation>Neu lesen</translation>
+    </message>
+    <message>
+        <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over. A colour is added at the front, eight are kept, and neither a colour of the fixed palette nor one that is there already is taken.</source>
+        <translation>Die eigenen Farben überleben das Programm, auch wenn es gleich nach dem Schreiben beendet wird. Sie liegen unter dem Organisations- und Anwendungsnamen des Wirts oder in einem Speicher, den der Wirt übergibt. Eine Farbe kommt vorn hinzu, acht bleiben, und weder eine Farbe der festen Palette noch eine, die schon da ist, wird aufgenommen.</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,45 @@
     </message>
 </context>
 <context>
+    <name>BlendingModesPage</name>
+    <message>
+        <source>Blending modes</source>
+        <translation>描画モード</translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation>レイヤー</translation>
+    </message>
+    <message>
+        <source>combo box</source>
+        <translation>コンボボックス</translation>
+    </message>
+    <message>
+        <source>composition</source>
+        <translation>合成</translation>
+    </message>
+    <message>
+        <source>How the colour of a layer is combined with what lies under it. The names are sorted in the user&apos;s language, behind the first, which is no blending at all. Here the layer is a grey ramp and three lights, on a landscape.</source>
+        <translation>レイヤーの色を下にあるものとどう合成するかを選びます。先頭は合成しないモードで、その後の名前は利用者の言語の順に並びます。ここでは、グレーの階調と三つの光のレイヤーが風景の上にあります。</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>モードを選択</translation>
+    </message>
+    <message>
+        <source>Mode by its number</source>
+        <translation>番号によるモード</translation>
+    </message>
+    <message>
+        <source>Opacity of the layer</source>
+        <translation>レイヤーの不透明度</translation>
+    </message>
+    <message>
+        <source>As OvComboBox in the look of the design system, or alone by its class name; its list is #tesselComboBoxView.</source>
+        <translation>デザインシステムの外観を持つ OvComboBox として、またはクラス名だけで指定します。リストは #tesselComboBoxView です。</translation>
+    </message>
+</context>
+<context>
     <name>BoxLayoutPage</name>
     <message>
         <source>Box and grid layouts</source>
@@ -53,10 +92,6 @@
     <message>
         <source>column</source>
         <translation>列</translation>
-    </message>
-    <message>
-        <source>A box layout takes its owner&apos;s children in the order in which they were made, or a list of items: widgets with a stretch factor, and spacers that stretch or keep their size.</source>
-        <translation type="vanished">ボックスレイアウトは、所有者の子を作成順に並べるか、項目のリストを受け取ります。項目は伸縮係数を持つウィジェット、または伸縮・固定のスペーサーです。</translation>
     </message>
     <message>
         <source>autoFill() and a stretch behind</source>
@@ -1034,10 +1069,6 @@
         <translation>コンピューター</translation>
     </message>
     <message>
-        <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over.</source>
-        <translation>利用者の色は、書き込み直後に強制終了されても残ります。ホストの組織名とアプリケーション名の下、またはホストが渡した保存先に保存されます。</translation>
-    </message>
-    <message>
         <source>Custom colours</source>
         <translation>カスタム色</translation>
     </message>
@@ -1060,6 +1091,10 @@
     <message>
         <source>Read again</source>
         <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over. A colour is added at the front, eight are kept, and neither a colour of the fixed palette nor one that is there already is taken.</source>
+        <translation>利用者の色は、書き込み直後に強制終了されても残ります。ホストの組織名とアプリケーション名の下、またはホストが渡した保存先に保存されます。色は先頭に加えられ、八色まで保たれます。固定パレットの色とすでにある色は加えられません。</translation>
     </message>
 </context>
 <context>

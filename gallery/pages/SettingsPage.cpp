@@ -7,6 +7,7 @@
 #include <Settings/Settings.h>
 #include <Settings/StandardFolderUrls.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/CustomColors.h>
 
 #include <QHBoxLayout>
 
@@ -20,20 +21,21 @@ const QColor StartColor(47, 111, 222);
 
 PageInfo SettingsPage::info()
 {
-    return {
-        QStringLiteral("settings"),
-        tr("Custom colours and folders"),
-        PageGroup::Services,
-        {tr("colour"), tr("store"), tr("computer")},
-        {QStringLiteral("Settings"), QStringLiteral("SettingsStore"), QStringLiteral("StandardFolderUrls")},
-        &createPage<SettingsPage>};
+    return {QStringLiteral("settings"),
+            tr("Custom colours and folders"),
+            PageGroup::Services,
+            {tr("colour"), tr("store"), tr("computer")},
+            {QStringLiteral("Settings"), QStringLiteral("SettingsStore"),
+             QStringLiteral("StandardFolderUrls"), QStringLiteral("CustomColors")},
+            &createPage<SettingsPage>};
 }
 
 SettingsPage::SettingsPage(QWidget* parent)
     : Page(info(),
            tr("The user's own colours outlive the program, also when it is killed right after the write. "
               "They are kept under the host's organisation and application name, or in a store that the "
-              "host hands over."),
+              "host hands over. A colour is added at the front, eight are kept, and neither a colour of the "
+              "fixed palette nor one that is there already is taken."),
            parent)
 {
     auto* colors = new QFrame;
@@ -50,9 +52,8 @@ SettingsPage::SettingsPage(QWidget* parent)
 
     const auto chosen = std::make_shared<QColor>(StartColor);
     properties()->addColor(tr("Colour"), StartColor, [chosen](const QColor& color) { *chosen = color; });
-    properties()->addAction(
-        tr("Add"), [this, chosen] { store(QStringList(chosen->name()) + Settings::userCustomColors()); });
-    properties()->addAction(tr("Clear"), [this] { store({}); });
+    properties()->addAction(tr("Add"), [this, chosen] { append(chosen->name()); });
+    properties()->addAction(tr("Clear"), [this] { clear(); });
     properties()->addAction(tr("Read again"), [this] { showColors(Settings::userCustomColors()); });
 }
 
@@ -62,10 +63,18 @@ void SettingsPage::prepareForPicture()
                 QStringLiteral("#2f6fde"), QStringLiteral("#8e5bd0")});
 }
 
-void SettingsPage::store(const QStringList& names)
+void SettingsPage::append(const QString& name)
 {
-    Settings::setUserCustomColors(names);
-    signalLog()->addLine(QStringLiteral("setUserCustomColors([%1])").arg(names.join(QStringLiteral(", "))));
+    const bool isNew = Util::appendCustomColor(name);
+    signalLog()->addLine(QStringLiteral("appendCustomColor(%1): %2")
+                             .arg(name, isNew ? QStringLiteral("true") : QStringLiteral("false")));
+    showColors(Settings::userCustomColors());
+}
+
+void SettingsPage::clear()
+{
+    Settings::setUserCustomColors({});
+    signalLog()->addLine(QStringLiteral("setUserCustomColors([])"));
     showColors(Settings::userCustomColors());
 }
 

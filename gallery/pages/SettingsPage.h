@@ -18,7 +18,8 @@ public:
     void prepareForPicture() override;
 
 private:
-    void store(const QStringList& names);
+    void append(const QString& name);
+    void clear();
     void showColors(const QStringList& names);
 
     QHBoxLayout* m_row = nullptr;

@@ -1,6 +1,7 @@
 #include "TestMain.h"
 
 #include <UiComponents/AbstractColorPicker.h>
+#include <UiComponents/BlendingMode.h>
 
 #include <QToolButton>
 
@@ -97,6 +98,7 @@ void tst_SignalLogger::valueText_data()
     QTest::newRow("size") << QVariant(QSize(30, 40)) << "(30, 40)";
     QTest::newRow("rect") << QVariant(QRectF(1, 2, 3.5, 4)) << "(1, 2, 3.5, 4)";
     QTest::newRow("enumerator") << QVariant::fromValue(Sender::Mode::Busy) << "Busy";
+    QTest::newRow("enumerator of no class") << QVariant::fromValue(BlendingMode::Screen) << "BlendingMode(6)";
     QTest::newRow("null object") << QVariant::fromValue<QObject*>(nullptr) << "null";
     QTest::newRow("named object") << QVariant::fromValue<QObject*>(this) << "tst_SignalLogger \"test\"";
     QTest::newRow("opaque") << QVariant(QPalette()) << "<QPalette>";
