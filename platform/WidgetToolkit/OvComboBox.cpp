@@ -107,8 +107,12 @@ void OvComboBox::paintEvent(QPaintEvent* event)
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + iconGap;
     const int margins = 2; // styles leave a pixel on both sides of the text
-    option.currentText =
-        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width() - icon - margins);
+    const int room = field.width() - icon - margins;
+    // By its bounding rectangle, as sizeHint() measures: the advance may be wider, and would have the text
+    // shortened in a box of exactly that size.
+    if (option.fontMetrics.boundingRect(option.currentText).width() > room) {
+        option.currentText = option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room);
+    }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

@@ -44,6 +44,8 @@ private Q_SLOTS:
     void minimumFollowsTheFont();
     void longTextIsElided_data();
     void longTextIsElided();
+    void nothingIsElidedAtTheSizeHint_data();
+    void nothingIsElidedAtTheSizeHint();
     void paintsAtAnySize();
     void deletedWhileOpen();
 };
@@ -271,6 +273,35 @@ void tst_OvComboBox::longTextIsElided()
     plain.setCurrentIndex(1);
     plain.resize(600, 28);
     box.resize(600, 28);
+    QCOMPARE(box.grab().toImage(), plain.grab().toImage());
+}
+
+void tst_OvComboBox::nothingIsElidedAtTheSizeHint_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("sheet");
+    const QString sheet = QStringLiteral("QComboBox { border: 1px solid blue; padding: 2px 5px; }");
+    for (const char* const text : {"Deutsch", "English", "Off", "AV", "i", "Full HD, 1920 x 1080"}) {
+        QTest::addRow("%s", text) << QString::fromLatin1(text) << QString();
+        QTest::addRow("%s, with sheet", text) << QString::fromLatin1(text) << sheet;
+    }
+}
+
+// A text advances by more than its ink is wide: measured by that it was shortened, in a box of its very
+// size, as soon as the sheet left no room to spare.
+void tst_OvComboBox::nothingIsElidedAtTheSizeHint()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, sheet);
+    QComboBox plain;
+    OvComboBox box;
+    for (QComboBox* const each : {&plain, static_cast<QComboBox*>(&box)}) {
+        each->setStyleSheet(sheet);
+        each->addItem(text);
+        each->ensurePolished();
+        each->resize(plain.sizeHint());
+    }
+    QCOMPARE(box.sizeHint(), plain.sizeHint());
     QCOMPARE(box.grab().toImage(), plain.grab().toImage());
 }
 
