@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
 
@@ -50,7 +51,8 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
     layout->addWidget(m_pageHolder, 1);
     setCentralWidget(body);
     addToolBar(m_switches);
-    resize(StartSize);
+    // At a large scale the screen may be smaller.
+    resize(StartSize.boundedTo(screen()->availableSize()));
 
     connectSwitches();
     addShortcuts();

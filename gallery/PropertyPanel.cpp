@@ -148,6 +148,8 @@ void PropertyPanel::addColor(const QString& label, const QColor& value,
                              const std::function<void(const QColor&)>& apply)
 {
     auto* field = new ColorInputWidget(m_content, value);
+    // The form would stretch it, and without a sheet the button stands in the middle of the field.
+    field->setSizePolicy(QSizePolicy::Fixed, field->sizePolicy().verticalPolicy());
     field->setPicker(new DialogColorPicker(field->anchorWidget()));
     connect(field, &ColorInputWidget::colorChanged, this, apply);
     addRow(label, field);
@@ -156,6 +158,10 @@ void PropertyPanel::addColor(const QString& label, const QColor& value,
 void PropertyPanel::addAction(const QString& label, const std::function<void()>& run)
 {
     auto* button = new QPushButton(label, m_content);
+    if (label.endsWith(QLatin1String("()"))) {
+        // Code reads from left to right, and its brackets would change sides.
+        button->setLayoutDirection(Qt::LeftToRight);
+    }
     connect(button, &QPushButton::clicked, this, run);
     m_rows->addRow(button);
 }

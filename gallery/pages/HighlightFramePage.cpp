@@ -60,12 +60,16 @@ HighlightFramePage::HighlightFramePage(QWidget* parent)
                                                      "highlights."));
 
     properties()->addSwitch(tr("Highlighted"), true, [this](bool on) { setHighlighted(on); });
-    properties()->addColor(QStringLiteral("borderColor"), m_color, [this](const QColor& color) {
-        m_color = color;
+    QWidget* const overlay = overlayOf(m_targets.enabled);
+    overlay->ensurePolished();
+    const auto color = overlay->property("borderColor").value<QColor>();
+    properties()->addColor(QStringLiteral("borderColor"), color, [this](const QColor& chosen) {
+        m_color = chosen;
         applyLook();
     });
-    properties()->addNumber(QStringLiteral("borderWidth"), 0, WidestBorder, m_width, [this](int width) {
-        m_width = width;
+    const int width = overlay->property("borderWidth").toInt();
+    properties()->addNumber(QStringLiteral("borderWidth"), 0, WidestBorder, width, [this](int chosen) {
+        m_width = chosen;
         applyLook();
     });
     properties()->addNumber(
@@ -90,8 +94,12 @@ void HighlightFramePage::applyLook()
 {
     m_targets.each([this](QFrame* target) {
         if (QWidget* const overlay = overlayOf(target)) {
-            overlay->setProperty("borderColor", m_color);
-            overlay->setProperty("borderWidth", m_width);
+            if (m_color) {
+                overlay->setProperty("borderColor", *m_color);
+            }
+            if (m_width) {
+                overlay->setProperty("borderWidth", *m_width);
+            }
         }
     });
 }

@@ -5,6 +5,7 @@
 #include <QColor>
 
 #include <memory>
+#include <optional>
 
 namespace Orvane::Gui {
 class HighlightFrame;
@@ -28,6 +29,7 @@ private:
     Twins<QFrame> m_targets;
     std::unique_ptr<Orvane::Gui::HighlightFrame> m_enabledFrame;
     std::unique_ptr<Orvane::Gui::HighlightFrame> m_disabledFrame;
-    QColor m_color = QColor(226, 92, 60);
-    int m_width = 2;
+    /// What the controls chose; until then the look is the sheet's.
+    std::optional<QColor> m_color;
+    std::optional<int> m_width;
 };
