@@ -79,7 +79,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         return line;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        line.error = QStringLiteral("Unexpected argument \"%1\".").arg(parser.positionalArguments().first());
+        line.error =
+            QStringLiteral("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
         return line;
     }
     if (parser.isSet(options.help)) {

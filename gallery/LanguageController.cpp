@@ -7,7 +7,7 @@
 
 LanguageController::LanguageController(QObject* parent)
     : QObject(parent)
-    , m_language(languages().first())
+    , m_language(languages().constFirst())
 {
 }
 
@@ -35,7 +35,7 @@ void LanguageController::setLanguage(const QString& code)
     removeTranslators();
     m_language = code;
     QLocale::setDefault(QLocale(code));
-    if (code != languages().first()) {
+    if (code != languages().constFirst()) {
         const QString ours = QStringLiteral(":/translations");
         load(QStringLiteral("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
         load(QStringLiteral("uicomponents_") + code, ours);

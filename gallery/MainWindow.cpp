@@ -63,7 +63,7 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
     m_switches->setLanguage(m_language->language());
     QApplication::setLayoutDirection(start.direction);
     m_switches->setDirection(start.direction);
-    showPage(start.page.isEmpty() ? PageRegistry::pages().first().id : start.page);
+    showPage(start.page.isEmpty() ? PageRegistry::pages().constFirst().id : start.page);
     m_list->setFocus();
 }
 

@@ -122,16 +122,15 @@ void tst_DialogColorPicker::cancelRestores()
     QFETCH(bool, closes);
     m_button->startPicking();
     dialog()->setCurrentColor(Qt::blue);
-    QStringList order;
-    const QObject listener;
-    connect(m_picker, &AbstractColorPicker::colorChanged, &listener, [&order] { order.append("color"); });
-    connect(m_picker, &AbstractColorPicker::pickingStopped, &listener, [&order] { order.append("stopped"); });
+    const auto order = std::make_shared<QStringList>();
+    connect(m_picker, &AbstractColorPicker::colorChanged, this, [order] { order->append("color"); });
+    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [order] { order->append("stopped"); });
     if (closes) {
         dialog()->close();
     } else {
         dialog()->reject();
     }
-    QCOMPARE(order, (QStringList{"color", "stopped"}));
+    QCOMPARE(*order, (QStringList{"color", "stopped"}));
     QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
     QVERIFY(!m_button->isDown());
 }
