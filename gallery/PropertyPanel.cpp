@@ -9,6 +9,7 @@
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 #include <WidgetToolkit/OvSpinBox.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -158,9 +159,10 @@ void PropertyPanel::addColor(const QString& label, const QColor& value,
 void PropertyPanel::addAction(const QString& label, const std::function<void()>& run)
 {
     auto* button = new QPushButton(label, m_content);
-    if (label.endsWith(QLatin1String("()"))) {
-        // Code reads from left to right, and its brackets would change sides.
-        button->setLayoutDirection(Qt::LeftToRight);
+    if (QApplication::isRightToLeft() && label.endsWith(QLatin1String("()"))) {
+        // Code reads from left to right: without the mark its brackets change sides.
+        const QChar leftToRightMark(0x200E);
+        button->setText(label + leftToRightMark);
     }
     connect(button, &QPushButton::clicked, this, run);
     m_rows->addRow(button);
