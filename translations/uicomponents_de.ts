@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>CustomColorSelectWidget</name>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+</context>
+<context>
     <name>FileUtil</name>
     <message>
         <source>No path is given</source>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>CustomColorSelectWidget</name>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+</context>
+<context>
     <name>FileUtil</name>
     <message>
         <source>No path is given</source>

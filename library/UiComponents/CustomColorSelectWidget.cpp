@@ -1,0 +1,109 @@
+#include "CustomColorSelectWidget.h"
+
+#include "ColorPlaneWidget.h"
+
+#include <DesignElements/TesselElegantSlider.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+
+#include <QEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+constexpr int lastHue = 359;
+
+void stackChildrenOf(QWidget* widget)
+{
+    auto* layout = new OvVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill();
+}
+
+} // namespace
+
+class CustomColorSelectWidget::Private
+{
+public:
+    explicit Private(CustomColorSelectWidget* selector);
+
+    void setTexts() const;
+    void synchronize();
+
+    CustomColorSelectWidget* const owner;
+    ColorPlaneWidget* const colorPlane;
+    OvFrame* const huePanel;
+    QLabel* const hueLabel;
+    Orvane::Tessel::TesselElegantSlider* const hueSlider;
+    // What is shown, or was reported last.
+    QColor color;
+};
+
+CustomColorSelectWidget::Private::Private(CustomColorSelectWidget* selector)
+    : owner(selector)
+    , colorPlane(new ColorPlaneWidget(selector))
+    , huePanel(new OvFrame(selector))
+    , hueLabel(new QLabel(huePanel))
+    , hueSlider(new Orvane::Tessel::TesselElegantSlider(huePanel))
+{
+    colorPlane->setObjectName(QStringLiteral("colorPlane"));
+    huePanel->setObjectName(QStringLiteral("huePanel"));
+    hueLabel->setObjectName(QStringLiteral("hueLabel"));
+    hueSlider->setObjectName(QStringLiteral("hueSlider"));
+    stackChildrenOf(huePanel);
+    stackChildrenOf(owner);
+
+    hueSlider->setOrientation(Qt::Horizontal);
+    hueSlider->setRange(0, lastHue);
+    hueLabel->setBuddy(hueSlider);
+    setTexts();
+}
+
+void CustomColorSelectWidget::Private::setTexts() const
+{
+    hueLabel->setText(tr("Hue"));
+}
+
+void CustomColorSelectWidget::Private::synchronize()
+{
+    const QPointer<CustomColorSelectWidget> guard(owner);
+    // May be reported, and so change the colour, or make somebody delete all this.
+    hueSlider->setValue(qMax(0, color.hue()));
+    if (!guard) {
+        return;
+    }
+    if (color.isValid()) {
+        colorPlane->setHsvColor(color);
+    } else {
+        colorPlane->setHue(hueSlider->value());
+    }
+}
+
+CustomColorSelectWidget::CustomColorSelectWidget(QWidget* parent)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    connect(d->colorPlane, &ColorPlaneWidget::hsvColorChanged, this, [this](const QColor& color) {
+        d->color = color;
+        Q_EMIT colorChanged(color.toRgb());
+    });
+    connect(d->hueSlider, &QAbstractSlider::valueChanged, d->colorPlane, &ColorPlaneWidget::setHue);
+}
+
+CustomColorSelectWidget::~CustomColorSelectWidget() = default;
+
+void CustomColorSelectWidget::setColor(const QColor& color)
+{
+    d->color = color.isValid() ? color.toHsv() : QColor(Qt::black);
+    QTimer::singleShot(0, this, [this] { d->synchronize(); });
+}
+
+void CustomColorSelectWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        d->setTexts();
+    }
+    OvFrame::changeEvent(event);
+}

@@ -1,0 +1,1144 @@
+#include "MetaObject.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorPlaneWidget.h>
+
+#include <QPainter>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <functional>
+#include <random>
+
+namespace {
+
+using Colors = QVector<QColor>;
+
+QColor formula(double hue, const QSize& size, const QPoint& at)
+{
+    return QColor::fromHsvF(hue, static_cast<double>(at.x()) / (size.width() - 1),
+                            1.0 - static_cast<double>(at.y()) / (size.height() - 1), 1.0)
+        .rgb();
+}
+
+QImage planeImage(double hue, const QSize& size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            image.setPixelColor(x, y, formula(hue, size, {x, y}));
+        }
+    }
+    return image;
+}
+
+void drawRing(QPainter& painter, const QPoint& centre, const QColor& color, int radius, int width)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(centre, radius, radius);
+}
+
+QImage pictureOf(QWidget& widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// The plane of a hue with a ring upon it.
+QImage picture(double hue, const QSize& size, const QPoint& marker, const QColor& ring, int radius = 8,
+               int width = 2)
+{
+    QImage image = planeImage(hue, size);
+    QPainter painter(&image);
+    drawRing(painter, marker, ring, radius, width);
+    return image;
+}
+
+void send(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+          Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void press(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
+{
+    send(widget, QEvent::MouseButtonPress, at, button, button);
+}
+void drag(QWidget& widget, const QPoint& to)
+{
+    send(widget, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+}
+void release(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
+{
+    send(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+}
+
+/// A plane of 101 × 51 pixels that records what it reports.
+class Plane : public ColorPlaneWidget
+{
+public:
+    explicit Plane(QWidget* parent = nullptr)
+        : ColorPlaneWidget(parent)
+    {
+        resize(101, 51);
+        connect(this, &ColorPlaneWidget::hsvColorChanged, this,
+                [this](const QColor& color) { m_reports += color; });
+    }
+
+    /// What was reported since the last call.
+    Colors reports()
+    {
+        Colors result;
+        result.swap(m_reports);
+        return result;
+    }
+
+    QColor at(double hue, int x, int y) const { return formula(hue, size(), {x, y}); }
+
+private:
+    Colors m_reports;
+};
+
+/// The same widget in its simplest form, which renders at once whenever anything changes.
+class EagerPlane : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    QColor color() const { return colorAt(m_marker); }
+    Colors reports;
+
+    void setColor(const QColor& color)
+    {
+        if (!color.isValid()) {
+            return;
+        }
+        m_hue = qBound(0, color.hue(), 360) / 360.0;
+        render();
+        place({qRound(color.saturationF() * (m_plane.width() - 1)),
+               qRound((1.0 - color.valueF()) * (m_plane.height() - 1))});
+        update();
+    }
+
+    void setHue(int degrees)
+    {
+        const double hue = qBound(0, degrees, 360) / 360.0;
+        if (qFuzzyCompare(hue, m_hue)) {
+            return;
+        }
+        m_hue = hue;
+        render();
+        update();
+        if (rect().contains(m_marker)) {
+            reports += color();
+        }
+    }
+
+    void pressAt(const QPoint& point)
+    {
+        place(point);
+        m_dragged = true;
+        update();
+        reports += color();
+    }
+
+    void dragTo(QPoint point)
+    {
+        point = clamped(point);
+        if (m_dragged && point != m_marker) {
+            place(point);
+            update();
+            reports += color();
+        }
+    }
+
+    void releaseAt(QPoint point)
+    {
+        if (!m_dragged) {
+            return;
+        }
+        point = clamped(point);
+        if (point != m_marker) {
+            place(point);
+        }
+        update();
+        m_dragged = false;
+        reports += color();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent*) override { render(); }
+
+    void hideEvent(QHideEvent*) override { m_dragged = false; }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        if (m_plane.isNull()) {
+            return;
+        }
+        QPainter painter(this);
+        painter.drawPixmap(rect(), m_plane);
+        if (rect().contains(m_marker) && m_ring.isValid()) {
+            drawRing(painter, m_marker, m_ring, 8, 2);
+        }
+    }
+
+private:
+    void render()
+    {
+        if (!qFuzzyCompare(m_hue, -2.0)) {
+            m_plane = QPixmap::fromImage(planeImage(m_hue, size()));
+        }
+    }
+
+    QColor colorAt(const QPoint& point) const
+    {
+        return m_plane.rect().contains(point) ? m_plane.toImage().pixelColor(point) : QColor();
+    }
+
+    void place(const QPoint& point)
+    {
+        const QColor color = colorAt(point);
+        m_marker = point;
+        m_ring = QColor(255 - color.red(), 255 - color.green(), 255 - color.blue());
+    }
+
+    QPoint clamped(const QPoint& point) const
+    {
+        return {qMax(0, qMin(point.x(), width() - 1)), qMax(0, qMin(point.y(), height() - 1))};
+    }
+
+    double m_hue = -2.0;
+    QPoint m_marker = {-1, -1};
+    QPixmap m_plane;
+    QColor m_ring;
+    bool m_dragged = false;
+};
+
+int paintsOf(QWidget& widget, const std::function<void()>& change)
+{
+    class Counter : public QObject
+    {
+    public:
+        int paints = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    } counter;
+    QCoreApplication::processEvents();
+    widget.installEventFilter(&counter);
+    change();
+    QCoreApplication::processEvents();
+    widget.removeEventFilter(&counter);
+    return counter.paints;
+}
+
+} // namespace
+
+class tst_ColorPlaneWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void metaObject();
+    void startsEmpty();
+    void nothingIsPaintedWithoutAHue();
+    void pressWithoutAHue();
+
+    void setHueShowsThePlane();
+    void sameHueDoesNothing();
+    void hueIsClamped_data();
+    void hueIsClamped();
+    void hue360IsAnotherHueThan0();
+    void setHueReportsTheColorUnderTheMarker();
+    void setHueKeepsTheRing();
+
+    void setHsvColorIsSilent();
+    void setHsvColorPlacesTheMarker_data();
+    void setHsvColorPlacesTheMarker();
+    void setHsvColorIgnoresNoColor();
+    void greyShowsTheRedPlane_data();
+    void greyShowsTheRedPlane();
+    void colorsOfEverySpec_data();
+    void colorsOfEverySpec();
+    void reportsRgb();
+
+    void clickWithoutMoving();
+    void dragReportsEachPixel();
+    void dragLeavesTheWindow_data();
+    void dragLeavesTheWindow();
+    void dragStaysOnTheClampedPixel();
+    void releaseElsewhereMovesTheMarker();
+    void pressOutsideIsTakenAsItIs();
+    void moveWithoutAPress();
+    void otherButtons();
+    void doubleClickIsAPress();
+    void hiddenDuringADrag();
+    void disabledDuringADrag();
+    void deletedDuringADrag();
+
+    void resizeKeepsTheMarker();
+    void markerOutsideAfterShrinking();
+    void hiddenWidgetIsResized();
+    void tinyPlanes_data();
+    void tinyPlanes();
+
+    void markerProperties();
+    void oddMarkers_data();
+    void oddMarkers();
+
+    void manyChangesRenderOnce();
+    void movingTheMarkerRendersNothing();
+    void hiddenRendersNothing();
+    void resizingRendersOnceAPaint();
+    void sameAsTheEagerPlane_data();
+    void sameAsTheEagerPlane();
+
+    void arrowKeys_data();
+    void arrowKeys();
+    void keysWithoutAPlane();
+    void otherKeysAreLeft();
+    void focusIsShownToKeyboardUsers();
+
+    void rightToLeft();
+    void deletedInItsSignal_data();
+    void deletedInItsSignal();
+};
+
+void tst_ColorPlaneWidget::cleanup()
+{
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(qApp->layoutDirection() == Qt::LeftToRight);
+}
+
+void tst_ColorPlaneWidget::metaObject()
+{
+    const QMetaObject& meta = ColorPlaneWidget::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPlaneWidget"));
+    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
+    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal hsvColorChanged(QColor)")}));
+    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("hsvColor"));
+    QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int markerRadius rw"),
+                                               QStringLiteral("int markerBorderWidth rw")}));
+}
+
+void tst_ColorPlaneWidget::startsEmpty()
+{
+    QWidget parent;
+    const auto* plane = new ColorPlaneWidget(&parent);
+    QCOMPARE(plane->parentWidget(), &parent);
+    QCOMPARE(plane->markerRadius(), 8);
+    QCOMPARE(plane->markerBorderWidth(), 2);
+    QVERIFY(!plane->hsvColor().isValid());
+    QCOMPARE(plane->renderings(), 0);
+}
+
+void tst_ColorPlaneWidget::nothingIsPaintedWithoutAHue()
+{
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("QWidget { background: #123456; }"));
+    window.resize(101, 51);
+    Plane plane(&window);
+    QImage empty(window.size(), QImage::Format_RGB32);
+    empty.fill(QColor(0x12, 0x34, 0x56));
+    window.show();
+    QCOMPARE(pictureOf(window), empty);
+    plane.resize(60, 40);
+    QCOMPARE(pictureOf(window), empty);
+    plane.setHsvColor(QColor());
+    QCOMPARE(pictureOf(window), empty);
+    QCOMPARE(plane.renderings(), 0);
+    // Once there is a plane, it covers the widget.
+    plane.setHue(0);
+    QCOMPARE(pictureOf(window).pixelColor(0, 0), QColor(Qt::white));
+    plane.resize(0, 40);
+    QCOMPARE(pictureOf(window), empty);
+}
+
+void tst_ColorPlaneWidget::pressWithoutAHue()
+{
+    Plane plane;
+    press(plane, {50, 10});
+    QCOMPARE(plane.reports(), Colors{QColor()});
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    drag(plane, {51, 10});
+    QCOMPARE(plane.reports(), Colors{QColor()});
+    release(plane, {51, 10});
+    QCOMPARE(plane.reports(), Colors{QColor()});
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(plane.renderings(), 0);
+    // The marker is there, in the inverse of no colour.
+    plane.setHue(120);
+    QCOMPARE(plane.reports(), Colors{plane.at(120 / 360.0, 51, 10)});
+    QCOMPARE(pictureOf(plane), picture(120 / 360.0, plane.size(), {51, 10}, Qt::white));
+}
+
+void tst_ColorPlaneWidget::setHueShowsThePlane()
+{
+    Plane plane;
+    plane.setHue(200);
+    QCOMPARE(plane.reports(), Colors());
+    QVERIFY(!plane.hsvColor().isValid());
+    QCOMPARE(pictureOf(plane), planeImage(200 / 360.0, plane.size()));
+}
+
+void tst_ColorPlaneWidget::sameHueDoesNothing()
+{
+    Plane plane;
+    plane.show();
+    plane.setHsvColor(QColor::fromHsv(120, 200, 100));
+    pictureOf(plane);
+    QCOMPARE(plane.renderings(), 1);
+    QCOMPARE(paintsOf(plane, [&] { plane.setHue(120); }), 0);
+    pictureOf(plane);
+    QCOMPARE(plane.renderings(), 1);
+    QCOMPARE(plane.reports(), Colors());
+    plane.setHue(0);
+    plane.setHue(0);
+    QCOMPARE(plane.reports().size(), 1);
+}
+
+void tst_ColorPlaneWidget::hueIsClamped_data()
+{
+    QTest::addColumn<int>("degrees");
+    QTest::addColumn<double>("hue");
+    QTest::newRow("-1") << -1 << 0.0;
+    QTest::newRow("least int") << std::numeric_limits<int>::min() << 0.0;
+    QTest::newRow("1") << 1 << 1 / 360.0;
+    QTest::newRow("359") << 359 << 359 / 360.0;
+    QTest::newRow("360") << 360 << 1.0;
+    QTest::newRow("361") << 361 << 1.0;
+    QTest::newRow("greatest int") << std::numeric_limits<int>::max() << 1.0;
+}
+
+void tst_ColorPlaneWidget::hueIsClamped()
+{
+    QFETCH(int, degrees);
+    QFETCH(double, hue);
+    Plane plane;
+    plane.setHue(degrees);
+    QCOMPARE(pictureOf(plane), planeImage(hue, plane.size()));
+    plane.setHue(qRound(hue * 360));
+    pictureOf(plane);
+    QCOMPARE(plane.renderings(), 1);
+}
+
+void tst_ColorPlaneWidget::hue360IsAnotherHueThan0()
+{
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsv(0, 255, 255));
+    const QImage red = pictureOf(plane);
+    plane.setHue(360);
+    QCOMPARE(plane.reports(), Colors{QColor(Qt::red)});
+    QCOMPARE(pictureOf(plane), red);
+    plane.setHue(0);
+    QCOMPARE(plane.reports(), Colors{QColor(Qt::red)});
+}
+
+void tst_ColorPlaneWidget::setHueReportsTheColorUnderTheMarker()
+{
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsvF(0.0, 0.3, 0.6));
+    QCOMPARE(plane.hsvColor(), plane.at(0.0, 30, 20));
+    plane.setHue(77);
+    plane.setHue(78);
+    QCOMPARE(plane.reports(), Colors({plane.at(77 / 360.0, 30, 20), plane.at(78 / 360.0, 30, 20)}));
+    QCOMPARE(plane.hsvColor(), plane.at(78 / 360.0, 30, 20));
+}
+
+void tst_ColorPlaneWidget::setHueKeepsTheRing()
+{
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsvF(0.0, 0.5, 1.0));
+    const QColor below = plane.hsvColor();
+    const QColor ring(255 - below.red(), 255 - below.green(), 255 - below.blue());
+    QCOMPARE(pictureOf(plane), picture(0.0, plane.size(), {50, 0}, ring));
+    plane.setHue(120);
+    QCOMPARE(pictureOf(plane), picture(120 / 360.0, plane.size(), {50, 0}, ring));
+}
+
+void tst_ColorPlaneWidget::setHsvColorIsSilent()
+{
+    Plane plane;
+    plane.setHsvColor(QColor(Qt::blue));
+    plane.setHsvColor(QColor(Qt::yellow));
+    plane.setHsvColor(QColor(Qt::yellow));
+    QCOMPARE(plane.reports(), Colors());
+    QCOMPARE(plane.hsvColor(), QColor(Qt::yellow));
+    QCOMPARE(pictureOf(plane), picture(60 / 360.0, plane.size(), {100, 0}, Qt::blue));
+}
+
+void tst_ColorPlaneWidget::setHsvColorPlacesTheMarker_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QPoint>("marker");
+    QTest::newRow("top left") << QColor::fromHsvF(0.5, 0.0, 1.0) << QPoint(0, 0);
+    QTest::newRow("top right") << QColor::fromHsvF(0.5, 1.0, 1.0) << QPoint(100, 0);
+    QTest::newRow("bottom left") << QColor::fromHsvF(0.5, 0.0, 0.0) << QPoint(0, 50);
+    QTest::newRow("bottom right") << QColor::fromHsvF(0.5, 1.0, 0.0) << QPoint(100, 50);
+    QTest::newRow("down to the nearest") << QColor::fromHsvF(0.5, 0.204, 0.692) << QPoint(20, 15);
+    QTest::newRow("up to the nearest") << QColor::fromHsvF(0.5, 0.206, 0.688) << QPoint(21, 16);
+}
+
+void tst_ColorPlaneWidget::setHsvColorPlacesTheMarker()
+{
+    QFETCH(QColor, color);
+    QFETCH(QPoint, marker);
+    Plane plane;
+    plane.setHsvColor(color);
+    const QColor below = plane.at(0.5, marker.x(), marker.y());
+    QCOMPARE(plane.hsvColor(), below);
+    const QColor ring(255 - below.red(), 255 - below.green(), 255 - below.blue());
+    QCOMPARE(pictureOf(plane), picture(0.5, plane.size(), marker, ring));
+}
+
+void tst_ColorPlaneWidget::setHsvColorIgnoresNoColor()
+{
+    Plane plane;
+    plane.setHsvColor(QColor(Qt::green));
+    const QImage before = pictureOf(plane);
+    plane.setHsvColor(QColor());
+    QCOMPARE(plane.hsvColor(), QColor(Qt::green));
+    QCOMPARE(pictureOf(plane), before);
+}
+
+void tst_ColorPlaneWidget::greyShowsTheRedPlane_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("grey") << QColor(102, 102, 102);
+    QTest::newRow("black") << QColor(Qt::black);
+    QTest::newRow("white") << QColor(Qt::white);
+    QTest::newRow("HSV without a hue") << QColor::fromHsv(-1, 0, 102);
+}
+
+void tst_ColorPlaneWidget::greyShowsTheRedPlane()
+{
+    QFETCH(QColor, color);
+    Plane plane;
+    plane.setHue(240);
+    plane.setHsvColor(color);
+    QCOMPARE(plane.hsvColor(), color.toRgb());
+    QCOMPARE(pictureOf(plane).pixelColor(100, 0), QColor(Qt::red));
+}
+
+void tst_ColorPlaneWidget::colorsOfEverySpec_data()
+{
+    QTest::addColumn<QColor>("color");
+    const QColor color(255, 0, 255);
+    QTest::newRow("RGB") << color;
+    QTest::newRow("HSV") << color.toHsv();
+    QTest::newRow("HSL") << color.toHsl();
+    QTest::newRow("CMYK") << color.toCmyk();
+    QTest::newRow("extended RGB") << color.toExtendedRgb();
+    QTest::newRow("with alpha") << QColor(255, 0, 255, 12);
+}
+
+void tst_ColorPlaneWidget::colorsOfEverySpec()
+{
+    QFETCH(QColor, color);
+    Plane plane;
+    plane.setHsvColor(color);
+    QCOMPARE(plane.hsvColor(), QColor(255, 0, 255));
+}
+
+void tst_ColorPlaneWidget::reportsRgb()
+{
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsv(10, 100, 100, 50));
+    plane.setHue(90);
+    const Colors reports = plane.reports();
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.front().spec(), QColor::Rgb);
+    QCOMPARE(reports.front().alpha(), 255);
+    QCOMPARE(plane.hsvColor().spec(), QColor::Rgb);
+}
+
+void tst_ColorPlaneWidget::clickWithoutMoving()
+{
+    Plane plane;
+    plane.setHue(30);
+    press(plane, {40, 25});
+    QCOMPARE(plane.reports(), Colors{plane.at(30 / 360.0, 40, 25)});
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    release(plane, {40, 25});
+    QCOMPARE(plane.reports(), Colors{plane.at(30 / 360.0, 40, 25)});
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(plane.hsvColor(), plane.at(30 / 360.0, 40, 25));
+}
+
+void tst_ColorPlaneWidget::dragReportsEachPixel()
+{
+    Plane plane;
+    plane.setHue(300);
+    const double hue = 300 / 360.0;
+    press(plane, {10, 10});
+    drag(plane, {11, 10});
+    drag(plane, {11, 10});
+    drag(plane, {30, 40});
+    release(plane, {30, 40});
+    QCOMPARE(plane.reports(), Colors({plane.at(hue, 10, 10), plane.at(hue, 11, 10), plane.at(hue, 30, 40),
+                                      plane.at(hue, 30, 40)}));
+    const QColor below = plane.at(hue, 30, 40);
+    QCOMPARE(pictureOf(plane), picture(hue, plane.size(), {30, 40},
+                                       QColor(255 - below.red(), 255 - below.green(), 255 - below.blue())));
+}
+
+void tst_ColorPlaneWidget::dragLeavesTheWindow_data()
+{
+    QTest::addColumn<QPoint>("to");
+    QTest::addColumn<QPoint>("pinned");
+    QTest::newRow("left") << QPoint(-40, 20) << QPoint(0, 20);
+    QTest::newRow("right") << QPoint(101, 20) << QPoint(100, 20);
+    QTest::newRow("above") << QPoint(20, -1) << QPoint(20, 0);
+    QTest::newRow("below") << QPoint(20, 51) << QPoint(20, 50);
+    QTest::newRow("far off a corner") << QPoint(100000, -100000) << QPoint(100, 0);
+}
+
+void tst_ColorPlaneWidget::dragLeavesTheWindow()
+{
+    QFETCH(QPoint, to);
+    QFETCH(QPoint, pinned);
+    Plane plane;
+    plane.setHue(180);
+    press(plane, {20, 20});
+    plane.reports();
+    drag(plane, to);
+    QCOMPARE(plane.reports(), Colors{plane.at(0.5, pinned.x(), pinned.y())});
+    release(plane, to);
+    QCOMPARE(plane.reports(), Colors{plane.at(0.5, pinned.x(), pinned.y())});
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_ColorPlaneWidget::dragStaysOnTheClampedPixel()
+{
+    Plane plane;
+    plane.setHue(180);
+    press(plane, {100, 20});
+    drag(plane, {101, 20});
+    drag(plane, {5000, 20});
+    QCOMPARE(plane.reports().size(), 1);
+    drag(plane, {5000, 21});
+    QCOMPARE(plane.reports(), Colors{plane.at(0.5, 100, 21)});
+    release(plane, {5000, 21});
+}
+
+void tst_ColorPlaneWidget::releaseElsewhereMovesTheMarker()
+{
+    Plane plane;
+    plane.setHue(180);
+    press(plane, {1, 1});
+    release(plane, {-5, 70});
+    QCOMPARE(plane.reports(), Colors({plane.at(0.5, 1, 1), plane.at(0.5, 0, 50)}));
+    QCOMPARE(plane.hsvColor(), QColor(Qt::black));
+}
+
+void tst_ColorPlaneWidget::pressOutsideIsTakenAsItIs()
+{
+    Plane plane;
+    plane.setHue(180);
+    press(plane, {200, 20});
+    QCOMPARE(plane.reports(), Colors{QColor()});
+    QVERIFY(!plane.hsvColor().isValid());
+    QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
+    plane.setHue(90);
+    QCOMPARE(plane.reports(), Colors());
+    release(plane, {200, 20});
+    QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 20)});
+}
+
+void tst_ColorPlaneWidget::moveWithoutAPress()
+{
+    Plane plane;
+    plane.setHue(180);
+    plane.setMouseTracking(true);
+    drag(plane, {20, 20});
+    release(plane, {20, 20});
+    QCOMPARE(plane.reports(), Colors());
+    QVERIFY(!plane.hsvColor().isValid());
+}
+
+void tst_ColorPlaneWidget::otherButtons()
+{
+    Plane plane;
+    plane.setHue(180);
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+        press(plane, {20, 20}, button);
+        QVERIFY(!QWidget::mouseGrabber());
+        release(plane, {20, 20}, button);
+    }
+    QCOMPARE(plane.reports(), Colors());
+    press(plane, {20, 20});
+    plane.reports();
+    release(plane, {30, 30}, Qt::RightButton);
+    QCOMPARE(plane.reports(), Colors());
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    release(plane, {30, 30});
+    QCOMPARE(plane.reports(), Colors{plane.at(0.5, 30, 30)});
+}
+
+void tst_ColorPlaneWidget::doubleClickIsAPress()
+{
+    Plane plane;
+    plane.setHue(180);
+    send(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+    QCOMPARE(plane.reports(), Colors{plane.at(0.5, 20, 20)});
+    release(plane, {20, 20});
+}
+
+// Qt leaves the grab with a hidden widget, which then swallows every click of the application.
+void tst_ColorPlaneWidget::hiddenDuringADrag()
+{
+    QWidget window;
+    Plane plane(&window);
+    plane.setHue(180);
+    window.show();
+    press(plane, {20, 20});
+    plane.reports();
+    window.hide();
+    QVERIFY(!QWidget::mouseGrabber());
+    drag(plane, {30, 30});
+    release(plane, {30, 30});
+    QCOMPARE(plane.reports(), Colors());
+    QCOMPARE(plane.hsvColor(), plane.at(0.5, 20, 20));
+}
+
+void tst_ColorPlaneWidget::disabledDuringADrag()
+{
+    Plane plane;
+    plane.setHue(180);
+    press(plane, {20, 20});
+    plane.setEnabled(false);
+    QVERIFY(!QWidget::mouseGrabber());
+    plane.reports();
+    press(plane, {30, 30});
+    QCOMPARE(plane.reports(), Colors());
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_ColorPlaneWidget::deletedDuringADrag()
+{
+    {
+        Plane plane;
+        plane.show();
+        plane.setHue(180);
+        press(plane, {20, 20});
+        QCOMPARE(QWidget::mouseGrabber(), &plane);
+    }
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_ColorPlaneWidget::resizeKeepsTheMarker()
+{
+    Plane plane;
+    plane.show();
+    plane.setHue(60);
+    press(plane, {30, 20});
+    release(plane, {30, 20});
+    plane.reports();
+    const QColor before = plane.hsvColor();
+    plane.resize(301, 201);
+    const QColor below = formula(60 / 360.0, {301, 201}, {30, 20});
+    QCOMPARE(plane.hsvColor(), below);
+    QVERIFY(below != before);
+    QCOMPARE(plane.reports(), Colors());
+    QCOMPARE(pictureOf(plane),
+             picture(60 / 360.0, {301, 201}, {30, 20},
+                     QColor(255 - before.red(), 255 - before.green(), 255 - before.blue())));
+}
+
+void tst_ColorPlaneWidget::markerOutsideAfterShrinking()
+{
+    Plane plane;
+    plane.show();
+    plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 1.0));
+    plane.resize(100, 51);
+    QVERIFY(!plane.hsvColor().isValid());
+    QCOMPARE(pictureOf(plane), planeImage(0.25, plane.size()));
+    plane.setHue(180);
+    QCOMPARE(plane.reports(), Colors());
+    plane.resize(102, 51);
+    QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
+    plane.setHue(90);
+    QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 0)});
+}
+
+// It learns of its size when it is shown, unless its colour changes before.
+void tst_ColorPlaneWidget::hiddenWidgetIsResized()
+{
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsvF(0.25, 0.5, 1.0));
+    QCOMPARE(plane.hsvColor(), formula(0.25, {101, 51}, {50, 0}));
+    plane.resize(201, 101);
+    QCOMPARE(plane.hsvColor(), formula(0.25, {101, 51}, {50, 0}));
+    plane.setHue(180);
+    QCOMPARE(plane.reports(), Colors{formula(0.5, {201, 101}, {50, 0})});
+    plane.resize(51, 51);
+    plane.show();
+    QCOMPARE(plane.hsvColor(), formula(0.5, {51, 51}, {50, 0}));
+    QCOMPARE(plane.reports(), Colors());
+}
+
+void tst_ColorPlaneWidget::tinyPlanes_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1 x 1") << QSize(1, 1);
+    QTest::newRow("1 x 40") << QSize(1, 40);
+    QTest::newRow("40 x 1") << QSize(40, 1);
+    QTest::newRow("0 x 0") << QSize(0, 0);
+    QTest::newRow("0 x 40") << QSize(0, 40);
+    QTest::newRow("40 x 0") << QSize(40, 0);
+    QTest::newRow("2 x 2") << QSize(2, 2);
+}
+
+void tst_ColorPlaneWidget::tinyPlanes()
+{
+    QFETCH(QSize, size);
+    QWidget window;
+    Plane plane(&window);
+    plane.resize(size);
+    window.show();
+    plane.setHue(100);
+    const double hue = 100 / 360.0;
+    const bool empty = size.isEmpty();
+    const QRect rect(QPoint(), size);
+    const auto color = [&](double of, const QPoint& at) {
+        return rect.contains(at) ? formula(of, size, at) : QColor();
+    };
+    if (!empty) {
+        QCOMPARE(pictureOf(plane), planeImage(hue, size));
+    }
+    press(plane, {0, 0});
+    drag(plane, {10, 10});
+    const QPoint dragged(qMax(0, qMin(10, rect.right())), qMax(0, qMin(10, rect.bottom())));
+    release(plane, {0, 0});
+    Colors expected{color(hue, {0, 0})};
+    if (dragged != QPoint(0, 0)) {
+        expected += color(hue, dragged);
+    }
+    expected += color(hue, {0, 0});
+    QCOMPARE(plane.reports(), expected);
+    plane.setHsvColor(QColor(Qt::blue));
+    const QPoint marker(size.width() - 1, 0);
+    QCOMPARE(plane.hsvColor(), empty ? QColor() : color(240 / 360.0, marker));
+    plane.setHue(1);
+    QCOMPARE(plane.reports(), empty ? Colors() : Colors{color(1 / 360.0, marker)});
+    QCOMPARE(plane.renderings(), empty ? 0 : 1);
+    pictureOf(window);
+    QCOMPARE(plane.renderings(), empty ? 0 : 2);
+}
+
+void tst_ColorPlaneWidget::markerProperties()
+{
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    QVERIFY(paintsOf(plane, [&] { plane.setMarkerRadius(12); }) > 0);
+    QCOMPARE(paintsOf(plane, [&] { plane.setMarkerRadius(12); }), 0);
+    QVERIFY(paintsOf(plane, [&] { QVERIFY(plane.setProperty("markerBorderWidth", 5)); }) > 0);
+    QCOMPARE(paintsOf(plane, [&] { plane.setMarkerBorderWidth(5); }), 0);
+    QCOMPARE(plane.markerRadius(), 12);
+    QCOMPARE(plane.markerBorderWidth(), 5);
+    QCOMPARE(plane.property("markerRadius"), QVariant(12));
+    const QColor below = plane.hsvColor();
+    QCOMPARE(pictureOf(plane),
+             picture(0.5, plane.size(), {50, 25},
+                     QColor(255 - below.red(), 255 - below.green(), 255 - below.blue()), 12, 5));
+    plane.setStyleSheet(QStringLiteral("ColorPlaneWidget { qproperty-markerRadius: 3; }"));
+    plane.ensurePolished();
+    QCOMPARE(plane.markerRadius(), 3);
+    QCOMPARE(plane.reports(), Colors());
+    QCOMPARE(plane.renderings(), 1);
+}
+
+void tst_ColorPlaneWidget::oddMarkers_data()
+{
+    QTest::addColumn<int>("radius");
+    QTest::addColumn<int>("width");
+    QTest::newRow("no radius") << 0 << 2;
+    QTest::newRow("no width") << 8 << 0;
+    QTest::newRow("negative radius") << -8 << 2;
+    QTest::newRow("negative width") << 8 << -2;
+    QTest::newRow("huge") << 1000000 << 1000000;
+}
+
+void tst_ColorPlaneWidget::oddMarkers()
+{
+    QFETCH(int, radius);
+    QFETCH(int, width);
+    Plane plane;
+    plane.setMarkerRadius(radius);
+    plane.setMarkerBorderWidth(width);
+    plane.setHsvColor(QColor(Qt::green));
+    QCOMPARE(pictureOf(plane).size(), plane.size());
+    QCOMPARE(plane.hsvColor(), QColor(Qt::green));
+}
+
+void tst_ColorPlaneWidget::manyChangesRenderOnce()
+{
+    Plane plane;
+    plane.setHsvColor(QColor(Qt::red));
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    QCoreApplication::processEvents();
+    QCOMPARE(plane.renderings(), 1);
+    for (int degrees = 1; degrees < 300; ++degrees) {
+        plane.setHue(degrees);
+        QCOMPARE(plane.reports(), Colors{plane.at(degrees / 360.0, 100, 0)});
+        QCOMPARE(plane.hsvColor(), plane.at(degrees / 360.0, 100, 0));
+    }
+    plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 0.5));
+    QCOMPARE(plane.renderings(), 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(plane.renderings(), 2);
+    QCOMPARE(pictureOf(plane).pixelColor(100, 0), plane.at(0.25, 100, 0));
+    QCOMPARE(plane.renderings(), 2);
+}
+
+void tst_ColorPlaneWidget::movingTheMarkerRendersNothing()
+{
+    Plane plane;
+    plane.setHue(180);
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    pictureOf(plane);
+    QCOMPARE(plane.renderings(), 1);
+    press(plane, {5, 5});
+    for (int x = 6; x < 60; ++x) {
+        QCOMPARE(paintsOf(plane, [&] { drag(plane, {x, 20}); }), 1);
+    }
+    release(plane, {60, 20});
+    plane.setHsvColor(QColor::fromHsvF(0.5, 0.1, 0.9));
+    pictureOf(plane);
+    QCOMPARE(plane.renderings(), 1);
+}
+
+void tst_ColorPlaneWidget::hiddenRendersNothing()
+{
+    Plane plane;
+    plane.setHsvColor(QColor(Qt::red));
+    plane.setHue(10);
+    plane.setHue(20);
+    QCoreApplication::processEvents();
+    QCOMPARE(plane.renderings(), 0);
+    QCOMPARE(plane.reports().size(), 2);
+}
+
+void tst_ColorPlaneWidget::resizingRendersOnceAPaint()
+{
+    Plane plane;
+    plane.setHue(180);
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    pictureOf(plane);
+    const int before = plane.renderings();
+    for (int width = 102; width < 140; ++width) {
+        plane.resize(width, 60);
+    }
+    QCOMPARE(plane.renderings(), before);
+    QCOMPARE(pictureOf(plane), planeImage(0.5, {139, 60}));
+    QCOMPARE(plane.renderings(), before + 1);
+}
+
+void tst_ColorPlaneWidget::sameAsTheEagerPlane_data()
+{
+    QTest::addColumn<int>("seed");
+    for (int seed = 0; seed < 30; ++seed) {
+        QTest::addRow("seed %d", seed) << seed;
+    }
+}
+
+// Nothing that can be asked or seen tells that the plane is rendered late.
+void tst_ColorPlaneWidget::sameAsTheEagerPlane()
+{
+    QFETCH(int, seed);
+    std::mt19937 generator{static_cast<unsigned>(seed)};
+    const auto random = [&generator](int from, int to) {
+        return std::uniform_int_distribution<int>(from, to)(generator);
+    };
+    QWidget oneWindow;
+    QWidget otherWindow;
+    Plane plane(&oneWindow);
+    EagerPlane eager(&otherWindow);
+    eager.resize(plane.size());
+    for (int step = 0; step < 120; ++step) {
+        const QPoint point(random(-20, 120), random(-20, 70));
+        const QPoint inside(random(0, 60), random(0, 40));
+        switch (random(0, 11)) {
+        case 0:
+        case 1: {
+            const int degrees = random(-10, 370);
+            plane.setHue(degrees);
+            eager.setHue(degrees);
+            break;
+        }
+        case 2: {
+            const QColor color = QColor::fromRgba(generator());
+            plane.setHsvColor(color);
+            eager.setColor(color);
+            break;
+        }
+        case 3: {
+            const int grey = random(0, 255);
+            plane.setHsvColor(QColor(grey, grey, grey));
+            eager.setColor(QColor(grey, grey, grey));
+            break;
+        }
+        case 4: {
+            const QSize size(random(0, 90), random(0, 60));
+            plane.resize(size);
+            eager.resize(size);
+            break;
+        }
+        case 5:
+            oneWindow.setVisible(!oneWindow.isVisible());
+            otherWindow.setVisible(oneWindow.isVisible());
+            break;
+        case 6:
+            press(plane, inside);
+            eager.pressAt(inside);
+            break;
+        case 7:
+        case 8:
+            drag(plane, point);
+            eager.dragTo(point);
+            break;
+        case 9:
+            release(plane, point);
+            eager.releaseAt(point);
+            break;
+        case 10:
+            QCoreApplication::processEvents();
+            break;
+        default:
+            QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
+        }
+        QCOMPARE(plane.hsvColor(), eager.color());
+    }
+    QCOMPARE(plane.reports(), eager.reports);
+    QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
+}
+
+void tst_ColorPlaneWidget::arrowKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<QPoint>("marker");
+    QTest::newRow("left") << int(Qt::Key_Left) << false << QPoint(49, 25);
+    QTest::newRow("right") << int(Qt::Key_Right) << false << QPoint(51, 25);
+    QTest::newRow("up") << int(Qt::Key_Up) << false << QPoint(50, 24);
+    QTest::newRow("down") << int(Qt::Key_Down) << false << QPoint(50, 26);
+    QTest::newRow("left, far") << int(Qt::Key_Left) << true << QPoint(40, 25);
+    QTest::newRow("down, far") << int(Qt::Key_Down) << true << QPoint(50, 35);
+}
+
+void tst_ColorPlaneWidget::arrowKeys()
+{
+    QFETCH(int, key);
+    QFETCH(bool, shift);
+    QFETCH(QPoint, marker);
+    Plane plane;
+    plane.setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
+    const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::keyClick(&plane, Qt::Key(key), modifiers);
+    QCOMPARE(plane.reports(), Colors{plane.at(0.5, marker.x(), marker.y())});
+    for (int i = 0; i < 200; ++i) {
+        QTest::keyClick(&plane, Qt::Key(key), modifiers);
+    }
+    // As many as there were pixels left, and none at the edge.
+    const QPoint direction = marker - QPoint(50, 25);
+    const int room = direction.x() != 0 ? 50 : 25;
+    const int step = shift ? 10 : 1;
+    QCOMPARE(plane.reports().size(), (room + step - 1) / step - 1);
+}
+
+void tst_ColorPlaneWidget::keysWithoutAPlane()
+{
+    Plane plane;
+    QTest::keyClick(&plane, Qt::Key_Left);
+    QCOMPARE(plane.reports(), Colors());
+    plane.setHue(180);
+    QTest::keyClick(&plane, Qt::Key_Right);
+    QCOMPARE(plane.reports(), Colors{QColor(Qt::white)});
+}
+
+void tst_ColorPlaneWidget::otherKeysAreLeft()
+{
+    Plane plane;
+    plane.setHsvColor(QColor(Qt::red));
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&plane, &event);
+        QVERIFY(!event.isAccepted());
+    }
+    QCOMPARE(plane.reports(), Colors());
+}
+
+void tst_ColorPlaneWidget::focusIsShownToKeyboardUsers()
+{
+    QWidget window;
+    Plane plane(&window);
+    plane.setHue(180);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    plane.setFocus(Qt::MouseFocusReason);
+    QVERIFY(plane.hasFocus());
+    QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    QVERIFY(pictureOf(plane) != planeImage(0.5, plane.size()));
+    plane.clearFocus();
+    QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
+}
+
+void tst_ColorPlaneWidget::rightToLeft()
+{
+    Plane plane;
+    plane.setLayoutDirection(Qt::RightToLeft);
+    plane.setHsvColor(QColor(Qt::red));
+    QCOMPARE(pictureOf(plane), picture(0.0, plane.size(), {100, 0}, Qt::cyan));
+    QTest::keyClick(&plane, Qt::Key_Left);
+    QCOMPARE(plane.reports(), Colors{plane.at(0.0, 99, 0)});
+}
+
+void tst_ColorPlaneWidget::deletedInItsSignal_data()
+{
+    QTest::addColumn<QString>("action");
+    for (const char* action : {"press", "move", "release", "hue", "key"}) {
+        QTest::newRow(action) << QString::fromLatin1(action);
+    }
+}
+
+void tst_ColorPlaneWidget::deletedInItsSignal()
+{
+    QFETCH(QString, action);
+    const QPointer<Plane> plane = new Plane;
+    plane->show();
+    plane->setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
+    const bool needsPress = action == QLatin1String("move") || action == QLatin1String("release");
+    if (needsPress) {
+        press(*plane, {20, 20});
+    }
+    connect(plane, &ColorPlaneWidget::hsvColorChanged, this, [&plane] { delete plane; });
+    if (action == QLatin1String("press")) {
+        QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {20, 20});
+    } else if (action == QLatin1String("move")) {
+        drag(*plane, {30, 20});
+    } else if (action == QLatin1String("release")) {
+        release(*plane, {20, 20});
+    } else if (action == QLatin1String("hue")) {
+        plane->setHue(7);
+    } else {
+        QTest::keyPress(plane, Qt::Key_Left);
+    }
+    QVERIFY(!plane);
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+UIC_TEST_MAIN(tst_ColorPlaneWidget)
+#include "tst_ColorPlaneWidget.moc"
