@@ -1,6 +1,5 @@
 #include "HsvPlane.h"
 
-#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <vector>
@@ -89,9 +88,9 @@ double valueAt(int y, int height)
 int sixteenBits(double fraction)
 {
     const double sum = fraction * most + 0.5;
-    const double below = std::floor(sum);
+    const int below = static_cast<int>(sum);
     if (sum - below > 1e-6 && sum - below < 1.0 - 1e-6) {
-        return static_cast<int>(below);
+        return below;
     }
     return qRound(QColor::fromHsvF(0.0, fraction, 1.0).hsvSaturationF() * most);
 }
@@ -187,53 +186,67 @@ template <Position at, typename Words>
     }
 }
 
-// Some vectors of pixels. Everything is inlined into functions that are compiled for one processor each, and
-// takes vectors by reference only: how they are passed depends on the processor too.
+// One vector of pixels. Lowers @p nearest to how far their sums are from a boundary. Everything is inlined
+// into functions that are compiled for one processor each, and hands vectors over by reference only: how they
+// are passed depends on the processor too.
+template <typename Vectors, Position lowAt, Position highAt>
+[[gnu::always_inline]] inline void renderVector(const Plane& plane, int x, float row, std::uint32_t rowBits,
+                                                QRgb* line, typename Vectors::Shorts& nearest)
+{
+    using Words = typename Vectors::Words;
+    using Shorts = typename Vectors::Shorts;
+
+    typename Vectors::Floats low;
+    typename Vectors::Floats high;
+    std::memcpy(&low, plane.low.data() + x, sizeof low);
+    std::memcpy(&high, plane.high.data() + x, sizeof high);
+    Words lowSum = reinterpret_cast<Words>(low * row + origin);
+    Words highSum = reinterpret_cast<Words>(high * row + origin);
+    // Sixteen bits are enough for what the sums are tested for, and SSE2 has no other minimum.
+    const Shorts lowFar = reinterpret_cast<Shorts>(lowSum & farBits);
+    const Shorts highFar = reinterpret_cast<Shorts>(highSum & farBits);
+    const Shorts both = lowFar < highFar ? lowFar : highFar;
+    nearest = both < nearest ? both : nearest;
+    moveByte<lowAt>(lowSum);
+    moveByte<highAt>(highSum);
+    const Words pixels = lowSum ^ highSum ^ rowBits;
+    std::memcpy(line + x, &pixels, sizeof pixels);
+}
+
+// Whether a sum is near. The upper half of each word is zero throughout.
+template <typename Vectors>
+[[gnu::always_inline]] inline bool hasNear(const typename Vectors::Shorts& nearest)
+{
+    using Words = typename Vectors::Words;
+    using Longs = typename Vectors::Longs;
+    const Longs near = reinterpret_cast<Longs>(reinterpret_cast<Words>(nearest) == 0U);
+    std::uint64_t any = near[0];
+    for (int i = 1; i < Vectors::lanes / 2; ++i) {
+        any |= near[i];
+    }
+    return any != 0;
+}
+
 template <typename Vectors, int vectors, Position lowAt, Position highAt>
 [[gnu::always_inline]] inline void renderBlock(const Plane& plane, int x, int y, float row,
                                                std::uint32_t rowBits, QRgb* line)
 {
     constexpr int lanes = Vectors::lanes;
-    using Floats = typename Vectors::Floats;
-    using Words = typename Vectors::Words;
-    using Shorts = typename Vectors::Shorts;
-    using Longs = typename Vectors::Longs;
-
-    Words near[vectors];
-    Words anyNear{};
+    const typename Vectors::Shorts far =
+        reinterpret_cast<typename Vectors::Shorts>(typename Vectors::Words{} + farBits);
+    typename Vectors::Shorts nearest = far;
     for (int i = 0; i < vectors; ++i) {
-        const int first = x + i * lanes;
-        Floats low;
-        Floats high;
-        std::memcpy(&low, plane.low.data() + first, sizeof low);
-        std::memcpy(&high, plane.high.data() + first, sizeof high);
-        Words lowSum = reinterpret_cast<Words>(low * row + origin);
-        Words highSum = reinterpret_cast<Words>(high * row + origin);
-        // Sixteen bits are enough for what the sums are tested for, and SSE2 has no other minimum.
-        const Shorts lowFar = reinterpret_cast<Shorts>(lowSum & farBits);
-        const Shorts highFar = reinterpret_cast<Shorts>(highSum & farBits);
-        const Shorts nearest = lowFar < highFar ? lowFar : highFar;
-        near[i] = reinterpret_cast<Words>(reinterpret_cast<Words>(nearest) == 0U);
-        anyNear |= near[i];
-        moveByte<lowAt>(lowSum);
-        moveByte<highAt>(highSum);
-        const Words pixels = lowSum ^ highSum ^ rowBits;
-        std::memcpy(line + first, &pixels, sizeof pixels);
+        renderVector<Vectors, lowAt, highAt>(plane, x + i * lanes, row, rowBits, line, nearest);
     }
-    const Longs flags = reinterpret_cast<Longs>(anyNear);
-    std::uint64_t flag = flags[0];
-    for (int i = 1; i < lanes / 2; ++i) {
-        flag |= flags[i];
+    if (__builtin_expect(static_cast<long>(hasNear<Vectors>(nearest)), 0) == 0) {
+        return;
     }
-    if (__builtin_expect(flag != 0, 0)) {
-        // Unrolled, so that what is near stays in registers above.
-#pragma GCC unroll 4
-        for (int i = 0; i < vectors; ++i) {
-            for (int lane = 0; lane < lanes; ++lane) {
-                if (near[i][lane] != 0) {
-                    const int at = x + i * lanes + lane;
-                    line[at] = plane.exact(at, y);
-                }
+    for (int first = x; first < x + vectors * lanes; first += lanes) {
+        nearest = far;
+        renderVector<Vectors, lowAt, highAt>(plane, first, row, rowBits, line, nearest);
+        for (int lane = 0; lane < lanes; ++lane) {
+            if (nearest[2 * lane] == 0) {
+                line[first + lane] = plane.exact(first + lane, y);
             }
         }
     }
