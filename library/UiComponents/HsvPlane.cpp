@@ -200,11 +200,11 @@ template <typename Vectors, Position lowAt, Position highAt>
     typename Vectors::Floats high;
     std::memcpy(&low, plane.low.data() + x, sizeof low);
     std::memcpy(&high, plane.high.data() + x, sizeof high);
-    Words lowSum = reinterpret_cast<Words>(low * row + origin);
-    Words highSum = reinterpret_cast<Words>(high * row + origin);
+    auto lowSum = reinterpret_cast<Words>(low * row + origin);
+    auto highSum = reinterpret_cast<Words>(high * row + origin);
     // Sixteen bits are enough for what the sums are tested for, and SSE2 has no other minimum.
-    const Shorts lowFar = reinterpret_cast<Shorts>(lowSum & farBits);
-    const Shorts highFar = reinterpret_cast<Shorts>(highSum & farBits);
+    const auto lowFar = reinterpret_cast<Shorts>(lowSum & farBits);
+    const auto highFar = reinterpret_cast<Shorts>(highSum & farBits);
     const Shorts both = lowFar < highFar ? lowFar : highFar;
     nearest = both < nearest ? both : nearest;
     moveByte<lowAt>(lowSum);
@@ -219,7 +219,7 @@ template <typename Vectors>
 {
     using Words = typename Vectors::Words;
     using Longs = typename Vectors::Longs;
-    const Longs near = reinterpret_cast<Longs>(reinterpret_cast<Words>(nearest) == 0U);
+    const auto near = reinterpret_cast<Longs>(reinterpret_cast<Words>(nearest) == 0U);
     std::uint64_t any = near[0];
     for (int i = 1; i < Vectors::lanes / 2; ++i) {
         any |= near[i];
@@ -232,8 +232,7 @@ template <typename Vectors, int vectors, Position lowAt, Position highAt>
                                                std::uint32_t rowBits, QRgb* line)
 {
     constexpr int lanes = Vectors::lanes;
-    const typename Vectors::Shorts far =
-        reinterpret_cast<typename Vectors::Shorts>(typename Vectors::Words{} + farBits);
+    const auto far = reinterpret_cast<typename Vectors::Shorts>(typename Vectors::Words{} + farBits);
     typename Vectors::Shorts nearest = far;
     for (int i = 0; i < vectors; ++i) {
         renderVector<Vectors, lowAt, highAt>(plane, x + i * lanes, row, rowBits, line, nearest);

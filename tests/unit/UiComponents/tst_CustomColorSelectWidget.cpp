@@ -456,7 +456,9 @@ void tst_CustomColorSelectWidget::reportsAreRgb()
     selector.press({50, 25});
     selector.release({50, 25});
     selector.slider->setValue(7);
-    for (const QColor& color : selector.reports()) {
+    const Colors reports = selector.reports();
+    QCOMPARE(reports.size(), 3);
+    for (const QColor& color : reports) {
         QCOMPARE(color.spec(), QColor::Rgb);
     }
 }

@@ -2,6 +2,7 @@
 
 #include <UiComponents/HsvPlane.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -82,10 +83,8 @@ std::vector<double> randomHues(int count)
 {
     std::mt19937 generator(20);
     std::uniform_real_distribution<double> hues(0.0, 1.0);
-    std::vector<double> result;
-    for (int i = 0; i < count; ++i) {
-        result.push_back(hues(generator));
-    }
+    std::vector<double> result(static_cast<std::size_t>(count));
+    std::generate(result.begin(), result.end(), [&] { return hues(generator); });
     return result;
 }
 
