@@ -1,4 +1,5 @@
 #include "TesselComboBox.h"
+#include "TesselElegantSlider.h"
 
 #include <WidgetToolkit/OvComboBox.h>
 
@@ -6,3 +7,10 @@ void Orvane::Tessel::convertComboBoxToTessel(OvComboBox* comboBox)
 {
     comboBox->setFrame(false);
 }
+
+Orvane::Tessel::TesselElegantSlider::TesselElegantSlider(QWidget* parent)
+    : QSlider(parent)
+{
+}
+
+Orvane::Tessel::TesselElegantSlider::~TesselElegantSlider() = default;

@@ -1,16 +1,34 @@
 #pragma once
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 
-/// The studio's own row.
-class OvHBoxLayout : public QHBoxLayout
+/// The studio's own row or column.
+class OvBoxLayout : public QBoxLayout
+{
+    Q_OBJECT
+
+public:
+    OvBoxLayout(Direction direction, QWidget* owner);
+    ~OvBoxLayout() override;
+
+    OvBoxLayout* autoFill();
+    OvBoxLayout* addStretch(int stretch = 0);
+};
+
+class OvHBoxLayout : public OvBoxLayout
 {
     Q_OBJECT
 
 public:
     explicit OvHBoxLayout(QWidget* owner);
     ~OvHBoxLayout() override;
+};
 
-    OvHBoxLayout* autoFill();
-    OvHBoxLayout* addStretch(int stretch = 0);
+class OvVBoxLayout : public OvBoxLayout
+{
+    Q_OBJECT
+
+public:
+    explicit OvVBoxLayout(QWidget* owner);
+    ~OvVBoxLayout() override;
 };

@@ -19,14 +19,14 @@ QLayout* OvFrame::getLayout() const
     return layout();
 }
 
-OvHBoxLayout::OvHBoxLayout(QWidget* owner)
-    : QHBoxLayout(owner)
+OvBoxLayout::OvBoxLayout(Direction direction, QWidget* owner)
+    : QBoxLayout(direction, owner)
 {
 }
 
-OvHBoxLayout::~OvHBoxLayout() = default;
+OvBoxLayout::~OvBoxLayout() = default;
 
-OvHBoxLayout* OvHBoxLayout::autoFill()
+OvBoxLayout* OvBoxLayout::autoFill()
 {
     const auto children = parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* child : children) {
@@ -35,11 +35,25 @@ OvHBoxLayout* OvHBoxLayout::autoFill()
     return this;
 }
 
-OvHBoxLayout* OvHBoxLayout::addStretch(int stretch)
+OvBoxLayout* OvBoxLayout::addStretch(int stretch)
 {
-    QHBoxLayout::addStretch(stretch);
+    QBoxLayout::addStretch(stretch);
     return this;
 }
+
+OvHBoxLayout::OvHBoxLayout(QWidget* owner)
+    : OvBoxLayout(LeftToRight, owner)
+{
+}
+
+OvHBoxLayout::~OvHBoxLayout() = default;
+
+OvVBoxLayout::OvVBoxLayout(QWidget* owner)
+    : OvBoxLayout(TopToBottom, owner)
+{
+}
+
+OvVBoxLayout::~OvVBoxLayout() = default;
 
 OvComboBox::OvComboBox(QWidget* parent)
     : QComboBox(parent)
