@@ -5,6 +5,7 @@
 #include <vector>
 
 #if defined(__x86_64__) && defined(__GNUC__)
+#include <cpuid.h>
 #define HSV_PLANE_X86
 #endif
 
@@ -326,10 +327,35 @@ QRgb HsvPlane::pixel(double hue, const QSize& size, const QPoint& at)
         .rgb();
 }
 
+#ifdef HSV_PLANE_X86
+namespace {
+
+// Not __builtin_cpu_supports(): it asks the processor everything while the library is loaded, which on a
+// virtual machine takes longer than all the rest of loading.
+bool hasAvx2AndFma()
+{
+    constexpr unsigned vectorStates = 6; // the system keeps both halves of the registers
+    unsigned a = 0;
+    unsigned b = 0;
+    unsigned c = 0;
+    unsigned d = 0;
+    const bool keepsStates = __get_cpuid(1, &a, &b, &c, &d) && (c & bit_OSXSAVE) && (c & bit_FMA);
+    if (!keepsStates) {
+        return false;
+    }
+    unsigned states = 0;
+    asm("xgetbv" : "=a"(states), "=d"(d) : "c"(0));
+    return (states & vectorStates) == vectorStates && __get_cpuid_count(7, 0, &a, &b, &c, &d) &&
+           (b & bit_AVX2);
+}
+
+} // namespace
+#endif
+
 bool HsvPlane::isSupported(Path path)
 {
 #ifdef HSV_PLANE_X86
-    return path != Path::Avx2 || (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"));
+    return path != Path::Avx2 || hasAvx2AndFma();
 #else
     return path == Path::Plain;
 #endif
