@@ -25,14 +25,39 @@ function(uic_unit_test class)
         ENVIRONMENT ${UIC_UNIT_ENVIRONMENT} ${ARGN})
 endfunction()
 
-# uic_desktop_test(<Class> LINK <target...>): tests/desktop/tst_<Class>.cpp, run on a desktop of its own with
-# a window manager and a compositor. See RealInput.h.
+set(UIC_DESKTOP_SESSION "${PROJECT_SOURCE_DIR}/tests/desktop/desktop-session")
+
+# uic_desktop_test(<Class> LINK <target...> [SCREENS <layout>]): tests/desktop/tst_<Class>.cpp, run on a desktop
+# of its own with a window manager and a compositor. See RealInput.h; desktop-session describes the layout.
 function(uic_desktop_test class)
+    cmake_parse_arguments(arg "" "SCREENS" "" ${ARGN})
+    set(launcher "${UIC_DESKTOP_SESSION}")
+    if(arg_SCREENS)
+        list(APPEND launcher --screens "${arg_SCREENS}")
+    endif()
     uic_test_program(${class} NAME desktop.${class} LABEL desktop
-        LAUNCHER "${PROJECT_SOURCE_DIR}/tests/desktop/desktop-session"
-        ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${ARGN})
+        LAUNCHER ${launcher} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_UNPARSED_ARGUMENTS})
     # Two desktops at once on a small machine only wait for each other.
     set_tests_properties(desktop.${class} PROPERTIES PROCESSORS 2)
+endfunction()
+
+# uic_desktop_variant(<Class> <name> [SCREENS <layout>] [ENVIRONMENT <variable...>]): runs a desktop test once
+# more, on the screens that desktop-session describes, and with these variables.
+function(uic_desktop_variant class name)
+    cmake_parse_arguments(arg "" "SCREENS" "ENVIRONMENT" ${ARGN})
+    set(test desktop.${class}.${name})
+    set(launcher "${UIC_DESKTOP_SESSION}")
+    if(arg_SCREENS)
+        list(APPEND launcher --screens "${arg_SCREENS}")
+    endif()
+    add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:tst_${class}>)
+    foreach(property LABELS TIMEOUT FAIL_REGULAR_EXPRESSION PROCESSORS)
+        get_test_property(desktop.${class} ${property} value)
+        set_tests_properties(${test} PROPERTIES ${property} "${value}")
+    endforeach()
+    # A QT_SCREEN_SCALE_FACTORS has several values: its semicolons stay.
+    set(environment ${UIC_DESKTOP_ENVIRONMENT} ${arg_ENVIRONMENT})
+    set_property(TEST ${test} PROPERTY ENVIRONMENT "${environment}")
 endfunction()
 
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")

@@ -14,7 +14,8 @@ uic_packages()
             wayland)
                 echo qtwayland5 ;;
             desktop)
-                echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils ;;
+                echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils \
+                    xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils ;;
             package)
                 echo fonts-dejavu-core pkg-config ;;
             benchmarks)

@@ -20,20 +20,27 @@ bool xdotool(const QStringList& arguments)
     return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
 }
 
+/// @p point in X's own pixels: Qt scales the size of a screen, and leaves its corner where it is.
+QPoint nativePoint(const QPoint& point)
+{
+    const QScreen* screen = QGuiApplication::screenAt(point);
+    if (!screen) {
+        return point;
+    }
+    const QPoint corner = screen->geometry().topLeft();
+    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
+}
+
 bool moveToGlobal(const QPoint& target)
 {
+    const QPoint place = nativePoint(target);
     // Qt asks the server for the position. The events that are on their way by then are handled before
     // the next move, or Qt would make one of the two.
     const bool hasArrived =
-        xdotool({QStringLiteral("mousemove"), QString::number(target.x()), QString::number(target.y())}) &&
+        xdotool({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())}) &&
         QTest::qWaitFor([target] { return QCursor::pos() == target; });
     QCoreApplication::processEvents();
     return hasArrived;
-}
-
-QPixmap grabScreen()
-{
-    return QGuiApplication::primaryScreen()->grabWindow(0);
 }
 
 } // namespace
@@ -95,7 +102,13 @@ bool RealInput::key(const QString& name)
 
 QColor RealInput::pixel(const QWidget* widget, const QPoint& point)
 {
-    return grabScreen().toImage().pixelColor(widget->mapToGlobal(point));
+    const QPoint global = widget->mapToGlobal(point);
+    QScreen* screen = QGuiApplication::screenAt(global);
+    if (!screen) {
+        return {};
+    }
+    const QPoint local = global - screen->geometry().topLeft();
+    return screen->grabWindow(0, local.x(), local.y(), 1, 1).toImage().pixelColor(0, 0);
 }
 
 bool RealInput::saveScreenshot(const QString& name)
@@ -104,5 +117,5 @@ bool RealInput::saveScreenshot(const QString& name)
     // Another run of the same test may be writing the same picture.
     QSaveFile file(folder.filePath(name + QStringLiteral(".png")));
     return folder.mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
-           grabScreen().save(&file, "PNG") && file.commit();
+           QGuiApplication::primaryScreen()->grabWindow(0).save(&file, "PNG") && file.commit();
 }

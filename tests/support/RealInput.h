@@ -11,8 +11,8 @@ class QWidget;
  * A user's mouse, keyboard and eyes for tests that run in desktop-session: input goes through the X server
  * and the window manager, as real input does, and pixels are read from the screen.
  *
- * Points are in the coordinates of the widget that is given with them. Events arrive through the event
- * loop: wait for their effect with QTRY_*.
+ * Points are in the coordinates of the widget that is given with them, whatever the scale of its screen.
+ * Events arrive through the event loop: wait for their effect with QTRY_*.
  */
 namespace RealInput {
 
@@ -38,10 +38,10 @@ bool type(const QString& text);
 /// Presses and releases a key or a chord under its X name: "Escape", "ctrl+a".
 bool key(const QString& name);
 
-/// What the screen shows at @p point, after all windows were composed.
+/// What the screen shows at @p point, after all windows were composed. Invalid outside of all screens.
 QColor pixel(const QWidget* widget, const QPoint& point);
 
-/// Saves the whole screen as <name>.png in the folder UIC_SCREENSHOTS, which the build sets, or with
+/// Saves the whole primary screen as <name>.png in the folder UIC_SCREENSHOTS, which the build sets, or with
 /// the temporary files.
 bool saveScreenshot(const QString& name);
 
