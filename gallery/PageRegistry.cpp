@@ -6,6 +6,8 @@
 #include "pages/ColorHintPage.h"
 #include "pages/ColorInputPage.h"
 #include "pages/ColorPickerButtonPage.h"
+#include "pages/ColorPlanePage.h"
+#include "pages/ColorSelectorPage.h"
 #include "pages/ComboBoxPage.h"
 #include "pages/CustomSliderPage.h"
 #include "pages/CustomizationPage.h"
@@ -39,6 +41,8 @@ QVector<PageInfo> PageRegistry::pages()
         // colour
         ColorPickerButtonPage::info(),
         ColorInputPage::info(),
+        ColorSelectorPage::info(),
+        ColorPlanePage::info(),
         BlendingModesPage::info(),
         // inputs
         SpinBoxPage::info(),
