@@ -1,5 +1,6 @@
 #include "PageRegistry.h"
 
+#include "pages/AdjustingListPage.h"
 #include "pages/BindWidgetsPage.h"
 #include "pages/BlendingModesPage.h"
 #include "pages/BoxLayoutPage.h"
@@ -54,6 +55,7 @@ QVector<PageInfo> PageRegistry::pages()
         TesselLineEditPage::info(),
         TesselElegantSliderPage::info(),
         TesselComboBoxPage::info(),
+        AdjustingListPage::info(),
         // layout and styling
         FramePage::info(),
         BoxLayoutPage::info(),

@@ -1,0 +1,41 @@
+#include "AdjustingListView.h"
+
+namespace {
+
+// QWIDGETSIZE_MAX itself means no minimum to Qt, and more is cut off with a warning.
+constexpr int largestMinimum = QWIDGETSIZE_MAX - 1;
+
+} // namespace
+
+AdjustingListView::AdjustingListView(QWidget* parent)
+    : QListView(parent)
+{
+    setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+}
+
+AdjustingListView::~AdjustingListView() = default;
+
+void AdjustingListView::setLoadingFinished(bool finished)
+{
+    m_loadingFinished = finished;
+    updateSize();
+}
+
+void AdjustingListView::resizeEvent(QResizeEvent* event)
+{
+    resizeContents(viewport()->width(), contentsSize().height());
+    QListView::resizeEvent(event);
+    updateSize();
+}
+
+void AdjustingListView::updateSize()
+{
+    qint64 height = 0;
+    if (!m_loadingFinished && model()) {
+        const int rows = model()->rowCount(QModelIndex());
+        for (int row = 0; row < rows; ++row) {
+            height += sizeHintForRow(row);
+        }
+    }
+    setMinimumHeight(static_cast<int>(qBound<qint64>(0, height, largestMinimum)));
+}
