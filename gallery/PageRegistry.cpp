@@ -25,6 +25,7 @@
 #include "pages/QmlFocusPage.h"
 #include "pages/SchedulerPage.h"
 #include "pages/SettingsPage.h"
+#include "pages/SliderInputPage.h"
 #include "pages/SpinBoxPage.h"
 #include "pages/StyleHintsPage.h"
 #include "pages/TesselComboBoxPage.h"
@@ -46,6 +47,7 @@ QVector<PageInfo> PageRegistry::pages()
         ColorPlanePage::info(),
         BlendingModesPage::info(),
         // inputs
+        SliderInputPage::info(),
         SpinBoxPage::info(),
         DoubleSpinBoxPage::info(),
         CustomSliderPage::info(),

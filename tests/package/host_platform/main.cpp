@@ -3,8 +3,10 @@
 #include <Settings/Settings.h>
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/CustomColors.h>
+#include <UiComponents/SliderInputWidget.h>
 
 #include <QApplication>
+#include <QSpinBox>
 
 int main(int argc, char** argv)
 {
@@ -17,6 +19,12 @@ int main(int argc, char** argv)
     }
     if (!Util::appendCustomColor(name) || Settings::userCustomColors() != QStringList{name}) {
         qCritical("the colour is not in the studio's settings");
+        return 1;
+    }
+    SliderInputWidget field(nullptr, {0, 10});
+    field.setValue(7);
+    if (field.findChild<QSpinBox*>()->value() != 7) {
+        qCritical("the number is not in the studio's spin box");
         return 1;
     }
     return 0;

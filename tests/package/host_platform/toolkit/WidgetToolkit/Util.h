@@ -1,6 +1,8 @@
 #pragma once
 
 class LayoutController;
+class QAbstractSlider;
+class QSpinBox;
 class QString;
 class QVariant;
 class QWidget;
@@ -11,5 +13,7 @@ void applyProperty(QWidget* widget, const char* name, const QVariant& value);
 
 /// The studio has no layout controllers: margins come from its own style. Always null.
 LayoutController* installLayoutController(QWidget* widget);
+
+void bindWidgets(QAbstractSlider* slider, QSpinBox* spinBox);
 
 } // namespace Util

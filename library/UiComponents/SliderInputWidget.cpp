@@ -1,0 +1,65 @@
+#include "SliderInputWidget.h"
+
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvCustomSlider.h>
+#include <WidgetToolkit/OvSpinBox.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QPointer>
+
+class SliderInputWidget::Private
+{
+public:
+    explicit Private(SliderInputWidget* field);
+
+    SliderInputWidget* const owner;
+    OvCustomSlider* const slider;
+    OvSpinBox* const spinBox;
+};
+
+SliderInputWidget::Private::Private(SliderInputWidget* field)
+    : owner(field)
+    , slider(new OvCustomSlider(field))
+    , spinBox(new OvSpinBox(field))
+{
+    slider->setObjectName(QStringLiteral("slider"));
+    spinBox->setObjectName(QStringLiteral("spinbox"));
+
+    auto* layout = new OvHBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill();
+}
+
+SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    Util::bindWidgets(d->slider, d->spinBox);
+    d->slider->setRange(init.minimum, init.maximum);
+    d->slider->setOrientation(Qt::Horizontal);
+    d->spinBox->setAlignment(Qt::AlignCenter);
+    d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+
+    // Behind the binding, whose slots are then called first: when the host hears of a change, both parts
+    // show it.
+    connect(d->slider, &QAbstractSlider::valueChanged, this, &SliderInputWidget::valueChanged);
+    connect(d->spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &SliderInputWidget::valueChanged);
+
+    // A label asks its buddy's own policy whether there is anything to focus.
+    setFocusPolicy(d->slider->focusPolicy());
+    setFocusProxy(d->slider);
+}
+
+SliderInputWidget::~SliderInputWidget() = default;
+
+void SliderInputWidget::setValue(int value)
+{
+    const QPointer<SliderInputWidget> guard(this);
+    d->spinBox->setValue(value);
+    if (guard) {
+        // Not the argument: a slot may have set another value since.
+        d->slider->setValue(d->spinBox->value());
+    }
+}
