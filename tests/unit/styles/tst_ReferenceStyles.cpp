@@ -9,6 +9,7 @@
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/SliderInputWidget.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvComboBox.h>
 #include <WidgetToolkit/OvCustomSlider.h>
@@ -256,6 +257,7 @@ QMainWindow* makeEverything()
                                      makeFieldFrame(body),
                                      makeColorButton(body),
                                      new ColorInputWidget(body, QColor()),
+                                     new SliderInputWidget(body, {0, 100}),
                                      make<QDialogButtonBox>(body),
                                      new QTableWidget(2, 2, body),
                                      makeDialog(body),
