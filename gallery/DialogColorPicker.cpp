@@ -1,29 +1,10 @@
 #include "DialogColorPicker.h"
 
+#include "PopupPosition.h"
+
 #include <UiComponents/ColorPickerButton.h>
 
 #include <QColorDialog>
-#include <QScreen>
-
-namespace {
-
-// Between the field and the dialog, in pixels.
-constexpr int Gap = 6;
-
-} // namespace
-
-QPoint dialogPosition(const QRect& field, const QSize& size, const QRect& screen,
-                      Qt::LayoutDirection direction)
-{
-    const bool isRightToLeft = direction == Qt::RightToLeft;
-    const int x = isRightToLeft ? field.x() + field.width() - size.width() : field.x();
-    const int below = field.y() + field.height() + Gap;
-    const bool hasRoomBelow = below + size.height() <= screen.y() + screen.height();
-    const int y = hasRoomBelow ? below : field.y() - Gap - size.height();
-    const int lastX = qMax(screen.x(), screen.x() + screen.width() - size.width());
-    const int lastY = qMax(screen.y(), screen.y() + screen.height() - size.height());
-    return {qBound(screen.x(), x, lastX), qBound(screen.y(), y, lastY)};
-}
 
 DialogColorPicker::DialogColorPicker(QWidget* field)
     : m_field(field)
@@ -88,9 +69,7 @@ QColorDialog* DialogColorPicker::makeDialog()
 
     dialog->ensurePolished();
     dialog->adjustSize();
-    const QRect field(m_field->mapToGlobal(QPoint()), m_field->size());
-    dialog->move(dialogPosition(field, dialog->size(), m_field->screen()->availableGeometry(),
-                                m_field->layoutDirection()));
+    dialog->move(popupPosition(m_field, dialog->size()));
     return dialog;
 }
 

@@ -45,8 +45,3 @@ private:
     bool m_isPicking = false;
     bool m_isFinishing = false;
 };
-
-/// The top-left corner of a dialog of @p size beside @p field: below it, or above where there is no room
-/// below, level with its leading edge, and inside @p screen. All in global coordinates.
-QPoint dialogPosition(const QRect& field, const QSize& size, const QRect& screen,
-                      Qt::LayoutDirection direction);

@@ -34,8 +34,6 @@ private Q_SLOTS:
     void dialogDeletedByOthers();
     void stopFromInsideTheLastSignal();
     void withoutAField();
-    void position_data();
-    void position();
 
 private:
     QColorDialog* dialog() const { return m_window->findChild<QColorDialog*>("colorPickerDialog"); }
@@ -253,36 +251,6 @@ void tst_DialogColorPicker::withoutAField()
     QVERIFY(!picker.isInProgress());
     picker.setColor(QColor(Qt::red));
     QCOMPARE(picker.color(), std::optional<QColor>(QColor(Qt::red)));
-}
-
-void tst_DialogColorPicker::position_data()
-{
-    QTest::addColumn<QRect>("field");
-    QTest::addColumn<QRect>("screen");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QPoint>("expected");
-    const QRect screen(0, 0, 1000, 800);
-    QTest::newRow("below") << QRect(100, 100, 50, 20) << screen << Qt::LeftToRight << QPoint(100, 126);
-    QTest::newRow("below, right to left")
-        << QRect(600, 100, 50, 20) << screen << Qt::RightToLeft << QPoint(250, 126);
-    QTest::newRow("above where there is no room below")
-        << QRect(100, 600, 50, 20) << screen << Qt::LeftToRight << QPoint(100, 294);
-    QTest::newRow("inside on the right")
-        << QRect(980, 100, 50, 20) << screen << Qt::LeftToRight << QPoint(600, 126);
-    QTest::newRow("inside on the left")
-        << QRect(10, 100, 50, 20) << screen << Qt::RightToLeft << QPoint(0, 126);
-    QTest::newRow("a screen of negative origin")
-        << QRect(-900, 100, 50, 20) << QRect(-1000, 0, 1000, 800) << Qt::LeftToRight << QPoint(-900, 126);
-    QTest::newRow("larger than the screen")
-        << QRect(10, 10, 5, 5) << QRect(0, 0, 200, 200) << Qt::LeftToRight << QPoint(0, 0);
-}
-
-void tst_DialogColorPicker::position()
-{
-    QFETCH(QRect, field);
-    QFETCH(QRect, screen);
-    QFETCH(Qt::LayoutDirection, direction);
-    QTEST(dialogPosition(field, QSize(400, 300), screen, direction), "expected");
 }
 
 UIC_TEST_MAIN(tst_DialogColorPicker)
