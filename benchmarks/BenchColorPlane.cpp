@@ -48,9 +48,17 @@ std::shared_ptr<QImage> square(int size)
     return image;
 }
 
+// The image as the widget makes it.
+std::shared_ptr<QImage> planeImage(int size)
+{
+    auto image = std::make_shared<QImage>(HsvPlane::makeImage({size, size}));
+    image->fill(Qt::black);
+    return image;
+}
+
 Side rendering(int size, HsvPlane::Path path)
 {
-    return {[image = square(size), hues = Hues(), path]() mutable {
+    return {[image = planeImage(size), hues = Hues(), path]() mutable {
         HsvPlane::render(*image, hues.next(), path);
     }};
 }
@@ -111,6 +119,11 @@ Pair avx2()
     return againstPlainLoop(size, HsvPlane::Path::Avx2);
 }
 template <int size>
+Pair avx512()
+{
+    return againstPlainLoop(size, HsvPlane::Path::Avx512);
+}
+template <int size>
 Pair baseline()
 {
     return againstPlainLoop(size, HsvPlane::Path::Sse2);
@@ -133,6 +146,10 @@ using HsvPlane::Path;
              avx2<1024>),
     addRowOf(Path::Avx2, "ColorPlane/render 2048 x 2048 with AVX2, against the plain loop", atMost(1.0 / 60),
              avx2<2048>),
+    addRowOf(Path::Avx512, "ColorPlane/render 512 x 512 with AVX-512, against the plain loop", noGoal(),
+             avx512<512>),
+    addRowOf(Path::Avx512, "ColorPlane/render 2048 x 2048 with AVX-512, against the plain loop", noGoal(),
+             avx512<2048>),
     addRowOf(Path::Sse2, "ColorPlane/render 256 x 256 with SSE2, against the plain loop", atMost(1.0 / 20),
              baseline<256>),
     addRowOf(Path::Sse2, "ColorPlane/render 512 x 512 with SSE2, against the plain loop", atMost(1.0 / 20),

@@ -116,7 +116,7 @@ const QImage& ColorPlaneWidget::Private::upToDateImage()
     const bool fits = image.size() == planeSize;
     if (!fits) {
         image = QImage();
-        image = QImage(planeSize, QImage::Format_RGB32);
+        image = HsvPlane::makeImage(planeSize);
     }
     if (!image.isNull() && (!fits || hue != imageHue)) {
         HsvPlane::render(image, hue);

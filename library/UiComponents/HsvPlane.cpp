@@ -1,12 +1,18 @@
 #include "HsvPlane.h"
 
+#include <climits>
 #include <cstdint>
 #include <cstring>
 #include <vector>
 
 #if defined(__x86_64__) && defined(__GNUC__)
 #include <cpuid.h>
+#include <immintrin.h>
 #define HSV_PLANE_X86
+#endif
+#ifdef Q_OS_LINUX
+#include <cstdlib>
+#include <sys/mman.h>
 #endif
 
 // QColor keeps saturation, value, red, green and blue as integers from 0 to 65535, and rgb() gives each
@@ -54,11 +60,21 @@ constexpr Sector sectors[] = {
     {Blue, Red, Green}, {Blue, Green, Red}, {Red, Green, Blue},
 };
 
+// A picture of this size has left the caches before anybody reads it. It is written past them, which spares
+// reading what it replaces, and lies in large pages of memory.
+constexpr qint64 streamedPixels = 2 << 20;
+
+qint64 pixelsOf(const QSize& size)
+{
+    return static_cast<qint64>(size.width()) * size.height();
+}
+
 struct Plane
 {
     double hue;
     int width;
     int height;
+    bool isStreamed;
     Sector sector;
     // The columns' terms of the two channels that have one, the lower position first.
     std::vector<float> low;
@@ -98,7 +114,7 @@ int sixteenBits(double fraction)
 
 Plane planeOf(double hue, int width, int height)
 {
-    Plane plane{hue, width, height, {}, {}, {}, {}};
+    Plane plane{hue, width, height, pixelsOf({width, height}) >= streamedPixels, {}, {}, {}, {}};
     const int steps = qRound(QColor::fromHsvF(hue, 1.0, 1.0).hsvHueF() * (6 * sixth)) % (6 * sixth);
     const int sextant = steps / sixth;
     const int step = steps % sixth;
@@ -158,21 +174,52 @@ void renderPlain(const Plane& plane, int y, QRgb* line)
 
 struct Vectors128
 {
+    static constexpr bool canStream = false;
     static constexpr int lanes = 4;
     using Floats [[gnu::vector_size(16)]] = float;
     using Words [[gnu::vector_size(16)]] = std::uint32_t;
     using Shorts [[gnu::vector_size(16)]] = std::int16_t;
     using Longs [[gnu::vector_size(16)]] = std::uint64_t;
+
+    template <bool isStreamed>
+    [[gnu::always_inline]] static void store(const Words& pixels, QRgb* at)
+    {
+        std::memcpy(at, &pixels, sizeof pixels);
+    }
 };
 
 struct Vectors256
 {
+    static constexpr bool canStream = true;
     static constexpr int lanes = 8;
     using Floats [[gnu::vector_size(32)]] = float;
     using Words [[gnu::vector_size(32)]] = std::uint32_t;
     using Shorts [[gnu::vector_size(32)]] = std::int16_t;
     using Longs [[gnu::vector_size(32)]] = std::uint64_t;
+
+    // To GCC, streaming has no other name than its instruction's here: an intrinsic wants to be in a function
+    // of its own processor.
+    template <bool isStreamed>
+    [[gnu::always_inline]] static void store(const Words& pixels, QRgb* at)
+    {
+        if constexpr (isStreamed) {
+#ifdef __clang__
+            __builtin_nontemporal_store(pixels, reinterpret_cast<Words*>(at));
+#else
+            asm("vmovntdq %1, %0" : "=m"(*reinterpret_cast<Words*>(at)) : "x"(pixels));
+#endif
+        } else {
+            std::memcpy(at, &pixels, sizeof pixels);
+        }
+    }
 };
+
+// How many pixels lie before the first that can start an aligned vector of @p lanes.
+int pixelsToAlignment(const QRgb* line, int lanes)
+{
+    const auto pixel = reinterpret_cast<std::uintptr_t>(line) / sizeof(QRgb);
+    return static_cast<int>(-pixel % static_cast<std::uintptr_t>(lanes));
+}
 
 // The byte of a sum at its position, with the exponent's bits above it and nothing below.
 template <Position at, typename Words>
@@ -190,7 +237,7 @@ template <Position at, typename Words>
 // One vector of pixels. Lowers @p nearest to how far their sums are from a boundary. Everything is inlined
 // into functions that are compiled for one processor each, and hands vectors over by reference only: how they
 // are passed depends on the processor too.
-template <typename Vectors, Position lowAt, Position highAt>
+template <typename Vectors, Position lowAt, Position highAt, bool isStreamed>
 [[gnu::always_inline]] inline void renderVector(const Plane& plane, int x, float row, std::uint32_t rowBits,
                                                 QRgb* line, typename Vectors::Shorts& nearest)
 {
@@ -210,8 +257,7 @@ template <typename Vectors, Position lowAt, Position highAt>
     nearest = both < nearest ? both : nearest;
     moveByte<lowAt>(lowSum);
     moveByte<highAt>(highSum);
-    const Words pixels = lowSum ^ highSum ^ rowBits;
-    std::memcpy(line + x, &pixels, sizeof pixels);
+    Vectors::template store<isStreamed>(lowSum ^ highSum ^ rowBits, line + x);
 }
 
 // Whether a sum is near. The upper half of each word is zero throughout.
@@ -228,7 +274,7 @@ template <typename Vectors>
     return any != 0;
 }
 
-template <typename Vectors, int vectors, Position lowAt, Position highAt>
+template <typename Vectors, int vectors, Position lowAt, Position highAt, bool isStreamed = false>
 [[gnu::always_inline]] inline void renderBlock(const Plane& plane, int x, int y, float row,
                                                std::uint32_t rowBits, QRgb* line)
 {
@@ -236,14 +282,14 @@ template <typename Vectors, int vectors, Position lowAt, Position highAt>
     const auto far = reinterpret_cast<typename Vectors::Shorts>(typename Vectors::Words{} + farBits);
     typename Vectors::Shorts nearest = far;
     for (int i = 0; i < vectors; ++i) {
-        renderVector<Vectors, lowAt, highAt>(plane, x + i * lanes, row, rowBits, line, nearest);
+        renderVector<Vectors, lowAt, highAt, isStreamed>(plane, x + i * lanes, row, rowBits, line, nearest);
     }
     if (__builtin_expect(static_cast<long>(hasNear<Vectors>(nearest)), 0) == 0) {
         return;
     }
     for (int first = x; first < x + vectors * lanes; first += lanes) {
         nearest = far;
-        renderVector<Vectors, lowAt, highAt>(plane, first, row, rowBits, line, nearest);
+        renderVector<Vectors, lowAt, highAt, false>(plane, first, row, rowBits, line, nearest);
         for (int lane = 0; lane < lanes; ++lane) {
             if (nearest[2 * lane] == 0) {
                 line[first + lane] = plane.exact(first + lane, y);
@@ -252,7 +298,7 @@ template <typename Vectors, int vectors, Position lowAt, Position highAt>
     }
 }
 
-template <typename Vectors, Position lowAt, Position highAt>
+template <typename Vectors, Position lowAt, Position highAt, bool isStreamed>
 [[gnu::always_inline]] inline void renderRow(const Plane& plane, int y, QRgb* line)
 {
     constexpr int lanes = Vectors::lanes;
@@ -264,14 +310,28 @@ template <typename Vectors, Position lowAt, Position highAt>
     const auto row = static_cast<float>(plane.values[std::size_t(y)]);
     const std::uint32_t rowBits = plane.rowBits(y) ^ exponentBits << lowAt ^ exponentBits << highAt;
     int x = 0;
+    if constexpr (isStreamed) {
+        renderBlock<Vectors, 1, lowAt, highAt>(plane, x, y, row, rowBits, line);
+        x = pixelsToAlignment(line, lanes);
+    }
     for (; x + vectors * lanes <= plane.width; x += vectors * lanes) {
-        renderBlock<Vectors, vectors, lowAt, highAt>(plane, x, y, row, rowBits, line);
+        renderBlock<Vectors, vectors, lowAt, highAt, isStreamed>(plane, x, y, row, rowBits, line);
     }
     for (; x + lanes <= plane.width; x += lanes) {
-        renderBlock<Vectors, 1, lowAt, highAt>(plane, x, y, row, rowBits, line);
+        renderBlock<Vectors, 1, lowAt, highAt, isStreamed>(plane, x, y, row, rowBits, line);
     }
     if (x < plane.width) {
         renderBlock<Vectors, 1, lowAt, highAt>(plane, plane.width - lanes, y, row, rowBits, line);
+    }
+}
+
+template <typename Vectors, Position lowAt, Position highAt>
+[[gnu::always_inline]] inline void renderRow(const Plane& plane, int y, QRgb* line)
+{
+    if (Vectors::canStream && plane.isStreamed) {
+        renderRow<Vectors, lowAt, highAt, Vectors::canStream>(plane, y, line);
+    } else {
+        renderRow<Vectors, lowAt, highAt, false>(plane, y, line);
     }
 }
 
@@ -301,6 +361,92 @@ void renderSse2(const Plane& plane, int y, QRgb* line)
     renderRow<Vectors256>(plane, y, line);
 }
 
+// AVX-512 once more in its own instructions: its comparisons give masks instead of vectors, and its logic
+// takes three operands, which spares a third of them.
+
+using Words512 [[gnu::vector_size(64)]] = std::uint32_t;
+
+template <Position at>
+[[gnu::always_inline, gnu::target("avx512f")]] inline __m512i withByte(const __m512i& pixels,
+                                                                       const __m512i& sum)
+{
+    constexpr int andThenXor = 0x6A; // (a & b) ^ c
+    const auto words = reinterpret_cast<Words512>(sum);
+    if constexpr (at == Blue) {
+        return _mm512_xor_si512(pixels, reinterpret_cast<__m512i>(words >> fractionBits));
+    } else {
+        const Words512 moved = at == Green ? words >> (fractionBits - 8) : words + words;
+        const __m512i above = _mm512_set1_epi32(at == Green ? ~0xFF : ~0xFFFF);
+        return _mm512_ternarylogic_epi32(reinterpret_cast<__m512i>(moved), above, pixels, andThenXor);
+    }
+}
+
+void correct(const Plane& plane, int x, int y, unsigned near, QRgb* line)
+{
+    for (; near != 0; near &= near - 1) {
+        const int at = x + __builtin_ctz(near);
+        line[at] = plane.exact(at, y);
+    }
+}
+
+template <Position lowAt, Position highAt, bool isStreamed = false>
+[[gnu::always_inline, gnu::target("avx512f")]] inline void
+renderVector512(const Plane& plane, int x, int y, const __m512& row, const __m512i& rowBits, QRgb* line)
+{
+    const __m512 zero = _mm512_set1_ps(origin);
+    const __m512i far = _mm512_set1_epi32(farBits);
+    const __m512i low =
+        _mm512_castps_si512(_mm512_fmadd_ps(_mm512_loadu_ps(plane.low.data() + x), row, zero));
+    const __m512i high =
+        _mm512_castps_si512(_mm512_fmadd_ps(_mm512_loadu_ps(plane.high.data() + x), row, zero));
+    const __m512i pixels = withByte<highAt>(withByte<lowAt>(rowBits, low), high);
+    if constexpr (isStreamed) {
+        _mm512_stream_si512(reinterpret_cast<__m512i*>(line + x), pixels);
+    } else {
+        _mm512_storeu_si512(line + x, pixels);
+    }
+    const __mmask16 near = _mm512_testn_epi32_mask(low, far) | _mm512_testn_epi32_mask(high, far);
+    if (__builtin_expect(static_cast<long>(near), 0) != 0) {
+        correct(plane, x, y, near, line);
+    }
+}
+
+template <Position lowAt, Position highAt>
+[[gnu::target("avx512f")]] void renderRow512(const Plane& plane, int y, QRgb* line)
+{
+    constexpr int lanes = 16;
+    const __m512 row = _mm512_set1_ps(static_cast<float>(plane.values[std::size_t(y)]));
+    const __m512i rowBits = _mm512_set1_epi32(
+        static_cast<int>(plane.rowBits(y) ^ exponentBits << lowAt ^ exponentBits << highAt));
+    int x = 0;
+    if (plane.isStreamed) {
+        renderVector512<lowAt, highAt>(plane, x, y, row, rowBits, line);
+        for (x = pixelsToAlignment(line, lanes); x + lanes <= plane.width; x += lanes) {
+            renderVector512<lowAt, highAt, true>(plane, x, y, row, rowBits, line);
+        }
+    }
+    for (; x + lanes <= plane.width; x += lanes) {
+        renderVector512<lowAt, highAt>(plane, x, y, row, rowBits, line);
+    }
+    if (x < plane.width) {
+        renderVector512<lowAt, highAt>(plane, plane.width - lanes, y, row, rowBits, line);
+    }
+}
+
+void renderAvx512(const Plane& plane, int y, QRgb* line)
+{
+    constexpr int lanes = 16;
+    if (plane.width < lanes) {
+        renderPixels(plane, y, 0, plane.width, line);
+    } else if (plane.sector.value == Red) {
+        renderRow512<Blue, Green>(plane, y, line);
+    } else if (plane.sector.value == Green) {
+        renderRow512<Blue, Red>(plane, y, line);
+    } else {
+        renderRow512<Green, Red>(plane, y, line);
+    }
+}
+
 #endif
 
 using RenderRow = void (*)(const Plane& plane, int y, QRgb* line);
@@ -313,6 +459,8 @@ RenderRow functionOf(HsvPlane::Path path)
         return renderSse2;
     case HsvPlane::Path::Avx2:
         return renderAvx2;
+    case HsvPlane::Path::Avx512:
+        return renderAvx512;
 #endif
     default:
         return renderPlain;
@@ -332,21 +480,22 @@ namespace {
 
 // Not __builtin_cpu_supports(): it asks the processor everything while the library is loaded, which on a
 // virtual machine takes longer than all the rest of loading.
-bool hasAvx2AndFma()
+bool canTake(HsvPlane::Path path)
 {
-    constexpr unsigned vectorStates = 6; // the system keeps both halves of the registers
+    // What the system has to keep of the registers: their lower and upper halves, and for AVX-512 its masks,
+    // the rest of the first sixteen, and the other sixteen.
+    const unsigned states = path == HsvPlane::Path::Avx512 ? 0xE6 : 0x06;
+    const unsigned feature = path == HsvPlane::Path::Avx512 ? bit_AVX512F : bit_AVX2;
     unsigned a = 0;
     unsigned b = 0;
     unsigned c = 0;
     unsigned d = 0;
-    const bool keepsStates = __get_cpuid(1, &a, &b, &c, &d) && (c & bit_OSXSAVE) && (c & bit_FMA);
-    if (!keepsStates) {
+    if (!__get_cpuid(1, &a, &b, &c, &d) || (c & bit_OSXSAVE) == 0 || (c & bit_FMA) == 0) {
         return false;
     }
-    unsigned states = 0;
-    asm("xgetbv" : "=a"(states), "=d"(d) : "c"(0));
-    return (states & vectorStates) == vectorStates && __get_cpuid_count(7, 0, &a, &b, &c, &d) &&
-           (b & bit_AVX2);
+    unsigned kept = 0;
+    asm("xgetbv" : "=a"(kept), "=d"(d) : "c"(0));
+    return (kept & states) == states && __get_cpuid_count(7, 0, &a, &b, &c, &d) && (b & feature) != 0;
 }
 
 } // namespace
@@ -355,7 +504,7 @@ bool hasAvx2AndFma()
 bool HsvPlane::isSupported(Path path)
 {
 #ifdef HSV_PLANE_X86
-    return path != Path::Avx2 || hasAvx2AndFma();
+    return path == Path::Plain || path == Path::Sse2 || canTake(path);
 #else
     return path == Path::Plain;
 #endif
@@ -363,10 +512,32 @@ bool HsvPlane::isSupported(Path path)
 
 HsvPlane::Path HsvPlane::fastestPath()
 {
-    static const Path fastest = isSupported(Path::Avx2)   ? Path::Avx2
+    static const Path fastest = isSupported(Path::Avx512) ? Path::Avx512
+                                : isSupported(Path::Avx2) ? Path::Avx2
                                 : isSupported(Path::Sse2) ? Path::Sse2
                                                           : Path::Plain;
     return fastest;
+}
+
+QImage HsvPlane::makeImage(const QSize& size)
+{
+#ifdef Q_OS_LINUX
+    constexpr std::size_t largePage = 2 << 20;
+    constexpr qint64 mostPixels = INT_MAX / qint64(sizeof(QRgb)); // that QImage takes
+    const qint64 pixels = pixelsOf(size);
+    if (size.isValid() && pixels >= streamedPixels && pixels <= mostPixels) {
+        const std::size_t bytes = std::size_t(pixels) * sizeof(QRgb);
+        const std::size_t whole = (bytes + largePage - 1) / largePage * largePage;
+        if (void* memory = std::aligned_alloc(largePage, whole)) {
+            // It is as good without, so whether the system follows the advice does not matter.
+            madvise(memory, whole, MADV_HUGEPAGE);
+            return {
+                static_cast<uchar*>(memory), size.width(), size.height(), size.width() * int(sizeof(QRgb)),
+                QImage::Format_RGB32,        std::free,    memory};
+        }
+    }
+#endif
+    return {size, QImage::Format_RGB32};
 }
 
 void HsvPlane::render(QImage& image, double hue, Path path)
@@ -376,7 +547,7 @@ void HsvPlane::render(QImage& image, double hue, Path path)
     const int width = image.width();
     const int height = image.height();
     const bool fast = width > 1 && height > 1;
-    const Plane plane = fast ? planeOf(hue, width, height) : Plane{hue, width, height, {}, {}, {}, {}};
+    const Plane plane = fast ? planeOf(hue, width, height) : Plane{hue, width, height, false, {}, {}, {}, {}};
     const RenderRow renderLine = functionOf(path);
     for (int y = 0; y < height; ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
@@ -388,4 +559,10 @@ void HsvPlane::render(QImage& image, double hue, Path path)
             line[x] = plane.exact(x, y);
         }
     }
+#ifdef HSV_PLANE_X86
+    if (plane.isStreamed) {
+        // What was written past the caches is there for other processors from here on.
+        asm volatile("sfence" ::: "memory");
+    }
+#endif
 }

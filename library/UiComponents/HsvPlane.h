@@ -24,9 +24,10 @@ QRgb pixel(double hue, const QSize& size, const QPoint& at);
 
 /// The ways to make the whole picture; all give the same one.
 enum class Path {
-    Plain, ///< on every processor
-    Sse2,  ///< on every x86-64
-    Avx2,  ///< with AVX2 and FMA
+    Plain,  ///< on every processor
+    Sse2,   ///< on every x86-64
+    Avx2,   ///< with AVX2 and FMA
+    Avx512, ///< with AVX-512F
 };
 
 /// Whether this processor can take @p path, and this program was built with it.
@@ -34,6 +35,9 @@ bool isSupported(Path path);
 
 /// The fastest of the supported ones.
 Path fastestPath();
+
+/// An image without content that render() fills the fastest. Null where there is no memory for it.
+QImage makeImage(const QSize& size);
 
 /// Fills @p image, which is of Format_RGB32 or null, with the picture in the image's size. @p path must be
 /// supported.

@@ -38,7 +38,7 @@ QImage rendered(double hue, int width, int height, Path path)
 const std::vector<std::pair<Path, const char*>>& paths()
 {
     static const std::vector<std::pair<Path, const char*>> all{
-        {Path::Plain, "plain"}, {Path::Sse2, "SSE2"}, {Path::Avx2, "AVX2"}};
+        {Path::Plain, "plain"}, {Path::Sse2, "SSE2"}, {Path::Avx2, "AVX2"}, {Path::Avx512, "AVX-512"}};
     return all;
 }
 
@@ -118,6 +118,8 @@ private Q_SLOTS:
     void fullCircleIsRed();
     void writesNothingBesideTheImage_data();
     void writesNothingBesideTheImage();
+    void madeImageIsAsAnyOther_data();
+    void madeImageIsAsAnyOther();
 };
 
 void tst_HsvPlane::supportedPaths()
@@ -128,7 +130,9 @@ void tst_HsvPlane::supportedPaths()
     QVERIFY(HsvPlane::isSupported(Path::Sse2));
     const bool avx2 = __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("fma") != 0;
     QCOMPARE(HsvPlane::isSupported(Path::Avx2), avx2);
-    QVERIFY(HsvPlane::fastestPath() == (avx2 ? Path::Avx2 : Path::Sse2));
+    const bool avx512 = __builtin_cpu_supports("avx512f") != 0 && __builtin_cpu_supports("fma") != 0;
+    QCOMPARE(HsvPlane::isSupported(Path::Avx512), avx512);
+    QVERIFY(HsvPlane::fastestPath() == (avx512 ? Path::Avx512 : avx2 ? Path::Avx2 : Path::Sse2));
 #else
     QVERIFY(HsvPlane::fastestPath() == Path::Plain);
 #endif
@@ -294,16 +298,21 @@ void tst_HsvPlane::fullCircleIsRed()
 void tst_HsvPlane::writesNothingBesideTheImage_data()
 {
     QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
     for (const int width : {2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 32, 33, 63, 65}) {
-        QTest::addRow("%d wide", width) << width;
+        QTest::addRow("%d wide", width) << width << 3;
     }
+    // Large enough to be written past the caches, and rows that start at every alignment.
+    QTest::addRow("streamed") << 1501 << 1400;
+    QTest::addRow("streamed, narrower than a vector") << 7 << 300001;
+    QTest::addRow("streamed, as wide as a vector") << 16 << 131073;
 }
 
 void tst_HsvPlane::writesNothingBesideTheImage()
 {
     QFETCH(int, width);
-    constexpr int height = 3;
-    constexpr int margin = 80;
+    QFETCH(int, height);
+    constexpr int margin = 83;
     constexpr QRgb untouched = 0x01020304;
     for (const auto& [path, name] : paths()) {
         if (!HsvPlane::isSupported(path)) {
@@ -322,6 +331,38 @@ void tst_HsvPlane::writesNothingBesideTheImage()
             }
         }
     }
+}
+
+void tst_HsvPlane::madeImageIsAsAnyOther_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("invalid") << QSize();
+    QTest::newRow("empty") << QSize(0, 5);
+    QTest::newRow("1 x 1") << QSize(1, 1);
+    QTest::newRow("small") << QSize(37, 20);
+    QTest::newRow("streamed") << QSize(1501, 1400);
+    QTest::newRow("more than memory can be addressed") << QSize(INT_MAX, INT_MAX);
+}
+
+void tst_HsvPlane::madeImageIsAsAnyOther()
+{
+    QFETCH(QSize, size);
+    QImage image = HsvPlane::makeImage(size);
+    QCOMPARE(image.isNull(), QImage(size, QImage::Format_RGB32).isNull());
+    if (image.isNull()) {
+        return;
+    }
+    QCOMPARE(image.size(), size);
+    QCOMPARE(image.format(), QImage::Format_RGB32);
+    const uchar* memory = image.constBits();
+    for (const auto& [path, name] : paths()) {
+        if (HsvPlane::isSupported(path)) {
+            HsvPlane::render(image, 0.7, path);
+            QVERIFY2(image == plainPlane(0.7, size.width(), size.height()), name);
+        }
+    }
+    // Rendering into it never copied it.
+    QCOMPARE(image.constBits(), memory);
 }
 
 UIC_TEST_MAIN(tst_HsvPlane)
