@@ -12,6 +12,7 @@
 #include "pages/ComboBoxPage.h"
 #include "pages/CustomSliderPage.h"
 #include "pages/CustomizationPage.h"
+#include "pages/DoubleSliderInputPage.h"
 #include "pages/DoubleSliderPage.h"
 #include "pages/DoubleSpinBoxPage.h"
 #include "pages/FormatFileSizePage.h"
@@ -48,6 +49,7 @@ QVector<PageInfo> PageRegistry::pages()
         BlendingModesPage::info(),
         // inputs
         SliderInputPage::info(),
+        DoubleSliderInputPage::info(),
         SpinBoxPage::info(),
         DoubleSpinBoxPage::info(),
         CustomSliderPage::info(),

@@ -1,35 +1,18 @@
 #include "SliderInputWidget.h"
 
-#include <WidgetToolkit/OvBoxLayout.h>
+#include "SliderFieldParts.h"
+
 #include <WidgetToolkit/OvCustomSlider.h>
 #include <WidgetToolkit/OvSpinBox.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QPointer>
 
-class SliderInputWidget::Private
+class SliderInputWidget::Private : public SliderFieldParts<OvCustomSlider, OvSpinBox>
 {
 public:
-    explicit Private(SliderInputWidget* field);
-
-    SliderInputWidget* const owner;
-    OvCustomSlider* const slider;
-    OvSpinBox* const spinBox;
+    using SliderFieldParts::SliderFieldParts;
 };
-
-SliderInputWidget::Private::Private(SliderInputWidget* field)
-    : owner(field)
-    , slider(new OvCustomSlider(field))
-    , spinBox(new OvSpinBox(field))
-{
-    slider->setObjectName(QStringLiteral("slider"));
-    spinBox->setObjectName(QStringLiteral("spinbox"));
-
-    auto* layout = new OvHBoxLayout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
-}
 
 SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     : OvFrame(parent)
@@ -46,10 +29,6 @@ SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     // show it.
     connect(d->slider, &QAbstractSlider::valueChanged, this, &SliderInputWidget::valueChanged);
     connect(d->spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &SliderInputWidget::valueChanged);
-
-    // A label asks its buddy's own policy whether there is anything to focus.
-    setFocusPolicy(d->slider->focusPolicy());
-    setFocusProxy(d->slider);
 }
 
 SliderInputWidget::~SliderInputWidget() = default;

@@ -3,6 +3,7 @@
 #include "SpinBoxInput.h"
 
 #include <QPointer>
+#include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -47,12 +48,16 @@ void OvDoubleSpinBox::setDecimals(int decimals)
 
 QValidator::State OvDoubleSpinBox::validate(QString& input, int& pos) const
 {
-    if (!m_bothDecimalMarksAccepted) {
-        return QDoubleSpinBox::validate(input, pos);
-    }
-    const QString given = withLocaleMark(input);
+    const QString given = m_bothDecimalMarksAccepted ? withLocaleMark(input) : input;
     QString text = given;
-    const QValidator::State state = QDoubleSpinBox::validate(text, pos);
+    QValidator::State state = QDoubleSpinBox::validate(text, pos);
+    if (state == QValidator::Invalid && maximum() < 0.0 && isNegativeZero(given)) {
+        state = QValidator::Intermediate;
+    }
+    if (!m_bothDecimalMarksAccepted) {
+        input = text;
+        return state;
+    }
     if (text != given) {
         // The base drops blanks, and a mark typed onto a mark. The one that was there stays.
         const auto typed = std::find_if(input.cbegin(), input.cend(), [this](QChar c) { return isMark(c); });
@@ -80,6 +85,21 @@ void OvDoubleSpinBox::fixup(QString& input) const
     // The base removes group separators, which would turn "1,5" into 15.
     if (!m_bothDecimalMarksAccepted || !isDotOrComma(locale().groupSeparator())) {
         QDoubleSpinBox::fixup(input);
+    }
+}
+
+void OvDoubleSpinBox::stepBy(int steps)
+{
+    const double before = value();
+    QSignalBlocker quiet(this);
+    QDoubleSpinBox::stepBy(steps);
+    const double after = value();
+    setValue(before);
+    quiet.unblock();
+    const QPointer<OvDoubleSpinBox> guard(this);
+    setValue(after); // rounds it to the decimals
+    if (guard) {
+        selectAll(); // as the base leaves it
     }
 }
 
@@ -125,4 +145,24 @@ QString OvDoubleSpinBox::withMark(const QString& text, QChar mark) const
 bool OvDoubleSpinBox::isMark(QChar character) const
 {
     return isDotOrComma(character) || character == locale().decimalPoint();
+}
+
+bool OvDoubleSpinBox::isNegativeZero(const QString& text) const
+{
+    int from = text.startsWith(prefix()) ? prefix().size() : 0;
+    const int to = text.endsWith(suffix()) ? text.size() - suffix().size() : text.size();
+    if (from >= to || (text.at(from) != QLatin1Char('-') && text.at(from) != locale().negativeSign())) {
+        return false;
+    }
+    int zerosBehindMark = -1;
+    while (++from < to) {
+        if (zerosBehindMark < 0 && text.at(from) == locale().decimalPoint()) {
+            zerosBehindMark = 0;
+        } else if (text.at(from) != QLatin1Char('0') && text.at(from) != locale().zeroDigit()) {
+            return false;
+        } else if (zerosBehindMark >= 0) {
+            ++zerosBehindMark;
+        }
+    }
+    return zerosBehindMark <= decimals();
 }

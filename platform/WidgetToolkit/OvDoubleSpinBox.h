@@ -10,6 +10,9 @@
  *
  * Wheel, Enter and Escape behave as in OvSpinBox. A listener of any signal that Enter causes may delete
  * the spin box.
+ *
+ * A step, too, leads to a value of exactly the decimals that are shown: six steps of 0.01 are 0.06, where
+ * QDoubleSpinBox adds up to 0.060000000000000005. And a range below 0 takes "-0" as the beginning of -0.5.
  */
 class WIDGETTOOLKIT_EXPORT OvDoubleSpinBox : public QDoubleSpinBox
 {
@@ -40,6 +43,7 @@ public:
     double valueFromText(const QString& text) const override;
     QString textFromValue(double value) const override;
     void fixup(QString& input) const override;
+    void stepBy(int steps) override;
 
 Q_SIGNALS:
     /// setDecimals() has changed decimals(), after the value was rounded to them.
@@ -53,6 +57,7 @@ private:
     QString withLocaleMark(const QString& text) const;
     QString withMark(const QString& text, QChar mark) const;
     bool isMark(QChar character) const;
+    bool isNegativeZero(const QString& text) const;
 
     bool m_bothDecimalMarksAccepted = false;
 };

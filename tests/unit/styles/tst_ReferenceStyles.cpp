@@ -9,6 +9,7 @@
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvComboBox.h>
@@ -258,6 +259,7 @@ QMainWindow* makeEverything()
                                      makeColorButton(body),
                                      new ColorInputWidget(body, QColor()),
                                      new SliderInputWidget(body, {0, 100}),
+                                     new DoubleSliderInputWidget(body, {0.0, 1.0, 2}),
                                      make<QDialogButtonBox>(body),
                                      new QTableWidget(2, 2, body),
                                      makeDialog(body),

@@ -1,3 +1,4 @@
+#include "DecimalNumber.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -26,7 +27,17 @@ private Q_SLOTS:
     void unfinishedTextIsNotMisread();
     void groupSeparators();
     void specialTextPrefixAndSuffixAreLeftAlone();
+    void negativeZeroBeginsANumber_data();
+    void negativeZeroBeginsANumber();
+    void negativeZeroIsRefused_data();
+    void negativeZeroIsRefused();
+    void stepsAreExact_data();
+    void stepsAreExact();
+    void stepsAsTheBaseDoes_data();
+    void stepsAsTheBaseDoes();
+    void stepOfTextThatIsNotReportedYet();
     void deletedByAListenerOfEnter();
+    void deletedByAListenerOfAStep();
 };
 
 namespace {
@@ -312,6 +323,171 @@ void tst_OvDoubleSpinBox::deletedByAListenerOfEnter()
             [target = box.data()] { delete target; });
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(box, &enter);
+    QVERIFY(box.isNull());
+}
+
+void tst_OvDoubleSpinBox::negativeZeroBeginsANumber_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<bool>("bothMarks");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("point") << english() << false << "-0.05";
+    QTest::newRow("comma") << german() << false << "-0,05";
+    QTest::newRow("either, point") << english() << true << "-0.05";
+    QTest::newRow("either, comma") << english() << true << "-0,05";
+    QTest::newRow("more zeros") << english() << false << "-00.05";
+    QTest::newRow("prefix and suffix") << french() << true << "-0,05";
+}
+
+void tst_OvDoubleSpinBox::negativeZeroBeginsANumber()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(bool, bothMarks);
+    QFETCH(QString, text);
+    OvDoubleSpinBox box;
+    box.setLocale(locale);
+    box.setBothDecimalMarksAccepted(bothMarks);
+    box.setRange(-2.0, -0.01);
+    if (qstrcmp(QTest::currentDataTag(), "prefix and suffix") == 0) {
+        box.setPrefix(QStringLiteral("x "));
+        box.setSuffix(QStringLiteral(" m"));
+    }
+    box.setValue(-1.0);
+    box.show();
+    box.selectAll();
+    QTest::keyClicks(&box, text);
+    QCOMPARE(box.cleanText(), text);
+    QCOMPARE(box.value(), -0.05);
+}
+
+void tst_OvDoubleSpinBox::negativeZeroIsRefused_data()
+{
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("more zeros than decimals") << -0.01 << "-0.000"
+                                              << "-0.00";
+    QTest::newRow("positive") << -0.01 << "0.5"
+                              << ".";
+    QTest::newRow("two marks") << -0.01 << "-0..0"
+                               << "-0.0";
+    QTest::newRow("two signs") << -0.01 << "--0"
+                               << "-0";
+}
+
+void tst_OvDoubleSpinBox::negativeZeroIsRefused()
+{
+    QFETCH(double, maximum);
+    QFETCH(QString, text);
+    QFETCH(QString, left);
+    OvDoubleSpinBox box;
+    box.setLocale(english());
+    box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+    box.setRange(-2.0, maximum);
+    box.setValue(-1.0);
+    box.show();
+    box.selectAll();
+    QTest::keyClicks(&box, text);
+    QCOMPARE(lineEdit(box)->text(), left);
+    QCOMPARE(box.value(), -1.0);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.value(), maximum);
+}
+
+void tst_OvDoubleSpinBox::stepsAreExact_data()
+{
+    QTest::addColumn<int>("decimals");
+    for (int decimals = 0; decimals <= 9; ++decimals) {
+        QTest::addRow("%d", decimals) << decimals;
+    }
+}
+
+void tst_OvDoubleSpinBox::stepsAreExact()
+{
+    QFETCH(int, decimals);
+    OvDoubleSpinBox box;
+    box.setDecimals(decimals);
+    box.setSingleStep(decimalNumber(1, decimals));
+    box.setRange(-1000.0, 1000.0);
+    QSignalSpy values(&box, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    for (int i = 1; i <= 300; ++i) {
+        box.stepUp();
+        QCOMPARE(values.size(), 1);
+        QVERIFY(values.takeFirst().front().toDouble() == decimalNumber(i, decimals));
+        QVERIFY(box.value() == decimalNumber(i, decimals));
+    }
+    for (int i = 299; i >= -300; --i) {
+        box.stepDown();
+        QVERIFY(box.value() == decimalNumber(i, decimals));
+    }
+}
+
+void tst_OvDoubleSpinBox::stepsAsTheBaseDoes_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<bool>("wrapping");
+    QTest::addColumn<bool>("adaptive");
+    QTest::newRow("up") << 5.0 << 1 << false << false;
+    QTest::newRow("far down") << 5.0 << -7 << false << false;
+    QTest::newRow("nowhere") << 5.0 << 0 << false << false;
+    QTest::newRow("at the end") << 99.0 << 1 << false << false;
+    QTest::newRow("into the end") << 98.5 << 10 << false << false;
+    QTest::newRow("wrapping") << 99.0 << 1 << true << false;
+    QTest::newRow("nearly wrapping") << 98.5 << 1 << true << false;
+    QTest::newRow("adaptive") << 5.0 << 1 << false << true;
+    QTest::newRow("adaptive, far") << 50.0 << -10 << false << true;
+}
+
+void tst_OvDoubleSpinBox::stepsAsTheBaseDoes()
+{
+    QFETCH(double, value);
+    QFETCH(int, steps);
+    QFETCH(bool, wrapping);
+    QFETCH(bool, adaptive);
+    OvDoubleSpinBox ours;
+    QDoubleSpinBox base;
+    QStringList reports;
+    QStringList expected;
+    const auto prepare = [&](QDoubleSpinBox& box, QStringList* log) {
+        box.setMaximum(99.0);
+        box.setValue(value);
+        box.setWrapping(wrapping);
+        box.setStepType(adaptive ? QAbstractSpinBox::AdaptiveDecimalStepType
+                                 : QAbstractSpinBox::DefaultStepType);
+        box.show();
+        connect(&box, &QDoubleSpinBox::textChanged, this, [log](const QString& text) { *log += text; });
+        connect(&box, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+                [log](double number) { *log += QString::number(number); });
+        box.stepBy(steps);
+    };
+    prepare(ours, &reports);
+    prepare(base, &expected);
+    QCOMPARE(ours.value(), base.value());
+    QCOMPARE(ours.text(), base.text());
+    QCOMPARE(lineEdit(ours)->selectedText(), lineEdit(base)->selectedText());
+    QCOMPARE(reports, expected);
+}
+
+void tst_OvDoubleSpinBox::stepOfTextThatIsNotReportedYet()
+{
+    OvDoubleSpinBox box;
+    box.setKeyboardTracking(false);
+    QSignalSpy values(&box, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    box.selectAll();
+    QTest::keyClicks(&box, QStringLiteral("5"));
+    QCOMPARE(values.size(), 0);
+    box.stepUp();
+    QCOMPARE(values.size(), 1);
+    QCOMPARE(values.front().front().toDouble(), 6.0);
+}
+
+void tst_OvDoubleSpinBox::deletedByAListenerOfAStep()
+{
+    const QPointer<OvDoubleSpinBox> box(new OvDoubleSpinBox);
+    connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            [target = box.data()] { delete target; });
+    box->stepBy(1);
     QVERIFY(box.isNull());
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 class LayoutController;
+class OvDoubleSlider;
 class QAbstractSlider;
+class QDoubleSpinBox;
 class QSpinBox;
 class QString;
 class QVariant;
@@ -15,5 +17,6 @@ void applyProperty(QWidget* widget, const char* name, const QVariant& value);
 LayoutController* installLayoutController(QWidget* widget);
 
 void bindWidgets(QAbstractSlider* slider, QSpinBox* spinBox);
+void bindWidgets(OvDoubleSlider* slider, QDoubleSpinBox* spinBox);
 
 } // namespace Util

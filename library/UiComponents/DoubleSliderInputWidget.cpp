@@ -1,0 +1,57 @@
+#include "DoubleSliderInputWidget.h"
+
+#include "SliderFieldParts.h"
+#include "StepRange.h"
+
+#include <WidgetToolkit/OvDoubleSlider.h>
+#include <WidgetToolkit/OvDoubleSpinBox.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QPointer>
+
+#include <cmath>
+
+class DoubleSliderInputWidget::Private : public SliderFieldParts<OvDoubleSlider, OvDoubleSpinBox>
+{
+public:
+    using SliderFieldParts::SliderFieldParts;
+};
+
+DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initializer& init)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    const double step = StepRange::stepOf(init.decimals);
+    Util::bindWidgets(d->slider, d->spinBox);
+    d->slider->setMultiplier(step);
+    d->slider->setRange(StepRange::nearestStep(init.minimum, init.decimals),
+                        StepRange::nearestStep(init.maximum, init.decimals));
+    d->slider->setOrientation(Qt::Horizontal);
+    d->spinBox->setBothDecimalMarksAccepted(true);
+    d->spinBox->setAlignment(Qt::AlignCenter);
+    d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    d->spinBox->setSingleStep(step);
+    d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+    d->spinBox->setDecimals(init.decimals);
+
+    // Behind the binding, whose slots are then called first: when the host hears of a change, both parts
+    // show it.
+    connect(d->slider, &OvDoubleSlider::doubleValueChanged, this, &DoubleSliderInputWidget::valueChanged);
+    connect(d->spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            &DoubleSliderInputWidget::valueChanged);
+}
+
+DoubleSliderInputWidget::~DoubleSliderInputWidget() = default;
+
+void DoubleSliderInputWidget::setValue(double value)
+{
+    if (std::isnan(value)) {
+        return; // a spin box would take its maximum for it
+    }
+    const QPointer<DoubleSliderInputWidget> guard(this);
+    d->spinBox->setValue(value);
+    if (guard) {
+        // Not the argument, which may have more decimals, and a slot may have set another value since.
+        d->slider->setDoubleValue(d->spinBox->value());
+    }
+}

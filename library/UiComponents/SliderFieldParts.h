@@ -1,0 +1,38 @@
+// Internal: what SliderInputWidget and DoubleSliderInputWidget are made of.
+
+#pragma once
+
+#include <WidgetToolkit/OvBoxLayout.h>
+
+#include <QAbstractSpinBox>
+#include <QSlider>
+
+/**
+ * A slider and a spin box side by side in their owner, with the object names and looks of both fields.
+ */
+template <typename Slider, typename SpinBox>
+class SliderFieldParts
+{
+public:
+    explicit SliderFieldParts(QWidget* field)
+        : owner(field)
+        , slider(new Slider(field))
+        , spinBox(new SpinBox(field))
+    {
+        slider->setObjectName(QStringLiteral("slider"));
+        spinBox->setObjectName(QStringLiteral("spinbox"));
+
+        auto* layout = new OvHBoxLayout(owner);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+        layout->autoFill();
+
+        // A label asks its buddy's own policy whether there is anything to focus.
+        owner->setFocusPolicy(slider->focusPolicy());
+        owner->setFocusProxy(slider);
+    }
+
+    QWidget* const owner;
+    Slider* const slider;
+    SpinBox* const spinBox;
+};
