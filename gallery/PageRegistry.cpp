@@ -32,6 +32,7 @@
 #include "pages/TesselComboBoxPage.h"
 #include "pages/TesselElegantSliderPage.h"
 #include "pages/TesselLineEditPage.h"
+#include "pages/WidgetColorPickerPage.h"
 #include "pages/WorkaroundPage.h"
 
 #include <QCoreApplication>
@@ -47,6 +48,7 @@ QVector<PageInfo> PageRegistry::pages()
         ColorSelectorPage::info(),
         ColorPlanePage::info(),
         BlendingModesPage::info(),
+        WidgetColorPickerPage::info(),
         // inputs
         SliderInputPage::info(),
         DoubleSliderInputPage::info(),

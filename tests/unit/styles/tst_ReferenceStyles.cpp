@@ -11,6 +11,7 @@
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/SliderInputWidget.h>
+#include <UiComponents/WidgetColorPickerButton.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvComboBox.h>
 #include <WidgetToolkit/OvCustomSlider.h>
@@ -189,6 +190,14 @@ ColorPickerButton* makeColorButton(QWidget* parent)
     return button;
 }
 
+WidgetColorPickerButton* makePickingButton(QWidget* parent)
+{
+    auto* button = new WidgetColorPickerButton(parent);
+    button->setColor(QColor(Qt::darkCyan));
+    button->setTargetWidget(parent);
+    return button;
+}
+
 QDialog* makeDialog(QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
@@ -257,6 +266,7 @@ QMainWindow* makeEverything()
                                      make<QSizeGrip>(body),
                                      makeFieldFrame(body),
                                      makeColorButton(body),
+                                     makePickingButton(body),
                                      new ColorInputWidget(body, QColor()),
                                      new SliderInputWidget(body, {0, 100}),
                                      new DoubleSliderInputWidget(body, {0.0, 1.0, 2}),
@@ -704,6 +714,10 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
         row("ColorPickerButton", "pressed", makeColorButton, press);
         row("ColorPickerButton", "focus", makeColorButton, focus);
         row("ColorPickerButton", "disabled", makeColorButton, disable);
+        row("WidgetColorPickerButton", "hover", makePickingButton, hover);
+        row("WidgetColorPickerButton", "pressed", makePickingButton, press);
+        row("WidgetColorPickerButton", "focus", makePickingButton, focus);
+        row("WidgetColorPickerButton", "disabled", makePickingButton, disable);
     }
 }
 
@@ -766,6 +780,7 @@ void tst_ReferenceStyles::focusMovesNothing_data()
     QTest::newRow("OvComboBox") << Maker(makeCombo<OvComboBox>);
     QTest::newRow("ColorBlendingComboBox") << Maker(make<ColorBlendingComboBox>);
     QTest::newRow("ColorPickerButton") << Maker(makeColorButton);
+    QTest::newRow("WidgetColorPickerButton") << Maker(makePickingButton);
 }
 
 // The border grows inwards: what lies inside stays where it is.

@@ -1,0 +1,19 @@
+#pragma once
+
+// Internal: what WidgetColorPicker leaves behind when it keeps a press from its receiver.
+
+#include <QObject>
+
+/// Keeps from all widgets the double click that Qt makes of a press which was kept from them: buttons take
+/// it for a press. Lives until the next press or release, and deletes itself.
+class SwallowedPress : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The application owns it meanwhile.
+    SwallowedPress();
+    ~SwallowedPress() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};

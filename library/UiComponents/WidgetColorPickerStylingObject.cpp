@@ -1,0 +1,3 @@
+#include "WidgetColorPickerStylingObject.h"
+
+WidgetColorPickerStylingObject::~WidgetColorPickerStylingObject() = default;

@@ -1,0 +1,1063 @@
+#include "MetaObject.h"
+#include "PickingStage.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/WidgetColorPicker.h>
+#include <UiComponents/WidgetColorPickerStylingObject.h>
+
+#include <memory>
+
+using Act = std::function<void(PickingStage*)>;
+Q_DECLARE_METATYPE(Act)
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
+namespace {
+
+class Look : public WidgetColorPickerStylingObject
+{
+public:
+    explicit Look(Qt::CursorShape shape)
+        : m_shape(shape)
+    {
+    }
+    QCursor pickingCursor() const override
+    {
+        ++asked;
+        return m_shape;
+    }
+
+    mutable int asked = 0;
+
+private:
+    Qt::CursorShape m_shape;
+};
+
+/// Everything a picker says, in order, with what it answers at that moment.
+class Protocol : public QObject
+{
+public:
+    explicit Protocol(WidgetColorPicker* picker)
+    {
+        connect(picker, &AbstractColorPicker::colorChanged, this, [this](const std::optional<QColor>& color) {
+            lines += QStringLiteral("color ") + color->name(QColor::HexArgb);
+        });
+        connect(picker, &AbstractColorPicker::pickingStopped, this, [this, picker] {
+            lines += QStringLiteral("stopped ") + picker->color()->name(QColor::HexArgb) +
+                     (picker->isInProgress() ? QStringLiteral(" in progress") : QString());
+        });
+    }
+
+    QStringList lines;
+};
+
+QStringList picked(const QColor& color)
+{
+    const QString name = color.name(QColor::HexArgb);
+    return {QStringLiteral("color ") + name, QStringLiteral("stopped ") + name};
+}
+
+QColor colorIn(const QPoint& point)
+{
+    return QColor(PatternWidget::colorAt(point));
+}
+
+const QPoint Spot(37, 21);
+
+} // namespace
+
+class tst_WidgetColorPicker : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void metaObject();
+    void construction();
+    void nullIsNoWidget();
+    void setColorDoesNothing();
+    void stopWhileIdleDoesNothing();
+    void pickWithoutATargetForgetsTheColor();
+
+    void pressOnTheTargetPicks();
+    void pickedPixel_data();
+    void pickedPixel();
+    void everyMouseButtonEndsThePick_data();
+    void everyMouseButtonEndsThePick();
+    void pressOnAConstructorWidgetIsSwallowed();
+    void doubleClickOfASwallowedPressIsSwallowed();
+    void pressOnAnyOtherWidgetReachesIt();
+    void cursorDecidesNotThePress();
+    void keyEndsThePick_data();
+    void keyEndsThePick();
+    void keyElsewherePicksNothing();
+    void otherEventsDoNotEnd_data();
+    void otherEventsDoNotEnd();
+    void idlePickerFiltersNothing();
+
+    void pickWhilePickingForgetsTheColor();
+    void stopPicksWhatIsUnderTheCursor();
+    void stopElsewherePicksNothing();
+    void lastWindowClosedEndsThePick();
+    void quittingEndsThePick();
+
+    void crossWithoutAStylingObject();
+    void cursorOfTheStylingObject();
+    void stylingObjectSetWhilePicking();
+    void stylingObjectDiesWhilePicking();
+    void overrideCursorOfTheHostStays();
+    void outlineIsThereWhilePicking();
+
+    void newTargetWhilePicking();
+    void noTargetWhilePicking();
+    void targetMovedWhilePicking();
+    void targetReparentedWhilePicking();
+    void hiddenTargetHasNoColor();
+    void targetThatDiedIsNull();
+
+    void screenThatShowsNothingGivesNoColor();
+    void noScreenGivesNoColor();
+    void colorIsTakenWhenTheScreenHasSettled();
+    void flickeringTargetIsPickedFromAllTheSame();
+
+    void deletedWhilePicking_data();
+    void deletedWhilePicking();
+    void deletedInASlot_data();
+    void deletedInASlot();
+    void stopInASlot();
+    void pickInASlot();
+    void pickBegunByTheEndOfAnother();
+    void pickBegunWhileTheScreenSettles();
+    void otherPickerBegunByTheEndOfAPick();
+    void pickerDeletedByTheStylingObject();
+
+    void colorButtonPicks();
+    void colorButtonStaysPressedWithoutAColor();
+    void colorButtonGoneWhilePicking_data();
+    void colorButtonGoneWhilePicking();
+
+private:
+    bool pickWith(const std::function<void()>& inside);
+
+    std::unique_ptr<PickingStage> m_stage;
+    QPointer<WidgetColorPicker> m_picker;
+};
+
+void tst_WidgetColorPicker::init()
+{
+    m_stage = std::make_unique<PickingStage>();
+    QVERIFY(m_stage->show());
+    m_picker = new WidgetColorPicker({m_stage->button});
+    m_picker->setTarget(m_stage->target);
+    PickingStage::moveCursor(m_stage->target, Spot);
+}
+
+void tst_WidgetColorPicker::cleanup()
+{
+    delete m_picker;
+    m_stage.reset();
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+bool tst_WidgetColorPicker::pickWith(const std::function<void()>& inside)
+{
+    return runWith([this] { m_picker->pick(); }, inside, [this] { m_picker->stop(); });
+}
+
+void tst_WidgetColorPicker::metaObject()
+{
+    const QMetaObject& meta = WidgetColorPicker::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("WidgetColorPicker"));
+    QCOMPARE(meta.superClass(), &AbstractColorPicker::staticMetaObject);
+    QCOMPARE(ownMethods(meta), QStringList());
+    QCOMPARE(ownProperties(meta), QStringList());
+}
+
+void tst_WidgetColorPicker::construction()
+{
+    WidgetColorPicker picker({});
+    QVERIFY(!picker.parent());
+    QVERIFY(!picker.target());
+    QVERIFY(!picker.isInProgress());
+    QVERIFY(picker.color().has_value());
+    QVERIFY(!picker.color()->isValid());
+}
+
+void tst_WidgetColorPicker::nullIsNoWidget()
+{
+    WidgetColorPicker picker({nullptr, m_stage->button});
+    picker.setTarget(m_stage->target);
+    QVERIFY(runWith([&picker] { picker.pick(); }, [this] { m_stage->pressOn(m_stage->other); },
+                    [&picker] { picker.stop(); }));
+    QVERIFY(m_stage->other->isDown());
+}
+
+void tst_WidgetColorPicker::setColorDoesNothing()
+{
+    const Protocol protocol(m_picker);
+    m_picker->setColor(QColor(Qt::red));
+    m_picker->setColor(std::nullopt);
+    QCOMPARE(m_picker->color(), std::optional<QColor>(QColor()));
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::stopWhileIdleDoesNothing()
+{
+    const Protocol protocol(m_picker);
+    m_stage->target->setCursor(Qt::IBeamCursor);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    m_picker->stop();
+    QVERIFY(QGuiApplication::overrideCursor());
+    QGuiApplication::restoreOverrideCursor();
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::pickWithoutATargetForgetsTheColor()
+{
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QVERIFY(m_picker->color()->isValid());
+    const Protocol protocol(m_picker);
+    m_picker->setTarget(nullptr);
+    m_picker->pick();
+    QVERIFY(!m_picker->color()->isValid());
+    QVERIFY(!m_picker->isInProgress());
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::pressOnTheTargetPicks()
+{
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        QVERIFY(m_picker->isInProgress());
+        m_stage->press();
+        QVERIFY(!m_picker->isInProgress());
+        QVERIFY(!m_picker->color()->isValid());
+        m_stage->release();
+    }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+    QCOMPARE(m_picker->color(), std::optional<QColor>(colorIn(Spot)));
+    QCOMPARE(m_stage->target->presses, 0);
+    QVERIFY(!m_picker->isInProgress());
+
+    // The filter has gone.
+    m_stage->press();
+    m_stage->release();
+    QCOMPARE(m_stage->target->presses, 1);
+}
+
+void tst_WidgetColorPicker::pickedPixel_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<bool>("isInside");
+    // The outline lies over the outer two pixels.
+    QTest::newRow("top left") << QPoint(0, 0) << true;
+    QTest::newRow("under the outline") << QPoint(50, 1) << true;
+    QTest::newRow("beside the outline") << QPoint(2, 2) << true;
+    QTest::newRow("bottom right") << QPoint(99, 79) << true;
+    QTest::newRow("left of it") << QPoint(-1, 40) << false;
+    QTest::newRow("above it") << QPoint(50, -1) << false;
+    QTest::newRow("right of it") << QPoint(100, 40) << false;
+    QTest::newRow("below it") << QPoint(50, 80) << false;
+}
+
+void tst_WidgetColorPicker::pickedPixel()
+{
+    QFETCH(QPoint, point);
+    QFETCH(bool, isInside);
+    const Protocol protocol(m_picker);
+    PickingStage::moveCursor(m_stage->target, point);
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QCOMPARE(protocol.lines, isInside ? picked(colorIn(point)) : QStringList());
+    QCOMPARE(m_picker->color(), std::optional<QColor>(isInside ? colorIn(point) : QColor()));
+}
+
+void tst_WidgetColorPicker::everyMouseButtonEndsThePick_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("left") << Qt::LeftButton;
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+    QTest::newRow("back") << Qt::BackButton;
+}
+
+void tst_WidgetColorPicker::everyMouseButtonEndsThePick()
+{
+    QFETCH(Qt::MouseButton, button);
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this, button] { m_stage->press(button); }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+    QCOMPARE(m_stage->target->presses, 0);
+}
+
+void tst_WidgetColorPicker::pressOnAConstructorWidgetIsSwallowed()
+{
+    const Protocol protocol(m_picker);
+    QSignalSpy pressed(m_stage->button.data(), &QAbstractButton::pressed);
+    QSignalSpy clicked(m_stage->button.data(), &QAbstractButton::clicked);
+    QVERIFY(pickWith([this] {
+        m_stage->pressOn(m_stage->button);
+        QVERIFY(!m_picker->isInProgress());
+        m_stage->release();
+    }));
+    QCOMPARE(pressed.size(), 0);
+    QCOMPARE(clicked.size(), 0);
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+// Buttons take a double click for a press: the button would be clicked after all.
+void tst_WidgetColorPicker::doubleClickOfASwallowedPressIsSwallowed()
+{
+    QSignalSpy clicked(m_stage->button.data(), &QAbstractButton::clicked);
+    QWindow* const window = m_stage->window->windowHandle();
+    const QPoint place = m_stage->button->geometry().center();
+    PickingStage::moveCursor(m_stage->button);
+    QTest::mouseClick(window, Qt::LeftButton, {}, place);
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(pickWith([&] {
+        // The second click of two comes as a press, a double click and a release.
+        QTest::mousePress(window, Qt::LeftButton, {}, place);
+        QMouseEvent doubleClick(QEvent::MouseButtonDblClick, place, window->mapToGlobal(place),
+                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &doubleClick);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, place);
+    }));
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(!m_stage->button->isDown());
+
+    // Only that one.
+    PickingStage::moveCursor(m_stage->target);
+    QMouseEvent doubleClick(QEvent::MouseButtonDblClick, QPoint(50, 50), window->mapToGlobal(QPoint(50, 50)),
+                            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &doubleClick);
+    QCOMPARE(m_stage->target->doubleClicks, 1);
+}
+
+void tst_WidgetColorPicker::pressOnAnyOtherWidgetReachesIt()
+{
+    const Protocol protocol(m_picker);
+    QSignalSpy clicked(m_stage->other.data(), &QAbstractButton::clicked);
+    QVERIFY(pickWith([this] {
+        m_stage->pressOn(m_stage->other);
+        QVERIFY(!m_picker->isInProgress());
+        m_stage->release();
+    }));
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(protocol.lines, QStringList());
+    QCOMPARE(m_picker->color(), std::optional<QColor>(QColor()));
+}
+
+void tst_WidgetColorPicker::cursorDecidesNotThePress()
+{
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        QTest::mousePress(m_stage->window->windowHandle(), Qt::LeftButton, {},
+                          m_stage->other->geometry().center());
+    }));
+    QVERIFY(m_stage->other->isDown());
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::keyEndsThePick_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Escape") << Qt::Key_Escape;
+    QTest::newRow("Space") << Qt::Key_Space;
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Shift") << Qt::Key_Shift;
+    QTest::newRow("A") << Qt::Key_A;
+}
+
+void tst_WidgetColorPicker::keyEndsThePick()
+{
+    QFETCH(Qt::Key, key);
+    const Protocol protocol(m_picker);
+    // Sees what reaches the widget with the focus.
+    class Keys : public QObject
+    {
+    public:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            if (event->type() == QEvent::KeyPress) {
+                seen = static_cast<QKeyEvent*>(event)->key();
+            }
+            return false;
+        }
+        int seen = 0;
+    } keys;
+    m_stage->other->installEventFilter(&keys);
+    QVERIFY(pickWith([this, key] {
+        QTest::keyPress(m_stage->window->windowHandle(), key);
+        QVERIFY(!m_picker->isInProgress());
+    }));
+    QCOMPARE(keys.seen, int(key));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::keyElsewherePicksNothing()
+{
+    const Protocol protocol(m_picker);
+    PickingStage::moveCursor(m_stage->other);
+    QVERIFY(pickWith([this] { QTest::keyPress(m_stage->window->windowHandle(), Qt::Key_Escape); }));
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(!m_picker->color()->isValid());
+}
+
+void tst_WidgetColorPicker::otherEventsDoNotEnd_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::newRow("move") << Act(
+        [](PickingStage* stage) { QTest::mouseMove(stage->window->windowHandle(), QPoint(60, 60)); });
+    QTest::newRow("release") << Act([](PickingStage* stage) { stage->release(); });
+    QTest::newRow("key release") << Act(
+        [](PickingStage* stage) { QTest::keyRelease(stage->window->windowHandle(), Qt::Key_A); });
+    QTest::newRow("wheel") << Act([](PickingStage* stage) {
+        QWheelEvent event(QPointF(50, 50), stage->window->mapToGlobal(QPoint(50, 50)), QPoint(),
+                          QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(stage->window->windowHandle(), &event);
+    });
+    QTest::newRow("focus") << Act([](PickingStage* stage) { stage->button->setFocus(); });
+    QTest::newRow("double click") << Act([](PickingStage* stage) {
+        QMouseEvent event(QEvent::MouseButtonDblClick, QPoint(50, 50), Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(stage->target, &event);
+    });
+    QTest::newRow("hidden target") << Act([](PickingStage* stage) {
+        stage->target->hide();
+        stage->target->show();
+    });
+}
+
+void tst_WidgetColorPicker::otherEventsDoNotEnd()
+{
+    QFETCH(Act, act);
+    QVERIFY(pickWith([this, act] {
+        act(m_stage.get());
+        QCoreApplication::processEvents();
+        QVERIFY(m_picker->isInProgress());
+        m_picker->stop();
+        QVERIFY(!m_picker->isInProgress());
+    }));
+}
+
+void tst_WidgetColorPicker::idlePickerFiltersNothing()
+{
+    QMouseEvent press(QEvent::MouseButtonPress, Spot, m_stage->target->mapToGlobal(Spot), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QVERIFY(!m_picker->eventFilter(m_stage->target, &press));
+    QVERIFY(!m_picker->eventFilter(m_stage->target, &key));
+}
+
+void tst_WidgetColorPicker::pickWhilePickingForgetsTheColor()
+{
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QVERIFY(m_picker->color()->isValid());
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        QVERIFY(!m_picker->color()->isValid());
+        m_picker->pick();
+        QVERIFY(m_picker->isInProgress());
+        QCOMPARE(m_stage->target->findChildren<QWidget*>(QStringLiteral("highlightFrame")).size(), 1);
+        m_stage->press();
+    }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::stopPicksWhatIsUnderTheCursor()
+{
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        m_picker->stop();
+        QVERIFY(!m_picker->isInProgress());
+        m_picker->stop();
+    }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::stopElsewherePicksNothing()
+{
+    const Protocol protocol(m_picker);
+    PickingStage::moveCursor(m_stage->button);
+    QVERIFY(pickWith([this] { m_picker->stop(); }));
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::lastWindowClosedEndsThePick()
+{
+    const Protocol protocol(m_picker);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QTimer::singleShot(0, this, [this] {
+        QVERIFY(pickWith([this] {
+            m_stage->window->close();
+            QVERIFY(!m_picker->isInProgress());
+        }));
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    // Nobody chose what lies where the window was.
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::quittingEndsThePick()
+{
+    const Protocol protocol(m_picker);
+    bool hasReturned = false;
+    QTimer::singleShot(0, this, [this, &hasReturned] {
+        QVERIFY(pickWith([] { QCoreApplication::quit(); }));
+        hasReturned = true;
+    });
+    QCoreApplication::exec();
+    QVERIFY(hasReturned);
+    QVERIFY(!m_picker->isInProgress());
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(!m_stage->outline());
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+    m_stage->press();
+    QCOMPARE(m_stage->target->presses, 1);
+    m_stage->release();
+
+    // It is as good as new.
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::crossWithoutAStylingObject()
+{
+    m_stage->target->setCursor(Qt::IBeamCursor);
+    QVERIFY(pickWith([this] {
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
+        m_picker->stop();
+        // At once, not when pick() returns.
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+    }));
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+void tst_WidgetColorPicker::cursorOfTheStylingObject()
+{
+    const auto look = std::make_unique<Look>(Qt::PointingHandCursor);
+    m_picker->setStylingObject(look.get());
+    QCOMPARE(look->asked, 0);
+    QVERIFY(pickWith([this] {
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
+        m_picker->stop();
+    }));
+    QCOMPARE(look->asked, 1);
+    m_picker->setStylingObject(nullptr);
+    QVERIFY(pickWith([this] {
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
+        m_picker->stop();
+    }));
+    QCOMPARE(look->asked, 1);
+}
+
+void tst_WidgetColorPicker::stylingObjectSetWhilePicking()
+{
+    Look look(Qt::PointingHandCursor);
+    m_stage->target->setCursor(Qt::IBeamCursor);
+    QVERIFY(pickWith([this, &look] {
+        m_picker->setStylingObject(&look);
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
+        m_picker->setStylingObject(nullptr);
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
+        m_picker->stop();
+    }));
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+}
+
+void tst_WidgetColorPicker::stylingObjectDiesWhilePicking()
+{
+    const Protocol protocol(m_picker);
+    auto look = std::make_unique<Look>(Qt::PointingHandCursor);
+    m_picker->setStylingObject(look.get());
+    PatternWidget second(m_stage->window);
+    QVERIFY(pickWith([&] {
+        look.reset();
+        // The new target gets the cursor that the dead object gave.
+        m_picker->setTarget(&second);
+        QCOMPARE(second.cursor().shape(), Qt::PointingHandCursor);
+        m_picker->setTarget(m_stage->target);
+        m_stage->press();
+    }));
+    m_picker->setStylingObject(nullptr);
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::overrideCursorOfTheHostStays()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QVERIFY(pickWith([this] { delete m_stage->target; }));
+    QVERIFY(QGuiApplication::overrideCursor());
+    QGuiApplication::restoreOverrideCursor();
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+void tst_WidgetColorPicker::outlineIsThereWhilePicking()
+{
+    QVERIFY(!m_stage->outline());
+    QVERIFY(pickWith([this] {
+        QVERIFY(m_stage->outline());
+        QVERIFY(m_stage->outline()->isVisible());
+        m_stage->press();
+        QVERIFY(!m_stage->outline());
+    }));
+    QVERIFY(!m_stage->outline());
+}
+
+void tst_WidgetColorPicker::newTargetWhilePicking()
+{
+    const Protocol protocol(m_picker);
+    auto* second = new PatternWidget(m_stage->window);
+    second->setGeometry(180, 0, 50, 50);
+    second->setCursor(Qt::WaitCursor);
+    second->show();
+    QVERIFY(pickWith([&] {
+        m_picker->setTarget(second);
+        QCOMPARE(m_picker->target(), second);
+        QVERIFY(!m_stage->outline());
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+        QVERIFY(second->findChild<QWidget*>(QStringLiteral("highlightFrame")));
+        QCOMPARE(second->cursor().shape(), Qt::CrossCursor);
+        PickingStage::moveCursor(second, QPoint(20, 30));
+        m_stage->press();
+    }));
+    QCOMPARE(second->presses, 0);
+    QCOMPARE(second->cursor().shape(), Qt::WaitCursor);
+    QCOMPARE(protocol.lines, picked(colorIn(QPoint(20, 30))));
+}
+
+void tst_WidgetColorPicker::noTargetWhilePicking()
+{
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        m_picker->setTarget(nullptr);
+        QVERIFY(!m_picker->isInProgress());
+    }));
+    QVERIFY(!m_stage->outline());
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::targetMovedWhilePicking()
+{
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        m_stage->target->move(11, 12);
+        m_stage->press();
+    }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot - QPoint(1, 2))));
+}
+
+void tst_WidgetColorPicker::targetReparentedWhilePicking()
+{
+    const Protocol protocol(m_picker);
+    QWidget second;
+    second.setGeometry(400, 100, 200, 200);
+    second.show();
+    QVERIFY(pickWith([&] {
+        m_stage->target->setParent(&second);
+        m_stage->target->show();
+        QVERIFY(QTest::qWaitForWindowExposed(&second));
+        PickingStage::moveCursor(m_stage->target, Spot);
+        QTest::mousePress(second.windowHandle(), Qt::LeftButton, {}, second.mapFromGlobal(QCursor::pos()));
+    }));
+    QCOMPARE(m_stage->target->presses, 0);
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::hiddenTargetHasNoColor()
+{
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this] {
+        m_stage->target->hide();
+        QVERIFY(m_picker->isInProgress());
+        m_picker->stop();
+    }));
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+void tst_WidgetColorPicker::targetThatDiedIsNull()
+{
+    delete m_stage->target;
+    QVERIFY(!m_picker->target());
+    m_picker->pick();
+    QVERIFY(!m_picker->isInProgress());
+}
+
+void tst_WidgetColorPicker::screenThatShowsNothingGivesNoColor()
+{
+    // A window without a picture of its own, as everything is where the screen cannot be grabbed.
+    QWidget unseen;
+    unseen.setAttribute(Qt::WA_DontShowOnScreen);
+    unseen.setGeometry(500, 400, 100, 100);
+    unseen.show();
+    m_picker->setTarget(&unseen);
+    PickingStage::moveCursor(&unseen);
+    const Protocol protocol(m_picker);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot grab the screen")));
+    QVERIFY(pickWith([this] { m_picker->stop(); }));
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(!m_picker->color()->isValid());
+}
+
+void tst_WidgetColorPicker::noScreenGivesNoColor()
+{
+    m_stage->window->move(-1000, -1000);
+    PickingStage::moveCursor(m_stage->target);
+    const Protocol protocol(m_picker);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no screen at \\(-\\d+, -\\d+\\)")));
+    QVERIFY(pickWith([this] { m_picker->stop(); }));
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(!m_picker->color()->isValid());
+}
+
+// As a compositor does, which shows what was painted a frame or two later.
+void tst_WidgetColorPicker::colorIsTakenWhenTheScreenHasSettled()
+{
+    const Protocol protocol(m_picker);
+    m_stage->target->flat = Qt::red;
+    m_stage->target->repaint();
+    QVERIFY(pickWith([this] {
+        m_picker->stop();
+        QTimer::singleShot(1, this, [this] {
+            m_stage->target->flat = Qt::blue;
+            m_stage->target->repaint();
+        });
+    }));
+    QCOMPARE(protocol.lines, picked(QColor(Qt::blue)));
+}
+
+void tst_WidgetColorPicker::flickeringTargetIsPickedFromAllTheSame()
+{
+    const Protocol protocol(m_picker);
+    QTimer flicker;
+    int shade = 0;
+    connect(&flicker, &QTimer::timeout, this, [&] {
+        shade = (shade + 1) % 256;
+        m_stage->target->flat = QColor(shade, 0, 0);
+        m_stage->target->repaint();
+    });
+    flicker.start(1);
+    QVERIFY(pickWith([this] { m_picker->stop(); }));
+    QCOMPARE(protocol.lines.size(), 2);
+}
+
+namespace {
+
+enum class Victim { Picker, Target, Window, Button, Other };
+enum class Moment { Timer, PressElsewhere, Settling };
+
+} // namespace
+
+void tst_WidgetColorPicker::deletedWhilePicking_data()
+{
+    QTest::addColumn<int>("victim");
+    QTest::addColumn<int>("moment");
+    const QVector<QPair<const char*, Victim>> victims = {{"picker", Victim::Picker},
+                                                         {"target", Victim::Target},
+                                                         {"window", Victim::Window},
+                                                         {"constructor's widget", Victim::Button},
+                                                         {"other widget", Victim::Other}};
+    const QVector<QPair<const char*, Moment>> moments = {
+        {"by a timer", Moment::Timer},
+        {"by the press that ends it", Moment::PressElsewhere},
+        {"while the screen settles", Moment::Settling}};
+    for (const auto& [victimName, victim] : victims) {
+        for (const auto& [momentName, moment] : moments) {
+            QTest::addRow("%s %s", victimName, momentName) << int(victim) << int(moment);
+        }
+    }
+}
+
+void tst_WidgetColorPicker::deletedWhilePicking()
+{
+    QFETCH(int, victim);
+    QFETCH(int, moment);
+    const Protocol protocol(m_picker);
+    const auto destroy = [this, victim] {
+        switch (Victim(victim)) {
+        case Victim::Picker:
+            delete m_picker;
+            break;
+        case Victim::Target:
+            delete m_stage->target;
+            break;
+        case Victim::Window:
+            delete m_stage->window;
+            break;
+        case Victim::Button:
+            delete m_stage->button;
+            break;
+        case Victim::Other:
+            delete m_stage->other;
+            break;
+        }
+    };
+    const bool endsThePick = Victim(victim) != Victim::Button && Victim(victim) != Victim::Other;
+    QVERIFY(pickWith([&] {
+        switch (Moment(moment)) {
+        case Moment::Timer:
+            destroy();
+            QCOMPARE(m_picker && m_picker->isInProgress(), !endsThePick);
+            if (!endsThePick) {
+                m_stage->press();
+            }
+            break;
+        case Moment::PressElsewhere:
+            connect(m_stage->other.data(), &QAbstractButton::pressed, this, destroy, Qt::QueuedConnection);
+            QTest::mousePress(m_stage->window->windowHandle(), Qt::LeftButton, {},
+                              m_stage->other->geometry().center());
+            break;
+        case Moment::Settling:
+            m_stage->press();
+            QTimer::singleShot(10, this, destroy);
+            break;
+        }
+    }));
+    QCOMPARE(protocol.lines, endsThePick ? QStringList() : picked(colorIn(Spot)));
+    QVERIFY(!m_stage->outline());
+    if (m_stage->target) {
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+        // No filter has stayed.
+        if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+            m_stage->release();
+        }
+        const int before = m_stage->target->presses;
+        m_stage->press();
+        QCOMPARE(m_stage->target->presses, before + 1);
+        m_stage->release();
+    }
+}
+
+void tst_WidgetColorPicker::deletedInASlot_data()
+{
+    QTest::addColumn<bool>("isInFirst");
+    QTest::addColumn<bool>("isWindowToo");
+    QTest::newRow("colorChanged") << true << false;
+    QTest::newRow("pickingStopped") << false << false;
+    QTest::newRow("colorChanged, with the window") << true << true;
+    QTest::newRow("pickingStopped, with the window") << false << true;
+}
+
+void tst_WidgetColorPicker::deletedInASlot()
+{
+    QFETCH(bool, isInFirst);
+    QFETCH(bool, isWindowToo);
+    const auto destroy = [this, isWindowToo] {
+        delete m_picker;
+        if (isWindowToo) {
+            delete m_stage->window;
+        }
+    };
+    QSignalSpy stopped(m_picker.data(), &AbstractColorPicker::pickingStopped);
+    if (isInFirst) {
+        connect(m_picker.data(), &AbstractColorPicker::colorChanged, this, destroy);
+    } else {
+        connect(m_picker.data(), &AbstractColorPicker::pickingStopped, this, destroy);
+    }
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QVERIFY(!m_picker);
+    QCOMPARE(stopped.size(), isInFirst ? 0 : 1);
+}
+
+void tst_WidgetColorPicker::stopInASlot()
+{
+    const Protocol protocol(m_picker);
+    connect(m_picker.data(), &AbstractColorPicker::colorChanged, m_picker.data(), &AbstractColorPicker::stop);
+    connect(m_picker.data(), &AbstractColorPicker::pickingStopped, m_picker.data(),
+            &AbstractColorPicker::stop);
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+void tst_WidgetColorPicker::pickInASlot()
+{
+    const QPoint second(60, 40);
+    QStringList colors;
+    connect(m_picker.data(), &AbstractColorPicker::colorChanged, this,
+            [&](const std::optional<QColor>& color) {
+                colors += color->name();
+                if (colors.size() == 1) {
+                    PickingStage::moveCursor(m_stage->target, second);
+                    QVERIFY(pickWith([this] { m_stage->press(); }));
+                }
+            });
+    QSignalSpy stopped(m_picker.data(), &AbstractColorPicker::pickingStopped);
+    QVERIFY(pickWith([this] { m_stage->press(); }));
+    QCOMPARE(colors, QStringList({colorIn(Spot).name(), colorIn(second).name()}));
+    QCOMPARE(stopped.size(), 2);
+    QCOMPARE(m_picker->color(), std::optional<QColor>(colorIn(second)));
+}
+
+// The press outside ends the first pick, and reaches what begins the second: the first one's loop cannot
+// return before the second one has, with the cursor over the target by then.
+void tst_WidgetColorPicker::pickBegunByTheEndOfAnother()
+{
+    const Protocol protocol(m_picker);
+    int begun = 0;
+    connect(m_stage->other.data(), &QAbstractButton::pressed, this, [&] {
+        ++begun;
+        QVERIFY(pickWith([this] {
+            QVERIFY(m_picker->isInProgress());
+            PickingStage::moveCursor(m_stage->target, Spot);
+            m_stage->press();
+        }));
+        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+    });
+    QVERIFY(pickWith([this] { m_stage->pressOn(m_stage->other); }));
+    QCOMPARE(begun, 1);
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+    QVERIFY(!m_stage->outline());
+    QVERIFY(!m_picker->isInProgress());
+}
+
+void tst_WidgetColorPicker::pickBegunWhileTheScreenSettles()
+{
+    const Protocol protocol(m_picker);
+    const QPoint second(60, 40);
+    QVERIFY(pickWith([&] {
+        m_stage->press();
+        QTimer::singleShot(10, this, [&] {
+            QCOMPARE(protocol.lines, QStringList());
+            PickingStage::moveCursor(m_stage->target, second);
+            QVERIFY(pickWith([this] { m_stage->press(); }));
+        });
+    }));
+    QCOMPARE(protocol.lines, picked(colorIn(second)));
+}
+
+void tst_WidgetColorPicker::otherPickerBegunByTheEndOfAPick()
+{
+    const Protocol protocol(m_picker);
+    WidgetColorPicker otherPicker({});
+    otherPicker.setTarget(m_stage->target);
+    const Protocol otherProtocol(&otherPicker);
+    connect(m_stage->other.data(), &QAbstractButton::pressed, this, [&] {
+        QVERIFY(runWith([&] { otherPicker.pick(); },
+                        [this] {
+                            PickingStage::moveCursor(m_stage->target, Spot);
+                            m_stage->press();
+                        },
+                        [&] { otherPicker.stop(); }));
+    });
+    QVERIFY(pickWith([this] { m_stage->pressOn(m_stage->other); }));
+    QCOMPARE(otherProtocol.lines, picked(colorIn(Spot)));
+    QCOMPARE(protocol.lines, QStringList());
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+}
+
+// The host's own code runs before the loop does.
+void tst_WidgetColorPicker::pickerDeletedByTheStylingObject()
+{
+    class Deadly : public WidgetColorPickerStylingObject
+    {
+    public:
+        explicit Deadly(QPointer<WidgetColorPicker>* victim)
+            : m_victim(victim)
+        {
+        }
+        QCursor pickingCursor() const override
+        {
+            delete *m_victim;
+            return {};
+        }
+
+    private:
+        QPointer<WidgetColorPicker>* const m_victim;
+    };
+    Deadly deadly(&m_picker);
+    m_picker->setStylingObject(&deadly);
+    m_picker->pick();
+    QVERIFY(!m_picker);
+    QVERIFY(!m_stage->outline());
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_WidgetColorPicker::colorButtonPicks()
+{
+    ColorPickerButton field(m_stage->window);
+    field.setGeometry(190, 10, 30, 30);
+    field.show();
+    m_picker = new WidgetColorPicker({&field});
+    m_picker->setTarget(m_stage->target);
+    field.setPicker(m_picker);
+    QSignalSpy changed(&field, &ColorPickerButton::colorChanged);
+    QSignalSpy stopped(&field, &ColorPickerButton::pickingStopped);
+    QVERIFY(runWith([&] { field.click(); },
+                    [&] {
+                        QVERIFY(field.isPickingInProgress());
+                        QVERIFY(field.isDown());
+                        m_stage->press();
+                    },
+                    [&] { field.stopPicking(); }));
+    QCOMPARE(field.color(), std::optional<QColor>(colorIn(Spot)));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(stopped.size(), 1);
+    QVERIFY(!field.isDown());
+}
+
+void tst_WidgetColorPicker::colorButtonStaysPressedWithoutAColor()
+{
+    ColorPickerButton field(m_stage->window);
+    field.setGeometry(190, 10, 30, 30);
+    field.show();
+    m_picker = new WidgetColorPicker({&field});
+    m_picker->setTarget(m_stage->target);
+    field.setPicker(m_picker);
+    field.setColor(QColor(Qt::red));
+    QSignalSpy stopped(&field, &ColorPickerButton::pickingStopped);
+    QVERIFY(runWith([&] { field.click(); }, [&] { m_stage->pressOn(&field); }, [&] { field.stopPicking(); }));
+    QCOMPARE(stopped.size(), 0);
+    QVERIFY(field.isDown());
+    QVERIFY(!field.isPickingInProgress());
+    QCOMPARE(field.color(), std::optional<QColor>(QColor(Qt::red)));
+
+    PickingStage::moveCursor(m_stage->target, Spot);
+    QVERIFY(runWith([&] { field.click(); }, [&] { m_stage->press(); }, [&] { field.stopPicking(); }));
+    QVERIFY(!field.isDown());
+}
+
+void tst_WidgetColorPicker::colorButtonGoneWhilePicking_data()
+{
+    QTest::addColumn<int>("how");
+    QTest::newRow("deleted") << 0;
+    QTest::newRow("its picker replaced") << 1;
+    QTest::newRow("hidden") << 2;
+}
+
+void tst_WidgetColorPicker::colorButtonGoneWhilePicking()
+{
+    QFETCH(int, how);
+    const QPointer<ColorPickerButton> field = new ColorPickerButton(m_stage->window);
+    field->show();
+    delete m_picker;
+    m_picker = new WidgetColorPicker({field.data()});
+    m_picker->setTarget(m_stage->target);
+    field->setPicker(m_picker);
+    QSignalSpy changed(field.data(), &ColorPickerButton::colorChanged);
+    QVERIFY(runWith([&] { field->startPicking(); },
+                    [&] {
+                        if (how == 0) {
+                            delete field;
+                        } else if (how == 1) {
+                            field->setPicker(new WidgetColorPicker({}));
+                        } else {
+                            field->hide();
+                        }
+                    },
+                    [&] { m_picker->stop(); }));
+    QCOMPARE(bool(m_picker), how == 2);
+    // Hiding stops it as any other end does.
+    QCOMPARE(changed.size(), how == 2 ? 1 : 0);
+    QVERIFY(!field || !field->isDown());
+    QVERIFY(!m_stage->outline());
+    delete field;
+}
+
+UIC_TEST_MAIN(tst_WidgetColorPicker)
+#include "tst_WidgetColorPicker.moc"
