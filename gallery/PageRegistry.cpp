@@ -6,6 +6,7 @@
 #include "pages/BoxLayoutPage.h"
 #include "pages/ColorHintPage.h"
 #include "pages/ColorInputPage.h"
+#include "pages/ColorPanelPage.h"
 #include "pages/ColorPickerButtonPage.h"
 #include "pages/ColorPlanePage.h"
 #include "pages/ColorSelectorPage.h"
@@ -47,6 +48,7 @@ QVector<PageInfo> PageRegistry::pages()
         ColorInputPage::info(),
         ColorSelectorPage::info(),
         ColorPlanePage::info(),
+        ColorPanelPage::info(),
         BlendingModesPage::info(),
         WidgetColorPickerPage::info(),
         // inputs

@@ -14,6 +14,7 @@ namespace {
 
 constexpr double noHue = -2.0;
 constexpr int fullCircle = 360;
+constexpr QPoint noMarker(-1, -1);
 constexpr int longStep = 10; // pixels
 
 double hueOf(int degrees)
@@ -69,7 +70,7 @@ public:
     double hue = noHue;
     int markerRadius = 8;
     int markerBorderWidth = 2;
-    QPoint markerPos = {-1, -1};
+    QPoint markerPos = noMarker;
     QColor markerColor;
     // The plane is fully described by these and the hue. A hidden widget is told of its new size late, so
     // this is not always the widget's.
@@ -192,6 +193,12 @@ void ColorPlaneWidget::setHue(int degrees)
     if (rect().contains(d->markerPos)) {
         Q_EMIT hsvColorChanged(hsvColor());
     }
+}
+
+void ColorPlaneWidget::removeMarker()
+{
+    d->markerPos = noMarker;
+    update();
 }
 
 int ColorPlaneWidget::renderings() const

@@ -52,6 +52,10 @@ public:
     /// its own colour. Emits hsvColorChanged() if the hue differs and the marker lies inside the widget.
     void setHue(int degrees);
 
+    /// Takes the marker off the plane, to where a new widget has it, until a colour is set or the mouse is
+    /// pressed. Emits nothing.
+    void removeMarker();
+
     /// How many planes were rendered up to now.
     int renderings() const;
 

@@ -100,6 +100,12 @@ void CustomColorSelectWidget::setColor(const QColor& color)
     QTimer::singleShot(0, this, [this] { d->synchronize(); });
 }
 
+void CustomColorSelectWidget::startFrom(const QColor& color)
+{
+    d->colorPlane->removeMarker();
+    setColor(color);
+}
+
 void CustomColorSelectWidget::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {

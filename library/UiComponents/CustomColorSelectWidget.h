@@ -30,6 +30,10 @@ public:
     /// Shows @p color, without its alpha; an invalid one counts as black.
     void setColor(const QColor& color);
 
+    /// As setColor(), but nothing is reported on the way and @p color is what appears: the chooser begins
+    /// anew.
+    void startFrom(const QColor& color);
+
 Q_SIGNALS:
     /// The plane reported @p color, always as RGB; invalid if the marker was outside of the plane.
     void colorChanged(QColor color);

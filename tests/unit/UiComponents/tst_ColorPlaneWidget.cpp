@@ -285,6 +285,7 @@ private Q_SLOTS:
 
     void resizeKeepsTheMarker();
     void markerOutsideAfterShrinking();
+    void removedMarker();
     void hiddenWidgetIsResized();
     void tinyPlanes_data();
     void tinyPlanes();
@@ -766,6 +767,21 @@ void tst_ColorPlaneWidget::markerOutsideAfterShrinking()
     QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
     plane.setHue(90);
     QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 0)});
+}
+
+void tst_ColorPlaneWidget::removedMarker()
+{
+    Plane plane;
+    plane.show();
+    plane.setHsvColor(QColor::fromHsvF(0.25, 0.5, 0.5));
+    QVERIFY(pictureOf(plane) != planeImage(0.25, plane.size()));
+    plane.removeMarker();
+    QVERIFY(!plane.hsvColor().isValid());
+    QCOMPARE(pictureOf(plane), planeImage(0.25, plane.size()));
+    plane.setHue(180);
+    QCOMPARE(plane.reports(), Colors());
+    plane.setHsvColor(QColor::fromHsvF(0.5, 1.0, 1.0));
+    QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
 }
 
 // It learns of its size when it is shown, unless its colour changes before.

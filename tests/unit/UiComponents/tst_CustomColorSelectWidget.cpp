@@ -106,6 +106,7 @@ private Q_SLOTS:
     void firstColorIsSilent();
     void colorOfTheSameHueIsSilent();
     void colorOfAnotherHueIsReported();
+    void startsFromAColorInSilence();
     void setColorTwiceInOneTurn();
     void greyShowsTheRedPlane_data();
     void greyShowsTheRedPlane();
@@ -261,6 +262,21 @@ void tst_CustomColorSelectWidget::colorOfAnotherHueIsReported()
     selector.show(QColor::fromHsv(80, 51, 51));
     QCOMPARE(selector.reports(), Colors());
     QCOMPARE(selector.plane->hsvColor(), selector.at(80, 20, 40));
+}
+
+void tst_CustomColorSelectWidget::startsFromAColorInSilence()
+{
+    Selector selector;
+    selector.show(QColor::fromHsv(200, 255, 255));
+    selector.startFrom(QColor::fromHsv(80, 51, 51));
+    QCOMPARE(selector.slider->value(), 200);
+    QCoreApplication::processEvents();
+    QCOMPARE(selector.reports(), Colors());
+    QCOMPARE(selector.slider->value(), 80);
+    QCOMPARE(selector.plane->hsvColor(), selector.at(80, 20, 40));
+    // From then on it is as after setColor().
+    selector.slider->setValue(120);
+    QCOMPARE(selector.reports(), Colors{selector.at(120, 20, 40)});
 }
 
 void tst_CustomColorSelectWidget::setColorTwiceInOneTurn()

@@ -1,3 +1,4 @@
+#include "RecordingStore.h"
 #include "TestMain.h"
 
 #include <Settings/Settings.h>
@@ -8,42 +9,6 @@
 using Util::appendCustomColor;
 
 namespace {
-
-struct Record
-{
-    QVariant value;
-    int reads = 0;
-    int writes = 0;
-    bool isWritable = true;
-};
-
-/// Keeps a value in a record of the test, which counts.
-class RecordingStore : public SettingsStore
-{
-public:
-    explicit RecordingStore(std::shared_ptr<Record> record)
-        : m_record(std::move(record))
-    {
-    }
-
-    QVariant read(const QString&) const override
-    {
-        ++m_record->reads;
-        return m_record->value;
-    }
-
-    bool write(const QString&, const QVariant& value) override
-    {
-        ++m_record->writes;
-        if (m_record->isWritable) {
-            m_record->value = value;
-        }
-        return m_record->isWritable;
-    }
-
-private:
-    const std::shared_ptr<Record> m_record;
-};
 
 QStringList manyColors(int count)
 {

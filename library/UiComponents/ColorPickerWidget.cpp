@@ -1,0 +1,720 @@
+#include "ColorPickerWidget.h"
+
+#include "ColorFaces.h"
+#include "ColorPalette.h"
+#include "ColorPlaneWidget.h"
+#include "CustomColorSelectWidget.h"
+#include "CustomColors.h"
+#include "SelectorPlacement.h"
+
+#include <DesignElements/TesselLineEdit.h>
+#include <EditorWidgets/ColorHint.h>
+#include <EditorWidgets/Workaround.h>
+#include <Settings/Settings.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvDoubleSlider.h>
+#include <WidgetToolkit/OvGridLayout.h>
+#include <WidgetToolkit/OvSpinBox.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QButtonGroup>
+#include <QDialog>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QHash>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QRegExpValidator>
+#include <QScreen>
+#include <QToolButton>
+#include <QVariant>
+
+namespace {
+
+constexpr int queueLength = 8;
+constexpr int opacitySteps = 100;
+
+// What shows a colour where no sheet says how large it is, in pixels.
+constexpr int bareFaceSize = 16;
+constexpr QSize bareSelectorSize(200, 200);
+
+QColor opaque(const QColor& color)
+{
+    return color.isValid() ? QColor::fromRgb(color.rgb()) : QColor();
+}
+
+/// The buttons by the opaque colour that they show.
+class ColorIndex
+{
+public:
+    void add(const QColor& color, QToolButton* button) { m_buttons.insert(keyOf(color), button); }
+    void remove(const QColor& color, QToolButton* button)
+    {
+        if (find(color) == button) {
+            m_buttons.remove(keyOf(color));
+        }
+    }
+    void clear() { m_buttons.clear(); }
+    QToolButton* find(const QColor& color) const { return m_buttons.value(keyOf(color)); }
+
+private:
+    // No opaque colour is 0.
+    static QRgb keyOf(const QColor& color) { return color.isValid() ? color.rgb() : 0U; }
+
+    QHash<QRgb, QToolButton*> m_buttons;
+};
+
+template <typename Layout>
+Layout* makeLayout(QWidget* owner)
+{
+    auto* layout = new Layout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    return layout;
+}
+
+/// A row for @p title alone, and below it one for @p first and @p second.
+void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* second)
+{
+    grid->addRow({LayoutHelpers::GridItem(title, LayoutHelpers::Alignment::Default),
+                  LayoutHelpers::GridItem(LayoutHelpers::CellModifier::SpanPrevious)},
+                 0);
+    grid->addRow({first, second}, 0);
+}
+
+/// What the chooser is shown in.
+// For everybody else it is a QDialog.
+class SelectorDialog : public QDialog // clazy:exclude=missing-qobject-macro
+{
+public:
+    explicit SelectorDialog(QWidget* parent)
+        : QDialog(parent, Qt::Popup)
+    {
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        // There is no button that QDialog could take it for.
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            accept();
+        } else {
+            QDialog::keyPressEvent(event);
+        }
+    }
+};
+
+} // namespace
+
+class ColorPickerWidget::Private
+{
+public:
+    Private(ColorPickerWidget* panel, bool nullColorAllowed);
+
+    void nameObjects() const;
+    void layOut();
+    void buildPalette(bool nullColorAllowed);
+    void addPaletteButton(int row, int column, const QColor& color);
+    void buildQueue();
+    void configureInputs() const;
+    void orderTabs() const;
+    void setTexts() const;
+    void connectInputs();
+
+    void fillQueue();
+    void reinitializeCustomColors();
+    QToolButton* queueButton(int index) const;
+    void setButtonColor(QToolButton* button, const QColor& color);
+    QToolButton* buttonFor(const QColor& color) const;
+
+    void setColor(const std::optional<QColor>& color);
+    void setSliderToAlpha() const;
+    void takeSliderAlpha();
+    void clearCheckedColorButton() const;
+    void updateColorButtonsCheckState();
+    void updateColorValueWidgets() const;
+    void updateFace() const;
+
+    void onButtonToggled(QAbstractButton* button, bool checked);
+    void onOpacityChanged(double opacity);
+    void onTextEdited(const QString& text);
+    void onCustomColorButtonClicked();
+    void onSelectorReport(const QColor& color);
+    void onDialogFinished();
+
+    void createDialog();
+    void placeDialog() const;
+    void closeDialog() const;
+    bool storeCurrentColor() const;
+
+    template <typename Emission>
+    void announce(Emission emission);
+    void reportColor();
+    void letChildrenOutlive();
+
+    ColorPickerWidget* const owner;
+    OvFrame* const topPanel;
+    OvFrame* const colorMatrixPanel;
+    OvFrame* const otherColorsPanel;
+    OvFrame* const opacityPanel;
+    QLabel* const currentColorDisplayLabel;
+    Orvane::Tessel::TesselLineEdit* const currentColorValueEdit;
+    QToolButton* const pipetteButton;
+    QLabel* const otherColorsTitleLabel;
+    QToolButton* const addCustomColorButton;
+    OvFrame* const otherColorsQueuePanel;
+    QLabel* const opacityTitleLabel;
+    OvDoubleSlider* const opacitySlider;
+    OvSpinBox* const opacitySpinbox;
+    QButtonGroup* const buttons;
+    OvGridLayout* const paletteLayout;
+    OvHBoxLayout* const queueLayout;
+    QToolButton* nullColorButton = nullptr;
+
+    int colorDialogOffset = 0;
+    // What each button shows, and which button is to be checked for a colour. Junk in the settings can give
+    // an own colour the face of a palette colour or of another own one: the own ones go first, later ones
+    // before earlier ones, and the palette keeps its buttons.
+    QHash<const QAbstractButton*, QColor> buttonColors;
+    ColorIndex paletteButtons;
+    ColorIndex queueButtons;
+    QPointer<QDialog> dialog;
+    QPointer<CustomColorSelectWidget> selector;
+    // What the chooser was given or has reported last.
+    std::optional<QColor> selectorColor;
+    std::optional<QColor> currentColor;
+    bool opacityAdjustmentAvailable = true;
+
+    // The handlers of buttons and slider keep still.
+    bool isFollowing = false;
+    int emissions = 0;
+};
+
+ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllowed)
+    : owner(panel)
+    , topPanel(new OvFrame(panel))
+    , colorMatrixPanel(new OvFrame(panel))
+    , otherColorsPanel(new OvFrame(panel))
+    , opacityPanel(new OvFrame(panel))
+    , currentColorDisplayLabel(new QLabel(topPanel))
+    , currentColorValueEdit(new Orvane::Tessel::TesselLineEdit(topPanel))
+    , pipetteButton(new QToolButton(topPanel))
+    , otherColorsTitleLabel(new QLabel(otherColorsPanel))
+    , addCustomColorButton(new QToolButton(otherColorsPanel))
+    , otherColorsQueuePanel(new OvFrame(otherColorsPanel))
+    , opacityTitleLabel(new QLabel(opacityPanel))
+    , opacitySlider(new OvDoubleSlider(opacityPanel))
+    , opacitySpinbox(new OvSpinBox(opacityPanel))
+    , buttons(new QButtonGroup(panel))
+    , paletteLayout(makeLayout<OvGridLayout>(colorMatrixPanel))
+    , queueLayout(makeLayout<OvHBoxLayout>(otherColorsQueuePanel))
+{
+    nameObjects();
+    layOut();
+    buildPalette(nullColorAllowed);
+    buildQueue();
+    fillQueue();
+    configureInputs();
+    orderTabs();
+    setTexts();
+    updateColorValueWidgets();
+    connectInputs();
+}
+
+void ColorPickerWidget::Private::nameObjects() const
+{
+    topPanel->setObjectName(QStringLiteral("topPanel"));
+    colorMatrixPanel->setObjectName(QStringLiteral("colorMatrixPanel"));
+    otherColorsPanel->setObjectName(QStringLiteral("otherColorsPanel"));
+    opacityPanel->setObjectName(QStringLiteral("opacityPanel"));
+    currentColorDisplayLabel->setObjectName(QStringLiteral("currentColorDisplayLabel"));
+    currentColorValueEdit->setObjectName(QStringLiteral("currentColorValueEdit"));
+    pipetteButton->setObjectName(QStringLiteral("pipetteButton"));
+    otherColorsTitleLabel->setObjectName(QStringLiteral("otherColorsTitleLabel"));
+    addCustomColorButton->setObjectName(QStringLiteral("addCustomColorButton"));
+    otherColorsQueuePanel->setObjectName(QStringLiteral("otherColorsQueuePanel"));
+    opacityTitleLabel->setObjectName(QStringLiteral("opacityTitleLabel"));
+    opacitySlider->setObjectName(QStringLiteral("opacitySlider"));
+    opacitySpinbox->setObjectName(QStringLiteral("opacitySpinbox"));
+}
+
+void ColorPickerWidget::Private::layOut()
+{
+    makeLayout<OvVBoxLayout>(owner)->autoFill();
+    makeLayout<OvHBoxLayout>(topPanel)->autoFill();
+    addTitledRow(makeLayout<OvGridLayout>(otherColorsPanel), otherColorsTitleLabel, addCustomColorButton,
+                 otherColorsQueuePanel);
+    addTitledRow(makeLayout<OvGridLayout>(opacityPanel), opacityTitleLabel, opacitySlider, opacitySpinbox);
+}
+
+void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
+{
+    for (int row = 0; row < ColorPalette::RowCount; ++row) {
+        int column = 0;
+        if (nullColorAllowed && row == 0) {
+            // In the places of white and the second grey.
+            addPaletteButton(row, column++, QColor());
+            addPaletteButton(row, column++, ColorPalette::Rows.front().front());
+        }
+        for (; column < ColorPalette::ColumnCount; ++column) {
+            addPaletteButton(
+                row, column,
+                ColorPalette::Rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+        }
+    }
+}
+
+void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QColor& color)
+{
+    QToolButton* const button = ColorFaces::makeButton(colorMatrixPanel);
+    if (!color.isValid()) {
+        button->setProperty("nullColor", true);
+        nullColorButton = button;
+    }
+    buttons->addButton(button);
+    paletteLayout->addWidget(button, row, column);
+    setButtonColor(button, color);
+    paletteButtons.add(color, button);
+}
+
+void ColorPickerWidget::Private::buildQueue()
+{
+    for (int i = 0; i < queueLength; ++i) {
+        QToolButton* const button = ColorFaces::makeButton(otherColorsQueuePanel);
+        button->setEnabled(false);
+        queueLayout->addWidget(button, 0, {});
+        buttons->addButton(button);
+    }
+}
+
+void ColorPickerWidget::Private::configureInputs() const
+{
+    const QRegExp sixDigits(QStringLiteral("^(#?)[a-fA-F0-9]{6}$"), Qt::CaseSensitive);
+    currentColorValueEdit->setValidator(new QRegExpValidator(sixDigits, currentColorValueEdit));
+    currentColorDisplayLabel->setMinimumSize(bareFaceSize, bareFaceSize);
+
+    opacitySlider->setOrientation(Qt::Horizontal);
+    opacitySlider->setRange(0, opacitySteps);
+    opacitySlider->setMultiplier(1.0 / opacitySteps);
+    opacitySlider->setValue(opacitySlider->maximum());
+    opacitySpinbox->setRange(0, opacitySteps);
+    opacitySpinbox->setSuffix(QStringLiteral("%"));
+    opacitySpinbox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    opacitySpinbox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+    Util::bindWidgets(opacitySlider, opacitySpinbox);
+
+    ColorHint::applyColorHint(pipetteButton, LIGHT_GREY_TWO);
+    ColorHint::applyColorHint(opacitySpinbox, INPUT_LIGHT);
+    ColorHint::applyColorHint(currentColorValueEdit, INPUT_LIGHT);
+    ColorHint::applyColorHint(opacitySlider, SLIDER_LIGHT);
+
+    otherColorsTitleLabel->setBuddy(addCustomColorButton);
+    opacityTitleLabel->setBuddy(opacitySlider);
+}
+
+// From top to bottom. By the order of creation the buttons of colours are last.
+void ColorPickerWidget::Private::orderTabs() const
+{
+    QWidget* const lastOfPalette = paletteLayout->itemAt(paletteLayout->count() - 1)->widget();
+    QWidget::setTabOrder(lastOfPalette, addCustomColorButton);
+    QWidget::setTabOrder(queueButton(queueLength - 1), opacitySlider);
+    QWidget::setTabOrder(opacitySlider, opacitySpinbox);
+}
+
+void ColorPickerWidget::Private::setTexts() const
+{
+    otherColorsTitleLabel->setText(tr("Other:"));
+    opacityTitleLabel->setText(tr("Opacity:"));
+    // For those who do not see the buttons, which have pictures or colours alone.
+    currentColorValueEdit->setAccessibleName(tr("Colour value"));
+    pipetteButton->setAccessibleName(tr("Pick a colour from the screen"));
+    addCustomColorButton->setAccessibleName(tr("Choose another colour"));
+    if (nullColorButton) {
+        nullColorButton->setAccessibleName(tr("No colour"));
+    }
+}
+
+void ColorPickerWidget::Private::connectInputs()
+{
+    connect(currentColorValueEdit, &QLineEdit::textEdited, owner,
+            [this](const QString& text) { onTextEdited(text); });
+    connect(pipetteButton, &QAbstractButton::clicked, owner,
+            [this] { announce([this] { Q_EMIT owner->pipetteRequested(); }); });
+    connect(pipetteButton, &QAbstractButton::clicked, owner,
+            [this] { announce([this] { Q_EMIT owner->closeRequested(); }); });
+    connect(buttons, qOverload<QAbstractButton*, bool>(&QButtonGroup::buttonToggled), owner,
+            [this](QAbstractButton* button, bool checked) { onButtonToggled(button, checked); });
+    connect(addCustomColorButton, &QAbstractButton::clicked, owner, [this] { onCustomColorButtonClicked(); });
+    connect(opacitySlider, &OvDoubleSlider::doubleValueChanged, owner,
+            [this](double opacity) { onOpacityChanged(opacity); });
+}
+
+void ColorPickerWidget::Private::fillQueue()
+{
+    const QStringList names = Settings::userCustomColors();
+    for (int i = 0; i < qMin(names.size(), queueLength); ++i) {
+        if (QColor::isValidColor(names.at(i))) {
+            const QColor color = opaque(QColor(names.at(i)));
+            QToolButton* const button = queueButton(i);
+            button->setEnabled(true);
+            setButtonColor(button, color);
+            queueButtons.add(color, button);
+        }
+    }
+}
+
+void ColorPickerWidget::Private::reinitializeCustomColors()
+{
+    queueButtons.clear();
+    fillQueue();
+    updateColorButtonsCheckState();
+}
+
+/// By their order on the screen, which is not that of their creation.
+QToolButton* ColorPickerWidget::Private::queueButton(int index) const
+{
+    return qobject_cast<QToolButton*>(queueLayout->itemAt(index)->widget());
+}
+
+void ColorPickerWidget::Private::setButtonColor(QToolButton* button, const QColor& color)
+{
+    buttonColors.insert(button, color);
+    ColorFaces::paint(button, color);
+    if (color.isValid()) {
+        button->setAccessibleName(color.name());
+    }
+}
+
+QToolButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
+{
+    // Of several that show the colour, the one that the user has chosen stays.
+    auto* const checked = qobject_cast<QToolButton*>(buttons->checkedButton());
+    if (checked && buttonColors.value(checked) == opaque(color)) {
+        return checked;
+    }
+    QToolButton* const own = queueButtons.find(color);
+    return own ? own : paletteButtons.find(color);
+}
+
+void ColorPickerWidget::Private::setColor(const std::optional<QColor>& color)
+{
+    if (color == currentColor) {
+        return;
+    }
+    const QPointer<ColorPickerWidget> guard(owner);
+    currentColor = color;
+    if (opacityAdjustmentAvailable) {
+        setSliderToAlpha();
+    }
+    if (guard) {
+        updateColorButtonsCheckState();
+    }
+}
+
+/// May be reported, and so make somebody delete the panel.
+void ColorPickerWidget::Private::setSliderToAlpha() const
+{
+    if (currentColor && currentColor->isValid()) {
+        opacitySlider->setDoubleValue(currentColor->alphaF());
+    }
+}
+
+void ColorPickerWidget::Private::takeSliderAlpha()
+{
+    // An invalid colour with an alpha would differ from other invalid ones.
+    if (opacityAdjustmentAvailable && currentColor->isValid()) {
+        currentColor->setAlphaF(opacitySlider->doubleValue());
+    }
+}
+
+void ColorPickerWidget::Private::clearCheckedColorButton() const
+{
+    if (QAbstractButton* const checked = buttons->checkedButton()) {
+        buttons->setExclusive(false);
+        checked->setChecked(false);
+        buttons->setExclusive(true);
+    }
+}
+
+void ColorPickerWidget::Private::updateColorButtonsCheckState()
+{
+    if (currentColor) {
+        if (QToolButton* const button = buttonFor(*currentColor)) {
+            button->setChecked(true);
+            return;
+        }
+    }
+    clearCheckedColorButton();
+    updateColorValueWidgets();
+}
+
+void ColorPickerWidget::Private::updateColorValueWidgets() const
+{
+    updateFace();
+    QString text = QStringLiteral("#multiple");
+    if (currentColor) {
+        text = currentColor->isValid() ? currentColor->name() : QStringLiteral("#null");
+    }
+    if (currentColorValueEdit->text() == text) {
+        return;
+    }
+    const bool isSameLength = currentColorValueEdit->text().size() == text.size();
+    const int cursor = currentColorValueEdit->cursorPosition();
+    currentColorValueEdit->setText(text);
+    if (isSameLength) {
+        currentColorValueEdit->setCursorPosition(cursor);
+    }
+}
+
+void ColorPickerWidget::Private::updateFace() const
+{
+    Util::applyProperty(currentColorDisplayLabel, "multiColor", !currentColor.has_value());
+    Util::applyProperty(currentColorDisplayLabel, "nullColor",
+                        currentColor.has_value() && !currentColor->isValid());
+    ColorFaces::paint(currentColorDisplayLabel, currentColor.value_or(QColor()));
+}
+
+void ColorPickerWidget::Private::onButtonToggled(QAbstractButton* button, bool checked)
+{
+    if (!checked || isFollowing) {
+        return;
+    }
+    currentColor = buttonColors.value(button);
+    takeSliderAlpha();
+    updateColorValueWidgets();
+    reportColor();
+}
+
+void ColorPickerWidget::Private::onOpacityChanged(double opacity)
+{
+    Q_UNUSED(opacity)
+    if (!opacityAdjustmentAvailable || !currentColor || isFollowing) {
+        return;
+    }
+    takeSliderAlpha();
+    reportColor();
+}
+
+void ColorPickerWidget::Private::onTextEdited(const QString& text)
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    if (!text.startsWith(QLatin1Char('#'))) {
+        const int cursor = currentColorValueEdit->cursorPosition();
+        currentColorValueEdit->setText(QLatin1Char('#') + text);
+        currentColorValueEdit->setCursorPosition(cursor + 1);
+        return;
+    }
+    if (!currentColorValueEdit->hasAcceptableInput() || !QColor::isValidColor(text)) {
+        return;
+    }
+    currentColor = QColor(text);
+    takeSliderAlpha();
+    if (QToolButton* const button = buttonFor(*currentColor)) {
+        const QPointer<ColorPickerWidget> guard(owner);
+        button->setChecked(true);
+        if (!guard) {
+            return;
+        }
+    } else {
+        clearCheckedColorButton();
+        updateFace();
+    }
+    reportColor();
+}
+
+void ColorPickerWidget::Private::onCustomColorButtonClicked()
+{
+    if (!dialog) {
+        createDialog();
+    }
+    const QColor start = opaque(currentColor.value_or(QColor()));
+    // What the chooser shows of a grey is more than the colour: it knows the hue.
+    if (selectorColor != start) {
+        selectorColor = start;
+        selector->startFrom(start);
+    }
+    placeDialog();
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+    // Some layouts find their size only when they are shown.
+    placeDialog();
+}
+
+void ColorPickerWidget::Private::createDialog()
+{
+    dialog = new SelectorDialog(owner);
+    selector = new CustomColorSelectWidget(dialog);
+    selector->setMinimumSize(bareSelectorSize);
+    makeLayout<OvVBoxLayout>(dialog)->autoFill();
+    dialog->setProperty("roundedEdges", true);
+    Workaround::Ui::apply(dialog);
+    if (auto* const plane = selector->findChild<ColorPlaneWidget*>()) {
+        plane->setFocus();
+    }
+    selectorColor.reset();
+    connect(selector, &CustomColorSelectWidget::colorChanged, owner,
+            [this](const QColor& color) { onSelectorReport(color); });
+    connect(dialog, &QDialog::finished, owner, [this] { onDialogFinished(); });
+}
+
+void ColorPickerWidget::Private::placeDialog() const
+{
+    dialog->adjustSize();
+    const QRect button(addCustomColorButton->mapToGlobal(QPoint()), addCustomColorButton->size());
+    const QScreen* screen = QGuiApplication::screenAt(button.center());
+    if (!screen) {
+        screen = owner->screen();
+    }
+    dialog->move(SelectorPlacement::besideButton(button, dialog->size(), colorDialogOffset,
+                                                 screen ? screen->availableGeometry() : QRect()));
+}
+
+/// As the user would, but in silence: whoever hides the panel may be about to delete it. The button for the
+/// colour is there when the panel is next shown.
+void ColorPickerWidget::Private::closeDialog() const
+{
+    if (dialog && dialog->isVisible()) {
+        dialog->hide();
+        storeCurrentColor();
+    }
+}
+
+bool ColorPickerWidget::Private::storeCurrentColor() const
+{
+    return currentColor && Util::appendCustomColor(currentColor->name());
+}
+
+void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
+{
+    selectorColor = opaque(color);
+    currentColor = color;
+    isFollowing = true;
+    if (opacityAdjustmentAvailable) {
+        setSliderToAlpha();
+    }
+    updateColorButtonsCheckState();
+    updateColorValueWidgets();
+    isFollowing = false;
+    reportColor();
+}
+
+void ColorPickerWidget::Private::onDialogFinished()
+{
+    addCustomColorButton->setFocus(Qt::PopupFocusReason);
+    if (!storeCurrentColor()) {
+        return;
+    }
+    QToolButton* const button = queueButton(queueLength - 1);
+    if (button->isEnabled()) {
+        queueButtons.remove(buttonColors.value(button), button);
+    }
+    queueLayout->removeWidget(button);
+    queueLayout->insertWidget(0, button, 0, {});
+    QWidget::setTabOrder(addCustomColorButton, button);
+    const QColor color = opaque(*currentColor);
+    setButtonColor(button, color);
+    queueButtons.add(color, button);
+    button->setEnabled(true);
+    button->setChecked(true);
+}
+
+/// Makes the emission, during which anybody may delete the panel.
+template <typename Emission>
+void ColorPickerWidget::Private::announce(Emission emission)
+{
+    const QPointer<ColorPickerWidget> guard(owner);
+    ++emissions;
+    emission();
+    if (guard) {
+        --emissions;
+    }
+}
+
+void ColorPickerWidget::Private::reportColor()
+{
+    const QColor color = *currentColor;
+    announce([this, color] { Q_EMIT owner->colorChanged(color); });
+}
+
+/// Keeps what the user has just used alive until its code, which made the panel emit, has returned. Line
+/// edits, buttons and spin boxes of Qt go on using themselves after their signals.
+void ColorPickerWidget::Private::letChildrenOutlive()
+{
+    const auto children = owner->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children) {
+        child->hide();
+        child->setParent(nullptr);
+        child->deleteLater();
+    }
+}
+
+ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this, nullColorAllowed))
+{
+}
+
+ColorPickerWidget::~ColorPickerWidget()
+{
+    if (d->emissions > 0) {
+        d->letChildrenOutlive();
+    }
+}
+
+const std::optional<QColor>& ColorPickerWidget::currentColor() const
+{
+    return d->currentColor;
+}
+
+void ColorPickerWidget::setCurrentColor(const std::optional<QColor>& color)
+{
+    d->setColor(color);
+}
+
+bool ColorPickerWidget::opacityAdjustmentAvailable() const
+{
+    return d->opacityAdjustmentAvailable;
+}
+
+void ColorPickerWidget::setOpacityAdjustmentAvailable(bool available)
+{
+    d->opacityAdjustmentAvailable = available;
+    d->opacityPanel->setVisible(available);
+    if (available) {
+        d->setSliderToAlpha();
+    }
+}
+
+int ColorPickerWidget::GetcolorDialogOffset() const
+{
+    return d->colorDialogOffset;
+}
+
+void ColorPickerWidget::showEvent(QShowEvent* event)
+{
+    const QPointer<ColorPickerWidget> guard(this);
+    d->reinitializeCustomColors();
+    if (guard) {
+        OvFrame::showEvent(event);
+    }
+}
+
+void ColorPickerWidget::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous()) {
+        d->closeDialog();
+    }
+    OvFrame::hideEvent(event);
+}
+
+void ColorPickerWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        d->setTexts();
+    }
+    OvFrame::changeEvent(event);
+}

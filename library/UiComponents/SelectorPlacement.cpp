@@ -1,0 +1,11 @@
+#include "SelectorPlacement.h"
+
+QPoint SelectorPlacement::besideButton(const QRect& button, const QSize& size, int offset, const QRect& area)
+{
+    const QPoint wanted(button.x() + button.width() + offset, button.y() + button.height() - size.height());
+    if (area.isEmpty()) {
+        return wanted;
+    }
+    const QPoint last(area.x() + area.width() - size.width(), area.y() + area.height() - size.height());
+    return {qMax(area.x(), qMin(wanted.x(), last.x())), qMax(area.y(), qMin(wanted.y(), last.y()))};
+}
