@@ -26,6 +26,7 @@
 #include "pages/PropertyProviderPage.h"
 #include "pages/QmlFocusPage.h"
 #include "pages/SchedulerPage.h"
+#include "pages/SearchPage.h"
 #include "pages/SettingsPage.h"
 #include "pages/SliderInputPage.h"
 #include "pages/SpinBoxPage.h"
@@ -63,6 +64,7 @@ QVector<PageInfo> PageRegistry::pages()
         TesselLineEditPage::info(),
         TesselElegantSliderPage::info(),
         TesselComboBoxPage::info(),
+        SearchPage::info(),
         AdjustingListPage::info(),
         // layout and styling
         FramePage::info(),

@@ -7,15 +7,63 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMimeData>
+#include <QStyle>
+
+namespace {
+
+constexpr auto groups = {QPalette::Active, QPalette::Inactive, QPalette::Disabled};
+
+bool differInPlaceholderOnly(QPalette one, const QPalette& other)
+{
+    for (const auto group : groups) {
+        one.setBrush(group, QPalette::PlaceholderText, other.brush(group, QPalette::PlaceholderText));
+    }
+    return one == other;
+}
+
+} // namespace
 
 namespace Orvane::Tessel {
 
 TesselLineEdit::TesselLineEdit(QWidget* parent)
     : QLineEdit(parent)
+    , m_knownPalette(palette())
 {
 }
 
 TesselLineEdit::~TesselLineEdit() = default;
+
+void TesselLineEdit::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        dimPlaceholder();
+    }
+    QLineEdit::changeEvent(event);
+}
+
+void TesselLineEdit::dimPlaceholder()
+{
+    QPalette dimmed = palette();
+    // A sheet writes all roles of a text. Who writes this one alone means it, whatever the colour; among
+    // others this function.
+    const bool isWanted = differInPlaceholderOnly(m_knownPalette, dimmed);
+    m_knownPalette = dimmed;
+    if (isWanted || !style()->inherits("QStyleSheetStyle")) {
+        return;
+    }
+    for (const auto group : groups) {
+        QBrush brush = dimmed.brush(group, QPalette::Text);
+        if (dimmed.brush(group, QPalette::PlaceholderText) == brush) {
+            QColor color = brush.color();
+            color.setAlpha((color.alpha() + 1) / 2);
+            brush.setColor(color);
+            dimmed.setBrush(group, QPalette::PlaceholderText, brush);
+        }
+    }
+    if (dimmed != m_knownPalette) {
+        setPalette(dimmed);
+    }
+}
 
 void TesselLineEdit::contextMenuEvent(QContextMenuEvent* event)
 {

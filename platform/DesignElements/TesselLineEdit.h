@@ -3,6 +3,7 @@
 #include <DesignElements/DesignElementsExport.h>
 
 #include <QLineEdit>
+#include <QPalette>
 
 namespace Orvane::Tessel {
 
@@ -20,6 +21,10 @@ namespace Orvane::Tessel {
  * It opens where the mouse is, or at the text cursor when the keyboard asks for it. It runs no event loop
  * of its own: whoever deletes the edit meanwhile closes it. A context menu policy other than the default
  * works as with any widget.
+ *
+ * A sheet that gives texts a colour gives Qt's placeholder texts the same one, as if they were text. Here
+ * they have half of its opacity, as they do without a sheet. A colour that is set for
+ * QPalette::PlaceholderText alone, after the sheet, stays until the sheet is applied anew.
  */
 class DESIGNELEMENTS_EXPORT TesselLineEdit : public QLineEdit
 {
@@ -31,7 +36,13 @@ public:
     ~TesselLineEdit() override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void dimPlaceholder();
+
+    QPalette m_knownPalette;
 };
 
 } // namespace Orvane::Tessel

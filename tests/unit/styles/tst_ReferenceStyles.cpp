@@ -10,6 +10,7 @@
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -198,6 +199,13 @@ WidgetColorPickerButton* makePickingButton(QWidget* parent)
     return button;
 }
 
+SearchWidget* makeSearch(QWidget* parent)
+{
+    auto* search = new SearchWidget(parent);
+    search->setTranslations(QString(), QString(), QString(), QStringLiteral("Search"));
+    return search;
+}
+
 QDialog* makeDialog(QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
@@ -274,6 +282,7 @@ QMainWindow* makeEverything()
                                      new QTableWidget(2, 2, body),
                                      makeDialog(body),
                                      make<Orvane::Tessel::TesselLineEdit>(body),
+                                     make<SearchWidget>(body),
                                      make<OvPixmapWidget>(body),
                                      makeBubble(body)};
     for (QWidget* widget : plain) {
@@ -706,6 +715,11 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
         row("OvFrame", "error", makeFieldFrame, withHint("error"));
         row("OvFrame", "LIGHT_GREY_ONE", makeFieldFrame, withHint("LIGHT_GREY_ONE"));
         row("OvFrame", "LIGHT_GREY_TWO", makeFieldFrame, withHint("LIGHT_GREY_TWO"));
+        row("SearchWidget", "hover", makeSearch, hover);
+        row("SearchWidget", "disabled", makeSearch, disable);
+        row("SearchWidget", "focusHint", makeSearch, withProperty("focusHint", true));
+        row("SearchWidget", "hovered", makeSearch,
+            [](QWidget* widget) { Util::applyProperty(widget->findChild<QLabel*>(), "hovered", true); });
         row("ColorPickerButton", "nullColor", makeColorButton,
             [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(QColor()); });
         row("ColorPickerButton", "multiColor", makeColorButton,
@@ -744,10 +758,12 @@ void tst_ReferenceStyles::controlsHaveOneHeight()
 {
     QFETCH(QString, style);
     qApp->setStyleSheet(resourceSheet(style));
-    QFont font = QApplication::font();
+    // The application's: under a sheet a widget's own reaches no grandchildren before it is shown.
+    const QFont before = QApplication::font();
+    QFont font = before;
     font.setPixelSize(12);
+    QApplication::setFont(font);
     QWidget window;
-    window.setFont(font);
     const QVector<QWidget*> controls = {makeButton<QPushButton>(&window),
                                         makeButton<QToolButton>(&window),
                                         makeEdit(&window),
@@ -761,14 +777,19 @@ void tst_ReferenceStyles::controlsHaveOneHeight()
                                         make<Orvane::Tessel::TesselLineEdit>(&window),
                                         makeCombo<QComboBox>(&window),
                                         makeColorButton(&window),
-                                        new ColorInputWidget(&window, QColor())};
+                                        new ColorInputWidget(&window, QColor()),
+                                        makeSearch(&window)};
+    QStringList others;
     for (QWidget* control : controls) {
         control->ensurePolished();
-        QVERIFY2(control->sizeHint().height() == 24,
-                 qPrintable(QStringLiteral("%1: %2")
-                                .arg(QString::fromLatin1(control->metaObject()->className()))
-                                .arg(control->sizeHint().height())));
+        if (control->sizeHint().height() != 24) {
+            others += QStringLiteral("%1: %2")
+                          .arg(QString::fromLatin1(control->metaObject()->className()))
+                          .arg(control->sizeHint().height());
+        }
     }
+    QApplication::setFont(before);
+    QCOMPARE(others, QStringList());
 }
 
 void tst_ReferenceStyles::focusMovesNothing_data()

@@ -7,6 +7,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QStyle>
 
 using Orvane::Tessel::TesselLineEdit;
 
@@ -83,6 +84,12 @@ private Q_SLOTS:
     void noContextMenuPolicy();
     void customContextMenuPolicy();
     void sheetReachesTheMenu();
+    void placeholderWithoutASheetIsQts();
+    void placeholderIsHalfOfTheTextUnderASheet();
+    void placeholderFollowsTheSheet();
+    void placeholderThatIsSetIsLeft_data();
+    void placeholderThatIsSetIsLeft();
+    void paletteChangesInNoCircle();
 };
 
 void tst_TesselLineEdit::init()
@@ -345,6 +352,104 @@ void tst_TesselLineEdit::sheetReachesTheMenu()
     edit.setStyleSheet(QStringLiteral("QMenu#tesselContextMenu { qproperty-toolTipsVisible: true; }"));
     edit.show();
     QVERIFY(openMenu(edit)->toolTipsVisible());
+}
+
+void tst_TesselLineEdit::placeholderWithoutASheetIsQts()
+{
+    TesselLineEdit edit;
+    const QLineEdit plain;
+    QCOMPARE(edit.palette(), plain.palette());
+    edit.show();
+    QCOMPARE(edit.palette(), plain.palette());
+    QPalette palette;
+    palette.setColor(QPalette::Text, Qt::red);
+    palette.setColor(QPalette::PlaceholderText, Qt::red);
+    edit.setPalette(palette);
+    QCOMPARE(edit.palette().color(QPalette::PlaceholderText), QColor(Qt::red));
+}
+
+void tst_TesselLineEdit::placeholderIsHalfOfTheTextUnderASheet()
+{
+    TesselLineEdit edit;
+    edit.setStyleSheet(QStringLiteral("QLineEdit { color: #204060; }"
+                                      "QLineEdit:disabled { color: rgba(10, 20, 30, 100); }"));
+    edit.ensurePolished();
+    const auto placeholder = [&edit](QPalette::ColorGroup group) {
+        return edit.palette().color(group, QPalette::PlaceholderText);
+    };
+    QCOMPARE(placeholder(QPalette::Active), QColor(0x20, 0x40, 0x60, 128));
+    QCOMPARE(placeholder(QPalette::Inactive), QColor(0x20, 0x40, 0x60, 128));
+    QCOMPARE(placeholder(QPalette::Disabled), QColor(10, 20, 30, 50));
+    QCOMPARE(edit.palette().color(QPalette::Text), QColor(0x20, 0x40, 0x60));
+}
+
+void tst_TesselLineEdit::placeholderFollowsTheSheet()
+{
+    TesselLineEdit edit;
+    const QPalette before = edit.palette();
+    edit.show();
+    for (const QColor& color : {QColor(Qt::red), QColor(Qt::blue), QColor(Qt::red)}) {
+        edit.setStyleSheet(QStringLiteral("QLineEdit { color: %1; }").arg(color.name()));
+        QColor half = color;
+        half.setAlpha(128);
+        QCOMPARE(edit.palette().color(QPalette::PlaceholderText), half);
+        edit.style()->unpolish(&edit);
+        edit.style()->polish(&edit);
+        QCOMPARE(edit.palette().color(QPalette::PlaceholderText), half);
+    }
+    edit.setStyleSheet(QString());
+    QCOMPARE(edit.palette().color(QPalette::PlaceholderText), before.color(QPalette::PlaceholderText));
+}
+
+void tst_TesselLineEdit::placeholderThatIsSetIsLeft_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("another colour") << QColor(Qt::green);
+    // What a sheet gives it, but from somebody who means it.
+    QTest::newRow("that of the text") << QColor(Qt::red);
+    QTest::newRow("none") << QColor();
+}
+
+void tst_TesselLineEdit::placeholderThatIsSetIsLeft()
+{
+    QFETCH(QColor, color);
+    TesselLineEdit edit;
+    edit.setStyleSheet(QStringLiteral("QLineEdit { color: red; }"));
+    edit.show();
+    QPalette palette = edit.palette();
+    palette.setBrush(QPalette::All, QPalette::PlaceholderText, QBrush(color));
+    edit.setPalette(palette);
+    QCOMPARE(edit.palette().brush(QPalette::PlaceholderText), QBrush(color));
+    edit.setText(QStringLiteral("text"));
+    edit.setEnabled(false);
+    QCOMPARE(edit.palette().brush(QPalette::PlaceholderText), QBrush(color));
+}
+
+void tst_TesselLineEdit::paletteChangesInNoCircle()
+{
+    TesselLineEdit edit;
+    edit.show();
+    int changes = 0;
+    class Filter : public QObject
+    {
+    public:
+        explicit Filter(int* count)
+            : m_count(count)
+        {
+        }
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            *m_count += event->type() == QEvent::PaletteChange ? 1 : 0;
+            return false;
+        }
+
+    private:
+        int* const m_count;
+    } filter(&changes);
+    edit.installEventFilter(&filter);
+    edit.setStyleSheet(QStringLiteral("QLineEdit { color: red; }"));
+    // The sheet's and ours.
+    QCOMPARE(changes, 2);
 }
 
 UIC_TEST_MAIN(tst_TesselLineEdit)

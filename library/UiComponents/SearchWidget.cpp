@@ -1,0 +1,219 @@
+#include "SearchWidget.h"
+
+#include "FieldButton.h"
+
+#include <DesignElements/TesselLineEdit.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QCursor>
+#include <QEvent>
+#include <QLabel>
+#include <QRegExpValidator>
+
+#include <optional>
+
+using Orvane::Tessel::TesselLineEdit;
+
+namespace {
+
+/// To a regular expression the empty text is one that is not finished yet, and a line edit with such a text
+/// does not report the end of an edit. An emptied search is finished.
+class NoLeadingBlank : public QRegExpValidator // clazy:exclude=missing-qobject-macro
+{
+public:
+    explicit NoLeadingBlank(QObject* parent)
+        : QRegExpValidator(QRegExp(QStringLiteral("^\\S.*")), parent)
+    {
+    }
+
+    State validate(QString& input, int& position) const override
+    {
+        return input.isEmpty() ? Acceptable : QRegExpValidator::validate(input, position);
+    }
+};
+
+/// A window takes the keyboard from its widgets when it is destroyed, while they are intact but their
+/// listeners may not be. It has left the focus chain by then.
+bool isDestroyed(const QWidget* window)
+{
+    return !window->nextInFocusChain();
+}
+
+bool hasPlaceholderBrush(const QPalette& palette, const QBrush& brush)
+{
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        if (palette.brush(group, QPalette::PlaceholderText) != brush) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+class SearchWidget::Private
+{
+public:
+    explicit Private(SearchWidget* search);
+
+    void showClearButton(bool isVisible);
+    void reportFinished();
+    void applyPlaceholderBrush() const;
+
+    SearchWidget* const owner;
+    QLabel* const searchIcon;
+    TesselLineEdit* const searchLineEdit;
+    QToolButton* const clearSearchButton;
+    bool isClearButtonShown = false;
+    QString reportedText;
+    // The placeholder's, as it was chosen the last time.
+    std::optional<QBrush> placeholderBrush;
+};
+
+SearchWidget::Private::Private(SearchWidget* search)
+    : owner(search)
+    , searchIcon(new QLabel(search))
+    , searchLineEdit(new TesselLineEdit(search))
+    , clearSearchButton(new FieldButton(search))
+{
+    searchIcon->setObjectName(QStringLiteral("searchIcon"));
+    searchLineEdit->setObjectName(QStringLiteral("searchLineEdit"));
+    clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
+
+    auto* layout = new OvHBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill();
+
+    searchLineEdit->setAttribute(Qt::WA_MouseTracking);
+    clearSearchButton->hide();
+    searchLineEdit->setValidator(new NoLeadingBlank(searchLineEdit));
+}
+
+void SearchWidget::Private::showClearButton(bool isVisible)
+{
+    if (isVisible == isClearButtonShown) {
+        return;
+    }
+    // Hidden with the keyboard, it would pass it on to whatever comes next in the window.
+    if (!isVisible && clearSearchButton->hasFocus()) {
+        searchLineEdit->setFocus(Qt::OtherFocusReason);
+    }
+    clearSearchButton->setVisible(isVisible);
+    isClearButtonShown = isVisible;
+}
+
+void SearchWidget::Private::reportFinished()
+{
+    const QString text = searchLineEdit->text();
+    if (text == reportedText || isDestroyed(owner->window())) {
+        return;
+    }
+    reportedText = text;
+    Q_EMIT owner->editingFinished(text);
+}
+
+void SearchWidget::Private::applyPlaceholderBrush() const
+{
+    if (!placeholderBrush || hasPlaceholderBrush(searchLineEdit->palette(), *placeholderBrush)) {
+        return;
+    }
+    QPalette palette = searchLineEdit->palette();
+    palette.setBrush(QPalette::All, QPalette::PlaceholderText, *placeholderBrush);
+    searchLineEdit->setPalette(palette);
+}
+
+SearchWidget::SearchWidget(QWidget* parent)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    connect(d->searchLineEdit, &QLineEdit::textChanged, this,
+            [this](const QString& text) { d->showClearButton(!text.isEmpty()); });
+    d->searchLineEdit->installEventFilter(this);
+    connect(d->searchLineEdit, &QLineEdit::editingFinished, this, [this] { d->reportFinished(); });
+    connect(d->searchLineEdit, &QLineEdit::textChanged, this, &SearchWidget::textChanged);
+    connect(d->clearSearchButton, &QToolButton::clicked, d->searchLineEdit, &QLineEdit::clear);
+}
+
+SearchWidget::~SearchWidget()
+{
+    // A field that is a window itself takes the keyboard from its line edit further down in destruction.
+    d->searchLineEdit->disconnect(this);
+}
+
+QString SearchWidget::text() const
+{
+    return d->searchLineEdit->text();
+}
+
+void SearchWidget::clear()
+{
+    d->searchLineEdit->clear();
+}
+
+void SearchWidget::setTranslations(const QString& iconTooltip, const QString& lineEditTooltip,
+                                   const QString& clearButtonTooltip, const QString& placeholder)
+{
+    d->searchIcon->setToolTip(iconTooltip);
+    d->searchLineEdit->setToolTip(lineEditTooltip);
+    d->clearSearchButton->setToolTip(clearButtonTooltip);
+    d->searchLineEdit->setPlaceholderText(placeholder);
+}
+
+bool SearchWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == d->searchLineEdit) {
+        switch (event->type()) {
+        case QEvent::FocusIn:
+            Util::applyProperty(this, "focusHint", true);
+            Util::repolishWidget(d->searchIcon);
+            Util::repolishWidget(d->searchLineEdit);
+            break;
+        case QEvent::FocusOut:
+            Util::applyProperty(this, "focusHint", false);
+            break;
+        case QEvent::EnabledChange:
+            updatePalette();
+            break;
+        case QEvent::PaletteChange:
+            // The sheet has just given the placeholder the colour of the text.
+            d->applyPlaceholderBrush();
+            break;
+        default:
+            break;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void SearchWidget::enterEvent(QEvent* event)
+{
+    updatePalette();
+    QWidget::enterEvent(event);
+}
+
+void SearchWidget::leaveEvent(QEvent* event)
+{
+    updatePalette();
+    QWidget::leaveEvent(event);
+}
+
+void SearchWidget::showEvent(QShowEvent* event)
+{
+    updatePalette();
+    QWidget::showEvent(event);
+}
+
+void SearchWidget::updatePalette()
+{
+    const bool isHovered = rect().contains(mapFromGlobal(QCursor::pos()));
+    Util::applyProperty(d->searchIcon, "hovered", isHovered);
+
+    QColor color = m_placeholderDisabledColor;
+    if (d->searchLineEdit->isEnabled()) {
+        color = isHovered ? m_placeholderHoverColor : m_placeholderColor;
+    }
+    d->placeholderBrush = QBrush(color);
+    d->applyPlaceholderBrush();
+}
