@@ -9,18 +9,12 @@ include(CMakePackageConfigHelpers)
 set(UIC_PACKAGE_ROOT "${CMAKE_INSTALL_LIBDIR}/cmake")
 set(UIC_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 
-# uic_linked(<out> <prefix> <library...>): the names behind "<prefix>::" that the libraries link,
-# publicly or privately. A consumer's linker follows both.
-function(uic_linked out prefix)
+# uic_linked(<out> <PUBLIC|PRIVATE> <library...>): the targets that the libraries link in this way.
+function(uic_linked out how)
     set(found)
     foreach(library IN LISTS ARGN)
-        get_target_property(public ${library} UIC_LINK_PUBLIC)
-        get_target_property(private ${library} UIC_LINK_PRIVATE)
-        foreach(link IN LISTS public private)
-            if(link MATCHES "^${prefix}::(.+)$")
-                list(APPEND found ${CMAKE_MATCH_1})
-            endif()
-        endforeach()
+        get_target_property(links ${library} UIC_LINK_${how})
+        list(APPEND found ${links})
     endforeach()
     list(REMOVE_DUPLICATES found)
     list(SORT found)
@@ -31,11 +25,25 @@ endfunction()
 function(uic_package name)
     cmake_parse_arguments(arg "" "DESCRIPTION" "LIBRARIES;REQUIRES" ${ARGN})
     set(destination "${UIC_PACKAGE_ROOT}/${name}")
-    uic_linked(UIC_QT_COMPONENTS Qt5 ${arg_LIBRARIES})
-    uic_linked(UIC_PLATFORM_TARGETS Platform ${arg_LIBRARIES})
-    list(TRANSFORM UIC_PLATFORM_TARGETS PREPEND "Platform::")
-    list(JOIN UIC_QT_COMPONENTS " " UIC_QT_COMPONENTS)
-    list(JOIN UIC_PLATFORM_TARGETS " " UIC_PLATFORM_TARGETS)
+    uic_linked(public PUBLIC ${arg_LIBRARIES})
+    uic_linked(private PRIVATE ${arg_LIBRARIES})
+    list(REMOVE_ITEM private ${public})
+
+    # The packages of the targets: "Qt5::Quick" is in Qt5Quick, "glog::glog" in glog.
+    set(qt ${public})
+    list(FILTER qt INCLUDE REGEX "^Qt5::")
+    list(TRANSFORM qt REPLACE "^Qt5::" "")
+    set(linked ${private})
+    list(FILTER linked EXCLUDE REGEX "^Platform::")
+    list(TRANSFORM linked REPLACE "^Qt5::" "Qt5")
+    list(TRANSFORM linked REPLACE "::.*$" "")
+    # A consumer's linker follows both kinds.
+    set(platform ${public} ${private})
+    list(FILTER platform INCLUDE REGEX "^Platform::")
+    list(SORT platform)
+    list(JOIN qt " " UIC_QT_COMPONENTS)
+    list(JOIN linked " " UIC_LINKED_PACKAGES)
+    list(JOIN platform " " UIC_PLATFORM_TARGETS)
 
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${name}Config.cmake.in"
         "${PROJECT_BINARY_DIR}/package/${name}Config.cmake"

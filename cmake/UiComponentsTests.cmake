@@ -62,7 +62,8 @@ endfunction()
 
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
 file(CHMOD "${CMAKE_BINARY_DIR}/runtime" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
-set(UIC_UNIT_ENVIRONMENT QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANGUAGE=
+# The off-screen platform has no OpenGL.
+set(UIC_UNIT_ENVIRONMENT QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software LC_ALL=C.UTF-8 LANGUAGE=
     XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}/runtime)
 if(UICOMPONENTS_SANITIZE)
     list(APPEND UIC_UNIT_ENVIRONMENT
@@ -73,6 +74,6 @@ endif()
 # An X server answers late: Qt's platform plugin logs the answers about windows that are gone by then.
 set(UIC_DESKTOP_ENVIRONMENT ${UIC_UNIT_ENVIRONMENT} QT_LOGGING_RULES=qt.qpa.xcb.warning=false
     "UIC_SCREENSHOTS=${PROJECT_BINARY_DIR}/screenshots")
-list(FILTER UIC_DESKTOP_ENVIRONMENT EXCLUDE REGEX "^(QT_QPA_PLATFORM|XDG_RUNTIME_DIR)=")
+list(FILTER UIC_DESKTOP_ENVIRONMENT EXCLUDE REGEX "^(QT_QPA_PLATFORM|QT_QUICK_BACKEND|XDG_RUNTIME_DIR)=")
 # The platform plugin for X leaks a little when it is unloaded. The unit tests look for leaks of ours.
 list(TRANSFORM UIC_DESKTOP_ENVIRONMENT REPLACE "^ASAN_OPTIONS=" "ASAN_OPTIONS=detect_leaks=0:")

@@ -8,18 +8,20 @@ uic_packages()
     for purpose in "$@"; do
         case $purpose in
             build)
-                echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools ;;
+                echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
+                echo qtdeclarative5-dev libgoogle-glog-dev ;;
             run | unit | gallery)
-                echo fonts-dejavu-core ;;
+                echo fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
             wayland)
                 echo qtwayland5 ;;
             desktop)
                 echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils \
-                    xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils ;;
+                    xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils \
+                    libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
             package)
                 echo fonts-dejavu-core pkg-config ;;
             benchmarks)
-                echo fonts-dejavu-core libbenchmark-dev python3 ;;
+                echo fonts-dejavu-core libbenchmark-dev python3 qml-module-qtquick2 ;;
             headers) ;;
             conventions)
                 echo fonts-dejavu-core python3 clang-format ;;

@@ -24,6 +24,7 @@
 #include "pages/PointingPage.h"
 #include "pages/PrivacyAccessPage.h"
 #include "pages/PropertyProviderPage.h"
+#include "pages/QmlDialogPage.h"
 #include "pages/QmlFocusPage.h"
 #include "pages/SchedulerPage.h"
 #include "pages/SearchPage.h"
@@ -74,6 +75,7 @@ QVector<PageInfo> PageRegistry::pages()
         PropertyProviderPage::info(),
         // bubbles and frames
         PointingPage::info(),
+        QmlDialogPage::info(),
         WorkaroundPage::info(),
         HighlightFramePage::info(),
         PixmapWidgetPage::info(),

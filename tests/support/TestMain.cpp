@@ -24,6 +24,10 @@ TestEnvironment::TestEnvironment()
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.filePath(QStringLiteral("config"))));
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.filePath(QStringLiteral("data"))));
     qputenv("XDG_CACHE_HOME", QFile::encodeName(m_home.filePath(QStringLiteral("cache"))));
+    if (qEnvironmentVariable("QT_QPA_PLATFORM") == QLatin1String("offscreen")) {
+        // The platform has no OpenGL, and Qt ends a program that shows a QML scene there.
+        qputenv("QT_QUICK_BACKEND", "software");
+    }
 }
 
 void TestEnvironment::prepareApplication()

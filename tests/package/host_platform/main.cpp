@@ -1,12 +1,15 @@
 // Ends with 0 when the library uses the studio's own look and settings.
 
+#include <FileSystem/FS.h>
 #include <Settings/Settings.h>
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/CustomColors.h>
+#include <UiComponents/QuickDialog.h>
 #include <UiComponents/SliderInputWidget.h>
 
 #include <QApplication>
 #include <QSpinBox>
+#include <QVariant>
 
 int main(int argc, char** argv)
 {
@@ -25,6 +28,16 @@ int main(int argc, char** argv)
     field.setValue(7);
     if (field.findChild<QSpinBox*>()->value() != 7) {
         qCritical("the number is not in the studio's spin box");
+        return 1;
+    }
+    Qml::QuickDialog dialog;
+    dialog.setQmlPath(QStringLiteral("/no such scene"));
+    if (dialog.exec() != 0 || FS::lastAsked() != QLatin1String("/no such scene")) {
+        qCritical("the scene is not looked for with the studio's eyes");
+        return 1;
+    }
+    if (!dialog.property("studioKeepsFocus").toBool()) {
+        qCritical("the keyboard is not kept by the studio");
         return 1;
     }
     return 0;

@@ -1,0 +1,196 @@
+#include "QuickContent.h"
+
+#include <FileSystem/FS.h>
+
+#include <QGuiApplication>
+#include <QQmlAbstractUrlInterceptor>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWidget>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <glog/logging.h>
+
+namespace {
+
+bool isLocal(const QUrl& url)
+{
+    return url.isLocalFile() || url.scheme() == QLatin1String("qrc");
+}
+
+// Keeps code of other machines out of the scene. Called from the engine's loading thread too.
+class LocalCodeOnly : public QQmlAbstractUrlInterceptor
+{
+public:
+    QUrl intercept(const QUrl& url, DataType type) override
+    {
+        if (type == UrlString || url.isEmpty() || isLocal(url)) {
+            return url;
+        }
+        LOG(WARNING) << "Refused to load as qml: " << url.toString().toStdString();
+        return {};
+    }
+};
+
+// Owns a widget that may be deleted by its parent instead.
+template <typename Widget>
+class OwnedWidget
+{
+public:
+    OwnedWidget()
+        : m_widget(new Widget)
+    {
+    }
+    ~OwnedWidget() { delete m_widget.data(); }
+    OwnedWidget(const OwnedWidget&) = delete;
+    OwnedWidget& operator=(const OwnedWidget&) = delete;
+
+    Widget* get() const { return m_widget; }
+    Widget* operator->() const { return m_widget; }
+    explicit operator bool() const { return m_widget; }
+
+private:
+    const QPointer<Widget> m_widget;
+};
+
+QSize containerSize(const QSizeF& size)
+{
+    // As a minimum, the largest size of all means none.
+    const QSizeF largest(QWIDGETSIZE_MAX - 1, QWIDGETSIZE_MAX - 1);
+    return size.boundedTo(largest).toSize();
+}
+
+// The view refuses a window as its root, but leaves it on the screen.
+void deleteStrayWindows(const QQuickWidget* view)
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow* window : windows) {
+        if (window != view->quickWindow() && qmlEngine(window) == view->engine()) {
+            delete window;
+        }
+    }
+}
+
+} // namespace
+
+class Qml::QuickContent::Private
+{
+public:
+    enum State { Undefined = 0, Failed = 1, Available = 2 };
+
+    Private();
+
+    void fitContainer(const QSizeF& size) const;
+
+    // In this order: the engine, which the view owns, uses the interceptor to the end, and the view must
+    // be gone when the container would delete it as its child.
+    LocalCodeOnly interceptor;
+    const OwnedWidget<QWidget> container;
+    const OwnedWidget<QQuickWidget> view;
+    int state = Undefined;
+};
+
+Qml::QuickContent::Private::Private()
+{
+    view->engine()->setUrlInterceptor(&interceptor);
+    view->setAttribute(Qt::WA_AlwaysStackOnTop);
+    view->setClearColor(Qt::transparent);
+
+    auto* layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view.get());
+    container->setLayout(layout);
+    // A sheet for all widgets must not colour what shows through the scene.
+    container->setAttribute(Qt::WA_NoSystemBackground);
+}
+
+void Qml::QuickContent::Private::fitContainer(const QSizeF& size) const
+{
+    if (container) {
+        container->setFixedSize(containerSize(size));
+    }
+}
+
+Qml::QuickContent::QuickContent()
+    : d(std::make_unique<Private>())
+{
+}
+
+Qml::QuickContent::~QuickContent() = default;
+
+void Qml::QuickContent::load(const QString& path)
+{
+    if (!loadQml(path)) {
+        d->state = Private::Failed;
+        return;
+    }
+    const QSizeF size = getSize();
+    if (!size.isValid()) {
+        d->state = Private::Failed;
+        return;
+    }
+    d->fitContainer(size);
+    d->state = Private::Available;
+
+    const auto follow = [this] {
+        const QQuickItem* const root = d->view ? d->view->rootObject() : nullptr;
+        const QSizeF now = root ? root->size() : QSizeF();
+        if (now.isValid()) {
+            d->fitContainer(now);
+        }
+    };
+    connect(d->view->rootObject(), &QQuickItem::widthChanged, this, follow);
+    connect(d->view->rootObject(), &QQuickItem::heightChanged, this, follow);
+}
+
+bool Qml::QuickContent::isAvailable() const
+{
+    return d->state == Private::Available;
+}
+
+bool Qml::QuickContent::isUndefined() const
+{
+    return d->state == Private::Undefined;
+}
+
+QPointer<QWidget> Qml::QuickContent::getUiContent()
+{
+    return d->container.get();
+}
+
+QPointer<QQmlContext> Qml::QuickContent::qmlContext()
+{
+    return d->view ? d->view->rootContext() : nullptr;
+}
+
+bool Qml::QuickContent::loadQml(const QString& path)
+{
+    if (!FS::exists(path)) {
+        LOG(WARNING) << "Could not find main qml file: " << path.toStdString();
+        return false;
+    }
+    if (d->view) {
+        if (!isUndefined()) {
+            // The engine would take the file as it was when it was first loaded. The old scene has to be
+            // gone when the engine forgets it.
+            d->view->setSource(QUrl());
+            d->view->engine()->clearComponentCache();
+        }
+        d->view->setSource(QUrl::fromLocalFile(path));
+        if (!d->view->rootObject()) {
+            deleteStrayWindows(d->view.get());
+        }
+    }
+    return true;
+}
+
+QSizeF Qml::QuickContent::getSize() const
+{
+    if (const QQuickItem* const root = d->view ? d->view->rootObject() : nullptr) {
+        return root->size();
+    }
+    LOG(WARNING) << "Could not resolve root object for main qml";
+    return {};
+}

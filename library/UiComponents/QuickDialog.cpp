@@ -1,0 +1,216 @@
+#include "QuickDialog.h"
+
+#include "QuickContent.h"
+
+#include <QtUtility/QmlWindowFocusWorkaround.h>
+
+#include <QApplication>
+#include <QCursor>
+#include <QHBoxLayout>
+#include <QQmlContext>
+#include <QScreen>
+#include <QWindow>
+
+#include <optional>
+
+namespace {
+
+// A flag that is up in a scope, of an object that may die in it.
+class RunningMark
+{
+public:
+    RunningMark(QObject* owner, bool* mark)
+        : m_owner(owner)
+        , m_mark(mark)
+    {
+        *m_mark = true;
+    }
+    ~RunningMark()
+    {
+        if (m_owner) {
+            *m_mark = false;
+        }
+    }
+    RunningMark(const RunningMark&) = delete;
+    RunningMark& operator=(const RunningMark&) = delete;
+
+private:
+    const QPointer<QObject> m_owner;
+    bool* const m_mark;
+};
+
+// Keeps a container in a layout for a scope. Everything may die in it.
+class Guest
+{
+public:
+    Guest(QBoxLayout* layout, QWidget* container)
+        : m_layout(layout)
+        , m_container(container)
+    {
+        layout->addWidget(container, 0, Qt::Alignment());
+    }
+    ~Guest()
+    {
+        if (!m_container) {
+            return;
+        }
+        if (m_layout) {
+            m_layout->removeWidget(m_container);
+        }
+        m_container->setParent(nullptr);
+    }
+    Guest(const Guest&) = delete;
+    Guest& operator=(const Guest&) = delete;
+
+private:
+    const QPointer<QLayout> m_layout;
+    const QPointer<QWidget> m_container;
+};
+
+// Notes with which result the dialog ended in a scope, if it did.
+class Ending
+{
+public:
+    explicit Ending(QDialog* dialog)
+        : m_connection(
+              QObject::connect(dialog, &QDialog::finished, dialog, [this](int result) { m_result = result; }))
+    {
+    }
+    ~Ending() { QObject::disconnect(m_connection); }
+    Ending(const Ending&) = delete;
+    Ending& operator=(const Ending&) = delete;
+
+    std::optional<int> result() const { return m_result; }
+
+private:
+    const QMetaObject::Connection m_connection;
+    std::optional<int> m_result;
+};
+
+QPoint middleOfScreen()
+{
+    const QWidget* const active = QApplication::activeWindow();
+    const QScreen* screen = active ? QGuiApplication::screenAt(active->frameGeometry().center()) : nullptr;
+    if (!screen) {
+        screen = QGuiApplication::screenAt(QCursor::pos());
+    }
+    if (!screen) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    return screen ? screen->availableGeometry().center() : QPoint();
+}
+
+} // namespace
+
+class Qml::QuickDialog::Private
+{
+public:
+    explicit Private(QuickDialog* dialog);
+
+    void makeWindow() const;
+    QBoxLayout* makeLayout() const;
+    void moveToMiddle(const QWidget* container) const;
+
+    QuickDialog* const owner;
+    const std::unique_ptr<QuickContent> content = std::make_unique<QuickContent>();
+    QString qmlPath;
+    bool isRunning = false;
+};
+
+Qml::QuickDialog::Private::Private(QuickDialog* dialog)
+    : owner(dialog)
+{
+    owner->setAttribute(Qt::WA_TranslucentBackground);
+    content->qmlContext()->setContextProperty(QStringLiteral("callback"), owner);
+    Orvane::Util::ApplyQmlWindowFocusWorkaround(owner, content->getUiContent());
+}
+
+void Qml::QuickDialog::Private::makeWindow() const
+{
+    QSizePolicy policy(QSizePolicy::Minimum, QSizePolicy::Minimum);
+    policy.setHeightForWidth(owner->sizePolicy().hasHeightForWidth());
+    owner->setSizePolicy(policy);
+    owner->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    owner->setModal(true);
+}
+
+QBoxLayout* Qml::QuickDialog::Private::makeLayout() const
+{
+    // A widget takes no second layout.
+    delete owner->layout();
+    auto* layout = new QHBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    // Without it the window would grow with the scene and never become smaller again.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    return layout;
+}
+
+void Qml::QuickDialog::Private::moveToMiddle(const QWidget* container) const
+{
+    const QWidget* const parent = owner->parentWidget();
+    const QPoint middle = parent ? parent->mapToGlobal(parent->rect().center()) : middleOfScreen();
+    const int left = static_cast<int>(container->width() * 0.5);
+    const int top = static_cast<int>(container->height() * 0.5);
+    owner->move(middle - QPoint(left, top));
+}
+
+Qml::QuickDialog::QuickDialog(QWidget* parent)
+    : QDialog(parent)
+    , d(std::make_unique<Private>(this))
+{
+}
+
+Qml::QuickDialog::~QuickDialog() = default;
+
+void Qml::QuickDialog::setQmlPath(const QString& path)
+{
+    d->qmlPath = path;
+}
+
+int Qml::QuickDialog::exec()
+{
+    if (d->isRunning) {
+        return Rejected;
+    }
+    const QPointer<QuickDialog> self = this;
+    const RunningMark mark(this, &d->isRunning);
+    const Ending ending(this);
+
+    if (d->content->isUndefined()) {
+        d->content->load(d->qmlPath);
+    }
+    QWidget* const container = d->content->getUiContent();
+    if (!d->content->isAvailable() || !container) {
+        return Rejected;
+    }
+    if (ending.result()) {
+        return *ending.result();
+    }
+
+    d->makeWindow();
+    const Guest guest(d->makeLayout(), container);
+    d->moveToMiddle(container);
+    // The base class does not notice when a dialog is ended before its event loop runs, and would wait for
+    // ever: a scene may end it in a handler of being shown.
+    show();
+    if (!self || ending.result()) {
+        return ending.result().value_or(Rejected);
+    }
+    const int result = QDialog::exec();
+    if (self) {
+        // Only a quitting application leaves the loop of a dialog that is still shown.
+        hide();
+    }
+    return result;
+}
+
+QPointer<Qml::QuickContent> Qml::QuickDialog::content()
+{
+    return d->content.get();
+}
+
+QPoint Qml::QuickDialog::cursorPos() const
+{
+    return QCursor::pos();
+}
