@@ -21,6 +21,7 @@
 #include "pages/HighlightFramePage.h"
 #include "pages/PathPage.h"
 #include "pages/PixmapWidgetPage.h"
+#include "pages/PointPlanePage.h"
 #include "pages/PointingPage.h"
 #include "pages/PrivacyAccessPage.h"
 #include "pages/PropertyProviderPage.h"
@@ -56,6 +57,7 @@ QVector<PageInfo> PageRegistry::pages()
         // inputs
         SliderInputPage::info(),
         DoubleSliderInputPage::info(),
+        PointPlanePage::info(),
         SpinBoxPage::info(),
         DoubleSpinBoxPage::info(),
         CustomSliderPage::info(),

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -93,6 +94,7 @@ void PropertyPanel::addProperties(const QObjectList& objects, const QStringList&
     for (const QString& name : wanted) {
         if (PropertyEditor* const editor = PropertyEditor::create(objects, name, m_content)) {
             connect(editor, &PropertyEditor::edited, this, &PropertyPanel::refresh);
+            connect(editor, &PropertyEditor::edited, this, &PropertyPanel::edited);
             m_editors.append(editor);
             addRow(name, editor);
         }
@@ -179,6 +181,21 @@ void PropertyPanel::addRow(const QString& label, QWidget* control)
 bool PropertyPanel::isEmpty() const
 {
     return m_rows->rowCount() == 0;
+}
+
+void PropertyPanel::showEvent(QShowEvent* event)
+{
+    QFrame::showEvent(event);
+    // When all widgets beside it have met the sheet as well.
+    QMetaObject::invokeMethod(this, &PropertyPanel::refresh, Qt::QueuedConnection);
+}
+
+void PropertyPanel::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) {
+        QMetaObject::invokeMethod(this, &PropertyPanel::refresh, Qt::QueuedConnection);
+    }
 }
 
 void PropertyPanel::refresh()

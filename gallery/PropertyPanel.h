@@ -44,8 +44,17 @@ public:
 
     bool isEmpty() const;
 
-    /// Reads all properties again.
+    /// Reads all properties again. This happens by itself after a change of one, and when the panel is
+    /// shown or the style sheet, which sets properties too, has changed.
     void refresh();
+
+Q_SIGNALS:
+    /// A property was changed by its editor.
+    void edited();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QWidget* const m_content;

@@ -1,5 +1,7 @@
 #include "TestMain.h"
 
+#include <UiComponents/PointSelectionPlane.h>
+
 #include <QLabel>
 
 #include <gallery/GalleryApplication.h>
@@ -15,6 +17,7 @@ private Q_SLOTS:
     void cleanup();
     void builtIn_data();
     void builtIn();
+    void planesAreFilledAnew();
     void theSameStyleAgain();
     void aFile();
     void aFileThatIsNotThere();
@@ -97,6 +100,18 @@ void tst_StyleController::builtIn()
     QVERIFY(style == "none" || QFile::exists(":/styles/" + style + ".qss"));
     // With what the gallery's own window adds.
     QCOMPARE(qApp->styleSheet().contains("#specimenCard"), style != "none");
+}
+
+void tst_StyleController::planesAreFilledAnew()
+{
+    StyleController controller;
+    QVERIFY(controller.setStyle(QStringLiteral("dark")));
+    PointSelectionPlane plane(nullptr);
+    plane.show();
+    const QColor dark = plane.grab().toImage().pixelColor(2, 2);
+    QVERIFY(controller.setStyle(QStringLiteral("light")));
+    const QColor light = plane.grab().toImage().pixelColor(2, 2);
+    QVERIFY(light.lightness() > dark.lightness());
 }
 
 void tst_StyleController::theSameStyleAgain()

@@ -10,6 +10,7 @@
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPickerButton.h>
@@ -278,6 +279,7 @@ QMainWindow* makeEverything()
                                      new ColorInputWidget(body, QColor()),
                                      new SliderInputWidget(body, {0, 100}),
                                      new DoubleSliderInputWidget(body, {0.0, 1.0, 2}),
+                                     make<PointSelectionPlane>(body),
                                      make<QDialogButtonBox>(body),
                                      new QTableWidget(2, 2, body),
                                      makeDialog(body),

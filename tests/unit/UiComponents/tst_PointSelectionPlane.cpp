@@ -1,0 +1,1090 @@
+#include "FreedMemory.h"
+#include "MetaObject.h"
+#include "TestMain.h"
+
+#include <UiComponents/PointSelectionPlane.h>
+#include <UiComponents/PointSelectionPlanePropertyHelper.h>
+
+#include <QPainter>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace {
+
+using Points = QVector<QPointF>;
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double largest = std::numeric_limits<double>::max();
+
+const QRectF limits(-50.0, 100.0, 100.0, 25.0);
+const QColor fillColor(32, 32, 40);
+const QColor linesColor(120, 130, 140);
+const QColor markerColor(250, 240, 90);
+constexpr double markerRadius = 5.0;
+constexpr int linesWidth = 3;
+
+PointSelectionPlanePropertyHelper* styleOf(const QWidget& plane)
+{
+    return plane.findChild<PointSelectionPlanePropertyHelper*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void send(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+          Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void press(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
+{
+    send(widget, QEvent::MouseButtonPress, at, button, button);
+}
+void drag(QWidget& widget, const QPoint& to)
+{
+    send(widget, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+}
+void release(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
+{
+    send(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+}
+
+QImage pictureOf(QWidget& widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// What a plane of this size looks like with the marker at a pixel, in the colours above.
+QImage picture(const QSize& size, const std::optional<QPointF>& at)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(fillColor);
+    QPainter painter(&image);
+    const QRect rect(QPoint(), size);
+    painter.setPen(QPen(QBrush(linesColor), linesWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.drawLine(rect.center().x(), rect.top(), rect.center().x(), rect.bottom());
+    painter.drawLine(rect.left(), rect.center().y(), rect.right(), rect.center().y());
+    if (at) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(markerColor);
+        painter.drawEllipse(*at, markerRadius, markerRadius);
+    }
+    return image;
+}
+
+/// A plane of 101 × 51 pixels, one unit a pixel to the right and half a unit down, that records what it
+/// reports.
+class Plane : public PointSelectionPlane
+{
+public:
+    explicit Plane(QWidget* parent = nullptr)
+        : PointSelectionPlane(parent)
+    {
+        style->setFillColor(fillColor);
+        style->setCoordLinesColor(linesColor);
+        style->setCoordLinesWidth(linesWidth);
+        style->setMarkerColor(markerColor);
+        style->setMarkerRadius(markerRadius);
+        resize(101, 51);
+        setLimits(limits);
+        connect(this, &PointSelectionPlane::pointChanged, this,
+                [this](const QPointF& point) { m_reports += point; });
+    }
+
+    /// What was reported since the last call.
+    Points reports()
+    {
+        Points result;
+        result.swap(m_reports);
+        return result;
+    }
+
+    PointSelectionPlanePropertyHelper* const style = styleOf(*this);
+
+private:
+    Points m_reports;
+};
+
+/// The point under a pixel of a Plane of its first size.
+QPointF at(int x, int y)
+{
+    return {x - 50.0, y * 0.5 + 100.0};
+}
+
+int paintsOf(QWidget& widget, const std::function<void()>& change)
+{
+    class Counter : public QObject
+    {
+    public:
+        int paints = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    } counter;
+    QCoreApplication::processEvents();
+    widget.installEventFilter(&counter);
+    change();
+    QCoreApplication::processEvents();
+    widget.removeEventFilter(&counter);
+    return counter.paints;
+}
+
+bool isSame(double one, double other)
+{
+    return one == other || (std::isnan(one) && std::isnan(other));
+}
+
+} // namespace
+
+class tst_PointSelectionPlane : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void metaObject();
+    void construction();
+    void startsWithoutLimits();
+    void startsWithoutAMarker();
+    void initialPointInsideTheLimitsHasNoMarker();
+
+    void setPointIsSilent();
+    void setPointRepaints();
+    void setPointOutside_data();
+    void setPointOutside();
+    void setPointWithoutANumber_data();
+    void setPointWithoutANumber();
+    void setLimitsKeepsThePoint();
+    void upsideDownLimits();
+    void infiniteLimits_data();
+    void infiniteLimits();
+
+    void clickWithoutMoving();
+    void pressAtTheEdges_data();
+    void pressAtTheEdges();
+    void dragReportsEachPixel();
+    void dragLeavesTheWindow_data();
+    void dragLeavesTheWindow();
+    void dragStaysOnTheClampedPixel();
+    void releaseReportsAgain();
+    void releaseElsewhereMovesThePoint();
+    void pressOutsideIsTakenAsItIs();
+    void moveWithoutAPress();
+    void releaseWithoutAPress();
+    void releaseAfterAPressElsewhere();
+    void otherButtons();
+    void secondButtonWhileDragging();
+    void doubleClickIsAPress();
+    void hiddenDuringADrag();
+    void disabledDuringADrag();
+    void deletedDuringADrag();
+    void setPointDuringADrag();
+    void setLimitsDuringADrag();
+    void resizedDuringADrag();
+
+    void resizeKeepsThePoint();
+    void resizeOfAHiddenPlane();
+    void tinyPlanes_data();
+    void tinyPlanes();
+
+    void paintsItsItemsOnly();
+    void axesDoNotFollowThePoint();
+    void onlyTheMarkerIsSmooth();
+    void markerAtTheEdges_data();
+    void markerAtTheEdges();
+    void markerBetweenPixels();
+    void invalidMarkerColorHidesIt();
+    void invalidColorsAreBlack();
+    void oddStyles_data();
+    void oddStyles();
+    void fillColorWaitsForAResize();
+    void translucentFill();
+    void firstPictureHasTheSheetsValues();
+    void sheetOfTheDisabledPlane();
+    void twiceTheScale();
+
+    void arrowKeys_data();
+    void arrowKeys();
+    void keyKeepsTheOtherCoordinate();
+    void keysWithoutAPoint();
+    void keysFromOutside();
+    void otherKeysAreLeft();
+    void focusIsShownToKeyboardUsers();
+
+    void rightToLeft();
+    void slotSetsAnotherPoint();
+    void deletedInItsSignal_data();
+    void deletedInItsSignal();
+};
+
+void tst_PointSelectionPlane::cleanup()
+{
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_PointSelectionPlane::metaObject()
+{
+    const QMetaObject& meta = PointSelectionPlane::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("PointSelectionPlane"));
+    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal pointChanged(QPointF)")}));
+    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("point"));
+    QCOMPARE(ownProperties(meta), QStringList());
+}
+
+void tst_PointSelectionPlane::construction()
+{
+    QWidget parent;
+    auto* plane = new PointSelectionPlane(&parent);
+    QCOMPARE(plane->parentWidget(), &parent);
+    QCOMPARE(plane->point(), QPointF(-1, -1));
+    const PointSelectionPlanePropertyHelper* style = styleOf(*plane);
+    QVERIFY(style);
+    QVERIFY(!style->isVisible());
+    QVERIFY(!plane->layout());
+    QCOMPARE(plane->frameShape(), QFrame::NoFrame);
+}
+
+void tst_PointSelectionPlane::startsWithoutLimits()
+{
+    PointSelectionPlane plane(nullptr);
+    plane.resize(101, 51);
+    plane.show();
+    QSignalSpy changed(&plane, &PointSelectionPlane::pointChanged);
+    press(plane, {30, 40});
+    release(plane, {90, 50});
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(changed.at(0).front().toPointF(), QPointF(0, 0));
+    QCOMPARE(changed.at(1).front().toPointF(), QPointF(0, 0));
+    QCOMPARE(plane.point(), QPointF(0, 0));
+}
+
+void tst_PointSelectionPlane::startsWithoutAMarker()
+{
+    Plane plane;
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+}
+
+void tst_PointSelectionPlane::initialPointInsideTheLimitsHasNoMarker()
+{
+    Plane plane;
+    plane.setLimits({-10, -10, 20, 20});
+    plane.resize(61, 61);
+    QCOMPARE(plane.point(), QPointF(-1, -1));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+    plane.setPoint({-1, -1});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(27, 27)));
+}
+
+void tst_PointSelectionPlane::setPointIsSilent()
+{
+    Plane plane;
+    plane.setPoint({10, 110});
+    plane.setPoint({10, 110});
+    plane.setPoint({20, 120});
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(plane.point(), QPointF(20, 120));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(70, 40)));
+}
+
+void tst_PointSelectionPlane::setPointRepaints()
+{
+    Plane plane;
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    QCOMPARE(paintsOf(plane, [&] { plane.setPoint({1, 101}); }), 1);
+    QCOMPARE(paintsOf(plane, [&] { plane.setLimits({0, 0, 10, 10}); }), 1);
+}
+
+void tst_PointSelectionPlane::setPointOutside_data()
+{
+    QTest::addColumn<QPointF>("point");
+    QTest::newRow("left") << QPointF(-60, 110);
+    QTest::newRow("below") << QPointF(0, 126);
+    QTest::newRow("far") << QPointF(1e9, -1e9);
+    QTest::newRow("beyond an int") << QPointF(1e12, -1e12);
+    QTest::newRow("largest") << QPointF(largest, -largest);
+}
+
+void tst_PointSelectionPlane::setPointOutside()
+{
+    QFETCH(QPointF, point);
+    Plane plane;
+    plane.setPoint(point);
+    QVERIFY(plane.point().x() == point.x());
+    QVERIFY(plane.point().y() == point.y());
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+    QCOMPARE(plane.reports(), Points());
+}
+
+void tst_PointSelectionPlane::setPointWithoutANumber_data()
+{
+    QTest::addColumn<QPointF>("point");
+    QTest::newRow("infinite") << QPointF(infinite, -infinite);
+    QTest::newRow("NaN") << QPointF(noNumber, noNumber);
+    QTest::newRow("one NaN") << QPointF(0, noNumber);
+}
+
+void tst_PointSelectionPlane::setPointWithoutANumber()
+{
+    QFETCH(QPointF, point);
+    Plane plane;
+    plane.setPoint(point);
+    QVERIFY(isSame(plane.point().x(), point.x()));
+    QVERIFY(isSame(plane.point().y(), point.y()));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+    press(plane, {30, 20});
+    drag(plane, {31, 20});
+    release(plane, {31, 20});
+    QCOMPARE(plane.reports(), Points({at(30, 20), at(31, 20), at(31, 20)}));
+}
+
+void tst_PointSelectionPlane::setLimitsKeepsThePoint()
+{
+    Plane plane;
+    plane.setPoint({10, 110});
+    plane.setLimits({0, 100, 50, 100});
+    QCOMPARE(plane.point(), QPointF(10, 110));
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(20, 5)));
+    plane.setLimits({20, 100, 50, 100});
+    QCOMPARE(plane.point(), QPointF(10, 110));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+    plane.setLimits(QRectF());
+    QCOMPARE(plane.point(), QPointF(10, 110));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+}
+
+void tst_PointSelectionPlane::upsideDownLimits()
+{
+    Plane plane;
+    plane.setLimits({50, 125, -100, -25});
+    press(plane, {0, 0});
+    release(plane, {100, 50});
+    QCOMPARE(plane.reports(), Points({{50, 125}, {-50, 100}}));
+    plane.setPoint({40, 120});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(10, 10)));
+}
+
+void tst_PointSelectionPlane::infiniteLimits_data()
+{
+    QTest::addColumn<QRectF>("rect");
+    QTest::newRow("infinite size") << QRectF(0, 0, infinite, infinite);
+    QTest::newRow("infinite corner") << QRectF(-infinite, -infinite, infinite, infinite);
+    QTest::newRow("NaN") << QRectF(noNumber, noNumber, noNumber, noNumber);
+    QTest::newRow("largest") << QRectF(-largest, -largest, largest, largest);
+}
+
+void tst_PointSelectionPlane::infiniteLimits()
+{
+    QFETCH(QRectF, rect);
+    Plane plane;
+    plane.setPoint({10, 110});
+    plane.setLimits(rect);
+    QCOMPARE(plane.point(), QPointF(10, 110));
+    QCOMPARE(pictureOf(plane).size(), plane.size());
+    press(plane, {30, 20});
+    drag(plane, {40, 20});
+    release(plane, {40, 20});
+    QCOMPARE(plane.reports().size(), 3);
+    QTest::keyClick(&plane, Qt::Key_Left);
+    pictureOf(plane);
+}
+
+void tst_PointSelectionPlane::clickWithoutMoving()
+{
+    Plane plane;
+    press(plane, {40, 25});
+    QCOMPARE(plane.reports(), Points{at(40, 25)});
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    release(plane, {40, 25});
+    QCOMPARE(plane.reports(), Points{at(40, 25)});
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(plane.point(), at(40, 25));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(40, 25)));
+}
+
+void tst_PointSelectionPlane::pressAtTheEdges_data()
+{
+    QTest::addColumn<QPoint>("pixel");
+    QTest::addColumn<QPointF>("point");
+    const QRectF sevenths(1.0 / 7, -2.0 / 7, 3.0 / 7, 1.1);
+    QTest::newRow("top left") << QPoint(0, 0) << sevenths.topLeft();
+    QTest::newRow("top right") << QPoint(100, 0) << sevenths.topRight();
+    QTest::newRow("bottom left") << QPoint(0, 50) << sevenths.bottomLeft();
+    QTest::newRow("bottom right") << QPoint(100, 50) << sevenths.bottomRight();
+}
+
+void tst_PointSelectionPlane::pressAtTheEdges()
+{
+    QFETCH(QPoint, pixel);
+    QFETCH(QPointF, point);
+    Plane plane;
+    plane.setLimits({1.0 / 7, -2.0 / 7, 3.0 / 7, 1.1});
+    press(plane, pixel);
+    QVERIFY(plane.point().x() == point.x());
+    QVERIFY(plane.point().y() == point.y());
+    release(plane, pixel);
+}
+
+void tst_PointSelectionPlane::dragReportsEachPixel()
+{
+    Plane plane;
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    press(plane, {10, 10});
+    drag(plane, {11, 10});
+    QCOMPARE(paintsOf(plane, [&] { drag(plane, {11, 10}); }), 0);
+    QCOMPARE(paintsOf(plane, [&] { drag(plane, {30, 40}); }), 1);
+    release(plane, {30, 40});
+    QCOMPARE(plane.reports(), Points({at(10, 10), at(11, 10), at(30, 40), at(30, 40)}));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(30, 40)));
+}
+
+void tst_PointSelectionPlane::dragLeavesTheWindow_data()
+{
+    QTest::addColumn<QPoint>("to");
+    QTest::addColumn<QPoint>("pinned");
+    QTest::newRow("left") << QPoint(-40, 20) << QPoint(0, 20);
+    QTest::newRow("right") << QPoint(101, 20) << QPoint(100, 20);
+    QTest::newRow("above") << QPoint(20, -1) << QPoint(20, 0);
+    QTest::newRow("below") << QPoint(20, 51) << QPoint(20, 50);
+    QTest::newRow("far off a corner") << QPoint(100000, -100000) << QPoint(100, 0);
+}
+
+void tst_PointSelectionPlane::dragLeavesTheWindow()
+{
+    QFETCH(QPoint, to);
+    QFETCH(QPoint, pinned);
+    Plane plane;
+    press(plane, {20, 20});
+    plane.reports();
+    drag(plane, to);
+    QCOMPARE(plane.reports(), Points{at(pinned.x(), pinned.y())});
+    release(plane, to);
+    QCOMPARE(plane.reports(), Points{at(pinned.x(), pinned.y())});
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_PointSelectionPlane::dragStaysOnTheClampedPixel()
+{
+    Plane plane;
+    press(plane, {100, 20});
+    drag(plane, {101, 20});
+    drag(plane, {5000, 20});
+    QCOMPARE(plane.reports().size(), 1);
+    drag(plane, {5000, 21});
+    QCOMPARE(plane.reports(), Points{at(100, 21)});
+    release(plane, {5000, 21});
+}
+
+void tst_PointSelectionPlane::releaseReportsAgain()
+{
+    Plane plane;
+    plane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    press(plane, {20, 20});
+    drag(plane, {30, 20});
+    plane.reports();
+    QCOMPARE(paintsOf(plane, [&] { release(plane, {30, 20}); }), 1);
+    QCOMPARE(plane.reports(), Points{at(30, 20)});
+}
+
+void tst_PointSelectionPlane::releaseElsewhereMovesThePoint()
+{
+    Plane plane;
+    press(plane, {1, 1});
+    release(plane, {-5, 70});
+    QCOMPARE(plane.reports(), Points({at(1, 1), at(0, 50)}));
+    QCOMPARE(plane.point(), at(0, 50));
+}
+
+void tst_PointSelectionPlane::pressOutsideIsTakenAsItIs()
+{
+    Plane plane;
+    press(plane, {200, -20});
+    QCOMPARE(plane.reports(), Points{at(200, -20)});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+    release(plane, {200, -20});
+    QCOMPARE(plane.reports(), Points{at(100, 0)});
+}
+
+void tst_PointSelectionPlane::moveWithoutAPress()
+{
+    Plane plane;
+    plane.setMouseTracking(true);
+    plane.setPoint({10, 110});
+    drag(plane, {20, 20});
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(plane.point(), QPointF(10, 110));
+}
+
+void tst_PointSelectionPlane::releaseWithoutAPress()
+{
+    Plane plane;
+    plane.setPoint({10, 110});
+    release(plane, {20, 20});
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(plane.point(), QPointF(10, 110));
+}
+
+void tst_PointSelectionPlane::releaseAfterAPressElsewhere()
+{
+    QWidget window;
+    Plane one(&window);
+    Plane other(&window);
+    press(one, {20, 20});
+    drag(other, {30, 30});
+    release(other, {30, 30});
+    QCOMPARE(other.reports(), Points());
+    QCOMPARE(QWidget::mouseGrabber(), &one);
+    release(one, {20, 20});
+    QCOMPARE(one.reports().size(), 2);
+}
+
+void tst_PointSelectionPlane::otherButtons()
+{
+    Plane plane;
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+        press(plane, {20, 20}, button);
+        QVERIFY(!QWidget::mouseGrabber());
+        drag(plane, {30, 30});
+        release(plane, {30, 30}, button);
+    }
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(plane.point(), QPointF(-1, -1));
+}
+
+void tst_PointSelectionPlane::secondButtonWhileDragging()
+{
+    Plane plane;
+    press(plane, {20, 20});
+    press(plane, {25, 25}, Qt::RightButton);
+    QCOMPARE(plane.reports(), Points{at(20, 20)});
+    release(plane, {26, 26}, Qt::RightButton);
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    drag(plane, {30, 30});
+    release(plane, {30, 30});
+    QCOMPARE(plane.reports(), Points({at(30, 30), at(30, 30)}));
+}
+
+void tst_PointSelectionPlane::doubleClickIsAPress()
+{
+    Plane plane;
+    send(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+    QCOMPARE(plane.reports(), Points{at(20, 20)});
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    release(plane, {20, 20});
+}
+
+void tst_PointSelectionPlane::hiddenDuringADrag()
+{
+    QWidget window;
+    Plane plane(&window);
+    window.show();
+    press(plane, {20, 20});
+    plane.reports();
+    window.hide();
+    QVERIFY(!QWidget::mouseGrabber());
+    drag(plane, {30, 30});
+    release(plane, {30, 30});
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(plane.point(), at(20, 20));
+}
+
+void tst_PointSelectionPlane::disabledDuringADrag()
+{
+    QWidget window;
+    Plane plane(&window);
+    press(plane, {20, 20});
+    window.setEnabled(false);
+    QVERIFY(!QWidget::mouseGrabber());
+    plane.reports();
+    press(plane, {30, 30});
+    QCOMPARE(plane.reports(), Points());
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_PointSelectionPlane::deletedDuringADrag()
+{
+    {
+        Plane plane;
+        plane.show();
+        press(plane, {20, 20});
+        QCOMPARE(QWidget::mouseGrabber(), &plane);
+    }
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+// The next move is compared with where the point then is, not with where the mouse was.
+void tst_PointSelectionPlane::setPointDuringADrag()
+{
+    Plane plane;
+    press(plane, {20, 20});
+    plane.reports();
+    plane.setPoint(at(60, 30));
+    drag(plane, {20, 20});
+    QCOMPARE(plane.reports(), Points{at(20, 20)});
+    release(plane, {20, 20});
+}
+
+void tst_PointSelectionPlane::setLimitsDuringADrag()
+{
+    Plane plane;
+    press(plane, {20, 20});
+    plane.setLimits({0, 0, 200, 100});
+    QCOMPARE(plane.point(), at(20, 20));
+    plane.reports();
+    drag(plane, {30, 30});
+    QCOMPARE(plane.reports(), Points{QPointF(60, 60)});
+    release(plane, {30, 30});
+    QCOMPARE(plane.reports(), Points{QPointF(60, 60)});
+}
+
+void tst_PointSelectionPlane::resizedDuringADrag()
+{
+    Plane plane;
+    plane.show();
+    press(plane, {20, 20});
+    plane.reports();
+    plane.resize(201, 101);
+    QCOMPARE(QWidget::mouseGrabber(), &plane);
+    QCOMPARE(plane.point(), at(20, 20));
+    QCOMPARE(plane.reports(), Points());
+    // The point's pixel has moved from below the mouse.
+    drag(plane, {20, 20});
+    QCOMPARE(plane.reports(), Points{at(10, 10)});
+    drag(plane, {200, 100});
+    release(plane, {500, 500});
+    QCOMPARE(plane.reports(), Points({at(100, 50), at(100, 50)}));
+    press(plane, {200, 100});
+    plane.resize(1, 1);
+    drag(plane, {50, 50});
+    release(plane, {50, 50});
+    // Every place is on the only pixel, so that no move leaves it.
+    QCOMPARE(plane.reports(), Points({limits.bottomRight(), limits.bottomRight()}));
+}
+
+void tst_PointSelectionPlane::resizeKeepsThePoint()
+{
+    Plane plane;
+    plane.show();
+    plane.setPoint({10, 110});
+    QCOMPARE(pictureOf(plane), picture({101, 51}, QPointF(60, 20)));
+    plane.resize(201, 151);
+    QCOMPARE(plane.point(), QPointF(10, 110));
+    QCOMPARE(plane.reports(), Points());
+    QCOMPARE(pictureOf(plane), picture({201, 151}, QPointF(120, 60)));
+}
+
+void tst_PointSelectionPlane::resizeOfAHiddenPlane()
+{
+    Plane plane;
+    plane.resize(201, 151);
+    plane.setLimits(limits);
+    plane.setPoint({10, 110});
+    QCOMPARE(pictureOf(plane), picture({201, 151}, QPointF(120, 60)));
+    plane.resize(51, 51);
+    plane.show();
+    QCOMPARE(pictureOf(plane), picture({51, 51}, QPointF(30, 20)));
+}
+
+void tst_PointSelectionPlane::tinyPlanes_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize& size : {QSize(0, 0), QSize(0, 40), QSize(40, 0), QSize(1, 1), QSize(1, 40),
+                              QSize(40, 1), QSize(2, 2), QSize(2, 1), QSize(3, 3)}) {
+        QTest::addRow("%d x %d", size.width(), size.height()) << size;
+    }
+}
+
+void tst_PointSelectionPlane::tinyPlanes()
+{
+    QFETCH(QSize, size);
+    QWidget window;
+    Plane plane(&window);
+    plane.resize(size);
+    window.show();
+    plane.setPoint({10, 110});
+    pictureOf(window);
+    press(plane, {0, 0});
+    const QPointF point = plane.reports().front();
+    // An only pixel is no place.
+    QVERIFY(size.width() == 1 ? std::isnan(point.x()) : point.x() == limits.left());
+    QVERIFY(size.height() == 1 ? std::isnan(point.y()) : point.y() == limits.top());
+    pictureOf(window);
+    drag(plane, {50, 50});
+    release(plane, {50, 50});
+    const QPointF last = plane.reports().last();
+    if (size.width() > 1) {
+        QVERIFY(last.x() == limits.right());
+    }
+    if (size.height() > 1) {
+        QVERIFY(last.y() == limits.bottom());
+    }
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+        QTest::keyClick(&plane, key);
+    }
+    pictureOf(window);
+    plane.resize(101, 51);
+    plane.setPoint({10, 110});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(60, 20)));
+}
+
+void tst_PointSelectionPlane::paintsItsItemsOnly()
+{
+    Plane plane;
+    plane.setFrameStyle(QFrame::Box | QFrame::Plain);
+    plane.setLineWidth(5);
+    plane.setPoint({10, 110});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(60, 20)));
+}
+
+void tst_PointSelectionPlane::axesDoNotFollowThePoint()
+{
+    Plane plane;
+    plane.style->setMarkerColor(QColor());
+    const QImage before = pictureOf(plane);
+    plane.setPoint({-40, 120});
+    plane.setLimits({0, 0, 3, 3});
+    QCOMPARE(pictureOf(plane), before);
+    plane.resize(100, 50);
+    QCOMPARE(pictureOf(plane), picture({100, 50}, {}));
+}
+
+void tst_PointSelectionPlane::onlyTheMarkerIsSmooth()
+{
+    Plane plane;
+    const auto colors = [&plane] {
+        QSet<QRgb> found;
+        const QImage image = pictureOf(plane);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                found += image.pixel(x, y);
+            }
+        }
+        return found.size();
+    };
+    QCOMPARE(colors(), 2);
+    plane.setPoint({10, 110});
+    QVERIFY(colors() > 6);
+}
+
+void tst_PointSelectionPlane::markerAtTheEdges_data()
+{
+    QTest::addColumn<QPointF>("pixel");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("top left") << QPointF(0, 0) << true;
+    QTest::newRow("bottom right") << QPointF(100, 50) << true;
+    QTest::newRow("rounded to the edge") << QPointF(-0.4, 50.4) << true;
+    QTest::newRow("rounded outside") << QPointF(-0.6, 25) << false;
+    QTest::newRow("one pixel below") << QPointF(50, 51) << false;
+}
+
+void tst_PointSelectionPlane::markerAtTheEdges()
+{
+    QFETCH(QPointF, pixel);
+    QFETCH(bool, drawn);
+    Plane plane;
+    plane.setLimits({0, 0, 100, 50});
+    plane.setPoint(pixel);
+    QCOMPARE(pictureOf(plane), picture(plane.size(), drawn ? std::optional<QPointF>(pixel) : std::nullopt));
+}
+
+void tst_PointSelectionPlane::markerBetweenPixels()
+{
+    Plane plane;
+    plane.setLimits({0, 0, 100, 50});
+    plane.setPoint({30.25, 10.5});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(30.25, 10.5)));
+}
+
+void tst_PointSelectionPlane::invalidMarkerColorHidesIt()
+{
+    Plane plane;
+    plane.setPoint({10, 110});
+    plane.style->setMarkerColor(QColor());
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+}
+
+void tst_PointSelectionPlane::invalidColorsAreBlack()
+{
+    PointSelectionPlane plane(nullptr);
+    plane.resize(20, 20);
+    QImage black(20, 20, QImage::Format_RGB32);
+    black.fill(Qt::black);
+    QCOMPARE(pictureOf(plane), black);
+}
+
+void tst_PointSelectionPlane::oddStyles_data()
+{
+    QTest::addColumn<double>("radius");
+    QTest::addColumn<int>("width");
+    QTest::newRow("nothing") << 0.0 << 0;
+    QTest::newRow("negative") << -5.0 << -3;
+    QTest::newRow("huge") << 1e6 << 1000000;
+    QTest::newRow("largest") << largest << std::numeric_limits<int>::max();
+    QTest::newRow("infinite") << infinite << 1;
+    QTest::newRow("negative infinite") << -infinite << std::numeric_limits<int>::min();
+    QTest::newRow("NaN") << noNumber << 1;
+}
+
+void tst_PointSelectionPlane::oddStyles()
+{
+    QFETCH(double, radius);
+    QFETCH(int, width);
+    Plane plane;
+    plane.style->setMarkerRadius(radius);
+    plane.style->setCoordLinesWidth(width);
+    plane.setPoint({10, 110});
+    QCOMPARE(pictureOf(plane).size(), plane.size());
+}
+
+void tst_PointSelectionPlane::fillColorWaitsForAResize()
+{
+    Plane plane;
+    plane.show();
+    const QImage before = pictureOf(plane);
+    QVERIFY(QTest::qWaitForWindowExposed(&plane));
+    QCOMPARE(paintsOf(plane, [&] { plane.style->setFillColor(Qt::red); }), 0);
+    QCOMPARE(pictureOf(plane), before);
+    plane.resize(120, 60);
+    QCOMPARE(pictureOf(plane).pixelColor(3, 3), QColor(Qt::red));
+    plane.style->setFillColor(Qt::green);
+    QResizeEvent again(plane.size(), plane.size());
+    QCoreApplication::sendEvent(&plane, &again);
+    QCOMPARE(pictureOf(plane).pixelColor(3, 3), QColor(Qt::green));
+}
+
+void tst_PointSelectionPlane::translucentFill()
+{
+    QWidget window;
+    window.setPalette(QPalette(Qt::white));
+    Plane plane(&window);
+    plane.style->setFillColor(QColor(255, 0, 0, 0));
+    window.resize(plane.size());
+    window.show();
+    QCOMPARE(pictureOf(window).pixelColor(3, 3), QColor(Qt::white));
+}
+
+void tst_PointSelectionPlane::firstPictureHasTheSheetsValues()
+{
+    QWidget window;
+    window.setStyleSheet(
+        QStringLiteral("PointSelectionPlane { min-width: 101px; min-height: 51px; }"
+                       "PointSelectionPlanePropertyHelper {"
+                       "  qproperty-MarkerRadius: 5; qproperty-MarkerColor: rgb(250, 240, 90);"
+                       "  qproperty-FillColor: rgb(32, 32, 40);"
+                       "  qproperty-CoordLinesWidth: 3;"
+                       "  qproperty-CoordLinesColor: rgb(120, 130, 140); }"));
+    auto* plane = new PointSelectionPlane(&window);
+    plane->resize(101, 51);
+    plane->setLimits(limits);
+    plane->setPoint({10, 110});
+    window.show();
+    QCOMPARE(pictureOf(*plane), picture({101, 51}, QPointF(60, 20)));
+    QCOMPARE(plane->minimumSize(), QSize(101, 51));
+}
+
+void tst_PointSelectionPlane::sheetOfTheDisabledPlane()
+{
+    QWidget window;
+    window.setStyleSheet(QStringLiteral(
+        "PointSelectionPlanePropertyHelper { qproperty-MarkerColor: red; }"
+        "PointSelectionPlanePropertyHelper[enabled=\"false\"] { qproperty-MarkerColor: blue; }"));
+    Plane plane(&window);
+    plane.setPoint({10, 110});
+    window.show();
+    QCOMPARE(pictureOf(plane).pixelColor(60, 20), QColor(Qt::red));
+    window.setEnabled(false);
+    QCOMPARE(pictureOf(plane).pixelColor(60, 20), QColor(Qt::blue));
+    window.setEnabled(true);
+    QCOMPARE(pictureOf(plane).pixelColor(60, 20), QColor(Qt::red));
+}
+
+void tst_PointSelectionPlane::twiceTheScale()
+{
+    Plane plane;
+    plane.setPoint({10, 110});
+    plane.show();
+    QPixmap pixmap(plane.size() * 2);
+    pixmap.setDevicePixelRatio(2.0);
+    plane.render(&pixmap);
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(image.pixelColor(0, 0), fillColor);
+    QCOMPARE(image.pixelColor(201, 101), fillColor);
+    QCOMPARE(image.pixelColor(120, 40), markerColor);
+}
+
+void tst_PointSelectionPlane::arrowKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<QPoint>("pixel");
+    QTest::newRow("left") << int(Qt::Key_Left) << false << QPoint(49, 25);
+    QTest::newRow("right") << int(Qt::Key_Right) << false << QPoint(51, 25);
+    QTest::newRow("up") << int(Qt::Key_Up) << false << QPoint(50, 24);
+    QTest::newRow("down") << int(Qt::Key_Down) << false << QPoint(50, 26);
+    QTest::newRow("left, far") << int(Qt::Key_Left) << true << QPoint(40, 25);
+    QTest::newRow("down, far") << int(Qt::Key_Down) << true << QPoint(50, 35);
+}
+
+void tst_PointSelectionPlane::arrowKeys()
+{
+    QFETCH(int, key);
+    QFETCH(bool, shift);
+    QFETCH(QPoint, pixel);
+    Plane plane;
+    plane.setPoint(at(50, 25));
+    const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::keyClick(&plane, Qt::Key(key), modifiers);
+    QCOMPARE(plane.reports(), Points{at(pixel.x(), pixel.y())});
+    QCOMPARE(plane.point(), at(pixel.x(), pixel.y()));
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(pixel)));
+    for (int i = 0; i < 200; ++i) {
+        QTest::keyClick(&plane, Qt::Key(key), modifiers);
+    }
+    // As many as there were pixels left, and none at the edge.
+    const int room = pixel.y() == 25 ? 50 : 25;
+    const int step = shift ? 10 : 1;
+    QCOMPARE(plane.reports().size(), (room + step - 1) / step - 1);
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_PointSelectionPlane::keyKeepsTheOtherCoordinate()
+{
+    Plane plane;
+    plane.setLimits({0, 0, 1, 1});
+    plane.setPoint({0.1234567890123, 0.7});
+    QTest::keyClick(&plane, Qt::Key_Right);
+    QVERIFY(plane.point().y() == 0.7);
+    QCOMPARE(plane.point().x(), 0.1334567890123);
+    plane.setPoint({0.1234567890123, 0.7});
+    QTest::keyClick(&plane, Qt::Key_Down);
+    QVERIFY(plane.point().x() == 0.1234567890123);
+}
+
+void tst_PointSelectionPlane::keysWithoutAPoint()
+{
+    Plane plane;
+    QTest::keyClick(&plane, Qt::Key_Left);
+    QCOMPARE(plane.reports(), Points{at(0, 0)});
+    QTest::keyClick(&plane, Qt::Key_Left);
+    QCOMPARE(plane.reports(), Points());
+}
+
+void tst_PointSelectionPlane::keysFromOutside()
+{
+    Plane plane;
+    plane.setPoint({1000, 110});
+    QTest::keyClick(&plane, Qt::Key_Left);
+    QCOMPARE(plane.reports(), Points{at(100, 20)});
+}
+
+void tst_PointSelectionPlane::otherKeysAreLeft()
+{
+    Plane plane;
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A, Qt::Key_Tab}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&plane, &event);
+        QVERIFY(!event.isAccepted());
+    }
+    QCOMPARE(plane.reports(), Points());
+}
+
+void tst_PointSelectionPlane::focusIsShownToKeyboardUsers()
+{
+    QWidget window;
+    Plane plane(&window);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    plane.setFocus(Qt::MouseFocusReason);
+    QVERIFY(plane.hasFocus());
+    QCOMPARE(plane.focusPolicy(), Qt::StrongFocus);
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    QVERIFY(pictureOf(plane) != picture(plane.size(), {}));
+    plane.clearFocus();
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
+}
+
+// A place is not mirrored.
+void tst_PointSelectionPlane::rightToLeft()
+{
+    Plane plane;
+    plane.setLayoutDirection(Qt::RightToLeft);
+    press(plane, {0, 0});
+    release(plane, {0, 0});
+    QCOMPARE(plane.point(), limits.topLeft());
+    plane.reports();
+    QTest::keyClick(&plane, Qt::Key_Right);
+    QCOMPARE(plane.reports(), Points{at(1, 0)});
+    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(1, 0)));
+}
+
+void tst_PointSelectionPlane::slotSetsAnotherPoint()
+{
+    Plane plane;
+    connect(&plane, &PointSelectionPlane::pointChanged, this, [&plane](const QPointF& point) {
+        plane.setPoint({std::floor(point.x() / 10) * 10, 110});
+    });
+    press(plane, {27, 5});
+    drag(plane, {48, 5});
+    release(plane, {48, 5});
+    QCOMPARE(plane.point(), QPointF(-10, 110));
+    QCOMPARE(plane.reports(), Points({at(27, 5), at(48, 5), at(48, 5)}));
+    QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_PointSelectionPlane::deletedInItsSignal_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<bool>("withParent");
+    for (const char* action : {"press", "move", "release", "double click", "key"}) {
+        QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
+        QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
+    }
+}
+
+void tst_PointSelectionPlane::deletedInItsSignal()
+{
+    QFETCH(QString, action);
+    QFETCH(bool, withParent);
+    const FreedMemoryWatch watch;
+    const QPointer<QWidget> parent = new QWidget;
+    const QPointer<Plane> plane = new Plane(withParent ? parent.data() : nullptr);
+    QWidget* window = plane->window();
+    window->show();
+    const bool needsPress = action == QLatin1String("move") || action == QLatin1String("release");
+    if (needsPress) {
+        press(*plane, {20, 20});
+    }
+    connect(plane.data(), &PointSelectionPlane::pointChanged, this, [window] { delete window; });
+    if (action == QLatin1String("press")) {
+        QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {20, 20});
+    } else if (action == QLatin1String("move")) {
+        drag(*plane, {30, 20});
+    } else if (action == QLatin1String("release")) {
+        release(*plane, {20, 20});
+    } else if (action == QLatin1String("double click")) {
+        send(*plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+    } else {
+        QTest::keyPress(plane, Qt::Key_Left);
+    }
+    QVERIFY(!plane);
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(watch.deleted() > 0);
+    QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+    delete parent;
+}
+
+UIC_TEST_MAIN(tst_PointSelectionPlane)
+#include "tst_PointSelectionPlane.moc"
