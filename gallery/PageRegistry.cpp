@@ -22,6 +22,7 @@
 #include "pages/PathPage.h"
 #include "pages/PixmapWidgetPage.h"
 #include "pages/PointPlanePage.h"
+#include "pages/PointSelectorPage.h"
 #include "pages/PointingPage.h"
 #include "pages/PrivacyAccessPage.h"
 #include "pages/PropertyProviderPage.h"
@@ -58,6 +59,7 @@ QVector<PageInfo> PageRegistry::pages()
         SliderInputPage::info(),
         DoubleSliderInputPage::info(),
         PointPlanePage::info(),
+        PointSelectorPage::info(),
         SpinBoxPage::info(),
         DoubleSpinBoxPage::info(),
         CustomSliderPage::info(),

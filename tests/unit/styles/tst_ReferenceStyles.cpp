@@ -11,6 +11,7 @@
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
+#include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPickerButton.h>
@@ -280,6 +281,7 @@ QMainWindow* makeEverything()
                                      new SliderInputWidget(body, {0, 100}),
                                      new DoubleSliderInputWidget(body, {0.0, 1.0, 2}),
                                      make<PointSelectionPlane>(body),
+                                     new PointSelectorWidget(body, {{0.0, 0.0}, {1.0, 1.0}, 2, 2}),
                                      make<QDialogButtonBox>(body),
                                      new QTableWidget(2, 2, body),
                                      makeDialog(body),

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "LayoutHelpers.h"
+
 #include <QBoxLayout>
+
+#include <initializer_list>
 
 /// The studio's own row or column.
 class OvBoxLayout : public QBoxLayout
@@ -13,6 +17,7 @@ public:
 
     OvBoxLayout* autoFill();
     OvBoxLayout* addStretch(int stretch = 0);
+    void addItems(std::initializer_list<LayoutHelpers::BoxItem> items);
 };
 
 class OvHBoxLayout : public OvBoxLayout

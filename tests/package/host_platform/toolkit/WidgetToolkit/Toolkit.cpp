@@ -1,6 +1,7 @@
 #include "OvBoxLayout.h"
 #include "OvComboBox.h"
 #include "OvFrame.h"
+#include "PropertyProviderBase.h"
 #include "Util.h"
 
 #include <QStyle>
@@ -41,6 +42,13 @@ OvBoxLayout* OvBoxLayout::addStretch(int stretch)
     return this;
 }
 
+void OvBoxLayout::addItems(std::initializer_list<LayoutHelpers::BoxItem> items)
+{
+    for (const LayoutHelpers::BoxItem& item : items) {
+        addWidget(item.widget, item.stretch);
+    }
+}
+
 OvHBoxLayout::OvHBoxLayout(QWidget* owner)
     : OvBoxLayout(LeftToRight, owner)
 {
@@ -55,6 +63,14 @@ OvVBoxLayout::OvVBoxLayout(QWidget* owner)
 
 OvVBoxLayout::~OvVBoxLayout() = default;
 
+PropertyProviderBase::PropertyProviderBase(QWidget* owner)
+    : QWidget(owner)
+{
+    hide();
+}
+
+PropertyProviderBase::~PropertyProviderBase() = default;
+
 OvComboBox::OvComboBox(QWidget* parent)
     : QComboBox(parent)
 {
@@ -62,11 +78,16 @@ OvComboBox::OvComboBox(QWidget* parent)
 
 OvComboBox::~OvComboBox() = default;
 
+void Util::repolishWidget(QWidget* widget)
+{
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+}
+
 void Util::applyProperty(QWidget* widget, const char* name, const QVariant& value)
 {
     widget->setProperty(name, value);
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
+    repolishWidget(widget);
 }
 
 LayoutController* Util::installLayoutController(QWidget*)

@@ -11,6 +11,7 @@ class QWidget;
 
 namespace Util {
 
+void repolishWidget(QWidget* widget);
 void applyProperty(QWidget* widget, const char* name, const QVariant& value);
 
 /// The studio has no layout controllers: margins come from its own style. Always null.

@@ -1,0 +1,183 @@
+#include "PointSelectorWidget.h"
+
+#include "PointSelectionPlane.h"
+#include "StepRange.h"
+
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvDoubleSpinBox.h>
+
+#include <QEvent>
+#include <QLabel>
+#include <QPointer>
+
+#include <cmath>
+
+namespace {
+
+template <typename Layout>
+Layout* makeLayout(QWidget* owner)
+{
+    auto* layout = new Layout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    return layout;
+}
+
+void configure(OvDoubleSpinBox* spinBox, double minimum, double maximum, int decimals)
+{
+    spinBox->setBothDecimalMarksAccepted(true);
+    spinBox->setAlignment(Qt::AlignCenter);
+    spinBox->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
+    spinBox->setSingleStep(StepRange::stepOf(decimals));
+    spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+    spinBox->setMinimum(minimum);
+    spinBox->setMaximum(maximum);
+    spinBox->setDecimals(decimals);
+}
+
+void setNumber(OvDoubleSpinBox* spinBox, double number)
+{
+    if (!std::isnan(number)) { // for which a spin box would take its maximum
+        spinBox->setValue(number);
+    }
+}
+
+} // namespace
+
+class PointSelectorWidget::Private
+{
+public:
+    explicit Private(PointSelectorWidget* field);
+
+    void setTexts() const;
+    QPointF spinBoxValue() const { return {xSpinbox->value(), ySpinbox->value()}; }
+    void followSpinBox(const QPointF& reported);
+    void followPlane(const QPointF& reported);
+
+    PointSelectorWidget* const owner;
+    OvFrame* const spinBoxFrame;
+    OvFrame* const pointSelectorFrame;
+    PointSelectionPlane* const pointSelector;
+    OvFrame* const xSpinboxFrame;
+    QLabel* const xLabel;
+    OvDoubleSpinBox* const xSpinbox;
+    OvFrame* const ySpinboxFrame;
+    QLabel* const yLabel;
+    OvDoubleSpinBox* const ySpinbox;
+    // A value that a slot has set while the spin boxes were following the plane.
+    bool isOverruled = false;
+};
+
+PointSelectorWidget::Private::Private(PointSelectorWidget* field)
+    : owner(field)
+    , spinBoxFrame(new OvFrame(field))
+    , pointSelectorFrame(new OvFrame(field))
+    , pointSelector(new PointSelectionPlane(pointSelectorFrame))
+    , xSpinboxFrame(new OvFrame(spinBoxFrame))
+    , xLabel(new QLabel(xSpinboxFrame))
+    , xSpinbox(new OvDoubleSpinBox(xSpinboxFrame))
+    , ySpinboxFrame(new OvFrame(spinBoxFrame))
+    , yLabel(new QLabel(ySpinboxFrame))
+    , ySpinbox(new OvDoubleSpinBox(ySpinboxFrame))
+{
+    spinBoxFrame->setObjectName(QStringLiteral("spinBoxFrame"));
+    pointSelectorFrame->setObjectName(QStringLiteral("pointSelectorFrame"));
+    pointSelector->setObjectName(QStringLiteral("pointSelector"));
+    xSpinboxFrame->setObjectName(QStringLiteral("xSpinboxFrame"));
+    xLabel->setObjectName(QStringLiteral("xLabel"));
+    xSpinbox->setObjectName(QStringLiteral("xSpinbox"));
+    ySpinboxFrame->setObjectName(QStringLiteral("ySpinboxFrame"));
+    yLabel->setObjectName(QStringLiteral("yLabel"));
+    ySpinbox->setObjectName(QStringLiteral("ySpinbox"));
+
+    makeLayout<OvHBoxLayout>(owner)->addItems({{pointSelectorFrame, 0}, {spinBoxFrame, 0}});
+    makeLayout<OvVBoxLayout>(pointSelectorFrame)->autoFill();
+    makeLayout<OvVBoxLayout>(spinBoxFrame)->addItems({{xSpinboxFrame, 0}, {ySpinboxFrame, 0}});
+    makeLayout<OvHBoxLayout>(xSpinboxFrame)->autoFill();
+    makeLayout<OvHBoxLayout>(ySpinboxFrame)->autoFill();
+
+    // A label asks its buddy's own policy whether there is anything to focus.
+    owner->setFocusPolicy(pointSelector->focusPolicy());
+    owner->setFocusProxy(pointSelector);
+}
+
+void PointSelectorWidget::Private::setTexts() const
+{
+    xSpinbox->setToolTip(tr("Position on the x-axis"));
+    ySpinbox->setToolTip(tr("Position on the y-axis"));
+}
+
+void PointSelectorWidget::Private::followSpinBox(const QPointF& reported)
+{
+    const QPointer<PointSelectorWidget> guard(owner);
+    Q_EMIT owner->valueChanged(reported);
+    if (!guard || owner->updating) {
+        return;
+    }
+    owner->updating = true;
+    // Not what was reported: a slot may have set another value since.
+    pointSelector->setPoint(spinBoxValue());
+    owner->updating = false;
+}
+
+void PointSelectorWidget::Private::followPlane(const QPointF& reported)
+{
+    const QPointer<PointSelectorWidget> guard(owner);
+    Q_EMIT owner->valueChanged(reported);
+    if (!guard || owner->updating) {
+        return;
+    }
+    owner->updating = true;
+    isOverruled = false;
+    // Not what was reported: a slot may have set another value since.
+    const QPointF point = pointSelector->point();
+    setNumber(xSpinbox, point.x());
+    if (!guard) {
+        return;
+    }
+    setNumber(ySpinbox, point.y());
+    if (!guard) {
+        return;
+    }
+    owner->updating = false;
+    if (isOverruled) {
+        pointSelector->setPoint(spinBoxValue());
+    }
+}
+
+PointSelectorWidget::PointSelectorWidget(QWidget* parent, const Initializer& init)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    configure(d->xSpinbox, init.minimum.x(), init.maximum.x(), init.xDecimals);
+    configure(d->ySpinbox, init.minimum.y(), init.maximum.y(), init.yDecimals);
+    d->pointSelector->setLimits(QRectF(init.minimum, init.maximum));
+    d->setTexts();
+    d->pointSelector->setPoint(d->spinBoxValue());
+
+    const auto changed = qOverload<double>(&QDoubleSpinBox::valueChanged);
+    connect(d->xSpinbox, changed, this, [this](double x) { d->followSpinBox({x, d->ySpinbox->value()}); });
+    connect(d->ySpinbox, changed, this, [this](double y) { d->followSpinBox({d->xSpinbox->value(), y}); });
+    connect(d->pointSelector, &PointSelectionPlane::pointChanged, this,
+            [this](const QPointF& point) { d->followPlane(point); });
+}
+
+PointSelectorWidget::~PointSelectorWidget() = default;
+
+void PointSelectorWidget::setValue(const QPointF& value)
+{
+    d->isOverruled = true;
+    const QPointer<PointSelectorWidget> guard(this);
+    setNumber(d->xSpinbox, value.x());
+    if (guard) {
+        setNumber(d->ySpinbox, value.y());
+    }
+}
+
+void PointSelectorWidget::changeEvent(QEvent* e)
+{
+    if (e->type() == QEvent::LanguageChange) {
+        d->setTexts();
+    }
+    OvFrame::changeEvent(e);
+}
