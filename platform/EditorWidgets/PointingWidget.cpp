@@ -527,6 +527,12 @@ bool PointingWidget::event(QEvent* event)
     case QEvent::ParentChange:
         d->parentChanged();
         break;
+    case QEvent::EnabledChange:
+        // It would take no key and no click any more, and still keep them from everybody else.
+        if (windowType() == Qt::Popup && !isEnabled()) {
+            close();
+        }
+        break;
     case QEvent::Close:
         // Closing a bubble that waits for its parent does not reach setVisible().
         d->wanted = d->wanted && !event->isAccepted();

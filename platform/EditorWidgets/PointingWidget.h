@@ -27,9 +27,9 @@ class OvFrame;
  * # Window
  * A bubble is a frameless window of its own (`Qt::Tool`) that shows beyond its parent's rectangle and is
  * shown without being activated. With `setWindowFlags(Qt::Popup | …)` it is a pop-up, which closes on
- * Escape and on a click anywhere outside the painted bubble. With `setWindowFlags(Qt::Widget)` it is a
- * plain child that keeps inside its parent. Only the painted bubble takes the mouse: a click beside the
- * arrow goes to what lies there.
+ * Escape, on a click anywhere outside the painted bubble, and when it is disabled. With
+ * `setWindowFlags(Qt::Widget)` it is a plain child that keeps inside its parent. Only the painted bubble
+ * takes the mouse: a click beside the arrow goes to what lies there.
  *
  * # Place
  * The pixel at the arrow's tip is the target. The bubble stays inside the available area of the target's

@@ -156,6 +156,7 @@ private Q_SLOTS:
     void popupClosesOnClickBesideArrow();
     void popupClosesOnClickOutside();
     void popupClosesOnEscape();
+    void popupClosesWhenDisabled();
     void clickOnContentKeepsPopup();
     void plainChild();
     void plainChildStaysInParent();
@@ -779,6 +780,19 @@ void tst_PointingWidget::popupClosesOnEscape()
     QVERIFY(QTest::qWaitForWindowExposed(&bubble));
     QTest::keyClick(bubble.windowHandle(), Qt::Key_Escape);
     QVERIFY(!bubble.isVisible());
+}
+
+// A disabled pop-up would hear no key and no click, and keep them from everybody else.
+void tst_PointingWidget::popupClosesWhenDisabled()
+{
+    QWidget parent;
+    parent.show();
+    PointingWidget bubble(&parent);
+    bubble.setWindowFlags(asPopup);
+    bubble.show();
+    parent.setEnabled(false);
+    QVERIFY(!bubble.isVisible());
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 void tst_PointingWidget::clickOnContentKeepsPopup()

@@ -1,0 +1,261 @@
+#include "DialogGuideWidget.h"
+
+#include "WrappedLabelHeight.h"
+
+#include <ApplicationUtility/Customization.h>
+#include <FileSystem/FS.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvFrame.h>
+#include <WidgetToolkit/OvPixmapWidget.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QStyle>
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+/// A slot of its click may delete it. QToolButton would then write into it to forget which part of a split
+/// button was pressed, which this one is not.
+class CloseButton : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
+    }
+};
+
+template <typename Widget>
+Widget* named(const char* name, Widget* widget)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+template <typename Layout>
+Layout* makeLayout(QWidget* owner)
+{
+    auto* layout = new Layout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    return layout;
+}
+
+int widthInside(const OvFrame* frame)
+{
+    const QMargins margins = frame->getLayout()->contentsMargins();
+    return frame->width() - margins.left() - margins.right();
+}
+
+} // namespace
+
+class DialogGuideWidget::Private
+{
+public:
+    explicit Private(DialogGuideWidget* bubble);
+
+    void watchParent();
+    void retranslate();
+    void layOut();
+    void settle();
+
+    DialogGuideWidget* const owner;
+    OvFrame* const contentFrame;
+    OvFrame* const headerFrame;
+    QLabel* const headerLabel;
+    QToolButton* const closeButton;
+    OvFrame* const descriptionFrame;
+    OvFrame* const buttonsFrame;
+    OvPixmapWidget* const gifPixmapWidget;
+    QLabel* const descriptionLabel;
+    QPushButton* const secondaryButton;
+    QPushButton* const mainButton;
+
+    WrappedLabelHeight headerHeight;
+    WrappedLabelHeight descriptionHeight;
+    QPointer<QWidget> watched;
+};
+
+DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
+    : owner(bubble)
+    , contentFrame(bubble->contentFrame())
+    , headerFrame(named("headerFrame", new OvFrame(contentFrame)))
+    , headerLabel(named("headerLabel", new QLabel(headerFrame)))
+    , closeButton(named("closeButton", new CloseButton(headerFrame)))
+    , descriptionFrame(named("descriptionFrame", new OvFrame(contentFrame)))
+    , buttonsFrame(named("buttonsFrame", new OvFrame(contentFrame)))
+    , gifPixmapWidget(named("gifPixmapWidget", new OvPixmapWidget(descriptionFrame)))
+    , descriptionLabel(named("descriptionLabel", new QLabel(descriptionFrame)))
+    , secondaryButton(named("secondaryButton", new QPushButton(buttonsFrame)))
+    , mainButton(named("mainButton", new QPushButton(buttonsFrame)))
+    , headerHeight(headerLabel)
+    , descriptionHeight(descriptionLabel)
+{
+    headerLabel->setWordWrap(true);
+    descriptionLabel->setWordWrap(true);
+    // Legible without a sheet; a sheet's qproperty-icon wins.
+    closeButton->setIcon(owner->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+
+    makeLayout<OvVBoxLayout>(descriptionFrame)->autoFill();
+    auto* header = makeLayout<OvHBoxLayout>(headerFrame);
+    header->autoFill();
+    // In its corner also beside a heading of several lines, and beside none.
+    header->setAlignment(closeButton, Qt::AlignRight | Qt::AlignTop);
+    makeLayout<OvVBoxLayout>(contentFrame)->autoFill()->addStretch(0);
+    makeLayout<OvHBoxLayout>(buttonsFrame)
+        ->addItems({{LayoutHelpers::SpacerPolicy::Stretch, 1}, {secondaryButton, 0}, {mainButton, 0}});
+
+    Util::applyStyleHint(secondaryButton, QStringLiteral("guideButton"));
+    Util::applyStyleHint(mainButton, QStringLiteral("guideMainButton"));
+    retranslate();
+}
+
+void DialogGuideWidget::Private::watchParent()
+{
+    QWidget* const parent = owner->parentWidget();
+    if (watched == parent) {
+        return;
+    }
+    if (watched) {
+        watched->removeEventFilter(owner);
+    }
+    watched = parent;
+    if (parent) {
+        parent->installEventFilter(owner);
+    }
+}
+
+void DialogGuideWidget::Private::retranslate()
+{
+    closeButton->setAccessibleName(tr("Close"));
+}
+
+/// Brings all layouts up to date now: by itself a change goes up one frame with each event that is posted.
+void DialogGuideWidget::Private::layOut()
+{
+    for (OvFrame* frame : {headerFrame, descriptionFrame, buttonsFrame, contentFrame}) {
+        frame->layout()->activate();
+        frame->updateGeometry();
+    }
+    QEvent request(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(owner, &request);
+}
+
+void DialogGuideWidget::Private::settle()
+{
+    layOut();
+    owner->updateContent();
+    layOut();
+    owner->adjustSize();
+    // A bubble has a size of its own, without the limits of other windows.
+    layOut();
+    owner->adjustPositions();
+}
+
+DialogGuideWidget::DialogGuideWidget(QWidget* parent)
+    : PointingWidget(parent)
+    , d(std::make_unique<Private>(this))
+{
+    connect(d->closeButton, &QAbstractButton::clicked, this, &DialogGuideWidget::closeClicked);
+    connect(d->mainButton, &QAbstractButton::clicked, this, &DialogGuideWidget::mainClicked);
+    connect(d->secondaryButton, &QAbstractButton::clicked, this, &DialogGuideWidget::secondaryClicked);
+    d->watchParent();
+}
+
+DialogGuideWidget::~DialogGuideWidget() = default;
+
+void DialogGuideWidget::setInfo(const DialogGuideInfo& info)
+{
+    d->mainButton->setText(info.mainButtonText);
+    d->secondaryButton->setText(info.secondaryButtonText);
+    d->headerLabel->setText(Customization::localeDependedBoldText(info.title));
+    d->descriptionLabel->setText(info.description);
+    d->gifPixmapWidget->setMoviePath(info.moviePath);
+    d->gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
+    d->headerLabel->setVisible(!info.title.isEmpty());
+    setWindowTitle(info.title);
+    QTimer::singleShot(0, this, [this] { d->settle(); });
+}
+
+void DialogGuideWidget::setCloseButtonVisible(bool visible)
+{
+    d->closeButton->setVisible(visible);
+}
+
+void DialogGuideWidget::setSecondaryButtonVisible(bool visible)
+{
+    d->secondaryButton->setVisible(visible);
+}
+
+void DialogGuideWidget::updateContent()
+{
+    ensurePolished();
+    d->descriptionHeight.fit(widthInside(d->descriptionFrame));
+
+    int width = widthInside(d->headerFrame);
+    if (d->closeButton->isVisible()) {
+        width -= d->closeButton->width() + d->headerFrame->getLayout()->spacing();
+    }
+    d->headerHeight.fit(width);
+}
+
+void DialogGuideWidget::adjustPositions()
+{
+    pointTo(targetPoint());
+}
+
+bool DialogGuideWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parent()) {
+        switch (event->type()) {
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::Show:
+            adjustPositions();
+            break;
+        default:
+            break;
+        }
+    }
+    return PointingWidget::eventFilter(watched, event);
+}
+
+void DialogGuideWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ParentChange) {
+        d->watchParent();
+    } else if (event->type() == QEvent::LanguageChange) {
+        d->retranslate();
+    }
+    PointingWidget::changeEvent(event);
+}
+
+void DialogGuideWidget::paintEvent(QPaintEvent* event)
+{
+    adjustPositions();
+    PointingWidget::paintEvent(event);
+}
+
+void DialogGuideWidget::showEvent(QShowEvent* event)
+{
+    // The frames of a hidden bubble have no width that texts could have been measured for.
+    d->layOut();
+    updateContent();
+    PointingWidget::showEvent(event);
+}
+
+void DialogGuideWidget::resizeEvent(QResizeEvent* event)
+{
+    PointingWidget::resizeEvent(event);
+    adjustPositions();
+}

@@ -1,0 +1,79 @@
+#include "GuideButton.h"
+
+#include "GuideWidget.h"
+
+#include <EditorWidgets/PointingWidget.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/Util.h>
+
+#include <utility>
+
+GuideButton::GuideButton(QWidget* parent)
+    : QToolButton(parent)
+{
+    connect(this, &QAbstractButton::clicked, this, &GuideButton::showHelp);
+}
+
+GuideButton::~GuideButton() = default;
+
+void GuideButton::setGuideInfo(std::unique_ptr<GuideInfo> info)
+{
+    m_guideInfo = std::move(info);
+}
+
+bool GuideButton::hasGuideInfo() const
+{
+    return m_guideInfo != nullptr;
+}
+
+void GuideButton::hideEvent(QHideEvent* event)
+{
+    QToolButton::hideEvent(event);
+    if (m_pointingWidget) {
+        m_pointingWidget->hide();
+    }
+}
+
+void GuideButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    // A click may delete the button. QToolButton would then write into it to forget which part was
+    // pressed, which only a split button ever asks.
+    if (popupMode() == MenuButtonPopup) {
+        QToolButton::mouseReleaseEvent(event);
+    } else {
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
+    }
+}
+
+void GuideButton::showHelp()
+{
+    // Kept: deleting the old pop-up moves the focus, and those who watch that may take the info away.
+    const std::shared_ptr<const GuideInfo> info = m_guideInfo;
+    if (!info) {
+        return;
+    }
+    delete m_pointingWidget.data();
+
+    m_pointingWidget = new PointingWidget(this);
+    m_pointingWidget->setObjectName(Util::Details::removeClassMemberPrefix("m_pointingWidget"));
+    m_pointingWidget->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    m_pointingWidget->setAttribute(Qt::WA_TranslucentBackground);
+    m_pointingWidget->setWindowTitle(info->title);
+    m_pointingWidget->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Center);
+
+    m_guideWidget = new GuideWidget(GuideInfo(), m_pointingWidget);
+    m_guideWidget->setObjectName(Util::Details::removeClassMemberPrefix("m_guideWidget"));
+    connect(m_guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
+
+    auto* layout = new OvVBoxLayout(m_pointingWidget->contentFrame());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_guideWidget);
+    // Not before: by its name and place a sheet gives it the width that its texts are measured for.
+    m_guideWidget->setInfo(*info);
+
+    m_pointingWidget->setArrowOffset(m_popupOffset);
+    m_pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));
+    m_pointingWidget->show();
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <UiComponents/GuideInfo.h>
+#include <UiComponents/UiComponentsExport.h>
+
+#include <QPointer>
+#include <QToolButton>
+
+#include <memory>
+
+class GuideWidget;
+class PointingWidget;
+
+// The property is written by style sheets and hosts, and nobody waits for it to change.
+// clazy:excludeall=qproperty-without-notify
+
+/**
+ * A tool button that opens a guide in a bubble below itself.
+ *
+ *     auto* button = new GuideButton(panel);
+ *     button->setText(QStringLiteral("?"));
+ *     button->setGuideInfo(std::make_unique<GuideInfo>(title, description, link, movie));
+ *
+ * Without an info a click does nothing.
+ *
+ * # Pop-up
+ * Each click builds a new PointingWidget, a pop-up with a GuideWidget in it, whose arrow touches the middle
+ * of the button's lower edge; the one of an earlier click is deleted first. Near an edge of the screen the
+ * pop-up stays on the screen and may lie above the button (see PointingWidget). It goes with the button when
+ * that moves, and closes on Escape, on a click elsewhere and when the button hides; the keyboard is then
+ * where it was before. A closed pop-up lives on, idle, until the next click or the end of the button.
+ *
+ * On X11 a click on the button while its pop-up is open only closes it, for the press belongs to the pop-up.
+ * Platforms that pass such a press on to what lies there open a new one, and so does click() by code.
+ *
+ * # Style sheet
+ * The pop-up is named "pointingWidget" and its guide "guideWidget"; both are below the button:
+ *
+ *     GuideButton > PointingWidget { qproperty-radius: 8; }
+ *     #guideWidget { min-width: 280px; max-width: 280px; }
+ *
+ * # Lifetime
+ * A slot of clicked() or learnMoreClicked() may delete the button and everything around it.
+ */
+class UICOMPONENTS_EXPORT GuideButton : public QToolButton
+{
+    Q_OBJECT
+    /// Shifts the arrow of the pop-up along its side, in pixels, as PointingWidget::setArrowOffset() does: 0
+    /// by default, any value. Takes effect at the next click.
+    Q_PROPERTY(int popupOffset MEMBER m_popupOffset)
+
+public:
+    /// @p parent owns the button as usual.
+    explicit GuideButton(QWidget* parent = nullptr);
+    ~GuideButton() override;
+
+    /// Takes @p info; null takes the present one away. An open pop-up stays as it is: the next click shows
+    /// the new info.
+    void setGuideInfo(std::unique_ptr<GuideInfo> info);
+
+    bool hasGuideInfo() const;
+
+Q_SIGNALS:
+    /// The user followed the link in the pop-up: GuideWidget::learnMoreClicked(), passed on.
+    void learnMoreClicked();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void showHelp();
+
+    std::shared_ptr<GuideInfo> m_guideInfo;
+    QPointer<PointingWidget> m_pointingWidget;
+    QPointer<GuideWidget> m_guideWidget;
+    int m_popupOffset = 0;
+};

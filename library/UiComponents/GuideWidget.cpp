@@ -1,0 +1,172 @@
+#include "GuideWidget.h"
+
+#include "WrappedLabelHeight.h"
+
+#include <ApplicationUtility/Customization.h>
+#include <FileSystem/FS.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvPixmapWidget.h>
+
+#include <QDesktopServices>
+#include <QFocusEvent>
+#include <QLabel>
+#include <QMovie>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QTextDocument>
+#include <QUrl>
+
+namespace {
+
+const Qt::TextInteractionFlags linkByMouse = Qt::LinksAccessibleByMouse;
+const Qt::TextInteractionFlags linkByMouseAndKeyboard = linkByMouse | Qt::LinksAccessibleByKeyboard;
+
+/// Tab stops at the link at once. QLabel's own first stop is the text, where Enter does nothing.
+class LinkLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLabel::focusInEvent(event);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+            focusNextPrevChild(true);
+        }
+    }
+
+    bool focusNextPrevChild(bool next) override
+    {
+        // Backwards QLabel finds the first link again and again, and the focus never leaves it.
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        return next ? QLabel::focusNextPrevChild(next) : QFrame::focusNextPrevChild(next);
+    }
+};
+
+template <typename Label>
+QLabel* makeLabel(const QString& name, QWidget* parent)
+{
+    auto* label = new Label(parent);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    return label;
+}
+
+/// Whether Tab has something to stop at.
+bool hasLink(const QString& text)
+{
+    static const QRegularExpression anchor(QStringLiteral("<a\\s[^>]*href\\s*="),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return Qt::mightBeRichText(text) && text.contains(anchor);
+}
+
+} // namespace
+
+class GuideWidget::Private
+{
+public:
+    Private(GuideWidget* guide, const GuideInfo& guideInfo);
+
+    void update();
+    void followLink(const QString& link);
+
+    GuideWidget* const owner;
+    QLabel* const headerLabel;
+    OvPixmapWidget* const gifPixmapWidget;
+    QLabel* const descriptionLabel;
+    QLabel* const learnMoreLabel;
+
+    GuideInfo info;
+    WrappedLabelHeight headerHeight;
+    WrappedLabelHeight descriptionHeight;
+};
+
+GuideWidget::Private::Private(GuideWidget* guide, const GuideInfo& guideInfo)
+    : owner(guide)
+    , headerLabel(makeLabel<QLabel>(QStringLiteral("headerLabel"), guide))
+    , gifPixmapWidget(new OvPixmapWidget(guide))
+    , descriptionLabel(makeLabel<QLabel>(QStringLiteral("descriptionLabel"), guide))
+    , learnMoreLabel(makeLabel<LinkLabel>(QStringLiteral("learnMoreLabel"), guide))
+    , info(guideInfo)
+    , headerHeight(headerLabel)
+    , descriptionHeight(descriptionLabel)
+{
+    gifPixmapWidget->setObjectName(QStringLiteral("gifPixmapWidget"));
+    learnMoreLabel->setOpenExternalLinks(false);
+
+    auto* layout = new OvVBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill();
+}
+
+void GuideWidget::Private::update()
+{
+    headerLabel->setVisible(!info.title.isEmpty());
+    headerLabel->setText(Customization::localeDependedBoldText(info.title));
+    gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
+    gifPixmapWidget->setMoviePath(info.moviePath);
+    descriptionLabel->setVisible(!info.description.isEmpty());
+    descriptionLabel->setText(info.description);
+    learnMoreLabel->setVisible(!info.learnMore.isEmpty());
+    learnMoreLabel->setText(info.learnMore);
+    learnMoreLabel->setTextInteractionFlags(hasLink(info.learnMore) ? linkByMouseAndKeyboard : linkByMouse);
+
+    owner->ensurePolished();
+    const int width = owner->width();
+    descriptionHeight.fit(width);
+    headerHeight.fit(width);
+}
+
+void GuideWidget::Private::followLink(const QString& link)
+{
+    // An application's own handler of URLs may do anything.
+    const QPointer<GuideWidget> guide = owner;
+    QDesktopServices::openUrl(QUrl(link));
+    if (guide) {
+        Q_EMIT guide->learnMoreClicked();
+    }
+}
+
+GuideWidget::GuideWidget(const GuideInfo& info, QWidget* parent)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this, info))
+{
+    d->update();
+    connect(d->learnMoreLabel, &QLabel::linkActivated, this,
+            [this](const QString& link) { d->followLink(link); });
+}
+
+GuideWidget::~GuideWidget() = default;
+
+void GuideWidget::setInfo(const GuideInfo& info)
+{
+    if (d->info == info) {
+        return;
+    }
+    d->info = info;
+    d->update();
+    adjustSize();
+}
+
+void GuideWidget::showEvent(QShowEvent* event)
+{
+    OvFrame::showEvent(event);
+    const QPointer<QMovie> movie = d->gifPixmapWidget->movie();
+    if (movie && movie->state() == QMovie::Running) {
+        movie->stop();
+    }
+    // Those who watch the movie may have done away with it.
+    if (movie) {
+        movie->start();
+    }
+}
+
+void GuideWidget::hideEvent(QHideEvent* event)
+{
+    OvFrame::hideEvent(event);
+    if (QMovie* const movie = d->gifPixmapWidget->movie()) {
+        movie->stop();
+    }
+}
