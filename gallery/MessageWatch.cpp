@@ -7,10 +7,11 @@ namespace {
 // The handler is a plain function, so the watch in use has to be found without it.
 MessageWatch* current = nullptr;
 
-/// Qt's off-screen platform says this of every window with a smallest size; it is nobody's fault.
+/// Qt's off-screen platform says so of windows with a smallest size or a mask, and of pop-ups, which take
+/// the keyboard; it is nobody's fault.
 bool isPlatformRemark(const QString& message)
 {
-    return message == QLatin1String("This plugin does not support propagateSizeHints()");
+    return message.startsWith(QLatin1String("This plugin does not support "));
 }
 
 } // namespace

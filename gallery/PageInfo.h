@@ -12,6 +12,7 @@ enum class PageGroup {
     Inputs,
     Layout,
     Bubbles,
+    Guides,
     Services,
 };
 

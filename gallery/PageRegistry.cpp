@@ -13,11 +13,14 @@
 #include "pages/ComboBoxPage.h"
 #include "pages/CustomSliderPage.h"
 #include "pages/CustomizationPage.h"
+#include "pages/DialogGuidePage.h"
 #include "pages/DoubleSliderInputPage.h"
 #include "pages/DoubleSliderPage.h"
 #include "pages/DoubleSpinBoxPage.h"
 #include "pages/FormatFileSizePage.h"
 #include "pages/FramePage.h"
+#include "pages/GuideButtonPage.h"
+#include "pages/GuidePage.h"
 #include "pages/HighlightFramePage.h"
 #include "pages/PathPage.h"
 #include "pages/PixmapWidgetPage.h"
@@ -83,6 +86,10 @@ QVector<PageInfo> PageRegistry::pages()
         WorkaroundPage::info(),
         HighlightFramePage::info(),
         PixmapWidgetPage::info(),
+        // guides and dialogs
+        GuidePage::info(),
+        GuideButtonPage::info(),
+        DialogGuidePage::info(),
         // services
         FormatFileSizePage::info(),
         PathPage::info(),
@@ -116,6 +123,8 @@ QString PageRegistry::groupTitle(PageGroup group)
         return QCoreApplication::translate("PageRegistry", "Layout and styling");
     case PageGroup::Bubbles:
         return QCoreApplication::translate("PageRegistry", "Bubbles and frames");
+    case PageGroup::Guides:
+        return QCoreApplication::translate("PageRegistry", "Guides and dialogs");
     case PageGroup::Services:
         return QCoreApplication::translate("PageRegistry", "Services");
     }

@@ -9,7 +9,9 @@
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/GuideWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SearchWidget.h>
@@ -224,6 +226,21 @@ PointingWidget* makeBubble(QWidget* parent)
     return bubble;
 }
 
+GuideInfo guideInfo()
+{
+    return {QStringLiteral("Title"), QStringLiteral("Description"),
+            QStringLiteral("<a href=\"x:y\">Link</a>"), QString()};
+}
+
+DialogGuideWidget* makeDialogGuide(QWidget* parent)
+{
+    auto* guide = new DialogGuideWidget(parent);
+    guide->setWindowFlags(Qt::Widget);
+    guide->setInfo({QStringLiteral("Title"), QStringLiteral("Description"), QStringLiteral("Next"),
+                    QStringLiteral("Back"), QString()});
+    return guide;
+}
+
 /// A window for one child, without a layout and so without the size hints that the platform cannot take.
 class Host : public QWidget
 {
@@ -288,7 +305,9 @@ QMainWindow* makeEverything()
                                      make<Orvane::Tessel::TesselLineEdit>(body),
                                      make<SearchWidget>(body),
                                      make<OvPixmapWidget>(body),
-                                     makeBubble(body)};
+                                     makeBubble(body),
+                                     new GuideWidget(guideInfo(), body),
+                                     makeDialogGuide(body)};
     for (QWidget* widget : plain) {
         layout->addWidget(widget);
     }
@@ -426,6 +445,7 @@ private Q_SLOTS:
     void sliderIsFilledFromItsLeastValue();
     void colorFieldTakesItsMetrics();
     void bubbleTakesItsLook();
+    void guidesTakeTheirLook();
     void outlineTakesItsLook();
     void droppedHintRestoresTheLook();
     void labelsShowTheirSurface();
@@ -903,6 +923,38 @@ void tst_ReferenceStyles::bubbleTakesItsLook()
     QCOMPARE(bubble->contentFrame()->layout()->spacing(), 8);
     // The content shows the bubble's surface, not one of its own.
     QCOMPARE(bubble->grab().toImage().pixelColor(bubble->contentFrame()->geometry().center() + QPoint(0, 12)),
+             colors.value(QStringLiteral("popup")));
+}
+
+void tst_ReferenceStyles::guidesTakeTheirLook()
+{
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    const QHash<QString, QColor> colors = paletteOf(styles().first());
+    Host host;
+    auto* guide = new GuideWidget(guideInfo(), &host);
+    // In time for its texts, which are measured in the constructor.
+    QCOMPARE(guide->width(), 280);
+    QVERIFY(host.present(guide));
+    QCOMPARE(guide->width(), 280);
+    QCOMPARE(guide->layout()->spacing(), 8);
+    QCOMPARE(guide->findChild<QLabel*>(QStringLiteral("headerLabel"))->palette().color(QPalette::WindowText),
+             colors.value(QStringLiteral("textStrong")));
+
+    Host otherHost;
+    DialogGuideWidget* const bubble = makeDialogGuide(&otherHost);
+    QVERIFY(otherHost.present(bubble));
+    QCoreApplication::processEvents();
+    QCOMPARE(bubble->width(), 328);
+    QCOMPARE(bubble->backgroundColor(), colors.value(QStringLiteral("popup")));
+    QCOMPARE(bubble->contentFrame()->layout()->spacing(), 8);
+    QCOMPARE(bubble->findChild<QWidget*>(QStringLiteral("buttonsFrame"))->layout()->spacing(), 8);
+    auto* close = bubble->findChild<QToolButton*>(QStringLiteral("closeButton"));
+    QCOMPARE(close->iconSize(), QSize(10, 10));
+    const QImage enabled = close->icon().pixmap(10, QIcon::Normal).toImage();
+    QVERIFY(!enabled.isNull());
+    QVERIFY(close->icon().pixmap(10, QIcon::Disabled).toImage() != enabled);
+    // It stands out by its surface only while it is touched.
+    QCOMPARE(bubble->grab().toImage().pixelColor(close->mapTo(bubble, QPoint(4, 4))),
              colors.value(QStringLiteral("popup")));
 }
 
