@@ -23,6 +23,7 @@
 #include "pages/GuidePage.h"
 #include "pages/HighlightFramePage.h"
 #include "pages/PathPage.h"
+#include "pages/PathSelectionPage.h"
 #include "pages/PixmapWidgetPage.h"
 #include "pages/PointPlanePage.h"
 #include "pages/PointSelectorPage.h"
@@ -72,6 +73,7 @@ QVector<PageInfo> PageRegistry::pages()
         TesselLineEditPage::info(),
         TesselElegantSliderPage::info(),
         TesselComboBoxPage::info(),
+        PathSelectionPage::info(),
         SearchPage::info(),
         AdjustingListPage::info(),
         // layout and styling

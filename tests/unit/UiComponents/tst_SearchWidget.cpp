@@ -182,6 +182,7 @@ private Q_SLOTS:
     void leavingReportsOnce();
     void emptiedFieldFinishesByEnter();
     void emptiedFieldFinishesByLeaving();
+    void fieldClearedByTheButtonFinishesByLeaving();
     void untouchedFieldReportsNothing();
     void reportIsMadeBeforeTheSlotFinishesAgain();
     void deactivatedWindowFinishes();
@@ -559,6 +560,26 @@ void tst_SearchWidget::emptiedFieldFinishesByLeaving()
     Protocol protocol(window.search);
     window.other->setFocus();
     QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
+    window.edit()->setFocus();
+    window.other->setFocus();
+    QCOMPARE(protocol.taken(), QStringList());
+}
+
+void tst_SearchWidget::fieldClearedByTheButtonFinishesByLeaving()
+{
+    Window window;
+    QVERIFY(window.present());
+    window.edit()->setFocus();
+    QTest::keyClicks(window.edit(), QStringLiteral("a"));
+    QTest::keyClick(window.edit(), Qt::Key_Return);
+    QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
+    Protocol protocol(window.search);
+    QStringList hints;
+    connect(window.search, &SearchWidget::editingFinished, this,
+            [&] { hints += window.search->property("focusHint").toString(); });
+    window.other->setFocus();
+    QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
+    QCOMPARE(hints, QStringList({QStringLiteral("false")}));
     window.edit()->setFocus();
     window.other->setFocus();
     QCOMPARE(protocol.taken(), QStringList());

@@ -12,6 +12,7 @@
 #include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/GuideWidget.h>
+#include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SearchWidget.h>
@@ -203,6 +204,20 @@ WidgetColorPickerButton* makePickingButton(QWidget* parent)
     return button;
 }
 
+PathSelectionWidget* makePath(QWidget* parent)
+{
+    auto* field = new PathSelectionWidget(parent);
+    field->setPath(QStringLiteral("/path"));
+    field->setDefaultPath(QStringLiteral("/default"), QString());
+    return field;
+}
+
+/// Changes a part of the widget, by its object name.
+Change inPart(const char* name, const Change& change)
+{
+    return [name, change](QWidget* widget) { change(widget->findChild<QWidget*>(QLatin1String(name))); };
+}
+
 SearchWidget* makeSearch(QWidget* parent)
 {
     auto* search = new SearchWidget(parent);
@@ -304,6 +319,7 @@ QMainWindow* makeEverything()
                                      makeDialog(body),
                                      make<Orvane::Tessel::TesselLineEdit>(body),
                                      make<SearchWidget>(body),
+                                     makePath(body),
                                      make<OvPixmapWidget>(body),
                                      makeBubble(body),
                                      new GuideWidget(guideInfo(), body),
@@ -742,8 +758,18 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
         row("SearchWidget", "hover", makeSearch, hover);
         row("SearchWidget", "disabled", makeSearch, disable);
         row("SearchWidget", "focusHint", makeSearch, withProperty("focusHint", true));
-        row("SearchWidget", "hovered", makeSearch,
-            [](QWidget* widget) { Util::applyProperty(widget->findChild<QLabel*>(), "hovered", true); });
+        row("SearchWidget", "hovered", makeSearch, inPart("searchIcon", withProperty("hovered", true)));
+        const char* const frame = "pathSelectionFrame";
+        row("PathSelectionWidget", "error", makePath, inPart(frame, withHint("error")));
+        row("PathSelectionWidget", "hover", makePath, inPart(frame, hover));
+        row("PathSelectionWidget", "focusHint", makePath, inPart(frame, withProperty("focusHint", true)));
+        row("PathSelectionWidget", "disabled", makePath, disable);
+        for (const char* button : {"pathBrowseButton", "pathResetButton"}) {
+            row(button, "hover", makePath, inPart(button, hover));
+            row(button, "pressed", makePath, inPart(button, press));
+            row(button, "focus", makePath, inPart(button, focus));
+            row(button, "disabled", makePath, inPart(button, disable));
+        }
         row("ColorPickerButton", "nullColor", makeColorButton,
             [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(QColor()); });
         row("ColorPickerButton", "multiColor", makeColorButton,
@@ -802,6 +828,7 @@ void tst_ReferenceStyles::controlsHaveOneHeight()
                                         makeCombo<QComboBox>(&window),
                                         makeColorButton(&window),
                                         new ColorInputWidget(&window, QColor()),
+                                        makePath(&window),
                                         makeSearch(&window)};
     QStringList others;
     for (QWidget* control : controls) {

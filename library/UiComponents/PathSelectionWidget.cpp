@@ -1,0 +1,465 @@
+#include "PathSelectionWidget.h"
+
+#include "FieldButton.h"
+
+#include <DesignElements/TesselLineEdit.h>
+#include <EditorUtility/FileUtil.h>
+#include <QtUtility/FormatFileSize.h>
+#include <QtUtility/Scheduler.h>
+#include <Settings/StandardFolderUrls.h>
+#include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/Util.h>
+
+#include <QDir>
+#include <QEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QUrl>
+
+#include <optional>
+
+using Orvane::Tessel::TesselLineEdit;
+
+namespace {
+
+constexpr int reportDelayMs = 100;
+
+constexpr char notReadable[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Selected path is not readable");
+constexpr char notWritable[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Selected path is not writable");
+constexpr char required[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Required: %1");
+constexpr char available[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Available: %1");
+
+/// Tool tips take a text for rich text when it looks like that.
+QString literalToolTip(const QString& text)
+{
+    if (!Qt::mightBeRichText(text)) {
+        return text;
+    }
+    return QStringLiteral("<span style=\"white-space: pre-wrap\">") + text.toHtmlEscaped() +
+           QStringLiteral("</span>");
+}
+
+/// A line about the space on a disk. Knows its figure, to write it anew in another language.
+class SpaceFigure
+{
+public:
+    SpaceFigure(QLabel* label, const char* text)
+        : m_label(label)
+        , m_text(text)
+    {
+    }
+
+    void show(bool visible, qint64 bytes)
+    {
+        m_bytes = bytes;
+        write();
+        m_label->setVisible(visible);
+    }
+
+    void retranslate()
+    {
+        if (m_bytes) {
+            write();
+        }
+    }
+
+private:
+    void write()
+    {
+        using namespace Orvane::Util;
+        const QString size =
+            *m_bytes < 0 ? QStringLiteral("...") : FormatFileSize(*m_bytes, -1, FileSizeUnit::Auto, 1024);
+        m_label->setText(PathSelectionWidget::tr(m_text).arg(size));
+    }
+
+    QLabel* const m_label;
+    const char* const m_text;
+    std::optional<qint64> m_bytes;
+};
+
+struct PathError
+{
+    QString message;
+    /// The same untranslated, where it is one of ours.
+    const char* source = nullptr;
+};
+
+OvFrame* makeFrame(const char* name, QWidget* parent)
+{
+    auto* frame = new OvFrame(parent);
+    frame->setObjectName(QLatin1String(name));
+    return frame;
+}
+
+QLabel* makeLabel(const char* name, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    return label;
+}
+
+QToolButton* makeButton(const char* name, QWidget* parent)
+{
+    auto* button = new FieldButton(parent);
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+
+template <typename Layout>
+OvBoxLayout* layOut(QWidget* widget)
+{
+    auto* layout = new Layout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    return layout->autoFill();
+}
+
+} // namespace
+
+class PathSelectionWidget::Private
+{
+public:
+    explicit Private(PathSelectionWidget* widget);
+
+    bool isDefaultPathShownByText(const QString& newPath) const;
+    bool writeText(const QString& text);
+    void handleFocus(bool hasFocus);
+    PathError findError() const;
+    void showError(const PathError& error);
+    void retranslate();
+
+    PathSelectionWidget* const owner;
+    OvFrame* const spaceInfoFrame;
+    QLabel* const requiredLabel;
+    QLabel* const availableLabel;
+    OvFrame* const pathSelectionFrame;
+    TesselLineEdit* const pathLineEdit;
+    QToolButton* const pathBrowseButton;
+    QToolButton* const pathResetButton;
+    QLabel* const errorLabel;
+    Orvane::Util::Scheduler<PathSelectionWidget> scheduler;
+    ErrorDisplayType errorDisplayType = Tooltip;
+    QString path;
+    QString defaultPath;
+    QString defaultDisplayText;
+    std::function<QString(const QString&)> checkFunction;
+    bool settingPath = false;
+    SpaceFigure requiredSpace;
+    SpaceFigure availableSpace;
+    PathError shownError;
+};
+
+namespace {
+
+/// Tells for its lifetime that it is the widget itself that writes into the line edit. Listeners of the line
+/// edit may delete the widget meanwhile.
+class OwnWriting
+{
+public:
+    OwnWriting(const PathSelectionWidget* widget, bool* flag)
+        : m_widget(widget)
+        , m_flag(flag)
+        , m_before(*flag)
+    {
+        *m_flag = true;
+    }
+    ~OwnWriting()
+    {
+        if (m_widget) {
+            *m_flag = m_before;
+        }
+    }
+    OwnWriting(const OwnWriting&) = delete;
+    OwnWriting& operator=(const OwnWriting&) = delete;
+
+private:
+    const QPointer<const PathSelectionWidget> m_widget;
+    bool* const m_flag;
+    const bool m_before;
+};
+
+} // namespace
+
+PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
+    : owner(widget)
+    , spaceInfoFrame(makeFrame("spaceInfoFrame", widget))
+    , requiredLabel(makeLabel("requiredLabel", spaceInfoFrame))
+    , availableLabel(makeLabel("availableLabel", spaceInfoFrame))
+    , pathSelectionFrame(makeFrame("pathSelectionFrame", widget))
+    , pathLineEdit(new TesselLineEdit(pathSelectionFrame))
+    , pathBrowseButton(makeButton("pathBrowseButton", pathSelectionFrame))
+    , pathResetButton(makeButton("pathResetButton", pathSelectionFrame))
+    , errorLabel(makeLabel("errorLabel", widget))
+    , scheduler(widget, &PathSelectionWidget::requestPathChanged, reportDelayMs)
+    , requiredSpace(requiredLabel, required)
+    , availableSpace(availableLabel, available)
+{
+    pathLineEdit->setObjectName(QStringLiteral("pathLineEdit"));
+    layOut<OvVBoxLayout>(owner);
+    layOut<OvHBoxLayout>(spaceInfoFrame)->addStretch(0);
+    layOut<OvHBoxLayout>(pathSelectionFrame)->setStretch(0, 1);
+
+    Util::applyProperty(pathLineEdit, "kitVersion", QStringLiteral("1.0"));
+    Util::applyStyleHint(errorLabel, QStringLiteral("error"));
+    errorLabel->setTextFormat(Qt::PlainText);
+    // A message quotes paths, whose length must not become the width of the panel.
+    errorLabel->setWordWrap(true);
+    QSizePolicy policy = errorLabel->sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    errorLabel->setSizePolicy(policy);
+
+    for (QWidget* hidden : {static_cast<QWidget*>(spaceInfoFrame), static_cast<QWidget*>(requiredLabel),
+                            static_cast<QWidget*>(availableLabel), static_cast<QWidget*>(pathResetButton),
+                            static_cast<QWidget*>(errorLabel)}) {
+        hidden->hide();
+    }
+}
+
+bool PathSelectionWidget::Private::isDefaultPathShownByText(const QString& newPath) const
+{
+    return !defaultPath.isEmpty() && !defaultDisplayText.isEmpty() && newPath == defaultPath;
+}
+
+/// Returns whether the widget is still there.
+bool PathSelectionWidget::Private::writeText(const QString& text)
+{
+    const QPointer<PathSelectionWidget> self = owner;
+    const OwnWriting writing(owner, &settingPath);
+    pathLineEdit->setText(text);
+    return self;
+}
+
+void PathSelectionWidget::Private::handleFocus(bool hasFocus)
+{
+    if (path == defaultPath && !writeText(hasFocus ? QString() : defaultDisplayText)) {
+        return;
+    }
+    Util::applyProperty(pathSelectionFrame, "focusHint", hasFocus);
+}
+
+PathError PathSelectionWidget::Private::findError() const
+{
+    // Copies: a check function may set another path, replace itself or delete the widget.
+    QString checked = path;
+    const auto check = checkFunction;
+
+    PathError error;
+    if (!FileUtil::isPathValid(checked, &error.message)) {
+        return error;
+    }
+    if (check) {
+        return {check(checked), nullptr};
+    }
+    const QDir folder(checked);
+    if (folder.isRelative()) {
+        checked.clear();
+    } else if (!folder.exists()) {
+        checked = FileUtil::closestPath(checked);
+    }
+    if (!FileUtil::isOperationAllowed(checked, FileUtil::Read)) {
+        error.source = notReadable;
+    }
+    if (!FileUtil::isOperationAllowed(checked, FileUtil::Write)) {
+        error.source = notWritable;
+    }
+    if (error.source) {
+        error.message = tr(error.source);
+    }
+    return error;
+}
+
+void PathSelectionWidget::Private::showError(const PathError& error)
+{
+    pathLineEdit->setFocus(Qt::OtherFocusReason);
+    pathLineEdit->selectAll();
+    Util::applyStyleHint(pathSelectionFrame, QStringLiteral("error"));
+    shownError = error;
+    if (errorDisplayType == Tooltip) {
+        const QString tip = literalToolTip(error.message);
+        pathLineEdit->setToolTip(tip);
+        const QPoint spot = pathLineEdit->pos() + QPoint(0, pathLineEdit->height() / 2);
+        QToolTip::showText(pathLineEdit->mapToGlobal(spot), tip, pathLineEdit);
+    } else if (errorDisplayType == Label) {
+        errorLabel->setText(error.message);
+        errorLabel->show();
+    }
+}
+
+void PathSelectionWidget::Private::retranslate()
+{
+    requiredSpace.retranslate();
+    availableSpace.retranslate();
+    if (!shownError.source) {
+        return;
+    }
+    // Where it is shown still.
+    const QString before = shownError.message;
+    shownError.message = tr(shownError.source);
+    if (pathLineEdit->toolTip() == literalToolTip(before)) {
+        pathLineEdit->setToolTip(literalToolTip(shownError.message));
+    }
+    if (errorLabel->text() == before) {
+        errorLabel->setText(shownError.message);
+    }
+}
+
+PathSelectionWidget::PathSelectionWidget(QWidget* parent)
+    : OvFrame(parent)
+    , d(std::make_unique<Private>(this))
+{
+    d->pathLineEdit->installEventFilter(this);
+    connect(d->pathBrowseButton, &QToolButton::clicked, this, [this] {
+        const bool isDefault = !d->defaultPath.isEmpty() && d->path == d->defaultPath;
+        Q_EMIT browseDirectoryRequested(isDefault ? StandardFolderUrls::myComputerUrl()
+                                                  : QUrl::fromLocalFile(d->path));
+    });
+    connect(d->pathResetButton, &QToolButton::clicked, this, [this] {
+        if (!d->defaultPath.isEmpty()) {
+            const QPointer<PathSelectionWidget> self = this;
+            setPath(d->defaultPath);
+            if (self) {
+                d->pathLineEdit->clearFocus();
+            }
+        }
+    });
+    connect(d->pathLineEdit, &QLineEdit::textChanged, this, [this] {
+        d->pathLineEdit->setToolTip(QString());
+        if (!d->settingPath) {
+            setPath(d->pathLineEdit->text());
+        }
+    });
+}
+
+PathSelectionWidget::~PathSelectionWidget()
+{
+    // A field that is a window itself takes the keyboard from its line edit further down in destruction.
+    d->pathLineEdit->disconnect(this);
+}
+
+QString PathSelectionWidget::path() const
+{
+    return d->path;
+}
+
+QString PathSelectionWidget::defaultPath() const
+{
+    return d->defaultPath;
+}
+
+void PathSelectionWidget::setPath(const QString& path)
+{
+    const QString newPath = path; // which may be a reference to the one that is replaced
+    const QPointer<PathSelectionWidget> self = this;
+    const OwnWriting writing(this, &d->settingPath);
+    bool isResettable = true;
+    if (d->isDefaultPathShownByText(newPath)) {
+        if (!d->writeText(d->defaultDisplayText)) {
+            return;
+        }
+        d->scheduler.schedule();
+        isResettable = false;
+    } else if (newPath != d->path) {
+        if (d->pathLineEdit->text() != newPath && !d->writeText(newPath)) {
+            return;
+        }
+        d->scheduler.schedule();
+    }
+    // A button that is disabled passes the keyboard on.
+    d->pathResetButton->setEnabled(isResettable);
+    if (self) {
+        d->path = newPath;
+    }
+}
+
+void PathSelectionWidget::setDefaultPath(const QString& path, const QString& displayText)
+{
+    d->defaultPath = path;
+    d->defaultDisplayText = displayText;
+    d->pathResetButton->setVisible(!d->defaultPath.isEmpty());
+}
+
+bool PathSelectionWidget::checkPath()
+{
+    const QPointer<PathSelectionWidget> self = this;
+    const PathError error = d->findError();
+    if (error.message.isEmpty()) {
+        return true;
+    }
+    if (self) {
+        d->showError(error);
+    }
+    return false;
+}
+
+void PathSelectionWidget::setCheckPathFunc(const std::function<QString(const QString&)>& f)
+{
+    d->checkFunction = f;
+}
+
+void PathSelectionWidget::setErrorDisplayType(PathSelectionWidget::ErrorDisplayType t)
+{
+    d->errorDisplayType = t;
+}
+
+void PathSelectionWidget::setBrowseButtonTooltip(const QString& text)
+{
+    d->pathBrowseButton->setToolTip(text);
+}
+
+void PathSelectionWidget::setResetButtonTooltip(const QString& text)
+{
+    d->pathResetButton->setToolTip(text);
+}
+
+void PathSelectionWidget::showRequiredSpace(bool visible, qint64 bytes)
+{
+    d->requiredSpace.show(visible, bytes);
+    updateSpaceInfoVisibility();
+}
+
+void PathSelectionWidget::showAvailableSpace(bool visible, qint64 bytes)
+{
+    d->availableSpace.show(visible, bytes);
+    updateSpaceInfoVisibility();
+}
+
+bool PathSelectionWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    const QPointer<PathSelectionWidget> self = this;
+    if (watched == d->pathLineEdit) {
+        if (event->type() == QEvent::FocusIn) {
+            d->handleFocus(true);
+        } else if (event->type() == QEvent::FocusOut) {
+            d->handleFocus(false);
+        }
+    }
+    return self ? QObject::eventFilter(watched, event) : true;
+}
+
+void PathSelectionWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        d->retranslate();
+    }
+    OvFrame::changeEvent(event);
+}
+
+void PathSelectionWidget::requestPathChanged()
+{
+    const QPointer<PathSelectionWidget> self = this;
+    // A copy: all slots get the same path, also when one of them sets another.
+    const QString path = d->path;
+    Q_EMIT pathChanged(path);
+    if (self) {
+        d->errorLabel->hide();
+        Util::applyStyleHint(d->pathSelectionFrame, QString());
+    }
+}
+
+void PathSelectionWidget::updateSpaceInfoVisibility()
+{
+    d->spaceInfoFrame->setVisible(d->requiredLabel->isVisibleTo(d->spaceInfoFrame) ||
+                                  d->availableLabel->isVisibleTo(d->spaceInfoFrame));
+}
