@@ -1,6 +1,7 @@
 #include "WidgetColorPicker.h"
 
 #include "CursorGuard.h"
+#include "DevicePixel.h"
 #include "SwallowedPress.h"
 #include "WidgetColorPickerStylingObject.h"
 
@@ -44,11 +45,21 @@ int shortestWait(const QScreen& screen)
 }
 
 /// What the screen shows there; invalid where it cannot be grabbed.
-QColor grabColor(QScreen* screen, const QPoint& position)
+QColor grabColor(QScreen* screen, const QPointF& position)
 {
-    const QPoint local = position - screen->geometry().topLeft();
-    const QImage image = screen->grabWindow(0, local.x(), local.y(), 1, 1).toImage();
-    return image.isNull() ? QColor() : QColor(image.pixel(0, 0));
+    const DevicePixel pixel =
+        devicePixelAt(position - screen->geometry().topLeft(), screen->devicePixelRatio());
+    const QImage image =
+        screen->grabWindow(0, pixel.corner.x(), pixel.corner.y(), pixel.extent, pixel.extent).toImage();
+    return image.valid(pixel.index) ? QColor(image.pixel(pixel.index)) : QColor();
+}
+
+/// @p position, which is rounded, as the last event of the mouse has it, if that was there.
+QPointF unrounded(const QPoint& position, const QPointF& lastEvent)
+{
+    constexpr double most = 0.501;
+    const QPointF distance = lastEvent - position;
+    return qAbs(distance.x()) < most && qAbs(distance.y()) < most ? lastEvent : position;
 }
 
 } // namespace
@@ -69,7 +80,7 @@ public:
     bool isActiveAt(const QPoint& position) const;
 
     bool isOverTarget(const QPoint& position) const;
-    QColor settledColor(const QPoint& position);
+    QColor settledColor(const QPoint& position) const;
     void report(const QColor& picked);
 
     /// Null when the picker has died.
@@ -86,6 +97,8 @@ public:
     std::unique_ptr<HighlightFrame> highlightFrame;
     QColor color;
 
+    /// Where the mouse was in its last event, in global coordinates.
+    QPointF mouse;
     /// Since the outline was taken away.
     QElapsedTimer sinceStop;
     /// The latest pick of all when this one was stopped.
@@ -203,7 +216,7 @@ bool WidgetColorPicker::Private::isOverTarget(const QPoint& position) const
 }
 
 /// The colour there once the outline has left the screen. Anything may have died when it returns.
-QColor WidgetColorPicker::Private::settledColor(const QPoint& position)
+QColor WidgetColorPicker::Private::settledColor(const QPoint& position) const
 {
     const QPointer<QScreen> screen = QGuiApplication::screenAt(position);
     if (!screen) {
@@ -211,7 +224,8 @@ QColor WidgetColorPicker::Private::settledColor(const QPoint& position)
                   position.y());
         return {};
     }
-    QColor latest = grabColor(screen, position);
+    const QPointF exact = unrounded(position, mouse);
+    QColor latest = grabColor(screen, exact);
     if (!latest.isValid()) {
         qCWarning(pickerLog, "No colour was picked: this platform cannot grab the screen");
         return {};
@@ -221,9 +235,9 @@ QColor WidgetColorPicker::Private::settledColor(const QPoint& position)
     bool isDone = false;
     QTimer poll;
     poll.setTimerType(Qt::PreciseTimer);
-    connect(&poll, &QTimer::timeout, &wait, [&, position] {
+    connect(&poll, &QTimer::timeout, &wait, [&] {
         const QColor before = latest;
-        latest = screen ? grabColor(screen, position) : QColor();
+        latest = screen ? grabColor(screen, exact) : QColor();
         const bool isSettled = screen && sinceStop.hasExpired(shortestWait(*screen)) && latest == before;
         isDone = !latest.isValid() || isSettled || sinceStop.hasExpired(longestWait);
         if (isDone) {
@@ -328,7 +342,11 @@ bool WidgetColorPicker::eventFilter(QObject* watched, QEvent* event)
     const std::shared_ptr<Private> state = d;
     if (state->isInProgress()) {
         switch (event->type()) {
+        case QEvent::MouseMove:
+            state->mouse = static_cast<QMouseEvent*>(event)->screenPos();
+            break;
         case QEvent::MouseButtonPress:
+            state->mouse = static_cast<QMouseEvent*>(event)->screenPos();
             state->stop();
             if (state->isActiveAt(static_cast<QMouseEvent*>(event)->globalPos())) {
                 new SwallowedPress;

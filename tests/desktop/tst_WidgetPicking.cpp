@@ -1,0 +1,390 @@
+#include "PixelPattern.h"
+#include "RealInput.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/WidgetColorPicker.h>
+#include <UiComponents/WidgetColorPickerButton.h>
+
+#include <QPainter>
+#include <QPointer>
+#include <QProcess>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QScreen>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+/// Another colour in each pixel of the screen, whatever the scale.
+class Target : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    static QColor colorAt(const QPoint& devicePixel)
+    {
+        return QColor(PixelPattern::colorAt(devicePixel.x(), devicePixel.y()));
+    }
+
+    /// The colour of the pixel that the widget's @p point is the top left of.
+    QColor expected(const QPoint& point) const
+    {
+        return colorAt((QPointF(point) * devicePixelRatioF()).toPoint());
+    }
+
+    int presses = 0;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        const double scale = devicePixelRatioF();
+        QImage picture(size() * scale, QImage::Format_RGB32);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                picture.setPixelColor(x, y, colorAt(QPoint(x, y)));
+            }
+        }
+        picture.setDevicePixelRatio(scale);
+        QPainter(this).drawImage(0, 0, picture);
+    }
+    void mousePressEvent(QMouseEvent* /*event*/) override { ++presses; }
+};
+
+} // namespace
+
+/**
+ * A user who picks colours from a widget, on each screen. The button is started with the mouse, and what
+ * ends the pick is real input too.
+ */
+class tst_WidgetPicking : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void pixels_data();
+    void pixels();
+    void pixelsBetweenPoints_data();
+    void pixelsBetweenPoints();
+    void outlineIsOnlyThereWhilePicking();
+    void clickElsewhereReachesWhatIsThere();
+    void clickOnAnotherButtonClicksIt();
+    void clickOnTheButtonEndsThePick();
+    void doubleClickOnTheButton();
+    void keys_data();
+    void keys();
+    void spaceAloneDrivesIt();
+    void targetThatMovesOn();
+    void dialogDeletedWhilePicking();
+    void colorButton();
+
+private:
+    void placeOn(QScreen* screen);
+    bool clickWith(const std::function<void()>& inside, const QWidget* start = nullptr);
+    bool clickInTarget(const QPoint& point) const { return RealInput::click(m_target, point); }
+
+    std::unique_ptr<QWidget> m_window;
+    Target* m_target = nullptr;
+    QPushButton* m_other = nullptr;
+    ColorPickerButton* m_field = nullptr;
+    QPointer<WidgetColorPickerButton> m_button;
+};
+
+void tst_WidgetPicking::init()
+{
+    m_window = std::make_unique<QWidget>();
+    m_target = new Target(m_window.get());
+    m_target->setGeometry(20, 20, 160, 100);
+    m_button = new WidgetColorPickerButton(m_window.get());
+    m_button->setGeometry(200, 20, 40, 30);
+    m_button->setTargetWidget(m_target);
+    m_other = new QPushButton(m_window.get());
+    m_other->setGeometry(200, 60, 40, 30);
+    m_field = new ColorPickerButton(m_window.get());
+    m_field->setGeometry(200, 100, 40, 30);
+    auto* picker = new WidgetColorPicker({m_field});
+    picker->setTarget(m_target);
+    m_field->setPicker(picker);
+    m_window->resize(260, 140);
+    placeOn(QGuiApplication::primaryScreen());
+    QVERIFY(RealInput::showAndActivate(m_window.get()));
+    QTRY_COMPARE(RealInput::pixel(m_target, QPoint(80, 50)), m_target->expected(QPoint(80, 50)));
+}
+
+void tst_WidgetPicking::cleanup()
+{
+    m_window.reset();
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+/// At a place where points are whole pixels at every scale.
+void tst_WidgetPicking::placeOn(QScreen* screen)
+{
+    m_window->setGeometry(QRect(screen->geometry().topLeft() + QPoint(20, 60), m_window->size()));
+}
+
+/// Clicks @p start, or the button, and calls @p inside as soon as the pick runs. True when it has ended.
+bool tst_WidgetPicking::clickWith(const std::function<void()>& inside, const QWidget* start)
+{
+    bool isOver = false;
+    bool hasBegun = false;
+    QTimer begin;
+    connect(&begin, &QTimer::timeout, this, [&] {
+        if (m_target->findChild<QWidget*>(QStringLiteral("highlightFrame"))) {
+            begin.stop();
+            hasBegun = true;
+            inside();
+        }
+    });
+    begin.start(1);
+    // Comes back to this loop when the pick, which runs in one inside, is over.
+    return RealInput::click(start ? start : m_button.data()) && QTest::qWaitFor([&] {
+               isOver = hasBegun;
+               return isOver;
+           });
+}
+
+void tst_WidgetPicking::pixels_data()
+{
+    QTest::addColumn<int>("screen");
+    for (int i = 0; i < QGuiApplication::screens().size(); ++i) {
+        QTest::addRow("screen %d", i) << i;
+    }
+}
+
+void tst_WidgetPicking::pixels()
+{
+    QFETCH(int, screen);
+    placeOn(QGuiApplication::screens().at(screen));
+    QTRY_COMPARE(RealInput::pixel(m_target, QPoint(80, 50)), m_target->expected(QPoint(80, 50)));
+    QCOMPARE(QGuiApplication::screenAt(m_target->mapToGlobal(QPoint(80, 50))),
+             QGuiApplication::screens().at(screen));
+
+    QRandomGenerator random(20);
+    constexpr int Picks = 100;
+    for (int i = 0; i < Picks; ++i) {
+        QPoint point(random.bounded(m_target->width()), random.bounded(m_target->height()));
+        // A third of them under the outline.
+        if (i % 3 == 0) {
+            const int depth = random.bounded(2);
+            point.setX(i % 2 == 0 ? depth : m_target->width() - 1 - depth);
+        } else if (i % 3 == 1) {
+            const int depth = random.bounded(2);
+            point.setY(i % 2 == 0 ? depth : m_target->height() - 1 - depth);
+        }
+        m_button->setColor(QColor());
+        QTimer::singleShot(0, this, [this, point] { QVERIFY(clickInTarget(point)); });
+        m_button->startPicking();
+        QVERIFY2(m_button->color() == m_target->expected(point),
+                 qPrintable(QStringLiteral("%1 at (%2, %3), not %4")
+                                .arg(m_button->color().name())
+                                .arg(point.x())
+                                .arg(point.y())
+                                .arg(m_target->expected(point).name())));
+    }
+    QCOMPARE(m_target->presses, 0);
+}
+
+void tst_WidgetPicking::pixelsBetweenPoints_data()
+{
+    pixels_data();
+}
+
+// Scaled, the mouse stands on pixels that no whole coordinate of Qt's is.
+void tst_WidgetPicking::pixelsBetweenPoints()
+{
+    QFETCH(int, screen);
+    placeOn(QGuiApplication::screens().at(screen));
+    QTRY_COMPARE(RealInput::pixel(m_target, QPoint(80, 50)), m_target->expected(QPoint(80, 50)));
+    const QPoint screenCorner = QGuiApplication::screens().at(screen)->geometry().topLeft();
+    const QPoint corner = m_target->mapToGlobal(QPoint(0, 0));
+    const QPoint nativeCorner =
+        screenCorner + (QPointF(corner - screenCorner) * m_target->devicePixelRatioF()).toPoint();
+    for (int i = 0; i < 12; ++i) {
+        const QPoint pixel(20 + i, 31 + (i * 5) % 7);
+        const QPoint place = nativeCorner + pixel;
+        m_button->setColor(QColor());
+        QTimer::singleShot(0, this, [i, place] {
+            QStringList input = {QStringLiteral("mousemove"), QString::number(place.x()),
+                                 QString::number(place.y())};
+            input += i % 2 == 0 ? QStringList({QStringLiteral("click"), QStringLiteral("1")})
+                                : QStringList({QStringLiteral("key"), QStringLiteral("Escape")});
+            QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), input), 0);
+        });
+        m_button->startPicking();
+        QCOMPARE(m_button->color(), Target::colorAt(pixel));
+    }
+}
+
+void tst_WidgetPicking::outlineIsOnlyThereWhilePicking()
+{
+    const QPoint edge(50, 1);
+    const QColor outline = QGuiApplication::palette().color(QPalette::Active, QPalette::Highlight);
+    m_target->setCursor(Qt::IBeamCursor);
+    QVERIFY(clickWith([&] {
+        QTRY_COMPARE(RealInput::pixel(m_target, edge), outline);
+        QCOMPARE(m_target->cursor().shape(), Qt::CrossCursor);
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("widget-picking")));
+        QVERIFY(clickInTarget(edge));
+    }));
+    QCOMPARE(m_button->color(), m_target->expected(edge));
+    QCOMPARE(RealInput::pixel(m_target, edge), m_target->expected(edge));
+    QCOMPARE(m_target->cursor().shape(), Qt::IBeamCursor);
+}
+
+void tst_WidgetPicking::clickElsewhereReachesWhatIsThere()
+{
+    QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
+    QVERIFY(clickWith([this] { QVERIFY(RealInput::click(m_window.get(), QPoint(190, 10))); }));
+    QCOMPARE(finished.size(), 1);
+    QVERIFY(!m_button->color().isValid());
+    // The mouse is the target's own again.
+    QVERIFY(clickInTarget(QPoint(80, 50)));
+    QTRY_COMPARE(m_target->presses, 1);
+}
+
+void tst_WidgetPicking::clickOnAnotherButtonClicksIt()
+{
+    QSignalSpy clicked(m_other, &QAbstractButton::clicked);
+    QVERIFY(clickWith([this] { QVERIFY(RealInput::click(m_other)); }));
+    QTRY_COMPARE(clicked.size(), 1);
+    QVERIFY(!m_button->color().isValid());
+}
+
+void tst_WidgetPicking::clickOnTheButtonEndsThePick()
+{
+    QSignalSpy started(m_button.data(), &WidgetColorPickerButton::pickingStarted);
+    QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
+    QSignalSpy clicked(m_button.data(), &QAbstractButton::clicked);
+    QVERIFY(clickWith([this] { QVERIFY(RealInput::click(m_button)); }));
+    QCOMPARE(finished.size(), 1);
+    QVERIFY(!m_button->isDown());
+
+    // What follows the press has been handled when the other button hears of its own click.
+    QSignalSpy otherClicked(m_other, &QAbstractButton::clicked);
+    QVERIFY(RealInput::click(m_other));
+    QTRY_COMPARE(otherClicked.size(), 1);
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(started.size(), 1);
+    QVERIFY(!m_button->isPickingInProgress());
+}
+
+// The second press comes as a double click too, which a button would take for one more press.
+void tst_WidgetPicking::doubleClickOnTheButton()
+{
+    QSignalSpy started(m_button.data(), &WidgetColorPickerButton::pickingStarted);
+    QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
+    QVERIFY(RealInput::moveTo(m_button, m_button->rect().center()));
+    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
+                               {QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+                                QStringLiteral("--delay"), QStringLiteral("30"), QStringLiteral("1")}),
+             0);
+    QTRY_COMPARE(finished.size(), 1);
+    QSignalSpy otherClicked(m_other, &QAbstractButton::clicked);
+    QVERIFY(RealInput::click(m_other));
+    QTRY_COMPARE(otherClicked.size(), 1);
+    QCOMPARE(started.size(), 1);
+    QVERIFY(!m_button->isPickingInProgress());
+    QVERIFY(!m_button->isDown());
+}
+
+void tst_WidgetPicking::keys_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("isOverTarget");
+    for (const char* key : {"Escape", "space", "Return", "Shift_L", "a"}) {
+        QTest::addRow("%s over the target", key) << QString::fromLatin1(key) << true;
+        QTest::addRow("%s elsewhere", key) << QString::fromLatin1(key) << false;
+    }
+}
+
+void tst_WidgetPicking::keys()
+{
+    QFETCH(QString, key);
+    QFETCH(bool, isOverTarget);
+    const QPoint point(33, 44);
+    m_button->setFocus();
+    QSignalSpy started(m_button.data(), &WidgetColorPickerButton::pickingStarted);
+    QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
+    QVERIFY(clickWith([&] {
+        QVERIFY(isOverTarget ? RealInput::moveTo(m_target, point)
+                             : RealInput::moveTo(m_window.get(), QPoint(190, 10)));
+        QVERIFY(m_button->isPickingInProgress());
+        QVERIFY(RealInput::key(key));
+    }));
+    QCOMPARE(finished.size(), 1);
+    QCOMPARE(m_button->color(), isOverTarget ? m_target->expected(point) : QColor());
+
+    QSignalSpy otherClicked(m_other, &QAbstractButton::clicked);
+    QVERIFY(RealInput::click(m_other));
+    QTRY_COMPARE(otherClicked.size(), 1);
+    QCOMPARE(started.size(), 1);
+    QVERIFY(!m_button->isDown());
+}
+
+void tst_WidgetPicking::spaceAloneDrivesIt()
+{
+    const QPoint point(33, 44);
+    m_button->setFocus();
+    QVERIFY(RealInput::moveTo(m_target, point));
+    QSignalSpy started(m_button.data(), &WidgetColorPickerButton::pickingStarted);
+    QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
+    for (int pick = 1; pick <= 3; ++pick) {
+        m_button->setColor(QColor());
+        connect(m_button, &WidgetColorPickerButton::pickingStarted, m_target, [this] {
+            m_button->disconnect(m_target);
+            QTimer::singleShot(0, this, [] { QVERIFY(RealInput::key(QStringLiteral("space"))); });
+        });
+        QVERIFY(RealInput::key(QStringLiteral("space")));
+        QTRY_COMPARE(finished.size(), pick);
+        QCOMPARE(m_button->color(), m_target->expected(point));
+        QCOMPARE(started.size(), pick);
+    }
+}
+
+void tst_WidgetPicking::targetThatMovesOn()
+{
+    const QPoint point(33, 44);
+    QVERIFY(clickWith([&] {
+        m_target->move(24, 28);
+        QTRY_COMPARE(RealInput::pixel(m_target, point), m_target->expected(point));
+        QVERIFY(clickInTarget(point));
+    }));
+    QCOMPARE(m_button->color(), m_target->expected(point));
+}
+
+void tst_WidgetPicking::dialogDeletedWhilePicking()
+{
+    QVERIFY(clickWith([this] { m_window.reset(); }));
+    QVERIFY(!m_button);
+}
+
+void tst_WidgetPicking::colorButton()
+{
+    const QPoint point(1, 60);
+    QVERIFY(clickWith(
+        [&] {
+            QVERIFY(m_field->isDown());
+            QVERIFY(clickInTarget(point));
+        },
+        m_field));
+    QCOMPARE(m_field->color(), std::optional<QColor>(m_target->expected(point)));
+    QVERIFY(!m_field->isDown());
+    const QWidget* face = m_field->findChild<QWidget*>(QStringLiteral("color"));
+    QTRY_COMPARE(RealInput::pixel(face, face->rect().center()), m_target->expected(point));
+
+    // Without a colour it stays pressed, and the next pick releases it.
+    QVERIFY(clickWith([&] { QVERIFY(RealInput::click(m_field)); }, m_field));
+    QVERIFY(m_field->isDown());
+    QVERIFY(clickWith([&] { QVERIFY(clickInTarget(point)); }, m_field));
+    QVERIFY(!m_field->isDown());
+}
+
+UIC_TEST_MAIN(tst_WidgetPicking)
+#include "tst_WidgetPicking.moc"
