@@ -4,8 +4,9 @@
 
 #include <QObject>
 
-/// Keeps from all widgets the double click that Qt makes of a press which was kept from them: buttons take
-/// it for a press. Lives until the next press or release, and deletes itself.
+/// Keeps from all widgets the double click that Qt makes of a press which was kept from them: a button takes
+/// it for a press and stays down, as it is not told of the release. Lives until the next press or release,
+/// and deletes itself.
 class SwallowedPress : public QObject
 {
     Q_OBJECT

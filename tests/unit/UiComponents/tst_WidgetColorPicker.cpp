@@ -983,6 +983,7 @@ void tst_WidgetColorPicker::colorButtonPicks()
     ColorPickerButton field(m_stage->window);
     field.setGeometry(190, 10, 30, 30);
     field.show();
+    delete m_picker;
     m_picker = new WidgetColorPicker({&field});
     m_picker->setTarget(m_stage->target);
     field.setPicker(m_picker);
@@ -1006,6 +1007,7 @@ void tst_WidgetColorPicker::colorButtonStaysPressedWithoutAColor()
     ColorPickerButton field(m_stage->window);
     field.setGeometry(190, 10, 30, 30);
     field.show();
+    delete m_picker;
     m_picker = new WidgetColorPicker({&field});
     m_picker->setTarget(m_stage->target);
     field.setPicker(m_picker);
