@@ -1,10 +1,11 @@
 #include "ColorInputPage.h"
 
-#include "../DialogColorPicker.h"
 #include "../PropertyPanel.h"
 #include "../SignalLogView.h"
+#include "PickerChoice.h"
 
 #include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/ColorPickerButton.h>
 
 namespace {
 
@@ -12,9 +13,12 @@ const QColor SampleColor(226, 92, 60);
 
 ColorInputWidget* makeField(QWidget* parent)
 {
-    auto* field = new ColorInputWidget(parent, SampleColor);
-    field->setPicker(new DialogColorPicker(field->anchorWidget()));
-    return field;
+    return new ColorInputWidget(parent, SampleColor);
+}
+
+ColorPickerButton* buttonOf(const ColorInputWidget* field)
+{
+    return qobject_cast<ColorPickerButton*>(field->anchorWidget());
 }
 
 } // namespace
@@ -43,6 +47,8 @@ ColorInputPage::ColorInputPage(QWidget* parent)
     properties()->addAction(tr("No colour"), [fields] {
         fields.each([](ColorInputWidget* field) { field->setColor(QColor()); });
     });
+    auto* choice = new PickerChoice({buttonOf(fields.enabled), buttonOf(fields.disabled)}, signalLog(), this);
+    choice->addControls(properties());
     properties()->addHeading(QStringLiteral("OvFrame"));
     properties()->addProperties(fields.objects());
     signalLog()->watch(fields.enabled, QStringLiteral("field"));

@@ -1,8 +1,8 @@
 #include "ColorPickerButtonPage.h"
 
-#include "../DialogColorPicker.h"
 #include "../PropertyPanel.h"
 #include "../SignalLogView.h"
+#include "PickerChoice.h"
 
 #include <UiComponents/ColorPickerButton.h>
 
@@ -13,7 +13,6 @@ const QColor SampleColor(47, 111, 222);
 ColorPickerButton* makeButton(QWidget* parent, const std::optional<QColor>& color)
 {
     auto* button = new ColorPickerButton(parent);
-    button->setPicker(new DialogColorPicker(button));
     button->setColor(color);
     return button;
 }
@@ -32,17 +31,16 @@ PageInfo ColorPickerButtonPage::info()
 
 ColorPickerButtonPage::ColorPickerButtonPage(QWidget* parent)
     : Page(info(),
-           tr("A button whose face is a colour. A click hands over to an exchangeable picker, here Qt's "
-              "colour dialog: every colour that is tried is on the button at once, and Cancel brings the "
-              "old one back."),
+           tr("A button whose face is a colour. A click hands over to an exchangeable picker, here the "
+              "colour panel or Qt's colour dialog: every colour that is tried is on the button at once."),
            parent)
 {
     const auto buttons = addTwins<ColorPickerButton>(
         tr("A colour"), [](QWidget* twinParent) { return makeButton(twinParent, SampleColor); });
-    addTwins<ColorPickerButton>(tr("No colour"),
-                                [](QWidget* twinParent) { return makeButton(twinParent, QColor()); });
-    addTwins<ColorPickerButton>(tr("Several colours"),
-                                [](QWidget* twinParent) { return makeButton(twinParent, std::nullopt); });
+    const auto empty = addTwins<ColorPickerButton>(
+        tr("No colour"), [](QWidget* twinParent) { return makeButton(twinParent, QColor()); });
+    const auto mixed = addTwins<ColorPickerButton>(
+        tr("Several colours"), [](QWidget* twinParent) { return makeButton(twinParent, std::nullopt); });
 
     const auto set = [buttons](const std::optional<QColor>& color) {
         buttons.each([&color](ColorPickerButton* button) { button->setColor(color); });
@@ -51,6 +49,10 @@ ColorPickerButtonPage::ColorPickerButtonPage(QWidget* parent)
     properties()->addColor(tr("Colour"), SampleColor, set);
     properties()->addAction(tr("No colour"), [set] { set(QColor()); });
     properties()->addAction(tr("Several colours"), [set] { set(std::nullopt); });
+    auto* choice = new PickerChoice(
+        {buttons.enabled, empty.enabled, mixed.enabled, buttons.disabled, empty.disabled, mixed.disabled},
+        signalLog(), this);
+    choice->addControls(properties());
     properties()->addHeading(tr("Picking"));
     properties()->addAction(QStringLiteral("startPicking()"), [buttons] {
         if (buttons.enabled) {

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "../PanelColorPicker.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+class ColorPickerButton;
+class PropertyPanel;
+class SignalLogView;
+
+/**
+ * The controls of a page with colour fields: which picker they have, the colour panel or Qt's dialog, and
+ * the options of the panel.
+ */
+class PickerChoice : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Kind {
+        Panel,
+        Dialog,
+    };
+
+    /// Gives each of @p fields a picker, a panel at first. @p log shows the signals of the first field's.
+    /// Neither is owned, and both may be deleted before.
+    PickerChoice(const QVector<ColorPickerButton*>& fields, SignalLogView* log, QObject* parent);
+    ~PickerChoice() override;
+
+    void addControls(PropertyPanel* properties);
+
+    Kind kind() const { return m_kind; }
+    void setKind(Kind kind);
+
+private:
+    void installPickers();
+    void applyOptions();
+
+    QVector<QPointer<ColorPickerButton>> m_fields;
+    QVector<QPointer<PanelColorPicker>> m_panelPickers;
+    const QPointer<SignalLogView> m_log;
+    Kind m_kind = Kind::Panel;
+    bool m_isNullColorAllowed = true;
+    bool m_isOpacityAvailable = true;
+};
