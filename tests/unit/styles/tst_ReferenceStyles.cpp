@@ -9,6 +9,7 @@
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/GuideWidget.h>
@@ -65,6 +66,7 @@
 namespace {
 
 using Change = std::function<void(QWidget*)>;
+using Maker = std::function<QWidget*(QWidget*)>;
 
 const QStringList& styles()
 {
@@ -225,6 +227,53 @@ SearchWidget* makeSearch(QWidget* parent)
     return search;
 }
 
+/// With the chooser that its add button opens.
+ColorPickerWidget* makeColorPanel(QWidget* parent)
+{
+    auto* panel = new ColorPickerWidget(parent, true);
+    panel->findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))->click();
+    panel->findChild<QDialog*>()->reject();
+    return panel;
+}
+
+/// A part of the colour panel, by its name.
+QWidget* partOf(const QWidget* panel, const char* name)
+{
+    return panel->findChild<QWidget*>(QString::fromLatin1(name));
+}
+
+QLabel* makeColorPreview(QWidget* parent)
+{
+    auto* preview = new QLabel(parent);
+    preview->setObjectName(QStringLiteral("currentColorDisplayLabel"));
+    preview->setStyleSheet(QStringLiteral("background-color: transparent;"));
+    return preview;
+}
+
+QLabel* makeFilledColorPreview(QWidget* parent)
+{
+    QLabel* const preview = makeColorPreview(parent);
+    preview->setStyleSheet(QStringLiteral("background-color: #ffc000;"));
+    return preview;
+}
+
+Maker makeNamedButton(const char* name)
+{
+    return [name](QWidget* parent) {
+        auto* button = new QToolButton(parent);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setFocusPolicy(Qt::StrongFocus);
+        return button;
+    };
+}
+
+Orvane::Tessel::TesselElegantSlider* makeHueSlider(QWidget* parent)
+{
+    auto* slider = makeSlider<Orvane::Tessel::TesselElegantSlider>(parent);
+    slider->setObjectName(QStringLiteral("hueSlider"));
+    return slider;
+}
+
 QDialog* makeDialog(QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
@@ -310,6 +359,7 @@ QMainWindow* makeEverything()
                                      makeColorButton(body),
                                      makePickingButton(body),
                                      new ColorInputWidget(body, QColor()),
+                                     makeColorPanel(body),
                                      new SliderInputWidget(body, {0, 100}),
                                      new DoubleSliderInputWidget(body, {0.0, 1.0, 2}),
                                      make<PointSelectionPlane>(body),
@@ -429,7 +479,6 @@ void press(QWidget* widget)
 
 } // namespace
 
-using Maker = std::function<QWidget*(QWidget*)>;
 Q_DECLARE_METATYPE(Maker)
 Q_DECLARE_METATYPE(Change)
 
@@ -460,6 +509,14 @@ private Q_SLOTS:
     void sliderIsFilledFromItsLeastValue_data();
     void sliderIsFilledFromItsLeastValue();
     void colorFieldTakesItsMetrics();
+    void colorPanelIsAligned();
+    void choiceIsSeenOnEveryColor_data();
+    void choiceIsSeenOnEveryColor();
+    void colorsThatAreOffAreDimmer_data();
+    void colorsThatAreOffAreDimmer();
+    void hueGrooveShowsTheHues_data();
+    void hueGrooveShowsTheHues();
+    void chooserTakesItsMetrics();
     void bubbleTakesItsLook();
     void guidesTakeTheirLook();
     void outlineTakesItsLook();
@@ -511,17 +568,22 @@ void tst_ReferenceStyles::sheetFitsEveryWidget()
 
 void tst_ReferenceStyles::sheetsDifferInColoursOnly()
 {
+    // And in the icons, which are as strong as text.
     const QRegularExpression color(QStringLiteral("#[0-9a-f]{6}\\b"));
     QString dark = textOf(QStringLiteral(":/styles/dark.qss"));
     QString light = textOf(QStringLiteral(":/styles/light.qss"));
     QVERIFY(dark != light);
-    QCOMPARE(dark.remove(color).replace(QStringLiteral("style: dark"), QStringLiteral("style: light")),
-             light.remove(color));
+    dark.replace(QStringLiteral("style: dark"), QStringLiteral("style: light"));
+    dark.replace(QStringLiteral("-dark.png"), QStringLiteral("-light.png"));
+    QCOMPARE(dark.remove(color), light.remove(color));
 }
 
 void tst_ReferenceStyles::picturesExistAtBothScales()
 {
-    const QString text = textOf(QStringLiteral(":/styles/dark.qss"));
+    QString text;
+    for (const QString& style : styles()) {
+        text += textOf(QStringLiteral(":/styles/%1.qss").arg(style));
+    }
     QStringList used;
     auto urls = QRegularExpression(QStringLiteral("url\\(([^)]*)\\)")).globalMatch(text);
     while (urls.hasNext()) {
@@ -664,6 +726,8 @@ void tst_ReferenceStyles::contrasts_data()
         {"focus", "card", 3},
         {"focus", "field", 3},
         {"focus", "popup", 3},
+        {"faceOutlineHover", "card", 3},
+        {"faceOutlineHover", "popup", 3},
         {"errorBorder", "window", 3},
         {"errorBorder", "field", 3},
         {"focusOnAccent", "accent", 2},
@@ -774,6 +838,17 @@ void tst_ReferenceStyles::hookChangesThePicture_data()
             [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(QColor()); });
         row("ColorPickerButton", "multiColor", makeColorButton,
             [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(std::nullopt); });
+        row("colour preview", "nullColor", makeColorPreview, withProperty("nullColor", true));
+        row("colour preview", "multiColor", makeColorPreview, withProperty("multiColor", true));
+        row("colour preview", "disabled", makeFilledColorPreview, disable);
+        for (const char* name : {"pipetteButton", "addCustomColorButton"}) {
+            row(name, "hover", makeNamedButton(name), hover);
+            row(name, "pressed", makeNamedButton(name), press);
+            row(name, "focus", makeNamedButton(name), focus);
+            row(name, "disabled", makeNamedButton(name), disable);
+        }
+        row("hue slider", "focus", makeHueSlider, focus);
+        row("hue slider", "disabled", makeHueSlider, disable);
         row("ColorPickerButton", "hover", makeColorButton, hover);
         row("ColorPickerButton", "pressed", makeColorButton, press);
         row("ColorPickerButton", "focus", makeColorButton, focus);
@@ -933,6 +1008,156 @@ void tst_ReferenceStyles::colorFieldTakesItsMetrics()
     QCOMPARE(face->geometry(), QRect(3, 3, 38, 18));
     // A form may be wider; the field keeps to its beginning.
     QCOMPARE(field->width(), 44);
+}
+
+// The rows begin and end where the outlines of the faces do.
+void tst_ReferenceStyles::colorPanelIsAligned()
+{
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    QFont font = QApplication::font();
+    font.setPixelSize(12);
+    Host host;
+    host.setFont(font);
+    auto* panel = new ColorPickerWidget(&host, false);
+    QVERIFY(host.present(panel));
+
+    constexpr int Ring = 2; // around an outline
+    const auto left = [panel](const QWidget* part) { return part->mapTo(panel, QPoint()).x(); };
+    const auto right = [left](const QWidget* part) { return left(part) + part->width(); };
+    const auto faces = partOf(panel, "colorMatrixPanel")->findChildren<QToolButton*>();
+    const auto places = partOf(panel, "otherColorsQueuePanel")->findChildren<QToolButton*>();
+    QCOMPARE(faces.first()->size(), QSize(24, 24));
+    QCOMPARE(panel->width(), 9 * 24);
+    QCOMPARE(left(partOf(panel, "currentColorDisplayLabel")), left(faces.first()) + Ring);
+    QCOMPARE(left(partOf(panel, "opacitySlider")), left(faces.first()) + Ring);
+    QCOMPARE(right(partOf(panel, "pipetteButton")), right(faces.last()) - Ring);
+    QCOMPARE(right(partOf(panel, "opacitySpinbox")), right(faces.last()) - Ring);
+    // The add button and the places of own colours are the columns of the palette.
+    QCOMPARE(left(partOf(panel, "addCustomColorButton")), left(faces.at(0)));
+    QCOMPARE(partOf(panel, "addCustomColorButton")->size(), QSize(24, 24));
+    for (int i = 0; i < places.size(); ++i) {
+        QCOMPARE(left(places.at(i)), left(faces.at(i + 1)));
+    }
+    // The first row has one height.
+    for (const char* name : {"currentColorDisplayLabel", "currentColorValueEdit", "pipetteButton"}) {
+        QCOMPARE(partOf(panel, name)->height(), 24);
+    }
+}
+
+void tst_ReferenceStyles::choiceIsSeenOnEveryColor_data()
+{
+    sheetFitsEveryWidget_data();
+}
+
+// A ring, and between it and the face the surface: whatever the colour, one of them stands out.
+void tst_ReferenceStyles::choiceIsSeenOnEveryColor()
+{
+    QFETCH(QString, style);
+    qApp->setStyleSheet(resourceSheet(style));
+    const QHash<QString, QColor> colors = paletteOf(style);
+    const QColor surface = colors.value(QStringLiteral("window"));
+    Host host;
+    auto* panel = new ColorPickerWidget(&host, true);
+    QVERIFY(host.present(panel));
+    host.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&host));
+    const auto faces = partOf(panel, "colorMatrixPanel")->findChildren<QToolButton*>();
+    QCOMPARE(faces.size(), 72);
+    const QPoint middle(12, 12);
+    const QPoint onRing(1, 12);
+    const QPoint onGap(2, 12);
+    for (QToolButton* face : faces) {
+        const auto picture = [&host, face] {
+            return host.grab(QRect(face->mapTo(&host, QPoint()), face->size())).toImage();
+        };
+        face->window()->setFocus();
+        const QColor color = picture().pixelColor(middle);
+        QVERIFY2(picture().pixelColor(onRing) == surface, qPrintable(color.name()));
+        face->setChecked(true);
+        QCOMPARE(picture().pixelColor(onRing), colors.value(QStringLiteral("textStrong")));
+        QCOMPARE(picture().pixelColor(onGap), surface);
+        QCOMPARE(picture().pixelColor(middle), color);
+        face->setFocus();
+        QCOMPARE(picture().pixelColor(onRing), colors.value(QStringLiteral("focus")));
+        QCOMPARE(picture().pixelColor(onGap), surface);
+    }
+}
+
+void tst_ReferenceStyles::colorsThatAreOffAreDimmer_data()
+{
+    sheetFitsEveryWidget_data();
+}
+
+void tst_ReferenceStyles::colorsThatAreOffAreDimmer()
+{
+    QFETCH(QString, style);
+    qApp->setStyleSheet(resourceSheet(style));
+    const QColor surface = paletteOf(style).value(QStringLiteral("window"));
+    Host host;
+    auto* panel = new ColorPickerWidget(&host, false);
+    panel->setCurrentColor(QColor(Qt::red));
+    QVERIFY(host.present(panel));
+    QList<QWidget*> faces = {partOf(panel, "currentColorDisplayLabel")};
+    const auto buttons = partOf(panel, "colorMatrixPanel")->findChildren<QToolButton*>();
+    for (QToolButton* button : buttons) {
+        faces.append(button);
+    }
+    for (const QWidget* face : qAsConst(faces)) {
+        const auto distance = [&host, face, &surface] {
+            const QColor shown = host.grab().toImage().pixelColor(face->mapTo(&host, face->rect().center()));
+            return qAbs(shown.red() - surface.red()) + qAbs(shown.green() - surface.green()) +
+                   qAbs(shown.blue() - surface.blue());
+        };
+        const int on = distance();
+        panel->setEnabled(false);
+        const int off = distance();
+        panel->setEnabled(true);
+        // One of the colours is nearly the surface itself.
+        QVERIFY2(off < on || on < 50, qPrintable(QStringLiteral("%1 %2").arg(on).arg(off)));
+    }
+}
+
+void tst_ReferenceStyles::hueGrooveShowsTheHues_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+// Under the handle is the hue that it stands for.
+void tst_ReferenceStyles::hueGrooveShowsTheHues()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    Host host;
+    host.setLayoutDirection(direction);
+    Orvane::Tessel::TesselElegantSlider* const slider = makeHueSlider(&host);
+    slider->setRange(0, 359);
+    slider->setValue(0);
+    QVERIFY(host.present(slider));
+    slider->resize(240, slider->height());
+    host.resize(slider->size());
+    const QImage picture = host.grab().toImage();
+    for (const int hue : {60, 120, 180, 240, 300}) {
+        const int from = direction == Qt::LeftToRight ? hue : 360 - hue;
+        const QColor shown = picture.pixelColor(picture.width() * from / 360, picture.height() / 2);
+        QVERIFY2(qAbs(shown.hue() - hue) <= 8, qPrintable(QString::number(hue) + shown.name()));
+        QCOMPARE(shown.saturation(), 255);
+    }
+}
+
+void tst_ReferenceStyles::chooserTakesItsMetrics()
+{
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    QWidget window;
+    const ColorPickerWidget* const panel = makeColorPanel(&window);
+    auto* chooser = panel->findChild<QDialog*>();
+    chooser->ensurePolished();
+    chooser->adjustSize();
+    const QWidget* const plane = partOf(chooser, "colorPlane");
+    QCOMPARE(plane->size(), QSize(220, 160));
+    QCOMPARE(plane->mapTo(chooser, QPoint()), QPoint(12, 12));
+    QCOMPARE(plane->property("markerRadius").toInt(), 7);
 }
 
 void tst_ReferenceStyles::bubbleTakesItsLook()
