@@ -3,19 +3,22 @@
 
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/ColorPickerWidget.h>
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QToolButton>
 
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
+#include <gallery/pages/PickerChoice.h>
 
 /**
- * What a user does in the gallery's window: clicks the colour field, picks a colour in the dialog, sees the
- * field change on the screen.
+ * What a user does in the gallery's window: clicks the colour field, picks a colour in the panel or in the
+ * dialog, sees the field change on the screen.
  */
 class tst_GalleryColorField : public QObject
 {
@@ -26,12 +29,16 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void panelIsWhatAFieldOpens();
+    void pickerCanBeExchangedMeanwhile();
     void pickedColourIsShown();
     void escapeBringsTheColourBack();
     void disabledFieldDoesNotAnswer();
 
 private:
     QColor face() const { return RealInput::pixel(m_button, m_button->rect().center()); }
+    PickerChoice* choice() const { return m_window->page()->findChild<PickerChoice*>(); }
+    ColorPickerWidget* panel() const;
     QColorDialog* dialog() const;
     QColor clickBasicColour(QColorDialog* dialog, int row, int column) const;
 
@@ -72,6 +79,13 @@ void tst_GalleryColorField::cleanup()
     m_window.reset();
 }
 
+/// The one in the field's pop-up, while that is open.
+ColorPickerWidget* tst_GalleryColorField::panel() const
+{
+    const QWidget* const popup = QApplication::activePopupWidget();
+    return popup ? popup->findChild<ColorPickerWidget*>() : nullptr;
+}
+
 QColorDialog* tst_GalleryColorField::dialog() const
 {
     auto* found = qobject_cast<QColorDialog*>(QApplication::activeWindow());
@@ -95,8 +109,57 @@ QColor tst_GalleryColorField::clickBasicColour(QColorDialog* dialog, int row, in
     return {};
 }
 
+void tst_GalleryColorField::panelIsWhatAFieldOpens()
+{
+    const QColor before = *m_button->color();
+    QSignalSpy changed(m_field, &ColorInputWidget::colorChanged);
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(panel());
+    QVERIFY(QTest::qWaitForWindowExposed(panel()->window()));
+    const QWidget* const popup = panel()->window();
+
+    const auto* palette = panel()->findChild<QWidget*>(QStringLiteral("colorMatrixPanel"));
+    QToolButton* const chosen = palette->findChildren<QToolButton*>().at(50);
+    QVERIFY(RealInput::click(chosen));
+    QTRY_VERIFY(*m_button->color() != before);
+    const QColor picked = *m_button->color();
+    QCOMPARE(picked.name(), chosen->accessibleName());
+    QTRY_COMPARE(face(), picked);
+    QVERIFY(popup->isVisible());
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field-panel")));
+
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QTRY_VERIFY(!popup->isVisible());
+    QTRY_VERIFY(!m_button->isDown());
+    QCOMPARE(*m_button->color(), picked);
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_GalleryColorField::pickerCanBeExchangedMeanwhile()
+{
+    const QColor before = *m_button->color();
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(panel());
+    const QPointer<QWidget> popup = panel()->window();
+    choice()->setKind(PickerChoice::Kind::Dialog);
+    QTRY_VERIFY(!popup);
+    QVERIFY(!m_button->isDown());
+    QCOMPARE(*m_button->color(), before);
+
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(dialog());
+    const QPointer<QColorDialog> open = dialog();
+    QCOMPARE(open->currentColor(), before);
+    choice()->setKind(PickerChoice::Kind::Panel);
+    QTRY_VERIFY(!open);
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(panel());
+    QCOMPARE(panel()->currentColor(), std::optional<QColor>(before));
+}
+
 void tst_GalleryColorField::pickedColourIsShown()
 {
+    choice()->setKind(PickerChoice::Kind::Dialog);
     const QColor before = *m_button->color();
     QSignalSpy changed(m_field, &ColorInputWidget::colorChanged);
     QVERIFY(RealInput::click(m_button));
@@ -122,6 +185,7 @@ void tst_GalleryColorField::pickedColourIsShown()
 
 void tst_GalleryColorField::escapeBringsTheColourBack()
 {
+    choice()->setKind(PickerChoice::Kind::Dialog);
     const QColor before = *m_button->color();
     QVERIFY(RealInput::click(m_button));
     QTRY_VERIFY(dialog());
@@ -138,6 +202,7 @@ void tst_GalleryColorField::escapeBringsTheColourBack()
 
 void tst_GalleryColorField::disabledFieldDoesNotAnswer()
 {
+    choice()->setKind(PickerChoice::Kind::Dialog);
     QVERIFY(RealInput::click(m_disabledField->anchorWidget()));
     // Clicked afterwards, so that the first click has been handled when this one opens the dialog.
     QVERIFY(RealInput::click(m_button));
