@@ -13,9 +13,6 @@
 
 namespace {
 
-// The specimens take the height they want, up to this part of the whole.
-constexpr double LargestSpecimenShare = 0.6;
-
 constexpr double TitleFontFactor = 1.5;
 constexpr double CaptionFontFactor = 0.9;
 
@@ -141,7 +138,7 @@ void Page::fitSpecimens()
     const int available = m_halves->height() - m_halves->handleWidth();
     const int wanted = m_specimens->hasHeightForWidth() ? m_specimens->heightForWidth(m_specimens->width())
                                                         : m_specimens->sizeHint().height();
-    const int upper = qMin(wanted, qRound(available * LargestSpecimenShare));
+    const int upper = qMin(wanted, qRound(available * m_largestSpecimenShare));
     m_halves->setSizes({upper, available - upper});
     m_inspector->setSizes({m_inspector->width() / 2, m_inspector->width() / 2});
 }

@@ -89,6 +89,9 @@ protected:
     /// Shows something that has no disabled state, over the whole width. The page owns it.
     void addDemonstration(const QString& caption, QWidget* widget);
 
+    /// How much of the height the specimens may take before they scroll; 0.6 at first.
+    void setLargestSpecimenShare(double share) { m_largestSpecimenShare = share; }
+
     /// Adds @p widget to the manual of what a style sheet can use.
     void describeStyling(const StyleSubject& subject);
     void describeStyling(QWidget* widget, const QString& sentence);
@@ -109,6 +112,7 @@ private:
     PropertyPanel* m_properties = nullptr;
     SignalLogView* m_signalLog = nullptr;
     QVector<StyleSubject> m_styleSubjects;
+    double m_largestSpecimenShare = 0.6;
     bool m_isSplitByUser = false;
 };
 

@@ -8,6 +8,8 @@
 namespace {
 
 const QColor SampleColor(255, 93, 0);
+// A panel that is scrolled cannot be judged.
+constexpr double LargestPanelShare = 0.72;
 
 ColorPickerWidget* makePanel(QWidget* parent)
 {
@@ -35,6 +37,7 @@ ColorPanelPage::ColorPanelPage(QWidget* parent)
              "chooser of any colour, and opacity."),
           parent)
 {
+    setLargestSpecimenShare(LargestPanelShare);
     const auto panels = addTwins<ColorPickerWidget>(tr("Choose a colour"), &makePanel);
     properties()->addHeading(QStringLiteral("setCurrentColor()"));
     properties()->addColor(tr("Colour"), SampleColor, [panels](const QColor& color) {
@@ -53,5 +56,11 @@ ColorPanelPage::ColorPanelPage(QWidget* parent)
     properties()->addHeading(QStringLiteral("OvFrame"));
     properties()->addProperties(panels.objects());
     signalLog()->watch(panels.enabled, QStringLiteral("panel"));
-    describeStyling(panels.enabled, tr("The whole panel; its parts are selected by their object names."));
+    describeStyling(
+        panels.enabled,
+        tr("The parts are selected by their names, and the buttons of colours as children of "
+           "#colorMatrixPanel "
+           "and #otherColorsQueuePanel; the one for no colour has nullColor. The panel itself writes the "
+           "background-color of these and of the preview, opaque: a sheet shapes it with background-clip, "
+           "and lays a background-image over it. The chooser is a QDialog with roundedEdges."));
 }

@@ -16,6 +16,7 @@ constexpr double noHue = -2.0;
 constexpr int fullCircle = 360;
 constexpr QPoint noMarker(-1, -1);
 constexpr int longStep = 10; // pixels
+constexpr int focusWidth = 2;
 
 double hueOf(int degrees)
 {
@@ -224,6 +225,9 @@ void ColorPlaneWidget::paintEvent(QPaintEvent* event)
         painter.setRenderHint(QPainter::Antialiasing, false);
     }
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        // A style may fill what it frames, and would tint the colours.
+        const QRect inside = rect().adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
+        painter.setClipRegion(QRegion(rect()) - inside);
         QStyleOptionFocusRect option;
         option.initFrom(this);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
