@@ -84,7 +84,6 @@ QVector<PageInfo> PageRegistry::pages()
         PropertyProviderPage::info(),
         // bubbles and frames
         PointingPage::info(),
-        QmlDialogPage::info(),
         WorkaroundPage::info(),
         HighlightFramePage::info(),
         PixmapWidgetPage::info(),
@@ -92,6 +91,7 @@ QVector<PageInfo> PageRegistry::pages()
         GuidePage::info(),
         GuideButtonPage::info(),
         DialogGuidePage::info(),
+        QmlDialogPage::info(),
         // services
         FormatFileSizePage::info(),
         PathPage::info(),

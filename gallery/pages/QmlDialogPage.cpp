@@ -85,7 +85,7 @@ PageInfo QmlDialogPage::info()
 {
     return {QStringLiteral("qml-dialog"),
             tr("QML dialog"),
-            PageGroup::Bubbles,
+            PageGroup::Guides,
             {QStringLiteral("QML"), tr("dialog"), tr("confirmation"), tr("form"), tr("scene")},
             {QStringLiteral("QuickDialog"), QStringLiteral("QuickContent")},
             &createPage<QmlDialogPage>};

@@ -1,6 +1,6 @@
 import QtQuick 2.15
 
-FocusScope {
+Item {
     id: form
 
     readonly property bool isComplete: title.text.trim() !== "" && rate.acceptableInput

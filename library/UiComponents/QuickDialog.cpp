@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QQmlContext>
 #include <QScreen>
@@ -85,6 +86,39 @@ public:
 private:
     const QMetaObject::Connection m_connection;
     std::optional<int> m_result;
+};
+
+// Some window managers put the window where it is to be and leave Qt believing, now and then, that it is in
+// the corner of the screen. The scene would then drag it from there, and everything that maps to global
+// coordinates would be off. Asking once more, when it becomes active, sets that right.
+class PlaceKeeper : public QObject
+{
+public:
+    explicit PlaceKeeper(QWidget* window)
+        : m_window(window)
+        , m_place(window->pos())
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Move) {
+            // Not what the scene or the host does.
+            m_isMovedByOthers = event->spontaneous();
+        } else if (event->type() == QEvent::WindowActivate) {
+            m_window->removeEventFilter(this);
+            if (m_isMovedByOthers && m_window->pos() != m_place) {
+                m_window->move(m_place);
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWidget* const m_window;
+    const QPoint m_place;
+    bool m_isMovedByOthers = false;
 };
 
 QPoint middleOfScreen()
@@ -191,6 +225,7 @@ int Qml::QuickDialog::exec()
     d->makeWindow();
     const Guest guest(d->makeLayout(), container);
     d->moveToMiddle(container);
+    const PlaceKeeper place(this);
     // The base class does not notice when a dialog is ended before its event loop runs, and would wait for
     // ever: a scene may end it in a handler of being shown.
     show();

@@ -70,6 +70,7 @@ private Q_SLOTS:
 
     void sceneChangesItsSize();
     void sceneChangesItsSizeToAnInvalidOne();
+    void sceneChangesItsSizeWhileItDies();
 
     void loadedAgain();
     void changedFileIsReadAnew();
@@ -384,7 +385,7 @@ void tst_QuickContent::codeFromTheNetworkIsRefused_data()
                             << QStringLiteral("/Part.qml") << QStringList{noUrl} << true;
     QTest::newRow("loader in the background")
         << QStringLiteral("Loader { asynchronous: true; source: \"%1/Part.qml\" }")
-        << QStringLiteral("/Part.qml") << QStringList() << true;
+        << QStringLiteral("/Part.qml") << QStringList{noUrl} << true;
     QTest::newRow("component") << QStringLiteral("Item { property url u: \"%1/Part.qml\"\n"
                                                  "Component.onCompleted: Qt.createComponent(u) }")
                                << QStringLiteral("/Part.qml") << QStringList() << true;
@@ -412,6 +413,11 @@ void tst_QuickContent::codeFromTheNetworkIsRefused()
     content.load(m_files->file(QStringLiteral("main.qml"),
                                QStringLiteral("import QtQuick 2.15\n") + text.arg(address)));
     QCOMPARE(content.isAvailable(), isAvailable);
+    const QQuickItem* const root = viewOf(content)->rootObject();
+    if (root && root->inherits("QQuickLoader")) {
+        constexpr int LoaderError = 3;
+        QTRY_COMPARE(root->property("status").toInt(), LoaderError);
+    }
     const QString line = QStringLiteral("WARNING QuickContent.cpp: Refused to load as qml: ");
     QTRY_VERIFY(m_log->lines().contains(line + address + refused));
     m_log->take();
@@ -475,6 +481,22 @@ void tst_QuickContent::sceneChangesItsSizeToAnInvalidOne()
     QVERIFY(content.isAvailable());
     root->setWidth(60);
     QCOMPARE(content.getUiContent()->size(), QSize(60, 50));
+}
+
+void tst_QuickContent::sceneChangesItsSizeWhileItDies()
+{
+    m_files->item(QStringLiteral("id: root; width: 40; height: 30; Component.onDestruction: root.width = 99; "
+                                 "Item { Component.onDestruction: { root.width = 88; root.height = 77 } }"));
+    {
+        QuickContent content;
+        content.load(m_files->path() + QStringLiteral("/main.qml"));
+        QVERIFY(content.isAvailable());
+        content.load(m_files->path() + QStringLiteral("/main.qml"));
+        QCOMPARE(content.getUiContent()->size(), QSize(40, 30));
+    }
+    QuickContent content;
+    content.load(m_files->path() + QStringLiteral("/main.qml"));
+    delete content.getUiContent();
 }
 
 void tst_QuickContent::loadedAgain()

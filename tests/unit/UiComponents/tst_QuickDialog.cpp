@@ -18,7 +18,6 @@
 
 #include <functional>
 
-using Qml::QuickContent;
 using Qml::QuickDialog;
 
 namespace {
@@ -60,14 +59,38 @@ Q_SIGNALS:
 int execWith(QuickDialog& dialog, const std::function<void()>& meanwhile)
 {
     const QPointer<QDialog> alive = &dialog;
-    QTimer::singleShot(0, &dialog, [alive, meanwhile] {
+    QTimer start;
+    start.setSingleShot(true);
+    QObject::connect(&start, &QTimer::timeout, &start, [&] {
         meanwhile();
         if (alive && QTest::currentTestFailed()) {
             alive->reject();
         }
     });
+    start.start(0);
     return dialog.exec();
 }
+
+// Calls a function when a widget is being shown.
+class OnShow : public QObject
+{
+public:
+    explicit OnShow(std::function<void()> call)
+        : m_call(std::move(call))
+    {
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show) {
+            m_call();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    const std::function<void()> m_call;
+};
 
 } // namespace
 
@@ -107,6 +130,9 @@ private Q_SLOTS:
     void withoutAParentInTheMiddleOfTheScreen();
     void parentThatIsNoWindow();
     void parentPartlyOutsideTheScreen();
+
+    void placeWhenItBecomesActive_data();
+    void placeWhenItBecomesActive();
 
     void sizes_data();
     void sizes();
@@ -544,6 +570,46 @@ void tst_QuickDialog::parentPartlyOutsideTheScreen()
     });
 }
 
+void tst_QuickDialog::placeWhenItBecomesActive_data()
+{
+    QTest::addColumn<bool>("isMovedByTheWindowSystem");
+
+    QTest::newRow("the window system says that it is elsewhere") << true;
+    QTest::newRow("a handler moved it") << false;
+}
+
+// With some window managers Qt believes now and then that a frameless window is in the corner of the screen.
+void tst_QuickDialog::placeWhenItBecomesActive()
+{
+    QFETCH(bool, isMovedByTheWindowSystem);
+    const QPoint corner(0, 0);
+    FormDialog dialog;
+    dialog.setQmlPath(scene());
+    OnShow filter([&] {
+        dialog.move(corner);
+        if (isMovedByTheWindowSystem) {
+            QMoveEvent event(corner, corner);
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            qApp->notify(&dialog, &event);
+        }
+    });
+    dialog.installEventFilter(&filter);
+    execWith(dialog, [&] {
+        QTRY_VERIFY(dialog.isActiveWindow());
+        const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
+        QCOMPARE(dialog.pos(), isMovedByTheWindowSystem ? middle - QPoint(60, 40) : corner);
+        // From now on it is where it is put.
+        dialog.move(33, 44);
+        QMoveEvent event(QPoint(33, 44), corner);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(&dialog, &event);
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&dialog, &activation);
+        QCOMPARE(dialog.pos(), QPoint(33, 44));
+        dialog.accept();
+    });
+}
+
 void tst_QuickDialog::sizes_data()
 {
     QTest::addColumn<QString>("size");
@@ -668,17 +734,7 @@ void tst_QuickDialog::endedWhileBeingShown()
     FormDialog other;
     other.setQmlPath(m_files->file(QStringLiteral("other.qml"),
                                    QmlFiles::itemText(QStringLiteral("width: 9; height: 9"))));
-    class EndOnShow : public QObject
-    {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() == QEvent::Show) {
-                static_cast<QDialog*>(watched)->done(7);
-            }
-            return false;
-        }
-    } filter;
+    OnShow filter([&other] { other.done(7); });
     other.installEventFilter(&filter);
     QCOMPARE(other.exec(), 7);
     QVERIFY(!other.isVisible());
