@@ -4,6 +4,7 @@
 
 #include <EditorWidgets/PointingWidget.h>
 #include <WidgetToolkit/OvBoxLayout.h>
+#include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/Util.h>
 
 #include <utility>
@@ -62,16 +63,14 @@ void GuideButton::showHelp()
     m_pointingWidget->setWindowTitle(info->title);
     m_pointingWidget->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Center);
 
-    m_guideWidget = new GuideWidget(GuideInfo(), m_pointingWidget);
-    m_guideWidget->setObjectName(Util::Details::removeClassMemberPrefix("m_guideWidget"));
+    // Made with its name and in its place: polishing it again after either would cost as much as the rest.
+    OvFrame* const frame = m_pointingWidget->contentFrame();
+    m_guideWidget = new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
     connect(m_guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
-
-    auto* layout = new OvVBoxLayout(m_pointingWidget->contentFrame());
+    auto* layout = new OvVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_guideWidget);
-    // Not before: by its name and place a sheet gives it the width that its texts are measured for.
-    m_guideWidget->setInfo(*info);
 
     m_pointingWidget->setArrowOffset(m_popupOffset);
     m_pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));

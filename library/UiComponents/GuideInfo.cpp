@@ -2,6 +2,8 @@
 
 GuideInfo::GuideInfo() = default;
 
+// Strings are handed over as everywhere in Qt's interfaces.
+// NOLINTBEGIN(modernize-pass-by-value)
 GuideInfo::GuideInfo(const QString& theTitle, const QString& theDescription, const QString& theLearnMore,
                      const QString& theMoviePath)
     : title(theTitle)
@@ -10,6 +12,7 @@ GuideInfo::GuideInfo(const QString& theTitle, const QString& theDescription, con
     , learnMore(theLearnMore)
 {
 }
+// NOLINTEND(modernize-pass-by-value)
 
 GuideInfo::GuideInfo(const GuideInfo& other) = default;
 GuideInfo::GuideInfo(GuideInfo&& other) noexcept = default;

@@ -16,6 +16,8 @@
 #include <QTextDocument>
 #include <QUrl>
 
+#include <utility>
+
 namespace {
 
 const Qt::TextInteractionFlags linkByMouse = Qt::LinksAccessibleByMouse;
@@ -66,7 +68,7 @@ bool hasLink(const QString& text)
 class GuideWidget::Private
 {
 public:
-    Private(GuideWidget* guide, const GuideInfo& guideInfo);
+    Private(GuideWidget* guide, GuideInfo guideInfo);
 
     void update();
     void followLink(const QString& link);
@@ -82,13 +84,13 @@ public:
     WrappedLabelHeight descriptionHeight;
 };
 
-GuideWidget::Private::Private(GuideWidget* guide, const GuideInfo& guideInfo)
+GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     : owner(guide)
     , headerLabel(makeLabel<QLabel>(QStringLiteral("headerLabel"), guide))
     , gifPixmapWidget(new OvPixmapWidget(guide))
     , descriptionLabel(makeLabel<QLabel>(QStringLiteral("descriptionLabel"), guide))
     , learnMoreLabel(makeLabel<LinkLabel>(QStringLiteral("learnMoreLabel"), guide))
-    , info(guideInfo)
+    , info(std::move(guideInfo))
     , headerHeight(headerLabel)
     , descriptionHeight(descriptionLabel)
 {
@@ -130,9 +132,15 @@ void GuideWidget::Private::followLink(const QString& link)
 }
 
 GuideWidget::GuideWidget(const GuideInfo& info, QWidget* parent)
+    : GuideWidget(info, parent, QString())
+{
+}
+
+GuideWidget::GuideWidget(const GuideInfo& info, QWidget* parent, const QString& name)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this, info))
 {
+    setObjectName(name);
     d->update();
     connect(d->learnMoreLabel, &QLabel::linkActivated, this,
             [this](const QString& link) { d->followLink(link); });

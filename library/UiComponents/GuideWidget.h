@@ -65,6 +65,10 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend class GuideButton;
+    /// With the object name @p name, which a sheet may dress it by before its texts are measured.
+    GuideWidget(const GuideInfo& info, QWidget* parent, const QString& name);
+
     class Private;
     const std::unique_ptr<Private> d;
 };

@@ -26,6 +26,7 @@ public:
     QPoint origin() const;
     QRect area() const;
     void setShapeValue(int& value, int pixels, int most);
+    void reshape();
     void applyMargins();
     void fit();
     void place();
@@ -59,6 +60,8 @@ public:
     QPoint lastGlobalTarget;
 
     BubblePlacement placement;
+    /// The shape has changed while the bubble was hidden.
+    bool maskIsDue = false;
     /// Where the bubble was last sent. A window manager may put it elsewhere: it is asked once more, for
     /// what Qt hears of a window that has just appeared is not always true, and then has its way. Asking
     /// again at every paint would never end.
@@ -154,8 +157,18 @@ void PointingWidget::Private::setShapeValue(int& value, int pixels, int most)
     value = pixels;
     applyMargins();
     fit();
-    q->setMask(bubbleRegion(placement, shape));
-    q->update();
+    reshape();
+}
+
+/// A mask costs about as much as painting the bubble, and a bubble changes its shape several times before it
+/// is shown.
+void PointingWidget::Private::reshape()
+{
+    maskIsDue = !q->isVisible();
+    if (!maskIsDue) {
+        q->setMask(bubbleRegion(placement, shape));
+        q->update();
+    }
 }
 
 void PointingWidget::Private::applyMargins()
@@ -206,8 +219,7 @@ void PointingWidget::Private::place()
     }
     if (placement.side != old.side || placement.tip != old.tip || placement.base != old.base ||
         placement.geometry.size() != old.geometry.size()) {
-        q->setMask(bubbleRegion(placement, shape));
-        q->update();
+        reshape();
     }
     const QPoint goal = placement.geometry.topLeft();
     if (goal != old.geometry.topLeft()) {
@@ -575,4 +587,7 @@ void PointingWidget::showEvent(QShowEvent* event)
     d->askedAgain = false;
     d->followWindow();
     d->fit();
+    if (d->maskIsDue) {
+        d->reshape();
+    }
 }
