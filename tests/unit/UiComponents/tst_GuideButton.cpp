@@ -138,6 +138,7 @@ private Q_SLOTS:
     void atTheEdgesOfTheScreen();
     void rightToLeft();
     void hugeAnimationStaysOnTheScreen();
+    void shorterTextMakesAnOpenPopupLower();
     void popupHasAnAccessibleName();
 
     void linkIsPassedOn();
@@ -583,6 +584,22 @@ void tst_GuideButton::hugeAnimationStaysOnTheScreen()
     button->click();
     QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
     QCOMPARE(movie(*button)->state(), QMovie::Running);
+}
+
+void tst_GuideButton::shorterTextMakesAnOpenPopupLower()
+{
+    const auto button = makeButton();
+    auto longText = info(QStringLiteral("Trim"));
+    longText->description = QStringLiteral("frame ").repeated(100);
+    button->setGuideInfo(std::move(longText));
+    button->show();
+    button->click();
+    const int before = popup(*button)->height();
+    guide(*button)->setInfo(*info(QStringLiteral("Trim")));
+    QTRY_VERIFY(popup(*button)->height() < before - 100);
+    QTRY_COMPARE(guide(*button)->geometry(), popup(*button)->contentFrame()->rect());
+    QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
+    QCOMPARE(popup(*button)->y(), middleOfLowerEdge(*button).y());
 }
 
 void tst_GuideButton::popupHasAnAccessibleName()
