@@ -1,0 +1,63 @@
+// Internal: the loupe that Pipette moves with the cursor.
+
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QRegion>
+#include <QSize>
+#include <QWidget>
+
+#include <memory>
+
+/**
+ * A round magnifier: a picture of the pixels around the cursor, enlarged to the widget's size, and the name
+ * of their middle's colour in a QLabel "colorNameLabel" that lies over all of it.
+ *
+ * The size, the label's look and the rim come from the style sheet. The picture is clipped to the ellipse
+ * that the widget had when it was first shown; the sheet's background and border are painted over it, and
+ * are not clipped: give it a transparent background.
+ */
+class LoupeWidget : public QWidget
+{
+    Q_OBJECT
+    /// What is seen where the picture has no pixels, as beyond the edge of the desktop. Invalid, the default,
+    /// paints nothing there.
+    Q_PROPERTY(QColor emptyPixelsColor READ emptyPixelsColor WRITE setEmptyPixelsColor)
+
+public:
+    /// @p parent owns the loupe as usual.
+    explicit LoupeWidget(QWidget* parent = nullptr);
+    ~LoupeWidget() override;
+
+    QColor emptyPixelsColor() const;
+    void setEmptyPixelsColor(const QColor& color);
+
+    /// Where the loupe sits beside the cursor, a LoupePlacement::Placement; above right at first. Moves
+    /// nothing.
+    void setPlacement(int placement);
+    int placement() const;
+
+    /// From the cursor to the loupe's top-left corner, in its present size and placement.
+    QSize offset() const;
+
+    /// The picture to magnify: 13 by 13 pixels of the desktop.
+    void setPixmap(const QPixmap& pixmap);
+
+    /// Shows the colour's QColor::name().
+    void setColorName(const QColor& color);
+
+    /// Where the loupe paints anything at all with a picture in it, whatever style sheet it has.
+    QRegion paintedShape() const;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    class Private;
+    class Children;
+    const std::unique_ptr<Private> d;
+    const std::unique_ptr<Children> m_children;
+};

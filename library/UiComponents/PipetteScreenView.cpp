@@ -1,0 +1,324 @@
+#include "PipetteScreenView.h"
+
+#include "LoupeTrail.h"
+#include "ScreenSample.h"
+
+#include <QCursor>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QGraphicsItem>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+constexpr int lagOfCompositors = 60; // milliseconds
+
+void makeBare(QWidget* widget)
+{
+    widget->setStyleSheet(QStringLiteral("border: none; background: transparent; "
+                                         "margin: 0px 0px 0px 0px; padding: 0px 0px 0px 0px;"));
+    widget->ensurePolished();
+}
+
+QGraphicsItem* bottomItem(const QGraphicsScene* scene)
+{
+    const QList<QGraphicsItem*> items =
+        scene ? scene->items(Qt::DescendingOrder) : QList<QGraphicsItem*>();
+    return items.isEmpty() ? nullptr : items.last();
+}
+
+} // namespace
+
+class PipetteScreenView::Private
+{
+public:
+    explicit Private(PipetteScreenView* view)
+        : owner(view)
+        , loupeItem(bottomItem(view->scene()))
+        , trail(screenLag())
+    {
+        clock.start();
+    }
+
+    /// The item, if it is still there: it dies with its widget and with its scene.
+    QGraphicsItem* loupe() const;
+    void setLoupeVisible(bool visible);
+    std::optional<LoupeTrail::Place> paintedPlace() const;
+    void rebuildCursor();
+    void focusSoon();
+    void showAtCursor(QEvent* event);
+
+    PipetteScreenView* const owner;
+    QGraphicsItem* const loupeItem;
+    QPixmap cursorPixmap;
+    QSize cursorSize;
+    QSize cursorHotSpot;
+    QCursor cursor;
+
+    QRect keptFree;
+    LoupeTrail trail;
+    QElapsedTimer clock;
+    std::optional<qint64> coveredAt;
+};
+
+QGraphicsItem* PipetteScreenView::Private::loupe() const
+{
+    const QGraphicsScene* const scene = owner->scene();
+    return scene && loupeItem && scene->items().contains(loupeItem) ? loupeItem : nullptr;
+}
+
+void PipetteScreenView::Private::setLoupeVisible(bool visible)
+{
+    if (QGraphicsItem* const item = loupe()) {
+        item->setVisible(visible);
+    }
+}
+
+std::optional<LoupeTrail::Place> PipetteScreenView::Private::paintedPlace() const
+{
+    const QGraphicsItem* const item = loupe();
+    if (!item || !item->isVisible() || item->effectiveOpacity() <= 0.0) {
+        return std::nullopt;
+    }
+    return LoupeTrail::Place{item->scenePos().toPoint(), keptFree};
+}
+
+void PipetteScreenView::Private::rebuildCursor()
+{
+    if (cursorPixmap.isNull() || cursorSize.isEmpty() || !cursorHotSpot.isValid()) {
+        cursor = QCursor();
+    } else {
+        cursor = QCursor(cursorPixmap.scaled(cursorSize, Qt::KeepAspectRatio, Qt::SmoothTransformation),
+                         cursorHotSpot.width(), cursorHotSpot.height());
+    }
+    owner->setCursor(cursor);
+}
+
+void PipetteScreenView::Private::focusSoon()
+{
+    QTimer::singleShot(0, owner, [this] { owner->setFocus(); });
+}
+
+void PipetteScreenView::Private::showAtCursor(QEvent* event)
+{
+    const QPointer<PipetteScreenView> self = owner;
+    Q_EMIT owner->loupePosChanged(QCursor::pos());
+    if (!self) {
+        return;
+    }
+    setLoupeVisible(true);
+    event->accept();
+    owner->setCursor(cursor);
+}
+
+PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry)
+    : QGraphicsView(scene)
+    , d(std::make_unique<Private>(this))
+{
+    setAttribute(Qt::WA_MouseTracking);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::NoDropShadowWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_NoSystemBackground);
+
+    // The native window is made where the corner is: a pixel inside, so that no rounding takes it to the
+    // screen next to it.
+    resize(10, 10);
+    move(screenGeometry.topLeft() + QPoint(1, 1));
+
+    setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    setSceneRect(QRectF(screenGeometry));
+    setViewportUpdateMode(QGraphicsView::SmartViewportUpdate);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    makeBare(this);
+    makeBare(viewport());
+
+    setViewportMargins(0, 0, 0, 0);
+    // A native window that is mapped, unmapped and mapped again within one turn may stay unmapped: some window
+    // managers take the answer to the second step for one to the third. So the first two stay inside of Qt.
+    setAttribute(Qt::WA_DontShowOnScreen);
+    show();
+    setAttribute(Qt::WA_DontShowOnScreen, false); // or the native window would not get its geometry
+    setGeometry(screenGeometry);
+    setFixedSize(size());
+    hide();
+
+    const QBrush overlay(ScreenSample::overlayColor(), Qt::SolidPattern);
+    setBackgroundBrush(overlay);
+    if (scene) {
+        scene->setBackgroundBrush(overlay);
+    }
+}
+
+PipetteScreenView::~PipetteScreenView() = default;
+
+QPixmap PipetteScreenView::cursorPixmap() const
+{
+    return d->cursorPixmap;
+}
+
+QSize PipetteScreenView::cursorSize() const
+{
+    return d->cursorSize;
+}
+
+QSize PipetteScreenView::cursorHotSpot() const
+{
+    return d->cursorHotSpot;
+}
+
+void PipetteScreenView::keepFree(const QRect& area)
+{
+    d->keptFree = area;
+}
+
+std::optional<int> PipetteScreenView::untilFree(const QRect& area, const QRegion& shape) const
+{
+    return d->trail.untilFree(area, shape, d->clock.elapsed());
+}
+
+std::optional<int> PipetteScreenView::untilCovered() const
+{
+    if (screenLag() == 0) {
+        return 0;
+    }
+    if (!d->coveredAt) {
+        return std::nullopt;
+    }
+    return static_cast<int>(qMax(qint64(0), *d->coveredAt + screenLag() - d->clock.elapsed()));
+}
+
+int PipetteScreenView::screenLag()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen") ? 0 : lagOfCompositors;
+}
+
+void PipetteScreenView::setCursorPixmap(const QPixmap& pixmap)
+{
+    d->cursorPixmap = pixmap;
+    d->rebuildCursor();
+}
+
+void PipetteScreenView::setCursorSize(QSize size)
+{
+    d->cursorSize = size;
+    d->rebuildCursor();
+}
+
+void PipetteScreenView::setCursorHotSpot(QSize hotSpot)
+{
+    d->cursorHotSpot = hotSpot;
+    d->rebuildCursor();
+}
+
+bool PipetteScreenView::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        d->showAtCursor(event);
+        return true;
+    case QEvent::Enter:
+        raise();
+        activateWindow();
+        setCursor(d->cursor);
+        d->focusSoon();
+        d->showAtCursor(event);
+        return true;
+    case QEvent::WindowActivate:
+        d->focusSoon();
+        d->showAtCursor(event);
+        return true;
+    case QEvent::Leave:
+    case QEvent::WindowDeactivate:
+        d->setLoupeVisible(false);
+        event->accept();
+        return true;
+    case QEvent::Wheel:
+        event->accept();
+        return true;
+    case QEvent::ShortcutOverride:
+        event->accept();
+        Q_EMIT pickingFinished(QCursor::pos(), false);
+        return true;
+    default:
+        return QGraphicsView::event(event);
+    }
+}
+
+void PipetteScreenView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        Q_EMIT pickingFinished(QCursor::pos(), false);
+    }
+}
+
+void PipetteScreenView::mouseMoveEvent(QMouseEvent* event)
+{
+    setCursor(d->cursor);
+    const bool isInside = geometry().contains(event->globalPos());
+    if (isInside) {
+        const QPointer<PipetteScreenView> self = this;
+        Q_EMIT loupePosChanged(event->globalPos());
+        if (!self) {
+            return;
+        }
+    }
+    const QGraphicsItem* const item = d->loupe();
+    if (item && item->isVisible() != isInside) {
+        d->setLoupeVisible(isInside);
+    }
+}
+
+void PipetteScreenView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT pickingFinished(event->globalPos(), true);
+    }
+}
+
+void PipetteScreenView::showEvent(QShowEvent*)
+{
+    const QPoint cursorPos = QCursor::pos();
+    const QPointer<PipetteScreenView> self = this;
+    if (cursorPos.x() >= geometry().left() && cursorPos.x() <= geometry().right()) {
+        Q_EMIT loupePosChanged(cursorPos);
+    }
+    if (self) {
+        d->setLoupeVisible(true);
+    }
+}
+
+void PipetteScreenView::paintEvent(QPaintEvent* event)
+{
+    QGraphicsView::paintEvent(event);
+    const qint64 now = d->clock.elapsed();
+    if (!d->coveredAt) {
+        d->coveredAt = now;
+    }
+    d->trail.paint(d->paintedPlace(), now);
+}
+
+void PipetteScreenView::drawForeground(QPainter* painter, const QRectF& rect)
+{
+    QGraphicsView::drawForeground(painter, rect);
+    const QGraphicsItem* const item = d->loupe();
+    if (!item) {
+        return;
+    }
+    // The loupe's corner may lie over the pixels that it magnifies.
+    const QRectF covered = item->sceneBoundingRect() & QRectF(d->keptFree);
+    if (!covered.isEmpty()) {
+        const QPainter::CompositionMode mode = painter->compositionMode();
+        painter->setCompositionMode(QPainter::CompositionMode_Source);
+        painter->fillRect(covered, ScreenSample::overlayColor());
+        painter->setCompositionMode(mode);
+    }
+}

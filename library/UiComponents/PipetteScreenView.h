@@ -1,0 +1,93 @@
+// Internal: the window with which Pipette covers one screen.
+
+#pragma once
+
+#include <QGraphicsView>
+#include <QPixmap>
+#include <QSize>
+
+#include <memory>
+#include <optional>
+
+class QGraphicsItem;
+class QRegion;
+
+/**
+ * Covers exactly one screen with a window that is all but transparent, and turns what the user does there
+ * into two signals.
+ *
+ * All views of one pick show the same scene, in coordinates of the desktop, with the loupe as its only item.
+ * The view shows the loupe while the cursor is on its screen and hides it when the cursor leaves or the
+ * window is no longer the active one; somebody else moves it.
+ *
+ * The view is made hidden, with its native window on the right screen already. An application's style sheet
+ * can give it the cursor of the pick:
+ *
+ *     PipetteScreenView {
+ *         qproperty-cursorPixmap: url(dropper.png);
+ *         qproperty-cursorSize: 32px 32px;
+ *         qproperty-cursorHotSpot: 2px 30px;
+ *     }
+ *
+ * Without all three, or with an empty size, the cursor is the arrow.
+ */
+class PipetteScreenView : public QGraphicsView
+{
+    Q_OBJECT
+    /// The picture of the cursor, scaled to fit into cursorSize.
+    Q_PROPERTY(QPixmap cursorPixmap READ cursorPixmap WRITE setCursorPixmap)
+    Q_PROPERTY(QSize cursorSize READ cursorSize WRITE setCursorSize)
+    /// The point of the cursor in the scaled picture: the width is x, the height is y.
+    Q_PROPERTY(QSize cursorHotSpot READ cursorHotSpot WRITE setCursorHotSpot)
+
+public:
+    /// @p scene is not owned, may be null, and may die first; its bottom item is the loupe.
+    /// @p screenGeometry is that of the screen, in coordinates of the desktop.
+    PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry);
+    ~PipetteScreenView() override;
+
+    QPixmap cursorPixmap() const;
+    QSize cursorSize() const;
+    QSize cursorHotSpot() const;
+
+    /// Nothing of the loupe is painted in @p area of the desktop from the next painting on.
+    void keepFree(const QRect& area);
+
+    /// How many milliseconds until the screen can no longer show any part of a loupe of @p shape in @p area
+    /// of the desktop, although it may be late with what was painted: 0 when it shows none, none when the
+    /// view has to be painted first.
+    std::optional<int> untilFree(const QRect& area, const QRegion& shape) const;
+
+    /// How many milliseconds until the screen is sure to show the view's overlay; none before the first
+    /// painting.
+    std::optional<int> untilCovered() const;
+
+    /// How late the screen may be with what was painted, in milliseconds: about three pictures of a
+    /// compositor; 0 on a platform whose grabs read the windows themselves.
+    static int screenLag();
+
+Q_SIGNALS:
+    /// The user picked the point @p cursorPos of the desktop, or gave up.
+    void pickingFinished(QPoint cursorPos, bool isSucceeded);
+
+    /// The loupe belongs to @p cursorPos of the desktop now.
+    void loupePosChanged(QPoint cursorPos);
+
+public Q_SLOTS:
+    void setCursorPixmap(const QPixmap& pixmap);
+    void setCursorSize(QSize size);
+    void setCursorHotSpot(QSize hotSpot);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void drawForeground(QPainter* painter, const QRectF& rect) override;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};

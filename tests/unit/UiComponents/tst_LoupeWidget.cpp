@@ -1,0 +1,358 @@
+#include "MetaObject.h"
+#include "TestMain.h"
+
+#include <UiComponents/LoupeWidget.h>
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+#include <QStyle>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+constexpr int pixels = 13;
+constexpr int zoom = 9;
+constexpr int side = pixels * zoom;
+
+QColor pixelAt(int x, int y)
+{
+    return {x * 19, y * 19, 200};
+}
+
+QPixmap picture()
+{
+    QImage image(pixels, pixels, QImage::Format_RGB32);
+    for (int y = 0; y < pixels; ++y) {
+        for (int x = 0; x < pixels; ++x) {
+            image.setPixelColor(x, y, pixelAt(x, y));
+        }
+    }
+    return QPixmap::fromImage(image);
+}
+
+/// The loupe as the scene paints it: over whatever is there.
+QImage painted(LoupeWidget& loupe, const QColor& below)
+{
+    QImage image(loupe.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(below);
+    loupe.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+/// Whether a point is clearly inside or outside of the ellipse in a rectangle of that size.
+bool isInside(const QSize& size, int x, int y, double* distance)
+{
+    const double dx = (x + 0.5 - size.width() / 2.0) / (size.width() / 2.0);
+    const double dy = (y + 0.5 - size.height() / 2.0) / (size.height() / 2.0);
+    *distance = std::sqrt(dx * dx + dy * dy) - 1.0;
+    return *distance < 0.0;
+}
+
+constexpr double rim = 0.03;
+
+} // namespace
+
+class tst_LoupeWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metaObject();
+    void construction();
+    void offsetFollowsPlacementAndSize();
+    void colorName();
+    void emptyPixelsColorIsStoredOnce();
+    void pictureIsMagnifiedIntoACircle();
+    void transparentPixelsShowTheEmptyColor();
+    void withoutPictureOnlyTheEmptyColor();
+    void invalidEmptyColorPaintsNothing();
+    void onlyTheLoupesPixelsAreTaken();
+    void circleOfTheFirstSizeStays();
+    void sheetIsPaintedUnclipped();
+    void sheetGivesSizeAndColor();
+    void cursorOnNoScreen();
+    void paintedShape();
+    void paintsAtEverySize();
+
+    void cleanup();
+
+private:
+    static std::unique_ptr<LoupeWidget> shown();
+};
+
+void tst_LoupeWidget::cleanup()
+{
+    qApp->setStyleSheet(QString());
+    QCursor::setPos(100, 100);
+}
+
+std::unique_ptr<LoupeWidget> tst_LoupeWidget::shown()
+{
+    auto loupe = std::make_unique<LoupeWidget>();
+    loupe->setAttribute(Qt::WA_DontShowOnScreen);
+    loupe->resize(side, side);
+    loupe->show();
+    return loupe;
+}
+
+void tst_LoupeWidget::metaObject()
+{
+    QCOMPARE(ownMethods(LoupeWidget::staticMetaObject), QStringList());
+    QCOMPARE(ownProperties(LoupeWidget::staticMetaObject),
+             QStringList{QStringLiteral("QColor emptyPixelsColor rw")});
+}
+
+void tst_LoupeWidget::construction()
+{
+    const LoupeWidget loupe;
+    QCOMPARE(loupe.windowFlags(), Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                                      Qt::NoDropShadowWindowHint);
+    QCOMPARE(loupe.property("roundedEdges"), QVariant(true));
+    QVERIFY(loupe.testAttribute(Qt::WA_TranslucentBackground));
+    QVERIFY(!loupe.emptyPixelsColor().isValid());
+    QCOMPARE(loupe.placement(), 3);
+
+    const auto labels = loupe.findChildren<QLabel*>();
+    QCOMPARE(labels.size(), 1);
+    QCOMPARE(labels.first()->objectName(), QStringLiteral("colorNameLabel"));
+    const auto* layout = qobject_cast<QBoxLayout*>(loupe.layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->direction(), QBoxLayout::TopToBottom);
+    QCOMPARE(layout->contentsMargins(), QMargins());
+    QCOMPARE(layout->spacing(), 0);
+    QCOMPARE(layout->count(), 1);
+    QCOMPARE(layout->itemAt(0)->widget(), labels.first());
+    bool hasController = false;
+    for (const QObject* child : loupe.children()) {
+        hasController = hasController || child->inherits("InstalledLayoutController");
+    }
+    QVERIFY(hasController);
+    // Looks and size are the sheet's.
+    QCOMPARE(loupe.minimumSize(), QSize(0, 0));
+    QCOMPARE(loupe.maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
+
+void tst_LoupeWidget::offsetFollowsPlacementAndSize()
+{
+    LoupeWidget loupe;
+    loupe.resize(120, 80);
+    QCOMPARE(loupe.offset(), QSize(0, -80));
+    loupe.setPlacement(0);
+    QCOMPARE(loupe.offset(), QSize(0, 0));
+    loupe.setPlacement(1);
+    QCOMPARE(loupe.offset(), QSize(-120, 0));
+    loupe.setPlacement(2);
+    QCOMPARE(loupe.offset(), QSize(-120, -80));
+    loupe.resize(50, 60);
+    QCOMPARE(loupe.offset(), QSize(-50, -60));
+    loupe.setPlacement(17);
+    QCOMPARE(loupe.offset(), QSize(0, 0));
+}
+
+void tst_LoupeWidget::colorName()
+{
+    LoupeWidget loupe;
+    auto* label = loupe.findChild<QLabel*>();
+    QCOMPARE(label->text(), QString());
+    loupe.setColorName(QColor(171, 205, 239));
+    QCOMPARE(label->text(), QStringLiteral("#abcdef"));
+    loupe.setColorName(QColor(0, 0, 0, 10));
+    QCOMPARE(label->text(), QStringLiteral("#000000"));
+}
+
+namespace {
+
+class UpdateCounter : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+} // namespace
+
+void tst_LoupeWidget::emptyPixelsColorIsStoredOnce()
+{
+    LoupeWidget loupe;
+    loupe.resize(side, side);
+    loupe.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&loupe));
+    UpdateCounter counter;
+    loupe.installEventFilter(&counter);
+    loupe.setEmptyPixelsColor(Qt::darkGreen);
+    QCOMPARE(loupe.emptyPixelsColor(), QColor(Qt::darkGreen));
+    QTRY_VERIFY(counter.count > 0);
+    QCoreApplication::processEvents();
+    counter.count = 0;
+    loupe.setEmptyPixelsColor(Qt::darkGreen);
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.count, 0);
+    loupe.setPlacement(1);
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.count, 0);
+    QVERIFY(loupe.setProperty("emptyPixelsColor", QColor(Qt::red)));
+    QCOMPARE(loupe.emptyPixelsColor(), QColor(Qt::red));
+}
+
+void tst_LoupeWidget::pictureIsMagnifiedIntoACircle()
+{
+    const auto loupe = shown();
+    loupe->setPixmap(picture());
+    const QImage image = painted(*loupe, Qt::black);
+    int compared = 0;
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            double distance = 0.0;
+            const bool inside = isInside({side, side}, x, y, &distance);
+            if (qAbs(distance) < rim) {
+                continue;
+            }
+            ++compared;
+            const QColor expected = inside ? pixelAt(x / zoom, y / zoom) : QColor(Qt::black);
+            QVERIFY2(image.pixelColor(x, y) == expected,
+                     qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+        }
+    }
+    QVERIFY(compared > side * side * 9 / 10);
+}
+
+void tst_LoupeWidget::transparentPixelsShowTheEmptyColor()
+{
+    const auto loupe = shown();
+    QPixmap half(pixels, pixels);
+    half.fill(Qt::transparent);
+    QPainter(&half).fillRect(0, 0, 6, pixels, Qt::red);
+    loupe->setPixmap(half);
+    loupe->setEmptyPixelsColor(Qt::blue);
+    const QImage image = painted(*loupe, Qt::black);
+    QCOMPARE(image.pixelColor(6 * zoom - 1, side / 2), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(6 * zoom, side / 2), QColor(Qt::blue));
+    QCOMPARE(image.pixelColor(0, 0), QColor(Qt::black));
+}
+
+void tst_LoupeWidget::withoutPictureOnlyTheEmptyColor()
+{
+    const auto loupe = shown();
+    loupe->setEmptyPixelsColor(Qt::blue);
+    const QImage image = painted(*loupe, Qt::black);
+    QCOMPARE(image.pixelColor(side / 2, side / 2), QColor(Qt::blue));
+    QCOMPARE(image.pixelColor(side - 1, side - 1), QColor(Qt::black));
+}
+
+void tst_LoupeWidget::invalidEmptyColorPaintsNothing()
+{
+    const auto loupe = shown();
+    QCOMPARE(painted(*loupe, Qt::green).pixelColor(side / 2, side / 2), QColor(Qt::green));
+}
+
+// A fractional scale grabs a row more than it needs; a larger picture has no more to say.
+void tst_LoupeWidget::onlyTheLoupesPixelsAreTaken()
+{
+    const auto loupe = shown();
+    QPixmap large(3 * pixels, 3 * pixels);
+    large.fill(Qt::red);
+    QPainter(&large).drawPixmap(0, 0, picture());
+    loupe->setPixmap(large);
+    const qreal ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    QCOMPARE(ratio, 1.0);
+    const QImage image = painted(*loupe, Qt::black);
+    QCOMPARE(image.pixelColor(side - 2, side / 2), pixelAt(12, 6));
+    QCOMPARE(image.pixelColor(side / 2, side - 2), pixelAt(6, 12));
+}
+
+void tst_LoupeWidget::circleOfTheFirstSizeStays()
+{
+    const auto loupe = shown();
+    loupe->setPixmap(picture());
+    loupe->resize(2 * side, 2 * side);
+    const QImage image = painted(*loupe, Qt::black);
+    QCOMPARE(image.pixelColor(side / 2, side / 2), pixelAt(3, 3));
+    QCOMPARE(image.pixelColor(side, side), QColor(Qt::black));
+    QCOMPARE(image.pixelColor(side - 2, side / 2), pixelAt(6, 3));
+    QCOMPARE(image.pixelColor(side + 2, side / 2), QColor(Qt::black));
+    // Nor does hiding and showing make another one.
+    loupe->hide();
+    loupe->show();
+    QCOMPARE(painted(*loupe, Qt::black).pixelColor(side, side), QColor(Qt::black));
+}
+
+void tst_LoupeWidget::sheetIsPaintedUnclipped()
+{
+    qApp->setStyleSheet(QStringLiteral("LoupeWidget { border: 4px solid #00ff00; background: transparent; }"));
+    const auto loupe = shown();
+    loupe->setPixmap(picture());
+    const QImage image = painted(*loupe, Qt::black);
+    QCOMPARE(image.pixelColor(1, 1), QColor(0, 255, 0));
+    QCOMPARE(image.pixelColor(side / 2, 2), QColor(0, 255, 0));
+    QCOMPARE(image.pixelColor(side / 2, 5), pixelAt(6, 0));
+    QCOMPARE(image.pixelColor(8, 8), QColor(Qt::black));
+}
+
+void tst_LoupeWidget::sheetGivesSizeAndColor()
+{
+    qApp->setStyleSheet(QStringLiteral(
+        "LoupeWidget { min-width: 90px; max-width: 90px; min-height: 70px; max-height: 70px;"
+        " qproperty-emptyPixelsColor: #112233; }"
+        "LoupeWidget > InstalledLayoutController { qproperty-layoutMargin: 5; }"));
+    LoupeWidget loupe;
+    loupe.ensurePolished();
+    loupe.adjustSize();
+    QCOMPARE(loupe.size(), QSize(90, 70));
+    QCOMPARE(loupe.emptyPixelsColor(), QColor(0x11, 0x22, 0x33));
+    QCOMPARE(loupe.layout()->contentsMargins(), QMargins(5, 5, 5, 5));
+}
+
+void tst_LoupeWidget::cursorOnNoScreen()
+{
+    const auto loupe = shown();
+    loupe->setPixmap(picture());
+    loupe->setEmptyPixelsColor(Qt::blue);
+    QCursor::setPos(-5000, -5000);
+    QVERIFY(!QGuiApplication::screenAt(QCursor::pos()));
+    QCOMPARE(painted(*loupe, Qt::black).pixelColor(side / 2, side / 2), QColor(Qt::blue));
+}
+
+void tst_LoupeWidget::paintedShape()
+{
+    const auto loupe = shown();
+    const QRegion disc = loupe->paintedShape();
+    QCOMPARE(disc.boundingRect(), QRect(0, 0, side, side));
+    QVERIFY(disc.contains(QPoint(side / 2, side / 2)));
+    QVERIFY(!disc.intersects(QRect(0, 0, 15, 15)));
+    QVERIFY(!disc.intersects(QRect(0, side - 15, 15, 15)));
+
+    // What a sheet adds counts, whenever it comes, and so does another size.
+    qApp->setStyleSheet(QStringLiteral("LoupeWidget { border: 1px solid red; }"));
+    const QRegion framed = loupe->paintedShape();
+    QVERIFY(framed.contains(QPoint(0, 0)));
+    QVERIFY(framed.contains(QPoint(side - 1, side - 1)));
+    QVERIFY(!framed.contains(QPoint(8, 8)));
+    loupe->resize(side + 20, side);
+    QVERIFY(loupe->paintedShape().contains(QPoint(side + 19, 0)));
+}
+
+void tst_LoupeWidget::paintsAtEverySize()
+{
+    LoupeWidget loupe;
+    loupe.setAttribute(Qt::WA_DontShowOnScreen);
+    loupe.setPixmap(picture());
+    loupe.setEmptyPixelsColor(Qt::blue);
+    for (const QSize& size : {QSize(0, 0), QSize(1, 1), QSize(1, 40), QSize(40, 1), QSize(13, 13)}) {
+        loupe.setFixedSize(size);
+        loupe.show();
+        loupe.grab();
+        loupe.paintedShape();
+    }
+}
+
+UIC_TEST_MAIN(tst_LoupeWidget)
+#include "tst_LoupeWidget.moc"

@@ -1,0 +1,946 @@
+#include "FreedMemory.h"
+#include "MetaObject.h"
+#include "TestMain.h"
+
+#include <QtUtility/PrivacyAccess.h>
+#include <UiComponents/LoupeWidget.h>
+#include <UiComponents/Pipette.h>
+#include <UiComponents/PipetteScreenView.h>
+
+#include <QDialog>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsScene>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+
+#include <functional>
+#include <memory>
+
+using Orvane::Util::AccessStatus;
+using Orvane::Util::PrivacyType;
+
+namespace {
+
+AccessStatus access = AccessStatus::Granted;
+QVector<int> requests;
+
+} // namespace
+
+// In the place of the platform's: a host may bring its own.
+AccessStatus Orvane::Util::IsPrivacyAccessGranted(PrivacyType type)
+{
+    return type == PrivacyType::ScreenCapture ? access : AccessStatus::Granted;
+}
+
+bool Orvane::Util::RequestPrivacyAccess(PrivacyType type)
+{
+    requests.append(static_cast<int>(type));
+    return false;
+}
+
+namespace {
+
+constexpr QSize loupeSize(117, 117);
+
+/// A window of pixels that all differ. The off-screen platform reads the first window that there is.
+class PixelWindow : public QWidget
+{
+public:
+    PixelWindow()
+        : QWidget(nullptr, Qt::FramelessWindowHint)
+    {
+        setGeometry(QGuiApplication::primaryScreen()->geometry());
+    }
+
+    static QColor pixelAt(const QPoint& point)
+    {
+        return {point.x() % 251, point.y() % 241, (point.x() / 8 + point.y() / 8) % 120};
+    }
+
+    /// The same as the pipette has it, which takes a picture to have been darkened.
+    static QColor pickedAt(const QPoint& point)
+    {
+        const QColor pixel = pixelAt(point);
+        const double factor = 1.0 / (1.0 - QColor(0, 0, 0, 1).alphaF());
+        return QColor::fromRgbF(pixel.redF() * factor, pixel.greenF() * factor, pixel.blueF() * factor);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QImage image(size(), QImage::Format_RGB32);
+        for (int y = 0; y < height(); ++y) {
+            for (int x = 0; x < width(); ++x) {
+                image.setPixelColor(x, y, pixelAt({x, y}));
+            }
+        }
+        QPainter(this).drawImage(0, 0, image);
+    }
+};
+
+template <typename Widget>
+QList<Widget*> alive()
+{
+    QList<Widget*> found;
+    const auto widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        if (auto* one = qobject_cast<Widget*>(widget)) {
+            found.append(one);
+        }
+    }
+    return found;
+}
+
+QList<PipetteScreenView*> shownViews()
+{
+    QList<PipetteScreenView*> found;
+    const auto views = alive<PipetteScreenView>();
+    for (PipetteScreenView* view : views) {
+        if (view->isVisible()) {
+            found.append(view);
+        }
+    }
+    return found;
+}
+
+void deleteDeferred()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool nothingIsLeft()
+{
+    deleteDeferred();
+    return alive<PipetteScreenView>().isEmpty() && alive<LoupeWidget>().isEmpty() &&
+           !QGuiApplication::overrideCursor();
+}
+
+/// What a pipette says, in order.
+class Protocol
+{
+public:
+    void watch(Pipette* pipette)
+    {
+        QObject::connect(pipette, &Pipette::pickingStarted, pipette,
+                         [this] { lines += QStringLiteral("started"); });
+        QObject::connect(pipette, &Pipette::pickingStopped, pipette,
+                         [this] { lines += QStringLiteral("stopped"); });
+        QObject::connect(pipette, &Pipette::colorSelected, pipette,
+                         [this](const QColor& color) { lines += color.name(); });
+    }
+
+    QStringList lines;
+};
+
+const QString started = QStringLiteral("started");
+const QString stopped = QStringLiteral("stopped");
+
+} // namespace
+
+using Act = std::function<void(PipetteScreenView*)>;
+Q_DECLARE_METATYPE(Act)
+Q_DECLARE_METATYPE(std::function<void(Pipette*)>)
+
+class tst_Pipette : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void metaObject();
+    void newPipetteShowsNothing();
+    void missingPermissionIsAskedFor_data();
+    void missingPermissionIsAskedFor();
+
+    void startCoversEveryScreen();
+    void startActivatesTheScreenUnderTheCursor();
+    void startResetsTheColor();
+    void stopWhileIdleIsReported();
+    void stopEndsAPick();
+    void secondStartAddsASecondSet();
+
+    void releasePicks();
+    void whiteIsScaled();
+    void pointOnNoScreenPicksNothing();
+    void pictureOfNothingPicksNothing();
+    void escapeGivesUp();
+    void keysGiveUp();
+    void otherInputDoesNothing();
+    void pickUnderTheLoupeWaits();
+    void waitingPickIsOver_data();
+    void waitingPickIsOver();
+    void otherApplicationEndsThePick();
+    void changedScreensEndThePick_data();
+    void changedScreensEndThePick();
+    void quittingEndsThePick();
+    void lastWindowIsNotTheOverlay();
+    void modalDialogBlocksNothing();
+    void lateEventsEndNothing();
+
+    void loupeFollowsTheCursor_data();
+    void loupeFollowsTheCursor();
+    void loupeShowsWhatItMagnifies();
+    void loupeOnNoScreenStays();
+    void loupeWithoutPictureKeepsItsName();
+    void loupeMayDie();
+    void viewMayDie();
+
+    void slotsOfSelectedMayEndThePick();
+    void slotsOfSelectedMayRestart();
+    void slotsOfSelectedMayStartASecond();
+    void slotsOfStoppedMayRestart();
+    void colorOfARestartedPickIsReported();
+    void pipetteMayDieInItsSlots_data();
+    void pipetteMayDieInItsSlots();
+    void pipetteMayDieWhilePicking();
+    void windowOfThePipetteMayDie();
+    void handlersOutliveThePipette();
+
+private:
+    void start();
+    void takeEverythingAway(PipetteScreenView* view);
+
+    std::unique_ptr<PixelWindow> m_window;
+    std::unique_ptr<Pipette> m_pipette;
+    Protocol m_protocol;
+};
+
+void tst_Pipette::initTestCase()
+{
+    qApp->setStyleSheet(QStringLiteral("LoupeWidget { min-width: 117px; max-width: 117px; min-height: 117px;"
+                                       " max-height: 117px; }"));
+}
+
+void tst_Pipette::init()
+{
+    QCursor::setPos(400, 300);
+    access = AccessStatus::Granted;
+    requests.clear();
+    m_window = std::make_unique<PixelWindow>();
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_pipette = std::make_unique<Pipette>();
+    m_protocol.lines.clear();
+    m_protocol.watch(m_pipette.get());
+}
+
+void tst_Pipette::cleanup()
+{
+    m_pipette.reset();
+    m_window.reset();
+    QVERIFY(nothingIsLeft());
+}
+
+/// Leaves nothing on the screen that the platform could read.
+void tst_Pipette::takeEverythingAway(PipetteScreenView* view)
+{
+    m_window.reset();
+    view->move(3000, 3000);
+}
+
+/// Starts a pick and waits until it is on the screen.
+void tst_Pipette::start()
+{
+    m_pipette->startPicking();
+    const auto views = shownViews();
+    QVERIFY(!views.isEmpty());
+    QVERIFY(QTest::qWaitForWindowExposed(views.last()));
+    QVERIFY(QTest::qWaitForWindowActive(views.last()));
+    QCoreApplication::processEvents();
+}
+
+namespace {
+
+QGraphicsItem* loupeItem()
+{
+    const auto loupes = alive<LoupeWidget>();
+    return loupes.isEmpty() ? nullptr : loupes.last()->graphicsProxyWidget();
+}
+
+void release(PipetteScreenView* view, const QPoint& point, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseClick(view->windowHandle(), button, Qt::NoModifier, point);
+}
+
+} // namespace
+
+void tst_Pipette::metaObject()
+{
+    const QMetaObject& meta = Pipette::staticMetaObject;
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(ownMethods(meta),
+             (QStringList{QStringLiteral("signal pickingStarted()"), QStringLiteral("signal pickingStopped()"),
+                          QStringLiteral("signal colorSelected(QColor)")}));
+    QCOMPARE(ownProperties(meta), QStringList());
+}
+
+void tst_Pipette::newPipetteShowsNothing()
+{
+    QVERIFY(!m_pipette->currentColor().isValid());
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+    QObject parent;
+    const Pipette child(&parent);
+    QCOMPARE(child.parent(), &parent);
+}
+
+void tst_Pipette::missingPermissionIsAskedFor_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::newRow("denied") << int(AccessStatus::Denied);
+    QTest::newRow("not available") << int(AccessStatus::Unavailable);
+    QTest::newRow("a number of the host's") << 17;
+    QTest::newRow("negative") << -1;
+}
+
+void tst_Pipette::missingPermissionIsAskedFor()
+{
+    QFETCH(int, status);
+    access = AccessStatus(status);
+    m_pipette->startPicking();
+    QCOMPARE(requests, QVector<int>{5});
+    QCOMPARE(m_protocol.lines, QStringList());
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+
+    access = AccessStatus::Granted;
+    m_pipette->startPicking();
+    QCOMPARE(requests, QVector<int>{5});
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    QCOMPARE(shownViews().size(), 1);
+}
+
+void tst_Pipette::startCoversEveryScreen()
+{
+    bool wereUp = false;
+    connect(m_pipette.get(), &Pipette::pickingStarted, this, [&wereUp] {
+        const auto views = shownViews();
+        wereUp = views.size() == QGuiApplication::screens().size();
+    });
+    m_pipette->startPicking();
+    QVERIFY(wereUp);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    const auto views = shownViews();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    QCOMPARE(views.size(), screens.size());
+    QRect desktop;
+    for (int i = 0; i < views.size(); ++i) {
+        QCOMPARE(views.at(i)->geometry(), screens.at(i)->geometry());
+        QCOMPARE(views.at(i)->scene(), views.first()->scene());
+        desktop |= screens.at(i)->geometry();
+    }
+    QCOMPARE(views.first()->scene()->sceneRect(), QRectF(desktop));
+    QCOMPARE(views.first()->scene()->items().size(), 1);
+    QCOMPARE(alive<LoupeWidget>().size(), 1);
+    QVERIFY(loupeItem()->isVisible());
+}
+
+void tst_Pipette::startActivatesTheScreenUnderTheCursor()
+{
+    m_pipette->startPicking();
+    PipetteScreenView* const view = shownViews().first();
+    QVERIFY(QTest::qWaitForWindowActive(view));
+    QTRY_VERIFY(view->hasFocus());
+    QCOMPARE(view->geometry(), QGuiApplication::primaryScreen()->geometry());
+
+    // Beside all screens, the first one.
+    m_pipette->stopPicking();
+    deleteDeferred();
+    QCursor::setPos(-3000, -3000);
+    m_pipette->startPicking();
+    QVERIFY(QTest::qWaitForWindowActive(shownViews().first()));
+}
+
+void tst_Pipette::startResetsTheColor()
+{
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    QVERIFY(m_pipette->currentColor().isValid());
+    const QColor& color = m_pipette->currentColor();
+    m_pipette->startPicking();
+    QVERIFY(!m_pipette->currentColor().isValid());
+    QVERIFY(!color.isValid());
+    m_pipette->stopPicking();
+    QVERIFY(!m_pipette->currentColor().isValid());
+}
+
+void tst_Pipette::stopWhileIdleIsReported()
+{
+    m_pipette->stopPicking();
+    QCOMPARE(m_protocol.lines, QStringList{stopped});
+    m_pipette->stopPicking();
+    QCOMPARE(m_protocol.lines, (QStringList{stopped, stopped}));
+}
+
+void tst_Pipette::stopEndsAPick()
+{
+    start();
+    m_pipette->stopPicking();
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(shownViews().isEmpty());
+    // They vanish with the next turn of the event loop, not before.
+    QCOMPARE(alive<PipetteScreenView>().size(), 1);
+    QCOMPARE(alive<LoupeWidget>().size(), 1);
+    QCoreApplication::processEvents();
+    QVERIFY(nothingIsLeft());
+}
+
+void tst_Pipette::secondStartAddsASecondSet()
+{
+    start();
+    PipetteScreenView* const first = shownViews().first();
+    m_pipette->startPicking();
+    QCOMPARE(shownViews().size(), 2);
+    QCOMPARE(alive<LoupeWidget>().size(), 2);
+    QVERIFY(shownViews().first()->scene() != shownViews().last()->scene());
+    QCOMPARE(m_protocol.lines, (QStringList{started, started}));
+
+    // Either set ends both.
+    Q_EMIT first->pickingFinished(QPoint(600, 500), true);
+    QCOMPARE(m_protocol.lines, (QStringList{started, started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+    QVERIFY(shownViews().isEmpty());
+    // Not a second time through a connection of the first set.
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(m_protocol.lines.size(), 4);
+}
+
+void tst_Pipette::releasePicks()
+{
+    start();
+    const QPoint point(600, 500);
+    QTest::mousePress(shownViews().first()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    QTest::mouseRelease(shownViews().first()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+    const QColor expected = PixelWindow::pickedAt(point);
+    QCOMPARE(m_protocol.lines, (QStringList{started, expected.name(), stopped}));
+    QCOMPARE(m_pipette->currentColor(), expected);
+    QCOMPARE(m_pipette->currentColor().alphaF(), 1.0);
+    QVERIFY(shownViews().isEmpty());
+}
+
+void tst_Pipette::whiteIsScaled()
+{
+    QWidget white;
+    white.setPalette(QPalette(Qt::white));
+    m_window.reset();
+    white.setGeometry(QGuiApplication::primaryScreen()->geometry());
+    white.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&white));
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    const QColor color = m_pipette->currentColor();
+    QVERIFY(qAbs(color.redF() - 255.0 / 254.0) < 1e-3);
+    QVERIFY(qAbs(color.greenF() - 255.0 / 254.0) < 1e-3);
+    QVERIFY(qAbs(color.blueF() - 255.0 / 254.0) < 1e-3);
+    QCOMPARE(color.alphaF(), 1.0);
+    QCOMPARE(color.name(), QStringLiteral("#ffffff"));
+}
+
+void tst_Pipette::pointOnNoScreenPicksNothing()
+{
+    start();
+    Q_EMIT shownViews().first()->pickingFinished(QPoint(-5, 300), true);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(!m_pipette->currentColor().isValid());
+}
+
+// Nothing is never black.
+void tst_Pipette::pictureOfNothingPicksNothing()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    takeEverythingAway(view);
+    QTest::ignoreMessage(QtWarningMsg,
+                         "No colour at QPoint(600,500) - the platform \"offscreen\" gives no picture of the screen");
+    Q_EMIT view->pickingFinished(QPoint(600, 500), true);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(!m_pipette->currentColor().isValid());
+}
+
+void tst_Pipette::escapeGivesUp()
+{
+    start();
+    // Comes as a shortcut override and as a key press.
+    QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(shownViews().isEmpty());
+}
+
+void tst_Pipette::keysGiveUp()
+{
+    start();
+    QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_F5);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(shownViews().isEmpty());
+}
+
+void tst_Pipette::otherInputDoesNothing()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    release(view, QPoint(600, 500), Qt::RightButton);
+    release(view, QPoint(600, 500), Qt::MiddleButton);
+    QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view->viewport(), &wheel);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    QVERIFY(view->isVisible());
+}
+
+namespace {
+
+/// A point that the loupe, as it stands now, covers.
+QPoint underTheLoupe(const QGraphicsItem* item)
+{
+    return item->sceneBoundingRect().center().toPoint();
+}
+
+} // namespace
+
+// The loupe has to leave the pixel first, and the screen has to show that.
+void tst_Pipette::pickUnderTheLoupeWaits()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    const QPoint point = underTheLoupe(loupeItem());
+    Q_EMIT view->pickingFinished(point, true);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    // Nothing of what comes meanwhile changes the point or brings the loupe back.
+    const QPointF place = loupeItem()->pos();
+    release(view, QPoint(600, 500));
+    QTest::mouseMove(view->windowHandle(), QPoint(300, 200));
+    QTest::keyPress(view->windowHandle(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    if (loupeItem()) {
+        QCOMPARE(loupeItem()->pos(), place);
+        QCOMPARE(loupeItem()->opacity(), 0.0);
+    }
+    QTRY_COMPARE(m_protocol.lines.size(), 3);
+    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt(point).name(), stopped}));
+    QVERIFY(shownViews().isEmpty());
+}
+
+void tst_Pipette::waitingPickIsOver_data()
+{
+    QTest::addColumn<std::function<void(Pipette*)>>("end");
+    QTest::addColumn<int>("ends");
+    using End = std::function<void(Pipette*)>;
+    QTest::newRow("stopped") << End([](Pipette* pipette) { pipette->stopPicking(); }) << 1;
+    QTest::newRow("other application") << End(
+        [](Pipette*) { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }) << 1;
+    QTest::newRow("screen gone") << End(
+        [](Pipette*) { Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); }) << 1;
+    QTest::newRow("loupe deleted") << End([](Pipette* pipette) {
+        qDeleteAll(alive<LoupeWidget>());
+        pipette->stopPicking();
+    }) << 1;
+}
+
+void tst_Pipette::waitingPickIsOver()
+{
+    QFETCH(std::function<void(Pipette*)>, end);
+    QFETCH(int, ends);
+    start();
+    Q_EMIT shownViews().first()->pickingFinished(underTheLoupe(loupeItem()), true);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    end(m_pipette.get());
+    QCOMPARE(m_protocol.lines.count(stopped), ends);
+    // The timer of the wait is over too: the next pick is only started.
+    m_protocol.lines.clear();
+    start();
+    bool turned = false;
+    QTimer::singleShot(50, this, [&turned] { turned = true; });
+    QTRY_VERIFY(turned);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+}
+
+void tst_Pipette::otherApplicationEndsThePick()
+{
+    start();
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationHidden);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    for (const Qt::ApplicationState state : {Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
+        m_protocol.lines.clear();
+        m_pipette->startPicking();
+        Q_EMIT qGuiApp->applicationStateChanged(state);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    }
+}
+
+void tst_Pipette::changedScreensEndThePick_data()
+{
+    QTest::addColumn<std::function<void(Pipette*)>>("change");
+    using Change = std::function<void(Pipette*)>;
+    QTest::newRow("added") << Change(
+        [](Pipette*) { Q_EMIT qGuiApp->screenAdded(QGuiApplication::primaryScreen()); });
+    QTest::newRow("removed") << Change(
+        [](Pipette*) { Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); });
+    QTest::newRow("resized") << Change(
+        [](Pipette*) { Q_EMIT QGuiApplication::primaryScreen()->geometryChanged(QRect(0, 0, 640, 480)); });
+    QTest::newRow("scaled") << Change(
+        [](Pipette*) { Q_EMIT QGuiApplication::primaryScreen()->logicalDotsPerInchChanged(192.0); });
+}
+
+void tst_Pipette::changedScreensEndThePick()
+{
+    QFETCH(std::function<void(Pipette*)>, change);
+    start();
+    change(m_pipette.get());
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(shownViews().isEmpty());
+    change(m_pipette.get());
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+}
+
+void tst_Pipette::quittingEndsThePick()
+{
+    start();
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(shownViews().isEmpty());
+}
+
+// An application that shows nothing else goes on after a pick.
+void tst_Pipette::lastWindowIsNotTheOverlay()
+{
+    m_window.reset();
+    QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
+    start();
+    m_pipette->stopPicking();
+    QCoreApplication::processEvents();
+    deleteDeferred();
+    QCOMPARE(lastClosed.count(), 0);
+}
+
+void tst_Pipette::modalDialogBlocksNothing()
+{
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.setGeometry(10, 10, 100, 100);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+}
+
+void tst_Pipette::lateEventsEndNothing()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    m_pipette->stopPicking();
+    m_protocol.lines.clear();
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    static_cast<QObject*>(view)->event(&escape);
+    Q_EMIT view->pickingFinished(QPoint(600, 500), true);
+    Q_EMIT view->loupePosChanged(QPoint(600, 500));
+    QCOMPARE(m_protocol.lines, QStringList());
+    // Nor does what is left of one pick end the next.
+    m_pipette->startPicking();
+    Q_EMIT view->pickingFinished(QPoint(600, 500), true);
+    QCOMPARE(m_protocol.lines, QStringList{started});
+}
+
+void tst_Pipette::loupeFollowsTheCursor_data()
+{
+    QTest::addColumn<QPoint>("cursor");
+    QTest::addColumn<int>("placement");
+    QTest::addColumn<QPoint>("place");
+    const int side = loupeSize.width();
+    QTest::newRow("middle") << QPoint(400, 300) << 3 << QPoint(400, 300 - side);
+    QTest::newRow("left edge") << QPoint(0, 300) << 3 << QPoint(0, 300 - side);
+    QTest::newRow("bottom edge") << QPoint(400, 599) << 3 << QPoint(400, 599 - side);
+    QTest::newRow("within a loupe of the top") << QPoint(400, side - 1) << 0 << QPoint(400, side - 1);
+    QTest::newRow("a loupe below the top") << QPoint(400, side) << 3 << QPoint(400, 0);
+    QTest::newRow("within a loupe of the right edge") << QPoint(800 - side, 300) << 2
+                                                      << QPoint(800 - 2 * side, 300 - side);
+    QTest::newRow("a loupe from the right edge") << QPoint(799 - side, 300) << 3
+                                                 << QPoint(799 - side, 300 - side);
+    QTest::newRow("top right corner") << QPoint(799, 0) << 1 << QPoint(799 - side, 0);
+}
+
+void tst_Pipette::loupeFollowsTheCursor()
+{
+    QFETCH(QPoint, cursor);
+    QFETCH(int, placement);
+    QFETCH(QPoint, place);
+    start();
+    QTest::mouseMove(shownViews().first()->windowHandle(), cursor);
+    QTRY_COMPARE(loupeItem()->pos(), QPointF(place));
+    LoupeWidget* const loupe = alive<LoupeWidget>().first();
+    QCOMPARE(loupe->size(), loupeSize);
+    QCOMPARE(loupe->placement(), placement);
+}
+
+void tst_Pipette::loupeShowsWhatItMagnifies()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    // Steps into the place where the loupe stands too.
+    for (const QPoint& point :
+         {QPoint(100, 400), QPoint(130, 380), QPoint(180, 340), QPoint(183, 337), QPoint(700, 90), QPoint(300, 500)}) {
+        QTest::mouseMove(view->windowHandle(), point);
+        QCursor::setPos(point);
+        LoupeWidget* const loupe = alive<LoupeWidget>().first();
+        auto* label = loupe->findChild<QLabel*>(QStringLiteral("colorNameLabel"));
+        QTRY_COMPARE(label->text(), PixelWindow::pickedAt(point).name());
+        QImage image(loupeSize, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        loupe->QWidget::render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        const int zoom = loupeSize.width() / 13;
+        // The middle row, as far as the label's text is not upon it.
+        for (int x = 0; x < 13; ++x) {
+            for (const int y : {1, 11}) {
+                const QPoint at(x * zoom + zoom / 2, y * zoom + zoom / 2);
+                const QPoint fromMiddle = at - QPoint(loupeSize.width() / 2, loupeSize.height() / 2);
+                if (QPoint::dotProduct(fromMiddle, fromMiddle) < 55 * 55) {
+                    QCOMPARE(image.pixelColor(at).name(),
+                             PixelWindow::pixelAt(point + QPoint(x - 6, y - 6)).name());
+                }
+            }
+        }
+    }
+}
+
+void tst_Pipette::loupeOnNoScreenStays()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    QTest::mouseMove(view->windowHandle(), QPoint(400, 400));
+    QTRY_COMPARE(loupeItem()->pos().toPoint(), QPoint(400, 400 - loupeSize.height()));
+    Q_EMIT view->loupePosChanged(QPoint(-100, 4000));
+    QCOMPARE(loupeItem()->pos().toPoint(), QPoint(400, 400 - loupeSize.height()));
+}
+
+void tst_Pipette::loupeWithoutPictureKeepsItsName()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    auto* label = alive<LoupeWidget>().first()->findChild<QLabel*>();
+    QTest::mouseMove(view->windowHandle(), QPoint(410, 400));
+    QTRY_COMPARE(label->text(), PixelWindow::pickedAt({410, 400}).name());
+    takeEverythingAway(view);
+    Q_EMIT view->loupePosChanged(QPoint(700, 500));
+    QCOMPARE(loupeItem()->pos().toPoint(), QPoint(700 - loupeSize.width(), 500 - loupeSize.height()));
+    QCOMPARE(label->text(), PixelWindow::pickedAt({410, 400}).name());
+}
+
+void tst_Pipette::loupeMayDie()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    delete alive<LoupeWidget>().first();
+    QTest::mouseMove(view->windowHandle(), QPoint(500, 400));
+    QCoreApplication::processEvents();
+    release(view, QPoint(600, 500));
+    QTRY_COMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+}
+
+void tst_Pipette::viewMayDie()
+{
+    start();
+    delete shownViews().first();
+    QCOMPARE(m_protocol.lines, QStringList{started});
+    m_pipette->stopPicking();
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+}
+
+void tst_Pipette::slotsOfSelectedMayEndThePick()
+{
+    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->stopPicking(); });
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+    QVERIFY(shownViews().isEmpty());
+}
+
+void tst_Pipette::slotsOfSelectedMayRestart()
+{
+    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] {
+        m_pipette->stopPicking();
+        m_pipette->startPicking();
+    });
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped, started}));
+    QCOMPARE(shownViews().size(), 1);
+}
+
+// Without an end in between, it is part of the pick that is about to end.
+void tst_Pipette::slotsOfSelectedMayStartASecond()
+{
+    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->startPicking(); });
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), started, stopped}));
+    QVERIFY(shownViews().isEmpty());
+}
+
+void tst_Pipette::slotsOfStoppedMayRestart()
+{
+    int left = 3;
+    connect(m_pipette.get(), &Pipette::pickingStopped, m_pipette.get(), [this, &left] {
+        if (--left > 0) {
+            m_pipette->startPicking();
+        }
+    });
+    start();
+    m_pipette->stopPicking();
+    QCOMPARE(shownViews().size(), 1);
+    QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(shownViews().size(), 1);
+    m_pipette->stopPicking();
+    QVERIFY(shownViews().isEmpty());
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped, started, stopped, started, stopped}));
+}
+
+// A listener after the one that restarts is given the colour all the same.
+void tst_Pipette::colorOfARestartedPickIsReported()
+{
+    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->startPicking(); });
+    QColor heard;
+    connect(m_pipette.get(), &Pipette::colorSelected, this, [&heard](const QColor& color) { heard = color; });
+    start();
+    release(shownViews().first(), QPoint(600, 500));
+    QCOMPARE(heard, PixelWindow::pickedAt({600, 500}));
+}
+
+void tst_Pipette::pipetteMayDieInItsSlots_data()
+{
+    QTest::addColumn<QString>("signal");
+    QTest::addColumn<Act>("act");
+    const auto key = [](int code) {
+        return Act([code](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key(code)); });
+    };
+    const Act click = [](PipetteScreenView* view) { release(view, QPoint(600, 500)); };
+    const Act late = [](PipetteScreenView* view) {
+        Q_EMIT view->pickingFinished(underTheLoupe(loupeItem()), true);
+    };
+    const Act leave = [](PipetteScreenView*) {
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    };
+    QTest::newRow("colorSelected, click") << QStringLiteral("selected") << click;
+    QTest::newRow("colorSelected, after a wait") << QStringLiteral("selected") << late;
+    QTest::newRow("pickingStopped, click") << QStringLiteral("stopped") << click;
+    QTest::newRow("pickingStopped, after a wait") << QStringLiteral("stopped") << late;
+    QTest::newRow("pickingStopped, Escape") << QStringLiteral("stopped") << key(Qt::Key_Escape);
+    QTest::newRow("pickingStopped, other key") << QStringLiteral("stopped") << key(Qt::Key_A);
+    QTest::newRow("pickingStopped, other application") << QStringLiteral("stopped") << leave;
+}
+
+void tst_Pipette::pipetteMayDieInItsSlots()
+{
+    QFETCH(QString, signal);
+    QFETCH(Act, act);
+    for (const bool withParent : {false, true}) {
+        auto parent = std::make_unique<QObject>();
+        QPointer<Pipette> pipette = new Pipette(parent.get());
+        const auto die = [&parent, pipette, withParent] {
+            if (withParent) {
+                parent.reset();
+            } else {
+                delete pipette;
+            }
+        };
+        if (signal == QLatin1String("selected")) {
+            connect(pipette, &Pipette::colorSelected, this, die);
+        } else {
+            connect(pipette, &Pipette::pickingStopped, this, die);
+        }
+        pipette->startPicking();
+        PipetteScreenView* const view = shownViews().first();
+        QVERIFY(QTest::qWaitForWindowActive(view));
+        QCoreApplication::processEvents();
+        const FreedMemoryWatch watch;
+        act(view);
+        QTRY_VERIFY(!pipette);
+        QVERIFY(shownViews().isEmpty());
+        QVERIFY(nothingIsLeft());
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+    }
+
+    // In the first signal of all.
+    auto* pipette = new Pipette;
+    connect(pipette, &Pipette::pickingStarted, this, [pipette] { delete pipette; });
+    pipette->startPicking();
+    QVERIFY(nothingIsLeft());
+}
+
+void tst_Pipette::pipetteMayDieWhilePicking()
+{
+    start();
+    m_protocol.lines.clear();
+    m_pipette.reset();
+    // At once, and in silence.
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+    QVERIFY(alive<LoupeWidget>().isEmpty());
+    QCOMPARE(m_protocol.lines, QStringList());
+
+    // With two sets, and while a pick waits.
+    m_pipette = std::make_unique<Pipette>();
+    m_pipette->startPicking();
+    m_pipette->startPicking();
+    m_pipette.reset();
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+    QVERIFY(alive<LoupeWidget>().isEmpty());
+
+    m_pipette = std::make_unique<Pipette>();
+    start();
+    Q_EMIT shownViews().first()->pickingFinished(underTheLoupe(loupeItem()), true);
+    m_pipette.reset();
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+    bool turned = false;
+    QTimer::singleShot(30, this, [&turned] { turned = true; });
+    QTRY_VERIFY(turned);
+}
+
+void tst_Pipette::windowOfThePipetteMayDie()
+{
+    auto* window = new QWidget;
+    auto* pipette = new Pipette(window);
+    m_protocol.watch(pipette);
+    pipette->startPicking();
+    m_protocol.lines.clear();
+    delete window;
+    QCOMPARE(m_protocol.lines, QStringList());
+    QVERIFY(nothingIsLeft());
+}
+
+// Real handlers of Qt's run on after the pipette has deleted the view that they work for.
+void tst_Pipette::handlersOutliveThePipette()
+{
+    for (const QPoint& point : {QPoint(600, 500), QPoint(0, 0), QPoint(799, 599)}) {
+        auto* pipette = new Pipette;
+        bool isOver = false;
+        connect(pipette, &Pipette::colorSelected, this, [pipette, &isOver] {
+            isOver = true;
+            delete pipette;
+        });
+        pipette->startPicking();
+        PipetteScreenView* const view = shownViews().first();
+        QVERIFY(QTest::qWaitForWindowActive(view));
+        QTest::mouseMove(view->windowHandle(), point);
+        QCoreApplication::processEvents();
+        const FreedMemoryWatch watch;
+        QTest::mousePress(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+        QTest::mouseRelease(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+        QTRY_VERIFY(isOver);
+        QCoreApplication::processEvents();
+        QVERIFY(nothingIsLeft());
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+    }
+}
+
+UIC_TEST_MAIN(tst_Pipette)
+#include "tst_Pipette.moc"

@@ -1,0 +1,692 @@
+#include "MetaObject.h"
+#include "TestMain.h"
+
+#include <UiComponents/PipetteScreenView.h>
+
+#include <QGraphicsRectItem>
+#include <QGraphicsScene>
+#include <QGraphicsWidget>
+#include <QScrollBar>
+#include <QWindow>
+
+#include <functional>
+#include <memory>
+
+Q_DECLARE_METATYPE(QEvent::Type)
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
+namespace {
+
+constexpr QRect screenArea(0, 0, 800, 800);
+constexpr QSize loupeSize(60, 60);
+
+/// A scene with an opaque square for a loupe, and a view of it.
+class Stage
+{
+public:
+    explicit Stage(const QRect& area = screenArea)
+        : scene(QRectF(area))
+        , loupe(scene.addRect(QRectF(QPointF(0, 0), QSizeF(loupeSize)), Qt::NoPen, Qt::red))
+    {
+        loupe->hide();
+        view = std::make_unique<PipetteScreenView>(&scene, area);
+        moved = std::make_unique<QSignalSpy>(view.get(), &PipetteScreenView::loupePosChanged);
+        finished = std::make_unique<QSignalSpy>(view.get(), &PipetteScreenView::pickingFinished);
+    }
+
+    bool present()
+    {
+        view->show();
+        view->activateWindow();
+        const bool isThere = QTest::qWaitForWindowExposed(view.get()) && QTest::qWaitForWindowActive(view.get());
+        QCoreApplication::processEvents();
+        moved->clear();
+        finished->clear();
+        return isThere;
+    }
+
+    QGraphicsScene scene;
+    QGraphicsRectItem* loupe;
+    std::unique_ptr<PipetteScreenView> view;
+    std::unique_ptr<QSignalSpy> moved;
+    std::unique_ptr<QSignalSpy> finished;
+};
+
+QPixmap dropper()
+{
+    QPixmap pixmap(40, 20);
+    pixmap.fill(Qt::red);
+    return pixmap;
+}
+
+/// Straight to the view's handler: QApplication::notify() sends a shortcut override before each key press.
+void pressKey(PipetteScreenView* view, int key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    static_cast<QObject*>(view)->event(&event);
+}
+
+bool isArrow(const QCursor& cursor)
+{
+    return cursor.shape() == Qt::ArrowCursor;
+}
+
+/// The regions that the viewport paints, in its coordinates.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget* viewport) { viewport->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            painted += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+
+    QRegion painted;
+};
+
+} // namespace
+
+class tst_PipetteScreenView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void metaObject();
+    void constructionCoversTheScreen_data();
+    void constructionCoversTheScreen();
+    void constructionLeavesTheViewHidden();
+    void constructionShowsTheLoupe();
+    void bottomItemIsTheLoupe();
+    void sceneMayBeMissing();
+    void emptyScene();
+    void sceneMayDieFirst();
+    void loupeMayDieFirst();
+
+    void cursorNeedsAllItsParts_data();
+    void cursorNeedsAllItsParts();
+    void cursorIsScaled();
+    void sheetGivesTheCursor();
+
+    void eventsThatShowTheLoupe_data();
+    void eventsThatShowTheLoupe();
+    void eventsThatHideTheLoupe_data();
+    void eventsThatHideTheLoupe();
+    void enterTakesTheKeyboard();
+    void wheelIsSwallowed();
+    void shortcutOverrideGivesUp();
+    void escapeGivesUp();
+    void otherKeysAreIgnored();
+    void leftReleasePicks();
+    void otherButtonsDoNothing_data();
+    void otherButtonsDoNothing();
+    void moveInsideMovesTheLoupe();
+    void moveOutsideHidesTheLoupe();
+    void showReportsTheCursorByItsColumn_data();
+    void showReportsTheCursorByItsColumn();
+    void viewMayDieInItsSlots_data();
+    void viewMayDieInItsSlots();
+
+    void overlayCoversEverything();
+    void keptAreaShowsNoLoupe();
+    void moveRepaintsTwoPlacesOnly();
+    void presentLoupeIsKnown();
+};
+
+void tst_PipetteScreenView::init()
+{
+    QCursor::setPos(400, 300);
+}
+
+void tst_PipetteScreenView::cleanup()
+{
+    qApp->setStyleSheet(QString());
+}
+
+void tst_PipetteScreenView::metaObject()
+{
+    const QMetaObject& meta = PipetteScreenView::staticMetaObject;
+    QCOMPARE(ownMethods(meta), (QStringList{QStringLiteral("signal pickingFinished(QPoint,bool)"),
+                                            QStringLiteral("signal loupePosChanged(QPoint)"),
+                                            QStringLiteral("slot setCursorPixmap(QPixmap)"),
+                                            QStringLiteral("slot setCursorSize(QSize)"),
+                                            QStringLiteral("slot setCursorHotSpot(QSize)")}));
+    QCOMPARE(ownProperties(meta), (QStringList{QStringLiteral("QPixmap cursorPixmap rw"),
+                                               QStringLiteral("QSize cursorSize rw"),
+                                               QStringLiteral("QSize cursorHotSpot rw")}));
+}
+
+void tst_PipetteScreenView::constructionCoversTheScreen_data()
+{
+    QTest::addColumn<QRect>("area");
+    QTest::newRow("first screen") << screenArea;
+    QTest::newRow("left and above") << QRect(-640, -480, 640, 480);
+    QTest::newRow("odd") << QRect(801, 13, 333, 111);
+}
+
+void tst_PipetteScreenView::constructionCoversTheScreen()
+{
+    QFETCH(QRect, area);
+    const Stage stage(area);
+    const PipetteScreenView& view = *stage.view;
+    QVERIFY(!view.parent());
+    QCOMPARE(view.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                                     Qt::NoDropShadowWindowHint);
+    QVERIFY(view.testAttribute(Qt::WA_MouseTracking));
+    QVERIFY(view.viewport()->hasMouseTracking());
+    QVERIFY(view.testAttribute(Qt::WA_TranslucentBackground));
+    QVERIFY(view.testAttribute(Qt::WA_NoSystemBackground));
+    QVERIFY(!view.autoFillBackground());
+    QVERIFY(!view.viewport()->autoFillBackground());
+
+    QCOMPARE(view.geometry(), area);
+    QCOMPARE(view.minimumSize(), area.size());
+    QCOMPARE(view.maximumSize(), area.size());
+    QCOMPARE(view.viewport()->geometry(), QRect(QPoint(0, 0), area.size()));
+    QCOMPARE(view.windowHandle()->geometry(), area);
+    QCOMPARE(view.sceneRect(), QRectF(area));
+    QCOMPARE(view.viewportUpdateMode(), QGraphicsView::SmartViewportUpdate);
+    QCOMPARE(view.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(view.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(view.mapFromScene(area.topLeft()), QPoint(0, 0));
+    QCOMPARE(view.mapFromScene(area.bottomRight()), QPoint(area.width() - 1, area.height() - 1));
+
+    const auto sheet = QStringLiteral("border: none; background: transparent; margin: 0px 0px 0px 0px; "
+                                      "padding: 0px 0px 0px 0px;");
+    QCOMPARE(view.styleSheet(), sheet);
+    QCOMPARE(view.viewport()->styleSheet(), sheet);
+    const QBrush overlay(QColor(0, 0, 0, 1), Qt::SolidPattern);
+    QCOMPARE(view.backgroundBrush(), overlay);
+    QCOMPARE(stage.scene.backgroundBrush(), overlay);
+}
+
+void tst_PipetteScreenView::constructionLeavesTheViewHidden()
+{
+    Stage stage;
+    QVERIFY(!stage.view->isVisible());
+    QVERIFY(!stage.view->windowHandle()->isVisible());
+    QVERIFY(!stage.view->testAttribute(Qt::WA_DontShowOnScreen));
+    QVERIFY(stage.present());
+    QVERIFY(stage.view->windowHandle()->isVisible());
+    QCOMPARE(stage.view->geometry(), screenArea);
+}
+
+void tst_PipetteScreenView::constructionShowsTheLoupe()
+{
+    const Stage stage;
+    QVERIFY(stage.loupe->isVisible());
+}
+
+void tst_PipetteScreenView::bottomItemIsTheLoupe()
+{
+    QGraphicsScene scene(screenArea);
+    QGraphicsItem* const top = scene.addRect(0, 0, 10, 10);
+    top->setZValue(5.0);
+    QGraphicsItem* const bottom = scene.addRect(0, 0, 10, 10);
+    top->hide();
+    bottom->hide();
+    const PipetteScreenView view(&scene, screenArea);
+    QVERIFY(bottom->isVisible());
+    QVERIFY(!top->isVisible());
+}
+
+void tst_PipetteScreenView::sceneMayBeMissing()
+{
+    PipetteScreenView view(nullptr, screenArea);
+    QCOMPARE(view.geometry(), screenArea);
+    QSignalSpy moved(&view, &PipetteScreenView::loupePosChanged);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(moved.count() > 0);
+    QTest::mouseMove(view.viewport(), QPoint(20, 20));
+    QEvent leave(QEvent::Leave);
+    QVERIFY(QCoreApplication::sendEvent(&view, &leave));
+    view.grab();
+}
+
+void tst_PipetteScreenView::emptyScene()
+{
+    QGraphicsScene scene(screenArea);
+    PipetteScreenView view(&scene, screenArea);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QEvent leave(QEvent::Leave);
+    QVERIFY(QCoreApplication::sendEvent(&view, &leave));
+    view.grab();
+}
+
+void tst_PipetteScreenView::sceneMayDieFirst()
+{
+    auto scene = std::make_unique<QGraphicsScene>(screenArea);
+    scene->addRect(0, 0, 10, 10);
+    PipetteScreenView view(scene.get(), screenArea);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    scene.reset();
+    for (const QEvent::Type type : {QEvent::Leave, QEvent::FocusIn, QEvent::WindowDeactivate}) {
+        QEvent event(type);
+        QVERIFY(QCoreApplication::sendEvent(&view, &event));
+    }
+    QTest::mouseMove(view.viewport(), QPoint(20, 20));
+    view.grab();
+}
+
+void tst_PipetteScreenView::loupeMayDieFirst()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    delete stage.loupe;
+    for (const QEvent::Type type : {QEvent::Leave, QEvent::FocusIn, QEvent::WindowDeactivate}) {
+        QEvent event(type);
+        QVERIFY(QCoreApplication::sendEvent(stage.view.get(), &event));
+    }
+    QTest::mouseMove(stage.view->viewport(), QPoint(20, 20));
+    stage.view->grab();
+}
+
+void tst_PipetteScreenView::cursorNeedsAllItsParts_data()
+{
+    QTest::addColumn<QPixmap>("pixmap");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("hotSpot");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("all") << dropper() << QSize(32, 32) << QSize(2, 14) << true;
+    QTest::newRow("hot spot at the corner") << dropper() << QSize(32, 32) << QSize(0, 0) << true;
+    QTest::newRow("no picture") << QPixmap() << QSize(32, 32) << QSize(2, 14) << false;
+    QTest::newRow("no size") << dropper() << QSize() << QSize(2, 14) << false;
+    QTest::newRow("empty size") << dropper() << QSize(32, 0) << QSize(2, 14) << false;
+    QTest::newRow("no hot spot") << dropper() << QSize(32, 32) << QSize() << false;
+    QTest::newRow("negative hot spot") << dropper() << QSize(32, 32) << QSize(-1, 3) << false;
+    QTest::newRow("nothing") << QPixmap() << QSize() << QSize() << false;
+}
+
+void tst_PipetteScreenView::cursorNeedsAllItsParts()
+{
+    QFETCH(QPixmap, pixmap);
+    QFETCH(QSize, size);
+    QFETCH(QSize, hotSpot);
+    QFETCH(bool, expected);
+    Stage stage;
+    PipetteScreenView& view = *stage.view;
+    view.setCursor(Qt::CrossCursor);
+    view.setCursorPixmap(pixmap);
+    view.setCursorSize(size);
+    view.setCursorHotSpot(hotSpot);
+    QCOMPARE(view.cursorPixmap().cacheKey(), pixmap.cacheKey());
+    QCOMPARE(view.cursorSize(), size);
+    QCOMPARE(view.cursorHotSpot(), hotSpot);
+    QCOMPARE(isArrow(view.cursor()), !expected);
+
+    // Also when a part is taken away again.
+    view.setCursorPixmap(QPixmap());
+    QVERIFY(isArrow(view.cursor()));
+}
+
+void tst_PipetteScreenView::cursorIsScaled()
+{
+    Stage stage;
+    stage.view->setCursorPixmap(dropper());
+    stage.view->setCursorSize({20, 20});
+    stage.view->setCursorHotSpot({3, 9});
+    const QCursor cursor = stage.view->cursor();
+    QCOMPARE(cursor.pixmap().size(), QSize(20, 10));
+    QCOMPARE(cursor.hotSpot(), QPoint(3, 9));
+    // The same value again sets the cursor again.
+    stage.view->setCursor(Qt::CrossCursor);
+    stage.view->setCursorHotSpot({3, 9});
+    QCOMPARE(stage.view->cursor().hotSpot(), QPoint(3, 9));
+}
+
+void tst_PipetteScreenView::sheetGivesTheCursor()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("dropper.png"));
+    QVERIFY(dropper().save(file));
+    qApp->setStyleSheet(QStringLiteral("PipetteScreenView { qproperty-cursorPixmap: url(%1);"
+                                       " qproperty-cursorSize: 20px 20px; qproperty-cursorHotSpot: 2px 7px; }")
+                            .arg(file));
+    const Stage stage;
+    QCOMPARE(stage.view->cursorSize(), QSize(20, 20));
+    QCOMPARE(stage.view->cursorHotSpot(), QSize(2, 7));
+    QCOMPARE(stage.view->cursor().pixmap().size(), QSize(20, 10));
+}
+
+void tst_PipetteScreenView::eventsThatShowTheLoupe_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::newRow("FocusIn") << QEvent::FocusIn;
+    QTest::newRow("Enter") << QEvent::Enter;
+    QTest::newRow("WindowActivate") << QEvent::WindowActivate;
+}
+
+void tst_PipetteScreenView::eventsThatShowTheLoupe()
+{
+    QFETCH(QEvent::Type, type);
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.view->setCursorPixmap(dropper());
+    stage.view->setCursorSize({20, 20});
+    stage.view->setCursorHotSpot({3, 9});
+    stage.view->setCursor(Qt::CrossCursor);
+    stage.loupe->hide();
+    bool wasHidden = false;
+    connect(stage.view.get(), &PipetteScreenView::loupePosChanged, this,
+            [&stage, &wasHidden] { wasHidden = !stage.loupe->isVisible(); });
+    QEvent event(type);
+    event.ignore();
+    QVERIFY(QCoreApplication::sendEvent(stage.view.get(), &event));
+    QVERIFY(event.isAccepted());
+    QCOMPARE(stage.moved->count(), 1);
+    QCOMPARE(stage.moved->first().first().toPoint(), QPoint(400, 300));
+    QVERIFY(wasHidden);
+    QVERIFY(stage.loupe->isVisible());
+    QCOMPARE(stage.view->cursor().hotSpot(), QPoint(3, 9));
+    QCOMPARE(stage.finished->count(), 0);
+    if (type != QEvent::FocusIn) {
+        stage.view->clearFocus();
+        QTRY_VERIFY(stage.view->hasFocus());
+    }
+}
+
+void tst_PipetteScreenView::eventsThatHideTheLoupe_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::newRow("Leave") << QEvent::Leave;
+    QTest::newRow("WindowDeactivate") << QEvent::WindowDeactivate;
+}
+
+void tst_PipetteScreenView::eventsThatHideTheLoupe()
+{
+    QFETCH(QEvent::Type, type);
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.loupe->show();
+    QEvent event(type);
+    event.ignore();
+    QVERIFY(QCoreApplication::sendEvent(stage.view.get(), &event));
+    QVERIFY(event.isAccepted());
+    QVERIFY(!stage.loupe->isVisible());
+    QCOMPARE(stage.moved->count(), 0);
+    QCOMPARE(stage.finished->count(), 0);
+}
+
+void tst_PipetteScreenView::enterTakesTheKeyboard()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(stage.view.get(), &enter);
+    QVERIFY(QTest::qWaitForWindowActive(stage.view.get()));
+    QTRY_VERIFY(stage.view->hasFocus());
+}
+
+void tst_PipetteScreenView::wheelIsSwallowed()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    wheel.ignore();
+    QVERIFY(static_cast<QObject*>(stage.view.get())->event(&wheel));
+    QVERIFY(wheel.isAccepted());
+    QCoreApplication::sendEvent(stage.view->viewport(), &wheel);
+    QCOMPARE(stage.view->mapFromScene(0, 0), QPoint(0, 0));
+    QCOMPARE(stage.finished->count(), 0);
+}
+
+void tst_PipetteScreenView::shortcutOverrideGivesUp()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_S, Qt::ControlModifier);
+    event.ignore();
+    QVERIFY(QCoreApplication::sendEvent(stage.view.get(), &event));
+    QVERIFY(event.isAccepted());
+    QCOMPARE(stage.finished->count(), 1);
+    QCOMPARE(stage.finished->first(), (QVariantList{QPoint(400, 300), false}));
+}
+
+void tst_PipetteScreenView::escapeGivesUp()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    pressKey(stage.view.get(), Qt::Key_Escape);
+    QCOMPARE(stage.finished->count(), 1);
+    QCOMPARE(stage.finished->first(), (QVariantList{QPoint(400, 300), false}));
+}
+
+void tst_PipetteScreenView::otherKeysAreIgnored()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    for (const int key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_A, Qt::Key_Down, Qt::Key_PageDown}) {
+        pressKey(stage.view.get(), key);
+    }
+    QCOMPARE(stage.finished->count(), 0);
+    QCOMPARE(stage.moved->count(), 0);
+}
+
+void tst_PipetteScreenView::leftReleasePicks()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    QTest::mousePress(stage.view->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(123, 45));
+    QCOMPARE(stage.finished->count(), 0);
+    QTest::mouseRelease(stage.view->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(124, 46));
+    QCOMPARE(stage.finished->count(), 1);
+    QCOMPARE(stage.finished->first(), (QVariantList{QPoint(124, 46), true}));
+}
+
+void tst_PipetteScreenView::otherButtonsDoNothing_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+    QTest::newRow("back") << Qt::BackButton;
+}
+
+void tst_PipetteScreenView::otherButtonsDoNothing()
+{
+    QFETCH(Qt::MouseButton, button);
+    Stage stage;
+    QVERIFY(stage.present());
+    QTest::mouseClick(stage.view->windowHandle(), button, Qt::NoModifier, QPoint(123, 45));
+    QCOMPARE(stage.finished->count(), 0);
+    QVERIFY(stage.view->isVisible());
+}
+
+void tst_PipetteScreenView::moveInsideMovesTheLoupe()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.loupe->hide();
+    stage.view->setCursor(Qt::CrossCursor);
+    QMouseEvent move(QEvent::MouseMove, QPointF(10, 20), QPointF(10, 20), QPointF(10, 20), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(stage.view->viewport(), &move);
+    QCOMPARE(stage.moved->count(), 1);
+    QCOMPARE(stage.moved->first().first().toPoint(), QPoint(10, 20));
+    QVERIFY(stage.loupe->isVisible());
+    QVERIFY(isArrow(stage.view->cursor()));
+}
+
+void tst_PipetteScreenView::moveOutsideHidesTheLoupe()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.loupe->show();
+    for (const QPointF& outside : {QPointF(-1, 20), QPointF(20, -1), QPointF(800, 20), QPointF(20, 800)}) {
+        stage.loupe->show();
+        QMouseEvent move(QEvent::MouseMove, outside, outside, outside, Qt::LeftButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(stage.view->viewport(), &move);
+        QVERIFY(!stage.loupe->isVisible());
+        QCoreApplication::sendEvent(stage.view->viewport(), &move);
+        QVERIFY(!stage.loupe->isVisible());
+    }
+    QCOMPARE(stage.moved->count(), 0);
+}
+
+void tst_PipetteScreenView::showReportsTheCursorByItsColumn_data()
+{
+    QTest::addColumn<QPoint>("cursor");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("inside") << QPoint(150, 150) << true;
+    QTest::newRow("first column") << QPoint(100, 150) << true;
+    QTest::newRow("last column") << QPoint(299, 150) << true;
+    QTest::newRow("left of it") << QPoint(99, 150) << false;
+    QTest::newRow("right of it") << QPoint(300, 150) << false;
+    QTest::newRow("above, in its columns") << QPoint(150, 5) << true;
+    QTest::newRow("below, in its columns") << QPoint(150, 700) << true;
+}
+
+void tst_PipetteScreenView::showReportsTheCursorByItsColumn()
+{
+    QFETCH(QPoint, cursor);
+    QFETCH(bool, expected);
+    QCursor::setPos(cursor);
+    Stage stage({100, 100, 200, 200});
+    stage.loupe->hide();
+    QShowEvent event;
+    QCoreApplication::sendEvent(stage.view.get(), &event);
+    QCOMPARE(stage.moved->count(), expected ? 1 : 0);
+    if (expected) {
+        QCOMPARE(stage.moved->first().first().toPoint(), cursor);
+    }
+    QVERIFY(stage.loupe->isVisible());
+}
+
+using Act = std::function<void(PipetteScreenView*)>;
+Q_DECLARE_METATYPE(Act)
+
+void tst_PipetteScreenView::viewMayDieInItsSlots_data()
+{
+    QTest::addColumn<Act>("act");
+    const auto send = [](QEvent::Type type) {
+        return Act([type](PipetteScreenView* view) {
+            QEvent event(type);
+            QCoreApplication::sendEvent(view, &event);
+        });
+    };
+    QTest::newRow("FocusIn") << send(QEvent::FocusIn);
+    QTest::newRow("Enter") << send(QEvent::Enter);
+    QTest::newRow("WindowActivate") << send(QEvent::WindowActivate);
+    QTest::newRow("ShortcutOverride") << Act([](PipetteScreenView* view) {
+        QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_A, Qt::NoModifier);
+        QCoreApplication::sendEvent(view, &event);
+    });
+    QTest::newRow("Escape") << Act([](PipetteScreenView* view) {
+        pressKey(view, Qt::Key_Escape);
+    });
+    QTest::newRow("move") << Act([](PipetteScreenView* view) {
+        QTest::mouseMove(view->windowHandle(), QPoint(30, 40));
+        QCoreApplication::processEvents();
+    });
+    QTest::newRow("release") << Act([](PipetteScreenView* view) {
+        QTest::mouseClick(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 40));
+    });
+    QTest::newRow("show") << Act([](PipetteScreenView* view) {
+        QShowEvent event;
+        QCoreApplication::sendEvent(view, &event);
+    });
+}
+
+void tst_PipetteScreenView::viewMayDieInItsSlots()
+{
+    QFETCH(Act, act);
+    Stage stage;
+    QVERIFY(stage.present());
+    const auto die = [&stage] { stage.view.reset(); };
+    connect(stage.view.get(), &PipetteScreenView::loupePosChanged, this, die);
+    connect(stage.view.get(), &PipetteScreenView::pickingFinished, this, die);
+    act(stage.view.get());
+    QVERIFY(!stage.view);
+}
+
+void tst_PipetteScreenView::overlayCoversEverything()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.loupe->hide();
+    QImage image(screenArea.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    stage.view->QWidget::render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    for (const QPoint& point : {QPoint(0, 0), QPoint(799, 0), QPoint(0, 799), QPoint(799, 799), QPoint(400, 300)}) {
+        QCOMPARE(image.pixel(point), qRgba(0, 0, 0, 1));
+    }
+}
+
+void tst_PipetteScreenView::keptAreaShowsNoLoupe()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.loupe->setPos(200, 100);
+    const QRect kept(190, 90, 15, 15);
+    stage.view->keepFree(kept);
+    QImage image(screenArea.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    stage.view->QWidget::render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    const QRect loupe(QPoint(200, 100), loupeSize);
+    for (int y = 80; y < 180; ++y) {
+        for (int x = 180; x < 280; ++x) {
+            const bool isLoupe = loupe.contains(x, y) && !kept.contains(x, y);
+            QCOMPARE(image.pixel(x, y), isLoupe ? qRgb(255, 0, 0) : qRgba(0, 0, 0, 1));
+        }
+    }
+}
+
+void tst_PipetteScreenView::moveRepaintsTwoPlacesOnly()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    const QRect before(QPoint(100, 100), loupeSize);
+    const QRect after(QPoint(500, 600), loupeSize);
+    stage.loupe->setPos(before.topLeft());
+    QCoreApplication::processEvents();
+    PaintWatch watch(stage.view->viewport());
+    stage.loupe->setPos(after.topLeft());
+    QTRY_VERIFY(!watch.painted.isEmpty());
+    QCoreApplication::processEvents();
+    QVERIFY((QRegion(before) + after - watch.painted).isEmpty());
+    const QRegion allowed = QRegion(before.adjusted(-3, -3, 3, 3)) + after.adjusted(-3, -3, 3, 3);
+    QVERIFY((watch.painted - allowed).isEmpty());
+}
+
+void tst_PipetteScreenView::presentLoupeIsKnown()
+{
+    Stage stage;
+    const QRegion shape(QRect(QPoint(0, 0), loupeSize));
+    const QRect inside(110, 110, 5, 5);
+    QVERIFY(stage.view->untilFree(inside, shape) == 0);
+    QVERIFY(stage.present());
+    stage.loupe->setPos(100, 100);
+    QTRY_VERIFY(!stage.view->untilFree(inside, shape));
+    stage.view->keepFree({105, 105, 20, 20});
+    stage.loupe->update();
+    QTRY_VERIFY(stage.view->untilFree(inside, shape) == 0);
+    stage.view->keepFree({});
+    stage.loupe->update();
+    QTRY_VERIFY(!stage.view->untilFree(inside, shape));
+    stage.loupe->setOpacity(0.0);
+    QTRY_VERIFY(stage.view->untilFree(inside, shape) == 0);
+    stage.loupe->setOpacity(1.0);
+    QTRY_VERIFY(!stage.view->untilFree(inside, shape));
+    stage.loupe->hide();
+    QTRY_VERIFY(stage.view->untilFree(inside, shape) == 0);
+    // Grabs of the off-screen platform read what was painted.
+    QCOMPARE(PipetteScreenView::screenLag(), 0);
+    QVERIFY(stage.view->untilCovered() == 0);
+}
+
+UIC_TEST_MAIN(tst_PipetteScreenView)
+#include "tst_PipetteScreenView.moc"
