@@ -24,6 +24,7 @@
 #include "pages/HighlightFramePage.h"
 #include "pages/PathPage.h"
 #include "pages/PathSelectionPage.h"
+#include "pages/PipettePage.h"
 #include "pages/PixmapWidgetPage.h"
 #include "pages/PointPlanePage.h"
 #include "pages/PointSelectorPage.h"
@@ -59,6 +60,7 @@ QVector<PageInfo> PageRegistry::pages()
         ColorPanelPage::info(),
         BlendingModesPage::info(),
         WidgetColorPickerPage::info(),
+        PipettePage::info(),
         // inputs
         SliderInputPage::info(),
         DoubleSliderInputPage::info(),

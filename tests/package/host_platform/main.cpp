@@ -4,6 +4,7 @@
 #include <Settings/Settings.h>
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/CustomColors.h>
+#include <UiComponents/Pipette.h>
 #include <UiComponents/QuickDialog.h>
 #include <UiComponents/SliderInputWidget.h>
 
@@ -38,6 +39,19 @@ int main(int argc, char** argv)
     }
     if (!dialog.property("studioKeepsFocus").toBool()) {
         qCritical("the keyboard is not kept by the studio");
+        return 1;
+    }
+    Pipette pipette;
+    int picks = 0;
+    QObject::connect(&pipette, &Pipette::pickingStarted, &pipette, [&picks] { ++picks; });
+    pipette.startPicking();
+    if (picks != 0) {
+        qCritical("the screen is read without the studio's permission");
+        return 1;
+    }
+    pipette.startPicking();
+    if (picks != 1) {
+        qCritical("the studio was not asked for its permission");
         return 1;
     }
     return 0;

@@ -13,6 +13,7 @@
 #include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/GuideWidget.h>
+#include <UiComponents/LoupeWidget.h>
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
@@ -274,6 +275,17 @@ Orvane::Tessel::TesselElegantSlider* makeHueSlider(QWidget* parent)
     return slider;
 }
 
+LoupeWidget* makeLoupe(QWidget* parent)
+{
+    auto* loupe = new LoupeWidget(parent);
+    loupe->setWindowFlags(Qt::Widget);
+    QPixmap picture(13, 13);
+    picture.fill(Qt::darkCyan);
+    loupe->setPixmap(picture);
+    loupe->setColorName(Qt::darkCyan);
+    return loupe;
+}
+
 QDialog* makeDialog(QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
@@ -371,6 +383,7 @@ QMainWindow* makeEverything()
                                      make<SearchWidget>(body),
                                      makePath(body),
                                      make<OvPixmapWidget>(body),
+                                     makeLoupe(body),
                                      makeBubble(body),
                                      new GuideWidget(guideInfo(), body),
                                      makeDialogGuide(body)};
@@ -519,6 +532,7 @@ private Q_SLOTS:
     void chooserTakesItsMetrics();
     void bubbleTakesItsLook();
     void guidesTakeTheirLook();
+    void loupeTakesItsLook();
     void outlineTakesItsLook();
     void droppedHintRestoresTheLook();
     void labelsShowTheirSurface();
@@ -1208,6 +1222,28 @@ void tst_ReferenceStyles::guidesTakeTheirLook()
     // It stands out by its surface only while it is touched.
     QCOMPARE(bubble->grab().toImage().pixelColor(close->mapTo(bubble, QPoint(4, 4))),
              colors.value(QStringLiteral("popup")));
+}
+
+void tst_ReferenceStyles::loupeTakesItsLook()
+{
+    qApp->setStyleSheet(resourceSheet(styles().first()));
+    const QHash<QString, QColor> colors = paletteOf(styles().first());
+    Host host;
+    LoupeWidget* const loupe = makeLoupe(&host);
+    QVERIFY(host.present(loupe));
+    // Each of the 13 pixels is as large as the others.
+    QCOMPARE(loupe->size(), QSize(117, 117));
+    QCOMPARE(loupe->emptyPixelsColor(), colors.value(QStringLiteral("field")));
+    const QImage picture = host.grab().toImage();
+    const QPoint middle(58, 58);
+    QCOMPARE(picture.pixelColor(middle), QColor(Qt::darkCyan));
+    QCOMPARE(picture.pixelColor(middle.x(), 1), colors.value(QStringLiteral("borderHover")));
+    QCOMPARE(picture.pixelColor(1, middle.y()), colors.value(QStringLiteral("borderHover")));
+    QCOMPARE(picture.pixelColor(2, 2), colors.value(QStringLiteral("window")));
+    // The name is on a plate of its own.
+    const auto* label = loupe->findChild<QLabel*>(QStringLiteral("colorNameLabel"));
+    QCOMPARE(picture.pixelColor(27, 98), colors.value(QStringLiteral("popup")));
+    QVERIFY(label->sizeHint().width() <= label->width());
 }
 
 void tst_ReferenceStyles::outlineTakesItsLook()
