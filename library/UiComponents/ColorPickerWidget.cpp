@@ -15,6 +15,7 @@
 #include <WidgetToolkit/OvDoubleSlider.h>
 #include <WidgetToolkit/OvGridLayout.h>
 #include <WidgetToolkit/OvSpinBox.h>
+#include <WidgetToolkit/StyleHints.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QButtonGroup>

@@ -3,12 +3,14 @@
 #include <FileSystem/FS.h>
 #include <Settings/Settings.h>
 #include <UiComponents/ColorBlendingComboBox.h>
+#include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/CustomColors.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/QuickDialog.h>
 #include <UiComponents/SliderInputWidget.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QVariant>
 
@@ -23,6 +25,13 @@ int main(int argc, char** argv)
     }
     if (!Util::appendCustomColor(name) || Settings::userCustomColors() != QStringList{name}) {
         qCritical("the colour is not in the studio's settings");
+        return 1;
+    }
+    ColorPickerWidget panel(nullptr, false);
+    panel.setCurrentColor(QColor(name));
+    const auto* edit = panel.findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"));
+    if (edit->text() != name || !edit->property("inputLight").toBool()) {
+        qCritical("the colour is not in the studio's line edit");
         return 1;
     }
     SliderInputWidget field(nullptr, {0, 10});

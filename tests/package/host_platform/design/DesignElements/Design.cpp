@@ -1,5 +1,6 @@
 #include "TesselComboBox.h"
 #include "TesselElegantSlider.h"
+#include "TesselLineEdit.h"
 
 #include <WidgetToolkit/OvComboBox.h>
 
@@ -14,3 +15,10 @@ Orvane::Tessel::TesselElegantSlider::TesselElegantSlider(QWidget* parent)
 }
 
 Orvane::Tessel::TesselElegantSlider::~TesselElegantSlider() = default;
+
+Orvane::Tessel::TesselLineEdit::TesselLineEdit(QWidget* parent)
+    : QLineEdit(parent)
+{
+}
+
+Orvane::Tessel::TesselLineEdit::~TesselLineEdit() = default;

@@ -11,4 +11,22 @@ struct BoxItem
     int stretch;
 };
 
+enum class Alignment { Default = 0 };
+enum class CellModifier { Empty = 0, SpanPrevious = 1 };
+
+struct GridItem
+{
+    GridItem(QWidget* cellWidget, Alignment)
+        : widget(cellWidget)
+    {
+    }
+    GridItem(CellModifier cellModifier)
+        : modifier(cellModifier)
+    {
+    }
+
+    QWidget* widget = nullptr;
+    CellModifier modifier = CellModifier::Empty;
+};
+
 } // namespace LayoutHelpers

@@ -1,6 +1,7 @@
 #include "OvBoxLayout.h"
 #include "OvComboBox.h"
 #include "OvFrame.h"
+#include "OvGridLayout.h"
 #include "PropertyProviderBase.h"
 #include "Util.h"
 
@@ -70,6 +71,35 @@ PropertyProviderBase::PropertyProviderBase(QWidget* owner)
 }
 
 PropertyProviderBase::~PropertyProviderBase() = default;
+
+OvGridLayout::OvGridLayout(QWidget* parent)
+    : QGridLayout(parent)
+{
+}
+
+OvGridLayout::~OvGridLayout() = default;
+
+OvGridLayout* OvGridLayout::addRow(std::initializer_list<QWidget*> widgets, int)
+{
+    int column = 0;
+    for (QWidget* widget : widgets) {
+        addWidget(widget, m_rows, column++);
+    }
+    ++m_rows;
+    return this;
+}
+
+OvGridLayout* OvGridLayout::addRow(std::initializer_list<LayoutHelpers::GridItem> items, int)
+{
+    // The studio's rows hold one widget that takes all columns, or one a column.
+    for (const LayoutHelpers::GridItem& item : items) {
+        if (item.widget) {
+            addWidget(item.widget, m_rows, 0, 1, static_cast<int>(items.size()));
+        }
+    }
+    ++m_rows;
+    return this;
+}
 
 OvComboBox::OvComboBox(QWidget* parent)
     : QComboBox(parent)
