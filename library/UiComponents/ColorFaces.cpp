@@ -1,7 +1,7 @@
 #include "ColorFaces.h"
 
 #include <QColor>
-#include <QToolButton>
+#include <QWidget>
 
 QString ColorFaces::styleSheet(const QColor& color)
 {
@@ -15,11 +15,4 @@ void ColorFaces::paint(QWidget* face, const QColor& color)
     if (face->styleSheet() != sheet) {
         face->setStyleSheet(sheet);
     }
-}
-
-QToolButton* ColorFaces::makeButton(QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setCheckable(true);
-    return button;
 }

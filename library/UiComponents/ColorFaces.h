@@ -5,7 +5,6 @@
 #include <QString>
 
 class QColor;
-class QToolButton;
 class QWidget;
 
 namespace ColorFaces {
@@ -15,8 +14,5 @@ QString styleSheet(const QColor& color);
 
 /// Gives @p face that sheet, if it has another.
 void paint(QWidget* face, const QColor& color);
-
-/// A checkable button for a colour, not painted yet.
-QToolButton* makeButton(QWidget* parent);
 
 } // namespace ColorFaces

@@ -6,6 +6,7 @@
 #include "CustomColorSelectWidget.h"
 #include "CustomColors.h"
 #include "SelectorPlacement.h"
+#include "SheetlessBuild.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorWidgets/ColorHint.h>
@@ -111,11 +112,13 @@ protected:
 class ColorPickerWidget::Private
 {
 public:
-    Private(ColorPickerWidget* panel, bool nullColorAllowed);
+    Private(ColorPickerWidget* panel, bool nullColorAllowed, const QStringList& ownColors);
+    static std::unique_ptr<Private> make(ColorPickerWidget* panel, bool nullColorAllowed);
 
     void nameObjects() const;
     void layOut();
     void buildPalette(bool nullColorAllowed);
+    QToolButton* makeColorButton(QWidget* parent);
     void addPaletteButton(int row, int column, const QColor& color);
     void buildQueue();
     void configureInputs() const;
@@ -123,7 +126,7 @@ public:
     void setTexts() const;
     void connectInputs();
 
-    void fillQueue();
+    void fillQueue(const QStringList& names);
     void reinitializeCustomColors();
     QToolButton* queueButton(int index) const;
     void setButtonColor(QToolButton* button, const QColor& color);
@@ -187,12 +190,14 @@ public:
     std::optional<QColor> currentColor;
     bool opacityAdjustmentAvailable = true;
 
+    int nextButtonId = -2;
     // The handlers of buttons and slider keep still.
     bool isFollowing = false;
     int emissions = 0;
 };
 
-ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllowed)
+ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllowed,
+                                    const QStringList& ownColors)
     : owner(panel)
     , topPanel(new OvFrame(panel))
     , colorMatrixPanel(new OvFrame(panel))
@@ -215,12 +220,21 @@ ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllo
     layOut();
     buildPalette(nullColorAllowed);
     buildQueue();
-    fillQueue();
+    fillQueue(ownColors);
     configureInputs();
     orderTabs();
     setTexts();
     updateColorValueWidgets();
     connectInputs();
+}
+
+std::unique_ptr<ColorPickerWidget::Private> ColorPickerWidget::Private::make(ColorPickerWidget* panel,
+                                                                             bool nullColorAllowed)
+{
+    const QStringList ownColors = Settings::userCustomColors();
+    std::unique_ptr<Private> result;
+    SheetlessBuild::run([&] { result = std::make_unique<Private>(panel, nullColorAllowed, ownColors); });
+    return result;
 }
 
 void ColorPickerWidget::Private::nameObjects() const
@@ -266,14 +280,22 @@ void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
     }
 }
 
+QToolButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setCheckable(true);
+    // The number that the group would give it too, after a search through all others.
+    buttons->addButton(button, nextButtonId--);
+    return button;
+}
+
 void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QColor& color)
 {
-    QToolButton* const button = ColorFaces::makeButton(colorMatrixPanel);
+    QToolButton* const button = makeColorButton(colorMatrixPanel);
     if (!color.isValid()) {
         button->setProperty("nullColor", true);
         nullColorButton = button;
     }
-    buttons->addButton(button);
     paletteLayout->addWidget(button, row, column);
     setButtonColor(button, color);
     paletteButtons.add(color, button);
@@ -282,10 +304,9 @@ void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QCo
 void ColorPickerWidget::Private::buildQueue()
 {
     for (int i = 0; i < queueLength; ++i) {
-        QToolButton* const button = ColorFaces::makeButton(otherColorsQueuePanel);
+        QToolButton* const button = makeColorButton(otherColorsQueuePanel);
         button->setEnabled(false);
         queueLayout->addWidget(button, 0, {});
-        buttons->addButton(button);
     }
 }
 
@@ -351,9 +372,8 @@ void ColorPickerWidget::Private::connectInputs()
             [this](double opacity) { onOpacityChanged(opacity); });
 }
 
-void ColorPickerWidget::Private::fillQueue()
+void ColorPickerWidget::Private::fillQueue(const QStringList& names)
 {
-    const QStringList names = Settings::userCustomColors();
     for (int i = 0; i < qMin(names.size(), queueLength); ++i) {
         if (QColor::isValidColor(names.at(i))) {
             const QColor color = opaque(QColor(names.at(i)));
@@ -368,7 +388,7 @@ void ColorPickerWidget::Private::fillQueue()
 void ColorPickerWidget::Private::reinitializeCustomColors()
 {
     queueButtons.clear();
-    fillQueue();
+    fillQueue(Settings::userCustomColors());
     updateColorButtonsCheckState();
 }
 
@@ -380,6 +400,10 @@ QToolButton* ColorPickerWidget::Private::queueButton(int index) const
 
 void ColorPickerWidget::Private::setButtonColor(QToolButton* button, const QColor& color)
 {
+    const auto shown = buttonColors.constFind(button);
+    if (shown != buttonColors.constEnd() && *shown == color) {
+        return;
+    }
     buttonColors.insert(button, color);
     ColorFaces::paint(button, color);
     if (color.isValid()) {
@@ -655,7 +679,7 @@ void ColorPickerWidget::Private::letChildrenOutlive()
 
 ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
     : OvFrame(parent)
-    , d(std::make_unique<Private>(this, nullColorAllowed))
+    , d(Private::make(this, nullColorAllowed))
 {
 }
 

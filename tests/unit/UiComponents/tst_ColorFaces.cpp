@@ -15,7 +15,6 @@ private Q_SLOTS:
     void styleSheets();
     void paintIsSeen();
     void paintOfTheSameColorDoesNothing();
-    void buttons();
 };
 
 void tst_ColorFaces::styleSheets_data()
@@ -43,7 +42,7 @@ void tst_ColorFaces::paintIsSeen()
 {
     QWidget window;
     window.setStyleSheet(QStringLiteral("QToolButton { border: none; }"));
-    QToolButton* const button = ColorFaces::makeButton(&window);
+    auto* button = new QToolButton(&window);
     button->resize(20, 20);
     ColorFaces::paint(button, Qt::red);
     QCOMPARE(button->grab().toImage().pixelColor(10, 10), QColor(Qt::red));
@@ -72,17 +71,6 @@ void tst_ColorFaces::paintOfTheSameColorDoesNothing()
     face.changes = 0;
     ColorFaces::paint(&face, QColor(255, 0, 0, 9));
     QCOMPARE(face.changes, 0);
-}
-
-void tst_ColorFaces::buttons()
-{
-    QWidget window;
-    const QToolButton* const button = ColorFaces::makeButton(&window);
-    QCOMPARE(button->parentWidget(), &window);
-    QVERIFY(button->isCheckable());
-    QVERIFY(!button->isChecked());
-    // What style sheets select.
-    QCOMPARE(button->metaObject(), &QToolButton::staticMetaObject);
 }
 
 UIC_TEST_MAIN(tst_ColorFaces)
