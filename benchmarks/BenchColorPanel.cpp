@@ -137,7 +137,6 @@ public:
         for (QToolButton* button : buttons) {
             group->addButton(button);
             m_colors.insert(button, button->styleSheet());
-            button->setAccessibleName(button->styleSheet());
         }
         othersTitle->setBuddy(add);
         opacityTitle->setBuddy(slider);

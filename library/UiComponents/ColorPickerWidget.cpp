@@ -19,6 +19,7 @@
 #include <WidgetToolkit/StyleHints.h>
 #include <WidgetToolkit/Util.h>
 
+#include <QAccessible>
 #include <QButtonGroup>
 #include <QDialog>
 #include <QEvent>
@@ -109,10 +110,13 @@ protected:
 
 } // namespace
 
-class ColorPickerWidget::Private
+class ColorPickerWidget::Private : public QAccessible::ActivationObserver
 {
 public:
     Private(ColorPickerWidget* panel, bool nullColorAllowed, const QStringList& ownColors);
+    ~Private();
+    Private(const Private&) = delete;
+    Private& operator=(const Private&) = delete;
     static std::unique_ptr<Private> make(ColorPickerWidget* panel, bool nullColorAllowed);
 
     void nameObjects() const;
@@ -130,6 +134,9 @@ public:
     void reinitializeCustomColors();
     QToolButton* queueButton(int index) const;
     void setButtonColor(QToolButton* button, const QColor& color);
+    void nameButton(QWidget* button) const;
+    void nameControls() const;
+    void accessibilityActiveChanged(bool active) override;
     QToolButton* buttonFor(const QColor& color) const;
 
     void setColor(const std::optional<QColor>& color);
@@ -155,7 +162,7 @@ public:
     template <typename Emission>
     void announce(Emission emission);
     void reportColor();
-    void letChildrenOutlive();
+    void letPartsOutlive() const;
 
     ColorPickerWidget* const owner;
     OvFrame* const topPanel;
@@ -174,13 +181,12 @@ public:
     QButtonGroup* const buttons;
     OvGridLayout* const paletteLayout;
     OvHBoxLayout* const queueLayout;
-    QToolButton* nullColorButton = nullptr;
 
     int colorDialogOffset = 0;
     // What each button shows, and which button is to be checked for a colour. Junk in the settings can give
     // an own colour the face of a palette colour or of another own one: the own ones go first, later ones
     // before earlier ones, and the palette keeps its buttons.
-    QHash<const QAbstractButton*, QColor> buttonColors;
+    QHash<QWidget*, QColor> buttonColors;
     ColorIndex paletteButtons;
     ColorIndex queueButtons;
     QPointer<QDialog> dialog;
@@ -191,6 +197,7 @@ public:
     bool opacityAdjustmentAvailable = true;
 
     int nextButtonId = -2;
+    bool namesAreRead = QAccessible::isActive();
     // The handlers of buttons and slider keep still.
     bool isFollowing = false;
     int emissions = 0;
@@ -226,6 +233,12 @@ ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllo
     setTexts();
     updateColorValueWidgets();
     connectInputs();
+    QAccessible::installActivationObserver(this);
+}
+
+ColorPickerWidget::Private::~Private()
+{
+    QAccessible::removeActivationObserver(this);
 }
 
 std::unique_ptr<ColorPickerWidget::Private> ColorPickerWidget::Private::make(ColorPickerWidget* panel,
@@ -294,7 +307,6 @@ void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QCo
     QToolButton* const button = makeColorButton(colorMatrixPanel);
     if (!color.isValid()) {
         button->setProperty("nullColor", true);
-        nullColorButton = button;
     }
     paletteLayout->addWidget(button, row, column);
     setButtonColor(button, color);
@@ -348,12 +360,8 @@ void ColorPickerWidget::Private::setTexts() const
 {
     otherColorsTitleLabel->setText(tr("Other:"));
     opacityTitleLabel->setText(tr("Opacity:"));
-    // For those who do not see the buttons, which have pictures or colours alone.
-    currentColorValueEdit->setAccessibleName(tr("Colour value"));
-    pipetteButton->setAccessibleName(tr("Pick a colour from the screen"));
-    addCustomColorButton->setAccessibleName(tr("Choose another colour"));
-    if (nullColorButton) {
-        nullColorButton->setAccessibleName(tr("No colour"));
+    if (namesAreRead) {
+        nameControls();
     }
 }
 
@@ -406,8 +414,34 @@ void ColorPickerWidget::Private::setButtonColor(QToolButton* button, const QColo
     }
     buttonColors.insert(button, color);
     ColorFaces::paint(button, color);
-    if (color.isValid()) {
-        button->setAccessibleName(color.name());
+    if (namesAreRead) {
+        nameButton(button);
+    }
+}
+
+/// For those who do not see its colour.
+void ColorPickerWidget::Private::nameButton(QWidget* button) const
+{
+    const QColor color = buttonColors.value(button);
+    button->setAccessibleName(color.isValid() ? color.name() : tr("No colour"));
+}
+
+/// To name a widget takes Qt longer than to make it, so it is only done where somebody reads the names.
+void ColorPickerWidget::Private::nameControls() const
+{
+    currentColorValueEdit->setAccessibleName(tr("Colour value"));
+    pipetteButton->setAccessibleName(tr("Pick a colour from the screen"));
+    addCustomColorButton->setAccessibleName(tr("Choose another colour"));
+    for (auto entry = buttonColors.cbegin(); entry != buttonColors.cend(); ++entry) {
+        nameButton(entry.key());
+    }
+}
+
+void ColorPickerWidget::Private::accessibilityActiveChanged(bool active)
+{
+    namesAreRead = active;
+    if (active) {
+        nameControls();
     }
 }
 
@@ -622,6 +656,7 @@ void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
         setSliderToAlpha();
     }
     updateColorButtonsCheckState();
+    // A button that is found leaves them to the handler, which keeps still.
     updateColorValueWidgets();
     isFollowing = false;
     reportColor();
@@ -667,13 +702,16 @@ void ColorPickerWidget::Private::reportColor()
 
 /// Keeps what the user has just used alive until its code, which made the panel emit, has returned. Line
 /// edits, buttons and spin boxes of Qt go on using themselves after their signals.
-void ColorPickerWidget::Private::letChildrenOutlive()
+void ColorPickerWidget::Private::letPartsOutlive() const
 {
-    const auto children = owner->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children) {
-        child->hide();
-        child->setParent(nullptr);
-        child->deleteLater();
+    for (QWidget* part : {static_cast<QWidget*>(dialog), static_cast<QWidget*>(topPanel),
+                          static_cast<QWidget*>(colorMatrixPanel), static_cast<QWidget*>(otherColorsPanel),
+                          static_cast<QWidget*>(opacityPanel)}) {
+        if (part) {
+            part->hide();
+            part->setParent(nullptr);
+            part->deleteLater();
+        }
     }
 }
 
@@ -686,7 +724,7 @@ ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
 ColorPickerWidget::~ColorPickerWidget()
 {
     if (d->emissions > 0) {
-        d->letChildrenOutlive();
+        d->letPartsOutlive();
     }
 }
 

@@ -60,6 +60,9 @@
  *     #colorMatrixPanel QToolButton, #otherColorsQueuePanel QToolButton { width: 16px; height: 16px; }
  *     #colorMatrixPanel QToolButton:checked { border: 2px solid white; }
  *
+ * **Accessibility.** Once somebody reads them, the buttons have accessible names: a colour's button has the
+ * colour's.
+ *
  * **Lifetime.** A slot of any signal of the panel may delete it, its parent or its pop-up, while the user
  * types, drags or clicks and in the middle of setCurrentColor(). The parts whose code is still running are
  * then deleted on the next turn of the event loop. One exception is Qt's: a slot of colorChanged() that runs
