@@ -114,7 +114,7 @@ class ColorPickerWidget::Private : public QAccessible::ActivationObserver
 {
 public:
     Private(ColorPickerWidget* panel, bool nullColorAllowed, const QStringList& ownColors);
-    ~Private();
+    ~Private() override;
     Private(const Private&) = delete;
     Private& operator=(const Private&) = delete;
     static std::unique_ptr<Private> make(ColorPickerWidget* panel, bool nullColorAllowed);
