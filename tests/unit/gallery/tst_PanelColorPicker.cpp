@@ -466,8 +466,8 @@ void tst_PanelColorPicker::deletedInTheMiddle_data()
     for (const auto& [victim, remove] : victims) {
         // A checked button that is deleted in its own signal crashes inside Qt, hence the edit.
         QTest::addRow("%s, in a preview", victim) << changed << Action([this] {
-                   // The button of the new colour reports it opaque.
-                   m_picker->setOpacityAvailable(false);
+            // The button of the new colour reports it opaque.
+            m_picker->setOpacityAvailable(false);
             QTest::keyClicks(child<QLineEdit>("currentColorValueEdit"), "#123456");
         }) << remove;
         QTest::addRow("%s, at the end by Escape", victim)
@@ -483,8 +483,8 @@ void tst_PanelColorPicker::deletedInTheMiddle_data()
             << Action([this] { QTest::mouseClick(child<QToolButton>("pipetteButton"), Qt::LeftButton); })
             << remove;
         QTest::addRow("%s, by the colour that closing adds", victim) << changed << Action([this] {
-                   // The button of the new colour reports it opaque.
-                   m_picker->setOpacityAvailable(false);
+            // The button of the new colour reports it opaque.
+            m_picker->setOpacityAvailable(false);
             child<QToolButton>("addCustomColorButton")->click();
             m_picker->stop();
         }) << remove;
