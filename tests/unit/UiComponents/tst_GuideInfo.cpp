@@ -5,6 +5,8 @@
 #include <type_traits>
 #include <utility>
 
+Q_DECLARE_METATYPE(GuideInfo)
+
 namespace {
 
 GuideInfo sample()
@@ -111,8 +113,6 @@ void tst_GuideInfo::moves()
     assigned = std::move(moved);
     QVERIFY(assigned == sample());
 }
-
-Q_DECLARE_METATYPE(GuideInfo)
 
 UIC_TEST_MAIN(tst_GuideInfo)
 #include "tst_GuideInfo.moc"
