@@ -71,6 +71,8 @@ private Q_SLOTS:
     void enumeration();
     void followsItsNotifySignal();
     void readsAgainWithoutNotifySignal();
+    void panelReadsAgainWhenASheetHasSetValues();
+    void panelTellsOfAnEdit();
     void aRefusedValueIsShownAsItIs();
     void anObjectDies();
     void aListenerDeletesTheEditor();
@@ -277,6 +279,34 @@ void tst_PropertyEditor::panelControlsReport()
     const QVariantList expected = {
         true, 5, QStringLiteral("t"), 1, 0.5, QColor(Qt::blue), QStringLiteral("run")};
     QCOMPARE(got, expected);
+}
+
+// A sheet's values arrive when a widget is polished, and no signal tells of them.
+void tst_PropertyEditor::panelReadsAgainWhenASheetHasSetValues()
+{
+    PropertyPanel panel;
+    panel.addProperties({m_one.get()});
+    auto* box = panel.findChild<QDoubleSpinBox*>();
+    m_one->m_share = 0.25;
+    panel.show();
+    QTRY_COMPARE(box->value(), 0.25);
+    m_one->m_share = 0.75;
+    panel.setStyleSheet(QStringLiteral("QLabel { padding: 1px; }"));
+    QTRY_COMPARE(box->value(), 0.75);
+    QCOMPARE(m_one->m_share, 0.75);
+}
+
+void tst_PropertyEditor::panelTellsOfAnEdit()
+{
+    PropertyPanel panel;
+    panel.addProperties({m_one.get()});
+    QSignalSpy edited(&panel, &PropertyPanel::edited);
+    panel.findChild<QDoubleSpinBox*>()->setValue(0.5);
+    QCOMPARE(edited.size(), 1);
+    QCOMPARE(m_one->m_share, 0.5);
+    m_one->setCount(7);
+    panel.refresh();
+    QCOMPARE(edited.size(), 1);
 }
 
 UIC_TEST_MAIN(tst_PropertyEditor)
