@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTimerEvent>
+#include <QtMath>
 
 #include <cmath>
 
@@ -29,9 +30,10 @@ QColor mixed(const QColor& one, const QColor& other, double share)
 QPainterPath hills(const QRectF& area, double phase, double height)
 {
     QPainterPath path(area.bottomLeft());
-    for (double x = area.left(); x <= area.right(); x += 2) {
-        const double swing = std::sin((x - area.left()) / area.width() * 9 + phase);
-        path.lineTo(x, area.bottom() - height * (1 + 0.45 * swing));
+    constexpr int step = 2;
+    for (int x = 0; x <= qCeil(area.width()); x += step) {
+        const double swing = std::sin(x / area.width() * 9 + phase);
+        path.lineTo(area.left() + x, area.bottom() - height * (1 + 0.45 * swing));
     }
     path.lineTo(area.bottomRight());
     return path;

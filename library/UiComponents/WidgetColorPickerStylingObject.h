@@ -24,8 +24,8 @@ class UICOMPONENTS_EXPORT WidgetColorPickerStylingObject
 {
 public:
     WidgetColorPickerStylingObject() = default;
-    WidgetColorPickerStylingObject(const WidgetColorPickerStylingObject& other) = default;
-    WidgetColorPickerStylingObject& operator=(const WidgetColorPickerStylingObject& other) = default;
+    WidgetColorPickerStylingObject(const WidgetColorPickerStylingObject&) = default;
+    WidgetColorPickerStylingObject& operator=(const WidgetColorPickerStylingObject&) = default;
     virtual ~WidgetColorPickerStylingObject();
 
     /// The cursor to show over the target while a colour is picked. Asked once when picking starts, and

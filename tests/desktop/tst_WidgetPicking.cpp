@@ -27,7 +27,7 @@ public:
 
     static QColor colorAt(const QPoint& devicePixel)
     {
-        return QColor(PixelPattern::colorAt(devicePixel.x(), devicePixel.y()));
+        return {PixelPattern::colorAt(devicePixel.x(), devicePixel.y())};
     }
 
     /// The colour of the pixel that the widget's @p point is the top left of.
