@@ -3,8 +3,7 @@
 LoupePlacement::Placement LoupePlacement::placementAt(const QPoint& cursor, const QRect& screen,
                                                       const QSize& loupe)
 {
-    const QRect inner =
-        screen.adjusted(loupe.width(), loupe.height(), -loupe.width(), -loupe.height());
+    const QRect inner = screen.adjusted(loupe.width(), loupe.height(), -loupe.width(), -loupe.height());
     const bool isFarRight = cursor.x() > inner.right();
     if (cursor.y() >= inner.top()) {
         return isFarRight ? AboveLeft : AboveRight;

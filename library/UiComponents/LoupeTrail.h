@@ -36,8 +36,8 @@ public:
     /// The window was painted with the loupe at @p place, or without it.
     void paint(const std::optional<Place>& place, qint64 now);
 
-    /// How long until no part of a loupe of @p shape (relative to its corner) can be on the screen in @p area:
-    /// 0 when it is free of it, none when that takes another painting first.
+    /// How long until no part of a loupe of @p shape (relative to its corner) can be on the screen in @p
+    /// area: 0 when it is free of it, none when that takes another painting first.
     std::optional<int> untilFree(const QRect& area, const QRegion& shape, qint64 now) const;
 
 private:

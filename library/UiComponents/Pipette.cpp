@@ -29,6 +29,19 @@ namespace {
 constexpr int longestWait = 600;
 constexpr int lookInterval = 8;
 
+/// Whether the program may read the screen. Asks for the permission if not.
+bool mayReadScreen()
+{
+    // By their numbers, which every platform shares; a host's own may have other names for them.
+    constexpr auto screenCapture = static_cast<Orvane::Util::PrivacyType>(5);
+    constexpr auto granted = static_cast<Orvane::Util::AccessStatus>(0);
+    if (Orvane::Util::IsPrivacyAccessGranted(screenCapture) == granted) {
+        return true;
+    }
+    Orvane::Util::RequestPrivacyAccess(screenCapture);
+    return false;
+}
+
 /// The index of the screen at @p point; 0 for a point beside all of them.
 int screenNumberAt(const QPoint& point)
 {
@@ -91,8 +104,8 @@ private:
     QTimer later;
     int waited = 0;
     int ends = 0;
-    std::optional<QPoint> cursor;       // where the loupe belongs
-    std::optional<QPoint> pendingPick;  // the user has picked it, and the loupe has to vanish from it first
+    std::optional<QPoint> cursor;      // where the loupe belongs
+    std::optional<QPoint> pendingPick; // the user has picked it, and the loupe has to vanish from it first
 };
 
 Pipette::Impl::~Impl()
@@ -106,9 +119,7 @@ Pipette::Impl::~Impl()
 
 void Pipette::Impl::start()
 {
-    using namespace Orvane::Util;
-    if (IsPrivacyAccessGranted(PrivacyType::ScreenCapture) != AccessStatus::Granted) {
-        RequestPrivacyAccess(PrivacyType::ScreenCapture);
+    if (!mayReadScreen()) {
         return;
     }
     const int activeScreen = screenNumberAt(QCursor::pos());
@@ -203,12 +214,12 @@ void Pipette::Impl::stop()
     stopWatching();
     cursor.reset();
     pendingPick.reset();
-    loupe.clear();
+    loupe = nullptr;
     loupeItem = nullptr;
 
     const QPointer<Impl> self = this;
-    const QPointer<QGraphicsScene> finished = scene;
-    scene.clear();
+    const QPointer<QGraphicsScene> finished(scene.data());
+    scene = nullptr;
     const QList<PipetteScreenView*> closing = std::exchange(views, {});
     for (PipetteScreenView* view : closing) {
         // Whatever still reaches it, as the key press after the shortcut that ended the pick, ends nothing.
@@ -248,8 +259,8 @@ void Pipette::Impl::takePicture()
         return;
     }
     const QSize size(ScreenSample::loupePixels, ScreenSample::loupePixels);
-    const QRect area = ScreenSample::grabArea(*cursor, size, screen->geometry())
-                           .translated(screen->geometry().topLeft());
+    const QRect area =
+        ScreenSample::grabArea(*cursor, size, screen->geometry()).translated(screen->geometry().topLeft());
     // One more around it for what a fractional scale rounds.
     const QRect keptFree = area.adjusted(-1, -1, 1, 1);
     for (PipetteScreenView* view : qAsConst(views)) {

@@ -20,18 +20,18 @@
  * so does anything else that ends the pick: another application becomes the active one, a screen is added,
  * removed or changed, the application quits. The wheel and the other buttons do nothing.
  *
- * **The colour** is that of one pixel on the screen, whoever painted it, as QScreen::grabWindow() gives it and
- * without the trace of the pipette's own windows, a black of alpha 1 of 255 that takes one off each channel
- * from 128 up: 127 and 128 become the same value below it and are both picked as 128. It is opaque always.
- * Where no compositor has blended the windows, a channel of 255 is picked as 255 * 255 / 254: a QColor of the
- * model ExtendedRgb, whose rgb() and name() are white's. Loupe and cursor are never part of the colour. When
- * the loupe has been over the pixel up to now, the pipette hides it and waits until the screen has caught up,
- * about a tenth of a second; everywhere else colorSelected() comes from within the release.
+ * **The colour** is that of one pixel on the screen, whoever painted it, as QScreen::grabWindow() gives it
+ * and without the trace of the pipette's own windows, a black of alpha 1 of 255 that takes one off each
+ * channel from 128 up: 127 and 128 become the same value below it and are both picked as 128. It is opaque
+ * always. Where no compositor has blended the windows, a channel of 255 is picked as 255 * 255 / 254: a
+ * QColor of the model ExtendedRgb, whose rgb() and name() are white's. Loupe and cursor are never part of the
+ * colour. When the loupe has been over the pixel up to now, the pipette hides it and waits until the screen
+ * has caught up, about a tenth of a second; everywhere else colorSelected() comes from within the release.
  *
- * **Permission.** Where the system guards the contents of the screen (see PrivacyAccess.h) and the program may
- * not read it, startPicking() asks for the permission and does nothing else. Try again once it is granted.
- * Where a platform grants it and gives no picture all the same, the pick ends without a colour, and a warning
- * of the logging category "uicomponents.pipette" says so.
+ * **Permission.** Where the system guards the contents of the screen (see PrivacyAccess.h) and the program
+ * may not read it, startPicking() asks for the permission and does nothing else. Try again once it is
+ * granted. Where a platform grants it and gives no picture all the same, the pick ends without a colour, and
+ * a warning of the logging category "uicomponents.pipette" says so.
  *
  * **Style sheet.** The sheet of the application gives the loupe its size and look; without one it is as small
  * as its label. The picture is clipped to an ellipse, and background and border are painted over it:

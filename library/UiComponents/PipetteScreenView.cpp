@@ -27,8 +27,7 @@ void makeBare(QWidget* widget)
 
 QGraphicsItem* bottomItem(const QGraphicsScene* scene)
 {
-    const QList<QGraphicsItem*> items =
-        scene ? scene->items(Qt::DescendingOrder) : QList<QGraphicsItem*>();
+    const QList<QGraphicsItem*> items = scene ? scene->items(Qt::DescendingOrder) : QList<QGraphicsItem*>();
     return items.isEmpty() ? nullptr : items.last();
 }
 
@@ -142,8 +141,9 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
     makeBare(viewport());
 
     setViewportMargins(0, 0, 0, 0);
-    // A native window that is mapped, unmapped and mapped again within one turn may stay unmapped: some window
-    // managers take the answer to the second step for one to the third. So the first two stay inside of Qt.
+    // A native window that is mapped, unmapped and mapped again within one turn may stay unmapped: some
+    // window managers take the answer to the second step for one to the third. So the first two stay inside
+    // of Qt.
     setAttribute(Qt::WA_DontShowOnScreen);
     show();
     setAttribute(Qt::WA_DontShowOnScreen, false); // or the native window would not get its geometry

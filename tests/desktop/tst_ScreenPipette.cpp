@@ -5,22 +5,21 @@
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
 
-#include <QLabel>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QScreen>
 
-#include <array>
 #include <memory>
 
 namespace {
 
 // A loupe as an application has it: 13 pixels, 9 times enlarged.
 constexpr int loupeSize = 117;
-const char loupeSheet[] = "LoupeWidget { background: transparent; border: 3px solid #ff00ff; border-radius: 58px;"
-                          " min-width: 111px; max-width: 111px; min-height: 111px; max-height: 111px; }"
-                          "LoupeWidget > #colorNameLabel { color: #00ff00; background: #ff00ff;"
-                          " margin: 80px 20px 14px 20px; }";
+const char loupeSheet[] =
+    "LoupeWidget { background: transparent; border: 3px solid #ff00ff; border-radius: 58px;"
+    " min-width: 111px; max-width: 111px; min-height: 111px; max-height: 111px; }"
+    "LoupeWidget > #colorNameLabel { color: #00ff00; background: #ff00ff;"
+    " margin: 80px 20px 14px 20px; }";
 
 /// Every pixel differs from those around it, and none has a channel of 127, which the overlay makes one with
 /// 128.
@@ -108,6 +107,7 @@ private Q_SLOTS:
 
 private:
     bool start();
+    bool goBack();
 
     std::unique_ptr<PatternWindow> m_pattern;
     std::unique_ptr<Pipette> m_pipette;
@@ -139,6 +139,13 @@ bool tst_ScreenPipette::start()
     return all.size() == QGuiApplication::screens().size() && QTest::qWaitForWindowActive(all.first());
 }
 
+/// To the application's own window; the window manager does not always choose it by itself.
+bool tst_ScreenPipette::goBack()
+{
+    m_pattern->activateWindow();
+    return QTest::qWaitForWindowActive(m_pattern.get());
+}
+
 void tst_ScreenPipette::everyStartCoversTheScreen()
 {
     QVERIFY(RealInput::moveTo(m_pattern.get(), QPoint(500, 400)));
@@ -150,7 +157,7 @@ void tst_ScreenPipette::everyStartCoversTheScreen()
         QVERIFY(!view->testAttribute(Qt::WA_DontShowOnScreen));
         QTRY_VERIFY(view->hasFocus());
         m_pipette->stopPicking();
-        QTRY_VERIFY(m_pattern->isActiveWindow());
+        QVERIFY(goBack());
     }
 }
 
@@ -159,7 +166,6 @@ void tst_ScreenPipette::everyPixelIsPickedAsItIs()
     QRandomGenerator random(7);
     QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
     QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
-    int wrong = 0;
     for (int i = 0; i < 100; ++i) {
         const QPoint point(random.bounded(m_pattern->width()), random.bounded(m_pattern->height() - 1));
         QVERIFY(start());
@@ -167,18 +173,16 @@ void tst_ScreenPipette::everyPixelIsPickedAsItIs()
         QVERIFY(RealInput::click(m_pattern.get(), point));
         QTRY_COMPARE(selected.count(), 1);
         const auto picked = selected.first().first().value<QColor>();
-        if (picked.rgb() != patternAt(point).rgb()) { ++wrong; qInfo() << i << point << picked.name() << patternAt(point).name();}
-        QTRY_VERIFY(m_pattern->isActiveWindow());
+        QCOMPARE(picked.name(), patternAt(point).name());
+        QVERIFY(goBack());
         QCOMPARE(stopped.count(), i + 1);
     }
-    QCOMPARE(wrong, 0);
 }
 
 void tst_ScreenPipette::pixelUnderTheLoupeIsPickedAsItIs()
 {
     QRandomGenerator random(11);
     QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
-    int wrong = 0;
     for (int i = 0; i < 60; ++i) {
         const QPoint first(300 + random.bounded(400), 300 + random.bounded(300));
         const QPoint way(random.bounded(loupeSize), -random.bounded(loupeSize));
@@ -191,10 +195,9 @@ void tst_ScreenPipette::pixelUnderTheLoupeIsPickedAsItIs()
         QVERIFY(RealInput::click(m_pattern.get(), first + way));
         QTRY_COMPARE(selected.count(), 1);
         const auto picked = selected.first().first().value<QColor>();
-        if (picked.rgb() != patternAt(first + way).rgb()) { ++wrong; qInfo() << i << first << way << picked.name() << patternAt(first + way).name();}
-        QTRY_VERIFY(m_pattern->isActiveWindow());
+        QCOMPARE(picked.name(), patternAt(first + way).name());
+        QVERIFY(goBack());
     }
-    QCOMPARE(wrong, 0);
 }
 
 UIC_TEST_MAIN(tst_ScreenPipette)

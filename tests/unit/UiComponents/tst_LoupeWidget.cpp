@@ -109,8 +109,8 @@ void tst_LoupeWidget::metaObject()
 void tst_LoupeWidget::construction()
 {
     const LoupeWidget loupe;
-    QCOMPARE(loupe.windowFlags(), Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                                      Qt::NoDropShadowWindowHint);
+    QCOMPARE(loupe.windowFlags(),
+             Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
     QCOMPARE(loupe.property("roundedEdges"), QVariant(true));
     QVERIFY(loupe.testAttribute(Qt::WA_TranslucentBackground));
     QVERIFY(!loupe.emptyPixelsColor().isValid());
@@ -218,8 +218,7 @@ void tst_LoupeWidget::pictureIsMagnifiedIntoACircle()
             }
             ++compared;
             const QColor expected = inside ? pixelAt(x / zoom, y / zoom) : QColor(Qt::black);
-            QVERIFY2(image.pixelColor(x, y) == expected,
-                     qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+            QVERIFY2(image.pixelColor(x, y) == expected, qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
         }
     }
     QVERIFY(compared > side * side * 9 / 10);
@@ -287,7 +286,8 @@ void tst_LoupeWidget::circleOfTheFirstSizeStays()
 
 void tst_LoupeWidget::sheetIsPaintedUnclipped()
 {
-    qApp->setStyleSheet(QStringLiteral("LoupeWidget { border: 4px solid #00ff00; background: transparent; }"));
+    qApp->setStyleSheet(
+        QStringLiteral("LoupeWidget { border: 4px solid #00ff00; background: transparent; }"));
     const auto loupe = shown();
     loupe->setPixmap(picture());
     const QImage image = painted(*loupe, Qt::black);
@@ -299,10 +299,10 @@ void tst_LoupeWidget::sheetIsPaintedUnclipped()
 
 void tst_LoupeWidget::sheetGivesSizeAndColor()
 {
-    qApp->setStyleSheet(QStringLiteral(
-        "LoupeWidget { min-width: 90px; max-width: 90px; min-height: 70px; max-height: 70px;"
-        " qproperty-emptyPixelsColor: #112233; }"
-        "LoupeWidget > InstalledLayoutController { qproperty-layoutMargin: 5; }"));
+    qApp->setStyleSheet(
+        QStringLiteral("LoupeWidget { min-width: 90px; max-width: 90px; min-height: 70px; max-height: 70px;"
+                       " qproperty-emptyPixelsColor: #112233; }"
+                       "LoupeWidget > InstalledLayoutController { qproperty-layoutMargin: 5; }"));
     LoupeWidget loupe;
     loupe.ensurePolished();
     loupe.adjustSize();

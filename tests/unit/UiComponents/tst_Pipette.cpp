@@ -276,9 +276,9 @@ void tst_Pipette::metaObject()
 {
     const QMetaObject& meta = Pipette::staticMetaObject;
     QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
-    QCOMPARE(ownMethods(meta),
-             (QStringList{QStringLiteral("signal pickingStarted()"), QStringLiteral("signal pickingStopped()"),
-                          QStringLiteral("signal colorSelected(QColor)")}));
+    QCOMPARE(ownMethods(meta), (QStringList{QStringLiteral("signal pickingStarted()"),
+                                            QStringLiteral("signal pickingStopped()"),
+                                            QStringLiteral("signal colorSelected(QColor)")}));
     QCOMPARE(ownProperties(meta), QStringList());
 }
 
@@ -403,7 +403,8 @@ void tst_Pipette::secondStartAddsASecondSet()
 
     // Either set ends both.
     Q_EMIT first->pickingFinished(QPoint(600, 500), true);
-    QCOMPARE(m_protocol.lines, (QStringList{started, started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+    QCOMPARE(m_protocol.lines,
+             (QStringList{started, started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
     QVERIFY(shownViews().isEmpty());
     // Not a second time through a connection of the first set.
     Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
@@ -456,8 +457,9 @@ void tst_Pipette::pictureOfNothingPicksNothing()
     start();
     PipetteScreenView* const view = shownViews().first();
     takeEverythingAway(view);
-    QTest::ignoreMessage(QtWarningMsg,
-                         "No colour at QPoint(600,500) - the platform \"offscreen\" gives no picture of the screen");
+    QTest::ignoreMessage(
+        QtWarningMsg,
+        "No colour at QPoint(600,500) - the platform \"offscreen\" gives no picture of the screen");
     Q_EMIT view->pickingFinished(QPoint(600, 500), true);
     QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
     QVERIFY(!m_pipette->currentColor().isValid());
@@ -486,8 +488,8 @@ void tst_Pipette::otherInputDoesNothing()
     PipetteScreenView* const view = shownViews().first();
     release(view, QPoint(600, 500), Qt::RightButton);
     release(view, QPoint(600, 500), Qt::MiddleButton);
-    QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
+    QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(view->viewport(), &wheel);
     QCOMPARE(m_protocol.lines, QStringList{started});
     QVERIFY(view->isVisible());
@@ -532,10 +534,11 @@ void tst_Pipette::waitingPickIsOver_data()
     QTest::addColumn<int>("ends");
     using End = std::function<void(Pipette*)>;
     QTest::newRow("stopped") << End([](Pipette* pipette) { pipette->stopPicking(); }) << 1;
-    QTest::newRow("other application") << End(
-        [](Pipette*) { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }) << 1;
-    QTest::newRow("screen gone") << End(
-        [](Pipette*) { Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); }) << 1;
+    QTest::newRow("other application")
+        << End([](Pipette*) { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }) << 1;
+    QTest::newRow("screen gone") << End([](Pipette*) {
+        Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen());
+    }) << 1;
     QTest::newRow("loupe deleted") << End([](Pipette* pipette) {
         qDeleteAll(alive<LoupeWidget>());
         pipette->stopPicking();
@@ -663,10 +666,10 @@ void tst_Pipette::loupeFollowsTheCursor_data()
     QTest::newRow("bottom edge") << QPoint(400, 599) << 3 << QPoint(400, 599 - side);
     QTest::newRow("within a loupe of the top") << QPoint(400, side - 1) << 0 << QPoint(400, side - 1);
     QTest::newRow("a loupe below the top") << QPoint(400, side) << 3 << QPoint(400, 0);
-    QTest::newRow("within a loupe of the right edge") << QPoint(800 - side, 300) << 2
-                                                      << QPoint(800 - 2 * side, 300 - side);
-    QTest::newRow("a loupe from the right edge") << QPoint(799 - side, 300) << 3
-                                                 << QPoint(799 - side, 300 - side);
+    QTest::newRow("within a loupe of the right edge")
+        << QPoint(800 - side, 300) << 2 << QPoint(800 - 2 * side, 300 - side);
+    QTest::newRow("a loupe from the right edge")
+        << QPoint(799 - side, 300) << 3 << QPoint(799 - side, 300 - side);
     QTest::newRow("top right corner") << QPoint(799, 0) << 1 << QPoint(799 - side, 0);
 }
 
@@ -688,8 +691,8 @@ void tst_Pipette::loupeShowsWhatItMagnifies()
     start();
     PipetteScreenView* const view = shownViews().first();
     // Steps into the place where the loupe stands too.
-    for (const QPoint& point :
-         {QPoint(100, 400), QPoint(130, 380), QPoint(180, 340), QPoint(183, 337), QPoint(700, 90), QPoint(300, 500)}) {
+    for (const QPoint& point : {QPoint(100, 400), QPoint(130, 380), QPoint(180, 340), QPoint(183, 337),
+                                QPoint(700, 90), QPoint(300, 500)}) {
         QTest::mouseMove(view->windowHandle(), point);
         QCursor::setPos(point);
         LoupeWidget* const loupe = alive<LoupeWidget>().first();
@@ -773,7 +776,8 @@ void tst_Pipette::slotsOfSelectedMayRestart()
     });
     start();
     release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped, started}));
+    QCOMPARE(m_protocol.lines,
+             (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped, started}));
     QCOMPARE(shownViews().size(), 1);
 }
 
@@ -783,7 +787,8 @@ void tst_Pipette::slotsOfSelectedMayStartASecond()
     connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->startPicking(); });
     start();
     release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), started, stopped}));
+    QCOMPARE(m_protocol.lines,
+             (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), started, stopped}));
     QVERIFY(shownViews().isEmpty());
 }
 

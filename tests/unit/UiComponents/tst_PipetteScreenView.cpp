@@ -38,7 +38,8 @@ public:
     {
         view->show();
         view->activateWindow();
-        const bool isThere = QTest::qWaitForWindowExposed(view.get()) && QTest::qWaitForWindowActive(view.get());
+        const bool isThere =
+            QTest::qWaitForWindowExposed(view.get()) && QTest::qWaitForWindowActive(view.get());
         QCoreApplication::processEvents();
         moved->clear();
         finished->clear();
@@ -157,9 +158,9 @@ void tst_PipetteScreenView::metaObject()
                                             QStringLiteral("slot setCursorPixmap(QPixmap)"),
                                             QStringLiteral("slot setCursorSize(QSize)"),
                                             QStringLiteral("slot setCursorHotSpot(QSize)")}));
-    QCOMPARE(ownProperties(meta), (QStringList{QStringLiteral("QPixmap cursorPixmap rw"),
-                                               QStringLiteral("QSize cursorSize rw"),
-                                               QStringLiteral("QSize cursorHotSpot rw")}));
+    QCOMPARE(ownProperties(meta),
+             (QStringList{QStringLiteral("QPixmap cursorPixmap rw"), QStringLiteral("QSize cursorSize rw"),
+                          QStringLiteral("QSize cursorHotSpot rw")}));
 }
 
 void tst_PipetteScreenView::constructionCoversTheScreen_data()
@@ -176,8 +177,8 @@ void tst_PipetteScreenView::constructionCoversTheScreen()
     const Stage stage(area);
     const PipetteScreenView& view = *stage.view;
     QVERIFY(!view.parent());
-    QCOMPARE(view.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                                     Qt::NoDropShadowWindowHint);
+    QCOMPARE(view.windowFlags(),
+             Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
     QVERIFY(view.testAttribute(Qt::WA_MouseTracking));
     QVERIFY(view.viewport()->hasMouseTracking());
     QVERIFY(view.testAttribute(Qt::WA_TranslucentBackground));
@@ -348,9 +349,10 @@ void tst_PipetteScreenView::sheetGivesTheCursor()
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("dropper.png"));
     QVERIFY(dropper().save(file));
-    qApp->setStyleSheet(QStringLiteral("PipetteScreenView { qproperty-cursorPixmap: url(%1);"
-                                       " qproperty-cursorSize: 20px 20px; qproperty-cursorHotSpot: 2px 7px; }")
-                            .arg(file));
+    qApp->setStyleSheet(
+        QStringLiteral("PipetteScreenView { qproperty-cursorPixmap: url(%1);"
+                       " qproperty-cursorSize: 20px 20px; qproperty-cursorHotSpot: 2px 7px; }")
+            .arg(file));
     const Stage stage;
     QCOMPARE(stage.view->cursorSize(), QSize(20, 20));
     QCOMPARE(stage.view->cursorHotSpot(), QSize(2, 7));
@@ -585,9 +587,7 @@ void tst_PipetteScreenView::viewMayDieInItsSlots_data()
         QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_A, Qt::NoModifier);
         QCoreApplication::sendEvent(view, &event);
     });
-    QTest::newRow("Escape") << Act([](PipetteScreenView* view) {
-        pressKey(view, Qt::Key_Escape);
-    });
+    QTest::newRow("Escape") << Act([](PipetteScreenView* view) { pressKey(view, Qt::Key_Escape); });
     QTest::newRow("move") << Act([](PipetteScreenView* view) {
         QTest::mouseMove(view->windowHandle(), QPoint(30, 40));
         QCoreApplication::processEvents();
@@ -621,7 +621,8 @@ void tst_PipetteScreenView::overlayCoversEverything()
     QImage image(screenArea.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     stage.view->QWidget::render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    for (const QPoint& point : {QPoint(0, 0), QPoint(799, 0), QPoint(0, 799), QPoint(799, 799), QPoint(400, 300)}) {
+    for (const QPoint& point :
+         {QPoint(0, 0), QPoint(799, 0), QPoint(0, 799), QPoint(799, 799), QPoint(400, 300)}) {
         QCOMPARE(image.pixel(point), qRgba(0, 0, 0, 1));
     }
 }

@@ -161,14 +161,15 @@ void tst_ScreenSample::outsideOfAllScreensIsTransparent_data()
     QTest::newRow("bottom right corner") << Areas{single} << 0 << QPoint(799, 599) << QRect(0, 0, 7, 7);
     QTest::newRow("right edge") << Areas{single} << 0 << QPoint(797, 300) << QRect(0, 0, 9, 13);
     QTest::newRow("scale 2") << Areas{{{0, 0, 400, 300}, 2.0}} << 0 << QPoint(0, 299) << QRect(12, 0, 14, 14);
-    QTest::newRow("scale 1.5") << Areas{{{0, 0, 400, 300}, 1.5}} << 0 << QPoint(0, 100) << QRect(9, 0, 11, 20);
+    QTest::newRow("scale 1.5") << Areas{{{0, 0, 400, 300}, 1.5}} << 0 << QPoint(0, 100)
+                               << QRect(9, 0, 11, 20);
     const ScreenArea right{{800, 100, 640, 480}, 1.0};
     QTest::newRow("neighbour") << Areas{single, right} << 0 << QPoint(799, 300) << QRect(0, 0, 13, 13);
-    QTest::newRow("neighbour that is lower") << Areas{single, right} << 1 << QPoint(800, 100)
-                                             << QRect(0, 0, 13, 13);
+    QTest::newRow("neighbour that is lower")
+        << Areas{single, right} << 1 << QPoint(800, 100) << QRect(0, 0, 13, 13);
     const ScreenArea left{{-640, -480, 640, 480}, 1.0};
-    QTest::newRow("screen left and above") << Areas{single, left} << 1 << QPoint(-640, -300)
-                                           << QRect(6, 0, 7, 13);
+    QTest::newRow("screen left and above")
+        << Areas{single, left} << 1 << QPoint(-640, -300) << QRect(6, 0, 7, 13);
     // A scaled screen takes more physical pixels than its size, up to where its neighbour begins.
     QTest::newRow("neighbour of a scaled screen") << Areas{{{0, 0, 400, 300}, 2.0}, {{800, 0, 640, 600}, 1.0}}
                                                   << 0 << QPoint(399, 150) << QRect(0, 0, 26, 26);
