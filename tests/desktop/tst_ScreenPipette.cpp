@@ -1,3 +1,4 @@
+#include "PixelPattern.h"
 #include "RealInput.h"
 #include "TestMain.h"
 
@@ -5,62 +6,69 @@
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
 
-#include <QPainter>
+#include <QGraphicsProxyWidget>
+#include <QLabel>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QWindow>
 
+#include <cmath>
 #include <memory>
 
 namespace {
 
-// A loupe as an application has it: 13 pixels, 9 times enlarged.
+constexpr int loupePixels = 13;
 constexpr int loupeSize = 117;
-const char loupeSheet[] =
-    "LoupeWidget { background: transparent; border: 3px solid #ff00ff; border-radius: 58px;"
-    " min-width: 111px; max-width: 111px; min-height: 111px; max-height: 111px; }"
-    "LoupeWidget > #colorNameLabel { color: #00ff00; background: #ff00ff;"
-    " margin: 80px 20px 14px 20px; }";
+constexpr int rim = 3;
+// The plate with the colour's name, in the loupe.
+constexpr QRect plate(20, 80, 77, 23);
 
-/// Every pixel differs from those around it, and none has a channel of 127, which the overlay makes one with
-/// 128.
-QColor patternAt(const QPoint& point)
+// Of colours that the pattern would have only by accident.
+const QString roundLoupe =
+    QStringLiteral("LoupeWidget { background: transparent; border: 3px solid #ff00ff; border-radius: 58px;"
+                   " min-width: 111px; max-width: 111px; min-height: 111px; max-height: 111px; }"
+                   "LoupeWidget > #colorNameLabel { color: #00ff00; background: #ff00ff; font-size: 10px;"
+                   " margin: 80px 20px 14px 20px; }");
+// It has corners, which lie over the pixels that it magnifies.
+const QString squareLoupe =
+    QStringLiteral("LoupeWidget { background: #ff00ff; min-width: 117px; max-width: 117px; min-height: 117px;"
+                   " max-height: 117px; }");
+
+QPoint nativePixel(const QScreen* screen, const QPoint& point)
 {
-    const int red = (point.x() * 7 + point.y() * 3) % 256;
-    const int green = (point.y() * 5 + point.x() / 32) % 256;
-    const int blue = (point.x() + point.y() * 11) % 256;
-    const auto usable = [](int channel) { return channel == 127 ? 128 : channel; };
-    return {usable(red), usable(green), usable(blue)};
+    const QPoint corner = screen->geometry().topLeft();
+    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
 }
 
-QImage pattern(const QSize& size)
+QRect everything()
 {
-    QImage image(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            image.setPixel(x, y, patternAt({x, y}).rgb());
-        }
+    QRect all;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        all |= QRect(screen->geometry().topLeft(), screen->size() * screen->devicePixelRatio());
     }
-    return image;
+    return all;
 }
 
-/// An application's window that shows the pattern all over the screen. It is one row higher than the screen,
-/// for window managers keep a window of just its size above the others.
-class PatternWindow : public QWidget
+QString name(const QColor& color)
 {
-public:
-    PatternWindow()
-        : QWidget(nullptr, Qt::FramelessWindowHint)
-        , m_picture(QPixmap::fromImage(pattern(QGuiApplication::primaryScreen()->size() + QSize(0, 1))))
-    {
-        setGeometry(QRect(QPoint(0, 0), m_picture.size()));
-    }
+    // The overlay makes them one.
+    const auto plain = [](int channel) { return channel == 127 ? 128 : channel; };
+    return QColor(plain(color.red()), plain(color.green()), plain(color.blue())).name();
+}
 
-protected:
-    void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, m_picture); }
+/// What the pipette has to pick at a point of the desktop.
+QString expectedAt(const QPoint& point)
+{
+    const QPoint pixel = nativePixel(QGuiApplication::screenAt(point), point);
+    return name(QColor(PixelPattern::colorAt(pixel.x(), pixel.y())));
+}
 
-private:
-    QPixmap m_picture;
-};
+QColor darkened(const QColor& color)
+{
+    const auto dark = [](int channel) { return channel < 128 ? channel : channel - 1; };
+    return {dark(color.red()), dark(color.green()), dark(color.blue())};
+}
 
 QList<PipetteScreenView*> views()
 {
@@ -75,6 +83,17 @@ QList<PipetteScreenView*> views()
     return found;
 }
 
+PipetteScreenView* viewOf(const QScreen* screen)
+{
+    const auto all = views();
+    for (PipetteScreenView* view : all) {
+        if (view->geometry() == screen->geometry()) {
+            return view;
+        }
+    }
+    return nullptr;
+}
+
 LoupeWidget* loupe()
 {
     const auto widgets = QApplication::allWidgets();
@@ -87,10 +106,18 @@ LoupeWidget* loupe()
     return nullptr;
 }
 
+/// The loupe's place on the desktop.
+QRect loupePlace()
+{
+    const LoupeWidget* const shown = loupe();
+    return shown ? QRect(shown->graphicsProxyWidget()->scenePos().toPoint(), shown->size()) : QRect();
+}
+
 } // namespace
 
 /**
- * The screen pipette as a user has it: what lies on the screen, what comes out of a click.
+ * The screen pipette as a user has it, over the pixels of another application: what lies on the screens, what
+ * comes out of a click. Each run is on other screens.
  */
 class tst_ScreenPipette : public QObject
 {
@@ -101,103 +128,292 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void everyStartCoversTheScreen();
+    void everyStartCoversTheScreens();
     void everyPixelIsPickedAsItIs();
+    void pixelUnderTheLoupeIsPickedAsItIs_data();
     void pixelUnderTheLoupeIsPickedAsItIs();
+    void pixelAtTheTopEdgeIsPickedAsItIs_data();
+    void pixelAtTheTopEdgeIsPickedAsItIs();
+    void loupeShowsThePixelsAroundTheCursor();
+    void windowsOfOthersArePickedFrom_data();
+    void windowsOfOthersArePickedFrom();
+    void escapeGivesUp();
 
 private:
-    bool start();
+    bool start(const QScreen* screen, const QPoint& cursor);
+    bool pick(const QPoint& point);
     bool goBack();
+    QPoint randomPoint(const QScreen* screen, const QRect& within = {});
 
-    std::unique_ptr<PatternWindow> m_pattern;
+    QRandomGenerator m_random{7};
+    std::unique_ptr<PixelPattern> m_pattern;
+    std::unique_ptr<QWidget> m_host;
     std::unique_ptr<Pipette> m_pipette;
+    QStringList m_picked;
+    int m_stopped = 0;
 };
 
 void tst_ScreenPipette::initTestCase()
 {
-    qApp->setStyleSheet(QLatin1String(loupeSheet));
+    m_pattern = std::make_unique<PixelPattern>();
+    QVERIFY(m_pattern->show(everything()));
 }
 
 void tst_ScreenPipette::init()
 {
-    m_pattern = std::make_unique<PatternWindow>();
-    QVERIFY(RealInput::showAndActivate(m_pattern.get()));
-    QTRY_COMPARE(RealInput::pixel(m_pattern.get(), QPoint(3, 3)), patternAt({3, 3}));
+    qApp->setStyleSheet(roundLoupe);
+    QVERIFY(goBack());
     m_pipette = std::make_unique<Pipette>();
+    m_picked.clear();
+    m_stopped = 0;
+    connect(m_pipette.get(), &Pipette::colorSelected, this,
+            [this](const QColor& color) { m_picked.append(name(color)); });
+    connect(m_pipette.get(), &Pipette::pickingStopped, this, [this] { ++m_stopped; });
 }
 
 void tst_ScreenPipette::cleanup()
 {
     m_pipette.reset();
-    m_pattern.reset();
+    m_host.reset();
+    QVERIFY(views().isEmpty());
 }
 
-bool tst_ScreenPipette::start()
+/// Starts a pick with the cursor at a point of the desktop, and waits until it has the keyboard.
+bool tst_ScreenPipette::start(const QScreen* screen, const QPoint& cursor)
 {
+    const QWidget window;
+    if (!RealInput::moveTo(&window, cursor - window.mapToGlobal(QPoint(0, 0)))) {
+        return false;
+    }
     m_pipette->startPicking();
-    const auto all = views();
-    return all.size() == QGuiApplication::screens().size() && QTest::qWaitForWindowActive(all.first());
+    PipetteScreenView* const view = viewOf(screen);
+    return view && QTest::qWaitForWindowActive(view) && QTest::qWaitFor([view] { return view->hasFocus(); });
 }
 
-/// To the application's own window; the window manager does not always choose it by itself.
+/// Clicks at a point of the desktop and waits for the end.
+bool tst_ScreenPipette::pick(const QPoint& point)
+{
+    const PipetteScreenView* const view = viewOf(QGuiApplication::screenAt(point));
+    const int before = m_stopped;
+    return view && RealInput::click(view, view->mapFromGlobal(point)) &&
+           QTest::qWaitFor([this, before] { return m_stopped > before; });
+}
+
+/// To a window of the application's own. A new one: now and then Qt takes the focus that the window manager
+/// gives back to the old one for that of the window that has just been closed, and forgets it.
 bool tst_ScreenPipette::goBack()
 {
-    m_pattern->activateWindow();
-    return QTest::qWaitForWindowActive(m_pattern.get());
+    m_host = std::make_unique<QWidget>();
+    m_host->setGeometry(
+        QRect(QGuiApplication::primaryScreen()->geometry().topLeft() + QPoint(40, 40), QSize(160, 60)));
+    return RealInput::showAndActivate(m_host.get());
 }
 
-void tst_ScreenPipette::everyStartCoversTheScreen()
+/// Somewhere on the screen, or in a part of it, where the application has no window.
+QPoint tst_ScreenPipette::randomPoint(const QScreen* screen, const QRect& within)
 {
-    QVERIFY(RealInput::moveTo(m_pattern.get(), QPoint(500, 400)));
+    const QRect area = within.isValid() ? within : screen->geometry();
+    const QRect taken = m_host->frameGeometry().adjusted(-10, -10, 10, 10);
+    QPoint point;
+    do {
+        point = area.topLeft() + QPoint(m_random.bounded(area.width()), m_random.bounded(area.height()));
+    } while (taken.contains(point));
+    return point;
+}
+
+// A window that is shown, hidden and shown again within one turn may never be mapped.
+void tst_ScreenPipette::everyStartCoversTheScreens()
+{
+    const auto screens = QGuiApplication::screens();
     for (int i = 0; i < 300; ++i) {
-        QVERIFY2(start(), qPrintable(QString::number(i)));
-        PipetteScreenView* const view = views().first();
-        QCOMPARE(view->geometry(), QGuiApplication::primaryScreen()->geometry());
-        QVERIFY(view->windowHandle()->isExposed());
-        QVERIFY(!view->testAttribute(Qt::WA_DontShowOnScreen));
-        QTRY_VERIFY(view->hasFocus());
+        const QScreen* const screen = screens.at(i % screens.size());
+        QVERIFY2(start(screen, screen->geometry().center() + QPoint(i % 7, 0)),
+                 qPrintable(QString::number(i)));
+        const auto all = views();
+        QCOMPARE(all.size(), screens.size());
+        for (const PipetteScreenView* view : all) {
+            QTRY_VERIFY(view->windowHandle()->isExposed());
+            QVERIFY(!view->testAttribute(Qt::WA_DontShowOnScreen));
+            QCOMPARE(view->windowHandle()->screen()->geometry(), view->geometry());
+            QCOMPARE(view->windowHandle()->geometry(), view->geometry());
+        }
         m_pipette->stopPicking();
         QVERIFY(goBack());
+        QCOMPARE(m_stopped, i + 1);
     }
 }
 
 void tst_ScreenPipette::everyPixelIsPickedAsItIs()
 {
-    QRandomGenerator random(7);
-    QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
-    QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
-    for (int i = 0; i < 100; ++i) {
-        const QPoint point(random.bounded(m_pattern->width()), random.bounded(m_pattern->height() - 1));
-        QVERIFY(start());
-        selected.clear();
-        QVERIFY(RealInput::click(m_pattern.get(), point));
-        QTRY_COMPARE(selected.count(), 1);
-        const auto picked = selected.first().first().value<QColor>();
-        QCOMPARE(picked.name(), patternAt(point).name());
-        QVERIFY(goBack());
-        QCOMPARE(stopped.count(), i + 1);
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        for (int i = 0; i < 100; ++i) {
+            const QPoint point = randomPoint(screen);
+            const QScreen* const other = screens.at(i % screens.size());
+            QVERIFY(start(other, randomPoint(other)));
+            QVERIFY(pick(point));
+            QCOMPARE(m_picked.takeLast(), expectedAt(point));
+            QVERIFY(m_picked.isEmpty());
+            QVERIFY(goBack());
+        }
     }
+}
+
+void tst_ScreenPipette::pixelUnderTheLoupeIsPickedAsItIs_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::newRow("round") << roundLoupe;
+    QTest::newRow("square") << squareLoupe;
 }
 
 void tst_ScreenPipette::pixelUnderTheLoupeIsPickedAsItIs()
 {
-    QRandomGenerator random(11);
-    QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
-    for (int i = 0; i < 60; ++i) {
-        const QPoint first(300 + random.bounded(400), 300 + random.bounded(300));
-        const QPoint way(random.bounded(loupeSize), -random.bounded(loupeSize));
-        QVERIFY(RealInput::moveTo(m_pattern.get(), first));
-        QVERIFY(start());
-        QTRY_VERIFY(loupe());
-        const QPoint inside(first + QPoint(loupeSize / 2, -loupeSize / 2));
-        QTRY_VERIFY(RealInput::pixel(m_pattern.get(), inside) != patternAt(inside));
-        selected.clear();
-        QVERIFY(RealInput::click(m_pattern.get(), first + way));
-        QTRY_COMPARE(selected.count(), 1);
-        const auto picked = selected.first().first().value<QColor>();
-        QCOMPARE(picked.name(), patternAt(first + way).name());
+    QFETCH(QString, sheet);
+    qApp->setStyleSheet(sheet);
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect middle = screen->geometry().adjusted(150, 150, -250, -50);
+        for (int i = 0; i < 25; ++i) {
+            const QPoint first = randomPoint(screen, middle);
+            QVERIFY(start(screen, first));
+            QTRY_COMPARE(loupePlace(), QRect(first - QPoint(0, loupeSize), QSize(loupeSize, loupeSize)));
+            const QWidget* const view = viewOf(screen);
+            const QPoint point = randomPoint(screen, loupePlace());
+            // It is on the screen, over that pixel or beside it.
+            const QPoint inside = view->mapFromGlobal(loupePlace().center());
+            QTRY_VERIFY(name(RealInput::pixel(view, inside)) != expectedAt(loupePlace().center()));
+            QVERIFY(pick(point));
+            QCOMPARE(m_picked.takeLast(), expectedAt(point));
+            QVERIFY(goBack());
+        }
+    }
+}
+
+void tst_ScreenPipette::pixelAtTheTopEdgeIsPickedAsItIs_data()
+{
+    pixelUnderTheLoupeIsPickedAsItIs_data();
+}
+
+// There the loupe lies below the cursor, with its corner on the pixel.
+void tst_ScreenPipette::pixelAtTheTopEdgeIsPickedAsItIs()
+{
+    QFETCH(QString, sheet);
+    qApp->setStyleSheet(sheet);
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect top(screen->geometry().topLeft() + QPoint(240, 0), QSize(200, loupeSize));
+        for (int i = 0; i < 20; ++i) {
+            QPoint point = randomPoint(screen, top);
+            if (i % 4 == 0) {
+                point.setY(top.top());
+            }
+            QVERIFY(start(screen, point));
+            QTRY_COMPARE(loupePlace().topLeft(), point);
+            const QWidget* const view = viewOf(screen);
+            const QPoint inside = view->mapFromGlobal(loupePlace().center());
+            QTRY_VERIFY(name(RealInput::pixel(view, inside)) != expectedAt(loupePlace().center()));
+            QVERIFY(pick(point));
+            QCOMPARE(m_picked.takeLast(), expectedAt(point));
+            QVERIFY(goBack());
+        }
+    }
+}
+
+void tst_ScreenPipette::loupeShowsThePixelsAroundTheCursor()
+{
+    for (QScreen* screen : QGuiApplication::screens()) {
+        const qreal ratio = screen->devicePixelRatio();
+        QVERIFY(start(screen, randomPoint(screen)));
+        PipetteScreenView* const view = viewOf(screen);
+        const QRect inner = screen->geometry().adjusted(20, 20, -20, -20);
+        for (int i = 0; i < 25; ++i) {
+            // Every other step leads into the place where the loupe stands.
+            const bool isNear = i % 2 == 1 && inner.contains(loupePlace());
+            const QPoint point = randomPoint(screen, isNear ? loupePlace() : inner);
+            QVERIFY(RealInput::moveTo(view, view->mapFromGlobal(point)));
+            const auto* label = loupe()->findChild<QLabel*>(QStringLiteral("colorNameLabel"));
+            QTRY_COMPARE(name(QColor(label->text())), expectedAt(point));
+
+            const int pixels = qRound(loupePixels * ratio);
+            const QPoint corner =
+                (QPointF(point - screen->geometry().topLeft() - QPoint(loupePixels / 2, loupePixels / 2)) *
+                 ratio)
+                    .toPoint() +
+                screen->geometry().topLeft();
+            const auto differences = [&] {
+                const QRect place = loupePlace();
+                const QPoint local = place.topLeft() - screen->geometry().topLeft();
+                const QImage seen =
+                    screen->grabWindow(0, local.x(), local.y(), loupeSize, loupeSize).toImage();
+                QStringList found;
+                int compared = 0;
+                for (int y = 0; y < pixels; ++y) {
+                    for (int x = 0; x < pixels; ++x) {
+                        const QPointF middle(loupeSize * (x + 0.5) / pixels, loupeSize * (y + 0.5) / pixels);
+                        const QPointF off = middle - QPointF(loupeSize, loupeSize) / 2;
+                        const bool isPicture = std::hypot(off.x(), off.y()) < loupeSize / 2.0 - rim - 2 &&
+                                               !plate.adjusted(-2, -2, 2, 2).contains(middle.toPoint());
+                        if (!isPicture || !seen.rect().contains((middle * ratio).toPoint())) {
+                            continue;
+                        }
+                        ++compared;
+                        const QColor expected =
+                            darkened(QColor(PixelPattern::colorAt(corner.x() + x, corner.y() + y)));
+                        if (seen.pixelColor((middle * ratio).toPoint()) != expected) {
+                            found += QStringLiteral("%1,%2").arg(x).arg(y);
+                        }
+                    }
+                }
+                return compared > pixels * pixels / 3 ? found : QStringList{QStringLiteral("nothing")};
+            };
+            const bool isOnTheWindow = m_host->frameGeometry().adjusted(-20, -20, 20, 20).contains(point);
+            if (!isOnTheWindow) {
+                QTRY_COMPARE(differences(), QStringList());
+            }
+        }
+        m_pipette->stopPicking();
         QVERIFY(goBack());
     }
+}
+
+void tst_ScreenPipette::windowsOfOthersArePickedFrom_data()
+{
+    QTest::addColumn<int>("window");
+    QTest::newRow("ordinary") << int(PixelPattern::Window::Ordinary);
+    QTest::newRow("full screen") << int(PixelPattern::Window::FullScreen);
+}
+
+void tst_ScreenPipette::windowsOfOthersArePickedFrom()
+{
+    QFETCH(int, window);
+    const QScreen* const screen = QGuiApplication::screens().last();
+    for (int i = 0; i < 4; ++i) {
+        PixelPattern other;
+        QVERIFY(other.show(QRect(screen->geometry().topLeft() + QPoint(200, 100), QSize(300, 200)),
+                           PixelPattern::Window(window)));
+        // It has the keyboard.
+        QTRY_COMPARE(QGuiApplication::applicationState(), Qt::ApplicationInactive);
+        const QRect area(screen->geometry().topLeft() + QPoint(260, 160), QSize(100, 60));
+        const QPoint point = randomPoint(screen, area);
+        QVERIFY(start(screen, point));
+        QVERIFY(pick(point));
+        QVERIFY(!m_picked.isEmpty());
+        QCOMPARE(m_picked.takeLast(), expectedAt(point));
+        QVERIFY(goBack());
+    }
+}
+
+void tst_ScreenPipette::escapeGivesUp()
+{
+    const QScreen* const screen = QGuiApplication::screens().last();
+    for (const char* key : {"Escape", "a", "ctrl+s", "F5"}) {
+        QVERIFY(start(screen, randomPoint(screen)));
+        m_stopped = 0;
+        QVERIFY(RealInput::key(QLatin1String(key)));
+        QTRY_COMPARE(m_stopped, 1);
+        QVERIFY(views().isEmpty());
+        QVERIFY(goBack());
+        QCOMPARE(m_stopped, 1);
+    }
+    QCOMPARE(m_picked, QStringList());
 }
 
 UIC_TEST_MAIN(tst_ScreenPipette)
