@@ -30,6 +30,7 @@
 #include "pages/PointSelectorPage.h"
 #include "pages/PointingPage.h"
 #include "pages/PrivacyAccessPage.h"
+#include "pages/PropertiesPage.h"
 #include "pages/PropertyProviderPage.h"
 #include "pages/QmlDialogPage.h"
 #include "pages/QmlFocusPage.h"
@@ -78,6 +79,7 @@ QVector<PageInfo> PageRegistry::pages()
         PathSelectionPage::info(),
         SearchPage::info(),
         AdjustingListPage::info(),
+        PropertiesPage::info(),
         // layout and styling
         FramePage::info(),
         BoxLayoutPage::info(),

@@ -128,6 +128,7 @@ public:
     void handleFocus(bool hasFocus);
     PathError findError() const;
     void showError(const PathError& error);
+    void dropToolTip() const;
     void retranslate();
 
     PathSelectionWidget* const owner;
@@ -287,6 +288,15 @@ void PathSelectionWidget::Private::showError(const PathError& error)
     }
 }
 
+void PathSelectionWidget::Private::dropToolTip() const
+{
+    // Qt leaves a tip that is open where it is.
+    if (QToolTip::isVisible() && QToolTip::text() == pathLineEdit->toolTip()) {
+        QToolTip::hideText();
+    }
+    pathLineEdit->setToolTip(QString());
+}
+
 void PathSelectionWidget::Private::retranslate()
 {
     requiredSpace.retranslate();
@@ -325,7 +335,7 @@ PathSelectionWidget::PathSelectionWidget(QWidget* parent)
         }
     });
     connect(d->pathLineEdit, &QLineEdit::textChanged, this, [this] {
-        d->pathLineEdit->setToolTip(QString());
+        d->dropToolTip();
         if (!d->settingPath) {
             setPath(d->pathLineEdit->text());
         }

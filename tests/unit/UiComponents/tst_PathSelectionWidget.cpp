@@ -1134,15 +1134,22 @@ void tst_PathSelectionWidget::toolTipGoesWithTheNextKey()
     window.field->setPath(QStringLiteral("relative"));
     clock.finish();
     QVERIFY(!window.field->checkPath());
+    QVERIFY(QToolTip::isVisible());
     QTest::keyClicks(window.edit(), QStringLiteral("/"));
     QCOMPARE(window.edit()->toolTip(), QString());
+    QTRY_VERIFY(!QToolTip::isVisible());
+    // That of another widget stays.
+    QToolTip::showText(window.other->mapToGlobal(QPoint()), QStringLiteral("other"), window.other);
+    QTest::keyClicks(window.edit(), QStringLiteral("x"));
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), QStringLiteral("other"));
     // The mark waits for the report.
     QVERIFY(isMarked(*window.field));
     clock.finish();
     QVERIFY(!isMarked(*window.field));
     // What the widget writes itself counts as well.
     window.edit()->setToolTip(QStringLiteral("tip"));
-    window.field->setPath(QStringLiteral("/x"));
+    window.field->setPath(QStringLiteral("/y"));
     QCOMPARE(window.edit()->toolTip(), QString());
 }
 
