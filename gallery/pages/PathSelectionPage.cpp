@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 Megabyte = 1024 * 1024;
+constexpr qint64 Megabyte = 1'048'576;
 constexpr int RequiredMegabytes = 700;
 constexpr int MostMegabytes = 10'000'000;
 constexpr int MegabytesInPictures = 213'000;

@@ -360,7 +360,8 @@ QString PathSelectionWidget::defaultPath() const
 
 void PathSelectionWidget::setPath(const QString& path)
 {
-    const QString newPath = path; // which may be a reference to the one that is replaced
+    // Which may be a reference to the one that is replaced.
+    const QString newPath = path; // NOLINT(performance-unnecessary-copy-initialization)
     const QPointer<PathSelectionWidget> self = this;
     const OwnWriting writing(this, &d->settingPath);
     bool isResettable = true;

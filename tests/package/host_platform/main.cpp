@@ -6,11 +6,13 @@
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/CustomColors.h>
 #include <UiComponents/Pipette.h>
+#include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/QuickDialog.h>
 #include <UiComponents/SliderInputWidget.h>
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QLabel>
 #include <QSpinBox>
 #include <QVariant>
 
@@ -38,6 +40,13 @@ int main(int argc, char** argv)
     field.setValue(7);
     if (field.findChild<QSpinBox*>()->value() != 7) {
         qCritical("the number is not in the studio's spin box");
+        return 1;
+    }
+    PathSelectionWidget folder(nullptr);
+    folder.showRequiredSpace(true, 7);
+    const auto* space = folder.findChild<QLabel*>(QStringLiteral("requiredLabel"));
+    if (folder.checkPath() || space->text() != QLatin1String("Required: 7 studio bytes")) {
+        qCritical("the folder is not looked at with the studio's eyes");
         return 1;
     }
     Qml::QuickDialog dialog;

@@ -124,9 +124,10 @@ public:
     void start()
     {
         QCoreApplication::sendPostedEvents();
-        if (isTimerRunning()) {
-            interval = timers().first().interval;
-            type = timers().first().timerType;
+        const auto running = timers();
+        if (!running.isEmpty()) {
+            interval = running.first().interval;
+            type = running.first().timerType;
         }
     }
 
@@ -1001,7 +1002,7 @@ void tst_PathSelectionWidget::checkFunctionReplacedInsideItself()
     field.setErrorDisplayType(PathSelectionWidget::Label);
     field.setPath(m_root);
     // Long enough not to be kept in the string itself: used after the replacement.
-    const QString first = QString(200, QLatin1Char('1'));
+    QString first(200, QLatin1Char('1'));
     field.setCheckPathFunc([&field, first](const QString&) {
         field.setCheckPathFunc([](const QString&) { return QStringLiteral("second"); });
         return first;
@@ -1466,7 +1467,7 @@ void tst_PathSelectionWidget::destroyedWhileFocused()
     QTRY_VERIFY(editOf(*field)->hasFocus());
     int reports = 0;
     connect(field.data(), &PathSelectionWidget::pathChanged, this, [&reports] { ++reports; });
-    delete (isWindowDeleted ? field->window() : field.data());
+    std::unique_ptr<QWidget>(isWindowDeleted ? field->window() : field.data()).reset();
     QVERIFY(!field);
     clock.finish();
     QCOMPARE(reports, 0);

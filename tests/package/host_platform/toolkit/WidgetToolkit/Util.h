@@ -13,6 +13,7 @@ namespace Util {
 
 void repolishWidget(QWidget* widget);
 void applyProperty(QWidget* widget, const char* name, const QVariant& value);
+void applyStyleHint(QWidget* widget, const QString& hint);
 
 /// The studio has no layout controllers: margins come from its own style. Always null.
 LayoutController* installLayoutController(QWidget* widget);

@@ -1,0 +1,6 @@
+#include "StandardFolderUrls.h"
+
+QUrl StandardFolderUrls::myComputerUrl()
+{
+    return QUrl(QStringLiteral("file:///studio"));
+}
