@@ -228,6 +228,53 @@ SearchWidget* makeSearch(QWidget* parent)
     return search;
 }
 
+/// With the chooser that its add button opens.
+ColorPickerWidget* makeColorPanel(QWidget* parent)
+{
+    auto* panel = new ColorPickerWidget(parent, true);
+    panel->findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))->click();
+    panel->findChild<QDialog*>()->reject();
+    return panel;
+}
+
+/// A part of the colour panel, by its name.
+QWidget* partOf(const QWidget* panel, const char* name)
+{
+    return panel->findChild<QWidget*>(QString::fromLatin1(name));
+}
+
+QLabel* makeColorPreview(QWidget* parent)
+{
+    auto* preview = new QLabel(parent);
+    preview->setObjectName(QStringLiteral("currentColorDisplayLabel"));
+    preview->setStyleSheet(QStringLiteral("background-color: transparent;"));
+    return preview;
+}
+
+QLabel* makeFilledColorPreview(QWidget* parent)
+{
+    QLabel* const preview = makeColorPreview(parent);
+    preview->setStyleSheet(QStringLiteral("background-color: #ffc000;"));
+    return preview;
+}
+
+Maker makeNamedButton(const char* name)
+{
+    return [name](QWidget* parent) {
+        auto* button = new QToolButton(parent);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setFocusPolicy(Qt::StrongFocus);
+        return button;
+    };
+}
+
+Orvane::Tessel::TesselElegantSlider* makeHueSlider(QWidget* parent)
+{
+    auto* slider = makeSlider<Orvane::Tessel::TesselElegantSlider>(parent);
+    slider->setObjectName(QStringLiteral("hueSlider"));
+    return slider;
+}
+
 LoupeWidget* makeLoupe(QWidget* parent)
 {
     auto* loupe = new LoupeWidget(parent);
