@@ -5,14 +5,14 @@
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/CustomColors.h>
-#include <UiComponents/Pipette.h>
 #include <UiComponents/PathSelectionWidget.h>
+#include <UiComponents/Pipette.h>
 #include <UiComponents/QuickDialog.h>
 #include <UiComponents/SliderInputWidget.h>
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QVariant>
 
