@@ -102,7 +102,7 @@ void tst_ColorPanel::init()
     m_reported = std::make_unique<QSignalSpy>(m_panel, &ColorPickerWidget::colorChanged);
     // The window is on the screen.
     QTRY_COMPARE(centerOf(m_field), QColor(Qt::red));
-    QTRY_COMPARE(centerOf(facesOf("colorMatrixPanel").last()), QColor(0x39, 0x00, 0x23));
+    QTRY_COMPARE(centerOf(facesOf("colorMatrixPanel").constLast()), QColor(0x39, 0x00, 0x23));
 }
 
 void tst_ColorPanel::cleanup()
@@ -387,13 +387,13 @@ void tst_ColorPanel::hueSliderTurnsThePlane()
 
 void tst_ColorPanel::pipetteButtonAsksToCloseToo()
 {
-    QStringList order;
+    const auto order = std::make_shared<QStringList>();
     connect(m_panel, &ColorPickerWidget::pipetteRequested, this,
-            [&order] { order << QStringLiteral("pipette"); });
+            [order] { *order << QStringLiteral("pipette"); });
     connect(m_panel, &ColorPickerWidget::closeRequested, this,
-            [&order] { order << QStringLiteral("close"); });
+            [order] { *order << QStringLiteral("close"); });
     QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
-    QTRY_COMPARE(order, (QStringList{QStringLiteral("pipette"), QStringLiteral("close")}));
+    QTRY_COMPARE(*order, (QStringList{QStringLiteral("pipette"), QStringLiteral("close")}));
     QCOMPARE(m_reported->count(), 0);
 }
 

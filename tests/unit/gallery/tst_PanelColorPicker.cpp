@@ -16,6 +16,12 @@
 // The off-screen platform gives every window a frame, and moves it by that once more.
 constexpr QPoint OffscreenFrame(2, 2);
 
+// Of the palette; its buttons are found by these names.
+const char* const AmberName = "#ffc000";
+const char* const GreenName = "#03c705";
+const QColor Amber(0xff, 0xc0, 0x00);
+const QColor Green(0x03, 0xc7, 0x05);
+
 using Color = std::optional<QColor>;
 using Action = std::function<void()>;
 Q_DECLARE_METATYPE(Action)
@@ -168,7 +174,7 @@ void tst_PanelColorPicker::openingChangesNoColor_data()
 {
     QTest::addColumn<Color>("color");
     QTest::addColumn<bool>("opacity");
-    QTest::newRow("a palette colour") << Color(QColor("#ff5d00")) << true;
+    QTest::newRow("a palette colour") << Color(QColor(0xff, 0x5d, 0x00)) << true;
     QTest::newRow("a free colour") << Color(QColor(1, 2, 3)) << true;
     // The panel's slider has hundredths.
     QTest::newRow("an alpha between two steps") << Color(QColor(10, 20, 30, 100)) << true;
@@ -208,8 +214,8 @@ void tst_PanelColorPicker::previewIsLive()
 {
     m_button->startPicking();
     QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
-    paletteButton("#ffc000")->click();
-    QCOMPARE(m_button->color(), Color(QColor("#ffc000")));
+    paletteButton(AmberName)->click();
+    QCOMPARE(m_button->color(), Color(Amber));
     QCOMPARE(changed.count(), 1);
     QVERIFY(m_button->isPickingInProgress());
     QVERIFY(popup()->isVisible());
@@ -235,45 +241,45 @@ void tst_PanelColorPicker::closingKeepsTheColor()
     QFETCH(Action, close);
     m_button->startPicking();
     QVERIFY(QTest::qWaitForWindowExposed(popup()));
-    paletteButton("#ffc000")->click();
+    paletteButton(AmberName)->click();
 
-    QStringList order;
-    connect(m_picker, &AbstractColorPicker::colorChanged, this, [&order] { order << "color"; });
-    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [&order, this] {
-        order << "stopped";
+    const auto order = std::make_shared<QStringList>();
+    connect(m_picker, &AbstractColorPicker::colorChanged, this, [order] { *order << "color"; });
+    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [order, this] {
+        *order << "stopped";
         QVERIFY(!popup()->isVisible());
         QVERIFY(!m_picker->isInProgress());
-        QCOMPARE(m_picker->color(), Color(QColor("#ffc000")));
+        QCOMPARE(m_picker->color(), Color(Amber));
     });
     close();
     QVERIFY(!popup()->isVisible());
-    QTRY_COMPARE(order, QStringList{"stopped"});
-    QCOMPARE(m_button->color(), Color(QColor("#ffc000")));
+    QTRY_COMPARE(*order, QStringList{"stopped"});
+    QCOMPARE(m_button->color(), Color(Amber));
     QVERIFY(!m_button->isDown());
     QVERIFY(!m_button->isPickingInProgress());
     QCoreApplication::processEvents();
-    QCOMPARE(order, QStringList{"stopped"});
+    QCOMPARE(*order, QStringList{"stopped"});
 }
 
 void tst_PanelColorPicker::pipetteIsHandedOnBehindTheEnd()
 {
     m_button->startPicking();
-    QStringList order;
-    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [&order] { order << "stopped"; });
-    connect(m_picker, &PanelColorPicker::pipetteRequested, this, [&order, this] {
-        order << "pipette";
+    const auto order = std::make_shared<QStringList>();
+    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [order] { *order << "stopped"; });
+    connect(m_picker, &PanelColorPicker::pipetteRequested, this, [order, this] {
+        *order << "pipette";
         QVERIFY(!QApplication::activePopupWidget());
         // What the host then does with its result.
         m_button->setColor(QColor(Qt::green));
     });
     child<QToolButton>("pipetteButton")->click();
-    QTRY_COMPARE(order, (QStringList{"stopped", "pipette"}));
+    QTRY_COMPARE(*order, (QStringList{"stopped", "pipette"}));
     QCOMPARE(m_button->color(), Color(QColor(Qt::green)));
 
     // Once for each request.
     m_button->startPicking();
     m_button->stopPicking();
-    QCOMPARE(order, (QStringList{"stopped", "pipette", "stopped"}));
+    QCOMPARE(*order, (QStringList{"stopped", "pipette", "stopped"}));
 }
 
 void tst_PanelColorPicker::ownPopupOfThePanelKeepsItOpen()
@@ -339,12 +345,12 @@ void tst_PanelColorPicker::picksAgainWithTheSamePanel()
     m_button->startPicking();
     const ColorPickerWidget* const first = panel();
     m_button->stopPicking();
-    m_button->setColor(QColor("#03c705"));
+    m_button->setColor(Green);
     m_button->startPicking();
     QCOMPARE(panel(), first);
-    QVERIFY(paletteButton("#03c705")->isChecked());
+    QVERIFY(paletteButton(GreenName)->isChecked());
     QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
-    paletteButton("#ffc000")->click();
+    paletteButton(AmberName)->click();
     QCOMPARE(changed.count(), 1);
 }
 
@@ -396,8 +402,8 @@ void tst_PanelColorPicker::aColorSetMeanwhileIsShown()
 {
     m_button->startPicking();
     QSignalSpy changed(m_picker, &AbstractColorPicker::colorChanged);
-    m_button->setColor(QColor("#03c705"));
-    QVERIFY(paletteButton("#03c705")->isChecked());
+    m_button->setColor(Green);
+    QVERIFY(paletteButton(GreenName)->isChecked());
     QCOMPARE(changed.count(), 0);
     m_button->setColor(QColor());
     QCOMPARE(panel()->currentColor(), Color(QColor()));
@@ -435,10 +441,10 @@ void tst_PanelColorPicker::stopFromInsideASlot()
     QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
     connect(m_picker, &AbstractColorPicker::colorChanged, this, [this] { m_picker->stop(); });
     connect(m_picker, &AbstractColorPicker::pickingStopped, this, [this] { m_picker->stop(); });
-    paletteButton("#ffc000")->click();
+    paletteButton(AmberName)->click();
     QCOMPARE(stopped.count(), 1);
     QVERIFY(!popup()->isVisible());
-    QCOMPARE(m_button->color(), Color(QColor("#ffc000")));
+    QCOMPARE(m_button->color(), Color(Amber));
 }
 
 void tst_PanelColorPicker::withoutAField()
@@ -537,7 +543,7 @@ void tst_PanelColorPicker::popupDeletedByOthers()
     QFETCH(bool, onlyThePanel);
     m_button->startPicking();
     const QPointer<QWidget> open = popup();
-    paletteButton("#ffc000")->click();
+    paletteButton(AmberName)->click();
     QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
     if (onlyThePanel) {
         delete panel();
@@ -546,12 +552,12 @@ void tst_PanelColorPicker::popupDeletedByOthers()
     }
     QTRY_COMPARE(stopped.count(), 1);
     QVERIFY(!open || !open->isVisible());
-    QCOMPARE(m_button->color(), Color(QColor("#ffc000")));
+    QCOMPARE(m_button->color(), Color(Amber));
     QVERIFY(!m_button->isDown());
 
     m_button->startPicking();
     QVERIFY(popup()->isVisible());
-    QCOMPARE(panel()->currentColor(), Color(QColor("#ffc000")));
+    QCOMPARE(panel()->currentColor(), Color(Amber));
 }
 
 UIC_TEST_MAIN(tst_PanelColorPicker)
