@@ -14,6 +14,7 @@
 #include <QMovie>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTextDocument>
 #include <QToolButton>
@@ -165,6 +166,7 @@ private Q_SLOTS:
     void hidingTheCloseButtonWidensTheHeading();
     void shorterTextMakesItLower();
     void veryLongTexts();
+    void infoSetWhileHidden_data();
     void infoSetWhileHidden();
     void infoChangedWhileShown();
     void infoSetTwiceInOneTurn();
@@ -566,11 +568,26 @@ void tst_DialogGuideWidget::veryLongTexts()
     QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
 }
 
-// A frame of a hidden bubble has no width yet that texts could be measured for.
+void tst_DialogGuideWidget::infoSetWhileHidden_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::addColumn<bool>("shownBefore");
+    for (const bool shownBefore : {false, true}) {
+        const char* const when = shownBefore ? "hidden again" : "never shown";
+        QTest::addRow("%s, no sheet", when) << QString() << shownBefore;
+        QTest::addRow("%s, width of a sheet", when)
+            << QStringLiteral("DialogGuideWidget { min-width: 280px; max-width: 280px; }") << shownBefore;
+    }
+}
+
+// The frames of a hidden bubble get their widths, for which texts are measured, from nobody else.
 void tst_DialogGuideWidget::infoSetWhileHidden()
 {
+    QFETCH(QString, sheet);
+    QFETCH(bool, shownBefore);
+    qApp->setStyleSheet(sheet);
+    const auto reset = qScopeGuard([] { qApp->setStyleSheet(QString()); });
     Stage reference;
-    reference.bubble->setFixedWidth(280);
     DialogGuideInfo info = fullInfo();
     info.title = words(20);
     info.description = words(80);
@@ -581,7 +598,12 @@ void tst_DialogGuideWidget::infoSetWhileHidden()
     window.setGeometry(150, 100, 400, 300);
     window.show();
     Bubble bubble(&window);
-    bubble.setFixedWidth(280);
+    if (shownBefore) {
+        bubble.setInfo(fullInfo());
+        bubble.show();
+        settle();
+        bubble.hide();
+    }
     bubble.setInfo(info);
     settle();
     bubble.pointTo(window.mapToGlobal(QPoint(100, 80)));

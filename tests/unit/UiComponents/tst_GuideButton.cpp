@@ -128,6 +128,7 @@ private Q_SLOTS:
     void clickElsewhereCloses();
     void hidingTheButtonCloses();
     void hidingTheWindowCloses();
+    void minimisingTheWindowCloses();
     void buttonMovedWhileOpen();
     void buttonResizedWhileOpen();
     void buttonDeletedWhileOpen();
@@ -453,6 +454,19 @@ void tst_GuideButton::hidingTheWindowCloses()
     window.hide();
     QVERIFY(!popup(*button)->isVisible());
     window.show();
+    QVERIFY(!popup(*button)->isVisible());
+}
+
+// The window system hides what a minimised window holds; bubbles leave that to it.
+void tst_GuideButton::minimisingTheWindowCloses()
+{
+    const auto button = makeButton();
+    button->show();
+    button->click();
+    QHideEvent hidden;
+    QSpontaneKeyEvent::setSpontaneous(&hidden);
+    QVERIFY(hidden.spontaneous());
+    QApplication::instance()->notify(button.get(), &hidden);
     QVERIFY(!popup(*button)->isVisible());
 }
 
