@@ -4,11 +4,23 @@ class QWidget;
 
 namespace LayoutHelpers {
 
-/// An item of the studio's own rows and columns.
+enum class SpacerPolicy { Stretch };
+
+/// An item of the studio's own rows and columns: a widget, or room that stretches.
 struct BoxItem
 {
-    QWidget* widget;
-    int stretch;
+    BoxItem(QWidget* itemWidget, int itemStretch)
+        : widget(itemWidget)
+        , stretch(itemStretch)
+    {
+    }
+    BoxItem(SpacerPolicy, int itemStretch)
+        : stretch(itemStretch)
+    {
+    }
+
+    QWidget* widget = nullptr;
+    int stretch = 0;
 };
 
 enum class Alignment { Default = 0 };

@@ -46,7 +46,11 @@ OvBoxLayout* OvBoxLayout::addStretch(int stretch)
 void OvBoxLayout::addItems(std::initializer_list<LayoutHelpers::BoxItem> items)
 {
     for (const LayoutHelpers::BoxItem& item : items) {
-        addWidget(item.widget, item.stretch);
+        if (item.widget) {
+            addWidget(item.widget, item.stretch);
+        } else {
+            addStretch(item.stretch);
+        }
     }
 }
 

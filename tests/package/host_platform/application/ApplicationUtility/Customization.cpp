@@ -1,0 +1,6 @@
+#include "Customization.h"
+
+QString Customization::localeDependedBoldText(const QString& title)
+{
+    return title.toUpper();
+}
