@@ -580,7 +580,7 @@ void tst_ColorPickerWidget::accessibleNames()
     QAccessible::setActive(true);
     QCOMPARE(panel.paletteButton(orange)->accessibleName(), orange);
     QCOMPARE(panel.paletteButton(0, 0)->accessibleName(), QStringLiteral("No colour"));
-    QCOMPARE(panel.queueButton(0)->accessibleName(), names(1).front());
+    QCOMPARE(panel.queueButton(0)->accessibleName(), names(1).constFirst());
     QCOMPARE(panel.pipette->accessibleName(), QStringLiteral("Pick a colour from the screen"));
     QCOMPARE(panel.addButton->accessibleName(), QStringLiteral("Choose another colour"));
     QCOMPARE(panel.edit->accessibleName(), QStringLiteral("Colour value"));
@@ -682,7 +682,7 @@ void tst_ColorPickerWidget::facesAreSeen()
     };
     QCOMPARE(middle(panel.paletteButton(1, 1)), orange);
     QCOMPARE(middle(panel.paletteButton(7, 8)), QStringLiteral("#390023"));
-    QCOMPARE(middle(panel.queueButton(0)), names(1).front());
+    QCOMPARE(middle(panel.queueButton(0)), names(1).constFirst());
     QCOMPARE(middle(panel.face), QStringLiteral("#0000ff"));
     QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
     QCOMPARE(middle(panel.face), orange);
@@ -846,9 +846,10 @@ void tst_ColorPickerWidget::colorsThatAreTyped_data()
     QTest::newRow("another, in upper case")
         << true << several << QStringLiteral("#ABCDEF") << QStringList{QStringLiteral("#80abcdef")}
         << QStringLiteral("#ABCDEF") << QString();
-    QTest::newRow("one of the user's own") << true << several << names(1).front()
-                                           << QStringList({half(names(1).front()), half(names(1).front())})
-                                           << names(1).front() << names(1).front();
+    QTest::newRow("one of the user's own")
+        << true << several << names(1).constFirst()
+        << QStringList({half(names(1).constFirst()), half(names(1).constFirst())}) << names(1).constFirst()
+        << names(1).constFirst();
 }
 
 void tst_ColorPickerWidget::colorsThatAreTyped()
@@ -966,9 +967,9 @@ void tst_ColorPickerWidget::setCurrentColor_data()
         << QStringList({QStringLiteral("#00000000"), QStringLiteral("#00000000")})
         << QStringLiteral("#000000") << QStringLiteral("#000000") << 0 << QStringLiteral("#00000000");
     QTest::newRow("one of the user's own")
-        << false << true << several << OptionalColor(QColor(names(1).front()))
-        << QStringList{opaque(names(1).front())} << names(1).front() << names(1).front() << 100
-        << opaque(names(1).front());
+        << false << true << several << OptionalColor(QColor(names(1).constFirst()))
+        << QStringList{opaque(names(1).constFirst())} << names(1).constFirst() << names(1).constFirst() << 100
+        << opaque(names(1).constFirst());
     QTest::newRow("no colour, with its button")
         << true << true << halfRed << none << QStringList{QStringLiteral("none")} << QStringLiteral("#null")
         << QStringLiteral("transparent") << 50 << QStringLiteral("none");
@@ -1172,10 +1173,10 @@ void tst_ColorPickerWidget::queueIsReadFromTheSettings_data()
                                                QStringLiteral("rgb(1,2,3)")}
                                 << padded({});
     QTest::newRow("gaps keep their place")
-        << QStringList{QStringLiteral("junk"), names(1).front(), QStringLiteral("junk")}
-        << padded({none, names(1).front()});
+        << QStringList{QStringLiteral("junk"), names(1).constFirst(), QStringLiteral("junk")}
+        << padded({none, names(1).constFirst()});
     QTest::newRow("colours after the eighth entry stay out")
-        << QStringList{none, none, none, none, none, none, none, none, names(1).front()} << padded({});
+        << QStringList{none, none, none, none, none, none, none, none, names(1).constFirst()} << padded({});
     QTest::newRow("in other words") << QStringList{QStringLiteral("steelblue"), QStringLiteral("#FA0"),
                                                    QStringLiteral("#ABCDEF")}
                                     << padded({QStringLiteral("#4682b4"), QStringLiteral("#ffaa00"),
@@ -1217,16 +1218,16 @@ void tst_ColorPickerWidget::queueFollowsTheSettingsWhenShown()
     Panel panel;
     panel.show();
     QTest::mouseClick(panel.queueButton(0), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{opaque(names(1).front())});
+    QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
     panel.hide();
     m_record->value = QStringList{QStringLiteral("#123456")} + names(2);
     QCOMPARE(panel.queue(), padded(names(2)));
     panel.show();
     QCOMPARE(panel.queue(), padded(QStringList{QStringLiteral("#123456")} + names(2)));
     // The colour is at another button now.
-    QCOMPARE(panel.checked(), names(1).front());
+    QCOMPARE(panel.checked(), names(1).constFirst());
     QVERIFY(panel.queueButton(1)->isChecked());
-    QCOMPARE(panel.log(), QStringList{opaque(names(1).front())});
+    QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
     panel.hide();
     panel.show();
     QCOMPARE(panel.log(), QStringList());
@@ -1240,11 +1241,11 @@ void tst_ColorPickerWidget::shorterListLeavesButtons()
     panel.show();
     QCOMPARE(panel.queue(), padded(names(3)));
     // They are not found by their colour any more, but give what they show.
-    panel.setCurrentColor(QColor(names(3).back()));
+    panel.setCurrentColor(QColor(names(3).constLast()));
     QCOMPARE(panel.checked(), QString());
     QCOMPARE(panel.log(), QStringList());
     QTest::mouseClick(panel.queueButton(1), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{opaque(names(2).back())});
+    QCOMPARE(panel.log(), QStringList{opaque(names(2).constLast())});
 }
 
 void tst_ColorPickerWidget::ownColorIsChosen()
@@ -1599,7 +1600,7 @@ void tst_ColorPickerWidget::closingAddsNothing_data()
     QTest::newRow("none") << OptionalColor(QColor());
     QTest::newRow("of the palette") << OptionalColor(QColor(Qt::red));
     QTest::newRow("of the palette, translucent") << OptionalColor(QColor(255, 0, 0, 5));
-    QTest::newRow("there already") << OptionalColor(QColor(names(1).front()));
+    QTest::newRow("there already") << OptionalColor(QColor(names(1).constFirst()));
 }
 
 void tst_ColorPickerWidget::closingAddsNothing()
