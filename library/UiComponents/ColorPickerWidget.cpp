@@ -33,14 +33,16 @@
 #include <QToolButton>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int queueLength = 8;
 constexpr int opacitySteps = 100;
 
-// What shows a colour where no sheet says how large it is, in pixels.
+// What shows colours where no sheet says how large it is, in pixels.
 constexpr int bareFaceSize = 16;
-constexpr QSize bareSelectorSize(200, 200);
+constexpr QSize barePlaneSize(200, 160);
 
 QColor opaque(const QColor& color)
 {
@@ -607,11 +609,11 @@ void ColorPickerWidget::Private::createDialog()
 {
     dialog = new SelectorDialog(owner);
     selector = new CustomColorSelectWidget(dialog);
-    selector->setMinimumSize(bareSelectorSize);
     makeLayout<OvVBoxLayout>(dialog)->autoFill();
     dialog->setProperty("roundedEdges", true);
     Workaround::Ui::apply(dialog);
     if (auto* const plane = selector->findChild<ColorPlaneWidget*>()) {
+        plane->setMinimumSize(barePlaneSize);
         plane->setFocus();
     }
     selectorColor.reset();
@@ -622,6 +624,10 @@ void ColorPickerWidget::Private::createDialog()
 
 void ColorPickerWidget::Private::placeDialog() const
 {
+    // A layout in a hidden window does not hear of what has changed inside those inside it: from the
+    // innermost.
+    const auto parts = dialog->findChildren<QWidget*>();
+    std::for_each(parts.crbegin(), parts.crend(), [](QWidget* part) { part->updateGeometry(); });
     dialog->adjustSize();
     const QRect button(addCustomColorButton->mapToGlobal(QPoint()), addCustomColorButton->size());
     const QScreen* screen = QGuiApplication::screenAt(button.center());
