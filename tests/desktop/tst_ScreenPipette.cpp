@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -92,6 +93,18 @@ PipetteScreenView* viewOf(const QScreen* screen)
         }
     }
     return nullptr;
+}
+
+/// Whether each screen has its view. A window manager that puts a frame around a window moves it about.
+bool areInPlace()
+{
+    const auto screens = QGuiApplication::screens();
+    return std::all_of(screens.cbegin(), screens.cend(), [](const QScreen* screen) {
+        const PipetteScreenView* const view = viewOf(screen);
+        return view && view->windowHandle()->isExposed() &&
+               view->windowHandle()->geometry() == screen->geometry() &&
+               view->windowHandle()->screen() == screen;
+    });
 }
 
 LoupeWidget* loupe()
@@ -187,7 +200,8 @@ bool tst_ScreenPipette::start(const QScreen* screen, const QPoint& cursor)
     }
     m_pipette->startPicking();
     PipetteScreenView* const view = viewOf(screen);
-    return view && QTest::qWaitForWindowActive(view) && QTest::qWaitFor([view] { return view->hasFocus(); });
+    return view && QTest::qWaitForWindowActive(view) &&
+           QTest::qWaitFor([view] { return view->hasFocus() && areInPlace(); });
 }
 
 /// Clicks at a point of the desktop and waits for the end.
@@ -225,18 +239,12 @@ QPoint tst_ScreenPipette::randomPoint(const QScreen* screen, const QRect& within
 void tst_ScreenPipette::everyStartCoversTheScreens()
 {
     const auto screens = QGuiApplication::screens();
-    for (int i = 0; i < 300; ++i) {
+    const int starts = screens.size() > 1 ? 100 : 300;
+    for (int i = 0; i < starts; ++i) {
         const QScreen* const screen = screens.at(i % screens.size());
         QVERIFY2(start(screen, screen->geometry().center() + QPoint(i % 7, 0)),
                  qPrintable(QString::number(i)));
-        const auto all = views();
-        QCOMPARE(all.size(), screens.size());
-        for (const PipetteScreenView* view : all) {
-            QTRY_VERIFY(view->windowHandle()->isExposed());
-            QVERIFY(!view->testAttribute(Qt::WA_DontShowOnScreen));
-            QCOMPARE(view->windowHandle()->screen()->geometry(), view->geometry());
-            QCOMPARE(view->windowHandle()->geometry(), view->geometry());
-        }
+        QCOMPARE(views().size(), screens.size());
         m_pipette->stopPicking();
         QVERIFY(goBack());
         QCOMPARE(m_stopped, i + 1);
@@ -271,8 +279,8 @@ void tst_ScreenPipette::pixelUnderTheLoupeIsPickedAsItIs()
     QFETCH(QString, sheet);
     qApp->setStyleSheet(sheet);
     for (const QScreen* screen : QGuiApplication::screens()) {
-        const QRect middle = screen->geometry().adjusted(150, 150, -250, -50);
-        for (int i = 0; i < 25; ++i) {
+        const QRect middle = screen->geometry().adjusted(0, loupeSize, -2 * loupeSize, 0);
+        for (int i = 0; i < 15; ++i) {
             const QPoint first = randomPoint(screen, middle);
             QVERIFY(start(screen, first));
             QTRY_COMPARE(loupePlace(), QRect(first - QPoint(0, loupeSize), QSize(loupeSize, loupeSize)));
@@ -299,8 +307,9 @@ void tst_ScreenPipette::pixelAtTheTopEdgeIsPickedAsItIs()
     QFETCH(QString, sheet);
     qApp->setStyleSheet(sheet);
     for (const QScreen* screen : QGuiApplication::screens()) {
-        const QRect top(screen->geometry().topLeft() + QPoint(240, 0), QSize(200, loupeSize));
-        for (int i = 0; i < 20; ++i) {
+        const QRect top(screen->geometry().topLeft() + QPoint(screen->size().width() / 2 - 50, 0),
+                        QSize(100, loupeSize));
+        for (int i = 0; i < 12; ++i) {
             QPoint point = randomPoint(screen, top);
             if (i % 4 == 0) {
                 point.setY(top.top());
