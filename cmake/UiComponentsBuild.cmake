@@ -49,7 +49,8 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
 endif()
 if(UNIX AND NOT APPLE AND NOT UICOMPONENTS_SANITIZE)
     # A class with Q_OBJECT whose meta code is missing would otherwise link into a shared library.
-    set(UICOMPONENTS_LINK_OPTIONS -Wl,--no-undefined)
+    set(UICOMPONENTS_LINK_OPTIONS -Wl,--no-undefined
+        "-Wl,--version-script=${CMAKE_CURRENT_LIST_DIR}/local-symbols.map")
     # A library uses its own exported classes directly instead of looking them up by name while it is
     # loaded. Its users must then be compiled with -fPIC, or they keep copies of the meta-objects; a Qt
     # built with reduced relocations demands that for its own sake, and asks for it here.

@@ -261,7 +261,10 @@ void WidgetColorPicker::Private::report(const QColor& picked)
 }
 
 WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
-    : d(std::make_shared<Private>(this, widgets))
+    // Not std::make_shared(): it has an object that is one in the whole program, and a library with such an
+    // object is never unloaded.
+    // NOLINTNEXTLINE(modernize-make-shared)
+    : d(std::shared_ptr<Private>(new Private(this, widgets)))
 {
     connect(qGuiApp, &QGuiApplication::lastWindowClosed, this, &WidgetColorPicker::stop);
 }
