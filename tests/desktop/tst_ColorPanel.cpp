@@ -66,6 +66,8 @@ private:
     {
         return RealInput::pixel(widget, widget->rect().center());
     }
+    /// From the sheet that a face has of its own: "background-color: #rrggbb;".
+    static QString nameOf(const QToolButton* face) { return face->styleSheet().mid(18, 7); }
     QColor lastReported() const { return m_reported->constLast().constFirst().value<QColor>(); }
 
     std::unique_ptr<StyleController> m_style;
@@ -245,7 +247,7 @@ void tst_ColorPanel::opacityIsDraggedAndTyped()
     QVERIFY(RealInput::type(QStringLiteral("25\n")));
     QTRY_COMPARE(slider->value(), 25);
     QCOMPARE(lastReported().alphaF(), QColor::fromRgbF(0, 0, 0, 0.25).alphaF());
-    QCOMPARE(lastReported().name(), facesOf("colorMatrixPanel").at(20)->accessibleName());
+    QCOMPARE(lastReported().name(), nameOf(facesOf("colorMatrixPanel").at(20)));
 }
 
 void tst_ColorPanel::ownColorIsAdded()
@@ -478,7 +480,7 @@ void tst_ColorPanel::fieldKeepsThePanelBelowItsChooser()
     QTRY_COMPARE(centerOf(ownColor(0)), chosen);
     QVERIFY(RealInput::click(face));
     QTRY_VERIFY(face->isChecked());
-    QTRY_COMPARE(m_field->color()->name(), face->accessibleName());
+    QTRY_COMPARE(m_field->color()->name(), nameOf(face));
 
     // Escape closes them one by one.
     QVERIFY(openChooser());

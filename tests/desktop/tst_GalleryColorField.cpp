@@ -123,7 +123,8 @@ void tst_GalleryColorField::panelIsWhatAFieldOpens()
     QVERIFY(RealInput::click(chosen));
     QTRY_VERIFY(*m_button->color() != before);
     const QColor picked = *m_button->color();
-    QCOMPARE(picked.name(), chosen->accessibleName());
+    QVERIFY(chosen->isChecked());
+    QVERIFY2(chosen->styleSheet().contains(picked.name()), qPrintable(picked.name()));
     QTRY_COMPARE(face(), picked);
     QVERIFY(popup->isVisible());
     QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field-panel")));
