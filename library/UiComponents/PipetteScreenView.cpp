@@ -13,10 +13,14 @@
 #include <QPainter>
 #include <QPointer>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
 constexpr int lagOfCompositors = 60; // milliseconds
+
+// How often a view goes back to its screen before it leaves the last word to the window manager.
+constexpr int mostReturns = 10;
 
 void makeBare(QWidget* widget)
 {
@@ -51,6 +55,7 @@ public:
     void rebuildCursor();
     void focusSoon();
     void showAtCursor(QEvent* event);
+    void stayInPlace();
 
     PipetteScreenView* const owner;
     QGraphicsItem* const loupeItem;
@@ -59,6 +64,8 @@ public:
     QSize cursorHotSpot;
     QCursor cursor;
 
+    QRect area; // of the screen
+    int returnsLeft = 0;
     QRect keptFree;
     LoupeTrail trail;
     QElapsedTimer clock;
@@ -115,6 +122,22 @@ void PipetteScreenView::Private::showAtCursor(QEvent* event)
     owner->setCursor(cursor);
 }
 
+/// A window manager that puts a frame around the window moves it about. Now and then Qt is left with a place
+/// in between, and would take the mouse to be on another screen: to be told the right one, it has to ask for
+/// it.
+void PipetteScreenView::Private::stayInPlace()
+{
+    if (returnsLeft == 0 || !owner->isVisible() || owner->windowHandle()->geometry() == area) {
+        return;
+    }
+    --returnsLeft;
+    QTimer::singleShot(0, owner, [this] {
+        if (owner->isVisible() && owner->windowHandle()->geometry() != area) {
+            owner->setGeometry(area);
+        }
+    });
+}
+
 PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry)
     : QGraphicsView(scene)
     , d(std::make_unique<Private>(this))
@@ -156,6 +179,8 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
     if (scene) {
         scene->setBackgroundBrush(overlay);
     }
+    d->area = screenGeometry;
+    d->returnsLeft = mostReturns;
 }
 
 PipetteScreenView::~PipetteScreenView() = default;
@@ -248,6 +273,12 @@ bool PipetteScreenView::event(QEvent* event)
         event->accept();
         Q_EMIT pickingFinished(QCursor::pos(), false);
         return true;
+    case QEvent::Move:
+    case QEvent::Resize: {
+        const bool result = QGraphicsView::event(event);
+        d->stayInPlace();
+        return result;
+    }
     default:
         return QGraphicsView::event(event);
     }
