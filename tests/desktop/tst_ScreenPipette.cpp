@@ -227,7 +227,8 @@ bool tst_ScreenPipette::goBack()
 QPoint tst_ScreenPipette::randomPoint(const QScreen* screen, const QRect& within)
 {
     const QRect area = within.isValid() ? within : screen->geometry();
-    const QRect taken = m_host->frameGeometry().adjusted(-10, -10, 10, 10);
+    // With its frame, which may not be known yet.
+    const QRect taken = m_host->frameGeometry().adjusted(-20, -40, 20, 20);
     QPoint point;
     do {
         point = area.topLeft() + QPoint(m_random.bounded(area.width()), m_random.bounded(area.height()));
