@@ -49,35 +49,37 @@ int main(int argc, char** argv)
     const auto* space = folder.findChild<QLabel*>(QStringLiteral("requiredLabel"));
     if (folder.checkPath() || space->text() != QLatin1String("Required: 7 studio bytes")) {
         qCritical("the folder is not looked at with the studio's eyes");
-        DialogGuideWidget guide(nullptr);
-        guide.setInfo({QStringLiteral("Here"), QString(), QString(), QString(), QString()});
-        if (guide.contentFrame()->objectName() != QLatin1String("studioBubble") ||
-            guide.findChild<QLabel*>(QStringLiteral("headerLabel"))->text() != QLatin1String("HERE")) {
-            qCritical("the guide is not in the studio's bubble and letters");
-            return 1;
-        }
-        Qml::QuickDialog dialog;
-        dialog.setQmlPath(QStringLiteral("/no such scene"));
-        if (dialog.exec() != 0 || FS::lastAsked() != QLatin1String("/no such scene")) {
-            qCritical("the scene is not looked for with the studio's eyes");
-            return 1;
-        }
-        if (!dialog.property("studioKeepsFocus").toBool()) {
-            qCritical("the keyboard is not kept by the studio");
-            return 1;
-        }
-        Pipette pipette;
-        int picks = 0;
-        QObject::connect(&pipette, &Pipette::pickingStarted, &pipette, [&picks] { ++picks; });
-        pipette.startPicking();
-        if (picks != 0) {
-            qCritical("the screen is read without the studio's permission");
-            return 1;
-        }
-        pipette.startPicking();
-        if (picks != 1) {
-            qCritical("the studio was not asked for its permission");
-            return 1;
-        }
-        return 0;
+        return 1;
     }
+    DialogGuideWidget guide(nullptr);
+    guide.setInfo({QStringLiteral("Here"), QString(), QString(), QString(), QString()});
+    if (guide.contentFrame()->objectName() != QLatin1String("studioBubble") ||
+        guide.findChild<QLabel*>(QStringLiteral("headerLabel"))->text() != QLatin1String("HERE")) {
+        qCritical("the guide is not in the studio's bubble and letters");
+        return 1;
+    }
+    Qml::QuickDialog dialog;
+    dialog.setQmlPath(QStringLiteral("/no such scene"));
+    if (dialog.exec() != 0 || FS::lastAsked() != QLatin1String("/no such scene")) {
+        qCritical("the scene is not looked for with the studio's eyes");
+        return 1;
+    }
+    if (!dialog.property("studioKeepsFocus").toBool()) {
+        qCritical("the keyboard is not kept by the studio");
+        return 1;
+    }
+    Pipette pipette;
+    int picks = 0;
+    QObject::connect(&pipette, &Pipette::pickingStarted, &pipette, [&picks] { ++picks; });
+    pipette.startPicking();
+    if (picks != 0) {
+        qCritical("the screen is read without the studio's permission");
+        return 1;
+    }
+    pipette.startPicking();
+    if (picks != 1) {
+        qCritical("the studio was not asked for its permission");
+        return 1;
+    }
+    return 0;
+}

@@ -22,8 +22,3 @@ QString Util::Details::removeClassMemberPrefix(const char* memberName)
 {
     return QString::fromLatin1(memberName).remove(QStringLiteral("m_"));
 }
-
-void Util::applyStyleHint(QWidget* widget, const QString& hint)
-{
-    applyProperty(widget, "studioHint", hint);
-}
