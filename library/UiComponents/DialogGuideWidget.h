@@ -77,7 +77,8 @@ protected:
     void updateContent();
 
     /// Aims at the present target again. Override it to aim at a spot that moves within the parent, with
-    /// pointTo(); it is called often, from paint events too, so it must not change anything else.
+    /// pointTo(). It is called often, from paint events too: what else it changes must settle, as an arrow's
+    /// side does, or paints would follow each other for ever.
     virtual void adjustPositions();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -9,6 +9,7 @@
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QVBoxLayout>
+#include <QVector>
 #include <QWindow>
 
 #include <glog/logging.h>
@@ -65,10 +66,16 @@ QSize containerSize(const QSizeF& size)
 // The view refuses a window as its root, but leaves it on the screen.
 void deleteStrayWindows(const QQuickWidget* view)
 {
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    for (QWindow* window : windows) {
-        if (window != view->quickWindow() && qmlEngine(window) == view->engine()) {
-            delete window;
+    const QWindowList found = QGuiApplication::topLevelWindows();
+    // One of them may own others, which die with it.
+    QVector<QPointer<QWindow>> windows;
+    windows.reserve(found.size());
+    for (QWindow* window : found) {
+        windows.append(window);
+    }
+    for (const QPointer<QWindow>& window : qAsConst(windows)) {
+        if (window && window.data() != view->quickWindow() && qmlEngine(window.data()) == view->engine()) {
+            delete window.data();
         }
     }
 }

@@ -275,6 +275,10 @@ void tst_QuickContent::filesWithoutARootItem_data()
     QTest::newRow("a window") << QStringLiteral("import QtQuick 2.15\nimport QtQuick.Window 2.15\n"
                                                 "Window { width: 9; height: 9; visible: true }")
                               << QStringLiteral("does not support using windows as a root item");
+    QTest::newRow("a window in a window")
+        << QStringLiteral("import QtQuick 2.15\nimport QtQuick.Window 2.15\n"
+                          "Window { width: 9; height: 9; visible: true; Window { visible: true } }")
+        << QStringLiteral("does not support using windows as a root item");
 }
 
 void tst_QuickContent::filesWithoutARootItem()
