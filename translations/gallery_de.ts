@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>AdjustingListPage</name>
+    <message>
+        <source>Clip %1</source>
+        <translation>Clip %1</translation>
+    </message>
+    <message>
+        <source>with sound</source>
+        <translation>mit Ton</translation>
+    </message>
+    <message>
+        <source>Growing list</source>
+        <translation>Wachsende Liste</translation>
+    </message>
+    <message>
+        <source>list view</source>
+        <translation>Listenansicht</translation>
+    </message>
+    <message>
+        <source>rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>loading</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>A list that is as high as all its rows for as long as it is being loaded, and scrolls like any other once it is complete. It looks at its rows when it is told to and when it is resized, and does not watch its model.</source>
+        <translation>Eine Liste, die so hoch ist wie alle ihre Zeilen, solange sie geladen wird, und rollt wie jede andere, sobald sie vollständig ist. Sie sieht nach ihren Zeilen, wenn man es ihr sagt und wenn sich ihre Größe ändert, und beobachtet ihr Modell nicht.</translation>
+    </message>
+    <message>
+        <source>A bin of clips</source>
+        <translation>Eine Ablage mit Clips</translation>
+    </message>
+    <message>
+        <source>Loading is finished</source>
+        <translation>Das Laden ist beendet</translation>
+    </message>
+    <message>
+        <source>The model</source>
+        <translation>Das Modell</translation>
+    </message>
+    <message>
+        <source>Add clips: %1</source>
+        <translation>Clips hinzufügen: %1</translation>
+    </message>
+    <message>
+        <source>Remove all clips</source>
+        <translation>Alle Clips entfernen</translation>
+    </message>
+    <message>
+        <source>As QListView: it has no class of its own for a sheet. Its minimum height is its own, whatever the sheet says.</source>
+        <translation>Wie QListView: Für ein Stylesheet hat sie keine eigene Klasse. Ihre Mindesthöhe bestimmt sie selbst, was auch immer das Stylesheet sagt.</translation>
+    </message>
+</context>
+<context>
     <name>BindWidgetsPage</name>
     <message>
         <source>Slider and spin box in step</source>
@@ -139,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>Broken</name>
+    <message>
+        <source>Now it loads. Click to close.</source>
+        <translation>Jetzt lädt sie. Zum Schließen klicken.</translation>
+    </message>
+</context>
+<context>
     <name>ColorHintPage</name>
     <message>
         <source>Colour variants</source>
@@ -225,6 +291,57 @@
     </message>
 </context>
 <context>
+    <name>ColorPanelPage</name>
+    <message>
+        <source>Colour panel</source>
+        <translation>Farbtafel</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>picker</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>The panel that a colour field opens: a palette, a hexadecimal value, the user&apos;s own colours, a chooser of any colour, and opacity.</source>
+        <translation>Die Tafel, die ein Farbfeld öffnet: eine Palette, ein hexadezimaler Wert, die eigenen Farben, eine freie Farbwahl und Deckkraft.</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Eine Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>Several colours</source>
+        <translation>Mehrere Farben</translation>
+    </message>
+    <message>
+        <source>Opacity can be adjusted</source>
+        <translation>Deckkraft ist einstellbar</translation>
+    </message>
+    <message>
+        <source>The parts are selected by their names, and the buttons of colours as children of #colorMatrixPanel and #otherColorsQueuePanel; the one for no colour has nullColor. The panel itself writes the background-color of these and of the preview, opaque: a sheet shapes it with background-clip, and lays a background-image over it. The chooser is a QDialog with roundedEdges.</source>
+        <translation>Die Teile werden über ihre Namen ausgewählt, die Knöpfe der Farben als Kinder von #colorMatrixPanel und #otherColorsQueuePanel; der für keine Farbe hat nullColor. Die background-color der Knöpfe und der Vorschau schreibt die Tafel selbst, deckend: Ein Stylesheet formt sie mit background-clip und legt ein background-image darüber. Die Farbwahl ist ein QDialog mit roundedEdges.</translation>
+    </message>
+</context>
+<context>
     <name>ColorPickerButtonPage</name>
     <message>
         <source>Colour button</source>
@@ -241,10 +358,6 @@
     <message>
         <source>dialog</source>
         <translation>Dialog</translation>
-    </message>
-    <message>
-        <source>A button whose face is a colour. A click hands over to an exchangeable picker, here Qt&apos;s colour dialog: every colour that is tried is on the button at once, and Cancel brings the old one back.</source>
-        <translation>Ein Knopf, dessen Fläche eine Farbe ist. Ein Klick übergibt an eine austauschbare Auswahl, hier den Farbdialog von Qt: Jede probierte Farbe ist sofort auf dem Knopf, und Abbrechen bringt die alte zurück.</translation>
     </message>
     <message>
         <source>A colour</source>
@@ -269,6 +382,96 @@
     <message>
         <source>The face is a child of its own; the button says by dynamic properties when it has no colour, or several.</source>
         <translation>Die Fläche ist ein eigenes Kind; der Knopf sagt durch dynamische Eigenschaften, wann er keine Farbe hat oder mehrere.</translation>
+    </message>
+    <message>
+        <source>A button whose face is a colour. A click hands over to an exchangeable picker, here the colour panel or Qt&apos;s colour dialog: every colour that is tried is on the button at once.</source>
+        <translation>Ein Knopf, dessen Fläche eine Farbe ist. Ein Klick übergibt an eine austauschbare Auswahl, hier die Farbtafel oder den Farbdialog von Qt: Jede probierte Farbe ist sofort auf dem Knopf.</translation>
+    </message>
+</context>
+<context>
+    <name>ColorPlanePage</name>
+    <message>
+        <source>Colour plane</source>
+        <translation>Farbebene</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>marker</source>
+        <translation>Marke</translation>
+    </message>
+    <message>
+        <source>All colours of one hue: saturation grows to the right, brightness upwards. Drag the marker, also beyond the edge, or move it with the arrow keys, by ten pixels with Shift.</source>
+        <translation>Alle Farben eines Farbtons: Die Sättigung wächst nach rechts, die Helligkeit nach oben. Ziehen Sie die Marke, auch über den Rand hinaus, oder bewegen Sie sie mit den Pfeiltasten, mit Umschalt um zehn Pixel.</translation>
+    </message>
+    <message>
+        <source>Drag the marker</source>
+        <translation>Die Marke ziehen</translation>
+    </message>
+    <message>
+        <source>The colour that it reported last</source>
+        <translation>Die zuletzt gemeldete Farbe</translation>
+    </message>
+    <message>
+        <source>The square of the colour chooser, and internal to the library. It asks for no room: min-width and min-height give it some.</source>
+        <translation>Das Quadrat der Farbwahl, intern in der Bibliothek. Es verlangt keinen Platz: min-width und min-height geben ihm welchen.</translation>
+    </message>
+</context>
+<context>
+    <name>ColorSelectorPage</name>
+    <message>
+        <source>Free colour selector</source>
+        <translation>Freie Farbwahl</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <translation>eigene</translation>
+    </message>
+    <message>
+        <source>hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>slider</source>
+        <translation>Schieber</translation>
+    </message>
+    <message>
+        <source>A colour plane above a slider for its hue: one chooser for any colour. A colour that code sets appears on the next turn of the event loop.</source>
+        <translation>Eine Farbebene über einem Schieber für ihren Farbton: eine Auswahl für jede Farbe. Eine vom Code gesetzte Farbe erscheint beim nächsten Durchlauf der Ereignisschleife.</translation>
+    </message>
+    <message>
+        <source>Choose any colour</source>
+        <translation>Eine beliebige Farbe wählen</translation>
+    </message>
+    <message>
+        <source>The colour that it reported last</source>
+        <translation>Die zuletzt gemeldete Farbe</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <translation>Was die Farbtafel neben den eigenen Farben öffnet; intern in der Bibliothek. Ränder und Abstände beider Rahmen gehören dem Stylesheet.</translation>
     </message>
 </context>
 <context>
@@ -328,6 +531,25 @@
     <message>
         <source>As QComboBox, with its sub-controls and its view, or alone by its class name; the pop-up&apos;s state is a dynamic property.</source>
         <translation>Wie QComboBox mit Unterelementen und Ansicht oder allein über den Klassennamen; der Zustand der Liste ist eine dynamische Eigenschaft.</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Discard the sequence?</source>
+        <translation>Sequenz verwerfen?</translation>
+    </message>
+    <message>
+        <source>Its cuts and titles will be gone. The clips stay in the project.</source>
+        <translation>Schnitte und Titel gehen verloren. Die Clips bleiben im Projekt.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
     </message>
 </context>
 <context>
@@ -412,6 +634,144 @@
     </message>
 </context>
 <context>
+    <name>DialogGuidePage</name>
+    <message>
+        <source>Dialog guide</source>
+        <translation>Dialoghilfe</translation>
+    </message>
+    <message>
+        <source>help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>bubble</source>
+        <translation>Blase</translation>
+    </message>
+    <message>
+        <source>tour</source>
+        <translation>Rundgang</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>A bubble that walks the user through a step and follows the widget that it annotates. Start the tour to see it at work.</source>
+        <translation>Eine Blase, die durch einen Schritt führt und dem Widget folgt, das sie erläutert. Starten Sie den Rundgang, um sie bei der Arbeit zu sehen.</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Einen Clip trimmen</translation>
+    </message>
+    <message>
+        <source>Drag its end. The picture shows how; nothing is lost.</source>
+        <translation>Ziehen Sie an seinem Ende. Das Bild zeigt, wie; nichts geht verloren.</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Start the tour</source>
+        <translation>Rundgang starten</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Knöpfe</translation>
+    </message>
+    <message>
+        <source>Close button</source>
+        <translation>Schließknopf</translation>
+    </message>
+    <message>
+        <source>Secondary button</source>
+        <translation>Zweiter Knopf</translation>
+    </message>
+    <message>
+        <source>A PointingWidget; its bubble is painted from that one&apos;s properties.</source>
+        <translation>Ein PointingWidget; seine Blase wird nach dessen Eigenschaften gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Find a component</source>
+        <translation>Eine Komponente finden</translation>
+    </message>
+    <message>
+        <source>Type a few letters of a class, a title or a keyword.</source>
+        <translation>Tippen Sie einige Buchstaben einer Klasse, eines Titels oder eines Stichworts.</translation>
+    </message>
+    <message>
+        <source>Try another style</source>
+        <translation>Einen anderen Stil ausprobieren</translation>
+    </message>
+    <message>
+        <source>Dark, light, none at all, or a sheet of your own that reloads when you save it.</source>
+        <translation>Dunkel, hell, gar keiner oder ein eigenes Stylesheet, das beim Speichern neu geladen wird.</translation>
+    </message>
+    <message>
+        <source>Change it while it runs</source>
+        <translation>Im laufenden Betrieb ändern</translation>
+    </message>
+    <message>
+        <source>The controls act on the enabled twin and the disabled one at once.</source>
+        <translation>Die Regler wirken zugleich auf das aktive und das inaktive Exemplar.</translation>
+    </message>
+    <message>
+        <source>See what it says</source>
+        <translation>Sehen, was sie meldet</translation>
+    </message>
+    <message>
+        <source>Every signal of the component, newest last.</source>
+        <translation>Jedes Signal der Komponente, das neueste zuletzt.</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSliderInputPage</name>
+    <message>
+        <source>Slider field for fractions</source>
+        <translation>Schieberfeld für Brüche</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>spin box</source>
+        <translation>Zahlenfeld</translation>
+    </message>
+    <message>
+        <source>A slider and a spin box of one number with a fixed count of decimals, exact to the last digit. Both the point and the comma are decimal marks while typing.</source>
+        <translation>Schieber und Zahlenfeld für eine Zahl mit fester Anzahl von Nachkommastellen, genau bis zur letzten Ziffer. Beim Tippen gelten Punkt und Komma als Dezimalzeichen.</translation>
+    </message>
+    <message>
+        <source>Two decimals</source>
+        <translation>Zwei Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>Six decimals</source>
+        <translation>Sechs Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>A frame around a slider and a spin box without arrows.</source>
+        <translation>Ein Rahmen um einen Schieber und ein Zahlenfeld ohne Pfeile.</translation>
+    </message>
+</context>
+<context>
     <name>DoubleSliderPage</name>
     <message>
         <source>Slider for fractions</source>
@@ -475,6 +835,36 @@
     <message>
         <source>As QDoubleSpinBox, with its sub-controls, or alone by its class name.</source>
         <translation>Wie QDoubleSpinBox mit seinen Unterelementen oder allein über den Klassennamen.</translation>
+    </message>
+</context>
+<context>
+    <name>FolderBrowser</name>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+</context>
+<context>
+    <name>Form</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Sequence 1</source>
+        <translation>Sequenz 1</translation>
+    </message>
+    <message>
+        <source>Frames a second, 1 to 240</source>
+        <translation>Bilder pro Sekunde, 1 bis 240</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erstellen</translation>
     </message>
 </context>
 <context>
@@ -553,6 +943,151 @@
     <message>
         <source>Any widget with an installed controller: select the controller by its class name below the widget.</source>
         <translation>Jedes Widget mit eingesetzter Steuerung: Die Steuerung wird über ihren Klassennamen unter dem Widget ausgewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButtonPage</name>
+    <message>
+        <source>Guide button</source>
+        <translation>Hilfeknopf</translation>
+    </message>
+    <message>
+        <source>help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>pop-up</source>
+        <translation>Aufklappfenster</translation>
+    </message>
+    <message>
+        <source>bubble</source>
+        <translation>Blase</translation>
+    </message>
+    <message>
+        <source>A click opens a guide in a bubble below the button. Escape, a click elsewhere and hiding the button close it.</source>
+        <translation>Ein Klick öffnet eine Hilfe in einer Blase unter dem Knopf. Escape, ein Klick daneben und das Verbergen des Knopfs schließen sie.</translation>
+    </message>
+    <message>
+        <source>With an animated picture</source>
+        <translation>Mit animiertem Bild</translation>
+    </message>
+    <message>
+        <source>A title alone</source>
+        <translation>Nur ein Titel</translation>
+    </message>
+    <message>
+        <source>Nothing more to say</source>
+        <translation>Mehr ist nicht zu sagen</translation>
+    </message>
+    <message>
+        <source>Without an info</source>
+        <translation>Ohne Info</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Trimmen</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Ripple-Löschen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
+    </message>
+    <message>
+        <source>A tool button. Its pop-up is a PointingWidget named pointingWidget, with a GuideWidget named guideWidget in it; both are below the button for a sheet.</source>
+        <translation>Ein QToolButton. Sein Aufklappfenster ist ein PointingWidget namens pointingWidget mit einem GuideWidget namens guideWidget darin; für ein Stylesheet liegen beide unter dem Knopf.</translation>
+    </message>
+</context>
+<context>
+    <name>GuidePage</name>
+    <message>
+        <source>Guide</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>A short piece of help: a heading, an animated picture that plays while it is seen, a description and a link to further reading. What is empty is left out.</source>
+        <translation>Eine kurze Hilfe: eine Überschrift, ein animiertes Bild, das läuft, solange man es sieht, eine Beschreibung und ein Link zum Weiterlesen. Was leer ist, entfällt.</translation>
+    </message>
+    <message>
+        <source>More about editing</source>
+        <translation>Mehr über das Schneiden</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
+    </message>
+    <message>
+        <source>Texts are measured for the width that the sheet gives the guide. Links have the colour of the application&apos;s palette, unless their markup says another.</source>
+        <translation>Die Texte richten sich nach der Breite, die das Stylesheet der Hilfe gibt. Links haben die Farbe aus der Palette der Anwendung, wenn ihre Auszeichnung keine andere nennt.</translation>
+    </message>
+</context>
+<context>
+    <name>GuideTexts</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>Ripple-Löschen</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Trimmen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>A file that is not there</source>
+        <translation>Eine Datei, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>Deletes the selected clip and closes the gap: everything behind it moves up, on &lt;b&gt;all&lt;/b&gt; tracks, so that sound and picture stay together.</source>
+        <translation>Löscht den ausgewählten Clip und schließt die Lücke: Alles dahinter rückt auf, in &lt;b&gt;allen&lt;/b&gt; Spuren, sodass Ton und Bild zusammenbleiben.</translation>
+    </message>
+    <message>
+        <source>More about editing</source>
+        <translation>Mehr über das Schneiden</translation>
+    </message>
+    <message>
+        <source>Drag the end of a clip to show less or more of it. Nothing is lost.</source>
+        <translation>Ziehen Sie am Ende eines Clips, um weniger oder mehr von ihm zu zeigen. Nichts geht verloren.</translation>
+    </message>
+    <message>
+        <source>More about trimming</source>
+        <translation>Mehr über das Trimmen</translation>
     </message>
 </context>
 <context>
@@ -665,6 +1200,85 @@
         <source>Services</source>
         <translation>Dienste</translation>
     </message>
+    <message>
+        <source>Guides and dialogs</source>
+        <translation>Hilfen und Dialoge</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Part of a parameter&apos;s name</source>
+        <translation>Teil eines Parameternamens</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>Search parameters</source>
+        <translation>Parameter suchen</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Mischmodus</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>Tönung</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Back to the home folder</source>
+        <translation>Zurück zum persönlichen Ordner</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message>
+        <source>Proxies</source>
+        <translation>Proxys</translation>
+    </message>
+    <message>
+        <source>Stabilise</source>
+        <translation>Stabilisieren</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>Film grain</source>
+        <translation>Filmkorn</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
 </context>
 <context>
     <name>PathPage</name>
@@ -722,6 +1336,214 @@
     </message>
 </context>
 <context>
+    <name>PathSelectionPage</name>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Back to the home folder</source>
+        <translation>Zurück zum persönlichen Ordner</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message>
+        <source>Nobody would find this folder again: %1</source>
+        <translation>Diesen Ordner fände niemand wieder: %1</translation>
+    </message>
+    <message>
+        <source>Folder field</source>
+        <translation>Ordnerfeld</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>browse</source>
+        <translation>durchsuchen</translation>
+    </message>
+    <message>
+        <source>directory</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>disk</source>
+        <translation>Datenträger</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>A field for a folder. It asks its host to browse, reports edits in bursts of a tenth of a second, and looks at the disk only when it is told to check the path. Here the host opens Qt&apos;s folder dialog and shows the space that is free where the path is.</source>
+        <translation>Ein Feld für einen Ordner. Es bittet den Wirt um die Ordnerauswahl, meldet Eingaben in Salven von einer Zehntelsekunde und sieht nur auf den Datenträger, wenn es den Pfad prüfen soll. Hier öffnet der Wirt den Ordnerdialog von Qt und zeigt, wie viel Platz am Ort des Pfads frei ist.</translation>
+    </message>
+    <message>
+        <source>With a default folder and space on its disk</source>
+        <translation>Mit Standardordner und Platz auf dessen Datenträger</translation>
+    </message>
+    <message>
+        <source>A relative path, with its error below</source>
+        <translation>Ein relativer Pfad mit seinem Fehler darunter</translation>
+    </message>
+    <message>
+        <source>Check the upper field</source>
+        <translation>Oberes Feld prüfen</translation>
+    </message>
+    <message>
+        <source>upper</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>Check the lower field</source>
+        <translation>Unteres Feld prüfen</translation>
+    </message>
+    <message>
+        <source>lower</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>The upper field&apos;s error</source>
+        <translation>Fehler des oberen Felds</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nirgends</translation>
+    </message>
+    <message>
+        <source>tool tip</source>
+        <translation>Kurzinfo</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Refuse hidden folders instead</source>
+        <translation>Stattdessen verborgene Ordner ablehnen</translation>
+    </message>
+    <message>
+        <source>The upper field</source>
+        <translation>Das obere Feld</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Default path&apos;s text</source>
+        <translation>Text des Standardpfads</translation>
+    </message>
+    <message>
+        <source>Required megabytes</source>
+        <translation>Benötigte Megabytes</translation>
+    </message>
+    <message>
+        <source>A frame around a line edit and its buttons, which carries the border, the hint &quot;error&quot; and, from the first time that the line edit gets the keyboard, &quot;focusHint&quot;; figures above it and a message below it.</source>
+        <translation>Ein Rahmen um ein Eingabefeld und seine Knöpfe, der den Rand trägt, den Hinweis „error“ und, sobald das Eingabefeld zum ersten Mal die Tastatur hat, „focusHint“; Zahlen darüber und eine Meldung darunter.</translation>
+    </message>
+</context>
+<context>
+    <name>PickedColors</name>
+    <message>
+        <source>Picked colours</source>
+        <translation>Gewählte Farben</translation>
+    </message>
+</context>
+<context>
+    <name>PickerChoice</name>
+    <message>
+        <source>Picker</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Colour panel</source>
+        <translation>Farbtafel</translation>
+    </message>
+    <message>
+        <source>Qt&apos;s colour dialog</source>
+        <translation>Farbdialog von Qt</translation>
+    </message>
+    <message>
+        <source>Panel: no colour allowed</source>
+        <translation>Tafel: keine Farbe erlaubt</translation>
+    </message>
+    <message>
+        <source>Panel: with opacity</source>
+        <translation>Tafel: mit Deckkraft</translation>
+    </message>
+</context>
+<context>
+    <name>PipettePage</name>
+    <message>
+        <source>Screen pipette</source>
+        <translation>Bildschirmpipette</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>pick</source>
+        <translation>aufnehmen</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>magnifier</source>
+        <translation>Lupe</translation>
+    </message>
+    <message>
+        <source>eyedropper</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Picks the colour of any pixel on any screen, of other applications too. A click picks, any key gives up. The loupe beside the cursor shows the pixels around it.</source>
+        <translation>Nimmt die Farbe jedes Pixels auf jedem Bildschirm auf, auch die anderer Anwendungen. Ein Klick nimmt auf, jede Taste bricht ab. Die Lupe neben dem Mauszeiger zeigt die Pixel um ihn.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>Farbe vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>What it picked, the latest first</source>
+        <translation>Was sie aufnahm, das Neueste zuerst</translation>
+    </message>
+    <message>
+        <source>The loupe by itself</source>
+        <translation>Die Lupe für sich</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Anywhere</source>
+        <translation>Irgendwo</translation>
+    </message>
+    <message>
+        <source>In a corner of the desktop</source>
+        <translation>In einer Ecke der Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <translation>Die Lupe der Pipette, mit der Eigenschaft roundedEdges. Ihr Rand wird über das Bild gezeichnet; ihr Hintergrund muss durchsichtig sein. Die Fenster, die währenddessen die Bildschirme bedecken, sind von der Klasse PipetteScreenView: Deren cursorPixmap, cursorSize und cursorHotSpot sind der Mauszeiger beim Aufnehmen.</translation>
+    </message>
+</context>
+<context>
     <name>PixmapWidgetPage</name>
     <message>
         <source>Animated image</source>
@@ -762,6 +1584,72 @@
     <message>
         <source>Border and padding of a sheet surround the picture.</source>
         <translation>Rand und Innenabstand eines Stylesheets umgeben das Bild.</translation>
+    </message>
+</context>
+<context>
+    <name>PointPlanePage</name>
+    <message>
+        <source>Point plane</source>
+        <translation>Punktebene</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>pad</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>drag</source>
+        <translation>ziehen</translation>
+    </message>
+    <message>
+        <source>A pad on which a point is picked by clicking, dragging, also out of the window, and with the arrow keys, ten pixels at a time with Shift. Here it stands for -1 to 1 both ways.</source>
+        <translation>Eine Fläche, auf der man einen Punkt wählt: durch Klicken, durch Ziehen, auch aus dem Fenster hinaus, und mit den Pfeiltasten, mit Umschalt um je zehn Pixel. Hier steht sie in beiden Richtungen für -1 bis 1.</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Auf dem Kopf</translation>
+    </message>
+    <message>
+        <source>Colours and sizes are those of a hidden child, selected by its class name and, where they differ for a disabled plane, with [enabled=&quot;false&quot;]. The sheet gives the plane its size.</source>
+        <translation>Farben und Größen sind die eines verborgenen Kindes, ausgewählt über den Klassennamen und, wo sie für eine inaktive Ebene anders sind, mit [enabled=&quot;false&quot;]. Die Größe der Ebene gibt das Stylesheet.</translation>
+    </message>
+</context>
+<context>
+    <name>PointSelectorPage</name>
+    <message>
+        <source>Point selector</source>
+        <translation>Punktwahl</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>spin box</source>
+        <translation>Zahlenfeld</translation>
+    </message>
+    <message>
+        <source>A point plane and a spin box for each coordinate, kept in step. A point that is picked is reported as it is, and then as the spin boxes round it.</source>
+        <translation>Eine Punktebene und ein Zahlenfeld für jede Koordinate, im Gleichschritt gehalten. Ein gewählter Punkt wird gemeldet, wie er ist, und dann so, wie die Zahlenfelder ihn runden.</translation>
+    </message>
+    <message>
+        <source>Frames around a point plane and two labelled spin boxes. The labels are empty: the sheet may give them a text, with qproperty-text, or a picture.</source>
+        <translation>Rahmen um eine Punktebene und zwei beschriftete Zahlenfelder. Die Beschriftungen sind leer: Das Stylesheet kann ihnen mit qproperty-text einen Text geben oder ein Bild.</translation>
     </message>
 </context>
 <context>
@@ -915,6 +1803,37 @@
     </message>
 </context>
 <context>
+    <name>PropertiesPage</name>
+    <message>
+        <source>Properties of a clip</source>
+        <translation>Eigenschaften eines Clips</translation>
+    </message>
+    <message>
+        <source>panel</source>
+        <translation>Bedienfeld</translation>
+    </message>
+    <message>
+        <source>inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>The value inputs in one panel, as an editor shows the properties of a clip. The panel can be scrolled past every field: the wheel changes only the one that has the keyboard.</source>
+        <translation>Die Werteingaben in einem Bedienfeld, so wie ein Editor die Eigenschaften eines Clips zeigt. Man kann an jedem Feld vorbeirollen: Das Mausrad ändert nur das eine, das die Tastatur hat.</translation>
+    </message>
+    <message>
+        <source>Search parameters</source>
+        <translation>Parameter suchen</translation>
+    </message>
+</context>
+<context>
     <name>PropertyPanel</name>
     <message>
         <source>Properties</source>
@@ -938,6 +1857,89 @@
     <message>
         <source>An example: the provider is selected by its class name below the widget that it serves.</source>
         <translation>Ein Beispiel: Der Eigenschaftsgeber wird über seinen Klassennamen unter dem Widget ausgewählt, dem er dient.</translation>
+    </message>
+</context>
+<context>
+    <name>QmlDialogPage</name>
+    <message>
+        <source>QML dialog</source>
+        <translation>QML-Dialog</translation>
+    </message>
+    <message>
+        <source>dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>confirmation</source>
+        <translation>Bestätigung</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <translation>Ein modaler Dialog, dessen ganze Fläche eine QML-Szene ist: eine Datei, die geladen wird, wenn der Dialog zum ersten Mal läuft. Die Szene kennt den Dialog als „callback“ und beendet ihn. Ändern Sie die Quelle und öffnen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The scene&apos;s source</source>
+        <translation>Quelle der Szene</translation>
+    </message>
+    <message>
+        <source>Confirmation</source>
+        <translation>Bestätigung</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>One that fails to load</source>
+        <translation>Eine, die sich nicht laden lässt</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>Centred on this page</source>
+        <translation>Auf dieser Seite zentriert</translation>
+    </message>
+    <message>
+        <source>Open a new dialog</source>
+        <translation>Neuen Dialog öffnen</translation>
+    </message>
+    <message>
+        <source>Open the last dialog again</source>
+        <translation>Letzten Dialog erneut öffnen</translation>
+    </message>
+    <message>
+        <source>Original source</source>
+        <translation>Ursprüngliche Quelle</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Result of exec()</source>
+        <translation>Ergebnis von exec()</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Values of the form</source>
+        <translation>Werte des Formulars</translation>
+    </message>
+    <message>
+        <source>Errors in the scene</source>
+        <translation>Fehler in der Szene</translation>
     </message>
 </context>
 <context>
@@ -985,6 +1987,13 @@
     <message>
         <source>Keyboard focus</source>
         <translation>Tastaturfokus</translation>
+    </message>
+</context>
+<context>
+    <name>ReportedColor</name>
+    <message>
+        <source>nothing yet</source>
+        <translation>noch nichts</translation>
     </message>
 </context>
 <context>
@@ -1051,6 +2060,89 @@
     </message>
 </context>
 <context>
+    <name>SearchPage</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Part of a clip&apos;s name</source>
+        <translation>Teil eines Clipnamens</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>Search clips</source>
+        <translation>Clips suchen</translation>
+    </message>
+    <message>
+        <source>Beach, morning</source>
+        <translation>Strand, morgens</translation>
+    </message>
+    <message>
+        <source>Beach, evening</source>
+        <translation>Strand, abends</translation>
+    </message>
+    <message>
+        <source>Harbour</source>
+        <translation>Hafen</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Interview</translation>
+    </message>
+    <message>
+        <source>Interview, second camera</source>
+        <translation>Interview, zweite Kamera</translation>
+    </message>
+    <message>
+        <source>Search field</source>
+        <translation>Suchfeld</translation>
+    </message>
+    <message>
+        <source>filter</source>
+        <translation>filtern</translation>
+    </message>
+    <message>
+        <source>find</source>
+        <translation>finden</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>clear</source>
+        <translation>leeren</translation>
+    </message>
+    <message>
+        <source>placeholder</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>A field for a search: it reports each change at once, and the end of an edit by Enter or by leaving it. A text never starts with a blank. Its placeholder has three colours, which change when the mouse comes or goes.</source>
+        <translation>Ein Feld zum Suchen: Es meldet jede Änderung sofort und das Ende einer Eingabe mit der Eingabetaste oder beim Verlassen. Ein Text beginnt nie mit einem Leerzeichen. Sein Platzhalter hat drei Farben, die wechseln, wenn die Maus kommt oder geht.</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>Für sich</translation>
+    </message>
+    <message>
+        <source>Above a list that it filters</source>
+        <translation>Über einer Liste, die es filtert</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>A frame around an icon, a line edit and a button that clears it. &quot;focusHint&quot; is set from the first time that the line edit gets the keyboard.</source>
+        <translation>Ein Rahmen um ein Symbol, ein Eingabefeld und einen Knopf, der es leert. „focusHint“ ist gesetzt, sobald das Eingabefeld zum ersten Mal die Tastatur hat.</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Custom colours and folders</source>
@@ -1110,6 +2202,41 @@
     <message>
         <source>Use the component: its signals appear here.</source>
         <translation>Bedienen Sie die Komponente: Ihre Signale erscheinen hier.</translation>
+    </message>
+</context>
+<context>
+    <name>SliderInputPage</name>
+    <message>
+        <source>Slider field</source>
+        <translation>Schieberfeld</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>integer</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>spin box</source>
+        <translation>Zahlenfeld</translation>
+    </message>
+    <message>
+        <source>A slider and a spin box of one whole number, kept in step. Each change is reported by both, so the signal arrives twice with the same value.</source>
+        <translation>Schieber und Zahlenfeld für eine ganze Zahl, im Gleichschritt gehalten. Beide melden jede Änderung, daher kommt das Signal zweimal mit demselben Wert.</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>A frame around a slider and a spin box without arrows.</source>
+        <translation>Ein Rahmen um einen Schieber und ein Zahlenfeld ohne Pfeile.</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +2491,108 @@
     <message>
         <source>Selected as QLineEdit or, alone, as Orvane--Tessel--TesselLineEdit; its menu as QMenu#tesselContextMenu.</source>
         <translation>Ausgewählt als QLineEdit oder, allein, als Orvane--Tessel--TesselLineEdit; das Menü als QMenu#tesselContextMenu.</translation>
+    </message>
+</context>
+<context>
+    <name>Walk</name>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetColorPickerPage</name>
+    <message>
+        <source>Colour from a widget</source>
+        <translation>Farbe aus einem Widget</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>pick</source>
+        <translation>aufnehmen</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>cursor</source>
+        <translation>Mauszeiger</translation>
+    </message>
+    <message>
+        <source>Click a button, then into the film: the colour of that pixel is picked. Any other click or key ends it too; with the cursor elsewhere nothing is picked.</source>
+        <translation>Klicken Sie auf einen Knopf, dann in den Film: Die Farbe dieses Pixels wird aufgenommen. Jeder andere Klick und jede Taste beendet es auch; steht der Mauszeiger woanders, wird nichts aufgenommen.</translation>
+    </message>
+    <message>
+        <source>The target</source>
+        <translation>Das Ziel</translation>
+    </message>
+    <message>
+        <source>A button that wears its colour</source>
+        <translation>Ein Knopf, der seine Farbe trägt</translation>
+    </message>
+    <message>
+        <source>A colour button with this picker</source>
+        <translation>Ein Farbknopf mit dieser Auswahl</translation>
+    </message>
+    <message>
+        <source>Its background is its colour, written into its own sheet; size and border are the application&apos;s.</source>
+        <translation>Sein Hintergrund ist seine Farbe, ins eigene Stylesheet geschrieben; Größe und Rand gehören der Anwendung.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the film</source>
+        <translation>Farbe aus dem Film aufnehmen</translation>
+    </message>
+    <message>
+        <source>Target and cursor</source>
+        <translation>Ziel und Mauszeiger</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>The film</source>
+        <translation>Der Film</translation>
+    </message>
+    <message>
+        <source>The whole page</source>
+        <translation>Die ganze Seite</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Picking cursor</source>
+        <translation>Mauszeiger beim Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>Pointing hand</source>
+        <translation>Zeigende Hand</translation>
+    </message>
+    <message>
+        <source>Question mark</source>
+        <translation>Fragezeichen</translation>
+    </message>
+    <message>
+        <source>The film runs</source>
+        <translation>Der Film läuft</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>AdjustingListPage</name>
+    <message>
+        <source>Clip %1</source>
+        <translation>クリップ %1</translation>
+    </message>
+    <message>
+        <source>with sound</source>
+        <translation>音声付き</translation>
+    </message>
+    <message>
+        <source>Growing list</source>
+        <translation>伸びるリスト</translation>
+    </message>
+    <message>
+        <source>list view</source>
+        <translation>リストビュー</translation>
+    </message>
+    <message>
+        <source>rows</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>loading</source>
+        <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>A list that is as high as all its rows for as long as it is being loaded, and scrolls like any other once it is complete. It looks at its rows when it is told to and when it is resized, and does not watch its model.</source>
+        <translation>読み込み中は全行分の高さを持ち、読み込みが終わるとほかのリストと同じようにスクロールするリストです。行を調べるのは指示されたときとサイズが変わったときで、モデルは監視しません。</translation>
+    </message>
+    <message>
+        <source>A bin of clips</source>
+        <translation>クリップの一覧</translation>
+    </message>
+    <message>
+        <source>Loading is finished</source>
+        <translation>読み込み完了</translation>
+    </message>
+    <message>
+        <source>The model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Add clips: %1</source>
+        <translation>クリップを追加: %1</translation>
+    </message>
+    <message>
+        <source>Remove all clips</source>
+        <translation>すべてのクリップを削除</translation>
+    </message>
+    <message>
+        <source>As QListView: it has no class of its own for a sheet. Its minimum height is its own, whatever the sheet says.</source>
+        <translation>QListView として選択します。スタイルシート用の独自のクラスはありません。最小の高さは、スタイルシートの指定にかかわらず自分で決めます。</translation>
+    </message>
+</context>
+<context>
     <name>BindWidgetsPage</name>
     <message>
         <source>Slider and spin box in step</source>
@@ -139,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>Broken</name>
+    <message>
+        <source>Now it loads. Click to close.</source>
+        <translation>読み込めました。クリックすると閉じます。</translation>
+    </message>
+</context>
+<context>
     <name>ColorHintPage</name>
     <message>
         <source>Colour variants</source>
@@ -225,6 +291,57 @@
     </message>
 </context>
 <context>
+    <name>ColorPanelPage</name>
+    <message>
+        <source>Colour panel</source>
+        <translation>カラーパネル</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>palette</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>picker</source>
+        <translation>ピッカー</translation>
+    </message>
+    <message>
+        <source>The panel that a colour field opens: a palette, a hexadecimal value, the user&apos;s own colours, a chooser of any colour, and opacity.</source>
+        <translation>カラーフィールドが開くパネルです。パレット、16 進数の値、利用者の色、任意の色の選択、不透明度を備えています。</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>色を選択</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>Several colours</source>
+        <translation>複数の色</translation>
+    </message>
+    <message>
+        <source>Opacity can be adjusted</source>
+        <translation>不透明度を調整可能</translation>
+    </message>
+    <message>
+        <source>The parts are selected by their names, and the buttons of colours as children of #colorMatrixPanel and #otherColorsQueuePanel; the one for no colour has nullColor. The panel itself writes the background-color of these and of the preview, opaque: a sheet shapes it with background-clip, and lays a background-image over it. The chooser is a QDialog with roundedEdges.</source>
+        <translation>各部は名前で、色のボタンは #colorMatrixPanel と #otherColorsQueuePanel の子として選択します。色なしのボタンには nullColor があります。ボタンとプレビューの background-color はパネル自身が不透明で書き込みます。スタイルシートは background-clip で形を整え、background-image を重ねます。色の選択は roundedEdges を持つ QDialog です。</translation>
+    </message>
+</context>
+<context>
     <name>ColorPickerButtonPage</name>
     <message>
         <source>Colour button</source>
@@ -241,10 +358,6 @@
     <message>
         <source>dialog</source>
         <translation>ダイアログ</translation>
-    </message>
-    <message>
-        <source>A button whose face is a colour. A click hands over to an exchangeable picker, here Qt&apos;s colour dialog: every colour that is tried is on the button at once, and Cancel brings the old one back.</source>
-        <translation>面そのものが色になるボタンです。クリックすると差し替え可能なピッカー（ここでは Qt のカラーダイアログ）に引き継ぎます。試した色はすぐボタンに反映され、キャンセルすると元の色に戻ります。</translation>
     </message>
     <message>
         <source>A colour</source>
@@ -269,6 +382,96 @@
     <message>
         <source>The face is a child of its own; the button says by dynamic properties when it has no colour, or several.</source>
         <translation>面は独立した子です。色がない場合や複数ある場合は、ボタンの動的プロパティで分かります。</translation>
+    </message>
+    <message>
+        <source>A button whose face is a colour. A click hands over to an exchangeable picker, here the colour panel or Qt&apos;s colour dialog: every colour that is tried is on the button at once.</source>
+        <translation>面そのものが色になるボタンです。クリックすると差し替え可能なピッカー（ここではカラーパネルまたは Qt のカラーダイアログ）に引き継ぎます。試した色はすぐボタンに反映されます。</translation>
+    </message>
+</context>
+<context>
+    <name>ColorPlanePage</name>
+    <message>
+        <source>Colour plane</source>
+        <translation>カラープレーン</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>marker</source>
+        <translation>マーカー</translation>
+    </message>
+    <message>
+        <source>All colours of one hue: saturation grows to the right, brightness upwards. Drag the marker, also beyond the edge, or move it with the arrow keys, by ten pixels with Shift.</source>
+        <translation>一つの色相のすべての色です。右ほど彩度が、上ほど明るさが増します。マーカーは縁の外までドラッグでき、矢印キーでも動きます。Shift を押すと 10 ピクセルずつ動きます。</translation>
+    </message>
+    <message>
+        <source>Drag the marker</source>
+        <translation>マーカーをドラッグ</translation>
+    </message>
+    <message>
+        <source>The colour that it reported last</source>
+        <translation>最後に通知された色</translation>
+    </message>
+    <message>
+        <source>The square of the colour chooser, and internal to the library. It asks for no room: min-width and min-height give it some.</source>
+        <translation>色の選択に使う四角形で、ライブラリ内部のものです。自分では場所を求めないので、min-width と min-height で与えます。</translation>
+    </message>
+</context>
+<context>
+    <name>ColorSelectorPage</name>
+    <message>
+        <source>Free colour selector</source>
+        <translation>自由な色の選択</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>slider</source>
+        <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>A colour plane above a slider for its hue: one chooser for any colour. A colour that code sets appears on the next turn of the event loop.</source>
+        <translation>カラープレーンの下に色相のスライダーがあり、任意の色を選べます。コードで設定した色は、イベントループの次の周回で表示されます。</translation>
+    </message>
+    <message>
+        <source>Choose any colour</source>
+        <translation>任意の色を選択</translation>
+    </message>
+    <message>
+        <source>The colour that it reported last</source>
+        <translation>最後に通知された色</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <translation>カラーパネルがカスタム色の横で開くもので、ライブラリ内部のものです。二つの枠の余白と間隔はスタイルシートが決めます。</translation>
     </message>
 </context>
 <context>
@@ -328,6 +531,25 @@
     <message>
         <source>As QComboBox, with its sub-controls and its view, or alone by its class name; the pop-up&apos;s state is a dynamic property.</source>
         <translation>QComboBox とその部分要素・ビューとして、または単独でクラス名により選択します。ポップアップの状態は動的プロパティです。</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Discard the sequence?</source>
+        <translation>シーケンスを破棄しますか？</translation>
+    </message>
+    <message>
+        <source>Its cuts and titles will be gone. The clips stay in the project.</source>
+        <translation>カットとタイトルは失われます。クリップはプロジェクトに残ります。</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
     </message>
 </context>
 <context>
@@ -412,6 +634,144 @@
     </message>
 </context>
 <context>
+    <name>DialogGuidePage</name>
+    <message>
+        <source>Dialog guide</source>
+        <translation>ダイアログガイド</translation>
+    </message>
+    <message>
+        <source>help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>bubble</source>
+        <translation>吹き出し</translation>
+    </message>
+    <message>
+        <source>tour</source>
+        <translation>ツアー</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>アニメーション</translation>
+    </message>
+    <message>
+        <source>A bubble that walks the user through a step and follows the widget that it annotates. Start the tour to see it at work.</source>
+        <translation>手順を案内し、説明するウィジェットに追従する吹き出しです。ツアーを開始すると実際の動きを見られます。</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>クリップをトリム</translation>
+    </message>
+    <message>
+        <source>Drag its end. The picture shows how; nothing is lost.</source>
+        <translation>端をドラッグします。方法は画像のとおりで、何も失われません。</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Start the tour</source>
+        <translation>ツアーを開始</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>ボタン</translation>
+    </message>
+    <message>
+        <source>Close button</source>
+        <translation>閉じるボタン</translation>
+    </message>
+    <message>
+        <source>Secondary button</source>
+        <translation>補助ボタン</translation>
+    </message>
+    <message>
+        <source>A PointingWidget; its bubble is painted from that one&apos;s properties.</source>
+        <translation>PointingWidget です。吹き出しはそのプロパティに従って描画されます。</translation>
+    </message>
+    <message>
+        <source>Find a component</source>
+        <translation>部品を探す</translation>
+    </message>
+    <message>
+        <source>Type a few letters of a class, a title or a keyword.</source>
+        <translation>クラス・題名・キーワードを数文字入力します。</translation>
+    </message>
+    <message>
+        <source>Try another style</source>
+        <translation>別のスタイルを試す</translation>
+    </message>
+    <message>
+        <source>Dark, light, none at all, or a sheet of your own that reloads when you save it.</source>
+        <translation>暗色、明色、なし、または保存すると再読み込みされる独自のスタイルシート。</translation>
+    </message>
+    <message>
+        <source>Change it while it runs</source>
+        <translation>動作中に変更</translation>
+    </message>
+    <message>
+        <source>The controls act on the enabled twin and the disabled one at once.</source>
+        <translation>操作部は有効な方と無効な方の両方に同時に働きます。</translation>
+    </message>
+    <message>
+        <source>See what it says</source>
+        <translation>通知を見る</translation>
+    </message>
+    <message>
+        <source>Every signal of the component, newest last.</source>
+        <translation>部品のすべてのシグナル。最新のものが最後です。</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSliderInputPage</name>
+    <message>
+        <source>Slider field for fractions</source>
+        <translation>小数スライダー入力欄</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>小数桁数</translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>spin box</source>
+        <translation>スピンボックス</translation>
+    </message>
+    <message>
+        <source>A slider and a spin box of one number with a fixed count of decimals, exact to the last digit. Both the point and the comma are decimal marks while typing.</source>
+        <translation>小数桁数が固定された一つの数値のためのスライダーとスピンボックスで、最後の桁まで正確です。入力中はピリオドとコンマの両方が小数点になります。</translation>
+    </message>
+    <message>
+        <source>Two decimals</source>
+        <translation>小数 2 桁</translation>
+    </message>
+    <message>
+        <source>Six decimals</source>
+        <translation>小数 6 桁</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>A frame around a slider and a spin box without arrows.</source>
+        <translation>スライダーと矢印のないスピンボックスを囲む枠です。</translation>
+    </message>
+</context>
+<context>
     <name>DoubleSliderPage</name>
     <message>
         <source>Slider for fractions</source>
@@ -475,6 +835,36 @@
     <message>
         <source>As QDoubleSpinBox, with its sub-controls, or alone by its class name.</source>
         <translation>QDoubleSpinBox とその部分要素として、または単独でクラス名により選択します。</translation>
+    </message>
+</context>
+<context>
+    <name>FolderBrowser</name>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+</context>
+<context>
+    <name>Form</name>
+    <message>
+        <source>Title</source>
+        <translation>題名</translation>
+    </message>
+    <message>
+        <source>Sequence 1</source>
+        <translation>シーケンス 1</translation>
+    </message>
+    <message>
+        <source>Frames a second, 1 to 240</source>
+        <translation>1 秒あたりのフレーム数、1～240</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>作成</translation>
     </message>
 </context>
 <context>
@@ -553,6 +943,151 @@
     <message>
         <source>Any widget with an installed controller: select the controller by its class name below the widget.</source>
         <translation>制御役を取り付けた任意のウィジェット。制御役はウィジェット配下のクラス名で選択します。</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButtonPage</name>
+    <message>
+        <source>Guide button</source>
+        <translation>ガイドボタン</translation>
+    </message>
+    <message>
+        <source>help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>pop-up</source>
+        <translation>ポップアップ</translation>
+    </message>
+    <message>
+        <source>bubble</source>
+        <translation>吹き出し</translation>
+    </message>
+    <message>
+        <source>A click opens a guide in a bubble below the button. Escape, a click elsewhere and hiding the button close it.</source>
+        <translation>クリックすると、ボタンの下の吹き出しにガイドが開きます。Esc キー、ほかの場所のクリック、ボタンの非表示で閉じます。</translation>
+    </message>
+    <message>
+        <source>With an animated picture</source>
+        <translation>アニメーション画像付き</translation>
+    </message>
+    <message>
+        <source>A title alone</source>
+        <translation>題名のみ</translation>
+    </message>
+    <message>
+        <source>Nothing more to say</source>
+        <translation>これ以上の説明なし</translation>
+    </message>
+    <message>
+        <source>Without an info</source>
+        <translation>情報なし</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>トリム</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>リップル削除</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>A tool button. Its pop-up is a PointingWidget named pointingWidget, with a GuideWidget named guideWidget in it; both are below the button for a sheet.</source>
+        <translation>ツールボタンです。ポップアップは pointingWidget という名前の PointingWidget で、中に guideWidget という名前の GuideWidget があります。スタイルシートではどちらもボタンの配下です。</translation>
+    </message>
+</context>
+<context>
+    <name>GuidePage</name>
+    <message>
+        <source>Guide</source>
+        <translation>ガイド</translation>
+    </message>
+    <message>
+        <source>help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>アニメーション</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <source>A short piece of help: a heading, an animated picture that plays while it is seen, a description and a link to further reading. What is empty is left out.</source>
+        <translation>短いヘルプです。見出し、見えている間だけ再生されるアニメーション画像、説明、詳しい情報へのリンクからなり、空のものは省かれます。</translation>
+    </message>
+    <message>
+        <source>More about editing</source>
+        <translation>編集について詳しく</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Texts are measured for the width that the sheet gives the guide. Links have the colour of the application&apos;s palette, unless their markup says another.</source>
+        <translation>文字列はスタイルシートがガイドに与える幅に合わせて配置されます。リンクは、マークアップに指定がなければアプリケーションのパレットの色になります。</translation>
+    </message>
+</context>
+<context>
+    <name>GuideTexts</name>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Ripple delete</source>
+        <translation>リップル削除</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>トリム</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>A file that is not there</source>
+        <translation>存在しないファイル</translation>
+    </message>
+    <message>
+        <source>Deletes the selected clip and closes the gap: everything behind it moves up, on &lt;b&gt;all&lt;/b&gt; tracks, so that sound and picture stay together.</source>
+        <translation>選択したクリップを削除して隙間を詰めます。後ろにあるものは&lt;b&gt;すべての&lt;/b&gt;トラックで前に移るので、音声と映像はずれません。</translation>
+    </message>
+    <message>
+        <source>More about editing</source>
+        <translation>編集について詳しく</translation>
+    </message>
+    <message>
+        <source>Drag the end of a clip to show less or more of it. Nothing is lost.</source>
+        <translation>クリップの端をドラッグすると、表示する範囲を増減できます。何も失われません。</translation>
+    </message>
+    <message>
+        <source>More about trimming</source>
+        <translation>トリムについて詳しく</translation>
     </message>
 </context>
 <context>
@@ -665,6 +1200,85 @@
         <source>Services</source>
         <translation>サービス</translation>
     </message>
+    <message>
+        <source>Guides and dialogs</source>
+        <translation>ガイドとダイアログ</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterPanel</name>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Part of a parameter&apos;s name</source>
+        <translation>パラメーター名の一部</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索を消去</translation>
+    </message>
+    <message>
+        <source>Search parameters</source>
+        <translation>パラメーターを検索</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>倍率</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>描画モード</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>色合い</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Back to the home folder</source>
+        <translation>ホームフォルダーに戻す</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>ホームフォルダー</translation>
+    </message>
+    <message>
+        <source>Proxies</source>
+        <translation>プロキシ</translation>
+    </message>
+    <message>
+        <source>Stabilise</source>
+        <translation>手ぶれ補正</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>シャープ</translation>
+    </message>
+    <message>
+        <source>Film grain</source>
+        <translation>フィルムグレイン</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>エフェクト</translation>
+    </message>
 </context>
 <context>
     <name>PathPage</name>
@@ -722,6 +1336,214 @@
     </message>
 </context>
 <context>
+    <name>PathSelectionPage</name>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Back to the home folder</source>
+        <translation>ホームフォルダーに戻す</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>ホームフォルダー</translation>
+    </message>
+    <message>
+        <source>Nobody would find this folder again: %1</source>
+        <translation>このフォルダーは二度と見つけられません: %1</translation>
+    </message>
+    <message>
+        <source>Folder field</source>
+        <translation>フォルダー入力欄</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>browse</source>
+        <translation>参照</translation>
+    </message>
+    <message>
+        <source>directory</source>
+        <translation>ディレクトリ</translation>
+    </message>
+    <message>
+        <source>disk</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>A field for a folder. It asks its host to browse, reports edits in bursts of a tenth of a second, and looks at the disk only when it is told to check the path. Here the host opens Qt&apos;s folder dialog and shows the space that is free where the path is.</source>
+        <translation>フォルダーの入力欄です。参照はホストに任せ、編集は 0.1 秒ごとにまとめて通知し、パスの確認を指示されたときだけディスクを調べます。ここではホストが Qt のフォルダーダイアログを開き、パスの場所の空き容量を表示します。</translation>
+    </message>
+    <message>
+        <source>With a default folder and space on its disk</source>
+        <translation>既定のフォルダーとディスクの空き容量付き</translation>
+    </message>
+    <message>
+        <source>A relative path, with its error below</source>
+        <translation>相対パスと、その下のエラー</translation>
+    </message>
+    <message>
+        <source>Check the upper field</source>
+        <translation>上の欄を確認</translation>
+    </message>
+    <message>
+        <source>upper</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Check the lower field</source>
+        <translation>下の欄を確認</translation>
+    </message>
+    <message>
+        <source>lower</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>The upper field&apos;s error</source>
+        <translation>上の欄のエラー</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>表示しない</translation>
+    </message>
+    <message>
+        <source>tool tip</source>
+        <translation>ツールチップ</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Refuse hidden folders instead</source>
+        <translation>代わりに隠しフォルダーを拒否</translation>
+    </message>
+    <message>
+        <source>The upper field</source>
+        <translation>上の欄</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Default path&apos;s text</source>
+        <translation>既定のパスの文字列</translation>
+    </message>
+    <message>
+        <source>Required megabytes</source>
+        <translation>必要なメガバイト数</translation>
+    </message>
+    <message>
+        <source>A frame around a line edit and its buttons, which carries the border, the hint &quot;error&quot; and, from the first time that the line edit gets the keyboard, &quot;focusHint&quot;; figures above it and a message below it.</source>
+        <translation>入力欄とボタンを囲む枠が、境界線、ヒント「error」、そして入力欄が初めてキーボードを得たときから「focusHint」を持ちます。枠の上に数値、下にメッセージがあります。</translation>
+    </message>
+</context>
+<context>
+    <name>PickedColors</name>
+    <message>
+        <source>Picked colours</source>
+        <translation>選んだ色</translation>
+    </message>
+</context>
+<context>
+    <name>PickerChoice</name>
+    <message>
+        <source>Picker</source>
+        <translation>ピッカー</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Colour panel</source>
+        <translation>カラーパネル</translation>
+    </message>
+    <message>
+        <source>Qt&apos;s colour dialog</source>
+        <translation>Qt のカラーダイアログ</translation>
+    </message>
+    <message>
+        <source>Panel: no colour allowed</source>
+        <translation>パネル: 色なしを許可</translation>
+    </message>
+    <message>
+        <source>Panel: with opacity</source>
+        <translation>パネル: 不透明度付き</translation>
+    </message>
+</context>
+<context>
+    <name>PipettePage</name>
+    <message>
+        <source>Screen pipette</source>
+        <translation>画面スポイト</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>pick</source>
+        <translation>取得</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>magnifier</source>
+        <translation>拡大鏡</translation>
+    </message>
+    <message>
+        <source>eyedropper</source>
+        <translation>スポイト</translation>
+    </message>
+    <message>
+        <source>Picks the colour of any pixel on any screen, of other applications too. A click picks, any key gives up. The loupe beside the cursor shows the pixels around it.</source>
+        <translation>どの画面のどのピクセルの色も、ほかのアプリケーションのものも取得します。クリックで取得し、どのキーでも中止します。カーソルの横のルーペに周囲のピクセルが表示されます。</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>画面から色を取得</translation>
+    </message>
+    <message>
+        <source>What it picked, the latest first</source>
+        <translation>取得した色（新しい順）</translation>
+    </message>
+    <message>
+        <source>The loupe by itself</source>
+        <translation>ルーペのみ</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Anywhere</source>
+        <translation>任意の場所</translation>
+    </message>
+    <message>
+        <source>In a corner of the desktop</source>
+        <translation>デスクトップの隅</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <translation>スポイトのルーペで、プロパティ roundedEdges を持ちます。境界線は画像の上に描画され、背景は透明でなければなりません。その間画面を覆うウィンドウのクラスは PipetteScreenView で、cursorPixmap、cursorSize、cursorHotSpot が取得中のカーソルを決めます。</translation>
+    </message>
+</context>
+<context>
     <name>PixmapWidgetPage</name>
     <message>
         <source>Animated image</source>
@@ -762,6 +1584,72 @@
     <message>
         <source>Border and padding of a sheet surround the picture.</source>
         <translation>スタイルシートの境界線と内側の余白が画像を囲みます。</translation>
+    </message>
+</context>
+<context>
+    <name>PointPlanePage</name>
+    <message>
+        <source>Point plane</source>
+        <translation>ポイントプレーン</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>pad</source>
+        <translation>パッド</translation>
+    </message>
+    <message>
+        <source>drag</source>
+        <translation>ドラッグ</translation>
+    </message>
+    <message>
+        <source>A pad on which a point is picked by clicking, dragging, also out of the window, and with the arrow keys, ten pixels at a time with Shift. Here it stands for -1 to 1 both ways.</source>
+        <translation>クリック、ウィンドウの外まで続くドラッグ、矢印キー（Shift を押すと 10 ピクセルずつ）で点を選ぶパッドです。ここでは縦横とも -1 から 1 を表します。</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>上下反転</translation>
+    </message>
+    <message>
+        <source>Colours and sizes are those of a hidden child, selected by its class name and, where they differ for a disabled plane, with [enabled=&quot;false&quot;]. The sheet gives the plane its size.</source>
+        <translation>色と寸法は隠れた子のもので、クラス名で選択し、無効なときに異なる場合は [enabled=&quot;false&quot;] を付けます。プレーンの大きさはスタイルシートが与えます。</translation>
+    </message>
+</context>
+<context>
+    <name>PointSelectorPage</name>
+    <message>
+        <source>Point selector</source>
+        <translation>点の選択</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>coordinates</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>spin box</source>
+        <translation>スピンボックス</translation>
+    </message>
+    <message>
+        <source>A point plane and a spin box for each coordinate, kept in step. A point that is picked is reported as it is, and then as the spin boxes round it.</source>
+        <translation>ポイントプレーンと各座標のスピンボックスが連動します。選んだ点はまずそのまま、次にスピンボックスが丸めた値で通知されます。</translation>
+    </message>
+    <message>
+        <source>Frames around a point plane and two labelled spin boxes. The labels are empty: the sheet may give them a text, with qproperty-text, or a picture.</source>
+        <translation>ポイントプレーンとラベル付きの二つのスピンボックスを囲む枠です。ラベルは空で、スタイルシートが qproperty-text で文字列を、または画像を与えられます。</translation>
     </message>
 </context>
 <context>
@@ -915,6 +1803,37 @@
     </message>
 </context>
 <context>
+    <name>PropertiesPage</name>
+    <message>
+        <source>Properties of a clip</source>
+        <translation>クリップのプロパティ</translation>
+    </message>
+    <message>
+        <source>panel</source>
+        <translation>パネル</translation>
+    </message>
+    <message>
+        <source>inspector</source>
+        <translation>インスペクター</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>editor</source>
+        <translation>エディター</translation>
+    </message>
+    <message>
+        <source>The value inputs in one panel, as an editor shows the properties of a clip. The panel can be scrolled past every field: the wheel changes only the one that has the keyboard.</source>
+        <translation>エディターがクリップのプロパティを表示するように、値の入力欄を一つのパネルにまとめています。どの欄の上でもスクロールでき、ホイールで変わるのはキーボードを持つ欄だけです。</translation>
+    </message>
+    <message>
+        <source>Search parameters</source>
+        <translation>パラメーターを検索</translation>
+    </message>
+</context>
+<context>
     <name>PropertyPanel</name>
     <message>
         <source>Properties</source>
@@ -938,6 +1857,89 @@
     <message>
         <source>An example: the provider is selected by its class name below the widget that it serves.</source>
         <translation>例：提供役は、仕えるウィジェット配下のクラス名で選択します。</translation>
+    </message>
+</context>
+<context>
+    <name>QmlDialogPage</name>
+    <message>
+        <source>QML dialog</source>
+        <translation>QML ダイアログ</translation>
+    </message>
+    <message>
+        <source>dialog</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>confirmation</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>scene</source>
+        <translation>シーン</translation>
+    </message>
+    <message>
+        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <translation>全面が QML シーンのモーダルダイアログです。シーンはダイアログの初回実行時に読み込まれるファイルで、ダイアログを「callback」として参照し、終了させます。ソースを変えて開いてみてください。</translation>
+    </message>
+    <message>
+        <source>The scene&apos;s source</source>
+        <translation>シーンのソース</translation>
+    </message>
+    <message>
+        <source>Confirmation</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>One that fails to load</source>
+        <translation>読み込みに失敗するもの</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>シーン</translation>
+    </message>
+    <message>
+        <source>Centred on this page</source>
+        <translation>このページの中央に表示</translation>
+    </message>
+    <message>
+        <source>Open a new dialog</source>
+        <translation>新しいダイアログを開く</translation>
+    </message>
+    <message>
+        <source>Open the last dialog again</source>
+        <translation>前のダイアログを再び開く</translation>
+    </message>
+    <message>
+        <source>Original source</source>
+        <translation>元のソース</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Result of exec()</source>
+        <translation>exec() の結果</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>Values of the form</source>
+        <translation>フォームの値</translation>
+    </message>
+    <message>
+        <source>Errors in the scene</source>
+        <translation>シーンのエラー</translation>
     </message>
 </context>
 <context>
@@ -985,6 +1987,13 @@
     <message>
         <source>Keyboard focus</source>
         <translation>キーボードフォーカス</translation>
+    </message>
+</context>
+<context>
+    <name>ReportedColor</name>
+    <message>
+        <source>nothing yet</source>
+        <translation>まだありません</translation>
     </message>
 </context>
 <context>
@@ -1051,6 +2060,89 @@
     </message>
 </context>
 <context>
+    <name>SearchPage</name>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Part of a clip&apos;s name</source>
+        <translation>クリップ名の一部</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索を消去</translation>
+    </message>
+    <message>
+        <source>Search clips</source>
+        <translation>クリップを検索</translation>
+    </message>
+    <message>
+        <source>Beach, morning</source>
+        <translation>海辺、朝</translation>
+    </message>
+    <message>
+        <source>Beach, evening</source>
+        <translation>海辺、夕方</translation>
+    </message>
+    <message>
+        <source>Harbour</source>
+        <translation>港</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>インタビュー</translation>
+    </message>
+    <message>
+        <source>Interview, second camera</source>
+        <translation>インタビュー、カメラ 2</translation>
+    </message>
+    <message>
+        <source>Search field</source>
+        <translation>検索欄</translation>
+    </message>
+    <message>
+        <source>filter</source>
+        <translation>絞り込み</translation>
+    </message>
+    <message>
+        <source>find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>placeholder</source>
+        <translation>プレースホルダー</translation>
+    </message>
+    <message>
+        <source>A field for a search: it reports each change at once, and the end of an edit by Enter or by leaving it. A text never starts with a blank. Its placeholder has three colours, which change when the mouse comes or goes.</source>
+        <translation>検索用の入力欄です。変更のたびにすぐ通知し、Enter または欄を離れたときに編集の終わりを通知します。文字列が空白で始まることはありません。プレースホルダーには三つの色があり、マウスの出入りで切り替わります。</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>単独</translation>
+    </message>
+    <message>
+        <source>Above a list that it filters</source>
+        <translation>絞り込むリストの上</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>プレースホルダー</translation>
+    </message>
+    <message>
+        <source>A frame around an icon, a line edit and a button that clears it. &quot;focusHint&quot; is set from the first time that the line edit gets the keyboard.</source>
+        <translation>アイコン、入力欄、消去ボタンを囲む枠です。「focusHint」は、入力欄が初めてキーボードを得たときから設定されます。</translation>
+    </message>
+</context>
+<context>
     <name>SettingsPage</name>
     <message>
         <source>Custom colours and folders</source>
@@ -1110,6 +2202,41 @@
     <message>
         <source>Use the component: its signals appear here.</source>
         <translation>部品を操作すると、ここにシグナルが表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>SliderInputPage</name>
+    <message>
+        <source>Slider field</source>
+        <translation>スライダー入力欄</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>integer</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>spin box</source>
+        <translation>スピンボックス</translation>
+    </message>
+    <message>
+        <source>A slider and a spin box of one whole number, kept in step. Each change is reported by both, so the signal arrives twice with the same value.</source>
+        <translation>一つの整数のためのスライダーとスピンボックスで、連動します。どの変更も両方が通知するため、シグナルは同じ値で二度届きます。</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>A frame around a slider and a spin box without arrows.</source>
+        <translation>スライダーと矢印のないスピンボックスを囲む枠です。</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +2491,108 @@
     <message>
         <source>Selected as QLineEdit or, alone, as Orvane--Tessel--TesselLineEdit; its menu as QMenu#tesselContextMenu.</source>
         <translation>QLineEdit、または単独で Orvane--Tessel--TesselLineEdit として選択します。メニューは QMenu#tesselContextMenu です。</translation>
+    </message>
+</context>
+<context>
+    <name>Walk</name>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetColorPickerPage</name>
+    <message>
+        <source>Colour from a widget</source>
+        <translation>ウィジェットから色を取得</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>pick</source>
+        <translation>取得</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>cursor</source>
+        <translation>カーソル</translation>
+    </message>
+    <message>
+        <source>Click a button, then into the film: the colour of that pixel is picked. Any other click or key ends it too; with the cursor elsewhere nothing is picked.</source>
+        <translation>ボタンをクリックしてから映像をクリックすると、そのピクセルの色を取得します。ほかのクリックやキーでも終わり、カーソルが別の場所にあれば何も取得しません。</translation>
+    </message>
+    <message>
+        <source>The target</source>
+        <translation>対象</translation>
+    </message>
+    <message>
+        <source>A button that wears its colour</source>
+        <translation>取得した色になるボタン</translation>
+    </message>
+    <message>
+        <source>A colour button with this picker</source>
+        <translation>このピッカーを使うカラーボタン</translation>
+    </message>
+    <message>
+        <source>Its background is its colour, written into its own sheet; size and border are the application&apos;s.</source>
+        <translation>背景は自分の色で、自身のスタイルシートに書き込まれます。大きさと境界線はアプリケーションが決めます。</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the film</source>
+        <translation>映像から色を取得</translation>
+    </message>
+    <message>
+        <source>Target and cursor</source>
+        <translation>対象とカーソル</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>対象</translation>
+    </message>
+    <message>
+        <source>The film</source>
+        <translation>映像</translation>
+    </message>
+    <message>
+        <source>The whole page</source>
+        <translation>ページ全体</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Picking cursor</source>
+        <translation>取得中のカーソル</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Pointing hand</source>
+        <translation>指差し</translation>
+    </message>
+    <message>
+        <source>Question mark</source>
+        <translation>疑問符</translation>
+    </message>
+    <message>
+        <source>The film runs</source>
+        <translation>映像を再生</translation>
     </message>
 </context>
 <context>

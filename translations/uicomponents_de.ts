@@ -2,10 +2,44 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>ColorPickerWidget</name>
+    <message>
+        <source>Other:</source>
+        <translation>Weitere:</translation>
+    </message>
+    <message>
+        <source>Opacity:</source>
+        <translation>Deckkraft:</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>Keine Farbe</translation>
+    </message>
+    <message>
+        <source>Colour value</source>
+        <translation>Farbwert</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>Farbe vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Andere Farbe wählen</translation>
+    </message>
+</context>
+<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
         <translation>Farbton</translation>
+    </message>
+</context>
+<context>
+    <name>DialogGuideWidget</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -95,6 +129,36 @@
     <message>
         <source>Select &amp;All</source>
         <translation>A&amp;lles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>PathSelectionWidget</name>
+    <message>
+        <source>Selected path is not readable</source>
+        <translation>Der gewählte Pfad ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Selected path is not writable</source>
+        <translation>Der gewählte Pfad ist nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>Required: %1</source>
+        <translation>Benötigt: %1</translation>
+    </message>
+    <message>
+        <source>Available: %1</source>
+        <translation>Verfügbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PointSelectorWidget</name>
+    <message>
+        <source>Position on the x-axis</source>
+        <translation>Position auf der x-Achse</translation>
+    </message>
+    <message>
+        <source>Position on the y-axis</source>
+        <translation>Position auf der y-Achse</translation>
     </message>
 </context>
 <context>

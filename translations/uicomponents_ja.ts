@@ -2,10 +2,44 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>ColorPickerWidget</name>
+    <message>
+        <source>Other:</source>
+        <translation>その他:</translation>
+    </message>
+    <message>
+        <source>Opacity:</source>
+        <translation>不透明度:</translation>
+    </message>
+    <message>
+        <source>No colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>Colour value</source>
+        <translation>色の値</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>画面から色を取得</translation>
+    </message>
+    <message>
+        <source>Choose another colour</source>
+        <translation>ほかの色を選択</translation>
+    </message>
+</context>
+<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
         <translation>色相</translation>
+    </message>
+</context>
+<context>
+    <name>DialogGuideWidget</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -95,6 +129,36 @@
     <message>
         <source>Select &amp;All</source>
         <translation>すべて選択(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>PathSelectionWidget</name>
+    <message>
+        <source>Selected path is not readable</source>
+        <translation>選択したパスは読み取れません</translation>
+    </message>
+    <message>
+        <source>Selected path is not writable</source>
+        <translation>選択したパスには書き込めません</translation>
+    </message>
+    <message>
+        <source>Required: %1</source>
+        <translation>必要: %1</translation>
+    </message>
+    <message>
+        <source>Available: %1</source>
+        <translation>空き: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PointSelectorWidget</name>
+    <message>
+        <source>Position on the x-axis</source>
+        <translation>X 軸上の位置</translation>
+    </message>
+    <message>
+        <source>Position on the y-axis</source>
+        <translation>Y 軸上の位置</translation>
     </message>
 </context>
 <context>
