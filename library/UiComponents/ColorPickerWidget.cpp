@@ -183,6 +183,8 @@ public:
     QButtonGroup* const buttons;
     OvGridLayout* const paletteLayout;
     OvHBoxLayout* const queueLayout;
+    // Hears what the parts say, and is the first to go: an emptied spin box reports when it is hidden.
+    std::unique_ptr<QObject> listener = std::make_unique<QObject>();
 
     int colorDialogOffset = 0;
     // What each button shows, and which button is to be checked for a colour. Junk in the settings can give
@@ -369,16 +371,17 @@ void ColorPickerWidget::Private::setTexts() const
 
 void ColorPickerWidget::Private::connectInputs()
 {
-    connect(currentColorValueEdit, &QLineEdit::textEdited, owner,
+    connect(currentColorValueEdit, &QLineEdit::textEdited, listener.get(),
             [this](const QString& text) { onTextEdited(text); });
-    connect(pipetteButton, &QAbstractButton::clicked, owner,
+    connect(pipetteButton, &QAbstractButton::clicked, listener.get(),
             [this] { announce([this] { Q_EMIT owner->pipetteRequested(); }); });
-    connect(pipetteButton, &QAbstractButton::clicked, owner,
+    connect(pipetteButton, &QAbstractButton::clicked, listener.get(),
             [this] { announce([this] { Q_EMIT owner->closeRequested(); }); });
-    connect(buttons, qOverload<QAbstractButton*, bool>(&QButtonGroup::buttonToggled), owner,
+    connect(buttons, qOverload<QAbstractButton*, bool>(&QButtonGroup::buttonToggled), listener.get(),
             [this](QAbstractButton* button, bool checked) { onButtonToggled(button, checked); });
-    connect(addCustomColorButton, &QAbstractButton::clicked, owner, [this] { onCustomColorButtonClicked(); });
-    connect(opacitySlider, &OvDoubleSlider::doubleValueChanged, owner,
+    connect(addCustomColorButton, &QAbstractButton::clicked, listener.get(),
+            [this] { onCustomColorButtonClicked(); });
+    connect(opacitySlider, &OvDoubleSlider::doubleValueChanged, listener.get(),
             [this](double opacity) { onOpacityChanged(opacity); });
 }
 
@@ -576,7 +579,8 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
     if (QToolButton* const button = buttonFor(*currentColor)) {
         const QPointer<ColorPickerWidget> guard(owner);
         button->setChecked(true);
-        if (!guard) {
+        // A slot may have set several colours.
+        if (!guard || !currentColor) {
             return;
         }
     } else {
@@ -588,6 +592,12 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
 
 void ColorPickerWidget::Private::onCustomColorButtonClicked()
 {
+    // The chooser takes the focus, and a spin box that was emptied would report in the middle of that.
+    const QPointer<ColorPickerWidget> guard(owner);
+    opacitySpinbox->interpretText();
+    if (!guard) {
+        return;
+    }
     if (!dialog) {
         createDialog();
     }
@@ -617,9 +627,9 @@ void ColorPickerWidget::Private::createDialog()
         plane->setFocus();
     }
     selectorColor.reset();
-    connect(selector, &CustomColorSelectWidget::colorChanged, owner,
+    connect(selector, &CustomColorSelectWidget::colorChanged, listener.get(),
             [this](const QColor& color) { onSelectorReport(color); });
-    connect(dialog, &QDialog::finished, owner, [this] { onDialogFinished(); });
+    connect(dialog, &QDialog::finished, listener.get(), [this] { onDialogFinished(); });
 }
 
 void ColorPickerWidget::Private::placeDialog() const
@@ -729,6 +739,7 @@ ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
 
 ColorPickerWidget::~ColorPickerWidget()
 {
+    d->listener.reset();
     if (d->emissions > 0) {
         d->letPartsOutlive();
     }

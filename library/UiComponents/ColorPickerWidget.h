@@ -25,14 +25,16 @@
  * - A button of the palette or of the own colours makes its colour the current one. Arrow keys go from
  *   button to button, and choose as they go once a button is checked.
  * - In the edit, six hexadecimal digits make a colour; the number sign in front is put there if it is
- *   missing. Anything else is ignored in silence.
+ *   missing. Anything else is ignored in silence. The edit shows "#null" for no colour and "#multiple" for
+ *   several.
  * - The opacity slider, or the spin box beside it, gives the current colour its alpha. As long as opacity
- *   can be adjusted, a colour that is chosen or typed takes the slider's.
+ *   can be adjusted, a colour that is chosen or typed takes the slider's. A spin box that was emptied
+ *   becomes 0 %, and that is reported, when it loses the focus or is hidden, or when the chooser opens.
  * - The add button opens the chooser, a pop-up to the right of the button that never leaves its screen. It
  *   begins at the current colour (black if there is none), and the current colour follows it, exactly as it
  *   is reported. A click elsewhere, Escape and Enter close it, and the keyboard is at the add button again.
  *   Closing it adds the current colour to the user's own (see Util::appendCustomColor()), unless it is there
- *   already or in the palette. Hiding the panel does both too, but reports nothing then.
+ *   already or in the palette. Hiding the panel does both too, but does not report the colour that it adds.
  *
  * The panel never picks from the screen itself: the host does, and sets the result with setCurrentColor().
  *
@@ -43,13 +45,13 @@
  *
  * **Style sheet.** All margins and gaps are zero; OvFrame's properties set them. The parts, by object name:
  *
- * | frame              | holds                                                                      |
- * |--------------------|----------------------------------------------------------------------------|
- * | "topPanel"         | "currentColorDisplayLabel" (the preview), "currentColorValueEdit" (style hint
- * "INPUT_LIGHT"), "pipetteButton" ("LIGHT_GREY_TWO") | | "colorMatrixPanel" | the palette: QToolButtons in 8
- * rows of 9                                   | | "otherColorsPanel" | "otherColorsTitleLabel",
- * "addCustomColorButton", "otherColorsQueuePanel" with 8 QToolButtons | | "opacityPanel"     |
- * "opacityTitleLabel", "opacitySlider" ("SLIDER_LIGHT"), "opacitySpinbox" ("INPUT_LIGHT") |
+ * - "topPanel": the preview "currentColorDisplayLabel", "currentColorValueEdit" (style hint
+ *   "INPUT_LIGHT") and "pipetteButton" ("LIGHT_GREY_TWO");
+ * - "colorMatrixPanel": the palette, QToolButtons in 8 rows of 9;
+ * - "otherColorsPanel": "otherColorsTitleLabel", and below it "addCustomColorButton" and
+ *   "otherColorsQueuePanel" with 8 QToolButtons;
+ * - "opacityPanel": "opacityTitleLabel", and below it "opacitySlider" ("SLIDER_LIGHT") and "opacitySpinbox"
+ *   ("INPUT_LIGHT").
  *
  * The background of the preview and of each button of a colour is written by the panel, opaque whatever the
  * alpha. The preview has the properties "nullColor" and "multiColor" (bool), the no-colour button has
@@ -63,10 +65,10 @@
  * **Accessibility.** Once somebody reads them, the buttons have accessible names: a colour's button has the
  * colour's.
  *
- * **Lifetime.** A slot of any signal of the panel may delete it, its parent or its pop-up, while the user
- * types, drags or clicks and in the middle of setCurrentColor(). The parts whose code is still running are
- * then deleted on the next turn of the event loop. One exception is Qt's: a slot of colorChanged() that runs
- * because the panel is being shown must use deleteLater().
+ * **Lifetime.** A slot of any signal of the panel may delete it, its parent or the pop-up that it is in,
+ * while the user types, drags or clicks and in the middle of setCurrentColor(). The parts whose code is still
+ * running are then deleted on the next turn of the event loop. One exception is Qt's: a slot of
+ * colorChanged() that runs because the panel is being shown or hidden must use deleteLater().
  */
 class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame
 {
@@ -111,8 +113,7 @@ Q_SIGNALS:
     /// - once for each step of the opacity slider while there is a colour or no colour, but not while there
     ///   are several;
     /// - once for each report of the chooser, with the colour as it stands there: opaque;
-    /// - once for a colour that is added to the user's own, which its new button reports with the slider's
-    ///   alpha;
+    /// - once for a colour that is added to the user's own, by its new button, as any button reports it;
     /// - by setCurrentColor(), setOpacityAdjustmentAvailable() and, where another panel has added the
     ///   current colour, by showing the panel, as far as they move the slider or check a button.
     void colorChanged(const QColor& color);

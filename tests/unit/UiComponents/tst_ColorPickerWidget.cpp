@@ -223,6 +223,15 @@ void typeAnew(QLineEdit* edit, const QString& text)
     QTest::keyClicks(edit, text);
 }
 
+/// As the user does, who is about to type another number.
+void emptySpinBox(Panel* panel)
+{
+    QApplication::setActiveWindow(panel->window());
+    panel->spinBox->setFocus();
+    panel->spinBox->selectAll();
+    QTest::keyClick(panel->spinBox, Qt::Key_Backspace);
+}
+
 QStringList names(int count)
 {
     QStringList result;
@@ -251,6 +260,8 @@ QString half(const QString& color)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(Panel*)>)
 
 class tst_ColorPickerWidget : public QObject
 {
@@ -298,11 +309,14 @@ private Q_SLOTS:
     void setCurrentColor();
     void sameColorDoesNothing();
     void setCurrentColorFromASlot();
+    void severalColorsFromASlot();
 
     void opacityByTheUser_data();
     void opacityByTheUser();
     void opacityOfNoColor();
     void opacityOfSeveralColors();
+    void emptiedOpacity_data();
+    void emptiedOpacity();
     void switchedOffOpacity();
     void switchedOnOpacity();
 
@@ -344,6 +358,7 @@ private Q_SLOTS:
     void deletedByASlot_data();
     void deletedByASlot();
     void popupDeletedByASlot();
+    void deletedWithAnEmptySpinBox();
     void deletedWhileThePopupIsOpen_data();
     void deletedWhileThePopupIsOpen();
     void deletedDuringADrag();
@@ -796,8 +811,11 @@ void tst_ColorPickerWidget::typedDigits()
     QTest::keyClicks(panel.edit, QStringLiteral("1"));
     QCOMPARE(panel.edit->text(), orange);
     QCOMPARE(panel.log(), QStringList());
-    panel.edit->clear();
+    // An edit that is emptied stays so.
+    panel.edit->setText(QStringLiteral("#"));
     QTest::keyClick(panel.edit, Qt::Key_Backspace);
+    QCOMPARE(panel.edit->text(), QString());
+    QCOMPARE(panel.log(), QStringList());
     QCOMPARE(panel.currentColor(), OptionalColor(QColor(orange)));
 }
 
@@ -1050,6 +1068,25 @@ void tst_ColorPickerWidget::setCurrentColorFromASlot()
     QCOMPARE(panel.slider->value(), 100);
 }
 
+void tst_ColorPickerWidget::severalColorsFromASlot()
+{
+    Panel panel;
+    bool isFirst = true;
+    connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel, &isFirst] {
+        if (isFirst) {
+            isFirst = false;
+            panel.setCurrentColor(std::nullopt);
+        }
+    });
+    panel.edit->setText(QStringLiteral("#ff5d0"));
+    QTest::keyClick(panel.edit, Qt::Key_0);
+    // The button's report, and none of the edit after it.
+    QCOMPARE(panel.log(), QStringList{opaque(orange)});
+    QCOMPARE(panel.currentColor(), OptionalColor());
+    QCOMPARE(panel.edit->text(), QStringLiteral("#multiple"));
+    QCOMPARE(panel.checked(), QString());
+}
+
 void tst_ColorPickerWidget::opacityByTheUser_data()
 {
     QTest::addColumn<QString>("color");
@@ -1103,6 +1140,32 @@ void tst_ColorPickerWidget::opacityOfSeveralColors()
     panel.slider->setValue(30);
     QCOMPARE(panel.log(), QStringList());
     QCOMPARE(panel.currentColor(), OptionalColor());
+}
+
+void tst_ColorPickerWidget::emptiedOpacity_data()
+{
+    QTest::addColumn<std::function<void(Panel*)>>("act");
+    const auto row = [](const char* name, const std::function<void(Panel*)>& act) {
+        QTest::newRow(name) << act;
+    };
+    row("loses the focus", [](Panel* panel) { panel->slider->setFocus(); });
+    row("is hidden", [](Panel* panel) { panel->hide(); });
+    row("the chooser opens", [](Panel* panel) { panel->openPopup(); });
+}
+
+void tst_ColorPickerWidget::emptiedOpacity()
+{
+    QFETCH(std::function<void(Panel*)>, act);
+    Panel panel;
+    panel.show();
+    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+    emptySpinBox(&panel);
+    QCOMPARE(panel.log(), QStringList());
+    QCOMPARE(panel.slider->value(), 100);
+    act(&panel);
+    QCOMPARE(panel.log(), QStringList{QStringLiteral("#00123456")});
+    QCOMPARE(panel.slider->value(), 0);
+    panel.hide();
 }
 
 void tst_ColorPickerWidget::switchedOffOpacity()
@@ -1450,7 +1513,9 @@ void tst_ColorPickerWidget::colorFollowsThePopup()
     Panel panel;
     panel.show();
     panel.setOpacityAdjustmentAvailable(adjustable);
+    panel.slider->setValue(30);
     panel.setCurrentColor(QColor(0, 0, 255, 128));
+    QCOMPARE(panel.slider->value(), adjustable ? 50 : 30);
     if (fedBack) {
         connect(&panel, &ColorPickerWidget::colorChanged, &panel, &ColorPickerWidget::setCurrentColor);
     }
@@ -1458,7 +1523,7 @@ void tst_ColorPickerWidget::colorFollowsThePopup()
     panel.log();
     const QString first = text(panel.planeColor(240, {50, 20}));
     const QString second = text(panel.planeColor(240, {60, 30}));
-    const int slider = adjustable ? 100 : panel.slider->value();
+    const int slider = adjustable ? 100 : 30;
 
     panel.pressPlane({50, 20});
     QCOMPARE(panel.log(), QStringList{first});
@@ -1774,8 +1839,11 @@ void tst_ColorPickerWidget::deletedByASlot_data()
     QTest::addColumn<Action>("prepare");
     QTest::addColumn<Action>("act");
     QTest::addColumn<int>("signal"); // which of those that come
-    const auto row = [](const char* name, const Action& prepare, const Action& act, int signal = 1) {
-        QTest::newRow(name) << prepare << act << signal;
+    // A parent hides the panel before it deletes it, and the panel reports what the user has left unfinished.
+    QTest::addColumn<int>("moreFromTheParent");
+    const auto row = [](const char* name, const Action& prepare, const Action& act, int signal = 1,
+                        int moreFromTheParent = 0) {
+        QTest::newRow(name) << prepare << act << signal << moreFromTheParent;
     };
     const Action nothing = [](Panel*) {};
     const Action setOwn = [](Panel* panel) { panel->setCurrentColor(QColor(0x12, 0x34, 0x56)); };
@@ -1789,6 +1857,17 @@ void tst_ColorPickerWidget::deletedByASlot_data()
         "click in the palette, another was checked",
         [](Panel* panel) { panel->setCurrentColor(QColor(Qt::red)); },
         [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
+    const Action emptyBox = [setOwn](Panel* panel) {
+        setOwn(panel);
+        emptySpinBox(panel);
+    };
+    row(
+        "click in the palette, the opacity box is empty", emptyBox,
+        [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); }, 1, 1);
+    row("add button, the opacity box is empty", emptyBox,
+        [](Panel* panel) { QTest::mouseClick(panel->addButton, Qt::LeftButton); });
+    row("empty opacity box left by Tab", emptyBox,
+        [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Tab); });
     row("palette by space", nothing,
         [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 1), Qt::Key_Space); });
     row(
@@ -1868,14 +1947,13 @@ void tst_ColorPickerWidget::deletedByASlot_data()
     });
 }
 
-Q_DECLARE_METATYPE(std::function<void(Panel*)>)
-
 void tst_ColorPickerWidget::deletedByASlot()
 {
     using Action = std::function<void(Panel*)>;
     QFETCH(Action, prepare);
     QFETCH(Action, act);
     QFETCH(int, signal);
+    QFETCH(int, moreFromTheParent);
     for (const bool isParentDeleted : {false, true}) {
         m_record->value.clear();
         const int before = QApplication::allWidgets().size();
@@ -1900,7 +1978,7 @@ void tst_ColorPickerWidget::deletedByASlot()
             const FreedMemoryWatch memory;
             act(panel);
             QVERIFY(!panel);
-            QCOMPARE(signals, signal);
+            QCOMPARE(signals, signal + (isParentDeleted ? moreFromTheParent : 0));
             QTRY_COMPARE(QApplication::allWidgets().size(), before + (host ? 1 : 0));
             QVERIFY(memory.deleted() > 0);
             QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
@@ -1923,6 +2001,20 @@ void tst_ColorPickerWidget::popupDeletedByASlot()
     panel.pressPlane({50, 40});
     QVERIFY(!panel.popup());
     QVERIFY(panel.currentColor().has_value());
+}
+
+void tst_ColorPickerWidget::deletedWithAnEmptySpinBox()
+{
+    auto panel = std::make_unique<Panel>();
+    panel->show();
+    panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
+    emptySpinBox(panel.get());
+    QSignalSpy spy(panel.get(), &ColorPickerWidget::colorChanged);
+    const FreedMemoryWatch memory;
+    panel.reset();
+    QCOMPARE(spy.count(), 0);
+    QVERIFY(memory.deleted() > 0);
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
 void tst_ColorPickerWidget::deletedWhileThePopupIsOpen_data()
