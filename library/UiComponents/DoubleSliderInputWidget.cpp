@@ -41,7 +41,13 @@ DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initiali
             &DoubleSliderInputWidget::valueChanged);
 }
 
-DoubleSliderInputWidget::~DoubleSliderInputWidget() = default;
+DoubleSliderInputWidget::~DoubleSliderInputWidget()
+{
+    // A window is hidden only in ~QWidget(): a spin box in it loses its focus then, commits what was typed
+    // and reports it. Nobody is to hear of it from half a field.
+    d->slider->disconnect(this);
+    d->spinBox->disconnect(this);
+}
 
 void DoubleSliderInputWidget::setValue(double value)
 {

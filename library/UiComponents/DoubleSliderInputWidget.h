@@ -30,7 +30,7 @@ public:
     ///
     /// An end counts as the step that is nearest to it, halves away from zero: with 2 decimals, 0.005 is
     /// 0.01. The slider counts steps in 32 bits; an end that lies further out, also an infinite one,
-    /// becomes the last step there is (with 9 decimals ±2.147483647). NaN counts as 0.
+    /// becomes the last step there is (with 9 decimals -2.147483648 or 2.147483647). NaN counts as 0.
     struct Initializer
     {
         double minimum;

@@ -27,7 +27,8 @@ Scale scaleOf(const QRectF& limits, const QSize& size);
 /// whatever multiplying by the scale would make of them.
 QPointF toPoint(const QPointF& pixel, const QRectF& limits, const Scale& scale, const QSize& size);
 
-/// Where @p point is in pixels, neither rounded nor clamped; infinite or NaN where the scale does not tell.
+/// Where @p point is in pixels, neither rounded nor clamped; 0, infinite or NaN where the scale does not
+/// tell.
 QPointF toPixel(const QPointF& point, const QRectF& limits, const Scale& scale);
 
 /// The pixel of @p rect that is nearest to @p pixel; the top left one of an empty rectangle.

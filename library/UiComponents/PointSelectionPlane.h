@@ -27,7 +27,8 @@
  * keys move the point by one pixel, with Shift by ten, and stop at the edges.
  *
  * The point is kept as it is when the pad is resized, also during a drag, and when the limits change. It may
- * lie outside of the limits, and a pad of one pixel or without limits has no scale; then no marker is drawn.
+ * lie outside of the limits; then no marker is drawn. A pad of one pixel or without limits has no scale: what
+ * is picked there is NaN or (0, 0), and the marker's place means nothing.
  *
  * The pad paints a flat background, two axes through its middle, which do not follow the point, and a round
  * marker at the point. It has no frame, and no size of its own: the style sheet gives it one. Users who came
@@ -57,7 +58,8 @@ public:
     ~PointSelectionPlane() override;
 
     /// Sets the rectangle that the pad stands for. The point stays, wherever it then lies, and nothing is
-    /// emitted. Infinite limits and NaN are taken; as long as they last, no marker is drawn.
+    /// emitted. Infinite limits and NaN are taken; as long as they last, what is picked and the marker's
+    /// place mean nothing.
     void setLimits(const QRectF& limits);
 
     /// Sets the point, also one outside of the limits, infinite or NaN, and moves the marker. Emits nothing.

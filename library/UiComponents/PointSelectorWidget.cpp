@@ -11,8 +11,11 @@
 #include <QPointer>
 
 #include <cmath>
+#include <limits>
 
 namespace {
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
 
 template <typename Layout>
 Layout* makeLayout(QWidget* owner)
@@ -30,8 +33,9 @@ void configure(OvDoubleSpinBox* spinBox, double minimum, double maximum, int dec
     spinBox->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
     spinBox->setSingleStep(StepRange::stepOf(decimals));
     spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-    spinBox->setMinimum(minimum);
-    spinBox->setMaximum(maximum);
+    // A spin box would have a bound of NaN as its only value.
+    spinBox->setMinimum(std::isnan(minimum) ? -infinite : minimum);
+    spinBox->setMaximum(std::isnan(maximum) ? infinite : maximum);
     spinBox->setDecimals(decimals);
 }
 
@@ -123,14 +127,17 @@ void PointSelectorWidget::Private::followSpinBox(const QPointF& reported)
 void PointSelectorWidget::Private::followPlane(const QPointF& reported)
 {
     const QPointer<PointSelectorWidget> guard(owner);
+    const QPointF before = pointSelector->point();
     Q_EMIT owner->valueChanged(reported);
     if (!guard || owner->updating) {
         return;
     }
     owner->updating = true;
     isOverruled = false;
-    // Not what was reported: a slot may have set another value since.
-    const QPointF point = pointSelector->point();
+    // What was reported, unless a slot has set another value since. QPointF's own comparison is too coarse.
+    const QPointF now = pointSelector->point();
+    const bool isSame = now.x() == before.x() && now.y() == before.y();
+    const QPointF point = isSame ? reported : now;
     setNumber(xSpinbox, point.x());
     if (!guard) {
         return;
@@ -162,7 +169,14 @@ PointSelectorWidget::PointSelectorWidget(QWidget* parent, const Initializer& ini
             [this](const QPointF& point) { d->followPlane(point); });
 }
 
-PointSelectorWidget::~PointSelectorWidget() = default;
+PointSelectorWidget::~PointSelectorWidget()
+{
+    // A window is hidden only in ~QWidget(): a spin box in it loses its focus then, commits what was typed
+    // and reports it, when there is no private object any more.
+    d->xSpinbox->disconnect(this);
+    d->ySpinbox->disconnect(this);
+    d->pointSelector->disconnect(this);
+}
 
 void PointSelectorWidget::setValue(const QPointF& value)
 {

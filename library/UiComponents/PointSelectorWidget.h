@@ -38,15 +38,16 @@ public:
     /// The range of a field and its decimals.
     ///
     /// A maximum below its minimum turns the plane's axis round, while the spin box then has its minimum
-    /// as the only value. Infinite ends are taken as they are: the plane has no marker then. NaN is no end
-    /// to the spin box and leaves the plane without a marker.
+    /// as the only value. Infinite ends are taken as they are: the plane has no scale then, and its
+    /// marker's place means nothing. NaN is no end to the spin box and leaves the plane without a scale.
     struct Initializer
     {
         /// The least x and the least y.
         QPointF minimum;
         /// The largest x and the largest y.
         QPointF maximum;
-        /// Between 0 and 323; others are clamped. A step is one unit of the last decimal.
+        /// Between 0 and 323; others are clamped. A step is one unit of the last decimal, as long as
+        /// they are not clamped.
         int xDecimals;
         int yDecimals;
     };

@@ -31,7 +31,13 @@ SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     connect(d->spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &SliderInputWidget::valueChanged);
 }
 
-SliderInputWidget::~SliderInputWidget() = default;
+SliderInputWidget::~SliderInputWidget()
+{
+    // A window is hidden only in ~QWidget(): a spin box in it loses its focus then, commits what was typed
+    // and reports it. Nobody is to hear of it from half a field.
+    d->slider->disconnect(this);
+    d->spinBox->disconnect(this);
+}
 
 void SliderInputWidget::setValue(int value)
 {

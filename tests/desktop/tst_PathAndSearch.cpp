@@ -1,7 +1,6 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
-#include <UiComponents/AdjustingListView.h>
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/SearchWidget.h>
 

@@ -1,4 +1,5 @@
 #include "DecimalNumber.h"
+#include "DestroyedWhileTyping.h"
 #include "FreedMemory.h"
 #include "MetaObject.h"
 #include "TestMain.h"
@@ -16,7 +17,9 @@
 
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -117,6 +120,7 @@ private Q_SLOTS:
     void slotKeepsSettingOtherValues();
     void deletedInItsSignal_data();
     void deletedInItsSignal();
+    void destroyedWhileTyping();
 
     void labelBuddyReachesTheSlider();
     void tabOrder();
@@ -706,6 +710,15 @@ void tst_DoubleSliderInputWidget::deletedInItsSignal()
     QVERIFY(!field);
     QVERIFY(watch.deleted() > 0);
     QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+}
+
+void tst_DoubleSliderInputWidget::destroyedWhileTyping()
+{
+    auto field = std::make_unique<DoubleSliderInputWidget>(
+        nullptr, DoubleSliderInputWidget::Initializer{10.0, 100.0, 1});
+    field->setValue(50);
+    auto* spinBox = spinBoxOf(*field);
+    destroyWhileTyping(std::move(field), spinBox);
 }
 
 void tst_DoubleSliderInputWidget::labelBuddyReachesTheSlider()

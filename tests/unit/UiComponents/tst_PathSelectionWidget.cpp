@@ -336,9 +336,12 @@ void tst_PathSelectionWidget::cleanup()
 void tst_PathSelectionWidget::metaObject()
 {
     const QMetaObject& meta = PathSelectionWidget::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("PathSelectionWidget"));
     QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
     QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal pathChanged(QString)"),
                                             QStringLiteral("signal browseDirectoryRequested(QUrl)")}));
+    QCOMPARE(meta.method(meta.methodOffset()).parameterNames(), QList<QByteArray>{"path"});
+    QCOMPARE(meta.method(meta.methodOffset() + 1).parameterNames(), QList<QByteArray>{"url"});
     QCOMPARE(ownProperties(meta), QStringList());
     QCOMPARE(static_cast<int>(PathSelectionWidget::ErrorDisplayType::Tooltip), 1);
     QCOMPARE(static_cast<int>(PathSelectionWidget::ErrorDisplayType::Label), 2);

@@ -376,20 +376,25 @@ void tst_PointSelectionPlane::upsideDownLimits()
 void tst_PointSelectionPlane::infiniteLimits_data()
 {
     QTest::addColumn<QRectF>("rect");
-    QTest::newRow("infinite size") << QRectF(0, 0, infinite, infinite);
-    QTest::newRow("infinite corner") << QRectF(-infinite, -infinite, infinite, infinite);
-    QTest::newRow("NaN") << QRectF(noNumber, noNumber, noNumber, noNumber);
-    QTest::newRow("largest") << QRectF(-largest, -largest, largest, largest);
+    QTest::addColumn<bool>("drawn");
+    QTest::addColumn<QPointF>("marker");
+    QTest::newRow("infinite size") << QRectF(0, 0, infinite, infinite) << true << QPointF(0, 0);
+    QTest::newRow("infinite corner") << QRectF(-infinite, -infinite, infinite, infinite) << false
+                                     << QPointF();
+    QTest::newRow("NaN") << QRectF(noNumber, noNumber, noNumber, noNumber) << false << QPointF();
+    QTest::newRow("largest") << QRectF(-largest, -largest, largest, largest) << true << QPointF(100, 50);
 }
 
 void tst_PointSelectionPlane::infiniteLimits()
 {
     QFETCH(QRectF, rect);
+    QFETCH(bool, drawn);
+    QFETCH(QPointF, marker);
     Plane plane;
     plane.setPoint({10, 110});
     plane.setLimits(rect);
     QCOMPARE(plane.point(), QPointF(10, 110));
-    QCOMPARE(pictureOf(plane).size(), plane.size());
+    QCOMPARE(pictureOf(plane), picture(plane.size(), drawn ? std::optional<QPointF>(marker) : std::nullopt));
     press(plane, {30, 20});
     drag(plane, {40, 20});
     release(plane, {40, 20});

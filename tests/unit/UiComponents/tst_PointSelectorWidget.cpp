@@ -1,4 +1,5 @@
 #include "DecimalNumber.h"
+#include "DestroyedWhileTyping.h"
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MetaObject.h"
@@ -18,7 +19,9 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <memory>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -141,6 +144,7 @@ private Q_SLOTS:
     void oddDecimals_data();
     void oddDecimals();
     void planeOfOnePixel();
+    void planeReportsForItself();
     void randomWalk_data();
     void randomWalk();
 
@@ -150,6 +154,8 @@ private Q_SLOTS:
     void deletedInItsSignal_data();
     void deletedInItsSignal();
     void deletedBetweenTheCoordinates();
+    void destroyedWhileTyping_data();
+    void destroyedWhileTyping();
 
     void languageChange();
     void labelsAreEmpty();
@@ -548,6 +554,9 @@ void tst_PointSelectorWidget::oddRanges_data()
     QTest::newRow("infinite") << QPointF(-infinite, -infinite) << QPointF(infinite, infinite);
     QTest::newRow("infinite, reversed") << QPointF(infinite, infinite) << QPointF(-infinite, -infinite);
     QTest::newRow("NaN") << QPointF(noNumber, noNumber) << QPointF(noNumber, noNumber);
+    QTest::newRow("NaN minimum") << QPointF(noNumber, noNumber) << QPointF(100, 100);
+    QTest::newRow("NaN maximum") << QPointF(0, 0) << QPointF(noNumber, noNumber);
+    QTest::newRow("NaN below") << QPointF(noNumber, noNumber) << QPointF(-infinite, -infinite);
     QTest::newRow("largest") << QPointF(-largest, -largest) << QPointF(largest, largest);
     QTest::newRow("nothing") << QPointF() << QPointF();
 }
@@ -557,13 +566,20 @@ void tst_PointSelectorWidget::oddRanges()
     QFETCH(QPointF, minimum);
     QFETCH(QPointF, maximum);
     Field field({minimum, maximum, 2, 2});
+    const auto hasNumbers = [&field] {
+        return !std::isnan(field.x->value()) && !std::isnan(field.y->value());
+    };
+    QVERIFY(hasNumbers());
     field.setValue({1, 2});
+    QVERIFY(hasNumbers());
     press(*field.plane, {30, 40});
     drag(*field.plane, {31, 41});
     release(*field.plane, {31, 41});
     QTest::keyClick(field.plane, Qt::Key_Left);
     QTest::keyClick(field.x, Qt::Key_Up);
+    QVERIFY(hasNumbers());
     field.setValue({infinite, -infinite});
+    QVERIFY(hasNumbers());
     field.grab();
     QVERIFY(!field.reports().isEmpty());
 }
@@ -606,6 +622,18 @@ void tst_PointSelectorWidget::planeOfOnePixel()
     QCOMPARE(reports.size(), 2);
     QVERIFY(std::isnan(reports.front().x()));
     QCOMPARE(field.numbers(), QPointF(30, 40));
+}
+
+// It is the signal's point that counts, not the one that the plane has.
+void tst_PointSelectorWidget::planeReportsForItself()
+{
+    Field field;
+    field.setValue({1, 2});
+    field.reports();
+    Q_EMIT field.plane->pointChanged({30, 40});
+    QCOMPARE(field.reports(), Points({{30, 40}, {30, 2}, {30, 40}}));
+    QCOMPARE(field.numbers(), QPointF(30, 40));
+    QCOMPARE(field.plane->point(), QPointF(1, 2));
 }
 
 void tst_PointSelectorWidget::randomWalk_data()
@@ -796,6 +824,23 @@ void tst_PointSelectorWidget::deletedBetweenTheCoordinates()
             &parent, [&field] { delete field; });
     field->setValue({30, 40});
     QVERIFY(!field);
+}
+
+void tst_PointSelectorWidget::destroyedWhileTyping_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("x") << "xSpinbox";
+    QTest::newRow("y") << "ySpinbox";
+}
+
+void tst_PointSelectorWidget::destroyedWhileTyping()
+{
+    QFETCH(QString, name);
+    auto field = std::make_unique<PointSelectorWidget>(
+        nullptr, PointSelectorWidget::Initializer{{10.0, 10.0}, {100.0, 100.0}, 1, 1});
+    field->setValue({50, 50});
+    auto* spinBox = field->findChild<OvDoubleSpinBox*>(name);
+    destroyWhileTyping(std::move(field), spinBox);
 }
 
 void tst_PointSelectorWidget::languageChange()

@@ -220,6 +220,7 @@ void tst_SearchWidget::init()
 void tst_SearchWidget::metaObject()
 {
     const QMetaObject& meta = SearchWidget::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("SearchWidget"));
     QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
     QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal editingFinished(QString)"),
                                             QStringLiteral("signal textChanged(QString)")}));

@@ -1,3 +1,4 @@
+#include "DestroyedWhileTyping.h"
 #include "FreedMemory.h"
 #include "MetaObject.h"
 #include "TestMain.h"
@@ -16,7 +17,9 @@
 #include <QtMath>
 
 #include <limits>
+#include <memory>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -108,6 +111,7 @@ private Q_SLOTS:
     void deletedInItsSignal_data();
     void deletedInItsSignal();
     void deletedLaterWhileTyping();
+    void destroyedWhileTyping();
 
     void labelBuddyReachesTheSlider();
     void tabOrder();
@@ -543,6 +547,14 @@ void tst_SliderInputWidget::deletedLaterWhileTyping()
     connect(field.data(), &SliderInputWidget::valueChanged, field.data(), &QObject::deleteLater);
     QTest::keyClicks(spinBoxOf(*field), QStringLiteral("5"));
     QTRY_VERIFY(!field);
+}
+
+void tst_SliderInputWidget::destroyedWhileTyping()
+{
+    auto field = std::make_unique<SliderInputWidget>(nullptr, SliderInputWidget::Initializer{10, 100});
+    field->setValue(50);
+    auto* spinBox = spinBoxOf(*field);
+    destroyWhileTyping(std::move(field), spinBox);
 }
 
 void tst_SliderInputWidget::labelBuddyReachesTheSlider()
