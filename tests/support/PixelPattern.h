@@ -18,7 +18,7 @@ public:
         Backmost,
         /// The size of the screen on which it starts, as the window manager does it.
         FullScreen,
-        /// As any application's, at its place.
+        /// As any application's, at its place; its title is "Pixel pattern".
         Ordinary,
     };
 

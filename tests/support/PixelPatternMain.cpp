@@ -64,7 +64,6 @@ int main(int argc, char** argv)
     const auto kind = static_cast<PixelPattern::Window>(arguments.at(5).toInt());
 
     PatternWindow window;
-    window.setWindowTitle(QStringLiteral("Pixel pattern"));
     window.setGeometry(place);
     switch (kind) {
     case PixelPattern::Window::Backmost:
@@ -76,6 +75,7 @@ int main(int argc, char** argv)
         window.showFullScreen();
         break;
     case PixelPattern::Window::Ordinary:
+        window.setWindowTitle(QStringLiteral("Pixel pattern"));
         window.show();
         break;
     }

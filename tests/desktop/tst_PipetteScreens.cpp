@@ -1,0 +1,496 @@
+#include "PixelPattern.h"
+#include "RealInput.h"
+#include "TestMain.h"
+
+#include <UiComponents/Pipette.h>
+
+#include <QApplication>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QScreen>
+
+#include <cmath>
+
+/**
+ * The pipette over another application's pixels, on screens of several sizes, places and scales: the colour
+ * is that of the very pixel, and the loupe shows its neighbours. Each run is on other screens.
+ */
+class tst_PipetteScreens : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void everyScreenIsCovered();
+    void pickedPixelIsTheVeryPixel();
+    void cornersOfEveryScreen();
+    void loupeShowsTheNeighbours();
+    void loupeMovesIntoItsOwnPlace();
+    void loupeStaysOnItsScreen();
+    void loupeChangesTheScreen();
+    void fullScreenWindowIsPickedFrom();
+    void escapeEndsWithoutAColour();
+    void anyKeyEndsWithoutAColour();
+    void anotherApplicationEndsThePick();
+    void removedScreenEndsThePick();
+
+private:
+    bool start();
+    bool pick(const QPoint& point);
+    bool pickOnEach(const std::function<QVector<QPoint>(const QScreen*)>& pointsOf);
+
+    std::unique_ptr<PixelPattern> m_pattern;
+    std::unique_ptr<QWidget> m_host;
+    std::unique_ptr<Pipette> m_pipette;
+};
+
+namespace {
+
+constexpr int LoupePixels = 13;
+constexpr int Magnification = 9;
+constexpr int LoupeSize = LoupePixels * Magnification;
+
+/// The X server's pixel that Qt's global @p point stands for.
+QPoint nativePixel(const QPoint& point)
+{
+    const QScreen* screen = QGuiApplication::screenAt(point);
+    const QPoint corner = screen->geometry().topLeft();
+    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
+}
+
+QRgb patternAt(const QPoint& point)
+{
+    const QPoint pixel = nativePixel(point);
+    return PixelPattern::colorAt(pixel.x(), pixel.y());
+}
+
+/// @p color under a black of alpha 1.
+QRgb darkened(QRgb color)
+{
+    const auto channel = [](int value) { return value >= 128 ? value - 1 : value; };
+    return qRgb(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)));
+}
+
+/// Whether @p picked is what can be known of @p color: below the pipette's windows 127 and 128 are the same.
+bool isPickOf(const QColor& picked, QRgb color)
+{
+    return picked.alpha() == 255 && darkened(picked.rgb()) == darkened(color);
+}
+
+QRgb screenAtPoint(const QPoint& point)
+{
+    QScreen* screen = QGuiApplication::screenAt(point);
+    const QPoint local = point - screen->geometry().topLeft();
+    return screen->grabWindow(0, local.x(), local.y(), 1, 1).toImage().pixel(0, 0);
+}
+
+QList<QGraphicsView*> views()
+{
+    QList<QGraphicsView*> found;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        auto* view = qobject_cast<QGraphicsView*>(window);
+        if (view && view->inherits("PipetteScreenView") && view->isVisible()) {
+            found.append(view);
+        }
+    }
+    return found;
+}
+
+QWidget* loupe()
+{
+    const auto all = QApplication::allWidgets();
+    const auto found = std::find_if(all.cbegin(), all.cend(),
+                                    [](const QWidget* widget) { return widget->inherits("LoupeWidget"); });
+    return found == all.cend() ? nullptr : *found;
+}
+
+/// Where the loupe is, in global coordinates; null while it is hidden.
+QRect loupeRect()
+{
+    const QWidget* widget = loupe();
+    const QGraphicsProxyWidget* proxy = widget ? widget->graphicsProxyWidget() : nullptr;
+    return proxy && proxy->isVisible() ? proxy->sceneBoundingRect().toRect() : QRect();
+}
+
+bool isCovered(const QScreen* screen)
+{
+    // The loupe may lie over one of two places that are further apart than it is large.
+    const QRect area = screen->geometry();
+    const QPoint places[] = {area.topLeft() + QPoint(5, 5), area.bottomLeft() + QPoint(5, -5)};
+    return std::any_of(std::begin(places), std::end(places), [](QPoint point) {
+        // The first pixel whose colour shows whether something dark lies over it.
+        while (darkened(patternAt(point)) == patternAt(point)) {
+            point.rx() += 1;
+        }
+        return screenAtPoint(point) == darkened(patternAt(point));
+    });
+}
+
+bool allAreCovered()
+{
+    const auto screens = QGuiApplication::screens();
+    return std::all_of(screens.cbegin(), screens.cend(), isCovered);
+}
+
+QRect everything()
+{
+    QRect all;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        all |= QRect(screen->geometry().topLeft(), screen->size() * screen->devicePixelRatio());
+    }
+    return all;
+}
+
+bool moveMouse(const QPoint& global)
+{
+    // RealInput wants a widget: the one whose coordinates are global.
+    const QWidget desktop;
+    return RealInput::moveTo(&desktop, global - desktop.mapToGlobal(QPoint(0, 0)));
+}
+
+bool clickMouse()
+{
+    return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")}) == 0;
+}
+
+/// The points of @p screen that are not under the test's own window.
+bool isFree(const QPoint& point, const QWidget& host)
+{
+    return !host.frameGeometry().adjusted(-2, -2, 2, 2).contains(point);
+}
+
+} // namespace
+
+void tst_PipetteScreens::initTestCase()
+{
+    QVERIFY(QGuiApplication::screens().size() > 1);
+    qApp->setStyleSheet(QStringLiteral("LoupeWidget { min-width: %1px; max-width: %1px; min-height: %1px;"
+                                       " max-height: %1px; background: transparent; border: none; }"
+                                       "LoupeWidget QLabel { color: transparent; background: transparent; }")
+                            .arg(LoupeSize));
+}
+
+void tst_PipetteScreens::init()
+{
+    m_pattern = std::make_unique<PixelPattern>();
+    QVERIFY(m_pattern->show(everything()));
+    m_host = std::make_unique<QWidget>();
+    const QRect primary = QGuiApplication::primaryScreen()->geometry();
+    m_host->setGeometry(QRect(primary.topLeft() + QPoint(150, 150), QSize(100, 60)));
+    QVERIFY(RealInput::showAndActivate(m_host.get()));
+    m_pipette = std::make_unique<Pipette>();
+}
+
+void tst_PipetteScreens::cleanup()
+{
+    m_pipette.reset();
+    m_host.reset();
+    m_pattern.reset();
+    QTRY_VERIFY(views().isEmpty());
+}
+
+/// Starts a pick and waits until it can be seen.
+bool tst_PipetteScreens::start()
+{
+    m_pipette->startPicking();
+    return QTest::qWaitFor(allAreCovered);
+}
+
+/// Picks the colour at @p point and says whether it is the right one.
+bool tst_PipetteScreens::pick(const QPoint& point)
+{
+    const QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
+    const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
+    if (!start() || !moveMouse(point) || !clickMouse() ||
+        !QTest::qWaitFor([&stopped] { return stopped.count() == 1; }) || selected.count() != 1) {
+        qInfo() << "no pick at" << point << selected.count() << stopped.count();
+        return false;
+    }
+    const auto picked = selected.at(0).at(0).value<QColor>();
+    const bool isRight = isPickOf(picked, patternAt(point)) && m_pipette->currentColor() == picked;
+    if (!isRight) {
+        qInfo() << "at" << point << "picked" << picked.name() << "instead of"
+                << QColor(patternAt(point)).name();
+    }
+    return isRight;
+}
+
+bool tst_PipetteScreens::pickOnEach(const std::function<QVector<QPoint>(const QScreen*)>& pointsOf)
+{
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QVector<QPoint> points = pointsOf(screen);
+        for (const QPoint& point : points) {
+            if (!pick(point)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void tst_PipetteScreens::everyScreenIsCovered()
+{
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        QVERIFY(moveMouse(screen->geometry().center()));
+        QVERIFY(start());
+        QList<QRect> covered;
+        for (const QGraphicsView* view : views()) {
+            covered.append(view->geometry());
+        }
+        QCOMPARE(covered.size(), screens.size());
+        for (const QScreen* other : screens) {
+            QVERIFY(covered.contains(other->geometry()));
+        }
+        // The one under the cursor has the keyboard.
+        QTRY_VERIFY(QApplication::activeWindow());
+        QTRY_COMPARE(QApplication::activeWindow()->geometry(), screen->geometry());
+        m_pipette->stopPicking();
+        QTRY_VERIFY(views().isEmpty());
+    }
+}
+
+void tst_PipetteScreens::pickedPixelIsTheVeryPixel()
+{
+    constexpr int PicksPerScreen = 40;
+    QRandomGenerator random(4);
+    QVERIFY(pickOnEach([&random, this](const QScreen* screen) {
+        QVector<QPoint> points;
+        while (points.size() < PicksPerScreen) {
+            const QPoint point =
+                screen->geometry().topLeft() +
+                QPoint(random.bounded(screen->size().width()), random.bounded(screen->size().height()));
+            if (isFree(point, *m_host)) {
+                points.append(point);
+            }
+        }
+        return points;
+    }));
+}
+
+void tst_PipetteScreens::cornersOfEveryScreen()
+{
+    QVERIFY(pickOnEach([](const QScreen* screen) {
+        const QRect area = screen->geometry();
+        return QVector<QPoint>{area.topLeft(),
+                               area.topRight(),
+                               area.bottomLeft(),
+                               area.bottomRight(),
+                               QPoint(area.center().x(), area.top() + 1),
+                               QPoint(area.right() - 1, area.center().y())};
+    }));
+}
+
+void tst_PipetteScreens::loupeShowsTheNeighbours()
+{
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const qreal scale = screen->devicePixelRatio();
+        const QRect area = screen->geometry();
+        // Where the loupe lies above right, and where it lies below left over the cursor's own pixels.
+        for (const QPoint& cursor : {area.center(), QPoint(area.right() - 20, area.top() + 20)}) {
+            QVERIFY(start());
+            QVERIFY(moveMouse(cursor));
+            QTRY_VERIFY(loupeRect().isValid());
+            const auto* label = loupe()->findChild<QLabel*>(QStringLiteral("colorNameLabel"));
+            QTRY_VERIFY(isPickOf(QColor(label->text()), patternAt(cursor)));
+
+            const auto firstDifference = [cursor, scale]() -> QString {
+                const QPoint corner = loupeRect().topLeft();
+                for (int y = 0; y < LoupePixels; ++y) {
+                    for (int x = 0; x < LoupePixels; ++x) {
+                        const double dx = x - LoupePixels / 2;
+                        const double dy = y - LoupePixels / 2;
+                        // Well inside of the circle.
+                        if (std::hypot(dx, dy) > LoupePixels / 2 - 1) {
+                            continue;
+                        }
+                        // The pixel in the corner of what one of the desktop has become.
+                        const QPoint shown = corner + QPoint(x, y) * Magnification +
+                                             QPoint(1, 1) * int(scale > 1 ? 2 : Magnification / 2);
+                        const QPoint shows = cursor + QPoint(int(dx), int(dy));
+                        if (screenAtPoint(shown) != darkened(patternAt(shows))) {
+                            return QStringLiteral("%1, %2").arg(dx).arg(dy);
+                        }
+                    }
+                }
+                return {};
+            };
+            // Between the pixels of a fractional scale the picture is drawn unevenly.
+            if (scale == std::floor(scale)) {
+                QTRY_COMPARE(firstDifference(), QString());
+            }
+            m_pipette->stopPicking();
+            QTRY_VERIFY(views().isEmpty());
+        }
+    }
+}
+
+void tst_PipetteScreens::loupeMovesIntoItsOwnPlace()
+{
+    // Straight into where the loupe stands, and a click as soon as the cursor is there.
+    const QPoint from = QGuiApplication::screens().last()->geometry().center();
+    for (const QPoint& step : {QPoint(30, -30), QPoint(60, -60), QPoint(7, -7), QPoint(100, -10)}) {
+        QVERIFY(start());
+        QVERIFY(moveMouse(from));
+        QTRY_VERIFY(loupeRect().contains(from + QPoint(30, -30)));
+        QTRY_VERIFY(screenAtPoint(from + QPoint(58, -58)) != darkened(patternAt(from + QPoint(58, -58))));
+        const QPoint to = from + step;
+        const QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
+        const QPoint pixel = nativePixel(to);
+        QCOMPARE(
+            QProcess::execute(QStringLiteral("xdotool"),
+                              {QStringLiteral("mousemove"), QString::number(pixel.x()),
+                               QString::number(pixel.y()), QStringLiteral("click"), QStringLiteral("1")}),
+            0);
+        QTRY_COMPARE(selected.count(), 1);
+        QVERIFY(isPickOf(selected.at(0).at(0).value<QColor>(), patternAt(to)));
+        QTRY_VERIFY(views().isEmpty());
+    }
+}
+
+void tst_PipetteScreens::loupeStaysOnItsScreen()
+{
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QRect area = screen->geometry();
+        QVERIFY(start());
+        const QSize size(LoupeSize, LoupeSize);
+        const auto isAt = [size](const QPoint& corner) { return loupeRect() == QRect(corner, size); };
+
+        const QPoint middle = area.center();
+        QVERIFY(moveMouse(middle));
+        QTRY_VERIFY(isAt(middle - QPoint(0, LoupeSize)));
+        const QPoint right(area.right() - 10, middle.y());
+        QVERIFY(moveMouse(right));
+        QTRY_VERIFY(isAt(right - QPoint(LoupeSize, LoupeSize)));
+        const QPoint top(middle.x(), area.top() + 10);
+        QVERIFY(moveMouse(top));
+        QTRY_VERIFY(isAt(top));
+        const QPoint corner(area.right() - 10, area.top() + 10);
+        QVERIFY(moveMouse(corner));
+        QTRY_VERIFY(isAt(corner - QPoint(LoupeSize, 0)));
+        m_pipette->stopPicking();
+        QTRY_VERIFY(views().isEmpty());
+    }
+}
+
+void tst_PipetteScreens::loupeChangesTheScreen()
+{
+    const QPoint first = QGuiApplication::screens().at(0)->geometry().center();
+    const QPoint second = QGuiApplication::screens().at(1)->geometry().center();
+    QVERIFY(moveMouse(first));
+    QVERIFY(start());
+    const QSize size(LoupeSize, LoupeSize);
+    for (const QPoint& point : {second, first, second}) {
+        QVERIFY(moveMouse(point));
+        QTRY_COMPARE(loupeRect(), QRect(point - QPoint(0, LoupeSize), size));
+        // Not on the other one any more.
+        const QPoint other = point == first ? second : first;
+        const QPoint inOther = other + QPoint(LoupeSize / 2, -LoupeSize / 2);
+        QTRY_COMPARE(screenAtPoint(inOther), darkened(patternAt(inOther)));
+    }
+}
+
+void tst_PipetteScreens::fullScreenWindowIsPickedFrom()
+{
+    const QScreen* screen = QGuiApplication::screens().last();
+    PixelPattern film;
+    QVERIFY(film.show(QRect(screen->geometry().topLeft() + QPoint(30, 40), QSize(200, 100)),
+                      PixelPattern::Window::FullScreen));
+    QVERIFY(pick(screen->geometry().topLeft() + QPoint(10, 10)));
+    QVERIFY(pick(screen->geometry().center()));
+}
+
+void tst_PipetteScreens::escapeEndsWithoutAColour()
+{
+    const QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
+    const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
+    QVERIFY(moveMouse(QGuiApplication::screens().last()->geometry().center()));
+    QVERIFY(start());
+    QTRY_VERIFY(QApplication::focusWidget());
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QTRY_COMPARE(stopped.count(), 1);
+    QTRY_VERIFY(views().isEmpty());
+    // The key arrives in two shapes: whatever was on its way is there once the next one has been typed.
+    QTRY_VERIFY(m_host->isActiveWindow());
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QVERIFY(!m_pipette->currentColor().isValid());
+    QCOMPARE(stopped.count(), 1);
+    QCOMPARE(selected.count(), 0);
+}
+
+void tst_PipetteScreens::anyKeyEndsWithoutAColour()
+{
+    const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
+    QVERIFY(start());
+    QTRY_VERIFY(QApplication::focusWidget());
+    QVERIFY(RealInput::key(QStringLiteral("ctrl+s")));
+    QTRY_COMPARE(stopped.count(), 1);
+    QVERIFY(!m_pipette->currentColor().isValid());
+}
+
+void tst_PipetteScreens::anotherApplicationEndsThePick()
+{
+    PixelPattern other;
+    QVERIFY(other.show(QRect(m_host->geometry().bottomRight() + QPoint(50, 50), QSize(60, 40)),
+                       PixelPattern::Window::Ordinary));
+    QVERIFY(RealInput::showAndActivate(m_host.get()));
+    const QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
+    const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
+    QVERIFY(start());
+    QTRY_VERIFY(QApplication::activeWindow());
+    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
+                               {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                QStringLiteral("--name"), QStringLiteral("^Pixel pattern$"),
+                                QStringLiteral("windowactivate")}),
+             0);
+    QTRY_COMPARE(stopped.count(), 1);
+    QTRY_VERIFY(views().isEmpty());
+    QCOMPARE(selected.count(), 0);
+}
+
+void tst_PipetteScreens::removedScreenEndsThePick()
+{
+    const auto xrandr = [](const QStringList& arguments) {
+        return QProcess::execute(QStringLiteral("xrandr"), arguments) == 0 &&
+               QProcess::execute(QStringLiteral("sh"),
+                                 {QStringLiteral("-c"), QStringLiteral("xrandr >/dev/null")}) == 0;
+    };
+    const QScreen* screen = QGuiApplication::screens().last();
+    const QString output = screen->name();
+    const QRect place(screen->geometry().topLeft(), screen->size() * screen->devicePixelRatio());
+    const int count = QGuiApplication::screens().size();
+
+    const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
+    QVERIFY(start());
+    QVERIFY(xrandr({QStringLiteral("--output"), output, QStringLiteral("--off")}));
+    QTRY_COMPARE(QGuiApplication::screens().size(), count - 1);
+    QTRY_COMPARE(stopped.count(), 1);
+    QTRY_VERIFY(views().isEmpty());
+
+    // The others can be picked from; a new one ends the pick, too.
+    QVERIFY(start());
+    QVERIFY(xrandr({QStringLiteral("--output"), output, QStringLiteral("--mode"),
+                    QStringLiteral("%1x%2").arg(place.width()).arg(place.height()), QStringLiteral("--pos"),
+                    QStringLiteral("%1x%2").arg(place.x()).arg(place.y())}));
+    QTRY_COMPARE(QGuiApplication::screens().size(), count);
+    QTRY_COMPARE(stopped.count(), 2);
+    QTRY_VERIFY(views().isEmpty());
+    m_pattern.reset();
+    m_pattern = std::make_unique<PixelPattern>();
+    QVERIFY(m_pattern->show(everything()));
+    QVERIFY(pick(QGuiApplication::screens().last()->geometry().center()));
+}
+
+UIC_TEST_MAIN(tst_PipetteScreens)
+#include "tst_PipetteScreens.moc"
