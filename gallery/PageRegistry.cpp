@@ -56,12 +56,12 @@ QVector<PageInfo> PageRegistry::pages()
         // colour
         ColorPickerButtonPage::info(),
         ColorInputPage::info(),
+        ColorPanelPage::info(),
         ColorSelectorPage::info(),
         ColorPlanePage::info(),
-        ColorPanelPage::info(),
         BlendingModesPage::info(),
-        WidgetColorPickerPage::info(),
         PipettePage::info(),
+        WidgetColorPickerPage::info(),
         // inputs
         SliderInputPage::info(),
         DoubleSliderInputPage::info(),
