@@ -7,6 +7,8 @@
 
 using ScreenSample::ScreenArea;
 
+Q_DECLARE_METATYPE(ScreenSample::ScreenArea)
+
 namespace {
 
 constexpr QSize loupe(ScreenSample::loupePixels, ScreenSample::loupePixels);
@@ -255,8 +257,6 @@ void tst_ScreenSample::overlayIsTakenOffEveryValue()
     QVERIFY(brighter.redF() > 1.0);
     QCOMPARE(brighter.name(), QStringLiteral("#ffffff"));
 }
-
-Q_DECLARE_METATYPE(ScreenSample::ScreenArea)
 
 UIC_TEST_MAIN(tst_ScreenSample)
 #include "tst_ScreenSample.moc"
