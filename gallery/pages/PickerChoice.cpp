@@ -5,11 +5,18 @@
 #include "../SignalLogView.h"
 
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/Pipette.h>
 
 PickerChoice::PickerChoice(const QVector<ColorPickerButton*>& fields, SignalLogView* log, QObject* parent)
     : QObject(parent)
     , m_log(log)
+    , m_pipette(new Pipette(this))
 {
+    connect(m_pipette, &Pipette::colorSelected, this, &PickerChoice::applyScreenColor);
+    connect(m_pipette, &Pipette::pickingStopped, this, [this] { m_pipetteField = nullptr; });
+    if (log) {
+        log->watch(m_pipette, QStringLiteral("pipette"));
+    }
     for (ColorPickerButton* field : fields) {
         m_fields.append(field);
     }
@@ -37,7 +44,24 @@ void PickerChoice::setKind(Kind kind)
 {
     if (m_kind != kind) {
         m_kind = kind;
+        if (m_pipetteField) {
+            m_pipette->stopPicking();
+        }
         installPickers();
+    }
+}
+
+void PickerChoice::pickFromScreen(ColorPickerButton* field)
+{
+    m_pipetteField = field;
+    m_pipette->startPicking();
+}
+
+void PickerChoice::applyScreenColor(const QColor& color)
+{
+    if (m_pipetteField) {
+        // The field tells its picker, and the panel opens with the colour next time.
+        m_pipetteField->setColor(color);
     }
 }
 
@@ -53,6 +77,8 @@ void PickerChoice::installPickers()
         if (m_kind == Kind::Panel) {
             auto* panelPicker = new PanelColorPicker(field);
             m_panelPickers.append(panelPicker);
+            connect(panelPicker, &PanelColorPicker::pipetteRequested, this,
+                    [this, field] { pickFromScreen(field); });
             picker = panelPicker;
         } else {
             picker = new DialogColorPicker(field);

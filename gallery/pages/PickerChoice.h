@@ -7,12 +7,13 @@
 #include <QVector>
 
 class ColorPickerButton;
+class Pipette;
 class PropertyPanel;
 class SignalLogView;
 
 /**
  * The controls of a page with colour fields: which picker they have, the colour panel or Qt's dialog, and
- * the options of the panel.
+ * the options of the panel. The panel's pipette is a real one, whose colour becomes the field's.
  */
 class PickerChoice : public QObject
 {
@@ -24,23 +25,28 @@ public:
         Dialog,
     };
 
-    /// Gives each of @p fields a picker, a panel at first. @p log shows the signals of the first field's.
-    /// Neither is owned, and both may be deleted before.
+    /// Gives each of @p fields a picker, a panel at first. @p log shows the signals of the first field's, and
+    /// of the pipette. Neither is owned, and both may be deleted before.
     PickerChoice(const QVector<ColorPickerButton*>& fields, SignalLogView* log, QObject* parent);
     ~PickerChoice() override;
 
     void addControls(PropertyPanel* properties);
 
     Kind kind() const { return m_kind; }
+    /// Ends what the pickers and the pipette are doing.
     void setKind(Kind kind);
 
 private:
+    void pickFromScreen(ColorPickerButton* field);
+    void applyScreenColor(const QColor& color);
     void installPickers();
     void applyOptions();
 
     QVector<QPointer<ColorPickerButton>> m_fields;
     QVector<QPointer<PanelColorPicker>> m_panelPickers;
     const QPointer<SignalLogView> m_log;
+    Pipette* const m_pipette;
+    QPointer<ColorPickerButton> m_pipetteField; // has asked for the pipette
     Kind m_kind = Kind::Panel;
     bool m_isNullColorAllowed = true;
     bool m_isOpacityAvailable = true;

@@ -9,6 +9,7 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QToolButton>
+#include <QWindow>
 
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
@@ -31,6 +32,11 @@ private Q_SLOTS:
 
     void panelIsWhatAFieldOpens();
     void pickerCanBeExchangedMeanwhile();
+    void pipettePicksFromTheScreen_data();
+    void pipettePicksFromTheScreen();
+    void pipetteGivesUp();
+    void pipetteEndsWithThePicker();
+    void pipetteEndsWithTheWindow();
     void pickedColourIsShown();
     void escapeBringsTheColourBack();
     void disabledFieldDoesNotAnswer();
@@ -41,6 +47,8 @@ private:
     ColorPickerWidget* panel() const;
     QColorDialog* dialog() const;
     QColor clickBasicColour(QColorDialog* dialog, int row, int column) const;
+    static QWidgetList views();
+    void openPipette();
 
     std::unique_ptr<MainWindow> m_window;
     ColorInputWidget* m_field = nullptr;
@@ -156,6 +164,113 @@ void tst_GalleryColorField::pickerCanBeExchangedMeanwhile()
     QVERIFY(RealInput::click(m_button));
     QTRY_VERIFY(panel());
     QCOMPARE(panel()->currentColor(), std::optional<QColor>(before));
+}
+
+/// What covers the screens while the pipette picks.
+QWidgetList tst_GalleryColorField::views()
+{
+    QWidgetList found;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window->inherits("PipetteScreenView") && window->isVisible()) {
+            found.append(window);
+        }
+    }
+    return found;
+}
+
+/// Clicks the field, and the pipette in its panel.
+void tst_GalleryColorField::openPipette()
+{
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(panel());
+    QVERIFY(QTest::qWaitForWindowExposed(panel()->window()));
+    QVERIFY(RealInput::click(panel()->findChild<QToolButton*>(QStringLiteral("pipetteButton"))));
+    QTRY_COMPARE(views().size(), QGuiApplication::screens().size());
+    QTRY_VERIFY(views().constFirst()->windowHandle()->isExposed());
+    QTRY_VERIFY(views().constFirst()->isActiveWindow());
+}
+
+void tst_GalleryColorField::pipettePicksFromTheScreen_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::newRow("field") << QStringLiteral("color-input");
+    QTest::newRow("button") << QStringLiteral("color-picker-button");
+}
+
+void tst_GalleryColorField::pipettePicksFromTheScreen()
+{
+    QFETCH(QString, page);
+    m_window->showPage(page);
+    const auto pickers = m_window->page()->findChildren<PanelColorPicker*>();
+    QVERIFY(!pickers.isEmpty());
+    m_button = qobject_cast<ColorPickerButton*>(pickers.constFirst()->parent());
+    QVERIFY(m_button && m_button->isEnabled());
+    QTRY_COMPARE(face(), *m_button->color());
+    const QColor target(47, 190, 93);
+    QWidget patch(m_window.get());
+    patch.setStyleSheet(QStringLiteral("background: %1;").arg(target.name()));
+    patch.setAttribute(Qt::WA_StyledBackground);
+    patch.setGeometry(m_window->width() - 160, m_window->height() - 160, 120, 120);
+    patch.show();
+    QTRY_COMPARE(RealInput::pixel(&patch, patch.rect().center()), target);
+
+    QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
+    openPipette();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    QVERIFY(!m_button->isDown());
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(RealInput::moveTo(&patch, patch.rect().center()));
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field-pipette-") + page));
+    QVERIFY(RealInput::click(&patch));
+    QTRY_VERIFY(views().isEmpty());
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(m_button->color()->name(), target.name());
+    QTRY_COMPARE(face(), target);
+    QTRY_VERIFY(m_window->isActiveWindow());
+
+    // The panel has heard of it.
+    QVERIFY(RealInput::click(m_button));
+    QTRY_VERIFY(panel());
+    QVERIFY(panel()->currentColor());
+    QCOMPARE(panel()->currentColor()->name(), target.name());
+}
+
+void tst_GalleryColorField::pipetteGivesUp()
+{
+    const QColor before = *m_button->color();
+    openPipette();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QTRY_VERIFY(views().isEmpty());
+    QCOMPARE(*m_button->color(), before);
+    QTRY_VERIFY(m_window->isActiveWindow());
+}
+
+void tst_GalleryColorField::pipetteEndsWithThePicker()
+{
+    const QColor before = *m_button->color();
+    openPipette();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    choice()->setKind(PickerChoice::Kind::Dialog);
+    QVERIFY(views().isEmpty());
+    QCOMPARE(*m_button->color(), before);
+}
+
+void tst_GalleryColorField::pipetteEndsWithTheWindow()
+{
+    openPipette();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    m_window.reset();
+    QVERIFY(views().isEmpty());
 }
 
 void tst_GalleryColorField::pickedColourIsShown()
