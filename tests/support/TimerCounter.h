@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTimer>
@@ -39,3 +40,14 @@ private:
     QTimer m_clock;
     int m_count = 0;
 };
+
+/// How many timers of @p root and of what it owns are started, whenever they are due.
+inline int startedTimers(QObject* root)
+{
+    int count = QAbstractEventDispatcher::instance()->registeredTimers(root).size();
+    const QObjectList& children = root->children();
+    for (QObject* child : children) {
+        count += startedTimers(child);
+    }
+    return count;
+}

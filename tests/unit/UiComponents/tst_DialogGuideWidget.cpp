@@ -1085,6 +1085,8 @@ void tst_DialogGuideWidget::hiddenBubbleCostsNothing()
     neverShown.setInfo(fullInfo());
     settle();
     QCOMPARE(timers.countDuring(50), 0);
+    QCOMPARE(startedTimers(stage.bubble), 0);
+    QCOMPARE(startedTimers(&neverShown), 0);
     QCOMPARE(stage.bubble->paints, 0);
     stage.bubble->show();
     stage.window.hide();

@@ -531,11 +531,13 @@ void tst_GuideButton::closedPopupCostsNothing()
     popup(*button)->close();
     QCoreApplication::processEvents();
     QCOMPARE(timers.countDuring(50), 0);
+    QCOMPARE(startedTimers(button.get()), 0);
     QVERIFY(movie(*button)->state() != QMovie::Running);
     button->click();
     button->hide();
     QCoreApplication::processEvents();
     QCOMPARE(timers.countDuring(50), 0);
+    QCOMPARE(startedTimers(button.get()), 0);
     QVERIFY(movie(*button)->state() != QMovie::Running);
 }
 

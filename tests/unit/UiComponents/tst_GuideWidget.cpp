@@ -634,8 +634,9 @@ void tst_GuideWidget::hiddenGuidesCostNothing()
 
     TimerCounter timers;
     QCOMPARE(timers.countDuring(50), 0);
-    for (const GuideWidget* guide : {&neverShown, &hidden, &changedWhileHidden}) {
+    for (GuideWidget* guide : {&neverShown, &hidden, &changedWhileHidden}) {
         QVERIFY(movie(*guide)->state() != QMovie::Running);
+        QCOMPARE(startedTimers(guide), 0);
     }
     hidden.show();
     QVERIFY(timers.countDuring(50) > 5);
