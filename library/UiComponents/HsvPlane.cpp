@@ -237,9 +237,10 @@ template <Position at, typename Words>
 // One vector of pixels. Lowers @p nearest to how far their sums are from a boundary. Everything is inlined
 // into functions that are compiled for one processor each, and hands vectors over by reference only: how they
 // are passed depends on the processor too.
-template <typename Vectors, Position lowAt, Position highAt, bool isStreamed>
+template <typename Vectors, Position lowAt, Position highAt>
 [[gnu::always_inline]] inline void renderVector(const Plane& plane, int x, float row, std::uint32_t rowBits,
-                                                QRgb* line, typename Vectors::Shorts& nearest)
+                                                typename Vectors::Words& pixels,
+                                                typename Vectors::Shorts& nearest)
 {
     using Words = typename Vectors::Words;
     using Shorts = typename Vectors::Shorts;
@@ -257,7 +258,7 @@ template <typename Vectors, Position lowAt, Position highAt, bool isStreamed>
     nearest = both < nearest ? both : nearest;
     moveByte<lowAt>(lowSum);
     moveByte<highAt>(highSum);
-    Vectors::template store<isStreamed>(lowSum ^ highSum ^ rowBits, line + x);
+    pixels = lowSum ^ highSum ^ rowBits;
 }
 
 // Whether a sum is near. The upper half of each word is zero throughout.
@@ -274,27 +275,33 @@ template <typename Vectors>
     return any != 0;
 }
 
+// Pixels are corrected before they are written: once past the caches, each would have to be fetched again.
 template <typename Vectors, int vectors, Position lowAt, Position highAt, bool isStreamed = false>
 [[gnu::always_inline]] inline void renderBlock(const Plane& plane, int x, int y, float row,
                                                std::uint32_t rowBits, QRgb* line)
 {
     constexpr int lanes = Vectors::lanes;
     const auto far = reinterpret_cast<typename Vectors::Shorts>(typename Vectors::Words{} + farBits);
+    typename Vectors::Words pixels[vectors];
     typename Vectors::Shorts nearest = far;
     for (int i = 0; i < vectors; ++i) {
-        renderVector<Vectors, lowAt, highAt, isStreamed>(plane, x + i * lanes, row, rowBits, line, nearest);
+        renderVector<Vectors, lowAt, highAt>(plane, x + i * lanes, row, rowBits, pixels[i], nearest);
     }
-    if (__builtin_expect(static_cast<long>(hasNear<Vectors>(nearest)), 0) == 0) {
-        return;
-    }
-    for (int first = x; first < x + vectors * lanes; first += lanes) {
-        nearest = far;
-        renderVector<Vectors, lowAt, highAt, false>(plane, first, row, rowBits, line, nearest);
-        for (int lane = 0; lane < lanes; ++lane) {
-            if (nearest[2 * lane] == 0) {
-                line[first + lane] = plane.exact(first + lane, y);
+    if (__builtin_expect(static_cast<long>(hasNear<Vectors>(nearest)), 0) != 0) {
+        for (int i = 0; i < vectors; ++i) {
+            const int first = x + i * lanes;
+            nearest = far;
+            renderVector<Vectors, lowAt, highAt>(plane, first, row, rowBits, pixels[i], nearest);
+            for (int lane = 0; lane < lanes; ++lane) {
+                if (nearest[2 * lane] == 0) {
+                    pixels[i][lane] = plane.exact(first + lane, y);
+                }
             }
         }
+    }
+    for (int i = 0; i < vectors; ++i) {
+        const int first = x + i * lanes;
+        Vectors::template store<isStreamed>(pixels[i], line + first);
     }
 }
 
@@ -381,11 +388,11 @@ template <Position at>
     }
 }
 
-void correct(const Plane& plane, int x, int y, unsigned near, QRgb* line)
+void correct(const Plane& plane, int x, int y, unsigned near, QRgb* pixels)
 {
     for (; near != 0; near &= near - 1) {
-        const int at = x + __builtin_ctz(near);
-        line[at] = plane.exact(at, y);
+        const int at = __builtin_ctz(near);
+        pixels[at] = plane.exact(x + at, y);
     }
 }
 
@@ -399,15 +406,18 @@ renderVector512(const Plane& plane, int x, int y, const __m512& row, const __m51
         _mm512_castps_si512(_mm512_fmadd_ps(_mm512_loadu_ps(plane.low.data() + x), row, zero));
     const __m512i high =
         _mm512_castps_si512(_mm512_fmadd_ps(_mm512_loadu_ps(plane.high.data() + x), row, zero));
-    const __m512i pixels = withByte<highAt>(withByte<lowAt>(rowBits, low), high);
+    __m512i pixels = withByte<highAt>(withByte<lowAt>(rowBits, low), high);
+    const __mmask16 near = _mm512_testn_epi32_mask(low, far) | _mm512_testn_epi32_mask(high, far);
+    if (__builtin_expect(static_cast<long>(near), 0) != 0) {
+        QRgb corrected[sizeof pixels / sizeof(QRgb)];
+        std::memcpy(corrected, &pixels, sizeof pixels);
+        correct(plane, x, y, near, corrected);
+        std::memcpy(&pixels, corrected, sizeof pixels);
+    }
     if constexpr (isStreamed) {
         _mm512_stream_si512(reinterpret_cast<__m512i*>(line + x), pixels);
     } else {
         _mm512_storeu_si512(line + x, pixels);
-    }
-    const __mmask16 near = _mm512_testn_epi32_mask(low, far) | _mm512_testn_epi32_mask(high, far);
-    if (__builtin_expect(static_cast<long>(near), 0) != 0) {
-        correct(plane, x, y, near, line);
     }
 }
 
