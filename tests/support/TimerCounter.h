@@ -41,7 +41,8 @@ private:
     int m_count = 0;
 };
 
-/// How many timers of @p root and of what it owns are started, whenever they are due.
+/// How many timers of @p root and of what it owns are started, whenever they are due. A QMovie hides its own:
+/// ask for its state.
 inline int startedTimers(QObject* root)
 {
     int count = QAbstractEventDispatcher::instance()->registeredTimers(root).size();

@@ -638,6 +638,10 @@ void tst_GuideWidget::hiddenGuidesCostNothing()
         QVERIFY(movie(*guide)->state() != QMovie::Running);
         QCOMPARE(startedTimers(guide), 0);
     }
+    QTimer slow(&hidden);
+    slow.start(60000);
+    QCOMPARE(startedTimers(&hidden), 1);
+    slow.stop();
     hidden.show();
     QVERIFY(timers.countDuring(50) > 5);
 }
