@@ -6,6 +6,7 @@
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/SearchWidget.h>
 
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QStringListModel>
@@ -28,55 +29,74 @@ QAbstractItemModel* makeRows(QObject* parent)
     return new QStringListModel(texts, parent);
 }
 
-/// A list that is shown inside a panel that scrolls, at the height of its rows or at that of the window.
+/// A list inside a panel that scrolls.
 template <typename View>
-class Panel
+class Panel : public QScrollArea
 {
 public:
-    explicit Panel(int height)
-        : view(new View(nullptr))
-        , m_size(200, height)
+    Panel()
     {
-        view->setModel(makeRows(view));
-        m_area.setWidget(view);
-        view->resize(m_size);
-        m_area.resize(400, 300);
-        m_area.show();
+        list->setModel(makeRows(list));
+        setWidget(list);
+        list->resize(m_size);
     }
 
-    void resize()
+    void resizeList()
     {
         m_size.rwidth() ^= 1;
-        view->resize(m_size);
+        list->resize(m_size);
     }
 
-    View* const view;
+    void setListHeight(int height)
+    {
+        m_size.setHeight(height);
+        list->resize(m_size);
+    }
+
+    View* const list = new View(nullptr);
 
 private:
-    QScrollArea m_area;
-    QSize m_size;
+    QSize m_size{200, 300};
+};
+
+/// The panels of both sides. Of two windows only the one shown last would be active, and a resize in the
+/// other one takes 4 % longer, whatever is in it: Qt asks there at length, some forty times, whether it is
+/// active.
+class Window : public QWidget
+{
+public:
+    Window()
+    {
+        auto* layout = new QHBoxLayout(this);
+        layout->addWidget(ours);
+        layout->addWidget(reference);
+        resize(800, 300);
+        show();
+    }
+
+    Panel<AdjustingListView>* const ours = new Panel<AdjustingListView>;
+    Panel<QListView>* const reference = new Panel<QListView>;
 };
 
 Pair resizeWhileLoading()
 {
-    const auto probe = std::make_shared<Panel<QListView>>(300);
-    const int height = rows * probe->view->sizeHintForRow(0);
-    const auto ours = std::make_shared<Panel<AdjustingListView>>(height);
-    ours->view->setLoadingFinished(false);
+    const auto window = std::make_shared<Window>();
+    const QListView* const probe = window->reference->list;
+    window->ours->setListHeight(rows * probe->sizeHintForRow(0));
+    window->ours->list->setLoadingFinished(false);
     const auto sum = std::make_shared<qint64>(0);
-    return {{[ours] { ours->resize(); }}, {[probe, sum] {
+    return {{[window] { window->ours->resizeList(); }}, {[window, probe, sum] {
                 for (int row = 0; row < rows; ++row) {
-                    *sum += probe->view->sizeHintForRow(row);
+                    *sum += probe->sizeHintForRow(row);
                 }
             }}};
 }
 
 Pair resizeWhenFinished(QAbstractScrollArea::SizeAdjustPolicy policyOfReference)
 {
-    const auto ours = std::make_shared<Panel<AdjustingListView>>(300);
-    const auto reference = std::make_shared<Panel<QListView>>(300);
-    reference->view->setSizeAdjustPolicy(policyOfReference);
-    return {{[ours] { ours->resize(); }}, {[reference] { reference->resize(); }}};
+    const auto window = std::make_shared<Window>();
+    window->reference->list->setSizeAdjustPolicy(policyOfReference);
+    return {{[window] { window->ours->resizeList(); }}, {[window] { window->reference->resizeList(); }}};
 }
 
 Pair burstOfEdits()
