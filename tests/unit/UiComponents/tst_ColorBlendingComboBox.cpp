@@ -1,4 +1,5 @@
 #include "MetaObject.h"
+#include "PaintCount.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -103,21 +104,6 @@ void clickRow(QAbstractItemView* view, int row)
     view->scrollTo(index);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
 }
-
-/// Counts the pictures that a widget paints.
-class PaintCount : public QObject
-{
-public:
-    explicit PaintCount(QWidget* widget) { widget->installEventFilter(this); }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return QObject::eventFilter(watched, event);
-    }
-
-    int count = 0;
-};
 
 } // namespace
 

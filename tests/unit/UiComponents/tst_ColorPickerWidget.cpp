@@ -1,6 +1,7 @@
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MetaObject.h"
+#include "MouseEvents.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
 
@@ -24,6 +25,7 @@
 #include <QVBoxLayout>
 
 #include <functional>
+#include <utility>
 
 using OptionalColor = std::optional<QColor>;
 using Orvane::Tessel::TesselLineEdit;
@@ -92,12 +94,7 @@ public:
     }
 
     /// What was said since the last call.
-    QStringList log()
-    {
-        QStringList result;
-        result.swap(m_log);
-        return result;
-    }
+    QStringList log() { return std::exchange(m_log, {}); }
 
     QToolButton* paletteButton(int row, int column) const
     {
@@ -168,10 +165,9 @@ public:
             .rgb();
     }
 
-    // QTest takes the point (0, 0) for the middle, and moves without a button.
-    void pressPlane(const QPoint& point) const { sendToPlane(QEvent::MouseButtonPress, point); }
-    void dragOverPlane(const QPoint& point) const { sendToPlane(QEvent::MouseMove, point); }
-    void releasePlane(const QPoint& point) const { sendToPlane(QEvent::MouseButtonRelease, point); }
+    void pressPlane(const QPoint& point) const { press(*plane(), point); }
+    void dragOverPlane(const QPoint& point) const { drag(*plane(), point); }
+    void releasePlane(const QPoint& point) const { release(*plane(), point); }
     void clickPlane(const QPoint& point) const
     {
         pressPlane(point);
@@ -187,15 +183,6 @@ public:
     QButtonGroup* const group;
 
 private:
-    void sendToPlane(QEvent::Type type, const QPoint& point) const
-    {
-        const bool isMove = type == QEvent::MouseMove;
-        const bool isRelease = type == QEvent::MouseButtonRelease;
-        QMouseEvent event(type, point, plane()->mapToGlobal(point), isMove ? Qt::NoButton : Qt::LeftButton,
-                          isRelease ? Qt::NoButton : Qt::LeftButton, {});
-        QCoreApplication::sendEvent(plane(), &event);
-    }
-
     QStringList m_log;
 };
 

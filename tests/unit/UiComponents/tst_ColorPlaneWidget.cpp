@@ -1,4 +1,6 @@
 #include "MetaObject.h"
+#include "MouseEvents.h"
+#include "PaintCount.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorPlaneWidget.h>
@@ -7,8 +9,8 @@
 #include <QPointer>
 #include <QSignalSpy>
 
-#include <functional>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -55,26 +57,6 @@ QImage picture(double hue, const QSize& size, const QPoint& marker, const QColor
     return image;
 }
 
-void send(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-          Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void press(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
-{
-    send(widget, QEvent::MouseButtonPress, at, button, button);
-}
-void drag(QWidget& widget, const QPoint& to)
-{
-    send(widget, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
-}
-void release(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
-{
-    send(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
-}
-
 /// A plane of 101 × 51 pixels that records what it reports.
 class Plane : public ColorPlaneWidget
 {
@@ -88,12 +70,7 @@ public:
     }
 
     /// What was reported since the last call.
-    Colors reports()
-    {
-        Colors result;
-        result.swap(m_reports);
-        return result;
-    }
+    Colors reports() { return std::exchange(m_reports, {}); }
 
     QColor at(double hue, int x, int y) const { return formula(hue, size(), {x, y}); }
 
@@ -216,26 +193,6 @@ private:
     QColor m_ring;
     bool m_dragged = false;
 };
-
-int paintsOf(QWidget& widget, const std::function<void()>& change)
-{
-    class Counter : public QObject
-    {
-    public:
-        int paints = 0;
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            paints += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-    } counter;
-    QCoreApplication::processEvents();
-    widget.installEventFilter(&counter);
-    change();
-    QCoreApplication::processEvents();
-    widget.removeEventFilter(&counter);
-    return counter.paints;
-}
 
 } // namespace
 
@@ -687,7 +644,7 @@ void tst_ColorPlaneWidget::doubleClickIsAPress()
 {
     Plane plane;
     plane.setHue(180);
-    send(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
     QCOMPARE(plane.reports(), Colors{plane.at(0.5, 20, 20)});
     release(plane, {20, 20});
 }

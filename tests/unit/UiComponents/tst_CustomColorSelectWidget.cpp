@@ -1,4 +1,5 @@
 #include "MetaObject.h"
+#include "MouseEvents.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselElegantSlider.h>
@@ -9,6 +10,8 @@
 #include <QLayout>
 #include <QPointer>
 #include <QTranslator>
+
+#include <utility>
 
 using Colors = QVector<QColor>;
 
@@ -37,12 +40,7 @@ public:
                 [this](const QColor& color) { m_reports += color; });
     }
 
-    Colors reports()
-    {
-        Colors result;
-        result.swap(m_reports);
-        return result;
-    }
+    Colors reports() { return std::exchange(m_reports, {}); }
 
     // Sets a colour and waits for it to appear.
     void show(const QColor& color)
@@ -58,20 +56,14 @@ public:
 
     QColor planeColorAt(int x, int y) const { return plane->grab().toImage().pixelColor(x, y); }
 
-    void press(const QPoint& point) { send(QEvent::MouseButtonPress, point, Qt::LeftButton); }
-    void drag(const QPoint& point) { send(QEvent::MouseMove, point, Qt::NoButton); }
-    void release(const QPoint& point) { send(QEvent::MouseButtonRelease, point, Qt::LeftButton); }
+    void press(const QPoint& point) { ::press(*plane, point); }
+    void drag(const QPoint& point) { ::drag(*plane, point); }
+    void release(const QPoint& point) { ::release(*plane, point); }
 
     ColorPlaneWidget* const plane;
     QSlider* const slider;
 
 private:
-    void send(QEvent::Type type, const QPoint& at, Qt::MouseButton button)
-    {
-        QMouseEvent event(type, at, plane->mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(plane, &event);
-    }
-
     Colors m_reports;
 };
 

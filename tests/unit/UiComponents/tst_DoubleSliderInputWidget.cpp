@@ -1,7 +1,8 @@
 #include "DecimalNumber.h"
-#include "DestroyedWhileTyping.h"
+#include "FocusedBy.h"
 #include "FreedMemory.h"
 #include "MetaObject.h"
+#include "SpinBoxTyping.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -51,12 +52,7 @@ public:
     }
 
     /// What was reported since the last call.
-    Values reports()
-    {
-        Values result;
-        result.swap(m_reports);
-        return result;
-    }
+    Values reports() { return std::exchange(m_reports, {}); }
 
     QLineEdit* edit() const { return spinBox->findChild<QLineEdit*>(); }
 
@@ -68,12 +64,6 @@ public:
 private:
     Values m_reports;
 };
-
-void typeInto(QAbstractSpinBox* box, const QString& text)
-{
-    box->selectAll();
-    QTest::keyClicks(box, text);
-}
 
 } // namespace
 
@@ -423,7 +413,7 @@ void tst_DoubleSliderInputWidget::negativeZeroIsZero()
     QCOMPARE(field.reports(), Values());
     field.setValue(0.5);
     field.setValue(-0.004);
-    QCOMPARE(field.reports().last(), 0.0);
+    QCOMPARE(field.reports().constLast(), 0.0);
     QCOMPARE(field.slider->value(), 0);
 }
 
@@ -606,7 +596,7 @@ void tst_DoubleSliderInputWidget::typedMark()
     QTest::keyClick(field.spinBox, Qt::Key_Return);
     QCOMPARE(field.edit()->text(), committed);
     QCOMPARE(field.slider->doubleValue(), 1.25);
-    QCOMPARE(field.reports().last(), 1.25);
+    QCOMPARE(field.reports().constLast(), 1.25);
 }
 
 void tst_DoubleSliderInputWidget::wheelNeedsFocus_data()
@@ -744,12 +734,7 @@ void tst_DoubleSliderInputWidget::tabOrder()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     before->setFocus();
-    QList<QWidget*> visited;
-    for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-        visited += form.focusWidget();
-    }
-    QCOMPARE(visited, QList<QWidget*>({sliderOf(*field), spinBoxOf(*field), after}));
+    QCOMPARE(focusedBy(Qt::Key_Tab, 3, form), QList<QWidget*>({sliderOf(*field), spinBoxOf(*field), after}));
 }
 
 void tst_DoubleSliderInputWidget::rightToLeft()

@@ -1,5 +1,7 @@
 #include "FreedMemory.h"
 #include "MetaObject.h"
+#include "MouseEvents.h"
+#include "PaintCount.h"
 #include "TestMain.h"
 
 #include <UiComponents/PointSelectionPlane.h>
@@ -10,8 +12,8 @@
 #include <QSignalSpy>
 
 #include <cmath>
-#include <functional>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -31,26 +33,6 @@ constexpr int linesWidth = 3;
 PointSelectionPlanePropertyHelper* styleOf(const QWidget& plane)
 {
     return plane.findChild<PointSelectionPlanePropertyHelper*>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-void send(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-          Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void press(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
-{
-    send(widget, QEvent::MouseButtonPress, at, button, button);
-}
-void drag(QWidget& widget, const QPoint& to)
-{
-    send(widget, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
-}
-void release(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
-{
-    send(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
 }
 
 QImage pictureOf(QWidget& widget)
@@ -96,12 +78,7 @@ public:
     }
 
     /// What was reported since the last call.
-    Points reports()
-    {
-        Points result;
-        result.swap(m_reports);
-        return result;
-    }
+    Points reports() { return std::exchange(m_reports, {}); }
 
     PointSelectionPlanePropertyHelper* const style = styleOf(*this);
 
@@ -113,26 +90,6 @@ private:
 QPointF at(int x, int y)
 {
     return {x - 50.0, y * 0.5 + 100.0};
-}
-
-int paintsOf(QWidget& widget, const std::function<void()>& change)
-{
-    class Counter : public QObject
-    {
-    public:
-        int paints = 0;
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            paints += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-    } counter;
-    QCoreApplication::processEvents();
-    widget.installEventFilter(&counter);
-    change();
-    QCoreApplication::processEvents();
-    widget.removeEventFilter(&counter);
-    return counter.paints;
 }
 
 bool isSame(double one, double other)
@@ -584,7 +541,7 @@ void tst_PointSelectionPlane::secondButtonWhileDragging()
 void tst_PointSelectionPlane::doubleClickIsAPress()
 {
     Plane plane;
-    send(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
     QCOMPARE(plane.reports(), Points{at(20, 20)});
     QCOMPARE(QWidget::mouseGrabber(), &plane);
     release(plane, {20, 20});
@@ -721,14 +678,14 @@ void tst_PointSelectionPlane::tinyPlanes()
     plane.setPoint({10, 110});
     pictureOf(window);
     press(plane, {0, 0});
-    const QPointF point = plane.reports().front();
+    const QPointF point = plane.reports().constFirst();
     // An only pixel is no place.
     QVERIFY(size.width() == 1 ? std::isnan(point.x()) : point.x() == limits.left());
     QVERIFY(size.height() == 1 ? std::isnan(point.y()) : point.y() == limits.top());
     pictureOf(window);
     drag(plane, {50, 50});
     release(plane, {50, 50});
-    const QPointF last = plane.reports().last();
+    const QPointF last = plane.reports().constLast();
     if (size.width() > 1) {
         QVERIFY(last.x() == limits.right());
     }
@@ -1080,7 +1037,7 @@ void tst_PointSelectionPlane::deletedInItsSignal()
     } else if (action == QLatin1String("release")) {
         release(*plane, {20, 20});
     } else if (action == QLatin1String("double click")) {
-        send(*plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+        sendMouse(*plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
     } else {
         QTest::keyPress(plane, Qt::Key_Left);
     }

@@ -1,8 +1,10 @@
 #include "DecimalNumber.h"
-#include "DestroyedWhileTyping.h"
+#include "FocusedBy.h"
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MetaObject.h"
+#include "MouseEvents.h"
+#include "SpinBoxTyping.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -37,26 +39,6 @@ Part* partOf(const QWidget& field, const char* name)
     return field.findChild<Part*>(QString::fromLatin1(name));
 }
 
-void send(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-          Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void press(QWidget& widget, const QPoint& at)
-{
-    send(widget, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
-}
-void drag(QWidget& widget, const QPoint& to)
-{
-    send(widget, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
-}
-void release(QWidget& widget, const QPoint& at)
-{
-    send(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
-}
-
 const PointSelectorWidget::Initializer hundreds = {{0.0, 0.0}, {100.0, 100.0}, 1, 1};
 
 /// A field with a plane of 101 × 101 pixels that records what it reports.
@@ -73,12 +55,7 @@ public:
     }
 
     /// What was reported since the last call.
-    Points reports()
-    {
-        Points result;
-        result.swap(m_reports);
-        return result;
-    }
+    Points reports() { return std::exchange(m_reports, {}); }
 
     QPointF numbers() const { return {x->value(), y->value()}; }
 
@@ -89,12 +66,6 @@ public:
 private:
     Points m_reports;
 };
-
-void typeInto(QAbstractSpinBox* box, const QString& text)
-{
-    box->selectAll();
-    QTest::keyClicks(box, text);
-}
 
 } // namespace
 
@@ -465,8 +436,9 @@ void tst_PointSelectorWidget::typingIsNotRewritten()
     Field field;
     const auto* edit = field.x->findChild<QLineEdit*>();
     field.x->selectAll();
+    const auto text = QStringLiteral("007.50");
     QString typed;
-    for (const QChar character : QStringLiteral("007.50")) {
+    for (const QChar character : text) {
         typed += character;
         QTest::keyClicks(field.x, QString(character));
         // One decimal only.
@@ -493,7 +465,7 @@ void tst_PointSelectorWidget::stepsAreExact()
     Field field;
     for (int i = 1; i <= 100; ++i) {
         QTest::keyClick(field.x, Qt::Key_Up);
-        QVERIFY(field.reports().front().x() == decimalNumber(i, 1));
+        QVERIFY(field.reports().constFirst().x() == decimalNumber(i, 1));
         QVERIFY(field.plane->point().x() == decimalNumber(i, 1));
     }
 }
@@ -876,12 +848,7 @@ void tst_PointSelectorWidget::tabOrder()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     before->setFocus();
-    QList<QWidget*> visited;
-    for (int i = 0; i < 4; ++i) {
-        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-        visited += form.focusWidget();
-    }
-    QCOMPARE(visited, QList<QWidget*>({field->plane, field->x, field->y, after}));
+    QCOMPARE(focusedBy(Qt::Key_Tab, 4, form), QList<QWidget*>({field->plane, field->x, field->y, after}));
     QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
     QCOMPARE(form.focusWidget(), field->plane);
 }

@@ -1,6 +1,7 @@
-#include "DestroyedWhileTyping.h"
+#include "FocusedBy.h"
 #include "FreedMemory.h"
 #include "MetaObject.h"
+#include "SpinBoxTyping.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -50,12 +51,7 @@ public:
     }
 
     /// What was reported since the last call.
-    Values reports()
-    {
-        Values result;
-        result.swap(m_reports);
-        return result;
-    }
+    Values reports() { return std::exchange(m_reports, {}); }
 
     OvCustomSlider* const slider = sliderOf(*this);
     OvSpinBox* const spinBox = spinBoxOf(*this);
@@ -65,12 +61,6 @@ public:
 private:
     Values m_reports;
 };
-
-void typeInto(QAbstractSpinBox* box, const QString& text)
-{
-    box->selectAll();
-    QTest::keyClicks(box, text);
-}
 
 } // namespace
 
@@ -580,18 +570,10 @@ void tst_SliderInputWidget::tabOrder()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     before->setFocus();
-    QTest::keyClick(before, Qt::Key_Tab);
-    QCOMPARE(form.focusWidget(), sliderOf(*field));
-    QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-    QCOMPARE(form.focusWidget(), spinBoxOf(*field));
-    QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-    QCOMPARE(form.focusWidget(), after);
-    QTest::keyClick(form.focusWidget(), Qt::Key_Backtab);
-    QCOMPARE(form.focusWidget(), spinBoxOf(*field));
-    QTest::keyClick(form.focusWidget(), Qt::Key_Backtab);
-    QCOMPARE(form.focusWidget(), sliderOf(*field));
-    QTest::keyClick(form.focusWidget(), Qt::Key_Backtab);
-    QCOMPARE(form.focusWidget(), before);
+    QWidget* const slider = sliderOf(*field);
+    QWidget* const spinBox = spinBoxOf(*field);
+    QCOMPARE(focusedBy(Qt::Key_Tab, 3, form), QList<QWidget*>({slider, spinBox, after}));
+    QCOMPARE(focusedBy(Qt::Key_Backtab, 3, form), QList<QWidget*>({spinBox, slider, before}));
 }
 
 void tst_SliderInputWidget::disabled()

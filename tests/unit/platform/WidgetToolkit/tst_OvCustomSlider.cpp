@@ -1,3 +1,4 @@
+#include "MouseEvents.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -31,13 +32,6 @@ public:
         return orientation() == Qt::Horizontal ? QPoint(place, height() / 2) : QPoint(width() / 2, place);
     }
 };
-
-void send(QWidget* widget, QEvent::Type type, const QPoint& point, Qt::MouseButton button,
-          Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, point, widget->mapToGlobal(point), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
 
 /// As the present row of clickGoesThere_data() says.
 void setUpFromRow(Slider& slider)
@@ -172,16 +166,16 @@ void tst_OvCustomSlider::dragGoesOnFromTheClick()
     if (std::abs(slider.along(slider.handle().center()) - 100) < 30) {
         slider.setValue(slider.maximum());
     }
-    send(&slider, QEvent::MouseButtonPress, slider.spot(100), Qt::LeftButton, Qt::LeftButton);
+    press(slider, slider.spot(100));
     QVERIFY(slider.isSliderDown());
     const int pressed = slider.along(slider.handle().center());
     QVERIFY(std::abs(pressed - 100) <= 1);
     // The first small move must not make the handle jump.
-    send(&slider, QEvent::MouseMove, slider.spot(101), Qt::NoButton, Qt::LeftButton);
+    drag(slider, slider.spot(101));
     QVERIFY(std::abs(slider.along(slider.handle().center()) - 101) <= 2);
-    send(&slider, QEvent::MouseMove, slider.spot(160), Qt::NoButton, Qt::LeftButton);
+    drag(slider, slider.spot(160));
     QVERIFY(std::abs(slider.along(slider.handle().center()) - 160) <= 2);
-    send(&slider, QEvent::MouseButtonRelease, slider.spot(160), Qt::LeftButton, Qt::NoButton);
+    release(slider, slider.spot(160));
     QVERIFY(!slider.isSliderDown());
 }
 
@@ -244,13 +238,13 @@ void tst_OvCustomSlider::fewSteps()
     QTest::mouseClick(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(245, 15));
     QCOMPARE(slider.value(), 2);
     // A drag from a place far from the handle that snapped away from it.
-    send(&slider, QEvent::MouseButtonPress, QPoint(120, 15), Qt::LeftButton, Qt::LeftButton);
+    press(slider, QPoint(120, 15));
     QCOMPARE(slider.value(), 1);
-    send(&slider, QEvent::MouseMove, QPoint(121, 15), Qt::NoButton, Qt::LeftButton);
+    drag(slider, QPoint(121, 15));
     QCOMPARE(slider.value(), 1);
-    send(&slider, QEvent::MouseMove, QPoint(60, 15), Qt::NoButton, Qt::LeftButton);
+    drag(slider, QPoint(60, 15));
     QCOMPARE(slider.value(), 0);
-    send(&slider, QEvent::MouseButtonRelease, QPoint(60, 15), Qt::LeftButton, Qt::NoButton);
+    release(slider, QPoint(60, 15));
 }
 
 void tst_OvCustomSlider::wholeRangeOf32Bits()
@@ -271,8 +265,8 @@ void tst_OvCustomSlider::otherButtons()
     slider.resize(200, 30);
     QTest::mouseClick(&slider, Qt::RightButton, Qt::NoModifier, QPoint(150, 15));
     QCOMPARE(slider.value(), 0);
-    send(&slider, QEvent::MouseButtonPress, QPoint(150, 15), Qt::LeftButton,
-         Qt::LeftButton | Qt::RightButton);
+    sendMouse(slider, QEvent::MouseButtonPress, QPoint(150, 15), Qt::LeftButton,
+              Qt::LeftButton | Qt::RightButton);
     QCOMPARE(slider.value(), 0);
     QVERIFY(!slider.isSliderDown());
 }

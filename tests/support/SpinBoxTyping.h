@@ -6,6 +6,12 @@
 
 #include <memory>
 
+inline void typeInto(QAbstractSpinBox* box, const QString& text)
+{
+    box->selectAll();
+    QTest::keyClicks(box, text);
+}
+
 /// Destroys a field that is its own window while @p spinBox in it holds "5", which is below its range. The
 /// window takes the focus from the spin box then, which commits its text; the field is to report nothing.
 template <typename Field, typename SpinBox>
@@ -17,8 +23,7 @@ void destroyWhileTyping(std::unique_ptr<Field> field, SpinBox* spinBox)
     QVERIFY(spinBox->hasFocus());
     QSignalSpy reported(field.get(), &Field::valueChanged);
     QSignalSpy committed(spinBox, qOverload<decltype(spinBox->value())>(&SpinBox::valueChanged));
-    spinBox->selectAll();
-    QTest::keyClicks(spinBox, QStringLiteral("5"));
+    typeInto(spinBox, QStringLiteral("5"));
     QCOMPARE(committed.size(), 0);
     field.reset();
     QCOMPARE(committed.size(), 1);
