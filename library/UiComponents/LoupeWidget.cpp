@@ -9,6 +9,7 @@
 
 #include <QCursor>
 #include <QEvent>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QImage>
 #include <QLabel>
@@ -18,6 +19,8 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace {
 
@@ -70,9 +73,30 @@ public:
         Util::installLayoutController(owner);
     }
 
+    QRect nameArea() const;
+
     LoupeWidget* const owner;
     QLabel* const colorNameLabel;
 };
+
+/// Where any name of a colour may be written. The widest one counts: names come and go with each pixel, and
+/// the loupe's shape is not to be found again for each.
+QRect LoupeWidget::Children::nameArea() const
+{
+    const QFontMetrics metrics = colorNameLabel->fontMetrics();
+    const QString digits = QStringLiteral("0123456789abcdef");
+    const QChar widest =
+        *std::max_element(digits.cbegin(), digits.cend(), [&metrics](QChar one, QChar other) {
+            return metrics.horizontalAdvance(one) < metrics.horizontalAdvance(other);
+        });
+    const Qt::Alignment alignment =
+        QStyle::visualAlignment(colorNameLabel->layoutDirection(), colorNameLabel->alignment());
+    const QRect area = colorNameLabel->style()->itemTextRect(
+        metrics, colorNameLabel->contentsRect(), int(alignment), true, QLatin1Char('#') + QString(6, widest));
+    // As much as a label may indent its text by.
+    const int indent = qMax(metrics.horizontalAdvance(QLatin1Char('x')), colorNameLabel->margin());
+    return area.adjusted(-indent, -indent, indent, indent).translated(colorNameLabel->pos()) & owner->rect();
+}
 
 LoupeWidget::LoupeWidget(QWidget* parent)
     : QWidget(parent)
@@ -137,6 +161,9 @@ QRegion LoupeWidget::paintedShape() const
         painter.end();
         const_cast<LoupeWidget*>(this)->render(&picture, QPoint(), QRegion(), DrawChildren);
         d->shape = paintedPixels(picture);
+        if (!m_children->colorNameLabel->isHidden()) {
+            d->shape += m_children->nameArea();
+        }
         d->shapeSize = size();
     }
     return d->shape;

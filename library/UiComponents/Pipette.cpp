@@ -16,9 +16,9 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
+#include <QVector>
 #include <QWindow>
 
-#include <algorithm>
 #include <optional>
 
 Q_LOGGING_CATEGORY(logPipette, "uicomponents.pipette", QtWarningMsg)
@@ -28,6 +28,11 @@ namespace {
 // How long anything waits for the screen, in milliseconds, and how often it looks meanwhile.
 constexpr int longestWait = 600;
 constexpr int lookInterval = 8;
+
+// How often the pipette looks whether the cursor is on one of its windows, in milliseconds, and how often in
+// a row it brings a window to the cursor.
+constexpr int followInterval = 50;
+constexpr int mostFollows = 10;
 
 /// Whether the program may read the screen. Asks for the permission if not.
 bool mayReadScreen()
@@ -70,6 +75,8 @@ public:
         connect(&later, &QTimer::timeout, this, [this] { lookAgain(); });
         later.setSingleShot(true);
         later.setTimerType(Qt::PreciseTimer);
+        connect(&following, &QTimer::timeout, this, [this] { followCursor(); });
+        following.setInterval(followInterval);
     }
 
     ~Impl() override;
@@ -95,6 +102,7 @@ private:
     void finish(const QPoint& cursorPos, bool isSucceeded);
     void pick(const QPoint& cursorPos);
     void lookAgain();
+    void followCursor();
 
     std::optional<int> untilFree(const QRect& area) const;
     std::optional<int> untilCovered(const QPoint& point) const;
@@ -102,6 +110,8 @@ private:
     void waitFor(std::optional<int> milliseconds);
 
     QTimer later;
+    QTimer following;
+    int followsLeft = mostFollows;
     int waited = 0;
     int ends = 0;
     std::optional<QPoint> cursor;      // where the loupe belongs
@@ -135,7 +145,6 @@ void Pipette::Impl::start()
     currentColor = QColor();
     loupeItem->hide();
     cursor.reset();
-    pendingPick.reset();
 
     const int first = views.size();
     for (const QScreen* screen : screens) {
@@ -160,6 +169,8 @@ void Pipette::Impl::start()
         active->adjustSize();
     }
     watchScreens();
+    followsLeft = mostFollows;
+    following.start();
     Q_EMIT owner->pickingStarted();
 }
 
@@ -200,6 +211,9 @@ void Pipette::Impl::watchScreen(QScreen* screen)
 
 void Pipette::Impl::stopWatching()
 {
+    if (!qGuiApp) {
+        return; // a pipette of the application itself dies after it
+    }
     qGuiApp->disconnect(this);
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (QScreen* screen : screens) {
@@ -211,6 +225,7 @@ void Pipette::Impl::stop()
 {
     ++ends;
     later.stop();
+    following.stop();
     stopWatching();
     cursor.reset();
     pendingPick.reset();
@@ -220,12 +235,19 @@ void Pipette::Impl::stop()
     const QPointer<Impl> self = this;
     const QPointer<QGraphicsScene> finished(scene.data());
     scene = nullptr;
-    const QList<PipetteScreenView*> closing = std::exchange(views, {});
-    for (PipetteScreenView* view : closing) {
+    const QVector<QPointer<PipetteScreenView>> closing(views.cbegin(), views.cend());
+    views.clear();
+    for (const QPointer<PipetteScreenView>& view : closing) {
         // Whatever still reaches it, as the key press after the shortcut that ended the pick, ends nothing.
-        view->disconnect(this);
-        view->close();
-        view->deleteLater();
+        if (self && view) {
+            view->disconnect(this);
+        }
+        if (view) {
+            view->close();
+        }
+        if (view) {
+            view->deleteLater();
+        }
     }
     if (finished) {
         finished->deleteLater();
@@ -267,7 +289,7 @@ void Pipette::Impl::takePicture()
         view->keepFree(keptFree);
     }
     const std::optional<int> wait = untilFree(keptFree);
-    if (wait != 0) {
+    if (wait != 0 && waited < longestWait) {
         waitFor(wait);
         return;
     }
@@ -289,7 +311,7 @@ void Pipette::Impl::takePicture()
 
 void Pipette::Impl::finish(const QPoint& cursorPos, bool isSucceeded)
 {
-    if (pendingPick) {
+    if (pendingPick && isSucceeded) {
         return;
     }
     if (isSucceeded && QGuiApplication::screenAt(cursorPos)) {
@@ -349,6 +371,31 @@ void Pipette::Impl::lookAgain()
     pick(*pendingPick);
     if (self && ends == endsBefore) {
         stop();
+    }
+}
+
+/// Another application's full-screen window may come to lie over a view, whose Enter is then missing.
+void Pipette::Impl::followCursor()
+{
+    const QPoint point = QCursor::pos();
+    PipetteScreenView* hidden = nullptr;
+    for (PipetteScreenView* view : qAsConst(views)) {
+        if (view->isVisible() && view->geometry().contains(point)) {
+            if (view->underMouse()) {
+                followsLeft = mostFollows;
+                return;
+            }
+            hidden = view;
+        }
+    }
+    if (!hidden || followsLeft == 0) {
+        return;
+    }
+    --followsLeft;
+    const QPointer<PipetteScreenView> view = hidden;
+    view->raise();
+    if (view) {
+        view->activateWindow();
     }
 }
 

@@ -18,15 +18,23 @@
  * mouse and keyboard, and a round loupe beside the cursor shows the 13 by 13 pixels around it and the name of
  * the colour in their middle. The left button picks when it is released. A key, Escape among them, gives up;
  * so does anything else that ends the pick: another application becomes the active one, a screen is added,
- * removed or changed, the application quits. The wheel and the other buttons do nothing.
+ * removed or changed, one of the windows is closed, the application quits. The wheel and the other buttons do
+ * nothing. Where another application's full-screen window has come to lie over one of the windows, that
+ * window is raised and activated as soon as the cursor is there.
  *
  * **The colour** is that of one pixel on the screen, whoever painted it, as QScreen::grabWindow() gives it
  * and without the trace of the pipette's own windows, a black of alpha 1 of 255 that takes one off each
  * channel from 128 up: 127 and 128 become the same value below it and are both picked as 128. It is opaque
- * always. Where no compositor has blended the windows, a channel of 255 is picked as 255 * 255 / 254: a
- * QColor of the model ExtendedRgb, whose rgb() and name() are white's. Loupe and cursor are never part of the
- * colour. When the loupe has been over the pixel up to now, the pipette hides it and waits until the screen
- * has caught up, about a tenth of a second; everywhere else colorSelected() comes from within the release.
+ * always. A channel of 255, which the windows cannot have left behind, is picked as 255 * 255 / 254: a QColor
+ * of the model ExtendedRgb, whose rgb() and name() are white's. Loupe and cursor are never part of the
+ * colour. When the loupe has been over the pixel up to now, or the windows have just appeared, the pipette
+ * hides the loupe and waits until the screen has caught up: about a tenth of a second, 0.6 seconds at most,
+ * in which a key still gives up. Everywhere else colorSelected() comes from within the release.
+ *
+ * **The desktop** has to blend windows, as all current ones do. On an X server without a compositor the
+ * windows are black instead of transparent, and so is what is picked. Xwayland gives no pictures of other
+ * applications either: a host that offers the pipette there should run on Wayland itself, where the
+ * permission is missing.
  *
  * **Permission.** Where the system guards the contents of the screen (see PrivacyAccess.h) and the program
  * may not read it, startPicking() asks for the permission and does nothing else. Try again once it is
@@ -34,25 +42,28 @@
  * a warning of the logging category "uicomponents.pipette" says so.
  *
  * **Style sheet.** The sheet of the application gives the loupe its size and look; without one it is as small
- * as its label. The picture is clipped to an ellipse, and background and border are painted over it:
+ * as its label. The picture is clipped to an ellipse, and background and border are painted over it, so the
+ * background has to be transparent. This one shows 13 pixels 9 times enlarged, its border included, and a
+ * dark grey beyond the edge of the desktop:
  *
  *     LoupeWidget[roundedEdges="true"] {
- *         qproperty-emptyPixelsColor: #202020;  // beyond the edge of the desktop
+ *         qproperty-emptyPixelsColor: #202020;
  *         background: transparent;
  *         border: 2px solid white;
- *         border-radius: 60px;
- *         min-width: 117px; max-width: 117px;   // 13 pixels, 9 times enlarged; and the same for the height
+ *         border-radius: 58px;
+ *         min-width: 113px; max-width: 113px;
+ *         min-height: 113px; max-height: 113px;
  *     }
  *     LoupeWidget > #colorNameLabel { color: white; }
  *
  * The label lies over all of the loupe; margins and spacing around it are set on
  * `LoupeWidget > InstalledLayoutController` (see LayoutController). The windows take a cursor for the pick,
- * the arrow without it:
+ * the arrow without it. The hot spot is a point of the scaled picture:
  *
  *     PipetteScreenView {
  *         qproperty-cursorPixmap: url(dropper.png);
  *         qproperty-cursorSize: 32px 32px;
- *         qproperty-cursorHotSpot: 2px 30px;    // in the scaled picture
+ *         qproperty-cursorHotSpot: 2px 30px;
  *     }
  *
  * **Lifetime.** The pipette may be deleted at any time, while it picks and in a slot of each of its signals;
@@ -71,7 +82,8 @@ public:
 
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Does nothing, without a
     /// signal, when the permission is missing. A call while the pipette picks puts a second set of windows
-    /// and a second loupe over the first; the next end of the pick ends both.
+    /// and a second loupe over the first, whose traces only one set's are taken out of the colour again; the
+    /// next end of the pick ends both. A click that the pipette still waits with is picked all the same.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.
@@ -88,7 +100,7 @@ Q_SIGNALS:
     void pickingStopped();
 
     /// The user picked @p color. Comes before pickingStopped(), with the windows still up. Not emitted when
-    /// the user gave up, and when the point is on no screen.
+    /// the user gave up, when the point is on no screen, and when the platform gives no picture of it.
     void colorSelected(const QColor& color);
 
 private:

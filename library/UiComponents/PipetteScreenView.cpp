@@ -12,8 +12,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <QWindow>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -56,6 +60,8 @@ public:
     void focusSoon();
     void showAtCursor(QEvent* event);
     void stayInPlace();
+    QScreen* ownScreen() const;
+    void repaintLoupe(const QRect& part);
 
     PipetteScreenView* const owner;
     QGraphicsItem* const loupeItem;
@@ -88,7 +94,8 @@ void PipetteScreenView::Private::setLoupeVisible(bool visible)
 std::optional<LoupeTrail::Place> PipetteScreenView::Private::paintedPlace() const
 {
     const QGraphicsItem* const item = loupe();
-    if (!item || !item->isVisible() || item->effectiveOpacity() <= 0.0) {
+    if (!item || !item->isVisible() || item->effectiveOpacity() <= 0.0 ||
+        !item->sceneBoundingRect().intersects(owner->sceneRect())) {
         return std::nullopt;
     }
     return LoupeTrail::Place{item->scenePos().toPoint(), keptFree};
@@ -133,9 +140,29 @@ void PipetteScreenView::Private::stayInPlace()
     --returnsLeft;
     QTimer::singleShot(0, owner, [this] {
         if (owner->isVisible() && owner->windowHandle()->geometry() != area) {
+            // First of all: the fixed size that Qt tells the window manager is in pixels of this screen.
+            owner->windowHandle()->setScreen(ownScreen());
             owner->setGeometry(area);
         }
     });
+}
+
+/// The screen that the view covers; the primary one when there is none like it any more.
+QScreen* PipetteScreenView::Private::ownScreen() const
+{
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto found = std::find_if(screens.cbegin(), screens.cend(),
+                                    [this](const QScreen* screen) { return screen->geometry() == area; });
+    return found == screens.cend() ? QGuiApplication::primaryScreen() : *found;
+}
+
+void PipetteScreenView::Private::repaintLoupe(const QRect& part)
+{
+    const QGraphicsItem* const item = loupe();
+    const QRectF touched = item ? item->sceneBoundingRect() & QRectF(part) : QRectF();
+    if (!touched.isEmpty()) {
+        owner->viewport()->update(owner->mapFromScene(touched).boundingRect());
+    }
 }
 
 PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry)
@@ -202,12 +229,18 @@ QSize PipetteScreenView::cursorHotSpot() const
 
 void PipetteScreenView::keepFree(const QRect& area)
 {
-    d->keptFree = area;
+    if (area == d->keptFree) {
+        return;
+    }
+    const QRect former = std::exchange(d->keptFree, area);
+    d->repaintLoupe(former);
+    d->repaintLoupe(area);
 }
 
 std::optional<int> PipetteScreenView::untilFree(const QRect& area, const QRegion& shape) const
 {
-    return d->trail.untilFree(area, shape, d->clock.elapsed());
+    // What another view shows there is not this one's affair.
+    return area.intersects(d->area) ? d->trail.untilFree(area, shape, d->clock.elapsed()) : 0;
 }
 
 std::optional<int> PipetteScreenView::untilCovered() const
@@ -250,13 +283,20 @@ bool PipetteScreenView::event(QEvent* event)
     case QEvent::FocusIn:
         d->showAtCursor(event);
         return true;
-    case QEvent::Enter:
+    case QEvent::Enter: {
+        const QPointer<PipetteScreenView> self = this;
         raise();
-        activateWindow();
+        if (self) {
+            activateWindow();
+        }
+        if (!self) {
+            return true;
+        }
         setCursor(d->cursor);
         d->focusSoon();
         d->showAtCursor(event);
         return true;
+    }
     case QEvent::WindowActivate:
         d->focusSoon();
         d->showAtCursor(event);
@@ -273,8 +313,20 @@ bool PipetteScreenView::event(QEvent* event)
         event->accept();
         Q_EMIT pickingFinished(QCursor::pos(), false);
         return true;
-    case QEvent::Move:
-    case QEvent::Resize: {
+    case QEvent::Close: {
+        const QPointer<PipetteScreenView> self = this;
+        const bool result = QGraphicsView::event(event);
+        if (self) {
+            Q_EMIT pickingFinished(QCursor::pos(), false);
+        }
+        return result;
+    }
+    case QEvent::Resize:
+        // Where a native window has grown, its pixels are arbitrary until they are painted.
+        d->coveredAt.reset();
+        viewport()->update();
+        Q_FALLTHROUGH();
+    case QEvent::Move: {
         const bool result = QGraphicsView::event(event);
         d->stayInPlace();
         return result;

@@ -35,3 +35,12 @@ bool PixelPattern::show(const QRect& place, Window window)
     // It says when it is there.
     return m_application.waitForReadyRead();
 }
+
+bool PixelPattern::activate()
+{
+    // Window managers do not list the backmost one, which bypasses them.
+    return QProcess::execute(QStringLiteral("xdotool"),
+                             {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                              QStringLiteral("--name"), QStringLiteral("^Pixel pattern$"),
+                              QStringLiteral("windowactivate")}) == 0;
+}

@@ -18,7 +18,7 @@ public:
         Backmost,
         /// The size of the screen on which it starts, as the window manager does it.
         FullScreen,
-        /// As any application's, at its place; its title is "Pixel pattern".
+        /// As any application's, at its place.
         Ordinary,
     };
 
@@ -29,6 +29,9 @@ public:
 
     /// Starts the application; true as soon as its picture is on the screen.
     bool show(const QRect& place, Window window = Window::Backmost);
+
+    /// Makes the only one that is not backmost the active window, as a click on it in a task bar does.
+    static bool activate();
 
 private:
     QProcess m_application;

@@ -65,6 +65,9 @@ int main(int argc, char** argv)
 
     PatternWindow window;
     window.setGeometry(place);
+    if (kind != PixelPattern::Window::Backmost) {
+        window.setWindowTitle(QStringLiteral("Pixel pattern"));
+    }
     switch (kind) {
     case PixelPattern::Window::Backmost:
         window.setWindowFlags(Qt::X11BypassWindowManagerHint | Qt::FramelessWindowHint);
@@ -75,7 +78,6 @@ int main(int argc, char** argv)
         window.showFullScreen();
         break;
     case PixelPattern::Window::Ordinary:
-        window.setWindowTitle(QStringLiteral("Pixel pattern"));
         window.show();
         break;
     }

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
+#include <QProcess>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -172,8 +173,10 @@ private Q_SLOTS:
     void pictureOfNothingPicksNothing();
     void escapeGivesUp();
     void keysGiveUp();
+    void closedWindowGivesUp();
     void otherInputDoesNothing();
     void pickUnderTheLoupeWaits();
+    void waitingPickSurvivesASecondStart();
     void waitingPickIsOver_data();
     void waitingPickIsOver();
     void otherApplicationEndsThePick();
@@ -202,6 +205,8 @@ private Q_SLOTS:
     void pipetteMayDieWhilePicking();
     void windowOfThePipetteMayDie();
     void handlersOutliveThePipette();
+    void pipetteMayBeTheApplicationsChild();
+    void viewComesToTheCursor();
 
 private:
     void start();
@@ -264,6 +269,28 @@ QGraphicsItem* loupeItem()
     const auto loupes = alive<LoupeWidget>();
     return loupes.isEmpty() ? nullptr : loupes.last()->graphicsProxyWidget();
 }
+
+/// Counts how often a view was raised since it was shown, which raises it too.
+class RaiseWatch : public QObject
+{
+public:
+    RaiseWatch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (!qobject_cast<PipetteScreenView*>(object)) {
+            return false;
+        }
+        if (event->type() == QEvent::Show) {
+            raises = 0;
+        } else if (event->type() == QEvent::ZOrderChange) {
+            ++raises;
+        }
+        return false;
+    }
+
+    int raises = 0;
+};
 
 void release(PipetteScreenView* view, const QPoint& point, Qt::MouseButton button = Qt::LeftButton)
 {
@@ -343,7 +370,12 @@ void tst_Pipette::startCoversEveryScreen()
 
 void tst_Pipette::startActivatesTheScreenUnderTheCursor()
 {
+    // Platforms activate each window that is shown, so what the pipette does itself shows in the order only.
+    RaiseWatch watch;
+    const auto atStart = std::make_shared<int>(0);
+    connect(m_pipette.get(), &Pipette::pickingStarted, this, [&watch, atStart] { *atStart = watch.raises; });
     m_pipette->startPicking();
+    QCOMPARE(*atStart, 1);
     PipetteScreenView* const view = shownViews().first();
     QVERIFY(QTest::qWaitForWindowActive(view));
     QTRY_VERIFY(view->hasFocus());
@@ -482,6 +514,15 @@ void tst_Pipette::keysGiveUp()
     QVERIFY(shownViews().isEmpty());
 }
 
+// As a window manager closes it, or QApplication::closeAllWindows().
+void tst_Pipette::closedWindowGivesUp()
+{
+    start();
+    shownViews().first()->close();
+    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    QVERIFY(nothingIsLeft());
+}
+
 void tst_Pipette::otherInputDoesNothing()
 {
     start();
@@ -517,7 +558,6 @@ void tst_Pipette::pickUnderTheLoupeWaits()
     const QPointF place = loupeItem()->pos();
     release(view, QPoint(600, 500));
     QTest::mouseMove(view->windowHandle(), QPoint(300, 200));
-    QTest::keyPress(view->windowHandle(), Qt::Key_Escape);
     QCoreApplication::processEvents();
     if (loupeItem()) {
         QCOMPARE(loupeItem()->pos(), place);
@@ -528,12 +568,29 @@ void tst_Pipette::pickUnderTheLoupeWaits()
     QVERIFY(shownViews().isEmpty());
 }
 
+void tst_Pipette::waitingPickSurvivesASecondStart()
+{
+    start();
+    const QPoint point = underTheLoupe(loupeItem());
+    Q_EMIT shownViews().first()->pickingFinished(point, true);
+    m_pipette->startPicking();
+    QCOMPARE(m_protocol.lines, (QStringList{started, started}));
+    QTRY_COMPARE(m_protocol.lines.size(), 4);
+    QCOMPARE(m_protocol.lines.at(2), PixelWindow::pickedAt(point).name());
+    QCOMPARE(m_protocol.lines.at(3), stopped);
+    QVERIFY(shownViews().isEmpty());
+}
+
 void tst_Pipette::waitingPickIsOver_data()
 {
     QTest::addColumn<std::function<void(Pipette*)>>("end");
     QTest::addColumn<int>("ends");
     using End = std::function<void(Pipette*)>;
     QTest::newRow("stopped") << End([](Pipette* pipette) { pipette->stopPicking(); }) << 1;
+    QTest::newRow("key") << End([](Pipette*) {
+        QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
+    }) << 1;
+    QTest::newRow("window closed") << End([](Pipette*) { shownViews().first()->close(); }) << 1;
     QTest::newRow("other application")
         << End([](Pipette*) { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); }) << 1;
     QTest::newRow("screen gone") << End([](Pipette*) {
@@ -945,6 +1002,47 @@ void tst_Pipette::handlersOutliveThePipette()
         QVERIFY(nothingIsLeft());
         QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
+}
+
+// It dies after everything that QGuiApplication gives: in a process of its own, whose last words are read.
+void tst_Pipette::pipetteMayBeTheApplicationsChild()
+{
+    if (qEnvironmentVariableIsSet("UIC_APPLICATIONS_PIPETTE")) {
+        new Pipette(qApp);
+        return;
+    }
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("UIC_APPLICATIONS_PIPETTE"), QStringLiteral("1"));
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("pipetteMayBeTheApplicationsChild")});
+    QVERIFY(process.waitForFinished());
+    const QByteArray words = process.readAll();
+    QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0, words.constData());
+    QVERIFY2(!words.contains("nullptr"), words.constData());
+}
+
+// As when another application's window has come to lie over it: then there is no Enter.
+void tst_Pipette::viewComesToTheCursor()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    view->setAttribute(Qt::WA_UnderMouse);
+    RaiseWatch watch;
+    bool turned = false;
+    QTimer::singleShot(150, this, [&turned] { turned = true; });
+    QTRY_VERIFY(turned);
+    QCOMPARE(watch.raises, 0);
+    view->setAttribute(Qt::WA_UnderMouse, false);
+    QTRY_VERIFY(watch.raises > 0);
+    // It does not go on for ever.
+    QTRY_COMPARE(watch.raises, 10);
+    turned = false;
+    QTimer::singleShot(150, this, [&turned] { turned = true; });
+    QTRY_VERIFY(turned);
+    QCOMPARE(watch.raises, 10);
 }
 
 UIC_TEST_MAIN(tst_Pipette)

@@ -89,6 +89,30 @@ public:
     QRegion painted;
 };
 
+/// Tells of each event of one kind, whoever gets it.
+class EventWatch : public QObject
+{
+public:
+    explicit EventWatch(QEvent::Type type)
+        : m_type(type)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == m_type && seen) {
+            seen(object);
+        }
+        return false;
+    }
+
+    std::function<void(QObject*)> seen;
+
+private:
+    QEvent::Type m_type;
+};
+
 } // namespace
 
 class tst_PipetteScreenView : public QObject
@@ -102,6 +126,7 @@ private Q_SLOTS:
     void metaObject();
     void constructionCoversTheScreen_data();
     void constructionCoversTheScreen();
+    void constructionMakesTheWindowOnItsScreen();
     void constructionLeavesTheViewHidden();
     void constructionShowsTheLoupe();
     void bottomItemIsTheLoupe();
@@ -120,6 +145,8 @@ private Q_SLOTS:
     void eventsThatHideTheLoupe_data();
     void eventsThatHideTheLoupe();
     void enterTakesTheKeyboard();
+    void enterRaises();
+    void closedGivesUp();
     void wheelIsSwallowed();
     void shortcutOverrideGivesUp();
     void escapeGivesUp();
@@ -138,6 +165,7 @@ private Q_SLOTS:
     void keptAreaShowsNoLoupe();
     void moveRepaintsTwoPlacesOnly();
     void presentLoupeIsKnown();
+    void loupeOfAnotherScreenIsNotIts();
 };
 
 void tst_PipetteScreenView::init()
@@ -205,6 +233,19 @@ void tst_PipetteScreenView::constructionCoversTheScreen()
     const QBrush overlay(QColor(0, 0, 0, 1), Qt::SolidPattern);
     QCOMPARE(view.backgroundBrush(), overlay);
     QCOMPARE(stage.scene.backgroundBrush(), overlay);
+}
+
+void tst_PipetteScreenView::constructionMakesTheWindowOnItsScreen()
+{
+    EventWatch watch(QEvent::WinIdChange);
+    QVector<QRect> places;
+    watch.seen = [&places](QObject* object) {
+        if (const auto* view = qobject_cast<QGraphicsView*>(object)) {
+            places.append(view->geometry());
+        }
+    };
+    const Stage stage(QRect(-640, -480, 640, 480));
+    QCOMPARE(places, (QVector<QRect>{QRect(-639, -479, 10, 10)}));
 }
 
 void tst_PipetteScreenView::constructionLeavesTheViewHidden()
@@ -432,6 +473,27 @@ void tst_PipetteScreenView::enterTakesTheKeyboard()
     QTRY_VERIFY(stage.view->hasFocus());
 }
 
+void tst_PipetteScreenView::enterRaises()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    int raises = 0;
+    EventWatch watch(QEvent::ZOrderChange);
+    watch.seen = [&](QObject* object) { raises += object == stage.view.get() ? 1 : 0; };
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(stage.view.get(), &enter);
+    QCOMPARE(raises, 1);
+}
+
+void tst_PipetteScreenView::closedGivesUp()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    QVERIFY(stage.view->close());
+    QCOMPARE(stage.finished->count(), 1);
+    QCOMPARE(stage.finished->at(0).at(1).toBool(), false);
+}
+
 void tst_PipetteScreenView::wheelIsSwallowed()
 {
     Stage stage;
@@ -442,7 +504,7 @@ void tst_PipetteScreenView::wheelIsSwallowed()
     QVERIFY(static_cast<QObject*>(stage.view.get())->event(&wheel));
     QVERIFY(wheel.isAccepted());
     QCoreApplication::sendEvent(stage.view->viewport(), &wheel);
-    QCOMPARE(stage.view->mapFromScene(0, 0), QPoint(0, 0));
+    QCOMPARE(stage.moved->count(), 0);
     QCOMPARE(stage.finished->count(), 0);
 }
 
@@ -595,6 +657,7 @@ void tst_PipetteScreenView::viewMayDieInItsSlots_data()
     QTest::newRow("release") << Act([](PipetteScreenView* view) {
         QTest::mouseClick(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 40));
     });
+    QTest::newRow("closed") << Act([](PipetteScreenView* view) { view->close(); });
     QTest::newRow("show") << Act([](PipetteScreenView* view) {
         QShowEvent event;
         QCoreApplication::sendEvent(view, &event);
@@ -672,11 +735,10 @@ void tst_PipetteScreenView::presentLoupeIsKnown()
     QVERIFY(stage.present());
     stage.loupe->setPos(100, 100);
     QTRY_VERIFY(!stage.view->untilFree(inside, shape));
+    // A new area repaints by itself.
     stage.view->keepFree({105, 105, 20, 20});
-    stage.loupe->update();
     QTRY_VERIFY(stage.view->untilFree(inside, shape) == 0);
     stage.view->keepFree({});
-    stage.loupe->update();
     QTRY_VERIFY(!stage.view->untilFree(inside, shape));
     stage.loupe->setOpacity(0.0);
     QTRY_VERIFY(stage.view->untilFree(inside, shape) == 0);
@@ -687,6 +749,32 @@ void tst_PipetteScreenView::presentLoupeIsKnown()
     // Grabs of the off-screen platform read what was painted.
     QCOMPARE(PipetteScreenView::screenLag(), 0);
     QVERIFY(stage.view->untilCovered() == 0);
+}
+
+// A view that was painted while the loupe was elsewhere is not painted again when it moves there: what it
+// knows would be wrong for ever.
+void tst_PipetteScreenView::loupeOfAnotherScreenIsNotIts()
+{
+    Stage stage(QRect(0, 0, 400, 400));
+    PipetteScreenView other(&stage.scene, QRect(400, 0, 400, 400));
+    QVERIFY(stage.present());
+    stage.loupe->setPos(100, 100);
+    other.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&other));
+    // The one that is shown last takes the loupe from the other.
+    stage.loupe->show();
+    other.viewport()->repaint();
+    const QRegion shape(QRect(QPoint(0, 0), loupeSize));
+    QTRY_VERIFY(!stage.view->untilFree({110, 110, 5, 5}, shape));
+    QVERIFY(other.untilFree({110, 110, 5, 5}, shape) == 0);
+
+    // Nor does a loupe reach over the edge of its screen.
+    stage.loupe->show();
+    stage.loupe->setPos(400 - loupeSize.width() / 2, 100);
+    stage.view->viewport()->repaint();
+    other.viewport()->repaint();
+    QVERIFY(stage.view->untilFree({410, 110, 5, 5}, shape) == 0);
+    QVERIFY(!other.untilFree({410, 110, 5, 5}, shape));
 }
 
 UIC_TEST_MAIN(tst_PipetteScreenView)
