@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QGraphicsProxyWidget>
 #include <QGuiApplication>
 #include <QImage>
 #include <QLabel>
@@ -66,6 +67,7 @@ public:
         , colorNameLabel(new QLabel(loupe))
     {
         colorNameLabel->setObjectName(QStringLiteral("colorNameLabel"));
+        colorNameLabel->setTextFormat(Qt::PlainText);
         auto* layout = new OvVBoxLayout(owner);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
@@ -143,12 +145,29 @@ QSize LoupeWidget::offset() const
 void LoupeWidget::setPixmap(const QPixmap& pixmap)
 {
     d->pixmap = pixmap;
-    update();
+    updatePicture();
 }
 
 void LoupeWidget::setColorName(const QColor& color)
 {
-    m_children->colorNameLabel->setText(color.name());
+    QLabel* const label = m_children->colorNameLabel;
+    // updatePicture() stands in for the label's own update, which would come too late as well.
+    const bool wasDisabled = label->testAttribute(Qt::WA_UpdatesDisabled);
+    label->setAttribute(Qt::WA_UpdatesDisabled);
+    label->setText(color.name());
+    label->setAttribute(Qt::WA_UpdatesDisabled, wasDisabled);
+    updatePicture();
+}
+
+/// A scene hears of an update of the widget only after it has painted the widget's move, and would then paint
+/// it once more.
+void LoupeWidget::updatePicture()
+{
+    if (QGraphicsProxyWidget* const proxy = graphicsProxyWidget()) {
+        proxy->update();
+    } else {
+        update();
+    }
 }
 
 QRegion LoupeWidget::paintedShape() const

@@ -56,6 +56,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void updatePicture();
+
     class Private;
     class Children;
     const std::unique_ptr<Private> d;

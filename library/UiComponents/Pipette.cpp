@@ -98,7 +98,7 @@ private:
     void stopWatching();
 
     void update(const QPoint& cursorPos);
-    void takePicture();
+    void takePicture(QScreen* screen);
     void finish(const QPoint& cursorPos, bool isSucceeded);
     void pick(const QPoint& cursorPos);
     void lookAgain();
@@ -140,6 +140,7 @@ void Pipette::Impl::start()
     }
 
     scene = new QGraphicsScene(QRectF(desktop), this);
+    scene->setItemIndexMethod(QGraphicsScene::NoIndex); // for one item that moves all the time
     loupe = new LoupeWidget;
     loupeItem = scene->addWidget(loupe);
     currentColor = QColor();
@@ -262,7 +263,7 @@ void Pipette::Impl::update(const QPoint& cursorPos)
     if (!loupe || !loupeItem || pendingPick) {
         return;
     }
-    const QScreen* const screen = QGuiApplication::screenAt(cursorPos);
+    QScreen* const screen = QGuiApplication::screenAt(cursorPos);
     if (!screen) {
         return;
     }
@@ -271,13 +272,13 @@ void Pipette::Impl::update(const QPoint& cursorPos)
     const QSize offset = loupe->offset();
     loupeItem->setPos(QPointF(cursorPos.x() + offset.width(), cursorPos.y() + offset.height()));
     waited = 0;
-    takePicture();
+    takePicture(screen);
 }
 
-void Pipette::Impl::takePicture()
+/// Shows the pixels around the cursor, which is on @p screen, in the loupe.
+void Pipette::Impl::takePicture(QScreen* screen)
 {
-    QScreen* const screen = QGuiApplication::screenAt(*cursor);
-    if (!loupe || !screen) {
+    if (!loupe) {
         return;
     }
     const QSize size(ScreenSample::loupePixels, ScreenSample::loupePixels);
@@ -300,8 +301,11 @@ void Pipette::Impl::takePicture()
     const QPoint center =
         ScreenSample::centerPixel(*cursor, size, screen->geometry(), picture.devicePixelRatioF());
     const QColor color = picture.toImage().pixelColor(center);
-    loupe->setPixmap(ScreenSample::withoutOutside(picture, *cursor, size, screenAreas(),
-                                                  QGuiApplication::screens().indexOf(screen)));
+    // The list of screens is not made for each move.
+    loupe->setPixmap(screen->geometry().contains(area)
+                         ? picture
+                         : ScreenSample::withoutOutside(picture, *cursor, size, screenAreas(),
+                                                        QGuiApplication::screens().indexOf(screen)));
     loupe->setColorName(ScreenSample::withoutOverlay(color));
     const std::optional<int> covering = untilCovered(*cursor);
     if (covering != 0) {
@@ -357,8 +361,9 @@ void Pipette::Impl::pick(const QPoint& cursorPos)
 void Pipette::Impl::lookAgain()
 {
     if (!pendingPick) {
-        if (cursor) {
-            takePicture();
+        QScreen* const screen = cursor ? QGuiApplication::screenAt(*cursor) : nullptr;
+        if (screen) {
+            takePicture(screen);
         }
         return;
     }

@@ -1,5 +1,6 @@
 #include "FreedMemory.h"
 #include "MetaObject.h"
+#include "PaintCount.h"
 #include "TestMain.h"
 
 #include <QtUtility/PrivacyAccess.h>
@@ -189,6 +190,7 @@ private Q_SLOTS:
 
     void loupeFollowsTheCursor_data();
     void loupeFollowsTheCursor();
+    void loupeIsPaintedOnceForAMove();
     void loupeShowsWhatItMagnifies();
     void loupeOnNoScreenStays();
     void loupeWithoutPictureKeepsItsName();
@@ -741,6 +743,25 @@ void tst_Pipette::loupeFollowsTheCursor()
     LoupeWidget* const loupe = alive<LoupeWidget>().first();
     QCOMPARE(loupe->size(), loupeSize);
     QCOMPARE(loupe->placement(), placement);
+}
+
+void tst_Pipette::loupeIsPaintedOnceForAMove()
+{
+    start();
+    PipetteScreenView* const view = shownViews().first();
+    auto* label = alive<LoupeWidget>().first()->findChild<QLabel*>();
+    PaintCount paints(alive<LoupeWidget>().first());
+    for (const QPoint& point : {QPoint(300, 200), QPoint(600, 500), QPoint(310, 210)}) {
+        paints.count = 0;
+        QTest::mouseMove(view->windowHandle(), point);
+        QTRY_COMPARE(label->text(), PixelWindow::pickedAt(point).name());
+        QTRY_VERIFY(paints.count > 0);
+        // Nor later, for the picture or the name alone.
+        for (int i = 0; i < 5; ++i) {
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(paints.count, 1);
+    }
 }
 
 void tst_Pipette::loupeShowsWhatItMagnifies()
