@@ -8,6 +8,8 @@
 #include <chrono>
 #include <cmath>
 #include <cstring>
+#include <optional>
+#include <stdexcept>
 #include <vector>
 #if defined(__GLIBC__)
 #include <malloc.h>
@@ -23,6 +25,8 @@ constexpr double secondsOfARow = 3.0;
 constexpr int fewestPairs = 25;
 constexpr int mostPairs = 601;
 constexpr int measurementsOfAnAmount = 5;
+
+std::optional<Clock::time_point> stoppedAt;
 
 // Library code that leaves the upper halves of the AVX registers dirty makes the plain SSE code after it
 // several times slower, which would be counted against whichever side comes next.
@@ -42,11 +46,12 @@ double timeOf(const Side& side, int repetitions)
         side.before();
     }
     cleanVectorRegisters();
+    stoppedAt.reset();
     const Clock::time_point start = Clock::now();
     for (int i = 0; i < repetitions; ++i) {
         side.run();
     }
-    const Clock::time_point end = Clock::now();
+    const Clock::time_point end = stoppedAt.value_or(Clock::now());
     if (side.after) {
         side.after();
     }
@@ -180,7 +185,11 @@ bool addRowOf(const char* path, Goal goal, Row (*make)())
     benchmark::RegisterBenchmark(path,
                                  [path, goal, make](benchmark::State& state) {
                                      for ([[maybe_unused]] auto _ : state) {
-                                         runRow(state, path, goal, make);
+                                         try {
+                                             runRow(state, path, goal, make);
+                                         } catch (const std::runtime_error& error) {
+                                             state.SkipWithError(error.what());
+                                         }
                                      }
                                  })
         ->Iterations(1)
@@ -198,6 +207,11 @@ bool Bench::addRow(const char* path, Goal goal, Pair (*make)())
 bool Bench::addRow(const char* path, Goal goal, Amounts (*make)())
 {
     return addRowOf(path, goal, make);
+}
+
+void Bench::stopClock()
+{
+    stoppedAt = Clock::now();
 }
 
 qint64 Bench::allocatedBytes()

@@ -28,11 +28,14 @@
  * with the row. Nothing else is needed: `benchmarks/run` finds the row and puts it into the table.
  *
  * - Work that must not be timed goes into Side::before and Side::after, around every sample. Such a side
- *   runs once a sample, so it should take some 50 µs or more by itself.
+ *   runs once a sample, so it should take some 50 µs or more by itself. stopClock() ends what is timed of a
+ *   sample before run() returns.
  * - A row without a reference has a goal in absolute time: `atMostMicroseconds(0.25)` and an empty second
  *   side.
  * - A row that is only reported has `noGoal()`.
  * - A row of memory returns Amounts instead of a Pair; see allocatedBytes().
+ * - A fixture that finds that something else is timed than the row says throws a std::runtime_error: the row
+ *   fails with its text, and benchmarks/run with it.
  *
  * The function captures nothing: what differs between rows is an argument of a function that it calls.
  */
@@ -82,6 +85,9 @@ struct Amounts
     std::function<qint64()> ours;
     std::function<qint64()> reference;
 };
+
+/// Only for a side with `before` or `after`: what its run() does from here on is not timed.
+void stopClock();
 
 /// Bytes that the program holds from the allocator at the moment; 0 where the allocator cannot tell.
 qint64 allocatedBytes();

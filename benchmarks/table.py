@@ -11,6 +11,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAMS = ROOT / "build" / "release" / "benchmarks" / "programs.txt"
+SESSION = ROOT / "tests" / "desktop" / "desktop-session"
 RESULTS = ROOT / "build" / "benchmarks" / "results.json"
 README = ROOT / "README.md"
 BEGIN, END = "<!-- benchmarks -->", "<!-- /benchmarks -->"
@@ -21,8 +22,9 @@ def fail(message):
     sys.exit(f"benchmarks/run: {message}")
 
 
-def measure(program, pattern):
-    """Runs one program and returns its rows."""
+def measure(entry, pattern):
+    """Runs one program, off screen or on the screens that stand behind its path, and returns its rows."""
+    program, _, layout = entry.partition("|")
     with tempfile.TemporaryDirectory() as scratch:
         os.chmod(scratch, 0o700)
         out = pathlib.Path(scratch) / "rows.json"
@@ -31,6 +33,14 @@ def measure(program, pattern):
         command = [program, f"--benchmark_out={out}", "--benchmark_out_format=json"]
         if pattern:
             command.append(f"--benchmark_filter={pattern}")
+        if layout:
+            environment["UIC_SCREENS"] = layout
+            # No desktop is started for rows that nobody wants.
+            listed = subprocess.run(command + ["--benchmark_list_tests=true"], env=environment,
+                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+            if pattern and not listed.stdout.strip():
+                return []
+            command = [SESSION, "--screens", layout] + command
         done = subprocess.run(command, env=environment, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True)
         text = out.read_text() if out.exists() else ""
@@ -114,8 +124,8 @@ def main():
     options = parser.parse_args()
 
     rows = []
-    for program in PROGRAMS.read_text().split():
-        rows += measure(program, options.filter)
+    for entry in PROGRAMS.read_text().splitlines():
+        rows += measure(entry, options.filter)
     if not rows:
         fail("no row matches")
     text = table(rows)
