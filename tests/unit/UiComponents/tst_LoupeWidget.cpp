@@ -1,15 +1,19 @@
 #include "MetaObject.h"
+#include "PaintCount.h"
 #include "TestMain.h"
 
 #include <UiComponents/LoupeWidget.h>
 
 #include <QBoxLayout>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
 
 #include <cmath>
+#include <functional>
 #include <memory>
 
 namespace {
@@ -56,6 +60,8 @@ constexpr double rim = 0.03;
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(LoupeWidget*)>)
+
 class tst_LoupeWidget : public QObject
 {
     Q_OBJECT
@@ -66,6 +72,8 @@ private Q_SLOTS:
     void offsetFollowsPlacementAndSize();
     void colorName();
     void emptyPixelsColorIsStoredOnce();
+    void changesArePaintedOnce_data();
+    void changesArePaintedOnce();
     void pictureIsMagnifiedIntoACircle();
     void transparentPixelsShowTheEmptyColor();
     void withoutPictureOnlyTheEmptyColor();
@@ -202,6 +210,54 @@ void tst_LoupeWidget::emptyPixelsColorIsStoredOnce()
     QCOMPARE(counter.count, 0);
     QVERIFY(loupe.setProperty("emptyPixelsColor", QColor(Qt::red)));
     QCOMPARE(loupe.emptyPixelsColor(), QColor(Qt::red));
+}
+
+void tst_LoupeWidget::changesArePaintedOnce_data()
+{
+    QTest::addColumn<std::function<void(LoupeWidget*)>>("change");
+    QTest::addColumn<bool>("isInAScene");
+    using Change = std::function<void(LoupeWidget*)>;
+    const Change pixmap = [](LoupeWidget* loupe) { loupe->setPixmap(picture()); };
+    const Change name = [](LoupeWidget* loupe) { loupe->setColorName(Qt::red); };
+    const Change both = [pixmap, name](LoupeWidget* loupe) {
+        pixmap(loupe);
+        name(loupe);
+    };
+    for (const bool isInAScene : {false, true}) {
+        const QByteArray place = isInAScene ? " in a scene" : " by itself";
+        QTest::newRow("picture" + place) << pixmap << isInAScene;
+        QTest::newRow("name" + place) << name << isInAScene;
+        QTest::newRow("both" + place) << both << isInAScene;
+    }
+}
+
+void tst_LoupeWidget::changesArePaintedOnce()
+{
+    QFETCH(std::function<void(LoupeWidget*)>, change);
+    QFETCH(bool, isInAScene);
+    QGraphicsScene scene;
+    QGraphicsView view(&scene);
+    auto loupe = std::make_unique<LoupeWidget>();
+    loupe->resize(side, side);
+    LoupeWidget* const watched = loupe.get();
+    QWidget* window = watched;
+    if (isInAScene) {
+        scene.addWidget(loupe.release());
+        window = &view;
+    }
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QTRY_VERIFY(watched->isVisible());
+    for (int i = 0; i < 5; ++i) {
+        QCoreApplication::processEvents();
+    }
+    PaintCount paints(watched);
+    change(watched);
+    QTRY_COMPARE(paints.count, 1);
+    for (int i = 0; i < 5; ++i) {
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(paints.count, 1);
 }
 
 void tst_LoupeWidget::pictureIsMagnifiedIntoACircle()
