@@ -29,12 +29,11 @@ HighlightFrame::~HighlightFrame()
     if (!m_overlay) {
         return;
     }
-    const QRegion outline = m_overlay->mask();
+    if (m_target && !m_target->testAttribute(Qt::WA_WState_InPaintEvent)) {
+        m_overlay->erase();
+    }
     // The filter is still in place and keeps the removal from the target.
     delete m_overlay;
-    if (m_target && m_target->isVisible() && !m_target->testAttribute(Qt::WA_WState_InPaintEvent)) {
-        m_target->repaint(outline);
-    }
 }
 
 bool HighlightFrame::eventFilter(QObject* watched, QEvent* event)

@@ -1,7 +1,9 @@
 #include "HighlightFrameOverlay.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 
 HighlightFrameOverlay::HighlightFrameOverlay()
@@ -50,6 +52,19 @@ void HighlightFrameOverlay::coverParent()
     }
 }
 
+// To repaint the parent is not enough: a QQuickWidget or QOpenGLWidget is put into the window as a picture,
+// and what was painted over it stays until something else is painted there.
+void HighlightFrameOverlay::erase()
+{
+    const QPointer<HighlightFrameOverlay> self = this;
+    m_isErasing = true;
+    repaint();
+    if (self && !m_isErased) {
+        // A window with such content is painted no more than once a frame.
+        QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest);
+    }
+}
+
 bool HighlightFrameOverlay::event(QEvent* event)
 {
     // QWidget::scroll() takes all children along, and copies the painted border with the rest.
@@ -63,6 +78,10 @@ bool HighlightFrameOverlay::event(QEvent* event)
 void HighlightFrameOverlay::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
+    if (m_isErasing) {
+        m_isErased = true;
+        return;
+    }
     // Not the colour of the current group: the outline also marks disabled targets and inactive windows.
     const QColor color =
         m_borderColor.isValid() ? m_borderColor : palette().color(QPalette::Active, QPalette::Highlight);

@@ -30,6 +30,9 @@ public:
     /// Takes the whole of the parent's area.
     void coverParent();
 
+    /// Paints the parent without the border, now: it is not painted any more.
+    void erase();
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -40,4 +43,6 @@ private:
 
     QColor m_borderColor;
     int m_borderWidth = 2;
+    bool m_isErasing = false;
+    bool m_isErased = false;
 };
