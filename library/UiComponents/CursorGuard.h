@@ -7,8 +7,9 @@
 #include <QWidget>
 
 /// Replaces the cursor of a widget for as long as it exists, and brings back the former one, or none where
-/// the widget had none of its own. The widget may die first. Without a widget it is the cursor of the whole
-/// application that is overridden.
+/// the widget had none of its own. The widget may die first. Several on one widget may go in any order: it
+/// has the cursor of the latest one that is left. Without a widget it is the cursor of the whole application
+/// that is overridden.
 class CursorGuard
 {
 public:
@@ -17,9 +18,12 @@ public:
     CursorGuard(const CursorGuard&) = delete;
     CursorGuard& operator=(const CursorGuard&) = delete;
 
+    /// For a widget that is being destroyed: nothing is brought back.
+    void leaveAlone();
+
 private:
     const bool m_isForApplication;
-    const QPointer<QWidget> m_widget;
-    const bool m_hadOwnCursor;
-    const QCursor m_former;
+    QPointer<QWidget> m_widget;
+    bool m_hadOwnCursor;
+    QCursor m_former;
 };

@@ -12,6 +12,9 @@ private Q_SLOTS:
     void bringsTheFormerCursorBack();
     void widgetWithoutACursorFollowsItsParentAgain();
     void widgetDiesFirst();
+    void severalOnOneWidget_data();
+    void severalOnOneWidget();
+    void widgetLeftAlone();
     void withoutAWidgetTheApplicationHasTheCursor();
 };
 
@@ -51,6 +54,64 @@ void tst_CursorGuard::widgetDiesFirst()
     }
     QVERIFY(QGuiApplication::overrideCursor());
     QGuiApplication::restoreOverrideCursor();
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+void tst_CursorGuard::severalOnOneWidget_data()
+{
+    QTest::addColumn<QVector<int>>("order");
+    QTest::addColumn<bool>("hasOwnCursor");
+    const QVector<QVector<int>> orders = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
+    for (const QVector<int>& order : orders) {
+        for (const bool hasOwnCursor : {true, false}) {
+            QTest::addRow("%d, %d, %d, %s", order.at(0), order.at(1), order.at(2),
+                          hasOwnCursor ? "own cursor" : "inherited cursor")
+                << order << hasOwnCursor;
+        }
+    }
+}
+
+// Each records the cursor of the one before as the former one.
+void tst_CursorGuard::severalOnOneWidget()
+{
+    QFETCH(const QVector<int>, order);
+    QFETCH(const bool, hasOwnCursor);
+    QWidget parent;
+    QWidget widget(&parent);
+    QWidget other(&parent);
+    if (hasOwnCursor) {
+        widget.setCursor(Qt::IBeamCursor);
+    }
+    const CursorGuard otherGuard(&other, Qt::WaitCursor);
+    const QVector<Qt::CursorShape> shapes = {Qt::CrossCursor, Qt::PointingHandCursor, Qt::OpenHandCursor};
+    std::unique_ptr<CursorGuard> guards[3];
+    for (int i = 0; i < 3; ++i) {
+        guards[i] = std::make_unique<CursorGuard>(&widget, shapes.at(i));
+        QCOMPARE(widget.cursor().shape(), shapes.at(i));
+    }
+    for (const int next : order) {
+        guards[next].reset();
+        // The cursor is that of the latest one that is left.
+        for (int i = 2; i >= 0; --i) {
+            if (guards[i]) {
+                QCOMPARE(widget.cursor().shape(), shapes.at(i));
+                break;
+            }
+        }
+    }
+    QCOMPARE(widget.cursor().shape(), hasOwnCursor ? Qt::IBeamCursor : Qt::ArrowCursor);
+    QCOMPARE(widget.testAttribute(Qt::WA_SetCursor), hasOwnCursor);
+    QCOMPARE(other.cursor().shape(), Qt::WaitCursor);
+}
+
+void tst_CursorGuard::widgetLeftAlone()
+{
+    QWidget widget;
+    {
+        CursorGuard guard(&widget, Qt::CrossCursor);
+        guard.leaveAlone();
+    }
+    QCOMPARE(widget.cursor().shape(), Qt::CrossCursor);
     QVERIFY(!QGuiApplication::overrideCursor());
 }
 
