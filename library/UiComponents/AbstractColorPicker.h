@@ -26,8 +26,8 @@ class QObjectPrivate;
  * - While picking, emit colorChanged() for each new colour; the button takes it at once as a preview.
  * - When picking ends, by the user or through stop(), color() must return the final colour before
  *   pickingStopped() is emitted: the button reads it in that moment and adopts it.
- * - A picker may end without a colour and without a signal. The button then stays pressed, because only
- *   pickingStopped() releases it.
+ * - A picker may end without a colour and without a signal. The button then stays pressed, because it
+ *   waits for pickingStopped().
  * - stop() may come at any time, also while nothing is picked, and then does nothing.
  * - setColor() is called with each colour that the button takes over, a null colour included, so that
  *   the picker opens on the field's colour. Answering it with colorChanged() is allowed: an equal colour

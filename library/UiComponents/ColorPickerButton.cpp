@@ -5,7 +5,7 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QVariant>
 
@@ -29,6 +29,11 @@ QString faceStyleSheet(const QColor& color, bool enabled)
         .arg(enabled ? enabledOpacity : disabledOpacity);
 }
 
+bool isClickKey(const QKeyEvent& event)
+{
+    return !event.isAutoRepeat() && (event.key() == Qt::Key_Space || event.key() == Qt::Key_Select);
+}
+
 } // namespace
 
 class ColorPickerButton::Private
@@ -46,6 +51,10 @@ public:
     QPointer<AbstractColorPicker> picker;
     std::optional<QColor> color;
     bool isPressedByPick = false;
+    /// Calls of the picker's pick() that have not returned.
+    int picksOnStack = 0;
+    /// The key that ended one of them is still down.
+    bool isKeyOfEnd = false;
 };
 
 ColorPickerButton::Private::Private(ColorPickerButton* button)
@@ -180,7 +189,11 @@ void ColorPickerButton::startPicking()
     }
     d->isPressedByPick = true;
     setDown(true);
+    ++d->picksOnStack;
     d->picker->pick();
+    if (self) {
+        --d->picksOnStack;
+    }
 }
 
 void ColorPickerButton::stopPicking()
@@ -205,6 +218,29 @@ void ColorPickerButton::changeEvent(QEvent* event)
         d->updateStyle();
     }
     QToolButton::changeEvent(event);
+}
+
+void ColorPickerButton::keyPressEvent(QKeyEvent* event)
+{
+    if (isClickKey(*event)) {
+        // The key that ended the pick comes here next. Letting it go would click the button, which is still
+        // pressed, and begin another.
+        const bool isPicking = d->picker && d->picker->isInProgress();
+        d->isKeyOfEnd = d->picksOnStack > 0 && !isPicking;
+        if (d->isKeyOfEnd) {
+            return;
+        }
+    }
+    QToolButton::keyPressEvent(event);
+}
+
+void ColorPickerButton::keyReleaseEvent(QKeyEvent* event)
+{
+    if (d->isKeyOfEnd && isClickKey(*event)) {
+        d->isKeyOfEnd = false;
+        return;
+    }
+    QToolButton::keyReleaseEvent(event);
 }
 
 void ColorPickerButton::mouseReleaseEvent(QMouseEvent* event)

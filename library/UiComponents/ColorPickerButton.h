@@ -24,7 +24,9 @@ class AbstractColorPicker;
  * **One pick.** A click, Space or startPicking() emits pickingStarted(), shows the button pressed and
  * calls the picker's pick(). Each colour that the picker reports becomes the button's at once. When the
  * picker emits its `pickingStopped()`, the button emits its own, adopts the picker's final colour and is
- * released. A picker that ends in silence leaves the button pressed; the next end of a pick releases it.
+ * released. A picker that ends in silence leaves the button pressed, until one reports its end; Escape and
+ * the loss of the focus release it too if it has the focus, as they do any button. Where pick() runs a nested
+ * event loop, a Space that ended it does not click the button again.
  *
  * **Style sheet.** The face is a child QWidget named "color"; its size, border and drawing in the two
  * states without a colour are the sheet's, its background is written by the button, opaque whatever the
@@ -37,8 +39,9 @@ class AbstractColorPicker;
  *     ColorPickerButton[multiColor="true"] { background-image: url(:/mixed.png); }
  *
  * **Lifetime.** The button may be deleted, and its picker replaced, in a slot of any of its signals and
- * while the picker picks. One exception is Qt's: a slot of pickingStopped() that runs because the button
- * is being hidden must use deleteLater(), for QWidget::hide() goes on using the widget.
+ * while the picker picks. Two exceptions are Qt's: a slot of pickingStopped() that runs because the button
+ * is being hidden must use deleteLater(), for QWidget::hide() goes on using the widget; and so must all slots
+ * of a button whose popupMode() is MenuButtonPopup, for QToolButton goes on using it after a click.
  */
 class UICOMPONENTS_EXPORT ColorPickerButton : public QToolButton
 {
@@ -91,6 +94,8 @@ protected:
     /// Hiding ends a running pick.
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:

@@ -102,6 +102,8 @@ private Q_SLOTS:
 
     void pickerAnswersFromInsidePick();
     void pickerRunsANestedLoop();
+    void spaceThatEndsANestedPick();
+    void spaceWhileANestedPickGoesOn();
 
     void secondPickerReplacesTheFirst();
     void secondPickerIsHeardOnce();
@@ -598,6 +600,40 @@ void tst_ColorPickerButton::pickerRunsANestedLoop()
     button.click();
     QVERIFY(downInLoop);
     QVERIFY(!button.isDown());
+}
+
+// A picker that sees the key first ends with it; the button is still pressed when the key arrives there.
+void tst_ColorPickerButton::spaceThatEndsANestedPick()
+{
+    ColorPickerButton button;
+    FakeColorPicker* const picker = installPicker(button);
+    button.show();
+    picker->onPick = [&] {
+        picker->finishInSilence();
+        QTest::keyClick(&button, Qt::Key_Space);
+        QTest::keyPress(&button, Qt::Key_Space);
+    };
+    button.click();
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
+    QVERIFY(button.isDown());
+
+    picker->onPick = nullptr;
+    QTest::keyClick(&button, Qt::Key_Space);
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("pick"), QStringLiteral("pick")}));
+}
+
+void tst_ColorPickerButton::spaceWhileANestedPickGoesOn()
+{
+    ColorPickerButton button;
+    FakeColorPicker* const picker = installPicker(button);
+    button.show();
+    picker->onPick = [&] {
+        picker->onPick = nullptr;
+        QTest::keyClick(&button, Qt::Key_Space);
+    };
+    button.click();
+    QCOMPARE(picker->calls, QStringList({QStringLiteral("pick"), QStringLiteral("pick")}));
 }
 
 void tst_ColorPickerButton::secondPickerReplacesTheFirst()
