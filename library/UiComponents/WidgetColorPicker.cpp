@@ -18,8 +18,11 @@
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
+#include <QWindow>
+#include <QtMath>
 
 #include <algorithm>
+#include <functional>
 
 using Orvane::Gui::HighlightFrame;
 
@@ -27,21 +30,28 @@ namespace {
 
 Q_LOGGING_CATEGORY(pickerLog, "uicomponents.widgetpicker")
 
-// How long the outline may still be seen after it was taken away.
-constexpr int framesToWait = 2;
+// How long the outline may still be seen after it was taken away: a window with a QQuickWidget may be
+// painted in the next frame only, and a compositor shows that in the one after it.
+constexpr int framesToWait = 3;
 constexpr int longestWait = 100;
 constexpr int pollInterval = 4;
 
-// Screens that no monitor is connected to report anything.
-constexpr double slowestRefresh = 25;
-constexpr double fastestRefresh = 240;
+// Screens that no monitor is connected to report anything, and a window is painted at a pace of its own.
+constexpr double slowestRefresh = 30;
+constexpr double fastestRefresh = 60;
 
 // Of all pickers, so that a pick can tell whether another one was begun since it was ended.
 int latestPick = 0;
 
-int shortestWait(const QScreen& screen)
+/// One compositor serves all screens, and may follow any of them.
+int shortestWait()
 {
-    return qRound(framesToWait * 1000 / qBound(slowestRefresh, screen.refreshRate(), fastestRefresh));
+    double refresh = fastestRefresh;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        refresh = qMin(refresh, screen->refreshRate());
+    }
+    return qRound(framesToWait * 1000 / qMax(slowestRefresh, refresh));
 }
 
 /// What the screen shows there; invalid where it cannot be grabbed.
@@ -62,6 +72,15 @@ QPointF unrounded(const QPoint& position, const QPointF& lastEvent)
     return qAbs(distance.x()) < most && qAbs(distance.y()) < most ? lastEvent : position;
 }
 
+/// The one that the pixel at @p position belongs to. Rounding would give half of a point's pixels to the
+/// next.
+QPoint pointAt(const QPointF& position)
+{
+    // A place on a scaled screen is a quotient, and may be a little less than it should.
+    constexpr double tolerance = 0.001;
+    return {qFloor(position.x() + tolerance), qFloor(position.y() + tolerance)};
+}
+
 } // namespace
 
 /// Belongs to the picker, and to each pick() on the stack: that one returns into it after the picker died.
@@ -72,15 +91,18 @@ public:
 
     bool isInProgress() const { return loop && loop->isRunning(); }
     void watchTarget();
+    void targetDies();
     void takeCursor();
     void applyCursor();
     void applyTarget();
     void pick();
     void stop();
-    bool isActiveAt(const QPoint& position) const;
+    void noteMouse(const QObject* watched, const QMouseEvent& event);
+    QPointF positionFor(const QWidget& widget, const QPointF& position) const;
+    bool isActiveAt(const QPointF& position) const;
 
-    bool isOverTarget(const QPoint& position) const;
-    QColor settledColor(const QPoint& position) const;
+    bool isOverTarget(const QPointF& position) const;
+    QColor settledColor(const QPointF& position, const std::function<bool()>& isWanted) const;
     void report(const QColor& picked);
 
     /// Null when the picker has died.
@@ -99,11 +121,13 @@ public:
 
     /// Where the mouse was in its last event, in global coordinates.
     QPointF mouse;
+    /// The window that it was in, and how far from where Qt says that is.
+    QPointer<const QWindow> mouseWindow;
+    QPointF windowShift;
     /// Since the outline was taken away.
     QElapsedTimer sinceStop;
     /// The latest pick of all when this one was stopped.
     int latestAtStop = 0;
-    bool isStopped = false;
 };
 
 WidgetColorPicker::Private::Private(WidgetColorPicker* picker, const QSet<QWidget*>& set)
@@ -120,7 +144,18 @@ void WidgetColorPicker::Private::watchTarget()
 {
     QObject::disconnect(targetWatch);
     if (target) {
-        targetWatch = connect(target, &QObject::destroyed, owner, &WidgetColorPicker::stop);
+        targetWatch = connect(target, &QObject::destroyed, owner, [this] { targetDies(); });
+    }
+}
+
+/// It is no more than a QWidget already. Its outline dies with it.
+void WidgetColorPicker::Private::targetDies()
+{
+    if (cursorGuard) {
+        cursorGuard->leaveAlone();
+    }
+    if (isInProgress()) {
+        loop->quit();
     }
 }
 
@@ -148,21 +183,20 @@ void WidgetColorPicker::Private::pick()
 {
     QEventLoop nestedLoop;
     loop = &nestedLoop;
-    isStopped = false;
     ++latestPick;
     qGuiApp->installEventFilter(owner);
+    // The host's code runs in both of these.
+    const auto mayGoOn = [this, &nestedLoop] { return loop == &nestedLoop && owner && target; };
     takeCursor();
-    if (owner && target) {
+    if (mayGoOn()) {
         applyTarget();
     }
-    if (owner && target) {
+    if (mayGoOn()) {
         nestedLoop.exec();
     }
-    if (loop != &nestedLoop) {
-        // Begun anew while this one was on its way out.
-        return;
-    }
 
+    // Not the latest one when another was begun, and is over, before this one ran or on its way out.
+    const bool isLatest = loop == &nestedLoop;
     loop = nullptr;
     // These two are still there when the application quits, which ends all loops.
     highlightFrame.reset();
@@ -171,15 +205,16 @@ void WidgetColorPicker::Private::pick()
     if (owner) {
         qGuiApp->removeEventFilter(owner);
     }
-    const QPoint position = QCursor::pos();
+    const QPointF position = unrounded(QCursor::pos(), mouse);
     // What ends a pick may begin another, inside the loop that is on its way out: nothing is reported then.
-    const auto mayReport = [this, position, latest = latestAtStop] {
-        return owner && latest == latestPick && isOverTarget(position);
+    // Nor is it without a stop(), as when the application quits.
+    const auto mayReport = [this, latest = latestAtStop] {
+        return owner && latest == latestPick && target && target->isVisible();
     };
-    if (!isStopped || !mayReport()) {
+    if (!isLatest || !mayReport() || !isOverTarget(position)) {
         return;
     }
-    const QColor picked = settledColor(position);
+    const QColor picked = settledColor(position, mayReport);
     if (picked.isValid() && mayReport()) {
         report(picked);
     }
@@ -190,7 +225,6 @@ void WidgetColorPicker::Private::stop()
     if (!isInProgress()) {
         return;
     }
-    isStopped = true;
     latestAtStop = latestPick;
     highlightFrame.reset();
     sinceStop.start();
@@ -198,34 +232,61 @@ void WidgetColorPicker::Private::stop()
     cursorGuard.reset();
 }
 
-bool WidgetColorPicker::Private::isActiveAt(const QPoint& position) const
+void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseEvent& event)
 {
-    return std::any_of(activeWidgets.begin(), activeWidgets.end(), [&position](const QWidget* widget) {
-        return widget && widget->rect().contains(widget->mapFromGlobal(position));
+    mouse = event.screenPos();
+    if (const auto* window = qobject_cast<const QWindow*>(watched)) {
+        const QPointF shift = mouse - event.windowPos() - window->mapToGlobal(QPoint(0, 0));
+        const bool isOfRounding = qAbs(shift.x()) < 1 && qAbs(shift.y()) < 1;
+        mouseWindow = window;
+        // More than that is a move that Qt has not heard of yet.
+        windowShift = isOfRounding ? shift : QPointF();
+    }
+}
+
+/// @p position as the widget's own conversions take it: on a scaled screen a window may begin between two
+/// points, which these know nothing of.
+QPointF WidgetColorPicker::Private::positionFor(const QWidget& widget, const QPointF& position) const
+{
+    const bool isShifted = mouseWindow && mouseWindow == widget.window()->windowHandle();
+    return isShifted ? position - windowShift : position;
+}
+
+bool WidgetColorPicker::Private::isActiveAt(const QPointF& position) const
+{
+    return std::any_of(activeWidgets.begin(), activeWidgets.end(), [&](const QWidget* widget) {
+        if (!widget) {
+            return false;
+        }
+        const QPointF place = positionFor(*widget, position);
+        const auto holds = [widget](const QPoint& point) {
+            return widget->rect().contains(widget->mapFromGlobal(point));
+        };
+        // Qt rounds when it looks for the receiver.
+        return holds(pointAt(place)) || holds(place.toPoint());
     });
 }
 
-bool WidgetColorPicker::Private::isOverTarget(const QPoint& position) const
+bool WidgetColorPicker::Private::isOverTarget(const QPointF& position) const
 {
-    if (!target || !target->isVisible()) {
-        return false;
-    }
+    const QPoint point = pointAt(positionFor(*target, position));
     const QRect area = target->rect();
     return QRect(target->mapToGlobal(area.topLeft()), target->mapToGlobal(area.bottomRight()))
-        .contains(position);
+        .contains(point);
 }
 
-/// The colour there once the outline has left the screen. Anything may have died when it returns.
-QColor WidgetColorPicker::Private::settledColor(const QPoint& position) const
+/// The colour there once the outline has left the screen, and none when @p isWanted no longer holds by then.
+/// Anything may have died when it returns.
+QColor WidgetColorPicker::Private::settledColor(const QPointF& position,
+                                                const std::function<bool()>& isWanted) const
 {
-    const QPointer<QScreen> screen = QGuiApplication::screenAt(position);
+    const QPoint point = pointAt(position);
+    const QPointer<QScreen> screen = QGuiApplication::screenAt(point);
     if (!screen) {
-        qCWarning(pickerLog, "No colour was picked: there is no screen at (%d, %d)", position.x(),
-                  position.y());
+        qCWarning(pickerLog, "No colour was picked: there is no screen at (%d, %d)", point.x(), point.y());
         return {};
     }
-    const QPointF exact = unrounded(position, mouse);
-    QColor latest = grabColor(screen, exact);
+    QColor latest = grabColor(screen, position);
     if (!latest.isValid()) {
         qCWarning(pickerLog, "No colour was picked: this platform cannot grab the screen");
         return {};
@@ -237,17 +298,27 @@ QColor WidgetColorPicker::Private::settledColor(const QPoint& position) const
     poll.setTimerType(Qt::PreciseTimer);
     connect(&poll, &QTimer::timeout, &wait, [&] {
         const QColor before = latest;
-        latest = screen ? grabColor(screen, exact) : QColor();
-        const bool isSettled = screen && sinceStop.hasExpired(shortestWait(*screen)) && latest == before;
+        latest = isWanted() && screen ? grabColor(screen, position) : QColor();
+        const bool isSettled = sinceStop.hasExpired(shortestWait()) && latest == before;
         isDone = !latest.isValid() || isSettled || sinceStop.hasExpired(longestWait);
         if (isDone) {
             wait.quit();
         }
     });
     poll.start(pollInterval);
+    // The last window that is closed ends the pick, and then has the application quit. A loop that begins
+    // with that still pending throws it away.
+    QCoreApplication::sendPostedEvents(qGuiApp, QEvent::Quit);
     wait.exec(QEventLoop::ExcludeUserInputEvents);
-    // Not done when the application quits meanwhile.
-    return isDone ? latest : QColor();
+    if (!isDone) {
+        // The application quits.
+        return {};
+    }
+    if (!latest.isValid() && isWanted()) {
+        qCWarning(pickerLog, "No colour was picked: %s",
+                  screen ? "this platform cannot grab the screen any more" : "the screen was removed");
+    }
+    return latest;
 }
 
 void WidgetColorPicker::Private::report(const QColor& picked)
@@ -300,10 +371,16 @@ QWidget* WidgetColorPicker::target() const
 
 void WidgetColorPicker::setStylingObject(WidgetColorPickerStylingObject* object)
 {
-    d->stylingObject = object;
-    if (d->cursorGuard) {
-        d->takeCursor();
-        d->applyCursor();
+    // The object may do anything when it is asked.
+    const std::shared_ptr<Private> state = d;
+    state->stylingObject = object;
+    if (!state->cursorGuard) {
+        return;
+    }
+    state->cursorGuard.reset();
+    state->takeCursor();
+    if (state->isInProgress() && state->owner && state->target) {
+        state->applyCursor();
     }
 }
 
@@ -346,12 +423,12 @@ bool WidgetColorPicker::eventFilter(QObject* watched, QEvent* event)
     if (state->isInProgress()) {
         switch (event->type()) {
         case QEvent::MouseMove:
-            state->mouse = static_cast<QMouseEvent*>(event)->screenPos();
+            state->noteMouse(watched, *static_cast<QMouseEvent*>(event));
             break;
         case QEvent::MouseButtonPress:
-            state->mouse = static_cast<QMouseEvent*>(event)->screenPos();
+            state->noteMouse(watched, *static_cast<QMouseEvent*>(event));
             state->stop();
-            if (state->isActiveAt(static_cast<QMouseEvent*>(event)->globalPos())) {
+            if (state->isActiveAt(state->mouse)) {
                 new SwallowedPress;
                 return true;
             }

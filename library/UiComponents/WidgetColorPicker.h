@@ -24,19 +24,28 @@ class WidgetColorPickerStylingObject;
  *
  * **One pick.** pick() runs a nested event loop and returns when picking is over: expect any event in it.
  * A press over the target or over one of the constructor's widgets ends picking and is swallowed, with the
- * double click that may come of it; every other press, and every key, ends picking and goes on to its
- * receiver. When a colour was picked, colorChanged() is emitted with it and then pickingStopped(), both
- * before pick() returns. A pick without a colour emits nothing at all, and color() is invalid then: a
- * ColorPickerButton stays pressed until its next pick.
+ * double click that may come of it; every other press, and every key that is no shortcut, ends picking and
+ * goes on to its receiver. (A key that triggers a shortcut does just that, and picking goes on.) When a
+ * colour was picked, colorChanged() is emitted with it and then pickingStopped(), both before pick() returns.
+ * A pick without a colour emits nothing at all, and color() is invalid then: a ColorPickerButton stays
+ * pressed until a pick brings a colour.
  *
  * It ends without a colour when the cursor is elsewhere, when the target is hidden at that moment, dies
  * or is set to null, when the application quits, when a further pick is started before this one could
  * report, and where the platform cannot grab the screen (as plain Wayland): the last is logged as a warning
- * of the category "uicomponents.widgetpicker".
+ * of the category "uicomponents.widgetpicker". A target in a QDialog is hidden at that moment when Escape
+ * ended the pick, for the key goes on to the dialog and closes it.
  *
  * **The colour** is opaque, and that of the pixel as the screen shows it, with whatever lies over the
- * target. The outline never colours it: a composited screen shows that for a frame or two after it has
- * gone, so the picker waits for some frames, a tenth of a second at most, before it looks.
+ * target. The outline never colours it: a composited screen shows that for a few frames after it has gone,
+ * so the picker waits, a tenth of a second at most, before it looks. Where the cursor was when the pick
+ * ended decides, also when the target moves meanwhile.
+ *
+ * A mouse event tells the pixel, also where the screen has several for a point. A key that ends the pick
+ * before the mouse has moved in it takes the pixel of the whole point that is next to the cursor.
+ *
+ * A program that runs through Xwayland is one of X11 to Qt, and may read black from the screen where there
+ * is something else: nothing tells that from a black pixel.
  *
  * **Style sheet.** The outline is the Orvane::Gui::HighlightFrame of the target. The cursor is the styling
  * object's.
@@ -64,7 +73,9 @@ public:
 
     /// Who chooses the picking cursor. Without one, which is the default, or with null, it is a cross. The
     /// object is borrowed: keep it until the picker has another, or dies. Set while picking, its cursor
-    /// shows at once; a running pick does not come back to it later.
+    /// shows at once; a running pick does not come back to it later. It may delete the picker or the target
+    /// when it is asked. If it calls pick(), that pick is the one that runs, and the one that asked it ends
+    /// in silence.
     void setStylingObject(WidgetColorPickerStylingObject* object);
 
     /// True while pick() waits for the press or key that ends it.

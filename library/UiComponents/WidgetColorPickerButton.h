@@ -33,7 +33,8 @@ class WidgetColorPickerStylingObject;
  *     WidgetColorPickerButton { min-width: 40px; min-height: 16px; border-radius: 4px; }
  *
  * **Lifetime.** The button, its target and their windows may be deleted while it picks and in a slot of any
- * of its signals.
+ * of its signals. A button whose popupMode() is MenuButtonPopup is an exception: QToolButton goes on using it
+ * after a click, so delete it later.
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public QToolButton
 {

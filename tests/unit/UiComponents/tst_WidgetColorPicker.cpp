@@ -1,3 +1,4 @@
+#include "FreedMemory.h"
 #include "MetaObject.h"
 #include "PickingStage.h"
 #include "TestMain.h"
@@ -7,12 +8,69 @@
 #include <UiComponents/WidgetColorPickerStylingObject.h>
 
 #include <memory>
+#include <utility>
 
 using Act = std::function<void(PickingStage*)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(Qt::MouseButton)
 
 namespace {
+
+/// Calls something in the events of the timer with which a pick that was ended looks at the screen: each
+/// time, before it looks, until that returns false.
+class WhileSettling : public QObject
+{
+public:
+    using Step = std::function<bool()>;
+
+    /// With @p isKept, the pick does not come to look meanwhile.
+    explicit WhileSettling(Step step, bool isKept = false)
+        : m_step(std::move(step))
+        , m_isKept(isKept)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* timer = qobject_cast<QTimer*>(watched);
+        // The watchdog's interval is a long one.
+        if (event->type() != QEvent::Timer || !timer || timer->interval() > 100 || m_isInside || m_isOver) {
+            return false;
+        }
+        m_isInside = true;
+        m_isOver = !m_step();
+        m_isInside = false;
+        return m_isKept;
+    }
+
+    bool isOver() const { return m_isOver; }
+
+private:
+    const Step m_step;
+    const bool m_isKept;
+    bool m_isInside = false;
+    bool m_isOver = false;
+};
+
+/// A look whose object does something when it is asked.
+class ActingLook : public WidgetColorPickerStylingObject
+{
+public:
+    explicit ActingLook(std::function<void()> act)
+        : m_act(std::move(act))
+    {
+    }
+    QCursor pickingCursor() const override
+    {
+        const std::function<void()> act = m_act;
+        act();
+        return Qt::PointingHandCursor;
+    }
+
+private:
+    std::function<void()> m_act;
+};
 
 class Look : public WidgetColorPickerStylingObject
 {
@@ -102,10 +160,17 @@ private Q_SLOTS:
     void stopElsewherePicksNothing();
     void lastWindowClosedEndsThePick();
     void quittingEndsThePick();
+    void quittingWhileTheScreenSettles();
+    void quitIsNotSwallowed();
 
     void crossWithoutAStylingObject();
     void cursorOfTheStylingObject();
     void stylingObjectSetWhilePicking();
+    void stylingObjectIsAskedWithoutAPickingCursor();
+    void stylingObjectThatPicks();
+    void stylingObjectThatDeletes_data();
+    void stylingObjectThatDeletes();
+    void twoPickersOnOneTarget();
     void stylingObjectDiesWhilePicking();
     void overrideCursorOfTheHostStays();
     void outlineIsThereWhilePicking();
@@ -120,10 +185,16 @@ private Q_SLOTS:
     void screenThatShowsNothingGivesNoColor();
     void noScreenGivesNoColor();
     void colorIsTakenWhenTheScreenHasSettled();
+    void colorIsTakenWhenTheScreenStandsStill();
+    void screenLostWhileItSettles();
+    void targetMovedWhileTheScreenSettles();
+    void targetHiddenWhileTheScreenSettles();
     void flickeringTargetIsPickedFromAllTheSame();
 
     void deletedWhilePicking_data();
     void deletedWhilePicking();
+    void dyingTargetIsLeftAlone();
+    void pickerDeletedByTheTargetsPainting();
     void deletedInASlot_data();
     void deletedInASlot();
     void stopInASlot();
@@ -131,10 +202,11 @@ private Q_SLOTS:
     void pickBegunByTheEndOfAnother();
     void pickBegunWhileTheScreenSettles();
     void otherPickerBegunByTheEndOfAPick();
-    void pickerDeletedByTheStylingObject();
 
     void colorButtonPicks();
     void colorButtonStaysPressedWithoutAColor();
+    void keyThatEndsAPickOfAColorButton_data();
+    void keyThatEndsAPickOfAColorButton();
     void colorButtonGoneWhilePicking_data();
     void colorButtonGoneWhilePicking();
 
@@ -525,6 +597,60 @@ void tst_WidgetColorPicker::quittingEndsThePick()
     QCOMPARE(protocol.lines, picked(colorIn(Spot)));
 }
 
+void tst_WidgetColorPicker::quittingWhileTheScreenSettles()
+{
+    const Protocol protocol(m_picker);
+    bool hasReturned = false;
+    QTimer::singleShot(0, this, [&] {
+        std::unique_ptr<WhileSettling> settling;
+        QVERIFY(pickWith([&] {
+            m_stage->press();
+            settling = std::make_unique<WhileSettling>(
+                [] {
+                    QCoreApplication::quit();
+                    return false;
+                },
+                true);
+        }));
+        QVERIFY(settling->isOver());
+        hasReturned = true;
+    });
+    QCoreApplication::exec();
+    QVERIFY(hasReturned);
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+// The last window that closes ends the pick, and then posts what makes the application quit. A loop that is
+// begun next would throw that away.
+void tst_WidgetColorPicker::quitIsNotSwallowed()
+{
+    QWidget tool(m_stage->window, Qt::Tool);
+    tool.setGeometry(400, 300, 100, 100);
+    PatternWidget target(&tool);
+    target.resize(100, 100);
+    tool.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tool));
+    m_picker->setTarget(&target);
+    PickingStage::moveCursor(&target, Spot);
+    const Protocol protocol(m_picker);
+    QTimer::singleShot(0, this, [this] {
+        QVERIFY(pickWith([this] {
+            m_stage->window->close();
+            QVERIFY(!m_picker->isInProgress());
+        }));
+    });
+    QTimer watchdog;
+    bool isRescued = false;
+    connect(&watchdog, &QTimer::timeout, this, [&isRescued] {
+        isRescued = true;
+        QCoreApplication::quit();
+    });
+    watchdog.start(5000);
+    QCoreApplication::exec();
+    QVERIFY(!isRescued);
+    QCOMPARE(protocol.lines, QStringList());
+}
+
 void tst_WidgetColorPicker::crossWithoutAStylingObject()
 {
     m_stage->target->setCursor(Qt::IBeamCursor);
@@ -568,6 +694,121 @@ void tst_WidgetColorPicker::stylingObjectSetWhilePicking()
         m_picker->stop();
     }));
     QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+}
+
+void tst_WidgetColorPicker::stylingObjectIsAskedWithoutAPickingCursor()
+{
+    QVector<int> shapes;
+    ActingLook look([&] { shapes += m_stage->target->cursor().shape(); });
+    m_stage->target->setCursor(Qt::IBeamCursor);
+    QVERIFY(pickWith([&] {
+        m_picker->setStylingObject(&look);
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
+        m_picker->stop();
+    }));
+    QCOMPARE(shapes, QVector<int>({Qt::IBeamCursor}));
+    m_picker->setStylingObject(nullptr);
+}
+
+// The pick that it begins is over before the one that asked it has a loop.
+void tst_WidgetColorPicker::stylingObjectThatPicks()
+{
+    const Protocol protocol(m_picker);
+    bool isFirst = true;
+    ActingLook look([&] {
+        if (isFirst) {
+            isFirst = false;
+            m_picker->pick();
+        }
+    });
+    m_picker->setStylingObject(&look);
+    // Were the outer one to run, nothing else could end its loop.
+    QVERIFY(runWith([this] { m_picker->pick(); },
+                    [this] {
+                        m_stage->press();
+                        m_stage->release();
+                    },
+                    [] { QCoreApplication::exit(); }));
+    m_picker->setStylingObject(nullptr);
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+    QVERIFY(!m_stage->outline());
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+    m_stage->press();
+    QCOMPARE(m_stage->target->presses, 1);
+    m_stage->release();
+}
+
+void tst_WidgetColorPicker::stylingObjectThatDeletes_data()
+{
+    QTest::addColumn<bool>("isPicker");
+    QTest::addColumn<bool>("isPicking");
+    QTest::newRow("the picker, before the loop") << true << false;
+    QTest::newRow("the picker, while picking") << true << true;
+    QTest::newRow("the target, before the loop") << false << false;
+    QTest::newRow("the target, while picking") << false << true;
+}
+
+void tst_WidgetColorPicker::stylingObjectThatDeletes()
+{
+    QFETCH(const bool, isPicker);
+    QFETCH(const bool, isPicking);
+    ActingLook look([&] {
+        if (isPicker) {
+            delete m_picker;
+        } else {
+            delete m_stage->target;
+        }
+    });
+    const Protocol protocol(m_picker);
+    if (isPicking) {
+        QVERIFY(pickWith([&] {
+            m_picker->setStylingObject(&look);
+            // Without a target, a picking cursor would be the whole application's.
+            QVERIFY(!QGuiApplication::overrideCursor());
+        }));
+    } else {
+        m_picker->setStylingObject(&look);
+        QVERIFY(runWith([this] { m_picker->pick(); }, [] {},
+                        [this] {
+                            if (m_picker) {
+                                m_picker->stop();
+                            }
+                        }));
+    }
+    QCOMPARE(bool(m_picker), !isPicker);
+    QCOMPARE(bool(m_stage->target), isPicker);
+    QVERIFY(!QGuiApplication::overrideCursor());
+    QVERIFY(!m_stage->outline());
+    if (m_stage->target) {
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
+    }
+    QCOMPARE(protocol.lines, QStringList());
+    if (m_picker) {
+        QVERIFY(!m_picker->isInProgress());
+        m_picker->setStylingObject(nullptr);
+    }
+}
+
+void tst_WidgetColorPicker::twoPickersOnOneTarget()
+{
+    Look look(Qt::PointingHandCursor);
+    m_stage->target->setCursor(Qt::IBeamCursor);
+    WidgetColorPicker second({});
+    second.setTarget(m_stage->target);
+    second.setStylingObject(&look);
+    QVERIFY(pickWith([&] {
+        QVERIFY(runWith([&] { second.pick(); },
+                        [&] {
+                            QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
+                            // Ended in the order in which they began.
+                            m_picker->stop();
+                            QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
+                            m_stage->press();
+                        },
+                        [&] { second.stop(); }));
+    }));
+    QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+    QVERIFY(!m_stage->outline());
 }
 
 void tst_WidgetColorPicker::stylingObjectDiesWhilePicking()
@@ -716,20 +957,97 @@ void tst_WidgetColorPicker::noScreenGivesNoColor()
     QVERIFY(!m_picker->color()->isValid());
 }
 
-// As a compositor does, which shows what was painted a frame or two later.
+// As a compositor does, which shows what was painted some frames later.
 void tst_WidgetColorPicker::colorIsTakenWhenTheScreenHasSettled()
 {
     const Protocol protocol(m_picker);
     m_stage->target->flat = Qt::red;
     m_stage->target->repaint();
-    QVERIFY(pickWith([this] {
+    std::unique_ptr<WhileSettling> settling;
+    QVERIFY(pickWith([&] {
         m_picker->stop();
-        QTimer::singleShot(1, this, [this] {
+        QElapsedTimer sinceStop;
+        sinceStop.start();
+        settling = std::make_unique<WhileSettling>([this, sinceStop] {
+            if (!sinceStop.hasExpired(40)) {
+                return true;
+            }
             m_stage->target->flat = Qt::blue;
             m_stage->target->repaint();
+            return false;
         });
     }));
+    QVERIFY(settling->isOver());
     QCOMPARE(protocol.lines, picked(QColor(Qt::blue)));
+}
+
+// Something else at each look, for longer than the shortest wait.
+void tst_WidgetColorPicker::colorIsTakenWhenTheScreenStandsStill()
+{
+    const Protocol protocol(m_picker);
+    std::unique_ptr<WhileSettling> settling;
+    QVERIFY(pickWith([&] {
+        m_picker->stop();
+        QElapsedTimer sinceStop;
+        sinceStop.start();
+        settling = std::make_unique<WhileSettling>([this, sinceStop, shade = 0]() mutable {
+            const bool isOver = sinceStop.hasExpired(70);
+            m_stage->target->flat = isOver ? QColor(Qt::blue) : QColor(++shade % 256, 0, 0);
+            m_stage->target->repaint();
+            return !isOver;
+        });
+    }));
+    QVERIFY(settling->isOver());
+    QCOMPARE(protocol.lines, picked(QColor(Qt::blue)));
+}
+
+void tst_WidgetColorPicker::screenLostWhileItSettles()
+{
+    const Protocol protocol(m_picker);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot grab the screen")));
+    std::unique_ptr<WhileSettling> settling;
+    QVERIFY(pickWith([&] {
+        m_stage->press();
+        settling = std::make_unique<WhileSettling>([this] {
+            m_stage->window->move(400, 400);
+            return false;
+        });
+    }));
+    QVERIFY(settling->isOver());
+    QVERIFY(m_stage->target->isVisible());
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+// Where the cursor was when the pick ended decides, not what lies there when the outline has gone.
+void tst_WidgetColorPicker::targetMovedWhileTheScreenSettles()
+{
+    const Protocol protocol(m_picker);
+    std::unique_ptr<WhileSettling> settling;
+    QVERIFY(pickWith([&] {
+        m_stage->press();
+        settling = std::make_unique<WhileSettling>([this] {
+            m_stage->target->move(Spot * 2);
+            return false;
+        });
+    }));
+    QVERIFY(settling->isOver());
+    QVERIFY(!m_stage->target->rect().contains(m_stage->target->mapFromGlobal(QCursor::pos())));
+    QCOMPARE(protocol.lines.size(), 2);
+}
+
+void tst_WidgetColorPicker::targetHiddenWhileTheScreenSettles()
+{
+    const Protocol protocol(m_picker);
+    std::unique_ptr<WhileSettling> settling;
+    QVERIFY(pickWith([&] {
+        m_stage->press();
+        settling = std::make_unique<WhileSettling>([this] {
+            m_stage->target->hide();
+            return false;
+        });
+    }));
+    QVERIFY(settling->isOver());
+    QCOMPARE(protocol.lines, QStringList());
 }
 
 void tst_WidgetColorPicker::flickeringTargetIsPickedFromAllTheSame()
@@ -750,7 +1068,7 @@ void tst_WidgetColorPicker::flickeringTargetIsPickedFromAllTheSame()
 namespace {
 
 enum class Victim { Picker, Target, Window, Button, Other };
-enum class Moment { Timer, PressElsewhere, Settling };
+enum class Moment { Timer, PressElsewhere, AfterPressElsewhere, Settling };
 
 } // namespace
 
@@ -766,9 +1084,14 @@ void tst_WidgetColorPicker::deletedWhilePicking_data()
     const QVector<QPair<const char*, Moment>> moments = {
         {"by a timer", Moment::Timer},
         {"by the press that ends it", Moment::PressElsewhere},
+        {"after the press that ends it", Moment::AfterPressElsewhere},
         {"while the screen settles", Moment::Settling}};
     for (const auto& [victimName, victim] : victims) {
         for (const auto& [momentName, moment] : moments) {
+            if (moment == Moment::PressElsewhere && (victim == Victim::Window || victim == Victim::Other)) {
+                // Qt's own buttons do not survive it.
+                continue;
+            }
             QTest::addRow("%s %s", victimName, momentName) << int(victim) << int(moment);
         }
     }
@@ -799,26 +1122,36 @@ void tst_WidgetColorPicker::deletedWhilePicking()
         }
     };
     const bool endsThePick = Victim(victim) != Victim::Button && Victim(victim) != Victim::Other;
+    std::unique_ptr<WhileSettling> settling;
     QVERIFY(pickWith([&] {
         switch (Moment(moment)) {
         case Moment::Timer:
             destroy();
-            QVERIFY(endsThePick || m_picker->isInProgress());
             if (!endsThePick) {
-                m_stage->press();
+                // It goes on.
+                QTimer::singleShot(0, this, [this] {
+                    QVERIFY(m_picker->isInProgress());
+                    m_stage->press();
+                });
             }
             break;
         case Moment::PressElsewhere:
-            connect(m_stage->other.data(), &QAbstractButton::pressed, this, destroy, Qt::QueuedConnection);
+        case Moment::AfterPressElsewhere:
+            connect(m_stage->other.data(), &QAbstractButton::pressed, this, destroy,
+                    Moment(moment) == Moment::PressElsewhere ? Qt::DirectConnection : Qt::QueuedConnection);
             QTest::mousePress(m_stage->window->windowHandle(), Qt::LeftButton, {},
                               m_stage->other->geometry().center());
             break;
         case Moment::Settling:
             m_stage->press();
-            QTimer::singleShot(10, this, destroy);
+            settling = std::make_unique<WhileSettling>([&destroy] {
+                destroy();
+                return false;
+            });
             break;
         }
     }));
+    QCOMPARE(settling && settling->isOver(), Moment(moment) == Moment::Settling);
     QCOMPARE(protocol.lines, endsThePick ? QStringList() : picked(colorIn(Spot)));
     QVERIFY(!m_stage->outline());
     if (m_stage->target) {
@@ -832,6 +1165,78 @@ void tst_WidgetColorPicker::deletedWhilePicking()
         QCOMPARE(m_stage->target->presses, before + 1);
         m_stage->release();
     }
+}
+
+// A widget that tells of its end is no more than a QWidget: nothing may be set on it or painted any more.
+void tst_WidgetColorPicker::dyingTargetIsLeftAlone()
+{
+    class Events : public QObject
+    {
+    public:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            if (isDying && (event->type() == QEvent::CursorChange || event->type() == QEvent::Paint)) {
+                seen += event->type();
+            }
+            return false;
+        }
+        bool isDying = false;
+        QVector<int> seen;
+    } events;
+    // The first to hear of it.
+    auto* target = new PatternWidget(m_stage->window);
+    connect(target, &QObject::destroyed, &events, [&events] { events.isDying = true; });
+    target->setGeometry(m_stage->target->geometry());
+    target->show();
+    target->installEventFilter(&events);
+    m_picker->setTarget(target);
+    const Protocol protocol(m_picker);
+    QVERIFY(pickWith([this, target] {
+        delete target;
+        QVERIFY(!m_picker->isInProgress());
+    }));
+    QVERIFY(events.isDying);
+    QCOMPARE(events.seen, QVector<int>());
+    QCOMPARE(protocol.lines, QStringList());
+}
+
+// The outline goes by painting the target, inside the filter that sees the press.
+void tst_WidgetColorPicker::pickerDeletedByTheTargetsPainting()
+{
+    class Deadly : public PatternWidget
+    {
+    public:
+        using PatternWidget::PatternWidget;
+
+        std::function<void()> act;
+
+    protected:
+        void paintEvent(QPaintEvent* event) override
+        {
+            PatternWidget::paintEvent(event);
+            if (act) {
+                const std::function<void()> once = std::exchange(act, nullptr);
+                once();
+            }
+        }
+    };
+    auto* target = new Deadly(m_stage->window);
+    target->setGeometry(m_stage->target->geometry());
+    target->show();
+    m_picker->setTarget(target);
+    const Protocol protocol(m_picker);
+    const FreedMemoryWatch memory;
+    QVERIFY(pickWith([this, target] {
+        QCoreApplication::processEvents();
+        target->act = [this] { delete m_picker; };
+        m_stage->press();
+        QVERIFY(!m_picker);
+    }));
+    QVERIFY(!m_picker);
+    QCOMPARE(target->presses, 0);
+    QCOMPARE(target->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(protocol.lines, QStringList());
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
 void tst_WidgetColorPicker::deletedInASlot_data()
@@ -954,33 +1359,6 @@ void tst_WidgetColorPicker::otherPickerBegunByTheEndOfAPick()
     QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
 }
 
-// The host's own code runs before the loop does.
-void tst_WidgetColorPicker::pickerDeletedByTheStylingObject()
-{
-    class Deadly : public WidgetColorPickerStylingObject
-    {
-    public:
-        explicit Deadly(QPointer<WidgetColorPicker>* victim)
-            : m_victim(victim)
-        {
-        }
-        QCursor pickingCursor() const override
-        {
-            delete *m_victim;
-            return {};
-        }
-
-    private:
-        QPointer<WidgetColorPicker>* const m_victim;
-    };
-    Deadly deadly(&m_picker);
-    m_picker->setStylingObject(&deadly);
-    m_picker->pick();
-    QVERIFY(!m_picker);
-    QVERIFY(!m_stage->outline());
-    QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
-}
-
 void tst_WidgetColorPicker::colorButtonPicks()
 {
     ColorPickerButton field(m_stage->window);
@@ -1024,6 +1402,72 @@ void tst_WidgetColorPicker::colorButtonStaysPressedWithoutAColor()
 
     PickingStage::moveCursor(m_stage->target, Spot);
     QVERIFY(runWith([&] { field.click(); }, [&] { m_stage->press(); }, [&] { field.stopPicking(); }));
+    QVERIFY(!field.isDown());
+}
+
+void tst_WidgetColorPicker::keyThatEndsAPickOfAColorButton_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("isReleasedInside");
+    for (const auto& [name, key] : {std::pair("Space", Qt::Key_Space), std::pair("Select", Qt::Key_Select)}) {
+        QTest::addRow("%s, released at once", name) << key << true;
+        QTest::addRow("%s, released later", name) << key << false;
+    }
+}
+
+// It reaches the field, which is still pressed, and letting the key go would click it.
+void tst_WidgetColorPicker::keyThatEndsAPickOfAColorButton()
+{
+    QFETCH(const Qt::Key, key);
+    QFETCH(const bool, isReleasedInside);
+    ColorPickerButton field(m_stage->window);
+    field.setGeometry(190, 10, 30, 30);
+    field.show();
+    field.setFocus();
+    delete m_picker;
+    m_picker = new WidgetColorPicker({&field});
+    m_picker->setTarget(m_stage->target);
+    field.setPicker(m_picker);
+    QSignalSpy started(&field, &ColorPickerButton::pickingStarted);
+    const auto send = [&field, key](QEvent::Type type) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field, &event);
+    };
+    const auto click = [send] {
+        send(QEvent::KeyPress);
+        send(QEvent::KeyRelease);
+    };
+    PickingStage::moveCursor(m_stage->other);
+    QVERIFY(runWith(
+        click,
+        [&] {
+            QVERIFY(field.isPickingInProgress());
+            send(QEvent::KeyPress);
+            QVERIFY(!field.isPickingInProgress());
+            if (isReleasedInside) {
+                send(QEvent::KeyRelease);
+            }
+        },
+        [&] { field.stopPicking(); }));
+    if (!isReleasedInside) {
+        send(QEvent::KeyRelease);
+    }
+    QCOMPARE(started.size(), 1);
+    QVERIFY(!field.isPickingInProgress());
+    QVERIFY(field.isDown());
+
+    // The next one is a click as any other.
+    PickingStage::moveCursor(m_stage->target, Spot);
+    QVERIFY(runWith(
+        click,
+        [&] {
+            QCOMPARE(started.size(), 2);
+            QVERIFY(field.isPickingInProgress());
+            click();
+        },
+        [&] { field.stopPicking(); }));
+    QCOMPARE(started.size(), 2);
+    QCOMPARE(field.color(), std::optional<QColor>(colorIn(Spot)));
     QVERIFY(!field.isDown());
 }
 

@@ -358,12 +358,16 @@ void tst_WidgetColorPickerButton::pickElsewhereChangesNothing()
 
 void tst_WidgetColorPickerButton::pickWithoutChangeSelfColor()
 {
+    m_button->setColor(QColor(1, 2, 3));
     m_button->setChangeSelfColor(false);
+    const QString sheet = m_button->styleSheet();
+    const QImage face = m_button->grab().toImage();
     const Protocol protocol(m_button);
     QVERIFY(clickWith([this] { m_stage->press(); }));
     QCOMPARE(protocol.lines, Picked);
     QCOMPARE(m_button->color(), SpotColor);
-    QCOMPARE(m_button->styleSheet(), QString());
+    QCOMPARE(m_button->styleSheet(), sheet);
+    QCOMPARE(m_button->grab().toImage(), face);
 }
 
 void tst_WidgetColorPickerButton::samePickedColorIsReportedOnce()
@@ -464,8 +468,7 @@ void tst_WidgetColorPickerButton::keyEndsThePick_data()
     QTest::newRow("Escape elsewhere") << Qt::Key_Escape << false;
 }
 
-// The key that ends a pick goes on to the button, which has the focus after a click: it must not start the
-// next pick.
+// The key that ends a pick goes on to the button if that has the focus: it must not start the next pick.
 void tst_WidgetColorPickerButton::keyEndsThePick()
 {
     QFETCH(Qt::Key, key);
