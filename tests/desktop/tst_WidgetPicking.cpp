@@ -10,6 +10,9 @@
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWidget>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QTimer>
@@ -54,6 +57,15 @@ protected:
     void mousePressEvent(QMouseEvent* /*event*/) override { ++presses; }
 };
 
+/// The pixel of the X server that the widget's top left one is: Qt scales the size of a screen, and leaves
+/// its corner where it is.
+QPoint nativeCorner(const QWidget* widget)
+{
+    const QPoint corner = widget->mapToGlobal(QPoint(0, 0));
+    const QPoint screenCorner = QGuiApplication::screenAt(corner)->geometry().topLeft();
+    return screenCorner + (QPointF(corner - screenCorner) * widget->devicePixelRatioF()).toPoint();
+}
+
 } // namespace
 
 /**
@@ -72,6 +84,14 @@ private Q_SLOTS:
     void pixels();
     void pixelsBetweenPoints_data();
     void pixelsBetweenPoints();
+    void pixelsAtTheEdges_data();
+    void pixelsAtTheEdges();
+    void pixelsAtTheEdgesOfTheScreen_data();
+    void pixelsAtTheEdgesOfTheScreen();
+    void windowBetweenPoints_data();
+    void windowBetweenPoints();
+    void quickScene_data();
+    void quickScene();
     void outlineIsOnlyThereWhilePicking();
     void clickElsewhereReachesWhatIsThere();
     void clickOnAnotherButtonClicksIt();
@@ -83,10 +103,15 @@ private Q_SLOTS:
     void targetThatMovesOn();
     void dialogDeletedWhilePicking();
     void colorButton();
+    void keysOnAColorButton_data();
+    void keysOnAColorButton();
+    void screenRemovedWhilePicking();
 
 private:
     void placeOn(QScreen* screen);
     bool clickWith(const std::function<void()>& inside, const QWidget* start = nullptr);
+    QColor pickWith(const std::function<void()>& act);
+    QColor pickAtNative(const QPoint& place, bool isByKey);
     bool clickInTarget(const QPoint& point) const { return RealInput::click(m_target, point); }
 
     std::unique_ptr<QWidget> m_window;
@@ -150,6 +175,34 @@ bool tst_WidgetPicking::clickWith(const std::function<void()>& inside, const QWi
            });
 }
 
+/// What the button picks, started without the mouse, when @p act ends that.
+QColor tst_WidgetPicking::pickWith(const std::function<void()>& act)
+{
+    m_button->setColor(QColor());
+    QTimer::singleShot(0, this, act);
+    QTimer rescue;
+    bool isRescued = false;
+    connect(&rescue, &QTimer::timeout, this, [this, &isRescued] {
+        isRescued = true;
+        m_button->stopPicking();
+    });
+    rescue.start(10000);
+    m_button->startPicking();
+    return isRescued ? QColor(Qt::transparent) : m_button->color();
+}
+
+/// What the button picks where the mouse is moved to and clicked, or a key is pressed there.
+QColor tst_WidgetPicking::pickAtNative(const QPoint& place, bool isByKey)
+{
+    return pickWith([isByKey, place] {
+        QStringList input = {QStringLiteral("mousemove"), QString::number(place.x()),
+                             QString::number(place.y())};
+        input += isByKey ? QStringList({QStringLiteral("key"), QStringLiteral("Escape")})
+                         : QStringList({QStringLiteral("click"), QStringLiteral("1")});
+        QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), input), 0);
+    });
+}
+
 void tst_WidgetPicking::pixels_data()
 {
     QTest::addColumn<int>("screen");
@@ -178,15 +231,12 @@ void tst_WidgetPicking::pixels()
             const int depth = random.bounded(2);
             point.setY(i % 2 == 0 ? depth : m_target->height() - 1 - depth);
         }
-        m_button->setColor(QColor());
-        QTimer::singleShot(0, this, [this, point] { QVERIFY(clickInTarget(point)); });
-        m_button->startPicking();
-        QVERIFY2(m_button->color() == m_target->expected(point),
-                 qPrintable(QStringLiteral("%1 at (%2, %3), not %4")
-                                .arg(m_button->color().name())
-                                .arg(point.x())
-                                .arg(point.y())
-                                .arg(m_target->expected(point).name())));
+        const QColor picked = pickWith([this, point] { QVERIFY(clickInTarget(point)); });
+        QVERIFY2(picked == m_target->expected(point), qPrintable(QStringLiteral("%1 at (%2, %3), not %4")
+                                                                     .arg(picked.name())
+                                                                     .arg(point.x())
+                                                                     .arg(point.y())
+                                                                     .arg(m_target->expected(point).name())));
     }
     QCOMPARE(m_target->presses, 0);
 }
@@ -202,23 +252,159 @@ void tst_WidgetPicking::pixelsBetweenPoints()
     QFETCH(int, screen);
     placeOn(QGuiApplication::screens().at(screen));
     QTRY_COMPARE(RealInput::pixel(m_target, QPoint(80, 50)), m_target->expected(QPoint(80, 50)));
-    const QPoint screenCorner = QGuiApplication::screens().at(screen)->geometry().topLeft();
-    const QPoint corner = m_target->mapToGlobal(QPoint(0, 0));
-    const QPoint nativeCorner =
-        screenCorner + (QPointF(corner - screenCorner) * m_target->devicePixelRatioF()).toPoint();
+    const QPoint corner = nativeCorner(m_target);
     for (int i = 0; i < 12; ++i) {
         const QPoint pixel(20 + i, 31 + (i * 5) % 7);
-        const QPoint place = nativeCorner + pixel;
-        m_button->setColor(QColor());
-        QTimer::singleShot(0, this, [i, place] {
-            QStringList input = {QStringLiteral("mousemove"), QString::number(place.x()),
-                                 QString::number(place.y())};
-            input += i % 2 == 0 ? QStringList({QStringLiteral("click"), QStringLiteral("1")})
-                                : QStringList({QStringLiteral("key"), QStringLiteral("Escape")});
-            QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), input), 0);
-        });
-        m_button->startPicking();
-        QCOMPARE(m_button->color(), Target::colorAt(pixel));
+        QCOMPARE(pickAtNative(corner + pixel, i % 2 != 0), Target::colorAt(pixel));
+    }
+}
+
+void tst_WidgetPicking::pixelsAtTheEdges_data()
+{
+    pixels_data();
+}
+
+// The outermost pixels are half a point from the edge where a point has two: rounded, the last ones are
+// outside, and the neighbours of the first ones inside.
+void tst_WidgetPicking::pixelsAtTheEdges()
+{
+    QFETCH(const int, screen);
+    placeOn(QGuiApplication::screens().at(screen));
+    QTRY_COMPARE(RealInput::pixel(m_target, QPoint(80, 50)), m_target->expected(QPoint(80, 50)));
+    const QPoint corner = nativeCorner(m_target);
+    const QRect all(QPoint(0, 0), (QSizeF(m_target->size()) * m_target->devicePixelRatioF()).toSize());
+    const QPoint inside[] = {all.topLeft(),    all.topRight(),    all.bottomLeft(), all.bottomRight(),
+                             {all.left(), 51}, {all.right(), 51}, {51, all.top()},  {51, all.bottom()}};
+    for (const QPoint& pixel : inside) {
+        QCOMPARE(pickAtNative(corner + pixel, false), Target::colorAt(pixel));
+        QCOMPARE(m_target->presses, 0);
+        QCOMPARE(pickAtNative(corner + pixel, true), Target::colorAt(pixel));
+    }
+    const QPoint outside[] = {
+        {all.left() - 1, 51}, {all.right() + 1, 51}, {51, all.top() - 1}, {51, all.bottom() + 1}};
+    for (const QPoint& pixel : outside) {
+        QCOMPARE(pickAtNative(corner + pixel, false), QColor());
+        // Qt rounds: for some of these presses the target is the receiver.
+        QCOMPARE(m_target->presses, 0);
+        QCOMPARE(pickAtNative(corner + pixel, true), QColor());
+    }
+}
+
+void tst_WidgetPicking::pixelsAtTheEdgesOfTheScreen_data()
+{
+    pixels_data();
+}
+
+// Rounded, the last pixel of a screen is on the next one, or on none.
+void tst_WidgetPicking::pixelsAtTheEdgesOfTheScreen()
+{
+    QFETCH(const int, screen);
+    const QScreen* place = QGuiApplication::screens().at(screen);
+    const QRect area = place->geometry();
+    Target target;
+    target.setWindowFlags(Qt::BypassWindowManagerHint);
+    // To the last point, from one that is a whole pixel at every scale.
+    const QPoint start((area.width() - 100) / 2 * 2, (area.height() - 60) / 2 * 2);
+    target.setGeometry(QRect(area.topLeft() + start, area.bottomRight()));
+    target.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&target));
+    QTRY_COMPARE(RealInput::pixel(&target, QPoint(50, 30)), target.expected(QPoint(50, 30)));
+    m_button->setTargetWidget(&target);
+
+    const QPoint corner = nativeCorner(&target);
+    // Where a screen is no whole number of points wide, Qt rounds that.
+    const QPoint last = area.topLeft() +
+                        QPoint(int(place->size().width() * place->devicePixelRatio()) - 1,
+                               int(place->size().height() * place->devicePixelRatio()) - 1) -
+                        corner;
+    for (const QPoint& pixel : {last, QPoint(last.x(), 20), QPoint(20, last.y())}) {
+        QCOMPARE(pickAtNative(corner + pixel, false), Target::colorAt(pixel));
+        QCOMPARE(target.presses, 0);
+        QCOMPARE(pickAtNative(corner + pixel, true), Target::colorAt(pixel));
+    }
+    m_button->setTargetWidget(nullptr);
+}
+
+void tst_WidgetPicking::windowBetweenPoints_data()
+{
+    pixels_data();
+}
+
+// A window manager places windows on any pixel.
+void tst_WidgetPicking::windowBetweenPoints()
+{
+    QFETCH(const int, screen);
+    const QPoint start = QGuiApplication::screens().at(screen)->geometry().topLeft() + QPoint(300, 20);
+    QWidget window;
+    window.setWindowFlags(Qt::BypassWindowManagerHint);
+    window.setGeometry(QRect(start, QSize(80, 60)));
+    Target target(&window);
+    target.setGeometry(10, 10, 60, 40);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    m_button->setTargetWidget(&target);
+    const QPoint inWindow = nativeCorner(&target) - nativeCorner(&window);
+    const QPoint before = nativeCorner(&window);
+    for (int shift = 1; shift <= 3; ++shift) {
+        const QPoint place = before + QPoint(shift, shift);
+        QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
+                                   {QStringLiteral("windowmove"), QStringLiteral("--sync"),
+                                    QString::number(window.winId()), QString::number(place.x()),
+                                    QString::number(place.y())}),
+                 0);
+        const QPoint corner = place + inWindow;
+        QTRY_COMPARE(pickAtNative(corner + QPoint(41, 31), false), Target::colorAt(QPoint(41, 31)));
+        const QRect all(QPoint(0, 0), (QSizeF(target.size()) * target.devicePixelRatioF()).toSize());
+        for (const QPoint& pixel : {all.topLeft(), all.bottomRight()}) {
+            QCOMPARE(pickAtNative(corner + pixel, false), Target::colorAt(pixel));
+            QCOMPARE(pickAtNative(corner + pixel, true), Target::colorAt(pixel));
+        }
+        for (const QPoint& pixel : {all.topLeft() - QPoint(1, 1), all.bottomRight() + QPoint(1, 1)}) {
+            QCOMPARE(pickAtNative(corner + pixel, false), QColor());
+            QCOMPARE(pickAtNative(corner + pixel, true), QColor());
+        }
+        QCOMPARE(target.presses, 0);
+    }
+}
+
+void tst_WidgetPicking::quickScene_data()
+{
+    QTest::addColumn<bool>("isTarget");
+    QTest::addColumn<bool>("isWindow");
+    QTest::newRow("is the target") << true << false;
+    QTest::newRow("is the target and its window") << true << true;
+    QTest::newRow("beside the target") << false << false;
+}
+
+// What lies over a scene is not painted away with it, and a window with one is painted once a frame only.
+void tst_WidgetPicking::quickScene()
+{
+    QFETCH(const bool, isTarget);
+    QFETCH(const bool, isWindow);
+    QWidget window;
+    window.setGeometry(m_window->geometry().translated(0, 200));
+    auto* scene = new QQuickWidget(isWindow ? nullptr : &window);
+    const std::unique_ptr<QWidget> owned(isWindow ? scene : nullptr);
+    scene->setResizeMode(QQuickWidget::SizeRootObjectToView);
+    scene->setGeometry(isWindow ? window.geometry() : QRect(20, 20, 100, 100));
+    QQmlComponent component(scene->engine());
+    component.setData("import QtQuick 2.0\nRectangle { color: '#315f2b' }", QUrl());
+    scene->setContent(QUrl(), &component, component.create());
+    QCOMPARE(scene->status(), QQuickWidget::Ready);
+    auto* beside = new Target(&window);
+    beside->setGeometry(140, 20, 100, 100);
+    QWidget* const target = isTarget ? static_cast<QWidget*>(scene) : beside;
+    m_button->setTargetWidget(target);
+    QVERIFY(RealInput::showAndActivate(isWindow ? scene : &window));
+
+    const auto expected = [=](const QPoint& point) {
+        return isTarget ? QColor(0x31, 0x5f, 0x2b) : beside->expected(point);
+    };
+    const QPoint last = target->rect().bottomRight();
+    for (const QPoint& point : {QPoint(0, 0), QPoint(1, 50), QPoint(last.x() - 1, 50), QPoint(80, 1),
+                                QPoint(80, last.y() - 1), last, QPoint(80, 50), QPoint(50, 1)}) {
+        QTRY_COMPARE(RealInput::pixel(target, point), expected(point));
+        QCOMPARE(pickWith([&] { QVERIFY(RealInput::click(target, point)); }), expected(point));
     }
 }
 
@@ -385,6 +571,70 @@ void tst_WidgetPicking::colorButton()
     QVERIFY(m_field->isDown());
     QVERIFY(clickWith([&] { QVERIFY(clickInTarget(point)); }, m_field));
     QVERIFY(!m_field->isDown());
+}
+
+void tst_WidgetPicking::keysOnAColorButton_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("isOverTarget");
+    for (const char* key : {"space", "a"}) {
+        QTest::addRow("%s over the target", key) << QString::fromLatin1(key) << true;
+        QTest::addRow("%s elsewhere", key) << QString::fromLatin1(key) << false;
+    }
+}
+
+// The key goes on to the field, which is still pressed: it must not begin the next pick.
+void tst_WidgetPicking::keysOnAColorButton()
+{
+    QFETCH(const QString, key);
+    QFETCH(const bool, isOverTarget);
+    const QPoint point(33, 44);
+    m_field->setFocus();
+    // A button that loses the focus is released.
+    m_other->setFocusPolicy(Qt::NoFocus);
+    const QSignalSpy started(m_field, &ColorPickerButton::pickingStarted);
+    QVERIFY(clickWith(
+        [&] {
+            QVERIFY(isOverTarget ? RealInput::moveTo(m_target, point)
+                                 : RealInput::moveTo(m_window.get(), QPoint(190, 10)));
+            QVERIFY(RealInput::key(key));
+        },
+        m_field));
+    // What follows the key has been handled when the other button hears of its click.
+    const QSignalSpy otherClicked(m_other, &QAbstractButton::clicked);
+    QVERIFY(RealInput::click(m_other));
+    QTRY_COMPARE(otherClicked.size(), 1);
+    QCOMPARE(started.size(), 1);
+    QVERIFY(!m_field->isPickingInProgress());
+    QCOMPARE(m_field->isDown(), !isOverTarget);
+    QCOMPARE(m_field->color(),
+             isOverTarget ? std::optional<QColor>(m_target->expected(point)) : std::nullopt);
+}
+
+// The last test: the screens are not the same again.
+void tst_WidgetPicking::screenRemovedWhilePicking()
+{
+    const auto screens = QGuiApplication::screens();
+    const int count = screens.size();
+    QVERIFY(count > 1);
+    QScreen* screen = screens.last();
+    placeOn(screen);
+    const QPoint point(33, 44);
+    QTRY_COMPARE(RealInput::pixel(m_target, point), m_target->expected(point));
+    const QString output = screen->name();
+    QVERIFY(clickWith([&] {
+        QCOMPARE(QProcess::execute(QStringLiteral("xrandr"),
+                                   {QStringLiteral("--output"), output, QStringLiteral("--off")}),
+                 0);
+        QTRY_COMPARE(QGuiApplication::screens().size(), count - 1);
+        QVERIFY(m_button->isPickingInProgress());
+        placeOn(QGuiApplication::primaryScreen());
+        QTRY_COMPARE(RealInput::pixel(m_target, point), m_target->expected(point));
+        QVERIFY(clickInTarget(point));
+    }));
+    QCOMPARE(m_button->color(), m_target->expected(point));
+    QVERIFY(!m_target->findChild<QWidget*>(QStringLiteral("highlightFrame")));
+    QCOMPARE(m_target->cursor().shape(), Qt::ArrowCursor);
 }
 
 UIC_TEST_MAIN(tst_WidgetPicking)
