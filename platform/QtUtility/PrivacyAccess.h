@@ -25,7 +25,7 @@ enum class AccessStatus {
  * Qt's offscreen platform, which tests use. On Wayland, and on Qt's minimal platform, none of it works,
  * and the answer is Unavailable, which saves the user a picture of black pixels. What decides is the
  * platform of the running QGuiApplication: a program that runs through Xwayland counts as X11, although
- * it sees only the windows of other X11 programs.
+ * it sees at most the windows of other X11 programs, and may read black instead.
  *
  * A number that is none of the enumerators is no permission that anybody guards: granted.
  */
