@@ -142,6 +142,9 @@ private Q_SLOTS:
     void pressOnTheTargetPicks();
     void pickedPixel_data();
     void pickedPixel();
+    void mouseBetweenPoints_data();
+    void mouseBetweenPoints();
+    void windowMovedBelowTheMouse();
     void everyMouseButtonEndsThePick_data();
     void everyMouseButtonEndsThePick();
     void pressOnAConstructorWidgetIsSwallowed();
@@ -344,6 +347,55 @@ void tst_WidgetColorPicker::pickedPixel()
     QVERIFY(pickWith([this] { m_stage->press(); }));
     QCOMPARE(protocol.lines, isInside ? picked(colorIn(point)) : QStringList());
     QCOMPARE(m_picker->color(), std::optional<QColor>(isInside ? colorIn(point) : QColor()));
+}
+
+void tst_WidgetColorPicker::mouseBetweenPoints_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("shift");
+    QTest::addColumn<bool>("isInside");
+    QTest::newRow("last pixel of the last point") << 99.5 << 0.0 << true;
+    QTest::newRow("first pixel of the next point") << 100.0 << 0.0 << false;
+    QTest::newRow("last pixel of the point before") << -0.5 << 0.0 << false;
+    QTest::newRow("first pixel, window between points") << 0.0 << 0.5 << true;
+    QTest::newRow("last pixel, window between points") << 99.5 << 0.5 << true;
+    QTest::newRow("pixel before, window between points") << -0.5 << 0.5 << false;
+    QTest::newRow("pixel after, window between points") << 100.0 << 0.5 << false;
+}
+
+// As on a screen with two pixels for a point: Qt rounds where the cursor is, and where a window is. Events do
+// not.
+void tst_WidgetColorPicker::mouseBetweenPoints()
+{
+    QFETCH(const double, x);
+    QFETCH(const double, shift);
+    QFETCH(const bool, isInside);
+    const Protocol protocol(m_picker);
+    QWindow* const window = m_stage->window->windowHandle();
+    QVERIFY(pickWith([&] {
+        const QPointF local = QPointF(m_stage->target->pos()) + QPointF(x, 40);
+        const QPointF global = local + window->mapToGlobal(QPoint(0, 0)) + QPointF(shift, 0);
+        QCursor::setPos(global.toPoint());
+        QMouseEvent move(QEvent::MouseMove, local, local, global, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &move);
+        QTest::keyPress(window, Qt::Key_Escape);
+    }));
+    QCOMPARE(protocol.lines.size(), isInside ? 2 : 0);
+}
+
+// The mouse may tell of a move of the window before the window does.
+void tst_WidgetColorPicker::windowMovedBelowTheMouse()
+{
+    const Protocol protocol(m_picker);
+    QWindow* const window = m_stage->window->windowHandle();
+    QVERIFY(pickWith([&] {
+        const QPointF global = QCursor::pos();
+        const QPointF local = m_stage->window->mapFromGlobal(QCursor::pos()) - QPoint(80, 0);
+        QMouseEvent move(QEvent::MouseMove, local, local, global, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &move);
+        QTest::keyPress(window, Qt::Key_Escape);
+    }));
+    QCOMPARE(protocol.lines, picked(colorIn(Spot)));
 }
 
 void tst_WidgetColorPicker::everyMouseButtonEndsThePick_data()
