@@ -92,7 +92,7 @@ public:
     QColor currentColor;
 
 private:
-    void addView(const QScreen& screen);
+    void addView(QScreen& screen);
     void watchScreens();
     void watchScreen(QScreen* screen);
     void stopWatching();
@@ -148,7 +148,7 @@ void Pipette::Impl::start()
     cursor.reset();
 
     const int first = views.size();
-    for (const QScreen* screen : screens) {
+    for (QScreen* screen : screens) {
         addView(*screen);
     }
     const QList<PipetteScreenView*> added = views.mid(first);
@@ -175,9 +175,12 @@ void Pipette::Impl::start()
     Q_EMIT owner->pickingStarted();
 }
 
-void Pipette::Impl::addView(const QScreen& screen)
+void Pipette::Impl::addView(QScreen& screen)
 {
     auto* view = new PipetteScreenView(scene, screen.geometry());
+    if (!ScreenSample::areWindowsBlended()) {
+        view->setStillPicture(screen.grabWindow(0));
+    }
     // Or a modal dialog that is open would keep mouse and keyboard from it.
     view->windowHandle()->setTransientParent(QGuiApplication::modalWindow());
     views.append(view);

@@ -31,10 +31,10 @@
  * hides the loupe and waits until the screen has caught up: about a tenth of a second, 0.6 seconds at most,
  * in which a key still gives up. Everywhere else colorSelected() comes from within the release.
  *
- * **The desktop** has to blend windows, as all current ones do. On an X server without a compositor the
- * windows are black instead of transparent, and so is what is picked. Xwayland gives no pictures of other
- * applications either: a host that offers the pipette there should run on Wayland itself, where the
- * permission is missing.
+ * **The desktop.** An X server without a compositor would show the windows black instead of transparent.
+ * There the screens stand still while the pipette picks: the windows show a picture that was taken before.
+ * Xwayland gives no pictures of other applications: a host that offers the pipette on such a desktop should
+ * run on Wayland itself, where the permission is missing.
  *
  * **Permission.** Where the system guards the contents of the screen (see PrivacyAccess.h) and the program
  * may not read it, startPicking() asks for the permission and does nothing else. Try again once it is

@@ -71,6 +71,7 @@ public:
     QCursor cursor;
 
     QRect area; // of the screen
+    QPixmap stillPicture;
     int returnsLeft = 0;
     QRect keptFree;
     LoupeTrail trail;
@@ -227,6 +228,12 @@ QSize PipetteScreenView::cursorSize() const
 QSize PipetteScreenView::cursorHotSpot() const
 {
     return d->cursorHotSpot;
+}
+
+void PipetteScreenView::setStillPicture(const QPixmap& picture)
+{
+    d->stillPicture = picture;
+    viewport()->update();
 }
 
 void PipetteScreenView::keepFree(const QRect& area)
@@ -391,6 +398,14 @@ void PipetteScreenView::paintEvent(QPaintEvent* event)
     d->trail.paint(d->paintedPlace(), now);
 }
 
+void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
+{
+    if (!d->stillPicture.isNull()) {
+        painter->drawPixmap(sceneRect().topLeft(), d->stillPicture);
+    }
+    QGraphicsView::drawBackground(painter, rect);
+}
+
 void PipetteScreenView::drawForeground(QPainter* painter, const QRectF& rect)
 {
     QGraphicsView::drawForeground(painter, rect);
@@ -401,9 +416,12 @@ void PipetteScreenView::drawForeground(QPainter* painter, const QRectF& rect)
     // The loupe's corner may lie over the pixels that it magnifies.
     const QRectF covered = item->sceneBoundingRect() & QRectF(d->keptFree);
     if (!covered.isEmpty()) {
-        const QPainter::CompositionMode mode = painter->compositionMode();
+        painter->save();
+        painter->setClipRect(covered, Qt::IntersectClip);
         painter->setCompositionMode(QPainter::CompositionMode_Source);
-        painter->fillRect(covered, ScreenSample::overlayColor());
-        painter->setCompositionMode(mode);
+        painter->fillRect(covered, Qt::transparent);
+        painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
+        drawBackground(painter, covered);
+        painter->restore();
     }
 }

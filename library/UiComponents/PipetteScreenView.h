@@ -50,6 +50,10 @@ public:
     QSize cursorSize() const;
     QSize cursorHotSpot() const;
 
+    /// What the screen shows where no compositor would let it show through the window: the view then shows
+    /// this picture of it below the overlay.
+    void setStillPicture(const QPixmap& picture);
+
     /// Nothing of the loupe is painted in @p area of the desktop from the next painting on.
     void keepFree(const QRect& area);
 
@@ -85,6 +89,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void drawBackground(QPainter* painter, const QRectF& rect) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
 
 private:

@@ -1,9 +1,13 @@
 #include "ScreenSample.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QRegion>
 #include <QScreen>
+#ifdef QT_X11EXTRAS_LIB
+#include <QX11Info>
+#endif
 
 namespace {
 
@@ -18,6 +22,15 @@ QPoint physical(const QPoint& point, qreal ratio)
 QColor ScreenSample::overlayColor()
 {
     return {0, 0, 0, 1};
+}
+
+bool ScreenSample::areWindowsBlended()
+{
+#ifdef QT_X11EXTRAS_LIB
+    return QGuiApplication::platformName() != QLatin1String("xcb") || QX11Info::isCompositingManagerRunning();
+#else
+    return true;
+#endif
 }
 
 QRect ScreenSample::grabArea(const QPoint& point, const QSize& size, const QRect& screen)

@@ -25,6 +25,10 @@ constexpr int loupePixels = 13;
 /// window would let the mouse through.
 QColor overlayColor();
 
+/// Whether a translucent window shows what lies below it. An X server without a compositor shows its colours
+/// as they are, here black.
+bool areWindowsBlended();
+
 /// The area of @p size around @p point on a screen at @p screen, relative to the screen.
 QRect grabArea(const QPoint& point, const QSize& size, const QRect& screen);
 
