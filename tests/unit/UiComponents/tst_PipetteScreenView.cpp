@@ -163,6 +163,7 @@ private Q_SLOTS:
 
     void overlayCoversEverything();
     void keptAreaShowsNoLoupe();
+    void stillPictureLiesBelowTheOverlay();
     void moveRepaintsTwoPlacesOnly();
     void presentLoupeIsKnown();
     void loupeOfAnotherScreenIsNotIts();
@@ -707,6 +708,32 @@ void tst_PipetteScreenView::keptAreaShowsNoLoupe()
             QCOMPARE(image.pixel(x, y), isLoupe ? qRgb(255, 0, 0) : qRgba(0, 0, 0, 1));
         }
     }
+}
+
+void tst_PipetteScreenView::stillPictureLiesBelowTheOverlay()
+{
+    Stage stage;
+    QVERIFY(stage.present());
+    stage.loupe->setPos(200, 100);
+    const QRect kept(190, 90, 15, 15);
+    stage.view->keepFree(kept);
+    QImage still(screenArea.size(), QImage::Format_RGB32);
+    for (int y = 0; y < still.height(); ++y) {
+        for (int x = 0; x < still.width(); ++x) {
+            still.setPixel(x, y, qRgb(x % 256, y % 256, (x + y) % 256));
+        }
+    }
+    stage.view->setStillPicture(QPixmap::fromImage(still));
+    QImage image(screenArea.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    stage.view->QWidget::render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    const auto covered = [](int value) { return value >= 128 ? value - 1 : value; };
+    for (const QPoint& point : {QPoint(0, 0), QPoint(255, 255), QPoint(128, 127), QPoint(700, 411),
+                                QPoint(191, 91), QPoint(203, 103)}) {
+        QCOMPARE(image.pixel(point), qRgb(covered(point.x() % 256), covered(point.y() % 256),
+                                          covered((point.x() + point.y()) % 256)));
+    }
+    QCOMPARE(image.pixel(230, 130), qRgb(255, 0, 0));
 }
 
 void tst_PipetteScreenView::moveRepaintsTwoPlacesOnly()
