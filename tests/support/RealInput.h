@@ -26,12 +26,6 @@ bool moveTo(const QWidget* widget, const QPoint& point);
 bool click(const QWidget* widget, const QPoint& point);
 bool click(const QWidget* widget);
 
-/// Clicks where the mouse is.
-bool clickHere();
-
-/// Moves to @p global and clicks at once, before any program can follow.
-bool moveAndClick(const QPoint& global);
-
 /// Presses the left button at @p from, moves to @p to in small steps, and lets go.
 bool drag(const QWidget* widget, const QPoint& from, const QPoint& to);
 
