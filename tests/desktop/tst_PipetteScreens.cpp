@@ -337,14 +337,14 @@ void tst_PipetteScreens::everyScreenIsCovered()
     for (const QScreen* screen : screens) {
         QVERIFY(moveMouse(screen->geometry().center()));
         QVERIFY(start());
-        QList<QRect> covered;
-        for (const QGraphicsView* view : views()) {
-            covered.append(view->geometry());
-        }
-        QCOMPARE(covered.size(), screens.size());
-        for (const QScreen* other : screens) {
-            QVERIFY(covered.contains(other->geometry()));
-        }
+        QCOMPARE(views().size(), screens.size());
+        // A window manager may have moved a view that returns.
+        QTRY_VERIFY(std::all_of(screens.cbegin(), screens.cend(), [](const QScreen* other) {
+            const QList<QGraphicsView*> all = views();
+            return std::any_of(all.cbegin(), all.cend(), [other](const QGraphicsView* view) {
+                return view->geometry() == other->geometry();
+            });
+        }));
         // The one under the cursor has the keyboard.
         QTRY_VERIFY(QApplication::activeWindow());
         QTRY_COMPARE(QApplication::activeWindow()->geometry(), screen->geometry());
