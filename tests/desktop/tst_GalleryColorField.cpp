@@ -1,3 +1,4 @@
+#include "PipetteWindows.h"
 #include "RealInput.h"
 #include "TestMain.h"
 
@@ -47,7 +48,6 @@ private:
     ColorPickerWidget* panel() const;
     QColorDialog* dialog() const;
     QColor clickBasicColour(QColorDialog* dialog, int row, int column) const;
-    static QWidgetList views();
     void openPipette();
 
     std::unique_ptr<MainWindow> m_window;
@@ -166,19 +166,6 @@ void tst_GalleryColorField::pickerCanBeExchangedMeanwhile()
     QCOMPARE(panel()->currentColor(), std::optional<QColor>(before));
 }
 
-/// What covers the screens while the pipette picks.
-QWidgetList tst_GalleryColorField::views()
-{
-    QWidgetList found;
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
-        if (window->inherits("PipetteScreenView") && window->isVisible()) {
-            found.append(window);
-        }
-    }
-    return found;
-}
-
 /// Clicks the field, and the pipette in its panel.
 void tst_GalleryColorField::openPipette()
 {
@@ -186,9 +173,9 @@ void tst_GalleryColorField::openPipette()
     QTRY_VERIFY(panel());
     QVERIFY(QTest::qWaitForWindowExposed(panel()->window()));
     QVERIFY(RealInput::click(panel()->findChild<QToolButton*>(QStringLiteral("pipetteButton"))));
-    QTRY_COMPARE(views().size(), QGuiApplication::screens().size());
-    QTRY_VERIFY(views().constFirst()->windowHandle()->isExposed());
-    QTRY_VERIFY(views().constFirst()->isActiveWindow());
+    QTRY_COMPARE(pipetteWindows().size(), QGuiApplication::screens().size());
+    QTRY_VERIFY(pipetteWindows().constFirst()->windowHandle()->isExposed());
+    QTRY_VERIFY(pipetteWindows().constFirst()->isActiveWindow());
 }
 
 void tst_GalleryColorField::pipettePicksFromTheScreen_data()
@@ -225,7 +212,7 @@ void tst_GalleryColorField::pipettePicksFromTheScreen()
     QVERIFY(RealInput::moveTo(&patch, patch.rect().center()));
     QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field-pipette-") + page));
     QVERIFY(RealInput::click(&patch));
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     QCOMPARE(changed.count(), 1);
     QCOMPARE(m_button->color()->name(), target.name());
     QTRY_COMPARE(face(), target);
@@ -246,7 +233,7 @@ void tst_GalleryColorField::pipetteGivesUp()
         return;
     }
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     QCOMPARE(*m_button->color(), before);
     QTRY_VERIFY(m_window->isActiveWindow());
 }
@@ -259,7 +246,7 @@ void tst_GalleryColorField::pipetteEndsWithThePicker()
         return;
     }
     choice()->setKind(PickerChoice::Kind::Dialog);
-    QVERIFY(views().isEmpty());
+    QVERIFY(pipetteWindows().isEmpty());
     QCOMPARE(*m_button->color(), before);
 }
 
@@ -270,7 +257,7 @@ void tst_GalleryColorField::pipetteEndsWithTheWindow()
         return;
     }
     m_window.reset();
-    QVERIFY(views().isEmpty());
+    QVERIFY(pipetteWindows().isEmpty());
 }
 
 void tst_GalleryColorField::pickedColourIsShown()

@@ -1,3 +1,4 @@
+#include "PipetteWindows.h"
 #include "RealInput.h"
 #include "TestMain.h"
 
@@ -31,7 +32,6 @@ private Q_SLOTS:
 
 private:
     void startPipette();
-    static QWidgetList views();
     QStringList said() const;
 
     std::unique_ptr<MainWindow> m_window;
@@ -73,20 +73,7 @@ void tst_GalleryPipette::cleanup()
 {
     m_patch.reset();
     m_window.reset();
-    QTRY_VERIFY(views().isEmpty());
-}
-
-/// What covers the screens while the pipette picks.
-QWidgetList tst_GalleryPipette::views()
-{
-    QWidgetList found;
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
-        if (window->inherits("PipetteScreenView") && window->isVisible()) {
-            found.append(window);
-        }
-    }
-    return found;
+    QTRY_VERIFY(pipetteWindows().isEmpty());
 }
 
 /// What the log says of the pipette, without the times.
@@ -105,9 +92,9 @@ void tst_GalleryPipette::startPipette()
     const auto* start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
     QVERIFY(start);
     QVERIFY(RealInput::click(start));
-    QTRY_COMPARE(views().size(), QGuiApplication::screens().size());
-    QTRY_VERIFY(views().constFirst()->windowHandle()->isExposed());
-    QTRY_VERIFY(views().constFirst()->isActiveWindow());
+    QTRY_COMPARE(pipetteWindows().size(), QGuiApplication::screens().size());
+    QTRY_VERIFY(pipetteWindows().constFirst()->windowHandle()->isExposed());
+    QTRY_VERIFY(pipetteWindows().constFirst()->isActiveWindow());
 }
 
 void tst_GalleryPipette::picksAreListed_data()
@@ -132,7 +119,7 @@ void tst_GalleryPipette::picksAreListed()
         QVERIFY(RealInput::moveTo(m_patch.get(), QPoint(x, 60)));
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-pipette-%1-%2").arg(style).arg(x)));
         QVERIFY(RealInput::click(m_patch.get(), QPoint(x, 60)));
-        QTRY_VERIFY(views().isEmpty());
+        QTRY_VERIFY(pipetteWindows().isEmpty());
         QTRY_VERIFY(m_window->isActiveWindow());
     }
     QCOMPARE(history->names().size(), before + 2);
@@ -156,7 +143,7 @@ void tst_GalleryPipette::pickWithoutColourIsLoggedOnly()
         return;
     }
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     QVERIFY(history->names().isEmpty());
     QCOMPARE(said().size(), 2);
     QCOMPARE(said().filter(QStringLiteral("pipette.colorSelected")).size(), 0);
@@ -170,7 +157,7 @@ void tst_GalleryPipette::pageChangedWhilePicking()
         return;
     }
     m_window->showPage(QStringLiteral("color-input"));
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     QVERIFY(RealInput::click(m_window->page(), QPoint(5, 5)));
 }
 

@@ -1,3 +1,4 @@
+#include "PipetteWindows.h"
 #include "PixelPattern.h"
 #include "RealInput.h"
 #include "TestMain.h"
@@ -6,7 +7,6 @@
 
 #include <QApplication>
 #include <QGraphicsProxyWidget>
-#include <QGraphicsView>
 #include <QLabel>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -91,19 +91,6 @@ QRgb screenAtPoint(const QPoint& point)
     QScreen* screen = QGuiApplication::screenAt(point);
     const QPoint local = point - screen->geometry().topLeft();
     return screen->grabWindow(0, local.x(), local.y(), 1, 1).toImage().pixel(0, 0);
-}
-
-QList<QGraphicsView*> views()
-{
-    QList<QGraphicsView*> found;
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
-        auto* view = qobject_cast<QGraphicsView*>(window);
-        if (view && view->inherits("PipetteScreenView") && view->isVisible()) {
-            found.append(view);
-        }
-    }
-    return found;
 }
 
 QWidget* loupe()
@@ -280,7 +267,7 @@ void tst_PipetteScreens::cleanup()
     m_pipette.reset();
     m_host.reset();
     m_pattern.reset();
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
 }
 
 /// Starts a pick and waits until it can be seen.
@@ -337,11 +324,11 @@ void tst_PipetteScreens::everyScreenIsCovered()
     for (const QScreen* screen : screens) {
         QVERIFY(moveMouse(screen->geometry().center()));
         QVERIFY(start());
-        QCOMPARE(views().size(), screens.size());
+        QCOMPARE(pipetteWindows().size(), screens.size());
         // A window manager may have moved a view that returns.
         QTRY_VERIFY(std::all_of(screens.cbegin(), screens.cend(), [](const QScreen* other) {
-            const QList<QGraphicsView*> all = views();
-            return std::any_of(all.cbegin(), all.cend(), [other](const QGraphicsView* view) {
+            const QWidgetList all = pipetteWindows();
+            return std::any_of(all.cbegin(), all.cend(), [other](const QWidget* view) {
                 return view->geometry() == other->geometry();
             });
         }));
@@ -349,7 +336,7 @@ void tst_PipetteScreens::everyScreenIsCovered()
         QTRY_VERIFY(QApplication::activeWindow());
         QTRY_COMPARE(QApplication::activeWindow()->geometry(), screen->geometry());
         m_pipette->stopPicking();
-        QTRY_VERIFY(views().isEmpty());
+        QTRY_VERIFY(pipetteWindows().isEmpty());
     }
 }
 
@@ -396,7 +383,7 @@ void tst_PipetteScreens::loupeShowsTheNeighbours()
             QTRY_VERIFY(loupeRect().isValid());
             QTRY_COMPARE(firstWrongPixel(cursor), QString());
             m_pipette->stopPicking();
-            QTRY_VERIFY(views().isEmpty());
+            QTRY_VERIFY(pipetteWindows().isEmpty());
         }
     }
 }
@@ -436,7 +423,7 @@ void tst_PipetteScreens::loupeMovesIntoItsOwnPlace()
         QVERIFY(moveMouseAndClick(to));
         QTRY_COMPARE(selected.count(), 1);
         QVERIFY(isPickOf(selected.at(0).at(0).value<QColor>(), patternAt(to)));
-        QTRY_VERIFY(views().isEmpty());
+        QTRY_VERIFY(pipetteWindows().isEmpty());
     }
 }
 
@@ -462,7 +449,7 @@ void tst_PipetteScreens::loupeStaysOnItsScreen()
         QVERIFY(moveMouse(corner));
         QTRY_VERIFY(isAt(corner - QPoint(LoupeSize, 0)));
         m_pipette->stopPicking();
-        QTRY_VERIFY(views().isEmpty());
+        QTRY_VERIFY(pipetteWindows().isEmpty());
     }
 }
 
@@ -507,7 +494,7 @@ void tst_PipetteScreens::fullScreenWindowIsPickedFrom()
         QVERIFY(clickMouse());
         QTRY_COMPARE(selected.count(), 1);
         QVERIFY(isPickOf(selected.at(0).at(0).value<QColor>(), patternAt(point)));
-        QTRY_VERIFY(views().isEmpty());
+        QTRY_VERIFY(pipetteWindows().isEmpty());
     }
 }
 
@@ -520,7 +507,7 @@ void tst_PipetteScreens::escapeEndsWithoutAColour()
     QTRY_VERIFY(QApplication::focusWidget());
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
     QTRY_COMPARE(stopped.count(), 1);
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     // The key arrives in two shapes: whatever was on its way is there once the next one has been typed.
     QTRY_VERIFY(m_host->isActiveWindow());
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
@@ -551,7 +538,7 @@ void tst_PipetteScreens::anotherApplicationEndsThePick()
     QTRY_VERIFY(QApplication::activeWindow());
     QVERIFY(PixelPattern::activate());
     QTRY_COMPARE(stopped.count(), 1);
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     QCOMPARE(selected.count(), 0);
 }
 
@@ -575,7 +562,7 @@ void tst_PipetteScreens::movedScreenEndsThePick()
     QVERIFY(move(moved));
     QTRY_COMPARE(screen->geometry().topLeft(), moved);
     QTRY_COMPARE(stopped.count(), 1);
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     QVERIFY(move(place));
     QTRY_COMPARE(screen->geometry().topLeft(), place);
     QCOMPARE(stopped.count(), 1);
@@ -601,14 +588,14 @@ void tst_PipetteScreens::removedScreenEndsThePick()
     QVERIFY(xrandr({QStringLiteral("--output"), output, QStringLiteral("--off")}));
     QTRY_COMPARE(QGuiApplication::screens().size(), count - 1);
     QTRY_COMPARE(stopped.count(), 1);
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
 
     // The others can be picked from; a new one ends the pick, too.
     QVERIFY(start());
     QVERIFY(xrandr(layout));
     QTRY_COMPARE(QGuiApplication::screens().size(), count);
     QTRY_COMPARE(stopped.count(), 2);
-    QTRY_VERIFY(views().isEmpty());
+    QTRY_VERIFY(pipetteWindows().isEmpty());
     m_pattern.reset();
     m_pattern = std::make_unique<PixelPattern>();
     QVERIFY(m_pattern->show(everything()));
