@@ -23,7 +23,6 @@
 #include <memory>
 
 using Orvane::Util::AccessStatus;
-using Orvane::Util::PrivacyType;
 
 namespace {
 

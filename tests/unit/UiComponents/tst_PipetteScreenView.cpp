@@ -797,7 +797,7 @@ void tst_PipetteScreenView::loupeOfAnotherScreenIsNotIts()
 
     // Nor does a loupe reach over the edge of its screen.
     stage.loupe->show();
-    stage.loupe->setPos(400 - loupeSize.width() / 2, 100);
+    stage.loupe->setPos(400.0 - loupeSize.width() / 2.0, 100);
     stage.view->viewport()->repaint();
     other.viewport()->repaint();
     QVERIFY(stage.view->untilFree({410, 110, 5, 5}, shape) == 0);
