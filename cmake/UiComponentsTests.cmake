@@ -37,20 +37,21 @@ function(uic_desktop_test class)
     endif()
     uic_test_program(${class} NAME desktop.${class} LABEL desktop
         LAUNCHER ${launcher} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_UNPARSED_ARGUMENTS})
-    # Two desktops at once on a small machine only wait for each other.
+    # Two desktops at once on a small machine only wait for each other, where the tests leave them time to.
     set_tests_properties(desktop.${class} PROPERTIES PROCESSORS 2)
 endfunction()
 
-# uic_desktop_variant(<Class> <name> [SCREENS <layout>] [ENVIRONMENT <variable...>]): runs a desktop test once
-# more, on the screens that desktop-session describes, and with these variables.
+# uic_desktop_variant(<Class> <name> [SCREENS <layout>] [ENVIRONMENT <variable...>] [ARGUMENTS <function...>]):
+# runs a desktop test, or these functions of it, once more, on the screens that desktop-session describes, and
+# with these variables.
 function(uic_desktop_variant class name)
-    cmake_parse_arguments(arg "" "SCREENS" "ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "" "SCREENS" "ENVIRONMENT;ARGUMENTS" ${ARGN})
     set(test desktop.${class}.${name})
     set(launcher "${UIC_DESKTOP_SESSION}")
     if(arg_SCREENS)
         list(APPEND launcher --screens "${arg_SCREENS}")
     endif()
-    add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:tst_${class}>)
+    add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:tst_${class}> ${arg_ARGUMENTS})
     foreach(property LABELS TIMEOUT FAIL_REGULAR_EXPRESSION PROCESSORS)
         get_test_property(desktop.${class} ${property} value)
         set_tests_properties(${test} PROPERTIES ${property} "${value}")

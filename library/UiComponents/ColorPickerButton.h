@@ -26,7 +26,8 @@ class AbstractColorPicker;
  * picker emits its `pickingStopped()`, the button emits its own, adopts the picker's final colour and is
  * released. A picker that ends in silence leaves the button pressed, until one reports its end; Escape and
  * the loss of the focus release it too if it has the focus, as they do any button. Where pick() runs a nested
- * event loop, a Space that ended it does not click the button again.
+ * event loop, a Space that ended it does not click the button again if the picker is no longer in progress
+ * when the key comes to the button.
  *
  * **Style sheet.** The face is a child QWidget named "color"; its size, border and drawing in the two
  * states without a colour are the sheet's, its background is written by the button, opaque whatever the

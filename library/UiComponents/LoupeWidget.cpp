@@ -96,7 +96,8 @@ QRect LoupeWidget::Children::nameArea() const
     const QRect area = colorNameLabel->style()->itemTextRect(
         metrics, colorNameLabel->contentsRect(), int(alignment), true, QLatin1Char('#') + QString(6, widest));
     // As much as a label may indent its text by.
-    const int indent = qMax(metrics.horizontalAdvance(QLatin1Char('x')), colorNameLabel->margin());
+    const int indent = qMax(metrics.horizontalAdvance(QLatin1Char('x')),
+                            colorNameLabel->margin() + qMax(0, colorNameLabel->indent()));
     return area.adjusted(-indent, -indent, indent, indent).translated(colorNameLabel->pos()) & owner->rect();
 }
 
@@ -219,8 +220,14 @@ void LoupeWidget::paintEvent(QPaintEvent*)
 
 void LoupeWidget::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::StyleChange) {
+    switch (event->type()) {
+    case QEvent::StyleChange:
+    case QEvent::FontChange:
+    case QEvent::LayoutDirectionChange:
         d->shapeSize = QSize();
+        break;
+    default:
+        break;
     }
     QWidget::changeEvent(event);
 }

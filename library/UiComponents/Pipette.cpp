@@ -7,6 +7,7 @@
 
 #include <QtUtility/PrivacyAccess.h>
 
+#include <QApplication>
 #include <QCursor>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
@@ -19,7 +20,9 @@
 #include <QVector>
 #include <QWindow>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 Q_LOGGING_CATEGORY(logPipette, "uicomponents.pipette", QtWarningMsg)
 
@@ -29,9 +32,11 @@ namespace {
 constexpr int longestWait = 600;
 constexpr int lookInterval = 8;
 
-// How often the pipette looks whether the cursor is on one of its windows, in milliseconds, and how often in
-// a row it brings a window to the cursor.
+// How often the pipette looks whether the cursor is on one of its windows, in milliseconds, how often it has
+// to miss it there, and how often in a row it then brings a window to the cursor. When the user has made
+// another application the active one, Qt says so within 100 ms, and the pick is over before.
 constexpr int followInterval = 50;
+constexpr int missesBeforeFollowing = 4;
 constexpr int mostFollows = 10;
 
 /// Whether the program may read the screen. Asks for the permission if not.
@@ -100,9 +105,11 @@ private:
     void update(const QPoint& cursorPos);
     void takePicture(QScreen* screen);
     void finish(const QPoint& cursorPos, bool isSucceeded);
+    void hideLoupes();
     void pick(const QPoint& cursorPos);
     void lookAgain();
     void followCursor();
+    bool isCoveredByOthers(const PipetteScreenView& view, const QPoint& point) const;
 
     std::optional<int> untilFree(const QRect& area) const;
     std::optional<int> untilCovered(const QPoint& point) const;
@@ -112,6 +119,7 @@ private:
     QTimer later;
     QTimer following;
     int followsLeft = mostFollows;
+    int misses = 0; // in a row
     int waited = 0;
     int ends = 0;
     std::optional<QPoint> cursor;      // where the loupe belongs
@@ -171,6 +179,7 @@ void Pipette::Impl::start()
     }
     watchScreens();
     followsLeft = mostFollows;
+    misses = 0;
     following.start();
     Q_EMIT owner->pickingStarted();
 }
@@ -325,10 +334,7 @@ void Pipette::Impl::finish(const QPoint& cursorPos, bool isSucceeded)
         waited = 0;
         if (!isPixelBare(cursorPos)) {
             pendingPick = cursorPos;
-            if (loupe) {
-                // Not hide(): a move of the mouse would bring it back.
-                loupeItem->setOpacity(0.0);
-            }
+            hideLoupes();
             waitFor(std::nullopt);
             return;
         }
@@ -340,6 +346,19 @@ void Pipette::Impl::finish(const QPoint& cursorPos, bool isSucceeded)
         }
     }
     stop();
+}
+
+/// Of all sets of views.
+void Pipette::Impl::hideLoupes()
+{
+    const auto scenes = findChildren<QGraphicsScene*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QGraphicsScene* of : scenes) {
+        const QList<QGraphicsItem*> items = of->items();
+        for (QGraphicsItem* item : items) {
+            // Not hide(): a move of the mouse would bring it back.
+            item->setOpacity(0.0);
+        }
+    }
 }
 
 void Pipette::Impl::pick(const QPoint& cursorPos)
@@ -391,12 +410,17 @@ void Pipette::Impl::followCursor()
         if (view->isVisible() && view->geometry().contains(point)) {
             if (view->underMouse()) {
                 followsLeft = mostFollows;
+                misses = 0;
                 return;
             }
             hidden = view;
         }
     }
-    if (!hidden || followsLeft == 0) {
+    if (!hidden || !isCoveredByOthers(*hidden, point)) {
+        misses = 0;
+        return;
+    }
+    if (++misses < missesBeforeFollowing || followsLeft == 0) {
         return;
     }
     --followsLeft;
@@ -405,6 +429,20 @@ void Pipette::Impl::followCursor()
     if (view) {
         view->activateWindow();
     }
+}
+
+/// Whether the mouse is not on @p view although it could be: Qt tells of no window of this program's own
+/// above it, as the host may show one, and the user is not dragging.
+bool Pipette::Impl::isCoveredByOthers(const PipetteScreenView& view, const QPoint& point) const
+{
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget() ||
+        QGuiApplication::modalWindow() != view.windowHandle()->transientParent()) {
+        return false;
+    }
+    const QWindow* const top = QGuiApplication::topLevelAt(point);
+    return !top || std::any_of(views.cbegin(), views.cend(), [top](const PipetteScreenView* other) {
+        return other->windowHandle() == top;
+    });
 }
 
 /// How long until no screen can show the loupe in @p area of the desktop; see PipetteScreenView::untilFree().

@@ -19,20 +19,22 @@
  * the colour in their middle. The left button picks when it is released. A key, Escape among them, gives up;
  * so does anything else that ends the pick: another application becomes the active one, a screen is added,
  * removed or changed, one of the windows is closed, the application quits. The wheel and the other buttons do
- * nothing. Where another application's full-screen window has come to lie over one of the windows, that
- * window is raised and activated as soon as the cursor is there.
+ * nothing. A window that another application's has come to lie over, as a full-screen one may on a screen
+ * without the focus, is raised and activated a moment after the cursor has come there.
  *
  * **The colour** is that of one pixel on the screen, whoever painted it, as QScreen::grabWindow() gives it
  * and without the trace of the pipette's own windows, a black of alpha 1 of 255 that takes one off each
  * channel from 128 up: 127 and 128 become the same value below it and are both picked as 128. It is opaque
  * always. A channel of 255, which the windows cannot have left behind, is picked as 255 * 255 / 254: a QColor
  * of the model ExtendedRgb, whose rgb() and name() are white's. Loupe and cursor are never part of the
- * colour. When the loupe has been over the pixel up to now, or the windows have just appeared, the pipette
- * hides the loupe and waits until the screen has caught up: about a tenth of a second, 0.6 seconds at most,
- * in which a key still gives up. Everywhere else colorSelected() comes from within the release.
+ * colour, unless the screen falls behind by more than is said here. When the loupe has been over the pixel up
+ * to now, or the windows have just appeared, the pipette hides the loupe and waits until the screen has
+ * caught up: about a tenth of a second, 0.6 seconds at most, in which a key still gives up. Everywhere else
+ * colorSelected() comes from within the release.
  *
  * **The desktop.** An X server without a compositor would show the windows black instead of transparent.
  * There the screens stand still while the pipette picks: the windows show a picture that was taken before.
+ * It is of what the screen shows in that moment: a window that was closed just then may still be on it.
  * Xwayland gives no pictures of other applications: a host that offers the pipette on such a desktop should
  * run on Wayland itself, where the permission is missing.
  *
@@ -82,8 +84,8 @@ public:
 
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Does nothing, without a
     /// signal, when the permission is missing. A call while the pipette picks puts a second set of windows
-    /// and a second loupe over the first, whose traces only one set's are taken out of the colour again; the
-    /// next end of the pick ends both. A click that the pipette still waits with is picked all the same.
+    /// and a second loupe over the first; the trace of one set only is taken out of the colour; the next end
+    /// of the pick ends both. A click that the pipette still waits with is picked all the same.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.

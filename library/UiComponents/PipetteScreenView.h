@@ -63,7 +63,7 @@ public:
     std::optional<int> untilFree(const QRect& area, const QRegion& shape) const;
 
     /// How many milliseconds until the screen is sure to show the view's overlay; none before the first
-    /// painting.
+    /// painting, and the first one after each change of the size.
     std::optional<int> untilCovered() const;
 
     /// How late the screen may be with what was painted, in milliseconds: about three pictures of a
@@ -71,7 +71,7 @@ public:
     static int screenLag();
 
 Q_SIGNALS:
-    /// The user picked the point @p cursorPos of the desktop, or gave up.
+    /// The user picked the point @p cursorPos of the desktop, or gave up, or somebody closed the window.
     void pickingFinished(QPoint cursorPos, bool isSucceeded);
 
     /// The loupe belongs to @p cursorPos of the desktop now.

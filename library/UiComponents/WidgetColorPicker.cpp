@@ -343,6 +343,8 @@ WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
 WidgetColorPicker::~WidgetColorPicker()
 {
     const std::shared_ptr<Private> state = d;
+    // A slot of destroyed(), which comes after this, may delete the target.
+    QObject::disconnect(state->targetWatch);
     state->owner = nullptr;
     state->stop();
 }

@@ -56,6 +56,9 @@ void HighlightFrameOverlay::coverParent()
 // and what was painted over it stays until something else is painted there.
 void HighlightFrameOverlay::erase()
 {
+    if (!isVisible()) {
+        return;
+    }
     const QPointer<HighlightFrameOverlay> self = this;
     m_isErasing = true;
     repaint();

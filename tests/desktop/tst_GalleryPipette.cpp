@@ -93,8 +93,7 @@ void tst_GalleryPipette::startPipette()
     QVERIFY(start);
     QVERIFY(RealInput::click(start));
     QTRY_COMPARE(pipetteWindows().size(), QGuiApplication::screens().size());
-    QTRY_VERIFY(pipetteWindows().constFirst()->windowHandle()->isExposed());
-    QTRY_VERIFY(pipetteWindows().constFirst()->isActiveWindow());
+    QTRY_VERIFY(!pipetteWindows().isEmpty() && pipetteWindows().constFirst()->isActiveWindow());
 }
 
 void tst_GalleryPipette::picksAreListed_data()
@@ -158,7 +157,7 @@ void tst_GalleryPipette::pageChangedWhilePicking()
     }
     m_window->showPage(QStringLiteral("color-input"));
     QTRY_VERIFY(pipetteWindows().isEmpty());
-    QVERIFY(RealInput::click(m_window->page(), QPoint(5, 5)));
+    QTRY_VERIFY(m_window->isActiveWindow());
 }
 
 UIC_TEST_MAIN(tst_GalleryPipette)

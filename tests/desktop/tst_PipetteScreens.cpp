@@ -39,6 +39,7 @@ private Q_SLOTS:
     void fullScreenWindowIsPickedFrom();
     void escapeEndsWithoutAColour();
     void anyKeyEndsWithoutAColour();
+    void anotherApplicationEndsThePick_data();
     void anotherApplicationEndsThePick();
     void movedScreenEndsThePick();
     void removedScreenEndsThePick();
@@ -333,8 +334,8 @@ void tst_PipetteScreens::everyScreenIsCovered()
             });
         }));
         // The one under the cursor has the keyboard.
-        QTRY_VERIFY(QApplication::activeWindow());
-        QTRY_COMPARE(QApplication::activeWindow()->geometry(), screen->geometry());
+        QTRY_VERIFY(QApplication::activeWindow() &&
+                    QApplication::activeWindow()->geometry() == screen->geometry());
         m_pipette->stopPicking();
         QTRY_VERIFY(pipetteWindows().isEmpty());
     }
@@ -526,11 +527,23 @@ void tst_PipetteScreens::anyKeyEndsWithoutAColour()
     QVERIFY(!m_pipette->currentColor().isValid());
 }
 
+void tst_PipetteScreens::anotherApplicationEndsThePick_data()
+{
+    QTest::addColumn<int>("window");
+    QTest::newRow("ordinary") << int(PixelPattern::Window::Ordinary);
+    // It takes the whole screen from the view, which must not take it back.
+    QTest::newRow("full screen") << int(PixelPattern::Window::FullScreen);
+}
+
 void tst_PipetteScreens::anotherApplicationEndsThePick()
 {
+    QFETCH(int, window);
     PixelPattern other;
     QVERIFY(other.show(QRect(m_host->geometry().bottomRight() + QPoint(50, 50), QSize(60, 40)),
-                       PixelPattern::Window::Ordinary));
+                       static_cast<PixelPattern::Window>(window)));
+    QVERIFY(PixelPattern::activate());
+    QTRY_VERIFY(!m_host->isActiveWindow());
+    QVERIFY(moveMouse(QGuiApplication::primaryScreen()->geometry().center()));
     QVERIFY(RealInput::showAndActivate(m_host.get()));
     const QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
     const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);

@@ -157,7 +157,6 @@ void tst_WidgetPicking::placeOn(QScreen* screen)
 /// Clicks @p start, or the button, and calls @p inside as soon as the pick runs. True when it has ended.
 bool tst_WidgetPicking::clickWith(const std::function<void()>& inside, const QWidget* start)
 {
-    bool isOver = false;
     bool hasBegun = false;
     QTimer begin;
     connect(&begin, &QTimer::timeout, this, [&] {
@@ -169,10 +168,8 @@ bool tst_WidgetPicking::clickWith(const std::function<void()>& inside, const QWi
     });
     begin.start(1);
     // Comes back to this loop when the pick, which runs in one inside, is over.
-    return RealInput::click(start ? start : m_button.data()) && QTest::qWaitFor([&] {
-               isOver = hasBegun;
-               return isOver;
-           });
+    return RealInput::click(start ? start : m_button.data()) &&
+           QTest::qWaitFor([&hasBegun] { return hasBegun; });
 }
 
 /// What the button picks, started without the mouse, when @p act ends that.

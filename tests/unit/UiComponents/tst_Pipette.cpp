@@ -145,6 +145,7 @@ const QString stopped = QStringLiteral("stopped");
 using Act = std::function<void(PipetteScreenView*)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(std::function<void(Pipette*)>)
+Q_DECLARE_METATYPE(std::function<std::shared_ptr<QWidget>()>)
 
 class tst_Pipette : public QObject
 {
@@ -208,6 +209,8 @@ private Q_SLOTS:
     void handlersOutliveThePipette();
     void pipetteMayBeTheApplicationsChild();
     void viewComesToTheCursor();
+    void viewStaysBelowWhatIsOurs_data();
+    void viewStaysBelowWhatIsOurs();
 
 private:
     void start();
@@ -1063,6 +1066,44 @@ void tst_Pipette::viewComesToTheCursor()
     QTimer::singleShot(150, this, [&turned] { turned = true; });
     QTRY_VERIFY(turned);
     QCOMPARE(watch.raises, 10);
+}
+
+void tst_Pipette::viewStaysBelowWhatIsOurs_data()
+{
+    QTest::addColumn<std::function<std::shared_ptr<QWidget>()>>("show");
+    using Show = std::function<std::shared_ptr<QWidget>()>;
+    const auto shown = [](Qt::WindowFlags flags, bool isModal) {
+        auto widget = std::make_shared<QWidget>(nullptr, flags);
+        widget->setAttribute(Qt::WA_ShowWithoutActivating);
+        widget->setWindowModality(isModal ? Qt::ApplicationModal : Qt::NonModal);
+        widget->setGeometry(QRect(isModal ? QPoint(5, 5) : QCursor::pos() - QPoint(30, 20), QSize(60, 40)));
+        widget->show();
+        return widget;
+    };
+    QTest::newRow("host's window") << Show([=] { return shown(Qt::ToolTip, false); });
+    QTest::newRow("pop-up") << Show([=] { return shown(Qt::Popup, false); });
+    QTest::newRow("modal elsewhere") << Show([=] { return shown(Qt::Dialog, true); });
+    QTest::newRow("dragging") << Show([] {
+        QTest::mousePress(shownViews().first()->windowHandle(), Qt::LeftButton);
+        return std::shared_ptr<QWidget>(nullptr, [](QWidget*) {
+            QTest::mouseRelease(shownViews().first()->windowHandle(), Qt::LeftButton);
+        });
+    });
+}
+
+void tst_Pipette::viewStaysBelowWhatIsOurs()
+{
+    QFETCH(std::function<std::shared_ptr<QWidget>()>, show);
+    start();
+    const std::shared_ptr<QWidget> ours = show();
+    QCoreApplication::processEvents();
+    shownViews().first()->setAttribute(Qt::WA_UnderMouse, false);
+    RaiseWatch watch;
+    bool turned = false;
+    QTimer::singleShot(400, this, [&turned] { turned = true; });
+    QTRY_VERIFY(turned);
+    QCOMPARE(watch.raises, 0);
+    QCOMPARE(m_protocol.lines, QStringList{started});
 }
 
 UIC_TEST_MAIN(tst_Pipette)

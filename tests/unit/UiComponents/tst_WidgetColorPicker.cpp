@@ -212,6 +212,7 @@ private Q_SLOTS:
     void keyThatEndsAPickOfAColorButton();
     void colorButtonGoneWhilePicking_data();
     void colorButtonGoneWhilePicking();
+    void targetMayDieAfterThePicker();
 
 private:
     bool pickWith(const std::function<void()>& inside);
@@ -1558,6 +1559,17 @@ void tst_WidgetColorPicker::colorButtonGoneWhilePicking()
     QVERIFY(!field || !field->isDown());
     QVERIFY(!m_stage->outline());
     delete field;
+}
+
+// destroyed() comes when the picker's own part is gone.
+void tst_WidgetColorPicker::targetMayDieAfterThePicker()
+{
+    auto picker = std::make_unique<WidgetColorPicker>(QSet<QWidget*>());
+    auto target = std::make_unique<QWidget>();
+    picker->setTarget(target.get());
+    connect(picker.get(), &QObject::destroyed, this, [&target] { target.reset(); });
+    picker.reset();
+    QVERIFY(!target);
 }
 
 UIC_TEST_MAIN(tst_WidgetColorPicker)
