@@ -38,6 +38,8 @@ def measure(entry, pattern):
             # No desktop is started for rows that nobody wants.
             listed = subprocess.run(command + ["--benchmark_list_tests=true"], env=environment,
                                     stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+            if listed.returncode != 0:
+                fail(f"{program} does not list its rows")
             if pattern and not listed.stdout.strip():
                 return []
             command = [SESSION, "--screens", layout] + command
