@@ -36,7 +36,7 @@ constexpr int lookInterval = 8;
 // to miss it there, and how often in a row it then brings a window to the cursor. When the user has made
 // another application the active one, Qt says so within 100 ms, and the pick is over before.
 constexpr int followInterval = 50;
-constexpr int missesBeforeFollowing = 4;
+constexpr int missesBeforeFollowing = 3;
 constexpr int mostFollows = 10;
 
 /// Whether the program may read the screen. Asks for the permission if not.
@@ -105,6 +105,7 @@ private:
     void update(const QPoint& cursorPos);
     void takePicture(QScreen* screen);
     void finish(const QPoint& cursorPos, bool isSucceeded);
+    void pickAndStop(const QPoint& cursorPos);
     void hideLoupes();
     void pick(const QPoint& cursorPos);
     void lookAgain();
@@ -118,8 +119,7 @@ private:
 
     QTimer later;
     QTimer following;
-    int followsLeft = mostFollows;
-    int misses = 0; // in a row
+    int misses = 0; // of the cursor, in a row
     int waited = 0;
     int ends = 0;
     std::optional<QPoint> cursor;      // where the loupe belongs
@@ -178,7 +178,6 @@ void Pipette::Impl::start()
         active->adjustSize();
     }
     watchScreens();
-    followsLeft = mostFollows;
     misses = 0;
     following.start();
     Q_EMIT owner->pickingStarted();
@@ -338,14 +337,21 @@ void Pipette::Impl::finish(const QPoint& cursorPos, bool isSucceeded)
             waitFor(std::nullopt);
             return;
         }
-        const QPointer<Impl> self = this;
-        const int endsBefore = ends;
-        pick(cursorPos);
-        if (!self || ends != endsBefore) {
-            return;
-        }
+        pickAndStop(cursorPos);
+        return;
     }
     stop();
+}
+
+void Pipette::Impl::pickAndStop(const QPoint& cursorPos)
+{
+    const QPointer<Impl> self = this;
+    const int endsBefore = ends;
+    pick(cursorPos);
+    // A slot may have done so, or begun the next one.
+    if (self && ends == endsBefore) {
+        stop();
+    }
 }
 
 /// Of all sets of views.
@@ -393,12 +399,7 @@ void Pipette::Impl::lookAgain()
         waitFor(std::nullopt);
         return;
     }
-    const QPointer<Impl> self = this;
-    const int endsBefore = ends;
-    pick(*pendingPick);
-    if (self && ends == endsBefore) {
-        stop();
-    }
+    pickAndStop(*pendingPick);
 }
 
 /// Another application's full-screen window may come to lie over a view, whose Enter is then missing.
@@ -409,7 +410,6 @@ void Pipette::Impl::followCursor()
     for (PipetteScreenView* view : qAsConst(views)) {
         if (view->isVisible() && view->geometry().contains(point)) {
             if (view->underMouse()) {
-                followsLeft = mostFollows;
                 misses = 0;
                 return;
             }
@@ -420,10 +420,10 @@ void Pipette::Impl::followCursor()
         misses = 0;
         return;
     }
-    if (++misses < missesBeforeFollowing || followsLeft == 0) {
+    ++misses;
+    if (misses <= missesBeforeFollowing || misses > missesBeforeFollowing + mostFollows) {
         return;
     }
-    --followsLeft;
     const QPointer<PipetteScreenView> view = hidden;
     view->raise();
     if (view) {

@@ -55,7 +55,7 @@ QPixmap ScreenSample::withoutOutside(const QPixmap& picture, const QPoint& point
 {
     const ScreenArea& grabbed = screens.at(screen);
     const QRect area = grabArea(point, size, grabbed.geometry);
-    if (picture.isNull() || QRect(QPoint(0, 0), grabbed.geometry.size()).contains(area)) {
+    if (picture.isNull()) {
         return picture;
     }
     // The corner of a screen is the same in pixels of the desktop and in physical ones; its size is not.

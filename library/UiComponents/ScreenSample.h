@@ -47,8 +47,8 @@ struct ScreenArea
     qreal ratio;    ///< physical pixels for one of the desktop, from the top-left corner on
 };
 
-/// The same picture, transparent where it reaches beyond all screens: what an X server leaves there is
-/// arbitrary. @p screen is the index of the screen that was grabbed.
+/// The picture of an area that is not all of it on its screen, transparent where it is beyond all screens:
+/// what an X server leaves there is arbitrary. @p screen is the index of the screen that was grabbed.
 QPixmap withoutOutside(const QPixmap& picture, const QPoint& point, const QSize& size,
                        const QVector<ScreenArea>& screens, int screen);
 

@@ -1,3 +1,4 @@
+#include "NativeScreens.h"
 #include "PipetteWindows.h"
 #include "PixelPattern.h"
 #include "RealInput.h"
@@ -60,17 +61,9 @@ constexpr int LoupePixels = 13;
 constexpr int Magnification = 9;
 constexpr int LoupeSize = LoupePixels * Magnification;
 
-/// The X server's pixel that Qt's global @p point stands for.
-QPoint nativePixel(const QPoint& point)
-{
-    const QScreen* screen = QGuiApplication::screenAt(point);
-    const QPoint corner = screen->geometry().topLeft();
-    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
-}
-
 QRgb patternAt(const QPoint& point)
 {
-    const QPoint pixel = nativePixel(point);
+    const QPoint pixel = NativeScreens::pixelAt(point);
     return PixelPattern::colorAt(pixel.x(), pixel.y());
 }
 
@@ -144,24 +137,6 @@ bool noneIsCovered()
     return std::none_of(screens.cbegin(), screens.cend(), isCovered);
 }
 
-/// The X server's pixels of @p screen.
-QRect nativeGeometry(const QScreen* screen)
-{
-    // Rounded down: an odd size has been rounded up when it was divided by a fractional scale.
-    const QSizeF size = QSizeF(screen->size()) * screen->devicePixelRatio();
-    return {screen->geometry().topLeft(), QSize(int(size.width()) & ~1, int(size.height()) & ~1)};
-}
-
-QRect everything()
-{
-    QRect all;
-    const auto screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        all |= nativeGeometry(screen);
-    }
-    return all;
-}
-
 /// The first pixel that the loupe, as it stands on the screen, shows in another colour than the pattern has
 /// around @p cursor; empty when there is none.
 QString firstWrongPixel(const QPoint& cursor)
@@ -207,7 +182,7 @@ bool xdotool(const QStringList& arguments)
 
 QStringList moving(const QPoint& global)
 {
-    const QPoint pixel = nativePixel(global);
+    const QPoint pixel = NativeScreens::pixelAt(global);
     return {QStringLiteral("mousemove"), QString::number(pixel.x()), QString::number(pixel.y())};
 }
 
@@ -225,14 +200,6 @@ bool clickMouse()
 bool moveMouseAndClick(const QPoint& global)
 {
     return xdotool(moving(global) << QStringLiteral("click") << QStringLiteral("1"));
-}
-
-bool xrandr(const QStringList& arguments)
-{
-    // Without the question Qt may not see the change.
-    return QProcess::execute(QStringLiteral("xrandr"), arguments) == 0 &&
-           QProcess::execute(QStringLiteral("sh"),
-                             {QStringLiteral("-c"), QStringLiteral("xrandr >/dev/null")}) == 0;
 }
 
 /// The points of @p screen that are not under the test's own window.
@@ -256,7 +223,7 @@ void tst_PipetteScreens::initTestCase()
 void tst_PipetteScreens::init()
 {
     m_pattern = std::make_unique<PixelPattern>();
-    QVERIFY(m_pattern->show(everything()));
+    QVERIFY(m_pattern->show(NativeScreens::desktop()));
     m_host = std::make_unique<QWidget>();
     const QRect primary = QGuiApplication::primaryScreen()->geometry();
     m_host->setGeometry(QRect(primary.topLeft() + QPoint(150, 150), QSize(100, 60)));
@@ -578,8 +545,8 @@ void tst_PipetteScreens::movedScreenEndsThePick()
         });
     const QPoint place = screen->geometry().topLeft();
     const auto move = [screen](const QPoint& to) {
-        return xrandr({QStringLiteral("--output"), screen->name(), QStringLiteral("--pos"),
-                       QStringLiteral("%1x%2").arg(to.x()).arg(to.y())});
+        return NativeScreens::xrandr({QStringLiteral("--output"), screen->name(), QStringLiteral("--pos"),
+                                      QStringLiteral("%1x%2").arg(to.x()).arg(to.y())});
     };
     const QSignalSpy selected(m_pipette.get(), &Pipette::colorSelected);
     const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
@@ -602,7 +569,7 @@ void tst_PipetteScreens::removedScreenEndsThePick()
     QStringList layout;
     const auto screens = QGuiApplication::screens();
     for (const QScreen* screen : screens) {
-        const QRect place = nativeGeometry(screen);
+        const QRect place = NativeScreens::geometry(screen);
         layout << QStringLiteral("--output") << screen->name() << QStringLiteral("--mode")
                << QStringLiteral("%1x%2").arg(place.width()).arg(place.height()) << QStringLiteral("--pos")
                << QStringLiteral("%1x%2").arg(place.x()).arg(place.y());
@@ -611,20 +578,20 @@ void tst_PipetteScreens::removedScreenEndsThePick()
 
     const QSignalSpy stopped(m_pipette.get(), &Pipette::pickingStopped);
     QVERIFY(start());
-    QVERIFY(xrandr({QStringLiteral("--output"), output, QStringLiteral("--off")}));
+    QVERIFY(NativeScreens::xrandr({QStringLiteral("--output"), output, QStringLiteral("--off")}));
     QTRY_COMPARE(QGuiApplication::screens().size(), count - 1);
     QTRY_COMPARE(stopped.count(), 1);
     QTRY_VERIFY(pipetteWindows().isEmpty());
 
     // The others can be picked from; a new one ends the pick, too.
     QVERIFY(start());
-    QVERIFY(xrandr(layout));
+    QVERIFY(NativeScreens::xrandr(layout));
     QTRY_COMPARE(QGuiApplication::screens().size(), count);
     QTRY_COMPARE(stopped.count(), 2);
     QTRY_VERIFY(pipetteWindows().isEmpty());
     m_pattern.reset();
     m_pattern = std::make_unique<PixelPattern>();
-    QVERIFY(m_pattern->show(everything()));
+    QVERIFY(m_pattern->show(NativeScreens::desktop()));
     QVERIFY(pick(QGuiApplication::screens().last()->geometry().center()));
 }
 

@@ -1,3 +1,4 @@
+#include "NativeScreens.h"
 #include "PixelPattern.h"
 #include "RealInput.h"
 #include "TestMain.h"
@@ -35,22 +36,6 @@ const QString squareLoupe =
     QStringLiteral("LoupeWidget { background: #ff00ff; min-width: 117px; max-width: 117px; min-height: 117px;"
                    " max-height: 117px; }");
 
-QPoint nativePixel(const QScreen* screen, const QPoint& point)
-{
-    const QPoint corner = screen->geometry().topLeft();
-    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
-}
-
-QRect everything()
-{
-    QRect all;
-    const auto screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        all |= QRect(screen->geometry().topLeft(), screen->size() * screen->devicePixelRatio());
-    }
-    return all;
-}
-
 QString name(const QColor& color)
 {
     // The overlay makes them one.
@@ -61,7 +46,7 @@ QString name(const QColor& color)
 /// What the pipette has to pick at a point of the desktop.
 QString expectedAt(const QPoint& point)
 {
-    const QPoint pixel = nativePixel(QGuiApplication::screenAt(point), point);
+    const QPoint pixel = NativeScreens::pixelAt(point);
     return name(QColor(PixelPattern::colorAt(pixel.x(), pixel.y())));
 }
 
@@ -169,7 +154,7 @@ private:
 void tst_ScreenPipette::initTestCase()
 {
     m_pattern = std::make_unique<PixelPattern>();
-    QVERIFY(m_pattern->show(everything()));
+    QVERIFY(m_pattern->show(NativeScreens::desktop()));
 }
 
 void tst_ScreenPipette::init()

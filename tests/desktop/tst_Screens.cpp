@@ -1,3 +1,4 @@
+#include "NativeScreens.h"
 #include "PixelPattern.h"
 #include "RealInput.h"
 #include "TestMain.h"
@@ -22,23 +23,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-/// The pixel of the X server that Qt's global @p point is the top left of.
-QPoint nativePixel(const QScreen* screen, const QPoint& point)
-{
-    const QPoint corner = screen->geometry().topLeft();
-    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
-}
-
-QRect everything()
-{
-    QRect all;
-    const auto screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        all |= QRect(screen->geometry().topLeft(), screen->size() * screen->devicePixelRatio());
-    }
-    return all;
-}
 
 } // namespace
 
@@ -67,10 +51,10 @@ void tst_Screens::mouseReachesEveryCorner()
 void tst_Screens::patternIsBelowWindows()
 {
     PixelPattern pattern;
-    QVERIFY(pattern.show(everything()));
+    QVERIFY(pattern.show(NativeScreens::desktop()));
     for (QScreen* screen : QGuiApplication::screens()) {
         const QPoint middle(screen->size().width() / 2, screen->size().height() / 2);
-        const QPoint pixel = nativePixel(screen, screen->geometry().topLeft() + middle);
+        const QPoint pixel = NativeScreens::pixelAt(screen->geometry().topLeft() + middle);
         const QRgb expected = PixelPattern::colorAt(pixel.x(), pixel.y());
         const auto seen = [screen, middle] {
             return screen->grabWindow(0, middle.x(), middle.y(), 1, 1).toImage().pixel(0, 0);

@@ -1,3 +1,4 @@
+#include "NativeScreens.h"
 #include "PixelPattern.h"
 #include "RealInput.h"
 #include "TestMain.h"
@@ -621,11 +622,7 @@ void tst_WidgetPicking::screensChangeWhilePicking()
     const QString output = screen->name();
     const QPoint corner = screen->geometry().topLeft();
     const auto xrandr = [&output](const QStringList& arguments) {
-        // The second one has the server look for what is connected.
-        return QProcess::execute(QStringLiteral("xrandr"),
-                                 QStringList({QStringLiteral("--output"), output}) + arguments) == 0 &&
-               QProcess::execute(QStringLiteral("sh"),
-                                 {QStringLiteral("-c"), QStringLiteral("xrandr >/dev/null")}) == 0;
+        return NativeScreens::xrandr(QStringList({QStringLiteral("--output"), output}) + arguments);
     };
     const auto pickOnThePrimary = [&] {
         QVERIFY(m_button->isPickingInProgress());

@@ -1,5 +1,7 @@
 #include "RealInput.h"
 
+#include "NativeScreens.h"
+
 #include <QCursor>
 #include <QDir>
 #include <QGuiApplication>
@@ -20,20 +22,9 @@ bool xdotool(const QStringList& arguments)
     return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
 }
 
-/// @p point in X's own pixels: Qt scales the size of a screen, and leaves its corner where it is.
-QPoint nativePoint(const QPoint& point)
-{
-    const QScreen* screen = QGuiApplication::screenAt(point);
-    if (!screen) {
-        return point;
-    }
-    const QPoint corner = screen->geometry().topLeft();
-    return corner + (QPointF(point - corner) * screen->devicePixelRatio()).toPoint();
-}
-
 bool moveToGlobal(const QPoint& target)
 {
-    const QPoint place = nativePoint(target);
+    const QPoint place = NativeScreens::pixelAt(target);
     // Qt asks the server for the position. The events that are on their way by then are handled before
     // the next move, or Qt would make one of the two.
     const bool hasArrived =
