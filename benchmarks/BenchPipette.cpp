@@ -5,7 +5,7 @@
 #include <UiComponents/LoupeWidget.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
-#include <UiComponents/ScreenSample.h>
+#include <UiComponents/ScreenReader.h>
 
 #include <QApplication>
 #include <QCursor>
@@ -32,7 +32,7 @@ namespace {
 
 constexpr int loupeSide = 117;
 constexpr int updates = 50;
-constexpr QSize loupePicture(ScreenSample::loupePixels, ScreenSample::loupePixels);
+constexpr QSize loupePicture(LoupeWidget::pixels, LoupeWidget::pixels);
 
 /// Where the mouse goes on each screen.
 struct Place
@@ -91,8 +91,9 @@ QPoint onDesktop(const Place& place, const QScreen* screen)
 
 QPixmap grab(const Place& place, const QSize& size)
 {
-    QScreen* const screen = QGuiApplication::primaryScreen();
-    return ScreenSample::grab(*screen, onDesktop(place, screen), size);
+    const QPoint corner = place.point - QPoint(size.width() / 2, size.height() / 2);
+    return QGuiApplication::primaryScreen()->grabWindow(0, corner.x(), corner.y(), size.width(),
+                                                        size.height());
 }
 
 QByteArray screenLayout()
@@ -122,8 +123,9 @@ public:
             const auto screens = QGuiApplication::screens();
             return std::all_of(screens.begin(), screens.end(), [](QScreen* screen) {
                 return std::all_of(places.begin(), places.end(), [screen](const Place& place) {
-                    const auto color = ScreenSample::colorAt(*screen, onDesktop(place, screen));
-                    return color && color->name() == place.name;
+                    const QImage pixel =
+                        screen->grabWindow(0, place.point.x(), place.point.y(), 1, 1).toImage();
+                    return pixel.pixelColor(0, 0).name() == place.name;
                 });
             });
         });
@@ -164,6 +166,7 @@ public:
     void start()
     {
         m_isOver = false;
+        m_painted = {};
         m_pipette.startPicking();
     }
 
@@ -172,9 +175,10 @@ public:
         findViews();
         waitUntil("all screens are covered", [this] {
             require(!m_isOver, "a pick goes on until it is ended");
-            return std::all_of(m_views.begin(), m_views.end(), [](const QPointer<PipetteScreenView>& view) {
-                return view->untilCovered().has_value();
-            });
+            return std::all_of(m_views.begin(), m_views.end(),
+                               [this](const QPointer<PipetteScreenView>& view) {
+                                   return (QRegion(view->geometry()) - m_painted).isEmpty();
+                               });
         });
     }
 
@@ -184,11 +188,12 @@ public:
         waitUntilShown();
         waitUntil("the screens show the pick, and it has the keyboard", [this] {
             require(!m_isOver, "a pick goes on until it is ended");
-            return viewAt(QCursor::pos())->isActiveWindow() &&
-                   std::all_of(m_views.begin(), m_views.end(), [](const QPointer<PipetteScreenView>& view) {
-                       return view->untilCovered() == 0;
-                   });
+            return viewAt(QCursor::pos())->isActiveWindow();
         });
+        QElapsedTimer settling;
+        settling.start();
+        waitUntil("the pipette reads the screen itself",
+                  [&settling] { return settling.hasExpired(ScreenReader::settleTime); });
         waitUntilAtRest();
     }
 
@@ -376,7 +381,7 @@ private:
     protected:
         void paintEvent(QPaintEvent*) override
         {
-            QPainter(this).fillRect(rect(), ScreenSample::overlayColor());
+            QPainter(this).fillRect(rect(), ScreenReader::overlayColor());
             isPainted = true;
         }
     };

@@ -9,7 +9,7 @@ uic_packages()
         case $purpose in
             build)
                 echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
-                echo qtdeclarative5-dev libqt5x11extras5-dev libgoogle-glog-dev ;;
+                echo qtdeclarative5-dev libqt5x11extras5-dev libxcb1-dev libgoogle-glog-dev ;;
             run | unit | gallery)
                 echo fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
             wayland)

@@ -1,52 +1,20 @@
 #include "LoupeWidget.h"
 
 #include "LoupePlacement.h"
-#include "ScreenSample.h"
 
 #include <EditorWidgets/Workaround.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QCursor>
-#include <QEvent>
-#include <QFontMetrics>
 #include <QGraphicsProxyWidget>
 #include <QGuiApplication>
-#include <QImage>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOption>
-#include <QVariant>
-
-#include <algorithm>
-
-namespace {
-
-/// The pixels of @p picture that are not fully transparent.
-QRegion paintedPixels(const QImage& picture)
-{
-    QRegion region;
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width();) {
-            const int begin = x;
-            while (x < picture.width() && qAlpha(line[x]) > 0) {
-                ++x;
-            }
-            if (x > begin) {
-                region += QRect(begin, y, x - begin, 1);
-            } else {
-                ++x;
-            }
-        }
-    }
-    return region;
-}
-
-} // namespace
 
 class LoupeWidget::Private
 {
@@ -55,8 +23,6 @@ public:
     QPainterPath clipPath;
     QPixmap pixmap;
     QColor emptyPixelsColor;
-    mutable QRegion shape;
-    mutable QSize shapeSize;
 };
 
 class LoupeWidget::Children
@@ -75,31 +41,9 @@ public:
         Util::installLayoutController(owner);
     }
 
-    QRect nameArea() const;
-
     LoupeWidget* const owner;
     QLabel* const colorNameLabel;
 };
-
-/// Where any name of a colour may be written. The widest one counts: names come and go with each pixel, and
-/// the loupe's shape is not to be found again for each.
-QRect LoupeWidget::Children::nameArea() const
-{
-    const QFontMetrics metrics = colorNameLabel->fontMetrics();
-    const QString digits = QStringLiteral("0123456789abcdef");
-    const QChar widest =
-        *std::max_element(digits.cbegin(), digits.cend(), [&metrics](QChar one, QChar other) {
-            return metrics.horizontalAdvance(one) < metrics.horizontalAdvance(other);
-        });
-    const Qt::Alignment alignment =
-        QStyle::visualAlignment(colorNameLabel->layoutDirection(), colorNameLabel->alignment());
-    const QRect area = colorNameLabel->style()->itemTextRect(
-        metrics, colorNameLabel->contentsRect(), int(alignment), true, QLatin1Char('#') + QString(6, widest));
-    // As much as a label may indent its text by.
-    const int indent = qMax(metrics.horizontalAdvance(QLatin1Char('x')),
-                            colorNameLabel->margin() + qMax(0, colorNameLabel->indent()));
-    return area.adjusted(-indent, -indent, indent, indent).translated(colorNameLabel->pos()) & owner->rect();
-}
 
 LoupeWidget::LoupeWidget(QWidget* parent)
     : QWidget(parent)
@@ -171,30 +115,11 @@ void LoupeWidget::updatePicture()
     }
 }
 
-QRegion LoupeWidget::paintedShape() const
-{
-    if (d->shapeSize != size()) {
-        QImage picture(size(), QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        painter.fillPath(d->clipPath, Qt::black);
-        painter.end();
-        const_cast<LoupeWidget*>(this)->render(&picture, QPoint(), QRegion(), DrawChildren);
-        d->shape = paintedPixels(picture);
-        if (!m_children->colorNameLabel->isHidden()) {
-            d->shape += m_children->nameArea();
-        }
-        d->shapeSize = size();
-    }
-    return d->shape;
-}
-
 void LoupeWidget::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     if (d->clipPath.isEmpty()) {
         d->clipPath.addEllipse(QRectF(rect()));
-        d->shapeSize = QSize();
     }
 }
 
@@ -210,24 +135,9 @@ void LoupeWidget::paintEvent(QPaintEvent*)
     }
     const QScreen* const screen = QGuiApplication::screenAt(QCursor::pos());
     if (screen && !d->pixmap.isNull()) {
-        const qreal pixels = ScreenSample::loupePixels * screen->devicePixelRatio();
-        painter.drawPixmap(QRectF(rect()), d->pixmap,
-                           QRectF(QPointF(0.0, 0.0), QSizeF(QSizeF(pixels, pixels).toSize())));
+        const QSizeF shown = QSizeF(pixels, pixels) * screen->devicePixelRatio();
+        painter.drawPixmap(QRectF(rect()), d->pixmap, QRectF(QPointF(0.0, 0.0), QSizeF(shown.toSize())));
     }
     painter.restore();
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
-}
-
-void LoupeWidget::changeEvent(QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::StyleChange:
-    case QEvent::FontChange:
-    case QEvent::LayoutDirectionChange:
-        d->shapeSize = QSize();
-        break;
-    default:
-        break;
-    }
-    QWidget::changeEvent(event);
 }

@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QRegion>
 #include <QSize>
 #include <QWidget>
 
@@ -26,6 +25,9 @@ class LoupeWidget : public QWidget
     Q_PROPERTY(QColor emptyPixelsColor READ emptyPixelsColor WRITE setEmptyPixelsColor)
 
 public:
+    /// So many pixels of the desktop are magnified in each direction.
+    static constexpr int pixels = 13;
+
     /// @p parent owns the loupe as usual.
     explicit LoupeWidget(QWidget* parent = nullptr);
     ~LoupeWidget() override;
@@ -47,13 +49,9 @@ public:
     /// Shows the colour's QColor::name().
     void setColorName(const QColor& color);
 
-    /// Where the loupe paints anything at all with a picture in it, whatever style sheet it has.
-    QRegion paintedShape() const;
-
 protected:
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void updatePicture();

@@ -1,9 +1,10 @@
 #include "Pipette.h"
 
+#include "InputFocus.h"
 #include "LoupePlacement.h"
 #include "LoupeWidget.h"
 #include "PipetteScreenView.h"
-#include "ScreenSample.h"
+#include "ScreenReader.h"
 
 #include <QtUtility/PrivacyAccess.h>
 
@@ -13,31 +14,15 @@
 #include <QGraphicsScene>
 #include <QGuiApplication>
 #include <QList>
-#include <QLoggingCategory>
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
 #include <QVector>
 #include <QWindow>
 
-#include <algorithm>
-#include <optional>
 #include <utility>
 
-Q_LOGGING_CATEGORY(logPipette, "uicomponents.pipette", QtWarningMsg)
-
 namespace {
-
-// How long anything waits for the screen, in milliseconds, and how often it looks meanwhile.
-constexpr int longestWait = 600;
-constexpr int lookInterval = 8;
-
-// How often the pipette looks whether the cursor is on one of its windows, in milliseconds, how often it has
-// to miss it there, and how often in a row it then brings a window to the cursor. When the user has made
-// another application the active one, Qt says so within 100 ms, and the pick is over before.
-constexpr int followInterval = 50;
-constexpr int missesBeforeFollowing = 3;
-constexpr int mostFollows = 10;
 
 /// Whether the program may read the screen. Asks for the permission if not.
 bool mayReadScreen()
@@ -52,86 +37,90 @@ bool mayReadScreen()
     return false;
 }
 
-/// The index of the screen at @p point; 0 for a point beside all of them.
-int screenNumberAt(const QPoint& point)
+QRect desktop()
 {
-    return qMax(0, QGuiApplication::screens().indexOf(QGuiApplication::screenAt(point)));
+    QRect all;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        all |= screen->geometry();
+    }
+    return all;
 }
 
-QVector<ScreenSample::ScreenArea> screenAreas()
+/// One for all pipettes, as long as the screens may show windows of any: a new one would take these for what
+/// is to be picked.
+std::shared_ptr<ScreenReader> sharedReader()
 {
-    QVector<ScreenSample::ScreenArea> areas;
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        areas.append({screen->geometry(), screen->devicePixelRatio()});
+    static std::weak_ptr<ScreenReader> present;
+    auto reader = present.lock();
+    if (!reader || !reader->isOfPresentScreens()) {
+        // Not std::make_shared(): it has an object that is one in the whole program, and a library with such
+        // an object is never unloaded.
+        reader.reset(new ScreenReader(desktop(), ScreenReader::Cover::Overlay));
+        present = reader;
     }
-    return areas;
+    return reader;
 }
 
 } // namespace
 
-// Context of the connections of a pick, and parent of its scene. It has no signals or slots of its own.
-class Pipette::Impl : public QObject // clazy:exclude=missing-qobject-macro
+class Pipette::Impl
 {
 public:
+    class Run;
+
     explicit Impl(Pipette* pipette)
         : owner(pipette)
     {
-        connect(&later, &QTimer::timeout, this, [this] { lookAgain(); });
-        later.setSingleShot(true);
-        later.setTimerType(Qt::PreciseTimer);
-        connect(&following, &QTimer::timeout, this, [this] { followCursor(); });
-        following.setInterval(followInterval);
     }
-
-    ~Impl() override;
+    ~Impl();
+    Impl(const Impl&) = delete;
+    Impl& operator=(const Impl&) = delete;
 
     void start();
     void stop();
 
-    QPointer<QGraphicsScene> scene;
-    QList<PipetteScreenView*> views;
-    QPointer<Pipette> owner;
-    QPointer<LoupeWidget> loupe;
-    QGraphicsItem* loupeItem = nullptr;
+    Pipette* const owner;
     QColor currentColor;
+    /// One, unless startPicking() was called during a pick.
+    QVector<Run*> runs;
+};
+
+/// All that one call of startPicking() shows and listens to. It is deleted when the screens have settled
+/// after its end. It has no signals or slots of its own.
+class Pipette::Impl::Run : public QObject // clazy:exclude=missing-qobject-macro
+{
+public:
+    explicit Run(Impl* pipette);
+    ~Run() override;
+
+    /// Covers the screens. False when that has ended the run.
+    bool show();
+    void end();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addView(QScreen& screen);
-    void watchScreens();
-    void watchScreen(QScreen* screen);
-    void stopWatching();
-
+    void addView(QScreen* screen);
+    QVector<QPointer<PipetteScreenView>> takeViews();
+    void watchApplication();
+    void noteLoupe(const QWidget& window);
+    void uncover(const QPoint& cursorPos);
     void update(const QPoint& cursorPos);
-    void takePicture(QScreen* screen);
     void finish(const QPoint& cursorPos, bool isSucceeded);
-    void pickAndStop(const QPoint& cursorPos);
-    void hideLoupes();
-    void pick(const QPoint& cursorPos);
-    void lookAgain();
-    void followCursor();
-    bool isCoveredByOthers(const PipetteScreenView& view, const QPoint& point) const;
 
-    std::optional<int> untilFree(const QRect& area) const;
-    std::optional<int> untilCovered(const QPoint& point) const;
-    bool isPixelBare(const QPoint& point) const;
-    void waitFor(std::optional<int> milliseconds);
-
-    QTimer later;
-    QTimer following;
-    int misses = 0; // of the cursor, in a row
-    int waited = 0;
-    int ends = 0;
-    std::optional<QPoint> cursor;      // where the loupe belongs
-    std::optional<QPoint> pendingPick; // the user has picked it, and the loupe has to vanish from it first
+    Impl* const m_pipette;
+    std::shared_ptr<ScreenReader> m_reader;
+    QGraphicsScene* const m_scene;
+    const QPointer<LoupeWidget> m_loupe;
+    QVector<QPointer<PipetteScreenView>> m_views;
+    /// Of all connections; gone when the run has ended.
+    std::unique_ptr<QObject> m_context = std::make_unique<QObject>();
 };
 
 Pipette::Impl::~Impl()
 {
-    // Windows that vanish may change what is active: nobody is to hear of it from here.
-    owner.clear();
-    stopWatching();
-    const QList<PipetteScreenView*> remaining = std::exchange(views, {});
+    const QVector<Run*> remaining = std::exchange(runs, {});
     qDeleteAll(remaining);
 }
 
@@ -140,120 +129,144 @@ void Pipette::Impl::start()
     if (!mayReadScreen()) {
         return;
     }
-    const int activeScreen = screenNumberAt(QCursor::pos());
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    QRect desktop;
-    for (const QScreen* screen : screens) {
-        desktop |= screen->geometry();
-    }
-
-    scene = new QGraphicsScene(QRectF(desktop), this);
-    scene->setItemIndexMethod(QGraphicsScene::NoIndex); // for one item that moves all the time
-    loupe = new LoupeWidget;
-    loupeItem = scene->addWidget(loupe);
     currentColor = QColor();
-    loupeItem->hide();
-    cursor.reset();
-
-    const int first = views.size();
-    for (QScreen* screen : screens) {
-        addView(*screen);
-    }
-    const QList<PipetteScreenView*> added = views.mid(first);
-    // A window that is shown or activated may call back into the host, where everything can happen.
-    const QPointer<Impl> self = this;
-    const int endsBefore = ends;
-    for (PipetteScreenView* view : added) {
-        view->show();
-        if (!self || ends != endsBefore) {
-            return;
-        }
-    }
-    if (PipetteScreenView* const active = views.value(first + activeScreen)) {
-        active->raise();
-        active->activateWindow();
-        if (!self || ends != endsBefore) {
-            return;
-        }
-        active->adjustSize();
-    }
-    watchScreens();
-    misses = 0;
-    following.start();
-    Q_EMIT owner->pickingStarted();
-}
-
-void Pipette::Impl::addView(QScreen& screen)
-{
-    auto* view = new PipetteScreenView(scene, screen.geometry());
-    if (!ScreenSample::areWindowsBlended()) {
-        view->setStillPicture(screen.grabWindow(0));
-    }
-    // Or a modal dialog that is open would keep mouse and keyboard from it.
-    view->windowHandle()->setTransientParent(QGuiApplication::modalWindow());
-    views.append(view);
-    connect(view, &PipetteScreenView::loupePosChanged, this, [this](const QPoint& pos) { update(pos); });
-    connect(view, &PipetteScreenView::pickingFinished, this,
-            [this](const QPoint& pos, bool isSucceeded) { finish(pos, isSucceeded); });
-    connect(view, &QObject::destroyed, this, [this, view] { views.removeAll(view); });
-}
-
-void Pipette::Impl::watchScreens()
-{
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state != Qt::ApplicationActive) {
-            stop();
-        }
-    });
-    // The views cover the screens as they were.
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this] { stop(); });
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this] { stop(); });
-    connect(qGuiApp, &QCoreApplication::aboutToQuit, this, [this] { stop(); });
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    for (QScreen* screen : screens) {
-        watchScreen(screen);
-    }
-}
-
-void Pipette::Impl::watchScreen(QScreen* screen)
-{
-    connect(screen, &QScreen::geometryChanged, this, [this] { stop(); });
-    connect(screen, &QScreen::logicalDotsPerInchChanged, this, [this] { stop(); });
-}
-
-void Pipette::Impl::stopWatching()
-{
-    if (!qGuiApp) {
-        return; // a pipette of the application itself dies after it
-    }
-    qGuiApp->disconnect(this);
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    for (QScreen* screen : screens) {
-        screen->disconnect(this);
+    auto* const run = new Run(this);
+    runs.append(run);
+    if (run->show()) {
+        Q_EMIT owner->pickingStarted();
     }
 }
 
 void Pipette::Impl::stop()
 {
-    ++ends;
-    later.stop();
-    following.stop();
-    stopWatching();
-    cursor.reset();
-    pendingPick.reset();
-    loupe = nullptr;
-    loupeItem = nullptr;
+    const QPointer<Pipette> pipette = owner;
+    const QVector<Run*> ending = std::exchange(runs, {});
+    for (Run* run : ending) {
+        run->end();
+    }
+    if (pipette) {
+        Q_EMIT pipette->pickingStopped();
+    }
+}
 
-    const QPointer<Impl> self = this;
-    const QPointer<QGraphicsScene> finished(scene.data());
-    scene = nullptr;
-    const QVector<QPointer<PipetteScreenView>> closing(views.cbegin(), views.cend());
-    views.clear();
-    for (const QPointer<PipetteScreenView>& view : closing) {
-        // Whatever still reaches it, as the key press after the shortcut that ended the pick, ends nothing.
-        if (self && view) {
-            view->disconnect(this);
+Pipette::Impl::Run::Run(Impl* pipette)
+    : m_pipette(pipette)
+    , m_reader(sharedReader())
+    , m_scene(new QGraphicsScene(QRectF(desktop()), this))
+    , m_loupe(new LoupeWidget)
+{
+    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex); // for one item that moves all the time
+    m_scene->addWidget(m_loupe)->hide();
+    const auto screens = QGuiApplication::screens();
+    for (QScreen* screen : screens) {
+        addView(screen);
+    }
+}
+
+Pipette::Impl::Run::~Run()
+{
+    // Windows that vanish may change what is active: nobody is to hear of it from here.
+    m_context.reset();
+    const auto remaining = takeViews();
+    for (const QPointer<PipetteScreenView>& view : remaining) {
+        if (view && QApplication::activePopupWidget()) {
+            // Its native window may be handing a key to the pop-up.
+            view->hide();
+            view->deleteLater();
+        } else {
+            delete view;
         }
+    }
+}
+
+void Pipette::Impl::Run::addView(QScreen* screen)
+{
+    auto* view = new PipetteScreenView(m_scene, screen->geometry());
+    if (ScreenSource::platform().grabs() == ScreenSource::Grabs::Never) {
+        view->setStillPicture(m_reader->picture(*screen));
+    }
+    // Or a modal dialog that is open would keep mouse and keyboard from it.
+    view->windowHandle()->setTransientParent(QGuiApplication::modalWindow());
+    view->installEventFilter(this);
+    view->viewport()->installEventFilter(this);
+    m_views.append(view);
+    connect(view, &PipetteScreenView::loupePosChanged, m_context.get(),
+            [this](const QPoint& pos) { update(pos); });
+    connect(view, &PipetteScreenView::pickingFinished, m_context.get(),
+            [this](const QPoint& pos, bool isSucceeded) { finish(pos, isSucceeded); });
+}
+
+bool Pipette::Impl::Run::show()
+{
+    const int active = qMax(0, QGuiApplication::screens().indexOf(QGuiApplication::screenAt(QCursor::pos())));
+    // A window that is shown or activated may call back into the host, where everything can happen.
+    const QPointer<Run> self = this;
+    const auto isOver = [&self] { return !self || !self->m_context; };
+    const auto views = m_views;
+    for (const QPointer<PipetteScreenView>& view : views) {
+        if (view) {
+            view->show();
+        }
+        if (isOver()) {
+            return false;
+        }
+    }
+    if (const QPointer<PipetteScreenView> view = views.value(active)) {
+        view->raise();
+        view->activateWindow();
+        if (isOver()) {
+            return false;
+        }
+        if (view) {
+            view->adjustSize();
+        }
+    }
+    watchApplication();
+    return true;
+}
+
+void Pipette::Impl::Run::watchApplication()
+{
+    const auto stop = [this] { m_pipette->stop(); };
+    QObject* const context = m_context.get();
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, context, [stop](Qt::ApplicationState state) {
+        const bool isDoubtful =
+            state == Qt::ApplicationInactive && state == QGuiApplication::applicationState();
+        if (state != Qt::ApplicationActive && (!isDoubtful || isFocusOfAnotherProgram())) {
+            stop();
+        }
+    });
+    connect(qGuiApp, &QCoreApplication::aboutToQuit, context, stop);
+    // The views cover the screens as they were.
+    connect(qGuiApp, &QGuiApplication::screenAdded, context, stop);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, context, stop);
+    const auto screens = QGuiApplication::screens();
+    for (QScreen* screen : screens) {
+        connect(screen, &QScreen::geometryChanged, context, stop);
+        connect(screen, &QScreen::logicalDotsPerInchChanged, context, stop);
+    }
+}
+
+/// The views, which are about to vanish. The screens show them a little longer.
+QVector<QPointer<PipetteScreenView>> Pipette::Impl::Run::takeViews()
+{
+    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
+        if (view) {
+            m_reader->remove(*view);
+        }
+    }
+    if (qApp) {
+        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = m_reader] {});
+    }
+    return std::exchange(m_views, {});
+}
+
+void Pipette::Impl::Run::end()
+{
+    deleteLater();
+    m_context.reset();
+    const auto closing = takeViews();
+    for (const QPointer<PipetteScreenView>& view : closing) {
         if (view) {
             view->close();
         }
@@ -261,231 +274,77 @@ void Pipette::Impl::stop()
             view->deleteLater();
         }
     }
-    if (finished) {
-        finished->deleteLater();
-    }
-    if (self && owner) {
-        Q_EMIT owner->pickingStopped();
-    }
 }
 
-void Pipette::Impl::update(const QPoint& cursorPos)
+bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!loupe || !loupeItem || pendingPick) {
-        return;
+    const auto& widget = *static_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Paint && !widget.isWindow()) {
+        noteLoupe(*widget.window());
+    } else if (event->type() == QEvent::Leave && widget.isWindow()) {
+        const QPoint cursorPos = QCursor::pos();
+        if (!widget.geometry().contains(cursorPos)) {
+            uncover(cursorPos);
+        }
     }
-    QScreen* const screen = QGuiApplication::screenAt(cursorPos);
-    if (!screen) {
-        return;
-    }
-    cursor = cursorPos;
-    loupe->setPlacement(LoupePlacement::placementAt(cursorPos, screen->geometry(), loupe->size()));
-    const QSize offset = loupe->offset();
-    loupeItem->setPos(QPointF(cursorPos.x() + offset.width(), cursorPos.y() + offset.height()));
-    waited = 0;
-    takePicture(screen);
+    return false;
 }
 
-/// Shows the pixels around the cursor, which is on @p screen, in the loupe.
-void Pipette::Impl::takePicture(QScreen* screen)
+/// The loupe is seen where it stands now, from now on.
+void Pipette::Impl::Run::noteLoupe(const QWidget& window)
 {
-    if (!loupe) {
-        return;
-    }
-    const QSize size(ScreenSample::loupePixels, ScreenSample::loupePixels);
-    const QRect area =
-        ScreenSample::grabArea(*cursor, size, screen->geometry()).translated(screen->geometry().topLeft());
-    // One more around it for what a fractional scale rounds.
-    const QRect keptFree = area.adjusted(-1, -1, 1, 1);
-    for (PipetteScreenView* view : qAsConst(views)) {
-        view->keepFree(keptFree);
-    }
-    const std::optional<int> wait = untilFree(keptFree);
-    if (wait != 0 && waited < longestWait) {
-        waitFor(wait);
-        return;
-    }
-    const QPixmap picture = ScreenSample::grab(*screen, *cursor, size);
-    if (picture.isNull()) {
-        return;
-    }
-    const QPoint center =
-        ScreenSample::centerPixel(*cursor, size, screen->geometry(), picture.devicePixelRatioF());
-    const QColor color = picture.toImage().pixelColor(center);
-    // The list of screens is not made for each move.
-    loupe->setPixmap(screen->geometry().contains(area)
-                         ? picture
-                         : ScreenSample::withoutOutside(picture, *cursor, size, screenAreas(),
-                                                        QGuiApplication::screens().indexOf(screen)));
-    loupe->setColorName(ScreenSample::withoutOverlay(color));
-    const std::optional<int> covering = untilCovered(*cursor);
-    if (covering != 0) {
-        waitFor(covering);
-    }
+    const QGraphicsItem* const item = m_loupe ? m_loupe->graphicsProxyWidget() : nullptr;
+    const QRect place = item && item->isVisible() ? item->sceneBoundingRect().toAlignedRect() : QRect();
+    m_reader->paint(window, place & window.geometry());
 }
 
-void Pipette::Impl::finish(const QPoint& cursorPos, bool isSucceeded)
+/// Brings the view below the cursor to the front when another application's window keeps the Enter from it.
+/// Window managers have a full-screen window above all others on a screen without the focus.
+void Pipette::Impl::Run::uncover(const QPoint& cursorPos)
 {
-    if (pendingPick && isSucceeded) {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || QGuiApplication::topLevelAt(cursorPos)) {
         return;
     }
-    if (isSucceeded && QGuiApplication::screenAt(cursorPos)) {
-        waited = 0;
-        if (!isPixelBare(cursorPos)) {
-            pendingPick = cursorPos;
-            hideLoupes();
-            waitFor(std::nullopt);
+    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
+        if (view && view->geometry().contains(cursorPos)) {
+            const QPointer<PipetteScreenView> covered = view;
+            covered->raise();
+            if (covered) {
+                covered->activateWindow();
+            }
             return;
         }
-        pickAndStop(cursorPos);
-        return;
-    }
-    stop();
-}
-
-void Pipette::Impl::pickAndStop(const QPoint& cursorPos)
-{
-    const QPointer<Impl> self = this;
-    const int endsBefore = ends;
-    pick(cursorPos);
-    // A slot may have done so, or begun the next one.
-    if (self && ends == endsBefore) {
-        stop();
     }
 }
 
-/// Of all sets of views.
-void Pipette::Impl::hideLoupes()
-{
-    const auto scenes = findChildren<QGraphicsScene*>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QGraphicsScene* of : scenes) {
-        const QList<QGraphicsItem*> items = of->items();
-        for (QGraphicsItem* item : items) {
-            // Not hide(): a move of the mouse would bring it back.
-            item->setOpacity(0.0);
-        }
-    }
-}
-
-void Pipette::Impl::pick(const QPoint& cursorPos)
+void Pipette::Impl::Run::update(const QPoint& cursorPos)
 {
     QScreen* const screen = QGuiApplication::screenAt(cursorPos);
-    const std::optional<QColor> color =
-        screen ? ScreenSample::colorAt(*screen, cursorPos) : std::optional<QColor>();
-    if (!color) {
-        qCWarning(logPipette) << "No colour at" << cursorPos << "- the platform"
-                              << QGuiApplication::platformName() << "gives no picture of the screen";
+    if (!m_loupe || !screen) {
         return;
     }
-    currentColor = *color;
-    if (owner) {
-        // A copy: a slot may start another pick, which resets the colour.
-        const QColor selected = currentColor;
-        Q_EMIT owner->colorSelected(selected);
-    }
+    m_loupe->setPlacement(LoupePlacement::placementAt(cursorPos, screen->geometry(), m_loupe->size()));
+    const QSize offset = m_loupe->offset();
+    m_loupe->graphicsProxyWidget()->setPos(cursorPos.x() + offset.width(), cursorPos.y() + offset.height());
+    const ScreenReader::Detail detail = m_reader->around(cursorPos, LoupeWidget::pixels, *screen);
+    m_loupe->setPixmap(detail.picture);
+    m_loupe->setColorName(detail.color);
 }
 
-/// After a wait: the screen may have caught up.
-void Pipette::Impl::lookAgain()
+void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
 {
-    if (!pendingPick) {
-        QScreen* const screen = cursor ? QGuiApplication::screenAt(*cursor) : nullptr;
-        if (screen) {
-            takePicture(screen);
-        }
-        return;
-    }
-    if (!isPixelBare(*pendingPick) && waited < longestWait) {
-        waitFor(std::nullopt);
-        return;
-    }
-    pickAndStop(*pendingPick);
-}
-
-/// Another application's full-screen window may come to lie over a view, whose Enter is then missing.
-void Pipette::Impl::followCursor()
-{
-    const QPoint point = QCursor::pos();
-    PipetteScreenView* hidden = nullptr;
-    for (PipetteScreenView* view : qAsConst(views)) {
-        if (view->isVisible() && view->geometry().contains(point)) {
-            if (view->underMouse()) {
-                misses = 0;
-                return;
-            }
-            hidden = view;
+    if (isSucceeded && QGuiApplication::screenAt(cursorPos)) {
+        m_pipette->currentColor = m_reader->colorAt(cursorPos);
+        // A copy: a slot may start another pick, which resets the color.
+        const QColor selected = m_pipette->currentColor;
+        const QPointer<Run> self = this;
+        Q_EMIT m_pipette->owner->colorSelected(selected);
+        // A slot may have done so.
+        if (!self || !m_context) {
+            return;
         }
     }
-    if (!hidden || !isCoveredByOthers(*hidden, point)) {
-        misses = 0;
-        return;
-    }
-    ++misses;
-    if (misses <= missesBeforeFollowing || misses > missesBeforeFollowing + mostFollows) {
-        return;
-    }
-    const QPointer<PipetteScreenView> view = hidden;
-    view->raise();
-    if (view) {
-        view->activateWindow();
-    }
-}
-
-/// Whether the mouse is not on @p view although it could be: Qt tells of no window of this program's own
-/// above it, as the host may show one, and the user is not dragging.
-bool Pipette::Impl::isCoveredByOthers(const PipetteScreenView& view, const QPoint& point) const
-{
-    if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget() ||
-        QGuiApplication::modalWindow() != view.windowHandle()->transientParent()) {
-        return false;
-    }
-    const QWindow* const top = QGuiApplication::topLevelAt(point);
-    return !top || std::any_of(views.cbegin(), views.cend(), [top](const PipetteScreenView* other) {
-        return other->windowHandle() == top;
-    });
-}
-
-/// How long until no screen can show the loupe in @p area of the desktop; see PipetteScreenView::untilFree().
-std::optional<int> Pipette::Impl::untilFree(const QRect& area) const
-{
-    const QRegion shape = loupe ? loupe->paintedShape() : QRegion();
-    int longest = 0;
-    for (const PipetteScreenView* view : views) {
-        const std::optional<int> wait = view->untilFree(area, shape);
-        if (!wait) {
-            return std::nullopt;
-        }
-        longest = qMax(longest, *wait);
-    }
-    return longest;
-}
-
-/// How long until the screen at @p point is sure to show the overlay; see PipetteScreenView::untilCovered().
-std::optional<int> Pipette::Impl::untilCovered(const QPoint& point) const
-{
-    for (const PipetteScreenView* view : views) {
-        if (view->isVisible() && view->geometry().contains(point)) {
-            return view->untilCovered();
-        }
-    }
-    return 0;
-}
-
-/// Whether the screen shows the overlay over @p point and nothing else, and that for sure.
-bool Pipette::Impl::isPixelBare(const QPoint& point) const
-{
-    return untilFree(QRect(point, QSize(1, 1)).adjusted(-1, -1, 1, 1)) == 0 && untilCovered(point) == 0;
-}
-
-/// Looks again in so many milliseconds, or soon.
-void Pipette::Impl::waitFor(std::optional<int> milliseconds)
-{
-    if (waited >= longestWait) {
-        return;
-    }
-    const int wait = qMax(lookInterval, milliseconds.value_or(0));
-    waited += wait;
-    later.start(wait);
+    m_pipette->stop();
 }
 
 Pipette::Pipette(QObject* parent)

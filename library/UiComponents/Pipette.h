@@ -19,29 +19,26 @@
  * the colour in their middle. The left button picks when it is released. A key, Escape among them, gives up;
  * so does anything else that ends the pick: another application becomes the active one, a screen is added,
  * removed or changed, one of the windows is closed, the application quits. The wheel and the other buttons do
- * nothing. A window that another application's has come to lie over, as a full-screen one may on a screen
- * without the focus, is raised and activated a moment after the cursor has come there.
+ * nothing. When the cursor comes to a screen where another application's window lies over the pipette's, as a
+ * full-screen one does on a screen without the focus, the pipette's is raised and activated.
  *
- * **The colour** is that of one pixel on the screen, whoever painted it, as QScreen::grabWindow() gives it
- * and without the trace of the pipette's own windows, a black of alpha 1 of 255 that takes one off each
- * channel from 128 up: 127 and 128 become the same value below it and are both picked as 128. It is opaque
- * always. A channel of 255, which the windows cannot have left behind, is picked as 255 * 255 / 254: a QColor
- * of the model ExtendedRgb, whose rgb() and name() are white's. Loupe and cursor are never part of the
- * colour, unless the screen falls behind by more than is said here. When the loupe has been over the pixel up
- * to now, or the windows have just appeared, the pipette hides the loupe and waits until the screen has
- * caught up: about a tenth of a second, 0.6 seconds at most, in which a key still gives up. Everywhere else
- * colorSelected() comes from within the release.
+ * **The colour** is opaque and that of one pixel on the screen, whoever painted it, without the trace of the
+ * pipette's own windows. colorSelected() comes from within the release, and the loupe is right after each
+ * move. Pixels are grabbed live, and the overlay, a black of alpha 1 of 255, is taken off: 127 and 128 are
+ * one value below it and are both picked as 128, and a channel of 255, which it cannot have left behind, as
+ * 255 * 255 / 254 (a QColor of the model ExtendedRgb, whose rgb() and name() are white's). Where a grab may
+ * show the pipette itself, that is below the loupe, where it has been in the last half second, and anywhere
+ * in the first half second of a pick, the pixel is that of a picture of the screen from before, which each
+ * grab refreshes.
  *
  * **The desktop.** An X server without a compositor would show the windows black instead of transparent.
- * There the screens stand still while the pipette picks: the windows show a picture that was taken before.
- * It is of what the screen shows in that moment: a window that was closed just then may still be on it.
- * Xwayland gives no pictures of other applications: a host that offers the pipette on such a desktop should
- * run on Wayland itself, where the permission is missing.
+ * There the screens stand still while the pipette picks: the windows show the picture from before. Xwayland
+ * gives no pictures of other applications: a host that offers the pipette on such a desktop should run on
+ * Wayland itself, where the permission is missing.
  *
  * **Permission.** Where the system guards the contents of the screen (see PrivacyAccess.h) and the program
  * may not read it, startPicking() asks for the permission and does nothing else. Try again once it is
- * granted. Where a platform grants it and gives no picture all the same, the pick ends without a colour, and
- * a warning of the logging category "uicomponents.pipette" says so.
+ * granted. Where a platform grants it and gives no picture all the same, every pixel is black.
  *
  * **Style sheet.** The sheet of the application gives the loupe its size and look; without one it is as small
  * as its label. The picture is clipped to an ellipse, and background and border are painted over it, so the
@@ -79,13 +76,14 @@ class UICOMPONENTS_EXPORT Pipette : public QObject
 public:
     /// @p parent owns the pipette as usual. Nothing is shown.
     explicit Pipette(QObject* parent = nullptr);
-    /// Deletes at once whatever a pick shows, without any signal.
+    /// Deletes at once whatever a pick shows, without any signal; while a pop-up is open, whose keys go
+    /// through these windows, it hides them and deletes them later.
     ~Pipette() override;
 
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Does nothing, without a
     /// signal, when the permission is missing. A call while the pipette picks puts a second set of windows
     /// and a second loupe over the first; the trace of one set only is taken out of the colour; the next end
-    /// of the pick ends both. A click that the pipette still waits with is picked all the same.
+    /// of the pick ends both.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.
@@ -102,7 +100,7 @@ Q_SIGNALS:
     void pickingStopped();
 
     /// The user picked @p color. Comes before pickingStopped(), with the windows still up. Not emitted when
-    /// the user gave up, when the point is on no screen, and when the platform gives no picture of it.
+    /// the user gave up and when the point is on no screen.
     void colorSelected(const QColor& color);
 
 private:

@@ -1,10 +1,8 @@
 #include "PipetteScreenView.h"
 
-#include "LoupeTrail.h"
-#include "ScreenSample.h"
+#include "ScreenReader.h"
 
 #include <QCursor>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QGraphicsItem>
 #include <QGuiApplication>
@@ -20,8 +18,6 @@
 #include <utility>
 
 namespace {
-
-constexpr int lagOfCompositors = 60; // milliseconds
 
 // How often a view goes back to its screen before it leaves the last word to the window manager.
 constexpr int mostReturns = 10;
@@ -47,21 +43,18 @@ public:
     explicit Private(PipetteScreenView* view)
         : owner(view)
         , loupeItem(bottomItem(view->scene()))
-        , trail(screenLag())
     {
-        clock.start();
     }
 
     /// The item, if it is still there: it dies with its widget and with its scene.
     QGraphicsItem* loupe() const;
     void setLoupeVisible(bool visible);
-    std::optional<LoupeTrail::Place> paintedPlace() const;
     void rebuildCursor();
     void focusSoon();
     void showAtCursor(QEvent* event);
     void stayInPlace();
     QScreen* ownScreen() const;
-    void repaintLoupe(const QRect& part);
+    void report(const QPoint& cursorPos, bool isSucceeded);
 
     PipetteScreenView* const owner;
     QGraphicsItem* const loupeItem;
@@ -73,10 +66,7 @@ public:
     QRect area; // of the screen
     QPixmap stillPicture;
     int returnsLeft = 0;
-    QRect keptFree;
-    LoupeTrail trail;
-    QElapsedTimer clock;
-    std::optional<qint64> coveredAt;
+    bool hasReported = false;
 };
 
 QGraphicsItem* PipetteScreenView::Private::loupe() const
@@ -90,16 +80,6 @@ void PipetteScreenView::Private::setLoupeVisible(bool visible)
     if (QGraphicsItem* const item = loupe()) {
         item->setVisible(visible);
     }
-}
-
-std::optional<LoupeTrail::Place> PipetteScreenView::Private::paintedPlace() const
-{
-    const QGraphicsItem* const item = loupe();
-    if (!item || !item->isVisible() || item->effectiveOpacity() <= 0.0 ||
-        !item->sceneBoundingRect().intersects(owner->sceneRect())) {
-        return std::nullopt;
-    }
-    return LoupeTrail::Place{item->scenePos().toPoint(), keptFree};
 }
 
 void PipetteScreenView::Private::rebuildCursor()
@@ -157,15 +137,10 @@ QScreen* PipetteScreenView::Private::ownScreen() const
     return found == screens.cend() ? QGuiApplication::primaryScreen() : *found;
 }
 
-void PipetteScreenView::Private::repaintLoupe(const QRect& part)
+void PipetteScreenView::Private::report(const QPoint& cursorPos, bool isSucceeded)
 {
-    QGraphicsItem* const item = loupe();
-    const QRectF touched =
-        item ? item->boundingRect() & QRectF(part).translated(-item->scenePos()) : QRectF();
-    if (!touched.isEmpty()) {
-        // Costs nothing where the item has moved, as it nearly always has.
-        item->update(touched);
-    }
+    hasReported = true;
+    Q_EMIT owner->pickingFinished(cursorPos, isSucceeded);
 }
 
 PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry)
@@ -204,7 +179,7 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
     setFixedSize(size());
     hide();
 
-    const QBrush overlay(ScreenSample::overlayColor(), Qt::SolidPattern);
+    const QBrush overlay(ScreenReader::overlayColor(), Qt::SolidPattern);
     setBackgroundBrush(overlay);
     if (scene) {
         scene->setBackgroundBrush(overlay);
@@ -234,38 +209,6 @@ void PipetteScreenView::setStillPicture(const QPixmap& picture)
 {
     d->stillPicture = picture;
     viewport()->update();
-}
-
-void PipetteScreenView::keepFree(const QRect& area)
-{
-    if (area == d->keptFree) {
-        return;
-    }
-    const QRect former = std::exchange(d->keptFree, area);
-    d->repaintLoupe(former);
-    d->repaintLoupe(area);
-}
-
-std::optional<int> PipetteScreenView::untilFree(const QRect& area, const QRegion& shape) const
-{
-    // What another view shows there is not this one's affair.
-    return area.intersects(d->area) ? d->trail.untilFree(area, shape, d->clock.elapsed()) : 0;
-}
-
-std::optional<int> PipetteScreenView::untilCovered() const
-{
-    if (screenLag() == 0) {
-        return 0;
-    }
-    if (!d->coveredAt) {
-        return std::nullopt;
-    }
-    return static_cast<int>(qMax(qint64(0), *d->coveredAt + screenLag() - d->clock.elapsed()));
-}
-
-int PipetteScreenView::screenLag()
-{
-    return QGuiApplication::platformName() == QLatin1String("offscreen") ? 0 : lagOfCompositors;
 }
 
 void PipetteScreenView::setCursorPixmap(const QPixmap& pixmap)
@@ -320,21 +263,18 @@ bool PipetteScreenView::event(QEvent* event)
         return true;
     case QEvent::ShortcutOverride:
         event->accept();
-        Q_EMIT pickingFinished(QCursor::pos(), false);
+        d->report(QCursor::pos(), false);
         return true;
     case QEvent::Close: {
         const QPointer<PipetteScreenView> self = this;
         const bool result = QGraphicsView::event(event);
-        if (self) {
-            Q_EMIT pickingFinished(QCursor::pos(), false);
+        // What the user did before may have closed it.
+        if (self && !d->hasReported) {
+            d->report(QCursor::pos(), false);
         }
         return result;
     }
     case QEvent::Resize:
-        // Where a native window has grown, its pixels are arbitrary until they are painted.
-        d->coveredAt.reset();
-        viewport()->update();
-        Q_FALLTHROUGH();
     case QEvent::Move: {
         const bool result = QGraphicsView::event(event);
         d->stayInPlace();
@@ -348,7 +288,7 @@ bool PipetteScreenView::event(QEvent* event)
 void PipetteScreenView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {
-        Q_EMIT pickingFinished(QCursor::pos(), false);
+        d->report(QCursor::pos(), false);
     }
 }
 
@@ -372,7 +312,7 @@ void PipetteScreenView::mouseMoveEvent(QMouseEvent* event)
 void PipetteScreenView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        Q_EMIT pickingFinished(event->globalPos(), true);
+        d->report(event->globalPos(), true);
     }
 }
 
@@ -388,40 +328,10 @@ void PipetteScreenView::showEvent(QShowEvent*)
     }
 }
 
-void PipetteScreenView::paintEvent(QPaintEvent* event)
-{
-    QGraphicsView::paintEvent(event);
-    const qint64 now = d->clock.elapsed();
-    if (!d->coveredAt) {
-        d->coveredAt = now;
-    }
-    d->trail.paint(d->paintedPlace(), now);
-}
-
 void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
 {
     if (!d->stillPicture.isNull()) {
         painter->drawPixmap(sceneRect().topLeft(), d->stillPicture);
     }
     QGraphicsView::drawBackground(painter, rect);
-}
-
-void PipetteScreenView::drawForeground(QPainter* painter, const QRectF& rect)
-{
-    QGraphicsView::drawForeground(painter, rect);
-    const QGraphicsItem* const item = d->loupe();
-    if (!item) {
-        return;
-    }
-    // The loupe's corner may lie over the pixels that it magnifies.
-    const QRectF covered = item->sceneBoundingRect() & QRectF(d->keptFree);
-    if (!covered.isEmpty()) {
-        painter->save();
-        painter->setClipRect(covered, Qt::IntersectClip);
-        painter->setCompositionMode(QPainter::CompositionMode_Source);
-        painter->fillRect(covered, Qt::transparent);
-        painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
-        drawBackground(painter, covered);
-        painter->restore();
-    }
 }

@@ -7,10 +7,8 @@
 #include <QSize>
 
 #include <memory>
-#include <optional>
 
 class QGraphicsItem;
-class QRegion;
 
 /**
  * Covers exactly one screen with a window that is all but transparent, and turns what the user does there
@@ -54,24 +52,9 @@ public:
     /// this picture of it below the overlay.
     void setStillPicture(const QPixmap& picture);
 
-    /// Nothing of the loupe is painted in @p area of the desktop from the next painting on.
-    void keepFree(const QRect& area);
-
-    /// How many milliseconds until the screen can no longer show any part of a loupe of @p shape in @p area
-    /// of the desktop, although it may be late with what was painted: 0 when it shows none, none when the
-    /// view has to be painted first.
-    std::optional<int> untilFree(const QRect& area, const QRegion& shape) const;
-
-    /// How many milliseconds until the screen is sure to show the view's overlay; none before the first
-    /// painting, and the first one after each change of the size.
-    std::optional<int> untilCovered() const;
-
-    /// How late the screen may be with what was painted, in milliseconds: about three pictures of a
-    /// compositor; 0 on a platform whose grabs read the windows themselves.
-    static int screenLag();
-
 Q_SIGNALS:
-    /// The user picked the point @p cursorPos of the desktop, or gave up, or somebody closed the window.
+    /// The user picked the point @p cursorPos of the desktop, or gave up, or somebody closed the window
+    /// before that.
     void pickingFinished(QPoint cursorPos, bool isSucceeded);
 
     /// The loupe belongs to @p cursorPos of the desktop now.
@@ -88,9 +71,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void drawBackground(QPainter* painter, const QRectF& rect) override;
-    void drawForeground(QPainter* painter, const QRectF& rect) override;
 
 private:
     class Private;

@@ -1,67 +1,49 @@
 #include "WidgetColorPicker.h"
 
 #include "CursorGuard.h"
-#include "DevicePixel.h"
+#include "ScreenReader.h"
 #include "SwallowedPress.h"
 #include "WidgetColorPickerStylingObject.h"
 
 #include <GuiHelper/HighlightFrame.h>
 
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
-#include <QLoggingCategory>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QPointer>
-#include <QScreen>
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
 #include <QWindow>
-#include <QtMath>
 
 #include <algorithm>
-#include <functional>
+#include <optional>
 
 using Orvane::Gui::HighlightFrame;
 
 namespace {
 
-Q_LOGGING_CATEGORY(pickerLog, "uicomponents.widgetpicker")
+// No outline is wider.
+constexpr int outlineWidth = 8;
 
-// How long the outline may still be seen after it was taken away: a window with a QQuickWidget may be
-// painted in the next frame only, and a compositor shows that in the one after it.
-constexpr int framesToWait = 3;
-constexpr int longestWait = 100;
-constexpr int pollInterval = 4;
-
-// Screens that no monitor is connected to report anything, and a window is painted at a pace of its own.
-constexpr double slowestRefresh = 30;
-constexpr double fastestRefresh = 60;
-
-// Of all pickers, so that a pick can tell whether another one was begun since it was ended.
-int latestPick = 0;
-
-/// One compositor serves all screens, and may follow any of them.
-int shortestWait()
+QRect onDesktop(const QWidget& widget)
 {
-    double refresh = fastestRefresh;
-    const auto screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        refresh = qMin(refresh, screen->refreshRate());
-    }
-    return qRound(framesToWait * 1000 / qMax(slowestRefresh, refresh));
+    const QRect area = widget.rect();
+    return {widget.mapToGlobal(area.topLeft()), widget.mapToGlobal(area.bottomRight())};
 }
 
-/// What the screen shows there; invalid where it cannot be grabbed.
-QColor grabColor(QScreen* screen, const QPointF& position)
+// A window manager may place a window between two points, which Qt knows nothing of.
+constexpr int displacement = 2;
+
+QRect displaced(const QRect& area)
 {
-    const DevicePixel pixel =
-        devicePixelAt(position - screen->geometry().topLeft(), screen->devicePixelRatio());
-    const QImage image =
-        screen->grabWindow(0, pixel.corner.x(), pixel.corner.y(), pixel.extent, pixel.extent).toImage();
-    return image.valid(pixel.index) ? QColor(image.pixel(pixel.index)) : QColor();
+    return area.adjusted(-displacement, -displacement, displacement, displacement);
+}
+
+/// Where a widget at @p area may have its outline.
+QRegion outlineOf(const QRect& area)
+{
+    return QRegion(displaced(area)) - area.adjusted(outlineWidth, outlineWidth, -outlineWidth, -outlineWidth);
 }
 
 /// @p position, which is rounded, as the last event of the mouse has it, if that was there.
@@ -72,45 +54,82 @@ QPointF unrounded(const QPoint& position, const QPointF& lastEvent)
     return qAbs(distance.x()) < most && qAbs(distance.y()) < most ? lastEvent : position;
 }
 
-/// The one that the pixel at @p position belongs to. Rounding would give half of a point's pixels to the
-/// next.
-QPoint pointAt(const QPointF& position)
+/// A target and its place on the desktop, with the screen as it was before the outline.
+struct Outlined
 {
-    // A place on a scaled screen is a quotient, and may be a little less than it should.
-    constexpr double tolerance = 0.001;
-    return {qFloor(position.x() + tolerance), qFloor(position.y() + tolerance)};
+    explicit Outlined(QWidget* widget)
+        : target(widget)
+        , place(onDesktop(*widget))
+        , reader(displaced(place), ScreenReader::Cover::Nothing)
+    {
+        reader.paint(*widget->window(), outlineOf(place));
+    }
+
+    QPointer<QWidget> target;
+    QRect place;
+    ScreenReader reader;
+};
+
+/// The same as long as the screen may show the outline of a former pick, which would be taken for the target.
+std::shared_ptr<Outlined> sharedOutlined(QWidget* target)
+{
+    static std::weak_ptr<Outlined> present;
+    auto outlined = present.lock();
+    if (!outlined || outlined->target != target || outlined->place != onDesktop(*target)) {
+        // Not std::make_shared(): see the constructor of WidgetColorPicker.
+        outlined.reset(new Outlined(target));
+        present = outlined;
+    }
+    return outlined;
 }
 
 } // namespace
 
-/// Belongs to the picker, and to each pick() on the stack: that one returns into it after the picker died.
+/// Belongs to the picker, and to each pick() on the stack, which returns into it after the picker has died.
 class WidgetColorPicker::Private
 {
 public:
+    /// A pick(), on its frame.
+    struct Run
+    {
+        struct Sample
+        {
+            QPointF position;
+            QColor color;
+        };
+
+        QEventLoop loop;
+        std::shared_ptr<Outlined> outlined;
+        /// Where the cursor was when stop() ended it, and the color there; empty until then.
+        std::optional<Sample> end;
+    };
+
     Private(WidgetColorPicker* picker, const QSet<QWidget*>& set);
 
-    bool isInProgress() const { return loop && loop->isRunning(); }
+    bool isInProgress() const { return run && run->loop.isRunning(); }
     void watchTarget();
     void targetDies();
     void takeCursor();
     void applyCursor();
     void applyTarget();
+    void removeOutline();
     void pick();
     void stop();
     void noteMouse(const QObject* watched, const QMouseEvent& event);
     QPointF positionFor(const QWidget& widget, const QPointF& position) const;
     bool isActiveAt(const QPointF& position) const;
 
+    QPointF cursorPosition() const { return unrounded(QCursor::pos(), mouse); }
     bool isOverTarget(const QPointF& position) const;
-    QColor settledColor(const QPointF& position, const std::function<bool()>& isWanted) const;
+    QColor colorAt(const QPointF& position, Run& of) const;
     void report(const QColor& picked);
 
     /// Null when the picker has died.
     WidgetColorPicker* owner;
     QVector<QPointer<QWidget>> widgets;
     QVector<QPointer<QWidget>> activeWidgets;
-    /// The loop of the pick() that began last, on its frame.
-    QEventLoop* loop = nullptr;
+    /// The one that began last.
+    Run* run = nullptr;
     QPointer<QWidget> target;
     QMetaObject::Connection targetWatch;
     std::unique_ptr<CursorGuard> cursorGuard;
@@ -124,10 +143,6 @@ public:
     /// The window that it was in, and how far from where Qt says that is.
     QPointer<const QWindow> mouseWindow;
     QPointF windowShift;
-    /// Since the outline was taken away.
-    QElapsedTimer sinceStop;
-    /// The latest pick of all when this one was stopped.
-    int latestAtStop = 0;
 };
 
 WidgetColorPicker::Private::Private(WidgetColorPicker* picker, const QSet<QWidget*>& set)
@@ -155,7 +170,7 @@ void WidgetColorPicker::Private::targetDies()
         cursorGuard->leaveAlone();
     }
     if (isInProgress()) {
-        loop->quit();
+        run->loop.quit();
     }
 }
 
@@ -176,28 +191,35 @@ void WidgetColorPicker::Private::applyTarget()
     applyCursor();
     activeWidgets = widgets;
     activeWidgets.append(target);
+    removeOutline();
+    run->outlined = sharedOutlined(target);
     highlightFrame = std::make_unique<HighlightFrame>(target);
+}
+
+void WidgetColorPicker::Private::removeOutline()
+{
+    if (highlightFrame) {
+        highlightFrame.reset();
+        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = run->outlined] {});
+    }
 }
 
 void WidgetColorPicker::Private::pick()
 {
-    QEventLoop nestedLoop;
-    loop = &nestedLoop;
-    ++latestPick;
+    Run thisRun;
+    run = &thisRun;
     qGuiApp->installEventFilter(owner);
     // The host's code runs in both of these.
-    const auto mayGoOn = [this, &nestedLoop] { return loop == &nestedLoop && owner && target; };
+    const auto mayGoOn = [this, &thisRun] { return run == &thisRun && owner && target; };
     takeCursor();
     if (mayGoOn()) {
         applyTarget();
     }
     if (mayGoOn()) {
-        nestedLoop.exec();
+        thisRun.loop.exec();
     }
 
-    // Not the latest one when another was begun, and is over, before this one ran or on its way out.
-    const bool isLatest = loop == &nestedLoop;
-    loop = nullptr;
+    run = nullptr;
     // These two are still there when the application quits, which ends all loops.
     highlightFrame.reset();
     cursorGuard.reset();
@@ -205,17 +227,13 @@ void WidgetColorPicker::Private::pick()
     if (owner) {
         qGuiApp->removeEventFilter(owner);
     }
-    const QPointF position = unrounded(QCursor::pos(), mouse);
-    // What ends a pick may begin another, inside the loop that is on its way out: nothing is reported then.
-    // Nor is it without a stop(), as when the application quits.
-    const auto mayReport = [this, latest = latestAtStop] {
-        return owner && latest == latestPick && target && target->isVisible();
-    };
-    if (!isLatest || !mayReport() || !isOverTarget(position)) {
+    const QPointF position = cursorPosition();
+    // Without a stop() the user has chosen nothing, as when the application quits.
+    if (!thisRun.end || !owner || !target || !isOverTarget(position)) {
         return;
     }
-    const QColor picked = settledColor(position, mayReport);
-    if (picked.isValid() && mayReport()) {
+    const QColor picked = thisRun.end->position == position ? thisRun.end->color : colorAt(position, thisRun);
+    if (owner) {
         report(picked);
     }
 }
@@ -225,11 +243,13 @@ void WidgetColorPicker::Private::stop()
     if (!isInProgress()) {
         return;
     }
-    latestAtStop = latestPick;
-    highlightFrame.reset();
-    sinceStop.start();
-    loop->quit();
+    Run& ending = *run;
+    ending.loop.quit();
+    removeOutline();
     cursorGuard.reset();
+    // Now: what ends the pick may close or change the target before the loop returns.
+    const QPointF position = cursorPosition();
+    ending.end = {position, target && isOverTarget(position) ? colorAt(position, ending) : QColor()};
 }
 
 void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseEvent& event)
@@ -269,56 +289,26 @@ bool WidgetColorPicker::Private::isActiveAt(const QPointF& position) const
 
 bool WidgetColorPicker::Private::isOverTarget(const QPointF& position) const
 {
-    const QPoint point = pointAt(positionFor(*target, position));
-    const QRect area = target->rect();
-    return QRect(target->mapToGlobal(area.topLeft()), target->mapToGlobal(area.bottomRight()))
-        .contains(point);
+    return onDesktop(*target).contains(pointAt(positionFor(*target, position)));
 }
 
-/// The colour there once the outline has left the screen, and none when @p isWanted no longer holds by then.
-/// Anything may have died when it returns.
-QColor WidgetColorPicker::Private::settledColor(const QPointF& position,
-                                                const std::function<bool()>& isWanted) const
+/// What the screen shows there, or what the target paints where the screen does not tell: the target has
+/// taken its outline along, or the platform gives no picture.
+QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) const
 {
-    const QPoint point = pointAt(position);
-    const QPointer<QScreen> screen = QGuiApplication::screenAt(point);
-    if (!screen) {
-        qCWarning(pickerLog, "No colour was picked: there is no screen at (%d, %d)", point.x(), point.y());
-        return {};
+    const QPoint point = pointAt(positionFor(*target, position));
+    const QRect area = onDesktop(*target);
+    QColor seen;
+    if (area == of.outlined->place) {
+        seen = of.outlined->reader.colorAt(position);
+    } else if (!outlineOf(area).contains(point)) {
+        seen = ScreenReader(QRegion(), ScreenReader::Cover::Nothing).colorAt(position);
     }
-    QColor latest = grabColor(screen, position);
-    if (!latest.isValid()) {
-        qCWarning(pickerLog, "No colour was picked: this platform cannot grab the screen");
-        return {};
+    if (seen.isValid()) {
+        return seen;
     }
-
-    QEventLoop wait;
-    bool isDone = false;
-    QTimer poll;
-    poll.setTimerType(Qt::PreciseTimer);
-    connect(&poll, &QTimer::timeout, &wait, [&] {
-        const QColor before = latest;
-        latest = isWanted() && screen ? grabColor(screen, position) : QColor();
-        const bool isSettled = sinceStop.hasExpired(shortestWait()) && latest == before;
-        isDone = !latest.isValid() || isSettled || sinceStop.hasExpired(longestWait);
-        if (isDone) {
-            wait.quit();
-        }
-    });
-    poll.start(pollInterval);
-    // The last window that is closed ends the pick, and then has the application quit. A loop that begins
-    // with that still pending throws it away.
-    QCoreApplication::sendPostedEvents(qGuiApp, QEvent::Quit);
-    wait.exec(QEventLoop::ExcludeUserInputEvents);
-    if (!isDone) {
-        // The application quits.
-        return {};
-    }
-    if (!latest.isValid() && isWanted()) {
-        qCWarning(pickerLog, "No colour was picked: %s",
-                  screen ? "this platform cannot grab the screen any more" : "the screen was removed");
-    }
-    return latest;
+    const QRect pixel(point - area.topLeft(), QSize(1, 1));
+    return QColor(target->grab(pixel).toImage().pixel(0, 0));
 }
 
 void WidgetColorPicker::Private::report(const QColor& picked)

@@ -30,16 +30,15 @@ class WidgetColorPickerStylingObject;
  * A pick without a colour emits nothing at all, and color() is invalid then: a ColorPickerButton stays
  * pressed until a pick brings a colour.
  *
- * It ends without a colour when the cursor is elsewhere, when the target is hidden at that moment, dies
- * or is set to null, when the application quits, when a further pick is started before this one could
- * report, and where the platform cannot grab the screen (as plain Wayland): the last is logged as a warning
- * of the category "uicomponents.widgetpicker". A target in a QDialog is hidden at that moment when Escape
- * ended the pick, for the key goes on to the dialog and closes it.
+ * It ends without a colour when the cursor is elsewhere as pick() returns, when the target dies or is set to
+ * null, and when the application quits. Picks nest: one that is begun by what ended another is over first,
+ * and the cursor decides for both.
  *
- * **The colour** is opaque, and that of the pixel as the screen shows it, with whatever lies over the
- * target. The outline never colours it: a composited screen shows that for a few frames after it has gone,
- * so the picker waits, a tenth of a second at most, before it looks. Where the cursor was when the pick
- * ended decides, also when the target moves meanwhile.
+ * **The colour** is opaque, and that of the pixel as the screen shows it when the pick ends, with whatever
+ * lies over the target, also when the press or the key then closes or moves it. Only the outermost 8 points
+ * of the target, where its outline is, are those of a picture of the screen from before the pick, or as the
+ * target paints itself when it has moved since. Where the platform gives no picture of the screen (as plain
+ * Wayland) all of the target is as it paints itself.
  *
  * A mouse event tells the pixel, also where the screen has several for a point. A key that ends the pick
  * before the mouse has moved in it takes the pixel of the whole point that is next to the cursor.

@@ -32,8 +32,13 @@ HighlightFrame::~HighlightFrame()
     if (m_target && !m_target->testAttribute(Qt::WA_WState_InPaintEvent)) {
         m_overlay->erase();
     }
-    // The filter is still in place and keeps the removal from the target.
-    delete m_overlay;
+    if (m_overlay) {
+        // The filter is still in place and keeps the removal from the target. Not deleted at once: a target
+        // that is being hidden walks its children, which may end what the frame is for.
+        m_overlay->hide();
+        m_overlay->setParent(nullptr);
+        m_overlay->deleteLater();
+    }
 }
 
 bool HighlightFrame::eventFilter(QObject* watched, QEvent* event)

@@ -173,9 +173,9 @@ void tst_GalleryColorField::openPipette()
     QTRY_VERIFY(panel());
     QVERIFY(QTest::qWaitForWindowExposed(panel()->window()));
     QVERIFY(RealInput::click(panel()->findChild<QToolButton*>(QStringLiteral("pipetteButton"))));
-    QTRY_COMPARE(pipetteWindows().size(), QGuiApplication::screens().size());
-    QTRY_VERIFY(pipetteWindows().constFirst()->windowHandle()->isExposed());
-    QTRY_VERIFY(pipetteWindows().constFirst()->isActiveWindow());
+    QTRY_COMPARE(PipetteWindows::views().size(), QGuiApplication::screens().size());
+    QTRY_VERIFY(PipetteWindows::views().constFirst()->windowHandle()->isExposed());
+    QTRY_VERIFY(PipetteWindows::views().constFirst()->isActiveWindow());
 }
 
 void tst_GalleryColorField::pipettePicksFromTheScreen_data()
@@ -212,7 +212,7 @@ void tst_GalleryColorField::pipettePicksFromTheScreen()
     QVERIFY(RealInput::moveTo(&patch, patch.rect().center()));
     QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-colour-field-pipette-") + page));
     QVERIFY(RealInput::click(&patch));
-    QTRY_VERIFY(pipetteWindows().isEmpty());
+    QTRY_VERIFY(PipetteWindows::views().isEmpty());
     QCOMPARE(changed.count(), 1);
     QCOMPARE(m_button->color()->name(), target.name());
     QTRY_COMPARE(face(), target);
@@ -233,7 +233,7 @@ void tst_GalleryColorField::pipetteGivesUp()
         return;
     }
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(pipetteWindows().isEmpty());
+    QTRY_VERIFY(PipetteWindows::views().isEmpty());
     QCOMPARE(*m_button->color(), before);
     QTRY_VERIFY(m_window->isActiveWindow());
 }
@@ -246,7 +246,7 @@ void tst_GalleryColorField::pipetteEndsWithThePicker()
         return;
     }
     choice()->setKind(PickerChoice::Kind::Dialog);
-    QVERIFY(pipetteWindows().isEmpty());
+    QVERIFY(PipetteWindows::views().isEmpty());
     QCOMPARE(*m_button->color(), before);
 }
 
@@ -257,7 +257,7 @@ void tst_GalleryColorField::pipetteEndsWithTheWindow()
         return;
     }
     m_window.reset();
-    QVERIFY(pipetteWindows().isEmpty());
+    QVERIFY(PipetteWindows::views().isEmpty());
 }
 
 void tst_GalleryColorField::pickedColourIsShown()

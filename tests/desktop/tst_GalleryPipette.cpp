@@ -73,7 +73,7 @@ void tst_GalleryPipette::cleanup()
 {
     m_patch.reset();
     m_window.reset();
-    QTRY_VERIFY(pipetteWindows().isEmpty());
+    QTRY_VERIFY(PipetteWindows::views().isEmpty());
 }
 
 /// What the log says of the pipette, without the times.
@@ -92,8 +92,8 @@ void tst_GalleryPipette::startPipette()
     const auto* start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
     QVERIFY(start);
     QVERIFY(RealInput::click(start));
-    QTRY_COMPARE(pipetteWindows().size(), QGuiApplication::screens().size());
-    QTRY_VERIFY(!pipetteWindows().isEmpty() && pipetteWindows().constFirst()->isActiveWindow());
+    QTRY_COMPARE(PipetteWindows::views().size(), QGuiApplication::screens().size());
+    QTRY_VERIFY(!PipetteWindows::views().isEmpty() && PipetteWindows::views().constFirst()->isActiveWindow());
 }
 
 void tst_GalleryPipette::picksAreListed_data()
@@ -118,7 +118,7 @@ void tst_GalleryPipette::picksAreListed()
         QVERIFY(RealInput::moveTo(m_patch.get(), QPoint(x, 60)));
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-pipette-%1-%2").arg(style).arg(x)));
         QVERIFY(RealInput::click(m_patch.get(), QPoint(x, 60)));
-        QTRY_VERIFY(pipetteWindows().isEmpty());
+        QTRY_VERIFY(PipetteWindows::views().isEmpty());
         QTRY_VERIFY(m_window->isActiveWindow());
     }
     QCOMPARE(history->names().size(), before + 2);
@@ -142,7 +142,7 @@ void tst_GalleryPipette::pickWithoutColourIsLoggedOnly()
         return;
     }
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(pipetteWindows().isEmpty());
+    QTRY_VERIFY(PipetteWindows::views().isEmpty());
     QVERIFY(history->names().isEmpty());
     QCOMPARE(said().size(), 2);
     QCOMPARE(said().filter(QStringLiteral("pipette.colorSelected")).size(), 0);
@@ -156,7 +156,7 @@ void tst_GalleryPipette::pageChangedWhilePicking()
         return;
     }
     m_window->showPage(QStringLiteral("color-input"));
-    QTRY_VERIFY(pipetteWindows().isEmpty());
+    QTRY_VERIFY(PipetteWindows::views().isEmpty());
     QTRY_VERIFY(m_window->isActiveWindow());
 }
 

@@ -83,8 +83,6 @@ private Q_SLOTS:
     void sheetIsPaintedUnclipped();
     void sheetGivesSizeAndColor();
     void cursorOnNoScreen();
-    void paintedShape();
-    void paintedShapeHoldsEveryName();
     void paintsAtEverySize();
 
     void cleanup();
@@ -378,52 +376,6 @@ void tst_LoupeWidget::cursorOnNoScreen()
     QCOMPARE(painted(*loupe, Qt::black).pixelColor(side / 2, side / 2), QColor(Qt::blue));
 }
 
-void tst_LoupeWidget::paintedShape()
-{
-    const auto loupe = shown();
-    const QRegion disc = loupe->paintedShape();
-    QCOMPARE(disc.boundingRect(), QRect(0, 0, side, side));
-    QVERIFY(disc.contains(QPoint(side / 2, side / 2)));
-    QVERIFY(!disc.intersects(QRect(0, 0, 15, 15)));
-    QVERIFY(!disc.intersects(QRect(0, side - 15, 15, 15)));
-
-    // What a sheet adds counts, whenever it comes, and so does another size.
-    qApp->setStyleSheet(QStringLiteral("LoupeWidget { border: 1px solid red; }"));
-    const QRegion framed = loupe->paintedShape();
-    QVERIFY(framed.contains(QPoint(0, 0)));
-    QVERIFY(framed.contains(QPoint(side - 1, side - 1)));
-    QVERIFY(!framed.contains(QPoint(8, 8)));
-    loupe->resize(side + 20, side);
-    QVERIFY(loupe->paintedShape().contains(QPoint(side + 19, 0)));
-}
-
-// The name is written after the shape was found, and names are not equally wide.
-void tst_LoupeWidget::paintedShapeHoldsEveryName()
-{
-    qApp->setStyleSheet(QStringLiteral("LoupeWidget QLabel { qproperty-alignment: \"AlignLeft | AlignTop\";"
-                                       " color: red; }"));
-    const auto loupe = shown();
-    const QRegion shape = loupe->paintedShape();
-    for (const QColor& color :
-         {QColor(0x11, 0x11, 0x11), QColor(0xdd, 0xdd, 0xdd), QColor(0xab, 0xcd, 0xef)}) {
-        loupe->setColorName(color);
-        QImage image(loupe->size(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        loupe->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-        int written = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (qAlpha(image.pixel(x, y)) > 0) {
-                    ++written;
-                    QVERIFY2(shape.contains(QPoint(x, y)),
-                             qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
-                }
-            }
-        }
-        QVERIFY(written > 0);
-    }
-}
-
 void tst_LoupeWidget::paintsAtEverySize()
 {
     LoupeWidget loupe;
@@ -434,7 +386,6 @@ void tst_LoupeWidget::paintsAtEverySize()
         loupe.setFixedSize(size);
         loupe.show();
         loupe.grab();
-        loupe.paintedShape();
     }
 }
 

@@ -562,7 +562,8 @@ void tst_WidgetColorPickerButton::windowClosedWhilePicking()
         m_stage->window->close();
         m_button->stopPicking();
     }));
-    QCOMPARE(protocol.lines, Cancelled);
+    // The cursor is where the target was when stopPicking() ended the pick.
+    QCOMPARE(protocol.lines, Picked);
 }
 
 void tst_WidgetColorPickerButton::deletedWhilePicking_data()

@@ -1,0 +1,450 @@
+#include "TestMain.h"
+
+#include <UiComponents/ScreenReader.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+namespace {
+
+const QRgb loupeColor = qRgb(255, 0, 255);
+
+/// A screen whose compositor is as late as a test wants it: what it shows is set, and so is the time.
+class Screen : public ScreenSource
+{
+public:
+    static QRgb below(const QPoint& point)
+    {
+        return qRgb((point.x() * 7 + 1) % 256, (point.y() * 5 + 2) % 256, (point.x() + point.y()) % 256);
+    }
+    static QRgb covered(QRgb color)
+    {
+        const auto dark = [](int channel) { return channel < 128 ? channel : channel - 1; };
+        return qRgb(dark(qRed(color)), dark(qGreen(color)), dark(qBlue(color)));
+    }
+
+    Grabs grabs() const override { return kind; }
+
+    QImage grab(QScreen& /*screen*/, const QRect& area) override
+    {
+        grabbed.append(area);
+        if (isBlind) {
+            return {};
+        }
+        QImage image(area.size(), QImage::Format_RGB32);
+        for (int y = 0; y < area.height(); ++y) {
+            for (int x = 0; x < area.width(); ++x) {
+                image.setPixel(x, y, shownAt(area.topLeft() + QPoint(x, y)));
+            }
+        }
+        return image;
+    }
+
+    qint64 now() const override { return time; }
+
+    QRgb shownAt(const QPoint& point) const
+    {
+        if (loupe.contains(point)) {
+            return loupeColor;
+        }
+        const QRgb color = hasChanged ? ~below(point) | 0xff000000U : below(point);
+        return hasOverlay ? covered(color) : color;
+    }
+
+    Grabs kind = Grabs::OnceComposed;
+    bool isBlind = false;
+    bool hasOverlay = false;
+    bool hasChanged = false;
+    QRegion loupe;
+    qint64 time = 1000;
+    QVector<QRect> grabbed;
+};
+
+const QRect everything(0, 0, 800, 600);
+
+/// A reader below a window that has covered the screen for long.
+struct Settled
+{
+    explicit Settled(ScreenReader::Cover cover = ScreenReader::Cover::Overlay)
+        : reader(everything, cover, screen)
+    {
+        window.setGeometry(everything);
+        reader.paint(window, QRegion());
+        screen.hasOverlay = cover == ScreenReader::Cover::Overlay;
+        wait();
+        screen.grabbed.clear();
+    }
+
+    void wait() { screen.time += 10000; }
+
+    Screen screen;
+    ScreenReader reader;
+    QWidget window;
+};
+
+QColor corrected(QRgb seen)
+{
+    const double factor = 255.0 / 254.0;
+    return QColor::fromRgbF(qRed(seen) / 255.0 * factor, qGreen(seen) / 255.0 * factor,
+                            qBlue(seen) / 255.0 * factor);
+}
+
+constexpr int size = 13;
+
+QRgb pixelOf(const ScreenReader::Detail& detail, const QPoint& point)
+{
+    return detail.picture.toImage().pixel(point);
+}
+
+} // namespace
+
+class tst_ScreenReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void picturesAreTakenOnce();
+    void uncoveredPixelsComeFromThePicture();
+    void coveredPixelsAreCorrected();
+    void everyValueBelowTheOverlay();
+    void nothingOverTheScreenIsNotCorrected();
+    void paintedPixelsComeFromThePicture_data();
+    void paintedPixelsComeFromThePicture();
+    void eachWindowHasItsPaintings();
+    void resizedWindowCoversAnew();
+    void grabsRefreshThePicture();
+    void detailIsPutTogether();
+    void edgesOfTheScreen_data();
+    void edgesOfTheScreen();
+    void opaqueWindowsAreNotRead();
+    void windowsOfTheirOwnAreAlwaysRead();
+    void withoutAnyPicture();
+    void pointOnNoScreen();
+
+    void devicePixels_data();
+    void devicePixels();
+    void everyDevicePixel_data();
+    void everyDevicePixel();
+    void pointOfADevicePixel();
+};
+
+void tst_ScreenReader::initTestCase()
+{
+    QCOMPARE(QGuiApplication::primaryScreen()->geometry().intersected(everything), everything);
+}
+
+void tst_ScreenReader::picturesAreTakenOnce()
+{
+    Screen screen;
+    const ScreenReader reader(QRect(10, 20, 30, 40), ScreenReader::Cover::Nothing, screen);
+    QCOMPARE(screen.grabbed, QVector<QRect>({QRect(10, 20, 30, 40)}));
+    const QImage picture = reader.picture(*QGuiApplication::primaryScreen()).toImage();
+    QCOMPARE(picture.size(), QSize(30, 40));
+    QCOMPARE(picture.pixel(1, 2), Screen::below({11, 22}));
+    screen.grabbed.clear();
+    const ScreenReader elsewhere(QRect(-50, -50, 20, 20), ScreenReader::Cover::Nothing, screen);
+    QCOMPARE(screen.grabbed, QVector<QRect>());
+}
+
+// A grab may show the overlay already, or not yet.
+void tst_ScreenReader::uncoveredPixelsComeFromThePicture()
+{
+    Screen screen;
+    ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
+    screen.hasChanged = true;
+    QWidget window;
+    window.setGeometry(everything);
+    const QPoint point(200, 300);
+    for (const int elapsed : {0, 10, 400}) {
+        screen.time += elapsed;
+        QCOMPARE(reader.colorAt(point), QColor(Screen::below(point)));
+        QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
+                 QColor(Screen::below(point)));
+        // Only the first painting of a window covers the screen.
+        reader.paint(window, QRegion());
+    }
+    screen.hasOverlay = true;
+    screen.time += 400;
+    QCOMPARE(reader.colorAt(point), corrected(screen.shownAt(point)));
+}
+
+void tst_ScreenReader::coveredPixelsAreCorrected()
+{
+    Settled settled;
+    for (const QPoint& point : {QPoint(0, 0), QPoint(36, 51), QPoint(799, 599)}) {
+        const QColor expected = corrected(settled.screen.shownAt(point));
+        QCOMPARE(settled.reader.colorAt(point), expected);
+        QCOMPARE(settled.reader.around(point, size, *QGuiApplication::primaryScreen()).color, expected);
+        QCOMPARE(expected.alpha(), 255);
+    }
+    // A pixel needs no more than itself.
+    QCOMPARE(settled.screen.grabbed.first(), QRect(0, 0, 1, 1));
+}
+
+void tst_ScreenReader::everyValueBelowTheOverlay()
+{
+    Settled settled;
+    for (int x = 0; x < 256; ++x) {
+        const QColor color = settled.reader.colorAt(QPoint(x, 300));
+        const QColor below(Screen::below({x, 300}));
+        // It makes 127 and 128 one.
+        QCOMPARE(color.red(), below.red() == 127 ? 128 : below.red());
+        QCOMPARE(color.blue(), below.blue() == 127 ? 128 : below.blue());
+    }
+}
+
+void tst_ScreenReader::nothingOverTheScreenIsNotCorrected()
+{
+    Screen screen;
+    ScreenReader reader(QRegion(), ScreenReader::Cover::Nothing, screen);
+    QCOMPARE(reader.colorAt(QPoint(36, 51)), QColor(Screen::below({36, 51})));
+}
+
+void tst_ScreenReader::paintedPixelsComeFromThePicture_data()
+{
+    QTest::addColumn<int>("sinceGone");
+    QTest::addColumn<bool>("isLive");
+    QTest::newRow("there") << -1 << false;
+    QTest::newRow("just gone") << 0 << false;
+    QTest::newRow("gone two frames ago") << 33 << false;
+    QTest::newRow("gone on a slow machine") << 499 << false;
+    QTest::newRow("long gone") << 500 << true;
+}
+
+void tst_ScreenReader::paintedPixelsComeFromThePicture()
+{
+    QFETCH(int, sinceGone);
+    QFETCH(bool, isLive);
+    Settled settled;
+    const QRect loupe(100, 100, 40, 40);
+    settled.reader.paint(settled.window, loupe);
+    settled.screen.loupe = loupe;
+    settled.wait();
+    if (sinceGone >= 0) {
+        settled.reader.paint(settled.window, QRect(500, 400, 40, 40));
+        settled.screen.time += sinceGone;
+        settled.screen.loupe = sinceGone < 40 ? loupe : QRect(500, 400, 40, 40);
+    }
+    for (const QPoint& point : {loupe.topLeft(), loupe.center(), loupe.bottomRight()}) {
+        const QRgb below = Screen::below(point);
+        QCOMPARE(settled.reader.colorAt(point), isLive ? corrected(Screen::covered(below)) : QColor(below));
+    }
+    // What it has not touched is grabbed all along.
+    const QPoint beside(loupe.right() + 3, loupe.bottom() + 3);
+    QCOMPARE(settled.reader.colorAt(beside), corrected(settled.screen.shownAt(beside)));
+}
+
+void tst_ScreenReader::eachWindowHasItsPaintings()
+{
+    Settled settled;
+    QWidget second;
+    second.setGeometry(everything);
+    const QRect loupe(100, 100, 40, 40);
+    settled.reader.paint(settled.window, loupe);
+    settled.reader.paint(second, QRegion());
+    settled.wait();
+    settled.screen.loupe = loupe;
+    QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
+    // What a window that has gone has painted goes with it.
+    settled.reader.remove(settled.window);
+    settled.screen.loupe = QRegion();
+    settled.wait();
+    QCOMPARE(settled.reader.colorAt(loupe.center()), corrected(settled.screen.shownAt(loupe.center())));
+    settled.reader.remove(second);
+    QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
+}
+
+// Pixels of a native window that has grown are arbitrary.
+void tst_ScreenReader::resizedWindowCoversAnew()
+{
+    Settled settled;
+    settled.window.resize(700, 600);
+    settled.reader.paint(settled.window, QRegion());
+    const QPoint point(200, 300);
+    QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
+    settled.wait();
+    QCOMPARE(settled.reader.colorAt(point), corrected(settled.screen.shownAt(point)));
+}
+
+void tst_ScreenReader::grabsRefreshThePicture()
+{
+    Settled settled;
+    QScreen& screen = *QGuiApplication::primaryScreen();
+    const QPoint point(200, 300);
+    // 127 below the overlay is as good as 128: the picture keeps what it knows.
+    const QPoint same(18, 300);
+    QCOMPARE(qRed(Screen::below(same)), 127);
+    settled.reader.around(same, size, screen);
+    settled.screen.hasChanged = true;
+    settled.reader.around(point, size, screen);
+    settled.reader.paint(settled.window, everything);
+    QCOMPARE(settled.reader.colorAt(same).red(), 127);
+    const QColor changed(~Screen::below(point) | 0xff000000U);
+    const QColor kept = settled.reader.colorAt(point);
+    QVERIFY(qAbs(kept.red() - changed.red()) <= 1);
+    QVERIFY(qAbs(kept.green() - changed.green()) <= 1);
+    // As far as it was grabbed.
+    QCOMPARE(settled.reader.colorAt(point + QPoint(7, 0)), QColor(Screen::below(point + QPoint(7, 0))));
+}
+
+void tst_ScreenReader::detailIsPutTogether()
+{
+    Settled settled;
+    const QPoint point(200, 300);
+    // Over the upper right quarter of what is asked for.
+    const QRect loupe(201, 250, 50, 50);
+    settled.reader.paint(settled.window, loupe);
+    settled.screen.loupe = loupe;
+    settled.wait();
+    const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+    QCOMPARE(detail.picture.size(), QSize(size, size));
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const QPoint at = point + QPoint(x - 6, y - 6);
+            const bool isKept = loupe.adjusted(-1, -1, 1, 1).contains(at);
+            QCOMPARE(pixelOf(detail, {x, y}),
+                     isKept ? Screen::below(at) : Screen::covered(Screen::below(at)));
+        }
+    }
+    QCOMPARE(settled.screen.grabbed.size(), 1);
+}
+
+void tst_ScreenReader::edgesOfTheScreen_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::newRow("top left") << QPoint(0, 0);
+    QTest::newRow("bottom right") << QGuiApplication::primaryScreen()->geometry().bottomRight();
+    QTest::newRow("left") << QPoint(3, 300);
+    QTest::newRow("top") << QPoint(300, 5);
+}
+
+void tst_ScreenReader::edgesOfTheScreen()
+{
+    QFETCH(QPoint, point);
+    Settled settled;
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const QPoint at = point + QPoint(x - 6, y - 6);
+            QCOMPARE(pixelOf(detail, {x, y}), screen.contains(at) ? Screen::covered(Screen::below(at)) : 0U);
+        }
+    }
+    QCOMPARE(detail.color, corrected(settled.screen.shownAt(point)));
+    QVERIFY(screen.contains(settled.screen.grabbed.first()));
+}
+
+void tst_ScreenReader::opaqueWindowsAreNotRead()
+{
+    Settled settled;
+    settled.screen.kind = ScreenSource::Grabs::Never;
+    const QPoint point(200, 300);
+    QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
+    const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+    QCOMPARE(detail.color, QColor(Screen::below(point)));
+    QCOMPARE(pixelOf(detail, {6, 6}), Screen::below(point));
+    QCOMPARE(settled.screen.grabbed, QVector<QRect>());
+}
+
+void tst_ScreenReader::windowsOfTheirOwnAreAlwaysRead()
+{
+    Screen screen;
+    screen.kind = ScreenSource::Grabs::Always;
+    ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
+    QCOMPARE(screen.grabbed, QVector<QRect>());
+    const QPoint point(200, 300);
+    QCOMPARE(reader.colorAt(point), corrected(Screen::below(point)));
+    QVERIFY(reader.picture(*QGuiApplication::primaryScreen()).isNull());
+}
+
+void tst_ScreenReader::withoutAnyPicture()
+{
+    Screen screen;
+    screen.isBlind = true;
+    const QPoint point(200, 300);
+    ScreenReader covered(everything, ScreenReader::Cover::Overlay, screen);
+    QCOMPARE(covered.colorAt(point), QColor(Qt::black));
+    const auto detail = covered.around(point, size, *QGuiApplication::primaryScreen());
+    QVERIFY(detail.picture.isNull());
+    QCOMPARE(detail.color, QColor(Qt::black));
+    ScreenReader bare(everything, ScreenReader::Cover::Nothing, screen);
+    QVERIFY(!bare.colorAt(point).isValid());
+
+    // A large area without a picture says nothing of a single pixel.
+    class OnePixel : public Screen
+    {
+        QImage grab(QScreen& of, const QRect& area) override
+        {
+            return area.size() == QSize(1, 1) ? Screen::grab(of, area) : QImage();
+        }
+    } onePixel;
+    onePixel.kind = ScreenSource::Grabs::Always;
+    ScreenReader reader(everything, ScreenReader::Cover::Overlay, onePixel);
+    QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
+             corrected(Screen::below(point)));
+}
+
+void tst_ScreenReader::pointOnNoScreen()
+{
+    Settled settled;
+    QVERIFY(!settled.reader.colorAt(QPoint(-100, 5000)).isValid());
+}
+
+void tst_ScreenReader::devicePixels_data()
+{
+    QTest::addColumn<QPointF>("position");
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QRect>("area");
+    QTest::addColumn<QPoint>("index");
+    QTest::newRow("1") << QPointF(7, 9) << 1.0 << QRect(7, 9, 1, 1) << QPoint(0, 0);
+    QTest::newRow("2, a whole point") << QPointF(7, 9) << 2.0 << QRect(7, 9, 1, 1) << QPoint(0, 0);
+    QTest::newRow("2, between two") << QPointF(7.5, 9.5) << 2.0 << QRect(7, 9, 1, 1) << QPoint(1, 1);
+    QTest::newRow("1.5, a whole point") << QPointF(3, 2) << 1.5 << QRect(3, 2, 1, 1) << QPoint(0, 0);
+    QTest::newRow("1.5, pixel 4") << QPointF(4 / 1.5, 0) << 1.5 << QRect(2, 0, 1, 1) << QPoint(1, 0);
+    QTest::newRow("1.25, pixel 1") << QPointF(1 / 1.25, 0) << 1.25 << QRect(0, 0, 2, 2) << QPoint(1, 0);
+    QTest::newRow("the corner") << QPointF(0, 0) << 3.0 << QRect(0, 0, 1, 1) << QPoint(0, 0);
+}
+
+void tst_ScreenReader::devicePixels()
+{
+    QFETCH(QPointF, position);
+    QFETCH(double, ratio);
+    const DevicePixel pixel = devicePixelAt(position, ratio);
+    QTEST(pixel.area, "area");
+    QTEST(pixel.index, "index");
+}
+
+void tst_ScreenReader::everyDevicePixel_data()
+{
+    QTest::addColumn<double>("ratio");
+    for (const double ratio : {0.5, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.25, 2.5, 3.0, 4.0}) {
+        QTest::addRow("%g", ratio) << ratio;
+    }
+}
+
+// QScreen::grabWindow() rounds the corner and the size to pixels.
+void tst_ScreenReader::everyDevicePixel()
+{
+    QFETCH(double, ratio);
+    for (int place = 0; place < 3000; ++place) {
+        const DevicePixel pixel = devicePixelAt(QPointF(place / ratio, 0), ratio);
+        QCOMPARE(qRound(pixel.area.x() * ratio) + pixel.index.x(), place);
+        QVERIFY(pixel.index.x() >= 0);
+        QVERIFY(pixel.index.x() < qRound(pixel.area.width() * ratio));
+        QCOMPARE(pixel.index.y(), 0);
+    }
+}
+
+void tst_ScreenReader::pointOfADevicePixel()
+{
+    QCOMPARE(pointAt(QPointF(7.5, 9.9)), QPoint(7, 9));
+    QCOMPARE(pointAt(QPointF(-0.5, -1)), QPoint(-1, -1));
+    // The quotient of a pixel and a ratio may be a little less than it should.
+    QCOMPARE(pointAt(QPointF(6.9999999, 9)), QPoint(7, 9));
+}
+
+UIC_TEST_MAIN(tst_ScreenReader)
+#include "tst_ScreenReader.moc"
