@@ -1,6 +1,6 @@
-#pragma once
-
 // Internal: the picking cursor that WidgetColorPicker lends to its target.
+
+#pragma once
 
 #include <QCursor>
 #include <QPointer>

@@ -1,6 +1,6 @@
-#pragma once
-
 // Internal: what WidgetColorPicker leaves behind when it keeps a press from its receiver.
+
+#pragma once
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
-#pragma once
+// Internal: the rows of a combo box that convertComboBoxToTessel() converted.
 
-// Internal to DesignElements: the rows of a combo box that convertComboBoxToTessel() converted.
+#pragma once
 
 #include <QStyledItemDelegate>
 

@@ -1,6 +1,6 @@
-#pragma once
-
 // Internal: the geometry of PointingWidget, without a widget.
+
+#pragma once
 
 #include <EditorWidgets/PointingWidget.h>
 

@@ -1,6 +1,6 @@
-#pragma once
-
 // Internal: what Workaround::Ui::apply() attaches to a widget.
+
+#pragma once
 
 #include <QObject>
 

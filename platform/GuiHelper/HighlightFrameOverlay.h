@@ -1,8 +1,8 @@
-#pragma once
-
 // Internal: the outline that HighlightFrame lays over its target.
 // Its properties are written by style sheets, and nobody waits for them to change.
 // clazy:excludeall=qproperty-without-notify
+
+#pragma once
 
 #include <QColor>
 #include <QWidget>

@@ -1,6 +1,6 @@
-#pragma once
+// Internal: what Util::installLayoutController() attaches.
 
-// Internal to WidgetToolkit: what Util::installLayoutController() attaches.
+#pragma once
 
 #include "LayoutController.h"
 #include "PropertyProviderBase.h"

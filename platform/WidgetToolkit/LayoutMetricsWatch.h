@@ -1,7 +1,7 @@
-#pragma once
+// Internal: how OvBoxLayout and OvGridLayout tell the controller of their owner, at once, that code gave them
+// other metrics.
 
-// Internal to WidgetToolkit: how OvBoxLayout and OvGridLayout tell the controller of their owner, at once,
-// that code gave them other metrics.
+#pragma once
 
 #include <QEvent>
 #include <QMargins>

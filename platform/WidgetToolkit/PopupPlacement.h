@@ -1,6 +1,6 @@
-#pragma once
+// Internal: where OvComboBox puts its pop-up.
 
-// Internal to WidgetToolkit: where OvComboBox puts its pop-up.
+#pragma once
 
 #include <QRect>
 

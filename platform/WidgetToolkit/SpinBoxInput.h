@@ -1,6 +1,6 @@
-#pragma once
+// Internal: the input habits that OvSpinBox and OvDoubleSpinBox share.
 
-// Internal to WidgetToolkit: the input habits that OvSpinBox and OvDoubleSpinBox share.
+#pragma once
 
 class QAbstractSpinBox;
 class QKeyEvent;

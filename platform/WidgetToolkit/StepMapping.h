@@ -1,7 +1,6 @@
-#pragma once
+// Internal: the arithmetic between slider steps and values, used by OvDoubleSlider and WidgetBinding.
 
-// Internal to WidgetToolkit: the arithmetic between slider steps and values, used by OvDoubleSlider and
-// WidgetBinding.
+#pragma once
 
 /**
  * Values of a slider that counts in steps, and their reading with a number of decimals.

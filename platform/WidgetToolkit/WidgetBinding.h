@@ -1,6 +1,6 @@
-#pragma once
+// Internal: what Util::bindWidgets() makes.
 
-// Internal to WidgetToolkit: what Util::bindWidgets() makes.
+#pragma once
 
 #include <QObject>
 
