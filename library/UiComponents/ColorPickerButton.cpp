@@ -122,12 +122,17 @@ void ColorPickerButton::Private::release()
 void ColorPickerButton::Private::updateStyle()
 {
     const QColor shown = color.value_or(QColor());
-    Util::applyProperty(owner, "nullColor", color.has_value() && !color->isValid());
+    const bool isNone = color.has_value() && !color->isValid();
+    const bool wasNone = owner->property("nullColor").toBool();
+    Util::applyProperty(owner, "nullColor", isNone);
     Util::applyProperty(owner, "multiColor", !color.has_value());
 
     const QString sheet = faceStyleSheet(shown, owner->isEnabled());
     if (face->styleSheet() != sheet) {
         face->setStyleSheet(sheet);
+    } else if (isNone != wasNone) {
+        // Both states have the same transparent sheet, but an application's rules may tell them apart.
+        Util::repolishWidget(face);
     }
 }
 

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void valueKeepsAlpha();
     void setColorOfItsOwnValue();
     void selectorsTakeEffectAtOnce();
+    void facesSelectorsTakeEffectAtOnce();
 
     void clickWithoutPicker();
     void pickFromClickToColor();
@@ -327,6 +328,24 @@ void tst_ColorPickerButton::selectorsTakeEffectAtOnce()
     QCOMPARE(button.text(), QStringLiteral("blank"));
     button.setColor(QColor(Qt::red));
     QCOMPARE(button.text(), QStringLiteral("colour"));
+}
+
+// Without a colour, the face has one and the same sheet in both states.
+void tst_ColorPickerButton::facesSelectorsTakeEffectAtOnce()
+{
+    ColorPickerButton button;
+    button.setStyleSheet(
+        QStringLiteral("ColorPickerButton #color { qproperty-toolTip: colour; }"
+                       "ColorPickerButton[nullColor=\"true\"] #color { qproperty-toolTip: blank; }"
+                       "ColorPickerButton[multiColor=\"true\"] #color { qproperty-toolTip: several; }"));
+    faceOf(button)->ensurePolished();
+    QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("several"));
+    button.setColor(QColor());
+    QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("blank"));
+    button.setColor(std::nullopt);
+    QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("several"));
+    button.setColor(QColor(Qt::red));
+    QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("colour"));
 }
 
 void tst_ColorPickerButton::clickWithoutPicker()
