@@ -102,7 +102,11 @@ void ColorPickerButton::Private::adoptResult(AbstractColorPicker* from)
     const QPointer<AbstractColorPicker> source = from;
     Q_EMIT owner->pickingStopped();
     if (button && source) {
-        button->setColor(source->color());
+        // A host's picker may delete the button while it is asked.
+        const std::optional<QColor> result = source->color();
+        if (button) {
+            button->setColor(result);
+        }
     }
     if (button) {
         isPressedByPick = false;

@@ -123,6 +123,7 @@ private Q_SLOTS:
     void buttonDeletedInASlot_data();
     void buttonDeletedInASlot();
     void buttonDeletedByAClick();
+    void buttonDeletedByItsPickersColor();
 };
 
 void tst_ColorPickerButton::metaObject()
@@ -918,6 +919,27 @@ void tst_ColorPickerButton::buttonDeletedByAClick()
     QTest::mouseClick(button.data(), Qt::LeftButton);
     QVERIFY(!button);
     QVERIFY(memory.deleted() > 0);
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+}
+
+void tst_ColorPickerButton::buttonDeletedByItsPickersColor()
+{
+    class Picker : public FakeColorPicker
+    {
+    public:
+        std::optional<QColor> color() override
+        {
+            delete parent();
+            return QColor(Qt::red);
+        }
+    };
+    const QPointer<ColorPickerButton> button = new ColorPickerButton;
+    auto* picker = new Picker;
+    button->setPicker(picker);
+    button->startPicking();
+    const FreedMemoryWatch memory;
+    picker->finish(QColor(Qt::red));
+    QVERIFY(!button);
     QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
