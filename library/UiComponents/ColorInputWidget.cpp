@@ -40,7 +40,12 @@ ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)
     connect(d->button, &ColorPickerButton::colorChanged, this, &ColorInputWidget::colorChanged);
 }
 
-ColorInputWidget::~ColorInputWidget() = default;
+ColorInputWidget::~ColorInputWidget()
+{
+    // A visible window hides itself while it is destroyed, which ends a running pick; by then the field is a
+    // mere QWidget.
+    d->button->disconnect(this);
+}
 
 void ColorInputWidget::setColor(const QColor& color)
 {

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void pickIsRelayed();
     void pickerIsTheButtons();
     void deletedInItsOwnSignal();
+    void deletedWhileItsPickerRuns();
     void labelBuddyReachesTheButton();
     void tabStopsOnceAtTheButton();
 };
@@ -144,6 +145,24 @@ void tst_ColorInputWidget::deletedInItsOwnSignal()
     buttonOf(*field)->click();
     picker->finish(QColor(Qt::green));
     QVERIFY(!field);
+}
+
+// As a window, the field is hidden by the destructor of QWidget, which stops the picker.
+void tst_ColorInputWidget::deletedWhileItsPickerRuns()
+{
+    auto* field = new ColorInputWidget(nullptr, Qt::red);
+    auto* picker = new FakeColorPicker;
+    field->setPicker(picker);
+    field->show();
+    buttonOf(*field)->click();
+    picker->preview(QColor(Qt::green));
+    field->setColor(Qt::red);
+    int reports = 0;
+    connect(field, &ColorInputWidget::colorChanged, this, [&reports] { ++reports; });
+    QPointer<FakeColorPicker> alive = picker;
+    delete field;
+    QVERIFY(!alive);
+    QCOMPARE(reports, 0);
 }
 
 void tst_ColorInputWidget::labelBuddyReachesTheButton()
