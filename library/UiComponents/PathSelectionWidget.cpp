@@ -366,7 +366,9 @@ void PathSelectionWidget::setPath(const QString& path)
     const OwnWriting writing(this, &d->settingPath);
     bool isResettable = true;
     if (d->isDefaultPathShownByText(newPath)) {
-        if (!d->writeText(d->defaultDisplayText)) {
+        // The user may be typing on to another path.
+        const bool isBeingTyped = d->pathLineEdit->hasFocus() && d->pathLineEdit->text() == newPath;
+        if (!isBeingTyped && !d->writeText(d->defaultDisplayText)) {
             return;
         }
         d->scheduler.schedule();

@@ -25,7 +25,7 @@ class QUrl;
  *
  * **The default path** can have a text of its own, which the line edit shows instead of it. While the line
  * edit has the keyboard and the path is the default path, it is empty, and the path stays what it is until
- * something is typed. Typing the default path to its end shows the text too. The text is shown for whatever
+ * something is typed. What is typed stays as it is, also the default path: the text is shown for whatever
  * path equals the default path when the keyboard leaves, also for two empty ones. The reset button shows
  * only with a default path, and is disabled while the path is one that is shown by its text.
  *

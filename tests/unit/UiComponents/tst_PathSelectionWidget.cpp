@@ -237,7 +237,7 @@ private Q_SLOTS:
     void pathOfAnyForm_data();
     void pathOfAnyForm();
     void typingIsThePath();
-    void typingTheDefaultPathShowsItsText();
+    void typingThroughTheDefaultPath();
 
     void burstIsMerged();
     void timerIsNotRestarted();
@@ -545,14 +545,34 @@ void tst_PathSelectionWidget::typingIsThePath()
     QCOMPARE(field.path(), QString());
 }
 
-void tst_PathSelectionWidget::typingTheDefaultPathShowsItsText()
+// Its text would take the place of what is typed, and the next key would make a path of that.
+void tst_PathSelectionWidget::typingThroughTheDefaultPath()
 {
-    PathSelectionWidget field(nullptr);
-    field.setDefaultPath(QStringLiteral("/ab"), folderText);
-    QTest::keyClicks(editOf(field), QStringLiteral("/ab"));
-    QCOMPARE(field.path(), QStringLiteral("/ab"));
-    QCOMPARE(editOf(field)->text(), folderText);
-    QVERIFY(!resetOf(field)->isEnabled());
+    Clock clock;
+    Window window;
+    window.field->setDefaultPath(QStringLiteral("/ab"), folderText);
+    QVERIFY(window.present());
+    QSignalSpy changed(window.field, &PathSelectionWidget::pathChanged);
+    window.edit()->setFocus();
+    QTest::keyClicks(window.edit(), QStringLiteral("/ab"));
+    QCOMPARE(window.edit()->text(), QStringLiteral("/ab"));
+    QCOMPARE(window.field->path(), QStringLiteral("/ab"));
+    QVERIFY(!resetOf(*window.field)->isEnabled());
+
+    QTest::keyClicks(window.edit(), QStringLiteral("/c"));
+    QCOMPARE(window.edit()->text(), QStringLiteral("/ab/c"));
+    QCOMPARE(window.field->path(), QStringLiteral("/ab/c"));
+    QVERIFY(resetOf(*window.field)->isEnabled());
+
+    QTest::keyClick(window.edit(), Qt::Key_Backspace);
+    QTest::keyClick(window.edit(), Qt::Key_Backspace);
+    clock.finish();
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.first().first().toString(), QStringLiteral("/ab"));
+    QCOMPARE(window.edit()->text(), QStringLiteral("/ab"));
+    window.other->setFocus();
+    QCOMPARE(window.edit()->text(), folderText);
+    QCOMPARE(window.field->path(), QStringLiteral("/ab"));
 }
 
 void tst_PathSelectionWidget::burstIsMerged()
