@@ -667,10 +667,8 @@ void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
 {
     selectorColor = opaque(color);
     currentColor = color;
+    takeSliderAlpha();
     isFollowing = true;
-    if (opacityAdjustmentAvailable) {
-        setSliderToAlpha();
-    }
     updateColorButtonsCheckState();
     // A button that is found leaves them to the handler, which keeps still.
     updateColorValueWidgets();

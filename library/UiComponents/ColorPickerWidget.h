@@ -30,11 +30,12 @@
  * - The opacity slider, or the spin box beside it, gives the current colour its alpha. As long as opacity
  *   can be adjusted, a colour that is chosen or typed takes the slider's. A spin box that was emptied
  *   becomes 0 %, and that is reported, when it loses the focus or is hidden, or when the chooser opens.
- * - The add button opens the chooser, a pop-up to the right of the button that never leaves its screen. It
- *   begins at the current colour (black if there is none), and the current colour follows it, exactly as it
- *   is reported. A click elsewhere, Escape and Enter close it, and the keyboard is at the add button again.
- *   Closing it adds the current colour to the user's own (see Util::appendCustomColor()), unless it is there
- *   already or in the palette. Hiding the panel does both too, but does not report the colour that it adds.
+ * - The add button opens the chooser, a pop-up to the right of the button, or to its left where there is no
+ *   room, that never leaves its screen. It begins at the current colour (black if there is none), and the
+ *   current colour follows it, exactly as it is reported. A click elsewhere, Escape and Enter close it, and
+ *   the keyboard is at the add button again. Closing it adds the current colour to the user's own (see
+ *   Util::appendCustomColor()), unless it is there already or in the palette. Hiding the panel does both too,
+ *   but does not report the colour that it adds.
  *
  * The panel never picks from the screen itself: the host does, and sets the result with setCurrentColor().
  *
@@ -112,7 +113,7 @@ Q_SIGNALS:
     ///   one and it becomes checked;
     /// - once for each step of the opacity slider while there is a colour or no colour, but not while there
     ///   are several;
-    /// - once for each report of the chooser, with the colour as it stands there: opaque;
+    /// - once for each report of the chooser;
     /// - once for a colour that is added to the user's own, by its new button, as any button reports it;
     /// - by setCurrentColor(), setOpacityAdjustmentAvailable() and, where another panel has added the
     ///   current colour, by showing the panel, as far as they move the slider or check a button.

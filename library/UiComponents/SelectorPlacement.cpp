@@ -2,10 +2,14 @@
 
 QPoint SelectorPlacement::besideButton(const QRect& button, const QSize& size, int offset, const QRect& area)
 {
-    const QPoint wanted(button.x() + button.width() + offset, button.y() + button.height() - size.height());
+    QPoint wanted(button.x() + button.width() + offset, button.y() + button.height() - size.height());
     if (area.isEmpty()) {
         return wanted;
     }
     const QPoint last(area.x() + area.width() - size.width(), area.y() + area.height() - size.height());
+    const int left = button.x() - offset - size.width();
+    if (wanted.x() > last.x() && left >= area.x()) {
+        wanted.setX(left);
+    }
     return {qMax(area.x(), qMin(wanted.x(), last.x())), qMax(area.y(), qMin(wanted.y(), last.y()))};
 }

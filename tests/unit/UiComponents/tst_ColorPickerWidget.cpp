@@ -1408,9 +1408,12 @@ void tst_ColorPickerWidget::popupStaysOnTheScreen()
     const QRect area = panel.screen()->availableGeometry();
     panel.show();
     for (const QPoint& corner : {area.topLeft(), area.bottomRight()}) {
-        panel.move(corner - panel.rect().center());
+        panel.move(corner - panel.addButton->mapTo(&panel, panel.addButton->rect().center()));
         panel.openPopup();
         QVERIFY(area.contains(panel.popup()->geometry()));
+        // It leaves the button to be seen, and clicked again.
+        const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
+        QVERIFY(!button.intersects(panel.popup()->geometry()));
         panel.popup()->close();
     }
 }
@@ -1445,7 +1448,9 @@ void tst_ColorPickerWidget::popupBeginsAtTheColor()
     QTest::keyClick(panel.plane(), atTheRight ? Qt::Key_Left : Qt::Key_Right);
     const QSize size = panel.plane()->size();
     const QPoint place = atTheRight ? QPoint(size.width() - 2, 0) : QPoint(1, size.height() - 1);
-    QCOMPARE(panel.log(), QStringList{text(panel.planeColor(hue, place))});
+    QColor expected = panel.planeColor(hue, place);
+    expected.setAlphaF(panel.slider->doubleValue());
+    QCOMPARE(panel.log(), QStringList{text(expected)});
     panel.popup()->close();
 }
 
@@ -1508,9 +1513,14 @@ void tst_ColorPickerWidget::colorFollowsThePopup()
     }
     panel.openPopup();
     panel.log();
-    const QString first = text(panel.planeColor(240, {50, 20}));
-    const QString second = text(panel.planeColor(240, {60, 30}));
-    const int slider = adjustable ? 100 : 30;
+    const auto chosen = [&panel, adjustable](int hue, const QPoint& point) {
+        QColor color = panel.planeColor(hue, point);
+        color.setAlphaF(adjustable ? 0.5 : 1.0);
+        return text(color);
+    };
+    const QString first = chosen(240, {50, 20});
+    const QString second = chosen(240, {60, 30});
+    const int slider = adjustable ? 50 : 30;
 
     panel.pressPlane({50, 20});
     QCOMPARE(panel.log(), QStringList{first});
@@ -1525,7 +1535,7 @@ void tst_ColorPickerWidget::colorFollowsThePopup()
     QCOMPARE(text(panel.currentColor()), second);
 
     panel.hueSlider()->setValue(0);
-    const QString third = text(panel.planeColor(0, {60, 30}));
+    const QString third = chosen(0, {60, 30});
     QCOMPARE(panel.log(), QStringList{third});
     panel.popup()->close();
     const QString added = QLatin1Char('#') + third.mid(3);
@@ -1545,12 +1555,12 @@ void tst_ColorPickerWidget::popupMeetsAPaletteColor()
     panel.log();
     // Pure red is in the corner, white in the other.
     panel.pressPlane({panel.plane()->width() - 1, 0});
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffff0000")});
+    QCOMPARE(panel.log(), QStringList{QStringLiteral("#80ff0000")});
     QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
     panel.releasePlane({panel.plane()->width() - 1, 0});
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffff0000")});
+    QCOMPARE(panel.log(), QStringList{QStringLiteral("#80ff0000")});
     panel.clickPlane({0, 0});
-    QCOMPARE(panel.log(), QStringList({QStringLiteral("#ffffffff"), QStringLiteral("#ffffffff")}));
+    QCOMPARE(panel.log(), QStringList({QStringLiteral("#80ffffff"), QStringLiteral("#80ffffff")}));
     QCOMPARE(panel.checked(), QStringLiteral("#ffffff"));
     panel.clickPlane({40, 40});
     QCOMPARE(panel.checked(), QString());

@@ -29,7 +29,15 @@ void tst_SelectorPlacement::besideButton_data()
     QTest::newRow("just fits at the right")
         << QRect(780, 500, 20, 10) << size << 0 << screen << QPoint(800, 210);
     QTest::newRow("sticks out at the right")
-        << QRect(781, 500, 20, 10) << size << 0 << screen << QPoint(800, 210);
+        << QRect(781, 500, 20, 10) << size << 0 << screen << QPoint(581, 210);
+    QTest::newRow("sticks out at the right, shifted")
+        << QRect(781, 500, 20, 10) << size << 7 << screen << QPoint(574, 210);
+    QTest::newRow("just fits at the left")
+        << QRect(200, 500, 20, 10) << size << 0 << QRect(0, 0, 400, 800) << QPoint(0, 210);
+    QTest::newRow("fits on neither side")
+        << QRect(199, 500, 20, 10) << size << 0 << QRect(0, 0, 400, 800) << QPoint(200, 210);
+    QTest::newRow("button right of the screen")
+        << QRect(1300, 500, 20, 10) << size << 0 << screen << QPoint(800, 210);
     QTest::newRow("just fits at the top") << QRect(400, 290, 20, 10) << size << 0 << screen << QPoint(420, 0);
     QTest::newRow("sticks out at the top")
         << QRect(400, 289, 20, 10) << size << 0 << screen << QPoint(420, 0);
@@ -38,7 +46,7 @@ void tst_SelectorPlacement::besideButton_data()
     QTest::newRow("button left of the screen")
         << QRect(-90, 500, 20, 10) << size << 0 << screen << QPoint(0, 210);
     QTest::newRow("another screen, at negative places")
-        << QRect(-60, -300, 20, 10) << size << 0 << QRect(-1000, -800, 1000, 800) << QPoint(-200, -590);
+        << QRect(-60, -300, 20, 10) << size << 0 << QRect(-1000, -800, 1000, 800) << QPoint(-260, -590);
     QTest::newRow("a panel at the left of the screen takes room")
         << QRect(10, 500, 20, 10) << size << 0 << QRect(64, 32, 936, 768) << QPoint(64, 210);
     QTest::newRow("wider than the screen") << button << QSize(1200, 300) << 0 << screen << QPoint(0, 210);
