@@ -65,8 +65,8 @@
         <translation>Ein Name im Pfad ist zu lang: %1</translation>
     </message>
     <message>
-        <source>A file is in the place of a folder: %1</source>
-        <translation>Anstelle eines Ordners steht eine Datei: %1</translation>
+        <source>There is something else in the place of a folder: %1</source>
+        <translation>Anstelle eines Ordners steht etwas anderes: %1</translation>
     </message>
 </context>
 <context>

@@ -65,8 +65,8 @@
         <translation>パスに含まれる名前が長すぎます: %1</translation>
     </message>
     <message>
-        <source>A file is in the place of a folder: %1</source>
-        <translation>フォルダーの位置にファイルがあります: %1</translation>
+        <source>There is something else in the place of a folder: %1</source>
+        <translation>フォルダーの位置に別のものがあります: %1</translation>
     </message>
 </context>
 <context>

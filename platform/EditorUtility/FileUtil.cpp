@@ -36,7 +36,7 @@ public:
         }
         return {};
     }
-    static QString blocked() { return tr("A file is in the place of a folder: %1"); }
+    static QString blocked() { return tr("There is something else in the place of a folder: %1"); }
 };
 
 } // namespace

@@ -10,8 +10,8 @@
  *
  * Paths are local, in Qt's form with "/", absolute or relative to the current folder, and name folders.
  * Nothing is expanded ("~", variables), URLs and resources (":/...") are not paths here, and new lines,
- * markup and other odd characters are part of the names. A link counts as what it leads to; one that
- * leads nowhere counts as missing. What the process is not allowed to see is missing for it.
+ * markup and other odd characters are part of the names. A link counts as what it leads to. What the
+ * process is not allowed to see is missing for it.
  *
  * Every call asks the disk anew, and a slow or sleeping disk takes its time: do not call from code that
  * runs at every key press.
@@ -33,7 +33,8 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(Operations)
  * - the empty path and resources;
  * - a path with a NUL in it, or with characters that the file system's encoding cannot store;
  * - a path longer than 4,095 bytes in that encoding, or a name in it longer than 255;
- * - a path with a file (or a device or the like) in place of a folder, at its end or on the way.
+ * - a path with a file, a device, a link that leads nowhere or the like in place of a folder, at its end
+ *   or on the way.
  *
  * A relative path is valid on the same terms. @p error, unless it is null, receives a translated message
  * for the user (context "FileUtil") when the path is not valid, and is left as it is otherwise. The

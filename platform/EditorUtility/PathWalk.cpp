@@ -96,12 +96,15 @@ PathWalk::Result PathWalk::walk(const QString& path)
             continue;
         }
         const QString next = below(result.closest, part);
-        const bool isThere = missing == 0 && isStorable(part) && QFileInfo::exists(next);
-        if (isThere && QFileInfo(next).isDir()) {
-            result.closest = next;
-            continue;
+        if (missing == 0 && isStorable(part)) {
+            const QFileInfo entry(next);
+            if (entry.isDir()) {
+                result.closest = next;
+                continue;
+            }
+            // A link that leads nowhere does not exist for Qt, and no folder can be made in its place.
+            result.isBlocked = result.isBlocked || entry.exists() || entry.isSymLink();
         }
-        result.isBlocked = result.isBlocked || isThere;
         ++missing;
     }
     if (result.closest.isEmpty()) {

@@ -19,7 +19,7 @@ Form form(const QString& path);
 struct Result
 {
     QString closest;        ///< the nearest existing folder, clean
-    bool isBlocked = false; ///< something that is no folder stands on the way
+    bool isBlocked = false; ///< something that is no folder, maybe a link to nowhere, stands on the way
 };
 
 /// Follows @p path on disk, part by part. A part that cannot be stored is missing.

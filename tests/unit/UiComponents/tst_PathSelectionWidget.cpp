@@ -904,7 +904,8 @@ void tst_PathSelectionWidget::checkOfPaths_data()
     QTest::newRow("folder") << QStringLiteral("%1/folder") << none;
     QTest::newRow("link to a folder") << QStringLiteral("%1/link") << none;
     QTest::newRow("missing, made in its closest folder") << QStringLiteral("%1/folder/a/b/c") << none;
-    QTest::newRow("dangling link") << QStringLiteral("%1/dangling") << none;
+    QTest::newRow("dangling link") << QStringLiteral("%1/dangling") << theirs;
+    QTest::newRow("below a dangling link") << QStringLiteral("%1/dangling/x") << theirs;
     QTest::newRow("markup and a new line in the name") << QStringLiteral("%1/<b>bold</b>\nline") << none;
     QTest::newRow("empty") << QString() << theirs;
     QTest::newRow("file") << QStringLiteral("%1/file") << theirs;

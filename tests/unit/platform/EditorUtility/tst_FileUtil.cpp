@@ -121,8 +121,9 @@ void tst_FileUtil::validity_data()
     QTest::newRow("odd characters") << QStringLiteral("<b>a\nb&amp;") << true;
     QTest::newRow("missing, with odd characters") << QStringLiteral("new\nline <i>&") << true;
     QTest::newRow("link to a folder") << QStringLiteral("link/inner") << true;
-    QTest::newRow("dangling link") << QStringLiteral("dangling/x") << true;
-    QTest::newRow("circular link") << QStringLiteral("circle/x") << true;
+    QTest::newRow("dangling link") << QStringLiteral("dangling") << false;
+    QTest::newRow("dangling link on the way") << QStringLiteral("dangling/x") << false;
+    QTest::newRow("circular link") << QStringLiteral("circle/x") << false;
     QTest::newRow("file at the end") << QStringLiteral("file") << false;
     QTest::newRow("file with a slash") << QStringLiteral("file/") << false;
     QTest::newRow("file on the way") << QStringLiteral("file/below") << false;
@@ -167,8 +168,9 @@ void tst_FileUtil::messagesHoldThePathAsItStands_data()
     QTest::newRow("name too long") << longName
                                    << QStringLiteral("A name in the path is too long: ") + longName;
     QTest::newRow("path too long") << longPath << QStringLiteral("The path is too long: ") + longPath;
-    QTest::newRow("file") << QStringLiteral("/dev/null/<b>%1&amp;\n%2")
-                          << QStringLiteral("A file is in the place of a folder: /dev/null/<b>%1&amp;\n%2");
+    QTest::newRow("file")
+        << QStringLiteral("/dev/null/<b>%1&amp;\n%2")
+        << QStringLiteral("There is something else in the place of a folder: /dev/null/<b>%1&amp;\n%2");
 }
 
 void tst_FileUtil::messagesHoldThePathAsItStands()
