@@ -4,9 +4,11 @@
 #include <UiComponents/PathSelectionWidget.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileDialog>
-#include <QStorageInfo>
 #include <QUrl>
+
+#include <filesystem>
 
 namespace {
 
@@ -30,8 +32,11 @@ void browse(PathSelectionWidget* field, const QUrl& url)
 
 qint64 freeSpace(const QString& path)
 {
-    const QStorageInfo storage(FileUtil::closestPath(path));
-    return storage.isValid() ? storage.bytesAvailable() : -1;
+    // Not QStorageInfo, which knows only what is in the mount table.
+    const QByteArray folder = QFile::encodeName(FileUtil::closestPath(path));
+    std::error_code error;
+    const auto space = std::filesystem::space(folder.constData(), error);
+    return error ? -1 : static_cast<qint64>(space.available);
 }
 
 } // namespace
