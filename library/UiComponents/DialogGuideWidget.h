@@ -65,6 +65,8 @@ public:
     void setCloseButtonVisible(bool visible);
     void setSecondaryButtonVisible(bool visible);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// The user, or click(), pressed the button of the name.
     void secondaryClicked();
@@ -81,7 +83,6 @@ protected:
     /// side does, or paints would follow each other for ever.
     virtual void adjustPositions();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;

@@ -117,6 +117,8 @@ public:
     /// The same for the space that is available.
     void showAvailableSpace(bool visible, qint64 bytes);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// The path was changed within the last 100 ms or a little more, and is @p path now; see above. Error
     /// mark and label go after all slots have run.
@@ -127,7 +129,6 @@ Q_SIGNALS:
     void browseDirectoryRequested(const QUrl& url);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

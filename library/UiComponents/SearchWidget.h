@@ -81,6 +81,8 @@ public:
     QColor GetPlaceholderDisabledColor() const { return m_placeholderDisabledColor; }
     /// @}
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// An edit was finished by Enter or by leaving the field, and @p text is another one than was reported
     /// the last time; it may be empty. Not emitted by clear() or the button themselves.
@@ -90,7 +92,6 @@ Q_SIGNALS:
     void textChanged(const QString& text);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

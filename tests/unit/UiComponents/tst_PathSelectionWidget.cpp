@@ -855,10 +855,10 @@ void tst_PathSelectionWidget::eventsAreNotConsumed()
     PathSelectionWidget field(nullptr);
     for (const auto type : {QEvent::FocusIn, QEvent::FocusOut}) {
         QFocusEvent event(type);
-        QVERIFY(!static_cast<QObject&>(field).eventFilter(editOf(field), &event));
+        QVERIFY(!field.eventFilter(editOf(field), &event));
     }
     QFocusEvent event(QEvent::FocusIn);
-    QVERIFY(!static_cast<QObject&>(field).eventFilter(browseOf(field), &event));
+    QVERIFY(!field.eventFilter(browseOf(field), &event));
     QCOMPARE(frameOf(field)->property("focusHint"), QVariant(false));
 }
 

@@ -965,13 +965,13 @@ void tst_SearchWidget::eventsAreNotConsumed()
     SearchWidget search;
     for (const auto type : {QEvent::FocusIn, QEvent::FocusOut}) {
         QFocusEvent event(type);
-        QVERIFY(!static_cast<QObject&>(search).eventFilter(editOf(search), &event));
+        QVERIFY(!search.eventFilter(editOf(search), &event));
     }
     QEvent event(QEvent::EnabledChange);
-    QVERIFY(!static_cast<QObject&>(search).eventFilter(editOf(search), &event));
+    QVERIFY(!search.eventFilter(editOf(search), &event));
     // Others' events are none of its business.
     QFocusEvent focus(QEvent::FocusOut);
-    QVERIFY(!static_cast<QObject&>(search).eventFilter(buttonOf(search), &focus));
+    QVERIFY(!search.eventFilter(buttonOf(search), &focus));
 }
 
 void tst_SearchWidget::rightToLeft()
