@@ -86,7 +86,6 @@ function(uic_library name)
     get_filename_component(include_root "${CMAKE_CURRENT_SOURCE_DIR}" DIRECTORY)
 
     set(library ${arg_PREFIX}${name})
-    set(objects ${library}Objects)
     if(TARGET ${arg_NAMESPACE}::${name})
         message(FATAL_ERROR "There is a target ${arg_NAMESPACE}::${name} already. "
             "A host that brings its own sets UICOMPONENTS_BUNDLED_PLATFORM to OFF.")
@@ -95,25 +94,22 @@ function(uic_library name)
         uic_require_platform(${arg_LINK_PUBLIC} ${arg_LINK_PRIVATE})
     endif()
 
-    add_library(${objects} OBJECT ${sources})
-    add_library(${library} SHARED $<TARGET_OBJECTS:${objects}>)
+    add_library(${library} SHARED ${sources})
     add_library(${arg_NAMESPACE}::${name} ALIAS ${library})
     generate_export_header(${library} BASE_NAME ${upper} EXPORT_FILE_NAME "${export_header}")
-    # The objects are those of the shared library, so they see its export macro as the library does.
-    target_compile_definitions(${objects} PRIVATE ${library}_EXPORTS)
     set(flavours ${library})
     if(UICOMPONENTS_DEVELOPER_MODE)
-        add_library(${name}Testable STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${objects}>)
+        add_library(${name}Testable STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${library}>)
+        set_target_properties(${name}Testable PROPERTIES AUTOMOC OFF LINKER_LANGUAGE CXX)
         list(APPEND flavours ${name}Testable)
     endif()
-    foreach(target IN LISTS flavours ITEMS ${objects})
+    foreach(target IN LISTS flavours)
         target_include_directories(${target} PUBLIC
             "$<BUILD_INTERFACE:${include_root}>" "$<BUILD_INTERFACE:${generated}>")
         target_link_libraries(${target}
             PUBLIC ${arg_LINK_PUBLIC} PRIVATE ${arg_LINK_PRIVATE} $<BUILD_INTERFACE:UiComponentsBuildOptions>)
         target_compile_features(${target} PUBLIC cxx_std_17)
     endforeach()
-    set_target_properties(${flavours} PROPERTIES AUTOMOC OFF LINKER_LANGUAGE CXX)
     target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_OPTIONS})
     # While the major version is 0, a new minor version may break its users.
     set(soversion ${PROJECT_VERSION_MAJOR})
