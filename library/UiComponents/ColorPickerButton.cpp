@@ -15,7 +15,7 @@ constexpr double enabledOpacity = 1.0;
 constexpr double disabledOpacity = 0.4;
 
 // What shows the colour where no sheet says how large the face is, in pixels.
-constexpr int bareFaceSize = 16;
+constexpr int smallestFace = 16;
 
 QString faceStyleSheet(const QColor& color, bool enabled)
 {
@@ -63,7 +63,7 @@ ColorPickerButton::Private::Private(ColorPickerButton* button)
 {
     face->setObjectName(QStringLiteral("color"));
     face->setAttribute(Qt::WA_TransparentForMouseEvents);
-    face->setMinimumSize(bareFaceSize, bareFaceSize);
+    face->setMinimumSize(smallestFace, smallestFace);
 
     auto* layout = new OvHBoxLayout(owner);
     layout->setContentsMargins(0, 0, 0, 0);
