@@ -32,6 +32,7 @@
 #include <QScreen>
 #include <QToolButton>
 #include <QVariant>
+#include <QVector>
 
 #include <algorithm>
 
@@ -87,6 +88,35 @@ void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* s
                  0);
     grid->addRow({first, second}, 0);
 }
+
+/// What is left of a panel that a slot has deleted. Line edits, buttons and spin boxes of Qt go on using
+/// themselves after their signals, so each emission shares this, and the last one to return gives the parts
+/// up: a nested event loop in a slot must not delete what is below it on the stack.
+class Remains
+{
+public:
+    Remains() = default;
+    ~Remains()
+    {
+        for (const QPointer<QWidget>& part : qAsConst(m_parts)) {
+            if (part) {
+                part->deleteLater();
+            }
+        }
+    }
+    Remains(const Remains&) = delete;
+    Remains& operator=(const Remains&) = delete;
+
+    void keep(QWidget* part)
+    {
+        part->hide();
+        part->setParent(nullptr);
+        m_parts.append(part);
+    }
+
+private:
+    QVector<QPointer<QWidget>> m_parts;
+};
 
 /// What the chooser is shown in.
 // For everybody else it is a QDialog.
@@ -164,7 +194,7 @@ public:
     template <typename Emission>
     void announce(Emission emission);
     void reportColor();
-    void letPartsOutlive() const;
+    void keepPartsInUse() const;
 
     ColorPickerWidget* const owner;
     OvFrame* const topPanel;
@@ -204,7 +234,7 @@ public:
     bool namesAreRead = QAccessible::isActive();
     // The handlers of buttons and slider keep still.
     bool isFollowing = false;
-    int emissions = 0;
+    const std::shared_ptr<Remains> remains = std::make_shared<Remains>();
 };
 
 ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllowed,
@@ -700,12 +730,8 @@ void ColorPickerWidget::Private::onDialogFinished()
 template <typename Emission>
 void ColorPickerWidget::Private::announce(Emission emission)
 {
-    const QPointer<ColorPickerWidget> guard(owner);
-    ++emissions;
+    const std::shared_ptr<Remains> kept = remains;
     emission();
-    if (guard) {
-        --emissions;
-    }
 }
 
 void ColorPickerWidget::Private::reportColor()
@@ -714,17 +740,17 @@ void ColorPickerWidget::Private::reportColor()
     announce([this, color] { Q_EMIT owner->colorChanged(color); });
 }
 
-/// Keeps what the user has just used alive until its code, which made the panel emit, has returned. Line
-/// edits, buttons and spin boxes of Qt go on using themselves after their signals.
-void ColorPickerWidget::Private::letPartsOutlive() const
+/// The user has just used one of them, if the panel is emitting.
+void ColorPickerWidget::Private::keepPartsInUse() const
 {
+    if (remains.use_count() == 1) {
+        return;
+    }
     for (QWidget* part : {static_cast<QWidget*>(dialog), static_cast<QWidget*>(topPanel),
                           static_cast<QWidget*>(colorMatrixPanel), static_cast<QWidget*>(otherColorsPanel),
                           static_cast<QWidget*>(opacityPanel)}) {
         if (part) {
-            part->hide();
-            part->setParent(nullptr);
-            part->deleteLater();
+            remains->keep(part);
         }
     }
 }
@@ -738,9 +764,7 @@ ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
 ColorPickerWidget::~ColorPickerWidget()
 {
     d->listener.reset();
-    if (d->emissions > 0) {
-        d->letPartsOutlive();
-    }
+    d->keepPartsInUse();
 }
 
 const std::optional<QColor>& ColorPickerWidget::currentColor() const

@@ -67,9 +67,10 @@
  * colour's.
  *
  * **Lifetime.** A slot of any signal of the panel may delete it, its parent or the pop-up that it is in,
- * while the user types, drags or clicks and in the middle of setCurrentColor(). The parts whose code is still
- * running are then deleted on the next turn of the event loop. One exception is Qt's: a slot of
- * colorChanged() that runs because the panel is being shown or hidden must use deleteLater().
+ * while the user types, drags or clicks and in the middle of setCurrentColor(), and so may an event loop that
+ * the slot runs. The parts whose code is still running are deleted when all slots have returned and control
+ * is back in the event loop. One exception is Qt's: a slot of colorChanged() that runs because the panel is
+ * being shown or hidden must use deleteLater().
  */
 class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame
 {

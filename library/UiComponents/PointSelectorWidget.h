@@ -69,7 +69,7 @@ Q_SIGNALS:
     ///
     /// A slot may set another value: the three are in step afterwards, and reports of the earlier one that
     /// were on their way come last. It may delete the field too, except while the user types or steps in a
-    /// spin box, behind whose signal QAbstractSpinBox goes on: deleteLater() is always safe.
+    /// spin box, behind whose signal QAbstractSpinBox goes on: use deleteLater() there.
     void valueChanged(QPointF value);
 
 protected:

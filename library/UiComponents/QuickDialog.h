@@ -39,9 +39,10 @@ class QuickContent;
  * **Lifetime.** The scene is loaded once, when it is first needed, and keeps its state from one exec() to
  * the next. The dialog, its parent or the scene's container may be deleted while exec() runs, which then
  * returns 0; a dialog that may be must be on the heap, as with every QDialog. Handlers of the scene must
- * not delete the dialog; deleteLater() is safe. With Qt::WA_DeleteOnClose a dialog that has been ended is
- * deleted: at the end of exec(), or one turn of the event loop later when the scene ended it before that loop
- * ran. An exec() that could not load the scene does not delete it.
+ * not delete the dialog, nor must slots of accepted() and rejected(), behind which QDialog emits finished();
+ * deleteLater() is safe. With Qt::WA_DeleteOnClose a dialog that has been ended is deleted: at the end of
+ * exec(), or one turn of the event loop later when the scene ended it before that loop ran. An exec() that
+ * could not load the scene does not delete it.
  */
 class UICOMPONENTS_EXPORT QuickDialog : public QDialog
 {

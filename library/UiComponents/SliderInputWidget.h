@@ -52,7 +52,7 @@ Q_SIGNALS:
     /// arrives twice; both then show it already. A slot may set another value: if it does so at the first
     /// of the two reports, the second comes late, behind those of the other value. It may delete the field
     /// too, except while the user types or steps in the spin box, behind whose signal QAbstractSpinBox goes
-    /// on: deleteLater() is always safe.
+    /// on: use deleteLater() there.
     void valueChanged(int value);
 
 private:

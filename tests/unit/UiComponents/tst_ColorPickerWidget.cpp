@@ -1,3 +1,4 @@
+#include "Deletion.h"
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MetaObject.h"
@@ -1951,36 +1952,39 @@ void tst_ColorPickerWidget::deletedByASlot()
     QFETCH(Action, act);
     QFETCH(int, signal);
     QFETCH(int, moreFromTheParent);
-    for (const bool isParentDeleted : {false, true}) {
-        m_record->value.clear();
-        const int before = QApplication::allWidgets().size();
-        QPointer<QWidget> host = new QWidget;
-        auto* layout = new QVBoxLayout(host);
-        QPointer<Panel> panel = new Panel(false, host);
-        layout->addWidget(panel);
-        host->show();
-        QVERIFY(QTest::qWaitForWindowExposed(host));
-        prepare(panel);
-        int signals = 0;
-        const auto slot = [&] {
-            if (++signals == signal) {
-                delete (isParentDeleted ? host.data() : panel.data());
+    for (const Deletion deletion : allDeletions) {
+        for (const bool isParentDeleted : {false, true}) {
+            m_record->value.clear();
+            const int before = QApplication::allWidgets().size();
+            QPointer<QWidget> host = new QWidget;
+            auto* layout = new QVBoxLayout(host);
+            QPointer<Panel> panel = new Panel(false, host);
+            layout->addWidget(panel);
+            host->show();
+            QVERIFY(QTest::qWaitForWindowExposed(host));
+            prepare(panel);
+            int signals = 0;
+            const auto slot = [&] {
+                if (++signals == signal) {
+                    destroy(isParentDeleted ? host.data() : panel.data(), deletion);
+                }
+            };
+            connect(panel.data(), &ColorPickerWidget::colorChanged, this, slot);
+            connect(panel.data(), &ColorPickerWidget::pipetteRequested, this, slot);
+            connect(panel.data(), &ColorPickerWidget::closeRequested, this, slot);
+            {
+                // Qt is not compiled for the sanitizer: what it goes on to read is a pattern that leads
+                // nowhere.
+                const FreedMemoryWatch memory;
+                act(panel);
+                QVERIFY(!panel);
+                QCOMPARE(signals, signal + (isParentDeleted ? moreFromTheParent : 0));
+                QTRY_COMPARE(QApplication::allWidgets().size(), before + (host ? 1 : 0));
+                QVERIFY(memory.deleted() > 0);
+                QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
             }
-        };
-        connect(panel.data(), &ColorPickerWidget::colorChanged, this, slot);
-        connect(panel.data(), &ColorPickerWidget::pipetteRequested, this, slot);
-        connect(panel.data(), &ColorPickerWidget::closeRequested, this, slot);
-        {
-            // Qt is not compiled for the sanitizer: what it goes on to read is a pattern that leads nowhere.
-            const FreedMemoryWatch memory;
-            act(panel);
-            QVERIFY(!panel);
-            QCOMPARE(signals, signal + (isParentDeleted ? moreFromTheParent : 0));
-            QTRY_COMPARE(QApplication::allWidgets().size(), before + (host ? 1 : 0));
-            QVERIFY(memory.deleted() > 0);
-            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+            delete host;
         }
-        delete host;
     }
 }
 
