@@ -31,8 +31,7 @@ class UICOMPONENTS_EXPORT SliderInputWidget : public OvFrame
     Q_OBJECT
 
 public:
-    /// The range of a field, both ends included. All 32 bits are available, though QSlider loses its
-    /// handle in a range of more than 31.
+    /// The range of a field, both ends included. All 32 bits are available.
     struct Initializer
     {
         int minimum;

@@ -1,11 +1,14 @@
 #include "OvCustomSlider.h"
 
+#include <QApplication>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
-#include <QStyle>
+#include <QSignalBlocker>
 #include <QStyleOptionSlider>
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -21,13 +24,9 @@ Span along(Qt::Orientation orientation, const QRect& rect)
                                          : Span{double(rect.y()), double(rect.height())};
 }
 
-// Where the handle is at an end of the range: one of two steps, for QStyle loses its way in one of more
-// than 31 bits.
-Span handleSpan(const QSlider* slider, QStyleOptionSlider option, bool atMaximum)
+Span handleSpan(const QSlider* slider, QStyleOptionSlider option, int position)
 {
-    option.minimum = 0;
-    option.maximum = 1;
-    option.sliderPosition = atMaximum ? 1 : 0;
+    option.sliderPosition = position;
     return along(slider->orientation(), slider->style()->subControlRect(QStyle::CC_Slider, &option,
                                                                         QStyle::SC_SliderHandle, slider));
 }
@@ -47,8 +46,8 @@ public:
         : m_minimum(slider->minimum())
         , m_maximum(slider->maximum())
     {
-        const Span first = handleSpan(slider, option, false);
-        const Span last = handleSpan(slider, option, true);
+        const Span first = handleSpan(slider, option, option.minimum);
+        const Span last = handleSpan(slider, option, option.maximum);
         m_start = first.start + first.length / 2;
         m_travel = last.start + last.length / 2 - m_start;
     }
@@ -72,6 +71,77 @@ private:
     double m_travel;
 };
 
+int bounded(const QSlider& slider, qint64 position)
+{
+    return static_cast<int>(qBound<qint64>(slider.minimum(), position, slider.maximum()));
+}
+
+QAbstractSlider::SliderAction actionOf(int key, const QSlider& slider)
+{
+    const bool inverted = slider.invertedControls();
+    const bool mirrored = slider.isRightToLeft() != inverted;
+    switch (key) {
+    case Qt::Key_Left:
+        return mirrored ? QAbstractSlider::SliderSingleStepAdd : QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Right:
+        return mirrored ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_Up:
+        return inverted ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_Down:
+        return inverted ? QAbstractSlider::SliderSingleStepAdd : QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_PageUp:
+        return inverted ? QAbstractSlider::SliderPageStepSub : QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_PageDown:
+        return inverted ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_Home:
+        return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+        return QAbstractSlider::SliderToMaximum;
+    default:
+        return QAbstractSlider::SliderNoAction;
+    }
+}
+
+int positionAfter(QAbstractSlider::SliderAction action, const QSlider& slider)
+{
+    const qint64 position = slider.sliderPosition();
+    switch (action) {
+    case QAbstractSlider::SliderSingleStepAdd:
+        return bounded(slider, position + slider.singleStep());
+    case QAbstractSlider::SliderSingleStepSub:
+        return bounded(slider, position - slider.singleStep());
+    case QAbstractSlider::SliderPageStepAdd:
+        return bounded(slider, position + slider.pageStep());
+    case QAbstractSlider::SliderPageStepSub:
+        return bounded(slider, position - slider.pageStep());
+    case QAbstractSlider::SliderToMinimum:
+        return slider.minimum();
+    case QAbstractSlider::SliderToMaximum:
+        return slider.maximum();
+    default:
+        return slider.sliderPosition();
+    }
+}
+
+// How many steps the wheel goes; Ctrl and Shift make a page of each notch. Like QAbstractSlider's own
+// reading of it, which cannot be had without its signals.
+int wheelSteps(const QWheelEvent& event, const QSlider& slider, double& remainder)
+{
+    const QPoint turned = event.angleDelta();
+    const double notches = (turned.y() != 0 ? turned.y() : -turned.x()) / 120.0;
+    const double page = slider.pageStep();
+    if (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) {
+        remainder = 0.0;
+        return static_cast<int>(qBound(-page, notches * page, page));
+    }
+    if (notches * remainder < 0.0) {
+        remainder = 0.0;
+    }
+    const double steps = remainder + notches * QApplication::wheelScrollLines() * slider.singleStep();
+    remainder = steps - std::trunc(steps);
+    return static_cast<int>(qBound(-page, steps, page));
+}
+
 } // namespace
 
 OvCustomSlider::OvCustomSlider(QWidget* parent)
@@ -88,46 +158,125 @@ OvCustomSlider::OvCustomSlider(Qt::Orientation orientation, QWidget* parent)
 
 OvCustomSlider::~OvCustomSlider() = default;
 
-void OvCustomSlider::mousePressEvent(QMouseEvent* event)
+void OvCustomSlider::initStyleOption(QStyleOptionSlider* option) const
 {
-    const bool isPlainLeft = event->button() == Qt::LeftButton && event->buttons() == Qt::LeftButton;
-    if (!isPlainLeft || minimum() == maximum()) {
-        QSlider::mousePressEvent(event);
+    QSlider::initStyleOption(option);
+    if (qint64(option->maximum) - option->minimum <= std::numeric_limits<int>::max()) {
         return;
     }
-    QStyleOptionSlider option;
-    initStyleOption(&option);
-    const QRect handle = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
-    if (handle.contains(event->pos())) {
-        const Span span = along(orientation(), handle);
-        m_grip = placeOf(this, event->pos()) - (span.start + span.length / 2);
-        QSlider::mousePressEvent(event);
-        return;
-    }
-    const Track track(this, option);
-    const double place = placeOf(this, event->pos());
-    m_grip = place - track.bounded(place);
-    // QSlider takes a press for the beginning of a drag if it is on the handle.
-    QMouseEvent onHandle(event->type(), handle.center(), event->windowPos(), event->screenPos(),
-                         event->button(), event->buttons(), event->modifiers(), event->source());
-    const QPointer<OvCustomSlider> guard(this);
-    QSlider::mousePressEvent(&onHandle);
-    event->setAccepted(onHandle.isAccepted());
-    if (guard && isSliderDown()) {
-        setSliderPosition(track.positionAt(place));
+    for (int* number : {&option->minimum, &option->maximum, &option->sliderPosition, &option->sliderValue,
+                        &option->singleStep, &option->pageStep, &option->tickInterval}) {
+        *number = static_cast<int>(std::floor(*number / 2.0));
     }
 }
 
-void OvCustomSlider::mouseMoveEvent(QMouseEvent* event)
+bool OvCustomSlider::event(QEvent* event)
 {
-    if (!isSliderDown() || !(event->buttons() & Qt::LeftButton)) {
-        QSlider::mouseMoveEvent(event);
+    const bool isHover = event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove ||
+                         event->type() == QEvent::HoverLeave;
+    if (!isHover) {
+        return QSlider::event(event);
+    }
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    option.subControls = QStyle::SC_All;
+    const auto part = style()->hitTestComplexControl(QStyle::CC_Slider, &option,
+                                                     static_cast<QHoverEvent*>(event)->pos(), this);
+    if (part != m_hovered) {
+        m_hovered = part;
+        update();
+    }
+    // QSlider would look for the part by an option of its own.
+    return QAbstractSlider::event(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void OvCustomSlider::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+    if (tickPosition() != NoTicks) {
+        option.subControls |= QStyle::SC_SliderTickmarks;
+    }
+    if (isSliderDown()) {
+        option.activeSubControls = QStyle::SC_SliderHandle;
+        option.state |= QStyle::State_Sunken;
+    } else {
+        option.activeSubControls = m_hovered;
+    }
+    style()->drawComplexControl(QStyle::CC_Slider, &option, &painter, this);
+}
+
+void OvCustomSlider::mousePressEvent(QMouseEvent* event)
+{
+    const int buttons =
+        Qt::LeftButton | style()->styleHint(QStyle::SH_Slider_AbsoluteSetButtons, nullptr, this);
+    if (!(event->button() & buttons) || event->buttons() != event->button() || minimum() == maximum()) {
+        event->ignore();
         return;
     }
     event->accept();
     QStyleOptionSlider option;
     initStyleOption(&option);
-    setSliderPosition(Track(this, option).positionAt(placeOf(this, event->pos()) - m_grip));
+    const QRect handle = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    const bool isOnHandle = handle.contains(event->pos());
+    const Track track(this, option);
+    const double place = placeOf(this, event->pos());
+    const Span span = along(orientation(), handle);
+    m_grip = place - (isOnHandle ? span.start + span.length / 2 : track.bounded(place));
+    update();
+    const QPointer<OvCustomSlider> guard(this);
+    setSliderDown(true);
+    if (guard && isSliderDown() && !isOnHandle) {
+        dragHandle(track.positionAt(place));
+    }
+}
+
+void OvCustomSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!isSliderDown() || !event->buttons()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    dragHandle(Track(this, option).positionAt(placeOf(this, event->pos()) - m_grip));
+}
+
+void OvCustomSlider::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!isSliderDown() || event->buttons()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    update();
+    const int position = sliderPosition();
+    {
+        // Behind its signal, setSliderDown() would go on to bring the value to the handle.
+        const QSignalBlocker quiet(this);
+        placeHandle(value());
+        setSliderDown(false);
+        placeHandle(position);
+    }
+    const QPointer<OvCustomSlider> guard(this);
+    Q_EMIT sliderReleased();
+    if (guard && sliderPosition() != value()) {
+        perform(SliderMove);
+    }
+}
+
+void OvCustomSlider::keyPressEvent(QKeyEvent* event)
+{
+    const SliderAction action = actionOf(event->key(), *this);
+    if (action == SliderNoAction) {
+        QSlider::keyPressEvent(event);
+    } else if (moveHandle(positionAfter(action, *this))) {
+        perform(action);
+    }
 }
 
 void OvCustomSlider::wheelEvent(QWheelEvent* event)
@@ -136,6 +285,54 @@ void OvCustomSlider::wheelEvent(QWheelEvent* event)
         event->ignore();
         return;
     }
-    QSlider::wheelEvent(event);
     event->accept();
+    const int steps = wheelSteps(*event, *this, m_wheelRemainder);
+    if (steps == 0) {
+        return;
+    }
+    placeHandle(bounded(*this, qint64(sliderPosition()) + (invertedControls() ? -steps : steps)));
+    perform(SliderMove);
+}
+
+/// Moves the handle, and neither the value nor anything else.
+void OvCustomSlider::placeHandle(int position)
+{
+    const bool tracks = hasTracking();
+    const QSignalBlocker quiet(this);
+    setTracking(false);
+    setSliderPosition(position);
+    setTracking(tracks);
+}
+
+/// The first half of QAbstractSlider::triggerAction(). Returns whether the slider is still there.
+bool OvCustomSlider::moveHandle(int position)
+{
+    const QPointer<OvCustomSlider> guard(this);
+    if (position != sliderPosition()) {
+        placeHandle(position);
+        if (isSliderDown()) {
+            Q_EMIT sliderMoved(position);
+        }
+    }
+    return guard;
+}
+
+void OvCustomSlider::dragHandle(int position)
+{
+    if (position != sliderPosition() && moveHandle(position) && hasTracking()) {
+        perform(SliderMove);
+    }
+}
+
+/// The second half of QAbstractSlider::triggerAction(), behind whose signals nothing uses the slider.
+void OvCustomSlider::perform(SliderAction action)
+{
+    const QPointer<OvCustomSlider> guard(this);
+    const bool tracks = hasTracking();
+    setTracking(false); // a slot may put the handle elsewhere, which is no other action
+    Q_EMIT actionTriggered(action);
+    if (guard) {
+        setTracking(tracks);
+        setValue(sliderPosition());
+    }
 }

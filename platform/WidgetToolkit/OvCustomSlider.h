@@ -3,6 +3,7 @@
 #include <WidgetToolkit/WidgetToolkitExport.h>
 
 #include <QSlider>
+#include <QStyle>
 
 /**
  * A QSlider that goes where it is clicked and is safe to scroll past.
@@ -11,16 +12,20 @@
  *   from there. The signals come as in a drag that began on the handle: sliderPressed(), then
  *   sliderMoved() and, with tracking, valueChanged(). A press on the handle itself moves nothing. It
  *   works in both orientations, inverted, right to left, and with a handle and groove that a style sheet
- *   has moved.
+ *   has moved. The middle button does the same where it sets a QSlider of the style.
  * - The wheel changes the value only while the slider has focus; then it keeps the event at the end of
  *   the range too. Without focus the event is ignored, so that a scroll area around it scrolls, and the
  *   wheel does not give it focus: its focus policy is Qt::StrongFocus.
- *
- * A click finds its place in any range; but QStyle paints the handle wrongly in one of more than 31 bits.
+ * - Every range of 32 bits is painted and clicked rightly, where QSlider loses its handle, or divides by
+ *   zero, from 2^31 steps on.
  *
  * A style sheet selects the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page`
- * and `::sub-page`. A listener of the signals of a click may delete the slider, save of sliderPressed(),
- * behind which QSlider goes on.
+ * and `::sub-page`.
+ *
+ * A listener of any signal that mouse, wheel or keys cause may delete the slider, and so may one of
+ * valueChanged() that setValue() causes. Behind the signals of setRange(), setMinimum(), setMaximum(),
+ * setSliderDown(), setSliderPosition(), triggerAction() and setEnabled(), and behind sliderMoved() of a
+ * setValue() during a drag, QAbstractSlider goes on: use deleteLater() there.
  */
 class WIDGETTOOLKIT_EXPORT OvCustomSlider : public QSlider
 {
@@ -33,10 +38,24 @@ public:
     ~OvCustomSlider() override;
 
 protected:
+    /// As QSlider's, which it hides, with all numbers halved in a range that QStyle cannot divide.
+    void initStyleOption(QStyleOptionSlider* option) const;
+
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    double m_grip = 0.0; // of the drag: how far the cursor is from the handle's middle, in pixels
+    void placeHandle(int position);
+    bool moveHandle(int position);
+    void dragHandle(int position);
+    void perform(SliderAction action);
+
+    double m_grip = 0.0;           // of the drag: how far the cursor is from the handle's middle, in pixels
+    double m_wheelRemainder = 0.0; // what the wheel has turned by less than a step
+    QStyle::SubControl m_hovered = QStyle::SC_None;
 };

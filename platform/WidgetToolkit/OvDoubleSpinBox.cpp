@@ -106,7 +106,7 @@ void OvDoubleSpinBox::stepBy(int steps)
 void OvDoubleSpinBox::keyPressEvent(QKeyEvent* event)
 {
     if (SpinBoxInput::isCommit(event)) {
-        SpinBoxInput::commit(this, lineEdit(), event);
+        SpinBoxInput::commit<QDoubleSpinBox>(this, lineEdit(), event);
     } else {
         QDoubleSpinBox::keyPressEvent(event);
     }

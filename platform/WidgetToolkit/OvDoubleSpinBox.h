@@ -8,8 +8,7 @@
  * A QDoubleSpinBox that is safe to scroll past, quick to type into and, on request, indifferent to the
  * decimal mark.
  *
- * Wheel, Enter and Escape behave as in OvSpinBox. A listener of any signal that Enter causes may delete
- * the spin box.
+ * Wheel, Enter and Escape behave as in OvSpinBox, and the same listeners may delete the spin box.
  *
  * A step, too, leads to a value of exactly the decimals that are shown: six steps of 0.01 are 0.06, where
  * QDoubleSpinBox adds up to 0.060000000000000005. And a range below 0 takes "-0" as the beginning of -0.5.

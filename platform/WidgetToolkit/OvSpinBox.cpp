@@ -15,7 +15,7 @@ OvSpinBox::~OvSpinBox() = default;
 void OvSpinBox::keyPressEvent(QKeyEvent* event)
 {
     if (SpinBoxInput::isCommit(event)) {
-        SpinBoxInput::commit(this, lineEdit(), event);
+        SpinBoxInput::commit<QSpinBox>(this, lineEdit(), event);
     } else {
         QSpinBox::keyPressEvent(event);
     }

@@ -16,7 +16,8 @@
  *   button gets it. Escape is left to the dialog altogether.
  *
  * Everything else, including what a style sheet can select, is as in QSpinBox. A listener of any signal
- * that Enter causes may delete the spin box.
+ * that Enter causes may delete the spin box, and so may one of valueChanged() that setValue() causes. Behind
+ * all others, above all while the user types or steps, QAbstractSpinBox goes on: use deleteLater() there.
  */
 class WIDGETTOOLKIT_EXPORT OvSpinBox : public QSpinBox
 {

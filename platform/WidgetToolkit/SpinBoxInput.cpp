@@ -1,22 +1,54 @@
 #include "SpinBoxInput.h"
 
-#include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+namespace {
+
+// In the order of QSpinBox, which after each signal needs the box for the next.
+template <typename SpinBox>
+void announceValue(SpinBox* box)
+{
+    const QPointer<SpinBox> guard(box);
+#if QT_DEPRECATED_SINCE(5, 14)
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    Q_EMIT box->valueChanged(box->text());
+    QT_WARNING_POP
+#endif
+    if (guard) {
+        Q_EMIT box->textChanged(box->text());
+    }
+    if (guard) {
+        Q_EMIT box->valueChanged(box->value());
+    }
+}
+
+} // namespace
 
 bool SpinBoxInput::isCommit(const QKeyEvent* event)
 {
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
-void SpinBoxInput::commit(QAbstractSpinBox* box, QLineEdit* edit, QKeyEvent* event)
+template <typename SpinBox>
+void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
 {
-    const QPointer<QAbstractSpinBox> guard(box);
+    const QPointer<SpinBox> guard(box);
     const QPointer<QLineEdit> editGuard(edit);
     // Ignored, so that it goes on to the default button of a dialog.
     event->ignore();
-    box->interpretText();
+    const auto before = box->value();
+    {
+        const QSignalBlocker quiet(box);
+        box->interpretText();
+    }
+    if (box->value() != before) {
+        announceValue(box);
+    }
     if (!guard) {
         return;
     }
@@ -30,3 +62,6 @@ void SpinBoxInput::commit(QAbstractSpinBox* box, QLineEdit* edit, QKeyEvent* eve
         box->selectAll();
     }
 }
+
+template void SpinBoxInput::commit(QSpinBox*, QLineEdit*, QKeyEvent*);
+template void SpinBoxInput::commit(QDoubleSpinBox*, QLineEdit*, QKeyEvent*);

@@ -2,7 +2,6 @@
 
 #pragma once
 
-class QAbstractSpinBox;
 class QKeyEvent;
 class QLineEdit;
 
@@ -12,7 +11,9 @@ namespace SpinBoxInput {
 bool isCommit(const QKeyEvent* event);
 
 /// Does what QAbstractSpinBox does on Enter, with two differences: the value is announced only if the
-/// text changed it, and @p box may be deleted by any listener. @p edit is its line edit.
-void commit(QAbstractSpinBox* box, QLineEdit* edit, QKeyEvent* event);
+/// text changed it, and @p box, a QSpinBox or QDoubleSpinBox, may be deleted by any listener. @p edit is
+/// its line edit.
+template <typename SpinBox>
+void commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event);
 
 } // namespace SpinBoxInput

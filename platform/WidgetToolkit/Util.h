@@ -46,8 +46,9 @@ WIDGETTOOLKIT_EXPORT LayoutController* installLayoutController(QWidget* widget);
 /// owned. On binding, the spin box takes the slider's range and value; from then on a change of range or
 /// value of the slider goes to the spin box at once, and a change of value of the spin box goes to the
 /// slider. A spin box does not announce a change of its range: it is taken over at its next value. No
-/// change runs in a circle, each side emits once for a change, and a listener may delete either widget.
-/// Binding the same pair twice is the same as once; a null argument does nothing.
+/// change runs in a circle, and each side emits once for a change. A listener may delete either widget,
+/// save the one whose own code goes on behind the signal: a spin box while the user types or steps in it,
+/// a slider in setRange(). Binding the same pair twice is the same as once; a null argument does nothing.
 WIDGETTOOLKIT_EXPORT void bindWidgets(QAbstractSlider* slider, QSpinBox* spinBox);
 
 /// The same for fractions, through the slider's multiplier. A value that is typed reads back digit for

@@ -169,6 +169,12 @@ void tst_NestedLoops::addSliderFields() const
         });
     };
     row("press", [](QAbstractSlider* slider) { press(*slider, middle(slider)); });
+    row("middle press", [](QAbstractSlider* slider) { press(*slider, middle(slider), Qt::MiddleButton); });
+    row("release without tracking", [](QAbstractSlider* slider) {
+        slider->setTracking(false);
+        press(*slider, middle(slider));
+        release(*slider, middle(slider));
+    });
     row("drag", [](QAbstractSlider* slider) {
         press(*slider, {2, middle(slider).y()});
         drag(*slider, middle(slider));

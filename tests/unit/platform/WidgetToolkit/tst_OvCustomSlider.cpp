@@ -1,3 +1,5 @@
+#include "Deletion.h"
+#include "FreedMemory.h"
 #include "MouseEvents.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -5,11 +7,14 @@
 #include <WidgetToolkit/OvCustomSlider.h>
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QStyleOptionSlider>
 
 #include <cmath>
+#include <functional>
 
 Q_DECLARE_METATYPE(Qt::Orientation)
+Q_DECLARE_METATYPE(std::function<void(QSlider*)>)
 
 namespace {
 
@@ -66,11 +71,19 @@ private Q_SLOTS:
     void withoutTracking();
     void fewSteps();
     void wholeRangeOf32Bits();
+    void wideRanges_data();
+    void wideRanges();
+    void looksLikeAQSlider_data();
+    void looksLikeAQSlider();
+    void middleButton();
     void otherButtons();
     void emptyRange();
     void disabled();
     void wheel();
     void wheelAtTheEnd();
+    void keysAndWheelAreQSliders_data();
+    void keysAndWheelAreQSliders();
+    void slotAdjustsAnAction();
     void deletedByAListener_data();
     void deletedByAListener();
     void tinySizes();
@@ -259,6 +272,107 @@ void tst_OvCustomSlider::wholeRangeOf32Bits()
     QCOMPARE(slider.value(), slider.maximum());
 }
 
+void tst_OvCustomSlider::wideRanges_data()
+{
+    using Steps = std::numeric_limits<int>;
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::newRow("2^31 - 1 steps") << 0 << Steps::max();
+    // Where QStyle divides by zero.
+    QTest::newRow("2^31 steps") << -1 << Steps::max();
+    QTest::newRow("2^31 steps below zero") << Steps::min() << 0;
+    QTest::newRow("2^31 + 1 steps") << -2 << Steps::max();
+    QTest::newRow("all 32 bits") << Steps::min() << Steps::max();
+}
+
+void tst_OvCustomSlider::wideRanges()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    Slider slider(Qt::Horizontal);
+    slider.resize(300, 30);
+    slider.setRange(minimum, maximum);
+    QCOMPARE(slider.minimum(), minimum);
+    QCOMPARE(slider.maximum(), maximum);
+    Slider narrow(Qt::Horizontal);
+    narrow.resize(300, 30);
+    narrow.setRange(0, 1000);
+    for (const int place : {0, 70, 150, 220, 299}) {
+        const QPoint at(place, 15);
+        press(slider, at);
+        press(narrow, at);
+        QVERIFY(std::abs(slider.handle().x() - narrow.handle().x()) <= 1);
+        drag(slider, at + QPoint(5, 0));
+        QHoverEvent hover(QEvent::HoverMove, at, at);
+        QApplication::sendEvent(&slider, &hover);
+        slider.grab();
+        release(slider, at);
+        release(narrow, at);
+    }
+}
+
+void tst_OvCustomSlider::looksLikeAQSlider_data()
+{
+    using Act = std::function<void(QSlider*)>;
+    QTest::addColumn<Act>("act");
+    const auto hover = [](QSlider* slider, const QPoint& at) {
+        slider->setAttribute(Qt::WA_UnderMouse);
+        QHoverEvent event(QEvent::HoverMove, at, QPoint(-1, -1));
+        QApplication::sendEvent(slider, &event);
+    };
+    QTest::newRow("at rest") << Act([](QSlider*) {});
+    QTest::newRow("disabled") << Act([](QSlider* slider) { slider->setEnabled(false); });
+    QTest::newRow("ticks") << Act([](QSlider* slider) { slider->setTickPosition(QSlider::TicksBelow); });
+    QTest::newRow("handle hovered") << Act([=](QSlider* slider) { hover(slider, {100, 15}); });
+    QTest::newRow("groove hovered") << Act([=](QSlider* slider) { hover(slider, {30, 15}); });
+    QTest::newRow("left again") << Act([=](QSlider* slider) {
+        hover(slider, {100, 15});
+        QHoverEvent event(QEvent::HoverLeave, QPoint(-1, -1), QPoint(100, 15));
+        QApplication::sendEvent(slider, &event);
+    });
+    QTest::newRow("pressed") << Act([](QSlider* slider) { press(*slider, {100, 15}); });
+    QTest::newRow("released") << Act([](QSlider* slider) {
+        press(*slider, {100, 15});
+        release(*slider, {100, 15});
+    });
+}
+
+void tst_OvCustomSlider::looksLikeAQSlider()
+{
+    QFETCH(std::function<void(QSlider*)>, act);
+    for (const char* sheet : {"", "QSlider::groove { background: gray; height: 4px; }"
+                                  "QSlider::handle { background: red; width: 12px; margin: -4px 0; }"
+                                  "QSlider::handle:hover { background: lime; }"
+                                  "QSlider::handle:pressed { background: blue; }"}) {
+        QSlider expected(Qt::Horizontal);
+        Slider slider(Qt::Horizontal);
+        for (QSlider* each : {&expected, static_cast<QSlider*>(&slider)}) {
+            each->setFocusPolicy(Qt::NoFocus);
+            each->resize(200, 30);
+            each->setStyleSheet(QLatin1String(sheet));
+            each->setRange(0, 100);
+            each->setValue(50);
+            act(each);
+            each->grab(); // the first picture of ticks that Fusion draws differs from all that follow
+        }
+        QCOMPARE(slider.grab().toImage(), expected.grab().toImage());
+    }
+}
+
+void tst_OvCustomSlider::middleButton()
+{
+    Slider slider(Qt::Horizontal);
+    slider.resize(200, 30);
+    QVERIFY(slider.style()->styleHint(QStyle::SH_Slider_AbsoluteSetButtons) & Qt::MiddleButton);
+    press(slider, {150, 15}, Qt::MiddleButton);
+    QVERIFY(slider.value() > 70);
+    QVERIFY(slider.isSliderDown());
+    sendMouse(slider, QEvent::MouseMove, {199, 15}, Qt::NoButton, Qt::MiddleButton);
+    QCOMPARE(slider.value(), 99);
+    release(slider, {199, 15}, Qt::MiddleButton);
+    QVERIFY(!slider.isSliderDown());
+}
+
 void tst_OvCustomSlider::otherButtons()
 {
     Slider slider(Qt::Horizontal);
@@ -321,30 +435,159 @@ void tst_OvCustomSlider::wheelAtTheEnd()
     QCOMPARE(slider.value(), slider.maximum());
 }
 
+void tst_OvCustomSlider::keysAndWheelAreQSliders_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<bool>("appearance");
+    QTest::addColumn<bool>("controls");
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            for (int inverted = 0; inverted < 4; ++inverted) {
+                QTest::addRow("%s, %s, inverted %d",
+                              orientation == Qt::Horizontal ? "horizontal" : "vertical",
+                              direction == Qt::LeftToRight ? "left to right" : "right to left", inverted)
+                    << orientation << direction << ((inverted & 1) != 0) << ((inverted & 2) != 0);
+            }
+        }
+    }
+}
+
+void tst_OvCustomSlider::keysAndWheelAreQSliders()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(bool, appearance);
+    QFETCH(bool, controls);
+    QWidget window;
+    QSlider expected(orientation, &window);
+    Slider slider(orientation, &window);
+    QStringList logs[2];
+    const auto setUp = [&](QSlider* each, QStringList* log) {
+        each->setLayoutDirection(direction);
+        each->setInvertedAppearance(appearance);
+        each->setInvertedControls(controls);
+        each->setRange(-30, 30);
+        each->setSingleStep(3);
+        each->setPageStep(13);
+        connect(each, &QAbstractSlider::actionTriggered, this, [=](int action) {
+            *log << QStringLiteral("action %1 at %2").arg(action).arg(each->value());
+        });
+        connect(each, &QAbstractSlider::valueChanged, this,
+                [=](int value) { *log << QStringLiteral("value %1").arg(value); });
+    };
+    setUp(&expected, &logs[0]);
+    setUp(&slider, &logs[1]);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto keys = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right,  Qt::Key_Up,
+                       Qt::Key_Down, Qt::Key_Up,    Qt::Key_PageUp, Qt::Key_PageDown,
+                       Qt::Key_Home, Qt::Key_Down,  Qt::Key_End,    Qt::Key_Up};
+    for (const Qt::Key key : keys) {
+        QTest::keyClick(&expected, key);
+        QTest::keyClick(&slider, key);
+        QCOMPARE(slider.value(), expected.value());
+    }
+    QCOMPARE(logs[1], logs[0]);
+    slider.setFocus();
+    const auto turn = [](QSlider& each, const QPoint& delta, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent event(QPoint(5, 5), each.mapToGlobal({5, 5}), {}, delta, {}, modifiers, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(&each, &event);
+    };
+    slider.setValue(0);
+    expected.setValue(0);
+    const auto turns = {QPoint(0, 120), QPoint(0, 20),   QPoint(0, 20), QPoint(0, -20), QPoint(0, -15),
+                        QPoint(120, 0), QPoint(-50, 10), QPoint(0, 1),  QPoint(0, -600)};
+    for (const auto modifiers : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+        for (const QPoint& delta : turns) {
+            turn(expected, delta, modifiers);
+            turn(slider, delta, modifiers);
+            QCOMPARE(slider.value(), expected.value());
+        }
+    }
+}
+
+void tst_OvCustomSlider::slotAdjustsAnAction()
+{
+    Slider slider(Qt::Horizontal);
+    slider.setSingleStep(5);
+    QSignalSpy actions(&slider, &QAbstractSlider::actionTriggered);
+    QSignalSpy values(&slider, &QAbstractSlider::valueChanged);
+    connect(&slider, &QAbstractSlider::actionTriggered, &slider,
+            [&slider] { slider.setSliderPosition(slider.sliderPosition() + 2); });
+    QTest::keyClick(&slider, Qt::Key_Right);
+    QCOMPARE(actions.count(), 1);
+    QCOMPARE(values.count(), 1);
+    QCOMPARE(slider.value(), 7);
+    QVERIFY(slider.hasTracking());
+}
+
 void tst_OvCustomSlider::deletedByAListener_data()
 {
-    QTest::addColumn<bool>("whileMoving");
-    QTest::newRow("sliderMoved") << true;
-    QTest::newRow("valueChanged") << false;
+    using Act = std::function<void(QSlider*)>;
+    QTest::addColumn<Act>("prepare");
+    QTest::addColumn<Act>("act");
+    const Act nothing = [](QSlider*) {};
+    const Act pressed = [](QSlider* slider) { press(*slider, {150, 15}); };
+    const Act pressedWithoutTracking = [pressed](QSlider* slider) {
+        slider->setTracking(false);
+        pressed(slider);
+    };
+    const Act released = [](QSlider* slider) { release(*slider, {150, 15}); };
+    QTest::newRow("press") << nothing << pressed;
+    QTest::newRow("press without tracking") << nothing << pressedWithoutTracking;
+    QTest::newRow("middle press") << nothing << Act([](QSlider* slider) {
+        press(*slider, {150, 15}, Qt::MiddleButton);
+    });
+    QTest::newRow("drag") << pressed << Act([](QSlider* slider) { drag(*slider, {50, 15}); });
+    QTest::newRow("release") << pressed << released;
+    QTest::newRow("release without tracking") << pressedWithoutTracking << released;
+    const Act key = [](QSlider* slider) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+        QApplication::sendEvent(slider, &event);
+    };
+    QTest::newRow("key") << nothing << key;
+    QTest::newRow("key during a drag") << pressed << key;
+    QTest::newRow("wheel") << nothing << Act([](QSlider* slider) { turnWheel(*slider, 120); });
 }
 
 void tst_OvCustomSlider::deletedByAListener()
 {
-    QFETCH(bool, whileMoving);
-    const QPointer<Slider> slider(new Slider(Qt::Horizontal));
-    slider->resize(200, 30);
-    // Behind sliderMoved QAbstractSlider needs the slider if it tracks.
-    slider->setTracking(!whileMoving);
-    const auto destroy = [target = slider.data()] { delete target; };
-    if (whileMoving) {
-        connect(slider, &QAbstractSlider::sliderMoved, this, destroy);
-    } else {
-        connect(slider, &QAbstractSlider::valueChanged, this, destroy);
+    using Act = std::function<void(QSlider*)>;
+    QFETCH(Act, prepare);
+    QFETCH(Act, act);
+    // Every signal that comes is, in turn, the last one.
+    for (const Deletion deletion : allDeletions) {
+        for (int last = 1, signals = 1; last <= signals; ++last) {
+            const QPointer<Slider> slider = new Slider(Qt::Horizontal);
+            slider->resize(200, 30);
+            slider->show();
+            QVERIFY(QTest::qWaitForWindowActive(slider));
+            slider->setFocus();
+            prepare(slider);
+            signals = 0;
+            const auto slot = [&] {
+                if (++signals == last) {
+                    destroy(slider, deletion);
+                }
+            };
+            connect(slider, &QAbstractSlider::sliderPressed, this, slot);
+            connect(slider, &QAbstractSlider::sliderMoved, this, slot);
+            connect(slider, &QAbstractSlider::sliderReleased, this, slot);
+            connect(slider, &QAbstractSlider::actionTriggered, this, slot);
+            connect(slider, &QAbstractSlider::valueChanged, this, slot);
+            const FreedMemoryWatch memory;
+            act(slider);
+            QVERIFY(signals > 0);
+            QCOMPARE(slider.isNull(), signals >= last);
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+            if (slider) {
+                delete slider;
+                break;
+            }
+        }
     }
-    QMouseEvent press(QEvent::MouseButtonPress, QPoint(150, 15), QPoint(150, 15), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(slider, &press);
-    QVERIFY(slider.isNull());
 }
 
 void tst_OvCustomSlider::tinySizes()

@@ -1,3 +1,4 @@
+#include "FreedMemory.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void enterWithUnfinishedTextCorrects();
     void enterReachesTheDialogAndEscapeToo();
     void listenerSetsAnotherValueOnEnter();
+    void signalsOfEnter();
     void deletedByAListenerOfEnter_data();
     void deletedByAListenerOfEnter();
 };
@@ -178,12 +180,35 @@ void tst_OvSpinBox::listenerSetsAnotherValueOnEnter()
     QCOMPARE(selectedText(box), QStringLiteral("12"));
 }
 
+void tst_OvSpinBox::signalsOfEnter()
+{
+    OvSpinBox box;
+    box.setKeyboardTracking(false);
+    box.setSuffix(QStringLiteral(" px"));
+    QStringList log;
+    connect(&box, &QSpinBox::textChanged, this, [&log](const QString& text) { log << text; });
+    connect(&box, qOverload<int>(&QSpinBox::valueChanged), this,
+            [&log](int value) { log << QString::number(value); });
+    // The signal that Qt has deprecated.
+    QSignalSpy texts(&box, SIGNAL(valueChanged(QString)));
+    connect(&box, &QAbstractSpinBox::editingFinished, this, [&log] { log << QStringLiteral("finished"); });
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_5);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(log, QStringList({QStringLiteral("5 px"), QStringLiteral("5"), QStringLiteral("finished")}));
+    QCOMPARE(texts.count(), 1);
+    QCOMPARE(texts.at(0), QVariantList{QStringLiteral("5 px")});
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(log.size(), 4);
+}
+
 void tst_OvSpinBox::deletedByAListenerOfEnter_data()
 {
     QTest::addColumn<int>("signal");
     QTest::newRow("valueChanged") << 0;
     QTest::newRow("editingFinished") << 1;
     QTest::newRow("returnPressed") << 2;
+    QTest::newRow("textChanged") << 3;
 }
 
 void tst_OvSpinBox::deletedByAListenerOfEnter()
@@ -201,13 +226,18 @@ void tst_OvSpinBox::deletedByAListenerOfEnter()
     case 1:
         connect(box, &QAbstractSpinBox::editingFinished, this, destroy);
         break;
-    default:
+    case 2:
         connect(box->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this, destroy);
+        break;
+    default:
+        connect(box, &QSpinBox::textChanged, this, destroy);
     }
+    const FreedMemoryWatch memory;
     // Not QTest::keyClick, which uses the widget after the event.
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(box, &enter);
     QVERIFY(box.isNull());
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
 UIC_TEST_MAIN(tst_OvSpinBox)
