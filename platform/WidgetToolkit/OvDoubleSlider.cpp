@@ -18,6 +18,7 @@ public:
     void takeStep();
     void deriveValue();
     void announce();
+    bool isHeard() const;
 
     OvDoubleSlider* const q;
     double multiplier = 1.0;
@@ -57,10 +58,21 @@ void OvDoubleSlider::Private::deriveValue()
 
 void OvDoubleSlider::Private::announce()
 {
-    if (value != announced) {
-        announced = value;
-        Q_EMIT q->doubleValueChanged(value);
+    if (value == announced) {
+        return;
     }
+    announced = value;
+    if (requested && isHeard()) {
+        requested = value;
+    }
+    Q_EMIT q->doubleValueChanged(value);
+}
+
+bool OvDoubleSlider::Private::isHeard() const
+{
+    // One that listens to valueChanged() is the slider itself.
+    return !q->signalsBlocked() && (q->receivers(SIGNAL(doubleValueChanged(double))) > 0 ||
+                                    q->receivers(SIGNAL(valueChanged(int))) > 1);
 }
 
 OvDoubleSlider::OvDoubleSlider(QWidget* parent)

@@ -13,15 +13,16 @@
  * correctly where the multiplier is a decimal fraction or the inverse of a whole number, so that 3 steps
  * of 0.1 are exactly 0.3. setValue() with the step where the handle already sits changes nothing.
  *
- * Multiplier, range and value may be set in any order: what was asked for last is remembered, and worked
- * out again whenever multiplier or range change. A value given to setDoubleValue() returns as soon as
- * the range has room for it, and the handle moves to its step. A step given to setValue() stays, and its
- * value follows the multiplier. The range is given in steps, as in any QSlider; the value is clamped to
- * minimum() and maximum() times the multiplier.
+ * Multiplier, range and value may be set in any order, before anybody listens: what was asked for last is
+ * remembered, and worked out again whenever multiplier or range change. A value given to setDoubleValue()
+ * that the range cuts returns when the range has room for it, and the handle moves to its step, unless the
+ * value that it was cut to has been reported to a listener: that one stays. A step given to setValue()
+ * stays, and its value follows the multiplier. The range is given in steps, as in any QSlider; the value
+ * is clamped to minimum() and maximum() times the multiplier.
  *
- * A click on the groove, the wheel and what a style sheet can select are as in OvCustomSlider. A listener
- * of any signal may delete the slider, save during setRange(), setMinimum() and setMaximum(), behind
- * whose signals QAbstractSlider goes on; use deleteLater() there.
+ * A click on the groove, the wheel, what a style sheet can select and which listeners may delete the slider
+ * are as in OvCustomSlider; a listener of the signals that are added here always may, save in setRange(),
+ * setMinimum() and setMaximum().
  */
 class WIDGETTOOLKIT_EXPORT OvDoubleSlider : public OvCustomSlider
 {

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void anyOrder();
     void anyOrderOfSteps();
     void valueComesBackWhenThereIsRoom();
+    void reportedCutStays_data();
+    void reportedCutStays();
     void infiniteValueFollowsTheRange();
     void badMultipliersAreIgnored_data();
     void badMultipliersAreIgnored();
@@ -224,6 +226,36 @@ void tst_OvDoubleSlider::valueComesBackWhenThereIsRoom()
     QCOMPARE(slider.doubleValue(), 4.0);
 }
 
+void tst_OvDoubleSlider::reportedCutStays_data()
+{
+    QTest::addColumn<bool>("isInSteps");
+    QTest::addColumn<bool>("isBlocked");
+    QTest::newRow("to a listener of the value") << false << false;
+    QTest::newRow("to a listener of the step") << true << false;
+    QTest::newRow("to nobody") << false << true;
+}
+
+void tst_OvDoubleSlider::reportedCutStays()
+{
+    QFETCH(bool, isInSteps);
+    QFETCH(bool, isBlocked);
+    OvDoubleSlider slider;
+    slider.setMultiplier(0.1);
+    slider.setDoubleValue(7.25);
+    const auto signal = isInSteps ? QMetaMethod::fromSignal(&QAbstractSlider::valueChanged)
+                                  : QMetaMethod::fromSignal(&OvDoubleSlider::doubleValueChanged);
+    QSignalSpy spy(&slider, signal);
+    slider.blockSignals(isBlocked);
+    slider.setRange(0, 50);
+    slider.blockSignals(false);
+    QCOMPARE(slider.doubleValue(), 5.0);
+    QCOMPARE(spy.count(), isBlocked ? 0 : 1);
+    spy.clear();
+    slider.setRange(0, 100);
+    QCOMPARE(slider.doubleValue(), isBlocked ? 7.25 : 5.0);
+    QCOMPARE(spy.count(), isBlocked ? 1 : 0);
+}
+
 void tst_OvDoubleSlider::infiniteValueFollowsTheRange()
 {
     OvDoubleSlider slider;
@@ -344,6 +376,7 @@ void tst_OvDoubleSlider::signalsAreCoherent()
     slider.setRange(-30, 50);
     slider.setDoubleValue(17.0);
     slider.setRange(0, 500);
+    slider.setDoubleValue(17.0);
     slider.setMultiplier(0.7);
     slider.setValue(3);
     slider.setRange(10, 20);

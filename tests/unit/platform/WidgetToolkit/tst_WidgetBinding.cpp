@@ -190,8 +190,8 @@ void tst_WidgetBinding::integerRangeAndValueTogether()
     // A double slider moves its value before it announces its range.
     OvDoubleSlider slider;
     QSpinBox box;
-    Util::bindWidgets(static_cast<QAbstractSlider*>(&slider), &box);
     slider.setDoubleValue(150.0);
+    Util::bindWidgets(static_cast<QAbstractSlider*>(&slider), &box);
     QCOMPARE(box.value(), 99);
     QSignalSpy boxSpy(&box, qOverload<int>(&QSpinBox::valueChanged));
     slider.setRange(120, 200);
