@@ -7,14 +7,22 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
+#include <QEventLoop>
 #include <QHBoxLayout>
 #include <QQmlContext>
+#include <QQuickItem>
+#include <QQuickWidget>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
+#include <glog/logging.h>
 #include <optional>
 
 namespace {
+
+// How long a scene may take to give itself a size, by bindings that the event loop has to carry out.
+constexpr int sizeGraceMs = 200;
 
 // A flag that is up in a scope, of an object that may die in it.
 class RunningMark
@@ -121,6 +129,30 @@ private:
     bool m_isMovedByOthers = false;
 };
 
+// Waits for a container without a size to get one. The scene may end the dialog meanwhile, and everything
+// may die.
+void awaitSize(const QPointer<QWidget>& container, const QDialog* dialog)
+{
+    const auto* const view = container->findChild<QQuickWidget*>();
+    const QQuickItem* const root = view ? view->rootObject() : nullptr;
+    if (!root || !container->size().isEmpty()) {
+        return;
+    }
+    QEventLoop loop;
+    const auto quitWithSize = [&loop, &container] {
+        if (container && !container->size().isEmpty()) {
+            loop.quit();
+        }
+    };
+    QObject::connect(root, &QQuickItem::widthChanged, &loop, quitWithSize);
+    QObject::connect(root, &QQuickItem::heightChanged, &loop, quitWithSize);
+    QObject::connect(root, &QObject::destroyed, &loop, &QEventLoop::quit);
+    QObject::connect(dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(sizeGraceMs, &loop, &QEventLoop::quit);
+    // The user goes on when the dialog is there.
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
 QPoint middleOfScreen()
 {
     const QWidget* const active = QApplication::activeWindow();
@@ -214,12 +246,19 @@ int Qml::QuickDialog::exec()
     if (d->content->isUndefined()) {
         d->content->load(d->qmlPath);
     }
-    QWidget* const container = d->content->getUiContent();
+    const QPointer<QWidget> container = d->content->getUiContent();
     if (!d->content->isAvailable() || !container) {
         return Rejected;
     }
-    if (ending.result()) {
-        return *ending.result();
+    if (!ending.result()) {
+        awaitSize(container, this);
+    }
+    if (!self || !container || ending.result()) {
+        return ending.result().value_or(Rejected);
+    }
+    if (container->size().isEmpty()) {
+        LOG(WARNING) << "Nothing to show, the root item has no size: " << d->qmlPath.toStdString();
+        return Rejected;
     }
 
     d->makeWindow();

@@ -64,7 +64,9 @@ public:
     /// Returns 0 at once, and shows nothing, when the scene could not be loaded, now or at the first
     /// exec(); the reason is logged as QuickContent says. So does a call while exec() of the same dialog
     /// runs, which does nothing else. A scene that ends the dialog while it is loaded, as in
-    /// `Component.onCompleted`, is not shown either; its result is returned.
+    /// `Component.onCompleted`, is not shown either; its result is returned. A scene without width or height
+    /// gets 200 ms to give itself both, from bindings, a loader or an animation, and is shown as soon as it
+    /// has; otherwise it is rejected, with a warning of glog that names the file.
     ///
     /// Every call makes the dialog a modal frameless window, takes the container of the scene into it, and
     /// moves it: the middle of the parent's rectangle less half the scene's size, each half cut to whole

@@ -136,6 +136,12 @@ private Q_SLOTS:
 
     void sizes_data();
     void sizes();
+    void sceneWithoutASize_data();
+    void sceneWithoutASize();
+    void sizeThatComesLater_data();
+    void sizeThatComesLater();
+    void endedWithoutASize();
+    void deletedWithoutASize();
     void sceneChangesItsSizeWhileShown();
     void sceneChangesItsSizeWhileHidden();
     void sceneThatThrows();
@@ -618,7 +624,6 @@ void tst_QuickDialog::sizes_data()
     QTest::newRow("one") << QStringLiteral("width: 1; height: 1") << QSize(1, 1);
     QTest::newRow("fraction down") << QStringLiteral("width: 80.4; height: 60.4") << QSize(80, 60);
     QTest::newRow("fraction up") << QStringLiteral("width: 80.5; height: 60.5") << QSize(81, 61);
-    QTest::newRow("zero") << QStringLiteral("width: 0; height: 0") << QSize(0, 0);
 }
 
 void tst_QuickDialog::sizes()
@@ -634,6 +639,86 @@ void tst_QuickDialog::sizes()
         dialog.done(9);
     });
     QCOMPARE(result, 9);
+}
+
+void tst_QuickDialog::sceneWithoutASize_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::newRow("none") << QString();
+    QTest::newRow("no height") << QStringLiteral("width: 100");
+    QTest::newRow("no width") << QStringLiteral("height: 100");
+    QTest::newRow("less than half a pixel") << QStringLiteral("width: 0.4; height: 100");
+}
+
+void tst_QuickDialog::sceneWithoutASize()
+{
+    QFETCH(QString, size);
+    FormDialog dialog;
+    const QString path = scene(size);
+    dialog.setQmlPath(path);
+    OnShow onShow([] { QFAIL("It was shown."); });
+    dialog.installEventFilter(&onShow);
+    for (int round = 1; round <= Rounds; ++round) {
+        // It would not end by itself.
+        QTimer::singleShot(2000, &dialog, [&dialog] { dialog.done(7); });
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        QCOMPARE(m_log->take(),
+                 QStringList{QStringLiteral("WARNING QuickDialog.cpp: Nothing to show, the root "
+                                            "item has no size: ") +
+                             path});
+        QVERIFY(!dialog.container()->parentWidget());
+    }
+}
+
+void tst_QuickDialog::sizeThatComesLater_data()
+{
+    QTest::addColumn<QString>("body");
+    const QString bound = QStringLiteral("property int side: 0; width: side; height: side; ");
+    QTest::newRow("on the next turn")
+        << bound + QStringLiteral("Component.onCompleted: Qt.callLater(function() { side = 90 })");
+    QTest::newRow("by a timer")
+        << bound + QStringLiteral("Timer { interval: 20; running: true; onTriggered: parent.side = 90 }");
+    QTest::newRow("one after the other")
+        << QStringLiteral("width: 90; Component.onCompleted: Qt.callLater(function() { height = 90 })");
+}
+
+void tst_QuickDialog::sizeThatComesLater()
+{
+    QFETCH(QString, body);
+    QWidget host;
+    host.setGeometry(100, 100, 400, 300);
+    host.show();
+    FormDialog dialog(&host);
+    dialog.setQmlPath(scene(body));
+    bool isShown = false;
+    OnShow onShow([&] {
+        isShown = true;
+        QCOMPARE(dialog.pos(), host.mapToGlobal(host.rect().center()) - QPoint(45, 45));
+        QTimer::singleShot(0, &dialog, [&dialog] {
+            QCOMPARE(dialog.size(), QSize(90, 90));
+            dialog.accept();
+        });
+    });
+    dialog.installEventFilter(&onShow);
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QVERIFY(isShown);
+}
+
+void tst_QuickDialog::endedWithoutASize()
+{
+    FormDialog dialog;
+    dialog.setQmlPath(
+        scene(QStringLiteral("Component.onCompleted: Qt.callLater(function() { callback.done(5) })")));
+    QCOMPARE(dialog.exec(), 5);
+}
+
+void tst_QuickDialog::deletedWithoutASize()
+{
+    const QPointer<FormDialog> dialog = new FormDialog;
+    dialog->setQmlPath(scene(QString()));
+    QTimer::singleShot(0, dialog, [&dialog] { delete dialog; });
+    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
+    QVERIFY(!dialog);
 }
 
 void tst_QuickDialog::sceneChangesItsSizeWhileShown()
