@@ -1,5 +1,6 @@
 #include "DialogGuideWidget.h"
 
+#include "GuideLabel.h"
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
@@ -15,6 +16,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QTimer>
 #include <QToolButton>
 
@@ -32,6 +35,37 @@ protected:
     {
         // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
+    }
+};
+
+/// Takes no more than a quarter of the screen's width, and shows what it has room for of a longer text.
+class ElidingButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    QSize sizeHint() const override { return limited(QPushButton::sizeHint()); }
+    QSize minimumSizeHint() const override { return limited(QPushButton::minimumSizeHint()); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        Q_UNUSED(event)
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const int missing = QPushButton::sizeHint().width() - width();
+        if (missing > 0) {
+            const int room = fontMetrics().size(Qt::TextShowMnemonic, text()).width() - missing;
+            option.text = fontMetrics().elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
+        }
+        painter.drawControl(QStyle::CE_PushButton, option);
+    }
+
+private:
+    QSize limited(const QSize& size) const
+    {
+        return size.boundedTo(QSize(GuideLabel::mostWidth(this) / 2, QWIDGETSIZE_MAX));
     }
 };
 
@@ -90,19 +124,17 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     : owner(bubble)
     , contentFrame(bubble->contentFrame())
     , headerFrame(named("headerFrame", new OvFrame(contentFrame)))
-    , headerLabel(named("headerLabel", new QLabel(headerFrame)))
+    , headerLabel(named("headerLabel", new GuideLabel(headerFrame)))
     , closeButton(named("closeButton", new CloseButton(headerFrame)))
     , descriptionFrame(named("descriptionFrame", new OvFrame(contentFrame)))
     , buttonsFrame(named("buttonsFrame", new OvFrame(contentFrame)))
     , gifPixmapWidget(named("gifPixmapWidget", new OvPixmapWidget(descriptionFrame)))
-    , descriptionLabel(named("descriptionLabel", new QLabel(descriptionFrame)))
-    , secondaryButton(named("secondaryButton", new QPushButton(buttonsFrame)))
-    , mainButton(named("mainButton", new QPushButton(buttonsFrame)))
+    , descriptionLabel(named("descriptionLabel", new GuideLabel(descriptionFrame)))
+    , secondaryButton(named("secondaryButton", new ElidingButton(buttonsFrame)))
+    , mainButton(named("mainButton", new ElidingButton(buttonsFrame)))
     , headerHeight(headerLabel)
     , descriptionHeight(descriptionLabel)
 {
-    headerLabel->setWordWrap(true);
-    descriptionLabel->setWordWrap(true);
     // Legible without a sheet; a sheet's qproperty-icon wins.
     closeButton->setIcon(owner->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 

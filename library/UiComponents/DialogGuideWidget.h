@@ -29,7 +29,9 @@
  * # Size
  * The texts get room for all their lines one turn of the event loop after setInfo(), when layouts and
  * style sheet have settled, and when the bubble is shown; the size is the old one until then. Give the bubble
- * a width in the style sheet, or long texts make it wide.
+ * a width in the style sheet, or long texts make it wide. It is never larger than its screen: a word or a
+ * picture in a text takes half of its width at most, a button, whose text ends in an ellipsis then, a
+ * quarter.
  *
  * # Picture
  * It plays while the bubble is shown and rests while it is hidden (see OvPixmapWidget).

@@ -1,5 +1,6 @@
 #include "GuideWidget.h"
 
+#include "GuideLabel.h"
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
@@ -24,15 +25,15 @@ const Qt::TextInteractionFlags linkByMouse = Qt::LinksAccessibleByMouse;
 const Qt::TextInteractionFlags linkByMouseAndKeyboard = linkByMouse | Qt::LinksAccessibleByKeyboard;
 
 /// Tab stops at the link at once. QLabel's own first stop is the text, where Enter does nothing.
-class LinkLabel : public QLabel
+class LinkLabel : public GuideLabel
 {
 public:
-    using QLabel::QLabel;
+    using GuideLabel::GuideLabel;
 
 protected:
     void focusInEvent(QFocusEvent* event) override
     {
-        QLabel::focusInEvent(event);
+        GuideLabel::focusInEvent(event);
         if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
             focusNextPrevChild(true);
         }
@@ -42,7 +43,7 @@ protected:
     {
         // Backwards QLabel finds the first link again and again, and the focus never leaves it.
         // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        return next ? QLabel::focusNextPrevChild(next) : QFrame::focusNextPrevChild(next);
+        return next ? GuideLabel::focusNextPrevChild(next) : QFrame::focusNextPrevChild(next);
     }
 };
 
@@ -51,7 +52,6 @@ QLabel* makeLabel(const QString& name, QWidget* parent)
 {
     auto* label = new Label(parent);
     label->setObjectName(name);
-    label->setWordWrap(true);
     return label;
 }
 
@@ -86,9 +86,9 @@ public:
 
 GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     : owner(guide)
-    , headerLabel(makeLabel<QLabel>(QStringLiteral("headerLabel"), guide))
+    , headerLabel(makeLabel<GuideLabel>(QStringLiteral("headerLabel"), guide))
     , gifPixmapWidget(new OvPixmapWidget(guide))
-    , descriptionLabel(makeLabel<QLabel>(QStringLiteral("descriptionLabel"), guide))
+    , descriptionLabel(makeLabel<GuideLabel>(QStringLiteral("descriptionLabel"), guide))
     , learnMoreLabel(makeLabel<LinkLabel>(QStringLiteral("learnMoreLabel"), guide))
     , info(std::move(guideInfo))
     , headerHeight(headerLabel)

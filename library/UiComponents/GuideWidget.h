@@ -30,7 +30,8 @@
  * Heading and description get room for all their lines at the width that the guide has when its info is
  * set, after it was polished. So give the guide its width first, in the style sheet or by hand; a guide
  * that becomes wider afterwards keeps the height. The picture follows the width and shrinks where there is
- * no room for it.
+ * no room for it. A word that would take more than half of the screen's width is broken, and a picture in a
+ * text made that small.
  *
  * # Style sheet
  * The labels are named "headerLabel", "descriptionLabel" and "learnMoreLabel", the OvPixmapWidget

@@ -187,7 +187,8 @@ void PointingWidget::Private::fit()
         size.setHeight(layout->totalHeightForWidth(size.width()));
     }
     size.setHeight(qMin(size.height(), room.height()));
-    q->resize(size.expandedTo(q->minimumSizeHint()));
+    size = size.expandedTo(q->minimumSizeHint());
+    q->resize(q->isWindow() && !room.isEmpty() ? size.boundedTo(room) : size);
     place();
 }
 

@@ -36,7 +36,7 @@ class OvFrame;
  * screen (for a spot on no screen, of the nearest one; for a child, inside the parent): where there is no
  * room for it, the arrow goes to the opposite side, and the bubble slides along that side while its arrow
  * leans to the target. Only a target outside the area, or without room on both sides, is not touched. A
- * bubble larger than the area shows its beginning.
+ * bubble that a minimum size makes larger than the area shows its beginning.
  *
  * With a parent the target is a spot of the parent: the bubble goes with it when the parent or an ancestor
  * moves or gets another parent. It hides with its parent, and comes back with it if it was showing and is
@@ -46,7 +46,8 @@ class OvFrame;
  *
  * # Size
  * The bubble takes the size that its content asks for whenever that changes, within its minimum and maximum
- * size and the area; give it a fixed or maximum width to make long texts wrap. The content keeps clear of
+ * size and the area; give it a fixed or maximum width to make long texts wrap. A bubble that is a window cuts
+ * off content that insists on more than the screen has. The content keeps clear of
  * the border, the arrow and the rounded corners; further margins are those of the content's layout, which
  * the sheet sets (see OvFrame).
  *

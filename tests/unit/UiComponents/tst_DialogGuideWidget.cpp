@@ -137,6 +137,8 @@ int neededHeight(const QLabel* label, int width)
 
 } // namespace
 
+Q_DECLARE_METATYPE(DialogGuideInfo)
+
 class tst_DialogGuideWidget : public QObject
 {
     Q_OBJECT
@@ -165,7 +167,9 @@ private Q_SLOTS:
     void heightsAreForTheWidthsOfTheFrames();
     void hidingTheCloseButtonWidensTheHeading();
     void shorterTextMakesItLower();
+    void veryLongTexts_data();
     void veryLongTexts();
+    void longButtonTextIsElided();
     void infoSetWhileHidden_data();
     void infoSetWhileHidden();
     void infoChangedWhileShown();
@@ -556,16 +560,55 @@ void tst_DialogGuideWidget::shorterTextMakesItLower()
     QCOMPARE(stage.bubble->height(), shortHeight);
 }
 
+void tst_DialogGuideWidget::veryLongTexts_data()
+{
+    QTest::addColumn<DialogGuideInfo>("info");
+    const QString word(10000, QLatin1Char('w'));
+    const QString picture = QStringLiteral("<img src=\"x.png\" width=99999 height=99999>");
+    QTest::newRow("many words") << DialogGuideInfo{words(500), words(20000), words(50), words(50),
+                                                   animation()};
+    QTest::newRow("long words") << DialogGuideInfo{word, word, word, word, QString()};
+    QTest::newRow("a picture") << DialogGuideInfo{QString(), picture, QString(), QString(), QString()};
+}
+
 void tst_DialogGuideWidget::veryLongTexts()
 {
+    QFETCH(DialogGuideInfo, info);
     Stage stage;
-    stage.bubble->setInfo({words(500), words(20000), words(50), words(50), animation()});
+    stage.bubble->setInfo(info);
     settle();
-    QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry().topLeft()));
+    QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
+    QVERIFY(!stage.bubble->grab().isNull());
+    for (const char* name : {"mainButton", "secondaryButton", "closeButton"}) {
+        const auto* const button = stage.bubble->findChild<QAbstractButton*>(QLatin1String(name));
+        const QRect place(button->mapTo(stage.bubble, QPoint()), button->size());
+        QVERIFY2(stage.bubble->rect().contains(place), name);
+    }
     stage.bubble->setInfo(fullInfo());
     settle();
     QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
     QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
+}
+
+void tst_DialogGuideWidget::longButtonTextIsElided()
+{
+    Stage stage;
+    DialogGuideInfo info = fullInfo();
+    info.mainButtonText = QString(1000, QLatin1Char('M'));
+    stage.bubble->setInfo(info);
+    settle();
+    auto* const button = stage.bubble->findChild<QPushButton*>(QStringLiteral("mainButton"));
+    QCOMPARE(button->text(), info.mainButtonText);
+    QCOMPARE(button->width(), button->screen()->availableSize().width() / 4);
+    // A text that is merely too long is cut off at both edges.
+    const QImage shown = button->grab().toImage();
+    button->setText(QString());
+    const QImage empty = button->grab().toImage();
+    QVERIFY(shown != empty);
+    const QRect leftEdge(0, 0, 5, button->height());
+    const QRect rightEdge(button->width() - 5, 0, 5, button->height());
+    QCOMPARE(shown.copy(leftEdge), empty.copy(leftEdge));
+    QCOMPARE(shown.copy(rightEdge), empty.copy(rightEdge));
 }
 
 void tst_DialogGuideWidget::infoSetWhileHidden_data()

@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QMovie>
 #include <QPointer>
+#include <QScreen>
+#include <QTemporaryDir>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
@@ -118,6 +120,8 @@ void followLinkByKeyboard(QWidget& guide)
 
 } // namespace
 
+Q_DECLARE_METATYPE(GuideInfo)
+
 class tst_GuideWidget : public QObject
 {
     Q_OBJECT
@@ -148,7 +152,11 @@ private Q_SLOTS:
     void minimumHeightOfTheSheetIsKept();
     void emptyTextsNeedNoHeight();
     void veryLongTexts();
-    void longWordWithoutABreak();
+    void longWord();
+    void wordThatFitsNoScreen_data();
+    void wordThatFitsNoScreen();
+    void picturesInTheText_data();
+    void picturesInTheText();
     void rightToLeft();
 
     void playsFromTheFirstFrameAtEachShowing();
@@ -479,15 +487,100 @@ void tst_GuideWidget::veryLongTexts()
     QTRY_VERIFY(guide->minimumSizeHint().height() < 200);
 }
 
-void tst_GuideWidget::longWordWithoutABreak()
+void tst_GuideWidget::longWord()
 {
-    GuideWidget guide(described(QString(500, QLatin1Char('w'))), nullptr);
+    GuideWidget guide(described(QString(20, QLatin1Char('w'))), nullptr);
     guide.show();
-    // The word is not cut: it decides how narrow the guide can be.
+    // The word is not broken: it decides how narrow the guide can be.
     guide.resize(50, 50);
     const QLabel* const description = label(guide, "descriptionLabel");
     QVERIFY(description->width() >= description->fontMetrics().horizontalAdvance(description->text()));
     QVERIFY(!guide.grab().isNull());
+}
+
+void tst_GuideWidget::wordThatFitsNoScreen_data()
+{
+    QTest::addColumn<GuideInfo>("info");
+    QTest::addColumn<QString>("name");
+    const QString word(1000, QLatin1Char('w'));
+    const QString bold = QStringLiteral("<b>%1</b>").arg(word);
+    QTest::newRow("title") << GuideInfo(word, {}, {}, {}) << QStringLiteral("headerLabel");
+    QTest::newRow("plain description") << described(word) << QStringLiteral("descriptionLabel");
+    QTest::newRow("rich description") << described(bold) << QStringLiteral("descriptionLabel");
+    QTest::newRow("link") << GuideInfo({}, {}, QStringLiteral("<a href=\"x\">%1</a>").arg(word), {})
+                          << QStringLiteral("learnMoreLabel");
+}
+
+void tst_GuideWidget::wordThatFitsNoScreen()
+{
+    QFETCH(GuideInfo, info);
+    QFETCH(QString, name);
+    GuideWidget guide(info, nullptr);
+    const int screen = guide.screen()->availableSize().width();
+    guide.show();
+    QVERIFY(guide.width() <= screen / 2);
+    guide.resize(200, guide.heightForWidth(200));
+    QCOMPARE(guide.width(), 200);
+    // All of it is there, in lines from edge to edge.
+    auto* const label = guide.findChild<QLabel*>(name);
+    const QFontMetrics metrics = label->fontMetrics();
+    const int lines = metrics.horizontalAdvance(QLatin1Char('w')) * 1000 / 200;
+    QVERIFY(label->height() >= lines * metrics.lineSpacing());
+    const QImage picture = label->grab().toImage();
+    const QRgb empty = picture.pixel(0, picture.height() - 1);
+    const auto isDrawnIn = [&](const QRect& part) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                if (picture.pixel(x, y) != empty) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    QVERIFY(isDrawnIn({0, label->height() / 2, 30, 40}));
+    QVERIFY(isDrawnIn({170, label->height() / 2, 30, 40}));
+}
+
+void tst_GuideWidget::picturesInTheText_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("as it is") << QString() << QSize(40, 20);
+    QTest::newRow("a little wider") << QStringLiteral("width=80") << QSize(80, 40);
+    QTest::newRow("too wide") << QStringLiteral("width=99999 height=20") << QSize(-1, -1);
+    QTest::newRow("too high and wide") << QStringLiteral("width=99999 height=99999") << QSize(-1, -1);
+    QTest::newRow("wide in its shape") << QStringLiteral("width=99999") << QSize(-1, -1);
+}
+
+void tst_GuideWidget::picturesInTheText()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    QImage image(40, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QString path = folder.filePath(QStringLiteral("picture.png"));
+    QVERIFY(image.save(path));
+    GuideWidget guide(described(QStringLiteral("<img src=\"%1\" %2>").arg(path, attributes)), nullptr);
+    guide.show();
+    const QSize screen = guide.screen()->availableSize();
+    QVERIFY(guide.width() <= screen.width());
+    QVERIFY(guide.height() <= screen.height());
+    const QImage shown = guide.grab().toImage();
+    QRect red;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            if (shown.pixelColor(x, y) == QColor(Qt::red)) {
+                red |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    if (size.isValid()) {
+        QCOMPARE(red.size(), size);
+    } else {
+        QCOMPARE(red.width(), screen.width() / 2);
+    }
 }
 
 void tst_GuideWidget::rightToLeft()

@@ -1,0 +1,33 @@
+// Internal: the labels of GuideWidget and DialogGuideWidget.
+
+#pragma once
+
+#include <QLabel>
+
+class QTextDocument;
+
+/**
+ * A label that wraps its text between words. Where a word, or a picture in the text, would make it wider than
+ * half of its screen, it breaks words anywhere and makes pictures smaller.
+ */
+// For everybody else it is a QLabel.
+class GuideLabel : public QLabel // clazy:exclude=missing-qobject-macro
+{
+public:
+    explicit GuideLabel(QWidget* parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
+
+    /// Half of the width of the screen that @p widget is on.
+    static int mostWidth(const QWidget* widget);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool breaksWords() const;
+    QTextDocument* document() const;
+    QRect textRect() const;
+};
