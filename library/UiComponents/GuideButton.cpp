@@ -15,7 +15,14 @@ GuideButton::GuideButton(QWidget* parent)
     connect(this, &QAbstractButton::clicked, this, &GuideButton::showHelp);
 }
 
-GuideButton::~GuideButton() = default;
+GuideButton::~GuideButton()
+{
+    // Its show(), below on the stack, deletes it.
+    if (m_appearing) {
+        m_appearing->hide();
+        m_appearing->setParent(nullptr);
+    }
+}
 
 void GuideButton::setGuideInfo(std::unique_ptr<GuideInfo> info)
 {
@@ -54,7 +61,15 @@ void GuideButton::showHelp()
     if (!info) {
         return;
     }
-    delete m_pointingWidget.data();
+    const QPointer<GuideButton> self = this;
+    if (m_pointingWidget && m_pointingWidget == m_appearing) {
+        m_pointingWidget->hide();
+    } else {
+        delete m_pointingWidget.data();
+    }
+    if (!self) {
+        return;
+    }
 
     m_pointingWidget = new PointingWidget(this);
     m_pointingWidget->setObjectName(Util::Details::removeClassMemberPrefix("m_pointingWidget"));
@@ -74,5 +89,14 @@ void GuideButton::showHelp()
 
     m_pointingWidget->setArrowOffset(m_popupOffset);
     m_pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));
-    m_pointingWidget->show();
+    const QPointer<PointingWidget> popup = m_pointingWidget;
+    const QPointer<PointingWidget> outer = m_appearing;
+    m_appearing = popup;
+    popup->show();
+    if (self) {
+        m_appearing = outer;
+    }
+    if (!self || popup != m_pointingWidget) {
+        delete popup;
+    }
 }

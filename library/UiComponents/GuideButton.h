@@ -40,7 +40,8 @@ class PointingWidget;
  *     #guideWidget { min-width: 280px; max-width: 280px; }
  *
  * # Lifetime
- * A slot of clicked() or learnMoreClicked() may delete the button and everything around it.
+ * A slot of clicked() or learnMoreClicked() may delete the button and everything around it, and so may
+ * whoever loses the focus to the pop-up.
  */
 class UICOMPONENTS_EXPORT GuideButton : public QToolButton
 {
@@ -74,5 +75,6 @@ private:
     std::shared_ptr<GuideInfo> m_guideInfo;
     QPointer<PointingWidget> m_pointingWidget;
     QPointer<GuideWidget> m_guideWidget;
+    QPointer<PointingWidget> m_appearing; // while its show() runs
     int m_popupOffset = 0;
 };

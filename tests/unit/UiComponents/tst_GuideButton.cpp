@@ -18,8 +18,10 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTextDocument>
+#include <QTimer>
 #include <QWindow>
 
+#include <functional>
 #include <limits>
 #include <memory>
 
@@ -81,6 +83,28 @@ void clickLink(const GuideButton& button)
     QTest::mouseClick(label, Qt::LeftButton, {}, QPoint(12, label->height() / 2));
 }
 
+/// Calls a function when a widget loses the focus.
+class OnFocusOut : public QObject
+{
+public:
+    OnFocusOut(QWidget* widget, std::function<void()> call)
+        : m_call(std::move(call))
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::FocusOut) {
+            m_call();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    const std::function<void()> m_call;
+};
+
 /// Does nothing with the URLs of the tests.
 class UrlHandler : public QObject
 {
@@ -96,6 +120,8 @@ public:
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(GuideInfo)
 
 class tst_GuideButton : public QObject
 {
@@ -116,6 +142,8 @@ private Q_SLOTS:
     void disabledButtonOpensNothing();
 
     void eachClickBuildsAnew();
+    void whileThePopupAppears_data();
+    void whileThePopupAppears();
     void newInfoIsShownAtTheNextClick();
     void popupDeletedByOthers();
     void offsetTakesEffectAtTheNextClick();
@@ -137,6 +165,8 @@ private Q_SLOTS:
 
     void atTheEdgesOfTheScreen_data();
     void atTheEdgesOfTheScreen();
+    void neverLargerThanTheScreen_data();
+    void neverLargerThanTheScreen();
     void rightToLeft();
     void hugeAnimationStaysOnTheScreen();
     void shorterTextMakesAnOpenPopupLower();
@@ -298,6 +328,54 @@ void tst_GuideButton::eachClickBuildsAnew()
     QVERIFY(!second);
     QCOMPARE(popups(*button).size(), 1);
     QCOMPARE(button->findChildren<GuideWidget*>().size(), 1);
+}
+
+void tst_GuideButton::whileThePopupAppears_data()
+{
+    QTest::addColumn<bool>("isDeleted");
+    QTest::newRow("clicked again") << false;
+    QTest::newRow("deleted") << true;
+}
+
+void tst_GuideButton::whileThePopupAppears()
+{
+    QFETCH(bool, isDeleted);
+    QWidget window;
+    QLineEdit edit(&window);
+    auto button = makeButton(&window);
+    window.resize(400, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    edit.setFocus();
+    // Opening a pop-up takes the focus.
+    int losses = 0;
+    const OnFocusOut watch(&edit, [&] {
+        if (++losses == 1) {
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, [&] {
+                if (isDeleted) {
+                    button.reset();
+                } else {
+                    button->setGuideInfo(info(QStringLiteral("Second")));
+                    button->click();
+                }
+                loop.quit();
+            });
+            loop.exec();
+        }
+    });
+    const FreedMemoryWatch memory;
+    button->click();
+    QVERIFY(losses > 0);
+    QVERIFY(isDeleted == !button);
+    if (button) {
+        QCOMPARE(popups(*button).size(), 1);
+        QVERIFY(popup(*button)->isVisible());
+        QCOMPARE(shownTitle(*button), QStringLiteral("Second"));
+    }
+    QCOMPARE(QApplication::activePopupWidget() != nullptr, !isDeleted);
+    QVERIFY(memory.deleted() > 0);
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
 void tst_GuideButton::newInfoIsShownAtTheNextClick()
@@ -574,6 +652,34 @@ void tst_GuideButton::atTheEdgesOfTheScreen()
     const QPoint tip = open->mapFromGlobal(open->targetPoint());
     QVERIFY(open->rect().contains(tip));
     QVERIFY(open->mask().contains(tip));
+}
+
+void tst_GuideButton::neverLargerThanTheScreen_data()
+{
+    QTest::addColumn<GuideInfo>("info");
+    const QString word(10000, QLatin1Char('w'));
+    const QString words = QStringLiteral("word ").repeated(20000);
+    const QString picture = QStringLiteral("<img src=\"x.png\" width=99999 height=99999>");
+    QTest::newRow("a long word") << GuideInfo({}, word, {}, {});
+    QTest::newRow("a long title") << GuideInfo(word, {}, {}, {});
+    QTest::newRow("a long link") << GuideInfo({}, {}, QStringLiteral("<a href=\"x\">%1</a>").arg(word), {});
+    QTest::newRow("many words") << GuideInfo(words, words, words, {});
+    QTest::newRow("a picture") << GuideInfo({}, picture, picture, {});
+    QTest::newRow("an animation") << GuideInfo({}, {}, {}, QStringLiteral(UIC_TEST_DATA "/huge.gif"));
+}
+
+void tst_GuideButton::neverLargerThanTheScreen()
+{
+    QFETCH(GuideInfo, info);
+    const auto button = makeButton();
+    button->setGuideInfo(std::make_unique<GuideInfo>(info));
+    button->show();
+    button->click();
+    for (int turns = 0; turns < 3; ++turns) {
+        QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
+        QVERIFY(!popup(*button)->grab().isNull());
+        QCoreApplication::processEvents();
+    }
 }
 
 void tst_GuideButton::rightToLeft()
