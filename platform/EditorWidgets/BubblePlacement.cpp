@@ -101,13 +101,6 @@ ArrowSide sideWithRoom(ArrowSide wanted, const Span& area, int target, int depth
     return there > here ? opposite(wanted) : wanted;
 }
 
-/// Keeps sums of coordinates inside an int; no desktop is that large.
-QPoint withinReach(const QPoint& point)
-{
-    const int reach = 1 << 28;
-    return {qBound(-reach, point.x(), reach), qBound(-reach, point.y(), reach)};
-}
-
 qreal snapped(qreal value, qreal scale)
 {
     return std::round(value * scale) / scale;
@@ -249,6 +242,11 @@ QRegion bubbleRegion(const BubblePlacement& placement, const BubbleShape& shape)
     painter.drawPath(bubblePath(placement, shape));
     painter.end();
     return {QBitmap::fromImage(picture)};
+}
+
+QPoint withinReach(const QPoint& point)
+{
+    return {qBound(-bubbleReach, point.x(), bubbleReach), qBound(-bubbleReach, point.y(), bubbleReach)};
 }
 
 int nearestArea(const QPoint& point, const QVector<QRect>& areas)

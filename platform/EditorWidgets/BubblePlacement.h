@@ -65,5 +65,11 @@ qreal bubblePenWidth(const BubbleShape& shape, qreal scale = 1);
 /// Every pixel that the bubble paints, partly covered ones included.
 QRegion bubbleRegion(const BubblePlacement& placement, const BubbleShape& shape);
 
+/// Sums of coordinates up to here stay inside an int; no desktop is that large.
+constexpr int bubbleReach = 1 << 28;
+
+/// The point nearest to @p point whose coordinates are between -bubbleReach and bubbleReach.
+QPoint withinReach(const QPoint& point);
+
 /// The index of the rectangle that contains @p point or else is nearest to it; -1 for none.
 int nearestArea(const QPoint& point, const QVector<QRect>& areas);

@@ -129,7 +129,7 @@ bool PointingWidget::Private::eventFilter(QObject* watched, QEvent* event)
 QPoint PointingWidget::Private::origin() const
 {
     const QWidget* const parent = q->parentWidget();
-    return parent ? parent->mapToGlobal(QPoint()) : QPoint();
+    return parent ? withinReach(parent->mapToGlobal(QPoint())) : QPoint();
 }
 
 /// Where the bubble may be, in the coordinates of its pos().
@@ -367,7 +367,7 @@ PointingWidget::~PointingWidget() = default;
 
 void PointingWidget::pointTo(const QPoint& globalPos)
 {
-    d->target = globalPos - d->origin();
+    d->target = withinReach(globalPos) - d->origin();
     d->hasTarget = true;
     d->place();
 }

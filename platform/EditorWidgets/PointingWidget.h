@@ -89,7 +89,7 @@ public:
     ~PointingWidget() override;
 
     /// Places the bubble so that the tip of its arrow is at @p globalPos. It does not show it. The same
-    /// point again costs little and causes no repaint.
+    /// point again costs little and causes no repaint. Coordinates beyond 2^28 go to the nearest, 2^28.
     void pointTo(const QPoint& globalPos);
 
     /// Where the arrow points now, in global coordinates: the point last given to pointTo(), having moved

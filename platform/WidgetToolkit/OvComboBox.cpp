@@ -65,7 +65,8 @@ QSize OvComboBox::minimumSizeHint() const
     // Not QComboBox's, which is cached and which a swallowed change of font or style would leave stale.
     const QFontMetrics metrics(fontMetrics());
     const int length = minimumContentsLength() > 0 ? minimumContentsLength() : usualContentsLength;
-    const int room = length * metrics.horizontalAdvance(QLatin1Char('X'));
+    const qint64 wanted = qint64(length) * metrics.horizontalAdvance(QLatin1Char('X'));
+    const int room = int(qMin<qint64>(wanted, QWIDGETSIZE_MAX));
     const int icon = roomForIcon(this);
     const int iconHeight = icon > 0 ? iconSize().height() : 0;
     const QSize contents(widestText(this, metrics, room) + icon,

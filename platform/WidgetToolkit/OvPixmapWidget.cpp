@@ -10,6 +10,13 @@
 #include <QStyle>
 #include <QStyleOption>
 
+namespace {
+
+// What is scaled in advance takes memory, whatever part of it is seen.
+constexpr qint64 mostScaledPixels = 4096 * 4096;
+
+} // namespace
+
 class OvPixmapWidget::Private
 {
 public:
@@ -190,13 +197,17 @@ int OvPixmapWidget::heightForWidth(int width) const
 
 void OvPixmapWidget::paintEvent(QPaintEvent* event)
 {
-    QFrame::paintEvent(event);
+    Q_UNUSED(event)
+    QPainter painter(this);
+    if (!painter.isActive()) {
+        return; // the window is too large for its backing store
+    }
+    drawFrame(&painter);
     const QSize frame = d->frameSize();
     const QRect room = contentsRect();
     if (frame.isEmpty() || room.isEmpty()) {
         return;
     }
-    QPainter painter(this);
     // Of what is painted on: a grab or a proxy in a scene may have another scale than the screen.
     const qreal ratio = painter.paintEngine()->paintDevice()->devicePixelRatioF();
     const QSize deviceRoom(qRound(room.width() * ratio), qRound(room.height() * ratio));
@@ -205,7 +216,10 @@ void OvPixmapWidget::paintEvent(QPaintEvent* event)
     const QPoint deviceTopLeft(qRound(room.x() * ratio) + (deviceRoom.width() - deviceSize.width()) / 2,
                                qRound(room.y() * ratio) + (deviceRoom.height() - deviceSize.height()) / 2);
     const QRectF target(QPointF(deviceTopLeft) / ratio, QSizeF(deviceSize) / ratio);
-    painter.drawPixmap(target, d->scaledFrame(deviceSize), QRectF(QPointF(), QSizeF(deviceSize)));
+    const bool isLarge = qint64(deviceSize.width()) * deviceSize.height() > mostScaledPixels;
+    const QSize scaledSize = isLarge ? frame : deviceSize;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, isLarge);
+    painter.drawPixmap(target, d->scaledFrame(scaledSize), QRectF(QPointF(), QSizeF(scaledSize)));
 }
 
 void OvPixmapWidget::resizeEvent(QResizeEvent* event)

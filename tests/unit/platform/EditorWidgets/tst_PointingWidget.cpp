@@ -12,6 +12,7 @@
 #include <QTabWidget>
 #include <QWindow>
 
+#include <limits>
 #include <memory>
 
 using ArrowPosition = PointingWidget::ArrowPosition;
@@ -138,6 +139,8 @@ private Q_SLOTS:
     void largeContentStaysWithinScreen();
     void minimumForCornersAndArrow();
     void targetWithoutParent();
+    void extremeTargets_data();
+    void extremeTargets();
     void targetBeforePointing();
     void targetMovesWithParent();
     void followsEveryAncestor();
@@ -468,6 +471,35 @@ void tst_PointingWidget::targetWithoutParent()
     QCOMPARE(bubble.targetPoint(), QPoint(123, 45));
     bubble.pointTo(QPoint(-9000, 12345));
     QCOMPARE(bubble.targetPoint(), QPoint(-9000, 12345));
+}
+
+void tst_PointingWidget::extremeTargets_data()
+{
+    using Limits = std::numeric_limits<int>;
+    const int reach = 1 << 28;
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<QPoint>("target");
+    QTest::newRow("largest") << QPoint(Limits::max(), Limits::max()) << QPoint(reach, reach);
+    QTest::newRow("smallest") << QPoint(Limits::min(), Limits::min()) << QPoint(-reach, -reach);
+    QTest::newRow("both") << QPoint(Limits::min(), Limits::max()) << QPoint(-reach, reach);
+}
+
+void tst_PointingWidget::extremeTargets()
+{
+    QFETCH(QPoint, point);
+    QFETCH(QPoint, target);
+    QWidget parent;
+    parent.setGeometry(-100, 150, 300, 200);
+    for (QWidget* of : {static_cast<QWidget*>(nullptr), &parent}) {
+        PointingWidget bubble(of);
+        bubble.pointTo(point);
+        QCOMPARE(bubble.targetPoint(), target);
+        bubble.pointTo(bubble.targetPoint());
+        QCOMPARE(bubble.targetPoint(), target);
+        parent.move(parent.pos() + QPoint(10, 20));
+        bubble.setParent(nullptr);
+        QVERIFY(screenArea().contains(bubble.geometry()));
+    }
 }
 
 void tst_PointingWidget::targetBeforePointing()

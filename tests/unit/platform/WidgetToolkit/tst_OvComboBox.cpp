@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QStyleOptionComboBox>
 
+#include <limits>
+
 namespace {
 
 // A subclass that keeps its change events from the base.
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void nothingIsElidedAtTheSizeHint_data();
     void nothingIsElidedAtTheSizeHint();
     void paintsAtAnySize();
+    void extremeContentsLength();
     void deletedWhileOpen();
 };
 
@@ -320,6 +323,16 @@ void tst_OvComboBox::paintsAtAnySize()
     const QImage withPlaceholder = box.grab().toImage();
     box.setPlaceholderText(QString());
     QVERIFY(box.grab().toImage() != withPlaceholder);
+}
+
+void tst_OvComboBox::extremeContentsLength()
+{
+    OvComboBox box;
+    box.addItem(QString(50, QLatin1Char('w')));
+    box.setMinimumContentsLength(100);
+    const QSize hint = box.minimumSizeHint();
+    box.setMinimumContentsLength(std::numeric_limits<int>::max());
+    QCOMPARE(box.minimumSizeHint(), hint);
 }
 
 void tst_OvComboBox::deletedWhileOpen()

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include <sys/resource.h>
+
 namespace {
 
 QString dataFile(const char* name)
@@ -115,6 +117,8 @@ private Q_SLOTS:
     void paintsEachFrame();
     void paintsAtScaleTwo();
     void paintsAtOddSizes();
+    void hugeWidgetTakesLittleMemory();
+    void windowThatCannotBePainted();
     void disabledPictureLooksDisabled();
 
     void replacedInASlotOfItsMovie();
@@ -554,6 +558,36 @@ void tst_OvPixmapWidget::paintsAtOddSizes()
             QCOMPARE(painted.isNull(), width == 0 || height == 0);
         }
     }
+}
+
+void tst_OvPixmapWidget::hugeWidgetTakesLittleMemory()
+{
+    OvPixmapWidget widget;
+    widget.setMoviePath(threeFrames());
+    const QColor color = widget.movie()->currentImage().pixelColor(1, 1);
+    widget.resize(50, 50);
+    QImage image = picture(widget);
+    const auto mostMemory = [] {
+        rusage usage = {};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss;
+    };
+    const long before = mostMemory();
+    // A picture of that size takes 512 MB.
+    widget.resize(16000, 16000);
+    widget.render(&image, QPoint(), QRegion(7975, 7975, 50, 50), QWidget::DrawChildren);
+    QVERIFY2(mostMemory() - before < 100 * 1024, qPrintable(QString::number(mostMemory() - before)));
+    QCOMPARE(image.pixelColor(25, 25), color);
+}
+
+void tst_OvPixmapWidget::windowThatCannotBePainted()
+{
+    OvPixmapWidget widget;
+    widget.setMoviePath(threeFrames());
+    QTest::ignoreMessage(QtWarningMsg, "QWidget::paintEngine: Should no longer be called");
+    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin: Paint device returned engine == 0, type: 1");
+    QPaintEvent event(widget.rect());
+    QApplication::sendEvent(&widget, &event);
 }
 
 void tst_OvPixmapWidget::disabledPictureLooksDisabled()
