@@ -1,6 +1,7 @@
 #include "FreedMemory.h"
 #include "MetaObject.h"
 #include "PaintCount.h"
+#include "PipetteWindows.h"
 #include "TestMain.h"
 
 #include <QtUtility/PrivacyAccess.h>
@@ -190,6 +191,8 @@ private Q_SLOTS:
     void loupeFollowsTheCursor();
     void loupeIsPaintedOnceForAMove();
     void loupeShowsWhatItMagnifies();
+    void everyMoveIsAnsweredAtOnce_data();
+    void everyMoveIsAnsweredAtOnce();
     void loupeOnNoScreenStays();
     void loupeMayDie();
     void viewMayDie();
@@ -743,6 +746,52 @@ void tst_Pipette::loupeShowsWhatItMagnifies()
                     QCOMPARE(image.pixelColor(at).name(),
                              PixelWindow::pixelAt(point + QPoint(x - 6, y - 6)).name());
                 }
+            }
+        }
+    }
+}
+
+void tst_Pipette::everyMoveIsAnsweredAtOnce_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::newRow("no sheet") << QString();
+    QTest::newRow("large") << qApp->styleSheet();
+    QTest::newRow("rim, name in a corner") << QStringLiteral(
+        "LoupeWidget { background: transparent; border: 6px solid #ff00ff; min-width: 105px;"
+        " max-width: 105px; min-height: 105px; max-height: 105px; }"
+        "LoupeWidget > #colorNameLabel { qproperty-alignment: \"AlignLeft | AlignBottom\"; }");
+}
+
+// Label and picture are read right after each move; what is painted in between does not matter.
+void tst_Pipette::everyMoveIsAnsweredAtOnce()
+{
+    QFETCH(QString, sheet);
+    constexpr int moves = 30;
+    const QString former = qApp->styleSheet();
+    qApp->setStyleSheet(sheet);
+    const auto restore = qScopeGuard([former] { qApp->setStyleSheet(former); });
+    start();
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QRect area = screen->geometry();
+    for (const int speed : {1, 10, 40}) {
+        for (const QPoint& direction : {QPoint(1, 0), QPoint(1, 1), QPoint(0, 1), QPoint(-1, 1),
+                                        QPoint(-1, 0), QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1)}) {
+            QPoint point = area.center() - direction * speed * moves / 2;
+            for (int i = 0; i < moves; ++i) {
+                point += direction * speed;
+                point = area.contains(point) ? point : area.center();
+                PipetteWindows::move(screen, point);
+                QCOMPARE(PipetteWindows::colorName(), PixelWindow::pickedAt(point).name());
+                const QImage seen = PipetteWindows::magnified(screen);
+                for (int y = 0; y < seen.height(); ++y) {
+                    for (int x = 0; x < seen.width(); ++x) {
+                        const QPoint at = point + QPoint(x - 6, y - 6);
+                        if (qAlpha(seen.pixel(x, y)) == 255 && area.contains(at)) {
+                            QCOMPARE(seen.pixel(x, y), PixelWindow::pixelAt(at).rgb());
+                        }
+                    }
+                }
+                QCoreApplication::processEvents();
             }
         }
     }
