@@ -1,7 +1,7 @@
 #pragma once
 
-class QLabel;
+#include <QLabel>
 
-/// Puts the text of @p label at the leading edge of the application's direction. By itself a label goes by
-/// the direction of its text, which leaves a text that is not translated at the wrong edge.
-void alignToLeadingEdge(QLabel* label);
+/// A label with the object name @p name and its text at the leading edge of the application's direction.
+/// By default a label goes by the direction of its text, which leaves an untranslated text at the wrong edge.
+QLabel* makeLabel(const char* name, const QString& text, QWidget* parent);

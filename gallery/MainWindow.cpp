@@ -171,7 +171,7 @@ void MainWindow::rebuildPage()
     if (!info) {
         return;
     }
-    m_page = info->create(m_pageHolder);
+    m_page = new Page(*info, m_pageHolder);
     m_pageHolder->layout()->addWidget(m_page);
     setWindowTitle(tr("%1 – UiComponents Gallery").arg(info->title));
     Q_EMIT pageShown(m_pageId);

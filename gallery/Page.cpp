@@ -1,11 +1,13 @@
 #include "Page.h"
 
 #include "Labels.h"
-#include "PropertyPanel.h"
-#include "SignalLogView.h"
+#include "PageRegistry.h"
+
+#include <WidgetToolkit/OvPixmapWidget.h>
 
 #include <QEvent>
 #include <QLabel>
+#include <QMovie>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -16,7 +18,7 @@ namespace {
 constexpr double TitleFontFactor = 1.5;
 constexpr double CaptionFontFactor = 0.9;
 
-/// What an unstyled gallery looks like; a sheet's fonts win.
+/// Sets the font for a gallery without a sheet; the fonts of a sheet win.
 void setFontOf(QWidget* widget, double sizeFactor, QFont::Weight weight)
 {
     QFont font = widget->font();
@@ -30,28 +32,32 @@ void setFontOf(QWidget* widget, double sizeFactor, QFont::Weight weight)
     widget->setFont(font);
 }
 
+QSplitter* makeSplitter(const char* name, Qt::Orientation orientation, QWidget* first, QWidget* second)
+{
+    auto* splitter = new QSplitter(orientation);
+    splitter->setObjectName(QLatin1String(name));
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(first);
+    splitter->addWidget(second);
+    return splitter;
+}
+
 } // namespace
 
-Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
+Page::Page(const PageInfo& info, QWidget* parent)
     : QFrame(parent)
 {
     setObjectName(QStringLiteral("galleryPage"));
     setAccessibleName(info.title);
 
-    auto* title = new QLabel(info.title, this);
-    title->setObjectName(QStringLiteral("pageTitle"));
+    QLabel* const title = makeLabel("pageTitle", info.title, this);
     setFontOf(title, TitleFontFactor, QFont::Bold);
-    alignToLeadingEdge(title);
-    auto* classes = new QLabel(info.covers.join(QStringLiteral("  ·  ")), this);
-    classes->setObjectName(QStringLiteral("pageClasses"));
+    QLabel* const classes = makeLabel("pageClasses", info.covers.join(QStringLiteral("  ·  ")), this);
     classes->setWordWrap(true);
-    alignToLeadingEdge(classes);
     classes->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* text = new QLabel(introduction, this);
-    text->setObjectName(QStringLiteral("pageIntroduction"));
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
-    alignToLeadingEdge(text);
+    QLabel* const introduction = makeLabel("pageIntroduction", info.introduction, this);
+    introduction->setTextFormat(Qt::PlainText);
+    introduction->setWordWrap(true);
 
     m_demonstrationCard = makeCard("none", QString());
     m_enabledCard = makeCard("enabled", tr("Enabled"));
@@ -75,48 +81,56 @@ Page::Page(const PageInfo& info, const QString& introduction, QWidget* parent)
 
     m_properties = new PropertyPanel;
     m_signalLog = new SignalLogView;
-    m_inspector = new QSplitter(Qt::Horizontal);
-    m_inspector->setObjectName(QStringLiteral("inspector"));
-    m_inspector->setChildrenCollapsible(false);
-    m_inspector->addWidget(m_properties);
-    m_inspector->addWidget(m_signalLog);
-    connect(m_inspector, &QSplitter::splitterMoved, this, [this] { m_isSplitByUser = true; });
+    m_inspector = makeSplitter("inspector", Qt::Horizontal, m_properties, m_signalLog);
     m_inspector->setStretchFactor(0, 1);
     m_inspector->setStretchFactor(1, 1);
-
-    m_halves = new QSplitter(Qt::Vertical, this);
-    m_halves->setObjectName(QStringLiteral("pageHalves"));
-    m_halves->setChildrenCollapsible(false);
-    m_halves->addWidget(specimenArea);
-    m_halves->addWidget(m_inspector);
-    connect(m_halves, &QSplitter::splitterMoved, this, [this] { m_isSplitByUser = true; });
+    m_halves = makeSplitter("pageHalves", Qt::Vertical, specimenArea, m_inspector);
+    for (const QSplitter* splitter : {m_inspector, m_halves}) {
+        connect(splitter, &QSplitter::splitterMoved, this, [this] { m_isSplitByUser = true; });
+    }
     m_halves->installEventFilter(this);
     m_specimens->installEventFilter(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(title);
     layout->addWidget(classes);
-    layout->addWidget(text);
+    layout->addWidget(introduction);
     layout->addWidget(m_halves, 1);
+    info.fill(this);
 }
 
 Page::~Page() = default;
-
-void Page::prepareForPicture() {}
 
 void Page::addDemonstration(const QString& caption, QWidget* widget)
 {
     addToCard(m_demonstrationCard, caption, widget);
 }
 
-void Page::describeStyling(const StyleSubject& subject)
+void Page::describeStyling(QWidget* widget, const QString& sentence, const QString& title,
+                           const QStringList& hints)
 {
-    m_styleSubjects.append(subject);
+    m_styleSubjects.append({widget, sentence, title, hints});
 }
 
-void Page::describeStyling(QWidget* widget, const QString& sentence)
+void Page::prepareForPicture()
 {
-    describeStyling(StyleSubject{widget, sentence, {}, {}});
+    Q_EMIT pictureRequested();
+    const auto images = findChildren<OvPixmapWidget*>();
+    for (const OvPixmapWidget* image : images) {
+        if (QMovie* const movie = image->movie()) {
+            movie->setPaused(true);
+            movie->jumpToFrame(0);
+        }
+    }
+    m_signalLog->clear();
+}
+
+void Page::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) {
+        Q_EMIT styleChanged();
+    }
 }
 
 bool Page::eventFilter(QObject* watched, QEvent* event)
@@ -138,7 +152,7 @@ void Page::fitSpecimens()
     const int available = m_halves->height() - m_halves->handleWidth();
     const int wanted = m_specimens->hasHeightForWidth() ? m_specimens->heightForWidth(m_specimens->width())
                                                         : m_specimens->sizeHint().height();
-    const int upper = qMin(wanted, qRound(available * m_largestSpecimenShare));
+    const int upper = qMin(wanted, qRound(available * m_maxSpecimenShare));
     m_halves->setSizes({upper, available - upper});
     m_inspector->setSizes({m_inspector->width() / 2, m_inspector->width() / 2});
 }
@@ -151,10 +165,8 @@ QFrame* Page::makeCard(const char* twin, const QString& title)
     card->setProperty("twin", QString::fromUtf8(twin));
     auto* layout = new QVBoxLayout(card);
     if (!title.isEmpty()) {
-        auto* label = new QLabel(title, card);
-        label->setObjectName(QStringLiteral("cardTitle"));
+        QLabel* const label = makeLabel("cardTitle", title, card);
         setFontOf(label, 1, QFont::DemiBold);
-        alignToLeadingEdge(label);
         layout->addWidget(label);
     }
     layout->addStretch();
@@ -169,10 +181,8 @@ void Page::addToCard(QFrame* card, const QString& caption, QWidget* widget)
     const bool fills = widget->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
     layout->insertWidget(end, widget, 0, fills ? Qt::Alignment() : Qt::AlignLeft);
     if (!caption.isEmpty()) {
-        auto* label = new QLabel(caption, card);
-        label->setObjectName(QStringLiteral("specimenCaption"));
+        QLabel* const label = makeLabel("specimenCaption", caption, card);
         setFontOf(label, CaptionFontFactor, QFont::Normal);
-        alignToLeadingEdge(label);
         layout->insertWidget(end, label);
     }
     card->show();

@@ -1,102 +1,144 @@
 #pragma once
 
-#include "PageInfo.h"
+#include "PropertyPanel.h"
+#include "SignalLogView.h"
 
 #include <QFrame>
 #include <QPointer>
 #include <QVector>
 
-class PropertyPanel;
-class QSplitter;
-class SignalLogView;
+#include <functional>
+#include <type_traits>
 
-/// The enabled and the disabled one of a component that a page shows.
+class QSplitter;
+struct PageInfo;
+
+/// The enabled and the disabled one of a component on a page.
 template <typename Widget>
 struct Twins
 {
     QPointer<Widget> enabled;
     QPointer<Widget> disabled;
 
-    QObjectList objects() const { return {enabled.data(), disabled.data()}; }
+    /// Those that are alive: what PropertyPanel::addProperties() asks for.
+    QObjectList operator()() const
+    {
+        QObjectList objects;
+        each([&objects](Widget* widget) { objects.append(widget); });
+        return objects;
+    }
 
-    /// Does the same with both, as far as they are alive.
+    /// Calls @p function with each one that is alive.
     template <typename Function>
     void each(Function function) const
     {
-        if (enabled) {
-            function(enabled.data());
+        for (const QPointer<Widget>& widget : {enabled, disabled}) {
+            if (widget) {
+                std::invoke(function, widget.data());
+            }
         }
-        if (disabled) {
-            function(disabled.data());
-        }
+    }
+
+    /// What a control of the property panel applies: calls @p function, a setter or a function of a widget
+    /// and a value, for each one.
+    template <typename Function>
+    auto setter(Function function) const
+    {
+        return [twins = *this, function](const auto& value) {
+            twins.each([&](Widget* widget) { std::invoke(function, widget, value); });
+        };
+    }
+
+    /// The children of both that are a @p Child and have the name @p name, or any.
+    template <typename Child>
+    Twins<Child> children(const QString& name = {}) const
+    {
+        return {enabled ? enabled->template findChild<Child*>(name) : nullptr,
+                disabled ? disabled->template findChild<Child*>(name) : nullptr};
     }
 };
 
-/// One widget that a style sheet can reach, for the manual that is generated from the running pages.
+/// A widget that a style sheet can reach, for the styling manual.
 struct StyleSubject
 {
     QPointer<QWidget> widget;
-    /// What a sheet's author should know that the widget cannot tell.
+    /// What the widget cannot tell by itself.
     QString sentence;
-    /// The values of the property "styleHint" that it is made for.
-    QStringList hints;
-    /// What the manual calls it; empty: its class name.
+    /// The heading in the manual; empty: the class name.
     QString title;
+    /// The values of the property "styleHint" that the widget is made for.
+    QStringList hints;
 };
 
 /**
- * A page of the gallery: what the component is for, the component twice, enabled and disabled, its
+ * A page of the gallery: what a component is for, the component twice, enabled and disabled, its
  * properties as live controls and the log of its signals.
  *
- * A subclass fills it in its constructor. Texts are in the language of that moment: after a change of
- * language the page is built anew.
+ * The texts are in the language of the moment: a change of language builds the page anew.
  */
 class Page : public QFrame
 {
     Q_OBJECT
 
 public:
+    /// Builds the page @p info and calls PageInfo::fill.
+    explicit Page(const PageInfo& info, QWidget* parent = nullptr);
     ~Page() override;
-
-    QVector<StyleSubject> styleSubjects() const { return m_styleSubjects; }
 
     PropertyPanel* properties() const { return m_properties; }
     SignalLogView* signalLog() const { return m_signalLog; }
+    QVector<StyleSubject> styleSubjects() const { return m_styleSubjects; }
 
-    /// Brings everything that moves or depends on the moment to a fixed state, before a picture is taken.
-    virtual void prepareForPicture();
-
-protected:
-    Page(const PageInfo& info, const QString& introduction, QWidget* parent);
-
-    /// Shows a component twice. @p make is given the parent and returns a new component.
-    template <typename Widget, typename Make>
-    Twins<Widget> addTwins(const QString& caption, Make make)
+    /// Shows a component twice. @p make takes the parent and returns a new component.
+    template <typename Make>
+    auto addTwins(const QString& caption, Make make)
+        -> Twins<std::remove_pointer_t<decltype(make(std::declval<QWidget*>()))>>
     {
-        Twins<Widget> twins{make(m_enabledCard), make(m_disabledCard)};
-        twins.disabled->setEnabled(false);
-        addToCard(m_enabledCard, caption, twins.enabled);
-        addToCard(m_disabledCard, caption, twins.disabled);
-        return twins;
+        auto* const enabled = make(m_enabledCard);
+        auto* const disabled = make(m_disabledCard);
+        disabled->setEnabled(false);
+        addToCard(m_enabledCard, caption, enabled);
+        addToCard(m_disabledCard, caption, disabled);
+        return {enabled, disabled};
+    }
+
+    /// Shows a new @p Widget twice, each prepared by @p setUp.
+    template <typename Widget, typename SetUp>
+    Twins<Widget> addTwins(const QString& caption, SetUp setUp)
+    {
+        return addTwins(caption, [&setUp](QWidget* parent) {
+            auto* widget = new Widget(parent);
+            setUp(widget);
+            return widget;
+        });
     }
 
     template <typename Widget>
     Twins<Widget> addTwins(const QString& caption)
     {
-        return addTwins<Widget>(caption, [](QWidget* parent) { return new Widget(parent); });
+        return addTwins<Widget>(caption, [](Widget*) {});
     }
 
-    /// Shows something that has no disabled state, over the whole width. The page owns it.
+    /// Shows @p widget, which has no disabled state, over the whole width and takes it over.
     void addDemonstration(const QString& caption, QWidget* widget);
 
-    /// How much of the height the specimens may take before they scroll; 0.6 at first.
-    void setLargestSpecimenShare(double share) { m_largestSpecimenShare = share; }
+    /// The part of the height that the components get before they scroll; 0.6 by default.
+    void setMaxSpecimenShare(double share) { m_maxSpecimenShare = share; }
 
-    /// Adds @p widget to the manual of what a style sheet can use.
-    void describeStyling(const StyleSubject& subject);
-    void describeStyling(QWidget* widget, const QString& sentence);
+    /// Adds @p widget to the styling manual.
+    void describeStyling(QWidget* widget, const QString& sentence, const QString& title = {},
+                         const QStringList& hints = {});
 
+    /// Brings everything that moves or differs from run to run to a fixed state.
+    void prepareForPicture();
+
+Q_SIGNALS:
+    void pictureRequested();
+    void styleChanged();
+
+protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void fitSpecimens();
@@ -112,13 +154,6 @@ private:
     PropertyPanel* m_properties = nullptr;
     SignalLogView* m_signalLog = nullptr;
     QVector<StyleSubject> m_styleSubjects;
-    double m_largestSpecimenShare = 0.6;
+    double m_maxSpecimenShare = 0.6;
     bool m_isSplitByUser = false;
 };
-
-/// PageInfo::create of the page class @p PageClass.
-template <typename PageClass>
-Page* createPage(QWidget* parent)
-{
-    return new PageClass(parent);
-}

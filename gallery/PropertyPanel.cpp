@@ -2,7 +2,6 @@
 
 #include "DialogColorPicker.h"
 #include "Labels.h"
-#include "PropertyEditor.h"
 
 #include <UiComponents/ColorInputWidget.h>
 #include <WidgetToolkit/OvComboBox.h>
@@ -13,14 +12,20 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMetaProperty>
-#include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <limits>
+
 namespace {
+
+// Room for usual values: a spin box asks for the room of its maximum.
+constexpr int MinEditorWidth = 72;
+constexpr int FractionDigits = 4;
+constexpr double MaxFraction = 1e9;
+constexpr double FractionStep = 0.1;
 
 bool isQtClass(const QMetaObject* meta)
 {
@@ -30,20 +35,20 @@ bool isQtClass(const QMetaObject* meta)
 
 } // namespace
 
-QStringList ownPropertyNames(const QObject* object)
+QVector<QMetaProperty> ownProperties(const QObject* object)
 {
     const QMetaObject* const meta = object->metaObject();
     const QMetaObject* qtClass = meta;
     while (!isQtClass(qtClass)) {
         qtClass = qtClass->superClass();
     }
-    QStringList names;
+    QVector<QMetaProperty> properties;
     for (int i = qtClass->propertyCount(); i < meta->propertyCount(); ++i) {
         if (meta->property(i).isWritable()) {
-            names.append(QString::fromUtf8(meta->property(i).name()));
+            properties.append(meta->property(i));
         }
     }
-    return names;
+    return properties;
 }
 
 PropertyPanel::PropertyPanel(QWidget* parent)
@@ -53,9 +58,6 @@ PropertyPanel::PropertyPanel(QWidget* parent)
 {
     setObjectName(QStringLiteral("propertyPanel"));
 
-    auto* title = new QLabel(tr("Properties"), this);
-    title->setObjectName(QStringLiteral("panelTitle"));
-    alignToLeadingEdge(title);
     m_content->setObjectName(QStringLiteral("propertyRows"));
     m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     auto* area = new QScrollArea(this);
@@ -67,7 +69,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     area->setWidget(m_content);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(title);
+    layout->addWidget(makeLabel("panelTitle", tr("Properties"), this));
     layout->addWidget(area, 1);
 }
 
@@ -75,118 +77,116 @@ PropertyPanel::~PropertyPanel() = default;
 
 void PropertyPanel::addHeading(const QString& text)
 {
-    auto* label = new QLabel(text, m_content);
-    label->setObjectName(QStringLiteral("propertyHeading"));
+    QLabel* const label = makeLabel("propertyHeading", text, m_content);
     QFont font = label->font();
     font.setWeight(QFont::DemiBold);
     label->setFont(font);
     label->setWordWrap(true);
-    alignToLeadingEdge(label);
     m_rows->addRow(label);
 }
 
-void PropertyPanel::addProperties(const QObjectList& objects, const QStringList& names)
+void PropertyPanel::addProperties(const ObjectFinder& find, const QByteArrayList& names)
 {
-    if (objects.isEmpty()) {
+    const QObject* const object = find().value(0);
+    if (!object) {
         return;
     }
-    const QStringList wanted = names.isEmpty() ? ownPropertyNames(objects.first()) : names;
-    for (const QString& name : wanted) {
-        if (PropertyEditor* const editor = PropertyEditor::create(objects, name, m_content)) {
-            connect(editor, &PropertyEditor::edited, this, &PropertyPanel::refresh);
-            connect(editor, &PropertyEditor::edited, this, &PropertyPanel::edited);
-            m_editors.append(editor);
-            addRow(name, editor);
+    const QMetaObject* const meta = object->metaObject();
+    QVector<QMetaProperty> properties;
+    for (const QByteArray& name : names) {
+        properties.append(meta->property(meta->indexOfProperty(name.constData())));
+    }
+    if (names.isEmpty()) {
+        properties = ownProperties(object);
+    }
+    const QMetaMethod refreshSlot = staticMetaObject.method(staticMetaObject.indexOfSlot("refresh()"));
+    for (const QMetaProperty& property : qAsConst(properties)) {
+        const Editor editor = makeEditor(find, property);
+        if (!editor.control) {
+            continue;
+        }
+        editor.control->setObjectName(QLatin1String(property.name()));
+        m_editors.append(editor);
+        if (property.hasNotifySignal()) {
+            connect(object, property.notifySignal(), this, refreshSlot);
         }
     }
+    refresh();
 }
 
-void PropertyPanel::addSwitch(const QString& label, bool value, const std::function<void(bool)>& apply)
+QCheckBox* PropertyPanel::addSwitch(const QString& label, bool value, const std::function<void(bool)>& apply)
 {
-    auto* box = new QCheckBox(m_content);
+    auto* box = addRow(label, new QCheckBox(m_content));
     box->setChecked(value);
     connect(box, &QCheckBox::toggled, this, apply);
-    addRow(label, box);
+    return box;
 }
 
-void PropertyPanel::addNumber(const QString& label, int minimum, int maximum, int value,
-                              const std::function<void(int)>& apply)
+OvSpinBox* PropertyPanel::addNumber(const QString& label, int minimum, int maximum, int value,
+                                    const std::function<void(int)>& apply)
 {
-    auto* box = new OvSpinBox(m_content);
+    auto* box = addRow(label, new OvSpinBox(m_content));
     box->setRange(minimum, maximum);
     box->setValue(value);
     connect(box, QOverload<int>::of(&OvSpinBox::valueChanged), this, apply);
-    addRow(label, box);
+    return box;
 }
 
-void PropertyPanel::addFraction(const QString& label, double minimum, double maximum, double value,
-                                const std::function<void(double)>& apply)
+OvDoubleSpinBox* PropertyPanel::addFraction(const QString& label, double minimum, double maximum,
+                                            double value, const std::function<void(double)>& apply)
 {
-    auto* box = new OvDoubleSpinBox(m_content);
+    auto* box = addRow(label, new OvDoubleSpinBox(m_content));
     box->setRange(minimum, maximum);
     box->setValue(value);
     connect(box, QOverload<double>::of(&OvDoubleSpinBox::valueChanged), this, apply);
-    addRow(label, box);
+    return box;
 }
 
-void PropertyPanel::addText(const QString& label, const QString& value,
-                            const std::function<void(const QString&)>& apply)
+QLineEdit* PropertyPanel::addText(const QString& label, const QString& value,
+                                  const std::function<void(const QString&)>& apply)
 {
-    auto* edit = new QLineEdit(value, m_content);
+    auto* edit = addRow(label, new QLineEdit(value, m_content));
     connect(edit, &QLineEdit::textChanged, this, apply);
-    addRow(label, edit);
+    return edit;
 }
 
-void PropertyPanel::addChoice(const QString& label, const QStringList& choices, int current,
-                              const std::function<void(int)>& apply)
+OvComboBox* PropertyPanel::addChoice(const QString& label, const QStringList& choices, int current,
+                                     const std::function<void(int)>& apply)
 {
-    auto* box = new OvComboBox(m_content);
+    auto* box = addRow(label, new OvComboBox(m_content));
     box->addItems(choices);
     box->setCurrentIndex(current);
     connect(box, QOverload<int>::of(&OvComboBox::currentIndexChanged), this, apply);
-    addRow(label, box);
+    return box;
 }
 
-void PropertyPanel::addColor(const QString& label, const QColor& value,
-                             const std::function<void(const QColor&)>& apply)
+ColorInputWidget* PropertyPanel::addColor(const QString& label, const QColor& value,
+                                          const std::function<void(const QColor&)>& apply)
 {
-    auto* field = new ColorInputWidget(m_content, value);
+    auto* field = addRow(label, new ColorInputWidget(m_content, value));
     // The form would stretch it, and without a sheet the button stands in the middle of the field.
     field->setSizePolicy(QSizePolicy::Fixed, field->sizePolicy().verticalPolicy());
     field->setPicker(new DialogColorPicker(field->anchorWidget()));
     connect(field, &ColorInputWidget::colorChanged, this, apply);
-    addRow(label, field);
+    return field;
 }
 
-void PropertyPanel::addAction(const QString& label, const std::function<void()>& run)
+void PropertyPanel::refresh()
 {
-    auto* button = new QPushButton(label, m_content);
-    if (QApplication::isRightToLeft() && label.endsWith(QLatin1String("()"))) {
-        // Code reads from left to right: without the mark its brackets change sides.
-        const QChar leftToRightMark(0x200E);
-        button->setText(label + leftToRightMark);
+    const QScopedValueRollback<bool> showing(m_isShowing, true);
+    for (const Editor& editor : qAsConst(m_editors)) {
+        const QObject* const object = editor.find().value(0);
+        editor.control->setEnabled(object);
+        if (object) {
+            editor.show(object->property(editor.property.constData()));
+        }
     }
-    connect(button, &QPushButton::clicked, this, run);
-    m_rows->addRow(button);
-}
-
-void PropertyPanel::addRow(const QString& label, QWidget* control)
-{
-    if (control->accessibleName().isEmpty()) {
-        control->setAccessibleName(label);
-    }
-    m_rows->addRow(label, control);
-}
-
-bool PropertyPanel::isEmpty() const
-{
-    return m_rows->rowCount() == 0;
 }
 
 void PropertyPanel::showEvent(QShowEvent* event)
 {
     QFrame::showEvent(event);
-    // When all widgets beside it have met the sheet as well.
+    // After the components beside the panel have been polished too.
     QMetaObject::invokeMethod(this, &PropertyPanel::refresh, Qt::QueuedConnection);
 }
 
@@ -198,9 +198,102 @@ void PropertyPanel::changeEvent(QEvent* event)
     }
 }
 
-void PropertyPanel::refresh()
+/// Adds the row for @p property. The result has no control where no control fits.
+PropertyPanel::Editor PropertyPanel::makeEditor(const ObjectFinder& find, const QMetaProperty& property)
 {
-    for (PropertyEditor* editor : qAsConst(m_editors)) {
-        editor->refresh();
+    const QByteArray name(property.name());
+    const QString label = QString::fromUtf8(name);
+    const auto apply = [this, find, name](const QVariant& value) { write(find, name, value); };
+    if (!property.isWritable() || property.isFlagType()) {
+        return {};
     }
+    if (property.isEnumType()) {
+        const QMetaEnum enumeration = property.enumerator();
+        QStringList keys;
+        for (int i = 0; i < enumeration.keyCount(); ++i) {
+            keys.append(QString::fromUtf8(enumeration.key(i)));
+        }
+        auto* box =
+            addChoice(label, keys, 0, [apply, enumeration](int index) { apply(enumeration.value(index)); });
+        return {name, find, box, [box, enumeration](const QVariant& value) {
+                    box->setCurrentText(QString::fromUtf8(enumeration.valueToKey(value.toInt())));
+                }};
+    }
+    switch (property.userType()) {
+    case QMetaType::Bool: {
+        auto* box = addSwitch(label, false, apply);
+        return {name, find, box, [box](const QVariant& value) { box->setChecked(value.toBool()); }};
+    }
+    case QMetaType::Int: {
+        using Limits = std::numeric_limits<int>;
+        auto* box = addNumber(label, Limits::min(), Limits::max(), 0, apply);
+        box->setMinimumWidth(MinEditorWidth);
+        return {name, find, box, [box](const QVariant& value) { box->setValue(value.toInt()); }};
+    }
+    case QMetaType::Double: {
+        auto* box = addFraction(label, -MaxFraction, MaxFraction, 0, apply);
+        box->setMinimumWidth(MinEditorWidth);
+        box->setDecimals(FractionDigits);
+        box->setSingleStep(FractionStep);
+        return {name, find, box, [box](const QVariant& value) { box->setValue(value.toDouble()); }};
+    }
+    case QMetaType::QString: {
+        auto* edit = addText(label, QString(), apply);
+        return {name, find, edit, [edit](const QVariant& value) {
+                    // setText() would move the user's cursor.
+                    if (edit->text() != value.toString()) {
+                        edit->setText(value.toString());
+                    }
+                }};
+    }
+    case QMetaType::QColor: {
+        auto* field = addColor(label, QColor(), apply);
+        return {name, find, field,
+                [field](const QVariant& value) { field->setColor(value.value<QColor>()); }};
+    }
+    default:
+        return {};
+    }
+}
+
+void PropertyPanel::write(const ObjectFinder& find, const QByteArray& property, const QVariant& value)
+{
+    if (m_isShowing) {
+        return;
+    }
+    // A slot of the first object may delete the others and the panel.
+    const QPointer<PropertyPanel> self(this);
+    QVector<QPointer<QObject>> objects;
+    const QObjectList found = find();
+    std::copy(found.cbegin(), found.cend(), std::back_inserter(objects));
+    for (const QPointer<QObject>& object : qAsConst(objects)) {
+        if (object) {
+            object->setProperty(property.constData(), value);
+        }
+        if (!self) {
+            return;
+        }
+    }
+    refresh();
+    Q_EMIT edited();
+}
+
+QPushButton* PropertyPanel::addButton(const QString& label)
+{
+    auto* button = new QPushButton(label, m_content);
+    if (QApplication::isRightToLeft() && label.endsWith(QLatin1String("()"))) {
+        // Code reads from left to right: without the mark its brackets change sides.
+        const QChar leftToRightMark(0x200E);
+        button->setText(label + leftToRightMark);
+    }
+    m_rows->addRow(button);
+    return button;
+}
+
+template <typename Control>
+Control* PropertyPanel::addRow(const QString& label, Control* control)
+{
+    control->setAccessibleName(label);
+    m_rows->addRow(label, control);
+    return control;
 }

@@ -5,14 +5,13 @@
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int MaximumLines = 500;
+constexpr int MaxLines = 500;
 
 } // namespace
 
@@ -23,9 +22,6 @@ SignalLogView::SignalLogView(QWidget* parent)
 {
     setObjectName(QStringLiteral("signalLog"));
 
-    auto* title = new QLabel(tr("Signals"), this);
-    title->setObjectName(QStringLiteral("panelTitle"));
-    alignToLeadingEdge(title);
     auto* clearButton = new QToolButton(this);
     clearButton->setObjectName(QStringLiteral("clearSignals"));
     clearButton->setText(tr("Clear"));
@@ -33,7 +29,7 @@ SignalLogView::SignalLogView(QWidget* parent)
 
     m_text->setObjectName(QStringLiteral("signalLogText"));
     m_text->setReadOnly(true);
-    m_text->setMaximumBlockCount(MaximumLines);
+    m_text->setMaximumBlockCount(MaxLines);
     m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_text->setLayoutDirection(Qt::LeftToRight);
@@ -44,7 +40,7 @@ SignalLogView::SignalLogView(QWidget* parent)
     m_text->setPlaceholderText(tr("Use the component: its signals appear here."));
 
     auto* header = new QHBoxLayout;
-    header->addWidget(title, 1);
+    header->addWidget(makeLabel("panelTitle", tr("Signals"), this), 1);
     header->addWidget(clearButton);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(header);
@@ -57,7 +53,7 @@ SignalLogView::~SignalLogView()
     delete m_logger;
 }
 
-void SignalLogView::watch(const QObject* object, const QString& name)
+void SignalLogView::watch(const QObject* object, const char* name)
 {
     m_logger->watch(object, name);
 }

@@ -17,7 +17,7 @@ public:
     ~SignalLogView() override;
 
     /// Shows every signal of @p object from now on, under the name @p name.
-    void watch(const QObject* object, const QString& name);
+    void watch(const QObject* object, const char* name);
 
     /// A line of the page's own, such as the result of a call.
     void addLine(const QString& line);

@@ -31,7 +31,7 @@ SignalLogger::SignalLogger(Sink sink, QObject* parent)
 
 SignalLogger::~SignalLogger() = default;
 
-void SignalLogger::watch(const QObject* object, const QString& name)
+void SignalLogger::watch(const QObject* object, const char* name)
 {
     if (!object) {
         return;
@@ -64,7 +64,7 @@ int SignalLogger::qt_metacall(QMetaObject::Call call, int id, void** arguments)
             texts.append(argumentText(types.at(i), arguments[i + 1]));
         }
         m_sink(QStringLiteral("%1.%2(%3)")
-                   .arg(source.object, QString::fromUtf8(source.signal.name()),
+                   .arg(QString::fromUtf8(source.object), QString::fromUtf8(source.signal.name()),
                         texts.join(QStringLiteral(", "))));
     }
     return id - m_sources.size();

@@ -23,14 +23,14 @@ public:
     ~SignalLogger() override;
 
     /// Watches all signals of @p object that it has by now; lines call it @p name. Null does nothing.
-    void watch(const QObject* object, const QString& name);
+    void watch(const QObject* object, const char* name);
 
     int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
 
 private:
     struct Source
     {
-        QString object;
+        QByteArray object;
         QMetaMethod signal;
     };
 

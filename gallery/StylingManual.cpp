@@ -8,7 +8,6 @@
 #include <QMetaProperty>
 
 #include <algorithm>
-#include <memory>
 
 namespace {
 
@@ -34,10 +33,8 @@ QString properties(const QWidget* widget)
 {
     QString text;
     QString lastType;
-    const QStringList names = ownPropertyNames(widget);
-    for (const QString& name : names) {
-        const QMetaObject* const meta = widget->metaObject();
-        const QMetaProperty property = meta->property(meta->indexOfProperty(name.toUtf8().constData()));
+    const QVector<QMetaProperty> own = ownProperties(widget);
+    for (const QMetaProperty& property : own) {
         if (!property.isDesignable(widget)) {
             continue;
         }
@@ -45,7 +42,7 @@ QString properties(const QWidget* widget)
         if (!lastType.isEmpty()) {
             text += type == lastType ? QStringLiteral(", ") : QStringLiteral(" (%1); ").arg(lastType);
         }
-        text += code(name);
+        text += code(QString::fromUtf8(property.name()));
         lastType = type;
     }
     return text.isEmpty() ? text : text + QStringLiteral(" (%1)").arg(lastType);
@@ -95,7 +92,8 @@ QList<const QWidget*> reachableChildren(const QWidget* widget)
     QList<const QWidget*> found;
     const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* child : children) {
-        if (child->metaObject()->indexOfClassInfo("styling") >= 0) {
+        // Content of the gallery's.
+        if (child->objectName() == QLatin1String("sampleTile")) {
             continue;
         }
         const bool isNamed =
@@ -156,8 +154,8 @@ QString stylingManual()
     const QVector<PageInfo> pages = PageRegistry::pages();
     std::optional<PageGroup> group;
     for (const PageInfo& info : pages) {
-        const std::unique_ptr<Page> page(info.create(nullptr));
-        const QVector<StyleSubject> subjects = page->styleSubjects();
+        const Page page(info);
+        const QVector<StyleSubject> subjects = page.styleSubjects();
         for (const StyleSubject& subject : subjects) {
             if (group != info.group) {
                 group = info.group;

@@ -7,11 +7,10 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <gallery/BlendStage.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/LanguageController.h>
 #include <gallery/StyleController.h>
-#include <gallery/pages/BlendCanvas.h>
-#include <gallery/pages/BlendStage.h>
 
 /**
  * A user chooses a blending mode from the list, also while the language changes under the open list.

@@ -16,7 +16,7 @@
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
-#include <gallery/pages/PickerChoice.h>
+#include <gallery/PickerChoice.h>
 
 /**
  * What a user does in the gallery's window: clicks the colour field, picks a colour in the panel or in the

@@ -11,8 +11,8 @@
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
+#include <gallery/PreviewScreen.h>
 #include <gallery/SignalLogView.h>
-#include <gallery/pages/PreviewScreen.h>
 
 /**
  * What a user does on the gallery's page: clicks a button, then into the film, and sees the button in that

@@ -19,7 +19,7 @@
 #include <gallery/Page.h>
 #include <gallery/PropertyPanel.h>
 #include <gallery/StyleController.h>
-#include <gallery/pages/Walk.h>
+#include <gallery/Walk.h>
 
 namespace {
 

@@ -18,8 +18,8 @@
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
 #include <gallery/PropertyPanel.h>
+#include <gallery/SceneDialog.h>
 #include <gallery/SignalLogView.h>
-#include <gallery/pages/SceneDialog.h>
 
 /**
  * The QML dialogs of the gallery, driven by mouse and keyboard as a user does, and what is on the screen

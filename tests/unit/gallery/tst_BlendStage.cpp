@@ -4,8 +4,7 @@
 
 #include <QAbstractItemView>
 
-#include <gallery/pages/BlendCanvas.h>
-#include <gallery/pages/BlendStage.h>
+#include <gallery/BlendStage.h>
 
 namespace {
 

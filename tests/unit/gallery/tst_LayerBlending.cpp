@@ -1,6 +1,6 @@
 #include "TestMain.h"
 
-#include <gallery/pages/LayerBlending.h>
+#include <gallery/LayerBlending.h>
 
 namespace {
 

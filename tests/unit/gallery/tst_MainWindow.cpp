@@ -1,10 +1,14 @@
 #include "TestMain.h"
 
+#include <UiComponents/ColorPickerButton.h>
+
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QRegularExpression>
 
 #include <gallery/GalleryApplication.h>
@@ -13,6 +17,7 @@
 #include <gallery/Page.h>
 #include <gallery/PageList.h>
 #include <gallery/PageRegistry.h>
+#include <gallery/ValueText.h>
 #include <memory>
 
 class tst_MainWindow : public QObject
@@ -33,6 +38,7 @@ private Q_SLOTS:
     void languageRebuildsThePage();
     void directionRebuildsThePage();
     void styleSwitch();
+    void propertyRowsFollowTheStyle();
     void styleSheetNamesExist();
     void unreadableStyleFile();
     void cancelledStyleFile();
@@ -42,10 +48,23 @@ private:
     void open(const CommandLine& start = CommandLine());
     QAbstractButton* button(const QString& group, const QString& text) const;
     QString shownTitle() const;
+    QStringList rows() const;
 
     std::unique_ptr<MessageWatch> m_messages;
     std::unique_ptr<MainWindow> m_window;
 };
+
+namespace {
+
+/// A page reads the values of a sheet after it is polished, which it is when it is laid out.
+void settle()
+{
+    for (int i = 0; i < 4; ++i) {
+        QCoreApplication::processEvents();
+    }
+}
+
+} // namespace
 
 void tst_MainWindow::initTestCase()
 {
@@ -87,6 +106,25 @@ QAbstractButton* tst_MainWindow::button(const QString& group, const QString& tex
 QString tst_MainWindow::shownTitle() const
 {
     return m_window->page()->findChild<QLabel*>("pageTitle")->text();
+}
+
+/// The values of the controls of the page, each with its name.
+QStringList tst_MainWindow::rows() const
+{
+    QStringList values;
+    const auto* form = m_window->page()->properties()->findChild<QFormLayout*>();
+    for (int row = 0; row < form->rowCount(); ++row) {
+        QLayoutItem* const item = form->itemAt(row, QFormLayout::FieldRole);
+        const QWidget* const control = item ? item->widget() : nullptr;
+        if (!control) {
+            continue;
+        }
+        const auto* button = control->findChild<ColorPickerButton*>();
+        const QVariant value = button ? QVariant(button->color().value_or(QColor()))
+                                      : control->property(control->metaObject()->userProperty().name());
+        values.append(control->accessibleName() + " = " + valueText(value));
+    }
+    return values;
 }
 
 void tst_MainWindow::startsOnTheFirstPage()
@@ -229,6 +267,24 @@ void tst_MainWindow::styleSwitch()
     QVERIFY(m_window->setStyleName(sheet.fileName()));
     QCOMPARE(m_window->state().style, sheet.fileName());
     QVERIFY(button("styleSwitch", QString::fromUtf8("File…"))->isChecked());
+}
+
+// The sheets set properties: after a switch the rows are those of a page that was built in that style.
+void tst_MainWindow::propertyRowsFollowTheStyle()
+{
+    open();
+    const QVector<PageInfo> pages = PageRegistry::pages();
+    for (const PageInfo& page : pages) {
+        m_window->showPage(page.id);
+        settle();
+        QVERIFY(m_window->setStyleName(m_window->state().style == "dark" ? "light" : "dark"));
+        settle();
+        const QStringList switched = rows();
+        m_window->showPage(page.id == "frame" ? "layouts" : "frame");
+        m_window->showPage(page.id);
+        settle();
+        QVERIFY2(rows() == switched, qPrintable(page.id));
+    }
 }
 
 // A rule about a name that no widget has is dead.

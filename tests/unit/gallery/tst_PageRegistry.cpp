@@ -5,7 +5,6 @@
 #include <gallery/Page.h>
 #include <gallery/PageRegistry.h>
 #include <gallery/StyleController.h>
-#include <memory>
 
 class tst_PageRegistry : public QObject
 {
@@ -62,7 +61,7 @@ void tst_PageRegistry::idsAreUniqueAndStable()
         ids.insert(page.id);
         QVERIFY2(!page.title.isEmpty(), qPrintable(page.id));
         QVERIFY2(!page.covers.isEmpty(), qPrintable(page.id));
-        QVERIFY2(page.create, qPrintable(page.id));
+        QVERIFY2(page.fill, qPrintable(page.id));
     }
 }
 
@@ -132,7 +131,7 @@ void tst_PageRegistry::everyPage()
     QApplication::setLayoutDirection(direction);
     {
         QWidget window;
-        std::unique_ptr<Page> page(PageRegistry::find(id)->create(&window));
+        auto* page = new Page(*PageRegistry::find(id), &window);
         page->resize(840, 680);
         window.resize(840, 680);
         window.setAttribute(Qt::WA_DontShowOnScreen);

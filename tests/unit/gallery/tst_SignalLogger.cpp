@@ -114,7 +114,7 @@ void tst_SignalLogger::valueText()
 void tst_SignalLogger::arguments()
 {
     Sender sender;
-    m_logger->watch(&sender, QStringLiteral("s"));
+    m_logger->watch(&sender, "s");
     Q_EMIT sender.nothing();
     Q_EMIT sender.numbers(3, 0.25);
     Q_EMIT sender.text(QStringLiteral("hi"));
@@ -141,7 +141,7 @@ void tst_SignalLogger::arguments()
 void tst_SignalLogger::aSignalWithADefaultArgumentIsOneLine()
 {
     Sender sender;
-    m_logger->watch(&sender, QStringLiteral("s"));
+    m_logger->watch(&sender, "s");
     Q_EMIT sender.defaulted();
     QCOMPARE(m_lines, QStringList{"s.defaulted(false)"});
 }
@@ -149,7 +149,7 @@ void tst_SignalLogger::aSignalWithADefaultArgumentIsOneLine()
 void tst_SignalLogger::signalsOfBaseClasses()
 {
     QToolButton button;
-    m_logger->watch(&button, QStringLiteral("button"));
+    m_logger->watch(&button, "button");
     button.click();
     button.setObjectName(QStringLiteral("b"));
     const QStringList expected = {"button.pressed()", "button.released()", "button.clicked(false)",
@@ -161,8 +161,8 @@ void tst_SignalLogger::twoObjectsKeepTheirNames()
 {
     Sender one;
     Sender other;
-    m_logger->watch(&one, QStringLiteral("one"));
-    m_logger->watch(&other, QStringLiteral("other"));
+    m_logger->watch(&one, "one");
+    m_logger->watch(&other, "other");
     Q_EMIT other.nothing();
     Q_EMIT one.nothing();
     QCOMPARE(m_lines, (QStringList{"other.nothing()", "one.nothing()"}));
@@ -171,12 +171,12 @@ void tst_SignalLogger::twoObjectsKeepTheirNames()
 void tst_SignalLogger::theDestroyedSignalIsTheLastLine()
 {
     auto* sender = new Sender;
-    m_logger->watch(sender, QStringLiteral("s"));
+    m_logger->watch(sender, "s");
     delete sender;
     QCOMPARE(m_lines, QStringList{"s.destroyed(QObject)"});
 
     Sender next;
-    m_logger->watch(&next, QStringLiteral("next"));
+    m_logger->watch(&next, "next");
     Q_EMIT next.nothing();
     QCOMPARE(m_lines.last(), QStringLiteral("next.nothing()"));
 }
@@ -184,7 +184,7 @@ void tst_SignalLogger::theDestroyedSignalIsTheLastLine()
 void tst_SignalLogger::theLoggerMayDieFirst()
 {
     Sender sender;
-    m_logger->watch(&sender, QStringLiteral("s"));
+    m_logger->watch(&sender, "s");
     m_logger.reset();
     Q_EMIT sender.nothing();
     QCOMPARE(m_lines, QStringList());
@@ -192,7 +192,7 @@ void tst_SignalLogger::theLoggerMayDieFirst()
 
 void tst_SignalLogger::nullIsIgnored()
 {
-    m_logger->watch(nullptr, QStringLiteral("s"));
+    m_logger->watch(nullptr, "s");
     QCOMPARE(m_lines, QStringList());
 }
 
@@ -201,7 +201,7 @@ void tst_SignalLogger::viewShowsAndClears()
     SignalLogView view;
     QSignalSpy added(&view, &SignalLogView::lineAdded);
     Sender sender;
-    view.watch(&sender, QStringLiteral("s"));
+    view.watch(&sender, "s");
     Q_EMIT sender.numbers(1, 2);
     view.addLine(QStringLiteral("own"));
     QCOMPARE(view.lines(), (QStringList{"s.numbers(1, 2)", "own"}));
@@ -218,7 +218,7 @@ void tst_SignalLogger::aChildOfTheViewThatEmitsWhileItDies()
     auto view = std::make_unique<SignalLogView>();
     auto* child = new Sender;
     child->setParent(view.get());
-    view->watch(child, QStringLiteral("child"));
+    view->watch(child, "child");
     QSignalSpy destroyed(child, &QObject::destroyed);
     view.reset();
     QCOMPARE(destroyed.count(), 1);

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <UiComponents/BlendingMode.h>
+
+#include <QImage>
+#include <QWidget>
+
+class ColorBlendingComboBox;
+
+/**
+ * Paints a landscape and on it a layer of coloured lights, blended in a mode.
+ *
+ * The layer does not cover the lower edge, where the landscape is seen as it is.
+ */
+class BlendCanvas : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BlendCanvas(QWidget* parent = nullptr);
+    ~BlendCanvas() override;
+
+    BlendingMode mode() const { return m_mode; }
+    void setMode(BlendingMode mode);
+
+    /// Of the layer, 0 to 1.
+    void setOpacity(double opacity);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void discardPicture();
+
+    BlendingMode m_mode = BlendingMode::SourceOver;
+    double m_opacity = 1;
+    /// For one size and scale; null when something has changed since.
+    QImage m_picture;
+};
+
+/// The selector of the blending mode above the canvas that it works on.
+class BlendStage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BlendStage(QWidget* parent = nullptr);
+    ~BlendStage() override;
+
+    ColorBlendingComboBox* comboBox() const { return m_comboBox; }
+    BlendCanvas* canvas() const { return m_canvas; }
+
+    /// As code sets it.
+    void setMode(BlendingMode mode);
+
+private:
+    ColorBlendingComboBox* const m_comboBox;
+    BlendCanvas* const m_canvas;
+};

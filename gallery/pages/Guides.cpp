@@ -1,0 +1,200 @@
+#include "../BubbleStage.h"
+#include "../Page.h"
+#include "../PageRegistry.h"
+#include "../Walk.h"
+
+#include <UiComponents/DialogGuideWidget.h>
+#include <UiComponents/GuideButton.h>
+#include <UiComponents/GuideInfo.h>
+#include <UiComponents/GuideWidget.h>
+
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace {
+
+/// The animated pictures by name; the first is none, the last is not there.
+QStringList movieNames()
+{
+    return {PageRegistry::tr("none"), PageRegistry::tr("Ripple delete"), PageRegistry::tr("Trim"),
+            PageRegistry::tr("Search"), PageRegistry::tr("A file that is not there")};
+}
+
+QString moviePath(int movie)
+{
+    const char* const paths[] = {"", ":/gallery/guides/ripple-delete.gif", ":/gallery/guides/trim.gif",
+                                 ":/gallery/guides/search.gif", "/no/such.gif"};
+    return QLatin1String(paths[movie]);
+}
+
+/// A link to further reading, as markup. Qt takes the colour of links from the palette of the application,
+/// which no style sheet reaches: this one has a colour for the background of @p surface.
+QString link(const QString& text, const QWidget* surface)
+{
+    constexpr int MiddleLightness = 128;
+    const bool isDark = surface->palette().color(QPalette::Window).lightness() < MiddleLightness;
+    return QStringLiteral("<a href=\"https://doc.qt.io/qt-5/\" style=\"color: %1\">%2</a>")
+        .arg(isDark ? QStringLiteral("#6ea8f7") : QStringLiteral("#1f66c7"), text.toHtmlEscaped());
+}
+
+GuideInfo rippleDelete(const QWidget* surface)
+{
+    return {PageRegistry::tr("Ripple delete"),
+            PageRegistry::tr("Deletes the selected clip and closes the gap: everything behind it moves up, "
+                             "on <b>all</b> tracks, so that sound and picture stay together."),
+            link(PageRegistry::tr("More about editing"), surface), moviePath(1)};
+}
+
+GuideInfo trim(const QWidget* surface)
+{
+    return {PageRegistry::tr("Trim"),
+            PageRegistry::tr("Drag the end of a clip to show less or more of it. Nothing is lost."),
+            link(PageRegistry::tr("More about trimming"), surface), moviePath(2)};
+}
+
+void setGuideInfo(GuideButton* button, int choice)
+{
+    const auto info = choice == 0 ? &trim : &rippleDelete;
+    button->setGuideInfo(choice == 2 ? nullptr : std::make_unique<GuideInfo>(info(button->parentWidget())));
+}
+
+/// A text control for each of @p fields of @p info, which calls @p apply.
+template <typename Info, typename Apply>
+void addTexts(PropertyPanel* panel, const std::shared_ptr<Info>& info, Apply apply,
+              std::initializer_list<std::pair<const char*, QString Info::*>> fields)
+{
+    for (const auto& field : fields) {
+        panel->addText(QLatin1String(field.first), info.get()->*field.second,
+                       [info, apply, text = field.second](const QString& value) {
+                           info.get()->*text = value;
+                           apply();
+                       });
+    }
+}
+
+/// A control of the picture of @p info, which calls @p apply.
+template <typename Info, typename Apply>
+void addMovie(PropertyPanel* panel, const std::shared_ptr<Info>& info, Apply apply, int current)
+{
+    panel->addChoice(QStringLiteral("moviePath"), movieNames(), current, [info, apply](int movie) {
+        info->moviePath = moviePath(movie);
+        apply();
+    });
+}
+
+} // namespace
+
+void PageRegistry::guide(Page* page)
+{
+    constexpr int Width = 280;
+    // The texts are measured for the width that the guide has: without a sheet it gets that of the
+    // reference sheets.
+    const auto columns = page->addTwins<QWidget>(QString(), [](QWidget* column) {
+        auto* guide = new GuideWidget(GuideInfo(), column);
+        guide->setFixedWidth(Width);
+        guide->setInfo(rippleDelete(column->parentWidget()));
+        auto* layout = new QVBoxLayout(column);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(guide);
+        layout->addStretch();
+    });
+    const auto guides = columns.children<GuideWidget>();
+
+    PropertyPanel* const panel = page->properties();
+    const auto info = std::make_shared<GuideInfo>(rippleDelete(page));
+    info->learnMore = tr("More about editing");
+    const auto apply = [page, guides, info] {
+        GuideInfo shown = *info;
+        shown.learnMore = info->learnMore.isEmpty() ? QString() : link(info->learnMore, page);
+        guides.setter (&GuideWidget::setInfo)(shown);
+    };
+    panel->addHeading(QStringLiteral("setInfo()"));
+    addTexts<GuideInfo>(panel, info, apply,
+                        {{"title", &GuideInfo::title},
+                         {"description", &GuideInfo::description},
+                         {"learnMore", &GuideInfo::learnMore}});
+    addMovie(panel, info, apply, 1);
+    panel->addSwitch(tr("Visible"), true, guides.setter(&QWidget::setVisible));
+    QObject::connect(page, &Page::styleChanged, page, apply);
+    page->signalLog()->watch(guides.enabled, "guide");
+    page->describeStyling(guides.enabled,
+                          tr("Texts are measured for the width that the sheet gives the guide. Links have "
+                             "the colour of the application's palette, unless their markup says another."));
+}
+
+void PageRegistry::guideButton(Page* page)
+{
+    const auto addButtons = [page](const QString& caption, const std::function<void(GuideButton*)>& setUp) {
+        return page->addTwins<GuideButton>(caption, [setUp](GuideButton* button) {
+            button->setText(QStringLiteral("?"));
+            setUp(button);
+        });
+    };
+    const auto buttons = addButtons(tr("With an animated picture"), [](GuideButton* button) {
+        button->setToolTip(tr("Trim"));
+        setGuideInfo(button, 0);
+    });
+    addButtons(tr("A title alone"), [](GuideButton* button) {
+        const GuideInfo info(tr("Nothing more to say"), QString(), QString(), QString());
+        button->setToolTip(info.title);
+        button->setGuideInfo(std::make_unique<GuideInfo>(info));
+    });
+    addButtons(tr("Without an info"), [](GuideButton*) {});
+
+    PropertyPanel* const panel = page->properties();
+    panel->addProperties(buttons);
+    panel->addHeading(QStringLiteral("setGuideInfo()"));
+    panel->addChoice(tr("Info"), {tr("Trim"), tr("Ripple delete"), tr("none")}, 0,
+                     buttons.setter(&setGuideInfo));
+    panel->addSwitch(tr("Visible"), true, buttons.setter(&QWidget::setVisible));
+    panel->addAction(QStringLiteral("click()"), buttons.enabled.data(), &GuideButton::click);
+    QObject::connect(page, &Page::pictureRequested, buttons.enabled.data(), &GuideButton::click);
+    page->signalLog()->watch(buttons.enabled, "button");
+    page->describeStyling(buttons.enabled,
+                          tr("A tool button. Its pop-up is a PointingWidget named pointingWidget, with a "
+                             "GuideWidget named guideWidget in it; both are below the button for a sheet."));
+}
+
+void PageRegistry::dialogGuide(Page* page)
+{
+    constexpr QSize StageSize(360, 314);
+    const auto info = std::make_shared<DialogGuideInfo>(
+        DialogGuideInfo{tr("Trim a clip"), tr("Drag its end. The picture shows how; nothing is lost."),
+                        tr("Next"), tr("Back"), moviePath(2)});
+    const auto stages = page->addTwins(QString(), [info, StageSize](QWidget* parent) {
+        auto* bubble = new DialogGuideWidget(nullptr);
+        bubble->setInfo(*info);
+        return new BubbleStage(bubble, QPointF(0.5, 0.03), StageSize, parent);
+    });
+    const auto bubbles = stages.children<DialogGuideWidget>();
+
+    PropertyPanel* const panel = page->properties();
+    panel->addAction(tr("Start the tour"), [page] {
+        Walk::start(page->window(),
+                    {{QStringLiteral("pageSearch"), tr("Find a component"),
+                      tr("Type a few letters of a class, a title or a keyword."), moviePath(3)},
+                     {QStringLiteral("styleSwitch"), tr("Try another style"),
+                      tr("Dark, light, none at all, or a sheet of your own that reloads when you save it."),
+                      QString()},
+                     {QStringLiteral("propertyPanel"), tr("Change it while it runs"),
+                      tr("The controls act on the enabled twin and the disabled one at once."), QString()},
+                     {QStringLiteral("signalLog"), tr("See what it says"),
+                      tr("Every signal of the component, newest last."), QString()}});
+    });
+    const auto apply = [bubbles, info] { bubbles.setter (&DialogGuideWidget::setInfo)(*info); };
+    panel->addHeading(QStringLiteral("setInfo()"));
+    addTexts<DialogGuideInfo>(panel, info, apply,
+                              {{"title", &DialogGuideInfo::title},
+                               {"description", &DialogGuideInfo::description},
+                               {"mainButtonText", &DialogGuideInfo::mainButtonText},
+                               {"secondaryButtonText", &DialogGuideInfo::secondaryButtonText}});
+    addMovie(panel, info, apply, 2);
+    panel->addHeading(tr("Buttons"));
+    panel->addSwitch(tr("Close button"), true, bubbles.setter(&DialogGuideWidget::setCloseButtonVisible));
+    panel->addSwitch(tr("Secondary button"), true,
+                     bubbles.setter(&DialogGuideWidget::setSecondaryButtonVisible));
+    page->signalLog()->watch(bubbles.enabled, "bubble");
+    page->describeStyling(bubbles.enabled,
+                          tr("A PointingWidget; its bubble is painted from that one's properties."));
+}

@@ -1,0 +1,177 @@
+#include "../Page.h"
+#include "../PageRegistry.h"
+#include "../PreviewScreen.h"
+
+#include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/LoupeWidget.h>
+#include <UiComponents/Pipette.h>
+#include <UiComponents/WidgetColorPicker.h>
+#include <UiComponents/WidgetColorPickerButton.h>
+#include <UiComponents/WidgetColorPickerStylingObject.h>
+
+#include <QListWidget>
+
+#include <cmath>
+
+namespace {
+
+constexpr int LoupePixels = 13;
+
+/// What a loupe sees in a corner of the desktop: half of its pixels are beyond it.
+enum class Place { Anywhere, Corner };
+
+/// A picture of the screen around a red spot.
+QPixmap loupePicture(Place place, qreal ratio)
+{
+    QImage image(LoupePixels, LoupePixels, QImage::Format_ARGB32_Premultiplied);
+    constexpr int middle = LoupePixels / 2;
+    for (int y = 0; y < LoupePixels; ++y) {
+        for (int x = 0; x < LoupePixels; ++x) {
+            const double distance = std::hypot(x - middle, y - middle) / LoupePixels;
+            const bool isOutside = place == Place::Corner && (x > middle || y < middle);
+            image.setPixelColor(x, y,
+                                isOutside ? QColor(Qt::transparent)
+                                          : QColor::fromHsvF(distance / 2, 0.85, 1.0 - distance / 2));
+        }
+    }
+    return QPixmap::fromImage(image.scaled(image.size() * ratio));
+}
+
+void setUpLoupe(LoupeWidget* loupe)
+{
+    constexpr int Magnification = 9;
+    // It is a window of its own otherwise.
+    loupe->setWindowFlags(Qt::Widget);
+    loupe->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // Without a sheet it would be as small as its label.
+    loupe->setMinimumSize(LoupePixels * Magnification, LoupePixels * Magnification);
+    loupe->setPixmap(loupePicture(Place::Anywhere, loupe->devicePixelRatioF()));
+    loupe->setColorName(QColor(255, 38, 38));
+}
+
+/// The colours that @p pipette has picked, the latest first.
+QListWidget* makePickedColors(const Pipette* pipette)
+{
+    constexpr QSize SwatchSize(32, 16);
+    constexpr int Height = 96;
+    auto* list = new QListWidget;
+    list->setObjectName(QStringLiteral("pickedColors"));
+    list->setAccessibleName(PageRegistry::tr("Picked colours"));
+    list->setIconSize(SwatchSize);
+    list->setFixedHeight(Height);
+    QObject::connect(pipette, &Pipette::colorSelected, list, [list, SwatchSize](const QColor& color) {
+        QPixmap swatch(SwatchSize);
+        swatch.fill(color.rgb());
+        list->insertItem(0, new QListWidgetItem(QIcon(swatch), color.name()));
+        list->setCurrentRow(0);
+    });
+    return list;
+}
+
+/// The picking cursor that the page's control chooses.
+struct PickingLook : WidgetColorPickerStylingObject
+{
+    QCursor pickingCursor() const override { return shape; }
+
+    Qt::CursorShape shape = Qt::CrossCursor;
+};
+
+/// The look for all pickers, which keep pointers to it.
+PickingLook* look()
+{
+    static PickingLook look;
+    return &look;
+}
+
+} // namespace
+
+void PageRegistry::pipette(Page* page)
+{
+    auto* pipette = new Pipette(page);
+    auto* start = new QPushButton(tr("Pick a colour from the screen"));
+    start->setObjectName(QStringLiteral("startPipette"));
+    QObject::connect(start, &QPushButton::clicked, pipette, &Pipette::startPicking);
+    page->addDemonstration(QString(), start);
+    page->addDemonstration(tr("What it picked, the latest first"), makePickedColors(pipette));
+    const auto loupes = page->addTwins<LoupeWidget>(tr("The loupe by itself"), &setUpLoupe);
+
+    PropertyPanel* const panel = page->properties();
+    panel->addHeading(QStringLiteral("Pipette"));
+    panel->addAction(QStringLiteral("startPicking()"), pipette, &Pipette::startPicking);
+    panel->addAction(QStringLiteral("stopPicking()"), pipette, &Pipette::stopPicking);
+    panel->addHeading(tr("The loupe by itself"));
+    panel->addChoice(tr("Picture"), {tr("Anywhere"), tr("In a corner of the desktop"), tr("None")}, 0,
+                     loupes.setter([](LoupeWidget* loupe, int choice) {
+                         const auto place = choice == 1 ? Place::Corner : Place::Anywhere;
+                         loupe->setPixmap(choice == 2 ? QPixmap()
+                                                      : loupePicture(place, loupe->devicePixelRatioF()));
+                     }));
+    panel->addColor(QStringLiteral("setColorName()"), QColor(255, 38, 38),
+                    loupes.setter(&LoupeWidget::setColorName));
+    panel->addProperties(loupes);
+    page->signalLog()->watch(pipette, "pipette");
+    page->describeStyling(loupes.enabled,
+                          tr("The magnifier of the pipette, which carries the property roundedEdges. Its "
+                             "border is painted over the picture; its background must be transparent. The "
+                             "windows that cover the screens meanwhile are of the class PipetteScreenView: "
+                             "its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick."));
+}
+
+void PageRegistry::widgetColorPicker(Page* page)
+{
+    const QColor sample(98, 178, 240);
+    look()->shape = Qt::CrossCursor;
+    auto* film = new PreviewScreen(page);
+    page->addDemonstration(tr("The target"), film);
+    const auto buttons = page->addTwins<WidgetColorPickerButton>(
+        tr("A button that wears its colour"), [film, sample](WidgetColorPickerButton* button) {
+            button->setAccessibleName(tr("Pick a colour from the film"));
+            button->setTargetWidget(film);
+            button->setPickerStylingObject(look());
+            button->setColor(sample);
+        });
+    const auto fields = page->addTwins<ColorPickerButton>(
+        tr("A colour button with this picker"), [film, sample](ColorPickerButton* field) {
+            field->setAccessibleName(tr("Pick a colour from the film"));
+            auto* picker = new WidgetColorPicker({field});
+            picker->setTarget(film);
+            picker->setStylingObject(look());
+            field->setPicker(picker);
+            field->setColor(sample);
+        });
+    const QPointer<WidgetColorPicker> picker = fields.enabled->findChild<WidgetColorPicker*>();
+
+    PropertyPanel* const panel = page->properties();
+    panel->addHeading(QStringLiteral("WidgetColorPickerButton"));
+    panel->addProperties(buttons, {"changeSelfColor"});
+    panel->addColor(QStringLiteral("setColor()"), sample, buttons.setter(&WidgetColorPickerButton::setColor));
+    panel->addAction(QStringLiteral("startPicking()"), buttons.enabled.data(),
+                     &WidgetColorPickerButton::startPicking);
+    panel->addAction(QStringLiteral("stopPicking()"), buttons.enabled.data(),
+                     &WidgetColorPickerButton::stopPicking);
+    panel->addHeading(tr("Target and cursor"));
+    panel->addChoice(tr("Target"), {tr("The film"), tr("The whole page"), tr("None")}, 0,
+                     [page, film, buttons, picker](int choice) {
+                         QWidget* const targets[] = {film, page, nullptr};
+                         if (buttons.enabled && picker) {
+                             buttons.enabled->setTargetWidget(targets[choice]);
+                             picker->setTarget(targets[choice]);
+                         }
+                     });
+    panel->addChoice(tr("Picking cursor"), {tr("Cross"), tr("Pointing hand"), tr("Question mark")}, 0,
+                     [](int choice) {
+                         constexpr Qt::CursorShape shapes[] = {Qt::CrossCursor, Qt::PointingHandCursor,
+                                                               Qt::WhatsThisCursor};
+                         look()->shape = shapes[choice];
+                     });
+    panel->addSwitch(tr("The film runs"), film->isRunning(), [film](bool on) { film->setRunning(on); });
+    page->signalLog()->watch(buttons.enabled, "button");
+    page->signalLog()->watch(fields.enabled, "field");
+    page->signalLog()->watch(picker, "picker");
+    page->describeStyling(buttons.enabled, tr("Its background is its colour, written into its own sheet; "
+                                              "size and border are the application's."));
+    QObject::connect(page, &Page::pictureRequested, film, [film] {
+        constexpr double PictureProgress = 0.35;
+        film->stopAt(PictureProgress);
+    });
+}
