@@ -126,6 +126,7 @@ void MainWindow::setDirection(Qt::LayoutDirection direction)
 void MainWindow::connectSwitches()
 {
     connect(m_list, &PageList::pageChosen, this, &MainWindow::showPage);
+    connect(m_style, &StyleController::styleApplied, m_list, &PageList::fitTitles);
     connect(m_switches, &SwitchBar::styleChosen, this, &MainWindow::setStyleName);
     connect(m_switches, &SwitchBar::styleFileRequested, this, &MainWindow::askForStyleFile);
     connect(m_switches, &SwitchBar::languageChosen, this, &MainWindow::setLanguage);

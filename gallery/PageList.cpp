@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr int SideBarWidth = 252;
 constexpr int IdRole = Qt::UserRole;
 
 QListWidgetItem* makeHeading(const QString& title)
@@ -52,9 +52,8 @@ PageList::PageList(QWidget* parent)
     m_search->installEventFilter(this);
     m_list->setObjectName(QStringLiteral("pageList"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setTextElideMode(Qt::ElideRight);
 
-    setFixedWidth(SideBarWidth);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setFocusProxy(m_list);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_search);
@@ -89,11 +88,7 @@ void PageList::setCurrentPage(const QString& id)
     }
     m_wanted = id;
     const QSignalBlocker quiet(m_list);
-    for (int row = 0; row < m_list->count(); ++row) {
-        if (idOf(m_list->item(row)) == id) {
-            m_list->setCurrentRow(row);
-        }
-    }
+    select(id);
 }
 
 void PageList::step(int offset)
@@ -101,14 +96,8 @@ void PageList::step(int offset)
     const QStringList listed = listedPages();
     const int from = listed.indexOf(currentPage());
     const int to = from < 0 ? 0 : from + offset;
-    if (to < 0 || to >= listed.size()) {
-        return;
-    }
-    for (int row = 0; row < m_list->count(); ++row) {
-        if (idOf(m_list->item(row)) == listed.at(to)) {
-            m_list->setCurrentRow(row);
-            return;
-        }
+    if (to >= 0 && to < listed.size()) {
+        select(listed.at(to));
     }
 }
 
@@ -132,6 +121,15 @@ void PageList::retranslate()
     fill();
 }
 
+void PageList::fitTitles()
+{
+    // While a search hides titles the list keeps its width.
+    if (m_search->text().isEmpty()) {
+        m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth() +
+                              m_list->verticalScrollBar()->sizeHint().width());
+    }
+}
+
 bool PageList::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_search && event->type() == QEvent::KeyPress) {
@@ -146,6 +144,15 @@ bool PageList::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QFrame::eventFilter(watched, event);
+}
+
+void PageList::select(const QString& id)
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (idOf(m_list->item(row)) == id) {
+            m_list->setCurrentRow(row);
+        }
+    }
 }
 
 void PageList::fill()
@@ -165,4 +172,5 @@ void PageList::fill()
         m_list->addItem(makeEntry(page));
     }
     setCurrentPage(m_wanted);
+    fitTitles();
 }

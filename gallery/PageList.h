@@ -32,6 +32,9 @@ public:
     /// Reads the texts in the language of the moment.
     void retranslate();
 
+    /// Makes the list wide enough for all titles in the style of the moment.
+    void fitTitles();
+
     QLineEdit* searchField() const { return m_search; }
 
 Q_SIGNALS:
@@ -42,6 +45,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void select(const QString& id);
     void fill();
 
     QLineEdit* const m_search;

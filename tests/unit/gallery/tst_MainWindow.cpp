@@ -8,6 +8,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMetaProperty>
 #include <QRegularExpression>
 
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void directionRebuildsThePage();
     void styleSwitch();
     void propertyRowsFollowTheStyle();
+    void titlesAreNotElided_data();
+    void titlesAreNotElided();
     void styleSheetNamesExist();
     void unreadableStyleFile();
     void cancelledStyleFile();
@@ -285,6 +288,33 @@ void tst_MainWindow::propertyRowsFollowTheStyle()
         settle();
         QVERIFY2(rows() == switched, qPrintable(page.id));
     }
+}
+
+void tst_MainWindow::titlesAreNotElided_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QString>("language");
+    for (const char* style : {"dark", "light", "none"}) {
+        for (const char* language : {"en", "de", "ja"}) {
+            QTest::addRow("%s, %s", style, language) << style << language;
+        }
+    }
+}
+
+void tst_MainWindow::titlesAreNotElided()
+{
+    QFETCH(QString, style);
+    QFETCH(QString, language);
+    open();
+    QVERIFY(m_window->setStyleName(style));
+    m_window->setLanguage(language);
+    QCoreApplication::processEvents();
+    const auto* list = m_window->findChild<QListWidget*>("pageList");
+    QVERIFY(list->sizeHintForColumn(0) <= list->viewport()->width());
+    m_window->pageList()->searchField()->setText("slider");
+    const int width = list->width();
+    m_window->pageList()->searchField()->clear();
+    QCOMPARE(list->width(), width);
 }
 
 // A rule about a name that no widget has is dead.
