@@ -10,7 +10,7 @@ class ColorBlendingComboBox;
 /**
  * Paints a landscape and on it a layer of coloured lights, blended in a mode.
  *
- * The layer does not cover the lower edge, where the landscape is seen as it is.
+ * The layer leaves the lower edge of the landscape free.
  */
 class BlendCanvas : public QWidget
 {
@@ -23,7 +23,7 @@ public:
     BlendingMode mode() const { return m_mode; }
     void setMode(BlendingMode mode);
 
-    /// Of the layer, 0 to 1.
+    /// The opacity of the layer, 0 to 1.
     void setOpacity(double opacity);
 
 protected:
@@ -34,7 +34,7 @@ private:
 
     BlendingMode m_mode = BlendingMode::SourceOver;
     double m_opacity = 1;
-    /// For one size and scale; null when something has changed since.
+    /// Valid for one size and scale; null after a change.
     QImage m_picture;
 };
 
@@ -50,7 +50,7 @@ public:
     ColorBlendingComboBox* comboBox() const { return m_comboBox; }
     BlendCanvas* canvas() const { return m_canvas; }
 
-    /// As code sets it.
+    /// Sets the mode of both parts.
     void setMode(BlendingMode mode);
 
 private:

@@ -46,7 +46,7 @@ struct Options
     }
 };
 
-/// Empty when all values are known.
+/// Describes the first wrong value; empty when all are right.
 QString valueError(const CommandLine& line, const QString& direction)
 {
     if (!line.page.isEmpty() && !PageRegistry::find(line.page)) {

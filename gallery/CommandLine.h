@@ -4,7 +4,7 @@
 #include <QStringList>
 
 /**
- * What the gallery was asked for.
+ * The arguments of the gallery.
  */
 struct CommandLine
 {
@@ -21,17 +21,17 @@ struct CommandLine
 
     static QString helpText();
 
-    /// The arguments, without the program's name, that bring another run of the gallery to the same place.
+    /// The arguments, without the program's name, that start the gallery with the same page and switches.
     QStringList arguments() const;
 
     Action action = Action::Show;
     /// Empty: the first page, or every page of a tour.
     QString page;
-    /// "dark", "light", "none", or the path of a style sheet that is there.
+    /// "dark", "light", "none", or the path of an existing style sheet.
     QString style = QStringLiteral("dark");
     QString language = QStringLiteral("en");
     Qt::LayoutDirection direction = Qt::LeftToRight;
     QString tourFolder;
-    /// What is wrong with the arguments; empty when nothing is.
+    /// Describes the first wrong argument; empty when all are right.
     QString error;
 };

@@ -62,7 +62,7 @@ QColorDialog* DialogColorPicker::makeDialog()
     connect(dialog, &QDialog::accepted, this, [this] { finish(m_dialog->currentColor()); });
     connect(dialog, &QDialog::rejected, this, [this] { finish(m_original); });
     connect(dialog, &QObject::destroyed, this, [this] {
-        // Still set, and no longer a dialog.
+        // Not cleared yet, and no longer a dialog.
         m_dialog.clear();
         finish(m_original);
     });

@@ -8,7 +8,7 @@
 class QColorDialog;
 
 /**
- * Qt's colour dialog as the picker of a colour field: what a host needs to write to have one.
+ * Qt's colour dialog as the picker of a colour field.
  *
  *     auto* button = new ColorPickerButton(this);
  *     button->setPicker(new DialogColorPicker(button));

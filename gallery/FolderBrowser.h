@@ -2,6 +2,6 @@
 
 class PathSelectionWidget;
 
-/// Gives @p field what a host has to: a folder dialog of Qt's, open beside the field when its button is
-/// clicked, and the space that is free where its path is, whenever that is reported.
+/// Does for @p field what a host does: opens Qt's folder dialog when the user wants to browse, and shows the
+/// free space at each path that the field reports.
 void connectToDisk(PathSelectionWidget* field);

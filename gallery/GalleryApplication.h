@@ -3,14 +3,15 @@
 #include <QStringList>
 
 /**
- * What a program that shows gallery pages, the gallery itself or a test, does once after its QApplication.
+ * The start of a program that shows gallery pages: the gallery itself or a test.
  */
 namespace GalleryApplication {
 
-/// Makes style sheets, translations and pictures available and sets the base style.
+/// Makes style sheets, translations and pictures available and sets the base style. Call it once, after
+/// the QApplication is made.
 void prepare();
 
-/// Starts a gallery of its own process with @p arguments at @p scale. False when it did not start.
+/// Starts a second process of the gallery with @p arguments at @p scale. Returns false when that fails.
 bool startAtScale(double scale, const QStringList& arguments);
 
 } // namespace GalleryApplication

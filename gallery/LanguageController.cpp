@@ -23,7 +23,7 @@ QStringList LanguageController::languages()
 
 QString LanguageController::nativeName(const QString& code)
 {
-    // Qt calls English by the country's variant.
+    // QLocale says "American English".
     return code == QLatin1String("en") ? QStringLiteral("English") : QLocale(code).nativeLanguageName();
 }
 

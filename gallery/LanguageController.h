@@ -18,10 +18,10 @@ class LanguageController : public QObject
 
 public:
     explicit LanguageController(QObject* parent = nullptr);
-    /// Takes its translations out of the application.
+    /// Removes its translations from the application.
     ~LanguageController() override;
 
-    /// Codes of the languages there are; the first is that of the source texts.
+    /// The codes of all languages; the first is that of the source texts.
     static QStringList languages();
 
     /// The language's name in itself.
@@ -33,7 +33,7 @@ public:
     void setLanguage(const QString& code);
 
 Q_SIGNALS:
-    /// All texts that are asked for from now on are in the new language.
+    /// From now on, tr() returns texts in the language @p code.
     void languageChanged(const QString& code);
 
 private:

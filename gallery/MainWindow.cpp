@@ -51,7 +51,7 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
     layout->addWidget(m_pageHolder, 1);
     setCentralWidget(body);
     addToolBar(m_switches);
-    // At a large scale the screen may be smaller.
+    // At a large scale the screen may be smaller than that.
     resize(StartSize.boundedTo(screen()->availableSize()));
 
     connectSwitches();
@@ -69,7 +69,7 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-    // The page's components may report to the window's parts while they die.
+    // The components of the page may emit to other parts of the window while they are deleted.
     delete m_page;
 }
 
@@ -160,7 +160,7 @@ void MainWindow::askForStyleFile()
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::setStyleName);
-    // The click has moved the switch already; cancelling takes it back.
+    // The click has moved the switch already.
     connect(dialog, &QDialog::rejected, this, [this] { m_switches->setStyleName(m_style->style()); });
     dialog->open();
 }

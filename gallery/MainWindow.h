@@ -22,14 +22,14 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Shows what @p start asks for; its action does not matter here.
+    /// Shows the page, style, language and direction of @p start.
     explicit MainWindow(const CommandLine& start, QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Page, style, language and direction of the moment, such that arguments() leads back here.
+    /// The present page, style, language and direction; their arguments() lead back here.
     CommandLine state() const;
 
-    /// The page that is shown; built anew by a change of page, language or direction.
+    /// The present page. A change of page, language or direction deletes it and builds a new one.
     Page* page() const;
 
     PageList* pageList() const { return m_list; }
@@ -37,7 +37,7 @@ public:
     /// An unknown id does nothing.
     void showPage(const QString& id);
 
-    /// False, and nothing changes, for a file that cannot be read.
+    /// Returns false and changes nothing when the file cannot be read.
     bool setStyleName(const QString& style);
     void setLanguage(const QString& code);
     void setDirection(Qt::LayoutDirection direction);

@@ -4,11 +4,10 @@
 
 namespace {
 
-// The handler is a plain function, so the watch in use has to be found without it.
+// For the handler, which is a plain function.
 MessageWatch* current = nullptr;
 
-/// Qt's off-screen platform says so of windows with a smallest size or a mask, and of pop-ups, which take
-/// the keyboard; it is nobody's fault.
+/// Qt's off-screen platform logs this for windows with a minimum size or a mask, and for pop-ups.
 bool isPlatformRemark(const QString& message)
 {
     return message.startsWith(QLatin1String("This plugin does not support "));

@@ -4,7 +4,7 @@
 #include <QtGlobal>
 
 /**
- * Collects the warnings and worse that are logged while it lives, and passes messages on.
+ * Collects warnings and errors for as long as it exists, and passes all messages on.
  */
 class MessageWatch
 {
@@ -14,7 +14,7 @@ public:
     MessageWatch(const MessageWatch&) = delete;
     MessageWatch& operator=(const MessageWatch&) = delete;
 
-    /// The warnings since the last call.
+    /// Returns the warnings since the last call.
     QStringList takeWarnings();
 
 private:

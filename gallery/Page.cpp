@@ -136,7 +136,7 @@ void Page::changeEvent(QEvent* event)
 bool Page::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_specimens && event->type() == QEvent::LayoutRequest) {
-        // Not before the specimens' own layout has answered the request.
+        // After the layout of the specimens has handled the request.
         QMetaObject::invokeMethod(this, &Page::fitSpecimens, Qt::QueuedConnection);
     } else if (watched == m_halves && event->type() == QEvent::Resize) {
         fitSpecimens();

@@ -39,8 +39,8 @@ struct Twins
         }
     }
 
-    /// What a control of the property panel applies: calls @p function, a setter or a function of a widget
-    /// and a value, for each one.
+    /// Returns a function of a value, for a control of the property panel: it calls @p function, a setter or
+    /// a function of a widget and a value, with each widget.
     template <typename Function>
     auto setter(Function function) const
     {
@@ -74,7 +74,7 @@ struct StyleSubject
  * A page of the gallery: what a component is for, the component twice, enabled and disabled, its
  * properties as live controls and the log of its signals.
  *
- * The texts are in the language of the moment: a change of language builds the page anew.
+ * The texts are in the present language: a change of language needs a new page.
  */
 class Page : public QFrame
 {

@@ -20,16 +20,16 @@ public:
     /// The id of the selected page; empty when the search has hidden it.
     QString currentPage() const;
 
-    /// Selects the page without announcing it. An unknown id does nothing.
+    /// Selects the page and emits nothing. An unknown id does nothing.
     void setCurrentPage(const QString& id);
 
-    /// Selects the next (1) or the previous (-1) page of those that are listed.
+    /// Selects the next (1) or the previous (-1) listed page.
     void step(int offset);
 
-    /// Ids of the pages that are listed, in order.
+    /// The ids of the listed pages, in order.
     QStringList listedPages() const;
 
-    /// Reads the texts in the language of the moment.
+    /// Reads all texts again.
     void retranslate();
 
     /// Makes the list wide enough for all titles in the style of the moment.

@@ -18,7 +18,7 @@ enum class PageGroup {
     Services,
 };
 
-/// What the gallery knows of a page before it builds it. Texts are in the language of the moment.
+/// A page before it is built. Texts are in the present language.
 struct PageInfo
 {
     /// Stable, lower case with hyphens: the page's name on the command line and of its pictures.
@@ -26,7 +26,7 @@ struct PageInfo
     PageGroup group = PageGroup::Inputs;
     QString title;
     QString introduction;
-    /// What else the search finds the page by.
+    /// Words by which the search finds the page, besides title, id and covers.
     QStringList keywords;
     /// The classes and headers of the library that the page shows.
     QStringList covers;
@@ -42,7 +42,7 @@ class PageRegistry
     Q_DECLARE_TR_FUNCTIONS(PageRegistry)
 
 public:
-    /// In the order of the list, in the language of the moment: ask again after a change of language.
+    /// In the order of the list and in the present language: call it again after a change of language.
     static QVector<PageInfo> pages();
 
     /// Empty for an id that no page has.

@@ -136,7 +136,7 @@ void ParameterPanel::addFiles()
     effects->setEditTriggers(QAbstractItemView::NoEditTriggers);
     effects->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     effects->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
-    // All effects are seen at once; it is the panel that scrolls.
+    // Shows all effects at once: the panel scrolls.
     effects->setLoadingFinished(false);
     addRow(tr("Effects"), effects);
 }

@@ -19,7 +19,7 @@ public:
 
     PathSelectionWidget* folder() const { return m_folder; }
 
-    /// Shows the rows whose name has @p text in it.
+    /// Shows only the rows whose name contains @p text.
     void filter(const QString& text);
 
 Q_SIGNALS:

@@ -83,7 +83,7 @@ void PickerChoice::installPickers()
             picker = new DialogColorPicker(field);
         }
         field->setPicker(picker);
-        // As the field would have told it, had it been there.
+        // The field tells its picker only of changes.
         picker->setColor(field->color());
         if (isFirst) {
             m_page->signalLog()->watch(picker, "picker");

@@ -30,7 +30,7 @@ public:
     ~PickerChoice() override;
 
     Kind kind() const { return m_kind; }
-    /// Ends what the pickers and the pipette are doing.
+    /// Ends a pick in progress, also that of the pipette.
     void setKind(Kind kind);
 
 private:

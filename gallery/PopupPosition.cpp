@@ -6,7 +6,7 @@
 
 namespace {
 
-// Between the field and the pop-up, in pixels.
+// Between the field and the pop-up.
 constexpr int Gap = 6;
 
 } // namespace

@@ -13,7 +13,7 @@ constexpr int FrameTime = 40;
 constexpr double FilmLength = 12000;
 constexpr QSize NormalSize(320, 150);
 
-// In parts of the picture's height.
+// Relative to the height.
 constexpr double BarsHeight = 0.22;
 constexpr double SunRadius = 0.11;
 

@@ -4,7 +4,7 @@
 #include <QElapsedTimer>
 #include <QFrame>
 
-/// A film to pick colours from: a day over the hills, above the colour bars. It runs while it is seen.
+/// A film to pick colours from: a day over the hills, above the colour bars. It runs while it is visible.
 class PreviewScreen : public QFrame
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     bool isRunning() const { return m_isRunning; }
     void setRunning(bool on);
 
-    /// Stops at a place of the film, from 0 at its begin to 1 at its end.
+    /// Stops the film at @p progress, 0 to 1.
     void stopAt(double progress);
 
     QSize sizeHint() const override;

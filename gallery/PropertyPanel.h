@@ -52,7 +52,7 @@ public:
     ColorInputWidget* addColor(const QString& label, const QColor& value,
                                const std::function<void(const QColor&)>& apply);
 
-    /// A button that calls @p function of @p receiver, or with it as the context.
+    /// A button that calls @p function, a member of @p receiver or a functor with it as the context.
     template <typename Receiver, typename Function>
     void addAction(const QString& label, Receiver* receiver, Function function)
     {

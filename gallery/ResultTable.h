@@ -6,7 +6,7 @@
 class QFormLayout;
 class QLabel;
 
-/// Named results of calls, one a line. Values are plain text unless a page says otherwise.
+/// Named results of calls, one a line.
 class ResultTable : public QFrame
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     explicit ResultTable(QWidget* parent = nullptr);
     ~ResultTable() override;
 
-    /// Adds the line @p name, or gives it a new value.
+    /// Sets the value of the line @p name, and adds the line if there is none.
     void setResult(const QString& name, const QString& value, Qt::TextFormat format = Qt::PlainText);
 
 private:

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// What the gallery's QML scenes see as "callback".
+/// The dialog of the gallery's QML scenes, which know it as "callback".
 class SceneDialog : public Qml::QuickDialog
 {
     Q_OBJECT
@@ -16,14 +16,14 @@ public:
     SceneDialog(bool isDark, QWidget* parent);
     ~SceneDialog() override;
 
-    /// Light on dark, as the gallery's own style.
+    /// Whether a scene is to be light on dark, as the gallery's style is.
     bool isDark() const { return m_isDark; }
 
-    /// What a form gives back.
+    /// The result of a form.
     QVariantMap values() const { return m_values; }
     void setValues(const QVariantMap& values);
 
-    /// Why @p path is no scene, each with its line; empty when it is one.
+    /// The errors in the scene @p path, each with its line.
     QStringList errorsOf(const QString& path);
 
 Q_SIGNALS:

@@ -49,7 +49,7 @@ SignalLogView::SignalLogView(QWidget* parent)
 
 SignalLogView::~SignalLogView()
 {
-    // Children die after this class's part: what they emit then must not reach the text any more.
+    // Children are deleted after the members: what they emit then must not reach addLine().
     delete m_logger;
 }
 

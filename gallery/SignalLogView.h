@@ -19,7 +19,7 @@ public:
     /// Shows every signal of @p object from now on, under the name @p name.
     void watch(const QObject* object, const char* name);
 
-    /// A line of the page's own, such as the result of a call.
+    /// Adds a line of the page's own, such as the result of a call.
     void addLine(const QString& line);
 
     void clear();

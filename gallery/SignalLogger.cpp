@@ -39,7 +39,7 @@ void SignalLogger::watch(const QObject* object, const char* name)
     const QMetaObject* const meta = object->metaObject();
     for (int index = 0; index < meta->methodCount(); ++index) {
         const QMetaMethod method = meta->method(index);
-        // A signal with a default argument is listed once more without it, and is emitted as one.
+        // A signal with a default argument is listed a second time without it.
         const bool isClone = method.attributes() & QMetaMethod::Cloned;
         if (method.methodType() != QMetaMethod::Signal || isClone) {
             continue;

@@ -9,10 +9,10 @@
 /**
  * Reports every signal of the objects it watches as a line "object.signal(arguments)".
  *
- * It connects through the meta-object, so it needs to know nothing about the classes it watches; it keeps
- * no pointer to them, and they may die in any order.
+ * It connects through the meta-object, for any class, and keeps no pointer to the objects: they may be
+ * deleted in any order.
  */
-// It answers qt_metacall() itself, in the place of the code that Q_OBJECT would generate.
+// It implements qt_metacall() itself, in place of the code that Q_OBJECT generates.
 class SignalLogger : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:

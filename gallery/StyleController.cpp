@@ -13,10 +13,10 @@
 
 namespace {
 
-// An editor saves in several steps, each of which is announced.
+// An editor saves in several steps, and the watcher reports each.
 constexpr int ReloadDelayMs = 50;
 
-/// Where the sheet of @p style is; empty for none.
+/// The path of the sheet of @p style; empty for none.
 QString pathOf(const QString& style)
 {
     if (style == QLatin1String("none")) {
@@ -39,14 +39,14 @@ std::optional<QByteArray> contentsOf(const QString& style)
     return file.readAll();
 }
 
-/// What the gallery's own window adds to a built-in sheet.
+/// The rules for the gallery's own window, which a built-in style adds.
 QByteArray windowSheet(const QString& style)
 {
     QFile file(QStringLiteral(":/gallery/%1.qss").arg(style));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// A point plane takes its fill from the sheet when it is resized.
+// A point plane reads its fill from the sheet when it is resized.
 void refillPlanes()
 {
     const QWidgetList widgets = QApplication::allWidgets();
@@ -70,7 +70,7 @@ QString withAbsoluteUrls(const QString& sheet, const QString& folder)
         const QRegularExpressionMatch match = urls.next();
         const QString path = match.captured(2).trimmed();
         result += sheet.midRef(end, match.capturedStart() - end);
-        // A colon: a resource, or a search path of the host's.
+        // With a colon: a resource or a search path.
         const bool isRelative = QDir::isRelativePath(path) && !path.contains(QLatin1Char(':'));
         result += isRelative ? QStringLiteral("url(\"%1/%2\")").arg(folder, path) : match.captured();
         end = match.capturedEnd();
@@ -120,7 +120,7 @@ void StyleController::watch()
         m_watcher.removePaths(watched);
     }
     if (!builtInStyles().contains(m_style)) {
-        // The folder too: an editor that replaces the file ends the watch on the old one.
+        // The folder too: the watch ends when an editor replaces the file.
         m_watcher.addPath(QFileInfo(m_style).absolutePath());
         m_watcher.addPath(m_style);
     }
@@ -130,7 +130,7 @@ void StyleController::reload()
 {
     const std::optional<QByteArray> contents = contentsOf(m_style);
     if (!contents) {
-        // Between removal and replacement; the folder announces the new file.
+        // Between removal and replacement: the folder reports the new file.
         return;
     }
     if (!m_watcher.files().contains(m_style)) {

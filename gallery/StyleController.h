@@ -5,8 +5,8 @@
 #include <QTimer>
 
 /**
- * The style sheet of the application: one of the two reference sheets, none, or a file that is read again
- * whenever it is saved.
+ * The style sheet of the application: one of the two reference sheets, none, or a file that it reads again
+ * whenever the file is saved.
  */
 class StyleController : public QObject
 {
@@ -22,12 +22,12 @@ public:
     /// A built-in style, or the absolute path of a file. Empty until setStyle() succeeded once.
     QString style() const { return m_style; }
 
-    /// Applies @p style, a built-in name or a file. When the file cannot be read the application keeps the
-    /// style it has, and the result is false.
+    /// Applies @p style, a built-in name or a file. Returns false and keeps the present style when the file
+    /// cannot be read.
     bool setStyle(const QString& style);
 
 Q_SIGNALS:
-    /// The application has another sheet, or the watched file's new contents.
+    /// The application has a new sheet, or the new contents of the file.
     void styleApplied(const QString& style);
 
 private:
@@ -41,6 +41,6 @@ private:
     QTimer m_reloadTimer;
 };
 
-/// @p sheet with the relative paths in its urls taken from @p folder, as its author meant them: Qt would
-/// take them from the program's working directory.
+/// Returns @p sheet with the relative paths in its urls resolved against @p folder. Qt resolves them against
+/// the working directory of the program.
 QString withAbsoluteUrls(const QString& sheet, const QString& folder);

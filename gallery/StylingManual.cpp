@@ -67,7 +67,7 @@ QStringList dynamicProperties(const QWidget* widget)
     QStringList names;
     const QList<QByteArray> all = widget->dynamicPropertyNames();
     for (const QByteArray& name : all) {
-        // Qt keeps notes of its own on widgets this way, and the hint has a line to itself.
+        // Qt's own begin with _q_, and the hint has a line to itself.
         if (!name.startsWith("_q_") && name != "styleHint") {
             names.append(QString::fromUtf8(name));
         }
@@ -86,13 +86,14 @@ QStringList hints(const StyleSubject& subject)
     return all;
 }
 
-/// Children that a sheet addresses: named by the component, not by Qt; and those of the library's classes.
+/// The children that a sheet can select: those that the component names, and those of the library's
+/// classes.
 QList<const QWidget*> reachableChildren(const QWidget* widget)
 {
     QList<const QWidget*> found;
     const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* child : children) {
-        // Content of the gallery's.
+        // Content of a page.
         if (child->objectName() == QLatin1String("sampleTile")) {
             continue;
         }

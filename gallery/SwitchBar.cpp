@@ -13,7 +13,7 @@
 
 namespace {
 
-// After the built-in ones.
+// The id of the button behind the built-in styles.
 const int FileStyle = StyleController::builtInStyles().size();
 
 constexpr double Scales[] = {1.0, 1.25, 1.5, 2.0};
@@ -98,7 +98,7 @@ void SwitchBar::setDirection(Qt::LayoutDirection direction)
 
 void SwitchBar::setScale(double scale)
 {
-    // A factor from the environment may be any; then none of ours is current.
+    // The environment may have another factor: then none is current.
     m_scales->setCurrentIndex(m_scales->findData(scale));
 }
 

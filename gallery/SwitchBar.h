@@ -8,8 +8,8 @@ class QFrame;
 class QLabel;
 
 /**
- * The tool bar with the gallery's switches. It shows the state it is given and reports what the user asks
- * for; it changes nothing itself.
+ * The tool bar with the gallery's switches. It shows the state that it is given and reports the user's
+ * choices; it changes nothing itself.
  */
 class SwitchBar : public QToolBar
 {
@@ -26,9 +26,9 @@ public:
     void retranslate();
 
 Q_SIGNALS:
-    /// A built-in style.
+    /// The user chose a built-in style.
     void styleChosen(const QString& style);
-    /// A style sheet file, still to be named by the user.
+    /// The user wants a style sheet from a file.
     void styleFileRequested();
     void languageChosen(const QString& code);
     void directionChosen(Qt::LayoutDirection direction);

@@ -17,7 +17,7 @@ namespace {
 constexpr QSize PictureSize(1100, 760);
 constexpr int FontPixels = 13;
 
-/// Polishing asks for a new layout, and a layout that changes heights for another one.
+/// Polishing requests a layout, and a layout that changes heights requests another one.
 void settle()
 {
     constexpr int Rounds = 4;
@@ -39,7 +39,7 @@ bool Tour::run()
         m_failures.append(QStringLiteral("%1: the folder cannot be made").arg(m_request.tourFolder));
         return false;
     }
-    // A cursor that blinks would make pictures differ, and so would the user's or the platform's font size.
+    // A blinking cursor and the platform's font size would make pictures differ.
     QApplication::setCursorFlashTime(0);
     QFont font = QApplication::font();
     font.setPixelSize(FontPixels);

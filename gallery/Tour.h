@@ -8,21 +8,21 @@
 class MainWindow;
 
 /**
- * Renders pages to pictures without a user: every page, or the one that is asked for, in every style.
+ * Renders every page, or one, to pictures in every style.
  */
 class Tour
 {
 public:
-    /// @p request names the folder, and the language and direction of the pictures.
+    /// @p request has the folder, the page or none, and the language and direction of the pictures.
     explicit Tour(CommandLine request);
 
-    /// Writes all pictures. False when one of them could not be made or a warning was logged.
+    /// Writes all pictures. Returns false when a picture failed or a warning was logged.
     bool run();
 
-    /// What went wrong, one line each.
+    /// The failures of run(), one line each.
     QStringList failures() const { return m_failures; }
 
-    /// The window as a user sees it, with the bubbles that its page has opened.
+    /// The window with the bubbles that its page has opened.
     static QImage picture(MainWindow* window);
 
 private:

@@ -36,7 +36,7 @@ QString objectText(const QObject* object)
                                           : QStringLiteral("%1 \"%2\"").arg(className, object->objectName());
 }
 
-/// Empty when the value is no enumerator. One that no class declares has only a number.
+/// Empty for a value that is no enumerator. An enumerator that no class declares has only a number.
 QString enumeratorText(const QVariant& value)
 {
     if (!QMetaType::typeFlags(value.userType()).testFlag(QMetaType::IsEnumeration)) {

@@ -25,7 +25,7 @@ protected:
         const int middle = target->window()->height() / 2;
         const bool isHigh = inWindow.center().y() < middle;
         setArrowSide(isHigh ? ArrowSide::Top : ArrowSide::Bottom, ArrowPosition::Center);
-        // A little inside, so that it is plain what is meant.
+        // A little inside the target.
         constexpr int Inset = 6;
         const QPoint spot(target->width() / 2, isHigh ? qMin(target->height() - Inset, middle / 2) : Inset);
         pointTo(target->mapToGlobal(spot));
@@ -70,7 +70,7 @@ QWidget* Walk::target(int step) const
     return nullptr;
 }
 
-/// The next step that has a target, or where there is none beyond the last one.
+/// The next step with a target; without one, the index beyond the last or before the first step.
 int Walk::neighbour(int step, int direction) const
 {
     do {
@@ -97,7 +97,7 @@ void Walk::show(int step)
     m_bubble->setInfo(
         {what.title, what.description, isLast ? tr("Done") : tr("Next"), tr("Back"), what.movie});
     m_bubble->setSecondaryButtonVisible(previous >= 0);
-    // Asked for again at the click: pages come and go meanwhile.
+    // The neighbour is found at the click: pages change meanwhile.
     connect(m_bubble, &DialogGuideWidget::mainClicked, this, [this, step] { show(neighbour(step, 1)); });
     connect(m_bubble, &DialogGuideWidget::secondaryClicked, this, [this, step] {
         const int before = neighbour(step, -1);

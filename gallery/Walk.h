@@ -8,7 +8,7 @@
 
 class QWidget;
 
-/// One stop of a walk.
+/// One step of a walk.
 struct WalkStep
 {
     /// The widget that the bubble points at, by its object name.
@@ -21,20 +21,20 @@ struct WalkStep
 /**
  * Walks the user through a window, from one widget to the next, with a DialogGuideWidget at each.
  *
- * It ends, and deletes itself, when the user has seen everything or closes a bubble, and when the widget that
- * a bubble annotates goes away.
+ * It deletes itself at the end: after the last step, when the user closes a bubble, or when the widget that
+ * a bubble annotates is deleted.
  */
 class Walk : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p window owns the walk, and is where the targets are looked for; a stop whose target is not to be
-    /// seen is left out. A walk that goes on in the window is ended.
+    /// Starts a walk through the children of @p window, which owns it, and ends the one in progress. A step
+    /// without a visible target is left out.
     static Walk* start(QWidget* window, const QVector<WalkStep>& steps);
     ~Walk() override;
 
-    /// The bubble that is shown.
+    /// The bubble of the present step.
     DialogGuideWidget* bubble() const { return m_bubble; }
 
 private:

@@ -93,7 +93,7 @@ int main(int argc, char** argv)
     for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
-    // Qt takes "--style" for its own and would remove it.
+    // QApplication would take and remove "--style".
     int ownNameOnly = 1;
     const QApplication application(ownNameOnly, argv);
     QApplication::setOrganizationName(QStringLiteral("UiComponents"));

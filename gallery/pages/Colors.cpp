@@ -15,10 +15,10 @@
 
 namespace {
 
-// A colour plane asks for no room of its own, and without a sheet it would have none.
+// A colour plane has no size hint: without a sheet it would have no size.
 constexpr QSize MinPlaneSize(220, 160);
 
-/// Controls of setColor() of @p twins, or of what sets their colour.
+/// Adds controls of the colour that @p set sets.
 template <typename Set>
 void addColorActions(PropertyPanel* panel, const QColor& color, Set set)
 {
@@ -109,7 +109,7 @@ void PageRegistry::colorInput(Page* page)
 void PageRegistry::colorPanel(Page* page)
 {
     const QColor sample(255, 93, 0);
-    // A panel that is scrolled cannot be judged.
+    // The panel is to be seen without scrolling.
     page->setMaxSpecimenShare(0.72);
     const auto panels = page->addTwins(tr("Choose a colour"), [sample](QWidget* parent) {
         auto* widget = new ColorPickerWidget(parent, true);
@@ -164,7 +164,7 @@ void PageRegistry::colorSelector(Page* page)
 void PageRegistry::colorPlane(Page* page)
 {
     const auto planes = page->addTwins<ColorPlaneWidget>(tr("Drag the marker"), [](ColorPlaneWidget* plane) {
-        // As the free colour selector names it.
+        // The name that the free colour selector gives it.
         plane->setObjectName(QStringLiteral("colorPlane"));
         plane->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         plane->setMinimumSize(MinPlaneSize);

@@ -59,7 +59,7 @@ void setGuideInfo(GuideButton* button, int choice)
     button->setGuideInfo(choice == 2 ? nullptr : std::make_unique<GuideInfo>(info(button->parentWidget())));
 }
 
-/// A text control for each of @p fields of @p info, which calls @p apply.
+/// Adds a text control for each of @p fields of @p info, which calls @p apply.
 template <typename Info, typename Apply>
 void addTexts(PropertyPanel* panel, const std::shared_ptr<Info>& info, Apply apply,
               std::initializer_list<std::pair<const char*, QString Info::*>> fields)
@@ -73,7 +73,7 @@ void addTexts(PropertyPanel* panel, const std::shared_ptr<Info>& info, Apply app
     }
 }
 
-/// A control of the picture of @p info, which calls @p apply.
+/// Adds a control of the picture of @p info, which calls @p apply.
 template <typename Info, typename Apply>
 void addMovie(PropertyPanel* panel, const std::shared_ptr<Info>& info, Apply apply, int current)
 {

@@ -30,7 +30,7 @@ const QPointF SamplePoint(0.4, -0.3);
 constexpr QSize PlaneSizeWithoutSheet(140, 140);
 constexpr qint64 Megabyte = 1'048'576;
 
-/// Controls of the coordinates of the point of @p plane, which @p set sets.
+/// Adds controls of the coordinates of the point of @p plane, which @p set sets.
 template <typename Set>
 void addPoint(PropertyPanel* panel, const QPointer<PointSelectionPlane>& plane, Set set)
 {

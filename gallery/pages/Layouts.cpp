@@ -19,7 +19,7 @@
 
 #include <memory>
 
-/// What a style sheet can set of a SampleDial.
+/// The properties of a SampleDial for a style sheet.
 class SampleDialStyle : public PropertyProviderBase
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int LoupePixels = 13;
 
-/// What a loupe sees in a corner of the desktop: half of its pixels are beyond it.
+/// Where the loupe is: in a corner half of its pixels are beyond the desktop.
 enum class Place { Anywhere, Corner };
 
 /// A picture of the screen around a red spot.
@@ -40,10 +40,10 @@ QPixmap loupePicture(Place place, qreal ratio)
 void setUpLoupe(LoupeWidget* loupe)
 {
     constexpr int Magnification = 9;
-    // It is a window of its own otherwise.
+    // By default it is a window.
     loupe->setWindowFlags(Qt::Widget);
     loupe->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    // Without a sheet it would be as small as its label.
+    // Without a sheet it has the size of its label.
     loupe->setMinimumSize(LoupePixels * Magnification, LoupePixels * Magnification);
     loupe->setPixmap(loupePicture(Place::Anywhere, loupe->devicePixelRatioF()));
     loupe->setColorName(QColor(255, 38, 38));

@@ -79,7 +79,7 @@ public:
     void setCentred(bool on) { m_isCentred = on; }
     void open();
     void openAgain();
-    /// The folder has another name every time.
+    /// Without the folder, whose name differs from run to run.
     void showFileName() { m_results->setResult(tr("File"), m_fileName); }
 
 private:
@@ -92,7 +92,7 @@ private:
     QTemporaryDir m_folder;
     QPointer<SceneDialog> m_dialog;
     QString m_fileName;
-    /// What the dialog was opened with.
+    /// The source of the dialog.
     QString m_path;
     bool m_isCentred = true;
 };

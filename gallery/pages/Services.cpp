@@ -400,7 +400,7 @@ void PageRegistry::services(Page* page)
         page->properties()->addHeading(service.title);
         service.add(page, results);
     }
-    // Most of the page are results.
+    // The results need most of the page.
     page->setMaxSpecimenShare(0.72);
     page->addDemonstration(QString(), sections);
 }

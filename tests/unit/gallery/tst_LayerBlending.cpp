@@ -14,9 +14,9 @@ QImage plain(const QColor& color)
 /// Of rounding, in each channel: Qt rounds every product of a formula.
 bool isNear(const QColor& one, const QColor& other)
 {
-    const int most = 2;
-    return qAbs(one.red() - other.red()) <= most && qAbs(one.green() - other.green()) <= most &&
-           qAbs(one.blue() - other.blue()) <= most && one.alpha() == other.alpha();
+    const int max = 2;
+    return qAbs(one.red() - other.red()) <= max && qAbs(one.green() - other.green()) <= max &&
+           qAbs(one.blue() - other.blue()) <= max && one.alpha() == other.alpha();
 }
 
 } // namespace
