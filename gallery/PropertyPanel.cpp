@@ -171,6 +171,11 @@ ColorInputWidget* PropertyPanel::addColor(const QString& label, const QColor& va
     return field;
 }
 
+void PropertyPanel::addAction(const QString& label, const std::function<void()>& run)
+{
+    addAction(label, this, run);
+}
+
 void PropertyPanel::refresh()
 {
     const QScopedValueRollback<bool> showing(m_isShowing, true);

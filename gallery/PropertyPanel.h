@@ -52,16 +52,12 @@ public:
     ColorInputWidget* addColor(const QString& label, const QColor& value,
                                const std::function<void(const QColor&)>& apply);
 
-    /// A button that calls @p function, a member of @p receiver or a functor with it as the context.
+    /// A button that calls @p run, or @p function of @p receiver.
+    void addAction(const QString& label, const std::function<void()>& run);
     template <typename Receiver, typename Function>
     void addAction(const QString& label, Receiver* receiver, Function function)
     {
         connect(addButton(label), &QPushButton::clicked, receiver, function);
-    }
-    template <typename Function>
-    void addAction(const QString& label, Function function)
-    {
-        addAction(label, this, function);
     }
 
 public Q_SLOTS:

@@ -19,8 +19,7 @@ namespace {
 constexpr QSize MinPlaneSize(220, 160);
 
 /// Adds controls of the colour that @p set sets.
-template <typename Set>
-void addColorActions(PropertyPanel* panel, const QColor& color, Set set)
+void addColorActions(PropertyPanel* panel, const QColor& color, const std::function<void(const QColor&)>& set)
 {
     panel->addColor(PageRegistry::tr("Colour"), color, set);
     panel->addAction(PageRegistry::tr("No colour"), [set] { set(QColor()); });
@@ -49,8 +48,7 @@ void addReportedColor(Page* page, const Twins<Widget>& twins, Signal changed)
 
 /// Calls @p set when the page has its first layout, since a marker is placed in the plane's present size,
 /// and before a picture.
-template <typename Set>
-void setWhenLaidOut(Page* page, Set set)
+void setWhenLaidOut(Page* page, const std::function<void()>& set)
 {
     QTimer::singleShot(0, page, set);
     QObject::connect(page, &Page::pictureRequested, page, set);

@@ -21,7 +21,7 @@ template <typename Slider>
 Twins<Slider> addSliders(Page* page, int value)
 {
     page->properties()->addHeading(PageRegistry::tr("Horizontal"));
-    const auto horizontal = page->addTwins<Slider>(PageRegistry::tr("Horizontal"), [value](Slider* slider) {
+    auto horizontal = page->addTwins<Slider>(PageRegistry::tr("Horizontal"), [value](Slider* slider) {
         slider->setOrientation(Qt::Horizontal);
         slider->setValue(value);
     });

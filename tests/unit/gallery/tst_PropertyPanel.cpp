@@ -256,7 +256,8 @@ void tst_PropertyPanel::panelTakesOwnPropertiesOfAClass()
 {
     const ColorInputWidget field(nullptr, QColor());
     QStringList names;
-    for (const QMetaProperty& property : ownProperties(&field)) {
+    const QVector<QMetaProperty> properties = ownProperties(&field);
+    for (const QMetaProperty& property : properties) {
         names.append(property.name());
     }
     QVERIFY(names.contains(QStringLiteral("layoutMargin")));
