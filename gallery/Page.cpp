@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMovie>
 #include <QScrollArea>
+#include <QShowEvent>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -125,14 +126,6 @@ void Page::prepareForPicture()
     m_signalLog->clear();
 }
 
-void Page::changeEvent(QEvent* event)
-{
-    QFrame::changeEvent(event);
-    if (event->type() == QEvent::StyleChange) {
-        Q_EMIT styleChanged();
-    }
-}
-
 bool Page::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_specimens && event->type() == QEvent::LayoutRequest) {
@@ -142,6 +135,22 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
         fitSpecimens();
     }
     return QFrame::eventFilter(watched, event);
+}
+
+void Page::showEvent(QShowEvent* event)
+{
+    QFrame::showEvent(event);
+    if (!event->spontaneous()) {
+        Q_EMIT shown();
+    }
+}
+
+void Page::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) {
+        Q_EMIT styleChanged();
+    }
 }
 
 void Page::fitSpecimens()

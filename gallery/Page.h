@@ -133,11 +133,13 @@ public:
     void prepareForPicture();
 
 Q_SIGNALS:
-    void pictureRequested();
+    void shown();
     void styleChanged();
+    void pictureRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

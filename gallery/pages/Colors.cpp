@@ -46,11 +46,11 @@ void addReportedColor(Page* page, const Twins<Widget>& twins, Signal changed)
     connectTo(twins.disabled, labels.disabled);
 }
 
-/// Calls @p set when the page has its first layout, since a marker is placed in the plane's present size,
-/// and before a picture.
+/// Calls @p set after the first layout of the page, since a plane places its marker in its present size, and
+/// before a picture.
 void setWhenLaidOut(Page* page, const std::function<void()>& set)
 {
-    QTimer::singleShot(0, page, set);
+    QObject::connect(page, &Page::shown, page, [page, set] { QTimer::singleShot(0, page, set); });
     QObject::connect(page, &Page::pictureRequested, page, set);
 }
 

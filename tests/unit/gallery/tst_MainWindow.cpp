@@ -40,6 +40,7 @@ private Q_SLOTS:
     void directionRebuildsThePage();
     void styleSwitch();
     void propertyRowsFollowTheStyle();
+    void markersAreInPlace();
     void titlesAreNotElided_data();
     void titlesAreNotElided();
     void styleSheetNamesExist();
@@ -287,6 +288,20 @@ void tst_MainWindow::propertyRowsFollowTheStyle()
         m_window->showPage(page.id);
         settle();
         QVERIFY2(rows() == switched, qPrintable(page.id));
+    }
+}
+
+// A plane places its marker in the size that it has: a page that sets the colour too early shows another.
+void tst_MainWindow::markersAreInPlace()
+{
+    open();
+    for (const char* page : {"color-plane", "color-selector"}) {
+        m_window->showPage(page);
+        settle();
+        const QImage shown = m_window->page()->grab().toImage();
+        m_window->page()->prepareForPicture();
+        settle();
+        QVERIFY2(m_window->page()->grab().toImage() == shown, page);
     }
 }
 
