@@ -106,7 +106,11 @@ void Walk::show(int step)
         }
     });
     connect(m_bubble, &DialogGuideWidget::closeClicked, this, &Walk::end);
-    connect(m_bubble, &QObject::destroyed, this, &Walk::end);
+    connect(m_bubble, &QObject::destroyed, this, [this] {
+        // Not cleared yet, and no longer a bubble.
+        m_bubble.clear();
+        end();
+    });
     m_bubble->show();
 }
 

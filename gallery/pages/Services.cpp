@@ -311,12 +311,16 @@ void openFocusDialog(Page* page, ResultTable* results, bool isWorkaroundApplied)
         layout->addWidget(host);
         host->show();
     });
-    QObject::connect(qApp, &QApplication::focusChanged, dialog, [page, results](QWidget*, QWidget* now) {
-        const QString focused =
-            now ? valueText(QVariant::fromValue<QObject*>(now)) : PageRegistry::tr("no widget");
-        results->setResult(PageRegistry::tr("Keyboard focus"), focused);
-        if (now) {
-            page->signalLog()->addLine(QStringLiteral("focusChanged(%1)").arg(focused));
+    // The page deletes its results before the dialog, which has the focus then.
+    const QPointer<ResultTable> table(results);
+    QObject::connect(qApp, &QApplication::focusChanged, dialog, [page, table](QWidget*, QWidget* now) {
+        if (table) {
+            const QString focused =
+                now ? valueText(QVariant::fromValue<QObject*>(now)) : PageRegistry::tr("no widget");
+            table->setResult(PageRegistry::tr("Keyboard focus"), focused);
+            if (now) {
+                page->signalLog()->addLine(QStringLiteral("focusChanged(%1)").arg(focused));
+            }
         }
     });
     if (isWorkaroundApplied) {

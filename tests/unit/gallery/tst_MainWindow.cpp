@@ -1,6 +1,7 @@
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/DialogGuideWidget.h>
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -10,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMetaProperty>
+#include <QPushButton>
 #include <QRegularExpression>
 
 #include <gallery/GalleryApplication.h>
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void unreadableStyleFile();
     void cancelledStyleFile();
     void scaleAsksForARestart();
+    void closedDuringTheTour();
 
 private:
     void open(const CommandLine& start = CommandLine());
@@ -386,6 +389,17 @@ void tst_MainWindow::scaleAsksForARestart()
     QTest::keyClick(scales, Qt::Key_End);
     QCOMPARE(restart.count(), 1);
     QCOMPARE(restart.first().first().toDouble(), 2.0);
+}
+
+// The bubble of the tour is a child of the search field.
+void tst_MainWindow::closedDuringTheTour()
+{
+    CommandLine start;
+    start.page = "dialog-guide";
+    open(start);
+    m_window->page()->properties()->findChild<QPushButton*>()->click();
+    QVERIFY(m_window->pageList()->searchField()->findChild<DialogGuideWidget*>());
+    m_window.reset();
 }
 
 UIC_TEST_MAIN(tst_MainWindow)
