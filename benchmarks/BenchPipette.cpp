@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -28,10 +29,17 @@
 
 using namespace Bench;
 
+// The macro works in the global namespace only.
+static void initStyles()
+{
+    Q_INIT_RESOURCE(styles);
+}
+
 namespace {
 
 constexpr int loupeSide = 117;
-constexpr int updates = 50;
+constexpr int updates = 10;
+constexpr int trail = 10;
 constexpr QSize loupePicture(LoupeWidget::pixels, LoupeWidget::pixels);
 
 /// Where the mouse goes on each screen.
@@ -43,18 +51,32 @@ struct Place
 };
 
 // Far enough from each other that no loupe is in the other's picture: the pipette never waits.
-const std::array<Place, 2> places = {{{{300, 400}, qRgb(90, 20, 60)}, {{900, 700}, qRgb(10, 80, 40)}}};
+/// Of all other pixels: each has another color than those around it.
+QRgb patternAt(const QPoint& point)
+{
+    return qRgb(point.x() % 120, point.y() % 120, (point.x() + point.y()) % 100);
+}
 
-const char loupeSheet[] =
-    "LoupeWidget { background: transparent; border: 3px solid gray; border-radius: 58px;"
-    " min-width: 111px; max-width: 111px; min-height: 111px; max-height: 111px; }"
-    "LoupeWidget > #colorNameLabel { color: white; background: black; margin: 80px 20px 14px 20px; }";
+const std::array<Place, 2> places = {{{{300, 400}, qRgb(90, 20, 60)}, {{900, 700}, qRgb(10, 80, 40)}}};
 
 void require(bool holds, const char* what)
 {
     if (!holds) {
         throw std::runtime_error(std::string("it does not hold that ") + what);
     }
+}
+
+const QString rimmedLoupe = QStringLiteral(
+    "LoupeWidget { background: transparent; border: 3px solid gray; border-radius: 58px;"
+    " min-width: 111px; max-width: 111px; min-height: 111px; max-height: 111px; }"
+    "LoupeWidget > #colorNameLabel { color: white; background: black; margin: 80px 20px 14px 20px; }");
+
+QString darkSheet()
+{
+    initStyles();
+    QFile file(QStringLiteral(":/styles/dark.qss"));
+    require(file.open(QIODevice::ReadOnly), "there is a dark sheet");
+    return QString::fromUtf8(file.readAll());
 }
 
 void waitUntil(const char* what, const std::function<bool()>& condition)
@@ -137,6 +159,14 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
+        QImage pattern(size(), QImage::Format_RGB32);
+        for (int y = 0; y < pattern.height(); ++y) {
+            auto* line = reinterpret_cast<QRgb*>(pattern.scanLine(y));
+            for (int x = 0; x < pattern.width(); ++x) {
+                line[x] = patternAt(mapToGlobal(QPoint(x, y)));
+            }
+        }
+        painter.drawImage(0, 0, pattern);
         const auto screens = QGuiApplication::screens();
         for (const QScreen* screen : screens) {
             for (const Place& place : places) {
@@ -147,14 +177,17 @@ protected:
     }
 };
 
+/// No place of another color is near it.
+constexpr QRect walkway(1150, 150, 600, 450);
+
 /// A pipette over the background.
 class Pick : public QObject
 {
 public:
-    explicit Pick(std::shared_ptr<Background> background)
+    explicit Pick(std::shared_ptr<Background> background, const QString& sheet = rimmedLoupe)
         : m_background(std::move(background))
     {
-        qApp->setStyleSheet(QLatin1String(loupeSheet));
+        qApp->setStyleSheet(sheet);
         QCursor::setPos(onDesktop(places[0], QGuiApplication::primaryScreen()));
         connect(&m_pipette, &Pipette::colorSelected, this, [this](const QColor& color) {
             stopClock();
@@ -168,11 +201,11 @@ public:
         m_isOver = false;
         m_painted = {};
         m_pipette.startPicking();
+        findViews();
     }
 
     void waitUntilShown()
     {
-        findViews();
         waitUntil("all screens are covered", [this] {
             require(!m_isOver, "a pick goes on until it is ended");
             return std::all_of(m_views.begin(), m_views.end(),
@@ -199,11 +232,14 @@ public:
 
     void end()
     {
-        if (!m_isOver) {
-            waitUntilAtRest();
-            m_pipette.stopPicking();
-        }
+        m_pipette.stopPicking();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        // A new one: Qt may take the focus that the window manager gives back to the old one for that of a
+        // window that has just been closed, and forget it.
+        m_keeper = std::make_unique<QWidget>();
+        m_keeper->setGeometry(10, 10, 50, 50);
+        m_keeper->show();
+        m_keeper->activateWindow();
         waitUntilAtRest();
     }
 
@@ -214,6 +250,27 @@ public:
         const QPoint point = onDesktop(place, screen);
         Q_EMIT viewAt(point)->loupePosChanged(point);
         require(m_name->text() == place.name, "each update of the loupe reads the screen");
+    }
+
+    /// Updates the loupe for a cursor that has gone on by @p step.
+    void walk(const QPoint& step)
+    {
+        m_cursor += step;
+        if (!walkway.contains(m_cursor)) {
+            m_cursor = walkway.center();
+        }
+        Q_EMIT viewAt(m_cursor)->loupePosChanged(m_cursor);
+        require(m_name->text() == QColor(patternAt(m_cursor)).name(),
+                "each update of the loupe reads the screen");
+    }
+
+    /// Leaves a trail of paintings, as a hand that has moved for a while.
+    void prepareWalk(const QPoint& step)
+    {
+        for (int i = 0; i < trail; ++i) {
+            walk(step);
+            paintNow();
+        }
     }
 
     /// Moves the mouse from one of the screen's places to the other, with all but the last painting.
@@ -262,10 +319,21 @@ public:
         require((painted - bothPlaces(screen, 2)).isEmpty(), "nothing but the loupe's two places is painted");
     }
 
+    /// Shows the loupe over a point of the primary screen, and goes on.
+    void passOver(const QPoint& point)
+    {
+        const QPoint corner = QGuiApplication::primaryScreen()->geometry().topLeft();
+        for (const QPoint& cursor : {point + QPoint(-40, 40), point + QPoint(-300, 100)}) {
+            Q_EMIT viewAt(corner + cursor)->loupePosChanged(corner + cursor);
+            paintNow();
+        }
+    }
+
     void click()
     {
         m_selected = 0;
         const QPoint point = onDesktop(places[1], QGuiApplication::primaryScreen());
+        require(!m_isOver, "a pick goes on until it is ended");
         QWidget* const viewport = viewAt(point)->viewport();
         const QPoint local = viewport->mapFromGlobal(point);
         QMouseEvent release(QEvent::MouseButtonRelease, local, local, point, Qt::LeftButton, Qt::NoButton,
@@ -324,12 +392,14 @@ private:
     }
 
     const std::shared_ptr<Background> m_background;
+    std::unique_ptr<QWidget> m_keeper; // of the keyboard between two picks
     Pipette m_pipette;
     std::vector<QPointer<PipetteScreenView>> m_views;
     QPointer<QLabel> m_name;
     QRegion m_painted; // of the desktop
     int m_paintings = 0;
     std::size_t m_at = 0;
+    QPoint m_cursor = walkway.center();
     QRgb m_selected = 0;
     bool m_isOver = true;
 };
@@ -390,9 +460,9 @@ private:
     std::vector<std::unique_ptr<Window>> m_windows;
 };
 
-std::shared_ptr<Pick> settledPick()
+std::shared_ptr<Pick> settledPick(const QString& sheet = rimmedLoupe)
 {
-    auto pick = std::make_shared<Pick>(std::make_shared<Background>());
+    auto pick = std::make_shared<Pick>(std::make_shared<Background>(), sheet);
     pick->start();
     pick->waitUntilSettled();
     return pick;
@@ -414,11 +484,17 @@ Side manyOf(const std::function<void()>& run)
     }};
 }
 
-Pair loupeUpdate()
+Pair loupeUpdate(const QString& sheet, const QPoint& step)
 {
-    const auto pick = settledPick();
-    return {manyOf([pick] { pick->move(QGuiApplication::primaryScreen()); }),
-            manyOf([at = 0U]() mutable { grab(places[at = 1 - at], loupePicture); }), updates};
+    const auto pick = settledPick(sheet);
+    const auto prepare = [pick, step] { pick->prepareWalk(step); };
+    return {{manyOf([pick, step] { pick->walk(step); }).run, prepare},
+            {manyOf([step, at = walkway.center()]() mutable {
+                 at = walkway.contains(at + step) ? at + step : walkway.center();
+                 QGuiApplication::primaryScreen()->grabWindow(0, at.x() - 6, at.y() - 6, 13, 13);
+             }).run,
+             prepare},
+            updates};
 }
 
 Pair twoGrabs()
@@ -468,41 +544,79 @@ Pair start()
             {[windows] { windows->start(); }, {}, [windows] { windows->end(); }}};
 }
 
-Pair click()
+enum class Moment { AtOnce, AtRest, WhereTheLoupeWas };
+
+Pair click(Moment moment)
 {
     auto pick = std::make_shared<Pick>(std::make_shared<Background>());
-    const auto before = [pick] {
+    const auto before = [pick, moment] {
         pick->start();
+        if (moment == Moment::AtOnce) {
+            pick->waitUntilShown();
+            return;
+        }
         pick->waitUntilSettled();
+        if (moment == Moment::WhereTheLoupeWas) {
+            pick->passOver(places[1].point);
+        }
     };
     const auto after = [pick] { pick->end(); };
     return {{[pick] { pick->click(); }, before, after}, {[] { grab(places[1], {1, 1}); }, before, after}};
 }
 
+void addUpdates()
+{
+    const std::pair<const char*, QString> sheets[] = {
+        {"no sheet", QString()}, {"the dark sheet", darkSheet()}, {"a sheet with a rim", rimmedLoupe}};
+    const QPoint directions[] = {QPoint(1, 0),  QPoint(1, 1),   QPoint(0, 1),  QPoint(-1, 1),
+                                 QPoint(-1, 0), QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1)};
+    for (const auto& [name, sheet] : sheets) {
+        for (const int speed : {1, 10, 40}) {
+            for (const QPoint& direction : directions) {
+                const QPoint step = direction * speed;
+                const std::string path = "pipette/update of the loupe by (" + std::to_string(step.x()) +
+                                         ", " + std::to_string(step.y()) + ") under " + name +
+                                         ", against one grab of 13 x 13";
+                addRow(path, atMost(1.1), [sheet = sheet, step] { return loupeUpdate(sheet, step); });
+            }
+        }
+    }
+}
+
+void addClicks(const std::string& screens)
+{
+    const std::pair<const char*, Moment> moments[] = {{"at once after the start", Moment::AtOnce},
+                                                      {"at rest", Moment::AtRest},
+                                                      {"where the loupe was", Moment::WhereTheLoupeWas}};
+    for (const auto& [name, moment] : moments) {
+        addRow("pipette/release until colorSelected on " + screens + ", " + name + ", against one grab",
+               atMost(1.2), [moment = moment] { return click(moment); });
+    }
+}
+
 bool addRows(const QByteArray& layout)
 {
+    const int screens = layout.split(' ').size();
     if (layout.startsWith("3840x2160")) {
-        return addRow("pipette/move of the loupe on 3840 x 2160, against 1920 x 1080", atMost(1.15),
-                      &moveOnALargeScreen);
+        if (screens == 1) {
+            addRow("pipette/start until 3840 x 2160 is covered, against a plain window", atMost(2.0), &start);
+        } else {
+            addRow("pipette/move of the loupe on 3840 x 2160, against 1920 x 1080", atMost(1.15),
+                   &moveOnALargeScreen);
+        }
+        return true;
     }
-    switch (layout.split(' ').size()) {
-    case 1:
-        return addRow("pipette/update of the loupe, against one grab of 13 x 13", atMost(1.1),
-                      &loupeUpdate) &&
-               addRow("pipette/two grabs, of 13 x 13 and of 1 x 1, against one of 13 x 13", noGoal(),
-                      &twoGrabs) &&
-               addRow("pipette/move of the loupe, against painting its two places", atMost(1.2),
-                      &loupeMove) &&
-               addRow("pipette/move of the loupe, against painting the screen", noGoal(), &wholeRepaint) &&
-               addRow("pipette/start until 1 screen is covered, against a plain window", noGoal(), &start) &&
-               addRow("pipette/click until colorSelected on 1 screen, against one grab", noGoal(), &click);
-    case 2:
-        return addRow("pipette/start until 2 screens are covered, against plain windows", noGoal(), &start) &&
-               addRow("pipette/click until colorSelected on 2 screens, against one grab", noGoal(), &click);
-    default:
-        return addRow("pipette/start until 4 screens are covered, against plain windows", noGoal(), &start) &&
-               addRow("pipette/click until colorSelected on 4 screens, against one grab", noGoal(), &click);
+    if (screens == 1) {
+        addUpdates();
+        addRow("pipette/two grabs, of 13 x 13 and of 1 x 1, against one of 13 x 13", noGoal(), &twoGrabs);
+        addRow("pipette/move of the loupe, against painting its two places", atMost(1.2), &loupeMove);
+        addRow("pipette/move of the loupe, against painting the screen", noGoal(), &wholeRepaint);
     }
+    const std::string count = std::to_string(screens) + (screens == 1 ? " screen" : " screens");
+    addRow("pipette/start until " + count + " of 1920 x 1080 covered, against plain windows", atMost(2.0),
+           &start);
+    addClicks(count);
+    return true;
 }
 
 const bool rowsAdded = qEnvironmentVariableIsSet("UIC_SCREENS") && addRows(qgetenv("UIC_SCREENS"));

@@ -97,7 +97,7 @@ Estimate estimate(std::vector<double> samples)
 }
 
 // The names are those that the run script reads.
-void report(benchmark::State& state, const char* path, Goal goal, const char* unit,
+void report(benchmark::State& state, const std::string& path, Goal goal, const char* unit,
             const std::vector<double>& ours, const std::vector<double>& references)
 {
     const bool compared = !references.empty();
@@ -107,7 +107,7 @@ void report(benchmark::State& state, const char* path, Goal goal, const char* un
     }
     const Estimate result = estimate(decisive);
 
-    state.SetLabel(std::string(path) + '|' + unit);
+    state.SetLabel(path + '|' + unit);
     const double median = estimate(ours).median;
     state.SetIterationTime(median);
     state.counters["ours"] = median;
@@ -122,7 +122,7 @@ void report(benchmark::State& state, const char* path, Goal goal, const char* un
     }
 }
 
-void runRow(benchmark::State& state, const char* path, Goal goal, Pair (*make)())
+void runRow(benchmark::State& state, const std::string& path, Goal goal, const std::function<Pair()>& make)
 {
     const Pair pair = make();
     const bool compared = static_cast<bool>(pair.reference.run);
@@ -160,7 +160,7 @@ void runRow(benchmark::State& state, const char* path, Goal goal, Pair (*make)()
     report(state, path, goal, "s", ours, references);
 }
 
-void runRow(benchmark::State& state, const char* path, Goal goal, Amounts (*make)())
+void runRow(benchmark::State& state, const std::string& path, Goal goal, Amounts (*make)())
 {
     const Amounts amounts = make();
     amounts.ours();
@@ -178,11 +178,11 @@ void runRow(benchmark::State& state, const char* path, Goal goal, Amounts (*make
     report(state, path, goal, "B", ours, references);
 }
 
-template <typename Row>
-bool addRowOf(const char* path, Goal goal, Row (*make)())
+template <typename Make>
+bool addRowOf(const std::string& path, Goal goal, const Make& make)
 {
     // A row samples by itself, so that the two sides alternate: one iteration is the whole row.
-    benchmark::RegisterBenchmark(path,
+    benchmark::RegisterBenchmark(path.c_str(),
                                  [path, goal, make](benchmark::State& state) {
                                      for ([[maybe_unused]] auto _ : state) {
                                          try {
@@ -199,12 +199,12 @@ bool addRowOf(const char* path, Goal goal, Row (*make)())
 
 } // namespace
 
-bool Bench::addRow(const char* path, Goal goal, Pair (*make)())
+bool Bench::addRow(const std::string& path, Goal goal, const std::function<Pair()>& make)
 {
     return addRowOf(path, goal, make);
 }
 
-bool Bench::addRow(const char* path, Goal goal, Amounts (*make)())
+bool Bench::addRow(const std::string& path, Goal goal, Amounts (*make)())
 {
     return addRowOf(path, goal, make);
 }

@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 #include <functional>
+#include <string>
 
 /**
  * Rows of the benchmark table.
@@ -37,7 +38,7 @@
  * - A fixture that finds that something else is timed than the row says throws a std::runtime_error: the row
  *   fails with its text, and benchmarks/run with it.
  *
- * The function captures nothing: what differs between rows is an argument of a function that it calls.
+ * Rows that differ in an argument are added by addRow(), with a function that captures it.
  */
 namespace Bench {
 
@@ -92,8 +93,8 @@ void stopClock();
 /// Bytes that the program holds from the allocator at the moment; 0 where the allocator cannot tell.
 qint64 allocatedBytes();
 
-bool addRow(const char* path, Goal goal, Pair (*make)());
-bool addRow(const char* path, Goal goal, Amounts (*make)());
+bool addRow(const std::string& path, Goal goal, const std::function<Pair()>& make);
+bool addRow(const std::string& path, Goal goal, Amounts (*make)());
 
 } // namespace Bench
 
