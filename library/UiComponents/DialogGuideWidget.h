@@ -7,8 +7,8 @@
 #include <memory>
 
 /**
- * A bubble that walks the user through a step: a heading with a close button, an animated picture, a
- * description, and two buttons.
+ * A bubble that walks the user through a step: a heading with a close button, an animated image, a
+ * description, and two buttons. The host hides or deletes it; no click does.
  *
  *     auto* guide = new DialogGuideWidget(timeline);
  *     guide->setInfo({tr("The timeline"), tr("Clips lie here."), tr("Next"), tr("Back"), QString()});
@@ -17,72 +17,60 @@
  *     connect(guide, &DialogGuideWidget::closeClicked, guide, &QObject::deleteLater);
  *     guide->show();
  *
- * It never hides or deletes itself on a click: the host decides. Window, place, following the parent, and
- * the limits of the size are PointingWidget's.
+ * **Aim.** adjustPositions() aims the arrow again whenever the parent moves, is resized or shown, and
+ * whenever the bubble is resized or painted; it causes no further paint where nothing changed. The bubble
+ * follows a new parent too.
  *
- * # Aim
- * The arrow is aimed again, by adjustPositions(), whenever the parent moves, is resized or is shown, and
- * whenever the bubble is resized or painted; that costs little where nothing changed and causes no further
- * paint. Until the first pointTo() the target is the parent's upper left corner. A bubble that gets another
- * parent follows that one.
+ * **Size.** Set a width in the style sheet, or long texts make the bubble wide. It is never larger than its
+ * screen: a word or image in a text takes at most half of the screen's width, a button a quarter, with an
+ * ellipsis in its text.
  *
- * # Size
- * The texts get room for all their lines one turn of the event loop after setInfo(), when layouts and
- * style sheet have settled, and when the bubble is shown; the size is the old one until then. Give the bubble
- * a width in the style sheet, or long texts make it wide. It is never larger than its screen: a word or a
- * picture in a text takes half of its width at most, a button, whose text ends in an ellipsis then, a
- * quarter.
+ * **Image.** It plays while the bubble is shown (see OvPixmapWidget).
  *
- * # Picture
- * It plays while the bubble is shown and rests while it is hidden (see OvPixmapWidget).
- *
- * # Style sheet
- * In the bubble's "contentFrame" are, from top to bottom, the frames "headerFrame" with "headerLabel" and
- * "closeButton", "descriptionFrame" with "gifPixmapWidget" and "descriptionLabel", and "buttonsFrame" with
- * "secondaryButton" and "mainButton" at its end. The two have the style hints "guideButton" and
- * "guideMainButton". The frames are OvFrames, without margins and spacing until a sheet sets them:
+ * **Style sheet.** In "contentFrame" are "headerFrame" with "headerLabel" and "closeButton",
+ * "descriptionFrame" with "gifPixmapWidget" and "descriptionLabel", and "buttonsFrame" with "secondaryButton"
+ * (style hint "guideButton") and, at its end, "mainButton" ("guideMainButton"). The frames are OvFrames,
+ * without margins and spacing by default:
  *
  *     DialogGuideWidget { min-width: 300px; max-width: 300px; }
  *     DialogGuideWidget #buttonsFrame { qproperty-layoutSpacing: 6; }
  *     DialogGuideWidget #closeButton { qproperty-icon: url(images/close.png); }
- *
- * # Lifetime
- * A slot of any of the signals may delete the bubble and everything around it.
+ * @see PointingWidget for window, place and size; GuideWidget
  */
 class UICOMPONENTS_EXPORT DialogGuideWidget : public PointingWidget
 {
     Q_OBJECT
 
 public:
-    /// @p parent, the widget that the bubble annotates, owns it. Null makes it a bubble of the desktop.
+    /// @p parent, the widget that the bubble annotates, owns it; null makes it a bubble of the desktop.
     explicit DialogGuideWidget(QWidget* parent);
     ~DialogGuideWidget() override;
 
-    /// Shows @p info. The heading is shown as text, in a weight that suits the language (see
-    /// Customization::localeDependedBoldText()), and hidden when empty; the picture is hidden when its file
-    /// does not exist.
+    /// Shows @p info. The heading is plain text in a weight that suits the language (see
+    /// Customization::localeDependedBoldText()) and hidden when empty; the image is hidden when its file does
+    /// not exist. The size follows one turn of the event loop later, when layouts and style sheet have
+    /// settled, and when the bubble is shown.
     void setInfo(const DialogGuideInfo& info);
 
-    /// Both buttons are visible at first.
+    /// Both buttons are visible by default.
     void setCloseButtonVisible(bool visible);
     void setSecondaryButtonVisible(bool visible);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user, or click(), pressed the button of the name.
+    /// The user, or QAbstractButton::click(), clicked the button of this name.
     void secondaryClicked();
     void mainClicked();
     void closeClicked();
 
 protected:
-    /// Gives heading and description room for all their lines at their present width. setInfo() does so one
-    /// turn later.
+    /// Gives heading and description room for all their lines at their current width.
     void updateContent();
 
-    /// Aims at the present target again. Override it to aim at a spot that moves within the parent, with
-    /// pointTo(). It is called often, from paint events too: what else it changes must settle, as an arrow's
-    /// side does, or paints would follow each other for ever.
+    /// Aims at the current target again. Override it to call pointTo() for a spot that moves within the
+    /// parent. It is called often, from paint events too: whatever else it changes must settle, as the
+    /// arrow's side does, or each paint causes another.
     virtual void adjustPositions();
 
     void changeEvent(QEvent* event) override;

@@ -7,58 +7,48 @@
 #include <memory>
 
 /**
- * A short piece of help: a heading, an animated picture, a description and a link, from top to bottom.
+ * A short piece of help: a heading, an animated image, a description and a link, from top to bottom.
  *
  *     auto* guide = new GuideWidget(info, panel);
  *     connect(guide, &GuideWidget::learnMoreClicked, this, &Panel::countReaders);
  *
- * GuideButton shows one in a pop-up. A part whose text is empty is hidden, and so is the picture when its
- * file does not exist; nothing is reported. A file that is no image leaves an empty picture.
+ * A part whose text is empty is hidden, and so is the image when its file does not exist; a file that is no
+ * image leaves an empty one. Nothing is reported.
  *
- * # Texts
- * The title is text and is shown with just its characters, in a weight that suits the language (see
- * Customization::localeDependedBoldText()). Description and link are plain or rich text, as QLabel tells
- * them apart. The link can be reached with Tab and followed with Enter. Links in the description are not
- * followed.
+ * **Texts.** The heading is plain text, in a weight that suits the language (see
+ * Customization::localeDependedBoldText()). Description and link are plain or rich text, as in QLabel. Tab
+ * reaches the link and Enter follows it; links in the description are not followed.
  *
- * # Picture
- * It plays while the guide is shown, from its first frame at each showing, and costs nothing while the
- * guide is hidden. A picture that setInfo() brings plays at once where the guide is shown; one that stays
- * the same plays on.
+ * **Image.** It plays from its first frame whenever the guide is shown, and costs nothing while it is hidden.
+ * One that setInfo() brings plays at once where the guide is shown; one that stays the same plays on.
  *
- * # Size
- * Heading and description get room for all their lines at the width that the guide has when its info is
- * set, after it was polished. So give the guide its width first, in the style sheet or by hand; a guide
- * that becomes wider afterwards keeps the height. The picture follows the width and shrinks where there is
- * no room for it. A word that would take more than half of the screen's width is broken, and a picture in a
- * text made that small.
+ * **Size.** Heading and description get room for all their lines at the polished guide's width when its info
+ * is set. Set the width first, in the style sheet or by code; a guide that becomes wider later keeps the
+ * height. The image follows the width and shrinks where there is no room. A word that takes more than half of
+ * the screen's width is broken, and an image in a text is scaled down to that.
  *
- * # Style sheet
- * The labels are named "headerLabel", "descriptionLabel" and "learnMoreLabel", the OvPixmapWidget
- * "gifPixmapWidget". The frame's metrics are OvFrame's properties, 0 without a sheet:
+ * **Style sheet.** The labels are "headerLabel", "descriptionLabel" and "learnMoreLabel", the OvPixmapWidget
+ * is "gifPixmapWidget". The frame's metrics are OvFrame's properties, 0 by default:
  *
  *     GuideWidget { min-width: 280px; max-width: 280px; qproperty-layoutSpacing: 8; }
  *     GuideWidget > #descriptionLabel { color: gray; }
- *
- * # Lifetime
- * A slot of learnMoreClicked() may delete the guide and everything around it.
+ * @see GuideButton, which shows a guide in a pop-up; DialogGuideWidget
  */
 class UICOMPONENTS_EXPORT GuideWidget : public OvFrame
 {
     Q_OBJECT
 
 public:
-    /// Shows a copy of @p info. @p parent owns the guide as usual; null makes it a window.
+    /// Shows a copy of @p info. @p parent owns the guide; null makes it a window.
     GuideWidget(const GuideInfo& info, QWidget* parent);
     ~GuideWidget() override;
 
-    /// Shows @p info instead, and gives the guide the size that it then hints at, which a layout around
-    /// it overrules. Equal info does nothing.
+    /// Shows @p info instead, and resizes the guide to its size hint, which a layout around it overrules.
+    /// Equal info does nothing.
     void setInfo(const GuideInfo& info);
 
 Q_SIGNALS:
-    /// The user followed the link, which has been handed to the desktop (QDesktopServices::openUrl())
-    /// just before, whether that could open it or not.
+    /// The user followed the link. Emitted after QDesktopServices::openUrl(), whether that succeeded or not.
     void learnMoreClicked();
 
 protected:
@@ -67,7 +57,7 @@ protected:
 
 private:
     friend class GuideButton;
-    /// With the object name @p name, which a sheet may dress it by before its texts are measured.
+    /// Sets the object name @p name before the texts are measured, so that a sheet's rule for it counts.
     GuideWidget(const GuideInfo& info, QWidget* parent, const QString& name);
 
     class Private;

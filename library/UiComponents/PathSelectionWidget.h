@@ -10,7 +10,7 @@ class QUrl;
 
 /**
  * A field for the path of a folder: a line edit, a button that browses, a button that resets; above them, if
- * wanted, how much space is required and available, and below them what is wrong with the path.
+ * wanted, the required and the available space, and below them what is wrong with the path.
  *
  *     auto* field = new PathSelectionWidget(this);
  *     field->setDefaultPath(Project::folder(), tr("Project folder"));
@@ -20,40 +20,25 @@ class QUrl;
  *     ...
  *     if (field->checkPath()) { startExport(field->path()); }
  *
- * **Browsing** is the host's: the button emits browseDirectoryRequested(), the host opens a dialog and
- * answers with setPath().
+ * **Default path.** A path that equals the default path is shown by the display text. While the line edit has
+ * the focus, it is empty instead, and the path stays until something is typed; what is typed stays as typed
+ * until the focus leaves. The reset button shows only with a default path, and is disabled while the path is
+ * shown by its text.
  *
- * **The default path** can have a text of its own, which the line edit shows instead of it. While the line
- * edit has the keyboard and the path is the default path, it is empty, and the path stays what it is until
- * something is typed. What is typed stays as it is, also the default path: the text is shown for whatever
- * path equals the default path when the keyboard leaves, also for two empty ones. The reset button shows
- * only with a default path, and is disabled while the path is one that is shown by its text.
+ * **Disk.** Only checkPath() reads it; call it when the path is used, and in slots of pathChanged() at most.
  *
- * **Reports.** The path is what is typed, at once. pathChanged() follows 100 ms after the first of a burst of
- * changes, typed or set, once for all that came until then; a steady stream of changes is reported every
- * 100 ms. No change touches the disk: only checkPath() does, so it belongs to the moment when the path is
- * used, and to the slots of pathChanged() at most.
- *
- * **Errors.** checkPath() marks the field and shows a message, in a tool tip or a label. The next key takes
- * the tool tip away, the next pathChanged() the mark and the label. Messages are plain text: markup in them,
- * or in a path that they quote, is shown as it stands.
- *
- * **Language.** The texts of the space figures and the widget's own two messages are translated (context
+ * **Language.** The texts of the space figures and the field's own two messages are translated (context
  * "PathSelectionWidget") and follow a change of language; messages of FileUtil and of the host do not.
  *
- * **Style sheet.** The children are "spaceInfoFrame" (OvFrame) with "requiredLabel" and "availableLabel"
- * (QLabel); "pathSelectionFrame" (OvFrame) with "pathLineEdit" (Orvane::Tessel::TesselLineEdit, with the
- * property "kitVersion", always "1.0"), "pathBrowseButton" and "pathResetButton" (QToolButton, without text
- * or picture); "errorLabel" (QLabel, hint "error"). The frame "pathSelectionFrame" has the hint "error" while
- * the field is marked, and the property "focusHint" (bool) once the line edit has had the keyboard: whether
- * it has it now. Margins and gaps are those of LayoutController, 0 at first.
+ * **Style sheet.** "spaceInfoFrame" (OvFrame) holds "requiredLabel" and "availableLabel";
+ * "pathSelectionFrame" (OvFrame) holds "pathLineEdit" (Orvane::Tessel::TesselLineEdit, property "kitVersion",
+ * always "1.0"), "pathBrowseButton" and "pathResetButton" (QToolButton, without text or icon); "errorLabel"
+ * has the style hint "error". So has "pathSelectionFrame" while the field is marked; its property "focusHint"
+ * (bool), set from the first focus on, tells whether the line edit has it. Margins and gaps are 0 (see
+ * LayoutController).
  *
  *     #pathSelectionFrame[focusHint="true"] { border: 1px solid blue; }
  *     #pathSelectionFrame[styleHint="error"] { border: 1px solid red; }
- *
- * **Lifetime.** The widget may be deleted in a slot of its signals and in its check function. A report that
- * has not been made by then is not made. What happens when checkPath() takes the keyboard from another widget
- * must not delete it.
  */
 class UICOMPONENTS_EXPORT PathSelectionWidget : public OvFrame
 {
@@ -66,42 +51,44 @@ public:
         Label = 2,   ///< "errorLabel", below the line edit; it wraps, and does not widen the field
     };
 
-    /// An empty field without a default path. @p parent owns the widget as usual; null makes it a window.
+    /// An empty field without a default path. @p parent owns the field; null makes it a window.
     explicit PathSelectionWidget(QWidget* parent);
     ~PathSelectionWidget() override;
 
-    /// The path as it was set or typed last; it is neither cleaned nor checked.
+    /// The path as last set or typed, at once; neither cleaned nor checked.
     QString path() const;
 
-    /// Empty at first, which means that there is none.
+    /// Empty, the default, means that there is none.
     QString defaultPath() const;
 
-    /// Sets the path, of any form. pathChanged() follows if it is another one, and always if it is the
-    /// default path and that has a text. A mark that checkPath() made stays until then.
+    /// Sets the path, of any form. pathChanged() follows if it differs, and always if it is the default path
+    /// and that has a text. The mark of checkPath() stays until then.
     void setPath(const QString& path);
 
-    /// Sets the default path and the text that stands for it. Either may be empty. The line edit and the
-    /// path stay as they are: call it before setPath().
+    /// Sets the default path and its display text. Either may be empty. The line edit and the path stay as
+    /// they are: call it before setPath().
     void setDefaultPath(const QString& path, const QString& displayText);
 
     /**
-     * Whether the path is one that can be used; asks the disk.
+     * Returns whether the path can be used; reads the disk.
      *
      * First FileUtil::isPathValid() must agree. Then, if there is one, the check function alone decides.
      * Without one the folder, or the nearest folder above it if it does not exist yet, must be readable and
      * writable for this process; a relative path never is.
      *
-     * If there is an error, the line edit gets the keyboard with all its text selected, the field is marked
-     * and the message is shown. An earlier mark is not removed by success.
+     * On an error the line edit gets the focus with all its text selected, the field is marked, and the
+     * message is shown as plain text. The next key hides a tool tip; the next pathChanged() removes mark and
+     * label. Success removes no earlier mark. A handler of the widget that loses the focus must not delete
+     * the field.
      */
     bool checkPath();
 
     /// Sets what checkPath() asks about a path that is valid in form: it returns a message for the user, or
-    /// the empty string for a good path. An empty function brings the tests of permission back. A copy is
-    /// kept. It may replace itself and may delete the widget.
+    /// the empty string for a good path. An empty function restores the tests of permission. The function may
+    /// replace itself and may delete the field.
     void setCheckPathFunc(const std::function<QString(const QString&)>& f);
 
-    /// Tooltip at first. Nothing that is shown already changes.
+    /// Tooltip by default. Does not change what is already shown.
     void setErrorDisplayType(PathSelectionWidget::ErrorDisplayType t);
 
     /// Sets the tool tip of the button that browses.
@@ -110,8 +97,8 @@ public:
     /// Sets the tool tip of the button that resets.
     void setResetButtonTooltip(const QString& text);
 
-    /// Shows or hides how much space is required: "..." for a negative number of @p bytes, which means not
-    /// known yet, else a size in the unit that suits it, of 1024 bytes a kilobyte. Hidden at first.
+    /// Shows or hides the required space, hidden by default: "..." for a negative number of @p bytes, which
+    /// means not known yet, else a size in the unit that suits it, with 1024 bytes a kilobyte.
     void showRequiredSpace(bool visible, qint64 bytes);
 
     /// The same for the space that is available.
@@ -120,12 +107,14 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The path was changed within the last 100 ms or a little more, and is @p path now; see above. Error
-    /// mark and label go after all slots have run.
+    /// The path, set or typed, became @p path. Emitted 100 ms after the first of a burst of changes, once for
+    /// all of them; a steady stream of changes is reported every 100 ms. A field that is destroyed before
+    /// reports nothing. Error mark and label go after all slots have run.
     void pathChanged(const QString& path);
 
-    /// The user wants to browse, from @p url: a local file's, which is empty for an empty path and may not
-    /// exist; or, where the path is the default path, the computer's root (StandardFolderUrls).
+    /// The user wants to browse; the host opens a dialog and calls setPath(). It starts at @p url: that of
+    /// the path, which is empty for an empty path and may not exist, or, where the path is the default path,
+    /// the computer's root (StandardFolderUrls).
     void browseDirectoryRequested(const QUrl& url);
 
 protected:

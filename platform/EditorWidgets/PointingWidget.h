@@ -13,10 +13,7 @@ class OvFrame;
 // clazy:excludeall=qproperty-without-notify
 
 /**
- * A bubble with an arrow that points at a spot.
- *
- * Lay the content out in contentFrame(), choose the side that carries the arrow, point the bubble at a
- * spot and show it:
+ * A bubble with an arrow that points at a spot. Lay out the content in contentFrame():
  *
  *     auto* bubble = new PointingWidget(button);
  *     (new OvVBoxLayout(bubble->contentFrame()))->addWidget(new QLabel(tr("Start here")));
@@ -24,39 +21,27 @@ class OvFrame;
  *     bubble->pointTo(button->mapToGlobal(QPoint(button->width() / 2, button->height())));
  *     bubble->show();
  *
- * # Window
- * A bubble is a frameless window of its own (`Qt::Tool`) that shows beyond its parent's rectangle and is
- * shown without being activated. With `setWindowFlags(Qt::Popup | …)` it is a pop-up, which closes on
- * Escape, on a click anywhere outside the painted bubble, and when it is disabled. With
- * `setWindowFlags(Qt::Widget)` it is a plain child that keeps inside its parent. Only the painted bubble
- * takes the mouse: a click beside the arrow goes to what lies there.
+ * **Window.** A bubble is a frameless window (`Qt::Tool`), shown without being activated. With
+ * `setWindowFlags(Qt::Popup | …)` it closes on Escape, on a click outside the painted bubble, and when it is
+ * disabled; with `setWindowFlags(Qt::Widget)` it is a child that keeps inside its parent. Only the painted
+ * bubble takes the mouse: a click beside the arrow goes to what lies there.
  *
- * # Place
- * The pixel at the arrow's tip is the target. The bubble stays inside the available area of the target's
- * screen (for a spot on no screen, of the nearest one; for a child, inside the parent): where there is no
- * room for it, the arrow goes to the opposite side, and the bubble slides along that side while its arrow
- * leans to the target. Only a target outside the area, or without room on both sides, is not touched. A
- * bubble that a minimum size makes larger than the area shows its beginning.
+ * **Place.** The arrow's tip is the target. The bubble stays in the available area of the target's screen (or
+ * the nearest one; a child, in the parent): without room the arrow goes to the opposite side, and the bubble
+ * slides along that side while the arrow leans to the target. Only a target outside the area, or without room
+ * on both sides, is not touched. A bubble whose minimum size exceeds the area shows its beginning. It is
+ * placed anew when its size, its layout direction or the screens change; a move() by other code lasts until
+ * then or the next pointTo().
  *
- * With a parent the target is a spot of the parent: the bubble goes with it when the parent or an ancestor
- * moves or gets another parent. It hides with its parent, and comes back with it if it was showing and is
- * no pop-up; shown while the parent is hidden, it appears with the parent. It is placed anew when its size,
- * its layout direction or the screens change. A move() by other code stays until the next of these, or
- * until the next pointTo().
+ * **Parent.** The bubble moves with its parent and the parent's ancestors, and hides with it; unless it is a
+ * pop-up it comes back with it. Shown while the parent is hidden, it appears with the parent.
  *
- * # Size
- * The bubble takes the size that its content asks for whenever that changes, within its minimum and maximum
- * size and the area; give it a fixed or maximum width to make long texts wrap. A bubble that is a window cuts
- * off content that insists on more than the screen has. The content keeps clear of
- * the border, the arrow and the rounded corners; further margins are those of the content's layout, which
- * the sheet sets (see OvFrame).
+ * **Size.** It follows its content's size hint, within its minimum and maximum size and the area; give it a
+ * maximum width to make long texts wrap. A window cuts off content that insists on more than the screen has.
+ * The content keeps clear of border, arrow and rounded corners; further margins are the layout's.
  *
- * # Style
- * The properties below are meant for `qproperty-` in a style sheet. The content frame has the object name
- * "contentFrame". Font, palette and layout direction are those of the parent.
- *
- * Sides are where they say, in right-to-left layouts too; start, end and offset on the top and bottom are
- * mirrored there.
+ * **Style sheet.** The properties below are for `qproperty-`; contentFrame() is named "contentFrame". Sides
+ * are not mirrored; start, end and offset on top and bottom are, from right to left.
  */
 class EDITORWIDGETS_EXPORT PointingWidget : public QWidget
 {
@@ -79,22 +64,21 @@ public:
     enum class ArrowSide { Top = 0, Right = 1, Bottom = 2, Left = 3 };
     Q_ENUM(ArrowSide)
 
-    /// Where along its side the arrow is: near the left or upper corner, in the middle, near the other one.
+    /// The arrow's place on its side: near the left or upper corner, in the middle, near the other corner.
     enum class ArrowPosition { Start = 0, Center = 1, End = 2 };
     Q_ENUM(ArrowPosition)
 
-    /// @p parent owns the bubble; it is also what the bubble follows. Without a parent the target is a
-    /// spot of the desktop. The arrow starts at the top, centred.
+    /// @p parent owns the bubble, which follows it and inherits font, palette and layout direction from it.
+    /// Without a parent the target is a spot of the desktop. The arrow is centred on top by default.
     explicit PointingWidget(QWidget* parent = nullptr);
     ~PointingWidget() override;
 
-    /// Places the bubble so that the tip of its arrow is at @p globalPos. It does not show it. The same
-    /// point again costs little and causes no repaint. Coordinates beyond 2^28 go to the nearest, 2^28.
+    /// Places the bubble so that the tip of its arrow is at @p globalPos, without showing it. The same point
+    /// again causes no repaint. Coordinates are clamped to 2^28.
     void pointTo(const QPoint& globalPos);
 
-    /// Where the arrow points now, in global coordinates: the point last given to pointTo(), having moved
-    /// with the parent since. Before the first call it is the parent's upper left corner, and the bubble
-    /// is where it was put.
+    /// The target in global coordinates: the point last given to pointTo(), which moves with the parent.
+    /// Before the first call it is the parent's upper left corner, and the bubble stays where it was put.
     QPoint targetPoint() const;
 
     /// Chooses the side and the place on it. Values outside the enumerations are ignored.
@@ -102,7 +86,7 @@ public:
     ArrowSide arrowSide() const;
     ArrowPosition arrowPosition() const;
 
-    /// The side that carries the arrow at present: arrowSide() or, for want of room, the opposite one.
+    /// The side that carries the arrow now: arrowSide() or, without room there, the opposite one.
     ArrowSide effectiveArrowSide() const;
 
     /// Shifts the arrow along its side by @p pixels, to the right or down; in right-to-left layouts, on
