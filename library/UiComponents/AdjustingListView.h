@@ -5,7 +5,7 @@
 #include <QListView>
 
 /**
- * A list view that can grow until all its rows are seen at once, for panels that scroll as a whole.
+ * A list view that can grow until all its rows are visible, for panels that scroll as a whole.
  *
  *     auto* list = new AdjustingListView(panel);
  *     list->setModel(model);
@@ -13,37 +13,33 @@
  *     ...
  *     list->setLoadingFinished(true);  // the list may be as small as any other and scrolls by itself
  *
- * While loading is not finished, the view's minimum height is the sum of the heights of its rows, so that
- * the layout around it makes room for every row. Once loading is finished, as it is at first, the view sets
- * a minimum height of 0. Mind the direction: it is the unfinished list that is held at its full height.
+ * While loading is not finished, the minimum height is the sum of the heights of all rows; once it is
+ * finished, which is the default, it is 0.
  *
- * **The sum** is that of QAbstractItemView::sizeHintForRow() over the top-level rows of the model, in pixels;
- * rows that are hidden count. The view's frame, margins and spacing are not added. It ends at 16,777,214
- * pixels, the largest minimum that Qt takes. The rows are asked one by one: a resize of a loading list
- * costs as much as that.
+ * **Sum.** QAbstractItemView::sizeHintForRow() over the top-level rows of the model, in pixels, hidden rows
+ * included; without frame, margins and spacing; at most 16,777,214 pixels, the largest minimum that Qt takes.
+ * Every row is asked: a resize of a loading list costs as much. A view without a model has no rows.
  *
- * **When.** The height is computed by setLoadingFinished() and on every resize, and at no other time: the
- * view does not watch its model. Rows that come, go or change their height, another model and another root
- * count from the next resize or setLoadingFinished() on. Both write the minimum height, so one that a host
- * sets by itself lasts until then only. A view without a model has no rows.
+ * **When.** setLoadingFinished() and each resize compute the height and overwrite a minimum height of the
+ * host. The view does not watch its model: rows that come, go or change their height, another model and
+ * another root count from the next of these on.
  *
  * **Layout.** The size-adjust policy is QAbstractScrollArea::AdjustToContents. The width of the contents
- * follows that of the viewport.
+ * follows the viewport's.
  *
- * **Style sheet.** It has no class of its own for Qt's meta-object: a sheet selects it as `QListView`, or by
- * an object name. A `min-height` of the sheet is lost, because the view writes its own.
+ * **Style sheet.** Qt's meta-object knows no class of this name: a sheet selects it as `QListView`, or by an
+ * object name. A `min-height` of the sheet is overwritten.
  */
 // Without signals, slots or properties it needs no meta-object, and selectors take it for what it is.
 class UICOMPONENTS_EXPORT AdjustingListView : public QListView // clazy:exclude=missing-qobject-macro
 {
 public:
-    /// A list whose loading is finished. @p parent owns the view as usual.
+    /// @p parent owns the view. Loading is finished.
     explicit AdjustingListView(QWidget* parent);
     ~AdjustingListView() override;
 
-    /// Whether the rows are all there. While they are not (false), the minimum height is that of all rows;
-    /// true lets the view be of any height. The minimum is computed anew in either case, also when
-    /// @p finished is what it was.
+    /// Sets whether the rows are all there: false holds the view at the height of all rows, true lets it have
+    /// any height. Computes the minimum height anew, also when @p finished does not change.
     void setLoadingFinished(bool finished);
 
 protected:

@@ -23,46 +23,42 @@ class PointingWidget;
  *
  * Without an info a click does nothing.
  *
- * # Pop-up
- * Each click builds a new PointingWidget, a pop-up with a GuideWidget in it, whose arrow touches the middle
- * of the button's lower edge; the one of an earlier click is deleted first. Near an edge of the screen the
- * pop-up stays on the screen and may lie above the button (see PointingWidget). It goes with the button when
- * that moves, and closes on Escape, on a click elsewhere and when the button hides; the keyboard is then
- * where it was before. A closed pop-up lives on, idle, until the next click or the end of the button.
+ * **Pop-up.** Each click creates a new PointingWidget, a pop-up with a GuideWidget, whose arrow touches the
+ * middle of the button's lower edge, and deletes the one of an earlier click. Near an edge of the screen the
+ * pop-up stays on the screen and may lie above the button. It moves with the button, and closes on Escape, on
+ * a click elsewhere and when the button hides; the focus is then where it was before. A closed pop-up lives
+ * on until the next click or the end of the button.
  *
- * On X11 a click on the button while its pop-up is open only closes it, for the press belongs to the pop-up.
- * Platforms that pass such a press on to what lies there open a new one, and so does click() by code.
+ * On X11 a click on the button while its pop-up is open only closes it, since the press belongs to the
+ * pop-up. Platforms that pass such a press on open a new one, and so does click() by code.
  *
- * # Style sheet
- * The pop-up is named "pointingWidget" and its guide "guideWidget"; both are below the button:
+ * **Style sheet.** The pop-up is named "pointingWidget" and its guide "guideWidget"; both are below the
+ * button:
  *
  *     GuideButton > PointingWidget { qproperty-radius: 8; }
  *     #guideWidget { min-width: 280px; max-width: 280px; }
- *
- * # Lifetime
- * A slot of clicked() or learnMoreClicked() may delete the button and everything around it, and so may
- * whoever loses the focus to the pop-up.
+ * @see GuideWidget, PointingWidget
  */
 class UICOMPONENTS_EXPORT GuideButton : public QToolButton
 {
     Q_OBJECT
-    /// Shifts the arrow of the pop-up along its side, in pixels, as PointingWidget::setArrowOffset() does: 0
-    /// by default, any value. Takes effect at the next click.
+    /// Shifts the pop-up's arrow along its side, in pixels (see PointingWidget::setArrowOffset()): 0 by
+    /// default, any value. Takes effect on the next click.
     Q_PROPERTY(int popupOffset MEMBER m_popupOffset)
 
 public:
-    /// @p parent owns the button as usual.
+    /// @p parent owns the button.
     explicit GuideButton(QWidget* parent = nullptr);
     ~GuideButton() override;
 
-    /// Takes @p info; null takes the present one away. An open pop-up stays as it is: the next click shows
-    /// the new info.
+    /// Takes @p info; null removes the current one. An open pop-up stays as it is: the next click shows the
+    /// new info.
     void setGuideInfo(std::unique_ptr<GuideInfo> info);
 
     bool hasGuideInfo() const;
 
 Q_SIGNALS:
-    /// The user followed the link in the pop-up: GuideWidget::learnMoreClicked(), passed on.
+    /// The user followed the link in the pop-up (see GuideWidget::learnMoreClicked()).
     void learnMoreClicked();
 
 protected:

@@ -15,10 +15,10 @@ class QWidget;
 namespace Qml {
 
 /**
- * Loads a QML file into a widget that is as large as the file's root item.
+ * Loads a QML file into a widget of the size of the file's root item.
  *
- * It is not a widget itself: it owns a plain container with a transparent QQuickWidget in it, which hosts
- * put where they like. QuickDialog does that for whole dialogs.
+ * It is no widget: it owns a plain container with a transparent QQuickWidget, which hosts put where they
+ * like.
  *
  *     Qml::QuickContent content;
  *     content.qmlContext()->setContextProperty("model", model);   // before loading
@@ -27,27 +27,24 @@ namespace Qml {
  *         layout->addWidget(content.getUiContent());
  *     }
  *
- * **States.** A new one is undefined; load() makes it available or failed. Nothing is thrown and nothing
- * is shown when a file cannot be loaded: glog gets a warning under the name of the file QuickContent.cpp,
- * and Qt logs the errors in the QML with their lines, as it does for every QQuickWidget. Where glog writes
- * to is the host's choice; a host that never initialises it has the warnings on its standard error, and no
- * files.
+ * **States.** A content is undefined until load() makes it available or failed. Nothing is thrown or shown on
+ * failure: glog gets a warning under the file name QuickContent.cpp, and Qt logs errors in the QML with their
+ * lines. Where glog writes to is the host's choice; without its initialisation, to standard error.
  *
  * **Only local files are loaded as QML.** A path is never taken for a URL: "https://..." and "qrc:/..." are
- * files that do not exist. A file that was loaded cannot fetch components, modules or scripts from another
- * machine either; such an import fails with a glog warning. Pictures and data are the scene's own affair.
+ * files that do not exist. A loaded file cannot fetch components, modules or scripts from another machine;
+ * such an import fails with a glog warning. Images and data are the scene's own affair.
  *
- * **Size.** The container has a fixed size, the root item's, rounded. It follows when the scene changes
- * the size of its root item later; a size that is not valid then changes nothing.
+ * **Size.** The container has the fixed size of the root item, rounded, and follows its changes; a size that
+ * is not valid changes nothing.
  *
- * **Compiling.** What the pointers lead to is in Qt's module Qml: a host that uses qmlContext() links
- * `Qt5::Qml`. No other host needs Qt's QML modules to compile.
+ * **Compiling.** Only hosts that use qmlContext() need Qt's module Qml: they link `Qt5::Qml`.
  *
- * **Lifetime.** The container and the view die with this object, in whichever window they are. A host
- * that puts the container into a window takes it out again (`setParent(nullptr)`) when it wants to use it
- * elsewhere, and before this object dies. When the window dies first the container dies with it, and
- * nothing can be loaded or shown any more. The scene's own handlers must not delete this object, nor load
- * it again; deleteLater() is safe.
+ * **Lifetime.** This object deletes container and view, in whichever window they are: take the container out
+ * of a window (`setParent(nullptr)`) before using it elsewhere. A window that dies first takes the container
+ * with it, and nothing can be loaded or shown any more. Handlers of the scene must neither delete this object
+ * nor load it again; deleteLater() is safe.
+ * @see QuickDialog
  */
 class UICOMPONENTS_EXPORT QuickContent : public QObject
 {
@@ -56,11 +53,11 @@ class UICOMPONENTS_EXPORT QuickContent : public QObject
 public:
     /// Undefined, and without a parent.
     QuickContent();
-    /// Deletes the view and the container, as far as they are alive.
+    /// Deletes the view and the container, unless a window did so.
     ~QuickContent() override;
 
-    /// Loads the file @p path, as QFile takes it, and returns when its scene is complete. Afterwards
-    /// isAvailable() tells the outcome.
+    /// Loads the file @p path, as QFile takes it, and returns when its scene is complete. isAvailable() then
+    /// tells the outcome.
     ///
     /// It fails when there is no such file, when the file makes no item (it cannot be read, has errors,
     /// imports what is not there, or its root is a window or no item at all), and when the root item's
@@ -72,18 +69,18 @@ public:
     /// by then. A file that does not exist leaves the old scene in the container.
     void load(const QString& path);
 
-    /// The latest load() succeeded.
+    /// Whether the latest load() succeeded.
     bool isAvailable() const;
 
-    /// load() was never called. A content that failed is not undefined.
+    /// Whether load() was never called. A content that failed is not undefined.
     bool isUndefined() const;
 
-    /// The container, a widget without a parent at first. It stays owned by this object. Null when it died
-    /// with a window that it was put into.
+    /// The container, which this object owns: a widget without a parent by default, null when it died with a
+    /// window that it was put into.
     QPointer<QWidget> getUiContent();
 
-    /// The root context of the view's own engine: set properties on it before loading, and the scene sees
-    /// them by name. Owned by the engine. Null when the container died.
+    /// The root context of the view's own engine, which owns it. The scene sees properties set on it before
+    /// loading. Null when the container died.
     QPointer<QQmlContext> qmlContext();
 
 private:
