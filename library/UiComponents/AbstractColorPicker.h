@@ -11,32 +11,28 @@
 class QObjectPrivate;
 
 /**
- * What a colour field needs of the thing that picks its colour: a palette pop-up, a widget picker, a
- * dialog. Hosts implement it and hand it to ColorPickerButton::setPicker() or
- * ColorInputWidget::setPicker(), which take ownership.
+ * The picker of a colour field: a palette pop-up, a widget picker, a dialog. Hosts implement it and give it
+ * to ColorPickerButton::setPicker() or ColorInputWidget::setPicker(), which take ownership.
  *
  * A colour is a `std::optional<QColor>` with three meanings:
  * - it holds a valid QColor: that colour;
  * - it holds an invalid QColor: no colour;
  * - it is empty: several different colours at once, a mixed selection.
  *
- * The contract for implementers, in the order in which it matters:
- * - pick() is called after the button has emitted its `pickingStarted()` and shows itself pressed. It
- *   may return at once, run a nested event loop, or answer before it returns.
- * - While picking, emit colorChanged() for each new colour; the button takes it at once as a preview.
- * - When picking ends, by the user or through stop(), color() must return the final colour before
- *   pickingStopped() is emitted: the button reads it in that moment and adopts it.
- * - A picker may end without a colour and without a signal. The button then stays pressed, because it
- *   waits for pickingStopped().
- * - stop() may come at any time, also while nothing is picked, and then does nothing.
- * - setColor() is called with each colour that the button takes over, a null colour included, so that
- *   the picker opens on the field's colour. Answering it with colorChanged() is allowed: an equal colour
- *   ends the exchange.
- * - A slot may delete the button, and the picker with it, during any of the picker's signals. Touch no
- *   member after emitting one unless you know that you are still alive.
+ * An implementation
+ * - starts in pick(), which is called after the button emitted its `pickingStarted()` and shows itself
+ *   pressed. It may return at once, run a nested event loop, or answer before it returns;
+ * - emits colorChanged() for each new colour while picking; the button takes it at once as a preview;
+ * - has its final colour in color() before it emits pickingStopped(), by the user or through stop(): the
+ *   button reads it in that slot. Without that signal the button stays pressed;
+ * - accepts stop() at any time, and does nothing if it is not picking;
+ * - accepts setColor() with each colour that the button takes, the null colour included, to open on the
+ *   field's colour. It may answer with colorChanged(): an equal colour ends the exchange;
+ * - touches no member after emitting a signal unless it knows that it is alive: a slot may delete the button,
+ *   and the picker with it.
  *
- * All calls and signals stay on the GUI thread. `std::optional<QColor>` is registered as a meta type, so
- * the signal can be spied on and connected by name.
+ * All calls and signals stay on the GUI thread. `std::optional<QColor>` is registered as a meta type.
+ * @see ColorPickerButton, WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT AbstractColorPicker : public QObject
 {
@@ -44,17 +40,17 @@ class UICOMPONENTS_EXPORT AbstractColorPicker : public QObject
 
 public:
     AbstractColorPicker();
-    /// @p parent owns the picker until a button takes it over; null is allowed.
+    /// @p parent, which may be null, owns the picker until a button takes it over.
     explicit AbstractColorPicker(QObject* parent);
     ~AbstractColorPicker() override;
 
-    /// True from pick() until pickingStopped().
+    /// Returns true from pick() until pickingStopped().
     virtual bool isInProgress() const = 0;
 
     /// Starts the user's interaction.
     virtual void pick() = 0;
 
-    /// Ends the interaction, with the signals of an end if it was under way.
+    /// Ends the interaction, with the signals of its end if it was in progress.
     virtual void stop() = 0;
 
     /// The picker's current colour; final when pickingStopped() is emitted.
@@ -68,11 +64,11 @@ Q_SIGNALS:
     void pickingStopped();
 
 public Q_SLOTS:
-    /// The colour to show as current.
+    /// Sets the colour to show as current.
     virtual void setColor(const std::optional<QColor>& color) = 0;
 
 protected:
-    /// For pickers that bring a private part of QObject's own kind.
+    /// For pickers with a private class derived from QObjectPrivate.
     AbstractColorPicker(QObjectPrivate& dd, QObject* parent);
 };
 

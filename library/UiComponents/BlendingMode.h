@@ -5,9 +5,9 @@
 /**
  * How the colour of a layer is combined with what lies under it.
  *
- * Projects store the numbers, so they never change; the gap that a removed mode would leave is never filled.
- * ColorBlendingComboBox offers all fourteen. The library only names the modes: blending itself is the
- * renderer's work. `BlendingMode` is registered as a meta type.
+ * Projects store the numbers, so they never change, and the number of a removed mode is never reused. The
+ * library only names the modes; blending is the renderer's work. `BlendingMode` is registered as a meta type.
+ * @see ColorBlendingComboBox, which offers all fourteen
  */
 enum class BlendingMode {
     Overlay = 0,     ///< multiplies what is dark below and screens what is light

@@ -16,30 +16,31 @@ class AbstractColorPicker;
  *     field->setPicker(new MyPicker);
  *     connect(field, &ColorInputWidget::colorChanged, this, &Panel::applyColor);
  *
- * What the user can do with it, and what the colours mean, is ColorPickerButton's. The focus is the
- * button's too: a label whose buddy is the field gives it to the button, and Tab stops there once.
+ * Interaction and colours are those of ColorPickerButton. The button is the focus proxy: a label whose buddy
+ * is the field gives it the focus, and Tab stops there once.
  *
- * **Style sheet.** The button's object name is "colorPicker"; the frame's metrics are OvFrame's
- * properties: `ColorInputWidget { qproperty-layoutMargin: 2; }`.
+ * **Style sheet.** The button's object name is "colorPicker"; the frame's metrics are OvFrame's properties:
+ * `ColorInputWidget { qproperty-layoutMargin: 2; }`.
+ * @see ColorPickerButton, AbstractColorPicker
  */
 class UICOMPONENTS_EXPORT ColorInputWidget : public OvFrame
 {
     Q_OBJECT
 
 public:
-    /// @p parent owns the field as usual. A valid @p color is the first value, set without a signal; an
-    /// invalid one leaves the field at several different colours, as a new ColorPickerButton is.
+    /// @p parent owns the field. A valid @p color is the first value; an invalid one leaves the field at
+    /// several different colours, as a new ColorPickerButton. Emits nothing.
     ColorInputWidget(QWidget* parent, const QColor& color);
     ~ColorInputWidget() override;
 
     /// Sets the value; an invalid @p color means no colour. Emits colorChanged() if it differs.
     void setColor(const QColor& color);
 
-    /// Installs @p picker, which must not be null, in the button, which owns it from now on and deletes
-    /// the one before (see ColorPickerButton::setPicker()).
+    /// Installs @p picker, which must not be null, in the button, which takes ownership and deletes the one
+    /// before (see ColorPickerButton::setPicker()).
     void setPicker(AbstractColorPicker* picker);
 
-    /// The button, for placing a pop-up picker beside the field. It lives as long as the field.
+    /// The button, to place a pop-up picker beside. It lives as long as the field.
     QWidget* anchorWidget() const;
 
 Q_SIGNALS:

@@ -9,20 +9,16 @@ namespace Util {
 /**
  * Adds a colour to the user's own, which Settings::userCustomColors() keeps with the newest first.
  *
- * False, and nothing is written, when @p colorName
- * - means a colour of the panel's fixed palette, in whatever way it is written: "#ff0000", "#FF0000" and
- *   "red" are the same colour;
- * - is in the list already, as the same text: "#ABCDEF" and "#abcdef" are two entries. The list keeps its
- *   order.
+ * Returns false, and writes nothing, when @p colorName
+ * - is a colour of ColorPickerWidget's palette, however it is written: "#ff0000", "#FF0000" and "red" are one
+ *   colour;
+ * - is in the list already as the same text: "#ABCDEF" and "#abcdef" are two entries.
  *
- * Otherwise the name becomes the first entry, as it is written, the whole list is stored, and the result
- * is true. Names by custom look as QColor::name() gives them, without alpha; a name that is no colour is
- * stored too.
+ * Otherwise stores the list with the name as its first entry, as written, and returns true. Names usually are
+ * QColor::name()'s, without alpha; a name that is no colour is stored too. A list of eight or more loses its
+ * last entry, the oldest, and only that one: a longer list that somebody else wrote keeps its length.
  *
- * A list of eight or more first loses its last entry, the oldest, and only that one: eight are kept, and
- * a longer list that somebody else wrote keeps its length.
- *
- * Nothing is reported when the store cannot be written; see Settings. Read and write are two steps, so two
+ * Nothing is reported when the store cannot be written (see Settings). Read and write are two steps, so two
  * processes may overwrite each other's colour. For the GUI thread only.
  */
 UICOMPONENTS_EXPORT bool appendCustomColor(const QString& colorName);

@@ -3,18 +3,19 @@
 #include <QString>
 
 /**
- * What one step of a walk through an application says; see DialogGuideWidget.
+ * The texts of one step of a walk through an application.
  *
  *     const DialogGuideInfo info{tr("The timeline"), tr("Clips lie here, one after the other."),
  *                                tr("Next"), tr("Back"), QStringLiteral(":/tour/timeline.gif")};
  *
- * A plain value. Every field may be empty, and is at first.
+ * A plain value. Every field may be empty, which is the default.
+ * @see DialogGuideWidget
  */
 struct DialogGuideInfo
 {
-    /// The heading: text, not markup. Hidden when empty.
+    /// The heading, as plain text. Hidden when empty.
     QString title;
-    /// The body. Plain or rich text, as QLabel tells them apart.
+    /// The description, as plain or rich text as in QLabel.
     QString description;
     /// The texts of the two buttons; "&" marks a mnemonic. An empty one leaves an empty button.
     QString mainButtonText;
