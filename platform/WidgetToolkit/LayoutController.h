@@ -8,18 +8,16 @@ class QEvent;
 class QLayout;
 
 /**
- * Hands the metrics of one layout over to the style sheet.
+ * Lets the style sheet set the metrics of one layout.
  *
- * Components build their layouts with contents margins and spacing 0; what a user sees comes from the
- * host's sheet. A layout controller is the object that the sheet talks to: it carries the properties
- * below, a rule sets them with `qproperty-`, and the controller writes them into its layout.
- *
- * There are two kinds. An OvFrame is its own controller:
+ * Components construct their layouts with contents margins and spacing 0; the host's sheet sets what a user
+ * sees. A layout controller is the object with the properties below: a rule sets them with `qproperty-`, and
+ * the controller writes them into its layout. An OvFrame is its own controller:
  *
  *     ColorInputWidget { qproperty-layoutSpacing: 4; qproperty-layoutMarginLeft: 8; }
  *
- * Any other widget gets one from Util::installLayoutController(); it is a hidden child that the sheet
- * selects by its class name:
+ * Any other widget gets one from Util::installLayoutController(): a hidden child that the sheet selects by
+ * its class name:
  *
  *     ColorPickerButton > InstalledLayoutController { qproperty-layoutMargin: 2; }
  *
@@ -31,13 +29,11 @@ class QLayout;
  * | `layoutHorizontalSpacing` | pixels | a grid's gap between columns; a row's gap          |
  * | `layoutVerticalSpacing`   | pixels | a grid's gap between rows; a column's gap          |
  *
- * Of a general property and one for a side, the one that the sheet names later wins on that side.
- *
- * A property that was never set leaves the layout alone and reads what the layout has (0 without a
- * layout). A negative value is ignored. A value that was set holds: it is written again when the layout
- * is replaced or when code changes the layout's metrics afterwards, because a sheet's values win over
- * code everywhere else too: at once in the toolkit's own layouts, in others when Qt next lays them out.
- * Values that a sheet no longer sets keep their last value, as all `qproperty-` values of Qt do.
+ * Of a general property and one for a side, the one that the sheet names later wins on that side. A negative
+ * value is ignored. A property that was never set leaves the layout alone and reads the layout's value, 0
+ * without a layout. A value that was set wins over code: it is written again when the layout is replaced, and
+ * when code changes its metrics: at once in the toolkit's own layouts, in others when Qt next lays them out.
+ * A value that a sheet no longer sets stays, as all `qproperty-` values do.
  */
 class WIDGETTOOLKIT_EXPORT LayoutController
 {
@@ -46,7 +42,7 @@ public:
     LayoutController(const LayoutController&) = delete;
     LayoutController& operator=(const LayoutController&) = delete;
 
-    /// The layout that is controlled, not owned; null while there is none.
+    /// The controlled layout, not owned; null while there is none.
     virtual QLayout* getLayout() const = 0;
 
     int layoutMargin() const { return layoutMarginLeft(); }
@@ -72,8 +68,7 @@ protected:
     /// Writes every value that was set into the layout, where it differs. Cheap when nothing differs.
     void applyLayoutMetrics();
 
-    /// Whether @p event, sent to the widget whose layout is controlled, says that the layout's metrics may
-    /// be others now.
+    /// Whether the metrics of the layout may have changed with @p event, sent to the layout's widget.
     static bool isLayoutEvent(const QEvent* event);
 
 private:
@@ -87,7 +82,7 @@ private:
     std::optional<int> m_verticalSpacing;
 };
 
-/// The properties of a controller that is a QObject: write this into its class, after Q_OBJECT.
+/// The properties of a controller that is a QObject; belongs into its class, after Q_OBJECT.
 #define LAYOUT_CONTROLLER_PROPERTIES                                                                         \
     Q_PROPERTY(int layoutMargin READ layoutMargin WRITE setLayoutMargin)                                     \
     Q_PROPERTY(int layoutMarginLeft READ layoutMarginLeft WRITE setLayoutMarginLeft)                         \

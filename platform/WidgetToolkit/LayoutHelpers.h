@@ -5,11 +5,11 @@
 class QWidget;
 
 /**
- * The cells that OvBoxLayout::addItems() and OvGridLayout::addRow() are given.
+ * The arguments of OvBoxLayout::addItems() and OvGridLayout::addRow().
  */
 namespace LayoutHelpers {
 
-/// The two kinds of room that an item of a box layout can be instead of a widget.
+/// The two kinds of spacer in a box layout.
 enum class SpacerPolicy {
     Stretch, ///< takes free room; the number is its stretch factor
     Fixed,   ///< a gap that keeps its size; the number is in pixels

@@ -11,26 +11,26 @@
 /**
  * A box layout that is filled from its owner.
  *
- * It is constructed on its owner widget, whose layout it becomes and who owns it. Contents margins and
- * spacing start at 0; the style sheet sets them through the owner's LayoutController.
+ * The owner widget, given to the constructor, owns it and has it as its layout. Contents margins and spacing
+ * are 0 by default; the style sheet sets them through the owner's LayoutController.
+ * @see OvGridLayout, OvFrame
  */
 class WIDGETTOOLKIT_EXPORT OvBoxLayout : public QBoxLayout
 {
     Q_OBJECT
 
 public:
-    /// Null makes it a layout without owner, to be put into another one.
+    /// A null @p owner makes it a layout to be added to another one.
     OvBoxLayout(Direction direction, QWidget* owner);
     ~OvBoxLayout() override;
 
-    /// Adds the owner's direct child widgets in the order of creation, each with stretch 0, and returns
-    /// the layout. Hidden children are taken too, for they may be shown later. Windows, property
-    /// providers and widgets that the layout, or one inside it, holds already are left out; without an
-    /// owner nothing happens. (QWidget::raise() and lower() change the order that counts as that of
-    /// creation.)
+    /// Adds the owner's direct child widgets in the order of creation, each with stretch 0, and returns the
+    /// layout. QWidget::raise() and lower() change that order. Adds hidden children too, but neither windows
+    /// nor property providers nor widgets that the layout, or one inside it, holds already. Does nothing
+    /// without an owner.
     OvBoxLayout* autoFill();
 
-    /// Adds free room with factor @p stretch (0: only what nobody else wants) and returns the layout.
+    /// Adds a stretch of factor @p stretch (0: only room that nothing else takes) and returns the layout.
     OvBoxLayout* addStretch(int stretch = 0);
 
     /// Appends @p items in order and returns the layout.
@@ -43,7 +43,7 @@ private:
     const std::unique_ptr<Private> d;
 };
 
-/// An OvBoxLayout that runs from left to right, or from right to left where the owner's direction is so.
+/// An OvBoxLayout that runs from left to right, or from right to left with the owner's layout direction.
 class WIDGETTOOLKIT_EXPORT OvHBoxLayout : public OvBoxLayout
 {
     Q_OBJECT

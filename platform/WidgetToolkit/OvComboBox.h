@@ -5,22 +5,20 @@
 #include <QComboBox>
 
 /**
- * A QComboBox that is safe to scroll past and gives way in a narrow panel.
+ * A QComboBox that is safe to scroll past and fits into a narrow panel.
  *
- * - The wheel changes the current item only while the box has focus. Without focus the event is ignored,
- *   so that a scroll area around it scrolls, and the wheel does not give it focus: its focus policy is
- *   Qt::StrongFocus.
- * - minimumSizeHint() asks for room for minimumContentsLength() characters, or four while that is 0, and
- *   never for more than the widest item; sizeHint() is QComboBox's. A text that does not fit is painted
- *   with an ellipsis, at its end also when it is written from right to left.
+ * - The wheel changes the current item only while the box has focus. Without focus it ignores the event, so
+ *   that a scroll area around it scrolls; the wheel does not give focus: the focus policy is Qt::StrongFocus.
+ * - minimumSizeHint() asks for room for minimumContentsLength() characters, or four while that is 0, and at
+ *   most for the widest item; sizeHint() is QComboBox's. A text that does not fit ends with an ellipsis, from
+ *   right to left too.
  * - The pop-up is at least as wide as its widest item needs, scroll bar included, unless the screen is
- *   narrower. It lies on the screen as a whole, below or above the box as QComboBox has it, flush with
- *   the box's left edge, or the right one in a right-to-left layout. Where the items are translated while
- *   it is open, on QEvent::LanguageChange, it is widened.
+ *   narrower. It lies wholly on the screen, below or above the box as QComboBox has it, flush with the box's
+ *   left edge, or the right one from right to left. It widens when the items are translated while it is open,
+ *   on QEvent::LanguageChange.
  *
- * The dynamic property "popupVisible" is true from when the pop-up opens until it closes, in whatever
- * way, and false at any other time; a style sheet selects `OvComboBox[popupVisible="true"]`. Apart from
- * that and the class name a sheet selects what it can on a QComboBox.
+ * The dynamic property "popupVisible" is true while the pop-up is open, and false otherwise: a style sheet
+ * selects `OvComboBox[popupVisible="true"]`. All else is as in QComboBox.
  *
  * None of this relies on changeEvent(): a subclass may swallow those events.
  */
@@ -29,7 +27,7 @@ class WIDGETTOOLKIT_EXPORT OvComboBox : public QComboBox
     Q_OBJECT
 
 public:
-    /// @p parent owns the box as usual.
+    /// @p parent owns the box.
     explicit OvComboBox(QWidget* parent = nullptr);
     ~OvComboBox() override;
 

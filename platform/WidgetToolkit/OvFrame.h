@@ -8,10 +8,10 @@
 /**
  * The frame that composite components are built on: a QFrame that controls its own layout.
  *
- * It has no frame and no margins of its own until a style sheet gives it some; the sheet sets the
- * metrics of the frame's layout through the properties that LayoutController lists. The values reach the
- * layout before the frame is shown for the first time, whichever of the two, layout or sheet, is set
- * first.
+ * It has neither a frame nor margins until a style sheet sets them; the sheet sets the layout's metrics
+ * through the properties that LayoutController lists. They reach the layout before the frame is first shown,
+ * whether layout or sheet is set first.
+ * @see LayoutController
  */
 class WIDGETTOOLKIT_EXPORT OvFrame : public QFrame, public LayoutController
 {
@@ -19,11 +19,11 @@ class WIDGETTOOLKIT_EXPORT OvFrame : public QFrame, public LayoutController
     LAYOUT_CONTROLLER_PROPERTIES
 
 public:
-    /// @p parent owns the frame as usual; null makes it a window. @p flags go to QFrame.
+    /// @p parent owns the frame; null makes it a window. @p flags go to QFrame.
     explicit OvFrame(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~OvFrame() override;
 
-    /// The frame's layout(); a subclass that lays its content out in an inner widget returns that one's.
+    /// The frame's layout(). A subclass that lays out its content in an inner widget returns that widget's.
     QLayout* getLayout() const override;
 
 protected:

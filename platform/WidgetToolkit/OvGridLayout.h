@@ -11,21 +11,21 @@
 /**
  * A grid layout that is filled row by row.
  *
- * It is constructed on its owner widget, whose layout it becomes and who owns it; null makes it a layout
- * without owner. Contents margins and spacing start at 0; the style sheet sets them through the owner's
- * LayoutController.
+ * The owner widget, given to the constructor, owns it and has it as its layout; null makes it a layout
+ * without owner. Contents margins and spacing are 0 by default; the style sheet sets them through the
+ * owner's LayoutController.
  *
  *     auto* grid = new OvGridLayout(panel);
- *     grid->addRow({{title, LayoutHelpers::Alignment::Default}, LayoutHelpers::CellModifier::SpanPrevious},
- * 0)
+ *     using namespace LayoutHelpers;
+ *     grid->addRow({{title, Alignment::Default}, CellModifier::SpanPrevious}, 0)
  *         ->addRow({slider, spinBox}, 0);
  *
- * Rows may be mixed with QGridLayout's own addWidget() and addLayout(): a row goes below everything that
- * the grid holds and below every row that was added before, the empty ones included. Columns follow the
- * owner's direction, so that the first cell is at the right where text runs from right to left.
+ * Rows may be mixed with QGridLayout's own addWidget() and addLayout(): a row goes below everything in the
+ * grid and below every row added before, empty ones included. The first cell is at the right where the
+ * owner's layout direction is from right to left.
  *
- * In both forms widgets are reparented to the owner and `flag` is the stretch factor of the row: 0 makes
- * a plain row, which takes free height only when no row has a factor; a negative number counts as 0.
+ * Both forms of addRow() reparent the widgets to the owner. `flag` is the stretch factor of the row: a row of
+ * 0 takes free height only when no row has a factor; a negative number counts as 0.
  */
 class WIDGETTOOLKIT_EXPORT OvGridLayout : public QGridLayout
 {
@@ -41,7 +41,7 @@ public:
 
     /// Appends a row of @p items, from column 0, and returns the layout. Each item takes one cell;
     /// CellModifier::SpanPrevious gives its cell to the item before it, several in a row one after the
-    /// other. A modifier behind a free cell, or as the first one, leaves its cell free.
+    /// other. A modifier after a free cell, or as the first item, leaves its cell free.
     OvGridLayout* addRow(std::initializer_list<LayoutHelpers::GridItem> items, int flag);
 
     void invalidate() override;

@@ -3,15 +3,13 @@
 #include <QString>
 
 /**
- * The vocabulary of colour variants that a host's style sheet gives a look.
+ * The colour variants whose look is up to the host's style sheet.
  *
- * Each constant's text is its own name. Hand one to Util::applyStyleHint() or
- * ColorHint::applyColorHint(); a style sheet then selects the widget with, say,
- * `QLineEdit[styleHint="INPUT_LIGHT"]`. The set is shared with the host: the toolkit attaches no
- * meaning to a name.
+ * Each constant's text is its own name. Pass one to Util::applyStyleHint() or ColorHint::applyColorHint(); a
+ * sheet then selects, say, `QLineEdit[styleHint="INPUT_LIGHT"]`. The toolkit gives the names no meaning.
  *
- * The constants are built once when a library is loaded, without allocating, and destroyed when it is
- * unloaded. Do not use them from the constructor of another object with static storage duration.
+ * The constants are created, without allocating, when a library is loaded, and destroyed when it is unloaded.
+ * Do not use them in the constructor of another object with static storage duration.
  */
 // clazy:excludeall=non-pod-global-static
 
@@ -24,6 +22,5 @@ inline const QString SELECT_LIGHT = QStringLiteral("SELECT_LIGHT");
 inline const QString INPUT_LIGHT = QStringLiteral("INPUT_LIGHT");
 inline const QString SLIDER_LIGHT = QStringLiteral("SLIDER_LIGHT");
 
-/// The name of the toolkit's empty resource stream. It is part of the vocabulary that the toolkit hands
-/// out; nothing in this repository reads it.
+/// The name of the toolkit's empty resource stream, for hosts; nothing in this repository reads it.
 inline const QString RESOURCE_EMPTY_STREAM = QStringLiteral("RESOURCE##EMPTY_STREAM");
