@@ -8,22 +8,22 @@ namespace Orvane::Tessel {
 /**
  * A slider with the design system's look: a slim groove and a round handle.
  *
- * It is an OvCustomSlider: a click on the groove goes to that place, the wheel moves it only with focus,
- * and it starts vertical. The look comes from the style sheet, by QSlider's sub-controls:
+ * A click on the groove goes to that place, the wheel moves it only with focus, and it is vertical by default
+ * (see OvCustomSlider). A style sheet sets the look by QSlider's sub-controls:
  *
  *     Orvane--Tessel--TesselElegantSlider::groove:horizontal { height: 4px; background: #444444; }
  *     Orvane--Tessel--TesselElegantSlider::handle:horizontal { width: 14px; margin: -5px 0; }
  *
- * Where no sheet speaks of its parts, it draws them itself, upon the sheet's background if there is one, in
- * the colours of its palette: `Mid` for the groove, `Highlight` for the part below the value and for the ring
- * of focus, `Light` and `Dark` for the handle.
+ * Where no sheet has rules for its parts, it draws them itself, on the sheet's background if there is one, in
+ * the colours of its palette: `Mid` for the groove, `Highlight` for the part below the value and the focus
+ * ring, `Light` and `Dark` for the handle.
  */
 class DESIGNELEMENTS_EXPORT TesselElegantSlider : public OvCustomSlider
 {
     Q_OBJECT
 
 public:
-    /// @p parent owns the slider as usual; null makes it a window.
+    /// @p parent owns the slider; null makes it a window.
     explicit TesselElegantSlider(QWidget* parent = nullptr);
     ~TesselElegantSlider() override;
 

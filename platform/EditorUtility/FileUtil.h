@@ -6,15 +6,14 @@
 #include <QString>
 
 /**
- * What an editor asks about a folder's path that a user typed, before it reads or writes there.
+ * Functions that check the path of a folder that a user typed, before reading or writing there.
  *
  * Paths are local, in Qt's form with "/", absolute or relative to the current folder, and name folders.
  * Nothing is expanded ("~", variables), URLs and resources (":/...") are not paths here, and new lines,
- * markup and other odd characters are part of the names. A link counts as what it leads to. What the
- * process is not allowed to see is missing for it.
+ * markup and other characters are part of the names. A link counts as its target. What the process is not
+ * allowed to see is missing for it.
  *
- * Every call asks the disk anew, and a slow or sleeping disk takes its time: do not call from code that
- * runs at every key press.
+ * Every call reads the disk, which may be slow or asleep: do not call them for every key press.
  */
 namespace FileUtil {
 
@@ -27,8 +26,8 @@ Q_DECLARE_FLAGS(Operations, Operation)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Operations)
 
 /**
- * Whether @p path is one at which there is a folder or one could be made, going by its form and by what
- * stands in the way; permissions do not matter here. Not valid are
+ * Returns whether there is a folder at @p path or one could be created, by its form and by what is in the
+ * way; permissions do not matter. Not valid are
  *
  * - the empty path and resources;
  * - a path with a NUL in it, or with characters that the file system's encoding cannot store;
@@ -36,32 +35,30 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(Operations)
  * - a path with a file, a device, a link that leads nowhere or the like in place of a folder, at its end
  *   or on the way.
  *
- * A relative path is valid on the same terms. @p error, unless it is null, receives a translated message
- * for the user (context "FileUtil") when the path is not valid, and is left as it is otherwise. The
- * message is plain text and holds the path as it stands: show it as such, never as markup.
+ * The same holds for a relative path. @p error, unless null, receives a translated message for the user
+ * (context "FileUtil") when the path is not valid, and stays unchanged otherwise. The message quotes the path
+ * unescaped: show it as plain text.
  */
 EDITORUTILITY_EXPORT bool isPathValid(const QString& path, QString* error);
 
 /**
- * The folder that is at @p path or, where there is none, the nearest one above it: the folder in which
- * the missing rest could be made. Files and links that lead nowhere are skipped as if they were missing.
+ * Returns the folder at @p path or, where there is none, the nearest one above it, in which the missing rest
+ * could be created. Files and links that lead nowhere count as missing.
  *
- * The result is an existing folder without "." parts, doubled or closing slashes. ".." goes one folder
- * up, also from one that is missing ("/home/none/../x" is "/home/x" if that exists), and from a link to
- * where the link leads. A relative path gives a relative one, "." when it comes down to the current
- * folder. A name on disk that is no valid text in the file system's encoding cannot be written as a
- * path, so what is below it has the folder above it as its closest path. The empty path and a resource
- * give the empty string.
+ * The result is an existing folder without "." parts, doubled or trailing slashes. ".." goes one folder up,
+ * also from one that is missing ("/home/none/../x" is "/home/x" if that exists), and from the target of a
+ * link. A relative path gives a relative one, "." for the current folder. A name on disk that is no valid
+ * text in the file system's encoding cannot be written as a path: what is below it has the folder above it as
+ * its closest path. The empty path and a resource give the empty string.
  */
 EDITORUTILITY_EXPORT QString closestPath(const QString& path);
 
 /**
- * Whether this process can do all of @p operations with the folder or file that exists at @p path now,
- * as the system decides for the process's effective user and groups: mode bits, access lists, and read-
- * only file systems count, and an administrator is allowed what the system lets an administrator do. A
- * folder must be searchable too, as nothing in it can be reached otherwise. With no operation the answer
- * is whether the path exists. Nothing is allowed for the empty path, for one that does not exist or is
- * not valid in form, and for operations other than those above.
+ * Returns whether this process can do all of @p operations with the folder or file at @p path now, as the
+ * system decides for its effective user and groups: mode bits, access lists, and read-only file systems
+ * count, and so do an administrator's rights. A folder must be searchable too. Without operations, returns
+ * whether the path exists. Returns false for the empty path, one that does not exist or is not valid in form,
+ * and for operations other than those above.
  */
 EDITORUTILITY_EXPORT bool isOperationAllowed(const QString& path, Operations operations);
 

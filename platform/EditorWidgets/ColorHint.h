@@ -11,10 +11,9 @@ class QWidget;
  */
 namespace ColorHint {
 
-/// Gives @p widget the colour variant @p hint, one of the eight names of WidgetToolkit/StyleHints.h, as
-/// its style hint (see Util::applyStyleHint()); it replaces the hint that the widget had. The empty
-/// string drops the hint. Any other text is ignored and leaves the widget's hint as it is; a null widget
-/// does nothing.
+/// Sets the style hint of @p widget to @p hint, one of the eight names of WidgetToolkit/StyleHints.h (see
+/// Util::applyStyleHint()). The empty string drops the hint. Any other text is ignored; a null widget does
+/// nothing.
 EDITORWIDGETS_EXPORT void applyColorHint(QWidget* widget, const QString& hint);
 
 } // namespace ColorHint

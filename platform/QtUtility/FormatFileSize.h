@@ -19,12 +19,12 @@ enum class FileSizeUnit {
 };
 
 /**
- * Writes a number of bytes as users read it: "731 B", "1.5 GB".
+ * Returns a number of bytes as text for users: "731 B", "1.5 GB".
  *
- * The units are B, KB, MB, GB, TB, PB and EB, whatever @p kiloSize is, as users of media programs know
- * them; they are translated in the context "FormatFileSize". Digits, decimal mark, group separators and
- * sign are those of the default QLocale. The arithmetic is exact for every 64-bit value, the smallest
- * included; what is cut off is rounded half away from zero, and a size that rounds to zero has no sign.
+ * The units are B, KB, MB, GB, TB, PB and EB, whatever @p kiloSize is, translated in the context
+ * "FormatFileSize". Digits, decimal mark, group separators and sign are those of the default QLocale. The
+ * arithmetic is exact for every 64-bit value, the minimum included; halves are rounded away from zero, and a
+ * size that rounds to zero has no sign.
  *
  * @param precision number of decimals. -1 chooses them: two below 10, one from there on, and zeros at
  * the end are left out ("1 KB", "1.25 KB", "12.5 KB"). 0 to 60 are written as asked, with zeros at the

@@ -9,7 +9,7 @@
 namespace Orvane::Util {
 
 /**
- * The part of a Scheduler that does not know whom it calls. Not to be used by itself.
+ * The part of Scheduler that does not depend on its target's type. Do not use it by itself.
  */
 class QTUTILITY_EXPORT SchedulerBase : public QObject
 {
@@ -18,18 +18,17 @@ class QTUTILITY_EXPORT SchedulerBase : public QObject
 public:
     ~SchedulerBase() override;
 
-    /// Asks for a call. The first request makes one pending; requests while it is pending are merged
-    /// into it and do not put it off. Nothing happens while the scheduler is disabled. May be called
-    /// from any thread while the scheduler lives, also from inside the call, where it asks for the next
-    /// one.
+    /// Requests a call. The first request makes one pending; requests while it is pending are merged into it
+    /// and do not delay it. Does nothing while the scheduler is disabled. May be called from any thread while
+    /// the scheduler lives, also from inside the call, where it requests the next one.
     void schedule();
 
-    /// A disabled scheduler takes no requests, and a call that comes due while it is disabled is
-    /// dropped. Enabling it again in time lets a pending call through. Enabled at first.
+    /// Enables or disables the scheduler; enabled by default. A disabled one takes no requests and drops a
+    /// call that comes due; a pending call is made if the scheduler is enabled again in time.
     void setEnabled(bool enabled);
     bool isEnabled() const;
 
-    /// Whether a request waits for its call. It no longer does while the call runs.
+    /// Whether a call is pending; false while the call runs.
     bool isPending() const;
 
     /// Milliseconds from the first request to the call.
@@ -59,16 +58,16 @@ private:
  *         Orvane::Util::Scheduler<Field> m_reportScheduler{this, &Field::report, 100};
  *     };
  *
- * The call is made once, the delay after the first request of a burst; later requests do not restart the
- * delay, so a steady stream of requests still gets its calls, one for each delay. That is what sets it
- * apart from a debounce. A request after, or from inside, the call starts the next burst.
+ * The call is made once, the delay after the first request of a burst. Unlike with a debounce, later requests
+ * do not restart the delay: a steady stream of requests gets one call for each delay. A request after, or
+ * from inside, the call starts the next burst.
  *
- * Requests cost next to nothing: the first one posts an event, the others see that one is pending. The
- * delay starts when the event loop of the scheduler's thread gets to the event; the call runs in that
- * thread. The timer is coarse: expect 5 % of tolerance.
+ * The first request posts an event, the others only see that one is pending. The delay starts when the event
+ * loop of the scheduler's thread delivers the event; the call runs in that thread. The timer is coarse, with
+ * a tolerance of 5 %.
  *
  * The target is not owned and must outlive the scheduler, which is usually its member. Destroying the
- * scheduler drops a pending call. The target, with the scheduler in it, may be deleted inside the call.
+ * scheduler drops a pending call. The call may delete the target with the scheduler in it.
  */
 template <typename T>
 class Scheduler final : public SchedulerBase

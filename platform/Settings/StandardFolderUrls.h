@@ -9,9 +9,9 @@
  */
 namespace StandardFolderUrls {
 
-/// The computer itself, above all its drives: the root folder ("file:///") where there is one. Windows
-/// has no folder above the drives; there it is "file:", which Qt's file dialogs show as the computer and
-/// which has no local path.
+/// Returns the computer, above all its drives: the root folder ("file:///") or, on Windows, which has no
+/// folder above the drives, "file:", which Qt's file dialogs show as the computer and which has no local
+/// path.
 SETTINGS_EXPORT QUrl myComputerUrl();
 
 } // namespace StandardFolderUrls

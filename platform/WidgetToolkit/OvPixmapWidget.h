@@ -11,15 +11,14 @@ class QMovie;
 /**
  * Plays an animated image, scaled to the widget.
  *
- * The picture keeps its aspect ratio and stands in the middle of the contents rectangle, so a style
- * sheet's border and padding surround it. It is scaled smoothly in device pixels and stays sharp on
- * scaled screens; a disabled widget shows it the way the style shows disabled icons. The size hint is
- * the size of the image, one logical pixel for each of its own, and the height follows the width.
+ * The image keeps its aspect ratio and is centred in the contents rectangle, inside a style sheet's border
+ * and padding. It is scaled smoothly in device pixels; a disabled widget shows it as the style shows disabled
+ * icons. The size hint is the image's size, one logical pixel for each of its own, and the height follows the
+ * width.
  *
- * A movie plays from when it is loaded, but only while the widget is shown: hiding the widget, or its
- * window being minimised, pauses a running movie and showing it again goes on from there, so that a
- * hidden picture costs nothing. Started by a host while the widget is hidden, it waits likewise. One that
- * the host stopped or paused stays so.
+ * A movie plays from when it is loaded, but only while the widget is shown: hiding the widget, or minimising
+ * its window, pauses a running movie, and showing it again resumes it. A movie that a host starts while the
+ * widget is hidden waits likewise; one that the host stopped or paused stays so.
  */
 class WIDGETTOOLKIT_EXPORT OvPixmapWidget : public QFrame
 {
@@ -28,20 +27,20 @@ class WIDGETTOOLKIT_EXPORT OvPixmapWidget : public QFrame
     Q_PROPERTY(QString moviePath READ moviePath WRITE setMoviePath)
 
 public:
-    /// @p parent owns the widget as usual; null makes it a window. @p flags go to QFrame.
+    /// @p parent owns the widget; null makes it a window. @p flags go to QFrame.
     explicit OvPixmapWidget(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~OvPixmapWidget() override;
 
-    /// The path that was set, also when it gave no movie; empty at first.
+    /// The path that was set, also if it gave no movie; empty by default.
     QString moviePath() const;
 
-    /// Loads the image at @p path and replaces the present one. An empty path, a missing file and one
-    /// that is no image all leave the widget without a movie, silently. The same path again does nothing
-    /// while its movie is there, and tries once more when there is none.
+    /// Loads the image at @p path in place of the current one. An empty path, a missing file and a file that
+    /// is no image leave the widget without a movie and report nothing. The same path again does nothing, but
+    /// loads again if there is no movie.
     void setMoviePath(const QString& path);
 
-    /// The movie, for starting and stopping it; null while there is none. The widget owns it and deletes
-    /// it when another path is set. An image of one frame is a movie that finishes at once.
+    /// The movie, to start and stop; null while there is none. The widget owns it and deletes it when another
+    /// path is set. An image of one frame is a movie that finishes at once.
     QMovie* movie() const;
 
     QSize sizeHint() const override;

@@ -7,24 +7,24 @@
 /**
  * A QSpinBox that is safe to scroll past and quick to type into.
  *
- * - The wheel changes the value only while the spin box has focus. Without focus the event is ignored,
- *   so that a scroll area around it scrolls, and the wheel does not give it focus: its focus policy is
- *   Qt::StrongFocus.
- * - Enter and Return commit the text, emit editingFinished() and leave the value selected, so that the
- *   next number can be typed over it. valueChanged() is emitted only if that changed the value, which
- *   QSpinBox does not heed. The key event is left unaccepted, as QSpinBox does: a dialog's default
- *   button gets it. Escape is left to the dialog altogether.
+ * - The wheel changes the value only while the spin box has focus. Without focus it ignores the event, so
+ *   that a scroll area around it scrolls; the wheel does not give focus: the focus policy is Qt::StrongFocus.
+ * - Enter and Return commit the text, emit editingFinished() and select the value, so that the next number
+ *   can be typed over it. Unlike in QSpinBox, valueChanged() is emitted only if that changes the value. The
+ *   key event is ignored, as in QSpinBox: a dialog's default button gets it. Escape is left to the dialog.
  *
- * Everything else, including what a style sheet can select, is as in QSpinBox. A listener of any signal
- * that Enter causes may delete the spin box, and so may one of valueChanged() that setValue() causes. Behind
- * all others, above all while the user types or steps, QAbstractSpinBox goes on: use deleteLater() there.
+ * All else is as in QSpinBox.
+ *
+ * **Lifetime.** Slots of signals that Enter causes may delete the spin box, and so may those of a
+ * valueChanged() that setValue() causes. Behind all others, above all while the user types or steps,
+ * QAbstractSpinBox goes on: use deleteLater() there.
  */
 class WIDGETTOOLKIT_EXPORT OvSpinBox : public QSpinBox
 {
     Q_OBJECT
 
 public:
-    /// @p parent owns the spin box as usual.
+    /// @p parent owns the spin box.
     explicit OvSpinBox(QWidget* parent = nullptr);
     ~OvSpinBox() override;
 

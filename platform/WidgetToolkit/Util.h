@@ -19,8 +19,8 @@ class QWidget;
 namespace Util {
 
 /// Sets the dynamic property "styleHint" of @p widget to @p hint, which a sheet selects with
-/// `[styleHint="error"]`, and re-polishes the widget. An empty hint removes the property: a plain
-/// `[styleHint]` does not select the widget either. A null widget and an unchanged hint do nothing.
+/// `[styleHint="error"]`, and re-polishes the widget. After an empty hint not even a plain `[styleHint]`
+/// selects the widget. A null widget and an unchanged hint do nothing.
 WIDGETTOOLKIT_EXPORT void applyStyleHint(QWidget* widget, const QString& hint);
 
 /// Sets the dynamic or declared property @p name of @p widget to @p value and, only if that changes it,
