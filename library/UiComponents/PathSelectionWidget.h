@@ -20,10 +20,10 @@ class QUrl;
  *     ...
  *     if (field->checkPath()) { startExport(field->path()); }
  *
- * **Default path.** A path that equals the default path is shown by the display text. While the line edit has
- * the focus, it is empty instead, and the path stays until something is typed; what is typed stays as typed
- * until the focus leaves. The reset button shows only with a default path, and is disabled while the path is
- * shown by its text.
+ * **Default path.** A path that equals the default path, also two empty ones, is shown by the display text.
+ * While the line edit has the focus, it is empty instead, and the path stays until something is typed; what
+ * is typed stays as typed until the focus leaves. The reset button shows only with a default path, and is
+ * disabled while the path is shown by its text.
  *
  * **Disk.** Only checkPath() reads it; call it when the path is used, and in slots of pathChanged() at most.
  *

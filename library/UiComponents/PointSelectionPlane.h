@@ -9,7 +9,7 @@
 #include <memory>
 
 /**
- * A pad on which the user picks a point by clicking and dragging.
+ * A plane on which the user picks a point by clicking and dragging.
  *
  *     auto* plane = new PointSelectionPlane(panel);
  *     plane->setLimits({-1.0, -1.0, 2.0, 2.0});
@@ -18,12 +18,13 @@
  *
  * **Scale.** The first pixel is exactly the left and top limit, the last one the right and bottom limit, in
  * the host's units. The y axis points down; nothing is mirrored from right to left. Limits of negative width
- * or height invert the axis. A pad of one pixel or without limits has no scale: a pick gives NaN or (0, 0),
+ * or height invert the axis. A plane of one pixel or without limits has no scale: a pick gives NaN or (0, 0),
  * and the marker's place means nothing.
  *
- * **Input.** The left button takes the point under it and grabs the mouse: a drag may leave the pad and the
- * window, while the point stays on the edge. Hiding or disabling the pad ends the grab without a report. With
- * focus, by click or Tab, the arrow keys move the point by one pixel, with Shift by ten, up to the edges.
+ * **Input.** The left button takes the point under it and grabs the mouse: a drag may leave the plane and the
+ * window, while the point stays on the edge. Hiding or disabling the plane ends the grab without a report.
+ * With focus, by click or Tab, the arrow keys move the point by one pixel, with Shift by ten, up to the
+ * edges.
  *
  * **Painting.** A flat background, two fixed axes through the middle, a round marker at the point, and, for
  * users who come by keyboard, the style's focus rectangle. Size and frame are the sheet's; colours and sizes
@@ -35,9 +36,9 @@
  *         qproperty-FillColor: #202020;    qproperty-CoordLinesWidth: 1;    qproperty-CoordLinesColor: gray;
  *     }
  *
- * `PointSelectionPlanePropertyHelper[enabled="false"]` is for the disabled pad. Without a valid MarkerColor
+ * `PointSelectionPlanePropertyHelper[enabled="false"]` is for the disabled plane. Without a valid MarkerColor
  * there is no marker; other missing colours are black. FillColor takes effect on the next resize, the others
- * on the next paint: after changing the sheet of a visible pad, send it a QResizeEvent of its current size.
+ * on the next paint: after changing the sheet of a visible plane, send it a QResizeEvent of its current size.
  */
 class UICOMPONENTS_EXPORT PointSelectionPlane : public OvFrame
 {
@@ -48,8 +49,8 @@ public:
     explicit PointSelectionPlane(QWidget* parent);
     ~PointSelectionPlane() override;
 
-    /// Sets the rectangle that the pad stands for. Keeps the point, wherever it then lies, and emits nothing.
-    /// Takes infinite limits and NaN, with which picks and the marker's place mean nothing.
+    /// Sets the rectangle that the plane stands for. Keeps the point, wherever it then lies, and emits
+    /// nothing. Takes infinite limits and NaN, with which picks and the marker's place mean nothing.
     void setLimits(const QRectF& limits);
 
     /// Sets the point and moves the marker; a point outside the limits, infinite or NaN has none. Emits
