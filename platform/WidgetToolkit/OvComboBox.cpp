@@ -49,15 +49,20 @@ OvComboBox::~OvComboBox() = default;
 
 void OvComboBox::showPopup()
 {
-    // The container, which the pop-up lives in, outlasts a change of view but is made on demand.
-    popup()->installEventFilter(this);
+    // The container, which the pop-up lives in, outlasts a change of view but is made on demand. Qt shows
+    // none that would be empty, and must not make one for a model that is gone.
+    if (count() > 0) {
+        popup()->installEventFilter(this);
+    }
     QComboBox::showPopup();
 }
 
 void OvComboBox::hidePopup()
 {
     QComboBox::hidePopup();
-    publishPopupVisible(popup()->isVisible());
+    if (property("popupVisible").toBool()) {
+        publishPopupVisible(popup()->isVisible());
+    }
 }
 
 QSize OvComboBox::minimumSizeHint() const
@@ -144,7 +149,7 @@ void OvComboBox::placePopup()
     const int scrollBar =
         list->verticalScrollBar()->isVisibleTo(list) ? 0 : list->verticalScrollBar()->sizeHint().width();
     const int items = list->sizeHintForColumn(modelColumn());
-    const bool scrolls = list->model()->rowCount(list->rootIndex()) > maxVisibleItems();
+    const bool scrolls = count() > maxVisibleItems();
     const int wanted = items + around + (scrolls ? scrollBar : 0);
     window->setGeometry(PopupPlacement::widened(window->geometry(), wanted, box, layoutDirection(),
                                                 screen->availableGeometry()));

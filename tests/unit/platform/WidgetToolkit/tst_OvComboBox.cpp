@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QScreen>
+#include <QStringListModel>
 #include <QStyleOptionComboBox>
 
 #include <limits>
@@ -40,6 +41,8 @@ private Q_SLOTS:
     void popupVisible();
     void popupVisibleWhenClosedFromOutside();
     void emptyBoxHasNoPopup();
+    void modelDiesBeforeThePopup();
+    void modelDiesWhileThePopupOpens();
     void sheetSeesThePopup();
     void minimumIsAFewCharacters();
     void minimumOfShortItems();
@@ -169,6 +172,30 @@ void tst_OvComboBox::emptyBoxHasNoPopup()
     box.show();
     box.showPopup();
     QCOMPARE(box.property("popupVisible"), QVariant(false));
+    box.hidePopup();
+    QCOMPARE(box.property("popupVisible"), QVariant(false));
+}
+
+void tst_OvComboBox::modelDiesBeforeThePopup()
+{
+    OvComboBox box;
+    box.setModel(new QStringListModel({QStringLiteral("a")}, &box));
+    box.show();
+    delete box.model();
+    // QComboBox logs a warning where it makes a pop-up without a model.
+    box.showPopup();
+    box.hidePopup();
+    QCOMPARE(box.property("popupVisible"), QVariant(false));
+}
+
+void tst_OvComboBox::modelDiesWhileThePopupOpens()
+{
+    OvComboBox box;
+    box.setModel(new QStringListModel({QStringLiteral("a")}, &box));
+    box.show();
+    connect(&box, QOverload<int>::of(&QComboBox::highlighted), &box, [&box] { delete box.model(); });
+    box.showPopup();
+    QCOMPARE(box.count(), 0);
     box.hidePopup();
     QCOMPARE(box.property("popupVisible"), QVariant(false));
 }
