@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileInfo>
 #include <QMovie>
 #include <QPaintEngine>
 #include <QPainter>
@@ -153,7 +154,8 @@ void OvPixmapWidget::setMoviePath(const QString& path)
     }
     d->path = path;
     std::unique_ptr<QMovie> loaded;
-    if (!path.isEmpty()) {
+    // Opening a pipe waits for somebody who writes into it.
+    if (!path.contains(QChar(0)) && QFileInfo(path).isFile()) {
         loaded = std::make_unique<QMovie>(path);
         // A file may have the right first bytes and no frame behind them. Starting reads the first frame
         // only, where counting them would read the whole file, and where a jump to it would make a later

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -166,6 +167,11 @@ void tst_OvPixmapWidget::noMovie_data()
     QTest::newRow("no frame behind the header") << dataFile("truncated.gif");
     QTest::newRow("missing resource") << QStringLiteral(":/missing.gif");
     QTest::newRow("blank") << QStringLiteral(" ");
+    QTest::newRow("no file name") << QStringLiteral("a%1b").arg(QChar(0));
+    static const QTemporaryDir folder;
+    const QString pipe = folder.filePath(QStringLiteral("pipe.gif"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("pipe that nobody writes into") << pipe;
 }
 
 void tst_OvPixmapWidget::noMovie()
