@@ -89,6 +89,12 @@ int GuideLabel::mostWidth(const QWidget* widget)
     return screen ? screen->availableSize().width() / 2 : QWIDGETSIZE_MAX;
 }
 
+void GuideLabel::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    breaksWords();
+}
+
 void GuideLabel::paintEvent(QPaintEvent* event)
 {
     if (!breaksWords() || document()) {
@@ -109,7 +115,10 @@ bool GuideLabel::breaksWords() const
         return false;
     }
     if (QTextDocument* const rich = document()) {
-        QLabel::heightForWidth(width());
+        // Asking for a height has QLabel lay the text out, and paint it then.
+        if (!testAttribute(Qt::WA_WState_InPaintEvent)) {
+            QLabel::heightForWidth(width());
+        }
         QTextOption option = rich->defaultTextOption();
         if (option.wrapMode() != QTextOption::WrapAtWordBoundaryOrAnywhere) {
             option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

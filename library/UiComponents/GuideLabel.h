@@ -24,6 +24,7 @@ public:
     static int mostWidth(const QWidget* widget);
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -1,5 +1,6 @@
 #include "FreedMemory.h"
 #include "MetaObject.h"
+#include "PaintCount.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -540,6 +541,12 @@ void tst_GuideWidget::wordThatFitsNoScreen()
     };
     QVERIFY(isDrawnIn({0, label->height() / 2, 30, 40}));
     QVERIFY(isDrawnIn({170, label->height() / 2, 30, 40}));
+    // And painting it is no reason to paint it again.
+    const PaintCount paints(label);
+    for (int turn = 0; turn < 20; ++turn) {
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(paints.count < 5);
 }
 
 void tst_GuideWidget::picturesInTheText_data()
