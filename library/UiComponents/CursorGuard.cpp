@@ -1,13 +1,12 @@
 #include "CursorGuard.h"
 
-#include <QGuiApplication>
 #include <QVector>
 
 #include <algorithm>
 
 namespace {
 
-/// Those that have a widget, in the order in which they began.
+/// In the order in which they began.
 QVector<CursorGuard*>& guards()
 {
     static QVector<CursorGuard*> all;
@@ -17,25 +16,17 @@ QVector<CursorGuard*>& guards()
 } // namespace
 
 CursorGuard::CursorGuard(QWidget* widget, const QCursor& cursor)
-    : m_isForApplication(!widget)
-    , m_widget(widget)
-    , m_hadOwnCursor(widget && widget->testAttribute(Qt::WA_SetCursor))
-    , m_former(widget ? widget->cursor() : QCursor())
+    : m_widget(widget)
 {
-    if (m_isForApplication) {
-        QGuiApplication::setOverrideCursor(cursor);
-    } else {
-        guards().append(this);
-        widget->setCursor(cursor);
+    if (widget->testAttribute(Qt::WA_SetCursor)) {
+        m_former = widget->cursor();
     }
+    guards().append(this);
+    widget->setCursor(cursor);
 }
 
 CursorGuard::~CursorGuard()
 {
-    if (m_isForApplication) {
-        QGuiApplication::restoreOverrideCursor();
-        return;
-    }
     auto& all = guards();
     const auto next = all.erase(std::find(all.begin(), all.end(), this));
     if (!m_widget) {
@@ -45,17 +36,11 @@ CursorGuard::~CursorGuard()
                                    [this](const CursorGuard* other) { return other->m_widget == m_widget; });
     if (heir != all.end()) {
         // It took this one's cursor for the widget's own.
-        (*heir)->m_hadOwnCursor = m_hadOwnCursor;
         (*heir)->m_former = m_former;
-    } else if (m_hadOwnCursor) {
-        m_widget->setCursor(m_former);
+    } else if (m_former) {
+        m_widget->setCursor(*m_former);
     } else {
         // Setting the inherited one would keep the widget from ever following its parent's again.
         m_widget->unsetCursor();
     }
-}
-
-void CursorGuard::leaveAlone()
-{
-    m_widget.clear();
 }

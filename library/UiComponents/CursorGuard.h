@@ -6,10 +6,11 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 /// Replaces the cursor of a widget for as long as it exists, and brings back the former one, or none where
 /// the widget had none of its own. The widget may die first. Several on one widget may go in any order: it
-/// has the cursor of the latest one that is left. Without a widget it is the cursor of the whole application
-/// that is overridden.
+/// has the cursor of the latest one that is left.
 class CursorGuard
 {
 public:
@@ -18,12 +19,8 @@ public:
     CursorGuard(const CursorGuard&) = delete;
     CursorGuard& operator=(const CursorGuard&) = delete;
 
-    /// For a widget that is being destroyed: nothing is brought back.
-    void leaveAlone();
-
 private:
-    const bool m_isForApplication;
-    QPointer<QWidget> m_widget;
-    bool m_hadOwnCursor;
-    QCursor m_former;
+    const QPointer<QWidget> m_widget;
+    /// Empty where the widget had none of its own.
+    std::optional<QCursor> m_former;
 };

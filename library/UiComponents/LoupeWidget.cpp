@@ -23,33 +23,22 @@ public:
     QPainterPath clipPath;
     QPixmap pixmap;
     QColor emptyPixelsColor;
-};
-
-class LoupeWidget::Children
-{
-public:
-    explicit Children(LoupeWidget* loupe)
-        : owner(loupe)
-        , colorNameLabel(new QLabel(loupe))
-    {
-        colorNameLabel->setObjectName(QStringLiteral("colorNameLabel"));
-        colorNameLabel->setTextFormat(Qt::PlainText);
-        auto* layout = new OvVBoxLayout(owner);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->setSpacing(0);
-        layout->autoFill();
-        Util::installLayoutController(owner);
-    }
-
-    LoupeWidget* const owner;
-    QLabel* const colorNameLabel;
+    QLabel* colorNameLabel = nullptr;
 };
 
 LoupeWidget::LoupeWidget(QWidget* parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
-    , m_children(std::make_unique<Children>(this))
 {
+    d->colorNameLabel = new QLabel(this);
+    d->colorNameLabel->setObjectName(QStringLiteral("colorNameLabel"));
+    d->colorNameLabel->setTextFormat(Qt::PlainText);
+    auto* layout = new OvVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->autoFill();
+    Util::installLayoutController(this);
+
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                    Qt::NoDropShadowWindowHint);
     setProperty("roundedEdges", true);
@@ -95,7 +84,7 @@ void LoupeWidget::setPixmap(const QPixmap& pixmap)
 
 void LoupeWidget::setColorName(const QColor& color)
 {
-    QLabel* const label = m_children->colorNameLabel;
+    QLabel* const label = d->colorNameLabel;
     // updatePicture() stands in for the label's own update, which would come too late as well.
     const bool wasDisabled = label->testAttribute(Qt::WA_UpdatesDisabled);
     label->setAttribute(Qt::WA_UpdatesDisabled);

@@ -57,7 +57,5 @@ private:
     void updatePicture();
 
     class Private;
-    class Children;
     const std::unique_ptr<Private> d;
-    const std::unique_ptr<Children> m_children;
 };

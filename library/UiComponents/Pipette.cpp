@@ -47,21 +47,6 @@ QRect desktop()
     return all;
 }
 
-/// One for all pipettes, as long as the screens may show windows of any: a new one would take these for what
-/// is to be picked.
-std::shared_ptr<ScreenReader> sharedReader()
-{
-    static std::weak_ptr<ScreenReader> present;
-    auto reader = present.lock();
-    if (!reader || !reader->isOfPresentScreens()) {
-        // Not std::make_shared(): it has an object that is one in the whole program, and a library with such
-        // an object is never unloaded.
-        reader.reset(new ScreenReader(desktop(), ScreenReader::Cover::Overlay));
-        present = reader;
-    }
-    return reader;
-}
-
 } // namespace
 
 class Pipette::Impl
@@ -69,29 +54,16 @@ class Pipette::Impl
 public:
     class Run;
 
-    explicit Impl(Pipette* pipette)
-        : owner(pipette)
-    {
-    }
-    ~Impl();
-    Impl(const Impl&) = delete;
-    Impl& operator=(const Impl&) = delete;
-
-    void start();
-    void stop();
-
-    Pipette* const owner;
     QColor currentColor;
     /// One, unless startPicking() was called during a pick.
     QVector<Run*> runs;
 };
 
-/// All that one call of startPicking() shows and listens to. It is deleted when the screens have settled
-/// after its end. It has no signals or slots of its own.
+/// All that one call of startPicking() shows and listens to. It has no signals or slots of its own.
 class Pipette::Impl::Run : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:
-    explicit Run(Impl* pipette);
+    explicit Run(Pipette* pipette);
     ~Run() override;
 
     /// Covers the screens. False when that has ended the run.
@@ -102,15 +74,14 @@ public:
 
 private:
     void addView(QScreen* screen);
-    QVector<QPointer<PipetteScreenView>> takeViews();
     void watchApplication();
     void noteLoupe(const QWidget& window);
-    void uncover(const QPoint& cursorPos);
+    void uncover(const QWidget& last);
     void update(const QPoint& cursorPos);
     void finish(const QPoint& cursorPos, bool isSucceeded);
 
-    Impl* const m_pipette;
-    std::shared_ptr<ScreenReader> m_reader;
+    Pipette* const m_pipette;
+    const std::shared_ptr<ScreenReader> m_reader;
     QGraphicsScene* const m_scene;
     const QPointer<LoupeWidget> m_loupe;
     QVector<QPointer<PipetteScreenView>> m_views;
@@ -118,40 +89,9 @@ private:
     std::unique_ptr<QObject> m_context = std::make_unique<QObject>();
 };
 
-Pipette::Impl::~Impl()
-{
-    const QVector<Run*> remaining = std::exchange(runs, {});
-    qDeleteAll(remaining);
-}
-
-void Pipette::Impl::start()
-{
-    if (!mayReadScreen()) {
-        return;
-    }
-    currentColor = QColor();
-    auto* const run = new Run(this);
-    runs.append(run);
-    if (run->show()) {
-        Q_EMIT owner->pickingStarted();
-    }
-}
-
-void Pipette::Impl::stop()
-{
-    const QPointer<Pipette> pipette = owner;
-    const QVector<Run*> ending = std::exchange(runs, {});
-    for (Run* run : ending) {
-        run->end();
-    }
-    if (pipette) {
-        Q_EMIT pipette->pickingStopped();
-    }
-}
-
-Pipette::Impl::Run::Run(Impl* pipette)
+Pipette::Impl::Run::Run(Pipette* pipette)
     : m_pipette(pipette)
-    , m_reader(sharedReader())
+    , m_reader(ScreenReader::shared(desktop(), ScreenReader::Cover::Overlay))
     , m_scene(new QGraphicsScene(QRectF(desktop()), this))
     , m_loupe(new LoupeWidget)
 {
@@ -165,13 +105,11 @@ Pipette::Impl::Run::Run(Impl* pipette)
 
 Pipette::Impl::Run::~Run()
 {
-    // Windows that vanish may change what is active: nobody is to hear of it from here.
-    m_context.reset();
-    const auto remaining = takeViews();
-    for (const QPointer<PipetteScreenView>& view : remaining) {
-        if (view && QApplication::activePopupWidget()) {
-            // Its native window may be handing a key to the pop-up.
-            view->hide();
+    end();
+    // The native window of a view may be handing a key to a pop-up.
+    const bool isInUse = QApplication::activePopupWidget() != nullptr;
+    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
+        if (view && isInUse) {
             view->deleteLater();
         } else {
             delete view;
@@ -201,33 +139,25 @@ bool Pipette::Impl::Run::show()
     const int active = qMax(0, QGuiApplication::screens().indexOf(QGuiApplication::screenAt(QCursor::pos())));
     // A window that is shown or activated may call back into the host, where everything can happen.
     const QPointer<Run> self = this;
-    const auto isOver = [&self] { return !self || !self->m_context; };
-    const auto views = m_views;
-    for (const QPointer<PipetteScreenView>& view : views) {
-        if (view) {
-            view->show();
-        }
-        if (isOver()) {
-            return false;
+    const auto goesOn = [&self] { return self && self->m_context; };
+    for (int i = 0; goesOn() && i < m_views.size(); ++i) {
+        if (m_views.at(i)) {
+            m_views.at(i)->show();
         }
     }
-    if (const QPointer<PipetteScreenView> view = views.value(active)) {
-        view->raise();
-        view->activateWindow();
-        if (isOver()) {
-            return false;
-        }
-        if (view) {
-            view->adjustSize();
-        }
+    const QPointer<PipetteScreenView> view = goesOn() ? m_views.value(active) : QPointer<PipetteScreenView>();
+    if (view && view->comeToFront() && goesOn()) {
+        view->adjustSize();
     }
-    watchApplication();
-    return true;
+    if (goesOn()) {
+        watchApplication();
+    }
+    return goesOn();
 }
 
 void Pipette::Impl::Run::watchApplication()
 {
-    const auto stop = [this] { m_pipette->stop(); };
+    const auto stop = [this] { m_pipette->stopPicking(); };
     QObject* const context = m_context.get();
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, context, [stop](Qt::ApplicationState state) {
         const bool isDoubtful =
@@ -247,31 +177,22 @@ void Pipette::Impl::Run::watchApplication()
     }
 }
 
-/// The views, which are about to vanish. The screens show them a little longer.
-QVector<QPointer<PipetteScreenView>> Pipette::Impl::Run::takeViews()
+/// Takes everything off the screens, which show it a little longer.
+void Pipette::Impl::Run::end()
 {
-    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
-        if (view) {
-            m_reader->remove(*view);
-        }
+    if (!m_context) {
+        return;
     }
+    // First: windows that vanish may change what is active, and nobody is to hear of it from here.
+    m_context.reset();
+    deleteLater();
     if (qApp) {
         QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = m_reader] {});
     }
-    return std::exchange(m_views, {});
-}
-
-void Pipette::Impl::Run::end()
-{
-    deleteLater();
-    m_context.reset();
-    const auto closing = takeViews();
-    for (const QPointer<PipetteScreenView>& view : closing) {
+    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {
+            m_reader->remove(*view);
             view->close();
-        }
-        if (view) {
-            view->deleteLater();
         }
     }
 }
@@ -279,13 +200,10 @@ void Pipette::Impl::Run::end()
 bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
 {
     const auto& widget = *static_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Paint && !widget.isWindow()) {
+    if (m_context && event->type() == QEvent::Paint && !widget.isWindow()) {
         noteLoupe(*widget.window());
-    } else if (event->type() == QEvent::Leave && widget.isWindow()) {
-        const QPoint cursorPos = QCursor::pos();
-        if (!widget.geometry().contains(cursorPos)) {
-            uncover(cursorPos);
-        }
+    } else if (m_context && event->type() == QEvent::Leave && widget.isWindow()) {
+        uncover(widget);
     }
     return false;
 }
@@ -294,25 +212,28 @@ bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
 void Pipette::Impl::Run::noteLoupe(const QWidget& window)
 {
     const QGraphicsItem* const item = m_loupe ? m_loupe->graphicsProxyWidget() : nullptr;
-    const QRect place = item && item->isVisible() ? item->sceneBoundingRect().toAlignedRect() : QRect();
+    QRect place;
+    if (item && item->isVisible()) {
+        // A fractional ratio rounds its edges.
+        place = item->sceneBoundingRect().toAlignedRect().adjusted(-1, -1, 1, 1);
+    }
     m_reader->paint(window, place & window.geometry());
 }
 
-/// Brings the view below the cursor to the front when another application's window keeps the Enter from it.
-/// Window managers have a full-screen window above all others on a screen without the focus.
-void Pipette::Impl::Run::uncover(const QPoint& cursorPos)
+/// Brings the view that the cursor has come to from @p last to the front when another application's window
+/// keeps the Enter from it. Window managers have a full-screen window above all others on a screen without
+/// the focus.
+void Pipette::Impl::Run::uncover(const QWidget& last)
 {
-    if (QGuiApplication::mouseButtons() != Qt::NoButton || QGuiApplication::topLevelAt(cursorPos)) {
+    const QPoint cursorPos = QCursor::pos();
+    if (last.geometry().contains(cursorPos) || QGuiApplication::mouseButtons() != Qt::NoButton ||
+        QGuiApplication::topLevelAt(cursorPos)) {
         return;
     }
-    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
+    const auto views = m_views;
+    for (const QPointer<PipetteScreenView>& view : views) {
         if (view && view->geometry().contains(cursorPos)) {
-            const QPointer<PipetteScreenView> covered = view;
-            covered->raise();
-            if (covered) {
-                covered->activateWindow();
-            }
-            return;
+            view->comeToFront();
         }
     }
 }
@@ -334,35 +255,52 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
 void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
 {
     if (isSucceeded && QGuiApplication::screenAt(cursorPos)) {
-        m_pipette->currentColor = m_reader->colorAt(cursorPos);
         // A copy: a slot may start another pick, which resets the color.
-        const QColor selected = m_pipette->currentColor;
+        const QColor selected = m_pipette->d->currentColor = m_reader->colorAt(cursorPos);
         const QPointer<Run> self = this;
-        Q_EMIT m_pipette->owner->colorSelected(selected);
+        Q_EMIT m_pipette->colorSelected(selected);
         // A slot may have done so.
         if (!self || !m_context) {
             return;
         }
     }
-    m_pipette->stop();
+    m_pipette->stopPicking();
 }
 
 Pipette::Pipette(QObject* parent)
     : QObject(parent)
-    , d(std::make_unique<Impl>(this))
+    , d(std::make_unique<Impl>())
 {
 }
 
-Pipette::~Pipette() = default;
+Pipette::~Pipette()
+{
+    qDeleteAll(std::exchange(d->runs, {}));
+}
 
 void Pipette::startPicking()
 {
-    d->start();
+    if (!mayReadScreen()) {
+        return;
+    }
+    d->currentColor = QColor();
+    auto* const run = new Impl::Run(this);
+    d->runs.append(run);
+    if (run->show()) {
+        Q_EMIT pickingStarted();
+    }
 }
 
 void Pipette::stopPicking()
 {
-    d->stop();
+    const QPointer<Pipette> self = this;
+    const QVector<Impl::Run*> ending = std::exchange(d->runs, {});
+    for (Impl::Run* run : ending) {
+        run->end();
+    }
+    if (self) {
+        Q_EMIT pickingStopped();
+    }
 }
 
 const QColor& Pipette::currentColor() const

@@ -5,22 +5,15 @@
 #include <QCursor>
 #include <QEvent>
 #include <QGraphicsItem>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QScreen>
 #include <QTimer>
-#include <QWindow>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
-
-// How often a view goes back to its screen before it leaves the last word to the window manager.
-constexpr int mostReturns = 10;
 
 void makeBare(QWidget* widget)
 {
@@ -29,124 +22,28 @@ void makeBare(QWidget* widget)
     widget->ensurePolished();
 }
 
-QGraphicsItem* bottomItem(const QGraphicsScene* scene)
-{
-    const QList<QGraphicsItem*> items = scene ? scene->items(Qt::DescendingOrder) : QList<QGraphicsItem*>();
-    return items.isEmpty() ? nullptr : items.last();
-}
-
 } // namespace
 
 class PipetteScreenView::Private
 {
 public:
-    explicit Private(PipetteScreenView* view)
-        : owner(view)
-        , loupeItem(bottomItem(view->scene()))
-    {
-    }
-
-    /// The item, if it is still there: it dies with its widget and with its scene.
-    QGraphicsItem* loupe() const;
-    void setLoupeVisible(bool visible);
-    void rebuildCursor();
-    void focusSoon();
-    void showAtCursor(QEvent* event);
-    void stayInPlace();
-    QScreen* ownScreen() const;
-    void report(const QPoint& cursorPos, bool isSucceeded);
-
-    PipetteScreenView* const owner;
-    QGraphicsItem* const loupeItem;
+    QGraphicsItem* loupeItem = nullptr;
     QPixmap cursorPixmap;
     QSize cursorSize;
     QSize cursorHotSpot;
     QCursor cursor;
 
-    QRect area; // of the screen
     QPixmap stillPicture;
-    int returnsLeft = 0;
     bool hasReported = false;
+    bool mayReturn = false;
 };
-
-QGraphicsItem* PipetteScreenView::Private::loupe() const
-{
-    const QGraphicsScene* const scene = owner->scene();
-    return scene && loupeItem && scene->items().contains(loupeItem) ? loupeItem : nullptr;
-}
-
-void PipetteScreenView::Private::setLoupeVisible(bool visible)
-{
-    if (QGraphicsItem* const item = loupe()) {
-        item->setVisible(visible);
-    }
-}
-
-void PipetteScreenView::Private::rebuildCursor()
-{
-    if (cursorPixmap.isNull() || cursorSize.isEmpty() || !cursorHotSpot.isValid()) {
-        cursor = QCursor();
-    } else {
-        cursor = QCursor(cursorPixmap.scaled(cursorSize, Qt::KeepAspectRatio, Qt::SmoothTransformation),
-                         cursorHotSpot.width(), cursorHotSpot.height());
-    }
-    owner->setCursor(cursor);
-}
-
-void PipetteScreenView::Private::focusSoon()
-{
-    QTimer::singleShot(0, owner, [this] { owner->setFocus(); });
-}
-
-void PipetteScreenView::Private::showAtCursor(QEvent* event)
-{
-    const QPointer<PipetteScreenView> self = owner;
-    Q_EMIT owner->loupePosChanged(QCursor::pos());
-    if (!self) {
-        return;
-    }
-    setLoupeVisible(true);
-    event->accept();
-    owner->setCursor(cursor);
-}
-
-/// A window manager that puts a frame around the window moves it about. Now and then Qt is left with a place
-/// in between, and would take the mouse to be on another screen: to be told the right one, it has to ask for
-/// it.
-void PipetteScreenView::Private::stayInPlace()
-{
-    if (returnsLeft == 0 || !owner->isVisible() || owner->windowHandle()->geometry() == area) {
-        return;
-    }
-    --returnsLeft;
-    QTimer::singleShot(0, owner, [this] {
-        if (owner->isVisible() && owner->windowHandle()->geometry() != area) {
-            // First of all: the fixed size that Qt tells the window manager is in pixels of this screen.
-            owner->windowHandle()->setScreen(ownScreen());
-            owner->setGeometry(area);
-        }
-    });
-}
-
-/// The screen that the view covers; the primary one when there is none like it any more.
-QScreen* PipetteScreenView::Private::ownScreen() const
-{
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const auto found = std::find_if(screens.cbegin(), screens.cend(),
-                                    [this](const QScreen* screen) { return screen->geometry() == area; });
-    return found == screens.cend() ? QGuiApplication::primaryScreen() : *found;
-}
-
-void PipetteScreenView::Private::report(const QPoint& cursorPos, bool isSucceeded)
-{
-    hasReported = true;
-    Q_EMIT owner->pickingFinished(cursorPos, isSucceeded);
-}
 
 PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry)
     : QGraphicsView(scene)
-    , d(std::make_unique<Private>(this))
+    , d(std::make_unique<Private>())
 {
+    const QList<QGraphicsItem*> items = scene ? scene->items() : QList<QGraphicsItem*>();
+    d->loupeItem = items.isEmpty() ? nullptr : items.last();
     setAttribute(Qt::WA_MouseTracking);
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                    Qt::NoDropShadowWindowHint);
@@ -184,8 +81,7 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
     if (scene) {
         scene->setBackgroundBrush(overlay);
     }
-    d->area = screenGeometry;
-    d->returnsLeft = mostReturns;
+    d->mayReturn = true;
 }
 
 PipetteScreenView::~PipetteScreenView() = default;
@@ -214,72 +110,52 @@ void PipetteScreenView::setStillPicture(const QPixmap& picture)
 void PipetteScreenView::setCursorPixmap(const QPixmap& pixmap)
 {
     d->cursorPixmap = pixmap;
-    d->rebuildCursor();
+    rebuildCursor();
 }
 
 void PipetteScreenView::setCursorSize(QSize size)
 {
     d->cursorSize = size;
-    d->rebuildCursor();
+    rebuildCursor();
 }
 
 void PipetteScreenView::setCursorHotSpot(QSize hotSpot)
 {
     d->cursorHotSpot = hotSpot;
-    d->rebuildCursor();
+    rebuildCursor();
 }
 
 bool PipetteScreenView::event(QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::FocusIn:
-        d->showAtCursor(event);
-        return true;
-    case QEvent::Enter: {
-        const QPointer<PipetteScreenView> self = this;
-        raise();
-        if (self) {
-            activateWindow();
-        }
-        if (!self) {
+    case QEvent::Enter:
+        if (!comeToFront()) {
             return true;
         }
         setCursor(d->cursor);
-        d->focusSoon();
-        d->showAtCursor(event);
-        return true;
-    }
+        [[fallthrough]];
     case QEvent::WindowActivate:
-        d->focusSoon();
-        d->showAtCursor(event);
+        QTimer::singleShot(0, this, [this] { setFocus(); });
+        [[fallthrough]];
+    case QEvent::FocusIn:
+        showAtCursor(event);
         return true;
     case QEvent::Leave:
     case QEvent::WindowDeactivate:
-        d->setLoupeVisible(false);
-        event->accept();
-        return true;
+        setLoupeVisible(false);
+        [[fallthrough]];
     case QEvent::Wheel:
         event->accept();
         return true;
     case QEvent::ShortcutOverride:
         event->accept();
-        d->report(QCursor::pos(), false);
+        report(QCursor::pos(), false);
         return true;
-    case QEvent::Close: {
-        const QPointer<PipetteScreenView> self = this;
-        const bool result = QGraphicsView::event(event);
-        // What the user did before may have closed it.
-        if (self && !d->hasReported) {
-            d->report(QCursor::pos(), false);
+    case QEvent::Move:
+        if (event->spontaneous()) {
+            returnOnce();
         }
-        return result;
-    }
-    case QEvent::Resize:
-    case QEvent::Move: {
-        const bool result = QGraphicsView::event(event);
-        d->stayInPlace();
-        return result;
-    }
+        [[fallthrough]];
     default:
         return QGraphicsView::event(event);
     }
@@ -288,50 +164,115 @@ bool PipetteScreenView::event(QEvent* event)
 void PipetteScreenView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {
-        d->report(QCursor::pos(), false);
+        report(QCursor::pos(), false);
     }
 }
 
 void PipetteScreenView::mouseMoveEvent(QMouseEvent* event)
 {
     setCursor(d->cursor);
-    const bool isInside = geometry().contains(event->globalPos());
-    if (isInside) {
-        const QPointer<PipetteScreenView> self = this;
-        Q_EMIT loupePosChanged(event->globalPos());
-        if (!self) {
-            return;
-        }
-    }
-    const QGraphicsItem* const item = d->loupe();
-    if (item && item->isVisible() != isInside) {
-        d->setLoupeVisible(isInside);
+    if (geometry().contains(event->globalPos())) {
+        placeLoupe(event->globalPos());
+    } else {
+        setLoupeVisible(false);
     }
 }
 
 void PipetteScreenView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        d->report(event->globalPos(), true);
+        report(event->globalPos(), true);
     }
 }
 
 void PipetteScreenView::showEvent(QShowEvent*)
 {
     const QPoint cursorPos = QCursor::pos();
-    const QPointer<PipetteScreenView> self = this;
     if (cursorPos.x() >= geometry().left() && cursorPos.x() <= geometry().right()) {
-        Q_EMIT loupePosChanged(cursorPos);
+        placeLoupe(cursorPos);
+    } else {
+        setLoupeVisible(true);
     }
-    if (self) {
-        d->setLoupeVisible(true);
+}
+
+void PipetteScreenView::closeEvent(QCloseEvent*)
+{
+    // What the user did before may have closed it.
+    if (!d->hasReported) {
+        report(QCursor::pos(), false);
     }
 }
 
 void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
 {
-    if (!d->stillPicture.isNull()) {
-        painter->drawPixmap(sceneRect().topLeft(), d->stillPicture);
-    }
+    painter->drawPixmap(sceneRect().topLeft(), d->stillPicture);
     QGraphicsView::drawBackground(painter, rect);
+}
+
+void PipetteScreenView::setLoupeVisible(bool visible)
+{
+    // It dies with its widget and with its scene.
+    const QGraphicsScene* const shown = scene();
+    if (shown && shown->items().contains(d->loupeItem)) {
+        d->loupeItem->setVisible(visible);
+    }
+}
+
+void PipetteScreenView::rebuildCursor()
+{
+    if (d->cursorPixmap.isNull() || d->cursorSize.isEmpty() || !d->cursorHotSpot.isValid()) {
+        d->cursor = QCursor();
+    } else {
+        d->cursor =
+            QCursor(d->cursorPixmap.scaled(d->cursorSize, Qt::KeepAspectRatio, Qt::SmoothTransformation),
+                    d->cursorHotSpot.width(), d->cursorHotSpot.height());
+    }
+    setCursor(d->cursor);
+}
+
+/// False when that has deleted it.
+bool PipetteScreenView::comeToFront()
+{
+    const QPointer<PipetteScreenView> self = this;
+    raise();
+    if (self) {
+        activateWindow();
+    }
+    return self;
+}
+
+void PipetteScreenView::placeLoupe(const QPoint& cursorPos)
+{
+    const QPointer<PipetteScreenView> self = this;
+    Q_EMIT loupePosChanged(cursorPos);
+    if (self) {
+        setLoupeVisible(true);
+    }
+}
+
+void PipetteScreenView::showAtCursor(QEvent* event)
+{
+    const QPointer<PipetteScreenView> self = this;
+    event->accept();
+    placeLoupe(QCursor::pos());
+    if (self) {
+        setCursor(d->cursor);
+    }
+}
+
+/// A window manager that puts a frame around the window moves it about. Now and then Qt is left with the
+/// place within the frame, and would take the mouse to be on another screen: to be told the right one, it has
+/// to ask for it. A window manager that wants the window elsewhere gets its way.
+void PipetteScreenView::returnOnce()
+{
+    const QRect area = sceneRect().toRect();
+    if (geometry() != area && std::exchange(d->mayReturn, false)) {
+        setGeometry(area);
+    }
+}
+
+void PipetteScreenView::report(const QPoint& cursorPos, bool isSucceeded)
+{
+    d->hasReported = true;
+    Q_EMIT pickingFinished(cursorPos, isSucceeded);
 }

@@ -18,16 +18,8 @@ class QGraphicsItem;
  * The view shows the loupe while the cursor is on its screen and hides it when the cursor leaves or the
  * window is no longer the active one; somebody else moves it.
  *
- * The view is made hidden, with its native window on the right screen already. An application's style sheet
- * can give it the cursor of the pick:
- *
- *     PipetteScreenView {
- *         qproperty-cursorPixmap: url(dropper.png);
- *         qproperty-cursorSize: 32px 32px;
- *         qproperty-cursorHotSpot: 2px 30px;
- *     }
- *
- * Without all three, or with an empty size, the cursor is the arrow.
+ * The view is made hidden, with its native window on the right screen already. A style sheet can give it the
+ * cursor of the pick with all three properties; without them, or with an empty size, it is the arrow.
  */
 class PipetteScreenView : public QGraphicsView
 {
@@ -52,6 +44,9 @@ public:
     /// this picture of it below the overlay.
     void setStillPicture(const QPixmap& picture);
 
+    /// Raises and activates it. False when that has deleted it.
+    bool comeToFront();
+
 Q_SIGNALS:
     /// The user picked the point @p cursorPos of the desktop, or gave up, or somebody closed the window
     /// before that.
@@ -71,9 +66,17 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     void drawBackground(QPainter* painter, const QRectF& rect) override;
 
 private:
+    void setLoupeVisible(bool visible);
+    void placeLoupe(const QPoint& cursorPos);
+    void showAtCursor(QEvent* event);
+    void rebuildCursor();
+    void returnOnce();
+    void report(const QPoint& cursorPos, bool isSucceeded);
+
     class Private;
     const std::unique_ptr<Private> d;
 };

@@ -7,57 +7,87 @@
 #include <QtMath>
 #ifdef QT_X11EXTRAS_LIB
 #include <QX11Info>
+
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
 #endif
 
 #include <algorithm>
 
 namespace {
 
-QPoint toDevice(const QPoint& point, qreal ratio)
+QPoint toDevice(const QPointF& position, const QScreen& screen)
 {
-    // As QScreen::grabWindow() finds the corner of what it reads.
-    return {qRound(point.x() * ratio), qRound(point.y() * ratio)};
+    const QPoint corner = screen.geometry().topLeft();
+    return corner + ((position - corner) * screen.devicePixelRatio()).toPoint();
 }
 
-QRect toDevice(const QRect& area, qreal ratio)
+QRect toDevice(const QRect& area, const QScreen& screen)
 {
-    const QPoint corner = toDevice(area.topLeft(), ratio);
-    const QPoint end = toDevice(area.topLeft() + QPoint(area.width(), area.height()), ratio);
-    return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+    const QPoint afterLast = area.bottomRight() + QPoint(1, 1);
+    return {toDevice(area.topLeft(), screen), toDevice(afterLast, screen) - QPoint(1, 1)};
 }
 
-/// An image whose top-left pixel lies at @p corner of some common coordinates.
-template <typename Image>
-struct Placed
+QRegion toDevice(const QRegion& area)
 {
-    Image& image;
-    QPoint corner;
-
-    QRect rect() const { return {corner, image.size()}; }
-};
-
-/// RGB32 leaves the alpha open.
-QRgb opaque(QRgb color)
-{
-    return qRgb(0, 0, 0) | color;
+    QRegion result;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QRegion onScreen = area & screen->geometry();
+        for (const QRect& part : onScreen) {
+            result += toDevice(part, *screen);
+        }
+    }
+    return result;
 }
 
-void copy(const Placed<const QImage>& from, const Placed<QImage>& to, const QRect& area)
+/// @p color below the overlay.
+QRgb darkened(QRgb color)
 {
-    const QRect shared = area & from.rect() & to.rect();
+    const auto channel = [](int value) { return value - value / 128; };
+    return qRgb(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)));
+}
+
+/// Calls @p function with each pixel of @p area that both have.
+template <typename Function>
+void combine(const ScreenReader::Picture& from, ScreenReader::Picture& to, const QRect& area,
+             Function function)
+{
+    const QRect shared = area & from.area() & to.area();
     for (int y = shared.top(); y <= shared.bottom(); ++y) {
         const auto* source = reinterpret_cast<const QRgb*>(from.image.constScanLine(y - from.corner.y()));
         auto* target = reinterpret_cast<QRgb*>(to.image.scanLine(y - to.corner.y()));
-        const QRgb* const begin = source + shared.left() - from.corner.x();
-        std::transform(begin, begin + shared.width(), target + shared.left() - to.corner.x(), &opaque);
+        for (int x = shared.left(); x <= shared.right(); ++x) {
+            function(source[x - from.corner.x()], target[x - to.corner.x()]);
+        }
     }
 }
 
-QRgb withOverlay(QRgb color)
+#ifdef QT_X11EXTRAS_LIB
+/// Asks the server once, where QScreen::grabWindow() does so several times. Null where its pixels are not
+/// RGB32.
+QImage grabRoot(const QRect& pixels)
 {
-    const auto darkened = [](int channel) { return channel - channel / 128; };
-    return qRgb(darkened(qRed(color)), darkened(qGreen(color)), darkened(qBlue(color)));
+    xcb_connection_t* const connection = QX11Info::connection();
+    const auto cookie = xcb_get_image(
+        connection, XCB_IMAGE_FORMAT_Z_PIXMAP, static_cast<xcb_drawable_t>(QX11Info::appRootWindow()),
+        static_cast<int16_t>(pixels.x()), static_cast<int16_t>(pixels.y()),
+        static_cast<uint16_t>(pixels.width()), static_cast<uint16_t>(pixels.height()), ~0U);
+    const std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> reply(
+        xcb_get_image_reply(connection, cookie, nullptr), &std::free);
+    const int count = pixels.width() * pixels.height();
+    if (!reply || reply->depth != 24 || QSysInfo::ByteOrder != QSysInfo::LittleEndian ||
+        xcb_get_image_data_length(reply.get()) != count * int(sizeof(QRgb))) {
+        return {};
+    }
+    QImage image(pixels.size(), QImage::Format_RGB32);
+    const auto* const data = reinterpret_cast<const QRgb*>(xcb_get_image_data(reply.get()));
+    std::transform(data, data + count, reinterpret_cast<QRgb*>(image.bits()),
+                   [](QRgb pixel) { return qRgb(0, 0, 0) | pixel; });
+    return image;
 }
+#endif
 
 class PlatformScreens : public ScreenSource
 {
@@ -77,13 +107,23 @@ public:
         return Grabs::OnceComposed;
     }
 
-    QImage grab(QScreen& screen, const QRect& area) override
+    QImage grab(QScreen& screen, const QRect& pixels) override
     {
-        QImage image = screen.grabWindow(0, area.x(), area.y(), area.width(), area.height())
-                           .toImage()
-                           .convertToFormat(QImage::Format_RGB32);
+#ifdef QT_X11EXTRAS_LIB
+        if (QX11Info::isPlatformX11()) {
+            const QImage image = grabRoot(pixels);
+            if (!image.isNull()) {
+                return image;
+            }
+        }
+#endif
+        const QPoint corner = screen.geometry().topLeft();
+        const QRect points = pointsAround(pixels.translated(-corner), screen.devicePixelRatio());
+        const QPixmap grabbed = screen.grabWindow(0, points.x(), points.y(), points.width(), points.height());
+        QImage image = grabbed.toImage().convertToFormat(QImage::Format_RGB32);
         image.setDevicePixelRatio(1.0);
-        return image;
+        const QPoint first = pixels.topLeft() - toDevice(points.topLeft() + corner, screen);
+        return image.size() == pixels.size() ? image : image.copy(QRect(first, pixels.size()));
     }
 
     qint64 now() const override
@@ -110,262 +150,209 @@ QColor ScreenReader::overlayColor()
     return {0, 0, 0, 1};
 }
 
+std::shared_ptr<ScreenReader> ScreenReader::shared(const QRegion& area, Cover cover)
+{
+    static std::weak_ptr<ScreenReader> present;
+    auto reader = present.lock();
+    if (!reader || reader->m_cover != cover || reader->m_area != toDevice(area)) {
+        // Not std::make_shared(): see the constructor of WidgetColorPicker.
+        reader.reset(new ScreenReader(area, cover));
+        present = reader;
+    }
+    return reader;
+}
+
 ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& source)
     : m_source(&source)
+    , m_grabs(source.grabs())
     , m_cover(cover)
+    , m_area(toDevice(area))
 {
-    if (source.grabs() == ScreenSource::Grabs::Always) {
+    if (m_grabs == ScreenSource::Grabs::Always) {
         return;
     }
     const auto screens = QGuiApplication::screens();
     for (QScreen* screen : screens) {
-        const QRect geometry = screen->geometry();
-        const QRect part = (area & geometry).boundingRect().translated(-geometry.topLeft());
-        if (!part.isEmpty()) {
-            m_pictures.append({screen, geometry, toDevice(part.topLeft(), screen->devicePixelRatio()),
-                               source.grab(*screen, part)});
-        }
+        const QRect part = (m_area & toDevice(screen->geometry(), *screen)).boundingRect();
+        m_pictures.append({part.topLeft(), part.isEmpty() ? QImage() : source.grab(*screen, part)});
     }
 }
 
-bool ScreenReader::isOfPresentScreens() const
+QPixmap ScreenReader::picture(QScreen& screen) const
 {
-    const auto screens = QGuiApplication::screens();
-    return std::equal(screens.begin(), screens.end(), m_pictures.begin(), m_pictures.end(),
-                      [](const QScreen* screen, const Picture& picture) {
-                          return picture.screen == screen && picture.geometry == screen->geometry();
-                      });
-}
-
-QPixmap ScreenReader::picture(const QScreen& screen) const
-{
-    for (const Picture& picture : m_pictures) {
-        if (picture.screen == &screen) {
-            QPixmap pixmap = QPixmap::fromImage(picture.image);
-            pixmap.setDevicePixelRatio(screen.devicePixelRatio());
-            return pixmap;
-        }
-    }
-    return {};
+    const int index = QGuiApplication::screens().indexOf(&screen);
+    QPixmap pixmap = QPixmap::fromImage(m_pictures.value(index).image);
+    pixmap.setDevicePixelRatio(screen.devicePixelRatio());
+    return pixmap;
 }
 
 void ScreenReader::paint(const QWidget& window, const QRegion& painted)
 {
-    const qint64 now = m_source->now();
-    const QPair<const QWidget*, QRect> covering(&window, window.geometry());
-    if (!m_covering.contains(covering)) {
-        m_covering.append(covering);
-        m_coveredAt = now;
+    Window& known = m_windows[&window];
+    const QRegion cover = m_cover == Cover::Overlay ? toDevice(QRegion(window.geometry())) : QRegion();
+    const QRegion now = toDevice(painted);
+    // Pixels of a native window that has grown are arbitrary.
+    if (known.cover != cover) {
+        noteChange((known.cover + cover).boundingRect());
     }
-    const auto isLongGone = [now](const Painting& painting) {
-        return painting.goneAt && now - *painting.goneAt >= settleTime;
-    };
-    m_paintings.erase(std::remove_if(m_paintings.begin(), m_paintings.end(), isLongGone), m_paintings.end());
-
-    const auto current =
-        std::find_if(m_paintings.begin(), m_paintings.end(), [&window](const Painting& painting) {
-            return painting.window == &window && !painting.goneAt;
-        });
-    if (current != m_paintings.end()) {
-        if (current->area == painted) {
-            return;
-        }
-        current->goneAt = now;
+    if (known.painted != now) {
+        noteChange(known.painted.boundingRect());
     }
-    if (!painted.isEmpty()) {
-        m_paintings.append({&window, painted, std::nullopt});
-    }
+    known = {cover, now};
 }
 
 void ScreenReader::remove(const QWidget& window)
 {
-    for (Painting& painting : m_paintings) {
-        if (painting.window == &window) {
-            painting.goneAt = painting.goneAt.value_or(m_source->now());
-        }
-    }
-    const auto isItsOwn = [&window](const auto& covering) { return covering.first == &window; };
-    m_covering.erase(std::remove_if(m_covering.begin(), m_covering.end(), isItsOwn), m_covering.end());
-    if (m_covering.isEmpty()) {
-        m_coveredAt.reset();
-    }
+    const Window gone = m_windows.take(&window);
+    noteChange((gone.cover + gone.painted).boundingRect());
 }
 
 QColor ScreenReader::colorAt(const QPointF& position)
 {
-    const QPoint point = pointAt(position);
-    QScreen* const screen = QGuiApplication::screenAt(point);
+    QScreen* const screen = QGuiApplication::screenAt(pointAt(position));
     if (!screen) {
         return {};
     }
-    const qreal ratio = screen->devicePixelRatio();
-    const DevicePixel pixel = devicePixelAt(position - screen->geometry().topLeft(), ratio);
-    if (!unsettled(QRect(point, QSize(1, 1))).isEmpty()) {
-        if (const auto color = remembered(*screen, toDevice(pixel.area.topLeft(), ratio) + pixel.index)) {
-            return *color;
+    const QRect pixel(toDevice(position, *screen), QSize(1, 1));
+    if (!unsettled(pixel).isEmpty()) {
+        for (const Picture& picture : qAsConst(m_pictures)) {
+            if (picture.area().contains(pixel)) {
+                return QColor(picture.image.pixel(pixel.topLeft() - picture.corner));
+            }
         }
     }
-    const QImage live = m_source->grab(*screen, pixel.area);
-    return belowCover(live.valid(pixel.index) ? live.pixelColor(pixel.index) : QColor());
+    const QImage live = m_source->grab(*screen, pixel);
+    if (live.isNull()) {
+        return m_cover == Cover::Overlay ? QColor(Qt::black) : QColor();
+    }
+    return belowCover(live.pixel(0, 0));
 }
 
 ScreenReader::Detail ScreenReader::around(const QPoint& point, int size, QScreen& screen)
 {
     const qreal ratio = screen.devicePixelRatio();
-    const QRect geometry = screen.geometry();
-    const QRect area(point - QPoint(size / 2, size / 2), QSize(size, size));
-    const QRect inside = area & geometry;
-    const QRegion unsettledPart = unsettled(inside);
-    const QRegion settled = QRegion(inside) - unsettledPart;
-
-    // Device pixels of the desktop.
-    const auto onDesktop = [&](const QRect& part) {
-        return toDevice(part.translated(-geometry.topLeft()), ratio).translated(geometry.topLeft());
+    const QRect pixels(toDevice(point - QPoint(size / 2, size / 2), screen),
+                       (QSizeF(size, size) * ratio).toSize());
+    const QRect inside = pixels & toDevice(screen.geometry(), screen);
+    const QRegion settled = QRegion(inside) - unsettled(inside);
+    const Picture live = {inside.topLeft(), settled.isEmpty() ? QImage() : m_source->grab(screen, inside)};
+    const auto refresh = [this](QRgb seen, QRgb& kept) {
+        // What may still be the same stays: 127 and 128 are one value below the overlay.
+        if (seen != (m_cover == Cover::Overlay ? darkened(kept) : kept)) {
+            kept = belowCover(seen).rgb();
+        }
     };
-    QImage result((QSizeF(size, size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    result.fill(Qt::transparent);
-    const Placed<QImage> target{result, onDesktop(area).topLeft()};
-    bool isEmpty = true;
-    for (const Picture& picture : qAsConst(m_pictures)) {
-        const Placed<const QImage> source{picture.image, picture.geometry.topLeft() + picture.corner};
-        copy(source, target, source.rect());
-        isEmpty = isEmpty && picture.image.isNull();
-    }
-
-    const QImage live =
-        settled.isEmpty() ? QImage() : m_source->grab(screen, inside.translated(-geometry.topLeft()));
-    const Placed<const QImage> source{live, onDesktop(inside).topLeft()};
-    Picture* const picture = pictureOf(screen);
     for (const QRect& part : settled) {
-        copy(source, target, onDesktop(part));
-        if (picture) {
-            refresh(*picture, live, source.corner - geometry.topLeft(),
-                    onDesktop(part).translated(-geometry.topLeft()));
+        for (Picture& picture : m_pictures) {
+            combine(live, picture, part, refresh);
         }
     }
 
-    const QPoint middle = onDesktop(QRect(point, QSize(1, 1))).topLeft();
-    const bool isLive = settled.contains(point) && source.rect().contains(middle);
-    Detail detail;
-    detail.color = isLive ? belowCover(live.pixelColor(middle - source.corner)) : colorAt(point);
-    if (!isEmpty || !live.isNull()) {
-        result.setDevicePixelRatio(ratio);
-        detail.picture = QPixmap::fromImage(std::move(result));
+    Picture shown = live;
+    if (settled != QRegion(pixels)) {
+        shown = {pixels.topLeft(), QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied)};
+        shown.image.fill(Qt::transparent);
+        const auto copy = [](QRgb seen, QRgb& pixel) { pixel = seen; };
+        for (const Picture& picture : qAsConst(m_pictures)) {
+            combine(picture, shown, pixels, copy);
+        }
+        for (const QRect& part : settled) {
+            combine(live, shown, part, copy);
+        }
     }
-    return detail;
+
+    const QPoint middle = toDevice(point, screen);
+    const bool isLive = settled.contains(middle) && live.area().contains(middle);
+    shown.image.setDevicePixelRatio(ratio);
+    return {QPixmap::fromImage(shown.image),
+            isLive ? belowCover(live.image.pixel(middle - live.corner)) : colorAt(point)};
 }
 
-ScreenReader::Picture* ScreenReader::pictureOf(const QScreen& screen)
+/// Changes of a short while are one: a hand makes a thousand in a second.
+void ScreenReader::noteChange(const QRect& area)
 {
-    const auto found = std::find_if(m_pictures.begin(), m_pictures.end(),
-                                    [&screen](const Picture& picture) { return picture.screen == &screen; });
-    return found == m_pictures.end() || found->image.isNull() ? nullptr : &*found;
-}
-
-std::optional<QColor> ScreenReader::remembered(const QScreen& screen, const QPoint& pixel)
-{
-    const Picture* const picture = pictureOf(screen);
-    if (!picture || !picture->image.valid(pixel - picture->corner)) {
-        return std::nullopt;
-    }
-    return QColor(picture->image.pixel(pixel - picture->corner));
-}
-
-/// Whether the cover is what a grab shows over all pixels.
-bool ScreenReader::isCovered() const
-{
-    return m_cover == Cover::Nothing || (m_coveredAt && m_source->now() - *m_coveredAt >= settleTime);
-}
-
-/// The part of @p area where a grab may show what windows have painted besides the cover.
-QRegion ScreenReader::painted(const QRect& area) const
-{
+    constexpr qint64 shortWhile = settleTime / 10;
     const qint64 now = m_source->now();
-    // One more around it for what a fractional ratio rounds.
-    const QRect wider = area.adjusted(-1, -1, 1, 1);
-    QRegion result;
-    for (const Painting& painting : m_paintings) {
-        if (painting.area.intersects(wider) && (!painting.goneAt || now - *painting.goneAt < settleTime)) {
-            for (const QRect& part : painting.area) {
-                result += part.adjusted(-1, -1, 1, 1) & area;
-            }
+    while (!m_changes.isEmpty() && now - m_changes.constFirst().end >= settleTime) {
+        m_changes.removeFirst();
+    }
+    if (!m_changes.isEmpty() && now - m_changes.constLast().begin < shortWhile) {
+        m_changes.last().area |= area;
+        m_changes.last().end = now;
+    } else {
+        m_changes.append({area, now, now});
+    }
+}
+
+/// The part of @p area where a grab may show something else than the screen with the cover over it.
+QRegion ScreenReader::unsettled(const QRect& area) const
+{
+    if (m_grabs == ScreenSource::Grabs::Always) {
+        return {};
+    }
+    if (m_grabs == ScreenSource::Grabs::Never && m_cover == Cover::Overlay) {
+        return area;
+    }
+    QRegion result = m_cover == Cover::Overlay ? area : QRect();
+    for (const Window& window : m_windows) {
+        if (window.cover.intersects(area)) {
+            result -= window.cover;
+        }
+    }
+    for (const Window& window : m_windows) {
+        if (window.painted.intersects(area)) {
+            result += window.painted & area;
+        }
+    }
+    const qint64 now = m_source->now();
+    for (const Change& change : m_changes) {
+        if (change.area.intersects(area) && now - change.end < settleTime) {
+            result += change.area & area;
         }
     }
     return result;
 }
 
-/// The part of @p area whose pixels a grab may show with something else than the cover on them.
-QRegion ScreenReader::unsettled(const QRect& area) const
+QColor ScreenReader::belowCover(QRgb seen) const
 {
-    switch (m_source->grabs()) {
-    case ScreenSource::Grabs::Always:
-        return {};
-    case ScreenSource::Grabs::Never:
-        return area;
-    case ScreenSource::Grabs::OnceComposed:
-        break;
-    }
-    return isCovered() ? painted(area) : area;
-}
-
-QColor ScreenReader::belowCover(const QColor& seen) const
-{
+    const QColor color(seen);
     if (m_cover == Cover::Nothing) {
-        return seen.isValid() ? QColor(seen.rgb()) : QColor();
+        return color;
     }
     const qreal factor = 1.0 / (1.0 - overlayColor().alphaF());
-    return QColor::fromRgbF(seen.redF() * factor, seen.greenF() * factor, seen.blueF() * factor, 1.0);
-}
-
-/// A pixel that is still the same stays, with the cover over it or without: 127 and 128 are one value under
-/// an overlay.
-void ScreenReader::refresh(Picture& picture, const QImage& live, const QPoint& corner,
-                           const QRect& pixels) const
-{
-    const QRect shared = pixels & QRect(picture.corner, picture.image.size()) & QRect(corner, live.size());
-    for (int y = shared.top(); y <= shared.bottom(); ++y) {
-        const auto* seen = reinterpret_cast<const QRgb*>(live.constScanLine(y - corner.y())) - corner.x();
-        auto* kept =
-            reinterpret_cast<QRgb*>(picture.image.scanLine(y - picture.corner.y())) - picture.corner.x();
-        for (int x = shared.left(); x <= shared.right(); ++x) {
-            const QRgb same = opaque(kept[x]);
-            const QRgb now = opaque(seen[x]);
-            if (now != same && (m_cover == Cover::Nothing || now != withOverlay(same))) {
-                kept[x] = belowCover(QColor(now)).rgb();
-            }
-        }
-    }
+    return QColor::fromRgbF(color.redF() * factor, color.greenF() * factor, color.blueF() * factor);
 }
 
 namespace {
 
-struct Place
+struct Span
 {
-    int corner;
-    int index;
+    int first;
+    int length;
 };
 
-Place placeAlong(double position, double ratio)
+Span spanAround(int first, int last, qreal ratio)
 {
-    const int pixel = qRound(position * ratio);
-    // Where a picture begins is rounded too.
-    const auto begin = [ratio](int corner) { return qRound(corner * ratio); };
-    int corner = qFloor(pixel / ratio);
-    if (begin(corner) > pixel) {
-        --corner;
+    const auto pixels = [ratio](int points) { return qRound(points * ratio); };
+    Span points = {qFloor(first / ratio), 1};
+    if (pixels(points.first) > first) {
+        --points.first;
     }
-    return {corner, pixel - begin(corner)};
+    const int needed = last + 1 - pixels(points.first);
+    points.length = qMax(1, qFloor(needed / ratio));
+    while (pixels(points.length) < needed) {
+        ++points.length;
+    }
+    return points;
 }
 
 } // namespace
 
-DevicePixel devicePixelAt(const QPointF& position, qreal ratio)
+QRect pointsAround(const QRect& pixels, qreal ratio)
 {
-    const Place across = placeAlong(position.x(), ratio);
-    const Place down = placeAlong(position.y(), ratio);
-    const int sizeOfOne = qMax(1, qRound(ratio));
-    const int extent = qMax(across.index, down.index) < sizeOfOne ? 1 : 2;
-    return {QRect(across.corner, down.corner, extent, extent), QPoint(across.index, down.index)};
+    const Span across = spanAround(pixels.left(), pixels.right(), ratio);
+    const Span down = spanAround(pixels.top(), pixels.bottom(), ratio);
+    return {across.first, down.first, across.length, down.length};
 }
 
 QPoint pointAt(const QPointF& position)

@@ -3,18 +3,18 @@
 #pragma once
 
 #include <QColor>
+#include <QHash>
 #include <QImage>
 #include <QPixmap>
 #include <QPoint>
 #include <QPointF>
-#include <QPointer>
 #include <QRect>
 #include <QRegion>
-#include <QScreen>
 #include <QVector>
 
-#include <optional>
+#include <memory>
 
+class QScreen;
 class QWidget;
 
 /// Where the pixels come from, and when.
@@ -35,8 +35,8 @@ public:
 
     virtual Grabs grabs() const = 0;
 
-    /// A part of the screen, in the screen's own coordinates: RGB32, or null where there is no picture.
-    virtual QImage grab(QScreen& screen, const QRect& area) = 0;
+    /// A part of the screen, in device pixels of the desktop: RGB32, or null where there is no picture.
+    virtual QImage grab(QScreen& screen, const QRect& pixels) = 0;
 
     /// Milliseconds of any clock that only goes forward.
     virtual qint64 now() const = 0;
@@ -50,8 +50,8 @@ public:
  * what the picker paints. It grabs the pixels that no painting can have changed lately, which refreshes the
  * picture, and takes all others from the picture.
  *
- * Points are those of the desktop. A screen keeps its corner in device pixels, and has a ratio of them to a
- * point.
+ * What it is given is in points of the desktop. Inside, everything is in device pixels of the desktop: a
+ * screen keeps its corner, and has a ratio of them to a point.
  */
 class ScreenReader
 {
@@ -59,7 +59,7 @@ public:
     /// What lies over the pixels that are grabbed.
     enum class Cover {
         Nothing,
-        Overlay, ///< overlayColor(), from the first painting of each window on
+        Overlay, ///< overlayColor(), on each window from its first painting on
     };
 
     /// A picture, and the color of its middle.
@@ -76,16 +76,18 @@ public:
     /// would let the mouse through.
     static QColor overlayColor();
 
+    /// The reader of the last pick while somebody keeps it, if that was of the same area, or a new one. Keep
+    /// it for settleTime: a new one would take what is left of that pick on the screens for what is to be
+    /// picked.
+    static std::shared_ptr<ScreenReader> shared(const QRegion& area, Cover cover);
+
     /// Takes the picture of @p area.
     ScreenReader(const QRegion& area, Cover cover, ScreenSource& source = ScreenSource::platform());
 
-    /// Whether its pictures are those of the present screens.
-    bool isOfPresentScreens() const;
+    /// What the screen showed at the start; null when there is no picture of it.
+    QPixmap picture(QScreen& screen) const;
 
-    /// What the screen showed at the start; null for a screen that is not known or gives no picture.
-    QPixmap picture(const QScreen& screen) const;
-
-    /// @p window is being painted, with something besides the cover in @p painted, which is of the desktop.
+    /// @p window is being painted, with something besides the cover in @p painted.
     void paint(const QWidget& window, const QRegion& painted);
 
     /// @p window has gone.
@@ -96,50 +98,48 @@ public:
     QColor colorAt(const QPointF& position);
 
     /// The @p size by @p size points around @p point, which is on @p screen, as they are grabbed, with an
-    /// overlay on them; transparent beyond all screens. The color is as colorAt() gives it.
+    /// overlay on them; transparent where there is no picture. The color is as colorAt() gives it.
     Detail around(const QPoint& point, int size, QScreen& screen);
 
-private:
+    /// An image and where it is.
     struct Picture
     {
-        QPointer<QScreen> screen;
-        QRect geometry; ///< of the screen
-        QPoint corner;  ///< of the image in the screen, in device pixels
+        QPoint corner;
         QImage image;
-    };
-    struct Painting
-    {
-        const QWidget* window;
-        QRegion area;
-        std::optional<qint64> goneAt; ///< empty while it is there
+
+        QRect area() const { return {corner, image.size()}; }
     };
 
-    Picture* pictureOf(const QScreen& screen);
-    std::optional<QColor> remembered(const QScreen& screen, const QPoint& pixel);
-    bool isCovered() const;
-    QRegion painted(const QRect& area) const;
+private:
+    struct Window
+    {
+        QRegion cover;
+        QRegion painted;
+    };
+    /// What was painted otherwise for a while.
+    struct Change
+    {
+        QRect area;
+        qint64 begin;
+        qint64 end;
+    };
+
+    void noteChange(const QRect& area);
     QRegion unsettled(const QRect& area) const;
-    QColor belowCover(const QColor& seen) const;
-    void refresh(Picture& picture, const QImage& live, const QPoint& corner, const QRect& pixels) const;
+    QColor belowCover(QRgb seen) const;
 
     ScreenSource* m_source;
+    ScreenSource::Grabs m_grabs;
     Cover m_cover;
+    QRegion m_area;
     QVector<Picture> m_pictures;
-    QVector<Painting> m_paintings;
-    QVector<QPair<const QWidget*, QRect>> m_covering;
-    std::optional<qint64> m_coveredAt;
+    QHash<const QWidget*, Window> m_windows;
+    QVector<Change> m_changes;
 };
 
-/// The part of a screen to grab for one of its device pixels, and where that is in the picture.
-struct DevicePixel
-{
-    QRect area;   ///< in the screen's own coordinates
-    QPoint index; ///< in pixels of the picture
-};
-
-/// The pixel at @p position, in the coordinates of a screen with @p ratio device pixels a point. Qt rounds
-/// where a picture begins: at 1.25 it is not always the same pixel of a point.
-DevicePixel devicePixelAt(const QPointF& position, qreal ratio);
+/// The points of a screen to grab for these pixels of it, with @p ratio pixels a point. QScreen::grabWindow()
+/// rounds the corner and the size: at 1.25 some pixels take two points.
+QRect pointsAround(const QRect& pixels, qreal ratio);
 
 /// The point that the pixel at @p position belongs to. Rounding would give half of a point's pixels to the
 /// next one.

@@ -2,7 +2,6 @@
 
 #include "CursorGuard.h"
 #include "ScreenReader.h"
-#include "SwallowedPress.h"
 #include "WidgetColorPickerStylingObject.h"
 
 #include <GuiHelper/HighlightFrame.h>
@@ -23,65 +22,44 @@ using Orvane::Gui::HighlightFrame;
 
 namespace {
 
-// No outline is wider.
-constexpr int outlineWidth = 8;
-
 QRect onDesktop(const QWidget& widget)
 {
     const QRect area = widget.rect();
     return {widget.mapToGlobal(area.topLeft()), widget.mapToGlobal(area.bottomRight())};
 }
 
-// A window manager may place a window between two points, which Qt knows nothing of.
-constexpr int displacement = 2;
-
-QRect displaced(const QRect& area)
-{
-    return area.adjusted(-displacement, -displacement, displacement, displacement);
-}
-
 /// Where a widget at @p area may have its outline.
 QRegion outlineOf(const QRect& area)
 {
-    return QRegion(displaced(area)) - area.adjusted(outlineWidth, outlineWidth, -outlineWidth, -outlineWidth);
+    // A window manager may place a window between two points, which Qt knows nothing of.
+    constexpr int displacement = 2;
+    constexpr int widest = 8;
+    return QRegion(area.adjusted(-displacement, -displacement, displacement, displacement)) -
+           area.adjusted(widest, widest, -widest, -widest);
 }
 
-/// @p position, which is rounded, as the last event of the mouse has it, if that was there.
-QPointF unrounded(const QPoint& position, const QPointF& lastEvent)
+/// Keeps from all widgets the double click that Qt makes of a press which was kept from them: a button takes
+/// it for a press and stays down, as it is not told of the release. Deletes itself with the next press or
+/// release.
+class SwallowedPress : public QObject // clazy:exclude=missing-qobject-macro
 {
-    constexpr double most = 0.501;
-    const QPointF distance = lastEvent - position;
-    return qAbs(distance.x()) < most && qAbs(distance.y()) < most ? lastEvent : position;
-}
-
-/// A target and its place on the desktop, with the screen as it was before the outline.
-struct Outlined
-{
-    explicit Outlined(QWidget* widget)
-        : target(widget)
-        , place(onDesktop(*widget))
-        , reader(displaced(place), ScreenReader::Cover::Nothing)
+public:
+    SwallowedPress()
+        : QObject(qGuiApp)
     {
-        reader.paint(*widget->window(), outlineOf(place));
+        qGuiApp->installEventFilter(this);
     }
 
-    QPointer<QWidget> target;
-    QRect place;
-    ScreenReader reader;
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease) {
+            qGuiApp->removeEventFilter(this);
+            deleteLater();
+        }
+        return type == QEvent::MouseButtonDblClick;
+    }
 };
-
-/// The same as long as the screen may show the outline of a former pick, which would be taken for the target.
-std::shared_ptr<Outlined> sharedOutlined(QWidget* target)
-{
-    static std::weak_ptr<Outlined> present;
-    auto outlined = present.lock();
-    if (!outlined || outlined->target != target || outlined->place != onDesktop(*target)) {
-        // Not std::make_shared(): see the constructor of WidgetColorPicker.
-        outlined.reset(new Outlined(target));
-        present = outlined;
-    }
-    return outlined;
-}
 
 } // namespace
 
@@ -99,35 +77,34 @@ public:
         };
 
         QEventLoop loop;
-        std::shared_ptr<Outlined> outlined;
+        /// Where the target had its outline put, and the screen as it was before.
+        QRect place;
+        std::shared_ptr<ScreenReader> reader;
         /// Where the cursor was when stop() ended it, and the color there; empty until then.
         std::optional<Sample> end;
     };
 
-    Private(WidgetColorPicker* picker, const QSet<QWidget*>& set);
+    Private(WidgetColorPicker* picker, const QSet<QWidget*>& set)
+        : owner(picker)
+        , widgets(set.begin(), set.end())
+    {
+    }
 
     bool isInProgress() const { return run && run->loop.isRunning(); }
-    void watchTarget();
-    void targetDies();
     void takeCursor();
-    void applyCursor();
     void applyTarget();
     void removeOutline();
     void pick();
     void stop();
     void noteMouse(const QObject* watched, const QMouseEvent& event);
-    QPointF positionFor(const QWidget& widget, const QPointF& position) const;
     bool isActiveAt(const QPointF& position) const;
-
-    QPointF cursorPosition() const { return unrounded(QCursor::pos(), mouse); }
+    QPointF cursorPosition() const;
     bool isOverTarget(const QPointF& position) const;
-    QColor colorAt(const QPointF& position, Run& of) const;
-    void report(const QColor& picked);
+    QColor colorAt(const QPointF& position, const Run& of) const;
 
     /// Null when the picker has died.
     WidgetColorPicker* owner;
     QVector<QPointer<QWidget>> widgets;
-    QVector<QPointer<QWidget>> activeWidgets;
     /// The one that began last.
     Run* run = nullptr;
     QPointer<QWidget> target;
@@ -140,59 +117,24 @@ public:
 
     /// Where the mouse was in its last event, in global coordinates.
     QPointF mouse;
-    /// The window that it was in, and how far from where Qt says that is.
-    QPointer<const QWindow> mouseWindow;
+    /// From where Qt says that the window below it is to where it is: on a scaled screen that may be between
+    /// two points, which a widget's own conversions know nothing of.
     QPointF windowShift;
 };
-
-WidgetColorPicker::Private::Private(WidgetColorPicker* picker, const QSet<QWidget*>& set)
-    : owner(picker)
-{
-    for (QWidget* widget : set) {
-        if (widget) {
-            widgets.append(widget);
-        }
-    }
-}
-
-void WidgetColorPicker::Private::watchTarget()
-{
-    QObject::disconnect(targetWatch);
-    if (target) {
-        targetWatch = connect(target, &QObject::destroyed, owner, [this] { targetDies(); });
-    }
-}
-
-/// It is no more than a QWidget already. Its outline dies with it.
-void WidgetColorPicker::Private::targetDies()
-{
-    if (cursorGuard) {
-        cursorGuard->leaveAlone();
-    }
-    if (isInProgress()) {
-        run->loop.quit();
-    }
-}
 
 void WidgetColorPicker::Private::takeCursor()
 {
     cursor = stylingObject ? stylingObject->pickingCursor() : QCursor(Qt::CrossCursor);
 }
 
-void WidgetColorPicker::Private::applyCursor()
-{
-    // Two at once would each take the other's cursor for the target's own.
-    cursorGuard.reset();
-    cursorGuard = std::make_unique<CursorGuard>(target, cursor);
-}
-
 void WidgetColorPicker::Private::applyTarget()
 {
-    applyCursor();
-    activeWidgets = widgets;
-    activeWidgets.append(target);
+    cursorGuard = std::make_unique<CursorGuard>(target, cursor);
     removeOutline();
-    run->outlined = sharedOutlined(target);
+    run->place = onDesktop(*target);
+    const QRegion outline = outlineOf(run->place);
+    run->reader = ScreenReader::shared(outline, ScreenReader::Cover::Nothing);
+    run->reader->paint(*target->window(), outline);
     highlightFrame = std::make_unique<HighlightFrame>(target);
 }
 
@@ -200,7 +142,7 @@ void WidgetColorPicker::Private::removeOutline()
 {
     if (highlightFrame) {
         highlightFrame.reset();
-        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = run->outlined] {});
+        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = run->reader] {});
     }
 }
 
@@ -223,7 +165,6 @@ void WidgetColorPicker::Private::pick()
     // These two are still there when the application quits, which ends all loops.
     highlightFrame.reset();
     cursorGuard.reset();
-    activeWidgets.clear();
     if (owner) {
         qGuiApp->removeEventFilter(owner);
     }
@@ -233,8 +174,13 @@ void WidgetColorPicker::Private::pick()
         return;
     }
     const QColor picked = thisRun.end->position == position ? thisRun.end->color : colorAt(position, thisRun);
-    if (owner) {
-        report(picked);
+    const QPointer<WidgetColorPicker> picker = owner;
+    if (picker) {
+        color = picked;
+        Q_EMIT picker->colorChanged(color);
+    }
+    if (picker) {
+        Q_EMIT picker->pickingStopped();
     }
 }
 
@@ -258,49 +204,44 @@ void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseE
     if (const auto* window = qobject_cast<const QWindow*>(watched)) {
         const QPointF shift = mouse - event.windowPos() - window->mapToGlobal(QPoint(0, 0));
         const bool isOfRounding = qAbs(shift.x()) < 1 && qAbs(shift.y()) < 1;
-        mouseWindow = window;
         // More than that is a move that Qt has not heard of yet.
         windowShift = isOfRounding ? shift : QPointF();
     }
 }
 
-/// @p position as the widget's own conversions take it: on a scaled screen a window may begin between two
-/// points, which these know nothing of.
-QPointF WidgetColorPicker::Private::positionFor(const QWidget& widget, const QPointF& position) const
-{
-    const bool isShifted = mouseWindow && mouseWindow == widget.window()->windowHandle();
-    return isShifted ? position - windowShift : position;
-}
-
 bool WidgetColorPicker::Private::isActiveAt(const QPointF& position) const
 {
-    return std::any_of(activeWidgets.begin(), activeWidgets.end(), [&](const QWidget* widget) {
-        if (!widget) {
-            return false;
-        }
-        const QPointF place = positionFor(*widget, position);
-        const auto holds = [widget](const QPoint& point) {
-            return widget->rect().contains(widget->mapFromGlobal(point));
-        };
+    const auto holds = [place = position - windowShift](const QWidget* widget) {
         // Qt rounds when it looks for the receiver.
-        return holds(pointAt(place)) || holds(place.toPoint());
-    });
+        return widget && (widget->rect().contains(widget->mapFromGlobal(pointAt(place))) ||
+                          widget->rect().contains(widget->mapFromGlobal(place.toPoint())));
+    };
+    return holds(target) || std::any_of(widgets.begin(), widgets.end(), holds);
+}
+
+/// Not rounded, when the mouse is where its last event was.
+QPointF WidgetColorPicker::Private::cursorPosition() const
+{
+    constexpr double most = 0.501;
+    const QPoint rounded = QCursor::pos();
+    const QPointF distance = mouse - rounded;
+    return qAbs(distance.x()) < most && qAbs(distance.y()) < most ? mouse : rounded;
 }
 
 bool WidgetColorPicker::Private::isOverTarget(const QPointF& position) const
 {
-    return onDesktop(*target).contains(pointAt(positionFor(*target, position)));
+    return onDesktop(*target).contains(pointAt(position - windowShift));
 }
 
 /// What the screen shows there, or what the target paints where the screen does not tell: the target has
 /// taken its outline along, or the platform gives no picture.
-QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) const
+QColor WidgetColorPicker::Private::colorAt(const QPointF& position, const Run& of) const
 {
-    const QPoint point = pointAt(positionFor(*target, position));
+    const QPoint point = pointAt(position - windowShift);
     const QRect area = onDesktop(*target);
     QColor seen;
-    if (area == of.outlined->place) {
-        seen = of.outlined->reader.colorAt(position);
+    if (area == of.place) {
+        seen = of.reader->colorAt(position);
     } else if (!outlineOf(area).contains(point)) {
         seen = ScreenReader(QRegion(), ScreenReader::Cover::Nothing).colorAt(position);
     }
@@ -309,16 +250,6 @@ QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) con
     }
     const QRect pixel(point - area.topLeft(), QSize(1, 1));
     return QColor(target->grab(pixel).toImage().pixel(0, 0));
-}
-
-void WidgetColorPicker::Private::report(const QColor& picked)
-{
-    color = picked;
-    const QPointer<WidgetColorPicker> picker = owner;
-    Q_EMIT owner->colorChanged(color);
-    if (picker) {
-        Q_EMIT picker->pickingStopped();
-    }
 }
 
 WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
@@ -345,11 +276,15 @@ void WidgetColorPicker::setTarget(QWidget* target)
         return;
     }
     d->target = target;
-    d->watchTarget();
-    if (!isInProgress()) {
-        return;
-    }
+    disconnect(d->targetWatch);
     if (target) {
+        d->targetWatch = connect(target, &QObject::destroyed, this, [this] {
+            if (isInProgress()) {
+                d->run->loop.quit();
+            }
+        });
+    }
+    if (isInProgress() && target) {
         d->applyTarget();
     } else {
         stop();
@@ -372,7 +307,7 @@ void WidgetColorPicker::setStylingObject(WidgetColorPickerStylingObject* object)
     state->cursorGuard.reset();
     state->takeCursor();
     if (state->isInProgress() && state->owner && state->target) {
-        state->applyCursor();
+        state->cursorGuard = std::make_unique<CursorGuard>(state->target, state->cursor);
     }
 }
 
@@ -412,25 +347,20 @@ bool WidgetColorPicker::eventFilter(QObject* watched, QEvent* event)
 {
     // Painting the target without its outline is in the hands of the host, and may end in any way.
     const std::shared_ptr<Private> state = d;
-    if (state->isInProgress()) {
-        switch (event->type()) {
-        case QEvent::MouseMove:
-            state->noteMouse(watched, *static_cast<QMouseEvent*>(event));
-            break;
-        case QEvent::MouseButtonPress:
-            state->noteMouse(watched, *static_cast<QMouseEvent*>(event));
-            state->stop();
-            if (state->isActiveAt(state->mouse)) {
-                new SwallowedPress;
-                return true;
-            }
-            return false;
-        case QEvent::KeyPress:
-            state->stop();
-            return false;
-        default:
-            break;
-        }
+    const QEvent::Type type = event->type();
+    const bool isPress = type == QEvent::MouseButtonPress;
+    if (!state->isInProgress() || (!isPress && type != QEvent::MouseMove && type != QEvent::KeyPress)) {
+        return AbstractColorPicker::eventFilter(watched, event);
     }
-    return AbstractColorPicker::eventFilter(watched, event);
+    if (type != QEvent::KeyPress) {
+        state->noteMouse(watched, *static_cast<QMouseEvent*>(event));
+    }
+    if (type != QEvent::MouseMove) {
+        state->stop();
+    }
+    const bool isSwallowed = isPress && state->isActiveAt(state->mouse);
+    if (isSwallowed) {
+        new SwallowedPress;
+    }
+    return isSwallowed;
 }

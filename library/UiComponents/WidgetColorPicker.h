@@ -12,45 +12,25 @@ class WidgetColorPickerStylingObject;
 /**
  * Picks a colour from one widget of the application, for example the preview of a video.
  *
- * While picking, the target is outlined and shows a picking cursor. The next mouse press or key press
- * anywhere in the application ends it. If the cursor is over the target then, the colour of the pixel that
- * the screen shows under it is picked; otherwise there is none.
- *
  *     auto* picker = new WidgetColorPicker({button});
  *     picker->setTarget(preview);
- *     button->setPicker(picker);                  // a ColorPickerButton, which owns it from now on
+ *     button->setPicker(picker); // a ColorPickerButton, which owns it from now on
  *
- * WidgetColorPickerButton is a button with such a picker.
+ * While picking, an Orvane::Gui::HighlightFrame outlines the target, which shows a picking cursor. The next
+ * mouse press, or key that is no shortcut, ends it. A press over the target or over one of the constructor's
+ * widgets is swallowed, with the double click that may come of it; all else goes on to its receiver.
  *
- * **One pick.** pick() runs a nested event loop and returns when picking is over: expect any event in it.
- * A press over the target or over one of the constructor's widgets ends picking and is swallowed, with the
- * double click that may come of it; every other press, and every key that is no shortcut, ends picking and
- * goes on to its receiver. (A key that triggers a shortcut does just that, and picking goes on.) When a
- * colour was picked, colorChanged() is emitted with it and then pickingStopped(), both before pick() returns.
- * A pick without a colour emits nothing at all, and color() is invalid then: a ColorPickerButton stays
- * pressed until a pick brings a colour.
+ * If the cursor is over the target as pick() returns, the pixel below it is picked: colorChanged() and then
+ * pickingStopped() are emitted. Otherwise nothing is, and color() is invalid: a ColorPickerButton stays
+ * pressed until a pick brings a colour. The target's death and the end of the application pick nothing.
+ * Picks nest: one that is begun by what ended another is over first, and the cursor decides for both.
  *
- * It ends without a colour when the cursor is elsewhere as pick() returns, when the target dies or is set to
- * null, and when the application quits. Picks nest: one that is begun by what ended another is over first,
- * and the cursor decides for both.
- *
- * **The colour** is opaque, and that of the pixel as the screen shows it when the pick ends, with whatever
- * lies over the target, also when the press or the key then closes or moves it. Only the outermost 8 points
- * of the target, where its outline is, are those of a picture of the screen from before the pick, or as the
- * target paints itself when it has moved since. Where the platform gives no picture of the screen (as plain
- * Wayland) all of the target is as it paints itself.
- *
- * A mouse event tells the pixel, also where the screen has several for a point. A key that ends the pick
- * before the mouse has moved in it takes the pixel of the whole point that is next to the cursor.
- *
- * A program that runs through Xwayland is one of X11 to Qt, and may read black from the screen where there
- * is something else: nothing tells that from a black pixel.
- *
- * **Style sheet.** The outline is the Orvane::Gui::HighlightFrame of the target. The cursor is the styling
- * object's.
- *
- * **Lifetime.** The picker, its widgets, its target and the windows of them may be deleted while it picks
- * and in the slots of its signals. Whatever ends a pick, its outline, cursor and event filter go with it.
+ * The colour is opaque, and that of the screen when the pick ends, with whatever lies over the target, even
+ * if what ended it then closes or moves the target. The outermost 8 points, which the outline may cover, are
+ * those from before the pick, or as the target paints itself when it has moved since. Where the platform
+ * gives no picture of the screen (as plain Wayland), all of it is as the target paints itself; Xwayland may
+ * give a black one. A mouse event tells the pixel, also where the screen has several for a point; a key
+ * before the first one takes that of the whole point next to the cursor.
  */
 class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 {

@@ -10,9 +10,11 @@
 class WidgetColorPickerButton::Private
 {
 public:
-    explicit Private(WidgetColorPickerButton* button);
+    explicit Private(WidgetColorPickerButton* button)
+        : picker(std::make_unique<WidgetColorPicker>(QSet<QWidget*>{button}))
+    {
+    }
 
-    WidgetColorPickerButton* const owner;
     /// It has no parent, so that it dies while the button still is one.
     const std::unique_ptr<WidgetColorPicker> picker;
     QColor color;
@@ -21,12 +23,6 @@ public:
     /// Calls of startPicking() that have not returned.
     int picksOnStack = 0;
 };
-
-WidgetColorPickerButton::Private::Private(WidgetColorPickerButton* button)
-    : owner(button)
-    , picker(std::make_unique<WidgetColorPicker>(QSet<QWidget*>{button}))
-{
-}
 
 WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
     : QToolButton(parent)

@@ -17,24 +17,18 @@ class WidgetColorPickerStylingObject;
  *     button->setTargetWidget(preview);
  *     connect(button, &WidgetColorPickerButton::colorChanged, this, &KeyingPanel::setKeyColor);
  *
- * **One pick.** A click, Space or startPicking() emits pickingStarted(), picks, emits pickingFinished(), and
- * then takes the colour over if there is one; WidgetColorPicker says how a pick ends. It blocks in a nested
- * event loop meanwhile. A click on the button itself ends the pick, and so does Space while it has the
- * focus; neither begins the next one.
+ * A click, Space or startPicking() emits pickingStarted(), picks in a nested event loop, emits
+ * pickingFinished(), and then takes the colour over if there is one; WidgetColorPicker says how a pick ends.
+ * A click on the button itself ends it, and so does Space while it has the focus; neither begins the next
+ * one. The button is disabled while it has no target. A new one has none.
  *
- * The button is disabled while it has no target. A new one has none.
+ * While changeSelfColor() is on, which is the default, the button paints nothing but the face of a push
+ * button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into the
+ * button's own style sheet, in the place of what was there. Border, size and padding are those that the
+ * application's sheet gives to WidgetColorPickerButton or QToolButton. Off, it is a QToolButton as any other.
  *
- * **Style sheet.** While changeSelfColor() is on, which is the default, the button paints nothing but the
- * face of a push button, without text and icon, and each colour writes
- * `QToolButton { background-color: #rrggbb }` into the button's own style sheet, in the place of what was
- * there. Border, size and padding are those that the application's sheet gives to the class
- * WidgetColorPickerButton, or to QToolButton. Off, it is a QToolButton as any other.
- *
- *     WidgetColorPickerButton { min-width: 40px; min-height: 16px; border-radius: 4px; }
- *
- * **Lifetime.** The button, its target and their windows may be deleted while it picks and in a slot of any
- * of its signals. A button whose popupMode() is MenuButtonPopup is an exception: QToolButton goes on using it
- * after a click, so delete it later.
+ * A button whose popupMode() is MenuButtonPopup may not be deleted while it picks or in a slot of one of its
+ * signals: QToolButton goes on using it after a click.
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public QToolButton
 {

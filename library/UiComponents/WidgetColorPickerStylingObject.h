@@ -7,15 +7,6 @@
 /**
  * What a host can choose about the look of picking a colour from a widget: the cursor over the target.
  *
- *     class PickingLook : public WidgetColorPickerStylingObject
- *     {
- *     public:
- *         QCursor pickingCursor() const override
- *         {
- *             return QCursor(QPixmap(QStringLiteral(":/pipette.png")), 0, 15);
- *         }
- *     };
- *
  * Derive from it, keep the object, and lend it to WidgetColorPicker::setStylingObject() or
  * WidgetColorPickerButton::setPickerStylingObject(). One object may serve any number of pickers. It has no
  * data of its own and may be copied.

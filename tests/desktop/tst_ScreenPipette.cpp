@@ -132,7 +132,9 @@ bool moveMouse(const QPoint& global)
 /// Before any program can follow the move.
 bool moveMouseAndClick(const QPoint& global)
 {
-    return xdotool(moving(global) << QStringLiteral("click") << QStringLiteral("1"));
+    // Without a delay the tool would wait 100 ms after the click.
+    return xdotool(moving(global) << QStringLiteral("click") << QStringLiteral("--delay")
+                                  << QStringLiteral("0") << QStringLiteral("1"));
 }
 
 } // namespace

@@ -14,8 +14,6 @@ private Q_SLOTS:
     void widgetDiesFirst();
     void severalOnOneWidget_data();
     void severalOnOneWidget();
-    void widgetLeftAlone();
-    void withoutAWidgetTheApplicationHasTheCursor();
 };
 
 void tst_CursorGuard::bringsTheFormerCursorBack()
@@ -102,27 +100,6 @@ void tst_CursorGuard::severalOnOneWidget()
     QCOMPARE(widget.cursor().shape(), hasOwnCursor ? Qt::IBeamCursor : Qt::ArrowCursor);
     QCOMPARE(widget.testAttribute(Qt::WA_SetCursor), hasOwnCursor);
     QCOMPARE(other.cursor().shape(), Qt::WaitCursor);
-}
-
-void tst_CursorGuard::widgetLeftAlone()
-{
-    QWidget widget;
-    {
-        CursorGuard guard(&widget, Qt::CrossCursor);
-        guard.leaveAlone();
-    }
-    QCOMPARE(widget.cursor().shape(), Qt::CrossCursor);
-    QVERIFY(!QGuiApplication::overrideCursor());
-}
-
-void tst_CursorGuard::withoutAWidgetTheApplicationHasTheCursor()
-{
-    {
-        const CursorGuard guard(nullptr, Qt::CrossCursor);
-        QVERIFY(QGuiApplication::overrideCursor());
-        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::CrossCursor);
-    }
-    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 UIC_TEST_MAIN(tst_CursorGuard)

@@ -14,6 +14,11 @@ const QRgb loupeColor = qRgb(255, 0, 255);
 class Screen : public ScreenSource
 {
 public:
+    explicit Screen(Grabs grabs = Grabs::OnceComposed)
+        : kind(grabs)
+    {
+    }
+
     static QRgb below(const QPoint& point)
     {
         return qRgb((point.x() * 7 + 1) % 256, (point.y() * 5 + 2) % 256, (point.x() + point.y()) % 256);
@@ -52,7 +57,7 @@ public:
         return hasOverlay ? covered(color) : color;
     }
 
-    Grabs kind = Grabs::OnceComposed;
+    Grabs kind;
     bool isBlind = false;
     bool hasOverlay = false;
     bool hasChanged = false;
@@ -66,8 +71,10 @@ const QRect everything(0, 0, 800, 600);
 /// A reader below a window that has covered the screen for long.
 struct Settled
 {
-    explicit Settled(ScreenReader::Cover cover = ScreenReader::Cover::Overlay)
-        : reader(everything, cover, screen)
+    explicit Settled(ScreenReader::Cover cover = ScreenReader::Cover::Overlay,
+                     ScreenSource::Grabs kind = ScreenSource::Grabs::OnceComposed)
+        : screen(kind)
+        , reader(everything, cover, screen)
     {
         window.setGeometry(everything);
         reader.paint(window, QRegion());
@@ -124,10 +131,10 @@ private Q_SLOTS:
     void withoutAnyPicture();
     void pointOnNoScreen();
 
-    void devicePixels_data();
-    void devicePixels();
-    void everyDevicePixel_data();
-    void everyDevicePixel();
+    void pointsOfPixels_data();
+    void pointsOfPixels();
+    void everyPixelIsInItsPoints_data();
+    void everyPixelIsInItsPoints();
     void pointOfADevicePixel();
 };
 
@@ -304,7 +311,7 @@ void tst_ScreenReader::detailIsPutTogether()
     for (int y = 0; y < size; ++y) {
         for (int x = 0; x < size; ++x) {
             const QPoint at = point + QPoint(x - 6, y - 6);
-            const bool isKept = loupe.adjusted(-1, -1, 1, 1).contains(at);
+            const bool isKept = loupe.contains(at);
             QCOMPARE(pixelOf(detail, {x, y}),
                      isKept ? Screen::below(at) : Screen::covered(Screen::below(at)));
         }
@@ -339,14 +346,18 @@ void tst_ScreenReader::edgesOfTheScreen()
 
 void tst_ScreenReader::opaqueWindowsAreNotRead()
 {
-    Settled settled;
-    settled.screen.kind = ScreenSource::Grabs::Never;
+    Settled settled(ScreenReader::Cover::Overlay, ScreenSource::Grabs::Never);
     const QPoint point(200, 300);
     QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
     const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
     QCOMPARE(detail.color, QColor(Screen::below(point)));
     QCOMPARE(pixelOf(detail, {6, 6}), Screen::below(point));
     QCOMPARE(settled.screen.grabbed, QVector<QRect>());
+
+    // Without a cover there are none.
+    Settled bare(ScreenReader::Cover::Nothing, ScreenSource::Grabs::Never);
+    bare.screen.hasChanged = true;
+    QCOMPARE(bare.reader.colorAt(point), QColor(bare.screen.shownAt(point)));
 }
 
 void tst_ScreenReader::windowsOfTheirOwnAreAlwaysRead()
@@ -368,7 +379,7 @@ void tst_ScreenReader::withoutAnyPicture()
     ScreenReader covered(everything, ScreenReader::Cover::Overlay, screen);
     QCOMPARE(covered.colorAt(point), QColor(Qt::black));
     const auto detail = covered.around(point, size, *QGuiApplication::primaryScreen());
-    QVERIFY(detail.picture.isNull());
+    QCOMPARE(pixelOf(detail, {6, 6}), 0U);
     QCOMPARE(detail.color, QColor(Qt::black));
     ScreenReader bare(everything, ScreenReader::Cover::Nothing, screen);
     QVERIFY(!bare.colorAt(point).isValid());
@@ -393,31 +404,28 @@ void tst_ScreenReader::pointOnNoScreen()
     QVERIFY(!settled.reader.colorAt(QPoint(-100, 5000)).isValid());
 }
 
-void tst_ScreenReader::devicePixels_data()
+void tst_ScreenReader::pointsOfPixels_data()
 {
-    QTest::addColumn<QPointF>("position");
+    QTest::addColumn<QRect>("pixels");
     QTest::addColumn<double>("ratio");
-    QTest::addColumn<QRect>("area");
-    QTest::addColumn<QPoint>("index");
-    QTest::newRow("1") << QPointF(7, 9) << 1.0 << QRect(7, 9, 1, 1) << QPoint(0, 0);
-    QTest::newRow("2, a whole point") << QPointF(7, 9) << 2.0 << QRect(7, 9, 1, 1) << QPoint(0, 0);
-    QTest::newRow("2, between two") << QPointF(7.5, 9.5) << 2.0 << QRect(7, 9, 1, 1) << QPoint(1, 1);
-    QTest::newRow("1.5, a whole point") << QPointF(3, 2) << 1.5 << QRect(3, 2, 1, 1) << QPoint(0, 0);
-    QTest::newRow("1.5, pixel 4") << QPointF(4 / 1.5, 0) << 1.5 << QRect(2, 0, 1, 1) << QPoint(1, 0);
-    QTest::newRow("1.25, pixel 1") << QPointF(1 / 1.25, 0) << 1.25 << QRect(0, 0, 2, 2) << QPoint(1, 0);
-    QTest::newRow("the corner") << QPointF(0, 0) << 3.0 << QRect(0, 0, 1, 1) << QPoint(0, 0);
+    QTest::addColumn<QRect>("points");
+    QTest::newRow("1") << QRect(7, 9, 13, 13) << 1.0 << QRect(7, 9, 13, 13);
+    QTest::newRow("2, all of a point") << QRect(14, 18, 2, 2) << 2.0 << QRect(7, 9, 1, 1);
+    QTest::newRow("2, its last pixel") << QRect(15, 19, 1, 1) << 2.0 << QRect(7, 9, 1, 1);
+    QTest::newRow("2, over an edge") << QRect(15, 19, 2, 1) << 2.0 << QRect(7, 9, 2, 1);
+    QTest::newRow("1.5, first pixel") << QRect(3, 6, 1, 1) << 1.5 << QRect(2, 4, 1, 1);
+    QTest::newRow("1.5, second pixel") << QRect(4, 0, 1, 1) << 1.5 << QRect(2, 0, 1, 1);
+    QTest::newRow("1.25, which takes two") << QRect(1, 0, 1, 1) << 1.25 << QRect(0, 0, 2, 1);
 }
 
-void tst_ScreenReader::devicePixels()
+void tst_ScreenReader::pointsOfPixels()
 {
-    QFETCH(QPointF, position);
+    QFETCH(QRect, pixels);
     QFETCH(double, ratio);
-    const DevicePixel pixel = devicePixelAt(position, ratio);
-    QTEST(pixel.area, "area");
-    QTEST(pixel.index, "index");
+    QTEST(pointsAround(pixels, ratio), "points");
 }
 
-void tst_ScreenReader::everyDevicePixel_data()
+void tst_ScreenReader::everyPixelIsInItsPoints_data()
 {
     QTest::addColumn<double>("ratio");
     for (const double ratio : {0.5, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.25, 2.5, 3.0, 4.0}) {
@@ -426,15 +434,19 @@ void tst_ScreenReader::everyDevicePixel_data()
 }
 
 // QScreen::grabWindow() rounds the corner and the size to pixels.
-void tst_ScreenReader::everyDevicePixel()
+void tst_ScreenReader::everyPixelIsInItsPoints()
 {
     QFETCH(double, ratio);
     for (int place = 0; place < 3000; ++place) {
-        const DevicePixel pixel = devicePixelAt(QPointF(place / ratio, 0), ratio);
-        QCOMPARE(qRound(pixel.area.x() * ratio) + pixel.index.x(), place);
-        QVERIFY(pixel.index.x() >= 0);
-        QVERIFY(pixel.index.x() < qRound(pixel.area.width() * ratio));
-        QCOMPARE(pixel.index.y(), 0);
+        for (const int length : {1, 13, 20}) {
+            const QRect points = pointsAround(QRect(place, 0, length, 1), ratio);
+            const int begin = qRound(points.x() * ratio);
+            QVERIFY(begin <= place);
+            QVERIFY(begin + qRound(points.width() * ratio) >= place + length);
+            // And no more than these need.
+            QVERIFY(points.width() <= length / ratio + 2);
+            QCOMPARE(points.y(), 0);
+        }
     }
 }
 
