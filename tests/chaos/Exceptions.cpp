@@ -1,0 +1,271 @@
+#include "Exceptions.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+/// While @p name is under way for an object of @p type, neither it nor what owns it is deleted at once.
+struct Row
+{
+    const char* type;
+    const char* name;   ///< of a signal or an action; null for any
+    Doings doing;       ///< what that is; none for anything
+    Doings around;      ///< in the middle of one of these, unless that is none
+    const char* signal; ///< in a slot of this signal; null for any
+    const char* file;   ///< below the checkout's root: a header, or what shows that Qt does not survive it
+    const char* words;  ///< what it says there
+};
+
+constexpr const char* qt = "tests/chaos/QtDefects.cpp";
+
+const std::vector<Row>& rows()
+{
+    static const Doings input = Doing::Typing | Doing::Wheel | Doing::Mouse;
+    static const Doings notEntering =
+        input | Doing::Showing | Doing::Forcing | Doing::Deleting | Doing::Other;
+    static const std::vector<Row> table{
+        {"ColorBlendingComboBox",
+         "blendingModeChanged",
+         {},
+         {},
+         nullptr,
+         "library/UiComponents/ColorBlendingComboBox.h",
+         "In a slot of blendingModeChanged(), delete the box with deleteLater()"},
+        {"ColorPickerButton",
+         "pickingStopped",
+         {},
+         Doing::Showing,
+         nullptr,
+         "library/UiComponents/ColorPickerButton.h",
+         "a slot of pickingStopped() that runs because the button is being hidden must use deleteLater()"},
+        {"ColorPickerWidget",
+         "colorChanged",
+         {},
+         Doing::Showing,
+         nullptr,
+         "library/UiComponents/ColorPickerWidget.h",
+         "a slot of colorChanged() that runs because the panel is being shown or hidden must use "
+         "deleteLater()"},
+        {"SliderInputWidget",
+         "valueChanged",
+         {},
+         input,
+         nullptr,
+         "library/UiComponents/SliderInputWidget.h",
+         "except while the user types or steps in the spin box"},
+        {"DoubleSliderInputWidget",
+         "valueChanged",
+         {},
+         input,
+         nullptr,
+         "library/UiComponents/SliderInputWidget.h",
+         "except while the user types or steps in the spin box"},
+        {"PointSelectorWidget",
+         "valueChanged",
+         {},
+         input,
+         nullptr,
+         "library/UiComponents/PointSelectorWidget.h",
+         "except while the user types or steps in a spin box"},
+        {"SearchWidget",
+         nullptr,
+         Doing::Signal,
+         {},
+         nullptr,
+         "library/UiComponents/SearchWidget.h",
+         "In slots of both signals delete the widget with deleteLater()"},
+        {"PathSelectionWidget",
+         "checkPath",
+         {},
+         {},
+         nullptr,
+         "library/UiComponents/PathSelectionWidget.h",
+         "What happens when checkPath() takes the keyboard from another widget must not delete it"},
+        {"OvCustomSlider", nullptr, Doing::Signal, Doing::Forcing, nullptr,
+         "platform/WidgetToolkit/OvCustomSlider.h",
+         "Behind the signals of setRange(), setMinimum(), setMaximum(),"},
+        {"OvCustomSlider", "sliderMoved", Doing::Signal, Doing::Call, nullptr,
+         "platform/WidgetToolkit/OvCustomSlider.h", "behind sliderMoved() of a setValue() during a drag"},
+        {"OvCustomSlider",
+         "rangeChanged",
+         Doing::Signal,
+         {},
+         nullptr,
+         "platform/WidgetToolkit/Util.h",
+         "a slider in setRange()"},
+        {"QAbstractSpinBox", nullptr, Doing::Signal, notEntering, nullptr,
+         "platform/WidgetToolkit/OvSpinBox.h",
+         "Behind all others, above all while the user types or steps, QAbstractSpinBox goes on"},
+        {"QAbstractSpinBox",
+         nullptr,
+         input,
+         {},
+         "valueChanged",
+         "platform/WidgetToolkit/Util.h",
+         "a spin box while the user types or steps in it"},
+        {"QLineEdit",
+         nullptr,
+         input,
+         {},
+         "valueChanged",
+         "platform/WidgetToolkit/Util.h",
+         "a spin box while the user types or steps in it"},
+        {"QAbstractSpinBox",
+         nullptr,
+         input,
+         {},
+         "doubleValueChanged",
+         "platform/WidgetToolkit/Util.h",
+         "a spin box while the user types or steps in it"},
+        {"QLineEdit",
+         nullptr,
+         input,
+         {},
+         "doubleValueChanged",
+         "platform/WidgetToolkit/Util.h",
+         "a spin box while the user types or steps in it"},
+        {"QAbstractSpinBox", "valueChanged(QString)", Doing::Signal, Doing::Call, nullptr,
+         "platform/WidgetToolkit/OvSpinBox.h",
+         "Behind all others, above all while the user types or steps, QAbstractSpinBox goes on"},
+        {"QAbstractSpinBox", "textChanged", Doing::Signal, Doing::Call, nullptr,
+         "platform/WidgetToolkit/OvSpinBox.h",
+         "Behind all others, above all while the user types or steps, QAbstractSpinBox goes on"},
+
+        {"QWidget", nullptr, {}, {}, "editingFinished", qt, "focusTakerIsDeleted"},
+        {"QWidget", nullptr, {}, {}, "released", qt, "focusTakerIsDeleted"},
+        {"QWidget", nullptr, Doing::Showing, {}, nullptr, qt, "hiddenWidgetIsDeleted"},
+        {"QAbstractButton", "released", {}, {}, nullptr, qt, "releasedButtonIsDeleted"},
+        {"QAbstractButton", "toggled", {}, {}, nullptr, qt, "toggledButtonIsDeleted"},
+        {"QAbstractItemView", nullptr, Doing::Signal, {}, nullptr, qt, "viewIsDeleted"},
+        {"QComboBox", nullptr, Doing::Signal, {}, nullptr, qt, "comboBoxIsDeleted"},
+        {"QDialog", nullptr, Doing::Signal, {}, nullptr, qt, "dialogIsDeleted"},
+        {"QLineEdit", nullptr, Doing::Signal, {}, nullptr, qt, "lineEditIsDeleted"},
+    };
+    return table;
+}
+
+struct Text
+{
+    const char* pattern;
+    const char* why;
+};
+
+const std::vector<Text>& expectedTexts()
+{
+    static const std::vector<Text> texts{
+        {"^This plugin does not support ", "what the off-screen platform cannot do"},
+        {"^Could not parse (application )?style ?sheet", "a broken sheet was set"},
+        {"^QWidget::set(M(in|ax)imumSize|WindowModified): ", "so were other properties"},
+        {"^No colour was picked: (there is no screen at|this platform cannot grab) ",
+         "the mouse left the off-screen platform's screen"},
+        {"^QComboBox::setMaxCount: ", "so were other properties"},
+        {"^QComboBox::setMaxVisibleItems: ", "so were other properties"},
+        {"^QSpinBox::setDisplayIntegerBase: ", "so were other properties"},
+        {"^QObject::connect: Cannot connect .nullptr.::currentChanged",
+         "a key comes to a box whose model is gone"},
+        {"^Invalid batchSize ", "so were other properties"},
+        {"^edit: (index was invalid|editing failed)", "a view was asked to edit nothing"},
+        {"^QBasicTimer::start: Timers cannot have negative timeouts", "an automatic repetition was"},
+        {"^QItemSelectionModel: Selecting when no model has been set", "a view without a model selects"},
+        {"^QWidgetLineControl::setSelection: Invalid start position", "an input method selects"},
+        {"^file:///.*(/broken-|file to open is a directory)|^QQuickWidget does not support using windows as "
+         "a root item",
+         "so was a scene"},
+        {"^Could not (find main qml file|resolve root object)", "QuickContent.h: \"glog gets a warning\""},
+    };
+    return texts;
+}
+
+/// Whether @p object goes with @p owner, or shows it.
+bool isAt(const QObject* object, const QObject* owner)
+{
+    const auto* view = qobject_cast<const QAbstractItemView*>(object);
+    const auto* box = qobject_cast<const QComboBox*>(object);
+    if ((view && view->model() == owner) || (box && box->model() == owner)) {
+        return true;
+    }
+    for (; object; object = object->parent()) {
+        if (object == owner) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+int Exceptions::forbidding(const World& world, const QObject* victim)
+{
+    Doings around;
+    // Of overloaded signals, only one may be meant.
+    const auto isNamed = [](const Frame& frame, const char* name) {
+        return frame.name == name || frame.name.startsWith(QByteArray(name) + '(');
+    };
+    for (int i = 0; i < world.frames.size(); ++i) {
+        const Frame& frame = world.frames[i];
+        around |= frame.doing;
+        if (!frame.object || !isAt(frame.object, victim)) {
+            continue;
+        }
+        const auto isInSlotOf = [&](const char* signal) {
+            return std::any_of(world.frames.begin() + i, world.frames.end(), [&](const Frame& inner) {
+                return inner.doing == Doing::Signal && isNamed(inner, signal);
+            });
+        };
+        for (std::size_t j = 0; j < rows().size(); ++j) {
+            const Row& row = rows()[j];
+            if (frame.object->inherits(row.type) && (!row.name || isNamed(frame, row.name)) &&
+                (!row.doing || (row.doing & frame.doing)) && (!row.around || (row.around & around)) &&
+                (!row.signal || isInSlotOf(row.signal))) {
+                return static_cast<int>(j);
+            }
+        }
+    }
+    return -1;
+}
+
+bool Exceptions::forbidsLoop(const QObject* sender)
+{
+    // Qt's views hold references to what a step in the loop changes: viewIsSteppedInALoop.
+    return qobject_cast<const QAbstractItemView*>(sender);
+}
+
+bool Exceptions::isExpected(const QString& message)
+{
+    for (const Text& text : expectedTexts()) {
+        if (QRegularExpression(QLatin1String(text.pattern)).match(message).hasMatch()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Exceptions::mayStayPressed(const QObject* object)
+{
+    // ColorPickerButton.h: "A picker that ends in silence leaves the button pressed".
+    // And Qt lets a scroll bar be that was hidden while it was pressed: hiddenScrollBarStaysPressed.
+    return object->inherits("ColorPickerButton") || object->inherits("QScrollBar");
+}
+
+int Exceptions::checkCitations(const QString& root)
+{
+    int wrong = 0;
+    for (const Row& row : rows()) {
+        QFile file(QDir(root).filePath(QLatin1String(row.file)));
+        QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        text.remove(
+            QRegularExpression(QStringLiteral("^\\s*(\\*|///)"), QRegularExpression::MultilineOption));
+        if (!text.simplified().contains(QLatin1String(row.words))) {
+            std::fprintf(stderr, "%s does not say \"%s\"\n", row.file, row.words);
+            ++wrong;
+        }
+    }
+    return wrong;
+}

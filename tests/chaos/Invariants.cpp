@@ -1,0 +1,244 @@
+#include "Invariants.h"
+
+#include "Clock.h"
+#include "Exceptions.h"
+#include "Journal.h"
+#include "World.h"
+
+#include <QAbstractButton>
+#include <QAbstractEventDispatcher>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QMutex>
+#include <QThread>
+#include <QWindow>
+
+#include <cstdlib>
+#include <cxxabi.h>
+#include <dlfcn.h>
+#include <map>
+#include <memory>
+#include <typeinfo>
+#include <unordered_set>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/asan_interface.h>
+#endif
+
+// What Qt offers to debuggers: functions to be called for every object that is made and that dies.
+extern Q_CORE_EXPORT quintptr qtHookData[]; // NOLINT(modernize-avoid-c-arrays)
+
+namespace {
+
+constexpr int addObjectHook = 3;
+constexpr int removeObjectHook = 4;
+constexpr qint64 longestStep = 1000; // ms
+
+using Objects = std::unordered_set<QObject*>;
+// Never destroyed: objects die after main(), too.
+Objects& objects = *new Objects;
+Objects& filters = *new Objects; // on the application
+Objects& before = *new Objects;
+QMutex mutex;
+std::map<QObject*, int>& timersBefore = *new std::map<QObject*, int>;
+qint64 stepBegan = 0;
+QString delivered; // the events, since it was emptied
+
+void added(QObject* object)
+{
+    const QMutexLocker lock(&mutex);
+    objects.insert(object);
+}
+
+void removed(QObject* object)
+{
+    const QMutexLocker lock(&mutex);
+    objects.erase(object);
+    filters.erase(object);
+    before.erase(object);
+}
+
+/// The class of @p object, also where it has no meta-object of its own.
+QByteArray typeOf(const QObject* object)
+{
+    const std::unique_ptr<char, decltype(&std::free)> name(
+        abi::__cxa_demangle(typeid(*object).name(), nullptr, nullptr, nullptr), &std::free);
+    return name.get();
+}
+
+/// Whether the class of @p object is Qt's, by the library that its table of functions is in.
+bool isQts(const QObject* object)
+{
+    Dl_info library = {};
+    const bool isFound = dladdr(*reinterpret_cast<void* const*>(object), &library) != 0;
+    const QByteArray path = isFound ? library.dli_fname : "";
+    return path.contains("/libQt5") || path.contains("/qt5/");
+}
+
+QString names(const QVector<QObject*>& found)
+{
+    QStringList list;
+    for (const QObject* object : found) {
+        list += QString::fromUtf8(typeOf(object)) + QLatin1Char(' ') + object->objectName();
+    }
+    return list.join(QStringLiteral(", "));
+}
+
+/// Of this thread, that were not there before the first window.
+QVector<QObject*> newOnes(const Objects& among)
+{
+    const QMutexLocker lock(&mutex);
+    QVector<QObject*> found;
+    for (QObject* object : among) {
+        if (before.count(object) == 0 && object->thread() == QThread::currentThread()) {
+            found.append(object);
+        }
+    }
+    return found;
+}
+
+/// What is new, without the few of a kind that Qt makes when they are first needed and keeps.
+QVector<QObject*> leftovers()
+{
+    constexpr int few = 4;
+    std::map<QByteArray, int> counts;
+    QVector<QObject*> left;
+    for (QObject* object : newOnes(objects)) {
+        const bool isSeen = object->isWidgetType() || object->isWindowType();
+        if (!isQts(object) || isSeen || ++counts[typeOf(object)] > few) {
+            left.append(object);
+        }
+    }
+    return left;
+}
+
+std::map<QObject*, int> timersOf(const Objects& among)
+{
+    const QMutexLocker lock(&mutex);
+    std::map<QObject*, int> counts;
+    for (QObject* object : among) {
+        if (object->thread() == QThread::currentThread()) {
+            counts[object] = QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+        }
+    }
+    return counts;
+}
+
+void check(bool isGood, const QString& problem)
+{
+    if (!isGood) {
+        Journal::fail(problem);
+    }
+}
+
+} // namespace
+
+// In the place of Qt's, for libraries that look for it: notes the filters of the application.
+Q_DECL_EXPORT void installEventFilter(QObject* watched,
+                                      QObject* filter) __asm__("_ZN7QObject18installEventFilterEPS_");
+void installEventFilter(QObject* watched, QObject* filter)
+{
+    using Function = void (*)(QObject*, QObject*);
+    static const auto original =
+        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN7QObject18installEventFilterEPS_"));
+    original(watched, filter);
+    if (watched == qApp && filter) {
+        const QMutexLocker lock(&mutex);
+        filters.insert(filter);
+    }
+}
+
+Q_DECL_EXPORT void removeEventFilter(QObject* watched,
+                                     QObject* filter) __asm__("_ZN7QObject17removeEventFilterEPS_");
+void removeEventFilter(QObject* watched, QObject* filter)
+{
+    using Function = void (*)(QObject*, QObject*);
+    static const auto original =
+        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN7QObject17removeEventFilterEPS_"));
+    original(watched, filter);
+    if (watched == qApp) {
+        const QMutexLocker lock(&mutex);
+        filters.erase(filter);
+    }
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    constexpr int mostLetters = 200;
+    if (delivered.size() < mostLetters && event->type() != QEvent::Timer) {
+        delivered += QStringLiteral("%1 to %2; ").arg(event->type()).arg(World::nameOf(receiver));
+    }
+    return QApplication::notify(receiver, event);
+}
+
+void Invariants::begin()
+{
+    qtHookData[addObjectHook] = reinterpret_cast<quintptr>(&added);
+    qtHookData[removeObjectHook] = reinterpret_cast<quintptr>(&removed);
+}
+
+void Invariants::rememberObjects()
+{
+    before = objects;
+    timersBefore = timersOf(objects);
+    stepBegan = Clock::cpuMilliseconds();
+}
+
+void Invariants::checkAtRest()
+{
+    // More than any layout takes. A movie may paint now and then: a little time passes in turns, too.
+    constexpr int enough = 100;
+    int turn = 0;
+    do {
+        delivered.clear();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    } while (!delivered.isEmpty() && ++turn < enough);
+    check(turn < enough, QStringLiteral("does not come to rest: ") + delivered);
+}
+
+void Invariants::checkSettled()
+{
+    check(!QWidget::mouseGrabber(),
+          QStringLiteral("the mouse is grabbed by %1").arg(World::nameOf(QWidget::mouseGrabber())));
+    check(!QWidget::keyboardGrabber(),
+          QStringLiteral("the keyboard is grabbed by %1").arg(World::nameOf(QWidget::keyboardGrabber())));
+    check(!QApplication::overrideCursor(), QStringLiteral("an override cursor is left"));
+    check(!QApplication::activePopupWidget(), QStringLiteral("a pop-up is left"));
+    for (QObject* filter : newOnes(filters)) {
+        // A tip of Qt's goes by itself, after a while.
+        check(filter->inherits("QTipLabel"),
+              QStringLiteral("filters the application still: ") + World::nameOf(filter));
+    }
+    for (QObject* object : newOnes(objects)) {
+        check(!object->inherits("HighlightFrameOverlay"), QStringLiteral("a highlight is left"));
+        const auto* button = qobject_cast<QAbstractButton*>(object);
+        const auto* slider = qobject_cast<QAbstractSlider*>(object);
+        const bool isPressed = (button && button->isDown()) || (slider && slider->isSliderDown());
+        check(!isPressed || Exceptions::mayStayPressed(object),
+              QStringLiteral("stays pressed: ") + World::nameOf(object));
+    }
+}
+
+void Invariants::checkEmpty()
+{
+    checkSettled();
+    const QVector<QObject*> left = leftovers();
+#ifdef __SANITIZE_ADDRESS__
+    for (QObject* object : left) {
+        __asan_describe_address(object);
+    }
+#endif
+    check(left.isEmpty(), QStringLiteral("left behind: ") + names(left));
+    for (const auto& [object, count] : timersOf(objects)) {
+        check(count <= timersBefore[object] || isQts(object),
+              QStringLiteral("a timer is left of ") + World::nameOf(object));
+    }
+}
+
+void Invariants::noteStep()
+{
+    const qint64 now = Clock::cpuMilliseconds();
+    check(now - stepBegan < longestStep, QStringLiteral("a step took %1 ms").arg(now - stepBegan));
+    stepBegan = now;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QApplication>
+
+/// Counts what is delivered.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override;
+};
+
+/**
+ * What holds whenever a window has come to its end. Each is a failure of the program otherwise.
+ */
+namespace Invariants {
+
+/// To be called before the application is made.
+void begin();
+/// Remembers what there is before the first window.
+void rememberObjects();
+
+/// Nothing goes on any more while time stands still: no painting that leads to the next one.
+void checkAtRest();
+/// Nobody picks, grabs, is pressed or waits any more.
+void checkSettled();
+/// Nothing of the windows is left: objects, timers, event filters, cursors.
+void checkEmpty();
+
+/// Is called between any two steps: fails when the former took a second of the processor's.
+void noteStep();
+
+} // namespace Invariants

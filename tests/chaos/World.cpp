@@ -1,0 +1,309 @@
+#include "World.h"
+
+#include "Actions.h"
+#include "Components.h"
+#include "Exceptions.h"
+#include "Invariants.h"
+#include "Journal.h"
+#include "Listener.h"
+
+#include <UiComponents/Pipette.h>
+#include <UiComponents/WidgetColorPicker.h>
+#include <UiComponents/WidgetColorPickerButton.h>
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QDialog>
+#include <QMouseEvent>
+#include <QThread>
+#include <QTimer>
+#include <QToolTip>
+#include <QWindow>
+
+namespace {
+
+constexpr int deepest = 4;
+constexpr int patience = 100;
+constexpr int mostEndings = 3000;
+
+int loopLevel()
+{
+    return QThread::currentThread()->loopLevel();
+}
+
+template <typename Pointers>
+auto living(const Pointers& pointers)
+{
+    QVector<std::remove_reference_t<decltype(*pointers.first().data())>*> objects;
+    for (const auto& pointer : pointers) {
+        if (pointer) {
+            objects.append(pointer.data());
+        }
+    }
+    return objects;
+}
+
+void stopPick(QObject* object)
+{
+    if (auto* picker = qobject_cast<AbstractColorPicker*>(object)) {
+        picker->stop();
+    } else if (auto* pipette = qobject_cast<Pipette*>(object)) {
+        pipette->stopPicking();
+    } else if (auto* button = qobject_cast<WidgetColorPickerButton*>(object)) {
+        button->stopPicking();
+    }
+}
+
+void endModal(QWidget* widget)
+{
+    if (auto* dialog = qobject_cast<QDialog*>(widget)) {
+        dialog->reject();
+    } else if (widget) {
+        widget->close();
+    }
+}
+
+/// Qt leaves what is hidden while it is pressed as it is, until the next release.
+void releaseAll(QWidget* window)
+{
+    QVector<QPointer<QWidget>> widgets;
+    for (QWidget* widget : window->findChildren<QWidget*>() + QList<QWidget*>{window}) {
+        widgets.append(widget);
+    }
+    for (const auto& widget : qAsConst(widgets)) {
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        const auto* slider = qobject_cast<QAbstractSlider*>(widget);
+        if ((button && button->isDown()) || (slider && slider->isSliderDown())) {
+            QMouseEvent event(QEvent::MouseButtonRelease, QPoint(-9, -9), Qt::LeftButton, Qt::NoButton,
+                              Qt::NoModifier);
+            QCoreApplication::sendEvent(widget, &event);
+        }
+    }
+}
+
+} // namespace
+
+World::World(quint64 seed, QObject* parent)
+    : QObject(parent)
+    , random(seed)
+    , m_steps(20 + random.below(180))
+{
+    guard(0, [this] { Components::build(*this); });
+}
+
+World::~World() = default;
+
+void World::step()
+{
+    if (frames.isEmpty()) {
+        for (QObject* object : living(m_doomed)) {
+            object->deleteLater();
+        }
+        m_doomed.clear();
+    }
+    guard(random.below(8), [this] { Actions::act(*this); });
+}
+
+/// Runs @p action. In event loops that it begins, @p budget other steps are taken, and then all loops end.
+void World::guard(int budget, const std::function<void()>& action)
+{
+    Invariants::noteStep();
+    const int level = loopLevel();
+    QTimer heart;
+    connect(&heart, &QTimer::timeout, this, [this, level, &budget] {
+        if (loopLevel() > level) {
+            stepInLoop(budget);
+        }
+    });
+    heart.start(1);
+    ++m_depth;
+    action();
+    --m_depth;
+    if (frames.isEmpty()) {
+        m_endings = 0;
+    }
+    Invariants::noteStep();
+}
+
+void World::stepInLoop(int& budget)
+{
+    if (budget > 0 && m_depth < deepest) {
+        --budget;
+        step();
+    } else {
+        guard(0, [this] { endLoops(); });
+    }
+}
+
+void World::endLoops()
+{
+    if (++m_endings > mostEndings) {
+        Journal::fail(QStringLiteral("an event loop does not end"));
+    }
+    Journal::note(QStringLiteral("end of the loops"));
+    for (QEventLoop* loop : qAsConst(m_loops)) {
+        loop->quit();
+    }
+    for (QObject* object : living(others)) {
+        stopPick(object);
+    }
+    const QVector<Part> present = parts;
+    for (const Part& part : present) {
+        stopPick(part.object);
+    }
+    if (QWidget* const popup = QApplication::activePopupWidget()) {
+        popup->close();
+    }
+    if (m_endings % patience == 0) {
+        // A dialog without a size is nobody's modal one.
+        for (const Part& part : present) {
+            if (auto* dialog = qobject_cast<QDialog*>(part.object)) {
+                dialog->reject();
+            }
+        }
+        // Qt waits for ever for a menu that was closed while it was being opened.
+        for (QWidget* widget : QApplication::allWidgets()) {
+            if (widget->inherits("QMenu")) {
+                widget->show();
+                widget->close();
+            }
+        }
+    }
+    endModal(QApplication::activeModalWidget());
+}
+
+void World::rest()
+{
+    guard(0, [] { Invariants::checkAtRest(); });
+}
+
+void World::settle()
+{
+    guard(0, [this] {
+        Journal::note(QStringLiteral("settle"));
+        QToolTip::hideText();
+        endLoops();
+        while (QWidget* const popup = QApplication::activePopupWidget()) {
+            popup->close();
+            if (popup == QApplication::activePopupWidget()) {
+                Journal::fail(QStringLiteral("a pop-up does not close: %1").arg(nameOf(popup)));
+            }
+        }
+        Actions::letGo(*this);
+        for (QObject* object : living(others)) {
+            if (object->inherits("Orvane::Gui::HighlightFrame")) {
+                delete object;
+            }
+        }
+        for (QWidget* widget : living(tops)) {
+            releaseAll(widget);
+        }
+    });
+}
+
+void World::clear()
+{
+    guard(0, [this] {
+        for (const auto& object : qAsConst(others)) {
+            remove(object, random.oneIn(2));
+        }
+        for (const auto& top : qAsConst(tops)) {
+            remove(top, random.oneIn(2));
+        }
+    });
+}
+
+void World::add(QObject* object, const Component* component)
+{
+    parts.append({object, component});
+    m_listeners.push_back(std::make_unique<Listener>(*this, object));
+    Journal::note(QStringLiteral("made %1").arg(nameOf(object)));
+}
+
+void World::addTop(QWidget* widget)
+{
+    constexpr int most = 5000;
+    widget->setMaximumSize(most, most);
+    tops.append(widget);
+}
+
+QWidget* World::anyTop()
+{
+    const auto present = living(tops);
+    return present.isEmpty() ? nullptr : present[random.below(present.size())];
+}
+
+QWidget* World::anyWidget()
+{
+    QWidget* widget = anyTop();
+    if (random.oneIn(3)) {
+        widget = random.oneIn(2) ? QApplication::activePopupWidget() : QApplication::activeWindow();
+    }
+    while (widget) {
+        QVector<QWidget*> children;
+        for (QObject* child : widget->children()) {
+            if (child->isWidgetType() && !child->inherits("HighlightFrameOverlay")) {
+                children.append(static_cast<QWidget*>(child));
+            }
+        }
+        if (children.isEmpty() || random.oneIn(6)) {
+            break;
+        }
+        widget = children[random.below(children.size())];
+    }
+    return widget;
+}
+
+Part World::anyPart()
+{
+    QVector<Part> present;
+    for (const Part& part : qAsConst(parts)) {
+        if (part.object) {
+            present.append(part);
+        }
+    }
+    return present.isEmpty() ? Part() : present[random.below(present.size())];
+}
+
+QWidget* World::anyPartWidget()
+{
+    return qobject_cast<QWidget*>(anyPart().object);
+}
+
+void World::remove(QObject* victim, bool now)
+{
+    if (!victim) {
+        return;
+    }
+    const int row = Exceptions::forbidding(*this, victim);
+    Journal::note(QStringLiteral("delete %1 %2")
+                      .arg(nameOf(victim), now ? QStringLiteral("now") : QStringLiteral("later")) +
+                  (row < 0 ? QString() : QStringLiteral(", but for row %1").arg(row)));
+    if (row >= 0) {
+        // Not deleteLater(): an inner loop would see to it in the middle of what is forbidden.
+        m_doomed.append(victim);
+    } else if (!now) {
+        victim->deleteLater();
+    } else {
+        const Under under(*this, Doing::Deleting, nullptr, "delete");
+        delete victim;
+    }
+}
+
+void World::runLoop()
+{
+    QEventLoop loop;
+    m_loops.append(&loop);
+    loop.exec();
+    m_loops.removeOne(&loop);
+}
+
+QString World::nameOf(const QObject* object)
+{
+    if (!object) {
+        return QStringLiteral("nothing");
+    }
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QLatin1String(object->metaObject()->className()), object->objectName().left(20));
+}
