@@ -22,7 +22,7 @@
  * The colour is opaque and that of the pixel without the pipette's windows, which a black of alpha 1 of 255
  * darkens: 127 and 128 are both picked as 128, and a channel of 255 as 255 * 255 / 254 (a QColor of the model
  * ExtendedRgb, whose rgb() and name() are white's). Where the pipette's own painting may be seen, as in the
- * first half second, the pixel is that of a picture from before the pick. Without a compositor all are, and
+ * first second, the pixel is that of a picture from before the pick. Without a compositor all are, and
  * the screens stand still meanwhile. Xwayland shows nothing of other applications: run on Wayland itself.
  *
  * Where the system guards the screen (see PrivacyAccess.h), startPicking() asks for a missing permission and

@@ -271,7 +271,7 @@ ScreenReader::Detail ScreenReader::around(const QPoint& point, int size, QScreen
 /// Changes of a short while are one: a hand makes a thousand in a second.
 void ScreenReader::noteChange(const QRect& area)
 {
-    constexpr qint64 shortWhile = settleTime / 10;
+    constexpr qint64 shortWhile = 50;
     const qint64 now = m_source->now();
     while (!m_changes.isEmpty() && now - m_changes.constFirst().end >= settleTime) {
         m_changes.removeFirst();

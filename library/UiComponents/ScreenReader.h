@@ -70,7 +70,7 @@ public:
     };
 
     /// Longer than any compositor takes to show a painting, in milliseconds.
-    static constexpr int settleTime = 500;
+    static constexpr int settleTime = 1000;
 
     /// The color with which the pipette covers the screens: black, as thin as it can be. A window without any
     /// would let the mouse through.

@@ -354,7 +354,7 @@ void tst_WidgetPicking::windowBetweenPoints()
                                     QString::number(place.y())}),
                  0);
         // Qt knows nothing of the move: what the pickers remember of the last outline is to be over.
-        QTest::qWait(600);
+        QTest::qWait(1100);
         const QPoint corner = place + inWindow;
         QTRY_COMPARE(pickAtNative(corner + QPoint(41, 31), false), Target::colorAt(QPoint(41, 31)));
         const QRect all(QPoint(0, 0), (QSizeF(target.size()) * target.devicePixelRatioF()).toSize());

@@ -165,7 +165,7 @@ void tst_ScreenReader::uncoveredPixelsComeFromThePicture()
     QWidget window;
     window.setGeometry(everything);
     const QPoint point(200, 300);
-    for (const int elapsed : {0, 10, 400}) {
+    for (const int elapsed : {0, 10, ScreenReader::settleTime - 100}) {
         screen.time += elapsed;
         QCOMPARE(reader.colorAt(point), QColor(Screen::below(point)));
         QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
@@ -174,7 +174,7 @@ void tst_ScreenReader::uncoveredPixelsComeFromThePicture()
         reader.paint(window, QRegion());
     }
     screen.hasOverlay = true;
-    screen.time += 400;
+    screen.time += ScreenReader::settleTime;
     QCOMPARE(reader.colorAt(point), corrected(screen.shownAt(point)));
 }
 
@@ -217,8 +217,8 @@ void tst_ScreenReader::paintedPixelsComeFromThePicture_data()
     QTest::newRow("there") << -1 << false;
     QTest::newRow("just gone") << 0 << false;
     QTest::newRow("gone two frames ago") << 33 << false;
-    QTest::newRow("gone on a slow machine") << 499 << false;
-    QTest::newRow("long gone") << 500 << true;
+    QTest::newRow("gone on a slow machine") << ScreenReader::settleTime - 1 << false;
+    QTest::newRow("long gone") << ScreenReader::settleTime << true;
 }
 
 void tst_ScreenReader::paintedPixelsComeFromThePicture()
