@@ -3,6 +3,8 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QGraphicsProxyWidget>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QImage>
 #include <QLabel>
 #include <QMouseEvent>
@@ -44,18 +46,23 @@ inline QWidget* viewOf(const QScreen* screen)
     return nullptr;
 }
 
-/// The one that was made last; null while none is seen.
+/// The one in a window that is shown; null while none is seen. That of the last pick may be alive, too.
 inline QWidget* loupe()
 {
-    QWidget* found = nullptr;
     const auto widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         const QGraphicsProxyWidget* const proxy = widget->graphicsProxyWidget();
-        if (widget->inherits("LoupeWidget") && proxy && proxy->isVisible()) {
-            found = widget;
+        if (!widget->inherits("LoupeWidget") || !proxy || !proxy->isVisible() || !proxy->scene()) {
+            continue;
+        }
+        const auto shownIn = proxy->scene()->views();
+        for (const QGraphicsView* view : shownIn) {
+            if (view->isVisible()) {
+                return widget;
+            }
         }
     }
-    return found;
+    return nullptr;
 }
 
 /// Where it stands on the desktop.
