@@ -22,7 +22,7 @@ README_ROWS = [
     "ColorPickerWidget/make and first show, against QColorDialog",
     "ColorPlane/render 512 x 512 with AVX2, against the plain loop",
     "pipette/move of the loupe, against painting the screen",
-    "pipette/click until colorSelected on 1 screen, against one grab",
+    "pipette/release until colorSelected on 1 screen, at rest, against one grab",
     "ValueInputs/a value through SliderInputWidget, against two unbound setValue",
     "AdjustingListView/resize 10,000 rows when loaded, against QListView",
     "applyProperty/changed colour, against setProperty, unpolish and polish",
