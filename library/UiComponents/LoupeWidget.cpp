@@ -1,7 +1,5 @@
 #include "LoupeWidget.h"
 
-#include "LoupePlacement.h"
-
 #include <EditorWidgets/Workaround.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
@@ -19,7 +17,7 @@
 class LoupeWidget::Private
 {
 public:
-    int placement = LoupePlacement::AboveRight;
+    int placement = AboveRight;
     QPainterPath clipPath;
     QPixmap pixmap;
     QColor emptyPixelsColor;
@@ -71,9 +69,21 @@ int LoupeWidget::placement() const
     return d->placement;
 }
 
+LoupeWidget::Placement LoupeWidget::placementAt(const QPoint& cursor, const QRect& screen, const QSize& loupe)
+{
+    const QRect inner = screen.adjusted(loupe.width(), loupe.height(), -loupe.width(), -loupe.height());
+    const bool isFarRight = cursor.x() > inner.right();
+    if (cursor.y() >= inner.top()) {
+        return isFarRight ? AboveLeft : AboveRight;
+    }
+    return isFarRight ? BelowLeft : BelowRight;
+}
+
 QSize LoupeWidget::offset() const
 {
-    return LoupePlacement::offset(d->placement, size());
+    const bool isLeft = d->placement == BelowLeft || d->placement == AboveLeft;
+    const bool isAbove = d->placement == AboveLeft || d->placement == AboveRight;
+    return {isLeft ? -width() : 0, isAbove ? -height() : 0};
 }
 
 void LoupeWidget::setPixmap(const QPixmap& pixmap)

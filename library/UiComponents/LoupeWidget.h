@@ -25,6 +25,14 @@ class LoupeWidget : public QWidget
     Q_PROPERTY(QColor emptyPixelsColor READ emptyPixelsColor WRITE setEmptyPixelsColor)
 
 public:
+    /// Where the loupe sits, seen from the cursor. The numbers are fixed.
+    enum Placement {
+        BelowRight = 0,
+        BelowLeft = 1,
+        AboveLeft = 2,
+        AboveRight = 3, ///< where there is room
+    };
+
     /// So many pixels of the desktop are magnified in each direction.
     static constexpr int pixels = 13;
 
@@ -35,12 +43,17 @@ public:
     QColor emptyPixelsColor() const;
     void setEmptyPixelsColor(const QColor& color);
 
-    /// Where the loupe sits beside the cursor, a LoupePlacement::Placement; above right at first. Moves
-    /// nothing.
+    /// A Placement; above right at first. Moves nothing.
     void setPlacement(int placement);
     int placement() const;
 
-    /// From the cursor to the loupe's top-left corner, in its present size and placement.
+    /// The placement for a cursor, in points of the desktop: below it within one loupe's height of the
+    /// screen's top, left of it within one loupe's width of the right edge. The other two edges decide
+    /// nothing: above right, the loupe does not reach them.
+    static Placement placementAt(const QPoint& cursor, const QRect& screen, const QSize& loupe);
+
+    /// From the cursor to the loupe's top-left corner, in its present size and placement; nothing for a
+    /// number that is no placement.
     QSize offset() const;
 
     /// The picture to magnify: 13 by 13 pixels of the desktop.

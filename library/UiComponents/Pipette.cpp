@@ -1,7 +1,5 @@
 #include "Pipette.h"
 
-#include "InputFocus.h"
-#include "LoupePlacement.h"
 #include "LoupeWidget.h"
 #include "PipetteScreenView.h"
 #include "ScreenReader.h"
@@ -19,6 +17,12 @@
 #include <QTimer>
 #include <QVector>
 #include <QWindow>
+#ifdef QT_X11EXTRAS_LIB
+#include <QX11Info>
+
+#include <cstdlib>
+#include <xcb/xcb.h>
+#endif
 
 #include <utility>
 
@@ -35,6 +39,37 @@ bool mayReadScreen()
     }
     Orvane::Util::RequestPrivacyAccess(screenCapture);
     return false;
+}
+
+/// Whether another program has the keyboard, as the window manager has it. Qt reports an application inactive
+/// also while nobody has it, as between two windows of which a slow window manager has taken it from one and
+/// not yet given it to the other. True where nothing tells.
+bool isFocusOfAnotherProgram()
+{
+#ifdef QT_X11EXTRAS_LIB
+    if (QX11Info::isPlatformX11()) {
+        xcb_connection_t* const connection = QX11Info::connection();
+        const auto root = static_cast<xcb_window_t>(QX11Info::appRootWindow());
+        constexpr char name[] = "_NET_ACTIVE_WINDOW";
+        const auto nameCookie = xcb_intern_atom(connection, 0, sizeof name - 1, name);
+        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
+            xcb_intern_atom_reply(connection, nameCookie, nullptr), &std::free);
+        if (!atom) {
+            return true;
+        }
+        const auto cookie = xcb_get_property(connection, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1);
+        const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> property(
+            xcb_get_property_reply(connection, cookie, nullptr), &std::free);
+        if (property && xcb_get_property_value_length(property.get()) == sizeof(xcb_window_t)) {
+            const auto active = *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
+            // The windows of one program share the bits outside of the mask.
+            const xcb_setup_t* const setup = xcb_get_setup(connection);
+            const bool isOwn = ((active ^ setup->resource_id_base) & ~setup->resource_id_mask) == 0;
+            return active != XCB_WINDOW_NONE && !isOwn;
+        }
+    }
+#endif
+    return true;
 }
 
 QRect desktop()
@@ -244,7 +279,7 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
     if (!m_loupe || !screen) {
         return;
     }
-    m_loupe->setPlacement(LoupePlacement::placementAt(cursorPos, screen->geometry(), m_loupe->size()));
+    m_loupe->setPlacement(LoupeWidget::placementAt(cursorPos, screen->geometry(), m_loupe->size()));
     const QSize offset = m_loupe->offset();
     m_loupe->graphicsProxyWidget()->setPos(cursorPos.x() + offset.width(), cursorPos.y() + offset.height());
     const ScreenReader::Detail detail = m_reader->around(cursorPos, LoupeWidget::pixels, *screen);

@@ -117,13 +117,16 @@ public:
             }
         }
 #endif
+        // A point more on each side: grabWindow() rounds the corner and the size.
         const QPoint corner = screen.geometry().topLeft();
-        const QRect points = pointsAround(pixels.translated(-corner), screen.devicePixelRatio());
+        const qreal ratio = screen.devicePixelRatio();
+        const QRectF exact(QPointF(pixels.topLeft() - corner) / ratio, QSizeF(pixels.size()) / ratio);
+        const QRect points = exact.toAlignedRect().adjusted(-1, -1, 1, 1) & QRect(QPoint(), screen.size());
         const QPixmap grabbed = screen.grabWindow(0, points.x(), points.y(), points.width(), points.height());
+        const QPoint first = pixels.topLeft() - toDevice(points.topLeft() + corner, screen);
         QImage image = grabbed.toImage().convertToFormat(QImage::Format_RGB32);
         image.setDevicePixelRatio(1.0);
-        const QPoint first = pixels.topLeft() - toDevice(points.topLeft() + corner, screen);
-        return image.size() == pixels.size() ? image : image.copy(QRect(first, pixels.size()));
+        return image.isNull() ? image : image.copy(QRect(first, pixels.size()));
     }
 
     qint64 now() const override
@@ -321,38 +324,6 @@ QColor ScreenReader::belowCover(QRgb seen) const
     }
     const qreal factor = 1.0 / (1.0 - overlayColor().alphaF());
     return QColor::fromRgbF(color.redF() * factor, color.greenF() * factor, color.blueF() * factor);
-}
-
-namespace {
-
-struct Span
-{
-    int first;
-    int length;
-};
-
-Span spanAround(int first, int last, qreal ratio)
-{
-    const auto pixels = [ratio](int points) { return qRound(points * ratio); };
-    Span points = {qFloor(first / ratio), 1};
-    if (pixels(points.first) > first) {
-        --points.first;
-    }
-    const int needed = last + 1 - pixels(points.first);
-    points.length = qMax(1, qFloor(needed / ratio));
-    while (pixels(points.length) < needed) {
-        ++points.length;
-    }
-    return points;
-}
-
-} // namespace
-
-QRect pointsAround(const QRect& pixels, qreal ratio)
-{
-    const Span across = spanAround(pixels.left(), pixels.right(), ratio);
-    const Span down = spanAround(pixels.top(), pixels.bottom(), ratio);
-    return {across.first, down.first, across.length, down.length};
 }
 
 QPoint pointAt(const QPointF& position)

@@ -137,10 +137,6 @@ private:
     QVector<Change> m_changes;
 };
 
-/// The points of a screen to grab for these pixels of it, with @p ratio pixels a point. QScreen::grabWindow()
-/// rounds the corner and the size: at 1.25 some pixels take two points.
-QRect pointsAround(const QRect& pixels, qreal ratio);
-
 /// The point that the pixel at @p position belongs to. Rounding would give half of a point's pixels to the
 /// next one.
 QPoint pointAt(const QPointF& position);

@@ -69,6 +69,8 @@ class tst_LoupeWidget : public QObject
 private Q_SLOTS:
     void metaObject();
     void construction();
+    void placementAt_data();
+    void placementAt();
     void offsetFollowsPlacementAndSize();
     void colorName();
     void emptyPixelsColorIsStoredOnce();
@@ -141,6 +143,56 @@ void tst_LoupeWidget::construction()
     // Looks and size are the sheet's.
     QCOMPARE(loupe.minimumSize(), QSize(0, 0));
     QCOMPARE(loupe.maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
+
+void tst_LoupeWidget::placementAt_data()
+{
+    QTest::addColumn<QRect>("screen");
+    QTest::addColumn<QSize>("loupe");
+    QTest::addColumn<QPoint>("cursor");
+    QTest::addColumn<int>("placement");
+
+    const QSize loupe(100, 60);
+    const auto addScreen = [&loupe](const char* name, const QRect& screen) {
+        const auto row = [&](const char* place, const QPoint& fromCorner, LoupeWidget::Placement placement) {
+            QTest::addRow("%s: %s", name, place)
+                << screen << loupe << screen.topLeft() + fromCorner << int(placement);
+        };
+        const int right = screen.width() - 1;
+        const int bottom = screen.height() - 1;
+        row("middle", {right / 2, bottom / 2}, LoupeWidget::AboveRight);
+        row("left edge", {0, bottom / 2}, LoupeWidget::AboveRight);
+        row("bottom edge", {right / 2, bottom}, LoupeWidget::AboveRight);
+        row("bottom left corner", {0, bottom}, LoupeWidget::AboveRight);
+        row("first row with room above", {200, 60}, LoupeWidget::AboveRight);
+        row("last row without room above", {200, 59}, LoupeWidget::BelowRight);
+        row("top edge", {200, 0}, LoupeWidget::BelowRight);
+        row("top left corner", {0, 0}, LoupeWidget::BelowRight);
+        row("last column with room on the right", {right - 100, 300}, LoupeWidget::AboveRight);
+        row("first column without room on the right", {right - 99, 300}, LoupeWidget::AboveLeft);
+        row("right edge", {right, 300}, LoupeWidget::AboveLeft);
+        row("bottom right corner", {right, bottom}, LoupeWidget::AboveLeft);
+        row("top right corner", {right, 0}, LoupeWidget::BelowLeft);
+        row("top right, at both limits", {right - 100, 60}, LoupeWidget::AboveRight);
+        row("top right, beyond both limits", {right - 99, 59}, LoupeWidget::BelowLeft);
+    };
+    addScreen("first screen", {0, 0, 1280, 800});
+    addScreen("left and above", {-1024, -768, 1024, 768});
+    addScreen("odd corner", {-7, 341, 641, 481});
+
+    // Right and top have their say even where the two exclude each other.
+    QTest::newRow("screen narrower than the loupe") << QRect(0, 0, 80, 800) << loupe << QPoint(10, 400) << 2;
+    QTest::newRow("screen lower than the loupe") << QRect(0, 0, 800, 50) << loupe << QPoint(10, 40) << 0;
+    QTest::newRow("loupe without a size") << QRect(0, 0, 800, 600) << QSize(0, 0) << QPoint(799, 0) << 3;
+}
+
+void tst_LoupeWidget::placementAt()
+{
+    QFETCH(QRect, screen);
+    QFETCH(QSize, loupe);
+    QFETCH(QPoint, cursor);
+    QFETCH(int, placement);
+    QCOMPARE(int(LoupeWidget::placementAt(cursor, screen, loupe)), placement);
 }
 
 void tst_LoupeWidget::offsetFollowsPlacementAndSize()

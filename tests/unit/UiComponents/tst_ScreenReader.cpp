@@ -131,10 +131,6 @@ private Q_SLOTS:
     void withoutAnyPicture();
     void pointOnNoScreen();
 
-    void pointsOfPixels_data();
-    void pointsOfPixels();
-    void everyPixelIsInItsPoints_data();
-    void everyPixelIsInItsPoints();
     void pointOfADevicePixel();
 };
 
@@ -402,52 +398,6 @@ void tst_ScreenReader::pointOnNoScreen()
 {
     Settled settled;
     QVERIFY(!settled.reader.colorAt(QPoint(-100, 5000)).isValid());
-}
-
-void tst_ScreenReader::pointsOfPixels_data()
-{
-    QTest::addColumn<QRect>("pixels");
-    QTest::addColumn<double>("ratio");
-    QTest::addColumn<QRect>("points");
-    QTest::newRow("1") << QRect(7, 9, 13, 13) << 1.0 << QRect(7, 9, 13, 13);
-    QTest::newRow("2, all of a point") << QRect(14, 18, 2, 2) << 2.0 << QRect(7, 9, 1, 1);
-    QTest::newRow("2, its last pixel") << QRect(15, 19, 1, 1) << 2.0 << QRect(7, 9, 1, 1);
-    QTest::newRow("2, over an edge") << QRect(15, 19, 2, 1) << 2.0 << QRect(7, 9, 2, 1);
-    QTest::newRow("1.5, first pixel") << QRect(3, 6, 1, 1) << 1.5 << QRect(2, 4, 1, 1);
-    QTest::newRow("1.5, second pixel") << QRect(4, 0, 1, 1) << 1.5 << QRect(2, 0, 1, 1);
-    QTest::newRow("1.25, which takes two") << QRect(1, 0, 1, 1) << 1.25 << QRect(0, 0, 2, 1);
-}
-
-void tst_ScreenReader::pointsOfPixels()
-{
-    QFETCH(QRect, pixels);
-    QFETCH(double, ratio);
-    QTEST(pointsAround(pixels, ratio), "points");
-}
-
-void tst_ScreenReader::everyPixelIsInItsPoints_data()
-{
-    QTest::addColumn<double>("ratio");
-    for (const double ratio : {0.5, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.25, 2.5, 3.0, 4.0}) {
-        QTest::addRow("%g", ratio) << ratio;
-    }
-}
-
-// QScreen::grabWindow() rounds the corner and the size to pixels.
-void tst_ScreenReader::everyPixelIsInItsPoints()
-{
-    QFETCH(double, ratio);
-    for (int place = 0; place < 3000; ++place) {
-        for (const int length : {1, 13, 20}) {
-            const QRect points = pointsAround(QRect(place, 0, length, 1), ratio);
-            const int begin = qRound(points.x() * ratio);
-            QVERIFY(begin <= place);
-            QVERIFY(begin + qRound(points.width() * ratio) >= place + length);
-            // And no more than these need.
-            QVERIFY(points.width() <= length / ratio + 2);
-            QCOMPARE(points.y(), 0);
-        }
-    }
 }
 
 void tst_ScreenReader::pointOfADevicePixel()
