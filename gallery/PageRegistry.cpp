@@ -24,7 +24,7 @@ QVector<PageInfo> PageRegistry::pages()
         row("color-picker-button", PageGroup::Colour, tr("Colour button"),
             tr("A button whose face is a colour. A click hands over to an exchangeable picker, here the "
                "colour panel or Qt's colour dialog: every colour that is tried is on the button at once."),
-            {tr("colour"), tr("picker"), tr("dialog")}, "ColorPickerButton AbstractColorPicker",
+            {tr("colour"), tr("picker"), tr("dialog")}, "ColorPickerButton ClickButton AbstractColorPicker",
             &colorPickerButton),
         row("color-input", PageGroup::Colour, tr("Colour field"),
             tr("A colour button in a frame, ready for a row of a form. The frame's margins belong to the "

@@ -19,10 +19,7 @@ ColorInputWidget::Private::Private(ColorInputWidget* field)
 {
     button->setObjectName(QStringLiteral("colorPicker"));
 
-    auto* layout = new OvHBoxLayout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
+    (new OvHBoxLayout(owner))->autoFill();
 }
 
 ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)

@@ -5,7 +5,7 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QKeyEvent>
+#include <QEvent>
 #include <QPointer>
 #include <QVariant>
 
@@ -29,11 +29,6 @@ QString faceStyleSheet(const QColor& color, bool enabled)
         .arg(enabled ? enabledOpacity : disabledOpacity);
 }
 
-bool isClickKey(const QKeyEvent& event)
-{
-    return !event.isAutoRepeat() && (event.key() == Qt::Key_Space || event.key() == Qt::Key_Select);
-}
-
 } // namespace
 
 class ColorPickerButton::Private
@@ -51,10 +46,6 @@ public:
     QPointer<AbstractColorPicker> picker;
     std::optional<QColor> color;
     bool isPressedByPick = false;
-    /// Calls of the picker's pick() that have not returned.
-    int picksOnStack = 0;
-    /// The key that ended one of them is still down.
-    bool isKeyOfEnd = false;
 };
 
 ColorPickerButton::Private::Private(ColorPickerButton* button)
@@ -65,10 +56,7 @@ ColorPickerButton::Private::Private(ColorPickerButton* button)
     face->setAttribute(Qt::WA_TransparentForMouseEvents);
     face->setMinimumSize(smallestFace, smallestFace);
 
-    auto* layout = new OvHBoxLayout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill()->addStretch(0);
+    (new OvHBoxLayout(owner))->autoFill()->addStretch(0);
     Util::installLayoutController(owner);
 }
 
@@ -141,7 +129,7 @@ void ColorPickerButton::Private::updateStyle()
 }
 
 ColorPickerButton::ColorPickerButton(QWidget* parent)
-    : QToolButton(parent)
+    : ClickButton(parent)
     , d(std::make_unique<Private>(this))
 {
     connect(this, &QAbstractButton::clicked, this, &ColorPickerButton::startPicking);
@@ -198,11 +186,7 @@ void ColorPickerButton::startPicking()
     }
     d->isPressedByPick = true;
     setDown(true);
-    ++d->picksOnStack;
-    d->picker->pick();
-    if (self) {
-        --d->picksOnStack;
-    }
+    pick(d->picker);
 }
 
 void ColorPickerButton::stopPicking()
@@ -226,40 +210,5 @@ void ColorPickerButton::changeEvent(QEvent* event)
     if (event->type() == QEvent::EnabledChange) {
         d->updateStyle();
     }
-    QToolButton::changeEvent(event);
-}
-
-void ColorPickerButton::keyPressEvent(QKeyEvent* event)
-{
-    if (isClickKey(*event)) {
-        // The key that ended the pick comes here next. Letting it go would click the button, which is still
-        // pressed, and begin another.
-        const bool isPicking = d->picker && d->picker->isInProgress();
-        d->isKeyOfEnd = d->picksOnStack > 0 && !isPicking;
-        if (d->isKeyOfEnd) {
-            return;
-        }
-    }
-    QToolButton::keyPressEvent(event);
-}
-
-void ColorPickerButton::keyReleaseEvent(QKeyEvent* event)
-{
-    if (d->isKeyOfEnd && isClickKey(*event)) {
-        d->isKeyOfEnd = false;
-        return;
-    }
-    QToolButton::keyReleaseEvent(event);
-}
-
-void ColorPickerButton::mouseReleaseEvent(QMouseEvent* event)
-{
-    // A click may delete the button. QToolButton would then write into it to forget which part was
-    // pressed, which only a split button ever asks.
-    if (popupMode() == MenuButtonPopup) {
-        QToolButton::mouseReleaseEvent(event);
-    } else {
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
-    }
+    ClickButton::changeEvent(event);
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <UiComponents/ClickButton.h>
 #include <UiComponents/UiComponentsExport.h>
 
 #include <QColor>
-#include <QToolButton>
 
 #include <memory>
 #include <optional>
@@ -41,7 +41,7 @@ class AbstractColorPicker;
  * since QWidget::hide() goes on, and any of a button with QToolButton::MenuButtonPopup, which goes on after a
  * click.
  */
-class UICOMPONENTS_EXPORT ColorPickerButton : public QToolButton
+class UICOMPONENTS_EXPORT ColorPickerButton : public ClickButton
 {
     Q_OBJECT
 
@@ -91,9 +91,6 @@ protected:
     /// Hiding ends a running pick.
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     class Private;

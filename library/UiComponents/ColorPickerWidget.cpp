@@ -71,15 +71,6 @@ private:
     QHash<QRgb, QToolButton*> m_buttons;
 };
 
-template <typename Layout>
-Layout* makeLayout(QWidget* owner)
-{
-    auto* layout = new Layout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    return layout;
-}
-
 /// A row for @p title alone, and below it one for @p first and @p second.
 void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* second)
 {
@@ -254,8 +245,8 @@ ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllo
     , opacitySlider(new OvDoubleSlider(opacityPanel))
     , opacitySpinbox(new OvSpinBox(opacityPanel))
     , buttons(new QButtonGroup(panel))
-    , paletteLayout(makeLayout<OvGridLayout>(colorMatrixPanel))
-    , queueLayout(makeLayout<OvHBoxLayout>(otherColorsQueuePanel))
+    , paletteLayout(new OvGridLayout(colorMatrixPanel))
+    , queueLayout(new OvHBoxLayout(otherColorsQueuePanel))
 {
     nameObjects();
     layOut();
@@ -303,11 +294,11 @@ void ColorPickerWidget::Private::nameObjects() const
 
 void ColorPickerWidget::Private::layOut()
 {
-    makeLayout<OvVBoxLayout>(owner)->autoFill();
-    makeLayout<OvHBoxLayout>(topPanel)->autoFill();
-    addTitledRow(makeLayout<OvGridLayout>(otherColorsPanel), otherColorsTitleLabel, addCustomColorButton,
+    (new OvVBoxLayout(owner))->autoFill();
+    (new OvHBoxLayout(topPanel))->autoFill();
+    addTitledRow(new OvGridLayout(otherColorsPanel), otherColorsTitleLabel, addCustomColorButton,
                  otherColorsQueuePanel);
-    addTitledRow(makeLayout<OvGridLayout>(opacityPanel), opacityTitleLabel, opacitySlider, opacitySpinbox);
+    addTitledRow(new OvGridLayout(opacityPanel), opacityTitleLabel, opacitySlider, opacitySpinbox);
 }
 
 void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
@@ -649,7 +640,7 @@ void ColorPickerWidget::Private::createDialog()
 {
     dialog = new SelectorDialog(owner);
     selector = new CustomColorSelectWidget(dialog);
-    makeLayout<OvVBoxLayout>(dialog)->autoFill();
+    (new OvVBoxLayout(dialog))->autoFill();
     dialog->setProperty("roundedEdges", true);
     Workaround::Ui::apply(dialog);
     if (auto* const plane = selector->findChild<ColorPlaneWidget*>()) {

@@ -1,22 +1,18 @@
 #include "ColorPlaneWidget.h"
 
 #include "HsvPlane.h"
+#include "PlaneDrag.h"
 
 #include <QEvent>
 #include <QImage>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
-#include <QStyleOptionFocusRect>
 
 namespace {
 
 constexpr double noHue = -2.0;
 constexpr int fullCircle = 360;
 constexpr QPoint noMarker(-1, -1);
-constexpr int longStep = 10; // pixels
-constexpr int focusWidth = 2;
 
 double hueOf(int degrees)
 {
@@ -28,43 +24,22 @@ QColor inverse(const QColor& color)
     return {255 - color.red(), 255 - color.green(), 255 - color.blue()};
 }
 
-QPoint pinned(const QPoint& point, const QRect& rect)
-{
-    return {qBound(rect.left(), point.x(), rect.right()), qBound(rect.top(), point.y(), rect.bottom())};
-}
-
-QPoint stepOf(const QKeyEvent& event)
-{
-    const int step = event.modifiers().testFlag(Qt::ShiftModifier) ? longStep : 1;
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return {-step, 0};
-    case Qt::Key_Right:
-        return {step, 0};
-    case Qt::Key_Up:
-        return {0, -step};
-    case Qt::Key_Down:
-        return {0, step};
-    default:
-        return {};
-    }
-}
-
 } // namespace
 
-class ColorPlaneWidget::Private
+class ColorPlaneWidget::Private : public PlaneDrag
 {
 public:
     explicit Private(ColorPlaneWidget* widget)
-        : owner(widget)
+        : PlaneDrag(widget)
+        , owner(widget)
     {
     }
 
     void takeSize();
     QColor colorAt(const QPoint& point) const;
-    void placeMarker(const QPoint& point);
-    bool isDragging() const { return QWidget::mouseGrabber() == owner; }
-    void stopDragging();
+    QPointF pixel() const override { return markerPos; }
+    void placeMarker(const QPointF& pixel) override;
+    void report() override;
     const QImage& upToDateImage();
 
     ColorPlaneWidget* const owner;
@@ -100,17 +75,15 @@ QColor ColorPlaneWidget::Private::colorAt(const QPoint& point) const
     return HsvPlane::pixel(hue, planeSize, point);
 }
 
-void ColorPlaneWidget::Private::placeMarker(const QPoint& point)
+void ColorPlaneWidget::Private::placeMarker(const QPointF& pixel)
 {
-    markerPos = point;
-    markerColor = inverse(colorAt(point));
+    markerPos = pixel.toPoint();
+    markerColor = inverse(colorAt(markerPos));
 }
 
-void ColorPlaneWidget::Private::stopDragging()
+void ColorPlaneWidget::Private::report()
 {
-    if (isDragging()) {
-        owner->releaseMouse();
-    }
+    Q_EMIT owner->hsvColorChanged(owner->hsvColor());
 }
 
 const QImage& ColorPlaneWidget::Private::upToDateImage()
@@ -177,8 +150,8 @@ void ColorPlaneWidget::setHsvColor(const QColor& color)
     }
     d->hue = hueOf(color.hue());
     d->takeSize();
-    d->placeMarker({qRound(color.hsvSaturationF() * (d->planeSize.width() - 1)),
-                    qRound((1.0 - color.valueF()) * (d->planeSize.height() - 1))});
+    d->placeMarker(QPoint(qRound(color.hsvSaturationF() * (d->planeSize.width() - 1)),
+                          qRound((1.0 - color.valueF()) * (d->planeSize.height() - 1))));
     update();
 }
 
@@ -192,7 +165,7 @@ void ColorPlaneWidget::setHue(int degrees)
     d->takeSize();
     update();
     if (rect().contains(d->markerPos)) {
-        Q_EMIT hsvColorChanged(hsvColor());
+        d->report();
     }
 }
 
@@ -222,16 +195,8 @@ void ColorPlaneWidget::paintEvent(QPaintEvent* event)
             QPen(d->markerColor, d->markerBorderWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(d->markerPos, d->markerRadius, d->markerRadius);
-        painter.setRenderHint(QPainter::Antialiasing, false);
     }
-    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        // A style may fill what it frames, and would tint the colours.
-        const QRect inside = rect().adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
-        painter.setClipRegion(QRegion(rect()) - inside);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    d->paintFocus(painter);
 }
 
 void ColorPlaneWidget::resizeEvent(QResizeEvent* event)
@@ -242,73 +207,43 @@ void ColorPlaneWidget::resizeEvent(QResizeEvent* event)
 
 void ColorPlaneWidget::hideEvent(QHideEvent* event)
 {
-    // A pop-up can close during a drag, and Qt leaves the grab with a hidden widget.
-    d->stopDragging();
+    // A pop-up can close during a drag.
+    d->stop();
     QWidget::hideEvent(event);
 }
 
 void ColorPlaneWidget::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange && !isEnabled()) {
-        d->stopDragging();
+        d->stop();
     }
     QWidget::changeEvent(event);
 }
 
 void ColorPlaneWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton) {
+    if (!d->press(*event)) {
         QWidget::mousePressEvent(event);
-        return;
     }
-    d->placeMarker(event->pos());
-    update();
-    grabMouse();
-    Q_EMIT hsvColorChanged(hsvColor());
 }
 
 void ColorPlaneWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!d->isDragging()) {
+    if (!d->move(*event)) {
         QWidget::mouseMoveEvent(event);
-        return;
     }
-    const QPoint point = pinned(event->pos(), rect());
-    if (point == d->markerPos) {
-        return;
-    }
-    d->placeMarker(point);
-    update();
-    Q_EMIT hsvColorChanged(hsvColor());
 }
 
 void ColorPlaneWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !d->isDragging()) {
+    if (!d->release(*event)) {
         QWidget::mouseReleaseEvent(event);
-        return;
     }
-    const QPoint point = pinned(event->pos(), rect());
-    if (point != d->markerPos) {
-        d->placeMarker(point);
-    }
-    update();
-    releaseMouse();
-    Q_EMIT hsvColorChanged(hsvColor());
 }
 
 void ColorPlaneWidget::keyPressEvent(QKeyEvent* event)
 {
-    const QPoint step = stepOf(*event);
-    if (step.isNull() || d->planeSize.isEmpty()) {
+    if (d->planeSize.isEmpty() || !d->pressKey(*event)) {
         QWidget::keyPressEvent(event);
-        return;
     }
-    const QPoint point = pinned(d->markerPos + step, rect());
-    if (point == d->markerPos) {
-        return;
-    }
-    d->placeMarker(point);
-    update();
-    Q_EMIT hsvColorChanged(hsvColor());
 }

@@ -14,14 +14,6 @@ namespace {
 
 constexpr int lastHue = 359;
 
-void stackChildrenOf(QWidget* widget)
-{
-    auto* layout = new OvVBoxLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
-}
-
 } // namespace
 
 class CustomColorSelectWidget::Private
@@ -52,8 +44,8 @@ CustomColorSelectWidget::Private::Private(CustomColorSelectWidget* selector)
     huePanel->setObjectName(QStringLiteral("huePanel"));
     hueLabel->setObjectName(QStringLiteral("hueLabel"));
     hueSlider->setObjectName(QStringLiteral("hueSlider"));
-    stackChildrenOf(huePanel);
-    stackChildrenOf(owner);
+    (new OvVBoxLayout(huePanel))->autoFill();
+    (new OvVBoxLayout(owner))->autoFill();
 
     hueSlider->setOrientation(Qt::Horizontal);
     hueSlider->setRange(0, lastHue);

@@ -1,5 +1,6 @@
 #include "DialogGuideWidget.h"
 
+#include "ClickButton.h"
 #include "GuideLabel.h"
 #include "WrappedLabelHeight.h"
 
@@ -19,24 +20,8 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QTimer>
-#include <QToolButton>
 
 namespace {
-
-/// A slot of its click may delete it. QToolButton would then write into it to forget which part of a split
-/// button was pressed, which this one is not.
-class CloseButton : public QToolButton
-{
-public:
-    using QToolButton::QToolButton;
-
-protected:
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
-    }
-};
 
 /// Takes no more than a quarter of the screen's width, and shows what it has room for of a longer text.
 class ElidingButton : public QPushButton
@@ -74,15 +59,6 @@ Widget* named(const char* name, Widget* widget)
 {
     widget->setObjectName(QLatin1String(name));
     return widget;
-}
-
-template <typename Layout>
-Layout* makeLayout(QWidget* owner)
-{
-    auto* layout = new Layout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    return layout;
 }
 
 int widthInside(const OvFrame* frame)
@@ -125,7 +101,7 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     , contentFrame(bubble->contentFrame())
     , headerFrame(named("headerFrame", new OvFrame(contentFrame)))
     , headerLabel(named("headerLabel", new GuideLabel(headerFrame)))
-    , closeButton(named("closeButton", new CloseButton(headerFrame)))
+    , closeButton(named("closeButton", new ClickButton(headerFrame)))
     , descriptionFrame(named("descriptionFrame", new OvFrame(contentFrame)))
     , buttonsFrame(named("buttonsFrame", new OvFrame(contentFrame)))
     , gifPixmapWidget(named("gifPixmapWidget", new OvPixmapWidget(descriptionFrame)))
@@ -138,13 +114,11 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     // Legible without a sheet; a sheet's qproperty-icon wins.
     closeButton->setIcon(owner->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
-    makeLayout<OvVBoxLayout>(descriptionFrame)->autoFill();
-    auto* header = makeLayout<OvHBoxLayout>(headerFrame);
-    header->autoFill();
+    (new OvVBoxLayout(descriptionFrame))->autoFill();
     // In its corner also beside a heading of several lines, and beside none.
-    header->setAlignment(closeButton, Qt::AlignRight | Qt::AlignTop);
-    makeLayout<OvVBoxLayout>(contentFrame)->autoFill()->addStretch(0);
-    makeLayout<OvHBoxLayout>(buttonsFrame)
+    (new OvHBoxLayout(headerFrame))->autoFill()->setAlignment(closeButton, Qt::AlignRight | Qt::AlignTop);
+    (new OvVBoxLayout(contentFrame))->autoFill()->addStretch(0);
+    (new OvHBoxLayout(buttonsFrame))
         ->addItems({{LayoutHelpers::SpacerPolicy::Stretch, 1}, {secondaryButton, 0}, {mainButton, 0}});
 
     Util::applyStyleHint(secondaryButton, QStringLiteral("guideButton"));

@@ -10,7 +10,7 @@
 #include <utility>
 
 GuideButton::GuideButton(QWidget* parent)
-    : QToolButton(parent)
+    : ClickButton(parent)
 {
     connect(this, &QAbstractButton::clicked, this, &GuideButton::showHelp);
 }
@@ -36,21 +36,9 @@ bool GuideButton::hasGuideInfo() const
 
 void GuideButton::hideEvent(QHideEvent* event)
 {
-    QToolButton::hideEvent(event);
+    ClickButton::hideEvent(event);
     if (m_pointingWidget) {
         m_pointingWidget->hide();
-    }
-}
-
-void GuideButton::mouseReleaseEvent(QMouseEvent* event)
-{
-    // A click may delete the button. QToolButton would then write into it to forget which part was
-    // pressed, which only a split button ever asks.
-    if (popupMode() == MenuButtonPopup) {
-        QToolButton::mouseReleaseEvent(event);
-    } else {
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
     }
 }
 
@@ -83,8 +71,6 @@ void GuideButton::showHelp()
     m_guideWidget = new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
     connect(m_guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
     auto* layout = new OvVBoxLayout(frame);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
     layout->addWidget(m_guideWidget);
 
     m_pointingWidget->setArrowOffset(m_popupOffset);

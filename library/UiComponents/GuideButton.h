@@ -1,10 +1,10 @@
 #pragma once
 
+#include <UiComponents/ClickButton.h>
 #include <UiComponents/GuideInfo.h>
 #include <UiComponents/UiComponentsExport.h>
 
 #include <QPointer>
-#include <QToolButton>
 
 #include <memory>
 
@@ -39,7 +39,7 @@ class PointingWidget;
  *     #guideWidget { min-width: 280px; max-width: 280px; }
  * @see GuideWidget, PointingWidget
  */
-class UICOMPONENTS_EXPORT GuideButton : public QToolButton
+class UICOMPONENTS_EXPORT GuideButton : public ClickButton
 {
     Q_OBJECT
     /// Shifts the pop-up's arrow along its side, in pixels (see PointingWidget::setArrowOffset()): 0 by
@@ -63,7 +63,6 @@ Q_SIGNALS:
 
 protected:
     void hideEvent(QHideEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void showHelp();

@@ -97,10 +97,7 @@ GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     gifPixmapWidget->setObjectName(QStringLiteral("gifPixmapWidget"));
     learnMoreLabel->setOpenExternalLinks(false);
 
-    auto* layout = new OvVBoxLayout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
+    (new OvVBoxLayout(owner))->autoFill();
 }
 
 void GuideWidget::Private::update()

@@ -1,6 +1,6 @@
 #include "PathSelectionWidget.h"
 
-#include "FieldButton.h"
+#include "ClickButton.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorUtility/FileUtil.h>
@@ -14,11 +14,13 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QUrl>
 
 #include <optional>
+#include <utility>
 
 using Orvane::Tessel::TesselLineEdit;
 
@@ -102,18 +104,9 @@ QLabel* makeLabel(const char* name, QWidget* parent)
 
 QToolButton* makeButton(const char* name, QWidget* parent)
 {
-    auto* button = new FieldButton(parent);
+    auto* button = new ClickButton(parent);
     button->setObjectName(QLatin1String(name));
     return button;
-}
-
-template <typename Layout>
-OvBoxLayout* layOut(QWidget* widget)
-{
-    auto* layout = new Layout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    return layout->autoFill();
 }
 
 } // namespace
@@ -123,6 +116,17 @@ class PathSelectionWidget::Private
 public:
     explicit Private(PathSelectionWidget* widget);
 
+    /// In the scope of the result it is the widget itself that writes into the line edit, whose listeners
+    /// may delete the widget.
+    auto markOwnWriting()
+    {
+        const QPointer<PathSelectionWidget> self = owner;
+        return qScopeGuard([this, self, before = std::exchange(settingPath, true)] {
+            if (self) {
+                settingPath = before;
+            }
+        });
+    }
     bool isDefaultPathShownByText(const QString& newPath) const;
     bool writeText(const QString& text);
     void handleFocus(bool hasFocus);
@@ -152,37 +156,6 @@ public:
     PathError shownError;
 };
 
-namespace {
-
-/// Tells for its lifetime that it is the widget itself that writes into the line edit. Listeners of the line
-/// edit may delete the widget meanwhile.
-class OwnWriting
-{
-public:
-    OwnWriting(const PathSelectionWidget* widget, bool* flag)
-        : m_widget(widget)
-        , m_flag(flag)
-        , m_before(*flag)
-    {
-        *m_flag = true;
-    }
-    ~OwnWriting()
-    {
-        if (m_widget) {
-            *m_flag = m_before;
-        }
-    }
-    OwnWriting(const OwnWriting&) = delete;
-    OwnWriting& operator=(const OwnWriting&) = delete;
-
-private:
-    const QPointer<const PathSelectionWidget> m_widget;
-    bool* const m_flag;
-    const bool m_before;
-};
-
-} // namespace
-
 PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     : owner(widget)
     , spaceInfoFrame(makeFrame("spaceInfoFrame", widget))
@@ -198,9 +171,9 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     , availableSpace(availableLabel, available)
 {
     pathLineEdit->setObjectName(QStringLiteral("pathLineEdit"));
-    layOut<OvVBoxLayout>(owner);
-    layOut<OvHBoxLayout>(spaceInfoFrame)->addStretch(0);
-    layOut<OvHBoxLayout>(pathSelectionFrame)->setStretch(0, 1);
+    (new OvVBoxLayout(owner))->autoFill();
+    (new OvHBoxLayout(spaceInfoFrame))->autoFill()->addStretch(0);
+    (new OvHBoxLayout(pathSelectionFrame))->autoFill()->setStretch(0, 1);
 
     Util::applyProperty(pathLineEdit, "kitVersion", QStringLiteral("1.0"));
     Util::applyStyleHint(errorLabel, QStringLiteral("error"));
@@ -227,7 +200,7 @@ bool PathSelectionWidget::Private::isDefaultPathShownByText(const QString& newPa
 bool PathSelectionWidget::Private::writeText(const QString& text)
 {
     const QPointer<PathSelectionWidget> self = owner;
-    const OwnWriting writing(owner, &settingPath);
+    const auto writing = markOwnWriting();
     pathLineEdit->setText(text);
     return self;
 }
@@ -363,7 +336,7 @@ void PathSelectionWidget::setPath(const QString& path)
     // Which may be a reference to the one that is replaced.
     const QString newPath = path; // NOLINT(performance-unnecessary-copy-initialization)
     const QPointer<PathSelectionWidget> self = this;
-    const OwnWriting writing(this, &d->settingPath);
+    const auto writing = d->markOwnWriting();
     bool isResettable = true;
     if (d->isDefaultPathShownByText(newPath)) {
         // The user may be typing on to another path.

@@ -1,4 +1,4 @@
-// Internal: the arithmetic of PointSelectionPlane.
+// Internal: the arithmetic of PointSelectionPlane and PlaneDrag.
 
 #pragma once
 

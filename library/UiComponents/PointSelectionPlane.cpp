@@ -1,58 +1,35 @@
 #include "PointSelectionPlane.h"
 
+#include "PlaneDrag.h"
 #include "PointMapping.h"
 #include "PointSelectionPlanePropertyHelper.h"
 
 #include <WidgetToolkit/Util.h>
 
-#include <QKeyEvent>
+#include <QEvent>
 #include <QLine>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
 #include <QPixmap>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include <cmath>
 
-namespace {
-
-constexpr int longStep = 10; // pixels
-
-QPoint stepOf(const QKeyEvent& event)
-{
-    const int step = event.modifiers().testFlag(Qt::ShiftModifier) ? longStep : 1;
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return {-step, 0};
-    case Qt::Key_Right:
-        return {step, 0};
-    case Qt::Key_Up:
-        return {0, -step};
-    case Qt::Key_Down:
-        return {0, step};
-    default:
-        return {};
-    }
-}
-
-} // namespace
-
-class PointSelectionPlane::Private
+class PointSelectionPlane::Private : public PlaneDrag
 {
 public:
     explicit Private(PointSelectionPlane* plane)
-        : owner(plane)
+        : PlaneDrag(plane)
+        , owner(plane)
         , style(new PointSelectionPlanePropertyHelper(plane))
     {
     }
 
     void updateScale();
     void locatePoint();
-    void takePixel(const QPointF& pixel);
-    bool isDragging() const { return QWidget::mouseGrabber() == owner; }
-    void stopDragging() const;
+    QPointF pixel() const override { return pixelPosition; }
+    void placeMarker(const QPointF& pixel) override;
+    void stepMarker(const QPointF& pixel) override;
+    void report() override;
     void paintAxes(QPainter& painter) const;
     void paintMarker(QPainter& painter) const;
 
@@ -80,18 +57,31 @@ void PointSelectionPlane::Private::locatePoint()
     }
 }
 
-void PointSelectionPlane::Private::takePixel(const QPointF& pixel)
+void PointSelectionPlane::Private::placeMarker(const QPointF& pixel)
 {
     hasPoint = true;
     pixelPosition = pixel;
     point = PointMapping::toPoint(pixel, limits, scale, owner->size());
 }
 
-void PointSelectionPlane::Private::stopDragging() const
+void PointSelectionPlane::Private::stepMarker(const QPointF& pixel)
 {
-    if (isDragging()) {
-        owner->releaseMouse();
+    const QPointF before = point;
+    const bool keepsX = hasPoint && pixel.x() == pixelPosition.x();
+    const bool keepsY = hasPoint && pixel.y() == pixelPosition.y();
+    placeMarker(pixel);
+    // The coordinate across the step is not to suffer from being worked out anew.
+    if (keepsX) {
+        point.setX(before.x());
     }
+    if (keepsY) {
+        point.setY(before.y());
+    }
+}
+
+void PointSelectionPlane::Private::report()
+{
+    Q_EMIT owner->pointChanged(point);
 }
 
 void PointSelectionPlane::Private::paintAxes(QPainter& painter) const
@@ -146,70 +136,30 @@ QPointF PointSelectionPlane::point()
 
 void PointSelectionPlane::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton) {
+    if (!d->press(*event)) {
         OvFrame::mousePressEvent(event);
-        return;
     }
-    d->takePixel(event->pos());
-    update();
-    grabMouse();
-    Q_EMIT pointChanged(d->point);
 }
 
 void PointSelectionPlane::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !d->isDragging()) {
+    if (!d->release(*event)) {
         OvFrame::mouseReleaseEvent(event);
-        return;
     }
-    const QPointF pixel = PointMapping::pinned(event->pos(), rect());
-    if (pixel != d->pixelPosition) {
-        d->takePixel(pixel);
-    }
-    update();
-    releaseMouse();
-    Q_EMIT pointChanged(d->point);
 }
 
 void PointSelectionPlane::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!d->isDragging()) {
+    if (!d->move(*event)) {
         OvFrame::mouseMoveEvent(event);
-        return;
     }
-    const QPointF pixel = PointMapping::pinned(event->pos(), rect());
-    if (pixel == d->pixelPosition) {
-        return;
-    }
-    d->takePixel(pixel);
-    update();
-    Q_EMIT pointChanged(d->point);
 }
 
 void PointSelectionPlane::keyPressEvent(QKeyEvent* event)
 {
-    const QPoint step = stepOf(*event);
-    if (step.isNull()) {
+    if (!d->pressKey(*event)) {
         OvFrame::keyPressEvent(event);
-        return;
     }
-    const QPointF pixel = PointMapping::stepped(d->pixelPosition, step, rect());
-    if (pixel == d->pixelPosition) {
-        return;
-    }
-    const QPointF before = d->point;
-    const bool keepsX = d->hasPoint && pixel.x() == d->pixelPosition.x();
-    const bool keepsY = d->hasPoint && pixel.y() == d->pixelPosition.y();
-    d->takePixel(pixel);
-    // The coordinate across the step is not to suffer from being worked out anew.
-    if (keepsX) {
-        d->point.setX(before.x());
-    }
-    if (keepsY) {
-        d->point.setY(before.y());
-    }
-    update();
-    Q_EMIT pointChanged(d->point);
 }
 
 void PointSelectionPlane::paintEvent(QPaintEvent* event)
@@ -223,12 +173,7 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
     if (PointMapping::isInside(d->pixelPosition, rect()) && d->style->markerColor().isValid()) {
         d->paintMarker(painter);
     }
-    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    d->paintFocus(painter);
 }
 
 void PointSelectionPlane::resizeEvent(QResizeEvent* event)
@@ -241,8 +186,7 @@ void PointSelectionPlane::resizeEvent(QResizeEvent* event)
 
 void PointSelectionPlane::hideEvent(QHideEvent* event)
 {
-    // Qt leaves the grab with a hidden widget, where it swallows every click of the application.
-    d->stopDragging();
+    d->stop();
     OvFrame::hideEvent(event);
 }
 
@@ -250,7 +194,7 @@ void PointSelectionPlane::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange) {
         if (!isEnabled()) {
-            d->stopDragging();
+            d->stop();
         }
         // Qt does not watch for a sheet's properties of the other state.
         Util::repolishWidget(d->style);

@@ -17,15 +17,6 @@ namespace {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
-template <typename Layout>
-Layout* makeLayout(QWidget* owner)
-{
-    auto* layout = new Layout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    return layout;
-}
-
 void configure(OvDoubleSpinBox* spinBox, double minimum, double maximum, int decimals)
 {
     spinBox->setBothDecimalMarksAccepted(true);
@@ -94,11 +85,11 @@ PointSelectorWidget::Private::Private(PointSelectorWidget* field)
     yLabel->setObjectName(QStringLiteral("yLabel"));
     ySpinbox->setObjectName(QStringLiteral("ySpinbox"));
 
-    makeLayout<OvHBoxLayout>(owner)->addItems({{pointSelectorFrame, 0}, {spinBoxFrame, 0}});
-    makeLayout<OvVBoxLayout>(pointSelectorFrame)->autoFill();
-    makeLayout<OvVBoxLayout>(spinBoxFrame)->addItems({{xSpinboxFrame, 0}, {ySpinboxFrame, 0}});
-    makeLayout<OvHBoxLayout>(xSpinboxFrame)->autoFill();
-    makeLayout<OvHBoxLayout>(ySpinboxFrame)->autoFill();
+    (new OvHBoxLayout(owner))->addItems({{pointSelectorFrame, 0}, {spinBoxFrame, 0}});
+    (new OvVBoxLayout(pointSelectorFrame))->autoFill();
+    (new OvVBoxLayout(spinBoxFrame))->addItems({{xSpinboxFrame, 0}, {ySpinboxFrame, 0}});
+    (new OvHBoxLayout(xSpinboxFrame))->autoFill();
+    (new OvHBoxLayout(ySpinboxFrame))->autoFill();
 
     // A label asks its buddy's own policy whether there is anything to focus.
     owner->setFocusPolicy(pointSelector->focusPolicy());

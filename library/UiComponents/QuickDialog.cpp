@@ -12,6 +12,7 @@
 #include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickWidget>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -23,78 +24,6 @@ namespace {
 
 // How long a scene may take to give itself a size, by bindings that the event loop has to carry out.
 constexpr int sizeGraceMs = 200;
-
-// A flag that is up in a scope, of an object that may die in it.
-class RunningMark
-{
-public:
-    RunningMark(QObject* owner, bool* mark)
-        : m_owner(owner)
-        , m_mark(mark)
-    {
-        *m_mark = true;
-    }
-    ~RunningMark()
-    {
-        if (m_owner) {
-            *m_mark = false;
-        }
-    }
-    RunningMark(const RunningMark&) = delete;
-    RunningMark& operator=(const RunningMark&) = delete;
-
-private:
-    const QPointer<QObject> m_owner;
-    bool* const m_mark;
-};
-
-// Keeps a container in a layout for a scope. Everything may die in it.
-class Guest
-{
-public:
-    Guest(QBoxLayout* layout, QWidget* container)
-        : m_layout(layout)
-        , m_container(container)
-    {
-        layout->addWidget(container, 0, Qt::Alignment());
-    }
-    ~Guest()
-    {
-        if (!m_container) {
-            return;
-        }
-        if (m_layout) {
-            m_layout->removeWidget(m_container);
-        }
-        m_container->setParent(nullptr);
-    }
-    Guest(const Guest&) = delete;
-    Guest& operator=(const Guest&) = delete;
-
-private:
-    const QPointer<QLayout> m_layout;
-    const QPointer<QWidget> m_container;
-};
-
-// Notes with which result the dialog ended in a scope, if it did.
-class Ending
-{
-public:
-    explicit Ending(QDialog* dialog)
-        : m_connection(
-              QObject::connect(dialog, &QDialog::finished, dialog, [this](int result) { m_result = result; }))
-    {
-    }
-    ~Ending() { QObject::disconnect(m_connection); }
-    Ending(const Ending&) = delete;
-    Ending& operator=(const Ending&) = delete;
-
-    std::optional<int> result() const { return m_result; }
-
-private:
-    const QMetaObject::Connection m_connection;
-    std::optional<int> m_result;
-};
 
 // Some window managers put the window where it is to be and leave Qt believing, now and then, that it is in
 // the corner of the screen. The scene would then drag it from there, and everything that maps to global
@@ -240,8 +169,16 @@ int Qml::QuickDialog::exec()
         return Rejected;
     }
     const QPointer<QuickDialog> self = this;
-    const RunningMark mark(this, &d->isRunning);
-    const Ending ending(this);
+    d->isRunning = true;
+    const auto stopRunning = qScopeGuard([this, self] {
+        if (self) {
+            d->isRunning = false;
+        }
+    });
+    // The result with which the dialog ends, if it does.
+    std::optional<int> ending;
+    const QObject watch;
+    connect(this, &QDialog::finished, &watch, [&ending](int result) { ending = result; });
 
     if (d->content->isUndefined()) {
         d->content->load(d->qmlPath);
@@ -250,11 +187,11 @@ int Qml::QuickDialog::exec()
     if (!d->content->isAvailable() || !container) {
         return Rejected;
     }
-    if (!ending.result()) {
+    if (!ending) {
         awaitSize(container, this);
     }
-    if (!self || !container || ending.result()) {
-        return ending.result().value_or(Rejected);
+    if (!self || !container || ending) {
+        return ending.value_or(Rejected);
     }
     if (container->size().isEmpty()) {
         LOG(WARNING) << "Nothing to show, the root item has no size: " << d->qmlPath.toStdString();
@@ -262,14 +199,23 @@ int Qml::QuickDialog::exec()
     }
 
     d->makeWindow();
-    const Guest guest(d->makeLayout(), container);
+    const QPointer<QBoxLayout> layout = d->makeLayout();
+    layout->addWidget(container, 0, Qt::Alignment());
+    const auto release = qScopeGuard([layout, container] {
+        if (container && layout) {
+            layout->removeWidget(container);
+        }
+        if (container) {
+            container->setParent(nullptr);
+        }
+    });
     d->moveToMiddle(container);
     const PlaceKeeper place(this);
     // The base class does not notice when a dialog is ended before its event loop runs, and would wait for
     // ever: a scene may end it in a handler of being shown.
     show();
-    if (!self || ending.result()) {
-        return ending.result().value_or(Rejected);
+    if (!self || ending) {
+        return ending.value_or(Rejected);
     }
     const int result = QDialog::exec();
     if (self) {

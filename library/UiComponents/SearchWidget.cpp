@@ -1,6 +1,6 @@
 #include "SearchWidget.h"
 
-#include "FieldButton.h"
+#include "ClickButton.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -75,16 +75,13 @@ SearchWidget::Private::Private(SearchWidget* search)
     : owner(search)
     , searchIcon(new QLabel(search))
     , searchLineEdit(new TesselLineEdit(search))
-    , clearSearchButton(new FieldButton(search))
+    , clearSearchButton(new ClickButton(search))
 {
     searchIcon->setObjectName(QStringLiteral("searchIcon"));
     searchLineEdit->setObjectName(QStringLiteral("searchLineEdit"));
     clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
 
-    auto* layout = new OvHBoxLayout(owner);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
+    (new OvHBoxLayout(owner))->autoFill();
 
     searchLineEdit->setAttribute(Qt::WA_MouseTracking);
     clearSearchButton->hide();

@@ -22,10 +22,7 @@ public:
         slider->setObjectName(QStringLiteral("slider"));
         spinBox->setObjectName(QStringLiteral("spinbox"));
 
-        auto* layout = new OvHBoxLayout(owner);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->setSpacing(0);
-        layout->autoFill();
+        (new OvHBoxLayout(owner))->autoFill();
 
         // A label asks its buddy's own policy whether there is anything to focus.
         owner->setFocusPolicy(slider->focusPolicy());

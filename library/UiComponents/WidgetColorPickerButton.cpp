@@ -2,7 +2,6 @@
 
 #include "WidgetColorPicker.h"
 
-#include <QKeyEvent>
 #include <QPointer>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -20,12 +19,10 @@ public:
     QColor color;
     bool changeSelfColor = true;
     QMetaObject::Connection targetWatch;
-    /// Calls of startPicking() that have not returned.
-    int picksOnStack = 0;
 };
 
 WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
-    : QToolButton(parent)
+    : ClickButton(parent)
     , d(std::make_unique<Private>(this))
 {
     connect(this, &QAbstractButton::clicked, this, &WidgetColorPickerButton::startPicking);
@@ -97,12 +94,10 @@ void WidgetColorPickerButton::startPicking()
     if (!self) {
         return;
     }
-    ++d->picksOnStack;
-    d->picker->pick();
+    pick(d->picker.get());
     if (!self) {
         return;
     }
-    --d->picksOnStack;
     const QColor picked = d->picker->color().value_or(QColor());
     Q_EMIT pickingFinished();
     if (self && picked.isValid()) {
@@ -118,7 +113,7 @@ void WidgetColorPickerButton::stopPicking()
 void WidgetColorPickerButton::paintEvent(QPaintEvent* event)
 {
     if (!d->changeSelfColor) {
-        QToolButton::paintEvent(event);
+        ClickButton::paintEvent(event);
         return;
     }
     QStyleOptionButton option;
@@ -127,26 +122,4 @@ void WidgetColorPickerButton::paintEvent(QPaintEvent* event)
         option.state |= QStyle::State_Sunken;
     }
     QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
-}
-
-void WidgetColorPickerButton::keyPressEvent(QKeyEvent* event)
-{
-    // The key that ended the pick comes here next. Were it to press the button, letting it go would click.
-    const bool isFromPick = d->picksOnStack > 0 && !d->picker->isInProgress();
-    const bool wouldPress = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
-    if (!isFromPick || !wouldPress) {
-        QToolButton::keyPressEvent(event);
-    }
-}
-
-void WidgetColorPickerButton::mouseReleaseEvent(QMouseEvent* event)
-{
-    // A click may delete the button while it picks. QToolButton would then write into it to forget which
-    // part was pressed, which only a split button ever asks.
-    if (popupMode() == MenuButtonPopup) {
-        QToolButton::mouseReleaseEvent(event);
-    } else {
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
-    }
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <UiComponents/ClickButton.h>
 #include <UiComponents/UiComponentsExport.h>
 
 #include <QColor>
-#include <QToolButton>
 
 #include <memory>
 
@@ -30,7 +30,7 @@ class WidgetColorPickerStylingObject;
  * A button whose popupMode() is MenuButtonPopup may not be deleted while it picks or in a slot of one of its
  * signals: QToolButton goes on using it after a click.
  */
-class UICOMPONENTS_EXPORT WidgetColorPickerButton : public QToolButton
+class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton
 {
     Q_OBJECT
     Q_PROPERTY(bool changeSelfColor READ changeSelfColor WRITE setChangeSelfColor)
@@ -85,8 +85,6 @@ public Q_SLOTS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     class Private;

@@ -122,7 +122,6 @@ private Q_SLOTS:
     void buttonDeletedWhilePicking();
     void buttonDeletedInASlot_data();
     void buttonDeletedInASlot();
-    void buttonDeletedByAClick();
     void buttonDeletedByItsPickersColor();
 };
 
@@ -906,20 +905,6 @@ void tst_ColorPickerButton::buttonDeletedInASlot()
     }
     QVERIFY(!button);
     QVERIFY(!picker);
-}
-
-// Through the mouse, Qt's own handlers run after the slot, and QToolButton's writes into the button.
-void tst_ColorPickerButton::buttonDeletedByAClick()
-{
-    QPointer<ColorPickerButton> button = new ColorPickerButton;
-    button->setPicker(new FakeColorPicker);
-    connect(button.data(), &ColorPickerButton::pickingStarted, this, [&button] { delete button; });
-    button->show();
-    const FreedMemoryWatch memory;
-    QTest::mouseClick(button.data(), Qt::LeftButton);
-    QVERIFY(!button);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
 void tst_ColorPickerButton::buttonDeletedByItsPickersColor()

@@ -176,8 +176,6 @@ private Q_SLOTS:
     void linkByKeyboard();
     void deletedByItsLink();
     void reopenedByItsLink();
-    void deletedByAClick_data();
-    void deletedByAClick();
     void infoTakenAwayWhenTheFocusMoves();
 };
 
@@ -793,32 +791,6 @@ void tst_GuideButton::reopenedByItsLink()
     QVERIFY(!first);
     QCOMPARE(popups(*button).size(), 1);
     QVERIFY(popup(*button)->isVisible());
-}
-
-void tst_GuideButton::deletedByAClick_data()
-{
-    QTest::addColumn<bool>("beforeTheGuideOpens");
-    QTest::newRow("after the guide has opened") << false;
-    QTest::newRow("by the press") << true;
-}
-
-// Through the mouse, Qt's own handlers run after the slot, and QToolButton's writes into the button.
-void tst_GuideButton::deletedByAClick()
-{
-    QFETCH(bool, beforeTheGuideOpens);
-    QPointer<GuideButton> button = makeButton().release();
-    if (beforeTheGuideOpens) {
-        connect(button.data(), &QAbstractButton::released, this, [&button] { delete button; });
-    } else {
-        connect(button.data(), &QAbstractButton::clicked, this, [&button] { delete button; });
-    }
-    button->show();
-    const FreedMemoryWatch memory;
-    QTest::mouseClick(button.data(), Qt::LeftButton);
-    QVERIFY(!button);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-    QVERIFY(!QApplication::activePopupWidget());
 }
 
 // Deleting the old pop-up gives the focus back to the window.
