@@ -119,11 +119,6 @@ Pair avx2()
     return againstPlainLoop(size, HsvPlane::Path::Avx2);
 }
 template <int size>
-Pair avx512()
-{
-    return againstPlainLoop(size, HsvPlane::Path::Avx512);
-}
-template <int size>
 Pair baseline()
 {
     return againstPlainLoop(size, HsvPlane::Path::Sse2);
@@ -146,10 +141,6 @@ using HsvPlane::Path;
              avx2<1024>),
     addRowOf(Path::Avx2, "ColorPlane/render 2048 x 2048 with AVX2, against the plain loop", atMost(1.0 / 60),
              avx2<2048>),
-    addRowOf(Path::Avx512, "ColorPlane/render 512 x 512 with AVX-512, against the plain loop", noGoal(),
-             avx512<512>),
-    addRowOf(Path::Avx512, "ColorPlane/render 2048 x 2048 with AVX-512, against the plain loop", noGoal(),
-             avx512<2048>),
     addRowOf(Path::Sse2, "ColorPlane/render 256 x 256 with SSE2, against the plain loop", atMost(1.0 / 20),
              baseline<256>),
     addRowOf(Path::Sse2, "ColorPlane/render 512 x 512 with SSE2, against the plain loop", atMost(1.0 / 20),

@@ -67,7 +67,7 @@ void addFileSizes(Page* page, ResultTable* results)
     PropertyPanel* const panel = page->properties();
     panel->addText(PageRegistry::tr("Bytes"), QString::number(request->bytes),
                    [set](const QString& bytes) { set(&Request::bytes, bytes.toLongLong()); });
-    panel->addNumber(PageRegistry::tr("Decimals"), -1, 60, request->precision,
+    panel->addNumber(PageRegistry::tr("Decimals"), -1, 15, request->precision,
                      [set](int precision) { set(&Request::precision, precision); });
     const QStringList units = {PageRegistry::tr("Automatic"), QStringLiteral("B"),  QStringLiteral("KB"),
                                QStringLiteral("MB"),          QStringLiteral("GB"), QStringLiteral("TB"),

@@ -55,7 +55,6 @@ public:
     // What was painted last.
     QImage image;
     double imageHue = noHue;
-    int renderings = 0;
 };
 
 void ColorPlaneWidget::Private::takeSize()
@@ -96,7 +95,6 @@ const QImage& ColorPlaneWidget::Private::upToDateImage()
     if (!image.isNull() && (!fits || hue != imageHue)) {
         HsvPlane::render(image, hue);
         imageHue = hue;
-        ++renderings;
     }
     return image;
 }
@@ -173,11 +171,6 @@ void ColorPlaneWidget::removeMarker()
 {
     d->markerPos = noMarker;
     update();
-}
-
-int ColorPlaneWidget::renderings() const
-{
-    return d->renderings;
 }
 
 void ColorPlaneWidget::paintEvent(QPaintEvent* event)

@@ -56,9 +56,6 @@ public:
     /// pressed. Emits nothing.
     void removeMarker();
 
-    /// How many planes were rendered up to now.
-    int renderings() const;
-
 Q_SIGNALS:
     /// The colour under the marker, after the user pressed, moved or released it or setHue() changed the
     /// plane; a press and a release are always reported. Invalid as hsvColor() is.

@@ -7,7 +7,6 @@
 
 #if defined(__x86_64__) && defined(__GNUC__)
 #include <cpuid.h>
-#include <immintrin.h>
 #define HSV_PLANE_X86
 #endif
 #ifdef Q_OS_LINUX
@@ -368,95 +367,6 @@ void renderSse2(const Plane& plane, int y, QRgb* line)
     renderRow<Vectors256>(plane, y, line);
 }
 
-// AVX-512 once more in its own instructions: its comparisons give masks instead of vectors, and its logic
-// takes three operands, which spares a third of them.
-
-using Words512 [[gnu::vector_size(64)]] = std::uint32_t;
-
-template <Position at>
-[[gnu::always_inline, gnu::target("avx512f")]] inline __m512i withByte(const __m512i& pixels,
-                                                                       const __m512i& sum)
-{
-    constexpr int andThenXor = 0x6A; // (a & b) ^ c
-    const auto words = reinterpret_cast<Words512>(sum);
-    if constexpr (at == Blue) {
-        return _mm512_xor_si512(pixels, reinterpret_cast<__m512i>(words >> fractionBits));
-    } else {
-        const Words512 moved = at == Green ? words >> (fractionBits - 8) : words + words;
-        const __m512i above = _mm512_set1_epi32(at == Green ? ~0xFF : ~0xFFFF);
-        return _mm512_ternarylogic_epi32(reinterpret_cast<__m512i>(moved), above, pixels, andThenXor);
-    }
-}
-
-void correct(const Plane& plane, int x, int y, unsigned near, QRgb* pixels)
-{
-    for (; near != 0; near &= near - 1) {
-        const int at = __builtin_ctz(near);
-        pixels[at] = plane.exact(x + at, y);
-    }
-}
-
-template <Position lowAt, Position highAt, bool isStreamed = false>
-[[gnu::always_inline, gnu::target("avx512f")]] inline void
-renderVector512(const Plane& plane, int x, int y, const __m512& row, const __m512i& rowBits, QRgb* line)
-{
-    const __m512 zero = _mm512_set1_ps(origin);
-    const __m512i far = _mm512_set1_epi32(farBits);
-    const __m512i low =
-        _mm512_castps_si512(_mm512_fmadd_ps(_mm512_loadu_ps(plane.low.data() + x), row, zero));
-    const __m512i high =
-        _mm512_castps_si512(_mm512_fmadd_ps(_mm512_loadu_ps(plane.high.data() + x), row, zero));
-    __m512i pixels = withByte<highAt>(withByte<lowAt>(rowBits, low), high);
-    const __mmask16 near = _mm512_testn_epi32_mask(low, far) | _mm512_testn_epi32_mask(high, far);
-    if (__builtin_expect(static_cast<long>(near), 0) != 0) {
-        QRgb corrected[sizeof pixels / sizeof(QRgb)];
-        std::memcpy(corrected, &pixels, sizeof pixels);
-        correct(plane, x, y, near, corrected);
-        std::memcpy(&pixels, corrected, sizeof pixels);
-    }
-    if constexpr (isStreamed) {
-        _mm512_stream_si512(reinterpret_cast<__m512i*>(line + x), pixels);
-    } else {
-        _mm512_storeu_si512(line + x, pixels);
-    }
-}
-
-template <Position lowAt, Position highAt>
-[[gnu::target("avx512f")]] void renderRow512(const Plane& plane, int y, QRgb* line)
-{
-    constexpr int lanes = 16;
-    const __m512 row = _mm512_set1_ps(static_cast<float>(plane.values[std::size_t(y)]));
-    const __m512i rowBits = _mm512_set1_epi32(
-        static_cast<int>(plane.rowBits(y) ^ exponentBits << lowAt ^ exponentBits << highAt));
-    int x = 0;
-    if (plane.isStreamed) {
-        renderVector512<lowAt, highAt>(plane, x, y, row, rowBits, line);
-        for (x = pixelsToAlignment(line, lanes); x + lanes <= plane.width; x += lanes) {
-            renderVector512<lowAt, highAt, true>(plane, x, y, row, rowBits, line);
-        }
-    }
-    for (; x + lanes <= plane.width; x += lanes) {
-        renderVector512<lowAt, highAt>(plane, x, y, row, rowBits, line);
-    }
-    if (x < plane.width) {
-        renderVector512<lowAt, highAt>(plane, plane.width - lanes, y, row, rowBits, line);
-    }
-}
-
-void renderAvx512(const Plane& plane, int y, QRgb* line)
-{
-    constexpr int lanes = 16;
-    if (plane.width < lanes) {
-        renderPixels(plane, y, 0, plane.width, line);
-    } else if (plane.sector.value == Red) {
-        renderRow512<Blue, Green>(plane, y, line);
-    } else if (plane.sector.value == Green) {
-        renderRow512<Blue, Red>(plane, y, line);
-    } else {
-        renderRow512<Green, Red>(plane, y, line);
-    }
-}
-
 #endif
 
 using RenderRow = void (*)(const Plane& plane, int y, QRgb* line);
@@ -469,8 +379,6 @@ RenderRow functionOf(HsvPlane::Path path)
         return renderSse2;
     case HsvPlane::Path::Avx2:
         return renderAvx2;
-    case HsvPlane::Path::Avx512:
-        return renderAvx512;
 #endif
     default:
         return renderPlain;
@@ -490,12 +398,9 @@ namespace {
 
 // Not __builtin_cpu_supports(): it asks the processor everything while the library is loaded, which on a
 // virtual machine takes longer than all the rest of loading.
-bool canTake(HsvPlane::Path path)
+bool hasAvx2()
 {
-    // What the system has to keep of the registers: their lower and upper halves, and for AVX-512 its masks,
-    // the rest of the first sixteen, and the other sixteen.
-    const unsigned states = path == HsvPlane::Path::Avx512 ? 0xE6 : 0x06;
-    const unsigned feature = path == HsvPlane::Path::Avx512 ? bit_AVX512F : bit_AVX2;
+    constexpr unsigned wideRegisters = 0x06; // the system keeps both halves of them
     unsigned a = 0;
     unsigned b = 0;
     unsigned c = 0;
@@ -505,7 +410,8 @@ bool canTake(HsvPlane::Path path)
     }
     unsigned kept = 0;
     asm("xgetbv" : "=a"(kept), "=d"(d) : "c"(0));
-    return (kept & states) == states && __get_cpuid_count(7, 0, &a, &b, &c, &d) && (b & feature) != 0;
+    return (kept & wideRegisters) == wideRegisters && __get_cpuid_count(7, 0, &a, &b, &c, &d) &&
+           (b & bit_AVX2) != 0;
 }
 
 } // namespace
@@ -514,7 +420,7 @@ bool canTake(HsvPlane::Path path)
 bool HsvPlane::isSupported(Path path)
 {
 #ifdef HSV_PLANE_X86
-    return path == Path::Plain || path == Path::Sse2 || canTake(path);
+    return path != Path::Avx2 || hasAvx2();
 #else
     return path == Path::Plain;
 #endif
@@ -522,8 +428,7 @@ bool HsvPlane::isSupported(Path path)
 
 HsvPlane::Path HsvPlane::fastestPath()
 {
-    static const Path fastest = isSupported(Path::Avx512) ? Path::Avx512
-                                : isSupported(Path::Avx2) ? Path::Avx2
+    static const Path fastest = isSupported(Path::Avx2)   ? Path::Avx2
                                 : isSupported(Path::Sse2) ? Path::Sse2
                                                           : Path::Plain;
     return fastest;

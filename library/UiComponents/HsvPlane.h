@@ -24,10 +24,9 @@ QRgb pixel(double hue, const QSize& size, const QPoint& at);
 
 /// The ways to make the whole picture; all give the same one.
 enum class Path {
-    Plain,  ///< on every processor
-    Sse2,   ///< on every x86-64
-    Avx2,   ///< with AVX2 and FMA
-    Avx512, ///< with AVX-512F
+    Plain, ///< on every processor
+    Sse2,  ///< on every x86-64
+    Avx2,  ///< with AVX2 and FMA
 };
 
 /// Whether this processor can take @p path, and this program was built with it.

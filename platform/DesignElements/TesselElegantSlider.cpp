@@ -1,6 +1,5 @@
 #include "TesselElegantSlider.h"
 
-#include <QImage>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -12,33 +11,18 @@ constexpr qreal handleDiameter = 14.0;
 constexpr qreal ringWidth = 2.0;
 
 // A sheet may speak of the slider's parts, or of nothing but its background and font, as a rule for all
-// widgets does. The style does not tell which; so a small slider is drawn twice, by the sheet and, upon the
-// sheet's background, by a style that does not know whose slider it is. Pictures that differ are the parts.
+// widgets does. The style does not tell which, but places the parts by the sheet only where it has rules for
+// them. So much room brings out the difference.
 bool hasPartsFromSheet(const QSlider* slider, QStyleOptionSlider option)
 {
-    if (!slider->testAttribute(Qt::WA_StyleSheet)) {
-        return false;
-    }
-    const QStyle* const style = slider->style();
-    option.rect = QRect(QPoint(), option.orientation == Qt::Horizontal ? QSize(64, 24) : QSize(24, 64));
-    const auto draw = [&](QPainter& painter, QStyle::SubControls parts, const QWidget* widget) {
-        option.subControls = parts;
-        style->drawComplexControl(QStyle::CC_Slider, &option, &painter, widget);
+    option.rect = QRect(0, 0, 1000, 1000);
+    const auto isPlacedBySheet = [&](QStyle::SubControl part) {
+        const QStyle* const style = slider->style();
+        return style->subControlRect(QStyle::CC_Slider, &option, part, slider) !=
+               style->subControlRect(QStyle::CC_Slider, &option, part, nullptr);
     };
-    const QStyle::SubControls parts = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
-    QImage bySheet(option.rect.size(), QImage::Format_ARGB32_Premultiplied);
-    bySheet.fill(Qt::transparent);
-    QImage byStyle = bySheet;
-    {
-        QPainter painter(&bySheet);
-        draw(painter, parts, slider);
-    }
-    {
-        QPainter painter(&byStyle);
-        draw(painter, QStyle::SC_None, slider);
-        draw(painter, parts, nullptr);
-    }
-    return bySheet != byStyle;
+    return slider->testAttribute(Qt::WA_StyleSheet) &&
+           (isPlacedBySheet(QStyle::SC_SliderGroove) || isPlacedBySheet(QStyle::SC_SliderHandle));
 }
 
 QRectF centredIn(const QRectF& room, const QSizeF& size)

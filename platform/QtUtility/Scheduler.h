@@ -31,9 +31,6 @@ public:
     /// Whether a call is pending; false while the call runs.
     bool isPending() const;
 
-    /// Milliseconds from the first request to the call.
-    int delay() const { return m_delay; }
-
 protected:
     explicit SchedulerBase(int delayMs);
 

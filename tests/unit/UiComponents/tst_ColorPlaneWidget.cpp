@@ -251,10 +251,9 @@ private Q_SLOTS:
     void oddMarkers_data();
     void oddMarkers();
 
-    void manyChangesRenderOnce();
-    void movingTheMarkerRendersNothing();
-    void hiddenRendersNothing();
-    void resizingRendersOnceAPaint();
+    void changesAreReportedAtOnce();
+    void eachStepOfTheMarkerPaintsOnce();
+    void resizedPlaneIsPaintedAnew();
     void sameAsTheEagerPlane_data();
     void sameAsTheEagerPlane();
 
@@ -294,7 +293,6 @@ void tst_ColorPlaneWidget::startsEmpty()
     QCOMPARE(plane->markerRadius(), 8);
     QCOMPARE(plane->markerBorderWidth(), 2);
     QVERIFY(!plane->hsvColor().isValid());
-    QCOMPARE(plane->renderings(), 0);
 }
 
 void tst_ColorPlaneWidget::nothingIsPaintedWithoutAHue()
@@ -311,7 +309,6 @@ void tst_ColorPlaneWidget::nothingIsPaintedWithoutAHue()
     QCOMPARE(pictureOf(window), empty);
     plane.setHsvColor(QColor());
     QCOMPARE(pictureOf(window), empty);
-    QCOMPARE(plane.renderings(), 0);
     // Once there is a plane, it covers the widget.
     plane.setHue(0);
     QCOMPARE(pictureOf(window).pixelColor(0, 0), QColor(Qt::white));
@@ -330,7 +327,6 @@ void tst_ColorPlaneWidget::pressWithoutAHue()
     release(plane, {51, 10});
     QCOMPARE(plane.reports(), Colors{QColor()});
     QVERIFY(!QWidget::mouseGrabber());
-    QCOMPARE(plane.renderings(), 0);
     // The marker is there, in the inverse of no colour.
     plane.setHue(120);
     QCOMPARE(plane.reports(), Colors{plane.at(120 / 360.0, 51, 10)});
@@ -352,10 +348,8 @@ void tst_ColorPlaneWidget::sameHueDoesNothing()
     plane.show();
     plane.setHsvColor(QColor::fromHsv(120, 200, 100));
     pictureOf(plane);
-    QCOMPARE(plane.renderings(), 1);
     QCOMPARE(paintsOf(plane, [&] { plane.setHue(120); }), 0);
     pictureOf(plane);
-    QCOMPARE(plane.renderings(), 1);
     QCOMPARE(plane.reports(), Colors());
     plane.setHue(0);
     plane.setHue(0);
@@ -384,7 +378,6 @@ void tst_ColorPlaneWidget::hueIsClamped()
     QCOMPARE(pictureOf(plane), planeImage(hue, plane.size()));
     plane.setHue(qRound(hue * 360));
     pictureOf(plane);
-    QCOMPARE(plane.renderings(), 1);
 }
 
 void tst_ColorPlaneWidget::hue360IsAnotherHueThan0()
@@ -801,9 +794,7 @@ void tst_ColorPlaneWidget::tinyPlanes()
     QCOMPARE(plane.hsvColor(), empty ? QColor() : color(240 / 360.0, marker));
     plane.setHue(1);
     QCOMPARE(plane.reports(), empty ? Colors() : Colors{color(1 / 360.0, marker)});
-    QCOMPARE(plane.renderings(), empty ? 0 : 1);
     pictureOf(window);
-    QCOMPARE(plane.renderings(), empty ? 0 : 2);
 }
 
 void tst_ColorPlaneWidget::markerProperties()
@@ -827,7 +818,6 @@ void tst_ColorPlaneWidget::markerProperties()
     plane.ensurePolished();
     QCOMPARE(plane.markerRadius(), 3);
     QCOMPARE(plane.reports(), Colors());
-    QCOMPARE(plane.renderings(), 1);
 }
 
 void tst_ColorPlaneWidget::oddMarkers_data()
@@ -853,35 +843,30 @@ void tst_ColorPlaneWidget::oddMarkers()
     QCOMPARE(plane.hsvColor(), QColor(Qt::green));
 }
 
-void tst_ColorPlaneWidget::manyChangesRenderOnce()
+void tst_ColorPlaneWidget::changesAreReportedAtOnce()
 {
     Plane plane;
     plane.setHsvColor(QColor(Qt::red));
     plane.show();
     QVERIFY(QTest::qWaitForWindowExposed(&plane));
     QCoreApplication::processEvents();
-    QCOMPARE(plane.renderings(), 1);
     for (int degrees = 1; degrees < 300; ++degrees) {
         plane.setHue(degrees);
         QCOMPARE(plane.reports(), Colors{plane.at(degrees / 360.0, 100, 0)});
         QCOMPARE(plane.hsvColor(), plane.at(degrees / 360.0, 100, 0));
     }
     plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 0.5));
-    QCOMPARE(plane.renderings(), 1);
     QCoreApplication::processEvents();
-    QCOMPARE(plane.renderings(), 2);
     QCOMPARE(pictureOf(plane).pixelColor(100, 0), plane.at(0.25, 100, 0));
-    QCOMPARE(plane.renderings(), 2);
 }
 
-void tst_ColorPlaneWidget::movingTheMarkerRendersNothing()
+void tst_ColorPlaneWidget::eachStepOfTheMarkerPaintsOnce()
 {
     Plane plane;
     plane.setHue(180);
     plane.show();
     QVERIFY(QTest::qWaitForWindowExposed(&plane));
     pictureOf(plane);
-    QCOMPARE(plane.renderings(), 1);
     press(plane, {5, 5});
     for (int x = 6; x < 60; ++x) {
         QCOMPARE(paintsOf(plane, [&] { drag(plane, {x, 20}); }), 1);
@@ -889,34 +874,19 @@ void tst_ColorPlaneWidget::movingTheMarkerRendersNothing()
     release(plane, {60, 20});
     plane.setHsvColor(QColor::fromHsvF(0.5, 0.1, 0.9));
     pictureOf(plane);
-    QCOMPARE(plane.renderings(), 1);
 }
 
-void tst_ColorPlaneWidget::hiddenRendersNothing()
-{
-    Plane plane;
-    plane.setHsvColor(QColor(Qt::red));
-    plane.setHue(10);
-    plane.setHue(20);
-    QCoreApplication::processEvents();
-    QCOMPARE(plane.renderings(), 0);
-    QCOMPARE(plane.reports().size(), 2);
-}
-
-void tst_ColorPlaneWidget::resizingRendersOnceAPaint()
+void tst_ColorPlaneWidget::resizedPlaneIsPaintedAnew()
 {
     Plane plane;
     plane.setHue(180);
     plane.show();
     QVERIFY(QTest::qWaitForWindowExposed(&plane));
     pictureOf(plane);
-    const int before = plane.renderings();
     for (int width = 102; width < 140; ++width) {
         plane.resize(width, 60);
     }
-    QCOMPARE(plane.renderings(), before);
     QCOMPARE(pictureOf(plane), planeImage(0.5, {139, 60}));
-    QCOMPARE(plane.renderings(), before + 1);
 }
 
 void tst_ColorPlaneWidget::sameAsTheEagerPlane_data()

@@ -116,7 +116,6 @@ private Q_SLOTS:
     void invalidColorIsReportedAsItIs();
     void reportsAreRgb();
 
-    void changesRenderOnce();
     void rightToLeft();
     void deletedBeforeItsTurn();
     void deletedInItsSignal_data();
@@ -207,7 +206,6 @@ void tst_CustomColorSelectWidget::startsWithoutAPlane()
     QCoreApplication::processEvents();
     QVERIFY(!selector.plane->hsvColor().isValid());
     selector.grab();
-    QCOMPARE(selector.plane->renderings(), 0);
     QCOMPARE(selector.reports(), Colors());
 }
 
@@ -469,24 +467,6 @@ void tst_CustomColorSelectWidget::reportsAreRgb()
     for (const QColor& color : reports) {
         QCOMPARE(color.spec(), QColor::Rgb);
     }
-}
-
-void tst_CustomColorSelectWidget::changesRenderOnce()
-{
-    Selector selector;
-    selector.CustomColorSelectWidget::show();
-    QVERIFY(QTest::qWaitForWindowExposed(&selector));
-    selector.show(QColor(Qt::red));
-    QCoreApplication::processEvents();
-    const int before = selector.plane->renderings();
-    QCOMPARE(before, 1);
-    for (int degrees = 1; degrees < 360; ++degrees) {
-        selector.slider->setValue(degrees);
-    }
-    QCOMPARE(selector.reports().size(), 359);
-    QCOMPARE(selector.plane->renderings(), before);
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.plane->renderings(), before + 1);
 }
 
 // The slider turns round with the layout, the plane does not.

@@ -58,8 +58,8 @@ private Q_SLOTS:
     void focusHasARing();
     void rulesForAllWidgetsLeaveTheLook();
     void backgroundOfTheSheetLiesBelow();
+    void sheetDrawsTheGroove_data();
     void sheetDrawsTheGroove();
-    void sheetDrawsTheHandle();
     void sheetChangesWhileShown();
     void drawsAtEverySize();
     void clickOnTheGrooveGoesThere();
@@ -151,22 +151,26 @@ void tst_TesselElegantSlider::backgroundOfTheSheetLiesBelow()
     QCOMPARE(image.pixelColor(slider.handleCentre() - QPoint(50, 0)), fillColor);
 }
 
+void tst_TesselElegantSlider::sheetDrawsTheGroove_data()
+{
+    QTest::addColumn<QString>("metrics");
+    QTest::newRow("without a height") << QString();
+    for (const int height : {1, 4, 7, 24, 1000}) {
+        QTest::addRow("%d px", height) << QStringLiteral("height: %1px;").arg(height);
+    }
+}
+
 void tst_TesselElegantSlider::sheetDrawsTheGroove()
 {
+    QFETCH(QString, metrics);
     Slider slider;
     slider.setStyleSheet(
-        QStringLiteral("Orvane--Tessel--TesselElegantSlider::groove { height: 6px; background: #ff0000; }"));
+        QStringLiteral("Orvane--Tessel--TesselElegantSlider::groove { background: #ff0000; %1 }"
+                       "Orvane--Tessel--TesselElegantSlider::handle { width: 15px; %1 }")
+            .arg(metrics));
     const QImage image = picture(slider);
     QCOMPARE(image.pixelColor(slider.handleCentre() + QPoint(60, 0)), QColor(Qt::red));
     QCOMPARE(image.pixelColor(slider.handleCentre() - QPoint(60, 0)), QColor(Qt::red));
-}
-
-void tst_TesselElegantSlider::sheetDrawsTheHandle()
-{
-    Slider slider;
-    slider.setStyleSheet(
-        QStringLiteral("Orvane--Tessel--TesselElegantSlider::handle { background: #ff0000; }"));
-    QCOMPARE(picture(slider).pixelColor(slider.handleCentre()), QColor(Qt::red));
 }
 
 void tst_TesselElegantSlider::sheetChangesWhileShown()

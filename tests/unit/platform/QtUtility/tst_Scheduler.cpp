@@ -107,7 +107,6 @@ void tst_Scheduler::startsEnabledAndIdle()
     Target target(100);
     QVERIFY(target.scheduler.isEnabled());
     QVERIFY(!target.scheduler.isPending());
-    QCOMPARE(target.scheduler.delay(), 100);
     QVERIFY(Probe(&target.scheduler).timers().isEmpty());
 }
 
@@ -380,7 +379,6 @@ void tst_Scheduler::targetDeletedInsideTheCall()
 void tst_Scheduler::negativeDelays()
 {
     Target target(-1);
-    QCOMPARE(target.scheduler.delay(), 0);
     target.scheduler.schedule();
     QTRY_COMPARE(target.calls, 1);
 }
