@@ -18,7 +18,7 @@ QLayout* InstalledLayoutController::getLayout() const
 bool InstalledLayoutController::eventFilter(QObject* watched, QEvent* event)
 {
     const bool consumed = PropertyProviderBase::eventFilter(watched, event);
-    if (watched == parent() && (isLayoutEvent(event) || event->type() == QEvent::Polish)) {
+    if (watched == parent() && (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish)) {
         applyLayoutMetrics();
     }
     return consumed;

@@ -1,9 +1,6 @@
 #include "LayoutController.h"
 
-#include "LayoutMetricsWatch.h"
-
 #include <QBoxLayout>
-#include <QEvent>
 #include <QGridLayout>
 #include <QLayout>
 
@@ -144,11 +141,6 @@ void LayoutController::applyLayoutMetrics()
     if (layout->spacing() != spacing) {
         layout->setSpacing(spacing);
     }
-}
-
-bool LayoutController::isLayoutEvent(const QEvent* event)
-{
-    return event->type() == QEvent::LayoutRequest || event->type() == LayoutMetricsWatch::eventType();
 }
 
 void LayoutController::set(std::optional<int>& value, int pixels)

@@ -4,7 +4,6 @@
 
 #include <optional>
 
-class QEvent;
 class QLayout;
 
 /**
@@ -31,9 +30,9 @@ class QLayout;
  *
  * Of a general property and one for a side, the one that the sheet names later wins on that side. A negative
  * value is ignored. A property that was never set leaves the layout alone and reads the layout's value, 0
- * without a layout. A value that was set wins over code: it is written again when the layout is replaced, and
- * when code changes its metrics: at once in the toolkit's own layouts, in others when Qt next lays them out.
- * A value that a sheet no longer sets stays, as all `qproperty-` values do.
+ * without a layout. A value that was set wins over code: it is written again when the widget is polished and
+ * whenever Qt lays it out after a change. A value that a sheet no longer sets stays, as all `qproperty-`
+ * values do.
  */
 class WIDGETTOOLKIT_EXPORT LayoutController
 {
@@ -67,9 +66,6 @@ protected:
 
     /// Writes every value that was set into the layout, where it differs. Cheap when nothing differs.
     void applyLayoutMetrics();
-
-    /// Whether the metrics of the layout may have changed with @p event, sent to the layout's widget.
-    static bool isLayoutEvent(const QEvent* event);
 
 private:
     void set(std::optional<int>& value, int pixels);

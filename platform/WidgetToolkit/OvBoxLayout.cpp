@@ -1,15 +1,8 @@
 #include "OvBoxLayout.h"
 
-#include "LayoutMetricsWatch.h"
 #include "PropertyProviderBase.h"
 
 #include <QWidget>
-
-class OvBoxLayout::Private
-{
-public:
-    LayoutMetricsWatch metrics;
-};
 
 namespace {
 
@@ -28,7 +21,6 @@ bool holds(const QLayout* layout, QWidget* widget)
 
 OvBoxLayout::OvBoxLayout(Direction direction, QWidget* owner)
     : QBoxLayout(direction, owner)
-    , d(std::make_unique<Private>())
 {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(0);
@@ -71,12 +63,6 @@ OvBoxLayout* OvBoxLayout::addItems(std::initializer_list<LayoutHelpers::BoxItem>
         }
     }
     return this;
-}
-
-void OvBoxLayout::invalidate()
-{
-    QBoxLayout::invalidate();
-    d->metrics.check(this, spacing(), spacing());
 }
 
 OvHBoxLayout::OvHBoxLayout(QWidget* owner)

@@ -6,7 +6,6 @@
 #include <QBoxLayout>
 
 #include <initializer_list>
-#include <memory>
 
 /**
  * A box layout that is filled from its owner.
@@ -35,12 +34,6 @@ public:
 
     /// Appends @p items in order and returns the layout.
     OvBoxLayout* addItems(std::initializer_list<LayoutHelpers::BoxItem> items);
-
-    void invalidate() override;
-
-private:
-    class Private;
-    const std::unique_ptr<Private> d;
 };
 
 /// An OvBoxLayout that runs from left to right, or from right to left with the owner's layout direction.

@@ -17,7 +17,7 @@ QLayout* OvFrame::getLayout() const
 bool OvFrame::event(QEvent* event)
 {
     // Qt polishes before the first show, and components may replace a layout after that.
-    if (isLayoutEvent(event) || event->type() == QEvent::Polish) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish) {
         applyLayoutMetrics();
     }
     return QFrame::event(event);

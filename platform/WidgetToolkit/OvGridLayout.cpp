@@ -1,16 +1,6 @@
 #include "OvGridLayout.h"
 
-#include "LayoutMetricsWatch.h"
-
 #include <QWidget>
-
-class OvGridLayout::Private
-{
-public:
-    // QGridLayout counts a row as soon as something asks for it, and an empty grid has one already.
-    int nextRow = 0;
-    LayoutMetricsWatch metrics;
-};
 
 namespace {
 
@@ -41,7 +31,6 @@ Qt::Alignment toQt(LayoutHelpers::Alignment alignment)
 
 OvGridLayout::OvGridLayout(QWidget* parent)
     : QGridLayout(parent)
-    , d(std::make_unique<Private>())
 {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(0);
@@ -81,15 +70,9 @@ OvGridLayout* OvGridLayout::addRow(std::initializer_list<LayoutHelpers::GridItem
     return this;
 }
 
-void OvGridLayout::invalidate()
-{
-    QGridLayout::invalidate();
-    d->metrics.check(this, horizontalSpacing(), verticalSpacing());
-}
-
 int OvGridLayout::beginRow(int flag)
 {
-    int row = d->nextRow;
+    int row = m_nextRow;
     for (int i = 0; i < count(); ++i) {
         int itemRow = 0;
         int itemColumn = 0;
@@ -98,7 +81,7 @@ int OvGridLayout::beginRow(int flag)
         getItemPosition(i, &itemRow, &itemColumn, &rowSpan, &columnSpan);
         row = qMax(row, itemRow + rowSpan);
     }
-    d->nextRow = row + 1;
+    m_nextRow = row + 1;
     setRowStretch(row, qMax(0, flag));
     return row;
 }

@@ -6,7 +6,6 @@
 #include <QGridLayout>
 
 #include <initializer_list>
-#include <memory>
 
 /**
  * A grid layout that is filled row by row.
@@ -44,11 +43,9 @@ public:
     /// other. A modifier after a free cell, or as the first item, leaves its cell free.
     OvGridLayout* addRow(std::initializer_list<LayoutHelpers::GridItem> items, int flag);
 
-    void invalidate() override;
-
 private:
     int beginRow(int flag);
 
-    class Private;
-    const std::unique_ptr<Private> d;
+    // QGridLayout counts a row as soon as something asks for it, and an empty grid has one already.
+    int m_nextRow = 0;
 };

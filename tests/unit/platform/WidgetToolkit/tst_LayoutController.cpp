@@ -20,7 +20,6 @@ public:
 
     QLayout* getLayout() const override { return layout; }
     using LayoutController::applyLayoutMetrics;
-    using LayoutController::isLayoutEvent;
 
     QLayout* layout;
 };
@@ -69,7 +68,6 @@ private Q_SLOTS:
     void valuesHoldAgainstCode();
     void sameValueAgainIsWritten();
     void nothingIsWrittenWhereNothingDiffers();
-    void layoutEvents();
 };
 
 void tst_LayoutController::propertyWithoutLayout_data()
@@ -290,14 +288,6 @@ void tst_LayoutController::nothingIsWrittenWhereNothingDiffers()
     controller.setLayoutSpacing(2);
     controller.applyLayoutMetrics();
     QCOMPARE(layout.invalidations, 0);
-}
-
-void tst_LayoutController::layoutEvents()
-{
-    QEvent request(QEvent::LayoutRequest);
-    QEvent other(QEvent::UpdateRequest);
-    QVERIFY(PlainController::isLayoutEvent(&request));
-    QVERIFY(!PlainController::isLayoutEvent(&other));
 }
 
 UIC_TEST_MAIN(tst_LayoutController)
