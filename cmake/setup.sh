@@ -21,7 +21,7 @@ uic_packages()
             package)
                 echo fonts-dejavu-core pkg-config ;;
             benchmarks)
-                echo fonts-dejavu-core libbenchmark-dev python3 qml-module-qtquick2 ;;
+                echo fonts-dejavu-core libbenchmark-dev libkf5widgetsaddons-dev python3 qml-module-qtquick2 ;;
             headers) ;;
             conventions)
                 echo fonts-dejavu-core python3 clang-format ;;

@@ -15,7 +15,7 @@ constexpr double enabledOpacity = 1.0;
 constexpr double disabledOpacity = 0.4;
 
 // What shows the colour where no sheet says how large the face is, in pixels.
-constexpr int smallestFace = 16;
+constexpr int minFaceSize = 16;
 
 QString faceStyleSheet(const QColor& color, bool enabled)
 {
@@ -41,64 +41,65 @@ public:
     void release();
     void updateStyle();
 
-    ColorPickerButton* const owner;
+    ColorPickerButton* const q;
     QWidget* const face;
     QPointer<AbstractColorPicker> picker;
     std::optional<QColor> color;
+    enum class State { Unknown, Color, NoColor, SeveralColors } shownState = State::Unknown;
     bool isPressedByPick = false;
 };
 
 ColorPickerButton::Private::Private(ColorPickerButton* button)
-    : owner(button)
+    : q(button)
     , face(new QWidget(button))
 {
     face->setObjectName(QStringLiteral("color"));
     face->setAttribute(Qt::WA_TransparentForMouseEvents);
-    face->setMinimumSize(smallestFace, smallestFace);
+    face->setMinimumSize(minFaceSize, minFaceSize);
 
-    (new OvHBoxLayout(owner))->autoFill()->addStretch(0);
-    Util::installLayoutController(owner);
+    (new OvHBoxLayout(q))->autoFill()->addStretch(0);
+    Util::installLayoutController(q);
 }
 
 void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
 {
     if (AbstractColorPicker* const old = picker) {
         // A picker that reports its end while it is destroyed can no longer be asked for its colour.
-        old->disconnect(owner);
+        old->disconnect(q);
         delete old;
         release();
     }
     picker = newPicker;
-    newPicker->setParent(owner);
+    newPicker->setParent(q);
 
-    connect(newPicker, &AbstractColorPicker::colorChanged, owner, &ColorPickerButton::setColor);
-    connect(newPicker, &AbstractColorPicker::pickingStopped, owner,
+    connect(newPicker, &AbstractColorPicker::colorChanged, q, &ColorPickerButton::setColor);
+    connect(newPicker, &AbstractColorPicker::pickingStopped, q,
             [this, newPicker] { adoptResult(newPicker); });
-    connect(owner, &ColorPickerButton::colorChanged, newPicker, [this, newPicker](const QColor& value) {
+    connect(q, &ColorPickerButton::colorChanged, newPicker, [this, newPicker](const QColor& value) {
         // A slot may have set another colour, which the picker has heard of before this one.
         const bool isOutdated = color && *color != value;
         if (!isOutdated) {
             newPicker->setColor(value);
         }
     });
-    connect(newPicker, &QObject::destroyed, owner, [this] { release(); });
+    connect(newPicker, &QObject::destroyed, q, [this] { release(); });
 }
 
 void ColorPickerButton::Private::adoptResult(AbstractColorPicker* from)
 {
-    const QPointer<ColorPickerButton> button = owner;
+    const QPointer<ColorPickerButton> self = q;
     const QPointer<AbstractColorPicker> source = from;
-    Q_EMIT owner->pickingStopped();
-    if (button && source) {
+    Q_EMIT q->pickingStopped();
+    if (self && source) {
         // A host's picker may delete the button while it is asked.
         const std::optional<QColor> result = source->color();
-        if (button) {
-            button->setColor(result);
+        if (self) {
+            self->setColor(result);
         }
     }
-    if (button) {
+    if (self) {
         isPressedByPick = false;
-        button->setDown(false);
+        self->setDown(false);
     }
 }
 
@@ -107,23 +108,24 @@ void ColorPickerButton::Private::release()
 {
     if (isPressedByPick) {
         isPressedByPick = false;
-        owner->setDown(false);
+        q->setDown(false);
     }
 }
 
 void ColorPickerButton::Private::updateStyle()
 {
-    const QColor shown = color.value_or(QColor());
-    const bool isNone = color.has_value() && !color->isValid();
-    const bool wasNone = owner->property("nullColor").toBool();
-    Util::applyProperty(owner, "nullColor", isNone);
-    Util::applyProperty(owner, "multiColor", !color.has_value());
-
-    const QString sheet = faceStyleSheet(shown, owner->isEnabled());
+    const State state = !color ? State::SeveralColors : color->isValid() ? State::Color : State::NoColor;
+    const bool isOtherState = state != shownState;
+    if (isOtherState) {
+        shownState = state;
+        Util::applyProperty(q, "nullColor", state == State::NoColor);
+        Util::applyProperty(q, "multiColor", state == State::SeveralColors);
+    }
+    const QString sheet = faceStyleSheet(color.value_or(QColor()), q->isEnabled());
     if (face->styleSheet() != sheet) {
         face->setStyleSheet(sheet);
-    } else if (isNone != wasNone) {
-        // Both states have the same transparent sheet, but an application's rules may tell them apart.
+    } else if (isOtherState) {
+        // Both states without a colour have the same sheet, but an application's rules may tell them apart.
         Util::repolishWidget(face);
     }
 }
