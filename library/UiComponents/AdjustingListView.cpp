@@ -3,7 +3,7 @@
 namespace {
 
 // QWIDGETSIZE_MAX itself means no minimum to Qt, and more is cut off with a warning.
-constexpr int largestMinimum = QWIDGETSIZE_MAX - 1;
+constexpr int maxMinimumHeight = QWIDGETSIZE_MAX - 1;
 
 } // namespace
 
@@ -37,5 +37,5 @@ void AdjustingListView::updateSize()
             height += sizeHintForRow(row);
         }
     }
-    setMinimumHeight(static_cast<int>(qBound<qint64>(0, height, largestMinimum)));
+    setMinimumHeight(static_cast<int>(qBound<qint64>(0, height, maxMinimumHeight)));
 }

@@ -9,17 +9,17 @@ class ColorInputWidget::Private
 public:
     explicit Private(ColorInputWidget* field);
 
-    ColorInputWidget* const owner;
+    ColorInputWidget* const q;
     ColorPickerButton* const button;
 };
 
 ColorInputWidget::Private::Private(ColorInputWidget* field)
-    : owner(field)
+    : q(field)
     , button(new ColorPickerButton(field))
 {
     button->setObjectName(QStringLiteral("colorPicker"));
 
-    (new OvHBoxLayout(owner))->autoFill();
+    (new OvHBoxLayout(q))->autoFill();
 }
 
 ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)

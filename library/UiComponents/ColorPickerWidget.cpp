@@ -109,7 +109,7 @@ private:
     QVector<QPointer<QWidget>> m_parts;
 };
 
-/// What the chooser is shown in.
+/// What the selector is shown in.
 // For everybody else it is a QDialog.
 class SelectorDialog : public QDialog // clazy:exclude=missing-qobject-macro
 {
@@ -187,7 +187,7 @@ public:
     void reportColor();
     void keepPartsInUse() const;
 
-    ColorPickerWidget* const owner;
+    ColorPickerWidget* const q;
     OvFrame* const topPanel;
     OvFrame* const colorMatrixPanel;
     OvFrame* const otherColorsPanel;
@@ -216,7 +216,7 @@ public:
     ColorIndex queueButtons;
     QPointer<QDialog> dialog;
     QPointer<CustomColorSelectWidget> selector;
-    // What the chooser was given or has reported last.
+    // What the selector was given or has reported last.
     std::optional<QColor> selectorColor;
     std::optional<QColor> currentColor;
     bool opacityAdjustmentAvailable = true;
@@ -230,7 +230,7 @@ public:
 
 ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllowed,
                                     const QStringList& ownColors)
-    : owner(panel)
+    : q(panel)
     , topPanel(new OvFrame(panel))
     , colorMatrixPanel(new OvFrame(panel))
     , otherColorsPanel(new OvFrame(panel))
@@ -294,7 +294,7 @@ void ColorPickerWidget::Private::nameObjects() const
 
 void ColorPickerWidget::Private::layOut()
 {
-    (new OvVBoxLayout(owner))->autoFill();
+    (new OvVBoxLayout(q))->autoFill();
     (new OvHBoxLayout(topPanel))->autoFill();
     addTitledRow(new OvGridLayout(otherColorsPanel), otherColorsTitleLabel, addCustomColorButton,
                  otherColorsQueuePanel);
@@ -395,9 +395,9 @@ void ColorPickerWidget::Private::connectInputs()
     connect(currentColorValueEdit, &QLineEdit::textEdited, listener.get(),
             [this](const QString& text) { onTextEdited(text); });
     connect(pipetteButton, &QAbstractButton::clicked, listener.get(),
-            [this] { announce([this] { Q_EMIT owner->pipetteRequested(); }); });
+            [this] { announce([this] { Q_EMIT q->pipetteRequested(); }); });
     connect(pipetteButton, &QAbstractButton::clicked, listener.get(),
-            [this] { announce([this] { Q_EMIT owner->closeRequested(); }); });
+            [this] { announce([this] { Q_EMIT q->closeRequested(); }); });
     connect(buttons, qOverload<QAbstractButton*, bool>(&QButtonGroup::buttonToggled), listener.get(),
             [this](QAbstractButton* button, bool checked) { onButtonToggled(button, checked); });
     connect(addCustomColorButton, &QAbstractButton::clicked, listener.get(),
@@ -487,12 +487,12 @@ void ColorPickerWidget::Private::setColor(const std::optional<QColor>& color)
     if (color == currentColor) {
         return;
     }
-    const QPointer<ColorPickerWidget> guard(owner);
+    const QPointer<ColorPickerWidget> self = q;
     currentColor = color;
     if (opacityAdjustmentAvailable) {
         setSliderToAlpha();
     }
-    if (guard) {
+    if (self) {
         updateColorButtonsCheckState();
     }
 }
@@ -598,10 +598,10 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
     currentColor = QColor(text);
     takeSliderAlpha();
     if (QToolButton* const button = buttonFor(*currentColor)) {
-        const QPointer<ColorPickerWidget> guard(owner);
+        const QPointer<ColorPickerWidget> self = q;
         button->setChecked(true);
         // A slot may have set several colours.
-        if (!guard || !currentColor) {
+        if (!self || !currentColor) {
             return;
         }
     } else {
@@ -613,17 +613,17 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
 
 void ColorPickerWidget::Private::onCustomColorButtonClicked()
 {
-    // The chooser takes the focus, and a spin box that was emptied would report in the middle of that.
-    const QPointer<ColorPickerWidget> guard(owner);
+    // The selector takes the focus, and a spin box that was emptied would report in the middle of that.
+    const QPointer<ColorPickerWidget> self = q;
     opacitySpinbox->interpretText();
-    if (!guard) {
+    if (!self) {
         return;
     }
     if (!dialog) {
         createDialog();
     }
     const QColor start = opaque(currentColor.value_or(QColor()));
-    // What the chooser shows of a grey is more than the colour: it knows the hue.
+    // What the selector shows of a grey is more than the colour: it knows the hue.
     if (selectorColor != start) {
         selectorColor = start;
         selector->startFrom(start);
@@ -638,7 +638,7 @@ void ColorPickerWidget::Private::onCustomColorButtonClicked()
 
 void ColorPickerWidget::Private::createDialog()
 {
-    dialog = new SelectorDialog(owner);
+    dialog = new SelectorDialog(q);
     selector = new CustomColorSelectWidget(dialog);
     (new OvVBoxLayout(dialog))->autoFill();
     dialog->setProperty("roundedEdges", true);
@@ -663,7 +663,7 @@ void ColorPickerWidget::Private::placeDialog() const
     const QRect button(addCustomColorButton->mapToGlobal(QPoint()), addCustomColorButton->size());
     const QScreen* screen = QGuiApplication::screenAt(button.center());
     if (!screen) {
-        screen = owner->screen();
+        screen = q->screen();
     }
     dialog->move(SelectorPlacement::besideButton(button, dialog->size(), colorDialogOffset,
                                                  screen ? screen->availableGeometry() : QRect()));
@@ -728,7 +728,7 @@ void ColorPickerWidget::Private::announce(Emission emission)
 void ColorPickerWidget::Private::reportColor()
 {
     const QColor color = *currentColor;
-    announce([this, color] { Q_EMIT owner->colorChanged(color); });
+    announce([this, color] { Q_EMIT q->colorChanged(color); });
 }
 
 /// The user has just used one of them, if the panel is emitting.
@@ -789,9 +789,9 @@ int ColorPickerWidget::GetcolorDialogOffset() const
 
 void ColorPickerWidget::showEvent(QShowEvent* event)
 {
-    const QPointer<ColorPickerWidget> guard(this);
+    const QPointer<ColorPickerWidget> self = this;
     d->reinitializeCustomColors();
-    if (guard) {
+    if (self) {
         OvFrame::showEvent(event);
     }
 }

@@ -31,7 +31,7 @@ class ColorPlaneWidget::Private : public PlaneDrag
 public:
     explicit Private(ColorPlaneWidget* widget)
         : PlaneDrag(widget)
-        , owner(widget)
+        , q(widget)
     {
     }
 
@@ -42,7 +42,7 @@ public:
     void report() override;
     const QImage& upToDateImage();
 
-    ColorPlaneWidget* const owner;
+    ColorPlaneWidget* const q;
     double hue = noHue;
     int markerRadius = 8;
     int markerBorderWidth = 2;
@@ -62,8 +62,8 @@ void ColorPlaneWidget::Private::takeSize()
     if (qFuzzyCompare(hue, noHue)) {
         return;
     }
-    planeSize = owner->size().isEmpty() ? QSize(0, 0) : owner->size();
-    owner->setAttribute(Qt::WA_OpaquePaintEvent, !planeSize.isEmpty());
+    planeSize = q->size().isEmpty() ? QSize(0, 0) : q->size();
+    q->setAttribute(Qt::WA_OpaquePaintEvent, !planeSize.isEmpty());
 }
 
 QColor ColorPlaneWidget::Private::colorAt(const QPoint& point) const
@@ -82,7 +82,7 @@ void ColorPlaneWidget::Private::placeMarker(const QPointF& pixel)
 
 void ColorPlaneWidget::Private::report()
 {
-    Q_EMIT owner->hsvColorChanged(owner->hsvColor());
+    Q_EMIT q->hsvColorChanged(q->hsvColor());
 }
 
 const QImage& ColorPlaneWidget::Private::upToDateImage()

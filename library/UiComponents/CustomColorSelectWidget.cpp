@@ -24,7 +24,7 @@ public:
     void setTexts() const;
     void synchronize();
 
-    CustomColorSelectWidget* const owner;
+    CustomColorSelectWidget* const q;
     ColorPlaneWidget* const colorPlane;
     OvFrame* const huePanel;
     QLabel* const hueLabel;
@@ -34,7 +34,7 @@ public:
 };
 
 CustomColorSelectWidget::Private::Private(CustomColorSelectWidget* selector)
-    : owner(selector)
+    : q(selector)
     , colorPlane(new ColorPlaneWidget(selector))
     , huePanel(new OvFrame(selector))
     , hueLabel(new QLabel(huePanel))
@@ -45,7 +45,7 @@ CustomColorSelectWidget::Private::Private(CustomColorSelectWidget* selector)
     hueLabel->setObjectName(QStringLiteral("hueLabel"));
     hueSlider->setObjectName(QStringLiteral("hueSlider"));
     (new OvVBoxLayout(huePanel))->autoFill();
-    (new OvVBoxLayout(owner))->autoFill();
+    (new OvVBoxLayout(q))->autoFill();
 
     hueSlider->setOrientation(Qt::Horizontal);
     hueSlider->setRange(0, lastHue);
@@ -60,10 +60,10 @@ void CustomColorSelectWidget::Private::setTexts() const
 
 void CustomColorSelectWidget::Private::synchronize()
 {
-    const QPointer<CustomColorSelectWidget> guard(owner);
+    const QPointer<CustomColorSelectWidget> self = q;
     // May be reported, and so change the colour, or make somebody delete all this.
     hueSlider->setValue(qMax(0, color.hue()));
-    if (!guard) {
+    if (!self) {
         return;
     }
     if (color.isValid()) {

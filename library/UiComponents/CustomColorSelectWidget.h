@@ -9,7 +9,7 @@
 #include <memory>
 
 /**
- * A ColorPlaneWidget above a labelled slider for its hue: one chooser for any opaque colour.
+ * A ColorPlaneWidget above a labelled slider for its hue: a selector of any opaque colour.
  *
  * Its parts have the object names "colorPlane", "huePanel", "hueLabel" and "hueSlider". A colour that is
  * set appears on the next turn of the event loop, once for each setColor().
@@ -23,14 +23,14 @@ class CustomColorSelectWidget : public OvFrame
     Q_OBJECT
 
 public:
-    /// @p parent owns the chooser as usual.
+    /// @p parent owns the selector.
     explicit CustomColorSelectWidget(QWidget* parent = nullptr);
     ~CustomColorSelectWidget() override;
 
     /// Shows @p color, without its alpha; an invalid one counts as black.
     void setColor(const QColor& color);
 
-    /// As setColor(), but nothing is reported on the way and @p color is what appears: the chooser begins
+    /// As setColor(), but nothing is reported on the way and @p color is what appears: the selector begins
     /// anew.
     void startFrom(const QColor& color);
 

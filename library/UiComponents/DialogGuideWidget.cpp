@@ -50,7 +50,7 @@ protected:
 private:
     QSize limited(const QSize& size) const
     {
-        return size.boundedTo(QSize(GuideLabel::mostWidth(this) / 2, QWIDGETSIZE_MAX));
+        return size.boundedTo(QSize(GuideLabel::maxWidth(this) / 2, QWIDGETSIZE_MAX));
     }
 };
 
@@ -79,7 +79,7 @@ public:
     void layOut();
     void settle();
 
-    DialogGuideWidget* const owner;
+    DialogGuideWidget* const q;
     OvFrame* const contentFrame;
     OvFrame* const headerFrame;
     QLabel* const headerLabel;
@@ -97,7 +97,7 @@ public:
 };
 
 DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
-    : owner(bubble)
+    : q(bubble)
     , contentFrame(bubble->contentFrame())
     , headerFrame(named("headerFrame", new OvFrame(contentFrame)))
     , headerLabel(named("headerLabel", new GuideLabel(headerFrame)))
@@ -112,7 +112,7 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     , descriptionHeight(descriptionLabel)
 {
     // Legible without a sheet; a sheet's qproperty-icon wins.
-    closeButton->setIcon(owner->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    closeButton->setIcon(q->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
     (new OvVBoxLayout(descriptionFrame))->autoFill();
     // In its corner also beside a heading of several lines, and beside none.
@@ -128,16 +128,16 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
 
 void DialogGuideWidget::Private::watchParent()
 {
-    QWidget* const parent = owner->parentWidget();
+    QWidget* const parent = q->parentWidget();
     if (watched == parent) {
         return;
     }
     if (watched) {
-        watched->removeEventFilter(owner);
+        watched->removeEventFilter(q);
     }
     watched = parent;
     if (parent) {
-        parent->installEventFilter(owner);
+        parent->installEventFilter(q);
     }
 }
 
@@ -154,18 +154,18 @@ void DialogGuideWidget::Private::layOut()
         frame->updateGeometry();
     }
     QEvent request(QEvent::LayoutRequest);
-    QCoreApplication::sendEvent(owner, &request);
+    QCoreApplication::sendEvent(q, &request);
 }
 
 void DialogGuideWidget::Private::settle()
 {
     layOut();
-    owner->updateContent();
+    q->updateContent();
     layOut();
-    owner->adjustSize();
+    q->adjustSize();
     // A bubble has a size of its own, without the limits of other windows.
     layOut();
-    owner->adjustPositions();
+    q->adjustPositions();
 }
 
 DialogGuideWidget::DialogGuideWidget(QWidget* parent)

@@ -54,9 +54,9 @@ void DoubleSliderInputWidget::setValue(double value)
     if (std::isnan(value)) {
         return; // a spin box would take its maximum for it
     }
-    const QPointer<DoubleSliderInputWidget> guard(this);
+    const QPointer<DoubleSliderInputWidget> self = this;
     d->spinBox->setValue(value);
-    if (guard) {
+    if (self) {
         // Not the argument, which may have more decimals, and a slot may have set another value since.
         d->slider->setDoubleValue(d->spinBox->value());
     }

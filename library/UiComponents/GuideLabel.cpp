@@ -64,7 +64,7 @@ QSize GuideLabel::sizeHint() const
     if (!breaksWords()) {
         return QLabel::sizeHint();
     }
-    const int width = mostWidth(this);
+    const int width = maxWidth(this);
     return {width, heightForWidth(width)};
 }
 
@@ -83,7 +83,7 @@ int GuideLabel::heightForWidth(int width) const
     return fontMetrics().boundingRect(room, Qt::TextWrapAnywhere, text()).height() + around.height();
 }
 
-int GuideLabel::mostWidth(const QWidget* widget)
+int GuideLabel::maxWidth(const QWidget* widget)
 {
     const QScreen* const screen = widget->screen();
     return screen ? screen->availableSize().width() / 2 : QWIDGETSIZE_MAX;
@@ -111,7 +111,7 @@ void GuideLabel::paintEvent(QPaintEvent* event)
 /// out anew.
 bool GuideLabel::breaksWords() const
 {
-    if (QLabel::minimumSizeHint().width() <= mostWidth(this)) {
+    if (QLabel::minimumSizeHint().width() <= maxWidth(this)) {
         return false;
     }
     if (QTextDocument* const rich = document()) {
@@ -123,7 +123,7 @@ bool GuideLabel::breaksWords() const
         if (option.wrapMode() != QTextOption::WrapAtWordBoundaryOrAnywhere) {
             option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
             rich->setDefaultTextOption(option);
-            shrinkPictures(rich, mostWidth(this));
+            shrinkPictures(rich, maxWidth(this));
         }
     }
     return true;

@@ -21,7 +21,7 @@ public:
     int heightForWidth(int width) const override;
 
     /// Half of the width of the screen that @p widget is on.
-    static int mostWidth(const QWidget* widget);
+    static int maxWidth(const QWidget* widget);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

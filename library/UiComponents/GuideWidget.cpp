@@ -73,7 +73,7 @@ public:
     void update();
     void followLink(const QString& link);
 
-    GuideWidget* const owner;
+    GuideWidget* const q;
     QLabel* const headerLabel;
     OvPixmapWidget* const gifPixmapWidget;
     QLabel* const descriptionLabel;
@@ -85,7 +85,7 @@ public:
 };
 
 GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
-    : owner(guide)
+    : q(guide)
     , headerLabel(makeLabel<GuideLabel>(QStringLiteral("headerLabel"), guide))
     , gifPixmapWidget(new OvPixmapWidget(guide))
     , descriptionLabel(makeLabel<GuideLabel>(QStringLiteral("descriptionLabel"), guide))
@@ -97,7 +97,7 @@ GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     gifPixmapWidget->setObjectName(QStringLiteral("gifPixmapWidget"));
     learnMoreLabel->setOpenExternalLinks(false);
 
-    (new OvVBoxLayout(owner))->autoFill();
+    (new OvVBoxLayout(q))->autoFill();
 }
 
 void GuideWidget::Private::update()
@@ -112,8 +112,8 @@ void GuideWidget::Private::update()
     learnMoreLabel->setText(info.learnMore);
     learnMoreLabel->setTextInteractionFlags(hasLink(info.learnMore) ? linkByMouseAndKeyboard : linkByMouse);
 
-    owner->ensurePolished();
-    const int width = owner->width();
+    q->ensurePolished();
+    const int width = q->width();
     descriptionHeight.fit(width);
     headerHeight.fit(width);
 }
@@ -121,10 +121,10 @@ void GuideWidget::Private::update()
 void GuideWidget::Private::followLink(const QString& link)
 {
     // An application's own handler of URLs may do anything.
-    const QPointer<GuideWidget> guide = owner;
+    const QPointer<GuideWidget> self = q;
     QDesktopServices::openUrl(QUrl(link));
-    if (guide) {
-        Q_EMIT guide->learnMoreClicked();
+    if (self) {
+        Q_EMIT self->learnMoreClicked();
     }
 }
 

@@ -34,7 +34,7 @@
 
 namespace {
 
-constexpr double most = 65535.0;
+constexpr double maxChannel = 65535.0;
 constexpr int sixth = 6000; // of QColor's 36000 steps of hue
 
 constexpr int fractionBits = 15;
@@ -50,7 +50,7 @@ enum Position { Blue = 0, Green = 8, Red = 16 };
 struct Sector
 {
     Position value;   // the channel that is the row's value
-    Position least;   // the one that saturation takes to 0
+    Position min;     // the one that saturation takes to 0
     Position between; // the one that depends on the hue
 };
 
@@ -103,12 +103,12 @@ double valueAt(int y, int height)
 // addition of this rounding, or not to: where that decides, it is asked.
 int sixteenBits(double fraction)
 {
-    const double sum = fraction * most + 0.5;
+    const double sum = fraction * maxChannel + 0.5;
     const int below = static_cast<int>(sum);
     if (sum - below > 1e-6 && sum - below < 1.0 - 1e-6) {
         return below;
     }
-    return qRound(QColor::fromHsvF(0.0, fraction, 1.0).hsvSaturationF() * most);
+    return qRound(QColor::fromHsvF(0.0, fraction, 1.0).hsvSaturationF() * maxChannel);
 }
 
 Plane planeOf(double hue, int width, int height)
@@ -120,16 +120,16 @@ Plane planeOf(double hue, int width, int height)
     const double weight = double(sextant % 2 == 1 ? step : sixth - step) / sixth;
     plane.sector = sectors[sextant];
 
-    std::vector<float> least(static_cast<std::size_t>(width));
+    std::vector<float> min(static_cast<std::size_t>(width));
     std::vector<float> between(static_cast<std::size_t>(width));
     for (int x = 0; x < width; ++x) {
-        const double saturation = sixteenBits(saturationAt(x, width)) / most;
-        least[std::size_t(x)] = static_cast<float>((1.0 - saturation) / 257.0);
+        const double saturation = sixteenBits(saturationAt(x, width)) / maxChannel;
+        min[std::size_t(x)] = static_cast<float>((1.0 - saturation) / 257.0);
         between[std::size_t(x)] = static_cast<float>((1.0 - weight * saturation) / 257.0);
     }
-    const bool leastIsLow = plane.sector.least < plane.sector.between;
-    plane.low = std::move(leastIsLow ? least : between);
-    plane.high = std::move(leastIsLow ? between : least);
+    const bool minIsLow = plane.sector.min < plane.sector.between;
+    plane.low = std::move(minIsLow ? min : between);
+    plane.high = std::move(minIsLow ? between : min);
     plane.values.resize(static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
         plane.values[std::size_t(y)] = sixteenBits(valueAt(y, height));
@@ -438,9 +438,9 @@ QImage HsvPlane::makeImage(const QSize& size)
 {
 #ifdef Q_OS_LINUX
     constexpr std::size_t largePage = 2 << 20;
-    constexpr qint64 mostPixels = INT_MAX / qint64(sizeof(QRgb)); // that QImage takes
+    constexpr qint64 maxPixels = INT_MAX / qint64(sizeof(QRgb)); // that QImage takes
     const qint64 pixels = pixelsOf(size);
-    if (size.isValid() && pixels >= streamedPixels && pixels <= mostPixels) {
+    if (size.isValid() && pixels >= streamedPixels && pixels <= maxPixels) {
         const std::size_t bytes = std::size_t(pixels) * sizeof(QRgb);
         const std::size_t whole = (bytes + largePage - 1) / largePage * largePage;
         if (void* memory = std::aligned_alloc(largePage, whole)) {

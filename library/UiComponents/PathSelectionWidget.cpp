@@ -120,7 +120,7 @@ public:
     /// may delete the widget.
     auto markOwnWriting()
     {
-        const QPointer<PathSelectionWidget> self = owner;
+        const QPointer<PathSelectionWidget> self = q;
         return qScopeGuard([this, self, before = std::exchange(settingPath, true)] {
             if (self) {
                 settingPath = before;
@@ -135,7 +135,7 @@ public:
     void dropToolTip() const;
     void retranslate();
 
-    PathSelectionWidget* const owner;
+    PathSelectionWidget* const q;
     OvFrame* const spaceInfoFrame;
     QLabel* const requiredLabel;
     QLabel* const availableLabel;
@@ -157,7 +157,7 @@ public:
 };
 
 PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
-    : owner(widget)
+    : q(widget)
     , spaceInfoFrame(makeFrame("spaceInfoFrame", widget))
     , requiredLabel(makeLabel("requiredLabel", spaceInfoFrame))
     , availableLabel(makeLabel("availableLabel", spaceInfoFrame))
@@ -171,7 +171,7 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     , availableSpace(availableLabel, available)
 {
     pathLineEdit->setObjectName(QStringLiteral("pathLineEdit"));
-    (new OvVBoxLayout(owner))->autoFill();
+    (new OvVBoxLayout(q))->autoFill();
     (new OvHBoxLayout(spaceInfoFrame))->autoFill()->addStretch(0);
     (new OvHBoxLayout(pathSelectionFrame))->autoFill()->setStretch(0, 1);
 
@@ -199,7 +199,7 @@ bool PathSelectionWidget::Private::isDefaultPathShownByText(const QString& newPa
 /// Returns whether the widget is still there.
 bool PathSelectionWidget::Private::writeText(const QString& text)
 {
-    const QPointer<PathSelectionWidget> self = owner;
+    const QPointer<PathSelectionWidget> self = q;
     const auto writing = markOwnWriting();
     pathLineEdit->setText(text);
     return self;

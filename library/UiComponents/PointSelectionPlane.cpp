@@ -19,7 +19,7 @@ class PointSelectionPlane::Private : public PlaneDrag
 public:
     explicit Private(PointSelectionPlane* plane)
         : PlaneDrag(plane)
-        , owner(plane)
+        , q(plane)
         , style(new PointSelectionPlanePropertyHelper(plane))
     {
     }
@@ -33,7 +33,7 @@ public:
     void paintAxes(QPainter& painter) const;
     void paintMarker(QPainter& painter) const;
 
-    PointSelectionPlane* const owner;
+    PointSelectionPlane* const q;
     QPointF pixelPosition = {-1.0, -1.0};
     QPointF point = {-1.0, -1.0};
     QRectF limits;
@@ -46,7 +46,7 @@ public:
 
 void PointSelectionPlane::Private::updateScale()
 {
-    scale = PointMapping::scaleOf(limits, owner->size());
+    scale = PointMapping::scaleOf(limits, q->size());
     locatePoint();
 }
 
@@ -61,7 +61,7 @@ void PointSelectionPlane::Private::placeMarker(const QPointF& pixel)
 {
     hasPoint = true;
     pixelPosition = pixel;
-    point = PointMapping::toPoint(pixel, limits, scale, owner->size());
+    point = PointMapping::toPoint(pixel, limits, scale, q->size());
 }
 
 void PointSelectionPlane::Private::stepMarker(const QPointF& pixel)
@@ -81,12 +81,12 @@ void PointSelectionPlane::Private::stepMarker(const QPointF& pixel)
 
 void PointSelectionPlane::Private::report()
 {
-    Q_EMIT owner->pointChanged(point);
+    Q_EMIT q->pointChanged(point);
 }
 
 void PointSelectionPlane::Private::paintAxes(QPainter& painter) const
 {
-    const QRect rect = owner->rect();
+    const QRect rect = q->rect();
     const QPoint centre = rect.center();
     const QLine vertical(centre.x(), rect.top(), centre.x(), rect.bottom());
     const QLine horizontal(rect.left(), centre.y(), rect.right(), centre.y());

@@ -49,7 +49,7 @@ public:
     void followSpinBox(const QPointF& reported);
     void followPlane(const QPointF& reported);
 
-    PointSelectorWidget* const owner;
+    PointSelectorWidget* const q;
     OvFrame* const spinBoxFrame;
     OvFrame* const pointSelectorFrame;
     PointSelectionPlane* const pointSelector;
@@ -64,7 +64,7 @@ public:
 };
 
 PointSelectorWidget::Private::Private(PointSelectorWidget* field)
-    : owner(field)
+    : q(field)
     , spinBoxFrame(new OvFrame(field))
     , pointSelectorFrame(new OvFrame(field))
     , pointSelector(new PointSelectionPlane(pointSelectorFrame))
@@ -85,15 +85,15 @@ PointSelectorWidget::Private::Private(PointSelectorWidget* field)
     yLabel->setObjectName(QStringLiteral("yLabel"));
     ySpinbox->setObjectName(QStringLiteral("ySpinbox"));
 
-    (new OvHBoxLayout(owner))->addItems({{pointSelectorFrame, 0}, {spinBoxFrame, 0}});
+    (new OvHBoxLayout(q))->addItems({{pointSelectorFrame, 0}, {spinBoxFrame, 0}});
     (new OvVBoxLayout(pointSelectorFrame))->autoFill();
     (new OvVBoxLayout(spinBoxFrame))->addItems({{xSpinboxFrame, 0}, {ySpinboxFrame, 0}});
     (new OvHBoxLayout(xSpinboxFrame))->autoFill();
     (new OvHBoxLayout(ySpinboxFrame))->autoFill();
 
     // A label asks its buddy's own policy whether there is anything to focus.
-    owner->setFocusPolicy(pointSelector->focusPolicy());
-    owner->setFocusProxy(pointSelector);
+    q->setFocusPolicy(pointSelector->focusPolicy());
+    q->setFocusProxy(pointSelector);
 }
 
 void PointSelectorWidget::Private::setTexts() const
@@ -104,40 +104,40 @@ void PointSelectorWidget::Private::setTexts() const
 
 void PointSelectorWidget::Private::followSpinBox(const QPointF& reported)
 {
-    const QPointer<PointSelectorWidget> guard(owner);
-    Q_EMIT owner->valueChanged(reported);
-    if (!guard || owner->updating) {
+    const QPointer<PointSelectorWidget> self = q;
+    Q_EMIT q->valueChanged(reported);
+    if (!self || q->updating) {
         return;
     }
-    owner->updating = true;
+    q->updating = true;
     // Not what was reported: a slot may have set another value since.
     pointSelector->setPoint(spinBoxValue());
-    owner->updating = false;
+    q->updating = false;
 }
 
 void PointSelectorWidget::Private::followPlane(const QPointF& reported)
 {
-    const QPointer<PointSelectorWidget> guard(owner);
+    const QPointer<PointSelectorWidget> self = q;
     const QPointF before = pointSelector->point();
-    Q_EMIT owner->valueChanged(reported);
-    if (!guard || owner->updating) {
+    Q_EMIT q->valueChanged(reported);
+    if (!self || q->updating) {
         return;
     }
-    owner->updating = true;
+    q->updating = true;
     isOverruled = false;
     // What was reported, unless a slot has set another value since. QPointF's own comparison is too coarse.
     const QPointF now = pointSelector->point();
     const bool isSame = now.x() == before.x() && now.y() == before.y();
     const QPointF point = isSame ? reported : now;
     setNumber(xSpinbox, point.x());
-    if (!guard) {
+    if (!self) {
         return;
     }
     setNumber(ySpinbox, point.y());
-    if (!guard) {
+    if (!self) {
         return;
     }
-    owner->updating = false;
+    q->updating = false;
     if (isOverruled) {
         pointSelector->setPoint(spinBoxValue());
     }
@@ -172,9 +172,9 @@ PointSelectorWidget::~PointSelectorWidget()
 void PointSelectorWidget::setValue(const QPointF& value)
 {
     d->isOverruled = true;
-    const QPointer<PointSelectorWidget> guard(this);
+    const QPointer<PointSelectorWidget> self = this;
     setNumber(d->xSpinbox, value.x());
-    if (guard) {
+    if (self) {
         setNumber(d->ySpinbox, value.y());
     }
 }

@@ -59,8 +59,8 @@ private:
 QSize containerSize(const QSizeF& size)
 {
     // As a minimum, the largest size of all means none.
-    const QSizeF largest(QWIDGETSIZE_MAX - 1, QWIDGETSIZE_MAX - 1);
-    return size.boundedTo(largest).toSize();
+    const QSizeF maxSize(QWIDGETSIZE_MAX - 1, QWIDGETSIZE_MAX - 1);
+    return size.boundedTo(maxSize).toSize();
 }
 
 // The view refuses a window as its root, but leaves it on the screen.

@@ -106,34 +106,34 @@ public:
     QBoxLayout* makeLayout() const;
     void moveToMiddle(const QWidget* container) const;
 
-    QuickDialog* const owner;
+    QuickDialog* const q;
     const std::unique_ptr<QuickContent> content = std::make_unique<QuickContent>();
     QString qmlPath;
     bool isRunning = false;
 };
 
 Qml::QuickDialog::Private::Private(QuickDialog* dialog)
-    : owner(dialog)
+    : q(dialog)
 {
-    owner->setAttribute(Qt::WA_TranslucentBackground);
-    content->qmlContext()->setContextProperty(QStringLiteral("callback"), owner);
-    Orvane::Util::ApplyQmlWindowFocusWorkaround(owner, content->getUiContent());
+    q->setAttribute(Qt::WA_TranslucentBackground);
+    content->qmlContext()->setContextProperty(QStringLiteral("callback"), q);
+    Orvane::Util::ApplyQmlWindowFocusWorkaround(q, content->getUiContent());
 }
 
 void Qml::QuickDialog::Private::makeWindow() const
 {
     QSizePolicy policy(QSizePolicy::Minimum, QSizePolicy::Minimum);
-    policy.setHeightForWidth(owner->sizePolicy().hasHeightForWidth());
-    owner->setSizePolicy(policy);
-    owner->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    owner->setModal(true);
+    policy.setHeightForWidth(q->sizePolicy().hasHeightForWidth());
+    q->setSizePolicy(policy);
+    q->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    q->setModal(true);
 }
 
 QBoxLayout* Qml::QuickDialog::Private::makeLayout() const
 {
     // A widget takes no second layout.
-    delete owner->layout();
-    auto* layout = new QHBoxLayout(owner);
+    delete q->layout();
+    auto* layout = new QHBoxLayout(q);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     // Without it the window would grow with the scene and never become smaller again.
@@ -143,11 +143,11 @@ QBoxLayout* Qml::QuickDialog::Private::makeLayout() const
 
 void Qml::QuickDialog::Private::moveToMiddle(const QWidget* container) const
 {
-    const QWidget* const parent = owner->parentWidget();
+    const QWidget* const parent = q->parentWidget();
     const QPoint middle = parent ? parent->mapToGlobal(parent->rect().center()) : middleOfScreen();
     const int left = static_cast<int>(container->width() * 0.5);
     const int top = static_cast<int>(container->height() * 0.5);
-    owner->move(middle - QPoint(left, top));
+    q->move(middle - QPoint(left, top));
 }
 
 Qml::QuickDialog::QuickDialog(QWidget* parent)

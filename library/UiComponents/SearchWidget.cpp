@@ -61,7 +61,7 @@ public:
     void reportFinished();
     void applyPlaceholderBrush() const;
 
-    SearchWidget* const owner;
+    SearchWidget* const q;
     QLabel* const searchIcon;
     TesselLineEdit* const searchLineEdit;
     QToolButton* const clearSearchButton;
@@ -72,7 +72,7 @@ public:
 };
 
 SearchWidget::Private::Private(SearchWidget* search)
-    : owner(search)
+    : q(search)
     , searchIcon(new QLabel(search))
     , searchLineEdit(new TesselLineEdit(search))
     , clearSearchButton(new ClickButton(search))
@@ -81,7 +81,7 @@ SearchWidget::Private::Private(SearchWidget* search)
     searchLineEdit->setObjectName(QStringLiteral("searchLineEdit"));
     clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
 
-    (new OvHBoxLayout(owner))->autoFill();
+    (new OvHBoxLayout(q))->autoFill();
 
     searchLineEdit->setAttribute(Qt::WA_MouseTracking);
     clearSearchButton->hide();
@@ -104,11 +104,11 @@ void SearchWidget::Private::showClearButton(bool isVisible)
 void SearchWidget::Private::reportFinished()
 {
     const QString text = searchLineEdit->text();
-    if (text == reportedText || isDestroyed(owner->window())) {
+    if (text == reportedText || isDestroyed(q->window())) {
         return;
     }
     reportedText = text;
-    Q_EMIT owner->editingFinished(text);
+    Q_EMIT q->editingFinished(text);
 }
 
 void SearchWidget::Private::applyPlaceholderBrush() const

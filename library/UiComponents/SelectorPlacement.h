@@ -1,4 +1,4 @@
-// Internal: where ColorPickerWidget opens the chooser of any colour.
+// Internal: where ColorPickerWidget opens the selector.
 
 #pragma once
 

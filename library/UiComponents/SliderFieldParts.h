@@ -15,21 +15,19 @@ class SliderFieldParts
 {
 public:
     explicit SliderFieldParts(QWidget* field)
-        : owner(field)
-        , slider(new Slider(field))
+        : slider(new Slider(field))
         , spinBox(new SpinBox(field))
     {
         slider->setObjectName(QStringLiteral("slider"));
         spinBox->setObjectName(QStringLiteral("spinbox"));
 
-        (new OvHBoxLayout(owner))->autoFill();
+        (new OvHBoxLayout(field))->autoFill();
 
         // A label asks its buddy's own policy whether there is anything to focus.
-        owner->setFocusPolicy(slider->focusPolicy());
-        owner->setFocusProxy(slider);
+        field->setFocusPolicy(slider->focusPolicy());
+        field->setFocusProxy(slider);
     }
 
-    QWidget* const owner;
     Slider* const slider;
     SpinBox* const spinBox;
 };

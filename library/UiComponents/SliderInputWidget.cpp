@@ -41,9 +41,9 @@ SliderInputWidget::~SliderInputWidget()
 
 void SliderInputWidget::setValue(int value)
 {
-    const QPointer<SliderInputWidget> guard(this);
+    const QPointer<SliderInputWidget> self = this;
     d->spinBox->setValue(value);
-    if (guard) {
+    if (self) {
         // Not the argument: a slot may have set another value since.
         d->slider->setValue(d->spinBox->value());
     }

@@ -227,9 +227,9 @@ void OvCustomSlider::mousePressEvent(QMouseEvent* event)
     const Span span = along(orientation(), handle);
     m_grip = place - (isOnHandle ? span.start + span.length / 2 : track.bounded(place));
     update();
-    const QPointer<OvCustomSlider> guard(this);
+    const QPointer<OvCustomSlider> self = this;
     setSliderDown(true);
-    if (guard && isSliderDown() && !isOnHandle) {
+    if (self && isSliderDown() && !isOnHandle) {
         dragHandle(track.positionAt(place));
     }
 }
@@ -262,9 +262,9 @@ void OvCustomSlider::mouseReleaseEvent(QMouseEvent* event)
         setSliderDown(false);
         placeHandle(position);
     }
-    const QPointer<OvCustomSlider> guard(this);
+    const QPointer<OvCustomSlider> self = this;
     Q_EMIT sliderReleased();
-    if (guard && sliderPosition() != value()) {
+    if (self && sliderPosition() != value()) {
         perform(SliderMove);
     }
 }
@@ -307,14 +307,14 @@ void OvCustomSlider::placeHandle(int position)
 /// The first half of QAbstractSlider::triggerAction(). Returns whether the slider is still there.
 bool OvCustomSlider::moveHandle(int position)
 {
-    const QPointer<OvCustomSlider> guard(this);
+    const QPointer<OvCustomSlider> self = this;
     if (position != sliderPosition()) {
         placeHandle(position);
         if (isSliderDown()) {
             Q_EMIT sliderMoved(position);
         }
     }
-    return guard;
+    return self;
 }
 
 void OvCustomSlider::dragHandle(int position)
@@ -327,11 +327,11 @@ void OvCustomSlider::dragHandle(int position)
 /// The second half of QAbstractSlider::triggerAction(), behind whose signals nothing uses the slider.
 void OvCustomSlider::perform(SliderAction action)
 {
-    const QPointer<OvCustomSlider> guard(this);
+    const QPointer<OvCustomSlider> self = this;
     const bool tracks = hasTracking();
     setTracking(false); // a slot may put the handle elsewhere, which is no other action
     Q_EMIT actionTriggered(action);
-    if (guard) {
+    if (self) {
         setTracking(tracks);
         setValue(sliderPosition());
     }

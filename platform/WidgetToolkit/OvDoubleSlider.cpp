@@ -49,9 +49,9 @@ void OvDoubleSlider::Private::deriveValue()
         return;
     }
     value = qBound(scale.valueOf(q->minimum()), *requested, scale.valueOf(q->maximum()));
-    const QPointer<OvDoubleSlider> guard(q);
+    const QPointer<OvDoubleSlider> self = q;
     q->setValue(scale.stepOf(value));
-    if (guard) {
+    if (self) {
         announce();
     }
 }
@@ -97,9 +97,9 @@ void OvDoubleSlider::setMultiplier(double multiplier)
     }
     d->multiplier = multiplier;
     d->scale = StepMapping::Scale(multiplier);
-    const QPointer<OvDoubleSlider> guard(this);
+    const QPointer<OvDoubleSlider> self = this;
     d->deriveValue();
-    if (guard && d->multiplier == multiplier) {
+    if (self && d->multiplier == multiplier) {
         Q_EMIT multiplierChanged(multiplier);
     }
 }

@@ -39,9 +39,9 @@ void OvDoubleSpinBox::setBothDecimalMarksAccepted(bool accepted)
 void OvDoubleSpinBox::setDecimals(int decimals)
 {
     const int before = this->decimals();
-    const QPointer<OvDoubleSpinBox> guard(this);
+    const QPointer<OvDoubleSpinBox> self = this;
     QDoubleSpinBox::setDecimals(decimals);
-    if (guard && this->decimals() != before) {
+    if (self && this->decimals() != before) {
         Q_EMIT decimalsChanged(this->decimals());
     }
 }
@@ -96,9 +96,9 @@ void OvDoubleSpinBox::stepBy(int steps)
     const double after = value();
     setValue(before);
     quiet.unblock();
-    const QPointer<OvDoubleSpinBox> guard(this);
+    const QPointer<OvDoubleSpinBox> self = this;
     setValue(after); // rounds it to the decimals
-    if (guard) {
+    if (self) {
         selectAll(); // as the base leaves it
     }
 }

@@ -14,7 +14,7 @@
 namespace {
 
 // What is scaled in advance takes memory, whatever part of it is seen.
-constexpr qint64 mostScaledPixels = 4096 * 4096;
+constexpr qint64 maxScaledPixels = 4096 * 4096;
 
 } // namespace
 
@@ -218,7 +218,7 @@ void OvPixmapWidget::paintEvent(QPaintEvent* event)
     const QPoint deviceTopLeft(qRound(room.x() * ratio) + (deviceRoom.width() - deviceSize.width()) / 2,
                                qRound(room.y() * ratio) + (deviceRoom.height() - deviceSize.height()) / 2);
     const QRectF target(QPointF(deviceTopLeft) / ratio, QSizeF(deviceSize) / ratio);
-    const bool isLarge = qint64(deviceSize.width()) * deviceSize.height() > mostScaledPixels;
+    const bool isLarge = qint64(deviceSize.width()) * deviceSize.height() > maxScaledPixels;
     const QSize scaledSize = isLarge ? frame : deviceSize;
     painter.setRenderHint(QPainter::SmoothPixmapTransform, isLarge);
     painter.drawPixmap(target, d->scaledFrame(scaledSize), QRectF(QPointF(), QSizeF(scaledSize)));

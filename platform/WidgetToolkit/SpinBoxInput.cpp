@@ -12,17 +12,17 @@ namespace {
 template <typename SpinBox>
 void announceValue(SpinBox* box)
 {
-    const QPointer<SpinBox> guard(box);
+    const QPointer<SpinBox> self = box;
 #if QT_DEPRECATED_SINCE(5, 14)
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     Q_EMIT box->valueChanged(box->text());
     QT_WARNING_POP
 #endif
-    if (guard) {
+    if (self) {
         Q_EMIT box->textChanged(box->text());
     }
-    if (guard) {
+    if (self) {
         Q_EMIT box->valueChanged(box->value());
     }
 }
@@ -37,7 +37,7 @@ bool SpinBoxInput::isCommit(const QKeyEvent* event)
 template <typename SpinBox>
 void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
 {
-    const QPointer<SpinBox> guard(box);
+    const QPointer<SpinBox> self = box;
     const QPointer<QLineEdit> editGuard(edit);
     // Ignored, so that it goes on to the default button of a dialog.
     event->ignore();
@@ -49,7 +49,7 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
     if (box->value() != before) {
         announceValue(box);
     }
-    if (!guard) {
+    if (!self) {
         return;
     }
     box->selectAll();
@@ -58,7 +58,7 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
         Q_EMIT edit->returnPressed();
     }
     // A listener may have set another value, whose text is not selected.
-    if (guard && box->hasFocus()) {
+    if (self && box->hasFocus()) {
         box->selectAll();
     }
 }

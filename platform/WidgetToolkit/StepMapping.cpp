@@ -11,9 +11,9 @@ namespace {
 using Limits = std::numeric_limits<double>;
 
 // Products of a 32-bit step and a numerator up to here are exact in a double.
-constexpr double largestExactNumerator = 4194304.0;
+constexpr double maxExactNumerator = 4194304.0;
 // Of a multiplier that is taken for a decimal fraction.
-constexpr int mostDecimals = 12;
+constexpr int maxDecimals = 12;
 
 // A multiplier such as pow(10, -3) may be a few units in the last place off the number that is meant.
 bool isNearly(double number, double meant)
@@ -33,9 +33,9 @@ StepMapping::Scale::Scale(double multiplier)
         return;
     }
     double power = 1.0;
-    for (int decimals = 0; decimals <= mostDecimals; ++decimals, power *= 10.0) {
+    for (int decimals = 0; decimals <= maxDecimals; ++decimals, power *= 10.0) {
         const double numerator = std::round(multiplier * power);
-        if (numerator > largestExactNumerator) {
+        if (numerator > maxExactNumerator) {
             return;
         }
         if (numerator >= 1.0 && isNearly(multiplier * power, numerator)) {

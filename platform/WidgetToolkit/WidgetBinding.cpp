@@ -13,7 +13,7 @@
 namespace {
 
 // Listeners that keep moving the two against each other are left to themselves after so many copies.
-constexpr int mostCopies = 16;
+constexpr int maxCopies = 16;
 
 // Gives a widget range and value with one report of the value. Setting the range alone would clamp the
 // old value into it, and announce that too.
@@ -78,7 +78,7 @@ void WidgetBinding::synchronise(Side side)
     }
     bool gone = false;
     m_gone = &gone;
-    for (int copies = 0; copies < mostCopies; ++copies) {
+    for (int copies = 0; copies < maxCopies; ++copies) {
         const std::optional<Side> next = copy(side, gone);
         if (gone) {
             return;

@@ -36,9 +36,9 @@ private Q_SLOTS:
     void opacityIsDraggedAndTyped();
     void ownColorIsAdded();
     void ninthOwnColorReplacesTheOldest();
-    void escapeClosesTheChooser();
-    void chooserStaysOnItsScreen_data();
-    void chooserStaysOnItsScreen();
+    void escapeClosesTheSelector();
+    void selectorStaysOnItsScreen_data();
+    void selectorStaysOnItsScreen();
     void dragLeavesTheWindow_data();
     void dragLeavesTheWindow();
     void hueSliderTurnsThePlane();
@@ -47,7 +47,7 @@ private Q_SLOTS:
     void fieldOpensThePanel();
     void fieldIsClosedByAClick_data();
     void fieldIsClosedByAClick();
-    void fieldKeepsThePanelBelowItsChooser();
+    void fieldKeepsThePanelBelowItsSelector();
     void fieldHandsThePipetteOn();
 
 private:
@@ -58,8 +58,8 @@ private:
     }
     QList<QToolButton*> facesOf(const char* panel) const;
     QToolButton* ownColor(int place) const;
-    QDialog* chooser() const;
-    bool openChooser() const;
+    QDialog* selectorDialog() const;
+    bool openSelector() const;
     bool openField();
     bool clickElsewhere() const { return RealInput::click(m_window.get(), QPoint(5, 5)); }
     static QColor centerOf(const QWidget* widget)
@@ -127,16 +127,17 @@ QToolButton* tst_ColorPanel::ownColor(int place) const
     return faces.at(place);
 }
 
-QDialog* tst_ColorPanel::chooser() const
+QDialog* tst_ColorPanel::selectorDialog() const
 {
     auto* dialog = m_panel->findChild<QDialog*>();
     return dialog && dialog->isVisible() ? dialog : nullptr;
 }
 
-bool tst_ColorPanel::openChooser() const
+bool tst_ColorPanel::openSelector() const
 {
     return RealInput::click(child<QToolButton>("addCustomColorButton")) &&
-           QTest::qWaitFor([this] { return chooser(); }) && QTest::qWaitForWindowExposed(chooser());
+           QTest::qWaitFor([this] { return selectorDialog(); }) &&
+           QTest::qWaitForWindowExposed(selectorDialog());
 }
 
 /// From now on m_panel is the field's.
@@ -252,23 +253,23 @@ void tst_ColorPanel::opacityIsDraggedAndTyped()
 
 void tst_ColorPanel::ownColorIsAdded()
 {
-    QVERIFY(openChooser());
+    QVERIFY(openSelector());
     const auto* add = child<QToolButton>("addCustomColorButton");
     const QPoint corner = add->mapToGlobal(QPoint(add->width(), add->height()));
-    QCOMPARE(chooser()->geometry().left(), corner.x());
-    QCOMPARE(chooser()->geometry().bottom() + 1, corner.y());
+    QCOMPARE(selectorDialog()->geometry().left(), corner.x());
+    QCOMPARE(selectorDialog()->geometry().bottom() + 1, corner.y());
 
     // What is under the mouse is reported, shown in the preview and becomes the own colour.
-    const auto* plane = chooser()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
     QVERIFY(RealInput::click(plane, QPoint(plane->width() / 3, plane->height() / 4)));
     QTRY_VERIFY(m_reported->count() >= 2);
     const QColor chosen = lastReported();
     QVERIFY(chosen.isValid());
     QTRY_COMPARE(centerOf(child<QLabel>("currentColorDisplayLabel")), chosen);
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-chooser")));
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-selector")));
 
     QVERIFY(clickElsewhere());
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
     QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
     QTRY_VERIFY(ownColor(0)->isChecked());
     QTRY_COMPARE(centerOf(ownColor(0)), chosen);
@@ -285,12 +286,12 @@ void tst_ColorPanel::ninthOwnColorReplacesTheOldest()
 {
     QStringList names;
     for (int i = 0; i < 9; ++i) {
-        QVERIFY(openChooser());
-        const auto* plane = chooser()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        QVERIFY(openSelector());
+        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
         QVERIFY(RealInput::click(plane, QPoint(40 + i * 15, 30 + i * 10)));
         QTRY_VERIFY(m_reported->count() > 0);
         QVERIFY(clickElsewhere());
-        QTRY_VERIFY(!chooser());
+        QTRY_VERIFY(!selectorDialog());
         QTRY_COMPARE(Settings::userCustomColors().value(0), lastReported().name());
         names.prepend(lastReported().name());
     }
@@ -302,30 +303,30 @@ void tst_ColorPanel::ninthOwnColorReplacesTheOldest()
     QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-own-colours")));
 }
 
-void tst_ColorPanel::escapeClosesTheChooser()
+void tst_ColorPanel::escapeClosesTheSelector()
 {
     m_panel->setCurrentColor(QColor(0x12, 0xab, 0x34));
-    QVERIFY(openChooser());
+    QVERIFY(openSelector());
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
     QVERIFY(m_window->isVisible());
     QTRY_VERIFY(child<QToolButton>("addCustomColorButton")->hasFocus());
     // From there it opens again.
     QVERIFY(RealInput::key(QStringLiteral("space")));
-    QTRY_VERIFY(chooser());
+    QTRY_VERIFY(selectorDialog());
     QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
     QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#12ab34")});
 }
 
-void tst_ColorPanel::chooserStaysOnItsScreen_data()
+void tst_ColorPanel::selectorStaysOnItsScreen_data()
 {
     QTest::addColumn<Qt::Alignment>("corner");
     QTest::newRow("top left") << Qt::Alignment(Qt::AlignTop | Qt::AlignLeft);
     QTest::newRow("bottom right") << Qt::Alignment(Qt::AlignBottom | Qt::AlignRight);
 }
 
-void tst_ColorPanel::chooserStaysOnItsScreen()
+void tst_ColorPanel::selectorStaysOnItsScreen()
 {
     QFETCH(Qt::Alignment, corner);
     const QRect screen = m_window->screen()->availableGeometry();
@@ -336,11 +337,11 @@ void tst_ColorPanel::chooserStaysOnItsScreen()
                              : screen.bottomRight() - QPoint(m_window->width(), m_window->height() - 60);
     m_window->move(place);
     QTRY_VERIFY((m_window->pos() - place).manhattanLength() < 60);
-    QVERIFY(openChooser());
-    QVERIFY2(screen.contains(chooser()->geometry()),
-             qPrintable(QStringLiteral("%1 %2").arg(chooser()->x()).arg(chooser()->y())));
+    QVERIFY(openSelector());
+    QVERIFY2(screen.contains(selectorDialog()->geometry()),
+             qPrintable(QStringLiteral("%1 %2").arg(selectorDialog()->x()).arg(selectorDialog()->y())));
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
 }
 
 void tst_ColorPanel::dragLeavesTheWindow_data()
@@ -356,14 +357,14 @@ void tst_ColorPanel::dragLeavesTheWindow()
 {
     QFETCH(QPoint, way);
     QFETCH(QColor, expected);
-    QVERIFY(openChooser());
-    const auto* plane = chooser()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+    QVERIFY(openSelector());
+    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
     QTRY_COMPARE(RealInput::pixel(plane, QPoint(plane->width() - 1, 0)), QColor(Qt::red));
     const QPoint start = plane->rect().center();
     QVERIFY(RealInput::drag(plane, start, start + way));
     QTRY_VERIFY(!QWidget::mouseGrabber());
     QCOMPARE(lastReported(), expected);
-    QVERIFY(chooser());
+    QVERIFY(selectorDialog());
     // The drag is over: the mouse moves nothing any more.
     const int count = m_reported->count();
     QVERIFY(RealInput::moveTo(plane, start));
@@ -373,9 +374,9 @@ void tst_ColorPanel::dragLeavesTheWindow()
 
 void tst_ColorPanel::hueSliderTurnsThePlane()
 {
-    QVERIFY(openChooser());
-    const auto* plane = chooser()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-    auto* slider = chooser()->findChild<QSlider*>(QStringLiteral("hueSlider"));
+    QVERIFY(openSelector());
+    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+    auto* slider = selectorDialog()->findChild<QSlider*>(QStringLiteral("hueSlider"));
     QVERIFY(RealInput::click(plane, QPoint(plane->width() - 2, 1)));
     QTRY_VERIFY(m_reported->count() > 0);
     QVERIFY(RealInput::click(slider, QPoint(slider->width() * 2 / 3, slider->height() / 2)));
@@ -384,7 +385,7 @@ void tst_ColorPanel::hueSliderTurnsThePlane()
     const QPoint upperRight(plane->width() - 1, 0);
     QTRY_COMPARE(RealInput::pixel(plane, upperRight).hue(), slider->value());
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
 }
 
 void tst_ColorPanel::pipetteButtonAsksToCloseToo()
@@ -456,24 +457,24 @@ void tst_ColorPanel::fieldIsClosedByAClick()
     QCOMPARE(started.count(), 1);
 }
 
-void tst_ColorPanel::fieldKeepsThePanelBelowItsChooser()
+void tst_ColorPanel::fieldKeepsThePanelBelowItsSelector()
 {
     QVERIFY(openField());
     const QWidget* const popup = m_panel->window();
-    QVERIFY(openChooser());
+    QVERIFY(openSelector());
     QVERIFY(popup->isVisible());
-    const auto* plane = chooser()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
     QVERIFY(RealInput::click(plane, QPoint(plane->width() / 2, plane->height() / 2)));
     QTRY_VERIFY(m_reported->count() > 0);
     const QColor chosen = lastReported();
     QTRY_COMPARE(centerOf(m_field), chosen);
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel-chooser")));
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel-selector")));
 
-    // A click on the panel, in the column that the chooser leaves free, closes it alone; the next one
+    // A click on the panel, in the column that the selector leaves free, closes it alone; the next one
     // chooses.
     QToolButton* const face = facesOf("colorMatrixPanel").at(3 * 9);
     QVERIFY(RealInput::click(face));
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
     QVERIFY(popup->isVisible());
     QVERIFY(m_picker->isInProgress());
     QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
@@ -483,9 +484,9 @@ void tst_ColorPanel::fieldKeepsThePanelBelowItsChooser()
     QTRY_COMPARE(m_field->color()->name(), nameOf(face));
 
     // Escape closes them one by one.
-    QVERIFY(openChooser());
+    QVERIFY(openSelector());
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!chooser());
+    QTRY_VERIFY(!selectorDialog());
     QVERIFY(popup->isVisible());
     QVERIFY(RealInput::key(QStringLiteral("Escape")));
     QTRY_VERIFY(!popup->isVisible());

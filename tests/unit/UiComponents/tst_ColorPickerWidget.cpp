@@ -1138,7 +1138,7 @@ void tst_ColorPickerWidget::emptiedOpacity_data()
     };
     row("loses the focus", [](Panel* panel) { panel->slider->setFocus(); });
     row("is hidden", [](Panel* panel) { panel->hide(); });
-    row("the chooser opens", [](Panel* panel) { panel->openPopup(); });
+    row("the selector opens", [](Panel* panel) { panel->openPopup(); });
 }
 
 void tst_ColorPickerWidget::emptiedOpacity()

@@ -23,7 +23,7 @@ Child* childOf(const QWidget& parent, const char* name)
     return parent.findChild<Child*>(QLatin1String(name));
 }
 
-/// A chooser that records what it reports, with a plane of at least 101 × 51 pixels.
+/// A selector that records what it reports, with a plane of at least 101 × 51 pixels.
 class Selector : public CustomColorSelectWidget
 {
 public:

@@ -289,15 +289,15 @@ void tst_PanelColorPicker::ownPopupOfThePanelKeepsItOpen()
     QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
     m_button->setColor(QColor(12, 34, 56));
     child<QToolButton>("addCustomColorButton")->click();
-    const auto* chooser = panel()->findChild<QDialog*>();
-    QVERIFY(chooser->isVisible());
+    const auto* dialog = panel()->findChild<QDialog*>();
+    QVERIFY(dialog->isVisible());
     QCoreApplication::processEvents();
     QVERIFY(popup()->isVisible());
     QVERIFY(m_picker->isInProgress());
 
-    // The first click elsewhere closes the chooser, the second the panel.
+    // The first click elsewhere closes the selector, the second the panel.
     clickElsewhere();
-    QVERIFY(!chooser->isVisible());
+    QVERIFY(!dialog->isVisible());
     QCoreApplication::processEvents();
     QVERIFY(popup()->isVisible());
     QVERIFY(m_picker->isInProgress());
@@ -313,11 +313,11 @@ void tst_PanelColorPicker::stopClosesTheOwnPopupToo()
     m_button->setColor(QColor(12, 34, 56));
     m_button->startPicking();
     child<QToolButton>("addCustomColorButton")->click();
-    const auto* chooser = panel()->findChild<QDialog*>();
-    QVERIFY(chooser->isVisible());
+    const auto* dialog = panel()->findChild<QDialog*>();
+    QVERIFY(dialog->isVisible());
     QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
     m_button->stopPicking();
-    QVERIFY(!chooser->isVisible());
+    QVERIFY(!dialog->isVisible());
     QVERIFY(!popup()->isVisible());
     QCOMPARE(stopped.count(), 1);
     QCOMPARE(Settings::userCustomColors(), QStringList{"#0c2238"});

@@ -228,7 +228,7 @@ SearchWidget* makeSearch(QWidget* parent)
     return search;
 }
 
-/// With the chooser that its add button opens.
+/// With the selector that its add button opens.
 ColorPickerWidget* makeColorPanel(QWidget* parent)
 {
     auto* panel = new ColorPickerWidget(parent, true);
@@ -529,7 +529,7 @@ private Q_SLOTS:
     void colorsThatAreOffAreDimmer();
     void hueGrooveShowsTheHues_data();
     void hueGrooveShowsTheHues();
-    void chooserTakesItsMetrics();
+    void selectorTakesItsMetrics();
     void bubbleTakesItsLook();
     void guidesTakeTheirLook();
     void loupeTakesItsLook();
@@ -1160,17 +1160,17 @@ void tst_ReferenceStyles::hueGrooveShowsTheHues()
     }
 }
 
-void tst_ReferenceStyles::chooserTakesItsMetrics()
+void tst_ReferenceStyles::selectorTakesItsMetrics()
 {
     qApp->setStyleSheet(resourceSheet(styles().first()));
     QWidget window;
     const ColorPickerWidget* const panel = makeColorPanel(&window);
-    auto* chooser = panel->findChild<QDialog*>();
-    chooser->ensurePolished();
-    chooser->adjustSize();
-    const QWidget* const plane = partOf(chooser, "colorPlane");
+    auto* dialog = panel->findChild<QDialog*>();
+    dialog->ensurePolished();
+    dialog->adjustSize();
+    const QWidget* const plane = partOf(dialog, "colorPlane");
     QCOMPARE(plane->size(), QSize(220, 160));
-    QCOMPARE(plane->mapTo(chooser, QPoint()), QPoint(12, 12));
+    QCOMPARE(plane->mapTo(dialog, QPoint()), QPoint(12, 12));
     QCOMPARE(plane->property("markerRadius").toInt(), 7);
 }
 
