@@ -20,8 +20,8 @@
  * emitted; QComboBox emits currentTextChanged() for the new text, and before that for an empty one while
  * SourceOver is current.
  *
- * **Change events** do not reach QComboBox. Set font and style sheet before the box is laid out, because its
- * size hint stays; a box that is disabled while its pop-up is open keeps it open.
+ * **Events.** Change events do not reach QComboBox. Set font and style sheet before the box is laid out,
+ * because its size hint stays; a box that is disabled while its pop-up is open keeps it open.
  *
  * **Style sheet.** As an OvComboBox in the look of the design system: `OvComboBox[tessel="true"]`,
  * `[popupVisible="true"]`, the list `#tesselComboBoxView`, or alone as `ColorBlendingComboBox`.

@@ -51,25 +51,13 @@ QColor opaque(const QColor& color)
 }
 
 /// The buttons by the opaque colour that they show.
-class ColorIndex
+using ColorIndex = QHash<QRgb, QToolButton*>;
+
+/// No opaque colour is 0.
+QRgb keyOf(const QColor& color)
 {
-public:
-    void add(const QColor& color, QToolButton* button) { m_buttons.insert(keyOf(color), button); }
-    void remove(const QColor& color, QToolButton* button)
-    {
-        if (find(color) == button) {
-            m_buttons.remove(keyOf(color));
-        }
-    }
-    void clear() { m_buttons.clear(); }
-    QToolButton* find(const QColor& color) const { return m_buttons.value(keyOf(color)); }
-
-private:
-    // No opaque colour is 0.
-    static QRgb keyOf(const QColor& color) { return color.isValid() ? color.rgb() : 0U; }
-
-    QHash<QRgb, QToolButton*> m_buttons;
-};
+    return color.isValid() ? color.rgb() : 0U;
+}
 
 /// A row for @p title alone, and below it one for @p first and @p second.
 void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* second)
@@ -79,35 +67,6 @@ void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* s
                  0);
     grid->addRow({first, second}, 0);
 }
-
-/// What is left of a panel that a slot has deleted. Line edits, buttons and spin boxes of Qt go on using
-/// themselves after their signals, so each emission shares this, and the last one to return gives the parts
-/// up: a nested event loop in a slot must not delete what is below it on the stack.
-class Remains
-{
-public:
-    Remains() = default;
-    ~Remains()
-    {
-        for (const QPointer<QWidget>& part : qAsConst(m_parts)) {
-            if (part) {
-                part->deleteLater();
-            }
-        }
-    }
-    Remains(const Remains&) = delete;
-    Remains& operator=(const Remains&) = delete;
-
-    void keep(QWidget* part)
-    {
-        part->hide();
-        part->setParent(nullptr);
-        m_parts.append(part);
-    }
-
-private:
-    QVector<QPointer<QWidget>> m_parts;
-};
 
 /// What the selector is shown in.
 // For everybody else it is a QDialog.
@@ -136,6 +95,35 @@ protected:
 class ColorPickerWidget::Private : public QAccessible::ActivationObserver
 {
 public:
+    /// What is left of a panel that a slot has deleted. Line edits, buttons and spin boxes of Qt go on using
+    /// themselves after their signals, so each emission shares this, and the last one to return gives the
+    /// parts up: a nested event loop in a slot must not delete what is below it on the stack.
+    class Remains
+    {
+    public:
+        Remains() = default;
+        ~Remains()
+        {
+            for (const QPointer<QWidget>& part : qAsConst(m_parts)) {
+                if (part) {
+                    part->deleteLater();
+                }
+            }
+        }
+        Remains(const Remains&) = delete;
+        Remains& operator=(const Remains&) = delete;
+
+        void keep(QWidget* part)
+        {
+            part->hide();
+            part->setParent(nullptr);
+            m_parts.append(part);
+        }
+
+    private:
+        QVector<QPointer<QWidget>> m_parts;
+    };
+
     Private(ColorPickerWidget* panel, bool nullColorAllowed, const QStringList& ownColors);
     ~Private() override;
     Private(const Private&) = delete;
@@ -335,7 +323,7 @@ void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QCo
     }
     paletteLayout->addWidget(button, row, column);
     setButtonColor(button, color);
-    paletteButtons.add(color, button);
+    paletteButtons.insert(keyOf(color), button);
 }
 
 void ColorPickerWidget::Private::buildQueue()
@@ -414,7 +402,7 @@ void ColorPickerWidget::Private::fillQueue(const QStringList& names)
             QToolButton* const button = queueButton(i);
             button->setEnabled(true);
             setButtonColor(button, color);
-            queueButtons.add(color, button);
+            queueButtons.insert(keyOf(color), button);
         }
     }
 }
@@ -478,8 +466,8 @@ QToolButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
     if (checked && buttonColors.value(checked) == opaque(color)) {
         return checked;
     }
-    QToolButton* const own = queueButtons.find(color);
-    return own ? own : paletteButtons.find(color);
+    QToolButton* const own = queueButtons.value(keyOf(color));
+    return own ? own : paletteButtons.value(keyOf(color));
 }
 
 void ColorPickerWidget::Private::setColor(const std::optional<QColor>& color)
@@ -704,15 +692,16 @@ void ColorPickerWidget::Private::onDialogFinished()
         return;
     }
     QToolButton* const button = queueButton(queueLength - 1);
-    if (button->isEnabled()) {
-        queueButtons.remove(buttonColors.value(button), button);
+    const QRgb oldKey = keyOf(buttonColors.value(button));
+    if (button->isEnabled() && queueButtons.value(oldKey) == button) {
+        queueButtons.remove(oldKey);
     }
     queueLayout->removeWidget(button);
     queueLayout->insertWidget(0, button, 0, {});
     QWidget::setTabOrder(addCustomColorButton, button);
     const QColor color = opaque(*currentColor);
     setButtonColor(button, color);
-    queueButtons.add(color, button);
+    queueButtons.insert(keyOf(color), button);
     button->setEnabled(true);
     button->setChecked(true);
 }

@@ -43,51 +43,6 @@ QString literalToolTip(const QString& text)
            QStringLiteral("</span>");
 }
 
-/// A line about the space on a disk. Knows its figure, to write it anew in another language.
-class SpaceFigure
-{
-public:
-    SpaceFigure(QLabel* label, const char* text)
-        : m_label(label)
-        , m_text(text)
-    {
-    }
-
-    void show(bool visible, qint64 bytes)
-    {
-        m_bytes = bytes;
-        write();
-        m_label->setVisible(visible);
-    }
-
-    void retranslate()
-    {
-        if (m_bytes) {
-            write();
-        }
-    }
-
-private:
-    void write()
-    {
-        using namespace Orvane::Util;
-        const QString size =
-            *m_bytes < 0 ? QStringLiteral("...") : FormatFileSize(*m_bytes, -1, FileSizeUnit::Auto, 1024);
-        m_label->setText(PathSelectionWidget::tr(m_text).arg(size));
-    }
-
-    QLabel* const m_label;
-    const char* const m_text;
-    std::optional<qint64> m_bytes;
-};
-
-struct PathError
-{
-    QString message;
-    /// The same untranslated, where it is one of ours.
-    const char* source = nullptr;
-};
-
 OvFrame* makeFrame(const char* name, QWidget* parent)
 {
     auto* frame = new OvFrame(parent);
@@ -114,6 +69,51 @@ QToolButton* makeButton(const char* name, QWidget* parent)
 class PathSelectionWidget::Private
 {
 public:
+    /// A line about the space on a disk. Knows its figure, to write it anew in another language.
+    class SpaceFigure
+    {
+    public:
+        SpaceFigure(QLabel* label, const char* text)
+            : m_label(label)
+            , m_text(text)
+        {
+        }
+
+        void show(bool visible, qint64 bytes)
+        {
+            m_bytes = bytes;
+            write();
+            m_label->setVisible(visible);
+        }
+
+        void retranslate()
+        {
+            if (m_bytes) {
+                write();
+            }
+        }
+
+    private:
+        void write()
+        {
+            using namespace Orvane::Util;
+            const QString size =
+                *m_bytes < 0 ? QStringLiteral("...") : FormatFileSize(*m_bytes, -1, FileSizeUnit::Auto, 1024);
+            m_label->setText(PathSelectionWidget::tr(m_text).arg(size));
+        }
+
+        QLabel* const m_label;
+        const char* const m_text;
+        std::optional<qint64> m_bytes;
+    };
+
+    struct PathError
+    {
+        QString message;
+        /// The same untranslated, where it is one of ours.
+        const char* source = nullptr;
+    };
+
     explicit Private(PathSelectionWidget* widget);
 
     /// In the scope of the result it is the widget itself that writes into the line edit, whose listeners
@@ -213,7 +213,7 @@ void PathSelectionWidget::Private::handleFocus(bool hasFocus)
     Util::applyProperty(pathSelectionFrame, "focusHint", hasFocus);
 }
 
-PathError PathSelectionWidget::Private::findError() const
+PathSelectionWidget::Private::PathError PathSelectionWidget::Private::findError() const
 {
     // Copies: a check function may set another path, replace itself or delete the widget.
     QString checked = path;
@@ -369,7 +369,7 @@ void PathSelectionWidget::setDefaultPath(const QString& path, const QString& dis
 bool PathSelectionWidget::checkPath()
 {
     const QPointer<PathSelectionWidget> self = this;
-    const PathError error = d->findError();
+    const Private::PathError error = d->findError();
     if (error.message.isEmpty()) {
         return true;
     }

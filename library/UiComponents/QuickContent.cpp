@@ -35,27 +35,6 @@ public:
     }
 };
 
-// Owns a widget that may be deleted by its parent instead.
-template <typename Widget>
-class OwnedWidget
-{
-public:
-    OwnedWidget()
-        : m_widget(new Widget)
-    {
-    }
-    ~OwnedWidget() { delete m_widget.data(); }
-    OwnedWidget(const OwnedWidget&) = delete;
-    OwnedWidget& operator=(const OwnedWidget&) = delete;
-
-    Widget* get() const { return m_widget; }
-    Widget* operator->() const { return m_widget; }
-    explicit operator bool() const { return m_widget; }
-
-private:
-    const QPointer<Widget> m_widget;
-};
-
 QSize containerSize(const QSizeF& size)
 {
     // As a minimum, the largest size of all means none.
@@ -88,29 +67,39 @@ public:
     enum State { Undefined = 0, Failed = 1, Available = 2 };
 
     Private();
+    ~Private();
+    Private(const Private&) = delete;
+    Private& operator=(const Private&) = delete;
 
     void fitContainer(const QSizeF& size) const;
 
-    // In this order: the engine, which the view owns, uses the interceptor to the end, and the view must
-    // be gone when the container would delete it as its child.
-    LocalCodeOnly interceptor;
-    const OwnedWidget<QWidget> container;
-    const OwnedWidget<QQuickWidget> view;
+    const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalCodeOnly>();
+    // Owned, but a window that has them as its children may delete them.
+    const QPointer<QWidget> container = new QWidget;
+    const QPointer<QQuickWidget> view = new QQuickWidget;
     int state = Undefined;
 };
 
 Qml::QuickContent::Private::Private()
 {
-    view->engine()->setUrlInterceptor(&interceptor);
+    view->engine()->setUrlInterceptor(interceptor.get());
     view->setAttribute(Qt::WA_AlwaysStackOnTop);
     view->setClearColor(Qt::transparent);
 
     auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view.get());
+    layout->addWidget(view);
     container->setLayout(layout);
     // A sheet for all widgets must not colour what shows through the scene.
     container->setAttribute(Qt::WA_NoSystemBackground);
+}
+
+// The engine, which the view owns, uses the interceptor to the end, and the view must be gone when the
+// container would delete it as its child.
+Qml::QuickContent::Private::~Private()
+{
+    delete view;
+    delete container;
 }
 
 void Qml::QuickContent::Private::fitContainer(const QSizeF& size) const
@@ -164,7 +153,7 @@ bool Qml::QuickContent::isUndefined() const
 
 QPointer<QWidget> Qml::QuickContent::getUiContent()
 {
-    return d->container.get();
+    return d->container.data();
 }
 
 QPointer<QQmlContext> Qml::QuickContent::qmlContext()
@@ -187,7 +176,7 @@ bool Qml::QuickContent::loadQml(const QString& path)
         }
         d->view->setSource(QUrl::fromLocalFile(path));
         if (!d->view->rootObject()) {
-            deleteStrayWindows(d->view.get());
+            deleteStrayWindows(d->view.data());
         }
     }
     return true;

@@ -31,9 +31,9 @@ namespace Qml {
  * failure: glog gets a warning under the file name QuickContent.cpp, and Qt logs errors in the QML with their
  * lines. Where glog writes to is the host's choice; without its initialisation, to standard error.
  *
- * **Only local files are loaded as QML.** A path is never taken for a URL: "https://..." and "qrc:/..." are
- * files that do not exist. A loaded file cannot fetch components, modules or scripts from another machine;
- * such an import fails with a glog warning. Images and data are the scene's own affair.
+ * **Files.** Only local files are loaded as QML. A path is never taken for a URL: "https://..." and
+ * "qrc:/..." are files that do not exist. A loaded file cannot fetch components, modules or scripts from
+ * another machine; such an import fails with a glog warning. Images and data are the scene's own affair.
  *
  * **Size.** The container has the fixed size of the root item, rounded, and follows its changes; a size that
  * is not valid changes nothing.

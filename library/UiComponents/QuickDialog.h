@@ -23,7 +23,7 @@ class QuickContent;
  *         discard();
  *     }
  *
- * **In the scene** the dialog is called "callback". Its slots `accept()`, `reject()` and `done(int)` end it,
+ * **Scene.** There the dialog is called "callback". Its slots `accept()`, `reject()` and `done(int)` end it,
  * and `cursorPos()` is the mouse position. Properties, slots and `Q_INVOKABLE` functions of a subclass can be
  * used too; that is how a form returns its values.
  *
@@ -33,8 +33,8 @@ class QuickContent;
  * items with `activeFocusOnTab`. Escape rejects the dialog unless the scene accepts the key. Enter does
  * nothing unless the scene handles it.
  *
- * **Only exec() shows the scene**: show() and open() show an empty window. Each exec() makes the dialog's
- * layout anew, without a host's children of the dialog.
+ * **Showing.** Only exec() shows the scene: show() and open() show an empty window. Each exec() makes the
+ * dialog's layout anew, without a host's children of the dialog.
  *
  * **Lifetime.** The scene is loaded once, by the first exec(), and keeps its state. During exec() the dialog
  * (on the heap, as with every QDialog), its parent and the scene's container may be deleted. Handlers of the
