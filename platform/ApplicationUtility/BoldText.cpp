@@ -24,7 +24,7 @@ bool BoldText::suits(const QString& title)
     const auto characters = title.toUcs4();
     return std::all_of(characters.cbegin(), characters.cend(), [](uint character) {
         switch (QChar::script(character)) {
-        case QChar::Script_Unknown: // private use and the like: icon fonts
+        case QChar::Script_Unknown: // such as private use, for icon fonts
         case QChar::Script_Inherited:
         case QChar::Script_Common:
         case QChar::Script_Latin:
@@ -48,12 +48,12 @@ QString BoldText::label(const QString& title, bool bold)
     }
     QString text = title.toHtmlEscaped();
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    // One paragraph whatever the line break: the next one would get a margin and a direction of its own.
+    // One paragraph: another one would have a margin and a direction of its own.
     for (const QChar lineBreak :
          {QChar(u'\n'), QChar(u'\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)}) {
         text.replace(lineBreak, QLatin1String("<br/>"));
     }
-    // QTextDocument's own marks of a frame's begin and end.
+    // QTextDocument marks the beginning and end of a frame with these.
     for (const QChar mark : {QChar(0xfdd0), QChar(0xfdd1)}) {
         text.replace(mark, QChar(QChar::ReplacementCharacter));
     }

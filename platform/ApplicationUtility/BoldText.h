@@ -1,4 +1,4 @@
-// Internal: what Customization knows about scripts and rich text.
+// Internal: scripts and rich text, for Customization.
 #pragma once
 
 #include <QLocale>
@@ -6,13 +6,13 @@
 
 namespace BoldText {
 
-/// Whether bold type suits a language that is written in @p script. A locale without a script does.
+/// Whether bold type suits a language that is written in @p script; true for QLocale::AnyScript.
 bool suits(QLocale::Script script);
 
 /// Whether bold type suits every letter of @p title.
 bool suits(const QString& title);
 
-/// Rich text that shows the characters of @p title, bold or in the label's weight.
+/// Rich text that shows @p title literally, bold or in the label's weight.
 QString label(const QString& title, bool bold);
 
 } // namespace BoldText

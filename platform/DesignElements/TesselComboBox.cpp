@@ -17,7 +17,7 @@ void Orvane::Tessel::convertComboBoxToTessel(OvComboBox* comboBox)
     if (view->objectName().isEmpty()) {
         view->setObjectName(QStringLiteral("tesselComboBoxView"));
     }
-    // Qt's own delegates draw rows as menu entries or by themselves, and no ::item rule reaches them.
+    // Qt's own delegates ignore ::item rules.
     const QAbstractItemDelegate* const delegate = comboBox->itemDelegate();
     if (!delegate || delegate->inherits("QComboBoxDelegate") || delegate->inherits("QComboMenuDelegate")) {
         comboBox->setItemDelegate(new TesselItemDelegate(comboBox));

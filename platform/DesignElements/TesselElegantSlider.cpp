@@ -10,9 +10,9 @@ constexpr qreal grooveThickness = 4.0;
 constexpr qreal handleDiameter = 14.0;
 constexpr qreal ringWidth = 2.0;
 
-// A sheet may speak of the slider's parts, or of nothing but its background and font, as a rule for all
-// widgets does. The style does not tell which, but places the parts by the sheet only where it has rules for
-// them. So much room brings out the difference.
+// A sheet may style the slider's parts, or only its background and font, as a rule for all widgets does. The
+// style does not tell which, but lets the sheet place the parts only where it has a rule for the groove. In a
+// large rectangle the two placements differ.
 bool hasPartsFromSheet(const QSlider* slider, QStyleOptionSlider option)
 {
     option.rect = QRect(0, 0, 1000, 1000);
@@ -37,7 +37,7 @@ void drawGroove(QPainter& painter, const QStyleOptionSlider& option, const QRect
     const QRectF groove = centredIn(room, horizontal ? QSizeF(room.width(), grooveThickness)
                                                      : QSizeF(grooveThickness, room.height()));
     QRectF below = groove;
-    // Upside down, the least value is at the right or at the bottom.
+    // Upside down, the minimum is at the right or at the bottom.
     if (horizontal) {
         option.upsideDown ? below.setLeft(handle.x()) : below.setRight(handle.x());
     } else {
@@ -92,10 +92,10 @@ void TesselElegantSlider::paintEvent(QPaintEvent* event)
         option.state |= QStyle::State_Sunken;
     }
     QPainter painter(this);
-    // The sheet's background, if there is one, comes along.
+    // Draws the sheet's background too, if there is one.
     option.subControls = tickPosition() == NoTicks ? QStyle::SC_None : QStyle::SC_SliderTickmarks;
     style()->drawComplexControl(QStyle::CC_Slider, &option, &painter, this);
-    // Drawn where the style has the parts, for that is where the mouse finds them.
+    // Where the style has the parts, since QSlider hit-tests them there.
     const auto part = [&](QStyle::SubControl control) {
         return QRectF(style()->subControlRect(QStyle::CC_Slider, &option, control, this));
     };

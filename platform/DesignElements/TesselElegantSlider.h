@@ -14,8 +14,8 @@ namespace Orvane::Tessel {
  *     Orvane--Tessel--TesselElegantSlider::groove:horizontal { height: 4px; background: #444444; }
  *     Orvane--Tessel--TesselElegantSlider::handle:horizontal { width: 14px; margin: -5px 0; }
  *
- * Where no sheet has a rule for its groove, it draws itself, on the sheet's background if there is one, in the
- * colours of its palette: `Mid` for the groove, `Highlight` for the part below the value and the focus
+ * Where no sheet has a rule for its groove, it draws itself, on the sheet's background if there is one, in
+ * the colours of its palette: `Mid` for the groove, `Highlight` for the part below the value and the focus
  * ring, `Light` and `Dark` for the handle.
  */
 class DESIGNELEMENTS_EXPORT TesselElegantSlider : public OvCustomSlider

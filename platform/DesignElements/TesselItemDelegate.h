@@ -1,4 +1,4 @@
-// Internal: the rows of a combo box that convertComboBoxToTessel() converted.
+// Internal: paints the rows of a combo box for convertComboBoxToTessel().
 
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace Orvane::Tessel {
 
-/// A styled delegate that also knows the separators of QComboBox::insertSeparator().
+/// A styled delegate that also paints the separators of QComboBox::insertSeparator().
 class TesselItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -44,8 +44,8 @@ void TesselLineEdit::changeEvent(QEvent* event)
 void TesselLineEdit::dimPlaceholder()
 {
     QPalette dimmed = palette();
-    // A sheet writes all roles of a text. Who writes this one alone means it, whatever the colour; among
-    // others this function.
+    // A sheet sets all roles of a text. A palette that differs in this one alone was set on purpose, among
+    // others by this function.
     const bool isWanted = differInPlaceholderOnly(m_knownPalette, dimmed);
     m_knownPalette = dimmed;
     if (isWanted || !style()->inherits("QStyleSheetStyle")) {
@@ -68,7 +68,7 @@ void TesselLineEdit::dimPlaceholder()
 void TesselLineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     const QString menuName = QStringLiteral("tesselContextMenu");
-    // Asked for by code while a menu is open, a second one would leave the first behind it.
+    // Code may open a menu while one is open, which would stay behind it.
     const auto openMenus = findChildren<QMenu*>(menuName, Qt::FindDirectChildrenOnly);
     for (QMenu* open : openMenus) {
         open->close();
@@ -81,7 +81,7 @@ void TesselLineEdit::contextMenuEvent(QContextMenuEvent* event)
                                   bool enabled) {
         QAction* const action = menu->addAction(text);
         action->setShortcut(key);
-        // Only to be read: the edit handles the keys itself.
+        // Shown only: the edit handles the keys itself.
         action->setShortcutContext(Qt::WidgetShortcut);
         action->setShortcutVisibleInContextMenu(true);
         action->setEnabled(enabled);

@@ -81,7 +81,7 @@ bool FileUtil::isOperationAllowed(const QString& path, Operations operations)
         return true;
     }
 #ifdef Q_OS_UNIX
-    // Not QFileInfo's answer, which is that for the real user.
+    // QFileInfo answers for the real user, not the effective one.
     const int mode = (operations.testFlag(Read) ? R_OK : 0) | (operations.testFlag(Write) ? W_OK : 0) |
                      (entry.isDir() ? X_OK : 0);
     return faccessat(AT_FDCWD, QFile::encodeName(path).constData(), mode, AT_EACCESS) == 0;

@@ -7,10 +7,10 @@
 
 namespace {
 
-constexpr int longestPath = 4095; // the system's 4096 include the closing zero
-constexpr int longestName = 255;
+constexpr int maxPathBytes = 4095; // PATH_MAX without the closing zero
+constexpr int maxNameBytes = 255;
 
-// Compared in one normal form, because some systems store names in another one than they are given.
+// Compared in one normal form: some systems store names in another one.
 bool isStorable(const QString& text)
 {
     return !text.contains(QChar::Null) &&
@@ -23,7 +23,7 @@ QString rootOf(const QString& path)
     if (path.startsWith(QLatin1Char('/'))) {
         return QStringLiteral("/");
     }
-    // Only where paths begin with a drive is one without a slash absolute.
+    // A path without a slash is absolute only where paths begin with a drive.
     return QDir::isAbsolutePath(path) ? path.left(path.indexOf(QLatin1Char(':')) + 1) + QLatin1Char('/')
                                       : QString();
 }
@@ -31,13 +31,13 @@ QString rootOf(const QString& path)
 QString below(const QString& folder, const QString& name)
 {
     if (folder.isEmpty()) {
-        // By itself, a name with a colon in front would be a resource to Qt.
+        // Qt would take a name that begins with a colon for a resource.
         return name.startsWith(QLatin1Char(':')) ? QLatin1String("./") + name : name;
     }
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
 }
 
-// The folder above one that exists.
+// The parent of a folder that exists.
 QString above(const QString& folder)
 {
     const QString name = folder.section(QLatin1Char('/'), -1);
@@ -45,7 +45,7 @@ QString above(const QString& folder)
     if (isRoot) {
         return folder;
     }
-    // What is above the target of a link is not what is above the link.
+    // The parent of a link's target is not the parent of the link.
     if (folder.isEmpty() || name == QLatin1String("..") || QFileInfo(folder).isSymLink()) {
         return below(folder, QStringLiteral(".."));
     }
@@ -69,11 +69,11 @@ PathWalk::Form PathWalk::form(const QString& path)
     const QByteArray encoded = QFile::encodeName(path);
     const auto names = encoded.split('/');
     for (const QByteArray& name : names) {
-        if (name.size() > longestName) {
+        if (name.size() > maxNameBytes) {
             return Form::NameTooLong;
         }
     }
-    return encoded.size() > longestPath ? Form::PathTooLong : Form::Good;
+    return encoded.size() > maxPathBytes ? Form::PathTooLong : Form::Good;
 }
 
 PathWalk::Result PathWalk::walk(const QString& path)
@@ -81,7 +81,7 @@ PathWalk::Result PathWalk::walk(const QString& path)
     const QString root = rootOf(path);
     Result result;
     result.closest = root;
-    int missing = 0; // how many parts of the way are below the closest folder
+    int missing = 0; // parts below the closest folder
     const auto parts = path.mid(root.size()).split(QLatin1Char('/'), Qt::SkipEmptyParts);
     for (const QString& part : parts) {
         if (part == QLatin1String(".")) {
@@ -102,7 +102,7 @@ PathWalk::Result PathWalk::walk(const QString& path)
                 result.closest = next;
                 continue;
             }
-            // A link that leads nowhere does not exist for Qt, and no folder can be made in its place.
+            // Qt says that a dangling link does not exist, but no folder can be created in its place.
             result.isBlocked = result.isBlocked || entry.exists() || entry.isSymLink();
         }
         ++missing;

@@ -1,11 +1,11 @@
-// Internal: how FileUtil takes a path apart.
+// Internal: how FileUtil follows a path.
 #pragma once
 
 #include <QString>
 
 namespace PathWalk {
 
-/// What is wrong with the form of a path, before the disk is asked.
+/// The form of a path, without a look at the disk.
 enum class Form {
     Good,
     Empty,
@@ -19,10 +19,10 @@ Form form(const QString& path);
 struct Result
 {
     QString closest;        ///< the nearest existing folder, clean
-    bool isBlocked = false; ///< something that is no folder, maybe a link to nowhere, stands on the way
+    bool isBlocked = false; ///< a file or a dangling link is in the way
 };
 
-/// Follows @p path on disk, part by part. A part that cannot be stored is missing.
+/// Follows @p path on disk, part by part. A part that cannot be stored counts as missing.
 Result walk(const QString& path);
 
 } // namespace PathWalk

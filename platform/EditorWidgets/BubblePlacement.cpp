@@ -12,7 +12,7 @@ using ArrowSide = PointingWidget::ArrowSide;
 
 namespace {
 
-/// A stretch of one axis, both ends included.
+/// A part of one axis, both ends included.
 struct Span
 {
     int first = 0;
@@ -26,7 +26,7 @@ bool isHorizontal(ArrowSide side)
     return side == ArrowSide::Top || side == ArrowSide::Bottom;
 }
 
-/// Whether the side is where its axis begins, so that the bubble lies behind the target.
+/// Whether the arrow is at the top or left, so that the bubble lies below or right of its target.
 bool isLeading(ArrowSide side)
 {
     return side == ArrowSide::Top || side == ArrowSide::Left;
@@ -57,7 +57,8 @@ Span vertical(const QRect& rect)
     return {rect.top(), rect.bottom()};
 }
 
-/// Moves the start of a stretch of @p length into @p area. One that is too long shows its beginning.
+/// Returns the start nearest to @p start of a span of @p length inside @p area, or the area's edge where its
+/// text begins, if it is too long.
 int slideInto(const Span& area, int start, int length, bool beginsAtEnd)
 {
     if (length > area.length()) {
@@ -66,7 +67,7 @@ int slideInto(const Span& area, int start, int length, bool beginsAtEnd)
     return qBound(area.first, start, area.last - length + 1);
 }
 
-/// The pixels that the middle of the arrow's foot can be at, on a side of @p length.
+/// The possible positions of the middle of the arrow's foot, on a side of @p length.
 Span footSpan(const BubbleShape& shape, int length)
 {
     const int clearance = shape.borderWidth + shape.radius + shape.arrowWidth / 2;
@@ -83,7 +84,7 @@ int nominalFoot(const BubbleRequest& request, int length)
     } else if (request.position == ArrowPosition::End) {
         foot = span.last;
     }
-    // Added in 64 bits: the offset is whatever a host gives.
+    // In 64 bits, since the offset may be any int.
     foot = int(qBound<qint64>(span.first, qint64(foot) + request.offset, span.last));
     const bool mirrored = isHorizontal(request.side) && request.direction == Qt::RightToLeft;
     return mirrored ? length - 1 - foot : foot;
@@ -140,7 +141,7 @@ BubblePlacement placeBubble(const BubbleRequest& request)
 
 QMargins bubbleMargins(const BubbleShape& shape, ArrowSide side)
 {
-    // The point of a quarter circle that is nearest to the corner lies 1 - sqrt(1/2) radii inside.
+    // The point of a quarter circle nearest to the corner is 1 - sqrt(1/2) radii inside.
     const int inset = shape.borderWidth + qCeil(shape.radius * (1 - M_SQRT1_2));
     QMargins margins(inset, inset, inset, inset);
     switch (side) {
@@ -174,7 +175,7 @@ qreal bubblePenWidth(const BubbleShape& shape, qreal scale)
 
 QPainterPath bubblePath(const BubblePlacement& placement, const BubbleShape& shape, qreal scale)
 {
-    // Drawn as if the arrow were on top and then turned; "along" is x and "deep" is y.
+    // As if the arrow were at the top, then rotated: "along" is x and "deep" is y.
     const bool across = isHorizontal(placement.side);
     const QSizeF size = across ? placement.geometry.size() : placement.geometry.size().transposed();
     const qreal half = bubblePenWidth(shape, scale) / 2;
@@ -183,7 +184,7 @@ QPainterPath bubblePath(const BubblePlacement& placement, const BubbleShape& sha
     if (body.width() <= 0 || body.height() <= 0) {
         return {};
     }
-    // The radius is that of the outer edge, the path runs half a pen inside it.
+    // The radius is that of the outer edge; the path is half a pen inside.
     const qreal radius = qBound<qreal>(0, shape.radius - half, qMin(body.width(), body.height()) / 2);
     const qreal middle = placement.base + 0.5;
     const qreal left = qBound(body.left() + radius, middle - shape.arrowWidth / 2.0, body.right() - radius);
@@ -229,11 +230,10 @@ QRegion bubbleRegion(const BubblePlacement& placement, const BubbleShape& shape)
     if (placement.geometry.isEmpty()) {
         return {};
     }
-    // Drawn with a pen that is one pixel wider on each side: without smoothing a pixel is drawn when its
-    // middle is covered, and those that smoothing covers in part are wanted too. (The polygons of a
-    // stroked path would do without a picture, but cancel out where a leaning arrow meets the corner.)
+    // With a pen one pixel wider on each side, since without antialiasing only pixels are drawn whose centre
+    // is covered. (The polygons of a QPainterPathStroker cancel out where a leaning arrow meets a corner.)
     QImage picture(placement.geometry.size(), QImage::Format_MonoLSB);
-    // The colours of a QBitmap; an image's own are the other way round.
+    // The colours of QBitmap, which are inverse to QImage's.
     picture.setColorTable({QColor(Qt::color0).rgb(), QColor(Qt::color1).rgb()});
     picture.fill(0);
     QPainter painter(&picture);

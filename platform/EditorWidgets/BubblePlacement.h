@@ -10,7 +10,7 @@
 #include <QRect>
 #include <QVector>
 
-/// The parts of a bubble's look that take room, in pixels, none negative.
+/// The metrics of a bubble, in pixels, none negative.
 struct BubbleShape
 {
     int borderWidth = 1;
@@ -19,10 +19,10 @@ struct BubbleShape
     int arrowLength = 8;
 };
 
-/// What a bubble is asked to do. All rectangles and points are in one coordinate system.
+/// What a placement depends on. All rectangles and points are in one coordinate system.
 struct BubbleRequest
 {
-    QSize size; ///< of the whole bubble, with its arrow
+    QSize size; ///< of the bubble, arrow included
     QPoint target;
     PointingWidget::ArrowSide side = PointingWidget::ArrowSide::Top;
     PointingWidget::ArrowPosition position = PointingWidget::ArrowPosition::Center;
@@ -49,23 +49,23 @@ struct BubblePlacement
 
 BubblePlacement placeBubble(const BubbleRequest& request);
 
-/// What the content must keep clear of: the arrow, the border and the rounded corners.
+/// The margins of the content: arrow, border and rounded corners.
 QMargins bubbleMargins(const BubbleShape& shape, PointingWidget::ArrowSide side);
 
-/// The smallest size in which the corners and the arrow are drawn in full.
+/// The minimum size in which corners and arrow are drawn in full.
 QSize minimumBubbleSize(const BubbleShape& shape, PointingWidget::ArrowSide side);
 
-/// The line along the middle of the border, for a pen of bubblePenWidth() with round joins: it lies on
-/// whole device pixels at the scale @p scale. Empty for a size in which nothing can be drawn.
+/// The centre line of the border, for a pen of bubblePenWidth() with round joins, on whole device pixels at
+/// @p scale. Empty for a size in which nothing can be drawn.
 QPainterPath bubblePath(const BubblePlacement& placement, const BubbleShape& shape, qreal scale = 1);
 
-/// The width of the border in whole device pixels at the scale @p scale, at least one unless there is none.
+/// The width of the border, rounded to device pixels at @p scale; at least one, unless there is no border.
 qreal bubblePenWidth(const BubbleShape& shape, qreal scale = 1);
 
-/// Every pixel that the bubble paints, partly covered ones included.
+/// The pixels that the bubble paints, partly covered ones included.
 QRegion bubbleRegion(const BubblePlacement& placement, const BubbleShape& shape);
 
-/// Sums of coordinates up to here stay inside an int; no desktop is that large.
+/// A limit of coordinates whose sums fit into an int.
 constexpr int bubbleReach = 1 << 28;
 
 /// The point nearest to @p point whose coordinates are between -bubbleReach and bubbleReach.

@@ -52,22 +52,21 @@ public:
     ArrowPosition position = ArrowPosition::Center;
     int offset = 0;
 
-    /// From the parent's upper left corner, in global pixels; mapping there and back could lose one at
-    /// fractional scales, and a re-aimed bubble would wander.
+    /// Relative to the parent's top left corner, in global pixels: mapping to the parent's own and back may
+    /// be a pixel off at fractional scales, and a re-aimed bubble would drift.
     QPoint target;
     bool hasTarget = false;
-    /// The target when it was last looked at, for when the parent is replaced.
+    /// The last known target, for a change of parent.
     QPoint lastGlobalTarget;
 
     BubblePlacement placement;
-    /// The shape has changed while the bubble was hidden.
+    /// The shape has changed while the bubble was hidden, so the mask is due.
     bool maskIsDue = false;
-    /// Where the bubble was last sent. A window manager may put it elsewhere: it is asked once more, for
-    /// what Qt hears of a window that has just appeared is not always true, and then has its way. Asking
-    /// again at every paint would never end.
+    /// The position last asked for. Where a window manager puts the bubble elsewhere, it is asked once more,
+    /// since the position of a window that has just appeared is not reliable. More would never end.
     std::optional<QPoint> sentTo;
     bool askedAgain = false;
-    /// Whether the host wants to see the bubble, which then depends on the parent.
+    /// Whether the host has shown the bubble; whether it is visible depends on the parent.
     bool wanted = false;
     /// The parent and its ancestors up to their window.
     QVector<QPointer<QWidget>> ancestors;
@@ -80,8 +79,8 @@ PointingWidget::Private::Private(PointingWidget* bubble)
 {
     contentFrame->setObjectName(QStringLiteral("contentFrame"));
     layout->setSpacing(0);
-    // fit() keeps the minimum. The layout would enforce it in a step of its own, and window managers lose
-    // the second of two sizes that come at once.
+    // fit() keeps the minimum size. The layout would set it in a resize of its own, and window managers lose
+    // the second of two.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(contentFrame);
     applyMargins();
@@ -99,8 +98,8 @@ bool PointingWidget::Private::eventFilter(QObject* watched, QEvent* event)
             place();
         }
         break;
-    // Not when the window manager hides the window, as when it is minimised: it does the same with the
-    // bubble, and one that is shown while its window comes back sends that away again.
+    // Not when the window manager hides the window, as when it is minimised: it hides the bubble too, and a
+    // bubble that is shown while its window is restored minimises that again.
     case QEvent::Show:
         if (isParent && !event->spontaneous()) {
             parentShown();
@@ -132,7 +131,7 @@ QPoint PointingWidget::Private::origin() const
     return parent ? withinReach(parent->mapToGlobal(QPoint())) : QPoint();
 }
 
-/// Where the bubble may be, in the coordinates of its pos().
+/// The available area, in the coordinates of pos().
 QRect PointingWidget::Private::area() const
 {
     if (!q->isWindow()) {
@@ -160,8 +159,7 @@ void PointingWidget::Private::setShapeValue(int& value, int pixels, int most)
     reshape();
 }
 
-/// A mask costs about as much as painting the bubble, and a bubble changes its shape several times before it
-/// is shown.
+/// A mask costs about as much as a paint, and the shape changes several times before the bubble is shown.
 void PointingWidget::Private::reshape()
 {
     maskIsDue = !q->isVisible();
@@ -178,7 +176,7 @@ void PointingWidget::Private::applyMargins()
 
 void PointingWidget::Private::fit()
 {
-    // What changed while the bubble was hidden has not reached the layout yet.
+    // Changes made while the bubble was hidden have not reached the layout.
     layout->activate();
     const QSize room = area().size();
     QSize size = q->sizeHint();
@@ -206,7 +204,7 @@ void PointingWidget::Private::place()
         request.target = q->isWindow() ? lastGlobalTarget : target;
         request.area = area();
     } else {
-        // Somewhere with room: only the shape counts.
+        // Anywhere with room, since only the shape counts.
         const int room = qMax(request.size.width(), request.size.height()) + shape.arrowWidth;
         request.area = QRect(-room, -room, 2 * room + 1, 2 * room + 1);
     }
@@ -215,7 +213,7 @@ void PointingWidget::Private::place()
     placement = placeBubble(request);
     if (placement.side != old.side) {
         applyMargins();
-        // At once, not a turn later: the content and the arrow change places in one picture.
+        // At once, so that content and arrow move in the same paint.
         layout->activate();
     }
     if (placement.side != old.side || placement.tip != old.tip || placement.base != old.base ||
@@ -245,8 +243,8 @@ void PointingWidget::Private::moved(bool byWindowManager)
     }
 }
 
-/// The bubble keeps above the window of its parent. Qt sets this when it makes the native window, and not
-/// again when an ancestor has gone to another window.
+/// Keeps the bubble above its parent's window. Qt sets the transient parent when it creates the native
+/// window, and not again when an ancestor is moved to another window.
 void PointingWidget::Private::followWindow()
 {
     const QWidget* const parent = q->parentWidget();
@@ -256,7 +254,7 @@ void PointingWidget::Private::followWindow()
     }
 }
 
-/// While screens come and go, Qt moves windows itself; its last word comes before ours.
+/// Queued, since Qt moves windows itself when screens are added or removed.
 void PointingWidget::Private::placeLater()
 {
     QMetaObject::invokeMethod(
@@ -277,7 +275,7 @@ void PointingWidget::Private::watchAncestors()
             break;
         }
     }
-    // Those that stay are left alone: one of them may be calling its filters just now.
+    // Filters on ancestors that stay are kept: one of them may be calling its filters right now.
     for (const QPointer<QWidget>& ancestor : qAsConst(ancestors)) {
         if (ancestor && !now.contains(ancestor)) {
             ancestor->removeEventFilter(this);
@@ -297,7 +295,7 @@ void PointingWidget::Private::watchScreen(QScreen* screen)
     connect(screen, &QScreen::availableGeometryChanged, this, &Private::placeLater);
 }
 
-/// Qt gives a window the application's direction; a bubble takes its parent's, unless it was given one.
+/// Qt gives a window the application's layout direction; a bubble takes its parent's, unless it has its own.
 void PointingWidget::Private::followDirection()
 {
     const QWidget* const parent = q->parentWidget();
@@ -513,7 +511,7 @@ void PointingWidget::setVisible(bool visible)
 bool PointingWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress && windowType() == Qt::Popup) {
-        // While a pop-up is open it gets every press, also one beside the arrow that its mask leaves out.
+        // An open pop-up gets every press, even one outside its mask, beside the arrow.
         const QPoint position = static_cast<QMouseEvent*>(event)->pos();
         if (rect().contains(position) && !mask().contains(position)) {
             event->accept();
@@ -541,13 +539,13 @@ bool PointingWidget::event(QEvent* event)
         d->parentChanged();
         break;
     case QEvent::EnabledChange:
-        // It would take no key and no click any more, and still keep them from everybody else.
+        // A disabled pop-up would ignore keys and clicks and still keep them from all other widgets.
         if (windowType() == Qt::Popup && !isEnabled()) {
             close();
         }
         break;
     case QEvent::Close:
-        // Closing a bubble that waits for its parent does not reach setVisible().
+        // Closing a hidden bubble that waits for its parent does not call setVisible().
         d->wanted = d->wanted && !event->isAccepted();
         break;
     default:
@@ -583,7 +581,7 @@ void PointingWidget::paintEvent(QPaintEvent* event)
 void PointingWidget::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    // The last moment before the window appears: its content is polished now, and its place current.
+    // Right before the window appears: its content is polished and its position up to date.
     d->sentTo.reset();
     d->askedAgain = false;
     d->followWindow();

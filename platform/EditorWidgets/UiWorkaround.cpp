@@ -54,7 +54,7 @@ void UiWorkaround::applyRoundedEdges()
         }
     }
     setShadowless(rounded);
-    // A sheet selects on the property.
+    // A sheet may select by the property.
     Util::repolishWidget(m_widget);
     m_widget->update();
 }
@@ -66,14 +66,14 @@ void UiWorkaround::setShadowless(bool shadowless)
         return;
     }
     m_shadowTaken = shadowless;
-    // Not setWindowFlag(): that hides the widget and makes its native window anew.
+    // setWindowFlag() would hide the widget and create a new native window.
     m_widget->overrideWindowFlags(m_widget->windowFlags().setFlag(Qt::NoDropShadowWindowHint, shadowless));
     if (QWindow* const window = m_widget->windowHandle()) {
         window->setFlag(Qt::NoDropShadowWindowHint, shadowless);
     }
 }
 
-/// Qt paints neither a style sheet's nor the palette's background of a translucent widget.
+/// Qt paints neither the sheet's nor the palette's background of a translucent window.
 void UiWorkaround::paintBackground()
 {
     if (m_widget->testAttribute(Qt::WA_StyledBackground)) {
@@ -83,7 +83,7 @@ void UiWorkaround::paintBackground()
         m_widget->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, m_widget);
         return;
     }
-    // A class of the host's own that no sheet fills paints itself, or has reasons to be seen through.
+    // A subclass of the host without a background in the sheet paints itself, or is meant to be transparent.
     const bool blank =
         m_widget->metaObject() == &QWidget::staticMetaObject || qobject_cast<QDialog*>(m_widget);
     if (blank) {

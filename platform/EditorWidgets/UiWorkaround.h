@@ -1,4 +1,4 @@
-// Internal: what Workaround::Ui::apply() attaches to a widget.
+// Internal: the child that Workaround::Ui::apply() adds to a widget.
 
 #pragma once
 
@@ -24,7 +24,7 @@ private:
 
     QWidget* const m_widget;
     bool m_rounded = false;
-    /// What this object set and would take back.
+    /// What this object set, to reset it.
     bool m_translucencySet = false;
     bool m_systemBackgroundTaken = false;
     bool m_shadowTaken = false;

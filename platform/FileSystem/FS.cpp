@@ -4,6 +4,6 @@
 
 bool FS::exists(const QString& path)
 {
-    // Qt logs a warning for a NUL, which would blame the wrong place.
+    // Qt warns of a NUL, naming QFileInfo instead of the caller's path.
     return !path.contains(QChar::Null) && QFileInfo::exists(path);
 }

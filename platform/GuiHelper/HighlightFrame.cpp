@@ -15,7 +15,8 @@ HighlightFrame::HighlightFrame(QWidget* target)
     for (QObject* child : target->children()) {
         watchSibling(child);
     }
-    // Known before it gets its parent: the event that announces it to the target is kept from it.
+    // Created without a parent, so that the filter knows it and can keep its ChildAdded event from the
+    // target.
     m_overlay = new HighlightFrameOverlay;
     m_overlayChild = m_overlay;
     target->installEventFilter(this);
@@ -33,8 +34,8 @@ HighlightFrame::~HighlightFrame()
         m_overlay->erase();
     }
     if (m_overlay) {
-        // The filter is still in place and keeps the removal from the target. Not deleted at once: a target
-        // that is being hidden walks its children, which may end what the frame is for.
+        // The filter keeps the ChildRemoved event from the target. deleteLater(), since a target that is
+        // being hidden may be iterating over its children.
         m_overlay->hide();
         m_overlay->setParent(nullptr);
         m_overlay->deleteLater();
@@ -76,7 +77,7 @@ bool HighlightFrame::targetChildEvent(const QChildEvent* event)
     QObject* const child = event->child();
     if (child == m_overlayChild) {
         if (event->removed()) {
-            // The next child may get the same address.
+            // Another child may get the same address.
             m_overlayChild = nullptr;
         }
         return true;
@@ -90,8 +91,8 @@ bool HighlightFrame::targetChildEvent(const QChildEvent* event)
     return false;
 }
 
-/// QWidget::raise() tells nobody but the raised widget. Overlays are not watched: two frames on one
-/// target would raise theirs over each other for ever.
+/// Only the raised widget itself is told of QWidget::raise(). Overlays are not watched: two of them on one
+/// target would raise each other endlessly.
 void HighlightFrame::watchSibling(QObject* child)
 {
     if (child->isWidgetType() && !qobject_cast<HighlightFrameOverlay*>(child)) {

@@ -52,8 +52,8 @@ void HighlightFrameOverlay::coverParent()
     }
 }
 
-// To repaint the parent is not enough: a QQuickWidget or QOpenGLWidget is put into the window as a picture,
-// and what was painted over it stays until something else is painted there.
+// Repainting the parent is not enough: Qt composes a QQuickWidget or QOpenGLWidget into the window, and what
+// was painted over it stays until something else is painted there.
 void HighlightFrameOverlay::erase()
 {
     if (!isVisible()) {
@@ -63,14 +63,14 @@ void HighlightFrameOverlay::erase()
     m_isErasing = true;
     repaint();
     if (self && !m_isErased) {
-        // A window with such content is painted no more than once a frame.
+        // Qt paints a window with such content once a frame at most.
         QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest);
     }
 }
 
 bool HighlightFrameOverlay::event(QEvent* event)
 {
-    // QWidget::scroll() takes all children along, and copies the painted border with the rest.
+    // QWidget::scroll() moves all children and copies the painted border.
     if (event->type() == QEvent::Move && parentWidget() && geometry() != parentWidget()->rect()) {
         coverParent();
         QTimer::singleShot(0, parentWidget(), qOverload<>(&QWidget::update));
@@ -85,7 +85,7 @@ void HighlightFrameOverlay::paintEvent(QPaintEvent* event)
         m_isErased = true;
         return;
     }
-    // Not the colour of the current group: the outline also marks disabled targets and inactive windows.
+    // Of the active group, since targets may be disabled or in an inactive window.
     const QColor color =
         m_borderColor.isValid() ? m_borderColor : palette().color(QPalette::Active, QPalette::Highlight);
     QPainter painter(this);
@@ -104,6 +104,6 @@ void HighlightFrameOverlay::updateMask()
 {
     const QMargins border(m_borderWidth, m_borderWidth, m_borderWidth, m_borderWidth);
     const QRegion outline = QRegion(rect()) - QRegion(rect().marginsRemoved(border));
-    // An empty region would take the mask away.
+    // An empty region would remove the mask.
     setMask(outline.isEmpty() ? QRegion(-1, -1, 1, 1) : outline);
 }

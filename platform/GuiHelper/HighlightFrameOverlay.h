@@ -1,5 +1,5 @@
 // Internal: the outline that HighlightFrame lays over its target.
-// Its properties are written by style sheets, and nobody waits for them to change.
+// Style sheets write the properties; nobody needs to be notified.
 // clazy:excludeall=qproperty-without-notify
 
 #pragma once
@@ -7,14 +7,14 @@
 #include <QColor>
 #include <QWidget>
 
-/// A child widget that covers its parent and paints nothing but a border along the edge. It is masked to
-/// that border: what the parent paints inside costs no second painting.
+/// Covers its parent and paints a border along the edge. Its mask is that border, so that Qt does not paint
+/// the rest of the parent a second time.
 class HighlightFrameOverlay : public QWidget
 {
     Q_OBJECT
     /// Invalid (the default): the highlight colour of the palette.
     Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor)
-    /// In pixels; 0 paints nothing, less counts as 0.
+    /// In pixels; 0 or less paints nothing.
     Q_PROPERTY(int borderWidth READ borderWidth WRITE setBorderWidth)
 
 public:
@@ -27,10 +27,10 @@ public:
     int borderWidth() const;
     void setBorderWidth(int width);
 
-    /// Takes the whole of the parent's area.
+    /// Resizes to the parent's rect().
     void coverParent();
 
-    /// Paints the parent without the border, now: it is not painted any more.
+    /// Removes the border from the screen at once, for good.
     void erase();
 
 protected:

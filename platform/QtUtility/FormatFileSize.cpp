@@ -8,9 +8,9 @@
 namespace {
 
 constexpr int defaultKiloSize = 1024;
-constexpr int maxPrecision = 15; // that a double has
+constexpr int maxPrecision = 15; // significant digits of a double
 
-// Indexed by the unit's distance from bytes.
+// Indexed by the power of the kilobyte.
 constexpr const char* unitTexts[] = {
     QT_TRANSLATE_NOOP("FormatFileSize", "%1 B"),  QT_TRANSLATE_NOOP("FormatFileSize", "%1 KB"),
     QT_TRANSLATE_NOOP("FormatFileSize", "%1 MB"), QT_TRANSLATE_NOOP("FormatFileSize", "%1 GB"),

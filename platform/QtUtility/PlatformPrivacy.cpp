@@ -6,7 +6,7 @@ Orvane::Util::AccessStatus Orvane::Util::platformAccess(const QString& platformN
     case PrivacyType::InputMonitoring:
     case PrivacyType::InputControl:
     case PrivacyType::ScreenCapture: {
-        // Both come in several builds: "wayland-egl", "minimalegl".
+        // Both have variants: "wayland-egl", "minimalegl".
         const bool isConfined = platformName.startsWith(QLatin1String("wayland"), Qt::CaseInsensitive) ||
                                 platformName.startsWith(QLatin1String("minimal"), Qt::CaseInsensitive);
         return isConfined ? AccessStatus::Unavailable : AccessStatus::Granted;

@@ -7,8 +7,8 @@
 
 namespace Orvane::Util {
 
-/// The status of @p type on the Qt platform @p platformName (see QGuiApplication::platformName()), as
-/// far as the platform's name tells.
+/// The status of @p type, as far as the platform's name @p platformName tells (see
+/// QGuiApplication::platformName()).
 AccessStatus platformAccess(const QString& platformName, PrivacyType type);
 
 } // namespace Orvane::Util

@@ -16,7 +16,7 @@ bool contains(const QWidget* ancestor, const QWidget* widget)
     return widget && (widget == ancestor || ancestor->isAncestorOf(widget));
 }
 
-// A child of the dialog, which deletes it.
+// The dialog owns it.
 class FocusKeeper : public QObject
 {
     Q_OBJECT
@@ -38,13 +38,13 @@ public:
     {
         switch (event->type()) {
         case QEvent::Show:
-            // A spontaneous one comes from the window system: the window is no longer minimised.
+            // A spontaneous event means that the window is no longer minimised.
             if (!event->spontaneous()) {
                 takeFocus();
             }
             break;
         case QEvent::WindowActivate:
-            // Qt sends it before it gives the focus to the widget that the window remembers.
+            // Sent before Qt gives the focus back to the window's last focus widget.
             if (watched == m_dialog && !isFocusElsewhere()) {
                 takeFocus();
             }

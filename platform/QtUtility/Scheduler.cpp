@@ -6,8 +6,7 @@
 
 namespace {
 
-// The bits of the state word. One word for both, so that threads that schedule and the thread that calls
-// never see one without the other.
+// The bits of the state. One atomic value holds both, so that all threads see them change together.
 constexpr int enabledBit = 2;
 constexpr int pendingBit = 4;
 constexpr int enabledAndPending = enabledBit | pendingBit;

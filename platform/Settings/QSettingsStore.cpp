@@ -7,7 +7,7 @@
 
 namespace {
 
-// Opened anew for each call: the host may set its names later than it makes the first widget.
+// Opened for each call: the host may construct widgets before it sets its organisation and name.
 std::unique_ptr<QSettings> open()
 {
     const bool hasOrganization =
@@ -24,7 +24,7 @@ std::unique_ptr<QSettings> open()
 QVariant QSettingsStore::read(const QString& key) const
 {
     const auto settings = open();
-    settings->sync(); // with what other processes wrote; opening alone does it for files only
+    settings->sync(); // reads what other processes wrote, which opening does for files only
     return settings->value(key);
 }
 
@@ -33,6 +33,6 @@ bool QSettingsStore::write(const QString& key, const QVariant& value)
     const auto settings = open();
     settings->setValue(key, value);
     settings->sync();
-    // A format error comes from lines of others that could not be read; ours is written all the same.
+    // A format error is about lines of other programs; this value is written regardless.
     return settings->status() != QSettings::AccessError;
 }

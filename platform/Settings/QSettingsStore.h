@@ -4,7 +4,7 @@
 #include <Settings/SettingsStore.h>
 
 /**
- * Keeps values in the file, or in the system's own place, that QSettings gives the host application.
+ * Keeps values where QSettings keeps those of the host application.
  */
 class QSettingsStore final : public SettingsStore
 {

@@ -11,7 +11,7 @@ namespace {
 struct State
 {
     std::unique_ptr<SettingsStore> store = std::make_unique<QSettingsStore>();
-    std::optional<QStringList> unsavedColors; // what the store did not take
+    std::optional<QStringList> unsavedColors; // the store has refused them
 };
 
 State& state()
@@ -25,7 +25,7 @@ QString customColorsKey()
     return QStringLiteral("userCustomColors");
 }
 
-// A store gives back what it made of the list, or what somebody else put there.
+// The store may return the list in another type, or a value of another program.
 QStringList texts(const QVariant& value)
 {
     const bool isList =

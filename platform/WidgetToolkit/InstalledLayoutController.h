@@ -5,8 +5,8 @@
 #include "LayoutController.h"
 #include "PropertyProviderBase.h"
 
-/// Controls the layout of a widget that is no LayoutController itself. As a child widget it can be
-/// selected in a style sheet, by this class name.
+/// Controls the layout of its parent, which is not a LayoutController. Style sheets select it by its class
+/// name.
 class InstalledLayoutController : public PropertyProviderBase, public LayoutController
 {
     Q_OBJECT

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int usualContentsLength = 4; // characters that stay legible in a narrow panel
+constexpr int usualContentsLength = 4; // characters, in a narrow panel
 constexpr int iconGap = 4;             // between icon and text, as QStyle draws the label
 
 int roomForIcon(const QComboBox* box)
@@ -26,7 +26,8 @@ int roomForIcon(const QComboBox* box)
     return 0;
 }
 
-// Looks no further than it has to: a list may be long. Bounding rectangles, as sizeHint() takes them.
+// Stops at a text of width @p enough, since a list may be long. Measures bounding rectangles, as sizeHint()
+// does.
 int widestText(const QComboBox* box, const QFontMetrics& metrics, int enough)
 {
     int widest = metrics.boundingRect(box->placeholderText()).width();
@@ -49,8 +50,8 @@ OvComboBox::~OvComboBox() = default;
 
 void OvComboBox::showPopup()
 {
-    // The container, which the pop-up lives in, outlasts a change of view but is made on demand. Qt shows
-    // none that would be empty, and must not make one for a model that is gone.
+    // Qt creates the pop-up's container on demand and keeps it when the view is replaced. An empty box shows
+    // no pop-up, and must not create one for a model that is gone.
     if (count() > 0) {
         popup()->installEventFilter(this);
     }
@@ -67,7 +68,7 @@ void OvComboBox::hidePopup()
 
 QSize OvComboBox::minimumSizeHint() const
 {
-    // Not QComboBox's, which is cached and which a swallowed change of font or style would leave stale.
+    // QComboBox caches its own, which is stale when a subclass swallows a FontChange or StyleChange.
     const QFontMetrics metrics(fontMetrics());
     const int length = minimumContentsLength() > 0 ? minimumContentsLength() : usualContentsLength;
     const qint64 wanted = qint64(length) * metrics.horizontalAdvance(QLatin1Char('X'));
@@ -90,7 +91,7 @@ bool OvComboBox::eventFilter(QObject* watched, QEvent* event)
         } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
             publishPopupVisible(false);
         } else if (event->type() == QEvent::LanguageChange && popup()->isVisible()) {
-            // The box heard of it first, and its items may be longer now.
+            // The box has translated its items already, which may be wider now.
             placePopup();
         }
     }
@@ -114,8 +115,8 @@ void OvComboBox::paintEvent(QPaintEvent* event)
     const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + iconGap;
     const int margins = 2; // styles leave a pixel on both sides of the text
     const int room = field.width() - icon - margins;
-    // By its bounding rectangle, as sizeHint() measures: the advance may be wider, and would have the text
-    // shortened in a box of exactly that size.
+    // The bounding rectangle, as in sizeHint(): the advance may be wider, and would elide the text in a box
+    // of exactly that size.
     if (option.fontMetrics.boundingRect(option.currentText).width() > room) {
         option.currentText = option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room);
     }

@@ -36,9 +36,8 @@ double placeOf(const QSlider* slider, const QPoint& point)
     return (slider->orientation() == Qt::Horizontal ? point.x() : point.y()) + 0.5;
 }
 
-// The path that the middle of the handle takes, from minimum to maximum. It is measured at both ends of
-// the range, because a style sheet can keep the handle off the groove's ends in ways that QSlider's own
-// mapping does not know.
+// The path of the handle's centre from minimum to maximum. It is measured at both ends of the range, because
+// QSlider's own mapping does not know how far a style sheet keeps the handle off the groove's ends.
 class Track
 {
 public:
@@ -58,7 +57,7 @@ public:
         return static_cast<int>(std::floor(m_minimum + fraction * (m_maximum - m_minimum) + 0.5));
     }
 
-    // The place on the track nearest to @p place.
+    // The point of the track nearest to @p place.
     double bounded(double place) const
     {
         return qBound(qMin(m_start, m_start + m_travel), place, qMax(m_start, m_start + m_travel));
@@ -123,8 +122,8 @@ int positionAfter(QAbstractSlider::SliderAction action, const QSlider& slider)
     }
 }
 
-// How many steps the wheel goes; Ctrl and Shift make a page of each notch. Like QAbstractSlider's own
-// reading of it, which cannot be had without its signals.
+// The steps of a wheel event; with Ctrl or Shift a notch is a page. As in QAbstractSlider, whose own
+// calculation cannot be called without emitting.
 int wheelSteps(const QWheelEvent& event, const QSlider& slider, double& remainder)
 {
     const QPoint turned = event.angleDelta();
@@ -186,7 +185,7 @@ bool OvCustomSlider::event(QEvent* event)
         m_hovered = part;
         update();
     }
-    // QSlider would look for the part by an option of its own.
+    // QSlider hit-tests with its own style option.
     return QAbstractSlider::event(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
@@ -256,7 +255,8 @@ void OvCustomSlider::mouseReleaseEvent(QMouseEvent* event)
     update();
     const int position = sliderPosition();
     {
-        // Behind its signal, setSliderDown() would go on to bring the value to the handle.
+        // setSliderDown(false) would use the slider after its signal, to set the value to the handle's
+        // position.
         const QSignalBlocker quiet(this);
         placeHandle(value());
         setSliderDown(false);
@@ -294,7 +294,7 @@ void OvCustomSlider::wheelEvent(QWheelEvent* event)
     perform(SliderMove);
 }
 
-/// Moves the handle, and neither the value nor anything else.
+/// Moves the handle without changing the value.
 void OvCustomSlider::placeHandle(int position)
 {
     const bool tracks = hasTracking();
@@ -304,7 +304,7 @@ void OvCustomSlider::placeHandle(int position)
     setTracking(tracks);
 }
 
-/// The first half of QAbstractSlider::triggerAction(). Returns whether the slider is still there.
+/// The first half of QAbstractSlider::triggerAction(). Returns false if a slot deleted the slider.
 bool OvCustomSlider::moveHandle(int position)
 {
     const QPointer<OvCustomSlider> self = this;
@@ -324,12 +324,12 @@ void OvCustomSlider::dragHandle(int position)
     }
 }
 
-/// The second half of QAbstractSlider::triggerAction(), behind whose signals nothing uses the slider.
+/// The second half of QAbstractSlider::triggerAction(), which does not use the slider after its signals.
 void OvCustomSlider::perform(SliderAction action)
 {
     const QPointer<OvCustomSlider> self = this;
     const bool tracks = hasTracking();
-    setTracking(false); // a slot may put the handle elsewhere, which is no other action
+    setTracking(false); // a slot that moves the handle triggers no other action
     Q_EMIT actionTriggered(action);
     if (self) {
         setTracking(tracks);

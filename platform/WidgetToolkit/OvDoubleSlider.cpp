@@ -23,14 +23,14 @@ public:
     OvDoubleSlider* const q;
     double multiplier = 1.0;
     StepMapping::Scale scale;
-    std::optional<double> requested; // what setDoubleValue() was given, if no step was taken since
+    std::optional<double> requested; // by setDoubleValue(), and no step was taken since
     double value = 0.0;
     double announced = 0.0;
 };
 
 void OvDoubleSlider::Private::takeStep()
 {
-    // The step was taken for the sake of the value: the value, which may lie beside it, stays.
+    // The step follows from the value, which may lie between two steps: it stays.
     if (scale.stepOf(value) == q->value()) {
         return;
     }
@@ -70,7 +70,7 @@ void OvDoubleSlider::Private::announce()
 
 bool OvDoubleSlider::Private::isHeard() const
 {
-    // One that listens to valueChanged() is the slider itself.
+    // The slider's own connection is one receiver of valueChanged().
     return !q->signalsBlocked() && (q->receivers(SIGNAL(doubleValueChanged(double))) > 0 ||
                                     q->receivers(SIGNAL(valueChanged(int))) > 1);
 }
@@ -79,7 +79,7 @@ OvDoubleSlider::OvDoubleSlider(QWidget* parent)
     : OvCustomSlider(parent)
     , d(std::make_unique<Private>(this))
 {
-    // Not from sliderChange(): behind that call QAbstractSlider still needs a living slider.
+    // Not in sliderChange(), after which QAbstractSlider goes on using the slider.
     connect(this, &QAbstractSlider::valueChanged, this, [this] { d->announce(); });
 }
 

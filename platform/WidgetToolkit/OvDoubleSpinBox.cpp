@@ -59,7 +59,7 @@ QValidator::State OvDoubleSpinBox::validate(QString& input, int& pos) const
         return state;
     }
     if (text != given) {
-        // The base drops blanks, and a mark typed onto a mark. The one that was there stays.
+        // The base class drops blanks and a second decimal mark. The first one stays.
         const auto typed = std::find_if(input.cbegin(), input.cend(), [this](QChar c) { return isMark(c); });
         input = typed == input.cend() ? text : withMark(text, *typed);
     }
@@ -82,7 +82,7 @@ QString OvDoubleSpinBox::textFromValue(double value) const
 
 void OvDoubleSpinBox::fixup(QString& input) const
 {
-    // The base removes group separators, which would turn "1,5" into 15.
+    // The base class removes group separators, which would turn "1,5" into 15.
     if (!m_bothDecimalMarksAccepted || !isDotOrComma(locale().groupSeparator())) {
         QDoubleSpinBox::fixup(input);
     }
@@ -97,9 +97,9 @@ void OvDoubleSpinBox::stepBy(int steps)
     setValue(before);
     quiet.unblock();
     const QPointer<OvDoubleSpinBox> self = this;
-    setValue(after); // rounds it to the decimals
+    setValue(after); // rounds to the decimals
     if (self) {
-        selectAll(); // as the base leaves it
+        selectAll(); // as the base class does
     }
 }
 

@@ -16,7 +16,7 @@ QLayout* OvFrame::getLayout() const
 
 bool OvFrame::event(QEvent* event)
 {
-    // Qt polishes before the first show, and components may replace a layout after that.
+    // Polish comes before the first show; a layout may be replaced after it.
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish) {
         applyLayoutMetrics();
     }

@@ -13,7 +13,7 @@
 
 namespace {
 
-// What is scaled in advance takes memory, whatever part of it is seen.
+// Larger pictures are scaled while they are painted, which takes no memory.
 constexpr qint64 maxScaledPixels = 4096 * 4096;
 
 } // namespace
@@ -73,8 +73,8 @@ void OvPixmapWidget::Private::retireMovie()
     }
     retired->blockSignals(true);
     retired->stop();
-    // Deferred: the path may be set, or the widget deleted, from a slot of this very movie. The
-    // application owns it until then, should no event loop run any more.
+    // deleteLater(), since a slot of the movie may set the path or delete the widget. The application owns
+    // the movie until then, in case no event loop runs any more.
     retired->setParent(QCoreApplication::instance());
     retired->deleteLater();
 }
@@ -86,8 +86,8 @@ void OvPixmapWidget::Private::onStateChanged(QMovie::MovieState state)
     }
     playWhenShown = state == QMovie::Running;
     if (playWhenShown && !shown) {
-        // On the next turn: other listeners must not hear of the pause before they hear of the start,
-        // and a parent that starts the movie from its own show event does so just before we are shown.
+        // Queued: other slots must see the start before the pause, and a parent that starts the movie in its
+        // showEvent() does so just before this widget is shown.
         QMetaObject::invokeMethod(
             q, [this] { pauseWhileHidden(); }, Qt::QueuedConnection);
     }
@@ -154,12 +154,11 @@ void OvPixmapWidget::setMoviePath(const QString& path)
     }
     d->path = path;
     std::unique_ptr<QMovie> loaded;
-    // Opening a pipe waits for somebody who writes into it.
+    // Opening a pipe would block until somebody writes into it.
     if (!path.contains(QChar(0)) && QFileInfo(path).isFile()) {
         loaded = std::make_unique<QMovie>(path);
-        // A file may have the right first bytes and no frame behind them. Starting reads the first frame
-        // only, where counting them would read the whole file, and where a jump to it would make a later
-        // start begin with the second.
+        // A file may have a valid header and no frame. Starting reads the first frame only; counting frames
+        // would read the whole file, and a jump would make a later start begin with the second.
         loaded->start();
         if (loaded->currentPixmap().isNull()) {
             loaded.reset();
@@ -202,7 +201,7 @@ void OvPixmapWidget::paintEvent(QPaintEvent* event)
     Q_UNUSED(event)
     QPainter painter(this);
     if (!painter.isActive()) {
-        return; // the window is too large for its backing store
+        return; // the window is too large for a backing store
     }
     drawFrame(&painter);
     const QSize frame = d->frameSize();
@@ -210,11 +209,11 @@ void OvPixmapWidget::paintEvent(QPaintEvent* event)
     if (frame.isEmpty() || room.isEmpty()) {
         return;
     }
-    // Of what is painted on: a grab or a proxy in a scene may have another scale than the screen.
+    // The device's ratio: a grab or a graphics proxy may have another one than the screen.
     const qreal ratio = painter.paintEngine()->paintDevice()->devicePixelRatioF();
     const QSize deviceRoom(qRound(room.width() * ratio), qRound(room.height() * ratio));
     const QSize deviceSize = frame.scaled(deviceRoom, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-    // Whole device pixels, or the painter would blur what was scaled sharply.
+    // Whole device pixels, or QPainter would blur the scaled picture.
     const QPoint deviceTopLeft(qRound(room.x() * ratio) + (deviceRoom.width() - deviceSize.width()) / 2,
                                qRound(room.y() * ratio) + (deviceRoom.height() - deviceSize.height()) / 2);
     const QRectF target(QPointF(deviceTopLeft) / ratio, QSizeF(deviceSize) / ratio);

@@ -6,8 +6,8 @@
 
 namespace PopupPlacement {
 
-/// @p popup as Qt has placed it, at least @p width wide, flush with @p box on the side where the text
-/// begins, and inside @p screen. It never gets narrower, save that nothing is larger than the screen.
+/// Returns Qt's placement @p popup widened to at least @p width, aligned with @p box at its leading edge and
+/// kept inside @p screen. It never becomes narrower, unless the screen is.
 QRect widened(const QRect& popup, int width, const QRect& box, Qt::LayoutDirection direction,
               const QRect& screen);
 

@@ -5,7 +5,7 @@
 PropertyProviderBase::PropertyProviderBase(QWidget* owner)
     : QWidget(owner)
 {
-    // Hidden explicitly, so that showing the owner does not show its provider.
+    // Hidden explicitly, so that showing the owner does not show it.
     QWidget::setVisible(false);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// In the order of QSpinBox, which after each signal needs the box for the next.
+// Emits in the order of QSpinBox, which would use the box after each signal.
 template <typename SpinBox>
 void announceValue(SpinBox* box)
 {
@@ -39,7 +39,7 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
 {
     const QPointer<SpinBox> self = box;
     const QPointer<QLineEdit> editGuard(edit);
-    // Ignored, so that it goes on to the default button of a dialog.
+    // Ignored, so that it reaches the default button of a dialog.
     event->ignore();
     const auto before = box->value();
     {
@@ -57,7 +57,7 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
     if (editGuard) {
         Q_EMIT edit->returnPressed();
     }
-    // A listener may have set another value, whose text is not selected.
+    // A slot may have set another value, whose text is not selected.
     if (self && box->hasFocus()) {
         box->selectAll();
     }

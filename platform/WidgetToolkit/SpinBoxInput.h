@@ -1,4 +1,4 @@
-// Internal: the input habits that OvSpinBox and OvDoubleSpinBox share.
+// Internal: the key handling of OvSpinBox and OvDoubleSpinBox.
 
 #pragma once
 
@@ -10,9 +10,8 @@ namespace SpinBoxInput {
 /// True for Enter and Return.
 bool isCommit(const QKeyEvent* event);
 
-/// Does what QAbstractSpinBox does on Enter, with two differences: the value is announced only if the
-/// text changed it, and @p box, a QSpinBox or QDoubleSpinBox, may be deleted by any listener. @p edit is
-/// its line edit.
+/// Does what QAbstractSpinBox does on Enter, but emits valueChanged() only if the text changed the value, and
+/// slots may delete @p box, a QSpinBox or QDoubleSpinBox. @p edit is its line edit.
 template <typename SpinBox>
 void commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event);
 

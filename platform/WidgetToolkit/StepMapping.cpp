@@ -10,12 +10,12 @@ namespace {
 
 using Limits = std::numeric_limits<double>;
 
-// Products of a 32-bit step and a numerator up to here are exact in a double.
+// The product of a 32-bit step and a numerator up to this is exact in a double.
 constexpr double maxExactNumerator = 4194304.0;
-// Of a multiplier that is taken for a decimal fraction.
+// Multipliers with more decimals are not taken for decimal fractions.
 constexpr int maxDecimals = 12;
 
-// A multiplier such as pow(10, -3) may be a few units in the last place off the number that is meant.
+// pow(10, -3) may differ from 0.001 by a few units in the last place.
 bool isNearly(double number, double meant)
 {
     return std::abs(number - meant) <= 4 * Limits::epsilon() * std::abs(meant);

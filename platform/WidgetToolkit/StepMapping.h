@@ -3,7 +3,7 @@
 #pragma once
 
 /**
- * Values of a slider that counts in steps, and their reading with a number of decimals.
+ * Converts between the integer steps of a slider and values, and rounds values as spin boxes do.
  */
 namespace StepMapping {
 
@@ -16,12 +16,11 @@ public:
     /// @p multiplier is the value of one step: positive and finite.
     explicit Scale(double multiplier);
 
-    /// The value of @p step; a value too large for a double becomes the largest one.
+    /// The value of @p step, clamped to the range of a double.
     double valueOf(int step) const;
 
-    /// The step nearest to @p value, halves away from zero. A value that is a half in its decimal
-    /// notation counts as one, whichever way its double is off. Steps beyond 32 bits become the last one
-    /// of 32 bits. NaN gives 0.
+    /// The step nearest to @p value, halves away from zero. A value that is a half in decimal notation counts
+    /// as a half, whatever its double is. Steps are clamped to 32 bits; NaN gives 0.
     int stepOf(double value) const;
 
 private:
@@ -29,10 +28,10 @@ private:
     double m_denominator = 1.0;
 };
 
-/// True for what can be a multiplier: positive and finite.
+/// True if @p number is positive and finite.
 bool isMultiplier(double number);
 
-/// What a QDoubleSpinBox with @p decimals makes of @p value.
+/// Rounds @p value as a QDoubleSpinBox with @p decimals does.
 double rounded(double value, int decimals);
 
 } // namespace StepMapping

@@ -14,13 +14,13 @@
 
 namespace {
 
-// A sheet compares the text of a value, and true and 1 read differently though QVariant calls them equal.
+// Style sheets compare values as text, which differs for true and 1, though QVariant calls them equal.
 bool isSame(const QVariant& one, const QVariant& other)
 {
     return one.userType() == other.userType() && one == other;
 }
 
-/// How much room the sheet's padding, border and margin take around the contents of a widget.
+/// The room that the sheet's padding, border and margin take around the contents of a widget.
 struct Box
 {
     explicit Box(const QWidget* widget)
@@ -29,8 +29,8 @@ struct Box
         option.initFrom(widget);
         option.rect = QRect(0, 0, 1000, 1000);
         const QStyle* const style = widget->style();
-        // Any widget is answered: the sheet takes its box from the widget's rule. Without a border of the
-        // sheet only the second of the two speaks of the padding.
+        // The style sheet style answers for any widget, from its rule. Without a border in the sheet only the
+        // second of the two includes the padding.
         contents = style->subElementRect(QStyle::SE_FrameContents, &option, widget);
         size = style->sizeFromContents(QStyle::CT_PushButton, &option, option.rect.size(), widget);
     }
@@ -43,7 +43,7 @@ struct Box
 
 enum class Unpolish {
     Always,
-    WithoutSheet, // the style of a sheet drops what it knows of a widget whenever it polishes it
+    WithoutSheet, // the style sheet style unpolishes by itself when it polishes again
 };
 
 void repolish(QWidget* widget, Unpolish unpolish)
@@ -66,8 +66,8 @@ void repolish(QWidget* widget, Unpolish unpolish)
         return;
     }
     if (before && *before != Box(widget)) {
-        // Widgets keep their frame's width and their size hint until they hear of the change. All others
-        // are spared it, because it lays out the whole window anew.
+        // Widgets cache frame width and size hint until a StyleChange. It is sent only where the box differs,
+        // because it lays out the whole window.
         QEvent changed(QEvent::StyleChange);
         QCoreApplication::sendEvent(widget, &changed);
     }
@@ -83,7 +83,7 @@ void Util::applyStyleHint(QWidget* widget, const QString& hint)
     if (!hint.isEmpty()) {
         applyProperty(widget, "styleHint", hint);
     } else if (widget && widget->property("styleHint").isValid()) {
-        // A null string, which not even [styleHint] without a value selects.
+        // A null string, which the selector [styleHint] without a value does not match.
         applyProperty(widget, "styleHint", QString());
     }
 }
@@ -99,7 +99,7 @@ void Util::applyProperty(QWidget* widget, const char* name, const QVariant& valu
     }
     const QPointer<QWidget> alive(widget);
     widget->setProperty(name, value);
-    // A declared property may have refused the value, or have held it in another type.
+    // A declared property may refuse the value or convert it.
     if (alive && !isSame(before, widget->property(name))) {
         repolish(widget, Unpolish::WithoutSheet);
     }
@@ -123,7 +123,7 @@ LayoutController* Util::installLayoutController(QWidget* widget)
     auto* installed = widget->findChild<InstalledLayoutController*>(QString(), Qt::FindDirectChildrenOnly);
     if (!installed) {
         installed = new InstalledLayoutController(widget);
-        // Too late for the event that would have had it polished before the widget is laid out.
+        // The widget's Polish event, with which it would be polished, is over.
         if (widget->testAttribute(Qt::WA_WState_Polished)) {
             installed->ensurePolished();
         }

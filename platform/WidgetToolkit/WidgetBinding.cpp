@@ -12,11 +12,11 @@
 
 namespace {
 
-// Listeners that keep moving the two against each other are left to themselves after so many copies.
+// Ends an endless loop of slots that change the two sides in turn.
 constexpr int maxCopies = 16;
 
-// Gives a widget range and value with one report of the value. Setting the range alone would clamp the
-// old value into it, and announce that too.
+// Sets range and value with one valueChanged(). Setting the range first would clamp the old value and emit
+// that too.
 template <typename Widget, typename Number, typename SetValue>
 void setRangeAndValue(Widget* widget, Number minimum, Number maximum, bool oldValueFits, const bool& gone,
                       SetValue setValue)
@@ -49,7 +49,7 @@ WidgetBinding::WidgetBinding(QAbstractSlider* slider, QAbstractSpinBox* spinBox)
     : QObject(slider)
     , m_boundSpinBox(spinBox)
 {
-    // Deleted at once: whoever moves the slider next must not find a dangling spin box.
+    // Deleted at once, since the next change of the slider would use the spin box.
     connect(spinBox, &QObject::destroyed, this, [this] { delete this; });
 }
 
@@ -110,7 +110,7 @@ std::optional<WidgetBinding::Side> IntegerBinding::copy(Side side, const bool& g
     if (side == Side::Slider) {
         const int minimum = m_slider->minimum();
         const int maximum = m_slider->maximum();
-        // When a slider announces its range, it has yet to bring its value into it.
+        // A slider emits rangeChanged() before it clamps its value.
         value = qBound(minimum, m_slider->value(), maximum);
         const auto setValue = [this, value] {
             if (m_spinBox->value() != value) {
@@ -152,7 +152,7 @@ std::optional<WidgetBinding::Side> IntegerBinding::copy(Side side, const bool& g
     if (sliderValue == m_spinBox->value()) {
         return {};
     }
-    // The side that a listener has moved away from what was copied is the one to follow.
+    // A slot has changed one side: that one is copied.
     return sliderValue != value ? Side::Slider : Side::SpinBox;
 }
 
@@ -170,7 +170,7 @@ FractionBinding::FractionBinding(OvDoubleSlider* slider, QDoubleSpinBox* spinBox
     if (const auto* announcing = qobject_cast<OvDoubleSpinBox*>(spinBox)) {
         connect(announcing, &OvDoubleSpinBox::decimalsChanged, this, &FractionBinding::watchDecimals);
     }
-    // A plain spin box does not say that its decimals have changed.
+    // QDoubleSpinBox has no signal for its decimals.
     spinBox->installEventFilter(this);
 }
 
@@ -181,7 +181,7 @@ bool FractionBinding::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::Paint:
         if (m_spinBox->decimals() != m_decimals) {
-            // Listeners have no business in the middle of painting.
+            // Queued, since slots must not run during a paint event.
             QMetaObject::invokeMethod(this, &FractionBinding::watchDecimals, Qt::QueuedConnection);
         }
         break;
@@ -244,7 +244,7 @@ std::optional<WidgetBinding::Side> FractionBinding::copyToSlider(const bool& gon
     if (otherDecimals && m_spinBoxFollows) {
         const double reread = StepMapping::rounded(m_spinBoxValue, m_decimals);
         if (value == qBound(m_spinBox->minimum(), reread, m_spinBox->maximum())) {
-            // Nobody has chosen this value: it is what the other decimals made of the old one.
+            // The spin box has only rounded the old value to its new decimals.
             m_spinBoxValue = value;
             return Side::Slider;
         }
@@ -259,7 +259,7 @@ std::optional<WidgetBinding::Side> FractionBinding::copyToSlider(const bool& gon
         const int last = scale.stepOf(maximum);
         rememberSliderRange(first, last);
         const bool fits = isWithin(m_slider->doubleValue(), m_sliderMinimum, m_sliderMaximum);
-        // Or a value that did not fit so far, and was asked for earlier, would come back.
+        // Makes the slider forget a requested value that its range has cut.
         m_slider->setDoubleValue(m_slider->doubleValue());
         setRangeAndValue(m_slider, first, last, fits, gone, setValue);
     } else {
@@ -302,13 +302,13 @@ void FractionBinding::rememberSliderRange(int minimum, int maximum)
     m_sliderMaximum = scale.valueOf(maximum);
 }
 
-// When a slider announces its range, it has yet to bring its value into it.
+// A slider emits rangeChanged() before it clamps its value.
 double FractionBinding::sliderValue() const
 {
     return qBound(m_sliderMinimum, m_slider->doubleValue(), m_sliderMaximum);
 }
 
-// The same range reads differently with other decimals.
+// With other decimals the same range is rounded differently.
 bool FractionBinding::noteDecimals()
 {
     if (m_spinBox->decimals() == m_decimals) {
@@ -339,7 +339,7 @@ bool FractionBinding::spinBoxShows(double value) const
     if (shown == value) {
         return true;
     }
-    // Rounding as text is dear, and mostly not needed to tell.
+    // Rounding converts to text and back, so it comes last.
     return std::abs(shown - value) < m_lastDigit && shown == StepMapping::rounded(value, m_decimals);
 }
 

@@ -12,12 +12,11 @@ class QAbstractSpinBox;
 class QDoubleSpinBox;
 class QSpinBox;
 
-/// Keeps a slider and a spin box on the same value. It is a child of the slider and goes with the first
-/// of the two that dies.
+/// Keeps a slider and a spin box at the same value. The slider owns it; it is deleted with the first of the
+/// two.
 ///
-/// A change on one side is copied to the other. What the other reports meanwhile is its echo and is not
-/// followed; but a listener may have moved either side in the same moment, so after each copy the two
-/// are compared, and copied again if need be.
+/// A change on one side is copied to the other, whose signals are ignored meanwhile. Since slots may change
+/// either side during a copy, both are compared after it and copied again where they differ.
 class WidgetBinding : public QObject
 {
     Q_OBJECT
@@ -30,15 +29,15 @@ public:
 
     enum class Side { Slider, SpinBox };
 
-    /// Copies from @p side until the two agree. Does nothing while it runs already. Listeners may delete
-    /// either widget, and so the binding.
+    /// Copies from @p side until both agree. Does nothing when it is called recursively. Slots may delete
+    /// either widget, and with it the binding.
     void synchronise(Side side);
 
 protected:
     WidgetBinding(QAbstractSlider* slider, QAbstractSpinBox* spinBox);
 
-    /// Copies from @p side to the other and says which side has to be copied next, none if they agree.
-    /// Every write may delete this object; @p gone tells.
+    /// Copies from @p side to the other and returns the side to copy from next, if they differ. Each write
+    /// may delete the binding, which sets @p gone.
     virtual std::optional<Side> copy(Side side, const bool& gone) = 0;
 
 private:
@@ -46,7 +45,7 @@ private:
     bool* m_gone = nullptr; // set while synchronise() runs
 };
 
-/// The binding of whole numbers.
+/// Binds integers.
 class IntegerBinding : public WidgetBinding
 {
     Q_OBJECT
@@ -60,12 +59,12 @@ private:
 
     QAbstractSlider* const m_slider;
     QSpinBox* const m_spinBox;
-    // The range that both agreed on last; at first none.
+    // The last range copied; none at first.
     int m_minimum = 1;
     int m_maximum = 0;
 };
 
-/// The binding of fractions.
+/// Binds doubles.
 class FractionBinding : public WidgetBinding
 {
     Q_OBJECT
@@ -94,14 +93,14 @@ private:
     OvDoubleSlider* const m_slider;
     QDoubleSpinBox* const m_spinBox;
 
-    // The slider's range as it was copied last, in steps and in units; at first none.
+    // The last range of the slider that was copied, in steps and in units; none at first.
     int m_firstStep = 1;
     int m_lastStep = 0;
     double m_multiplier = 0.0;
     double m_sliderMinimum = 0.0;
     double m_sliderMaximum = 0.0;
 
-    // The spin box's range in full, and as it reads with m_decimals.
+    // The spin box's range, exact and rounded to m_decimals.
     double m_fullMinimum = 0.0;
     double m_fullMaximum = 0.0;
     double m_shownMinimum = 0.0;
@@ -109,10 +108,10 @@ private:
     int m_decimals = -1;
     double m_lastDigit = 1.0; // the value of one unit of the last decimal
 
-    // Where both were when they agreed last.
+    // The values of both after the last copy.
     double m_sliderValue = 0.0;
     double m_spinBoxValue = 0.0;
-    // Whether the spin box then showed the slider's value, as far as its decimals go, and not a value
-    // that the slider cannot take.
+    // Whether the spin box then showed the slider's value, rounded to its decimals, and not a value that the
+    // slider cannot take.
     bool m_spinBoxFollows = true;
 };
