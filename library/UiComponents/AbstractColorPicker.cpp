@@ -2,7 +2,7 @@
 
 namespace {
 
-// Queued and by-name connections look the type up by its name, once for the process.
+// Queued and string-based connections look the type up by name. Once for each process.
 void registerColorType()
 {
     static const int id = qRegisterMetaType<std::optional<QColor>>("std::optional<QColor>");

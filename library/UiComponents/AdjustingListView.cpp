@@ -2,7 +2,7 @@
 
 namespace {
 
-// QWIDGETSIZE_MAX itself means no minimum to Qt, and more is cut off with a warning.
+// To Qt, QWIDGETSIZE_MAX means no minimum, and it warns of more.
 constexpr int maxMinimumHeight = QWIDGETSIZE_MAX - 1;
 
 } // namespace

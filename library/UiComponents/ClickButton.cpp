@@ -54,7 +54,7 @@ void ClickButton::keyReleaseEvent(QKeyEvent* event)
 
 void ClickButton::mouseReleaseEvent(QMouseEvent* event)
 {
-    // QToolButton forgets afterwards which of its parts was pressed, which only a split button ever asks.
+    // QToolButton resets which of its parts was pressed, which only a split button uses.
     if (popupMode() == MenuButtonPopup) {
         QToolButton::mouseReleaseEvent(event);
     } else {

@@ -16,7 +16,7 @@ struct NamedMode
     const char* name;
 };
 
-// SourceOver is named apart from these.
+// All but SourceOver, which is named by itself.
 constexpr std::array<NamedMode, 13> sortedModes = {{
     {BlendingMode::Overlay, QT_TRANSLATE_NOOP("blendingModes", "Overlay")},
     {BlendingMode::Lighten, QT_TRANSLATE_NOOP("blendingModes", "Lighten")},
@@ -68,7 +68,7 @@ int ColorBlendingComboBox::indexOf(BlendingMode mode) const
 
 void ColorBlendingComboBox::changeEvent(QEvent* event)
 {
-    // The base classes are left out on purpose; only the repaint that QWidget does there is made up for.
+    // The base classes are not called, on purpose; update() is what QWidget would do.
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }
@@ -77,13 +77,13 @@ void ColorBlendingComboBox::changeEvent(QEvent* event)
 
 void ColorBlendingComboBox::retranslate()
 {
-    // No name sorts before the empty one, in whatever language.
+    // The empty name sorts first in any language.
     setItemText(indexOf(BlendingMode::SourceOver), QString());
     for (const NamedMode& each : sortedModes) {
         setItemText(indexOf(each.mode), QCoreApplication::translate("blendingModes", each.name));
     }
     model()->sort(0, Qt::AscendingOrder);
-    // Not item 0, which is another one where a host has taken SourceOver out.
+    // Not item 0, which is another mode if a host has removed SourceOver.
     setItemText(indexOf(BlendingMode::SourceOver),
                 QCoreApplication::translate("blendingModes", "SourceOver"));
 }

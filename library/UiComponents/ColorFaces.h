@@ -1,4 +1,4 @@
-// Internal: the faces of ColorPickerWidget, which are the colours that it offers and the one that it has.
+// Internal: the faces of ColorPickerWidget: the colours that it offers, and the current one.
 
 #pragma once
 
@@ -9,10 +9,10 @@ class QWidget;
 
 namespace ColorFaces {
 
-/// The sheet of a face: its background is @p color without alpha, transparent for an invalid one.
+/// The style sheet of a face: @p color as background, opaque; transparent for an invalid colour.
 QString styleSheet(const QColor& color);
 
-/// Gives @p face that sheet, if it has another.
+/// Sets that style sheet, where it differs.
 void paint(QWidget* face, const QColor& color);
 
 } // namespace ColorFaces

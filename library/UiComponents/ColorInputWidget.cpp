@@ -26,21 +26,19 @@ ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
-    // A label whose buddy is the field gives its focus to what can be operated; it asks the field's own
-    // policy whether there is anything.
+    // QLabel checks the focus policy of its buddy, not of the focus proxy.
     setFocusPolicy(d->button->focusPolicy());
     setFocusProxy(d->button);
     if (color.isValid()) {
         d->button->setColor(color);
     }
-    // Last, so that the first value is not reported as a change.
+    // Last, so that the initial colour is not reported.
     connect(d->button, &ColorPickerButton::colorChanged, this, &ColorInputWidget::colorChanged);
 }
 
 ColorInputWidget::~ColorInputWidget()
 {
-    // A visible window hides itself while it is destroyed, which ends a running pick; by then the field is a
-    // mere QWidget.
+    // ~QWidget() hides a visible window, which ends a running pick, when the field is only a QWidget.
     d->button->disconnect(this);
 }
 

@@ -1,4 +1,4 @@
-// Internal: the fixed palette, for the panel that shows it and for CustomColors, which adds none of it.
+// Internal: the fixed palette of ColorPickerWidget, whose colours CustomColors does not add.
 #pragma once
 
 #include <QColor>
@@ -12,8 +12,8 @@ constexpr int ColumnCount = 9;
 
 using Row = std::array<QColor, ColumnCount>;
 
-/// Greys, pure hues, then tints and shades of those; all opaque and of the RGB model. Made by the
-/// compiler, so that it is there before any other object that is constructed while libraries load.
+/// Greys, pure hues, then tints and shades of those; all opaque and in the RGB model. Initialised at compile
+/// time, so that static objects of other files can use it.
 extern const std::array<Row, RowCount> Rows;
 
 /// Compares as QColor does: with alpha, and with the colour model.

@@ -14,7 +14,7 @@ namespace {
 constexpr double enabledOpacity = 1.0;
 constexpr double disabledOpacity = 0.4;
 
-// What shows the colour where no sheet says how large the face is, in pixels.
+// Of a face that no sheet gives a size, in pixels.
 constexpr int minFaceSize = 16;
 
 QString faceStyleSheet(const QColor& color, bool enabled)
@@ -64,7 +64,7 @@ ColorPickerButton::Private::Private(ColorPickerButton* button)
 void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
 {
     if (AbstractColorPicker* const old = picker) {
-        // A picker that reports its end while it is destroyed can no longer be asked for its colour.
+        // A picker that emits in its destructor can no longer be asked for its colour.
         old->disconnect(q);
         delete old;
         release();
@@ -76,7 +76,7 @@ void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
     connect(newPicker, &AbstractColorPicker::pickingStopped, q,
             [this, newPicker] { adoptResult(newPicker); });
     connect(q, &ColorPickerButton::colorChanged, newPicker, [this, newPicker](const QColor& value) {
-        // A slot may have set another colour, which the picker has heard of before this one.
+        // A slot may have set another colour, which the picker has got before this one.
         const bool isOutdated = color && *color != value;
         if (!isOutdated) {
             newPicker->setColor(value);
@@ -91,7 +91,7 @@ void ColorPickerButton::Private::adoptResult(AbstractColorPicker* from)
     const QPointer<AbstractColorPicker> source = from;
     Q_EMIT q->pickingStopped();
     if (self && source) {
-        // A host's picker may delete the button while it is asked.
+        // A host's picker may delete the button in color().
         const std::optional<QColor> result = source->color();
         if (self) {
             self->setColor(result);
@@ -103,7 +103,7 @@ void ColorPickerButton::Private::adoptResult(AbstractColorPicker* from)
     }
 }
 
-// Nothing is left that could report the end of the pick that pressed the button.
+// Without the picker, nothing reports the end of the pick that pressed the button.
 void ColorPickerButton::Private::release()
 {
     if (isPressedByPick) {
@@ -125,7 +125,7 @@ void ColorPickerButton::Private::updateStyle()
     if (face->styleSheet() != sheet) {
         face->setStyleSheet(sheet);
     } else if (isOtherState) {
-        // Both states without a colour have the same sheet, but an application's rules may tell them apart.
+        // Both states without a colour have the same sheet, but an application's rules may differ.
         Util::repolishWidget(face);
     }
 }
@@ -140,7 +140,7 @@ ColorPickerButton::ColorPickerButton(QWidget* parent)
 
 ColorPickerButton::~ColorPickerButton()
 {
-    // Before the button is a mere QWidget: the picker's last signals must not reach it.
+    // Here, while the button is complete, and disconnected: the picker may emit in its destructor.
     if (AbstractColorPicker* const picker = d->picker) {
         picker->disconnect(this);
         delete picker;

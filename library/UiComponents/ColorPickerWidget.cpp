@@ -41,7 +41,7 @@ namespace {
 constexpr int queueLength = 8;
 constexpr int opacitySteps = 100;
 
-// What shows colours where no sheet says how large it is, in pixels.
+// Of preview and plane, where no sheet gives them a size, in pixels.
 constexpr int bareFaceSize = 16;
 constexpr QSize barePlaneSize(200, 160);
 
@@ -50,16 +50,16 @@ QColor opaque(const QColor& color)
     return color.isValid() ? QColor::fromRgb(color.rgb()) : QColor();
 }
 
-/// The buttons by the opaque colour that they show.
+/// Buttons by keyOf() their colour.
 using ColorIndex = QHash<QRgb, QToolButton*>;
 
-/// No opaque colour is 0.
+/// The opaque colour; 0, which is translucent, for an invalid one.
 QRgb keyOf(const QColor& color)
 {
     return color.isValid() ? color.rgb() : 0U;
 }
 
-/// A row for @p title alone, and below it one for @p first and @p second.
+/// Adds a row for @p title, and one for @p first and @p second.
 void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* second)
 {
     grid->addRow({LayoutHelpers::GridItem(title, LayoutHelpers::Alignment::Default),
@@ -68,8 +68,8 @@ void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* s
     grid->addRow({first, second}, 0);
 }
 
-/// What the selector is shown in.
-// For everybody else it is a QDialog.
+/// The pop-up of the selector.
+// Without Q_OBJECT, since style sheets know it as a QDialog.
 class SelectorDialog : public QDialog // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -81,7 +81,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override
     {
-        // There is no button that QDialog could take it for.
+        // QDialog would look for a default button.
         if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
             accept();
         } else {
@@ -95,9 +95,9 @@ protected:
 class ColorPickerWidget::Private : public QAccessible::ActivationObserver
 {
 public:
-    /// What is left of a panel that a slot has deleted. Line edits, buttons and spin boxes of Qt go on using
-    /// themselves after their signals, so each emission shares this, and the last one to return gives the
-    /// parts up: a nested event loop in a slot must not delete what is below it on the stack.
+    /// The parts of a panel that a slot has deleted. Qt's line edits, buttons and spin boxes use themselves
+    /// after their signals. So each emission shares this, and the parts are deleted after the last one has
+    /// returned, not in an event loop of a slot.
     class Remains
     {
     public:
@@ -192,26 +192,25 @@ public:
     QButtonGroup* const buttons;
     OvGridLayout* const paletteLayout;
     OvHBoxLayout* const queueLayout;
-    // Hears what the parts say, and is the first to go: an emptied spin box reports when it is hidden.
+    // Context of all child connections; destroyed first, since hiding an emptied spin box emits.
     std::unique_ptr<QObject> listener = std::make_unique<QObject>();
 
     int colorDialogOffset = 0;
-    // What each button shows, and which button is to be checked for a colour. Junk in the settings can give
-    // an own colour the face of a palette colour or of another own one: the own ones go first, later ones
-    // before earlier ones, and the palette keeps its buttons.
+    // The colour of each button, and the button of each colour. The settings may repeat a colour, or hold one
+    // of the palette: own colours come before the palette, later ones before earlier ones.
     QHash<QWidget*, QColor> buttonColors;
     ColorIndex paletteButtons;
     ColorIndex queueButtons;
     QPointer<QDialog> dialog;
     QPointer<CustomColorSelectWidget> selector;
-    // What the selector was given or has reported last.
+    // Given to the selector, or reported by it, last.
     std::optional<QColor> selectorColor;
     std::optional<QColor> currentColor;
     bool opacityAdjustmentAvailable = true;
 
     int nextButtonId = -2;
     bool namesAreRead = QAccessible::isActive();
-    // The handlers of buttons and slider keep still.
+    // True while the panel changes buttons and slider itself, whose handlers then do nothing.
     bool isFollowing = false;
     const std::shared_ptr<Remains> remains = std::make_shared<Remains>();
 };
@@ -294,7 +293,7 @@ void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
     for (int row = 0; row < ColorPalette::RowCount; ++row) {
         int column = 0;
         if (nullColorAllowed && row == 0) {
-            // In the places of white and the second grey.
+            // Instead of white and the second grey.
             addPaletteButton(row, column++, QColor());
             addPaletteButton(row, column++, ColorPalette::Rows.front().front());
         }
@@ -310,7 +309,7 @@ QToolButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
 {
     auto* button = new QToolButton(parent);
     button->setCheckable(true);
-    // The number that the group would give it too, after a search through all others.
+    // The id that the group would assign, after a search through all others.
     buttons->addButton(button, nextButtonId--);
     return button;
 }
@@ -360,7 +359,7 @@ void ColorPickerWidget::Private::configureInputs() const
     opacityTitleLabel->setBuddy(opacitySlider);
 }
 
-// From top to bottom. By the order of creation the buttons of colours are last.
+// From top to bottom. In order of creation the colour buttons would be last.
 void ColorPickerWidget::Private::orderTabs() const
 {
     QWidget* const lastOfPalette = paletteLayout->itemAt(paletteLayout->count() - 1)->widget();
@@ -414,7 +413,7 @@ void ColorPickerWidget::Private::reinitializeCustomColors()
     updateColorButtonsCheckState();
 }
 
-/// By their order on the screen, which is not that of their creation.
+/// In the order on the screen, not of creation.
 QToolButton* ColorPickerWidget::Private::queueButton(int index) const
 {
     return qobject_cast<QToolButton*>(queueLayout->itemAt(index)->widget());
@@ -433,14 +432,14 @@ void ColorPickerWidget::Private::setButtonColor(QToolButton* button, const QColo
     }
 }
 
-/// For those who do not see its colour.
+/// For assistive technology.
 void ColorPickerWidget::Private::nameButton(QWidget* button) const
 {
     const QColor color = buttonColors.value(button);
     button->setAccessibleName(color.isValid() ? color.name() : tr("No colour"));
 }
 
-/// To name a widget takes Qt longer than to make it, so it is only done where somebody reads the names.
+/// Only while accessibility is active, since setting a name takes longer than constructing the widget.
 void ColorPickerWidget::Private::nameControls() const
 {
     currentColorValueEdit->setAccessibleName(tr("Colour value"));
@@ -461,7 +460,7 @@ void ColorPickerWidget::Private::accessibilityActiveChanged(bool active)
 
 QToolButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
 {
-    // Of several that show the colour, the one that the user has chosen stays.
+    // Of several buttons of the colour, the one that the user has checked stays.
     auto* const checked = qobject_cast<QToolButton*>(buttons->checkedButton());
     if (checked && buttonColors.value(checked) == opaque(color)) {
         return checked;
@@ -485,7 +484,7 @@ void ColorPickerWidget::Private::setColor(const std::optional<QColor>& color)
     }
 }
 
-/// May be reported, and so make somebody delete the panel.
+/// May emit: a slot may delete the panel.
 void ColorPickerWidget::Private::setSliderToAlpha() const
 {
     if (currentColor && currentColor->isValid()) {
@@ -495,7 +494,7 @@ void ColorPickerWidget::Private::setSliderToAlpha() const
 
 void ColorPickerWidget::Private::takeSliderAlpha()
 {
-    // An invalid colour with an alpha would differ from other invalid ones.
+    // With an alpha, an invalid colour would differ from other invalid ones.
     if (opacityAdjustmentAvailable && currentColor->isValid()) {
         currentColor->setAlphaF(opacitySlider->doubleValue());
     }
@@ -601,7 +600,7 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
 
 void ColorPickerWidget::Private::onCustomColorButtonClicked()
 {
-    // The selector takes the focus, and a spin box that was emptied would report in the middle of that.
+    // The selector takes the focus, and an emptied spin box would emit in the middle of that.
     const QPointer<ColorPickerWidget> self = q;
     opacitySpinbox->interpretText();
     if (!self) {
@@ -611,7 +610,7 @@ void ColorPickerWidget::Private::onCustomColorButtonClicked()
         createDialog();
     }
     const QColor start = opaque(currentColor.value_or(QColor()));
-    // What the selector shows of a grey is more than the colour: it knows the hue.
+    // The selector keeps the hue of a grey, which the colour does not have.
     if (selectorColor != start) {
         selectorColor = start;
         selector->startFrom(start);
@@ -620,7 +619,7 @@ void ColorPickerWidget::Private::onCustomColorButtonClicked()
     dialog->show();
     dialog->raise();
     dialog->activateWindow();
-    // Some layouts find their size only when they are shown.
+    // Some layouts have their final size only when they are shown.
     placeDialog();
 }
 
@@ -643,8 +642,7 @@ void ColorPickerWidget::Private::createDialog()
 
 void ColorPickerWidget::Private::placeDialog() const
 {
-    // A layout in a hidden window does not hear of what has changed inside those inside it: from the
-    // innermost.
+    // In a hidden window, changes in nested layouts do not reach the outer ones: from the innermost outwards.
     const auto parts = dialog->findChildren<QWidget*>();
     std::for_each(parts.crbegin(), parts.crend(), [](QWidget* part) { part->updateGeometry(); });
     dialog->adjustSize();
@@ -657,8 +655,8 @@ void ColorPickerWidget::Private::placeDialog() const
                                                  screen ? screen->availableGeometry() : QRect()));
 }
 
-/// As the user would, but in silence: whoever hides the panel may be about to delete it. The button for the
-/// colour is there when the panel is next shown.
+/// Closes the selector without emitting, since the panel is being hidden and may be deleted next. The button
+/// of the added colour appears when the panel is shown again.
 void ColorPickerWidget::Private::closeDialog() const
 {
     if (dialog && dialog->isVisible()) {
@@ -679,7 +677,7 @@ void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
     takeSliderAlpha();
     isFollowing = true;
     updateColorButtonsCheckState();
-    // A button that is found leaves them to the handler, which keeps still.
+    // Otherwise done by the handler of the button, which does nothing now.
     updateColorValueWidgets();
     isFollowing = false;
     reportColor();
@@ -706,7 +704,7 @@ void ColorPickerWidget::Private::onDialogFinished()
     button->setChecked(true);
 }
 
-/// Makes the emission, during which anybody may delete the panel.
+/// Emits. Slots may delete the panel.
 template <typename Emission>
 void ColorPickerWidget::Private::announce(Emission emission)
 {
@@ -720,7 +718,7 @@ void ColorPickerWidget::Private::reportColor()
     announce([this, color] { Q_EMIT q->colorChanged(color); });
 }
 
-/// The user has just used one of them, if the panel is emitting.
+/// During an emission, one of the parts is in use.
 void ColorPickerWidget::Private::keepPartsInUse() const
 {
     if (remains.use_count() == 1) {

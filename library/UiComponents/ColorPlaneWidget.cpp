@@ -48,11 +48,10 @@ public:
     int markerBorderWidth = 2;
     QPoint markerPos = noMarker;
     QColor markerColor;
-    // The plane is fully described by these and the hue. A hidden widget is told of its new size late, so
-    // this is not always the widget's.
+    // Differs from the widget's size while a resize event is pending, as in a hidden widget.
     QSize planeSize = {0, 0};
 
-    // What was painted last.
+    // Painted last.
     QImage image;
     double imageHue = noHue;
 };

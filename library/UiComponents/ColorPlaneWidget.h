@@ -1,4 +1,4 @@
-// Internal: the saturation and value square of CustomColorSelectWidget.
+// Internal: the saturation and value plane of CustomColorSelectWidget.
 
 #pragma once
 
@@ -10,27 +10,26 @@
 /**
  * All colours of one hue, and a ring-shaped marker that the user drags over them.
  *
- * Saturation grows to the right, also from right to left, and value grows upwards. The widget shows nothing
- * until it has a hue. Each change of hue or size makes another plane; the marker stays on its pixel, so the
- * colour under it can change without a signal when the widget is resized.
+ * Saturation grows to the right, in right-to-left layouts too, and value grows upwards. The widget paints
+ * nothing until it has a hue. The marker keeps its pixel when hue or size change, so the colour under it may
+ * change without a signal on a resize.
  *
- * The plane is rendered when it is painted, once for all changes since. Colours under the marker are
- * computed one by one, so that nothing else has to wait for it.
+ * The plane is rendered in the paint event, once for all changes before. The colour under the marker is
+ * computed by itself, so it is up to date at once.
  *
- * The left button places the marker and drags it; the mouse is grabbed meanwhile and the marker pinned to
- * the nearest edge. With focus, the arrow keys move it by a pixel, by ten with Shift. The marker's colour is
- * the inverse of the pixel below it, from when it was placed.
+ * The marker has the inverse colour of the pixel that it was placed on.
+ * @see PlaneDrag for mouse and keys
  */
 class ColorPlaneWidget : public QWidget
 {
     Q_OBJECT
-    /// The radius of the marker in pixels; 8 at first.
+    /// The radius of the marker in pixels; 8 by default.
     Q_PROPERTY(int markerRadius READ markerRadius WRITE setMarkerRadius)
-    /// The width of the marker's line in pixels; 2 at first.
+    /// The width of the marker's line in pixels; 2 by default.
     Q_PROPERTY(int markerBorderWidth READ markerBorderWidth WRITE setMarkerBorderWidth)
 
 public:
-    /// @p parent owns the widget as usual.
+    /// @p parent owns the widget.
     explicit ColorPlaneWidget(QWidget* parent = nullptr);
     ~ColorPlaneWidget() override;
 
@@ -40,25 +39,24 @@ public:
     int markerBorderWidth() const;
     void setMarkerBorderWidth(int width);
 
-    /// The colour of the pixel under the marker, as RGB. Invalid while there is no plane, and where the
-    /// marker is outside of it.
+    /// The colour under the marker, as RGB. Invalid without a hue, and where the marker is outside the
+    /// plane.
     QColor hsvColor() const;
 
-    /// Shows the plane of @p color's hue, red for a grey, and places the marker on the nearest of its pixels
-    /// to the colour. Emits nothing. An invalid colour is ignored.
+    /// Shows the plane of @p color's hue, red for a grey, and places the marker on the pixel nearest to the
+    /// colour. Emits nothing. An invalid colour is ignored.
     void setHsvColor(const QColor& color);
 
-    /// Shows the plane of the hue @p degrees, which is clamped to 0 to 360. The marker keeps its place and
-    /// its own colour. Emits hsvColorChanged() if the hue differs and the marker lies inside the widget.
+    /// Shows the plane of the hue @p degrees, clamped to 0 to 360. The marker keeps its position and colour.
+    /// Emits hsvColorChanged() if the hue differs and the marker is inside the widget.
     void setHue(int degrees);
 
-    /// Takes the marker off the plane, to where a new widget has it, until a colour is set or the mouse is
-    /// pressed. Emits nothing.
+    /// Removes the marker until a colour is set or the mouse is pressed. Emits nothing.
     void removeMarker();
 
 Q_SIGNALS:
-    /// The colour under the marker, after the user pressed, moved or released it or setHue() changed the
-    /// plane; a press and a release are always reported. Invalid as hsvColor() is.
+    /// The colour under the marker, after the user pressed, moved or released it, or setHue() changed the
+    /// plane. Emitted for every press and release. Invalid where hsvColor() is.
     void hsvColorChanged(QColor hsvColor);
 
 protected:

@@ -29,7 +29,7 @@ public:
     OvFrame* const huePanel;
     QLabel* const hueLabel;
     Orvane::Tessel::TesselElegantSlider* const hueSlider;
-    // What is shown, or was reported last.
+    // The colour shown, or reported last.
     QColor color;
 };
 
@@ -61,7 +61,7 @@ void CustomColorSelectWidget::Private::setTexts() const
 void CustomColorSelectWidget::Private::synchronize()
 {
     const QPointer<CustomColorSelectWidget> self = q;
-    // May be reported, and so change the colour, or make somebody delete all this.
+    // May emit: a slot may change the colour or delete the selector.
     hueSlider->setValue(qMax(0, color.hue()));
     if (!self) {
         return;

@@ -1,4 +1,4 @@
-// Internal: what ColorPickerWidget shows to choose any colour.
+// Internal: the selector of ColorPickerWidget.
 
 #pragma once
 
@@ -11,12 +11,12 @@
 /**
  * A ColorPlaneWidget above a labelled slider for its hue: a selector of any opaque colour.
  *
- * Its parts have the object names "colorPlane", "huePanel", "hueLabel" and "hueSlider". A colour that is
- * set appears on the next turn of the event loop, once for each setColor().
+ * The object names are "colorPlane", "huePanel", "hueLabel" and "hueSlider". setColor() takes effect on the
+ * next turn of the event loop.
  *
- * The slider's hues are whole degrees from 0 to 359. Where a colour that is set has another hue than the
- * slider and the marker is inside the plane, the slider's step is reported like the user's, and the plane
- * then shows that reported colour.
+ * The slider's hues are integers from 0 to 359. If a colour that is set has another hue than the slider and
+ * the marker is inside the plane, the change of the slider is reported as the user's, and the plane then
+ * shows the reported colour.
  */
 class CustomColorSelectWidget : public OvFrame
 {
@@ -27,15 +27,14 @@ public:
     explicit CustomColorSelectWidget(QWidget* parent = nullptr);
     ~CustomColorSelectWidget() override;
 
-    /// Shows @p color, without its alpha; an invalid one counts as black.
+    /// Shows @p color, opaque; an invalid colour counts as black.
     void setColor(const QColor& color);
 
-    /// As setColor(), but nothing is reported on the way and @p color is what appears: the selector begins
-    /// anew.
+    /// As setColor(), but reports nothing, and shows @p color itself.
     void startFrom(const QColor& color);
 
 Q_SIGNALS:
-    /// The plane reported @p color, always as RGB; invalid if the marker was outside of the plane.
+    /// The plane reported @p color, as RGB; invalid if the marker was outside the plane.
     void colorChanged(QColor color);
 
 protected:

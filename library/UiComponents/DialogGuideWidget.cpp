@@ -23,7 +23,7 @@
 
 namespace {
 
-/// Takes no more than a quarter of the screen's width, and shows what it has room for of a longer text.
+/// At most a quarter of the screen wide; elides a longer text.
 class ElidingButton : public QPushButton
 {
 public:
@@ -111,11 +111,11 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     , headerHeight(headerLabel)
     , descriptionHeight(descriptionLabel)
 {
-    // Legible without a sheet; a sheet's qproperty-icon wins.
+    // For use without a sheet; a sheet's qproperty-icon wins.
     closeButton->setIcon(q->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
     (new OvVBoxLayout(descriptionFrame))->autoFill();
-    // In its corner also beside a heading of several lines, and beside none.
+    // In the corner, also beside a heading of several lines or none.
     (new OvHBoxLayout(headerFrame))->autoFill()->setAlignment(closeButton, Qt::AlignRight | Qt::AlignTop);
     (new OvVBoxLayout(contentFrame))->autoFill()->addStretch(0);
     (new OvHBoxLayout(buttonsFrame))
@@ -146,7 +146,7 @@ void DialogGuideWidget::Private::retranslate()
     closeButton->setAccessibleName(tr("Close"));
 }
 
-/// Brings all layouts up to date now: by itself a change goes up one frame with each event that is posted.
+/// Activates all layouts at once; a change would go up one frame for each posted layout request.
 void DialogGuideWidget::Private::layOut()
 {
     for (OvFrame* frame : {headerFrame, descriptionFrame, buttonsFrame, contentFrame}) {
@@ -254,7 +254,7 @@ void DialogGuideWidget::paintEvent(QPaintEvent* event)
 
 void DialogGuideWidget::showEvent(QShowEvent* event)
 {
-    // The frames of a hidden bubble have no width that texts could have been measured for.
+    // While the bubble was hidden, its frames had no width to measure texts for.
     d->layOut();
     updateContent();
     PointingWidget::showEvent(event);

@@ -34,8 +34,7 @@ DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initiali
     d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     d->spinBox->setDecimals(init.decimals);
 
-    // Behind the binding, whose slots are then called first: when the host hears of a change, both parts
-    // show it.
+    // After the binding, whose slots are called first: when the host is notified, both parts show the value.
     connect(d->slider, &OvDoubleSlider::doubleValueChanged, this, &DoubleSliderInputWidget::valueChanged);
     connect(d->spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
             &DoubleSliderInputWidget::valueChanged);
@@ -43,8 +42,8 @@ DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initiali
 
 DoubleSliderInputWidget::~DoubleSliderInputWidget()
 {
-    // A window is hidden only in ~QWidget(): a spin box in it loses its focus then, commits what was typed
-    // and reports it. Nobody is to hear of it from half a field.
+    // ~QWidget() hides a window: its spin box loses the focus, commits the typed text and emits, when the
+    // field is only a QWidget.
     d->slider->disconnect(this);
     d->spinBox->disconnect(this);
 }
@@ -52,12 +51,12 @@ DoubleSliderInputWidget::~DoubleSliderInputWidget()
 void DoubleSliderInputWidget::setValue(double value)
 {
     if (std::isnan(value)) {
-        return; // a spin box would take its maximum for it
+        return; // a spin box would take its maximum
     }
     const QPointer<DoubleSliderInputWidget> self = this;
     d->spinBox->setValue(value);
     if (self) {
-        // Not the argument, which may have more decimals, and a slot may have set another value since.
+        // Not the argument, which may have more decimals; and a slot may have set another value.
         d->slider->setDoubleValue(d->spinBox->value());
     }
 }

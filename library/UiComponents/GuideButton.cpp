@@ -17,7 +17,7 @@ GuideButton::GuideButton(QWidget* parent)
 
 GuideButton::~GuideButton()
 {
-    // Its show(), below on the stack, deletes it.
+    // showHelp(), below on the stack, deletes it.
     if (m_appearing) {
         m_appearing->hide();
         m_appearing->setParent(nullptr);
@@ -44,7 +44,7 @@ void GuideButton::hideEvent(QHideEvent* event)
 
 void GuideButton::showHelp()
 {
-    // Kept: deleting the old pop-up moves the focus, and those who watch that may take the info away.
+    // Shared: deleting the old pop-up moves the focus, and a slot may remove the info.
     const std::shared_ptr<const GuideInfo> info = m_guideInfo;
     if (!info) {
         return;
@@ -66,7 +66,8 @@ void GuideButton::showHelp()
     m_pointingWidget->setWindowTitle(info->title);
     m_pointingWidget->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Center);
 
-    // Made with its name and in its place: polishing it again after either would cost as much as the rest.
+    // Constructed with its name and parent: setting either later would polish it again, at the cost of all
+    // the rest.
     OvFrame* const frame = m_pointingWidget->contentFrame();
     m_guideWidget = new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
     connect(m_guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);

@@ -2,7 +2,7 @@
 
 GuideInfo::GuideInfo() = default;
 
-// Strings are handed over as everywhere in Qt's interfaces.
+// Strings by const reference, as in Qt's interfaces.
 // NOLINTBEGIN(modernize-pass-by-value)
 GuideInfo::GuideInfo(const QString& theTitle, const QString& theDescription, const QString& theLearnMore,
                      const QString& theMoviePath)

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The size of a picture in a text, of which the text may give either side.
+/// The size of a picture in a text, which may give width, height or neither.
 QSizeF sizeOf(const QTextImageFormat& format, QTextDocument* document)
 {
     const QVariant picture = document->resource(QTextDocument::ImageResource, format.name());
@@ -30,7 +30,7 @@ QSizeF sizeOf(const QTextImageFormat& format, QTextDocument* document)
 
 void shrinkPictures(QTextDocument* document, int most)
 {
-    QVector<std::pair<int, QTextImageFormat>> shrunk; // by position; changing one changes the blocks
+    QVector<std::pair<int, QTextImageFormat>> shrunk; // by position, since a change invalidates the iterators
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             QTextImageFormat format = it.fragment().charFormat().toImageFormat();
@@ -107,15 +107,14 @@ void GuideLabel::paintEvent(QPaintEvent* event)
     style()->drawItemText(&painter, textRect(), int(flags), palette(), isEnabled(), text(), foregroundRole());
 }
 
-/// Makes QLabel's document, which rich text has, break words too: QLabel sets it up whenever the text is laid
-/// out anew.
+/// Makes the document that QLabel has for rich text break words too. QLabel resets it at each layout.
 bool GuideLabel::breaksWords() const
 {
     if (QLabel::minimumSizeHint().width() <= maxWidth(this)) {
         return false;
     }
     if (QTextDocument* const rich = document()) {
-        // Asking for a height has QLabel lay the text out, and paint it then.
+        // heightForWidth() makes QLabel lay out the text, and repaint.
         if (!testAttribute(Qt::WA_WState_InPaintEvent)) {
             QLabel::heightForWidth(width());
         }

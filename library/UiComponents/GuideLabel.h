@@ -7,10 +7,10 @@
 class QTextDocument;
 
 /**
- * A label that wraps its text between words. Where a word, or a picture in the text, would make it wider than
- * half of its screen, it breaks words anywhere and makes pictures smaller.
+ * A label that wraps its text between words. Where a word or a picture would make it wider than half of its
+ * screen, it breaks words anywhere and shrinks pictures.
  */
-// For everybody else it is a QLabel.
+// Without Q_OBJECT, since style sheets know it as a QLabel.
 class GuideLabel : public QLabel // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -20,7 +20,7 @@ public:
     QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;
 
-    /// Half of the width of the screen that @p widget is on.
+    /// Half of the width of @p widget's screen.
     static int maxWidth(const QWidget* widget);
 
 protected:

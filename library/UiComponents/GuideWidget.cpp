@@ -24,7 +24,7 @@ namespace {
 const Qt::TextInteractionFlags linkByMouse = Qt::LinksAccessibleByMouse;
 const Qt::TextInteractionFlags linkByMouseAndKeyboard = linkByMouse | Qt::LinksAccessibleByKeyboard;
 
-/// Tab stops at the link at once. QLabel's own first stop is the text, where Enter does nothing.
+/// Tab goes to the link. In a QLabel it stops at the text first, where Enter does nothing.
 class LinkLabel : public GuideLabel
 {
 public:
@@ -41,7 +41,7 @@ protected:
 
     bool focusNextPrevChild(bool next) override
     {
-        // Backwards QLabel finds the first link again and again, and the focus never leaves it.
+        // Backwards, QLabel would find the first link again, and the focus would never leave it.
         // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         return next ? GuideLabel::focusNextPrevChild(next) : QFrame::focusNextPrevChild(next);
     }
@@ -55,7 +55,7 @@ QLabel* makeLabel(const QString& name, QWidget* parent)
     return label;
 }
 
-/// Whether Tab has something to stop at.
+/// Whether the text has a link for Tab to stop at.
 bool hasLink(const QString& text)
 {
     static const QRegularExpression anchor(QStringLiteral("<a\\s[^>]*href\\s*="),
@@ -120,7 +120,7 @@ void GuideWidget::Private::update()
 
 void GuideWidget::Private::followLink(const QString& link)
 {
-    // An application's own handler of URLs may do anything.
+    // An application's URL handler may delete the guide.
     const QPointer<GuideWidget> self = q;
     QDesktopServices::openUrl(QUrl(link));
     if (self) {
@@ -162,7 +162,7 @@ void GuideWidget::showEvent(QShowEvent* event)
     if (movie && movie->state() == QMovie::Running) {
         movie->stop();
     }
-    // Those who watch the movie may have done away with it.
+    // A slot of the movie may have deleted it.
     if (movie) {
         movie->start();
     }

@@ -59,8 +59,8 @@ constexpr Sector sectors[] = {
     {Blue, Red, Green}, {Blue, Green, Red}, {Red, Green, Blue},
 };
 
-// A picture of this size has left the caches before anybody reads it. It is written past them, which spares
-// reading what it replaces, and lies in large pages of memory.
+// An image of this size does not fit into the caches. It is written past them, which spares reading what it
+// replaces, and allocated in huge pages.
 constexpr qint64 streamedPixels = 2 << 20;
 
 qint64 pixelsOf(const QSize& size)
@@ -99,8 +99,8 @@ double valueAt(int y, int height)
     return 1.0 - static_cast<double>(y) / (height - 1);
 }
 
-// The integer that QColor keeps for a fraction. Qt may have been compiled to fuse the multiplication and the
-// addition of this rounding, or not to: where that decides, it is asked.
+// The integer that QColor stores for a fraction. QColor is asked where the result depends on whether Qt was
+// compiled to fuse the multiplication and the addition of this rounding.
 int sixteenBits(double fraction)
 {
     const double sum = fraction * maxChannel + 0.5;
@@ -196,8 +196,7 @@ struct Vectors256
     using Shorts [[gnu::vector_size(32)]] = std::int16_t;
     using Longs [[gnu::vector_size(32)]] = std::uint64_t;
 
-    // To GCC, streaming has no other name than its instruction's here: an intrinsic wants to be in a function
-    // of its own processor.
+    // The instruction itself, since GCC accepts the intrinsic only in a function for its processor.
     template <bool isStreamed>
     [[gnu::always_inline]] static void store(const Words& pixels, QRgb* at)
     {
@@ -213,7 +212,7 @@ struct Vectors256
     }
 };
 
-// How many pixels lie before the first that can start an aligned vector of @p lanes.
+// The number of pixels before the first aligned vector of @p lanes.
 int pixelsToAlignment(const QRgb* line, int lanes)
 {
     const auto pixel = reinterpret_cast<std::uintptr_t>(line) / sizeof(QRgb);
@@ -274,7 +273,7 @@ template <typename Vectors>
     return any != 0;
 }
 
-// Pixels are corrected before they are written: once past the caches, each would have to be fetched again.
+// Corrects pixels before it writes them, since streamed ones would have to be fetched again.
 template <typename Vectors, int vectors, Position lowAt, Position highAt, bool isStreamed = false>
 [[gnu::always_inline]] inline void renderBlock(const Plane& plane, int x, int y, float row,
                                                std::uint32_t rowBits, QRgb* line)
@@ -396,8 +395,8 @@ QRgb HsvPlane::pixel(double hue, const QSize& size, const QPoint& at)
 #ifdef HSV_PLANE_X86
 namespace {
 
-// Not __builtin_cpu_supports(): it asks the processor everything while the library is loaded, which on a
-// virtual machine takes longer than all the rest of loading.
+// Not __builtin_cpu_supports(), which runs CPUID many times when the library is loaded: on a virtual machine
+// that takes longer than the rest of loading.
 bool hasAvx2()
 {
     constexpr unsigned wideRegisters = 0x06; // the system keeps both halves of them
@@ -438,13 +437,13 @@ QImage HsvPlane::makeImage(const QSize& size)
 {
 #ifdef Q_OS_LINUX
     constexpr std::size_t largePage = 2 << 20;
-    constexpr qint64 maxPixels = INT_MAX / qint64(sizeof(QRgb)); // that QImage takes
+    constexpr qint64 maxPixels = INT_MAX / qint64(sizeof(QRgb)); // of a QImage
     const qint64 pixels = pixelsOf(size);
     if (size.isValid() && pixels >= streamedPixels && pixels <= maxPixels) {
         const std::size_t bytes = std::size_t(pixels) * sizeof(QRgb);
         const std::size_t whole = (bytes + largePage - 1) / largePage * largePage;
         if (void* memory = std::aligned_alloc(largePage, whole)) {
-            // It is as good without, so whether the system follows the advice does not matter.
+            // Only advice: it works without huge pages too.
             madvise(memory, whole, MADV_HUGEPAGE);
             return {
                 static_cast<uchar*>(memory), size.width(), size.height(), size.width() * int(sizeof(QRgb)),
@@ -476,7 +475,7 @@ void HsvPlane::render(QImage& image, double hue, Path path)
     }
 #ifdef HSV_PLANE_X86
     if (plane.isStreamed) {
-        // What was written past the caches is there for other processors from here on.
+        // Makes what was streamed visible to other processors.
         asm volatile("sfence" ::: "memory");
     }
 #endif

@@ -1,4 +1,4 @@
-// Internal: the saturation and value square of one hue, for ColorPlaneWidget.
+// Internal: renders the plane of ColorPlaneWidget.
 
 #pragma once
 
@@ -8,38 +8,37 @@
 #include <QSize>
 
 /**
- * The picture that shows all colours of one hue: saturation grows to the right, value grows upwards.
+ * An image of all colours of one hue: saturation grows to the right, value grows upwards.
  *
- * Its pixel (x, y) in a size of W × H is
+ * At the size W × H its pixel (x, y) is
  *
  *     QColor::fromHsvF(hue, x / (W - 1), 1 - y / (H - 1), 1.0).rgb()
  *
- * bit for bit. A hue is a fraction from 0.0 to 1.0, both of which are red. In a picture one pixel wide or
- * high these fractions are 0 / 0, and its colours are what QColor makes of that.
+ * bit for bit. Hues are from 0.0 to 1.0, both of which are red. In an image one pixel wide or high the
+ * fractions are 0 / 0, and the colours are what QColor makes of that.
  */
 namespace HsvPlane {
 
-/// One pixel, by the formula. @p at lies inside of @p size.
+/// One pixel. @p at is inside @p size.
 QRgb pixel(double hue, const QSize& size, const QPoint& at);
 
-/// The ways to make the whole picture; all give the same one.
+/// The instructions to render with; all give the same image.
 enum class Path {
     Plain, ///< on every processor
     Sse2,  ///< on every x86-64
     Avx2,  ///< with AVX2 and FMA
 };
 
-/// Whether this processor can take @p path, and this program was built with it.
+/// Whether this processor and this build support @p path.
 bool isSupported(Path path);
 
-/// The fastest of the supported ones.
+/// The fastest supported path.
 Path fastestPath();
 
-/// An image without content that render() fills the fastest. Null where there is no memory for it.
+/// An uninitialised image, aligned for render(). Null where there is no memory for it.
 QImage makeImage(const QSize& size);
 
-/// Fills @p image, which is of Format_RGB32 or null, with the picture in the image's size. @p path must be
-/// supported.
+/// Renders into @p image, which has Format_RGB32 or is null. @p path must be supported.
 void render(QImage& image, double hue, Path path = fastestPath());
 
 } // namespace HsvPlane

@@ -33,7 +33,7 @@ constexpr char notWritable[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Selecte
 constexpr char required[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Required: %1");
 constexpr char available[] = QT_TRANSLATE_NOOP("PathSelectionWidget", "Available: %1");
 
-/// Tool tips take a text for rich text when it looks like that.
+/// Keeps QToolTip from taking a text for rich text.
 QString literalToolTip(const QString& text)
 {
     if (!Qt::mightBeRichText(text)) {
@@ -69,7 +69,7 @@ QToolButton* makeButton(const char* name, QWidget* parent)
 class PathSelectionWidget::Private
 {
 public:
-    /// A line about the space on a disk. Knows its figure, to write it anew in another language.
+    /// A label with a figure of disk space, which it keeps to translate its text again.
     class SpaceFigure
     {
     public:
@@ -110,14 +110,14 @@ public:
     struct PathError
     {
         QString message;
-        /// The same untranslated, where it is one of ours.
+        /// The source text of our own messages.
         const char* source = nullptr;
     };
 
     explicit Private(PathSelectionWidget* widget);
 
-    /// In the scope of the result it is the widget itself that writes into the line edit, whose listeners
-    /// may delete the widget.
+    /// While the result lives, changes of the line edit are the widget's own. Slots may delete the widget
+    /// meanwhile.
     auto markOwnWriting()
     {
         const QPointer<PathSelectionWidget> self = q;
@@ -178,7 +178,7 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     Util::applyProperty(pathLineEdit, "kitVersion", QStringLiteral("1.0"));
     Util::applyStyleHint(errorLabel, QStringLiteral("error"));
     errorLabel->setTextFormat(Qt::PlainText);
-    // A message quotes paths, whose length must not become the width of the panel.
+    // A message quotes paths, which must not widen the panel.
     errorLabel->setWordWrap(true);
     QSizePolicy policy = errorLabel->sizePolicy();
     policy.setHorizontalPolicy(QSizePolicy::Ignored);
@@ -196,7 +196,7 @@ bool PathSelectionWidget::Private::isDefaultPathShownByText(const QString& newPa
     return !defaultPath.isEmpty() && !defaultDisplayText.isEmpty() && newPath == defaultPath;
 }
 
-/// Returns whether the widget is still there.
+/// Returns false if a slot has deleted the widget.
 bool PathSelectionWidget::Private::writeText(const QString& text)
 {
     const QPointer<PathSelectionWidget> self = q;
@@ -263,7 +263,7 @@ void PathSelectionWidget::Private::showError(const PathError& error)
 
 void PathSelectionWidget::Private::dropToolTip() const
 {
-    // Qt leaves a tip that is open where it is.
+    // A tool tip that is shown stays when the widget's text changes.
     if (QToolTip::isVisible() && QToolTip::text() == pathLineEdit->toolTip()) {
         QToolTip::hideText();
     }
@@ -277,7 +277,7 @@ void PathSelectionWidget::Private::retranslate()
     if (!shownError.source) {
         return;
     }
-    // Where it is shown still.
+    // Replaces the message where it is still shown.
     const QString before = shownError.message;
     shownError.message = tr(shownError.source);
     if (pathLineEdit->toolTip() == literalToolTip(before)) {
@@ -317,7 +317,7 @@ PathSelectionWidget::PathSelectionWidget(QWidget* parent)
 
 PathSelectionWidget::~PathSelectionWidget()
 {
-    // A field that is a window itself takes the keyboard from its line edit further down in destruction.
+    // ~QWidget() takes the focus from the line edit, if the field is a window.
     d->pathLineEdit->disconnect(this);
 }
 
@@ -333,13 +333,13 @@ QString PathSelectionWidget::defaultPath() const
 
 void PathSelectionWidget::setPath(const QString& path)
 {
-    // Which may be a reference to the one that is replaced.
+    // @p path may be a reference to d->path.
     const QString newPath = path; // NOLINT(performance-unnecessary-copy-initialization)
     const QPointer<PathSelectionWidget> self = this;
     const auto writing = d->markOwnWriting();
     bool isResettable = true;
     if (d->isDefaultPathShownByText(newPath)) {
-        // The user may be typing on to another path.
+        // The user may go on typing another path.
         const bool isBeingTyped = d->pathLineEdit->hasFocus() && d->pathLineEdit->text() == newPath;
         if (!isBeingTyped && !d->writeText(d->defaultDisplayText)) {
             return;
@@ -352,7 +352,7 @@ void PathSelectionWidget::setPath(const QString& path)
         }
         d->scheduler.schedule();
     }
-    // A button that is disabled passes the keyboard on.
+    // May move the focus, and slots may delete the widget.
     d->pathResetButton->setEnabled(isResettable);
     if (self) {
         d->path = newPath;
@@ -435,7 +435,7 @@ void PathSelectionWidget::changeEvent(QEvent* event)
 void PathSelectionWidget::requestPathChanged()
 {
     const QPointer<PathSelectionWidget> self = this;
-    // A copy: all slots get the same path, also when one of them sets another.
+    // A copy, so that all slots get the same path if one of them sets another.
     const QString path = d->path;
     Q_EMIT pathChanged(path);
     if (self) {

@@ -108,7 +108,7 @@ void PlaneDrag::paintFocus(QPainter& painter) const
     if (!m_plane->hasFocus() || !m_plane->window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         return;
     }
-    // A style may fill what it frames, and would tint the plane.
+    // Clipped, since some styles fill the focus rectangle, which would tint the plane.
     const QRect inside = m_plane->rect().adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
     painter.setClipRegion(QRegion(m_plane->rect()) - inside);
     painter.setRenderHint(QPainter::Antialiasing, false);

@@ -1,4 +1,4 @@
-// Internal: how the user moves the marker of ColorPlaneWidget and PointSelectionPlane.
+// Internal: mouse and keys of ColorPlaneWidget and PointSelectionPlane.
 
 #pragma once
 
@@ -10,11 +10,12 @@ class QPainter;
 class QWidget;
 
 /**
- * The mouse and the keys of a plane, whose private object derives from this.
+ * Moves the marker of a plane, whose private object derives from this.
  *
- * A press of the left button places the marker and grabs the mouse; a drag pins the marker to the nearest
- * edge. The arrow keys move it by a pixel, by ten with Shift. The handlers return false for an event that is
- * the base class's. After true the plane may be gone: each ends with a report, unless nothing has moved.
+ * A press of the left button places the marker and grabs the mouse; a drag outside the plane pins it to the
+ * nearest edge. The arrow keys move it by a pixel, by ten with Shift. Handlers return false for events that
+ * belong to the base class, and otherwise end with a report, in which the plane may be deleted. A move or a
+ * key that leaves the marker in its place is not reported.
  */
 class PlaneDrag
 {
@@ -26,22 +27,21 @@ public:
 
     bool press(const QMouseEvent& event);
     bool move(const QMouseEvent& event);
-    /// Always ends with a report.
     bool release(const QMouseEvent& event);
     bool pressKey(const QKeyEvent& event);
 
-    /// Gives the mouse back, without a report. Qt leaves the grab with a hidden or disabled widget, where it
-    /// swallows every click of the application.
+    /// Releases the mouse without a report. A hidden or disabled widget would keep the grab, and with it
+    /// every click in the application.
     void stop() const;
 
-    /// Draws the style's focus frame for users who come by keyboard.
+    /// Draws the style's focus rectangle, if the plane got the focus by keyboard.
     void paintFocus(QPainter& painter) const;
 
 protected:
-    /// Where the marker is, in pixels.
+    /// The position of the marker.
     virtual QPointF pixel() const = 0;
     virtual void placeMarker(const QPointF& pixel) = 0;
-    /// As placeMarker(), for a step by key: along one axis.
+    /// As placeMarker(), for a step along one axis.
     virtual void stepMarker(const QPointF& pixel);
     virtual void report() = 0;
 

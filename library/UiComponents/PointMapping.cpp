@@ -20,7 +20,7 @@ double coordinateOf(double pixel, int pixels, double scale, double first, double
 
 PointMapping::Scale PointMapping::scaleOf(const QRectF& limits, const QSize& size)
 {
-    // A division by zero is meant: there is no scale then.
+    // Division by zero is intended: one pixel has no scale.
     return {limits.width() / (size.width() - 1.0), limits.height() / (size.height() - 1.0)};
 }
 
@@ -49,7 +49,7 @@ QPointF PointMapping::stepped(const QPointF& pixel, const QPoint& step, const QR
 
 bool PointMapping::isInside(const QPointF& pixel, const QRect& rect)
 {
-    // Rounding to a QPoint is undefined beyond its range, where no widget reaches.
+    // QPointF::toPoint() is undefined beyond the range of int.
     constexpr double farOut = 1e9;
     return std::abs(pixel.x()) < farOut && std::abs(pixel.y()) < farOut && rect.contains(pixel.toPoint());
 }

@@ -7,37 +7,36 @@
 #include <QSize>
 
 /**
- * Between the pixels of a widget and the points of the rectangle that it stands for.
+ * Maps pixels of a widget to points in the rectangle that it stands for, and back.
  */
 namespace PointMapping {
 
-/// Units per pixel, both ways.
+/// Units per pixel.
 struct Scale
 {
     double x = 1.0;
     double y = 1.0;
 };
 
-/// The scale at which the first pixel of a widget of @p size stands for the left and top limit and the last
-/// one for the right and bottom limit. A widget of one pixel has no scale: infinite, or NaN where the limits
-/// are as narrow. Limits that are turned upside down have negative ones.
+/// The scale at which the first pixel of @p size is the left and top limit, and the last one the right and
+/// bottom limit. For one pixel it is infinite, or NaN for limits without extent; for inverted limits
+/// negative.
 Scale scaleOf(const QRectF& limits, const QSize& size);
 
-/// The point under @p pixel of a widget of @p size. Its last pixels are exactly the right and bottom limits,
-/// whatever multiplying by the scale would make of them.
+/// The point at @p pixel of @p size. The last pixel is exactly the right or bottom limit, without rounding
+/// errors.
 QPointF toPoint(const QPointF& pixel, const QRectF& limits, const Scale& scale, const QSize& size);
 
-/// Where @p point is in pixels, neither rounded nor clamped; 0, infinite or NaN where the scale does not
-/// tell.
+/// The position of @p point in pixels, neither rounded nor clamped; 0, infinite or NaN without a scale.
 QPointF toPixel(const QPointF& point, const QRectF& limits, const Scale& scale);
 
-/// The pixel of @p rect that is nearest to @p pixel; the top left one of an empty rectangle.
+/// The pixel in @p rect nearest to @p pixel; the top left one of an empty rectangle.
 QPoint pinned(const QPoint& pixel, const QRect& rect);
 
-/// A step from @p pixel to the nearest place in @p rect. What is NaN begins at the left or top edge.
+/// @p pixel moved by @p step, and clamped to @p rect. NaN becomes the left or top edge.
 QPointF stepped(const QPointF& pixel, const QPoint& step, const QRect& rect);
 
-/// True if @p pixel, rounded, lies in @p rect, edges included. An infinite one and NaN do not.
+/// True if @p pixel, rounded, is in @p rect; false for an infinite one and NaN.
 bool isInside(const QPointF& pixel, const QRect& rect);
 
 } // namespace PointMapping

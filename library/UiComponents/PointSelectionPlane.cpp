@@ -40,7 +40,7 @@ public:
     PointMapping::Scale scale;
     QPixmap background;
     PointSelectionPlanePropertyHelper* const style;
-    // Until there is one, the marker stays outside, also of limits that contain the initial point.
+    // Without one there is no marker, even if the limits contain the initial point.
     bool hasPoint = false;
 };
 
@@ -70,7 +70,7 @@ void PointSelectionPlane::Private::stepMarker(const QPointF& pixel)
     const bool keepsX = hasPoint && pixel.x() == pixelPosition.x();
     const bool keepsY = hasPoint && pixel.y() == pixelPosition.y();
     placeMarker(pixel);
-    // The coordinate across the step is not to suffer from being worked out anew.
+    // The other coordinate keeps its exact value.
     if (keepsX) {
         point.setX(before.x());
     }
@@ -98,7 +98,7 @@ void PointSelectionPlane::Private::paintMarker(QPainter& painter) const
 {
     const double radius = style->markerRadius();
     if (!std::isfinite(radius)) {
-        return; // QPainter would complain
+        return; // QPainter would warn
     }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(style->markerColor());
@@ -196,7 +196,7 @@ void PointSelectionPlane::changeEvent(QEvent* event)
         if (!isEnabled()) {
             d->stop();
         }
-        // Qt does not watch for a sheet's properties of the other state.
+        // Qt does not apply qproperty values of other states by itself.
         Util::repolishWidget(d->style);
     }
     OvFrame::changeEvent(event);

@@ -7,25 +7,25 @@
 #include <QColor>
 
 /**
- * Through this hidden child a style sheet gives a PointSelectionPlane its colours and sizes:
+ * The hidden child through which a style sheet sets the colours and sizes of a PointSelectionPlane:
  *
  *     PointSelectionPlanePropertyHelper { qproperty-MarkerRadius: 5; qproperty-MarkerColor: white; }
  *
- * A write repaints nothing and tells nobody. A sheet that is set repaints the plane anyhow, and "FillColor"
- * waits for the plane's next resize.
+ * Setters neither repaint nor notify. Setting a sheet repaints the plane anyway; "FillColor" takes effect on
+ * the plane's next resize.
  */
 class PointSelectionPlanePropertyHelper : public PropertyProviderBase
 {
     Q_OBJECT
-    /// Of the marker's circle, in pixels; 0 at first.
+    /// The radius of the marker, in pixels; 0 by default.
     Q_PROPERTY(double MarkerRadius READ markerRadius WRITE setMarkerRadius)
-    /// Of the marker's inside. An invalid colour, as at first, hides the marker.
+    /// The fill of the marker. Invalid, the default, hides the marker.
     Q_PROPERTY(QColor MarkerColor READ markerColor WRITE setMarkerColor)
-    /// Of the plane; invalid at first, which is painted black.
+    /// The background; invalid by default, which is painted black.
     Q_PROPERTY(QColor FillColor READ fillColor WRITE setFillColor)
-    /// Of the axes and the marker's outline, in pixels; 0 at first, the thinnest line there is.
+    /// The width of axes and marker outline, in pixels; 0 by default, a cosmetic pen.
     Q_PROPERTY(int CoordLinesWidth READ coordLinesWidth WRITE setCoordLinesWidth)
-    /// Of the axes and the marker's outline; invalid at first, which is painted black.
+    /// The colour of axes and marker outline; invalid by default, which is painted black.
     Q_PROPERTY(QColor CoordLinesColor READ coordLinesColor WRITE setCoordLinesColor)
 
 public:

@@ -24,7 +24,7 @@ void configure(OvDoubleSpinBox* spinBox, double minimum, double maximum, int dec
     spinBox->setButtonSymbols(QAbstractSpinBox::UpDownArrows);
     spinBox->setSingleStep(StepRange::stepOf(decimals));
     spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-    // A spin box would have a bound of NaN as its only value.
+    // With a bound of NaN a spin box would have no other value.
     spinBox->setMinimum(std::isnan(minimum) ? -infinite : minimum);
     spinBox->setMaximum(std::isnan(maximum) ? infinite : maximum);
     spinBox->setDecimals(decimals);
@@ -32,7 +32,7 @@ void configure(OvDoubleSpinBox* spinBox, double minimum, double maximum, int dec
 
 void setNumber(OvDoubleSpinBox* spinBox, double number)
 {
-    if (!std::isnan(number)) { // for which a spin box would take its maximum
+    if (!std::isnan(number)) { // a spin box would take its maximum
         spinBox->setValue(number);
     }
 }
@@ -59,7 +59,7 @@ public:
     OvFrame* const ySpinboxFrame;
     QLabel* const yLabel;
     OvDoubleSpinBox* const ySpinbox;
-    // A value that a slot has set while the spin boxes were following the plane.
+    // A slot has set a value while the spin boxes followed the plane.
     bool isOverruled = false;
 };
 
@@ -91,7 +91,7 @@ PointSelectorWidget::Private::Private(PointSelectorWidget* field)
     (new OvHBoxLayout(xSpinboxFrame))->autoFill();
     (new OvHBoxLayout(ySpinboxFrame))->autoFill();
 
-    // A label asks its buddy's own policy whether there is anything to focus.
+    // QLabel checks the focus policy of its buddy, not of the focus proxy.
     q->setFocusPolicy(pointSelector->focusPolicy());
     q->setFocusProxy(pointSelector);
 }
@@ -110,7 +110,7 @@ void PointSelectorWidget::Private::followSpinBox(const QPointF& reported)
         return;
     }
     q->updating = true;
-    // Not what was reported: a slot may have set another value since.
+    // Not the reported value: a slot may have set another one.
     pointSelector->setPoint(spinBoxValue());
     q->updating = false;
 }
@@ -125,7 +125,7 @@ void PointSelectorWidget::Private::followPlane(const QPointF& reported)
     }
     q->updating = true;
     isOverruled = false;
-    // What was reported, unless a slot has set another value since. QPointF's own comparison is too coarse.
+    // The reported value, unless a slot has set another one. QPointF's operator== is too coarse.
     const QPointF now = pointSelector->point();
     const bool isSame = now.x() == before.x() && now.y() == before.y();
     const QPointF point = isSame ? reported : now;
@@ -162,8 +162,8 @@ PointSelectorWidget::PointSelectorWidget(QWidget* parent, const Initializer& ini
 
 PointSelectorWidget::~PointSelectorWidget()
 {
-    // A window is hidden only in ~QWidget(): a spin box in it loses its focus then, commits what was typed
-    // and reports it, when there is no private object any more.
+    // ~QWidget() hides a window: its spin box loses the focus, commits the typed text and emits, when the
+    // private object is gone.
     d->xSpinbox->disconnect(this);
     d->ySpinbox->disconnect(this);
     d->pointSelector->disconnect(this);

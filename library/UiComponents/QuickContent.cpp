@@ -21,7 +21,7 @@ bool isLocal(const QUrl& url)
     return url.isLocalFile() || url.scheme() == QLatin1String("qrc");
 }
 
-// Keeps code of other machines out of the scene. Called from the engine's loading thread too.
+// Refuses code from other machines. Called in the engine's loading thread too.
 class LocalCodeOnly : public QQmlAbstractUrlInterceptor
 {
 public:
@@ -37,16 +37,16 @@ public:
 
 QSize containerSize(const QSizeF& size)
 {
-    // As a minimum, the largest size of all means none.
+    // To Qt, QWIDGETSIZE_MAX means no minimum.
     const QSizeF maxSize(QWIDGETSIZE_MAX - 1, QWIDGETSIZE_MAX - 1);
     return size.boundedTo(maxSize).toSize();
 }
 
-// The view refuses a window as its root, but leaves it on the screen.
+// The view refuses a window as root item, but does not delete it.
 void deleteStrayWindows(const QQuickWidget* view)
 {
     const QWindowList found = QGuiApplication::topLevelWindows();
-    // One of them may own others, which die with it.
+    // Guarded, since one of them may own others.
     QVector<QPointer<QWindow>> windows;
     windows.reserve(found.size());
     for (QWindow* window : found) {
@@ -74,7 +74,7 @@ public:
     void fitContainer(const QSizeF& size) const;
 
     const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalCodeOnly>();
-    // Owned, but a window that has them as its children may delete them.
+    // Owned, but a parent may delete them first.
     const QPointer<QWidget> container = new QWidget;
     const QPointer<QQuickWidget> view = new QQuickWidget;
     int state = Undefined;
@@ -90,12 +90,12 @@ Qml::QuickContent::Private::Private()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view);
     container->setLayout(layout);
-    // A sheet for all widgets must not colour what shows through the scene.
+    // A style sheet for all widgets must not fill the background of the scene.
     container->setAttribute(Qt::WA_NoSystemBackground);
 }
 
-// The engine, which the view owns, uses the interceptor to the end, and the view must be gone when the
-// container would delete it as its child.
+// The view before the container, which would delete it too, and before the interceptor, which its engine
+// uses.
 Qml::QuickContent::Private::~Private()
 {
     delete view;
@@ -169,8 +169,7 @@ bool Qml::QuickContent::loadQml(const QString& path)
     }
     if (d->view) {
         if (!isUndefined()) {
-            // The engine would take the file as it was when it was first loaded. The old scene has to be
-            // gone when the engine forgets it.
+            // The engine caches the file. The old scene must be gone before the cache can be cleared.
             d->view->setSource(QUrl());
             d->view->engine()->clearComponentCache();
         }

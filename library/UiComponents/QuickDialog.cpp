@@ -22,12 +22,11 @@
 
 namespace {
 
-// How long a scene may take to give itself a size, by bindings that the event loop has to carry out.
+// The time for bindings of the scene to give it a size.
 constexpr int sizeGraceMs = 200;
 
-// Some window managers put the window where it is to be and leave Qt believing, now and then, that it is in
-// the corner of the screen. The scene would then drag it from there, and everything that maps to global
-// coordinates would be off. Asking once more, when it becomes active, sets that right.
+// With some window managers Qt now and then takes the window to be at (0, 0) though it is in its place, and
+// maps global coordinates wrongly. Moving it once more, when it becomes active, corrects that.
 class PlaceKeeper : public QObject
 {
 public:
@@ -41,7 +40,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Move) {
-            // Not what the scene or the host does.
+            // Moves by the scene or the host are not spontaneous.
             m_isMovedByOthers = event->spontaneous();
         } else if (event->type() == QEvent::WindowActivate) {
             m_window->removeEventFilter(this);
@@ -58,8 +57,8 @@ private:
     bool m_isMovedByOthers = false;
 };
 
-// Waits for a container without a size to get one. The scene may end the dialog meanwhile, and everything
-// may die.
+// Waits until an empty container gets a size. Meanwhile the scene may end the dialog, and slots may delete
+// anything.
 void awaitSize(const QPointer<QWidget>& container, const QDialog* dialog)
 {
     const auto* const view = container->findChild<QQuickWidget*>();
@@ -78,7 +77,7 @@ void awaitSize(const QPointer<QWidget>& container, const QDialog* dialog)
     QObject::connect(root, &QObject::destroyed, &loop, &QEventLoop::quit);
     QObject::connect(dialog, &QDialog::finished, &loop, &QEventLoop::quit);
     QTimer::singleShot(sizeGraceMs, &loop, &QEventLoop::quit);
-    // The user goes on when the dialog is there.
+    // User input waits for the dialog.
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -131,12 +130,12 @@ void Qml::QuickDialog::Private::makeWindow() const
 
 QBoxLayout* Qml::QuickDialog::Private::makeLayout() const
 {
-    // A widget takes no second layout.
+    // A widget cannot have two layouts.
     delete q->layout();
     auto* layout = new QHBoxLayout(q);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    // Without it the window would grow with the scene and never become smaller again.
+    // Or the window would grow with the scene and never shrink.
     layout->setSizeConstraint(QLayout::SetFixedSize);
     return layout;
 }
@@ -211,15 +210,15 @@ int Qml::QuickDialog::exec()
     });
     d->moveToMiddle(container);
     const PlaceKeeper place(this);
-    // The base class does not notice when a dialog is ended before its event loop runs, and would wait for
-    // ever: a scene may end it in a handler of being shown.
+    // The scene may end the dialog while it is being shown, before QDialog's event loop runs, which would
+    // then never return.
     show();
     if (!self || ending) {
         return ending.value_or(Rejected);
     }
     const int result = QDialog::exec();
     if (self) {
-        // Only a quitting application leaves the loop of a dialog that is still shown.
+        // The loop ends with a visible dialog only when the application quits.
         hide();
     }
     return result;

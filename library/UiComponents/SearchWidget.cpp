@@ -17,8 +17,8 @@ using Orvane::Tessel::TesselLineEdit;
 
 namespace {
 
-/// To a regular expression the empty text is one that is not finished yet, and a line edit with such a text
-/// does not report the end of an edit. An emptied search is finished.
+/// Accepts the empty text, which is only Intermediate to a regular expression: a line edit would not emit
+/// editingFinished() for it.
 class NoLeadingBlank : public QRegExpValidator // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -33,8 +33,8 @@ public:
     }
 };
 
-/// A window takes the keyboard from its widgets when it is destroyed, while they are intact but their
-/// listeners may not be. It has left the focus chain by then.
+/// ~QWidget() of a window takes the focus from its widgets, when their listeners may be gone. The window has
+/// left the focus chain by then.
 bool isDestroyed(const QWidget* window)
 {
     return !window->nextInFocusChain();
@@ -67,7 +67,7 @@ public:
     QToolButton* const clearSearchButton;
     bool isClearButtonShown = false;
     QString reportedText;
-    // The placeholder's, as it was chosen the last time.
+    // The last brush of the placeholder.
     std::optional<QBrush> placeholderBrush;
 };
 
@@ -93,7 +93,7 @@ void SearchWidget::Private::showClearButton(bool isVisible)
     if (isVisible == isClearButtonShown) {
         return;
     }
-    // Hidden with the keyboard, it would pass it on to whatever comes next in the window.
+    // Hidden with the focus, it would pass it to the next widget in the window.
     if (!isVisible && clearSearchButton->hasFocus()) {
         searchLineEdit->setFocus(Qt::OtherFocusReason);
     }
@@ -135,7 +135,7 @@ SearchWidget::SearchWidget(QWidget* parent)
 
 SearchWidget::~SearchWidget()
 {
-    // A field that is a window itself takes the keyboard from its line edit further down in destruction.
+    // ~QWidget() takes the focus from the line edit, if the field is a window.
     d->searchLineEdit->disconnect(this);
 }
 
@@ -174,7 +174,7 @@ bool SearchWidget::eventFilter(QObject* watched, QEvent* event)
             updatePalette();
             break;
         case QEvent::PaletteChange:
-            // The sheet has just given the placeholder the colour of the text.
+            // Polishing has given the placeholder the sheet's colour of the text.
             d->applyPlaceholderBrush();
             break;
         default:

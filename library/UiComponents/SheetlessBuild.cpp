@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Runs a function when it is asked for the first hint that is no hint of Qt's.
+/// Calls a function when it is asked for the hint SH_CustomBase.
 class CallingStyle : public QCommonStyle // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -30,9 +30,9 @@ private:
 
 } // namespace
 
-// Where there are sheets, Qt puts a style of its own before that of each widget. While one of these is at
-// work, here for a widget that nobody sees, the others hand all questions to the style below. Without sheets
-// nothing stands between the widget and its style.
+// With style sheets, Qt wraps the style of each widget in a QStyleSheetStyle. While one of these calls its
+// base style, here for a hidden widget, Qt's guard against recursion makes all others pass questions on to
+// theirs.
 void SheetlessBuild::run(const std::function<void()>& build)
 {
     CallingStyle style(build);

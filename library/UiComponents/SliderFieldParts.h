@@ -1,4 +1,4 @@
-// Internal: what SliderInputWidget and DoubleSliderInputWidget are made of.
+// Internal: the parts of SliderInputWidget and DoubleSliderInputWidget.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 #include <QSlider>
 
 /**
- * A slider and a spin box side by side in their owner, with the object names and looks of both fields.
+ * A slider and a spin box side by side in a field, with their object names.
  */
 template <typename Slider, typename SpinBox>
 class SliderFieldParts
@@ -23,7 +23,7 @@ public:
 
         (new OvHBoxLayout(field))->autoFill();
 
-        // A label asks its buddy's own policy whether there is anything to focus.
+        // QLabel checks the focus policy of its buddy, not of the focus proxy.
         field->setFocusPolicy(slider->focusPolicy());
         field->setFocusProxy(slider);
     }

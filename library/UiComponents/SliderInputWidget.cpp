@@ -25,16 +25,15 @@ SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
     d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
 
-    // Behind the binding, whose slots are then called first: when the host hears of a change, both parts
-    // show it.
+    // After the binding, whose slots are called first: when the host is notified, both parts show the value.
     connect(d->slider, &QAbstractSlider::valueChanged, this, &SliderInputWidget::valueChanged);
     connect(d->spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &SliderInputWidget::valueChanged);
 }
 
 SliderInputWidget::~SliderInputWidget()
 {
-    // A window is hidden only in ~QWidget(): a spin box in it loses its focus then, commits what was typed
-    // and reports it. Nobody is to hear of it from half a field.
+    // ~QWidget() hides a window: its spin box loses the focus, commits the typed text and emits, when the
+    // field is only a QWidget.
     d->slider->disconnect(this);
     d->spinBox->disconnect(this);
 }
@@ -44,7 +43,7 @@ void SliderInputWidget::setValue(int value)
     const QPointer<SliderInputWidget> self = this;
     d->spinBox->setValue(value);
     if (self) {
-        // Not the argument: a slot may have set another value since.
+        // Not the argument: a slot may have set another value.
         d->slider->setValue(d->spinBox->value());
     }
 }

@@ -15,7 +15,7 @@ int StepRange::nearestStep(double value, int decimals)
     if (std::isnan(step)) {
         return 0;
     }
-    // The conversion is undefined for what an int cannot hold.
+    // Converting a double beyond the range of int is undefined.
     if (step >= Steps::max()) {
         return Steps::max();
     }

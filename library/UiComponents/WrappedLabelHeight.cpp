@@ -12,7 +12,7 @@ void WrappedLabelHeight::fit(int width)
     if (m_label->minimumHeight() != m_fitted) {
         m_given = m_label->minimumHeight();
     }
-    // A label never asks for less than its minimum: the old one would outlive a longer text.
+    // A label's height includes its minimum, so that of an earlier, longer text would stay.
     m_label->setMinimumHeight(m_given);
     m_fitted = m_label->heightForWidth(width);
     if (m_fitted != -1) {

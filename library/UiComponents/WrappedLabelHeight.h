@@ -1,4 +1,4 @@
-// Internal: how GuideWidget and DialogGuideWidget give wrapped labels room for all their lines.
+// Internal: room for all lines of the wrapped labels of GuideWidget and DialogGuideWidget.
 #pragma once
 
 class QLabel;
@@ -6,8 +6,8 @@ class QLabel;
 /**
  * The minimum height of a label whose text wraps.
  *
- * A layout asks a wrapped label for its height at a width that it finally does not get, as in a bubble that
- * takes the size its content hints at, and cuts lines off. A minimum height for the real width prevents it.
+ * A layout may ask a wrapped label for its height at another width than the final one, as in a bubble of the
+ * size of its content's hint, and cut lines off. A minimum height for the final width prevents that.
  */
 class WrappedLabelHeight
 {
@@ -15,9 +15,8 @@ public:
     /// @p label must outlive this.
     explicit WrappedLabelHeight(QLabel* label);
 
-    /// Makes the height that the label's text needs at @p width its minimum height. A label without a
-    /// text, to which heights do not depend on widths, keeps the one that the style sheet or a host gave
-    /// it, which is the least in any case.
+    /// Sets the label's minimum height to what its text needs at @p width, and at least to that of the style
+    /// sheet or the host. A label without text keeps the latter.
     void fit(int width);
 
 private:
