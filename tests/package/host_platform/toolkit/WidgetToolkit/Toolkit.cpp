@@ -24,6 +24,8 @@ QLayout* OvFrame::getLayout() const
 OvBoxLayout::OvBoxLayout(Direction direction, QWidget* owner)
     : QBoxLayout(direction, owner)
 {
+    setContentsMargins(0, 0, 0, 0);
+    setSpacing(0);
 }
 
 OvBoxLayout::~OvBoxLayout() = default;
