@@ -58,9 +58,9 @@ QString referenceSheet()
 
 QColor paletteColor(int index)
 {
-    const auto row = static_cast<std::size_t>(index / ColorPalette::ColumnCount);
-    const auto column = static_cast<std::size_t>(index % ColorPalette::ColumnCount);
-    return ColorPalette::Rows[row][column];
+    const auto row = static_cast<std::size_t>(index / ColorPalette::columnCount);
+    const auto column = static_cast<std::size_t>(index % ColorPalette::columnCount);
+    return ColorPalette::rows[row][column];
 }
 
 void paint(QWidget* face, const QColor& color)
@@ -81,22 +81,22 @@ Layout* makeLayout(QWidget* owner)
 /// Each button is made, given its sheet and added to the grid.
 void makePlainFaces(QWidget* parent, QGridLayout* grid)
 {
-    for (int i = 0; i < ColorPalette::RowCount * ColorPalette::ColumnCount; ++i) {
+    for (int i = 0; i < ColorPalette::rowCount * ColorPalette::columnCount; ++i) {
         auto* button = new QToolButton(parent);
         button->setCheckable(true);
         paint(button, paletteColor(i));
-        grid->addWidget(button, i / ColorPalette::ColumnCount, i % ColorPalette::ColumnCount);
+        grid->addWidget(button, i / ColorPalette::columnCount, i % ColorPalette::columnCount);
     }
 }
 
 void makeOurFaces(QWidget* parent, QGridLayout* grid)
 {
     SheetlessBuild::run([parent, grid] {
-        for (int i = 0; i < ColorPalette::RowCount * ColorPalette::ColumnCount; ++i) {
+        for (int i = 0; i < ColorPalette::rowCount * ColorPalette::columnCount; ++i) {
             auto* button = new QToolButton(parent);
             button->setCheckable(true);
             ColorFaces::paint(button, paletteColor(i));
-            grid->addWidget(button, i / ColorPalette::ColumnCount, i % ColorPalette::ColumnCount);
+            grid->addWidget(button, i / ColorPalette::columnCount, i % ColorPalette::columnCount);
         }
     });
 }

@@ -9,10 +9,10 @@ QString ColorFaces::styleSheet(const QColor& color)
         .arg(color.isValid() ? color.name() : QStringLiteral("transparent"));
 }
 
-void ColorFaces::paint(QWidget* face, const QColor& color)
+void ColorFaces::paint(QWidget* widget, const QColor& color)
 {
     const QString sheet = styleSheet(color);
-    if (face->styleSheet() != sheet) {
-        face->setStyleSheet(sheet);
+    if (widget->styleSheet() != sheet) {
+        widget->setStyleSheet(sheet);
     }
 }

@@ -1,4 +1,4 @@
-// Internal: the faces of ColorPickerWidget: the colours that it offers, and the current one.
+// Internal: the faces of the buttons of ColorPickerWidget, and its preview.
 
 #pragma once
 
@@ -9,10 +9,10 @@ class QWidget;
 
 namespace ColorFaces {
 
-/// The style sheet of a face: @p color as background, opaque; transparent for an invalid colour.
+/// The style sheet of both: @p color as background, opaque; transparent for an invalid colour.
 QString styleSheet(const QColor& color);
 
 /// Sets that style sheet, where it differs.
-void paint(QWidget* face, const QColor& color);
+void paint(QWidget* widget, const QColor& color);
 
 } // namespace ColorFaces

@@ -12,7 +12,7 @@ constexpr QColor rgb(unsigned value)
 
 } // namespace
 
-constexpr std::array<ColorPalette::Row, ColorPalette::RowCount> ColorPalette::Rows = {{
+constexpr std::array<ColorPalette::Row, ColorPalette::rowCount> ColorPalette::rows = {{
     {rgb(0xffffff), rgb(0xe3e3e3), rgb(0xbfbfbf), rgb(0x9a9a9a), rgb(0x7d7d7d), rgb(0x6a6a6a), rgb(0x444444),
      rgb(0x2d2d2d), rgb(0x000000)},
     {rgb(0xff0000), rgb(0xff5d00), rgb(0xffc000), rgb(0xf3ff00), rgb(0x00ff00), rgb(0x00ceff), rgb(0x0027ff),
@@ -33,7 +33,7 @@ constexpr std::array<ColorPalette::Row, ColorPalette::RowCount> ColorPalette::Ro
 
 bool ColorPalette::contains(const QColor& color)
 {
-    return std::any_of(Rows.cbegin(), Rows.cend(), [&color](const Row& row) {
+    return std::any_of(rows.cbegin(), rows.cend(), [&color](const Row& row) {
         return std::find(row.cbegin(), row.cend(), color) != row.cend();
     });
 }

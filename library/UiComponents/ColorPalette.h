@@ -7,14 +7,14 @@
 
 namespace ColorPalette {
 
-constexpr int RowCount = 8;
-constexpr int ColumnCount = 9;
+constexpr int rowCount = 8;
+constexpr int columnCount = 9;
 
-using Row = std::array<QColor, ColumnCount>;
+using Row = std::array<QColor, columnCount>;
 
 /// Greys, pure hues, then tints and shades of those; all opaque and in the RGB model. Initialised at compile
 /// time, so that static objects of other files can use it.
-extern const std::array<Row, RowCount> Rows;
+extern const std::array<Row, rowCount> rows;
 
 /// Compares as QColor does: with alpha, and with the colour model.
 bool contains(const QColor& color);

@@ -42,7 +42,7 @@ constexpr int queueLength = 8;
 constexpr int opacitySteps = 100;
 
 // Of preview and plane, where no sheet gives them a size, in pixels.
-constexpr int bareFaceSize = 16;
+constexpr int barePreviewSize = 16;
 constexpr QSize barePlaneSize(200, 160);
 
 QColor opaque(const QColor& color)
@@ -156,7 +156,7 @@ public:
     void clearCheckedColorButton() const;
     void updateColorButtonsCheckState();
     void updateColorValueWidgets() const;
-    void updateFace() const;
+    void updatePreview() const;
 
     void onButtonToggled(QAbstractButton* button, bool checked);
     void onOpacityChanged(double opacity);
@@ -290,17 +290,17 @@ void ColorPickerWidget::Private::layOut()
 
 void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
 {
-    for (int row = 0; row < ColorPalette::RowCount; ++row) {
+    for (int row = 0; row < ColorPalette::rowCount; ++row) {
         int column = 0;
         if (nullColorAllowed && row == 0) {
             // Instead of white and the second grey.
             addPaletteButton(row, column++, QColor());
-            addPaletteButton(row, column++, ColorPalette::Rows.front().front());
+            addPaletteButton(row, column++, ColorPalette::rows.front().front());
         }
-        for (; column < ColorPalette::ColumnCount; ++column) {
+        for (; column < ColorPalette::columnCount; ++column) {
             addPaletteButton(
                 row, column,
-                ColorPalette::Rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+                ColorPalette::rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
         }
     }
 }
@@ -338,7 +338,7 @@ void ColorPickerWidget::Private::configureInputs() const
 {
     const QRegExp sixDigits(QStringLiteral("^(#?)[a-fA-F0-9]{6}$"), Qt::CaseSensitive);
     currentColorValueEdit->setValidator(new QRegExpValidator(sixDigits, currentColorValueEdit));
-    currentColorDisplayLabel->setMinimumSize(bareFaceSize, bareFaceSize);
+    currentColorDisplayLabel->setMinimumSize(barePreviewSize, barePreviewSize);
 
     opacitySlider->setOrientation(Qt::Horizontal);
     opacitySlider->setRange(0, opacitySteps);
@@ -523,7 +523,7 @@ void ColorPickerWidget::Private::updateColorButtonsCheckState()
 
 void ColorPickerWidget::Private::updateColorValueWidgets() const
 {
-    updateFace();
+    updatePreview();
     QString text = QStringLiteral("#multiple");
     if (currentColor) {
         text = currentColor->isValid() ? currentColor->name() : QStringLiteral("#null");
@@ -539,7 +539,7 @@ void ColorPickerWidget::Private::updateColorValueWidgets() const
     }
 }
 
-void ColorPickerWidget::Private::updateFace() const
+void ColorPickerWidget::Private::updatePreview() const
 {
     Util::applyProperty(currentColorDisplayLabel, "multiColor", !currentColor.has_value());
     Util::applyProperty(currentColorDisplayLabel, "nullColor",
@@ -593,7 +593,7 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
         }
     } else {
         clearCheckedColorButton();
-        updateFace();
+        updatePreview();
     }
     reportColor();
 }

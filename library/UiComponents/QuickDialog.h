@@ -12,7 +12,7 @@ namespace Qml {
 class QuickContent;
 
 /**
- * A modal dialog whose whole face is a QML scene.
+ * A modal dialog that shows nothing but a QML scene.
  *
  * The dialog has the size of the scene's root item, is centred on its parent, and has neither frame nor
  * background: where the scene is transparent, what is behind shows.

@@ -61,10 +61,10 @@ void drawHandle(QPainter& painter, const QStyleOptionSlider& option, const QRect
     const bool focused = option.state.testFlag(QStyle::State_HasFocus);
     const bool pressed = option.state.testFlag(QStyle::State_Sunken);
     const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-    const QColor face = option.palette.color(QPalette::Light);
+    const QColor fill = option.palette.color(QPalette::Light);
     const qreal pen = focused ? ringWidth : 1.0;
     painter.setPen(QPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Dark), pen));
-    painter.setBrush(pressed ? face.darker(115) : hovered ? face.lighter(110) : face);
+    painter.setBrush(pressed ? fill.darker(115) : hovered ? fill.lighter(110) : fill);
     painter.drawEllipse(centredIn(room, QSizeF(diameter - pen, diameter - pen)));
 }
 

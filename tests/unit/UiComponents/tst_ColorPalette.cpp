@@ -7,7 +7,7 @@
 namespace {
 
 // While libraries and programs load, long before main().
-const QColor lastAtLoadTime = ColorPalette::Rows.back().back();
+const QColor lastAtLoadTime = ColorPalette::rows.back().back();
 
 } // namespace
 
@@ -36,7 +36,7 @@ void tst_ColorPalette::colors()
         QStringLiteral("#380000 #421800 #493700 #3e4100 #003801 #00303b #00093c #1e0043 #390023"),
     };
     QStringList found;
-    for (const ColorPalette::Row& row : ColorPalette::Rows) {
+    for (const ColorPalette::Row& row : ColorPalette::rows) {
         QStringList names;
         for (const QColor& color : row) {
             names += color.name();
@@ -49,7 +49,7 @@ void tst_ColorPalette::colors()
 void tst_ColorPalette::everyColorIsOpaqueAndDifferent()
 {
     QSet<QRgb> different;
-    for (const ColorPalette::Row& row : ColorPalette::Rows) {
+    for (const ColorPalette::Row& row : ColorPalette::rows) {
         for (const QColor& color : row) {
             QCOMPARE(color.alpha(), 255);
             // Of the model, and to the bit, that a name gives.
@@ -57,7 +57,7 @@ void tst_ColorPalette::everyColorIsOpaqueAndDifferent()
             different.insert(color.rgba());
         }
     }
-    QCOMPARE(different.size(), ColorPalette::RowCount * ColorPalette::ColumnCount);
+    QCOMPARE(different.size(), ColorPalette::rowCount * ColorPalette::columnCount);
 }
 
 void tst_ColorPalette::isThereAtLoadTime()
