@@ -8,7 +8,6 @@
 #include <QStyleOptionSlider>
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -69,6 +68,36 @@ private:
     double m_start;
     double m_travel;
 };
+
+// QStyle divides by the number of steps, which has to fit into an int. And styles count ticks from the
+// minimum to the first one behind the maximum, which has to as well, and draw every one of them.
+void makePaintable(QStyleOptionSlider& option)
+{
+    constexpr int most = 1 << 30;
+    qint64 steps = qint64(option.maximum) - option.minimum;
+    if (steps > most || option.maximum > most) {
+        const qint64 origin = option.minimum;
+        const int unit = steps > most ? 4 : 1;
+        for (int* number : {&option.minimum, &option.maximum, &option.sliderPosition, &option.sliderValue}) {
+            *number = static_cast<int>((*number - origin) / unit);
+        }
+        for (int* length : {&option.singleStep, &option.pageStep, &option.tickInterval}) {
+            *length /= unit;
+        }
+        steps /= unit;
+    }
+    const int behindAll = static_cast<int>(steps) + 2;
+    for (int* length : {&option.singleStep, &option.pageStep, &option.tickInterval}) {
+        *length = qMin(*length, behindAll);
+    }
+    const int room = option.orientation == Qt::Horizontal ? option.rect.width() : option.rect.height();
+    const int finest = static_cast<int>(steps / qMax(1, room));
+    const int interval =
+        option.tickInterval > 0 ? option.tickInterval : qMax(option.singleStep, option.pageStep);
+    if (interval < finest) {
+        option.tickInterval = finest;
+    }
+}
 
 int bounded(const QSlider& slider, qint64 position)
 {
@@ -160,13 +189,7 @@ OvCustomSlider::~OvCustomSlider() = default;
 void OvCustomSlider::initStyleOption(QStyleOptionSlider* option) const
 {
     QSlider::initStyleOption(option);
-    if (qint64(option->maximum) - option->minimum <= std::numeric_limits<int>::max()) {
-        return;
-    }
-    for (int* number : {&option->minimum, &option->maximum, &option->sliderPosition, &option->sliderValue,
-                        &option->singleStep, &option->pageStep, &option->tickInterval}) {
-        *number = static_cast<int>(std::floor(*number / 2.0));
-    }
+    makePaintable(*option);
 }
 
 bool OvCustomSlider::event(QEvent* event)

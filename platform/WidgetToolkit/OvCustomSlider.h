@@ -17,7 +17,7 @@
  *   range too. Without focus it ignores the event, so that a scroll area around it scrolls; the wheel does
  *   not give focus: the focus policy is Qt::StrongFocus.
  * - Every range of 32 bits is painted and clicked correctly, where QSlider loses its handle, or divides by
- *   zero, from 2^31 steps on.
+ *   zero, from 2^31 steps on. There is at most one tick for each pixel, where QSlider draws billions.
  *
  * A style sheet selects the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page` and
  * `::sub-page`.
@@ -38,7 +38,7 @@ public:
     ~OvCustomSlider() override;
 
 protected:
-    /// Hides QSlider's function and halves all numbers in a range that QStyle cannot divide.
+    /// Hides QSlider's function: numbers that a style cannot paint with are moved and divided until it can.
     void initStyleOption(QStyleOptionSlider* option) const;
 
     bool event(QEvent* event) override;

@@ -8,6 +8,7 @@
 
 #include <QLineEdit>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QStyleOptionSlider>
 
 #include <cmath>
@@ -36,6 +37,24 @@ public:
     {
         return orientation() == Qt::Horizontal ? QPoint(place, height() / 2) : QPoint(width() / 2, place);
     }
+};
+
+/// Draws no slider, but notes what it is to draw.
+class NotingStyle : public QProxyStyle
+{
+public:
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override
+    {
+        const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (slider) {
+            noted = *slider;
+        } else {
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+        }
+    }
+
+    mutable QStyleOptionSlider noted;
 };
 
 /// As the present row of clickGoesThere_data() says.
@@ -73,6 +92,8 @@ private Q_SLOTS:
     void wholeRangeOf32Bits();
     void wideRanges_data();
     void wideRanges();
+    void ticksCanBeCounted_data();
+    void ticksCanBeCounted();
     void looksLikeAQSlider_data();
     void looksLikeAQSlider();
     void middleButton();
@@ -309,6 +330,49 @@ void tst_OvCustomSlider::wideRanges()
         release(slider, at);
         release(narrow, at);
     }
+}
+
+void tst_OvCustomSlider::ticksCanBeCounted_data()
+{
+    using Steps = std::numeric_limits<int>;
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("interval");
+    QTest::addColumn<int>("mostTicks");
+    QTest::newRow("by hand") << 0 << 100 << 25 << 4;
+    QTest::newRow("one a pixel") << 0 << 300 << 1 << 300;
+    QTest::newRow("millions") << 0 << 100000000 << 1 << 300;
+    QTest::newRow("millions of pages") << 0 << 100000000 << 0 << 300;
+    QTest::newRow("billions") << Steps::min() << Steps::max() << 1 << 300;
+    QTest::newRow("to the last number but one") << Steps::max() - 100 << Steps::max() - 1 << 25 << 3;
+    QTest::newRow("at the last number but one") << Steps::max() - 1 << Steps::max() - 1 << 0 << 0;
+    QTest::newRow("far apart") << 50 << 100 << Steps::max() << 0;
+}
+
+void tst_OvCustomSlider::ticksCanBeCounted()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, interval);
+    QFETCH(int, mostTicks);
+    NotingStyle style;
+    Slider slider(Qt::Horizontal);
+    slider.setStyle(&style);
+    slider.resize(300, 30);
+    slider.setTickPosition(QSlider::TicksBelow);
+    slider.setTickInterval(interval);
+    slider.setRange(minimum, maximum);
+    slider.grab();
+    const QStyleOptionSlider& option = style.noted;
+    const qint64 distance =
+        option.tickInterval > 0 ? option.tickInterval : qMax(option.singleStep, option.pageStep);
+    QVERIFY(distance > 0);
+    const qint64 ticks = (qint64(option.maximum) - option.minimum) / distance;
+    QVERIFY2(ticks <= mostTicks + 1, qPrintable(QString::number(ticks)));
+    QVERIFY(ticks >= mostTicks - 1);
+    // Where a style stops counting.
+    QVERIFY(option.minimum + (ticks + 1) * distance < std::numeric_limits<int>::max());
+    QVERIFY(option.maximum + distance < std::numeric_limits<int>::max());
 }
 
 void tst_OvCustomSlider::looksLikeAQSlider_data()
