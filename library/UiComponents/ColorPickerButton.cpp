@@ -63,14 +63,21 @@ ColorPickerButton::Private::Private(ColorPickerButton* button)
 
 void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
 {
+    newPicker->setParent(q);
     if (AbstractColorPicker* const old = picker) {
-        // A picker that emits in its destructor can no longer be asked for its colour.
+        const QPointer<ColorPickerButton> button = q;
+        // A picker that reports its end while it is destroyed can no longer be asked for its colour.
         old->disconnect(q);
+        // Nor may the button delete it again, should its destructor delete the button.
+        picker = nullptr;
+        old->setParent(nullptr);
         delete old;
+        if (!button) {
+            return;
+        }
         release();
     }
     picker = newPicker;
-    newPicker->setParent(q);
 
     connect(newPicker, &AbstractColorPicker::colorChanged, q, &ColorPickerButton::setColor);
     connect(newPicker, &AbstractColorPicker::pickingStopped, q,

@@ -123,6 +123,7 @@ private Q_SLOTS:
     void buttonDeletedInASlot_data();
     void buttonDeletedInASlot();
     void buttonDeletedByItsPickersColor();
+    void buttonDeletedByItsFormerPicker();
 };
 
 void tst_ColorPickerButton::metaObject()
@@ -925,6 +926,21 @@ void tst_ColorPickerButton::buttonDeletedByItsPickersColor()
     const FreedMemoryWatch memory;
     picker->finish(QColor(Qt::red));
     QVERIFY(!button);
+    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+}
+
+void tst_ColorPickerButton::buttonDeletedByItsFormerPicker()
+{
+    const QPointer<ColorPickerButton> button = new ColorPickerButton;
+    auto* former = new FakeColorPicker;
+    former->onDestruction = [button] { delete button; };
+    button->setPicker(former);
+    const QPointer<FakeColorPicker> picker = new FakeColorPicker;
+    const FreedMemoryWatch memory;
+    button->setPicker(picker);
+    QVERIFY(!button);
+    // It was the button's own already.
+    QVERIFY(!picker);
     QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
 }
 
