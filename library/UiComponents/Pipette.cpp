@@ -141,15 +141,6 @@ Pipette::Impl::Run::Run(Pipette* pipette)
 Pipette::Impl::Run::~Run()
 {
     end();
-    // The native window of a view may be handing a key to a pop-up.
-    const bool isInUse = QApplication::activePopupWidget() != nullptr;
-    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
-        if (view && isInUse) {
-            view->deleteLater();
-        } else {
-            delete view;
-        }
-    }
 }
 
 void Pipette::Impl::Run::addView(QScreen* screen)
@@ -212,7 +203,8 @@ void Pipette::Impl::Run::watchApplication()
     }
 }
 
-/// Takes everything off the screens, which show it a little longer.
+/// Takes everything off the screens, which show it a little longer. Qt may be about to use a view: it
+/// activates its window, or gives a pop-up the key that its window got.
 void Pipette::Impl::Run::end()
 {
     if (!m_context) {
@@ -228,6 +220,7 @@ void Pipette::Impl::Run::end()
         if (view) {
             m_reader->remove(*view);
             view->close();
+            view->deleteLater();
         }
     }
 }

@@ -13,6 +13,7 @@
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
 #include <QProcess>
@@ -205,6 +206,7 @@ private Q_SLOTS:
     void pipetteMayDieInItsSlots_data();
     void pipetteMayDieInItsSlots();
     void pipetteMayDieWhilePicking();
+    void pipetteMayDieWhileAViewIsActivated();
     void windowOfThePipetteMayDie();
     void handlersOutliveThePipette();
     void pipetteMayBeTheApplicationsChild();
@@ -951,8 +953,8 @@ void tst_Pipette::pipetteMayDieWhilePicking()
     m_protocol.lines.clear();
     m_pipette.reset();
     // At once, and in silence.
-    QVERIFY(alive<PipetteScreenView>().isEmpty());
-    QVERIFY(alive<LoupeWidget>().isEmpty());
+    QVERIFY(shownViews().isEmpty());
+    QVERIFY(nothingIsLeft());
     QCOMPARE(m_protocol.lines, QStringList());
 
     // With two sets.
@@ -960,8 +962,25 @@ void tst_Pipette::pipetteMayDieWhilePicking()
     m_pipette->startPicking();
     m_pipette->startPicking();
     m_pipette.reset();
-    QVERIFY(alive<PipetteScreenView>().isEmpty());
-    QVERIFY(alive<LoupeWidget>().isEmpty());
+    QVERIFY(shownViews().isEmpty());
+    QVERIFY(nothingIsLeft());
+}
+
+// What loses the focus to a view hears of it while Qt is about to go on with the view.
+void tst_Pipette::pipetteMayDieWhileAViewIsActivated()
+{
+    QLineEdit edit;
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    QTest::keyClick(&edit, Qt::Key_A);
+    QPointer<Pipette> pipette = new Pipette;
+    connect(&edit, &QLineEdit::editingFinished, this, [pipette] { delete pipette; });
+    pipette->startPicking();
+    const FreedMemoryWatch watch;
+    QTRY_VERIFY(!pipette);
+    QVERIFY(shownViews().isEmpty());
+    QVERIFY(nothingIsLeft());
+    QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
 }
 
 void tst_Pipette::windowOfThePipetteMayDie()
