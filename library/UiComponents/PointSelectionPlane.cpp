@@ -10,7 +10,6 @@
 #include <QLine>
 #include <QPainter>
 #include <QPen>
-#include <QPixmap>
 
 #include <cmath>
 
@@ -38,7 +37,7 @@ public:
     QPointF point = {-1.0, -1.0};
     QRectF limits;
     PointMapping::Scale scale;
-    QPixmap background;
+    QColor background;
     PointSelectionPlanePropertyHelper* const style;
     // Without one there is no marker, even if the limits contain the initial point.
     bool hasPoint = false;
@@ -166,7 +165,7 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    painter.drawPixmap(rect(), d->background);
+    painter.fillRect(rect(), d->background);
     painter.setPen(QPen(QBrush(d->style->coordLinesColor(), Qt::SolidPattern), d->style->coordLinesWidth(),
                         Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     d->paintAxes(painter);
@@ -179,8 +178,8 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
 void PointSelectionPlane::resizeEvent(QResizeEvent* event)
 {
     d->updateScale();
-    d->background = QPixmap(size());
-    d->background.fill(d->style->fillColor());
+    const QColor fill = d->style->fillColor();
+    d->background = fill.isValid() ? fill : Qt::black;
     OvFrame::resizeEvent(event);
 }
 

@@ -151,6 +151,8 @@ private Q_SLOTS:
     void tinyPlanes_data();
     void tinyPlanes();
 
+    void hugePlane();
+
     void paintsItsItemsOnly();
     void axesDoNotFollowThePoint();
     void onlyTheMarkerIsSmooth();
@@ -699,6 +701,16 @@ void tst_PointSelectionPlane::tinyPlanes()
     plane.resize(101, 51);
     plane.setPoint({10, 110});
     QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(60, 20)));
+}
+
+void tst_PointSelectionPlane::hugePlane()
+{
+    Plane plane;
+    // As large as a splitter may drag it. A picture of that size would take terabytes.
+    plane.resize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QImage image(50, 50, QImage::Format_RGB32);
+    plane.render(&image, QPoint(), QRegion(30, 30, 50, 50));
+    QCOMPARE(image.pixelColor(25, 25), fillColor);
 }
 
 void tst_PointSelectionPlane::paintsItsItemsOnly()
