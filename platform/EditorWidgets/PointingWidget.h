@@ -23,8 +23,9 @@ class OvFrame;
  *
  * **Window.** A bubble is a frameless window (`Qt::Tool`), shown without being activated. With
  * `setWindowFlags(Qt::Popup | …)` it closes on Escape, on a click outside the painted bubble, and when it is
- * disabled; with `setWindowFlags(Qt::Widget)` it is a child that keeps inside its parent. Only the painted
- * bubble takes the mouse: a click beside the arrow goes to what lies there.
+ * disabled; with `setWindowFlags(Qt::Widget)` it is a child that keeps inside its parent, and nobody else
+ * lays it out, no layout and no splitter. Only the painted bubble takes the mouse: a click beside the arrow
+ * goes to what lies there.
  *
  * **Place.** The arrow's tip is the target. The bubble stays in the available area of the target's screen (or
  * the nearest one; a child, in the parent): without room the arrow goes to the opposite side, and the bubble
