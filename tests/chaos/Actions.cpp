@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "Components.h"
+#include "Exceptions.h"
 #include "Journal.h"
 
 #include <Settings/Settings.h>
@@ -44,6 +45,7 @@ std::unique_ptr<QTranslator> translator;
 
 /// Of a margin or a side by code. Qt itself paints windows that are much larger for seconds.
 constexpr int mostPixels = 300;
+constexpr int mostLetters = 60;
 
 class JunkStore : public SettingsStore
 {
@@ -236,7 +238,10 @@ void pressKey(World& world)
     const Qt::KeyboardModifiers modifiers = anyModifiers(random);
     const QString text = key >= Qt::Key_Space && key <= Qt::Key_Z ? QString(QChar(key)).toLower() : QString();
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    const Under under(world, isEnter ? Doing::Entering : Doing::Typing, widget, "key");
+    const Doings doing = isEnter                 ? Doing::Entering
+                         : key == Qt::Key_Escape ? Doing::Typing | Doing::Showing // it closes
+                                                 : Doing::Typing;
+    const Under under(world, doing, widget, "key");
     Journal::note(
         QStringLiteral("key %1+%2 to %3").arg(modifiers, 0, 16).arg(key, 0, 16).arg(World::nameOf(widget)));
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -356,7 +361,7 @@ void contextMenu(World& world)
 
 void resize(World& world)
 {
-    QWidget* const widget = world.random.oneIn(2) ? world.anyTop() : world.anyWidget();
+    QWidget* const widget = world.random.oneIn(2) ? world.anyTop() : world.anyPartWidget();
     if (!widget) {
         return;
     }
@@ -408,9 +413,9 @@ Doing doingOf(const QByteArray& name)
     static const std::vector<QByteArray> showing{"visible", "setVisible", "setHidden", "hide", "close",
                                                  "done",    "accept",     "reject",    "open", "exec"};
     static const std::vector<QByteArray> forcing{
-        "minimum",    "setMinimum",  "maximum",        "setMaximum",        "setRange",
-        "decimals",   "setDecimals", "sliderPosition", "setSliderPosition", "setSliderDown",
-        "setEnabled", "setDisabled", "enabled",        "triggerAction"};
+        "minimum",     "setMinimum",     "maximum",           "setMaximum",    "setRange",   "decimals",
+        "setDecimals", "sliderPosition", "setSliderPosition", "setSliderDown", "setEnabled", "setDisabled",
+        "enabled",     "triggerAction",  "animateClick",      "stepUp",        "stepDown"};
     const auto isIn = [&name](const std::vector<QByteArray>& names) {
         return std::find(names.begin(), names.end(), name) != names.end();
     };
@@ -438,6 +443,9 @@ void setProperty(World& world, QObject* object)
     const bool isMetric = name.startsWith("layout") || name.endsWith("Width") || name.endsWith("Height");
     if (isMetric && value.toInt() > mostPixels) {
         value = mostPixels;
+    }
+    if (name.endsWith("fix") || name == "specialValueText") {
+        value = value.toString().left(mostLetters); // a spin box gets as wide as these
     }
     if (!value.isValid()) {
         return;
@@ -489,7 +497,9 @@ void changeModel(World& world)
     Random& random = world.random;
     for (const auto& object : qAsConst(world.others)) {
         auto* model = qobject_cast<QStandardItemModel*>(object);
-        if (!model || random.oneIn(3)) {
+        const bool isChanging = std::any_of(world.frames.begin(), world.frames.end(),
+                                            [&](const Frame& frame) { return frame.object == object; });
+        if (!model || isChanging || random.oneIn(3)) {
             continue;
         }
         const Under under(world, Doing::Other, model, "model");
@@ -536,8 +546,9 @@ void changeApplication(World& world)
         QApplication::setStyle(random.oneOf<QString>({QStringLiteral("Fusion"), QStringLiteral("Windows")}));
         break;
     case 2:
-        translator = std::make_unique<SillyTranslator>(random.text().left(60));
+        translator = std::make_unique<SillyTranslator>(random.text().left(mostLetters));
         QCoreApplication::installTranslator(translator.get());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
         break;
     case 3:
         QLocale::setDefault(random.value(QMetaType::QLocale).toLocale());
@@ -641,6 +652,14 @@ const std::vector<Action>& actions()
     return table;
 }
 
+/// As a shown window stays when it becomes a part of another.
+bool hasNativePart(const QWidget* widget)
+{
+    const auto parts = widget->findChildren<QWidget*>();
+    return std::any_of(parts.begin(), parts.end(),
+                       [](const QWidget* part) { return part->windowHandle() && !part->isWindow(); });
+}
+
 bool isBelow(const QWidget* widget, const QWidget* ancestor)
 {
     while (widget && widget != ancestor) {
@@ -707,12 +726,27 @@ void Actions::move(World& world, QWidget* widget)
     QWidget* const parent = world.random.oneIn(3)   ? nullptr
                             : world.random.oneIn(2) ? world.anyTop()
                                                     : world.anyPartWidget();
-    if (!widget || isBelow(parent, widget)) {
+    // PointingWidget.h: "nobody else lays it out".
+    const bool isLaidOut =
+        widget && widget->inherits("PointingWidget") && parent && parent->inherits("QSplitter");
+    if (!widget || isLaidOut || isBelow(parent, widget) || Exceptions::forbidding(world, widget) >= 0) {
         return;
+    }
+    if (hasNativePart(widget)) {
+        return; // Qt gets lost: partWithNativePartMoves
     }
     const Under under(world, Doing::Showing, widget, "move");
     Journal::note(QStringLiteral("%1 moves to %2").arg(World::nameOf(widget), World::nameOf(parent)));
     const QPointer<QWidget> alive = widget;
+    const QPointer<QWidget> aliveParent = parent;
+    QWidget* const focused = widget->window()->focusWidget();
+    if (isBelow(focused, widget)) {
+        // Qt lets the window keep it: movedWidgetStaysTheFocus.
+        focused->clearFocus();
+    }
+    if (!alive || (parent && !aliveParent)) {
+        return;
+    }
     widget->setParent(parent);
     if (alive && !parent) {
         world.addTop(alive);
@@ -728,13 +762,17 @@ void Actions::letGo(World& world)
         if (!(world.buttons & button)) {
             continue;
         }
-        QWidget* const widget =
-            world.mouseWidget && windowOf(world.mouseWidget) ? world.mouseWidget.data() : nullptr;
-        if (widget) {
+        QWidget* const widget = QWidget::mouseGrabber() ? QWidget::mouseGrabber() : world.mouseWidget.data();
+        if (widget && windowOf(widget)) {
             mouse(world, widget, QPoint(-5, -5), button, QEvent::MouseButtonRelease);
         }
     }
     world.buttons = Qt::NoButton;
+    // And a click elsewhere.
+    QWidget desktop;
+    desktop.show();
+    mouse(world, &desktop, QPoint(5, 5), Qt::LeftButton, QEvent::MouseButtonPress);
+    mouse(world, &desktop, QPoint(5, 5), Qt::LeftButton, QEvent::MouseButtonRelease);
 }
 
 void Actions::resetApplication()

@@ -315,6 +315,9 @@ std::vector<Component> makeTable()
         t.setArrowOffset(w.random.integer());
     };
     const auto setFlags = [](auto& t, World& w) {
+        if (qobject_cast<QSplitter*>(t.parentWidget())) {
+            return; // see Actions::move()
+        }
         t.setWindowFlags(w.random.oneOf<Qt::WindowFlags>(
             {Qt::Tool | Qt::FramelessWindowHint, Qt::Popup | Qt::FramelessWindowHint, Qt::Widget}));
     };

@@ -10,11 +10,14 @@ namespace Exceptions {
 /// The row that forbids to delete @p victim at once, as @p world stands: its number in the table, or -1.
 int forbidding(const World& world, const QObject* victim);
 
-/// Whether slots of @p sender must not run an event loop.
-bool forbidsLoop(const QObject* sender);
+/// Whether slots of @p signal of @p sender must not run an event loop.
+bool forbidsLoop(const QObject* sender, const QByteArray& signal);
 
 /// Whether a warning of this text is the answer to what the program did, and no defect.
 bool isExpected(const QString& message);
+
+/// Whether these events may be delivered for ever, each turn anew.
+bool mayGoOn(const QString& delivered);
 
 /// Whether @p object may stay pressed when nobody presses it.
 bool mayStayPressed(const QObject* object);

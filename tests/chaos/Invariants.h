@@ -2,12 +2,17 @@
 
 #include <QApplication>
 
-/// Counts what is delivered.
+class World;
+
+/// Notes what is delivered.
 class Application : public QApplication
 {
 public:
     using QApplication::QApplication;
     bool notify(QObject* receiver, QEvent* event) override;
+
+    /// The present one, or null.
+    World* world = nullptr;
 };
 
 /**
@@ -19,6 +24,9 @@ namespace Invariants {
 void begin();
 /// Remembers what there is before the first window.
 void rememberObjects();
+
+/// From here on nobody may write to what is deleted.
+void beginWindow();
 
 /// Nothing goes on any more while time stands still: no painting that leads to the next one.
 void checkAtRest();

@@ -9,7 +9,7 @@
 namespace Journal {
 
 /// Takes over messages, signals and the sanitizers' reports of the process. A step that does not end within
-/// a minute of real time is a failure, too.
+/// a minute is a failure, too.
 void begin();
 
 /// Starts anew: what was noted before has ended well.

@@ -8,6 +8,8 @@
 #include <QMetaMethod>
 #include <QTimer>
 
+#include <optional>
+
 Listener::Listener(World& world, QObject* sender)
     : m_world(world)
     , m_sender(sender)
@@ -29,7 +31,7 @@ Listener::Listener(World& world, QObject* sender)
             slot.now = !random.oneIn(4);
             slot.inLoop = random.oneIn(4);
             const bool runsLoop = slot.inLoop || slot.deed == Deed::Loop || slot.deed == Deed::MessageBox;
-            if (runsLoop && Exceptions::forbidsLoop(sender)) {
+            if (runsLoop && Exceptions::forbidsLoop(sender, slot.signal)) {
                 slot.deed = Deed::Nothing;
             }
         }
@@ -58,15 +60,26 @@ void Listener::hear(int index)
                           .arg(QLatin1String(signal), QLatin1String(m_type->className())));
     }
     Journal::note(QStringLiteral("- %1 of %2").arg(QLatin1String(signal), World::nameOf(m_sender)));
-    if (++m_slots[index].heard == m_slots[index].at) {
-        const Under under(m_world, Doing::Signal, m_sender, signal);
-        perform(m_slots[index]);
+    if (++m_slots[index].heard != m_slots[index].at) {
+        return;
     }
+    std::optional<Under> cause;
+    if (m_world.isLeftToEvents()) {
+        // A change of the active window, say.
+        cause.emplace(m_world, Doing::Other, m_sender, "loop");
+    }
+    const Under under(m_world, Doing::Signal, m_sender, signal);
+    perform(m_slots[index]);
 }
 
 void Listener::perform(Slot slot)
 {
     auto* widget = qobject_cast<QWidget*>(m_sender);
+    const bool makesNew = slot.inLoop || slot.deed == Deed::Loop || slot.deed == Deed::MessageBox ||
+                          slot.deed == Deed::Move || slot.deed == Deed::Call;
+    if (makesNew && m_world.isDeleting()) {
+        return; // Qt does not survive it: dyingWindowGetsAChild
+    }
     switch (slot.deed) {
     case Deed::Nothing:
         return;
@@ -78,7 +91,7 @@ void Listener::perform(Slot slot)
         box->setText(m_world.random.text());
         box->exec();
         if (box) {
-            box->deleteLater();
+            m_world.removeAtTheEnd(box);
         }
         return;
     }

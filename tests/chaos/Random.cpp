@@ -175,7 +175,7 @@ QVariant Random::value(int type)
         return QRect(pointAround({300, 300}), size());
     case QMetaType::QFont:
         return QFont(oneOf<QString>({QStringLiteral("DejaVu Sans"), QStringLiteral("none"), QString()}),
-                     oneOf<int>({1, 9, 12, 60}), oneOf<int>({1, 50, 99}), oneIn(2));
+                     oneOf<int>({1, 9, 12, 30}), oneOf<int>({1, 50, 99}), oneIn(2));
     case QMetaType::QPalette:
         return QPalette(color(), color());
     case QMetaType::QCursor:

@@ -21,6 +21,8 @@
 #include <QToolTip>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int deepest = 4;
@@ -30,18 +32,6 @@ constexpr int mostEndings = 3000;
 int loopLevel()
 {
     return QThread::currentThread()->loopLevel();
-}
-
-template <typename Pointers>
-auto living(const Pointers& pointers)
-{
-    QVector<std::remove_reference_t<decltype(*pointers.first().data())>*> objects;
-    for (const auto& pointer : pointers) {
-        if (pointer) {
-            objects.append(pointer.data());
-        }
-    }
-    return objects;
 }
 
 void stopPick(QObject* object)
@@ -97,8 +87,10 @@ World::~World() = default;
 void World::step()
 {
     if (frames.isEmpty()) {
-        for (QObject* object : living(m_doomed)) {
-            object->deleteLater();
+        for (const auto& object : qAsConst(m_doomed)) {
+            if (object) {
+                object->deleteLater();
+            }
         }
         m_doomed.clear();
     }
@@ -145,10 +137,11 @@ void World::endLoops()
     for (QEventLoop* loop : qAsConst(m_loops)) {
         loop->quit();
     }
-    for (QObject* object : living(others)) {
+    const auto present = parts;
+    const auto presentOthers = others;
+    for (const auto& object : presentOthers) {
         stopPick(object);
     }
-    const QVector<Part> present = parts;
     for (const Part& part : present) {
         stopPick(part.object);
     }
@@ -191,13 +184,16 @@ void World::settle()
             }
         }
         Actions::letGo(*this);
-        for (QObject* object : living(others)) {
-            if (object->inherits("Orvane::Gui::HighlightFrame")) {
+        for (const auto& object : qAsConst(others)) {
+            if (object && object->inherits("Orvane::Gui::HighlightFrame")) {
                 delete object;
             }
         }
-        for (QWidget* widget : living(tops)) {
-            releaseAll(widget);
+        const auto present = tops;
+        for (const auto& widget : present) {
+            if (widget) {
+                releaseAll(widget);
+            }
         }
     });
 }
@@ -205,6 +201,9 @@ void World::settle()
 void World::clear()
 {
     guard(0, [this] {
+        for (const auto& object : qAsConst(m_doomed)) {
+            remove(object, false);
+        }
         for (const auto& object : qAsConst(others)) {
             remove(object, random.oneIn(2));
         }
@@ -230,8 +229,8 @@ void World::addTop(QWidget* widget)
 
 QWidget* World::anyTop()
 {
-    const auto present = living(tops);
-    return present.isEmpty() ? nullptr : present[random.below(present.size())];
+    tops.removeAll(nullptr);
+    return tops.isEmpty() ? nullptr : tops[random.below(tops.size())].data();
 }
 
 QWidget* World::anyWidget()
@@ -281,14 +280,30 @@ void World::remove(QObject* victim, bool now)
                       .arg(nameOf(victim), now ? QStringLiteral("now") : QStringLiteral("later")) +
                   (row < 0 ? QString() : QStringLiteral(", but for row %1").arg(row)));
     if (row >= 0) {
-        // Not deleteLater(): an inner loop would see to it in the middle of what is forbidden.
-        m_doomed.append(victim);
+        removeAtTheEnd(victim);
     } else if (!now) {
         victim->deleteLater();
     } else {
-        const Under under(*this, Doing::Deleting, nullptr, "delete");
+        const Under under(*this, Doing::Deleting, victim, "delete");
         delete victim;
     }
+}
+
+/// Not deleteLater(): an inner loop would see to it in the middle of what is under way.
+void World::removeAtTheEnd(QObject* victim)
+{
+    m_doomed.append(victim);
+}
+
+bool World::isLeftToEvents() const
+{
+    return frames.isEmpty() || frames.last().level < loopLevel();
+}
+
+bool World::isDeleting() const
+{
+    return std::any_of(frames.begin(), frames.end(),
+                       [](const Frame& frame) { return frame.doing.testFlag(Doing::Deleting); });
 }
 
 void World::runLoop()
@@ -306,4 +321,15 @@ QString World::nameOf(const QObject* object)
     }
     return QStringLiteral("%1 \"%2\"")
         .arg(QLatin1String(object->metaObject()->className()), object->objectName().left(20));
+}
+
+Under::Under(World& world, Doings doing, QObject* object, const QByteArray& name)
+    : m_world(world)
+{
+    world.frames.append({object, name, doing, loopLevel()});
+}
+
+Under::~Under()
+{
+    m_world.frames.removeLast();
 }

@@ -36,7 +36,8 @@ struct Frame
 {
     QPointer<QObject> object;
     QByteArray name;
-    Doing doing;
+    Doings doing;
+    int level = 0; ///< how many event loops run
 };
 
 /// A component of a window, and what is known of it.
@@ -85,6 +86,14 @@ public:
 
     /// Deletes @p victim, at once where @p now is set; where that is forbidden, once everything is over.
     void remove(QObject* victim, bool now);
+    /// Deletes it once nothing is under way any more.
+    void removeAtTheEnd(QObject* victim);
+
+    /// Whether nothing is under way but the present event loop, which delivers what was put off.
+    bool isLeftToEvents() const;
+
+    /// Whether somebody is being destroyed.
+    bool isDeleting() const;
 
     /// Runs an event loop in the middle of everything, in which other steps are taken.
     void runLoop();
@@ -120,12 +129,8 @@ private:
 class Under
 {
 public:
-    Under(World& world, Doing doing, QObject* object, const QByteArray& name)
-        : m_world(world)
-    {
-        world.frames.append({object, name, doing});
-    }
-    ~Under() { m_world.frames.removeLast(); }
+    Under(World& world, Doings doing, QObject* object, const QByteArray& name);
+    ~Under();
     Under(const Under&) = delete;
     Under& operator=(const Under&) = delete;
 

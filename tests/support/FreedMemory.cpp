@@ -12,7 +12,7 @@ constexpr unsigned char pattern = 0xff;
 constexpr std::size_t mostBlocks = 65536;
 
 // Plain data: it is used before any constructor has run.
-bool isWatching = false;
+thread_local bool isWatching = false;
 std::size_t blockCount = 0;
 void* blocks[mostBlocks];
 

@@ -6,8 +6,8 @@
  * Tells whether anybody wrote into memory that was deleted already.
  *
  * The sanitizer sees only code that was compiled with it, and Qt is not: a handler of Qt's that goes on
- * using a widget that a slot has deleted passes unnoticed. While a watch is alive, every block that is
- * deleted with operator delete, by whatever library, is filled with a pattern and kept.
+ * using a widget that a slot has deleted passes unnoticed. While a watch is alive, every block that its
+ * thread deletes with operator delete, in whatever library, is filled with a pattern and kept.
  *
  * A test that uses it lists FreedMemory.cpp among its SOURCES, which replaces operator new and delete of
  * the whole program. One watch at a time, and only briefly: the memory is not reused until its end.
