@@ -1,27 +1,50 @@
-# uic_test_program(<Class> NAME <test> LABEL <label> LINK <target...> [SOURCES <file...>]
+# uic_test(<Class> PROGRAM <name> NAME <test> LABEL <label> LINK <target...> [SOURCES <file...>]
 #     [LAUNCHER <command...>] ENVIRONMENT <variable...>): tst_<Class>.cpp of this folder, run as one test.
 #
+# The classes of a PROGRAM are linked into one file, tst_<name>, and each runs in a process of its own:
+# "tst_<name> <Class> [function...]". Hundreds of small programs would take longer to link, and moc longer to
+# start for each, than all of them take to compile. A target must never link a library and its Testable:
+# the tests of internal code are programs of their own.
+#
 # A warning that the test did not announce with QTest::ignoreMessage() fails it.
-function(uic_test_program class)
-    cmake_parse_arguments(arg "" "NAME;LABEL" "LINK;SOURCES;LAUNCHER;ENVIRONMENT" ${ARGN})
-    set(target tst_${class})
-    add_executable(${target} tst_${class}.cpp ${arg_SOURCES})
-    target_link_libraries(${target} PRIVATE
-        ${arg_LINK} UiComponentsTestSupport Qt5::Test UiComponentsBuildOptions)
-    target_compile_definitions(${target} PRIVATE
+function(uic_test class)
+    cmake_parse_arguments(arg "" "PROGRAM;NAME;LABEL" "LINK;SOURCES;LAUNCHER;ENVIRONMENT" ${ARGN})
+    set(program tst_${arg_PROGRAM})
+    if(NOT TARGET ${program})
+        add_executable(${program})
+        target_link_libraries(${program} PRIVATE UiComponentsTestSupport UiComponentsBuildOptions)
+        if(UIC_TEST_OPTIONS)
+            # Other options, other headers.
+            target_compile_options(${program} PRIVATE ${UIC_TEST_OPTIONS})
+            target_precompile_headers(${program} PRIVATE <QtTest> <QtWidgets>)
+        else()
+            target_precompile_headers(${program} REUSE_FROM UiComponentsTestSupport)
+        endif()
+    endif()
+    target_sources(${program} PRIVATE tst_${class}.cpp ${arg_SOURCES})
+    target_link_libraries(${program} PRIVATE ${arg_LINK})
+    set_property(SOURCE tst_${class}.cpp TARGET_DIRECTORY ${program} APPEND PROPERTY COMPILE_DEFINITIONS
         UIC_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
+    set_property(GLOBAL PROPERTY UIC_PROGRAM_${arg_NAME} ${program})
     # Not with -silent: it keeps back the warnings that the expression below looks for.
-    add_test(NAME ${arg_NAME} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${target}>)
+    add_test(NAME ${arg_NAME} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${program}> ${class})
     set_tests_properties(${arg_NAME} PROPERTIES
         LABELS ${arg_LABEL} TIMEOUT 300
         FAIL_REGULAR_EXPRESSION "QWARN|QCRITICAL|QSYSTEM|runtime error:"
         ENVIRONMENT "${arg_ENVIRONMENT}")
 endfunction()
 
-# uic_unit_test(<Class> LINK <target...>): tests/unit/<Library>/tst_<Class>.cpp, run off screen.
+# uic_unit_test(<Class> LINK <target...> [SOURCES <file...>]): tests/unit/.../<Library>/tst_<Class>.cpp, run off
+# screen. The program has the name of the first folder: "UiComponents", "platform"; for internal code it is
+# "<Library>Internals".
 function(uic_unit_test class)
-    get_filename_component(library "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
-    uic_test_program(${class} NAME unit.${library}.${class} LABEL unit
+    file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}/tests/unit" "${CMAKE_CURRENT_SOURCE_DIR}")
+    string(REGEX REPLACE "/.*" "" program "${folder}")
+    get_filename_component(library "${folder}" NAME)
+    if("${ARGN}" MATCHES "Testable")
+        set(program ${library}Internals)
+    endif()
+    uic_test(${class} PROGRAM ${program} NAME unit.${library}.${class} LABEL unit
         ENVIRONMENT ${UIC_UNIT_ENVIRONMENT} ${ARGN})
 endfunction()
 
@@ -35,7 +58,11 @@ function(uic_desktop_test class)
     if(arg_SCREENS)
         list(APPEND launcher --screens "${arg_SCREENS}")
     endif()
-    uic_test_program(${class} NAME desktop.${class} LABEL desktop
+    set(program desktop)
+    if("${ARGN}" MATCHES "Testable")
+        set(program desktopInternals)
+    endif()
+    uic_test(${class} PROGRAM ${program} NAME desktop.${class} LABEL desktop
         LAUNCHER ${launcher} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_UNPARSED_ARGUMENTS})
     # Two desktops at once on a small machine only wait for each other, where the tests leave them time to.
     set_tests_properties(desktop.${class} PROPERTIES PROCESSORS 2)
@@ -51,7 +78,8 @@ function(uic_desktop_variant class name)
     if(arg_SCREENS)
         list(APPEND launcher --screens "${arg_SCREENS}")
     endif()
-    add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:tst_${class}> ${arg_ARGUMENTS})
+    get_property(program GLOBAL PROPERTY UIC_PROGRAM_desktop.${class})
+    add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:${program}> ${class} ${arg_ARGUMENTS})
     foreach(property LABELS TIMEOUT FAIL_REGULAR_EXPRESSION PROCESSORS)
         get_test_property(desktop.${class} ${property} value)
         set_tests_properties(${test} PROPERTIES ${property} "${value}")

@@ -10,7 +10,7 @@
  * thread deletes with operator delete, in whatever library, is filled with a pattern and kept.
  *
  * A test that uses it lists FreedMemory.cpp among its SOURCES, which replaces operator new and delete of
- * the whole program. One watch at a time, and only briefly: the memory is not reused until its end.
+ * its whole program. One watch at a time, and only briefly: the memory is not reused until its end.
  */
 class FreedMemoryWatch
 {

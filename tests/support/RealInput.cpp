@@ -50,7 +50,8 @@ bool RealInput::moveTo(const QWidget* widget, const QPoint& point)
 
 bool RealInput::click(const QWidget* widget, const QPoint& point)
 {
-    return moveTo(widget, point) && xdotool({QStringLiteral("click"), QStringLiteral("1")});
+    return moveTo(widget, point) && xdotool({QStringLiteral("click"), QStringLiteral("--delay"),
+                                             QStringLiteral("0"), QStringLiteral("1")});
 }
 
 bool RealInput::click(const QWidget* widget)
@@ -77,8 +78,9 @@ bool RealInput::wheel(const QWidget* widget, const QPoint& point, int notches)
 {
     // X has no wheel: buttons 4 and 5 are its two directions.
     const QString button = notches > 0 ? QStringLiteral("4") : QStringLiteral("5");
-    return moveTo(widget, point) && xdotool({QStringLiteral("click"), QStringLiteral("--repeat"),
-                                             QString::number(qAbs(notches)), button});
+    return moveTo(widget, point) &&
+           xdotool({QStringLiteral("click"), QStringLiteral("--delay"), QStringLiteral("0"),
+                    QStringLiteral("--repeat"), QString::number(qAbs(notches)), button});
 }
 
 bool RealInput::type(const QString& text)

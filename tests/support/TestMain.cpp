@@ -1,65 +1,42 @@
 #include "TestMain.h"
 
-#include <QStyleFactory>
-
 #include <cstdio>
+#include <map>
 
 namespace {
 
-QtMessageHandler testHandler = nullptr;
-
-void dropPlatformLimits(QtMsgType type, const QMessageLogContext& context, const QString& message)
+std::map<QByteArray, TestFactory>& classes()
 {
-    if (!message.startsWith(QLatin1String("This plugin does not support "))) {
-        testHandler(type, context, message);
-    }
+    static std::map<QByteArray, TestFactory> instance;
+    return instance;
 }
 
 } // namespace
 
-TestEnvironment::TestEnvironment()
+bool addTestClass(const char* name, TestFactory make)
 {
-    // Not QStandardPaths' test mode: that is one folder for all, and several tests run at once.
-    qputenv("HOME", QFile::encodeName(m_home.path()));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.filePath(QStringLiteral("config"))));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.filePath(QStringLiteral("data"))));
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(m_home.filePath(QStringLiteral("cache"))));
-    if (qEnvironmentVariable("QT_QPA_PLATFORM") == QLatin1String("offscreen")) {
-        // The platform has no OpenGL, and Qt ends a program that shows a QML scene there.
-        qputenv("QT_QUICK_BACKEND", "software");
-    }
+    return classes().emplace(name, make).second;
 }
 
-void TestEnvironment::prepareApplication()
+// The first argument names the class, the others are Qt Test's.
+int main(int argc, char** argv)
 {
-    QApplication::setOrganizationName(QStringLiteral("UiComponents tests"));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
-}
-
-int TestEnvironment::run(QObject* test, int argc, char** argv)
-{
-    // What QTest::qExec() does, in the steps of which the first installs the handler that the tests have.
-    QTest::qInit(test, argc, argv);
-    testHandler = qInstallMessageHandler(dropPlatformLimits);
-    const int result = QTest::qRun();
-    qInstallMessageHandler(testHandler);
-    QTest::qCleanup();
-    return result;
-}
-
-int TestEnvironment::reportLeftovers(int result)
-{
-    // Deferred deletions of the last test are due, not leaked.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const auto widgets = QApplication::topLevelWidgets();
-    for (const QWidget* widget : widgets) {
-        if (widget->testAttribute(Qt::WA_DontShowOnScreen) || widget->inherits("QTipLabel")) {
-            continue;
+    const auto found = argc > 1 ? classes().find(QByteArray("tst_").append(argv[1])) : classes().end();
+    if (found == classes().end()) {
+        std::fprintf(stderr, "usage: %s CLASS [FUNCTION...], of the classes\n", argv[0]);
+        for (const auto& entry : classes()) {
+            std::fprintf(stderr, "  %s\n", entry.first.constData() + qstrlen("tst_"));
         }
-        std::fprintf(stderr, "leaked top-level widget: %s \"%s\"\n", widget->metaObject()->className(),
-                     qPrintable(widget->objectName()));
-        result = qMax(result, 1);
+        return 2;
     }
-    return result;
+    argv[1] = argv[0];
+    --argc;
+    ++argv;
+
+    const TestEnvironment environment;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QString::fromLatin1(found->first));
+    TestEnvironment::prepareApplication();
+    const int result = TestEnvironment::run(found->second().get(), argc, argv);
+    return TestEnvironment::reportLeftovers(result);
 }

@@ -1,44 +1,23 @@
 #pragma once
 
+#include "TestEnvironment.h"
+
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QtTest>
 
-/**
- * The surroundings that every test program runs in: a home of its own, so that nothing of the user's is
- * read or written, and one style for comparable pictures.
- */
-class TestEnvironment
+#include <memory>
+
+using TestFactory = std::unique_ptr<QObject> (*)();
+
+/// Adds a class of tests to those that main() can run, which is given a name without "tst_". Returns true.
+bool addTestClass(const char* name, TestFactory make);
+
+template <typename Test>
+std::unique_ptr<QObject> makeTest()
 {
-public:
-    TestEnvironment();
+    return std::make_unique<Test>();
+}
 
-    /// After construction of the application.
-    static void prepareApplication();
-
-    /// Runs the tests of @p test. What the off-screen platform says that it cannot do (raising a window,
-    /// grabbing keys for a menu) counts as no warning: no test off screen is about that.
-    static int run(QObject* test, int argc, char** argv);
-
-    /// Fails the run when top-level widgets that did not exist before the tests are still alive: the
-    /// leak checker does not see them, because Qt's own list of widgets refers to them.
-    static int reportLeftovers(int result);
-
-private:
-    QTemporaryDir m_home;
-};
-
-/// The main function of a test program. Its last line includes "<this file>.moc".
+/// Adds a class to the program that its file is linked into. The file's last line includes "<this file>.moc".
 #define UIC_TEST_MAIN(TestClass)                                                                             \
-    int main(int argc, char** argv)                                                                          \
-    {                                                                                                        \
-        const TestEnvironment environment;                                                                   \
-        QApplication application(argc, argv);                                                                \
-        TestEnvironment::prepareApplication();                                                               \
-        int result = 0;                                                                                      \
-        {                                                                                                    \
-            TestClass test;                                                                                  \
-            result = TestEnvironment::run(&test, argc, argv);                                                \
-        }                                                                                                    \
-        return TestEnvironment::reportLeftovers(result);                                                     \
-    }
+    [[maybe_unused]] static const bool isAdded_##TestClass = addTestClass(#TestClass, makeTest<TestClass>);

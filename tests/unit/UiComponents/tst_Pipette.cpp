@@ -1033,7 +1033,7 @@ void tst_Pipette::pipetteMayBeTheApplicationsChild()
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("pipetteMayBeTheApplicationsChild")});
+                  {QStringLiteral("Pipette"), QStringLiteral("pipetteMayBeTheApplicationsChild")});
     QVERIFY(process.waitForFinished());
     const QByteArray words = process.readAll();
     QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0, words.constData());
