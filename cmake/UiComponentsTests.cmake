@@ -64,8 +64,6 @@ function(uic_desktop_test class)
     endif()
     uic_test(${class} PROGRAM ${program} NAME desktop.${class} LABEL desktop
         LAUNCHER ${launcher} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_UNPARSED_ARGUMENTS})
-    # Two desktops at once on a small machine only wait for each other, where the tests leave them time to.
-    set_tests_properties(desktop.${class} PROPERTIES PROCESSORS 2)
 endfunction()
 
 # uic_desktop_variant(<Class> <name> [SCREENS <layout>] [ENVIRONMENT <variable...>] [ARGUMENTS <function...>]):
@@ -80,7 +78,7 @@ function(uic_desktop_variant class name)
     endif()
     get_property(program GLOBAL PROPERTY UIC_PROGRAM_desktop.${class})
     add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:${program}> ${class} ${arg_ARGUMENTS})
-    foreach(property LABELS TIMEOUT FAIL_REGULAR_EXPRESSION PROCESSORS)
+    foreach(property LABELS TIMEOUT FAIL_REGULAR_EXPRESSION)
         get_test_property(desktop.${class} ${property} value)
         set_tests_properties(${test} PROPERTIES ${property} "${value}")
     endforeach()

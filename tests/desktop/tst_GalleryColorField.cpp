@@ -100,7 +100,7 @@ QColorDialog* tst_GalleryColorField::dialog() const
     return found && found->isVisible() ? found : nullptr;
 }
 
-/// Clicks one of the basic colours of Qt's dialog and returns what the screen showed there before. Invalid
+/// Clicks one of the basic colours of Qt's dialog as soon as the screen shows it, and returns it. Invalid
 /// when it could not be clicked.
 QColor tst_GalleryColorField::clickBasicColour(QColorDialog* dialog, int row, int column) const
 {
@@ -110,8 +110,11 @@ QColor tst_GalleryColorField::clickBasicColour(QColorDialog* dialog, int row, in
         if (child->inherits("QWellArray")) {
             const QPoint middle(column * Cell.width() + Cell.width() / 2,
                                 row * Cell.height() + Cell.height() / 2);
-            const QColor shown = RealInput::pixel(child, middle);
-            return RealInput::click(child, middle) ? shown : QColor();
+            const QColor shown = dialog->grab().toImage().pixelColor(child->mapTo(dialog, middle));
+            const bool isClicked =
+                QTest::qWaitFor([=] { return RealInput::pixel(child, middle) == shown; }) &&
+                RealInput::click(child, middle);
+            return isClicked ? shown : QColor();
         }
     }
     return {};

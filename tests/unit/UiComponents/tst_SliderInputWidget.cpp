@@ -1,74 +1,36 @@
 #include "FocusedBy.h"
 #include "FreedMemory.h"
 #include "MetaObject.h"
+#include "SliderField.h"
 #include "SpinBoxTyping.h"
 #include "TestMain.h"
 #include "Wheel.h"
 
-#include <UiComponents/SliderInputWidget.h>
-#include <WidgetToolkit/OvCustomSlider.h>
-#include <WidgetToolkit/OvSpinBox.h>
-
-#include <QFormLayout>
 #include <QLabel>
 #include <QLayout>
-#include <QLineEdit>
-#include <QPointer>
 #include <QSignalSpy>
-#include <QtMath>
 
 #include <limits>
 #include <memory>
 #include <random>
-#include <utility>
 
 namespace {
 
-using Values = QVector<int>;
+using Values = SliderField::Values;
 using Limits = std::numeric_limits<int>;
-
-OvCustomSlider* sliderOf(const QWidget& field)
-{
-    return field.findChild<OvCustomSlider*>(QStringLiteral("slider"), Qt::FindDirectChildrenOnly);
-}
-
-OvSpinBox* spinBoxOf(const QWidget& field)
-{
-    return field.findChild<OvSpinBox*>(QStringLiteral("spinbox"), Qt::FindDirectChildrenOnly);
-}
-
-/// A field that records what it reports.
-class Field : public SliderInputWidget
-{
-public:
-    Field(int minimum, int maximum, QWidget* parent = nullptr)
-        : SliderInputWidget(parent, {minimum, maximum})
-    {
-        connect(this, &SliderInputWidget::valueChanged, this, [this](int value) {
-            m_reports += value;
-            inStep = inStep && slider->value() == value && spinBox->value() == value;
-        });
-    }
-
-    /// What was reported since the last call.
-    Values reports() { return std::exchange(m_reports, {}); }
-
-    OvCustomSlider* const slider = sliderOf(*this);
-    OvSpinBox* const spinBox = spinBoxOf(*this);
-    /// Whether both parts showed the value whenever it was reported.
-    bool inStep = true;
-
-private:
-    Values m_reports;
-};
 
 } // namespace
 
+/**
+ * What the fields for whole numbers and for fractions have in common: every test runs with both, and counts
+ * in steps. tst_DoubleSliderInputWidget has what only fractions can do.
+ */
 class tst_SliderInputWidget : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
     void metaObject();
     void initializer();
     void construction();
@@ -108,14 +70,40 @@ private Q_SLOTS:
     void disabled();
     void rightToLeft();
     void sheetSetsMetrics();
+
+private:
+    /// A field of the kind that the tests are running with.
+    static std::unique_ptr<SliderField> makeField(int minimum, int maximum, QWidget* parent = nullptr)
+    {
+        return std::make_unique<SliderField>(decimals(), minimum, maximum, parent);
+    }
+
+    static int decimals()
+    {
+        QFETCH_GLOBAL(int, decimals);
+        return decimals;
+    }
+    static bool isWhole() { return decimals() == SliderField::whole; }
+    /// The steps that are 1.
+    static int unit() { return isWhole() ? 1 : 100; }
 };
+
+void tst_SliderInputWidget::initTestCase_data()
+{
+    QTest::addColumn<int>("decimals");
+    QTest::newRow("whole") << SliderField::whole;
+    QTest::newRow("fractions") << 2;
+}
 
 void tst_SliderInputWidget::metaObject()
 {
-    const QMetaObject& meta = SliderInputWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("SliderInputWidget"));
+    const auto field = makeField(0, 1);
+    const QMetaObject& meta = *field->widget->metaObject();
+    QCOMPARE(QByteArray(meta.className()),
+             QByteArray(isWhole() ? "SliderInputWidget" : "DoubleSliderInputWidget"));
     QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal valueChanged(int)")}));
+    QCOMPARE(ownMethods(meta), QStringList({isWhole() ? QStringLiteral("signal valueChanged(int)")
+                                                      : QStringLiteral("signal valueChanged(double)")}));
     QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
     QCOMPARE(ownProperties(meta), QStringList());
 }
@@ -125,43 +113,52 @@ void tst_SliderInputWidget::initializer()
     const auto [minimum, maximum] = SliderInputWidget::Initializer{-3, 8};
     QCOMPARE(minimum, -3);
     QCOMPARE(maximum, 8);
+    const auto [least, most, decimals] = DoubleSliderInputWidget::Initializer{-0.5, 8.0, 3};
+    QCOMPARE(least, -0.5);
+    QCOMPARE(most, 8.0);
+    QCOMPARE(decimals, 3);
 }
 
 void tst_SliderInputWidget::construction()
 {
     QWidget parent;
-    const auto* field = new SliderInputWidget(&parent, {-3, 8});
-    QCOMPARE(field->parentWidget(), &parent);
+    const auto field = makeField(-3, 8, &parent);
+    QCOMPARE(field->widget->parentWidget(), &parent);
 
-    OvCustomSlider* slider = sliderOf(*field);
-    OvSpinBox* spinBox = spinBoxOf(*field);
-    QVERIFY(slider);
-    QVERIFY(spinBox);
-    QLayout* layout = field->layout();
+    QVERIFY(field->slider);
+    QVERIFY(field->spinBox);
+    QCOMPARE(QByteArray(field->slider->metaObject()->className()),
+             QByteArray(isWhole() ? "OvCustomSlider" : "OvDoubleSlider"));
+    QCOMPARE(QByteArray(field->spinBox->metaObject()->className()),
+             QByteArray(isWhole() ? "OvSpinBox" : "OvDoubleSpinBox"));
+    QLayout* layout = field->widget->layout();
     QVERIFY(layout);
     QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
     QCOMPARE(layout->contentsMargins(), QMargins());
     QCOMPARE(layout->spacing(), 0);
     QCOMPARE(layout->count(), 2);
-    QCOMPARE(layout->itemAt(0)->widget(), slider);
-    QCOMPARE(layout->itemAt(1)->widget(), spinBox);
+    QCOMPARE(layout->itemAt(0)->widget(), field->slider);
+    QCOMPARE(layout->itemAt(1)->widget(), field->spinBox);
 
-    QCOMPARE(slider->orientation(), Qt::Horizontal);
-    QCOMPARE(slider->minimum(), -3);
-    QCOMPARE(slider->maximum(), 8);
-    QCOMPARE(spinBox->minimum(), -3);
-    QCOMPARE(spinBox->maximum(), 8);
-    QCOMPARE(spinBox->alignment(), Qt::Alignment(Qt::AlignCenter));
-    QCOMPARE(spinBox->buttonSymbols(), QAbstractSpinBox::NoButtons);
-    QCOMPARE(spinBox->correctionMode(), QAbstractSpinBox::CorrectToNearestValue);
+    QCOMPARE(field->slider->orientation(), Qt::Horizontal);
+    QCOMPARE(field->slider->minimum(), -3);
+    QCOMPARE(field->slider->maximum(), 8);
+    QCOMPARE(field->spinBox->property("minimum").toDouble(), field->number(-3));
+    QCOMPARE(field->spinBox->property("maximum").toDouble(), field->number(8));
+    QCOMPARE(field->spinBox->property("singleStep").toDouble(), field->number(1));
+    QCOMPARE(field->spinBox->alignment(), Qt::Alignment(Qt::AlignCenter));
+    QCOMPARE(field->spinBox->buttonSymbols(), QAbstractSpinBox::NoButtons);
+    QCOMPARE(field->spinBox->correctionMode(), QAbstractSpinBox::CorrectToNearestValue);
 }
 
-// A queued emission would still reach the field's recorder.
+// A queued emission would still reach the recorder.
 void tst_SliderInputWidget::constructionIsSilent()
 {
-    Field field(10, 20);
+    const auto field = makeField(10, 20);
+    field->widget->show();
     QCoreApplication::processEvents();
-    QCOMPARE(field.reports(), Values());
+    QCOMPARE(field->reports(), Values());
+    QVERIFY(field->shows(10));
 }
 
 void tst_SliderInputWidget::firstValue_data()
@@ -172,7 +169,7 @@ void tst_SliderInputWidget::firstValue_data()
     QTest::newRow("0 inside") << -5 << 5 << 0;
     QTest::newRow("above 0") << 10 << 20 << 10;
     QTest::newRow("below 0") << -20 << -10 << -10;
-    QTest::newRow("beyond the spin box's own range") << 1000 << 2000 << 1000;
+    QTest::newRow("beyond the spin box's own range") << 100000 << 200000 << 100000;
 }
 
 void tst_SliderInputWidget::firstValue()
@@ -180,36 +177,38 @@ void tst_SliderInputWidget::firstValue()
     QFETCH(int, minimum);
     QFETCH(int, maximum);
     QFETCH(int, value);
-    const Field field(minimum, maximum);
-    QCOMPARE(field.slider->value(), value);
-    QCOMPARE(field.spinBox->value(), value);
+    QVERIFY(makeField(minimum, maximum)->shows(value));
 }
 
 void tst_SliderInputWidget::setValueReportsTwice()
 {
-    Field field(0, 100);
+    const auto field = makeField(0, 100);
     QStringList order;
-    connect(field.slider, &QAbstractSlider::valueChanged, this, [&] { order += QStringLiteral("slider"); });
-    connect(field.spinBox, qOverload<int>(&QSpinBox::valueChanged), this,
-            [&] { order += QStringLiteral("spin box"); });
-    field.setValue(42);
+    const auto onSpinBox = [&] { order += QStringLiteral("spin box"); };
+    connect(field->slider, &QAbstractSlider::valueChanged, this, [&] { order += QStringLiteral("slider"); });
+    if (auto* box = qobject_cast<OvSpinBox*>(field->spinBox)) {
+        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, onSpinBox);
+    } else if (auto* fractions = qobject_cast<OvDoubleSpinBox*>(field->spinBox)) {
+        connect(fractions, qOverload<double>(&QDoubleSpinBox::valueChanged), this, onSpinBox);
+    }
+    field->setValue(42);
     // The spin box was set, and the slider followed it before the spin box's own report.
-    QCOMPARE(field.reports(), Values({42, 42}));
+    QCOMPARE(field->reports(), Values({42, 42}));
     QCOMPARE(order, QStringList({QStringLiteral("slider"), QStringLiteral("spin box")}));
-    QVERIFY(field.inStep);
-    QCOMPARE(field.slider->value(), 42);
-    QCOMPARE(field.spinBox->value(), 42);
+    QVERIFY(field->inStep);
+    QVERIFY(field->shows(42));
+    QCOMPARE(field->spinBox->text(), field->text(42));
 }
 
 void tst_SliderInputWidget::setValueOfThePresentValue()
 {
-    Field field(0, 100);
-    field.setValue(0);
-    QCOMPARE(field.reports(), Values());
-    field.setValue(42);
-    field.reports();
-    field.setValue(42);
-    QCOMPARE(field.reports(), Values());
+    const auto field = makeField(0, 100);
+    field->setValue(0);
+    QCOMPARE(field->reports(), Values());
+    field->setValue(42);
+    field->reports();
+    field->setValue(42);
+    QCOMPARE(field->reports(), Values());
 }
 
 void tst_SliderInputWidget::setValueIsClamped_data()
@@ -226,82 +225,85 @@ void tst_SliderInputWidget::setValueIsClamped()
 {
     QFETCH(int, value);
     QFETCH(int, reported);
-    Field field(-50, 100);
-    field.setValue(value);
-    QCOMPARE(field.reports(), Values({reported, reported}));
-    QVERIFY(field.inStep);
-    field.setValue(value);
-    QCOMPARE(field.reports(), Values());
+    const auto field = makeField(-50, 100);
+    field->setValue(value);
+    QCOMPARE(field->reports(), Values({reported, reported}));
+    QVERIFY(field->inStep);
+    field->setValue(value);
+    QCOMPARE(field->reports(), Values());
 }
 
 // The slider is given both ends as they are and makes the minimum win.
 void tst_SliderInputWidget::reversedRange()
 {
-    Field field(9, 3);
-    QCOMPARE(field.slider->minimum(), 9);
-    QCOMPARE(field.slider->maximum(), 9);
-    QCOMPARE(field.spinBox->minimum(), 9);
-    QCOMPARE(field.spinBox->maximum(), 9);
-    field.setValue(5);
-    QCOMPARE(field.reports(), Values());
-    QCOMPARE(field.spinBox->value(), 9);
+    const auto field = makeField(9, 3);
+    QCOMPARE(field->slider->minimum(), 9);
+    QCOMPARE(field->slider->maximum(), 9);
+    QCOMPARE(field->spinBox->property("minimum").toDouble(), field->number(9));
+    QCOMPARE(field->spinBox->property("maximum").toDouble(), field->number(9));
+    field->setValue(5);
+    QCOMPARE(field->reports(), Values());
+    QVERIFY(field->shows(9));
 }
 
 void tst_SliderInputWidget::rangeOfOneValue()
 {
-    Field field(7, 7);
-    QCOMPARE(field.slider->value(), 7);
-    QCOMPARE(field.spinBox->value(), 7);
-    field.setValue(8);
-    QTest::keyClick(field.slider, Qt::Key_Right);
-    QTest::keyClick(field.spinBox, Qt::Key_Up);
-    QCOMPARE(field.reports(), Values());
+    const auto field = makeField(7, 7);
+    QVERIFY(field->shows(7));
+    field->setValue(8);
+    QTest::keyClick(field->slider, Qt::Key_Right);
+    QTest::keyClick(field->spinBox, Qt::Key_Up);
+    QCOMPARE(field->reports(), Values());
 }
 
 void tst_SliderInputWidget::extremesOf32Bits()
 {
-    Field field(Limits::min(), Limits::max());
-    field.show();
-    field.setValue(Limits::max());
-    QCOMPARE(field.reports(), Values({Limits::max(), Limits::max()}));
-    field.setValue(Limits::min());
-    QCOMPARE(field.reports(), Values({Limits::min(), Limits::min()}));
-    field.grab();
-    QTest::keyClick(field.spinBox, Qt::Key_Down);
-    QTest::keyClick(field.slider, Qt::Key_Left);
-    QCOMPARE(field.reports(), Values());
-    typeInto(field.spinBox, QStringLiteral("2147483647"));
-    QCOMPARE(field.spinBox->value(), Limits::max());
-    QCOMPARE(field.slider->value(), Limits::max());
-    QVERIFY(field.inStep);
+    const auto field = makeField(Limits::min(), Limits::max());
+    field->widget->show();
+    field->setValue(Limits::max());
+    QCOMPARE(field->reports(), Values({Limits::max(), Limits::max()}));
+    field->setValue(Limits::min());
+    QCOMPARE(field->reports(), Values({Limits::min(), Limits::min()}));
+    field->widget->grab();
+    QTest::keyClick(field->spinBox, Qt::Key_Down);
+    QTest::keyClick(field->slider, Qt::Key_Left);
+    QCOMPARE(field->reports(), Values());
+    typeInto(field->spinBox, field->text(Limits::max()));
+    QVERIFY(field->shows(Limits::max()));
+    QVERIFY(field->inStep);
 }
 
 void tst_SliderInputWidget::randomWalk_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 20; ++seed) {
+    for (unsigned seed = 0; seed < 40; ++seed) {
         QTest::addRow("seed %u", seed) << seed;
     }
 }
 
+// Fractions are counted in whole steps and turned into doubles as text: no rounding of doubles is part of
+// what is expected.
 void tst_SliderInputWidget::randomWalk()
 {
     QFETCH(unsigned, seed);
+    const int digits = isWhole() ? SliderField::whole : static_cast<int>(seed % 10);
     std::mt19937 generator(seed);
     // Of any size: as many small numbers as large ones.
     const auto any = [&generator] {
         return static_cast<int>(static_cast<qint32>(generator()) >> (generator() % 31));
     };
-    for (int round = 0; round < 20; ++round) {
+    for (int round = 0; round < 12; ++round) {
         const int minimum = any();
         const int maximum = any();
         const int last = qMax(minimum, maximum);
-        Field field(minimum, maximum);
-        field.show(); // the text is written only then
+        SliderField field(digits, minimum, maximum);
+        field.widget->show(); // the text is written only then
         int value = qBound(minimum, 0, last);
-        for (int step = 0; step < 20; ++step) {
-            int wanted = any();
-            switch (generator() % 4) {
+        for (int step = 0; step < 16; ++step) {
+            const int wanted = any();
+            const int expected = qBound(minimum, wanted, last);
+            // Into a field of one value nothing can be typed.
+            switch (generator() % (minimum == last ? 4 : 5)) {
             case 0:
                 field.setValue(wanted);
                 break;
@@ -309,19 +311,31 @@ void tst_SliderInputWidget::randomWalk()
                 field.slider->setValue(wanted);
                 break;
             case 2:
-                field.spinBox->setValue(wanted);
+                field.setSpinBox(wanted);
                 break;
-            default:
+            case 3:
+                if (auto* fractions = qobject_cast<DoubleSliderInputWidget*>(field.widget)) {
+                    // Nearest to the same step.
+                    fractions->setValue(
+                        decimalNumber(qint64(wanted) * 100 + qint64(generator() % 99) - 49, digits + 2));
+                } else {
+                    field.setValue(wanted);
+                }
+                break;
+            default: {
                 // A digit that leads out of the range is not taken.
-                wanted = qBound(minimum, wanted, last);
-                typeInto(field.spinBox, QString::number(wanted));
+                QString text = field.text(expected);
+                if (generator() % 2 == 0) {
+                    text.replace(QLatin1Char('.'), QLatin1Char(','));
+                }
+                typeInto(field.spinBox, text);
+                QCOMPARE(field.edit->text(), text);
                 QTest::keyClick(field.spinBox, Qt::Key_Return);
                 break;
             }
-            const int expected = qBound(minimum, wanted, last);
-            QCOMPARE(field.slider->value(), expected);
-            QCOMPARE(field.spinBox->value(), expected);
-            QCOMPARE(field.spinBox->cleanText(), QString::number(expected));
+            }
+            QVERIFY(field.shows(expected));
+            QCOMPARE(field.edit->text(), field.text(expected));
             const Values reports = field.reports();
             QVERIFY(field.inStep);
             QCOMPARE(reports.isEmpty() ? value : reports.last(), expected);
@@ -333,81 +347,84 @@ void tst_SliderInputWidget::randomWalk()
 // The spin box follows first and reports; then the slider does.
 void tst_SliderInputWidget::sliderMoves()
 {
-    Field field(0, 100);
-    field.slider->setSliderDown(true);
-    field.slider->setSliderPosition(30);
-    QCOMPARE(field.reports(), Values({30, 30}));
-    field.slider->setSliderPosition(30);
-    QCOMPARE(field.reports(), Values());
-    field.slider->setSliderDown(false);
-    QCOMPARE(field.reports(), Values());
-    QCOMPARE(field.spinBox->cleanText(), QStringLiteral("30"));
-    QVERIFY(field.inStep);
+    const auto field = makeField(0, 100);
+    field->slider->setSliderDown(true);
+    field->slider->setSliderPosition(29);
+    QCOMPARE(field->reports(), Values({29, 29}));
+    field->slider->setSliderPosition(29);
+    QCOMPARE(field->reports(), Values());
+    field->slider->setSliderDown(false);
+    QCOMPARE(field->reports(), Values());
+    QCOMPARE(field->spinBox->text(), field->text(29));
+    QVERIFY(field->inStep);
 }
 
 void tst_SliderInputWidget::sliderKeys()
 {
-    Field field(0, 100);
-    QTest::keyClick(field.slider, Qt::Key_Right);
-    QCOMPARE(field.reports(), Values({1, 1}));
-    QTest::keyClick(field.slider, Qt::Key_End);
-    QCOMPARE(field.reports(), Values({100, 100}));
-    QTest::keyClick(field.slider, Qt::Key_Right);
-    QCOMPARE(field.reports(), Values());
+    const auto field = makeField(0, 100);
+    QTest::keyClick(field->slider, Qt::Key_Right);
+    QCOMPARE(field->reports(), Values({1, 1}));
+    QTest::keyClick(field->slider, Qt::Key_End);
+    QCOMPARE(field->reports(), Values({100, 100}));
+    QTest::keyClick(field->slider, Qt::Key_Right);
+    QCOMPARE(field->reports(), Values());
+    QTest::keyClick(field->slider, Qt::Key_Left);
+    QCOMPARE(field->reports(), Values({99, 99}));
 }
 
 void tst_SliderInputWidget::spinBoxSteps()
 {
-    Field field(0, 100);
-    QTest::keyClick(field.spinBox, Qt::Key_Up);
-    QCOMPARE(field.reports(), Values({1, 1}));
-    QTest::keyClick(field.spinBox, Qt::Key_PageUp);
-    QCOMPARE(field.reports(), Values({11, 11}));
-    QCOMPARE(field.slider->value(), 11);
-    QVERIFY(field.inStep);
+    const auto field = makeField(0, 100);
+    for (int i = 1; i <= 90; ++i) {
+        QTest::keyClick(field->spinBox, Qt::Key_Up);
+        QVERIFY(field->shows(i));
+        QCOMPARE(field->reports(), Values({i, i}));
+    }
+    QTest::keyClick(field->spinBox, Qt::Key_PageUp);
+    QCOMPARE(field->reports(), Values({100, 100}));
+    QTest::keyClick(field->spinBox, Qt::Key_Up);
+    QCOMPARE(field->reports(), Values());
+    QVERIFY(field->shows(100));
+    QVERIFY(field->inStep);
 }
 
 void tst_SliderInputWidget::typingIsNotRewritten()
 {
-    Field field(-100, 100);
-    const QLineEdit* edit = field.spinBox->findChild<QLineEdit*>();
-    field.spinBox->selectAll();
-    QTest::keyClicks(field.spinBox, QStringLiteral("-0"));
-    QCOMPARE(edit->text(), QStringLiteral("-0"));
-    QTest::keyClicks(field.spinBox, QStringLiteral("07"));
-    QCOMPARE(edit->text(), QStringLiteral("-007"));
-    QCOMPARE(edit->cursorPosition(), 4);
-    QCOMPARE(field.reports(), Values({-7, -7}));
-    QCOMPARE(field.slider->value(), -7);
-    QTest::keyClick(field.spinBox, Qt::Key_Return);
-    QCOMPARE(edit->text(), QStringLiteral("-7"));
-    QCOMPARE(field.reports(), Values());
+    const auto field = makeField(-100 * unit(), 100 * unit());
+    field->spinBox->selectAll();
+    QTest::keyClicks(field->spinBox, QStringLiteral("-0"));
+    QCOMPARE(field->edit->text(), QStringLiteral("-0"));
+    QTest::keyClicks(field->spinBox, QStringLiteral("07"));
+    QCOMPARE(field->edit->text(), QStringLiteral("-007"));
+    QCOMPARE(field->edit->cursorPosition(), 4);
+    QCOMPARE(field->reports(), Values({-7 * unit(), -7 * unit()}));
+    QVERIFY(field->shows(-7 * unit()));
+    QTest::keyClick(field->spinBox, Qt::Key_Return);
+    QCOMPARE(field->edit->text(), field->text(-7 * unit()));
+    QCOMPARE(field->reports(), Values());
 }
 
 void tst_SliderInputWidget::typedBeyondTheRange_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("value");
-    QTest::newRow("too small") << "20" << 100;
-    QTest::newRow("nothing") << "" << 100;
+    QTest::newRow("too small") << "20";
+    QTest::newRow("nothing") << "";
 }
 
 void tst_SliderInputWidget::typedBeyondTheRange()
 {
     QFETCH(QString, text);
-    QFETCH(int, value);
-    Field field(100, 200);
-    field.setValue(150);
-    field.reports();
-    field.spinBox->selectAll();
-    QTest::keyClick(field.spinBox, Qt::Key_Delete);
-    QTest::keyClicks(field.spinBox, text);
-    QCOMPARE(field.reports(), Values());
-    QTest::keyClick(field.spinBox, Qt::Key_Return);
-    QCOMPARE(field.spinBox->value(), value);
-    QCOMPARE(field.slider->value(), value);
-    QCOMPARE(field.spinBox->cleanText(), QString::number(value));
-    QVERIFY(field.inStep);
+    const auto field = makeField(100 * unit(), 200 * unit());
+    field->setValue(150 * unit());
+    field->reports();
+    field->spinBox->selectAll();
+    QTest::keyClick(field->spinBox, Qt::Key_Delete);
+    QTest::keyClicks(field->spinBox, text);
+    QCOMPARE(field->reports(), Values());
+    QTest::keyClick(field->spinBox, Qt::Key_Return);
+    QVERIFY(field->shows(100 * unit()));
+    QCOMPARE(field->edit->text(), field->text(100 * unit()));
+    QVERIFY(field->inStep);
 }
 
 void tst_SliderInputWidget::wheelNeedsFocus_data()
@@ -422,71 +439,66 @@ void tst_SliderInputWidget::wheelNeedsFocus()
     QFETCH(QString, part);
     QWidget window;
     QLineEdit other(&window);
-    Field field(0, 100, &window);
-    auto* target = field.findChild<QWidget*>(part);
+    const auto field = makeField(0, 100, &window);
+    auto* target = field->widget->findChild<QWidget*>(part);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     other.setFocus();
     QVERIFY(!turnWheel(*target, 120));
-    QCOMPARE(field.reports(), Values());
+    QCOMPARE(field->reports(), Values());
     target->setFocus();
     QVERIFY(turnWheel(*target, 120));
-    QVERIFY(!field.reports().isEmpty());
-    QVERIFY(field.inStep);
+    QVERIFY(!field->reports().isEmpty());
+    QVERIFY(field->inStep);
 }
 
 void tst_SliderInputWidget::slotSetsAnotherValue()
 {
-    Field field(0, 100);
+    const auto field = makeField(0, 100);
     bool once = true;
-    connect(&field, &SliderInputWidget::valueChanged, this, [&] {
+    field->onReport = [&](int) {
         if (once) {
             once = false;
-            field.setValue(70);
+            field->setValue(70);
         }
-    });
-    field.setValue(20);
-    QCOMPARE(field.slider->value(), 70);
-    QCOMPARE(field.spinBox->value(), 70);
+    };
+    field->setValue(20);
+    QVERIFY(field->shows(70));
     // The second report of the first value was on its way already.
-    QCOMPARE(field.reports(), Values({20, 70, 70, 20}));
+    QCOMPARE(field->reports(), Values({20, 70, 70, 20}));
 }
 
 // Such as a host that takes only multiples of ten.
 void tst_SliderInputWidget::slotKeepsSettingOtherValues()
 {
-    Field field(0, 100);
-    connect(&field, &SliderInputWidget::valueChanged, this,
-            [&field](int value) { field.setValue(value / 10 * 10); });
-    field.setValue(37);
-    QCOMPARE(field.spinBox->value(), 30);
-    QCOMPARE(field.slider->value(), 30);
-    field.slider->setValue(58);
-    QCOMPARE(field.spinBox->value(), 50);
-    QCOMPARE(field.slider->value(), 50);
-    field.spinBox->setValue(99);
-    QCOMPARE(field.spinBox->value(), 90);
-    QCOMPARE(field.slider->value(), 90);
+    const auto field = makeField(0, 100);
+    field->onReport = [&field](int value) { field->setValue(value / 10 * 10); };
+    field->setValue(37);
+    QVERIFY(field->shows(30));
+    field->slider->setValue(58);
+    QVERIFY(field->shows(50));
+    field->setSpinBox(99);
+    QVERIFY(field->shows(90));
 }
 
 void tst_SliderInputWidget::partMovedInASlot()
 {
-    Field field(0, 100);
-    connect(field.slider, &QAbstractSlider::valueChanged, this, [&field](int value) {
+    const auto field = makeField(0, 100);
+    connect(field->slider, &QAbstractSlider::valueChanged, this, [&field](int value) {
         if (value == 20) {
-            field.slider->setValue(80);
+            field->slider->setValue(80);
         }
     });
-    field.setValue(20);
-    QCOMPARE(field.slider->value(), field.spinBox->value());
-    QCOMPARE(field.slider->value(), 80);
+    field->setValue(20);
+    QVERIFY(field->shows(80));
 }
 
 void tst_SliderInputWidget::deletedInItsSignal_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<bool>("withParent");
-    for (const char* action : {"setValue", "slider", "drag", "slider key", "spin box", "Enter"}) {
+    for (const char* action :
+         {"setValue", "slider", "fraction of the slider", "drag", "slider key", "spin box", "Enter"}) {
         QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
         QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
     }
@@ -498,34 +510,32 @@ void tst_SliderInputWidget::deletedInItsSignal()
     QFETCH(bool, withParent);
     const FreedMemoryWatch watch;
     const QPointer<QWidget> parent = new QWidget;
-    const QPointer<SliderInputWidget> field =
-        new SliderInputWidget(withParent ? parent.data() : nullptr, {0, 100});
-    OvCustomSlider* slider = sliderOf(*field);
-    OvSpinBox* spinBox = spinBoxOf(*field);
-    (withParent ? parent.data() : field.data())->resize(300, 40);
-    field->resize(300, 40);
-    (withParent ? parent.data() : field.data())->show();
+    const auto field = makeField(0, 100 * unit(), withParent ? parent.data() : nullptr);
+    QWidget* const doomed = withParent ? parent.data() : field->widget.data();
+    doomed->resize(300, 40);
+    field->widget->resize(300, 40);
+    doomed->show();
     if (action == QLatin1String("Enter")) {
-        spinBox->setKeyboardTracking(false);
-        QTest::keyClicks(spinBox, QStringLiteral("5"));
+        field->spinBox->setKeyboardTracking(false);
+        typeInto(field->spinBox, QStringLiteral("5"));
     }
-    connect(field.data(), &SliderInputWidget::valueChanged, this,
-            [&] { delete (withParent ? parent.data() : field.data()); });
+    field->onReport = [doomed](int) { delete doomed; };
     if (action == QLatin1String("setValue")) {
         field->setValue(7);
     } else if (action == QLatin1String("slider")) {
-        slider->setValue(7);
+        field->slider->setValue(7);
+    } else if (action == QLatin1String("fraction of the slider")) {
+        field->slider->setProperty(isWhole() ? "value" : "doubleValue", field->number(7));
     } else if (action == QLatin1String("drag")) {
-        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier,
-                          {slider->width() / 2, slider->height() / 2});
+        QTest::mousePress(field->slider, Qt::LeftButton, Qt::NoModifier, field->slider->rect().center());
     } else if (action == QLatin1String("slider key")) {
-        QTest::keyPress(slider, Qt::Key_Right);
+        QTest::keyPress(field->slider, Qt::Key_Right);
     } else if (action == QLatin1String("spin box")) {
-        spinBox->setValue(7);
+        field->setSpinBox(7);
     } else {
-        QTest::keyPress(spinBox, Qt::Key_Return);
+        QTest::keyPress(field->spinBox, Qt::Key_Return);
     }
-    QVERIFY(!field);
+    QVERIFY(!field->widget);
     QVERIFY(watch.deleted() > 0);
     QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     delete parent;
@@ -533,18 +543,28 @@ void tst_SliderInputWidget::deletedInItsSignal()
 
 void tst_SliderInputWidget::deletedLaterWhileTyping()
 {
-    const QPointer<SliderInputWidget> field = new SliderInputWidget(nullptr, {0, 100});
-    connect(field.data(), &SliderInputWidget::valueChanged, field.data(), &QObject::deleteLater);
-    QTest::keyClicks(spinBoxOf(*field), QStringLiteral("5"));
-    QTRY_VERIFY(!field);
+    const auto field = makeField(0, 100 * unit());
+    field->onReport = [&field](int) { field->widget->deleteLater(); };
+    typeInto(field->spinBox, QStringLiteral("5"));
+    QTRY_VERIFY(!field->widget);
 }
 
 void tst_SliderInputWidget::destroyedWhileTyping()
 {
-    auto field = std::make_unique<SliderInputWidget>(nullptr, SliderInputWidget::Initializer{10, 100});
-    field->setValue(50);
-    auto* spinBox = spinBoxOf(*field);
-    destroyWhileTyping(std::move(field), spinBox);
+    const auto destroy = [](auto field, auto* spinBox) {
+        field->setValue(50);
+        destroyWhileTyping(std::move(field), spinBox);
+    };
+    if (isWhole()) {
+        auto field = std::make_unique<SliderInputWidget>(nullptr, SliderInputWidget::Initializer{10, 100});
+        auto* spinBox = field->findChild<OvSpinBox*>();
+        destroy(std::move(field), spinBox);
+    } else {
+        auto field = std::make_unique<DoubleSliderInputWidget>(
+            nullptr, DoubleSliderInputWidget::Initializer{10.0, 100.0, 1});
+        auto* spinBox = field->findChild<OvDoubleSpinBox*>();
+        destroy(std::move(field), spinBox);
+    }
 }
 
 void tst_SliderInputWidget::labelBuddyReachesTheSlider()
@@ -552,59 +572,58 @@ void tst_SliderInputWidget::labelBuddyReachesTheSlider()
     QWidget form;
     auto* edit = new QLineEdit(&form);
     auto* label = new QLabel(QStringLiteral("&Volume"), &form);
-    auto* field = new SliderInputWidget(&form, {0, 100});
-    label->setBuddy(field);
+    const auto field = makeField(0, 100, &form);
+    label->setBuddy(field->widget);
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     edit->setFocus();
     QTest::keyClick(&form, Qt::Key_V, Qt::AltModifier);
-    QCOMPARE(form.focusWidget(), sliderOf(*field));
+    QCOMPARE(form.focusWidget(), field->slider);
 }
 
 void tst_SliderInputWidget::tabOrder()
 {
     QWidget form;
     auto* before = new QLineEdit(&form);
-    auto* field = new SliderInputWidget(&form, {0, 100});
+    const auto field = makeField(0, 100, &form);
     auto* after = new QLineEdit(&form);
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     before->setFocus();
-    QWidget* const slider = sliderOf(*field);
-    QWidget* const spinBox = spinBoxOf(*field);
-    QCOMPARE(focusedBy(Qt::Key_Tab, 3, form), QList<QWidget*>({slider, spinBox, after}));
-    QCOMPARE(focusedBy(Qt::Key_Backtab, 3, form), QList<QWidget*>({spinBox, slider, before}));
+    QCOMPARE(focusedBy(Qt::Key_Tab, 3, form), QList<QWidget*>({field->slider, field->spinBox, after}));
+    QCOMPARE(focusedBy(Qt::Key_Backtab, 3, form), QList<QWidget*>({field->spinBox, field->slider, before}));
 }
 
 void tst_SliderInputWidget::disabled()
 {
-    Field field(0, 100);
-    field.setEnabled(false);
-    QVERIFY(!field.slider->isEnabled());
-    QVERIFY(!field.spinBox->isEnabled());
-    field.setValue(5);
-    QCOMPARE(field.reports(), Values({5, 5}));
+    const auto field = makeField(0, 100);
+    field->widget->setEnabled(false);
+    QVERIFY(!field->slider->isEnabled());
+    QVERIFY(!field->spinBox->isEnabled());
+    field->setValue(5);
+    QCOMPARE(field->reports(), Values({5, 5}));
 }
 
 void tst_SliderInputWidget::rightToLeft()
 {
-    Field field(0, 100);
-    field.setLayoutDirection(Qt::RightToLeft);
-    field.resize(300, 30);
-    field.show();
-    QVERIFY(field.slider->x() > field.spinBox->x());
-    QTest::keyClick(field.slider, Qt::Key_Left);
-    QCOMPARE(field.reports(), Values({1, 1}));
+    const auto field = makeField(0, 100);
+    field->widget->setLayoutDirection(Qt::RightToLeft);
+    field->widget->resize(300, 30);
+    field->widget->show();
+    QVERIFY(field->slider->x() > field->spinBox->x());
+    QTest::keyClick(field->slider, Qt::Key_Left);
+    QCOMPARE(field->reports(), Values({1, 1}));
 }
 
 void tst_SliderInputWidget::sheetSetsMetrics()
 {
-    SliderInputWidget field(nullptr, {0, 100});
-    field.setStyleSheet(QStringLiteral("SliderInputWidget { qproperty-layoutSpacing: 9; }"
-                                       "SliderInputWidget > #spinbox { min-width: 77px; }"));
-    field.show();
-    QCOMPARE(field.layout()->spacing(), 9);
-    QVERIFY(spinBoxOf(field)->width() >= 77);
+    const auto field = makeField(0, 100);
+    field->widget->setStyleSheet(QStringLiteral("%1 { qproperty-layoutSpacing: 9; }"
+                                                "%1 > #spinbox { min-width: 77px; }")
+                                     .arg(QLatin1String(field->widget->metaObject()->className())));
+    field->widget->show();
+    QCOMPARE(field->widget->layout()->spacing(), 9);
+    QVERIFY(field->spinBox->width() >= 77);
 }
 
 UIC_TEST_MAIN(tst_SliderInputWidget)
