@@ -226,19 +226,7 @@ private Q_SLOTS:
     void colorsOfEverySpec();
     void reportsRgb();
 
-    void clickWithoutMoving();
-    void dragReportsEachPixel();
-    void dragLeavesTheWindow_data();
-    void dragLeavesTheWindow();
-    void dragStaysOnTheClampedPixel();
-    void releaseElsewhereMovesTheMarker();
     void pressOutsideIsTakenAsItIs();
-    void moveWithoutAPress();
-    void otherButtons();
-    void doubleClickIsAPress();
-    void hiddenDuringADrag();
-    void disabledDuringADrag();
-    void deletedDuringADrag();
 
     void resizeKeepsTheMarker();
     void markerOutsideAfterShrinking();
@@ -257,15 +245,11 @@ private Q_SLOTS:
     void sameAsTheEagerPlane_data();
     void sameAsTheEagerPlane();
 
-    void arrowKeys_data();
-    void arrowKeys();
     void keysWithoutAPlane();
-    void otherKeysAreLeft();
     void focusIsShownToKeyboardUsers();
 
     void rightToLeft();
-    void deletedInItsSignal_data();
-    void deletedInItsSignal();
+    void deletedBySettingTheHue();
 };
 
 void tst_ColorPlaneWidget::cleanup()
@@ -510,85 +494,6 @@ void tst_ColorPlaneWidget::reportsRgb()
     QCOMPARE(plane.hsvColor().spec(), QColor::Rgb);
 }
 
-void tst_ColorPlaneWidget::clickWithoutMoving()
-{
-    Plane plane;
-    plane.setHue(30);
-    press(plane, {40, 25});
-    QCOMPARE(plane.reports(), Colors{plane.at(30 / 360.0, 40, 25)});
-    QCOMPARE(QWidget::mouseGrabber(), &plane);
-    release(plane, {40, 25});
-    QCOMPARE(plane.reports(), Colors{plane.at(30 / 360.0, 40, 25)});
-    QVERIFY(!QWidget::mouseGrabber());
-    QCOMPARE(plane.hsvColor(), plane.at(30 / 360.0, 40, 25));
-}
-
-void tst_ColorPlaneWidget::dragReportsEachPixel()
-{
-    Plane plane;
-    plane.setHue(300);
-    const double hue = 300 / 360.0;
-    press(plane, {10, 10});
-    drag(plane, {11, 10});
-    drag(plane, {11, 10});
-    drag(plane, {30, 40});
-    release(plane, {30, 40});
-    QCOMPARE(plane.reports(), Colors({plane.at(hue, 10, 10), plane.at(hue, 11, 10), plane.at(hue, 30, 40),
-                                      plane.at(hue, 30, 40)}));
-    const QColor below = plane.at(hue, 30, 40);
-    QCOMPARE(pictureOf(plane), picture(hue, plane.size(), {30, 40},
-                                       QColor(255 - below.red(), 255 - below.green(), 255 - below.blue())));
-}
-
-void tst_ColorPlaneWidget::dragLeavesTheWindow_data()
-{
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QPoint>("pinned");
-    QTest::newRow("left") << QPoint(-40, 20) << QPoint(0, 20);
-    QTest::newRow("right") << QPoint(101, 20) << QPoint(100, 20);
-    QTest::newRow("above") << QPoint(20, -1) << QPoint(20, 0);
-    QTest::newRow("below") << QPoint(20, 51) << QPoint(20, 50);
-    QTest::newRow("far off a corner") << QPoint(100000, -100000) << QPoint(100, 0);
-}
-
-void tst_ColorPlaneWidget::dragLeavesTheWindow()
-{
-    QFETCH(QPoint, to);
-    QFETCH(QPoint, pinned);
-    Plane plane;
-    plane.setHue(180);
-    press(plane, {20, 20});
-    plane.reports();
-    drag(plane, to);
-    QCOMPARE(plane.reports(), Colors{plane.at(0.5, pinned.x(), pinned.y())});
-    release(plane, to);
-    QCOMPARE(plane.reports(), Colors{plane.at(0.5, pinned.x(), pinned.y())});
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_ColorPlaneWidget::dragStaysOnTheClampedPixel()
-{
-    Plane plane;
-    plane.setHue(180);
-    press(plane, {100, 20});
-    drag(plane, {101, 20});
-    drag(plane, {5000, 20});
-    QCOMPARE(plane.reports().size(), 1);
-    drag(plane, {5000, 21});
-    QCOMPARE(plane.reports(), Colors{plane.at(0.5, 100, 21)});
-    release(plane, {5000, 21});
-}
-
-void tst_ColorPlaneWidget::releaseElsewhereMovesTheMarker()
-{
-    Plane plane;
-    plane.setHue(180);
-    press(plane, {1, 1});
-    release(plane, {-5, 70});
-    QCOMPARE(plane.reports(), Colors({plane.at(0.5, 1, 1), plane.at(0.5, 0, 50)}));
-    QCOMPARE(plane.hsvColor(), QColor(Qt::black));
-}
-
 void tst_ColorPlaneWidget::pressOutsideIsTakenAsItIs()
 {
     Plane plane;
@@ -601,87 +506,6 @@ void tst_ColorPlaneWidget::pressOutsideIsTakenAsItIs()
     QCOMPARE(plane.reports(), Colors());
     release(plane, {200, 20});
     QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 20)});
-}
-
-void tst_ColorPlaneWidget::moveWithoutAPress()
-{
-    Plane plane;
-    plane.setHue(180);
-    plane.setMouseTracking(true);
-    drag(plane, {20, 20});
-    release(plane, {20, 20});
-    QCOMPARE(plane.reports(), Colors());
-    QVERIFY(!plane.hsvColor().isValid());
-}
-
-void tst_ColorPlaneWidget::otherButtons()
-{
-    Plane plane;
-    plane.setHue(180);
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
-        press(plane, {20, 20}, button);
-        QVERIFY(!QWidget::mouseGrabber());
-        release(plane, {20, 20}, button);
-    }
-    QCOMPARE(plane.reports(), Colors());
-    press(plane, {20, 20});
-    plane.reports();
-    release(plane, {30, 30}, Qt::RightButton);
-    QCOMPARE(plane.reports(), Colors());
-    QCOMPARE(QWidget::mouseGrabber(), &plane);
-    release(plane, {30, 30});
-    QCOMPARE(plane.reports(), Colors{plane.at(0.5, 30, 30)});
-}
-
-void tst_ColorPlaneWidget::doubleClickIsAPress()
-{
-    Plane plane;
-    plane.setHue(180);
-    sendMouse(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
-    QCOMPARE(plane.reports(), Colors{plane.at(0.5, 20, 20)});
-    release(plane, {20, 20});
-}
-
-// Qt leaves the grab with a hidden widget, which then swallows every click of the application.
-void tst_ColorPlaneWidget::hiddenDuringADrag()
-{
-    QWidget window;
-    Plane plane(&window);
-    plane.setHue(180);
-    window.show();
-    press(plane, {20, 20});
-    plane.reports();
-    window.hide();
-    QVERIFY(!QWidget::mouseGrabber());
-    drag(plane, {30, 30});
-    release(plane, {30, 30});
-    QCOMPARE(plane.reports(), Colors());
-    QCOMPARE(plane.hsvColor(), plane.at(0.5, 20, 20));
-}
-
-void tst_ColorPlaneWidget::disabledDuringADrag()
-{
-    Plane plane;
-    plane.setHue(180);
-    press(plane, {20, 20});
-    plane.setEnabled(false);
-    QVERIFY(!QWidget::mouseGrabber());
-    plane.reports();
-    press(plane, {30, 30});
-    QCOMPARE(plane.reports(), Colors());
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_ColorPlaneWidget::deletedDuringADrag()
-{
-    {
-        Plane plane;
-        plane.show();
-        plane.setHue(180);
-        press(plane, {20, 20});
-        QCOMPARE(QWidget::mouseGrabber(), &plane);
-    }
-    QVERIFY(!QWidget::mouseGrabber());
 }
 
 void tst_ColorPlaneWidget::resizeKeepsTheMarker()
@@ -968,39 +792,6 @@ void tst_ColorPlaneWidget::sameAsTheEagerPlane()
     QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
 }
 
-void tst_ColorPlaneWidget::arrowKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("shift");
-    QTest::addColumn<QPoint>("marker");
-    QTest::newRow("left") << int(Qt::Key_Left) << false << QPoint(49, 25);
-    QTest::newRow("right") << int(Qt::Key_Right) << false << QPoint(51, 25);
-    QTest::newRow("up") << int(Qt::Key_Up) << false << QPoint(50, 24);
-    QTest::newRow("down") << int(Qt::Key_Down) << false << QPoint(50, 26);
-    QTest::newRow("left, far") << int(Qt::Key_Left) << true << QPoint(40, 25);
-    QTest::newRow("down, far") << int(Qt::Key_Down) << true << QPoint(50, 35);
-}
-
-void tst_ColorPlaneWidget::arrowKeys()
-{
-    QFETCH(int, key);
-    QFETCH(bool, shift);
-    QFETCH(QPoint, marker);
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
-    const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
-    QTest::keyClick(&plane, Qt::Key(key), modifiers);
-    QCOMPARE(plane.reports(), Colors{plane.at(0.5, marker.x(), marker.y())});
-    for (int i = 0; i < 200; ++i) {
-        QTest::keyClick(&plane, Qt::Key(key), modifiers);
-    }
-    // As many as there were pixels left, and none at the edge.
-    const QPoint direction = marker - QPoint(50, 25);
-    const int room = direction.x() != 0 ? 50 : 25;
-    const int step = shift ? 10 : 1;
-    QCOMPARE(plane.reports().size(), (room + step - 1) / step - 1);
-}
-
 void tst_ColorPlaneWidget::keysWithoutAPlane()
 {
     Plane plane;
@@ -1009,18 +800,6 @@ void tst_ColorPlaneWidget::keysWithoutAPlane()
     plane.setHue(180);
     QTest::keyClick(&plane, Qt::Key_Right);
     QCOMPARE(plane.reports(), Colors{QColor(Qt::white)});
-}
-
-void tst_ColorPlaneWidget::otherKeysAreLeft()
-{
-    Plane plane;
-    plane.setHsvColor(QColor(Qt::red));
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A}) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QCoreApplication::sendEvent(&plane, &event);
-        QVERIFY(!event.isAccepted());
-    }
-    QCOMPARE(plane.reports(), Colors());
 }
 
 void tst_ColorPlaneWidget::focusIsShownToKeyboardUsers()
@@ -1052,38 +831,13 @@ void tst_ColorPlaneWidget::rightToLeft()
     QCOMPARE(plane.reports(), Colors{plane.at(0.0, 99, 0)});
 }
 
-void tst_ColorPlaneWidget::deletedInItsSignal_data()
+void tst_ColorPlaneWidget::deletedBySettingTheHue()
 {
-    QTest::addColumn<QString>("action");
-    for (const char* action : {"press", "move", "release", "hue", "key"}) {
-        QTest::newRow(action) << QString::fromLatin1(action);
-    }
-}
-
-void tst_ColorPlaneWidget::deletedInItsSignal()
-{
-    QFETCH(QString, action);
     const QPointer<Plane> plane = new Plane;
-    plane->show();
     plane->setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
-    const bool needsPress = action == QLatin1String("move") || action == QLatin1String("release");
-    if (needsPress) {
-        press(*plane, {20, 20});
-    }
     connect(plane, &ColorPlaneWidget::hsvColorChanged, this, [&plane] { delete plane; });
-    if (action == QLatin1String("press")) {
-        QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {20, 20});
-    } else if (action == QLatin1String("move")) {
-        drag(*plane, {30, 20});
-    } else if (action == QLatin1String("release")) {
-        release(*plane, {20, 20});
-    } else if (action == QLatin1String("hue")) {
-        plane->setHue(7);
-    } else {
-        QTest::keyPress(plane, Qt::Key_Left);
-    }
+    plane->setHue(7);
     QVERIFY(!plane);
-    QVERIFY(!QWidget::mouseGrabber());
 }
 
 UIC_TEST_MAIN(tst_ColorPlaneWidget)

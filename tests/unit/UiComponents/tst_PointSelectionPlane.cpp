@@ -1,4 +1,3 @@
-#include "FreedMemory.h"
 #include "MetaObject.h"
 #include "MouseEvents.h"
 #include "PaintCount.h"
@@ -123,25 +122,9 @@ private Q_SLOTS:
     void infiniteLimits_data();
     void infiniteLimits();
 
-    void clickWithoutMoving();
     void pressAtTheEdges_data();
     void pressAtTheEdges();
-    void dragReportsEachPixel();
-    void dragLeavesTheWindow_data();
-    void dragLeavesTheWindow();
-    void dragStaysOnTheClampedPixel();
-    void releaseReportsAgain();
-    void releaseElsewhereMovesThePoint();
     void pressOutsideIsTakenAsItIs();
-    void moveWithoutAPress();
-    void releaseWithoutAPress();
-    void releaseAfterAPressElsewhere();
-    void otherButtons();
-    void secondButtonWhileDragging();
-    void doubleClickIsAPress();
-    void hiddenDuringADrag();
-    void disabledDuringADrag();
-    void deletedDuringADrag();
     void setPointDuringADrag();
     void setLimitsDuringADrag();
     void resizedDuringADrag();
@@ -169,18 +152,13 @@ private Q_SLOTS:
     void sheetOfTheDisabledPlane();
     void twiceTheScale();
 
-    void arrowKeys_data();
-    void arrowKeys();
     void keyKeepsTheOtherCoordinate();
     void keysWithoutAPoint();
     void keysFromOutside();
-    void otherKeysAreLeft();
     void focusIsShownToKeyboardUsers();
 
     void rightToLeft();
     void slotSetsAnotherPoint();
-    void deletedInItsSignal_data();
-    void deletedInItsSignal();
 };
 
 void tst_PointSelectionPlane::cleanup()
@@ -362,19 +340,6 @@ void tst_PointSelectionPlane::infiniteLimits()
     pictureOf(plane);
 }
 
-void tst_PointSelectionPlane::clickWithoutMoving()
-{
-    Plane plane;
-    press(plane, {40, 25});
-    QCOMPARE(plane.reports(), Points{at(40, 25)});
-    QCOMPARE(QWidget::mouseGrabber(), &plane);
-    release(plane, {40, 25});
-    QCOMPARE(plane.reports(), Points{at(40, 25)});
-    QVERIFY(!QWidget::mouseGrabber());
-    QCOMPARE(plane.point(), at(40, 25));
-    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(40, 25)));
-}
-
 void tst_PointSelectionPlane::pressAtTheEdges_data()
 {
     QTest::addColumn<QPoint>("pixel");
@@ -398,78 +363,6 @@ void tst_PointSelectionPlane::pressAtTheEdges()
     release(plane, pixel);
 }
 
-void tst_PointSelectionPlane::dragReportsEachPixel()
-{
-    Plane plane;
-    plane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plane));
-    press(plane, {10, 10});
-    drag(plane, {11, 10});
-    QCOMPARE(paintsOf(plane, [&] { drag(plane, {11, 10}); }), 0);
-    QCOMPARE(paintsOf(plane, [&] { drag(plane, {30, 40}); }), 1);
-    release(plane, {30, 40});
-    QCOMPARE(plane.reports(), Points({at(10, 10), at(11, 10), at(30, 40), at(30, 40)}));
-    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(30, 40)));
-}
-
-void tst_PointSelectionPlane::dragLeavesTheWindow_data()
-{
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QPoint>("pinned");
-    QTest::newRow("left") << QPoint(-40, 20) << QPoint(0, 20);
-    QTest::newRow("right") << QPoint(101, 20) << QPoint(100, 20);
-    QTest::newRow("above") << QPoint(20, -1) << QPoint(20, 0);
-    QTest::newRow("below") << QPoint(20, 51) << QPoint(20, 50);
-    QTest::newRow("far off a corner") << QPoint(100000, -100000) << QPoint(100, 0);
-}
-
-void tst_PointSelectionPlane::dragLeavesTheWindow()
-{
-    QFETCH(QPoint, to);
-    QFETCH(QPoint, pinned);
-    Plane plane;
-    press(plane, {20, 20});
-    plane.reports();
-    drag(plane, to);
-    QCOMPARE(plane.reports(), Points{at(pinned.x(), pinned.y())});
-    release(plane, to);
-    QCOMPARE(plane.reports(), Points{at(pinned.x(), pinned.y())});
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PointSelectionPlane::dragStaysOnTheClampedPixel()
-{
-    Plane plane;
-    press(plane, {100, 20});
-    drag(plane, {101, 20});
-    drag(plane, {5000, 20});
-    QCOMPARE(plane.reports().size(), 1);
-    drag(plane, {5000, 21});
-    QCOMPARE(plane.reports(), Points{at(100, 21)});
-    release(plane, {5000, 21});
-}
-
-void tst_PointSelectionPlane::releaseReportsAgain()
-{
-    Plane plane;
-    plane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plane));
-    press(plane, {20, 20});
-    drag(plane, {30, 20});
-    plane.reports();
-    QCOMPARE(paintsOf(plane, [&] { release(plane, {30, 20}); }), 1);
-    QCOMPARE(plane.reports(), Points{at(30, 20)});
-}
-
-void tst_PointSelectionPlane::releaseElsewhereMovesThePoint()
-{
-    Plane plane;
-    press(plane, {1, 1});
-    release(plane, {-5, 70});
-    QCOMPARE(plane.reports(), Points({at(1, 1), at(0, 50)}));
-    QCOMPARE(plane.point(), at(0, 50));
-}
-
 void tst_PointSelectionPlane::pressOutsideIsTakenAsItIs()
 {
     Plane plane;
@@ -478,114 +371,6 @@ void tst_PointSelectionPlane::pressOutsideIsTakenAsItIs()
     QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
     release(plane, {200, -20});
     QCOMPARE(plane.reports(), Points{at(100, 0)});
-}
-
-void tst_PointSelectionPlane::moveWithoutAPress()
-{
-    Plane plane;
-    plane.setMouseTracking(true);
-    plane.setPoint({10, 110});
-    drag(plane, {20, 20});
-    QCOMPARE(plane.reports(), Points());
-    QCOMPARE(plane.point(), QPointF(10, 110));
-}
-
-void tst_PointSelectionPlane::releaseWithoutAPress()
-{
-    Plane plane;
-    plane.setPoint({10, 110});
-    release(plane, {20, 20});
-    QCOMPARE(plane.reports(), Points());
-    QCOMPARE(plane.point(), QPointF(10, 110));
-}
-
-void tst_PointSelectionPlane::releaseAfterAPressElsewhere()
-{
-    QWidget window;
-    Plane one(&window);
-    Plane other(&window);
-    press(one, {20, 20});
-    drag(other, {30, 30});
-    release(other, {30, 30});
-    QCOMPARE(other.reports(), Points());
-    QCOMPARE(QWidget::mouseGrabber(), &one);
-    release(one, {20, 20});
-    QCOMPARE(one.reports().size(), 2);
-}
-
-void tst_PointSelectionPlane::otherButtons()
-{
-    Plane plane;
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
-        press(plane, {20, 20}, button);
-        QVERIFY(!QWidget::mouseGrabber());
-        drag(plane, {30, 30});
-        release(plane, {30, 30}, button);
-    }
-    QCOMPARE(plane.reports(), Points());
-    QCOMPARE(plane.point(), QPointF(-1, -1));
-}
-
-void tst_PointSelectionPlane::secondButtonWhileDragging()
-{
-    Plane plane;
-    press(plane, {20, 20});
-    press(plane, {25, 25}, Qt::RightButton);
-    QCOMPARE(plane.reports(), Points{at(20, 20)});
-    release(plane, {26, 26}, Qt::RightButton);
-    QCOMPARE(plane.reports(), Points());
-    QCOMPARE(QWidget::mouseGrabber(), &plane);
-    drag(plane, {30, 30});
-    release(plane, {30, 30});
-    QCOMPARE(plane.reports(), Points({at(30, 30), at(30, 30)}));
-}
-
-void tst_PointSelectionPlane::doubleClickIsAPress()
-{
-    Plane plane;
-    sendMouse(plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
-    QCOMPARE(plane.reports(), Points{at(20, 20)});
-    QCOMPARE(QWidget::mouseGrabber(), &plane);
-    release(plane, {20, 20});
-}
-
-void tst_PointSelectionPlane::hiddenDuringADrag()
-{
-    QWidget window;
-    Plane plane(&window);
-    window.show();
-    press(plane, {20, 20});
-    plane.reports();
-    window.hide();
-    QVERIFY(!QWidget::mouseGrabber());
-    drag(plane, {30, 30});
-    release(plane, {30, 30});
-    QCOMPARE(plane.reports(), Points());
-    QCOMPARE(plane.point(), at(20, 20));
-}
-
-void tst_PointSelectionPlane::disabledDuringADrag()
-{
-    QWidget window;
-    Plane plane(&window);
-    press(plane, {20, 20});
-    window.setEnabled(false);
-    QVERIFY(!QWidget::mouseGrabber());
-    plane.reports();
-    press(plane, {30, 30});
-    QCOMPARE(plane.reports(), Points());
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PointSelectionPlane::deletedDuringADrag()
-{
-    {
-        Plane plane;
-        plane.show();
-        press(plane, {20, 20});
-        QCOMPARE(QWidget::mouseGrabber(), &plane);
-    }
-    QVERIFY(!QWidget::mouseGrabber());
 }
 
 // The next move is compared with where the point then is, not with where the mouse was.
@@ -898,41 +683,6 @@ void tst_PointSelectionPlane::twiceTheScale()
     QCOMPARE(image.pixelColor(120, 40), markerColor);
 }
 
-void tst_PointSelectionPlane::arrowKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("shift");
-    QTest::addColumn<QPoint>("pixel");
-    QTest::newRow("left") << int(Qt::Key_Left) << false << QPoint(49, 25);
-    QTest::newRow("right") << int(Qt::Key_Right) << false << QPoint(51, 25);
-    QTest::newRow("up") << int(Qt::Key_Up) << false << QPoint(50, 24);
-    QTest::newRow("down") << int(Qt::Key_Down) << false << QPoint(50, 26);
-    QTest::newRow("left, far") << int(Qt::Key_Left) << true << QPoint(40, 25);
-    QTest::newRow("down, far") << int(Qt::Key_Down) << true << QPoint(50, 35);
-}
-
-void tst_PointSelectionPlane::arrowKeys()
-{
-    QFETCH(int, key);
-    QFETCH(bool, shift);
-    QFETCH(QPoint, pixel);
-    Plane plane;
-    plane.setPoint(at(50, 25));
-    const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
-    QTest::keyClick(&plane, Qt::Key(key), modifiers);
-    QCOMPARE(plane.reports(), Points{at(pixel.x(), pixel.y())});
-    QCOMPARE(plane.point(), at(pixel.x(), pixel.y()));
-    QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(pixel)));
-    for (int i = 0; i < 200; ++i) {
-        QTest::keyClick(&plane, Qt::Key(key), modifiers);
-    }
-    // As many as there were pixels left, and none at the edge.
-    const int room = pixel.y() == 25 ? 50 : 25;
-    const int step = shift ? 10 : 1;
-    QCOMPARE(plane.reports().size(), (room + step - 1) / step - 1);
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
 void tst_PointSelectionPlane::keyKeepsTheOtherCoordinate()
 {
     Plane plane;
@@ -961,17 +711,6 @@ void tst_PointSelectionPlane::keysFromOutside()
     plane.setPoint({1000, 110});
     QTest::keyClick(&plane, Qt::Key_Left);
     QCOMPARE(plane.reports(), Points{at(100, 20)});
-}
-
-void tst_PointSelectionPlane::otherKeysAreLeft()
-{
-    Plane plane;
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A, Qt::Key_Tab}) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QCoreApplication::sendEvent(&plane, &event);
-        QVERIFY(!event.isAccepted());
-    }
-    QCOMPARE(plane.reports(), Points());
 }
 
 void tst_PointSelectionPlane::focusIsShownToKeyboardUsers()
@@ -1016,48 +755,6 @@ void tst_PointSelectionPlane::slotSetsAnotherPoint()
     QCOMPARE(plane.point(), QPointF(-10, 110));
     QCOMPARE(plane.reports(), Points({at(27, 5), at(48, 5), at(48, 5)}));
     QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PointSelectionPlane::deletedInItsSignal_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<bool>("withParent");
-    for (const char* action : {"press", "move", "release", "double click", "key"}) {
-        QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
-        QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
-    }
-}
-
-void tst_PointSelectionPlane::deletedInItsSignal()
-{
-    QFETCH(QString, action);
-    QFETCH(bool, withParent);
-    const FreedMemoryWatch watch;
-    const QPointer<QWidget> parent = new QWidget;
-    const QPointer<Plane> plane = new Plane(withParent ? parent.data() : nullptr);
-    QWidget* window = plane->window();
-    window->show();
-    const bool needsPress = action == QLatin1String("move") || action == QLatin1String("release");
-    if (needsPress) {
-        press(*plane, {20, 20});
-    }
-    connect(plane.data(), &PointSelectionPlane::pointChanged, this, [window] { delete window; });
-    if (action == QLatin1String("press")) {
-        QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {20, 20});
-    } else if (action == QLatin1String("move")) {
-        drag(*plane, {30, 20});
-    } else if (action == QLatin1String("release")) {
-        release(*plane, {20, 20});
-    } else if (action == QLatin1String("double click")) {
-        sendMouse(*plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
-    } else {
-        QTest::keyPress(plane, Qt::Key_Left);
-    }
-    QVERIFY(!plane);
-    QVERIFY(!QWidget::mouseGrabber());
-    QVERIFY(watch.deleted() > 0);
-    QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-    delete parent;
 }
 
 UIC_TEST_MAIN(tst_PointSelectionPlane)
