@@ -4,8 +4,10 @@
 
 #include <QCursor>
 #include <QPointer>
+#include <QVector>
 #include <QWidget>
 
+#include <algorithm>
 #include <optional>
 
 /// Replaces the cursor of a widget for as long as it exists, and brings back the former one, or none where
@@ -14,12 +16,47 @@
 class CursorGuard
 {
 public:
-    CursorGuard(QWidget* widget, const QCursor& cursor);
-    ~CursorGuard();
+    CursorGuard(QWidget* widget, const QCursor& cursor)
+        : m_widget(widget)
+    {
+        if (widget->testAttribute(Qt::WA_SetCursor)) {
+            m_former = widget->cursor();
+        }
+        guards().append(this);
+        widget->setCursor(cursor);
+    }
+
+    ~CursorGuard()
+    {
+        QVector<CursorGuard*>& all = guards();
+        const auto next = all.erase(std::find(all.begin(), all.end(), this));
+        const auto heir = std::find_if(
+            next, all.end(), [this](const CursorGuard* other) { return other->m_widget == m_widget; });
+        if (!m_widget) {
+            return;
+        }
+        if (heir != all.end()) {
+            // It took this one's cursor for the widget's own.
+            (*heir)->m_former = m_former;
+        } else if (m_former) {
+            m_widget->setCursor(*m_former);
+        } else {
+            // Setting the inherited one would keep the widget from ever following its parent's again.
+            m_widget->unsetCursor();
+        }
+    }
+
     CursorGuard(const CursorGuard&) = delete;
     CursorGuard& operator=(const CursorGuard&) = delete;
 
 private:
+    /// In the order in which they began.
+    static QVector<CursorGuard*>& guards()
+    {
+        static QVector<CursorGuard*> all;
+        return all;
+    }
+
     const QPointer<QWidget> m_widget;
     /// Empty where the widget had none of its own.
     std::optional<QCursor> m_former;

@@ -6,6 +6,7 @@
 
 #include <QtUtility/PrivacyAccess.h>
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QCursor>
 #include <QGraphicsProxyWidget>
@@ -95,7 +96,8 @@ public:
 };
 
 /// All that one call of startPicking() shows and listens to. It has no signals or slots of its own.
-class Pipette::Impl::Run : public QObject // clazy:exclude=missing-qobject-macro
+class Pipette::Impl::Run : public QObject, // clazy:exclude=missing-qobject-macro
+                           private QAbstractNativeEventFilter
 {
 public:
     explicit Run(Pipette* pipette);
@@ -108,25 +110,30 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool nativeEventFilter(const QByteArray& type, void* message, long* result) override;
     void addView(QScreen* screen);
     void watchApplication();
-    void noteLoupe(const QWidget& window);
+    void noteLoupe(const PipetteScreenView& view);
     void uncover(const QWidget& last);
     void update(const QPoint& cursorPos);
     void finish(const QPoint& cursorPos, bool isSucceeded);
 
     Pipette* const m_pipette;
-    const std::shared_ptr<ScreenReader> m_reader;
+    ScreenReader m_reader;
     QGraphicsScene* const m_scene;
     const QPointer<LoupeWidget> m_loupe;
+    /// Whether the views show pictures, since nothing would be seen through them.
+    const bool m_isStill = ScreenSource::platform().grabs() == ScreenSource::Grabs::Never;
     QVector<QPointer<PipetteScreenView>> m_views;
+    /// A view becomes the active window, and has not got the focus yet.
+    bool m_isActivated = false;
     /// Of all connections; gone when the run has ended.
     std::unique_ptr<QObject> m_context = std::make_unique<QObject>();
 };
 
 Pipette::Impl::Run::Run(Pipette* pipette)
     : m_pipette(pipette)
-    , m_reader(ScreenReader::shared(desktop(), ScreenReader::Cover::Overlay))
+    , m_reader(desktop(), ScreenReader::Cover::Overlay)
     , m_scene(new QGraphicsScene(QRectF(desktop()), this))
     , m_loupe(new LoupeWidget)
 {
@@ -140,20 +147,31 @@ Pipette::Impl::Run::Run(Pipette* pipette)
 
 Pipette::Impl::Run::~Run()
 {
+    // Qt goes on with a view that it activates, or whose native window hands a key to a pop-up.
+    const bool isInUse = (m_context && m_isActivated) || QApplication::activePopupWidget();
     end();
+    for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
+        if (view && isInUse) {
+            view->deleteLater();
+        } else {
+            delete view;
+        }
+    }
 }
 
 void Pipette::Impl::Run::addView(QScreen* screen)
 {
     auto* view = new PipetteScreenView(m_scene, screen->geometry());
-    if (ScreenSource::platform().grabs() == ScreenSource::Grabs::Never) {
-        view->setStillPicture(m_reader->picture(*screen));
+    if (m_isStill) {
+        view->setStillPicture(m_reader.picture(*screen));
+        m_reader.paint(view, screen->geometry());
     }
     // Or a modal dialog that is open would keep mouse and keyboard from it.
     view->windowHandle()->setTransientParent(QGuiApplication::modalWindow());
     view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
     m_views.append(view);
+    connect(view, &QObject::destroyed, m_context.get(), [this, view] { m_reader.remove(view, desktop()); });
     connect(view, &PipetteScreenView::loupePosChanged, m_context.get(),
             [this](const QPoint& pos) { update(pos); });
     connect(view, &PipetteScreenView::pickingFinished, m_context.get(),
@@ -186,12 +204,12 @@ void Pipette::Impl::Run::watchApplication()
     const auto stop = [this] { m_pipette->stopPicking(); };
     QObject* const context = m_context.get();
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, context, [stop](Qt::ApplicationState state) {
-        const bool isDoubtful =
-            state == Qt::ApplicationInactive && state == QGuiApplication::applicationState();
-        if (state != Qt::ApplicationActive && (!isDoubtful || isFocusOfAnotherProgram())) {
+        if (state != Qt::ApplicationActive &&
+            (state != Qt::ApplicationInactive || isFocusOfAnotherProgram())) {
             stop();
         }
     });
+    qGuiApp->installNativeEventFilter(this);
     connect(qGuiApp, &QCoreApplication::aboutToQuit, context, stop);
     // The views cover the screens as they were.
     connect(qGuiApp, &QGuiApplication::screenAdded, context, stop);
@@ -203,8 +221,23 @@ void Pipette::Impl::Run::watchApplication()
     }
 }
 
-/// Takes everything off the screens, which show it a little longer. Qt may be about to use a view: it
-/// activates its window, or gives a pop-up the key that its window got.
+/// Qt does not say again that the application is inactive when the window manager has handed on the focus.
+bool Pipette::Impl::Run::nativeEventFilter([[maybe_unused]] const QByteArray& type,
+                                           [[maybe_unused]] void* message, long* /*result*/)
+{
+#ifdef QT_X11EXTRAS_LIB
+    constexpr int sentByClient = 0x80;
+    if (m_context && QGuiApplication::applicationState() == Qt::ApplicationInactive &&
+        type == QByteArrayLiteral("xcb_generic_event_t") &&
+        (static_cast<xcb_generic_event_t*>(message)->response_type & ~sentByClient) == XCB_PROPERTY_NOTIFY &&
+        isFocusOfAnotherProgram()) {
+        m_pipette->stopPicking();
+    }
+#endif
+    return false;
+}
+
+/// Takes everything off the screens, which show it a little longer.
 void Pipette::Impl::Run::end()
 {
     if (!m_context) {
@@ -216,11 +249,15 @@ void Pipette::Impl::Run::end()
     if (qApp) {
         QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = m_reader] {});
     }
+    const auto screens = QGuiApplication::screens();
+    for (QScreen* screen : screens) {
+        // The next pick may begin at once.
+        m_reader.refresh(screen->geometry(), *screen);
+    }
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {
-            m_reader->remove(*view);
+            m_reader.remove(view, view->geometry());
             view->close();
-            view->deleteLater();
         }
     }
 }
@@ -228,24 +265,25 @@ void Pipette::Impl::Run::end()
 bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
 {
     const auto& widget = *static_cast<QWidget*>(watched);
-    if (m_context && event->type() == QEvent::Paint && !widget.isWindow()) {
-        noteLoupe(*widget.window());
+    if (m_context && event->type() == QEvent::Paint && !widget.isWindow() && !m_isStill) {
+        noteLoupe(*static_cast<PipetteScreenView*>(widget.window()));
     } else if (m_context && event->type() == QEvent::Leave && widget.isWindow()) {
         uncover(widget);
+    } else if (event->type() == QEvent::WindowActivate || event->type() == QEvent::FocusIn) {
+        m_isActivated = event->type() == QEvent::WindowActivate;
     }
     return false;
 }
 
 /// The loupe is seen where it stands now, from now on.
-void Pipette::Impl::Run::noteLoupe(const QWidget& window)
+void Pipette::Impl::Run::noteLoupe(const PipetteScreenView& view)
 {
     const QGraphicsItem* const item = m_loupe ? m_loupe->graphicsProxyWidget() : nullptr;
     QRect place;
     if (item && item->isVisible()) {
-        // A fractional ratio rounds its edges.
-        place = item->sceneBoundingRect().toAlignedRect().adjusted(-1, -1, 1, 1);
+        place = item->sceneBoundingRect().toAlignedRect();
     }
-    m_reader->paint(window, place & window.geometry());
+    m_reader.paint(&view, place & view.geometry());
 }
 
 /// Brings the view that the cursor has come to from @p last to the front when another application's window
@@ -274,8 +312,10 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
     }
     m_loupe->setPlacement(LoupeWidget::placementAt(cursorPos, screen->geometry(), m_loupe->size()));
     const QSize offset = m_loupe->offset();
-    m_loupe->graphicsProxyWidget()->setPos(cursorPos.x() + offset.width(), cursorPos.y() + offset.height());
-    const ScreenReader::Detail detail = m_reader->around(cursorPos, LoupeWidget::pixels, *screen);
+    const QPoint place = cursorPos + QPoint(offset.width(), offset.height());
+    m_reader.refresh(QRect(place, m_loupe->size()), *screen);
+    m_loupe->graphicsProxyWidget()->setPos(place);
+    const ScreenReader::Detail detail = m_reader.around(cursorPos, LoupeWidget::pixels, *screen);
     m_loupe->setPixmap(detail.picture);
     m_loupe->setColorName(detail.color);
 }
@@ -284,7 +324,7 @@ void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
 {
     if (isSucceeded && QGuiApplication::screenAt(cursorPos)) {
         // A copy: a slot may start another pick, which resets the color.
-        const QColor selected = m_pipette->d->currentColor = m_reader->colorAt(cursorPos);
+        const QColor selected = m_pipette->d->currentColor = m_reader.colorAt(cursorPos);
         const QPointer<Run> self = this;
         Q_EMIT m_pipette->colorSelected(selected);
         // A slot may have done so.

@@ -19,11 +19,13 @@
  * A key gives up; so does anything else that ends the pick: another application becomes the active one, the
  * screens change, one of the windows is closed, the application quits.
  *
- * The colour is opaque and that of the pixel without the pipette's windows, which a black of alpha 1 of 255
- * darkens: 127 and 128 are both picked as 128, and a channel of 255 as 255 * 255 / 254 (a QColor of the model
- * ExtendedRgb, whose rgb() and name() are white's). Where the pipette's own painting may be seen, as in the
- * first second, the pixel is that of a picture from before the pick. Without a compositor all are, and
- * the screens stand still meanwhile. Xwayland shows nothing of other applications: run on Wayland itself.
+ * The colour is opaque and that of the pixel without the pipette's windows: a black of alpha 1 of 255 is
+ * taken out again, below which 127 and 128 are one. Where none lies over it, as on a window that another
+ * program keeps above all others, a channel of 255 becomes 255 * 255 / 254 (a QColor of the model
+ * ExtendedRgb, whose rgb() and name() are white's). What may show the pipette's own painting, which is
+ * everything in the first second and then the last second's places of the loupe, is as it was when it could
+ * last be seen: a window that closes right before a pick may still be there. Without a compositor the screens
+ * stand still meanwhile. Xwayland shows nothing of other applications: run on Wayland itself.
  *
  * Where the system guards the screen (see PrivacyAccess.h), startPicking() asks for a missing permission and
  * does nothing else. A platform that grants it and gives no picture has black pixels.
@@ -45,7 +47,7 @@ public:
     /// @p parent owns the pipette as usual. Nothing is shown.
     explicit Pipette(QObject* parent = nullptr);
     /// Deletes at once whatever a pick shows, without any signal; while a pop-up is open, whose keys go
-    /// through these windows, it hides them and deletes them later.
+    /// through these windows, or Qt activates one of them, it hides them and deletes them later.
     ~Pipette() override;
 
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Does nothing, without a

@@ -23,10 +23,20 @@ QPoint toDevice(const QPointF& position, const QScreen& screen)
     return corner + ((position - corner) * screen.devicePixelRatio()).toPoint();
 }
 
+/// All of the screen.
+QRect toDevice(const QScreen& screen)
+{
+    const QRect area = screen.geometry();
+    return {area.topLeft(), toDevice(area.bottomRight() + QPoint(1, 1), screen) - QPoint(1, 1)};
+}
+
+/// What a painting in @p area may touch.
 QRect toDevice(const QRect& area, const QScreen& screen)
 {
-    const QPoint afterLast = area.bottomRight() + QPoint(1, 1);
-    return {toDevice(area.topLeft(), screen), toDevice(afterLast, screen) - QPoint(1, 1)};
+    const QPoint corner = screen.geometry().topLeft();
+    const qreal ratio = screen.devicePixelRatio();
+    const QRectF scaled(QPointF(area.topLeft() - corner) * ratio, QSizeF(area.size()) * ratio);
+    return scaled.toAlignedRect().translated(corner) & toDevice(screen);
 }
 
 QRegion toDevice(const QRegion& area)
@@ -153,61 +163,103 @@ QColor ScreenReader::overlayColor()
     return {0, 0, 0, 1};
 }
 
-std::shared_ptr<ScreenReader> ScreenReader::shared(const QRegion& area, Cover cover)
+struct ScreenReader::Memory
 {
-    static std::weak_ptr<ScreenReader> present;
-    auto reader = present.lock();
-    if (!reader || reader->m_cover != cover || reader->m_area != toDevice(area)) {
-        // Not std::make_shared(): see the constructor of WidgetColorPicker.
-        reader.reset(new ScreenReader(area, cover));
-        present = reader;
-    }
-    return reader;
-}
+    /// What was painted and is no longer.
+    struct Trace
+    {
+        QRegion area;
+        qint64 begin;
+        qint64 end;
+    };
+
+    ScreenSource* source;
+    QRegion screens;
+    /// Of two that share pixels the later one holds.
+    QVector<Picture> pictures;
+    QHash<const void*, QRegion> painted;
+    QVector<Trace> traces;
+};
 
 ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& source)
     : m_source(&source)
-    , m_grabs(source.grabs())
     , m_cover(cover)
-    , m_area(toDevice(area))
 {
-    if (m_grabs == ScreenSource::Grabs::Always) {
+    static std::weak_ptr<Memory> present;
+    QRegion all;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        all += toDevice(*screen);
+    }
+    m_memory = present.lock();
+    if (!m_memory || m_memory->source != &source || m_memory->screens != all) {
+        // Not std::make_shared(): see the constructor of WidgetColorPicker.
+        m_memory.reset(new Memory{&source, all, {}, {}, {}});
+        present = m_memory;
+    }
+    if (source.grabs() == ScreenSource::Grabs::Always) {
         return;
     }
-    const auto screens = QGuiApplication::screens();
     for (QScreen* screen : screens) {
-        const QRect part = (m_area & toDevice(screen->geometry(), *screen)).boundingRect();
-        m_pictures.append({part.topLeft(), part.isEmpty() ? QImage() : source.grab(*screen, part)});
+        const QRect part = (toDevice(area) & toDevice(*screen)).boundingRect();
+        if (!part.isEmpty()) {
+            addPicture({part.topLeft(), source.grab(*screen, part)});
+        }
     }
+}
+
+/// The picks before this one may still be seen in it, where the pictures of that time know better.
+void ScreenReader::addPicture(Picture picture)
+{
+    if (picture.image.isNull()) {
+        return;
+    }
+    QVector<Picture>& pictures = m_memory->pictures;
+    const QRegion untrusted = touched(picture.area());
+    for (const Picture& former : qAsConst(pictures)) {
+        for (const QRect& part : untrusted) {
+            combine(former, picture, part, [](QRgb kept, QRgb& seen) { seen = kept; });
+        }
+    }
+    const auto isReplaced = [&picture](const Picture& former) {
+        return picture.area().contains(former.area());
+    };
+    pictures.erase(std::remove_if(pictures.begin(), pictures.end(), isReplaced), pictures.end());
+    pictures.append(picture);
 }
 
 QPixmap ScreenReader::picture(QScreen& screen) const
 {
-    const int index = QGuiApplication::screens().indexOf(&screen);
-    QPixmap pixmap = QPixmap::fromImage(m_pictures.value(index).image);
+    const QRect area = toDevice(screen);
+    const Picture* const found = pictureOf(area);
+    QPixmap pixmap =
+        found ? QPixmap::fromImage(found->image.copy(area.translated(-found->corner))) : QPixmap();
     pixmap.setDevicePixelRatio(screen.devicePixelRatio());
     return pixmap;
 }
 
-void ScreenReader::paint(const QWidget& window, const QRegion& painted)
+void ScreenReader::paint(const void* painter, const QRegion& painted)
 {
-    Window& known = m_windows[&window];
-    const QRegion cover = m_cover == Cover::Overlay ? toDevice(QRegion(window.geometry())) : QRegion();
-    const QRegion now = toDevice(painted);
-    // Pixels of a native window that has grown are arbitrary.
-    if (known.cover != cover) {
-        noteChange((known.cover + cover).boundingRect());
+    QHash<const void*, QRegion>& places = m_memory->painted;
+    if (!places.contains(painter)) {
+        m_settledAt = m_source->now() + settleTime;
     }
-    if (known.painted != now) {
-        noteChange(known.painted.boundingRect());
-    }
-    known = {cover, now};
+    const QRegion place = toDevice(painted);
+    noteTrace(places.value(painter) - place);
+    places.insert(painter, place);
 }
 
-void ScreenReader::remove(const QWidget& window)
+void ScreenReader::remove(const void* painter, const QRegion& area)
 {
-    const Window gone = m_windows.take(&window);
-    noteChange((gone.cover + gone.painted).boundingRect());
+    noteTrace(m_memory->painted.take(painter) + toDevice(area));
+}
+
+void ScreenReader::refresh(const QRect& area, QScreen& screen)
+{
+    if (!m_memory->pictures.isEmpty()) {
+        const QRect pixels = toDevice(area, screen);
+        grab(screen, QRegion(pixels) - hidden(pixels));
+    }
 }
 
 QColor ScreenReader::colorAt(const QPointF& position)
@@ -217,14 +269,11 @@ QColor ScreenReader::colorAt(const QPointF& position)
         return {};
     }
     const QRect pixel(toDevice(position, *screen), QSize(1, 1));
-    if (!unsettled(pixel).isEmpty()) {
-        for (const Picture& picture : qAsConst(m_pictures)) {
-            if (picture.area().contains(pixel)) {
-                return QColor(picture.image.pixel(pixel.topLeft() - picture.corner));
-            }
-        }
+    const Picture* const known = hidden(pixel).isEmpty() ? nullptr : pictureOf(pixel);
+    if (known) {
+        return QColor(known->image.pixel(pixel.topLeft() - known->corner));
     }
-    const QImage live = m_source->grab(*screen, pixel);
+    const QImage live = grab(*screen, pixel).image;
     if (live.isNull()) {
         return m_cover == Cover::Overlay ? QColor(Qt::black) : QColor();
     }
@@ -236,84 +285,105 @@ ScreenReader::Detail ScreenReader::around(const QPoint& point, int size, QScreen
     const qreal ratio = screen.devicePixelRatio();
     const QRect pixels(toDevice(point - QPoint(size / 2, size / 2), screen),
                        (QSizeF(size, size) * ratio).toSize());
-    const QRect inside = pixels & toDevice(screen.geometry(), screen);
-    const QRegion settled = QRegion(inside) - unsettled(inside);
-    const Picture live = {inside.topLeft(), settled.isEmpty() ? QImage() : m_source->grab(screen, inside)};
-    const auto refresh = [this](QRgb seen, QRgb& kept) {
-        // What may still be the same stays: 127 and 128 are one value below the overlay.
-        if (seen != (m_cover == Cover::Overlay ? darkened(kept) : kept)) {
-            kept = belowCover(seen).rgb();
-        }
-    };
-    for (const QRect& part : settled) {
-        for (Picture& picture : m_pictures) {
-            combine(live, picture, part, refresh);
-        }
-    }
-
+    const QRect inside = pixels & toDevice(screen);
+    const QRegion seen = QRegion(inside) - hidden(inside);
+    const Picture live = grab(screen, seen);
     Picture shown = live;
-    if (settled != QRegion(pixels)) {
+    if (live.area() != pixels || seen != QRegion(pixels)) {
         shown = {pixels.topLeft(), QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied)};
         shown.image.fill(Qt::transparent);
-        const auto copy = [](QRgb seen, QRgb& pixel) { pixel = seen; };
-        for (const Picture& picture : qAsConst(m_pictures)) {
+        const auto copy = [](QRgb from, QRgb& to) { to = from; };
+        for (const Picture& picture : qAsConst(m_memory->pictures)) {
             combine(picture, shown, pixels, copy);
         }
-        for (const QRect& part : settled) {
+        for (const QRect& part : seen) {
             combine(live, shown, part, copy);
         }
     }
 
     const QPoint middle = toDevice(point, screen);
-    const bool isLive = settled.contains(middle) && live.area().contains(middle);
+    const bool isLive = seen.contains(middle) && !live.image.isNull();
     shown.image.setDevicePixelRatio(ratio);
     return {QPixmap::fromImage(shown.image),
             isLive ? belowCover(live.image.pixel(middle - live.corner)) : colorAt(point)};
 }
 
-/// Changes of a short while are one: a hand makes a thousand in a second.
-void ScreenReader::noteChange(const QRect& area)
+/// Traces of a short while are one: a hand makes a thousand in a second.
+void ScreenReader::noteTrace(const QRegion& area)
 {
     constexpr qint64 shortWhile = 50;
     const qint64 now = m_source->now();
-    while (!m_changes.isEmpty() && now - m_changes.constFirst().end >= settleTime) {
-        m_changes.removeFirst();
+    QVector<Memory::Trace>& traces = m_memory->traces;
+    while (!traces.isEmpty() && now - traces.constFirst().end >= settleTime) {
+        traces.removeFirst();
     }
-    if (!m_changes.isEmpty() && now - m_changes.constLast().begin < shortWhile) {
-        m_changes.last().area |= area;
-        m_changes.last().end = now;
+    if (area.isEmpty()) {
+        return;
+    }
+    if (!traces.isEmpty() && now - traces.constLast().begin < shortWhile) {
+        traces.last().area += area;
+        traces.last().end = now;
     } else {
-        m_changes.append({area, now, now});
+        traces.append({area, now, now});
     }
 }
 
 /// The part of @p area where a grab may show something else than the screen with the cover over it.
-QRegion ScreenReader::unsettled(const QRect& area) const
+QRegion ScreenReader::hidden(const QRect& area) const
 {
-    if (m_grabs == ScreenSource::Grabs::Always) {
-        return {};
-    }
-    if (m_grabs == ScreenSource::Grabs::Never && m_cover == Cover::Overlay) {
-        return area;
-    }
-    QRegion result = m_cover == Cover::Overlay ? area : QRect();
-    for (const Window& window : m_windows) {
-        if (window.cover.intersects(area)) {
-            result -= window.cover;
-        }
-    }
-    for (const Window& window : m_windows) {
-        if (window.painted.intersects(area)) {
-            result += window.painted & area;
-        }
+    const bool isCoverHere = m_cover == Cover::Nothing || m_source->now() >= m_settledAt ||
+                             m_source->grabs() == ScreenSource::Grabs::Always;
+    return isCoverHere ? touched(area) : area;
+}
+
+/// The part of @p area where a grab may show what pickers have painted.
+QRegion ScreenReader::touched(const QRect& area) const
+{
+    QRegion result;
+    if (m_source->grabs() == ScreenSource::Grabs::Always) {
+        return result;
     }
     const qint64 now = m_source->now();
-    for (const Change& change : m_changes) {
-        if (change.area.intersects(area) && now - change.end < settleTime) {
-            result += change.area & area;
+    for (const QRegion& painted : qAsConst(m_memory->painted)) {
+        if (painted.intersects(area)) {
+            result += painted & area;
+        }
+    }
+    for (const Memory::Trace& trace : qAsConst(m_memory->traces)) {
+        if (now - trace.end < settleTime && trace.area.intersects(area)) {
+            result += trace.area & area;
         }
     }
     return result;
+}
+
+/// Grabs @p area, in which nothing is hidden, and keeps what is new. What may be the same stays: 127 and 128
+/// are one value below the overlay.
+ScreenReader::Picture ScreenReader::grab(QScreen& screen, const QRegion& area)
+{
+    const QRect bounds = area.boundingRect();
+    const Picture live = {bounds.topLeft(), bounds.isEmpty() ? QImage() : m_source->grab(screen, bounds)};
+    const auto keep = [this](QRgb seen, QRgb& kept) {
+        if (seen != (m_cover == Cover::Overlay ? darkened(kept) : kept)) {
+            kept = belowCover(seen).rgb();
+        }
+    };
+    for (const QRect& part : area) {
+        for (Picture& picture : m_memory->pictures) {
+            combine(live, picture, part, keep);
+        }
+    }
+    return live;
+}
+
+/// The picture that has all of @p area, or null.
+const ScreenReader::Picture* ScreenReader::pictureOf(const QRect& area) const
+{
+    const QVector<Picture>& pictures = m_memory->pictures;
+    const auto found = std::find_if(pictures.crbegin(), pictures.crend(), [&area](const Picture& picture) {
+        return picture.area().contains(area);
+    });
+    return found == pictures.crend() ? nullptr : &*found;
 }
 
 QColor ScreenReader::belowCover(QRgb seen) const

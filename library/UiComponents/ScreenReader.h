@@ -3,19 +3,17 @@
 #pragma once
 
 #include <QColor>
-#include <QHash>
 #include <QImage>
 #include <QPixmap>
 #include <QPoint>
 #include <QPointF>
 #include <QRect>
 #include <QRegion>
-#include <QVector>
 
+#include <limits>
 #include <memory>
 
 class QScreen;
-class QWidget;
 
 /// Where the pixels come from, and when.
 class ScreenSource
@@ -45,10 +43,13 @@ public:
 /**
  * Reads the screens below what a picker paints over them, at once.
  *
- * A compositor shows a painting some frames later: a grab may still hold what the picker painted before.
- * So the reader takes a picture of the screens when it is made, before the picker shows anything, and is told
- * what the picker paints. It grabs the pixels that no painting can have changed lately, which refreshes the
- * picture, and takes all others from the picture.
+ * A compositor shows a painting some frames later: a grab may still hold what a picker painted before. So the
+ * reader takes a picture of the screens when it is made, before the picker shows anything, and is told what
+ * the picker paints. Pixels that hold such a painting, or held one lately, come from the picture, and so does
+ * all below a cover that has just come. All others are grabbed, which refreshes the picture.
+ *
+ * All readers that exist at a time share what they know. Copies are one reader; keep one for settleTime after
+ * a pick, or the next picker takes what is left of it on the screens for what is to be picked.
  *
  * What it is given is in points of the desktop. Inside, everything is in device pixels of the desktop: a
  * screen keeps its corner, and has a ratio of them to a point.
@@ -59,7 +60,7 @@ public:
     /// What lies over the pixels that are grabbed.
     enum class Cover {
         Nothing,
-        Overlay, ///< overlayColor(), on each window from its first painting on
+        Overlay, ///< overlayColor(), since a while after the last window was first painted
     };
 
     /// A picture, and the color of its middle.
@@ -76,22 +77,20 @@ public:
     /// would let the mouse through.
     static QColor overlayColor();
 
-    /// The reader of the last pick while somebody keeps it, if that was of the same area, or a new one. Keep
-    /// it for settleTime: a new one would take what is left of that pick on the screens for what is to be
-    /// picked.
-    static std::shared_ptr<ScreenReader> shared(const QRegion& area, Cover cover);
-
     /// Takes the picture of @p area.
     ScreenReader(const QRegion& area, Cover cover, ScreenSource& source = ScreenSource::platform());
 
     /// What the screen showed at the start; null when there is no picture of it.
     QPixmap picture(QScreen& screen) const;
 
-    /// @p window is being painted, with something besides the cover in @p painted.
-    void paint(const QWidget& window, const QRegion& painted);
+    /// @p painter paints something besides the cover in @p painted from now on, and nowhere else.
+    void paint(const void* painter, const QRegion& painted);
 
-    /// @p window has gone.
-    void remove(const QWidget& window);
+    /// @p painter has gone, with its cover on @p area.
+    void remove(const void* painter, const QRegion& area = {});
+
+    /// Looks at the part @p area of a screen before something is painted there.
+    void refresh(const QRect& area, QScreen& screen);
 
     /// The opaque color at @p position, which lies between two points where the mouse is on a scaled screen.
     /// Where there is no picture it is black below an overlay and invalid otherwise; invalid on no screen.
@@ -111,30 +110,21 @@ public:
     };
 
 private:
-    struct Window
-    {
-        QRegion cover;
-        QRegion painted;
-    };
-    /// What was painted otherwise for a while.
-    struct Change
-    {
-        QRect area;
-        qint64 begin;
-        qint64 end;
-    };
+    struct Memory;
 
-    void noteChange(const QRect& area);
-    QRegion unsettled(const QRect& area) const;
+    void addPicture(Picture picture);
+    void noteTrace(const QRegion& area);
+    QRegion hidden(const QRect& area) const;
+    QRegion touched(const QRect& area) const;
+    Picture grab(QScreen& screen, const QRegion& area);
+    const Picture* pictureOf(const QRect& area) const;
     QColor belowCover(QRgb seen) const;
 
     ScreenSource* m_source;
-    ScreenSource::Grabs m_grabs;
     Cover m_cover;
-    QRegion m_area;
-    QVector<Picture> m_pictures;
-    QHash<const QWidget*, Window> m_windows;
-    QVector<Change> m_changes;
+    /// When the cover is surely there.
+    qint64 m_settledAt = std::numeric_limits<qint64>::max();
+    std::shared_ptr<Memory> m_memory;
 };
 
 /// The point that the pixel at @p position belongs to. Rounding would give half of a point's pixels to the

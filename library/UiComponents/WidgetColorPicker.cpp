@@ -79,7 +79,7 @@ public:
         QEventLoop loop;
         /// Where the target had its outline put, and the screen as it was before.
         QRect place;
-        std::shared_ptr<ScreenReader> reader;
+        std::optional<ScreenReader> reader;
         /// Where the cursor was when stop() ended it, and the color there; empty until then.
         std::optional<Sample> end;
     };
@@ -93,14 +93,14 @@ public:
     bool isInProgress() const { return run && run->loop.isRunning(); }
     void takeCursor();
     void applyTarget();
-    void removeOutline();
+    void removeOutline(Run& of);
     void pick();
     void stop();
     void noteMouse(const QObject* watched, const QMouseEvent& event);
     bool isActiveAt(const QPointF& position) const;
     QPointF cursorPosition() const;
     bool isOverTarget(const QPointF& position) const;
-    QColor colorAt(const QPointF& position, const Run& of) const;
+    QColor colorAt(const QPointF& position, Run& of) const;
 
     /// Null when the picker has died.
     WidgetColorPicker* owner;
@@ -130,19 +130,20 @@ void WidgetColorPicker::Private::takeCursor()
 void WidgetColorPicker::Private::applyTarget()
 {
     cursorGuard = std::make_unique<CursorGuard>(target, cursor);
-    removeOutline();
+    removeOutline(*run);
     run->place = onDesktop(*target);
     const QRegion outline = outlineOf(run->place);
-    run->reader = ScreenReader::shared(outline, ScreenReader::Cover::Nothing);
-    run->reader->paint(*target->window(), outline);
+    run->reader.emplace(outline, ScreenReader::Cover::Nothing);
+    run->reader->paint(this, outline);
     highlightFrame = std::make_unique<HighlightFrame>(target);
 }
 
-void WidgetColorPicker::Private::removeOutline()
+void WidgetColorPicker::Private::removeOutline(Run& of)
 {
     if (highlightFrame) {
         highlightFrame.reset();
-        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = run->reader] {});
+        of.reader->remove(this);
+        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = of.reader] {});
     }
 }
 
@@ -163,7 +164,7 @@ void WidgetColorPicker::Private::pick()
 
     run = nullptr;
     // These two are still there when the application quits, which ends all loops.
-    highlightFrame.reset();
+    removeOutline(thisRun);
     cursorGuard.reset();
     if (owner) {
         qGuiApp->removeEventFilter(owner);
@@ -173,7 +174,9 @@ void WidgetColorPicker::Private::pick()
     if (!thisRun.end || !owner || !target || !isOverTarget(position)) {
         return;
     }
-    const QColor picked = thisRun.end->position == position ? thisRun.end->color : colorAt(position, thisRun);
+    // The target may have come to the cursor since.
+    const bool isKnown = thisRun.end->position == position && thisRun.end->color.isValid();
+    const QColor picked = isKnown ? thisRun.end->color : colorAt(position, thisRun);
     const QPointer<WidgetColorPicker> picker = owner;
     if (picker) {
         color = picked;
@@ -191,7 +194,7 @@ void WidgetColorPicker::Private::stop()
     }
     Run& ending = *run;
     ending.loop.quit();
-    removeOutline();
+    removeOutline(ending);
     cursorGuard.reset();
     // Now: what ends the pick may close or change the target before the loop returns.
     const QPointF position = cursorPosition();
@@ -235,7 +238,7 @@ bool WidgetColorPicker::Private::isOverTarget(const QPointF& position) const
 
 /// What the screen shows there, or what the target paints where the screen does not tell: the target has
 /// taken its outline along, or the platform gives no picture.
-QColor WidgetColorPicker::Private::colorAt(const QPointF& position, const Run& of) const
+QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) const
 {
     const QPoint point = pointAt(position - windowShift);
     const QRect area = onDesktop(*target);

@@ -27,10 +27,11 @@ class WidgetColorPickerStylingObject;
  *
  * The colour is opaque, and that of the screen when the pick ends, with whatever lies over the target, even
  * if what ended it then closes or moves the target. The outermost 8 points, which the outline may cover, are
- * those from before the pick, or as the target paints itself when it has moved since. Where the platform
- * gives no picture of the screen (as plain Wayland), all of it is as the target paints itself; Xwayland may
- * give a black one. A mouse event tells the pixel, also where the screen has several for a point; a key
- * before the first one takes that of the whole point next to the cursor.
+ * those from before the pick (and before the one that ended less than a second earlier), or as the target
+ * paints itself when it has moved since. Where the platform gives no picture of the screen (as plain
+ * Wayland), all of it is as the target paints itself; Xwayland may give a black one. A mouse event tells the
+ * pixel, also where the screen has several for a point; a key before the first one takes that of the whole
+ * point next to the cursor.
  */
 class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 {

@@ -108,6 +108,23 @@ QString mistakeAt(const QPoint& point)
     return {};
 }
 
+/// The view that was raised last.
+class LastRaised : public QObject
+{
+public:
+    LastRaised() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::ZOrderChange && object->inherits("PipetteScreenView")) {
+            view = static_cast<QWidget*>(object);
+        }
+        return false;
+    }
+
+    const QWidget* view = nullptr;
+};
+
 bool xdotool(const QStringList& arguments)
 {
     constexpr int longForATool = 30000;
@@ -162,11 +179,14 @@ private Q_SLOTS:
     void picksWhereTheLoupeIs_data();
     void picksWhereTheLoupeIs();
     void nextPickReadsNothingOfTheLast();
+    void changesAreSeen_data();
+    void changesAreSeen();
     void loupeChangesTheScreen();
     void fullScreenWindowIsPickedFrom();
     void keysEndWithoutAColor_data();
     void keysEndWithoutAColor();
     void focusMayComeLate();
+    void anotherApplicationMayComeLate();
     void activatedWindowOfTheHostStaysActive();
     void anotherApplicationEndsThePick_data();
     void anotherApplicationEndsThePick();
@@ -266,11 +286,15 @@ void tst_ScreenPipette::everyStartCoversTheScreens()
     for (int i = 0; i < starts; ++i) {
         QScreen* const screen = screens.at(i % screens.size());
         QCursor::setPos(screen, screen->geometry().center() + QPoint(i % 7, 0));
+        const LastRaised raised;
+        m_pipette->startPicking();
+        QCOMPARE(raised.view->geometry(), screen->geometry());
+        m_pipette->stopPicking();
         QVERIFY2(start(), qPrintable(QString::number(i)));
         QCOMPARE(views().size(), screens.size());
         m_pipette->stopPicking();
         QVERIFY(views().isEmpty());
-        QCOMPARE(m_stopped->count(), i + 1);
+        QCOMPARE(m_stopped->count(), 2 * (i + 1));
     }
 }
 
@@ -448,6 +472,48 @@ void tst_ScreenPipette::nextPickReadsNothingOfTheLast()
     }
 }
 
+void tst_ScreenPipette::changesAreSeen_data()
+{
+    QTest::addColumn<bool>("isNextPick");
+    QTest::newRow("below a mouse that rests") << false;
+    QTest::newRow("by a pick that begins as one ends") << true;
+}
+
+// As of a video.
+void tst_ScreenPipette::changesAreSeen()
+{
+    QFETCH(bool, isNextPick);
+    const QRgb colors[] = {qRgb(10, 200, 30), qRgb(240, 20, 250)};
+    const auto show = [this](QRgb color) {
+        m_host->setPalette(QColor(color));
+        m_host->repaint();
+    };
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    m_host->resize(500, 400);
+    show(colors[0]);
+    const QPoint point = m_host->mapToGlobal(QPoint(100, 300));
+    const QPoint other = m_host->mapToGlobal(QPoint(400, 350));
+    QTRY_COMPARE(screenAtPoint(point), colors[0]);
+    QVERIFY(moveMouse(point));
+    QVERIFY(start());
+    settle();
+    PipetteWindows::move(screen, point);
+    QVERIFY(isSame(QColor(colorName()), colors[0]));
+    show(colors[1]);
+    QTRY_COMPARE(screenAtPoint(point), darkened(colors[1]));
+    QTRY_COMPARE(screenAtPoint(other), darkened(colors[1]));
+    if (isNextPick) {
+        m_pipette->stopPicking();
+        m_pipette->startPicking();
+    }
+    for (const QPoint& place : {point, other}) {
+        PipetteWindows::move(screen, place);
+        QVERIFY2(isSame(QColor(colorName()), colors[1]), qPrintable(colorName()));
+    }
+    release(screen, point);
+    QVERIFY(isSame(m_pipette->currentColor(), colors[1]));
+}
+
 void tst_ScreenPipette::loupeChangesTheScreen()
 {
     const auto screens = QGuiApplication::screens();
@@ -535,6 +601,28 @@ void tst_ScreenPipette::focusMayComeLate()
     kill(manager, SIGCONT);
     QTRY_COMPARE(QGuiApplication::applicationState(), Qt::ApplicationActive);
     QVERIFY(clickAt(QGuiApplication::screens().last()->geometry().center()));
+}
+
+// Qt has long said that the application is inactive by then.
+void tst_ScreenPipette::anotherApplicationMayComeLate()
+{
+    const auto manager = static_cast<pid_t>(qEnvironmentVariableIntValue("UIC_WINDOW_MANAGER"));
+    QVERIFY(manager > 0);
+    PixelPattern other;
+    QVERIFY(other.show(QRect(m_host->geometry().bottomRight() + QPoint(50, 50), QSize(60, 40)),
+                       PixelPattern::Window::Ordinary));
+    QVERIFY(RealInput::showAndActivate(m_host.get()));
+    QVERIFY(start());
+    QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
+    QCOMPARE(kill(manager, SIGSTOP), 0);
+    const auto goOn = qScopeGuard([manager] { kill(manager, SIGCONT); });
+    QVERIFY(PixelPattern::focus());
+    QTRY_COMPARE(QGuiApplication::applicationState(), Qt::ApplicationInactive);
+    QCOMPARE(m_stopped->count(), 0);
+    kill(manager, SIGCONT);
+    QTRY_COMPARE(m_stopped->count(), 1);
+    QVERIFY(views().isEmpty());
+    QCOMPARE(m_selected->count(), 0);
 }
 
 void tst_ScreenPipette::activatedWindowOfTheHostStaysActive()

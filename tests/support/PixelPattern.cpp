@@ -3,6 +3,19 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 
+namespace {
+
+bool tell(const char* command)
+{
+    // Window managers do not list the backmost one, which bypasses them.
+    return QProcess::execute(QStringLiteral("xdotool"),
+                             {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                              QStringLiteral("--name"), QStringLiteral("^Pixel pattern$"),
+                              QString::fromLatin1(command)}) == 0;
+}
+
+} // namespace
+
 QRgb PixelPattern::colorAt(int x, int y)
 {
     // An odd factor maps 24 bits to 24 bits one to one, and neighbours far apart.
@@ -38,9 +51,10 @@ bool PixelPattern::show(const QRect& place, Window window)
 
 bool PixelPattern::activate()
 {
-    // Window managers do not list the backmost one, which bypasses them.
-    return QProcess::execute(QStringLiteral("xdotool"),
-                             {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                              QStringLiteral("--name"), QStringLiteral("^Pixel pattern$"),
-                              QStringLiteral("windowactivate")}) == 0;
+    return tell("windowactivate");
+}
+
+bool PixelPattern::focus()
+{
+    return tell("windowfocus");
 }

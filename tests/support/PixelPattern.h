@@ -33,6 +33,9 @@ public:
     /// Makes the only one that is not backmost the active window, as a click on it in a task bar does.
     static bool activate();
 
+    /// Gives it the keyboard without asking the window manager.
+    static bool focus();
+
 private:
     QProcess m_application;
 };

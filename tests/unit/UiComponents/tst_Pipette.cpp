@@ -953,8 +953,8 @@ void tst_Pipette::pipetteMayDieWhilePicking()
     m_protocol.lines.clear();
     m_pipette.reset();
     // At once, and in silence.
-    QVERIFY(shownViews().isEmpty());
-    QVERIFY(nothingIsLeft());
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+    QVERIFY(alive<LoupeWidget>().isEmpty());
     QCOMPARE(m_protocol.lines, QStringList());
 
     // With two sets.
@@ -962,8 +962,8 @@ void tst_Pipette::pipetteMayDieWhilePicking()
     m_pipette->startPicking();
     m_pipette->startPicking();
     m_pipette.reset();
-    QVERIFY(shownViews().isEmpty());
-    QVERIFY(nothingIsLeft());
+    QVERIFY(alive<PipetteScreenView>().isEmpty());
+    QVERIFY(alive<LoupeWidget>().isEmpty());
 }
 
 // What loses the focus to a view hears of it while Qt is about to go on with the view.

@@ -4,7 +4,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QWidget>
 
 namespace {
 
@@ -53,9 +52,9 @@ public:
         if (loupe.contains(point)) {
             return loupeColor;
         }
-        const QRgb color = hasChanged ? ~below(point) | 0xff000000U : below(point);
-        return hasOverlay ? covered(color) : color;
+        return hasOverlay ? covered(bare(point)) : bare(point);
     }
+    QRgb bare(const QPoint& point) const { return hasChanged ? ~below(point) | 0xff000000U : below(point); }
 
     Grabs kind;
     bool isBlind = false;
@@ -76,8 +75,7 @@ struct Settled
         : screen(kind)
         , reader(everything, cover, screen)
     {
-        window.setGeometry(everything);
-        reader.paint(window, QRegion());
+        reader.paint(this, QRegion());
         screen.hasOverlay = cover == ScreenReader::Cover::Overlay;
         wait();
         screen.grabbed.clear();
@@ -87,8 +85,13 @@ struct Settled
 
     Screen screen;
     ScreenReader reader;
-    QWidget window;
 };
+
+int difference(const QColor& one, const QColor& other)
+{
+    return qMax(qMax(qAbs(one.red() - other.red()), qAbs(one.green() - other.green())),
+                qAbs(one.blue() - other.blue()));
+}
 
 QColor corrected(QRgb seen)
 {
@@ -120,8 +123,10 @@ private Q_SLOTS:
     void nothingOverTheScreenIsNotCorrected();
     void paintedPixelsComeFromThePicture_data();
     void paintedPixelsComeFromThePicture();
-    void eachWindowHasItsPaintings();
-    void resizedWindowCoversAnew();
+    void eachPainterHasItsPlaces();
+    void nextReaderKnowsWhatTheLastPainted();
+    void nextReaderTakesItsOwnPicture();
+    void refreshLooksBeforeItIsPaintedOver();
     void grabsRefreshThePicture();
     void detailIsPutTogether();
     void edgesOfTheScreen_data();
@@ -142,11 +147,15 @@ void tst_ScreenReader::initTestCase()
 void tst_ScreenReader::picturesAreTakenOnce()
 {
     Screen screen;
-    const ScreenReader reader(QRect(10, 20, 30, 40), ScreenReader::Cover::Nothing, screen);
+    const ScreenReader part(QRect(10, 20, 30, 40), ScreenReader::Cover::Nothing, screen);
     QCOMPARE(screen.grabbed, QVector<QRect>({QRect(10, 20, 30, 40)}));
-    const QImage picture = reader.picture(*QGuiApplication::primaryScreen()).toImage();
-    QCOMPARE(picture.size(), QSize(30, 40));
-    QCOMPARE(picture.pixel(1, 2), Screen::below({11, 22}));
+    QVERIFY(part.picture(*QGuiApplication::primaryScreen()).isNull());
+    screen.grabbed.clear();
+    const ScreenReader all(QGuiApplication::primaryScreen()->geometry(), ScreenReader::Cover::Nothing,
+                           screen);
+    const QImage picture = all.picture(*QGuiApplication::primaryScreen()).toImage();
+    QCOMPARE(picture.size(), QGuiApplication::primaryScreen()->size());
+    QCOMPARE(picture.pixel(11, 22), Screen::below({11, 22}));
     screen.grabbed.clear();
     const ScreenReader elsewhere(QRect(-50, -50, 20, 20), ScreenReader::Cover::Nothing, screen);
     QCOMPARE(screen.grabbed, QVector<QRect>());
@@ -158,8 +167,6 @@ void tst_ScreenReader::uncoveredPixelsComeFromThePicture()
     Screen screen;
     ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
     screen.hasChanged = true;
-    QWidget window;
-    window.setGeometry(everything);
     const QPoint point(200, 300);
     for (const int elapsed : {0, 10, ScreenReader::settleTime - 100}) {
         screen.time += elapsed;
@@ -167,11 +174,15 @@ void tst_ScreenReader::uncoveredPixelsComeFromThePicture()
         QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
                  QColor(Screen::below(point)));
         // Only the first painting of a window covers the screen.
-        reader.paint(window, QRegion());
+        reader.paint(this, QRegion());
     }
     screen.hasOverlay = true;
     screen.time += ScreenReader::settleTime;
     QCOMPARE(reader.colorAt(point), corrected(screen.shownAt(point)));
+    // Of a second one as well.
+    reader.paint(&screen, QRegion());
+    const QPoint other(400, 300);
+    QCOMPARE(reader.colorAt(other), QColor(Screen::below(other)));
 }
 
 void tst_ScreenReader::coveredPixelsAreCorrected()
@@ -223,11 +234,11 @@ void tst_ScreenReader::paintedPixelsComeFromThePicture()
     QFETCH(bool, isLive);
     Settled settled;
     const QRect loupe(100, 100, 40, 40);
-    settled.reader.paint(settled.window, loupe);
+    settled.reader.paint(&settled, loupe);
     settled.screen.loupe = loupe;
     settled.wait();
     if (sinceGone >= 0) {
-        settled.reader.paint(settled.window, QRect(500, 400, 40, 40));
+        settled.reader.paint(&settled, QRect(500, 400, 40, 40));
         settled.screen.time += sinceGone;
         settled.screen.loupe = sinceGone < 40 ? loupe : QRect(500, 400, 40, 40);
     }
@@ -236,40 +247,80 @@ void tst_ScreenReader::paintedPixelsComeFromThePicture()
         QCOMPARE(settled.reader.colorAt(point), isLive ? corrected(Screen::covered(below)) : QColor(below));
     }
     // What it has not touched is grabbed all along.
-    const QPoint beside(loupe.right() + 3, loupe.bottom() + 3);
-    QCOMPARE(settled.reader.colorAt(beside), corrected(settled.screen.shownAt(beside)));
+    for (const QPoint& beside : {loupe.bottomLeft() + QPoint(0, 1), loupe.topRight() + QPoint(1, 0)}) {
+        QCOMPARE(settled.reader.colorAt(beside), corrected(settled.screen.shownAt(beside)));
+    }
 }
 
-void tst_ScreenReader::eachWindowHasItsPaintings()
+void tst_ScreenReader::eachPainterHasItsPlaces()
 {
     Settled settled;
-    QWidget second;
-    second.setGeometry(everything);
     const QRect loupe(100, 100, 40, 40);
-    settled.reader.paint(settled.window, loupe);
-    settled.reader.paint(second, QRegion());
+    const int first = 0;
+    const int second = 0;
+    settled.reader.paint(&first, loupe);
+    settled.reader.paint(&second, QRegion());
     settled.wait();
     settled.screen.loupe = loupe;
     QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
-    // What a window that has gone has painted goes with it.
-    settled.reader.remove(settled.window);
+    // What a painter that has gone has painted goes with it.
+    settled.reader.remove(&first);
+    QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
     settled.screen.loupe = QRegion();
     settled.wait();
     QCOMPARE(settled.reader.colorAt(loupe.center()), corrected(settled.screen.shownAt(loupe.center())));
-    settled.reader.remove(second);
-    QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
 }
 
-// Pixels of a native window that has grown are arbitrary.
-void tst_ScreenReader::resizedWindowCoversAnew()
+// A pick may begin while the last one can still be seen, of another picker and of another area.
+void tst_ScreenReader::nextReaderKnowsWhatTheLastPainted()
+{
+    Settled last;
+    const QRect loupe(100, 100, 40, 40);
+    last.reader.paint(&last, loupe);
+    last.screen.loupe = loupe;
+    last.wait();
+    last.reader.remove(&last, QRect(0, 0, 200, 200));
+    last.screen.hasChanged = true;
+    ScreenReader next(QRect(90, 90, 200, 200), ScreenReader::Cover::Nothing, last.screen);
+    for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
+        QCOMPARE(next.colorAt(point), QColor(Screen::below(point)));
+    }
+    last.screen.loupe = QRegion();
+    last.screen.hasOverlay = false;
+    const QPoint beside(210, 210);
+    QCOMPARE(next.colorAt(beside), QColor(last.screen.bare(beside)));
+    last.wait();
+    for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
+        QCOMPARE(next.colorAt(point), QColor(last.screen.bare(point)));
+    }
+}
+
+// The pictures are those of the new reader where nothing is in its way.
+void tst_ScreenReader::nextReaderTakesItsOwnPicture()
+{
+    Settled last(ScreenReader::Cover::Nothing);
+    last.screen.hasChanged = true;
+    ScreenReader next(everything, ScreenReader::Cover::Overlay, last.screen);
+    const QPoint point(200, 300);
+    QCOMPARE(next.colorAt(point), QColor(last.screen.bare(point)));
+}
+
+// Or it would keep what was there at the start for as long as something is over it.
+void tst_ScreenReader::refreshLooksBeforeItIsPaintedOver()
 {
     Settled settled;
-    settled.window.resize(700, 600);
-    settled.reader.paint(settled.window, QRegion());
-    const QPoint point(200, 300);
-    QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
-    settled.wait();
-    QCOMPARE(settled.reader.colorAt(point), corrected(settled.screen.shownAt(point)));
+    const QRect loupe(100, 100, 40, 40);
+    const QRect part(100, 100, 40, 10);
+    settled.reader.paint(&settled, part);
+    settled.screen.loupe = part;
+    settled.screen.hasChanged = true;
+    settled.reader.refresh(loupe, *QGuiApplication::primaryScreen());
+    QCOMPARE(settled.screen.grabbed, QVector<QRect>({QRect(100, 110, 40, 30)}));
+    settled.reader.paint(&settled, loupe);
+    settled.screen.loupe = loupe;
+    QVERIFY(difference(settled.reader.colorAt(QPoint(110, 130)), QColor(settled.screen.bare({110, 130}))) <=
+            1);
+    QCOMPARE(settled.reader.colorAt(QPoint(110, 105)), QColor(Screen::below({110, 105})));
 }
 
 void tst_ScreenReader::grabsRefreshThePicture()
@@ -283,7 +334,7 @@ void tst_ScreenReader::grabsRefreshThePicture()
     settled.reader.around(same, size, screen);
     settled.screen.hasChanged = true;
     settled.reader.around(point, size, screen);
-    settled.reader.paint(settled.window, everything);
+    settled.reader.paint(&settled, everything);
     QCOMPARE(settled.reader.colorAt(same).red(), 127);
     const QColor changed(~Screen::below(point) | 0xff000000U);
     const QColor kept = settled.reader.colorAt(point);
@@ -299,7 +350,7 @@ void tst_ScreenReader::detailIsPutTogether()
     const QPoint point(200, 300);
     // Over the upper right quarter of what is asked for.
     const QRect loupe(201, 250, 50, 50);
-    settled.reader.paint(settled.window, loupe);
+    settled.reader.paint(&settled, loupe);
     settled.screen.loupe = loupe;
     settled.wait();
     const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
@@ -343,6 +394,7 @@ void tst_ScreenReader::edgesOfTheScreen()
 void tst_ScreenReader::opaqueWindowsAreNotRead()
 {
     Settled settled(ScreenReader::Cover::Overlay, ScreenSource::Grabs::Never);
+    settled.reader.paint(&settled, everything);
     const QPoint point(200, 300);
     QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
     const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());

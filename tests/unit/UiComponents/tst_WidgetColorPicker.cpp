@@ -115,6 +115,7 @@ private Q_SLOTS:
     void doubleClickOfASwallowedPressIsSwallowed();
     void pressOnAnyOtherWidgetReachesIt();
     void cursorDecidesNotThePress();
+    void targetMayComeToTheCursor();
     void keyEndsThePick_data();
     void keyEndsThePick();
     void keyElsewherePicksNothing();
@@ -440,6 +441,23 @@ void tst_WidgetColorPicker::cursorDecidesNotThePress()
     }));
     QVERIFY(m_stage->other->isDown());
     QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+}
+
+// The receiver of a press may have brought the target below the cursor before pick() returns.
+void tst_WidgetColorPicker::targetMayComeToTheCursor()
+{
+    PickingStage::moveCursor(m_stage->other);
+    connect(m_stage->other, &QAbstractButton::pressed, this, [this] {
+        m_stage->target->setGeometry(m_stage->other->geometry());
+        m_stage->target->raise();
+    });
+    QSignalSpy changed(m_picker, &AbstractColorPicker::colorChanged);
+    QVERIFY(pickWith([this] {
+        QTest::mousePress(m_stage->window->windowHandle(), Qt::LeftButton, {},
+                          m_stage->other->geometry().center());
+    }));
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(m_picker->color()->isValid());
 }
 
 void tst_WidgetColorPicker::keyEndsThePick_data()
