@@ -1,8 +1,7 @@
 #include "DialogColorPicker.h"
 
-#include "PopupPosition.h"
-
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/PopupPosition.h>
 
 #include <QColorDialog>
 

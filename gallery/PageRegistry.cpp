@@ -29,8 +29,8 @@ QVector<PageInfo> PageRegistry::pages()
         row("color-input", PageGroup::Colour, tr("Colour field"),
             tr("A colour button in a frame, ready for a row of a form. The frame's margins belong to the "
                "style sheet; the button inside is the anchor for a pop-up picker."),
-            {tr("colour"), tr("form"), tr("row"), tr("picker")}, "ColorInputWidget AbstractColorPicker",
-            &colorInput),
+            {tr("colour"), tr("form"), tr("row"), tr("picker")},
+            "ColorInputWidget PopupColorPicker AbstractColorPicker", &colorInput),
         row("color-panel", PageGroup::Colour, tr("Colour panel"),
             tr("The panel that a colour field opens: a palette, a hexadecimal value, the user's own colours, "
                "a selector of any colour, and opacity."),

@@ -2061,6 +2061,10 @@
         <source>Panel: with opacity</source>
         <translation>Tafel: mit Deckkraft</translation>
     </message>
+    <message>
+        <source>Panel: with own colours</source>
+        <translation>Tafel: mit eigenen Farben</translation>
+    </message>
 </context>
 <context>
     <name>PropertyPanel</name>

@@ -2061,6 +2061,10 @@
         <source>Panel: with opacity</source>
         <translation>パネル: 不透明度付き</translation>
     </message>
+    <message>
+        <source>Panel: with own colours</source>
+        <translation>パネル: 自分の色あり</translation>
+    </message>
 </context>
 <context>
     <name>PropertyPanel</name>

@@ -1,9 +1,11 @@
+#include "PipetteWindows.h"
 #include "RealInput.h"
 #include "TestMain.h"
 
 #include <Settings/Settings.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/PopupColorPicker.h>
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -15,7 +17,6 @@
 #include <QToolButton>
 
 #include <gallery/GalleryApplication.h>
-#include <gallery/PanelColorPicker.h>
 #include <gallery/StyleController.h>
 
 /**
@@ -48,7 +49,9 @@ private Q_SLOTS:
     void fieldIsClosedByAClick_data();
     void fieldIsClosedByAClick();
     void fieldKeepsThePanelBelowItsSelector();
-    void fieldHandsThePipetteOn();
+    void escapeBringsTheValueBack_data();
+    void escapeBringsTheValueBack();
+    void pipetteComesBackToTheField();
 
 private:
     template <typename Child>
@@ -74,7 +77,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     QPointer<ColorPickerWidget> m_panel;
     QPointer<ColorPickerButton> m_field;
-    PanelColorPicker* m_picker = nullptr;
+    PopupColorPicker* m_picker = nullptr;
     std::unique_ptr<QSignalSpy> m_reported;
 };
 
@@ -93,7 +96,7 @@ void tst_ColorPanel::init()
     layout->setContentsMargins(20, 20, 20, 20);
     m_panel = new ColorPickerWidget(m_window.get(), true);
     m_field = new ColorPickerButton(m_window.get());
-    m_picker = new PanelColorPicker(m_field);
+    m_picker = new PopupColorPicker;
     m_field->setPicker(m_picker);
     m_field->setColor(QColor(Qt::red));
     layout->addWidget(m_panel, 0, Qt::AlignTop);
@@ -418,7 +421,7 @@ void tst_ColorPanel::fieldOpensThePanel()
     QVERIFY(popup->isVisible());
     QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel")));
 
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QVERIFY(RealInput::key(QStringLiteral("Return")));
     QTRY_VERIFY(!popup->isVisible());
     QTRY_VERIFY(!m_field->isDown());
     QVERIFY(m_window->isActiveWindow());
@@ -493,17 +496,62 @@ void tst_ColorPanel::fieldKeepsThePanelBelowItsSelector()
     QTRY_VERIFY(!m_field->isDown());
 }
 
-void tst_ColorPanel::fieldHandsThePipetteOn()
+void tst_ColorPanel::escapeBringsTheValueBack_data()
 {
+    QTest::addColumn<std::optional<QColor>>("before");
+    QTest::newRow("a colour") << std::optional<QColor>(QColor(0x12, 0xab, 0x34, 100));
+    QTest::newRow("no colour") << std::optional<QColor>(QColor());
+    QTest::newRow("several colours") << std::optional<QColor>();
+}
+
+void tst_ColorPanel::escapeBringsTheValueBack()
+{
+    QFETCH(std::optional<QColor>, before);
+    m_field->setColor(before);
+    // Nothing is chosen.
     QVERIFY(openField());
-    QSignalSpy requested(m_picker, &PanelColorPicker::pipetteRequested);
-    QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
-    QTRY_COMPARE(requested.count(), 1);
-    QVERIFY(!m_panel->isVisible());
-    QVERIFY(!m_field->isDown());
-    // What the host's pipette finds is the field's colour.
-    m_field->setColor(QColor(0x12, 0xab, 0x34));
-    QTRY_COMPARE(centerOf(m_field), QColor(0x12, 0xab, 0x34));
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QTRY_VERIFY(!m_picker->isInProgress());
+    QCOMPARE(m_field->color(), before);
+    // A click and a typed value are taken back together.
+    QVERIFY(openField());
+    QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(30)));
+    QTRY_COMPARE(m_reported->count(), 1);
+    QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
+    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+    QVERIFY(RealInput::type(QStringLiteral("345678")));
+    QTRY_COMPARE(centerOf(m_field), QColor(0x34, 0x56, 0x78));
+    QVERIFY(RealInput::key(QStringLiteral("Escape")));
+    QTRY_COMPARE(m_field->color(), before);
+    QTRY_VERIFY(!m_picker->isInProgress());
+    QVERIFY(m_window->isActiveWindow());
+}
+
+void tst_ColorPanel::pipetteComesBackToTheField()
+{
+    const QColor target = centerOf(facesOf("colorMatrixPanel").at(40));
+    const QWidget* const seen = facesOf("colorMatrixPanel").at(40);
+    for (const bool isPicked : {true, false}) {
+        QVERIFY(openField());
+        const QColor before = *m_field->color();
+        const QWidget* const popup = m_panel->window();
+        QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
+        QTRY_COMPARE(PipetteWindows::views().size(), QGuiApplication::screens().size());
+        QTRY_VERIFY(PipetteWindows::views().constFirst()->isActiveWindow());
+        QVERIFY(!popup->isVisible());
+        QVERIFY(m_field->isDown());
+        QVERIFY(isPicked ? RealInput::click(seen) : RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(popup->isVisible());
+        QVERIFY(PipetteWindows::views().isEmpty());
+        QCOMPARE(m_field->color()->name(), isPicked ? target.name() : before.name());
+        QVERIFY(QTest::qWaitForWindowExposed(m_panel->window()));
+        QCOMPARE(m_panel->currentColor(), m_field->color());
+        // The pop-up has mouse and keyboard again.
+        QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(isPicked ? 50 : 51)));
+        QTRY_COMPARE(m_field->color()->name(), nameOf(facesOf("colorMatrixPanel").at(isPicked ? 50 : 51)));
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_VERIFY(!m_picker->isInProgress());
+    }
 }
 
 UIC_TEST_MAIN(tst_ColorPanel)

@@ -660,8 +660,9 @@ void tst_ReferenceStyles::selectorsNameWhatExists()
     QMenu menu;
     QWidgetList widgets = window->findChildren<QWidget*>() + dialog.findChildren<QWidget*>();
     widgets << window.get() << &dialog << &menu;
-    // These two live only while they show.
-    QSet<QString> known = {QStringLiteral("QToolTip"), QStringLiteral("#tesselContextMenu")};
+    // These live only while they show.
+    QSet<QString> known = {QStringLiteral("QToolTip"), QStringLiteral("#tesselContextMenu"),
+                           QStringLiteral("#colorPanelPopup")};
     for (const QWidget* widget : qAsConst(widgets)) {
         known.insert(QStringLiteral("#") + widget->objectName());
         for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass()) {

@@ -1,3 +1,5 @@
+// Internal: where PopupColorPicker opens its pop-up.
+
 #pragma once
 
 #include <QPoint>

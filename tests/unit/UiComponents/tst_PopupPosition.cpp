@@ -1,6 +1,6 @@
 #include "TestMain.h"
 
-#include <gallery/PopupPosition.h>
+#include <UiComponents/PopupPosition.h>
 
 class tst_PopupPosition : public QObject
 {

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <UiComponents/AbstractColorPicker.h>
+
+#include <memory>
+
+class ColorPickerWidget;
+
+/**
+ * The picker that a colour field has as a rule: the colour panel as a pop-up beside the field.
+ *
+ *     field->setPicker(new PopupColorPicker);
+ *
+ * The pop-up opens below the field, or above it where there is no room, level with its leading edge, and
+ * stays on the field's screen. Each colour that the user chooses is the field's at once. A click elsewhere,
+ * Enter and stop() keep it; Escape brings back the value from before, several colours and no colour included.
+ * A pick without a choice ends with exactly that value too: the picker asks the ColorPickerButton, its
+ * parent, for it when the pick begins, and again at the end for what the host has set meanwhile, which then
+ * is the value that Escape brings back. A click on the field closes the pop-up. While the panel has its
+ * selector open, these close that one first, except stop().
+ *
+ * The panel's pipette button puts the pop-up aside and picks from the screen with a Pipette, or with the
+ * picker that setPipette() names, and then shows the pop-up again. A colour from there takes the alpha of
+ * the present colour while opacity can be adjusted. Enter and Space begin a pick on the field; the focus is
+ * then on the button of the present colour, or in the edit for its value.
+ *
+ * Fields of one window whose pickers have equal options share one panel.
+ *
+ * **Style sheet.** The pop-up is an OvFrame, "colorPanelPopup", with the property "roundedEdges" (see
+ * Workaround::Ui::apply()): `#colorPanelPopup { qproperty-layoutMargin: 12; }`.
+ *
+ * **Lifetime.** When the user closes the pop-up, pickingStopped() is emitted from the event loop: Qt goes on
+ * using a pop-up that a press has closed.
+ * @see ColorPickerButton, ColorInputWidget, ColorPickerWidget
+ */
+class UICOMPONENTS_EXPORT PopupColorPicker : public AbstractColorPicker
+{
+    Q_OBJECT
+
+public:
+    /// What the panel offers.
+    struct Options
+    {
+        /// "No colour".
+        bool nullColor = false;
+        bool opacity = true;
+        /// The user's own colours and the selector of any colour.
+        bool customColors = true;
+    };
+
+    /// A picker with the default options and no parent, which a button takes over.
+    PopupColorPicker();
+    explicit PopupColorPicker(const Options& options);
+    /// Closes the pop-up without a signal.
+    ~PopupColorPicker() override;
+
+    Options options() const;
+    /// Takes effect when the pop-up opens next.
+    void setOptions(const Options& options);
+
+    /// Sets what the panel's pipette button starts, for example a WidgetColorPicker. It is not owned; null,
+    /// the default, stands for a Pipette.
+    void setPipette(AbstractColorPicker* pipette);
+
+    /// The panel while the pop-up is open or a pipette runs, else null.
+    ColorPickerWidget* panel() const;
+
+    bool isInProgress() const override;
+
+    /// Opens the pop-up, and ends the pick of another field that has it open. Does nothing while picking, and
+    /// without a widget as its parent.
+    void pick() override;
+
+    /// Closes the pop-up, or ends a running pipette, and keeps the colour.
+    void stop() override;
+
+    std::optional<QColor> color() override;
+
+    /// Sets the colour; while picking, the panel shows it.
+    void setColor(const std::optional<QColor>& color) override;
+
+private:
+    class Popup;
+    class Private;
+    const std::unique_ptr<Private> d;
+};
