@@ -42,6 +42,11 @@ ColorInputWidget::~ColorInputWidget()
     d->button->disconnect(this);
 }
 
+std::optional<QColor> ColorInputWidget::color() const
+{
+    return d->button->color();
+}
+
 void ColorInputWidget::setColor(const QColor& color)
 {
     d->button->setColor(color);

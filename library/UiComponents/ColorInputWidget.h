@@ -6,6 +6,7 @@
 #include <QColor>
 
 #include <memory>
+#include <optional>
 
 class AbstractColorPicker;
 
@@ -32,6 +33,9 @@ public:
     /// several different colours, as a new ColorPickerButton. Emits nothing.
     ColorInputWidget(QWidget* parent, const QColor& color);
     ~ColorInputWidget() override;
+
+    /// The button's value; empty for several different colours.
+    std::optional<QColor> color() const;
 
     /// Sets the value; an invalid @p color means no colour. Emits colorChanged() if it differs.
     void setColor(const QColor& color);

@@ -161,6 +161,11 @@ void ColorPickerButton::setPicker(AbstractColorPicker* picker)
     }
 }
 
+AbstractColorPicker* ColorPickerButton::picker() const
+{
+    return d->picker;
+}
+
 std::optional<QColor> ColorPickerButton::color() const
 {
     return d->color;

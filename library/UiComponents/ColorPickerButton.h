@@ -58,6 +58,9 @@ public:
     /// set the colour then, or give it the colour too.
     void setPicker(AbstractColorPicker* picker);
 
+    /// The picker in use, or null.
+    AbstractColorPicker* picker() const;
+
     /// The value as set or picked, alpha included; empty by default.
     std::optional<QColor> color() const;
 

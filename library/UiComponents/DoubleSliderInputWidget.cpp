@@ -8,6 +8,7 @@
 #include <WidgetToolkit/Util.h>
 
 #include <QPointer>
+#include <QSignalBlocker>
 
 #include <cmath>
 
@@ -21,18 +22,13 @@ DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initiali
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
-    const double step = StepRange::stepOf(init.decimals);
     Util::bindWidgets(d->slider, d->spinBox);
-    d->slider->setMultiplier(step);
-    d->slider->setRange(StepRange::nearestStep(init.minimum, init.decimals),
-                        StepRange::nearestStep(init.maximum, init.decimals));
     d->slider->setOrientation(Qt::Horizontal);
     d->spinBox->setBothDecimalMarksAccepted(true);
     d->spinBox->setAlignment(Qt::AlignCenter);
     d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    d->spinBox->setSingleStep(step);
     d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-    d->spinBox->setDecimals(init.decimals);
+    setRange(init);
 
     // After the binding, whose slots are called first: when the host is notified, both parts show the value.
     connect(d->slider, &OvDoubleSlider::doubleValueChanged, this, &DoubleSliderInputWidget::valueChanged);
@@ -46,6 +42,30 @@ DoubleSliderInputWidget::~DoubleSliderInputWidget()
     // field is only a QWidget.
     d->slider->disconnect(this);
     d->spinBox->disconnect(this);
+}
+
+double DoubleSliderInputWidget::value() const
+{
+    return d->spinBox->value();
+}
+
+void DoubleSliderInputWidget::setRange(const Initializer& range)
+{
+    const double before = value();
+    {
+        const QSignalBlocker blocker(this);
+        const double step = StepRange::stepOf(range.decimals);
+        d->slider->setMultiplier(step);
+        d->slider->setRange(StepRange::nearestStep(range.minimum, range.decimals),
+                            StepRange::nearestStep(range.maximum, range.decimals));
+        d->spinBox->setSingleStep(step);
+        d->spinBox->setDecimals(range.decimals);
+        // The range was narrower while the steps were those of the other decimals.
+        setValue(before);
+    }
+    if (value() != before) {
+        Q_EMIT valueChanged(value());
+    }
 }
 
 void DoubleSliderInputWidget::setValue(double value)

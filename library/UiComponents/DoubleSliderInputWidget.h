@@ -13,7 +13,7 @@
  *     connect(opacity, &DoubleSliderInputWidget::valueChanged, this, &Layer::setOpacity);
  *
  * The SliderInputWidget of fractions: the parts are an OvDoubleSlider and an OvDoubleSpinBox, and keys,
- * wheel, focus and the missing getter are as described there. A step of the slider is one unit of the last
+ * wheel and focus are as described there. A step of the slider is one unit of the last
  * decimal that the spin box shows: the number reported is the number shown, as the double nearest to it. Both
  * "." and "," are accepted as the decimal mark while typing, whatever the locale.
  *
@@ -44,6 +44,13 @@ public:
     /// @p parent owns the field. Emits nothing.
     DoubleSliderInputWidget(QWidget* parent, const Initializer& init);
     ~DoubleSliderInputWidget() override;
+
+    /// The value that the spin box shows.
+    double value() const;
+
+    /// Sets another range and resolution. Emits valueChanged() once if the value has to move into it or to be
+    /// rounded, and nothing else.
+    void setRange(const Initializer& range);
 
     /// Sets the value, rounded to the decimals, then clamped to the range. Reports a change as the user's;
     /// the current value is not one. Clamps an infinite value and ignores NaN.

@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPointer>
+#include <QSignalBlocker>
 
 #include <cmath>
 #include <limits>
@@ -147,11 +148,8 @@ PointSelectorWidget::PointSelectorWidget(QWidget* parent, const Initializer& ini
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
-    configure(d->xSpinbox, init.minimum.x(), init.maximum.x(), init.xDecimals);
-    configure(d->ySpinbox, init.minimum.y(), init.maximum.y(), init.yDecimals);
-    d->pointSelector->setLimits(QRectF(init.minimum, init.maximum));
+    setRange(init);
     d->setTexts();
-    d->pointSelector->setPoint(d->spinBoxValue());
 
     const auto changed = qOverload<double>(&QDoubleSpinBox::valueChanged);
     connect(d->xSpinbox, changed, this, [this](double x) { d->followSpinBox({x, d->ySpinbox->value()}); });
@@ -167,6 +165,28 @@ PointSelectorWidget::~PointSelectorWidget()
     d->xSpinbox->disconnect(this);
     d->ySpinbox->disconnect(this);
     d->pointSelector->disconnect(this);
+}
+
+QPointF PointSelectorWidget::value() const
+{
+    return d->spinBoxValue();
+}
+
+void PointSelectorWidget::setRange(const Initializer& range)
+{
+    const QPointF before = value();
+    {
+        const QSignalBlocker blocker(this);
+        configure(d->xSpinbox, range.minimum.x(), range.maximum.x(), range.xDecimals);
+        configure(d->ySpinbox, range.minimum.y(), range.maximum.y(), range.yDecimals);
+        d->pointSelector->setLimits(QRectF(range.minimum, range.maximum));
+        d->pointSelector->setPoint(value());
+    }
+    const QPointF now = value();
+    // QPointF's own comparison is too coarse.
+    if (now.x() != before.x() || now.y() != before.y()) {
+        Q_EMIT valueChanged(now);
+    }
 }
 
 void PointSelectorWidget::setValue(const QPointF& value)

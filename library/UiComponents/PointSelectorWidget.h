@@ -19,8 +19,7 @@
  * Text is never rewritten while it is typed, and both "." and "," are decimal marks. The wheel steps a spin
  * box only while it has focus.
  *
- * The field has no getter: the host keeps the value last reported. A new field is at the values of the ranges
- * that are nearest to 0.
+ * A new field is at the values of the ranges that are nearest to 0.
  *
  * Tab stops at the plane, at x and at y; a label whose buddy is the field gives the focus to the plane. From
  * right to left the plane stands on the right, and is not mirrored itself.
@@ -56,6 +55,13 @@ public:
     /// @p parent owns the field. Emits nothing.
     PointSelectorWidget(QWidget* parent, const Initializer& init);
     ~PointSelectorWidget() override;
+
+    /// The position that the spin boxes show, to which they have rounded a point picked on the plane.
+    QPointF value() const;
+
+    /// Sets other ranges and decimals. Emits valueChanged() once if the position has to move into them or to
+    /// be rounded, and nothing else.
+    void setRange(const Initializer& range);
 
     /// Sets x, then y, each rounded and clamped by its spin box. Reports a change as the user's, once for
     /// each coordinate that differs. Clamps infinite coordinates and ignores one that is NaN.

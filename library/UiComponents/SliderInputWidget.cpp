@@ -7,6 +7,7 @@
 #include <WidgetToolkit/Util.h>
 
 #include <QPointer>
+#include <QSignalBlocker>
 
 class SliderInputWidget::Private : public SliderFieldParts<OvCustomSlider, OvSpinBox>
 {
@@ -19,7 +20,7 @@ SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     , d(std::make_unique<Private>(this))
 {
     Util::bindWidgets(d->slider, d->spinBox);
-    d->slider->setRange(init.minimum, init.maximum);
+    setRange(init);
     d->slider->setOrientation(Qt::Horizontal);
     d->spinBox->setAlignment(Qt::AlignCenter);
     d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -36,6 +37,23 @@ SliderInputWidget::~SliderInputWidget()
     // field is only a QWidget.
     d->slider->disconnect(this);
     d->spinBox->disconnect(this);
+}
+
+int SliderInputWidget::value() const
+{
+    return d->spinBox->value();
+}
+
+void SliderInputWidget::setRange(const Initializer& range)
+{
+    const int before = value();
+    {
+        const QSignalBlocker blocker(this);
+        d->slider->setRange(range.minimum, range.maximum);
+    }
+    if (value() != before) {
+        Q_EMIT valueChanged(value());
+    }
 }
 
 void SliderInputWidget::setValue(int value)

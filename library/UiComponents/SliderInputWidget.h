@@ -17,8 +17,7 @@
  * the wheel while it has focus. A value typed beyond the range becomes the nearest end when the text is
  * committed.
  *
- * The field has no getter: the host keeps the value last reported. A new field is at the value of its range
- * that is nearest to 0.
+ * A new field is at the value of its range that is nearest to 0.
  *
  * Tab stops at the slider, then at the spin box; a label whose buddy is the field gives the focus to the
  * slider.
@@ -43,6 +42,12 @@ public:
     /// @p parent owns the field. Emits nothing.
     SliderInputWidget(QWidget* parent, const Initializer& init);
     ~SliderInputWidget() override;
+
+    /// The value that both parts show.
+    int value() const;
+
+    /// Sets another range. Emits valueChanged() once if the value has to move into it, and nothing else.
+    void setRange(const Initializer& range);
 
     /// Sets the value, clamped to the range. Reports a change as the user's; the current value is not one.
     void setValue(int value);

@@ -79,6 +79,11 @@ const QColor& WidgetColorPickerButton::color() const
     return d->color;
 }
 
+QColor WidgetColorPickerButton::pickedColor() const
+{
+    return d->picker->color().value_or(QColor());
+}
+
 bool WidgetColorPickerButton::isPickingInProgress() const
 {
     return d->picker->isInProgress();
@@ -98,7 +103,7 @@ void WidgetColorPickerButton::startPicking()
     if (!self) {
         return;
     }
-    const QColor picked = d->picker->color().value_or(QColor());
+    const QColor picked = pickedColor();
     Q_EMIT pickingFinished();
     if (self && picked.isValid()) {
         setColor(picked);

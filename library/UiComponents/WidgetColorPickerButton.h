@@ -62,6 +62,10 @@ public:
     /// The colour that was picked or set last; invalid at first.
     const QColor& color() const;
 
+    /// What the last pick brought, also if the button wore that colour already; invalid while it runs and if
+    /// it brought none.
+    QColor pickedColor() const;
+
     /// True while a pick waits for the press or key that ends it.
     bool isPickingInProgress() const;
 

@@ -72,6 +72,7 @@ void tst_ColorInputWidget::startsAsMultipleWithoutAColor()
 {
     const ColorInputWidget field(nullptr, QColor());
     QVERIFY(!buttonOf(field)->color().has_value());
+    QVERIFY(!field.color().has_value());
     QCOMPARE(buttonOf(field)->property("multiColor"), QVariant(true));
     QCOMPARE(buttonOf(field)->property("nullColor"), QVariant(false));
 }
@@ -96,6 +97,7 @@ void tst_ColorInputWidget::setColorIsRelayedOnce()
     field.setColor(QColor(1, 2, 3, 4));
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.front().front().value<QColor>(), QColor(1, 2, 3, 4));
+    QVERIFY(field.color() == OptionalColor(QColor(1, 2, 3, 4)));
 }
 
 void tst_ColorInputWidget::setColorOfNoColor()
@@ -127,7 +129,9 @@ void tst_ColorInputWidget::pickerIsTheButtons()
     const QPointer<FakeColorPicker> second = new FakeColorPicker;
     {
         ColorInputWidget field(nullptr, QColor());
+        QVERIFY(!buttonOf(field)->picker());
         field.setPicker(first);
+        QCOMPARE(buttonOf(field)->picker(), first.data());
         QCOMPARE(first->parent(), field.anchorWidget());
         field.setPicker(second);
         QVERIFY(!first);

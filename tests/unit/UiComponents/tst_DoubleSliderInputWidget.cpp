@@ -47,6 +47,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(DoubleSliderInputWidget::Initializer)
+
 /**
  * What only fractions can do. tst_SliderInputWidget has what both fields can.
  */
@@ -63,6 +65,8 @@ private Q_SLOTS:
     void bounds_data();
     void bounds();
 
+    void setRange_data();
+    void setRange();
     void setValueOfNearlyThePresentValue();
     void setValueIsRoundedToTheDecimals_data();
     void setValueIsRoundedToTheDecimals();
@@ -198,6 +202,42 @@ void tst_DoubleSliderInputWidget::bounds()
     QCOMPARE(field.spinBox->value(), decimalNumber(first, decimals));
     QVERIFY(field.inStep);
     field.grab();
+}
+
+void tst_DoubleSliderInputWidget::setRange_data()
+{
+    using Range = DoubleSliderInputWidget::Initializer;
+    QTest::addColumn<Range>("range");
+    QTest::addColumn<double>("expected");
+    QTest::newRow("the same") << Range{0.0, 1.0, 2} << 0.75;
+    QTest::newRow("wider") << Range{-10.0, 10.0, 2} << 0.75;
+    QTest::newRow("more decimals") << Range{0.0, 1.0, 4} << 0.75;
+    QTest::newRow("fewer decimals") << Range{0.0, 1.0, 1} << 0.8;
+    QTest::newRow("no decimals") << Range{0.0, 5.0, 0} << 1.0;
+    QTest::newRow("below the value") << Range{0.0, 0.5, 2} << 0.5;
+    QTest::newRow("above the value") << Range{2.0, 3.0, 2} << 2.0;
+    QTest::newRow("maximum below minimum") << Range{0.9, 0.1, 2} << 0.9;
+}
+
+void tst_DoubleSliderInputWidget::setRange()
+{
+    QFETCH(DoubleSliderInputWidget::Initializer, range);
+    QFETCH(double, expected);
+    Field field(0.0, 1.0, 2);
+    field.setValue(0.75);
+    QCOMPARE(field.value(), 0.75);
+    field.reports();
+    field.setRange(range);
+    const Field made(range.minimum, range.maximum, range.decimals);
+    QCOMPARE(field.slider->minimum(), made.slider->minimum());
+    QCOMPARE(field.slider->maximum(), made.slider->maximum());
+    QCOMPARE(field.spinBox->minimum(), made.spinBox->minimum());
+    QCOMPARE(field.spinBox->maximum(), made.spinBox->maximum());
+    QCOMPARE(field.spinBox->decimals(), made.spinBox->decimals());
+    QCOMPARE(field.spinBox->singleStep(), made.spinBox->singleStep());
+    QCOMPARE(field.value(), expected);
+    QCOMPARE(field.slider->doubleValue(), expected);
+    QCOMPARE(field.reports(), expected == 0.75 ? Values() : Values{expected});
 }
 
 void tst_DoubleSliderInputWidget::setValueOfNearlyThePresentValue()

@@ -69,6 +69,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(PointSelectorWidget::Initializer)
+
 class tst_PointSelectorWidget : public QObject
 {
     Q_OBJECT
@@ -78,6 +80,8 @@ private Q_SLOTS:
 
     void metaObject();
     void initializer();
+    void setRange_data();
+    void setRange();
     void construction();
     void layouts_data();
     void layouts();
@@ -138,6 +142,48 @@ private Q_SLOTS:
 void tst_PointSelectorWidget::cleanup()
 {
     QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_PointSelectorWidget::setRange_data()
+{
+    using Range = PointSelectorWidget::Initializer;
+    QTest::addColumn<Range>("range");
+    QTest::addColumn<QPointF>("expected");
+    QTest::newRow("the same") << hundreds << QPointF(25.5, 75.0);
+    QTest::newRow("wider") << Range{{-500.0, -500.0}, {500.0, 500.0}, 1, 1} << QPointF(25.5, 75.0);
+    QTest::newRow("fewer decimals") << Range{{0.0, 0.0}, {100.0, 100.0}, 0, 0} << QPointF(26.0, 75.0);
+    QTest::newRow("below the value") << Range{{0.0, 0.0}, {10.0, 20.0}, 1, 1} << QPointF(10.0, 20.0);
+    QTest::newRow("above the value") << Range{{200.0, 0.0}, {300.0, 100.0}, 1, 1} << QPointF(200.0, 75.0);
+    QTest::newRow("inverted") << Range{{0.0, 100.0}, {100.0, 0.0}, 1, 1} << QPointF(25.5, 100.0);
+    QTest::newRow("without ends") << Range{{noNumber, -infinite}, {noNumber, infinite}, 1, 1}
+                                  << QPointF(25.5, 75.0);
+}
+
+void tst_PointSelectorWidget::setRange()
+{
+    QFETCH(PointSelectorWidget::Initializer, range);
+    QFETCH(QPointF, expected);
+    Field field;
+    field.setValue({25.5, 75.0});
+    QCOMPARE(field.value(), QPointF(25.5, 75.0));
+    field.reports();
+    field.setRange(range);
+    const Field made(range);
+    for (const auto& [box, other] : {std::pair(field.x, made.x), std::pair(field.y, made.y)}) {
+        QCOMPARE(box->minimum(), other->minimum());
+        QCOMPARE(box->maximum(), other->maximum());
+        QCOMPARE(box->decimals(), other->decimals());
+        QCOMPARE(box->singleStep(), other->singleStep());
+    }
+    QCOMPARE(field.value(), expected);
+    QCOMPARE(field.plane->point(), expected);
+    QCOMPARE(field.reports(), expected == QPointF(25.5, 75.0) ? Points() : Points{expected});
+    // The plane has the new scale.
+    QTest::mousePress(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
+    if (qIsFinite(range.maximum.x()) && qIsFinite(range.maximum.y())) {
+        QCOMPARE(field.plane->point(), range.maximum);
+    }
+    QTest::mouseRelease(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
 }
 
 void tst_PointSelectorWidget::metaObject()

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void firstValue_data();
     void firstValue();
 
+    void setRange_data();
+    void setRange();
     void setValueReportsTwice();
     void setValueOfThePresentValue();
     void setValueIsClamped_data();
@@ -178,6 +180,39 @@ void tst_SliderInputWidget::firstValue()
     QFETCH(int, maximum);
     QFETCH(int, value);
     QVERIFY(makeField(minimum, maximum)->shows(value));
+}
+
+void tst_SliderInputWidget::setRange_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("the same") << 0 << 100 << 80;
+    QTest::newRow("wider") << -10 << 1000 << 80;
+    QTest::newRow("below the value") << 0 << 50 << 50;
+    QTest::newRow("above the value") << 200 << 300 << 200;
+    QTest::newRow("maximum below minimum") << 90 << 10 << 90;
+    QTest::newRow("all there are") << Limits::min() << Limits::max() << 80;
+}
+
+void tst_SliderInputWidget::setRange()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, expected);
+    Field field(0, 100);
+    field.setValue(80);
+    QCOMPARE(field.value(), 80);
+    field.reports();
+    field.setRange({minimum, maximum});
+    const Field made(minimum, maximum);
+    QCOMPARE(field.slider->minimum(), made.slider->minimum());
+    QCOMPARE(field.slider->maximum(), made.slider->maximum());
+    QCOMPARE(field.spinBox->minimum(), made.spinBox->minimum());
+    QCOMPARE(field.spinBox->maximum(), made.spinBox->maximum());
+    QCOMPARE(field.value(), expected);
+    QCOMPARE(field.slider->value(), expected);
+    QCOMPARE(field.reports(), expected == 80 ? Values() : Values{expected});
 }
 
 void tst_SliderInputWidget::setValueReportsTwice()

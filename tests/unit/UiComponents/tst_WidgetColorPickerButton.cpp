@@ -337,10 +337,12 @@ void tst_WidgetColorPickerButton::clickPicks()
     const Protocol protocol(m_button);
     QVERIFY(clickWith([this] {
         QVERIFY(m_button->isPickingInProgress());
+        QVERIFY(!m_button->pickedColor().isValid());
         m_stage->press();
     }));
     QCOMPARE(protocol.lines, Picked);
     QCOMPARE(m_button->color(), SpotColor);
+    QCOMPARE(m_button->pickedColor(), SpotColor);
     QCOMPARE(m_button->styleSheet(),
              QStringLiteral("QToolButton { background-color: %1 }").arg(SpotColor.name()));
     QVERIFY(!m_button->isPickingInProgress());
@@ -354,6 +356,7 @@ void tst_WidgetColorPickerButton::pickElsewhereChangesNothing()
     QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
     QCOMPARE(protocol.lines, Cancelled);
     QCOMPARE(m_button->color(), QColor(1, 2, 3));
+    QVERIFY(!m_button->pickedColor().isValid());
 }
 
 void tst_WidgetColorPickerButton::pickWithoutChangeSelfColor()
