@@ -139,6 +139,12 @@ QVector<PageInfo> PageRegistry::pages()
             "SliderInputWidget DoubleSliderInputWidget PointSelectorWidget ColorBlendingComboBox "
             "ColorInputWidget PathSelectionWidget SearchWidget AdjustingListView",
             &clipProperties),
+        row("edit-session", PageGroup::Inputs, tr("One edit, one step"),
+            tr("A session tells what a user does to a field as one story, from the first change to the end "
+               "of "
+               "the drag, the text or the pick. Here each becomes one step of undo. Escape takes it back."),
+            {tr("undo"), tr("redo"), tr("several values"), tr("drag"), tr("typing")},
+            "EditSession EditCommand", &editSession),
         row("frame", PageGroup::Layout, tr("Frame and layout controller"),
             tr("Components build their layouts without margins and spacing; the style sheet sets both "
                "through the layout controller. A frame is its own controller, any other widget gets one "

@@ -88,6 +88,9 @@ private:
     static void pathSelection(Page* page);
     static void clipProperties(Page* page);
 
+    // pages/Editing.cpp
+    static void editSession(Page* page);
+
     // pages/Layouts.cpp
     static void frame(Page* page);
     static void layouts(Page* page);

@@ -1959,6 +1959,62 @@
         <source>Qt forgets the focus of a view whose host is taken out of a window and put back. With the workaround the keyboard goes to the view; without it, to whatever comes first. A line edit stands for the view here: the workaround works for every kind.</source>
         <translation>Qt vergisst den Fokus einer Ansicht, deren Träger aus einem Fenster genommen und zurückgelegt wird. Mit der Umgehung geht die Tastatur an die Ansicht, ohne sie an das, was zuerst kommt. Ein Eingabefeld steht hier für die Ansicht: Die Umgehung wirkt bei jeder Art.</translation>
     </message>
+    <message>
+        <source>One edit, one step</source>
+        <translation>Ein Eingriff, ein Schritt</translation>
+    </message>
+    <message>
+        <source>A session tells what a user does to a field as one story, from the first change to the end of the drag, the text or the pick. Here each becomes one step of undo. Escape takes it back.</source>
+        <translation>Eine Sitzung erzählt, was jemand mit einem Feld tut, als eine Geschichte, von der ersten Änderung bis zum Ende des Ziehens, des Texts oder der Wahl. Hier wird jede ein Schritt zum Rückgängigmachen. Escape nimmt sie zurück.</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>rückgängig</translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation>wiederholen</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>mehrere Werte</translation>
+    </message>
+    <message>
+        <source>typing</source>
+        <translation>Tippen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Drag it, hold an arrow key, type, turn the wheel</source>
+        <translation>Ziehen, eine Pfeiltaste halten, tippen, das Rad drehen</translation>
+    </message>
+    <message>
+        <source>Drag the point</source>
+        <translation>Den Punkt ziehen</translation>
+    </message>
+    <message>
+        <source>Try colours, then press Escape or Enter</source>
+        <translation>Farben ausprobieren, dann Escape oder Eingabe drücken</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Several values</source>
+        <translation>Mehrere Werte</translation>
+    </message>
+    <message>
+        <source>A field that stands for several values has multiValue, and a label #multiValueCover covers each of its line edits.</source>
+        <translation>Ein Feld, das für mehrere Werte steht, hat multiValue, und ein Label #multiValueCover verdeckt jedes seiner Textfelder.</translation>
+    </message>
 </context>
 <context>
     <name>ParameterPanel</name>

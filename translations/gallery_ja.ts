@@ -1959,6 +1959,62 @@
         <source>Qt forgets the focus of a view whose host is taken out of a window and put back. With the workaround the keyboard goes to the view; without it, to whatever comes first. A line edit stands for the view here: the workaround works for every kind.</source>
         <translation>ビューの入れ物をウィンドウから外して戻すと、Qt はフォーカスを忘れます。回避策を使うとキーボードはビューに届き、使わないと先頭の部品に移ります。ここでは入力欄がビューの代わりです。回避策はどの種類のビューにも効きます。</translation>
     </message>
+    <message>
+        <source>One edit, one step</source>
+        <translation>一つの編集は一つの手順</translation>
+    </message>
+    <message>
+        <source>A session tells what a user does to a field as one story, from the first change to the end of the drag, the text or the pick. Here each becomes one step of undo. Escape takes it back.</source>
+        <translation>セッションは、ユーザーがフィールドに行うことを、最初の変更からドラッグ、入力、選択の終わりまで一つの流れとして伝えます。ここではそれぞれが元に戻す一つの手順になります。Esc キーで取り消します。</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>複数の値</translation>
+    </message>
+    <message>
+        <source>typing</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Drag it, hold an arrow key, type, turn the wheel</source>
+        <translation>ドラッグ、矢印キーの長押し、入力、ホイール</translation>
+    </message>
+    <message>
+        <source>Drag the point</source>
+        <translation>点をドラッグ</translation>
+    </message>
+    <message>
+        <source>Try colours, then press Escape or Enter</source>
+        <translation>色を試してから Esc または Enter を押す</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Several values</source>
+        <translation>複数の値</translation>
+    </message>
+    <message>
+        <source>A field that stands for several values has multiValue, and a label #multiValueCover covers each of its line edits.</source>
+        <translation>複数の値を表すフィールドは multiValue を持ち、ラベル #multiValueCover がその各入力欄を覆います。</translation>
+    </message>
 </context>
 <context>
     <name>ParameterPanel</name>

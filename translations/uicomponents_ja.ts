@@ -101,6 +101,13 @@
     </message>
 </context>
 <context>
+    <name>MultiValueFace</name>
+    <message>
+        <source>Several values</source>
+        <translation>複数の値</translation>
+    </message>
+</context>
+<context>
     <name>Orvane::Tessel::TesselLineEdit</name>
     <message>
         <source>&amp;Undo</source>

@@ -1,6 +1,7 @@
 #include "SearchWidget.h"
 
 #include "ClickButton.h"
+#include "DyingWindow.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -32,13 +33,6 @@ public:
         return input.isEmpty() ? Acceptable : QRegExpValidator::validate(input, position);
     }
 };
-
-/// ~QWidget() of a window takes the focus from its widgets, when their listeners may be gone. The window has
-/// left the focus chain by then.
-bool isDestroyed(const QWidget* window)
-{
-    return !window->nextInFocusChain();
-}
 
 bool hasPlaceholderBrush(const QPalette& palette, const QBrush& brush)
 {
@@ -104,7 +98,7 @@ void SearchWidget::Private::showClearButton(bool isVisible)
 void SearchWidget::Private::reportFinished()
 {
     const QString text = searchLineEdit->text();
-    if (text == reportedText || isDestroyed(q->window())) {
+    if (text == reportedText || DyingWindow::is(q->window())) {
         return;
     }
     reportedText = text;

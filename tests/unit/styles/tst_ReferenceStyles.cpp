@@ -662,7 +662,7 @@ void tst_ReferenceStyles::selectorsNameWhatExists()
     widgets << window.get() << &dialog << &menu;
     // These live only while they show.
     QSet<QString> known = {QStringLiteral("QToolTip"), QStringLiteral("#tesselContextMenu"),
-                           QStringLiteral("#colorPanelPopup")};
+                           QStringLiteral("#colorPanelPopup"), QStringLiteral("#multiValueCover")};
     for (const QWidget* widget : qAsConst(widgets)) {
         known.insert(QStringLiteral("#") + widget->objectName());
         for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass()) {

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <UiComponents/UiComponentsExport.h>
+
+#include <QString>
+#include <QUndoCommand>
+#include <QVariant>
+#include <QVector>
+
+#include <functional>
+
+class EditSession;
+class QUndoStack;
+
+/**
+ * One step of undo: the session of one field, whatever it edits.
+ *
+ *     EditCommand::record(new EditSession(opacityField), &undoStack, [] { return tr("Opacity"); }, [this] {
+ *         EditCommand::Targets targets;
+ *         for (Card* card : selectedCards()) {
+ *             targets.append({[card] { return card->opacity(); },
+ *                             [card](const QVariant& value) { card->setOpacity(value.toInt()); }});
+ *         }
+ *         return targets;
+ *     });
+ *
+ * Each target gets every value that the session previews. When it is committed, a command is pushed that
+ * brings back what each target had, and again gives all of them the new value; when it is cancelled, each
+ * target gets back what it had.
+ * @see EditSession
+ */
+class UICOMPONENTS_EXPORT EditCommand : public QUndoCommand
+{
+public:
+    /// What is edited. Both functions are kept as long as the command: they hold on to what cannot die before
+    /// the stack, such as a document and the number of a card.
+    struct Target
+    {
+        std::function<QVariant()> read;
+        std::function<void(const QVariant&)> write;
+    };
+    using Targets = QVector<Target>;
+
+    /// Makes a command on @p stack of each session of @p session, until one of the two dies. @p text is asked
+    /// for the name of each command, @p targets at the start of each session for what is selected then.
+    static void record(EditSession* session, QUndoStack* stack, const std::function<QString()>& text,
+                       const std::function<Targets()>& targets);
+
+    /// Of a value that each of @p targets has already; @p before are those that they had. record() makes it.
+    EditCommand(const QString& text, const Targets& targets, const QVector<QVariant>& before,
+                const QVariant& value);
+    ~EditCommand() override;
+
+    void undo() override;
+    /// Does nothing the first time, when the command is pushed.
+    void redo() override;
+
+private:
+    const Targets m_targets;
+    const QVector<QVariant> m_before;
+    const QVariant m_value;
+    bool m_isDone = true;
+};

@@ -1,0 +1,642 @@
+#include "EditSession.h"
+
+#include "AbstractColorPicker.h"
+#include "ColorInputWidget.h"
+#include "ColorPickerButton.h"
+#include "DyingWindow.h"
+#include "FieldAccess.h"
+#include "MultiValueFace.h"
+#include "PointSelectionPlane.h"
+#include "WidgetColorPickerButton.h"
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+namespace {
+
+/// What the user is doing to the field, and so what ends it.
+enum class Gesture {
+    None,
+    Mouse,
+    Key,
+    Wheel,
+    Text,
+    Pick,
+};
+
+bool isModifier(int key)
+{
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||
+           key == Qt::Key_AltGr;
+}
+
+bool isStep(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+/// A part that changes the value while the mouse is down on it.
+bool isDragged(const QObject* part)
+{
+    return qobject_cast<const QAbstractSlider*>(part) || qobject_cast<const QAbstractSpinBox*>(part) ||
+           qobject_cast<const PointSelectionPlane*>(part);
+}
+
+/// Where a part that has the keyboard takes text.
+QLineEdit* editorOf(QObject* part)
+{
+    if (auto* edit = qobject_cast<QLineEdit*>(part)) {
+        return edit;
+    }
+    if (const auto* box = qobject_cast<QComboBox*>(part)) {
+        return box->lineEdit();
+    }
+    return qobject_cast<QAbstractSpinBox*>(part) ? part->findChild<QLineEdit*>() : nullptr;
+}
+
+ColorPickerButton* colorButtonOf(QWidget* field)
+{
+    const auto* input = qobject_cast<ColorInputWidget*>(field);
+    return qobject_cast<ColorPickerButton*>(input ? input->anchorWidget() : field);
+}
+
+} // namespace
+
+class EditSession::Private
+{
+public:
+    Private(EditSession* session, QWidget* editedField);
+
+    void watchParts();
+    void watchPicks();
+    bool isAlive() const;
+
+    bool begin(Gesture next, QObject* onPart);
+    void pressMouse(QObject* onPart, const QMouseEvent& event);
+    void releaseMouse(const QMouseEvent& event);
+    bool pressKey(QObject* onPart, const QKeyEvent& event);
+    void releaseKey(const QKeyEvent& event);
+    void turnWheel(QObject* onPart, const QWheelEvent& event);
+    void loseFocus(const QFocusEvent& event);
+    bool overrideShortcut(QKeyEvent* event);
+    bool isCancelKey(const QKeyEvent& event) const;
+    bool isTyped() const;
+    void letGo();
+
+    void onChanged();
+    void onChosen();
+    void onTyped();
+    void onPicked(const QVariant& result, bool isNewInAnyCase);
+    bool isHeard() const { return access.read && holds == 0 && !isReporting && isAlive(); }
+    void reportShown();
+    void report(const QVariant& value);
+    void finishIfAlone();
+    bool takeText();
+    void finish();
+    void commit();
+    void end(bool isKept);
+    void cancel();
+
+    EditSession* const owner;
+    QWidget* const field;
+    ColorPickerButton* const colorButton;
+    const FieldAccess access;
+    MultiValueFace* const face;
+    const QMetaObject* const whole;
+
+    Gesture gesture = Gesture::None;
+    QPointer<QObject> part; // that the gesture is on
+    int key = 0;
+    QPoint mousePosition;
+    QVariant start;
+    QVariant last;
+    bool isActive = false;
+    bool wasMulti = false;
+    /// The value from before counts as a new one.
+    bool isNewInAnyCase = false;
+    bool isReleasing = false;
+    bool isReporting = false;
+    int holds = 0;
+};
+
+EditSession::Private::Private(EditSession* session, QWidget* editedField)
+    : owner(session)
+    , field(editedField)
+    , colorButton(colorButtonOf(editedField))
+    , access(FieldAccess::of(editedField))
+    , face(new MultiValueFace(editedField, session))
+    , whole(editedField->metaObject())
+{
+}
+
+void EditSession::Private::watchParts()
+{
+    const auto parts = field->findChildren<QWidget*>() << field;
+    for (QWidget* watched : parts) {
+        watched->installEventFilter(owner);
+        if (const auto* edit = qobject_cast<QLineEdit*>(watched)) {
+            // Behind the field, which has taken the text then.
+            connect(edit, &QLineEdit::textChanged, owner, [this] { onTyped(); });
+        }
+    }
+    access.watch(owner, [this] { onChanged(); });
+    if (access.watchChoice) {
+        access.watchChoice(owner, [this] { onChosen(); });
+    }
+}
+
+void EditSession::Private::watchPicks()
+{
+    if (colorButton) {
+        connect(colorButton, &ColorPickerButton::pickingStarted, owner,
+                [this] { begin(Gesture::Pick, colorButton); });
+        connect(colorButton, &ColorPickerButton::pickingStopped, owner, [this] {
+            AbstractColorPicker* const picker = colorButton->picker();
+            onPicked(picker ? QVariant::fromValue(picker->color()) : access.read(), false);
+        });
+    }
+    if (auto* button = qobject_cast<WidgetColorPickerButton*>(field)) {
+        connect(button, &WidgetColorPickerButton::pickingStarted, owner,
+                [this, button] { begin(Gesture::Pick, button); });
+        connect(button, &WidgetColorPickerButton::pickingFinished, owner, [this, button] {
+            const QColor picked = button->pickedColor();
+            onPicked(picked.isValid() ? picked : button->color(), picked.isValid());
+        });
+    }
+}
+
+/// False while the field is destroyed, which takes the keyboard from its parts, and while its window is,
+/// whose slots are then called in vain.
+bool EditSession::Private::isAlive() const
+{
+    return field->metaObject() == whole && !DyingWindow::is(field->window());
+}
+
+/// Returns whether the session is still there.
+bool EditSession::Private::begin(Gesture next, QObject* onPart)
+{
+    if (gesture != next) {
+        const QPointer<EditSession> self(owner);
+        finish();
+        if (!self) {
+            return false;
+        }
+    }
+    if (!isActive) {
+        // What was set in silence is not the user's.
+        last = access.read();
+    }
+    gesture = next;
+    part = onPart;
+    isReleasing = false;
+    return true;
+}
+
+void EditSession::Private::pressMouse(QObject* onPart, const QMouseEvent& event)
+{
+    if (event.button() == Qt::LeftButton && isDragged(onPart)) {
+        mousePosition = event.pos();
+        begin(Gesture::Mouse, onPart);
+    } else if (gesture == Gesture::Wheel || gesture == Gesture::Key) {
+        finish();
+    }
+}
+
+void EditSession::Private::releaseMouse(const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton || gesture != Gesture::Mouse) {
+        return;
+    }
+    // A plane takes the point where it is let go, and always tells. Nothing else changes then.
+    isReleasing = qobject_cast<PointSelectionPlane*>(part);
+    if (!isReleasing) {
+        finish();
+    }
+}
+
+/// Returns whether the key goes no further.
+bool EditSession::Private::pressKey(QObject* onPart, const QKeyEvent& event)
+{
+    if (isCancelKey(event)) {
+        cancel();
+        return true;
+    }
+    QLineEdit* const editor = editorOf(onPart);
+    const bool isStepping = !editor || (!qobject_cast<QLineEdit*>(onPart) && isStep(event.key()));
+    if (isModifier(event.key())) {
+        if (gesture == Gesture::Wheel) {
+            finish();
+        }
+    } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+        finish();
+    } else if (!isStepping) {
+        if (begin(Gesture::Text, onPart) && face->isShown()) {
+            // The hidden text is not to be typed into.
+            editor->selectAll();
+        }
+    } else if (gesture != Gesture::Text || !isTyped()) {
+        key = event.key();
+        begin(Gesture::Key, onPart);
+    }
+    return false;
+}
+
+void EditSession::Private::releaseKey(const QKeyEvent& event)
+{
+    if (event.isAutoRepeat()) {
+        return;
+    }
+    if (gesture == Gesture::Key && event.key() == key) {
+        finish();
+    } else if (gesture == Gesture::Text && !isActive && !isTyped()) {
+        gesture = Gesture::None;
+    }
+}
+
+void EditSession::Private::turnWheel(QObject* onPart, const QWheelEvent& event)
+{
+    if (event.phase() == Qt::ScrollEnd) {
+        if (gesture == Gesture::Wheel) {
+            finish();
+        }
+    } else {
+        begin(Gesture::Wheel, onPart);
+    }
+}
+
+void EditSession::Private::loseFocus(const QFocusEvent& event)
+{
+    const bool isText = gesture == Gesture::Text;
+    if ((isText && event.reason() != Qt::PopupFocusReason) || gesture == Gesture::Key ||
+        gesture == Gesture::Wheel) {
+        finish();
+    }
+}
+
+bool EditSession::Private::overrideShortcut(QKeyEvent* event)
+{
+    if (isCancelKey(*event)) {
+        event->accept();
+        return true;
+    }
+    if (gesture == Gesture::Wheel) {
+        finish();
+    }
+    return false;
+}
+
+bool EditSession::Private::isCancelKey(const QKeyEvent& event) const
+{
+    const bool canCancel = gesture != Gesture::Pick && (isActive || (gesture == Gesture::Text && isTyped()));
+    return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier && canCancel;
+}
+
+/// Whether there is a text that a spin box may not have taken yet. Other fields take each at once.
+bool EditSession::Private::isTyped() const
+{
+    return qobject_cast<QAbstractSpinBox*>(part) && editorOf(part)->isModified();
+}
+
+/// A drag that is cancelled is over for the part too.
+void EditSession::Private::letGo()
+{
+    auto* const widget = qobject_cast<QWidget*>(part);
+    if (gesture == Gesture::Mouse && widget) {
+        QMouseEvent release(QEvent::MouseButtonRelease, mousePosition, widget->mapToGlobal(mousePosition),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &release);
+    }
+}
+
+void EditSession::Private::onChanged()
+{
+    if (!isHeard()) {
+        return;
+    }
+    const QPointer<EditSession> self(owner);
+    if (!FieldAccess::isSame(access.read(), last)) {
+        reportShown();
+    }
+    if (self) {
+        finishIfAlone();
+    }
+}
+
+/// The user has chosen what the field holds already.
+void EditSession::Private::onChosen()
+{
+    if (!isHeard() || !face->isShown()) {
+        return;
+    }
+    const QPointer<EditSession> self(owner);
+    reportShown();
+    if (self) {
+        finishIfAlone();
+    }
+}
+
+/// The same for a text.
+void EditSession::Private::onTyped()
+{
+    if (isHeard() && face->isShown() && gesture == Gesture::Text && editorOf(part) &&
+        editorOf(part)->hasAcceptableInput()) {
+        reportShown();
+    }
+}
+
+void EditSession::Private::onPicked(const QVariant& result, bool isNew)
+{
+    if (gesture != Gesture::Pick || !isHeard()) {
+        return;
+    }
+    const QPointer<EditSession> self(owner);
+    // The button takes it after this, and is to show what is committed.
+    ++holds;
+    access.write(result);
+    if (!self) {
+        return;
+    }
+    --holds;
+    const bool isTakenBack = isActive && !isNew && FieldAccess::isSame(result, start);
+    if (isNew || (!isTakenBack && !FieldAccess::isSame(result, last))) {
+        report(result);
+    }
+    if (self) {
+        last = result;
+        isNewInAnyCase = isNewInAnyCase || isNew;
+        finish();
+    }
+}
+
+void EditSession::Private::reportShown()
+{
+    const QPointer<EditSession> self(owner);
+    report(access.read());
+    if (self && isAlive()) {
+        // A slot may have set another value.
+        last = access.read();
+    }
+}
+
+void EditSession::Private::report(const QVariant& value)
+{
+    const QPointer<EditSession> self(owner);
+    const QVariant before = last;
+    last = value;
+    isReporting = true;
+    if (!isActive) {
+        isActive = true;
+        start = before;
+        wasMulti = face->isShown();
+        // Several colours are a value of their own.
+        isNewInAnyCase = wasMulti && !colorButton;
+        face->setShown(false);
+        Q_EMIT owner->started();
+    }
+    if (self) {
+        Q_EMIT owner->previewed(value);
+    }
+    if (self) {
+        isReporting = false;
+    }
+}
+
+/// Ends the session where nothing is held down that would.
+void EditSession::Private::finishIfAlone()
+{
+    const bool isPickOver = gesture == Gesture::Pick && colorButton &&
+                            !(colorButton->picker() && colorButton->isPickingInProgress());
+    if (gesture == Gesture::None || isReleasing || isPickOver) {
+        finish();
+    }
+}
+
+/// Has a spin box take the text that is being typed, as losing the focus would. Returns whether the session
+/// is still there.
+bool EditSession::Private::takeText()
+{
+    auto* const box = qobject_cast<QAbstractSpinBox*>(part);
+    if (gesture != Gesture::Text || !box || !isTyped()) {
+        return true;
+    }
+    const QPointer<EditSession> self(owner);
+    box->interpretText();
+    if (self && face->isShown()) {
+        reportShown();
+    }
+    return self;
+}
+
+/// The gesture is over.
+void EditSession::Private::finish()
+{
+    if (isHeard() && takeText()) {
+        gesture = Gesture::None;
+        isReleasing = false;
+        end(isNewInAnyCase || !FieldAccess::isSame(last, start));
+    }
+}
+
+/// The gesture goes on, and may begin another session.
+void EditSession::Private::commit()
+{
+    if (isHeard() && takeText()) {
+        end(isNewInAnyCase || !FieldAccess::isSame(last, start));
+    }
+}
+
+void EditSession::Private::end(bool isKept)
+{
+    if (!isActive) {
+        return;
+    }
+    isActive = false;
+    isNewInAnyCase = false;
+    if (isKept) {
+        Q_EMIT owner->committed(last);
+    } else {
+        face->setShown(wasMulti);
+        Q_EMIT owner->cancelled();
+    }
+}
+
+void EditSession::Private::cancel()
+{
+    if (!isHeard() || gesture == Gesture::Pick) {
+        return;
+    }
+    const QPointer<EditSession> self(owner);
+    const QVariant old = isActive ? start : last;
+    ++holds;
+    letGo();
+    if (self) {
+        access.write(old);
+    }
+    if (self) {
+        --holds;
+        gesture = Gesture::None;
+        last = access.read();
+        end(false);
+    }
+}
+
+EditSession::Refresh::Refresh(QWidget* panel)
+{
+    const auto sessions = panel->findChildren<EditSession*>();
+    for (EditSession* session : sessions) {
+        m_sessions.append(session);
+    }
+    for (const QPointer<EditSession>& session : qAsConst(m_sessions)) {
+        if (session) {
+            session->d->commit();
+        }
+        if (session) {
+            ++session->d->holds;
+        }
+    }
+}
+
+EditSession::Refresh::~Refresh()
+{
+    for (const QPointer<EditSession>& session : qAsConst(m_sessions)) {
+        if (session && --session->d->holds == 0) {
+            session->d->last = session->value();
+        }
+    }
+}
+
+EditSession::EditSession(QWidget* field)
+    : QObject(field)
+    , d(std::make_unique<Private>(this, field))
+{
+    if (d->access.read) {
+        d->last = d->access.read();
+        d->start = d->last;
+        d->watchParts();
+        d->watchPicks();
+    }
+}
+
+EditSession::~EditSession() = default;
+
+QWidget* EditSession::field() const
+{
+    return d->field;
+}
+
+QVariant EditSession::value() const
+{
+    return d->access.read ? d->access.read() : QVariant();
+}
+
+void EditSession::setValue(const QVariant& value)
+{
+    const QPointer<EditSession> self(this);
+    const Refresh refresh(d->field);
+    if (self && d->access.write) {
+        d->access.write(value);
+    }
+    if (self) {
+        d->face->setShown(false);
+    }
+}
+
+QVariant EditSession::startValue() const
+{
+    return d->start;
+}
+
+bool EditSession::isActive() const
+{
+    return d->isActive;
+}
+
+bool EditSession::isMultiValue() const
+{
+    return d->face->isShown();
+}
+
+void EditSession::setMultiValue(bool isMulti)
+{
+    const QPointer<EditSession> self(this);
+    d->commit();
+    if (!self || isMulti == isMultiValue()) {
+        return;
+    }
+    d->face->setShown(isMulti);
+    if (isMulti && d->colorButton) {
+        d->colorButton->setColor(std::nullopt);
+        d->last = d->access.read();
+    }
+}
+
+bool EditSession::eventFilter(QObject* watched, QEvent* event)
+{
+    // A pick is the picker's to end.
+    if (d->gesture == Gesture::Pick || !d->isAlive()) {
+        return false;
+    }
+    const QPointer<QObject> receiver(watched);
+    bool isTaken = false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        d->pressMouse(watched, *static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::MouseMove:
+        d->mousePosition = static_cast<QMouseEvent*>(event)->pos();
+        break;
+    case QEvent::MouseButtonRelease:
+        d->releaseMouse(*static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::ShortcutOverride:
+        isTaken = d->overrideShortcut(static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::KeyPress:
+        isTaken = d->pressKey(watched, *static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::KeyRelease:
+        d->releaseKey(*static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::InputMethod:
+        d->begin(Gesture::Text, watched);
+        break;
+    case QEvent::Wheel:
+        d->turnWheel(watched, *static_cast<QWheelEvent*>(event));
+        break;
+    case QEvent::Leave:
+        if (d->gesture == Gesture::Wheel) {
+            d->finish();
+        }
+        break;
+    case QEvent::FocusOut:
+        d->loseFocus(*static_cast<QFocusEvent*>(event));
+        break;
+    case QEvent::EnabledChange:
+    case QEvent::Hide:
+        // Parts come and go with the value.
+        if (watched == d->field || watched == d->part) {
+            d->finish();
+        }
+        break;
+    default:
+        break;
+    }
+    return isTaken || !receiver;
+}
+
+void EditSession::commit()
+{
+    d->commit();
+}
+
+void EditSession::cancel()
+{
+    d->cancel();
+}

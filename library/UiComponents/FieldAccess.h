@@ -1,0 +1,30 @@
+// Internal: how EditSession reads, writes and hears any of the fields that it knows.
+
+#pragma once
+
+#include <QVariant>
+
+#include <functional>
+
+class QObject;
+class QWidget;
+
+/**
+ * The value of one field, whatever its class. The functions are empty for a widget that is no value field.
+ */
+struct FieldAccess
+{
+    /// The value that the field shows.
+    std::function<QVariant()> read;
+    std::function<void(const QVariant&)> write;
+    /// Connects what tells of a new value to a function, as long as the context lives. Some fields tell
+    /// before they show it, or twice.
+    std::function<void(QObject* context, const std::function<void()>& changed)> watch;
+    /// The same for signals that a user's choice alone emits, also a choice of the present value.
+    std::function<void(QObject* context, const std::function<void()>& chosen)> watchChoice;
+
+    static FieldAccess of(QWidget* field);
+
+    /// Exact, also where QVariant compares with a tolerance or not at all.
+    static bool isSame(const QVariant& one, const QVariant& other);
+};

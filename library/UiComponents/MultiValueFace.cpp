@@ -1,0 +1,111 @@
+#include "MultiValueFace.h"
+
+#include <WidgetToolkit/Util.h>
+
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyleOptionFrame>
+#include <QVariant>
+
+namespace {
+
+/// Inside of the frame.
+QRect textRect(const QLineEdit* edit)
+{
+    QStyleOptionFrame option;
+    option.initFrom(edit);
+    option.rect = edit->contentsRect();
+    option.lineWidth =
+        edit->hasFrame() ? edit->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, edit) : 0;
+    return edit->style()->subElementRect(QStyle::SE_LineEditContents, &option, edit);
+}
+
+} // namespace
+
+MultiValueFace::MultiValueFace(QWidget* field, QObject* parent)
+    : QObject(parent)
+    , m_field(field)
+{
+    field->installEventFilter(this);
+}
+
+MultiValueFace::~MultiValueFace() = default;
+
+void MultiValueFace::setShown(bool shown)
+{
+    if (m_isShown == shown) {
+        return;
+    }
+    m_isShown = shown;
+    Util::applyProperty(m_field, "multiValue", shown);
+    const auto parts = m_field->findChildren<QWidget*>() << m_field;
+    for (QWidget* part : parts) {
+        if (auto* edit = qobject_cast<QLineEdit*>(part)) {
+            cover(edit);
+        }
+        if (part->focusPolicy() != Qt::NoFocus) {
+            describe(part);
+        }
+        // A sheet selects parts by the property of the field.
+        Util::repolishWidget(part);
+        part->update();
+    }
+    if (!shown) {
+        for (const QPointer<QLabel>& label : qAsConst(m_covers)) {
+            delete label.data();
+        }
+        m_covers.clear();
+        m_descriptions.clear();
+    }
+}
+
+bool MultiValueFace::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && watched == m_field) {
+        setTexts();
+    } else if (event->type() == QEvent::Resize) {
+        for (const QPointer<QLabel>& label : qAsConst(m_covers)) {
+            if (label && label->parent() == watched) {
+                label->setGeometry(textRect(qobject_cast<QLineEdit*>(watched)));
+            }
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MultiValueFace::cover(QLineEdit* edit)
+{
+    if (!m_isShown) {
+        edit->removeEventFilter(this);
+        return;
+    }
+    edit->installEventFilter(this);
+    auto* label = new QLabel(QStringLiteral("\u2013"), edit);
+    label->setObjectName(QStringLiteral("multiValueCover"));
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label->setAutoFillBackground(true);
+    label->setBackgroundRole(QPalette::Base);
+    label->setForegroundRole(QPalette::Text);
+    label->setAlignment(edit->alignment() | Qt::AlignVCenter);
+    label->setGeometry(textRect(edit));
+    label->show();
+    m_covers.append(label);
+}
+
+void MultiValueFace::describe(QWidget* part)
+{
+    if (m_isShown) {
+        m_descriptions.insert(part, part->accessibleDescription());
+        part->setAccessibleDescription(tr("Several values"));
+    } else {
+        part->setAccessibleDescription(m_descriptions.value(part));
+    }
+}
+
+void MultiValueFace::setTexts() const
+{
+    for (auto part = m_descriptions.keyBegin(); part != m_descriptions.keyEnd(); ++part) {
+        (*part)->setAccessibleDescription(tr("Several values"));
+    }
+}

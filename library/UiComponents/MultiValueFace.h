@@ -1,0 +1,41 @@
+// Internal: how EditSession shows that a field stands for several values.
+
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+class QLabel;
+class QLineEdit;
+class QWidget;
+
+/**
+ * Covers the texts of a field while it stands for several values, and says so to style sheets and to screen
+ * readers. The field keeps its value below.
+ */
+class MultiValueFace : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p field outlives @p parent.
+    MultiValueFace(QWidget* field, QObject* parent);
+    ~MultiValueFace() override;
+
+    bool isShown() const { return m_isShown; }
+    void setShown(bool shown);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void cover(QLineEdit* edit);
+    void describe(QWidget* part);
+    void setTexts() const;
+
+    QWidget* const m_field;
+    QVector<QPointer<QLabel>> m_covers;
+    QHash<QWidget*, QString> m_descriptions; // as they were before
+    bool m_isShown = false;
+};

@@ -1,0 +1,1011 @@
+#include "FakeColorPicker.h"
+#include "MouseEvents.h"
+#include "TestMain.h"
+#include "Wheel.h"
+
+#include <UiComponents/ColorBlendingComboBox.h>
+#include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/EditSession.h>
+#include <UiComponents/FieldAccess.h>
+#include <UiComponents/PathSelectionWidget.h>
+#include <UiComponents/PointSelectionPlane.h>
+#include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/PopupColorPicker.h>
+#include <UiComponents/SearchWidget.h>
+#include <UiComponents/SliderInputWidget.h>
+#include <UiComponents/WidgetColorPickerButton.h>
+#include <WidgetToolkit/OvDoubleSlider.h>
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <functional>
+#include <memory>
+
+using Color = std::optional<QColor>;
+
+/// A field, the parts of it that a user works with, two values, and the text of a third.
+struct Kind
+{
+    const char* name;
+    std::function<QWidget*(QWidget*)> make;
+    const char* dragged; // class of the part, or null
+    const char* keyed;
+    const char* typed;
+    QVariant start;
+    QVariant other;
+    QString text;
+};
+
+template <typename Field, typename... Init>
+std::function<QWidget*(QWidget*)> maker(Init... init)
+{
+    return [init...](QWidget* parent) { return new Field(parent, init...); };
+}
+
+template <typename Field>
+QWidget* makeRanged(QWidget* parent)
+{
+    auto* field = new Field(parent);
+    field->setRange(0, 100);
+    return field;
+}
+
+QWidget* makePlane(QWidget* parent)
+{
+    auto* plane = new PointSelectionPlane(parent);
+    plane->setFixedSize(101, 101);
+    plane->setLimits({0.0, 0.0, 100.0, 100.0});
+    plane->setFocusPolicy(Qt::StrongFocus);
+    return plane;
+}
+
+QWidget* makeSelector(QWidget* parent)
+{
+    auto* field = new PointSelectorWidget(parent, {{0.0, 0.0}, {10.0, 10.0}, 1, 1});
+    // A pixel is less than a step of the boxes.
+    field->findChild<PointSelectionPlane*>()->setFixedSize(188, 188);
+    return field;
+}
+
+QWidget* makeCombo(QWidget* parent, bool isEditable)
+{
+    auto* box = new QComboBox(parent);
+    box->addItems({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three"),
+                   QStringLiteral("four"), QStringLiteral("five"), QStringLiteral("six")});
+    box->setEditable(isEditable);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    return box;
+}
+
+const QVector<Kind>& kinds()
+{
+    using Double = DoubleSliderInputWidget::Initializer;
+    const auto slider = "QAbstractSlider";
+    const auto spin = "QAbstractSpinBox";
+    const auto edit = "QLineEdit";
+    static const QVector<Kind> all = {
+        {"SliderInputWidget", maker<SliderInputWidget>(SliderInputWidget::Initializer{0, 100}), slider,
+         slider, spin, 50, 80, "37"},
+        {"DoubleSliderInputWidget", maker<DoubleSliderInputWidget>(Double{0.0, 1.0, 2}), slider, slider, spin,
+         0.5, 0.8, "0.37"},
+        {"PointSelectionPlane",
+         makePlane,
+         "PointSelectionPlane",
+         "PointSelectionPlane",
+         nullptr,
+         QPointF(50, 50),
+         QPointF(80, 20),
+         {}},
+        {"PointSelectorWidget", makeSelector, "PointSelectionPlane", "PointSelectionPlane", spin,
+         QPointF(5, 5), QPointF(8, 2), "3.7"},
+        {"QSlider", makeRanged<QSlider>, slider, slider, nullptr, 50, 80, {}},
+        {"OvDoubleSlider",
+         [](QWidget* parent) {
+             auto* field = new OvDoubleSlider(parent);
+             field->setMultiplier(0.01);
+             field->setRange(0, 100);
+             return field;
+         },
+         slider,
+         slider,
+         nullptr,
+         0.5,
+         0.8,
+         {}},
+        {"QSpinBox", makeRanged<QSpinBox>, nullptr, spin, spin, 50, 80, "37"},
+        {"QDoubleSpinBox", makeRanged<QDoubleSpinBox>, nullptr, spin, spin, 50.0, 80.0, "3.7"},
+        {"QLineEdit", maker<QLineEdit>(), nullptr, nullptr, edit, "before", "other", "typed"},
+        {"SearchWidget", maker<SearchWidget>(), nullptr, nullptr, edit, "before", "other", "typed"},
+        {"PathSelectionWidget", maker<PathSelectionWidget>(), nullptr, nullptr, edit, "/before", "/other",
+         "/typed"},
+        {"QComboBox",
+         [](QWidget* parent) { return makeCombo(parent, false); },
+         nullptr,
+         "QComboBox",
+         nullptr,
+         2,
+         4,
+         {}},
+        {"editable QComboBox", [](QWidget* parent) { return makeCombo(parent, true); }, nullptr, "QComboBox",
+         "QComboBox", "three", "five", "typed"},
+        {"ColorBlendingComboBox",
+         maker<ColorBlendingComboBox>(),
+         nullptr,
+         "QComboBox",
+         nullptr,
+         int(BlendingMode::Multiply),
+         int(BlendingMode::Screen),
+         {}},
+    };
+    return all;
+}
+
+/// A field in a window, with a session, and what the session has told.
+class Stage
+{
+public:
+    explicit Stage(const Kind& kind)
+        : field(kind.make(&window))
+        , session(new EditSession(field))
+        , other(new QPushButton(&window))
+    {
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(field);
+        layout->addWidget(other);
+        other->setFocusPolicy(Qt::StrongFocus);
+        session->setValue(kind.start);
+        dragged = part(kind.dragged);
+        keyed = part(kind.keyed);
+        typed = part(kind.typed);
+        listen();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other->setFocus();
+    }
+
+    /// The story so far; each run of previews is one.
+    QString story() const { return lines.join(QLatin1Char(' ')); }
+
+    void pressKey(QWidget* on, int key, bool isRepeated = false) const
+    {
+        sendKey(on, QEvent::KeyPress, key, isRepeated);
+    }
+    void releaseKey(QWidget* on, int key, bool isRepeated = false) const
+    {
+        sendKey(on, QEvent::KeyRelease, key, isRepeated);
+    }
+    /// A key that makes the value another.
+    int stepKey() const { return qobject_cast<QAbstractSlider*>(keyed) ? Qt::Key_Right : Qt::Key_Down; }
+    int backKey() const { return qobject_cast<QAbstractSlider*>(keyed) ? Qt::Key_Left : Qt::Key_Up; }
+
+    void type(const QString& text) const
+    {
+        typed->setFocus();
+        editor()->selectAll();
+        QTest::keyClicks(typed, text);
+    }
+    QLineEdit* editor() const
+    {
+        auto* edit = qobject_cast<QLineEdit*>(typed.data());
+        return edit ? edit : typed->findChild<QLineEdit*>();
+    }
+    void write(const QVariant& value) const { FieldAccess::of(field).write(value); }
+
+    QWidget window;
+    QPointer<QWidget> field;
+    QPointer<EditSession> session;
+    QPushButton* const other;
+    QPointer<QWidget> dragged;
+    QPointer<QWidget> keyed;
+    QPointer<QWidget> typed;
+    QStringList lines;
+    QVariant previewed;
+    QVariant committed;
+
+private:
+    QWidget* part(const char* name) const
+    {
+        if (!name || field->inherits(name)) {
+            return name ? field.data() : nullptr;
+        }
+        const auto parts = field->findChildren<QWidget*>();
+        for (QWidget* candidate : parts) {
+            if (candidate->inherits(name)) {
+                return candidate;
+            }
+        }
+        return nullptr;
+    }
+
+    void listen()
+    {
+        QObject::connect(session, &EditSession::started, &window, [this] { lines += "started"; });
+        QObject::connect(session, &EditSession::previewed, &window, [this](const QVariant& value) {
+            QVERIFY2(!FieldAccess::isSame(value, previewed), "the same again");
+            previewed = value;
+            if (lines.constLast() != "previewed") {
+                lines += "previewed";
+            }
+            QVERIFY(session->isActive());
+        });
+        QObject::connect(session, &EditSession::committed, &window, [this](const QVariant& value) {
+            lines += "committed";
+            committed = value;
+            QVERIFY(FieldAccess::isSame(value, session->value()));
+            QVERIFY(FieldAccess::isSame(value, previewed));
+            QVERIFY(!session->isActive());
+            previewed.clear();
+        });
+        QObject::connect(session, &EditSession::cancelled, &window, [this] {
+            lines += "cancelled";
+            QVERIFY(FieldAccess::isSame(session->startValue(), session->value()));
+            previewed.clear();
+        });
+    }
+
+    static void sendKey(QWidget* on, QEvent::Type type, int key, bool isRepeated)
+    {
+        if (type == QEvent::KeyPress) {
+            QKeyEvent shortcut(QEvent::ShortcutOverride, key, Qt::NoModifier, {}, isRepeated);
+            QCoreApplication::sendEvent(on, &shortcut);
+        }
+        QKeyEvent event(type, key, Qt::NoModifier, {}, isRepeated);
+        QCoreApplication::sendEvent(on, &event);
+    }
+};
+
+using Act = std::function<void(Stage&, const Kind&)>;
+Q_DECLARE_METATYPE(Act)
+Q_DECLARE_METATYPE(std::function<void(FakeColorPicker&)>)
+
+enum class Needs { Nothing, Drag, Keys, Text };
+
+struct Story
+{
+    const char* name;
+    Needs needs;
+    Act act;
+    const char* expected;
+};
+
+void dragOn(Stage& stage)
+{
+    QWidget& part = *stage.dragged;
+    part.setFocus();
+    const QPoint middle = part.rect().center();
+    press(part, middle);
+    for (int i = 1; i <= 10; ++i) {
+        drag(part, middle + QPoint(3 * i, 0));
+    }
+}
+
+void dropAt(Stage& stage, int distance)
+{
+    release(*stage.dragged, stage.dragged->rect().center() + QPoint(distance, 0));
+}
+
+void turnOn(Stage& stage)
+{
+    stage.keyed->setFocus();
+    for (int i = 0; i < 3; ++i) {
+        turnWheel(*stage.keyed, -120);
+    }
+}
+
+void leave(QWidget* part)
+{
+    QEvent event(QEvent::Leave);
+    QCoreApplication::sendEvent(part, &event);
+}
+
+void hold(Stage& stage, int key)
+{
+    stage.keyed->setFocus();
+    stage.pressKey(stage.keyed, key);
+    stage.releaseKey(stage.keyed, key, true);
+    stage.pressKey(stage.keyed, key, true);
+}
+
+const QVector<Story>& stories()
+{
+    const auto once = "started previewed committed";
+    const auto twice = "started previewed committed started previewed committed";
+    const auto nothing = "";
+    const auto cancelled = "started previewed cancelled";
+    const auto refresh = [](Stage& s, const Kind& k) {
+        const EditSession::Refresh guard(&s.window);
+        s.write(k.other);
+    };
+    static const QVector<Story> all = {
+        {"drag", Needs::Drag,
+         [](Stage& s, const Kind&) {
+             dragOn(s);
+             dropAt(s, 30);
+         },
+         once},
+        {"drag that is let go elsewhere", Needs::Drag,
+         [](Stage& s, const Kind&) {
+             dragOn(s);
+             dropAt(s, 40);
+         },
+         once},
+        {"drag, Escape", Needs::Drag,
+         [](Stage& s, const Kind& k) {
+             dragOn(s);
+             s.pressKey(s.dragged, Qt::Key_Escape);
+             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+             // The mouse is still down, but moves nothing.
+             drag(*s.dragged, QPoint(5, 5));
+             dropAt(s, -20);
+         },
+         cancelled},
+        {"drag, host change", Needs::Drag,
+         [refresh](Stage& s, const Kind& k) {
+             dragOn(s);
+             refresh(s, k);
+             drag(*s.dragged, QPoint(10, 10));
+             dropAt(s, 20);
+         },
+         twice},
+        {"drag, hidden", Needs::Drag,
+         [](Stage& s, const Kind&) {
+             dragOn(s);
+             s.field->hide();
+         },
+         once},
+        {"drag, disabled", Needs::Drag,
+         [](Stage& s, const Kind&) {
+             dragOn(s);
+             s.field->setEnabled(false);
+         },
+         once},
+        {"drag, deleted", Needs::Drag,
+         [](Stage& s, const Kind&) {
+             dragOn(s);
+             delete s.field;
+         },
+         "started previewed"},
+        {"held key", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             hold(s, s.stepKey());
+             QVERIFY(s.session->isActive());
+             s.releaseKey(s.keyed, s.stepKey());
+         },
+         once},
+        {"key there, key back", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             s.keyed->setFocus();
+             for (const int key : {s.stepKey(), s.backKey()}) {
+                 s.pressKey(s.keyed, key);
+                 s.releaseKey(s.keyed, key);
+             }
+         },
+         twice},
+        {"keys that overlap, back where it began", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             s.keyed->setFocus();
+             s.pressKey(s.keyed, s.stepKey());
+             s.pressKey(s.keyed, s.backKey());
+             s.releaseKey(s.keyed, s.stepKey());
+             s.releaseKey(s.keyed, s.backKey());
+         },
+         cancelled},
+        {"held key, Escape", Needs::Keys,
+         [](Stage& s, const Kind& k) {
+             hold(s, s.stepKey());
+             s.pressKey(s.keyed, Qt::Key_Escape);
+             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+         },
+         cancelled},
+        {"held key, focus loss", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             hold(s, s.stepKey());
+             s.other->setFocus();
+         },
+         once},
+        {"held key, deleted", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             hold(s, s.stepKey());
+             delete s.field;
+         },
+         "started previewed"},
+        {"key without effect", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             s.keyed->setFocus();
+             s.pressKey(s.keyed, Qt::Key_F5);
+             s.releaseKey(s.keyed, Qt::Key_F5);
+         },
+         nothing},
+        {"a host without a word", Needs::Keys, [](Stage& s, const Kind& k) { s.write(k.other); }, once},
+        {"wheel, cursor leaves", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             leave(s.keyed);
+         },
+         once},
+        {"wheel, focus loss", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             s.other->setFocus();
+         },
+         once},
+        {"wheel, then a key", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             s.pressKey(s.keyed, s.backKey());
+             s.releaseKey(s.keyed, s.backKey());
+         },
+         twice},
+        {"wheel, then a shortcut", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+             QCoreApplication::sendEvent(s.keyed, &shortcut);
+         },
+         once},
+        {"wheel, Escape", Needs::Keys,
+         [](Stage& s, const Kind& k) {
+             turnOn(s);
+             s.pressKey(s.keyed, Qt::Key_Escape);
+             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+         },
+         cancelled},
+        {"wheel, hidden", Needs::Keys,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             s.field->hide();
+         },
+         once},
+        {"text, Enter", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             QVERIFY(s.session->isActive());
+             QTest::keyClick(s.typed, Qt::Key_Return);
+         },
+         once},
+        {"text, focus loss", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             s.other->setFocus();
+         },
+         once},
+        {"text, pop-up, Enter", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             QFocusEvent popup(QEvent::FocusOut, Qt::PopupFocusReason);
+             QCoreApplication::sendEvent(s.typed, &popup);
+             QVERIFY(s.session->isActive());
+             QTest::keyClick(s.typed, Qt::Key_Return);
+         },
+         once},
+        {"text, Escape", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             s.pressKey(s.typed, Qt::Key_Escape);
+             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+         },
+         cancelled},
+        {"text, hidden", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             s.field->hide();
+         },
+         once},
+        {"text, disabled", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             s.field->setEnabled(false);
+         },
+         once},
+        {"text, host change", Needs::Text,
+         [refresh](Stage& s, const Kind& k) {
+             s.type(k.text);
+             refresh(s, k);
+             s.other->setFocus();
+         },
+         once},
+        {"text, deleted", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             s.type(k.text);
+             delete s.field;
+         },
+         "started previewed"},
+        {"text there and back", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             const QString before = s.editor()->text();
+             s.type(k.text);
+             s.type(before);
+             QTest::keyClick(s.typed, Qt::Key_Return);
+         },
+         cancelled},
+        {"paste, Enter", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             QGuiApplication::clipboard()->setText(k.text);
+             s.typed->setFocus();
+             s.editor()->selectAll();
+             QTest::keyClick(s.typed, Qt::Key_V, Qt::ControlModifier);
+             QTest::keyClick(s.typed, Qt::Key_Return);
+         },
+         once},
+        {"paste from the menu", Needs::Text,
+         [](Stage& s, const Kind& k) {
+             QGuiApplication::clipboard()->setText(k.text);
+             s.typed->setFocus();
+             s.editor()->selectAll();
+             s.editor()->paste();
+         },
+         once},
+        {"tab through", Needs::Nothing,
+         [](Stage& s, const Kind&) {
+             s.other->setFocus();
+             for (int i = 0; i < 6; ++i) {
+                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+             }
+         },
+         nothing},
+        {"a host that sets it", Needs::Nothing, [](Stage& s, const Kind& k) { s.session->setValue(k.other); },
+         nothing},
+        {"a host that refreshes", Needs::Nothing, refresh, nothing},
+        {"a host in silence, then a refresh", Needs::Nothing,
+         [refresh](Stage& s, const Kind& k) {
+             const QSignalBlocker blocker(s.field);
+             refresh(s, k);
+         },
+         nothing},
+        {"hidden", Needs::Nothing, [](Stage& s, const Kind&) { s.field->hide(); }, nothing},
+        {"deleted", Needs::Nothing, [](Stage& s, const Kind&) { delete s.field; }, nothing},
+    };
+    return all;
+}
+
+class tst_EditSession : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void story_data();
+    void story();
+    void colorPick_data();
+    void colorPick();
+    void colorPickWithThePanel();
+    void widgetColor();
+    void multiValue_data();
+    void multiValue();
+    void multiValueTakesTheHiddenValue_data();
+    void multiValueTakesTheHiddenValue();
+    void multiColor();
+    void shownValueIsCommitted();
+    void unfinishedText();
+    void refreshInAReport();
+    void deletedInASlot_data();
+    void deletedInASlot();
+    void windowDestroyedWhileTyping();
+    void otherWidgets();
+};
+
+void tst_EditSession::story_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("told");
+    for (int kind = 0; kind < kinds().size(); ++kind) {
+        for (int i = 0; i < stories().size(); ++i) {
+            const Kind& k = kinds().at(kind);
+            const Story& s = stories().at(i);
+            const bool isPossible = s.needs == Needs::Nothing || (s.needs == Needs::Drag && k.dragged) ||
+                                    (s.needs == Needs::Keys && k.keyed) ||
+                                    (s.needs == Needs::Text && k.typed);
+            // A plane has no wheel, and reports nothing that a host sets.
+            const bool isForOthers =
+                QByteArray(k.name).startsWith("Point") &&
+                (QByteArray(s.name).startsWith("wheel") || s.name == QByteArray("a host without a word"));
+            if (isPossible && !isForOthers) {
+                QTest::addRow("%s: %s", k.name, s.name) << kind << i;
+            }
+        }
+    }
+}
+
+void tst_EditSession::story()
+{
+    QFETCH(int, kind);
+    QFETCH(int, told);
+    const Kind& k = kinds().at(kind);
+    const Story& s = stories().at(told);
+    Stage stage(k);
+    QVERIFY(FieldAccess::isSame(stage.session->value(), k.start));
+    s.act(stage, k);
+    QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
+    if (stage.session) {
+        QVERIFY(!stage.session->isActive());
+        // Late reports, as a folder field's, tell no other.
+        QTest::qWait(k.name == QByteArray("PathSelectionWidget") ? 150 : 0);
+        QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
+    }
+}
+
+void tst_EditSession::colorPick_data()
+{
+    using Pick = std::function<void(FakeColorPicker&)>;
+    QTest::addColumn<Pick>("pick");
+    QTest::addColumn<Color>("start");
+    QTest::addColumn<Color>("result");
+    QTest::addColumn<QString>("expected");
+    const Color red(QColor(Qt::red));
+    const Color blue(QColor(Qt::blue));
+    const QString once("started previewed committed");
+    const QString cancelled("started previewed cancelled");
+    const Pick previews = [blue](FakeColorPicker& picker) {
+        picker.preview(QColor(Qt::green));
+        picker.preview(blue);
+        picker.finish(blue);
+    };
+    const Pick takenBack = [red](FakeColorPicker& picker) {
+        picker.preview(QColor(Qt::green));
+        picker.finish(red);
+    };
+    QTest::newRow("previews") << previews << red << blue << once;
+    QTest::newRow("without a preview")
+        << Pick([blue](FakeColorPicker& picker) { picker.finish(blue); }) << red << blue << once;
+    QTest::newRow("another end than the last preview") << Pick([blue](FakeColorPicker& picker) {
+        picker.preview(QColor(Qt::green));
+        picker.finish(blue);
+    }) << red << blue << once;
+    QTest::newRow("nothing chosen") << Pick([red](FakeColorPicker& picker) { picker.finish(red); }) << red
+                                    << red << QString();
+    QTest::newRow("taken back") << takenBack << red << red << cancelled;
+    QTest::newRow("several, taken back") << Pick([](FakeColorPicker& picker) {
+        picker.preview(QColor(Qt::green));
+        picker.finish({});
+    }) << Color() << Color() << cancelled;
+    QTest::newRow("several to one") << previews << Color() << blue << once;
+    QTest::newRow("no colour") << Pick([](FakeColorPicker& picker) { picker.finish(QColor()); }) << red
+                               << Color(QColor()) << once;
+    QTest::newRow("hidden") << Pick([](FakeColorPicker& picker) {
+        picker.preview(QColor(Qt::blue));
+        qobject_cast<QWidget*>(picker.parent())->hide();
+    }) << red << blue << once;
+    QTest::newRow("no end is told") << Pick([](FakeColorPicker& picker) {
+        picker.preview(QColor(Qt::green));
+        picker.finishInSilence();
+        picker.preview(QColor(Qt::blue));
+    }) << red << blue << once;
+}
+
+void tst_EditSession::colorPick()
+{
+    using Pick = std::function<void(FakeColorPicker&)>;
+    QFETCH(Pick, pick);
+    QFETCH(Color, start);
+    QFETCH(Color, result);
+    QFETCH(QString, expected);
+    const Kind kind = {"ColorInputWidget",
+                       [](QWidget* parent) { return new ColorInputWidget(parent, Qt::white); },
+                       nullptr,
+                       nullptr,
+                       nullptr,
+                       QVariant::fromValue(start),
+                       QVariant::fromValue(result),
+                       {}};
+    Stage stage(kind);
+    auto* const button = stage.field->findChild<ColorPickerButton*>();
+    auto* const picker = new FakeColorPicker;
+    button->setPicker(picker);
+    // A host's own look, which keeps still.
+    picker->onSetColor = [](const Color&) {};
+    button->startPicking();
+    pick(*picker);
+    QCOMPARE(stage.story(), expected);
+    QCOMPARE(button->color(), result);
+    if (expected.endsWith("committed")) {
+        QCOMPARE(stage.committed.value<Color>(), result);
+    }
+}
+
+void tst_EditSession::colorPickWithThePanel()
+{
+    const Kind kind = {"ColorPickerButton",
+                       [](QWidget* parent) { return new ColorPickerButton(parent); },
+                       nullptr,
+                       nullptr,
+                       nullptr,
+                       QVariant::fromValue(Color()),
+                       QVariant::fromValue(Color(QColor(Qt::red))),
+                       {}};
+    Stage stage(kind);
+    auto* const button = qobject_cast<ColorPickerButton*>(stage.field);
+    button->setPicker(new PopupColorPicker);
+    for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
+        stage.lines.clear();
+        button->startPicking();
+        auto* const popup = stage.window.findChild<QWidget*>("colorPanelPopup");
+        auto* const edit = popup->findChild<QLineEdit*>();
+        edit->selectAll();
+        QTest::keyClicks(edit, "#123456");
+        QTest::keyClick(edit, Qt::Key_Home);
+        QVERIFY(stage.session->isActive());
+        QTest::keyClick(edit, Qt::Key(key));
+        QTRY_VERIFY(!button->isPickingInProgress());
+        QCOMPARE(stage.story(), QString(key == Qt::Key_Escape ? "started previewed cancelled"
+                                                              : "started previewed committed"));
+        QCOMPARE(button->color(), key == Qt::Key_Escape ? Color() : Color(QColor(0x12, 0x34, 0x56)));
+    }
+}
+
+/// The colour of a picked widget is that of another selection, also when the button wears it already.
+void tst_EditSession::widgetColor()
+{
+    QWidget window;
+    window.resize(300, 200);
+    QWidget target(&window);
+    target.setGeometry(100, 50, 100, 100);
+    target.setStyleSheet("background: #2f6fde;");
+    WidgetColorPickerButton button(&window);
+    button.setTargetWidget(&target);
+    EditSession session(&button);
+    QStringList lines;
+    connect(&session, &EditSession::started, this, [&] { lines += "started"; });
+    connect(&session, &EditSession::previewed, this, [&] { lines += "previewed"; });
+    connect(&session, &EditSession::committed, this,
+            [&](const QVariant& color) { lines += color.value<QColor>().name(); });
+    connect(&session, &EditSession::cancelled, this, [&] { lines += "cancelled"; });
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto pickAt = [&](const QPoint& point) {
+        QTimer::singleShot(0, &window, [&window, point] {
+            QCursor::setPos(window.mapToGlobal(point));
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, point);
+        });
+        button.startPicking();
+    };
+    for (int i = 0; i < 2; ++i) {
+        lines.clear();
+        pickAt(target.geometry().center());
+        QCOMPARE(lines, (QStringList{"started", "previewed", "#2f6fde"}));
+    }
+    lines.clear();
+    pickAt(QPoint(5, 190));
+    QCOMPARE(lines, QStringList());
+}
+
+void tst_EditSession::multiValue_data()
+{
+    QTest::addColumn<int>("kind");
+    for (int kind = 0; kind < kinds().size(); ++kind) {
+        QTest::newRow(kinds().at(kind).name) << kind;
+    }
+}
+
+void tst_EditSession::multiValue()
+{
+    QFETCH(int, kind);
+    Stage stage(kinds().at(kind));
+    QVERIFY(!stage.session->isMultiValue());
+    stage.session->setMultiValue(true);
+    const auto edits = stage.field->findChildren<QLineEdit*>();
+    const auto isShown = [&stage] {
+        const auto parts = stage.field->findChildren<QLineEdit*>();
+        bool isCovered = true;
+        for (const QLineEdit* edit : parts) {
+            const auto* cover = edit->findChild<QLabel*>("multiValueCover");
+            isCovered = isCovered && cover && cover->isVisibleTo(edit) && cover->width() > edit->width() - 8;
+        }
+        return isCovered && stage.session->isMultiValue() && stage.field->property("multiValue").toBool();
+    };
+    QVERIFY(isShown());
+    stage.window.resize(stage.window.size() + QSize(100, 0));
+    QVERIFY(isShown());
+    const auto described = [&stage] {
+        return stage.field->accessibleDescription() + [&stage] {
+            const auto parts = stage.field->findChildren<QWidget*>();
+            for (const QWidget* part : parts) {
+                if (part->focusPolicy() != Qt::NoFocus) {
+                    return part->accessibleDescription();
+                }
+            }
+            return QString();
+        }();
+    };
+    QVERIFY(described().contains("Several values"));
+    // The user tabs through.
+    for (int i = 0; i < 8; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QVERIFY(isShown());
+    QCOMPARE(stage.story(), QString());
+    stage.session->setValue(kinds().at(kind).other);
+    QVERIFY(!stage.session->isMultiValue());
+    QVERIFY(!stage.field->property("multiValue").toBool());
+    QVERIFY(!stage.field->findChild<QLabel*>("multiValueCover"));
+    QCOMPARE(described(), QString());
+    QCOMPARE(stage.story(), QString());
+}
+
+void tst_EditSession::multiValueTakesTheHiddenValue_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("end");
+    for (int kind = 0; kind < kinds().size(); ++kind) {
+        if (kinds().at(kind).typed) {
+            QTest::addRow("%s", kinds().at(kind).name) << kind << int(Qt::Key_Return);
+            QTest::addRow("%s, Escape", kinds().at(kind).name) << kind << int(Qt::Key_Escape);
+        }
+    }
+}
+
+void tst_EditSession::multiValueTakesTheHiddenValue()
+{
+    QFETCH(int, kind);
+    QFETCH(int, end);
+    Stage stage(kinds().at(kind));
+    const QString hidden = stage.editor()->text();
+    stage.session->setMultiValue(true);
+    stage.typed->setFocus();
+    stage.editor()->deselect();
+    // The hidden text is typed over, wherever the cursor stands in it.
+    QTest::keyClicks(stage.typed, hidden);
+    QCOMPARE(stage.editor()->text(), hidden);
+    QVERIFY(stage.session->isActive());
+    QVERIFY(!stage.session->isMultiValue());
+    stage.pressKey(stage.typed, end);
+    if (end == Qt::Key_Escape) {
+        QCOMPARE(stage.story(), QString("started previewed cancelled"));
+        QVERIFY(stage.session->isMultiValue());
+    } else {
+        QCOMPARE(stage.story(), QString("started previewed committed"));
+        QVERIFY(FieldAccess::isSame(stage.committed, kinds().at(kind).start));
+    }
+}
+
+void tst_EditSession::multiColor()
+{
+    ColorInputWidget field(nullptr, Qt::red);
+    EditSession session(&field);
+    QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
+    session.setMultiValue(true);
+    QCOMPARE(field.color(), Color());
+    QVERIFY(field.property("multiValue").toBool());
+    session.setValue(QVariant::fromValue(Color(QColor(Qt::blue))));
+    QVERIFY(!session.isMultiValue());
+    QCOMPARE(field.color(), Color(QColor(Qt::blue)));
+}
+
+/// A plane is finer than the boxes beside it.
+void tst_EditSession::shownValueIsCommitted()
+{
+    Stage stage(kinds().at(3));
+    QVector<QPointF> points;
+    connect(stage.session, &EditSession::previewed, this,
+            [&points](const QVariant& value) { points += value.toPointF(); });
+    dragOn(stage);
+    dropAt(stage, 31);
+    QCOMPARE(stage.story(), QString("started previewed committed"));
+    const auto boxes = stage.field->findChildren<QDoubleSpinBox*>();
+    QCOMPARE(stage.committed.toPointF(), QPointF(boxes.at(0)->value(), boxes.at(1)->value()));
+    for (const QPointF& point : qAsConst(points)) {
+        QCOMPARE(point.x() * 10, double(qRound(point.x() * 10)));
+        // Never half of a point: the drag is level.
+        QCOMPARE(point.y(), points.constFirst().y());
+    }
+}
+
+void tst_EditSession::unfinishedText()
+{
+    Stage stage({"SliderInputWidget", maker<SliderInputWidget>(SliderInputWidget::Initializer{10, 100}),
+                 nullptr, nullptr, "QAbstractSpinBox", 50, 80, "5"});
+    // Below the range, and so no value yet.
+    stage.type("5");
+    QCOMPARE(stage.story(), QString());
+    stage.pressKey(stage.typed, Qt::Key_Escape);
+    QCOMPARE(stage.editor()->text(), QString("50"));
+    stage.type("5");
+    stage.other->setFocus();
+    QCOMPARE(stage.story(), QString("started previewed committed"));
+    QCOMPARE(stage.committed, QVariant(10));
+}
+
+/// A host that writes each value into its document, and shows the document again.
+void tst_EditSession::refreshInAReport()
+{
+    Stage stage(kinds().at(0));
+    auto* const slider = qobject_cast<SliderInputWidget*>(stage.field);
+    connect(stage.session, &EditSession::previewed, this, [&stage, slider](const QVariant& value) {
+        const EditSession::Refresh refresh(&stage.window);
+        slider->setValue(value.toInt() / 5 * 5);
+        stage.previewed = slider->value();
+    });
+    dragOn(stage);
+    dropAt(stage, 30);
+    QVERIFY(stage.lines.count("started") == 1);
+    QVERIFY(stage.story().endsWith("committed"));
+    QCOMPARE(stage.committed.toInt() % 5, 0);
+}
+
+void tst_EditSession::deletedInASlot_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<bool>("onlySession");
+    for (const bool onlySession : {true, false}) {
+        for (const char* const signal :
+             {"started()", "previewed(QVariant)", "committed(QVariant)", "cancelled()"}) {
+            QTest::addRow("%s %s", signal, onlySession ? "session" : "window")
+                << QByteArray("2").append(signal) << onlySession;
+        }
+    }
+}
+
+void tst_EditSession::deletedInASlot()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(bool, onlySession);
+    auto window = std::make_unique<QWidget>();
+    auto* const field = new PointSelectionPlane(window.get());
+    field->setFixedSize(101, 101);
+    field->setLimits({0.0, 0.0, 100.0, 100.0});
+    QPointer<EditSession> session = new EditSession(field);
+    QAction remove(nullptr);
+    bool isDone = false;
+    connect(&remove, &QAction::triggered, this, [&] {
+        isDone = true;
+        if (onlySession) {
+            delete session;
+        } else {
+            window.release()->deleteLater();
+            delete session;
+        }
+    });
+    QVERIFY(connect(session, signal.constData(), &remove, SLOT(trigger())));
+    const QPointer<QWidget> alive = field;
+    press(*field, QPoint(20, 20));
+    drag(*field, QPoint(30, 30));
+    if (signal.contains("cancelled") && session) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(field, &escape);
+    }
+    if (alive) {
+        release(*field, QPoint(30, 30));
+    }
+    QVERIFY(isDone);
+    QVERIFY(!session);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void tst_EditSession::windowDestroyedWhileTyping()
+{
+    QStringList lines;
+    {
+        Stage stage(kinds().at(0));
+        stage.type("37");
+        connect(stage.session, &EditSession::committed, this, [&lines] { lines += "committed"; });
+        connect(stage.session, &EditSession::cancelled, this, [&lines] { lines += "cancelled"; });
+    }
+    QCOMPARE(lines, QStringList());
+}
+
+void tst_EditSession::otherWidgets()
+{
+    QLabel label;
+    EditSession session(&label);
+    QCOMPARE(session.field(), &label);
+    QCOMPARE(session.value(), QVariant());
+    session.setValue(7);
+    session.commit();
+    session.cancel();
+    session.setMultiValue(true);
+    QVERIFY(session.isMultiValue());
+    QVERIFY(!session.isActive());
+}
+
+UIC_TEST_MAIN(tst_EditSession)
+#include "tst_EditSession.moc"
