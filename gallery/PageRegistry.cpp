@@ -145,6 +145,12 @@ QVector<PageInfo> PageRegistry::pages()
                "the drag, the text or the pick. Here each becomes one step of undo. Escape takes it back."),
             {tr("undo"), tr("redo"), tr("several values"), tr("drag"), tr("typing")},
             "EditSession EditCommand", &editSession),
+        row("title-card", PageGroup::Inputs, tr("Title cards"),
+            tr("An application in miniature, to be read in examples/titlecard: an inspector of several "
+               "cards, "
+               "undo and redo of everything, presets, a tour, a QML dialog, and pictures of the canvas."),
+            {tr("undo"), tr("several values"), tr("application"), tr("tour"), tr("export")},
+            "EditSession EditCommand", &titleCard),
         row("frame", PageGroup::Layout, tr("Frame and layout controller"),
             tr("Components build their layouts without margins and spacing; the style sheet sets both "
                "through the layout controller. A frame is its own controller, any other widget gets one "

@@ -90,6 +90,7 @@ private:
 
     // pages/Editing.cpp
     static void editSession(Page* page);
+    static void titleCard(Page* page);
 
     // pages/Layouts.cpp
     static void frame(Page* page);

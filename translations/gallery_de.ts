@@ -2015,6 +2015,30 @@
         <source>A field that stands for several values has multiValue, and a label #multiValueCover covers each of its line edits.</source>
         <translation>Ein Feld, das für mehrere Werte steht, hat multiValue, und ein Label #multiValueCover verdeckt jedes seiner Textfelder.</translation>
     </message>
+    <message>
+        <source>Title cards</source>
+        <translation>Titelkarten</translation>
+    </message>
+    <message>
+        <source>An application in miniature, to be read in examples/titlecard: an inspector of several cards, undo and redo of everything, presets, a tour, a QML dialog, and pictures of the canvas.</source>
+        <translation>Eine Anwendung im Kleinen, nachzulesen in examples/titlecard: Eigenschaften mehrerer Karten, Rückgängig und Wiederholen für alles, Vorlagen, eine Führung, ein QML-Dialog und Bilder der Leinwand.</translation>
+    </message>
+    <message>
+        <source>application</source>
+        <translation>Anwendung</translation>
+    </message>
+    <message>
+        <source>export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>First light</source>
+        <translation>Erstes Licht</translation>
+    </message>
+    <message>
+        <source>A film</source>
+        <translation>Ein Film</translation>
+    </message>
 </context>
 <context>
     <name>ParameterPanel</name>

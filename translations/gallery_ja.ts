@@ -2015,6 +2015,30 @@
         <source>A field that stands for several values has multiValue, and a label #multiValueCover covers each of its line edits.</source>
         <translation>複数の値を表すフィールドは multiValue を持ち、ラベル #multiValueCover がその各入力欄を覆います。</translation>
     </message>
+    <message>
+        <source>Title cards</source>
+        <translation>タイトルカード</translation>
+    </message>
+    <message>
+        <source>An application in miniature, to be read in examples/titlecard: an inspector of several cards, undo and redo of everything, presets, a tour, a QML dialog, and pictures of the canvas.</source>
+        <translation>examples/titlecard にある小さなアプリケーションです。複数のカードのプロパティ、すべての取り消しとやり直し、プリセット、ツアー、QML ダイアログ、キャンバスの画像があります。</translation>
+    </message>
+    <message>
+        <source>application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>export</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>First light</source>
+        <translation>最初の光</translation>
+    </message>
+    <message>
+        <source>A film</source>
+        <translation>映画</translation>
+    </message>
 </context>
 <context>
     <name>ParameterPanel</name>

@@ -4,12 +4,15 @@
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/EditCommand.h>
 #include <UiComponents/EditSession.h>
+#include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/SliderInputWidget.h>
 
 #include <QUndoStack>
 
+#include <examples/titlecard/Canvas.h>
+#include <examples/titlecard/Editor.h>
 #include <memory>
 
 namespace {
@@ -77,4 +80,24 @@ void PageRegistry::editSession(Page* page)
                           tr("A field that stands for several values has multiValue, and a label "
                              "#multiValueCover covers each of its line edits."),
                           tr("Several values"));
+}
+
+void PageRegistry::titleCard(Page* page)
+{
+    Q_INIT_RESOURCE(titlecard);
+    page->setMaxSpecimenShare(0.9);
+    auto* editor = new TitleCard::Editor(QString());
+    editor->setWindowFlags(Qt::Widget);
+    editor->addCard(tr("First light"));
+    const int first = editor->canvas()->selection().first();
+    editor->document()->setValue(first, TitleCard::Position, QPointF(-0.25, -0.25));
+    editor->addCard(tr("A film"));
+    editor->document()->setValue(editor->canvas()->selection().first(), TitleCard::Position,
+                                 QPointF(0.2, 0.3));
+    editor->undoStack()->clear();
+    page->addDemonstration(QString(), editor);
+    QObject::connect(page, &Page::pictureRequested, editor, [editor] {
+        // The free space differs from disk to disk.
+        editor->findChild<PathSelectionWidget*>()->showAvailableSpace(false, -1);
+    });
 }

@@ -547,6 +547,11 @@ void EditSession::setValue(const QVariant& value)
     }
 }
 
+bool EditSession::isSame(const QVariant& one, const QVariant& other)
+{
+    return FieldAccess::isSame(one, other);
+}
+
 QVariant EditSession::startValue() const
 {
     return d->start;

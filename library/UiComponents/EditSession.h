@@ -94,6 +94,10 @@ public:
     /// Sets the field without an edit, for one value. Commits a session first.
     void setValue(const QVariant& value);
 
+    /// Whether two values of a field are the same: exactly, also colours and points, which QVariant compares
+    /// not at all or with a tolerance.
+    static bool isSame(const QVariant& one, const QVariant& other);
+
     /// The value from before the present or the last session.
     QVariant startValue() const;
 

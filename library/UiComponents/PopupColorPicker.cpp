@@ -430,10 +430,6 @@ void PopupColorPicker::Private::finish()
     if (popup && popup->user == owner) {
         popup->user = nullptr;
     }
-    if (!isCancelled) {
-        // It has taken each preview, and has what the host has set since.
-        askField();
-    }
     state = State::Idle;
     Q_EMIT owner->pickingStopped();
 }
@@ -491,6 +487,10 @@ void PopupColorPicker::stop()
 
 std::optional<QColor> PopupColorPicker::color()
 {
+    if (!isInProgress()) {
+        // It has taken each preview, and has what the host has set since.
+        d->askField();
+    }
     return d->current;
 }
 

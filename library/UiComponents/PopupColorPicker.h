@@ -74,6 +74,7 @@ public:
     /// Closes the pop-up, or ends a running pipette, and keeps the colour.
     void stop() override;
 
+    /// While picking the colour that was chosen last, else that of the field.
     std::optional<QColor> color() override;
 
     /// Sets the colour; while picking, the panel shows it.

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void nothingChosenChangesNothing();
     void aColorSetMeanwhileIsKept_data();
     void aColorSetMeanwhileIsKept();
+    void aColorSetAtTheEndIsKept();
     void keyboardFromOpenToClose();
     void options_data();
     void options();
@@ -327,6 +328,21 @@ void tst_PopupColorPicker::aColorSetMeanwhileIsKept()
     QTRY_VERIFY(!m_picker->isInProgress());
     QCOMPARE(m_button->color(), color);
     QCOMPARE(changed.count(), 0);
+}
+
+/// A host that shows its selection again when a pick is over: the first one's colour, then several.
+void tst_PopupColorPicker::aColorSetAtTheEndIsKept()
+{
+    m_button->setColor(std::nullopt);
+    connect(m_button, &ColorPickerButton::pickingStopped, this, [this] {
+        m_button->setColor(Green);
+        m_button->setColor(std::nullopt);
+    });
+    m_button->startPicking();
+    paletteButton(AmberName)->click();
+    QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape);
+    QTRY_VERIFY(!m_picker->isInProgress());
+    QCOMPARE(m_button->color(), Color());
 }
 
 void tst_PopupColorPicker::keyboardFromOpenToClose()
