@@ -60,6 +60,7 @@ class QWidget;
  *     size->setValue(card->size());
  *     color->setColor(card->color());
  *
+ * A field that stood for several values goes on to, until setValue() of its session or setMultiValue(false).
  * @see EditCommand
  */
 class UICOMPONENTS_EXPORT EditSession : public QObject
