@@ -3,6 +3,7 @@
 #include "Compare.h"
 
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/EditSession.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SliderInputWidget.h>
@@ -207,5 +208,82 @@ Pair shareOfADragStep()
 
 UIC_COMPARE("ValueInputs/a step of a drag over 1,000 x 1,000 points without painting, against the whole step",
             atMost(0.05), shareOfADragStep);
+
+/// A slider field that is dragged, while a host listens to it or to its session.
+class SliderDrag
+{
+public:
+    static constexpr int moves = 10;
+
+    SliderDrag()
+    {
+        m_field.resize(fieldWidth, m_field.sizeHint().height());
+        m_field.show();
+        QCoreApplication::processEvents();
+    }
+
+    void press(bool hasSession)
+    {
+        if (hasSession) {
+            m_session = std::make_unique<EditSession>(&m_field);
+            QObject::connect(m_session.get(), &EditSession::previewed, &m_context, [this] { ++m_reports; });
+        } else {
+            QObject::connect(&m_field, &SliderInputWidget::valueChanged, &m_context, [this] { ++m_reports; });
+        }
+        send(QEvent::MouseButtonPress, Qt::LeftButton);
+    }
+
+    void move()
+    {
+        const int before = m_reports;
+        for (int i = 0; i < moves; ++i) {
+            // Off both ends, where the handle stays.
+            m_place.setX(fieldWidth / 4 + (m_place.x() + 7) % (fieldWidth / 4));
+            send(QEvent::MouseMove, Qt::NoButton);
+            QCoreApplication::processEvents();
+        }
+        if (m_reports < before + moves) {
+            qFatal("the drag moves nothing: the row would time nothing");
+        }
+    }
+
+    void release()
+    {
+        send(QEvent::MouseButtonRelease, Qt::LeftButton);
+        m_session.reset();
+        m_field.disconnect(&m_context);
+    }
+
+private:
+    static constexpr int fieldWidth = 400;
+
+    void send(QEvent::Type type, Qt::MouseButton button)
+    {
+        QMouseEvent event(type, m_place, m_slider->mapToGlobal(m_place), button, Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(m_slider, &event);
+    }
+
+    SliderInputWidget m_field{nullptr, numbers};
+    OvCustomSlider* const m_slider = m_field.findChild<OvCustomSlider*>();
+    std::unique_ptr<EditSession> m_session;
+    QObject m_context;
+    QPoint m_place = {fieldWidth / 4, 5};
+    int m_reports = 0;
+};
+
+Pair dragWithASession()
+{
+    // One for both sides: two that are alike take as long only within some percent.
+    const auto drag = std::make_shared<SliderDrag>();
+    const auto side = [drag](bool hasSession) {
+        return Side{[drag] { drag->move(); }, [drag, hasSession] { drag->press(hasSession); },
+                    [drag] { drag->release(); }};
+    };
+    return {side(true), side(false), SliderDrag::moves};
+}
+
+UIC_COMPARE("ValueInputs/a step of a drag with an EditSession, against one without", atMost(1.05),
+            dragWithASession);
 
 } // namespace

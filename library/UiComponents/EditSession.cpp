@@ -60,6 +60,28 @@ QLineEdit* editorOf(QObject* part)
     return qobject_cast<QAbstractSpinBox*>(part) ? part->findChild<QLineEdit*>() : nullptr;
 }
 
+/// Each step of a drag brings many events that say nothing.
+bool isHeardOf(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::Wheel:
+    case QEvent::Leave:
+    case QEvent::FocusOut:
+    case QEvent::EnabledChange:
+    case QEvent::Hide:
+        return true;
+    default:
+        return false;
+    }
+}
+
 ColorPickerButton* colorButtonOf(QWidget* field)
 {
     const auto* input = qobject_cast<ColorInputWidget*>(field);
@@ -583,8 +605,12 @@ void EditSession::setMultiValue(bool isMulti)
 
 bool EditSession::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::MouseMove) {
+        d->mousePosition = static_cast<QMouseEvent*>(event)->pos();
+        return false;
+    }
     // A pick is the picker's to end.
-    if (d->gesture == Gesture::Pick || !d->isAlive()) {
+    if (!isHeardOf(event->type()) || d->gesture == Gesture::Pick || !d->isAlive()) {
         return false;
     }
     const QPointer<QObject> receiver(watched);
@@ -593,9 +619,6 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         d->pressMouse(watched, *static_cast<QMouseEvent*>(event));
-        break;
-    case QEvent::MouseMove:
-        d->mousePosition = static_cast<QMouseEvent*>(event)->pos();
         break;
     case QEvent::MouseButtonRelease:
         d->releaseMouse(*static_cast<QMouseEvent*>(event));

@@ -12,63 +12,45 @@
 class QWidget;
 
 /**
- * Tells what the user does to the value of a field as one story, from which a host makes one step of undo.
+ * Tells what the user does to the value of a field as one story, from which a host makes one step of undo;
+ * EditCommand does that for a QUndoStack. It knows the fields of the library, and QSpinBox, QDoubleSpinBox,
+ * QAbstractSlider, QLineEdit and QComboBox; value() says what the values are.
  *
- *     auto* session = new EditSession(opacityField);
- *     connect(session, &EditSession::previewed, card, [card](const QVariant& v) {
- * card->setOpacity(v.toInt()); }); connect(session, &EditSession::committed, this, &Editor::addUndoStep);
+ *     auto* session = new EditSession(sizeField);
+ *     connect(session, &EditSession::previewed, card, &Card::setSizeForNow);
+ *     connect(session, &EditSession::committed, this, &Editor::addUndoStep);
  *     connect(session, &EditSession::cancelled, this, &Editor::bringOldValuesBack);
  *
- * EditCommand does all three for a QUndoStack.
+ * **One session** lasts from the first change to the end of what makes it: a drag, a held button or a held
+ * key is let go; a text gets Enter, or loses the focus for anything but a pop-up; after turns of the wheel
+ * the cursor leaves the part, or it loses the focus or gets another input; a pick stops. A change that none
+ * of these makes is a session of its own: an item of a combo box, a click on a field's button, a screen
+ * reader, and a host that sets the field without Refresh or setValue(). Nothing waits: all is told in the
+ * call that changes the field.
  *
- * **Fields and their values.** `int`: SliderInputWidget, QSpinBox, QAbstractSlider, QComboBox (the current
- * index), ColorBlendingComboBox (the number of the mode). `double`: DoubleSliderInputWidget, QDoubleSpinBox,
- * OvDoubleSlider. `QPointF`: PointSelectorWidget (as its spin boxes show it), PointSelectionPlane. `QString`:
- * PathSelectionWidget, SearchWidget, QLineEdit, an editable QComboBox. `std::optional<QColor>`:
- * ColorInputWidget, ColorPickerButton. `QColor`: WidgetColorPickerButton. Any other widget has no value and
- * no sessions.
+ * Escape cancels a session, except a pick, which is its picker's, and goes no further. One that ends where it
+ * began is cancelled too, unless the field showed several values, or is a WidgetColorPickerButton, whose new
+ * pick may be for another selection. Hiding or disabling the field commits what it shows, but leaves a pick
+ * to its picker. A field that is deleted ends its session without a signal, and what was previewed stays.
  *
- * **One session** lasts from the first change to the end of what makes it:
- * - a drag and a held button, until it is let go;
- * - a held key that steps, until it is let go;
- * - typing, until Enter, or until the field loses the focus for anything but a pop-up;
- * - turns of the wheel, until the cursor leaves the part, it loses the focus, or gets another input;
- * - a colour pick with all its previews.
- *
- * A change that none of these makes is a session of its own: an item of a combo box, a click on a field's
- * button, a screen reader, and a host that sets the field without Refresh or setValue(). Hiding or disabling
- * the field commits what it shows, but leaves a pick to its picker. A field that is deleted ends its session
- * without a signal, and what was previewed stays.
- *
- * Escape in a drag, a held key, a turn of the wheel or a text cancels: the field shows the old value again,
- * and the key goes no further. A session that ends where it began is cancelled too, with two exceptions: a
- * field that showed several values, and a WidgetColorPickerButton, whose new pick may be for another
- * selection.
- *
- * Nothing waits, and values are reported in the call that changes the field. previewed() comes with each
- * change, once, with what the field then shows, and committed() repeats the last.
- *
- * **Several values.** setMultiValue() is the one way to show that a selection holds several, whatever the
- * field. It keeps the look until the user enters a value, also when he tabs through; that value is reported
- * even if the field still held it. Texts are covered by a dash, a colour field shows several colours, and
- * screen readers say it. The field has the property "multiValue" (bool) for style sheets, the dash is a
- * QLabel "multiValueCover" in the line edit: `[multiValue="true"] QSlider::handle { background: gray; }`.
- *
- * **Refreshing.** A host that loads another selection says so, and none of its calls is taken for the user's:
- *
- *     const EditSession::Refresh refresh(inspector);
- *     size->setValue(card->size());
- *     color->setColor(card->color());
- *
- * A field that stood for several values goes on to, until setValue() of its session or setMultiValue(false).
- * @see EditCommand
+ * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
+ * he tabs through; that value is reported even if the field still held it. Its texts are covered by a dash,
+ * the QLabel "multiValueCover", a colour field shows several colours, and screen readers say it. The field
+ * has the property "multiValue" (bool): `[multiValue="true"] QSlider::handle { background: gray; }`.
  */
 class UICOMPONENTS_EXPORT EditSession : public QObject
 {
     Q_OBJECT
 
 public:
-    /// While it lives, changes of the fields in a widget are the host's. Nests.
+    /// While it lives, changes of the fields in a widget are the host's, and no edit is told. Nests.
+    ///
+    ///     const EditSession::Refresh refresh(inspector);
+    ///     size->setValue(card->size());
+    ///     color->setColor(card->color());
+    ///
+    /// A field that stood for several values goes on to, until setValue() of its session or
+    /// setMultiValue(false).
     class UICOMPONENTS_EXPORT Refresh
     {
     public:
@@ -89,7 +71,13 @@ public:
 
     QWidget* field() const;
 
-    /// What the field shows.
+    /// What the field shows; invalid for a widget that is no value field.
+    /// - `int`: SliderInputWidget, QSpinBox, QAbstractSlider, QComboBox (the current index) and
+    ///   ColorBlendingComboBox (the number of the mode);
+    /// - `double`: DoubleSliderInputWidget, QDoubleSpinBox, OvDoubleSlider;
+    /// - `QPointF`: PointSelectorWidget (as its spin boxes show it), PointSelectionPlane;
+    /// - `QString`: PathSelectionWidget, SearchWidget, QLineEdit, an editable QComboBox;
+    /// - `std::optional<QColor>`: ColorInputWidget, ColorPickerButton; `QColor`: WidgetColorPickerButton.
     QVariant value() const;
 
     /// Sets the field without an edit, for one value. Commits a session first.

@@ -27,7 +27,6 @@ MultiValueFace::MultiValueFace(QWidget* field, QObject* parent)
     : QObject(parent)
     , m_field(field)
 {
-    field->installEventFilter(this);
 }
 
 MultiValueFace::~MultiValueFace() = default;
@@ -38,6 +37,11 @@ void MultiValueFace::setShown(bool shown)
         return;
     }
     m_isShown = shown;
+    if (shown) {
+        m_field->installEventFilter(this);
+    } else {
+        m_field->removeEventFilter(this);
+    }
     Util::applyProperty(m_field, "multiValue", shown);
     const auto parts = m_field->findChildren<QWidget*>() << m_field;
     for (QWidget* part : parts) {
