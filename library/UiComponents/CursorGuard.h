@@ -46,8 +46,7 @@ public:
         }
     }
 
-    CursorGuard(const CursorGuard&) = delete;
-    CursorGuard& operator=(const CursorGuard&) = delete;
+    Q_DISABLE_COPY(CursorGuard)
 
 private:
     /// In the order in which they began.
@@ -58,6 +57,5 @@ private:
     }
 
     const QPointer<QWidget> m_widget;
-    /// Empty where the widget had none of its own.
     std::optional<QCursor> m_former;
 };

@@ -64,11 +64,6 @@ void LoupeWidget::setPlacement(int placement)
     d->placement = placement;
 }
 
-int LoupeWidget::placement() const
-{
-    return d->placement;
-}
-
 LoupeWidget::Placement LoupeWidget::placementAt(const QPoint& cursor, const QRect& screen, const QSize& loupe)
 {
     const QRect inner = screen.adjusted(loupe.width(), loupe.height(), -loupe.width(), -loupe.height());

@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <QSize>
 #include <QWidget>
 
 #include <memory>
@@ -36,7 +35,6 @@ public:
     /// So many pixels of the desktop are magnified in each direction.
     static constexpr int pixels = 13;
 
-    /// @p parent owns the loupe as usual.
     explicit LoupeWidget(QWidget* parent = nullptr);
     ~LoupeWidget() override;
 
@@ -45,7 +43,6 @@ public:
 
     /// A Placement; above right at first. Moves nothing.
     void setPlacement(int placement);
-    int placement() const;
 
     /// The placement for a cursor, in points of the desktop: below it within one loupe's height of the
     /// screen's top, left of it within one loupe's width of the right edge. The other two edges decide

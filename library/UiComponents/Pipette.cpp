@@ -12,11 +12,9 @@
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QGuiApplication>
-#include <QList>
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
-#include <QVector>
 #include <QWindow>
 #ifdef QT_X11EXTRAS_LIB
 #include <QX11Info>
@@ -55,10 +53,8 @@ bool isFocusOfAnotherProgram()
         const auto nameCookie = xcb_intern_atom(connection, 0, sizeof name - 1, name);
         const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
             xcb_intern_atom_reply(connection, nameCookie, nullptr), &std::free);
-        if (!atom) {
-            return true;
-        }
-        const auto cookie = xcb_get_property(connection, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1);
+        const auto type = atom ? atom->atom : xcb_atom_t(XCB_ATOM_NONE);
+        const auto cookie = xcb_get_property(connection, 0, root, type, XCB_ATOM_WINDOW, 0, 1);
         const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> property(
             xcb_get_property_reply(connection, cookie, nullptr), &std::free);
         if (property && xcb_get_property_value_length(property.get()) == sizeof(xcb_window_t)) {

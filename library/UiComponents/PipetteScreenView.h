@@ -4,11 +4,8 @@
 
 #include <QGraphicsView>
 #include <QPixmap>
-#include <QSize>
 
 #include <memory>
-
-class QGraphicsItem;
 
 /**
  * Covers exactly one screen with a window that is all but transparent, and turns what the user does there

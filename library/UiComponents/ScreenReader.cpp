@@ -1,6 +1,6 @@
 #include "ScreenReader.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -9,7 +9,6 @@
 #include <QX11Info>
 
 #include <cstdlib>
-#include <memory>
 #include <xcb/xcb.h>
 #endif
 
@@ -102,8 +101,6 @@ QImage grabRoot(const QRect& pixels)
 class PlatformScreens : public ScreenSource
 {
 public:
-    PlatformScreens() { m_clock.start(); }
-
     Grabs grabs() const override
     {
         if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
@@ -141,11 +138,8 @@ public:
 
     qint64 now() const override
     {
-        return m_clock.elapsed();
+        return QDeadlineTimer::current().deadline();
     }
-
-private:
-    QElapsedTimer m_clock;
 };
 
 } // namespace

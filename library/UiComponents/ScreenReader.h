@@ -5,9 +5,6 @@
 #include <QColor>
 #include <QImage>
 #include <QPixmap>
-#include <QPoint>
-#include <QPointF>
-#include <QRect>
 #include <QRegion>
 
 #include <limits>

@@ -70,25 +70,15 @@ public:
     /// A pick(), on its frame.
     struct Run
     {
-        struct Sample
-        {
-            QPointF position;
-            QColor color;
-        };
-
         QEventLoop loop;
         /// Where the target had its outline put, and the screen as it was before.
         QRect place;
         std::optional<ScreenReader> reader;
-        /// Where the cursor was when stop() ended it, and the color there; empty until then.
-        std::optional<Sample> end;
+        /// Where the cursor was when stop() ended it; empty until then.
+        std::optional<QPointF> end;
+        /// The color there; invalid beside the target.
+        QColor color;
     };
-
-    Private(WidgetColorPicker* picker, const QSet<QWidget*>& set)
-        : owner(picker)
-        , widgets(set.begin(), set.end())
-    {
-    }
 
     bool isInProgress() const { return run && run->loop.isRunning(); }
     void takeCursor();
@@ -103,7 +93,7 @@ public:
     QColor colorAt(const QPointF& position, Run& of) const;
 
     /// Null when the picker has died.
-    WidgetColorPicker* owner;
+    WidgetColorPicker* owner = nullptr;
     QVector<QPointer<QWidget>> widgets;
     /// The one that began last.
     Run* run = nullptr;
@@ -175,8 +165,8 @@ void WidgetColorPicker::Private::pick()
         return;
     }
     // The target may have come to the cursor since.
-    const bool isKnown = thisRun.end->position == position && thisRun.end->color.isValid();
-    const QColor picked = isKnown ? thisRun.end->color : colorAt(position, thisRun);
+    const bool isKnown = thisRun.end == position && thisRun.color.isValid();
+    const QColor picked = isKnown ? thisRun.color : colorAt(position, thisRun);
     const QPointer<WidgetColorPicker> picker = owner;
     if (picker) {
         color = picked;
@@ -197,8 +187,8 @@ void WidgetColorPicker::Private::stop()
     removeOutline(ending);
     cursorGuard.reset();
     // Now: what ends the pick may close or change the target before the loop returns.
-    const QPointF position = cursorPosition();
-    ending.end = {position, target && isOverTarget(position) ? colorAt(position, ending) : QColor()};
+    ending.end = cursorPosition();
+    ending.color = target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
 }
 
 void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseEvent& event)
@@ -259,8 +249,10 @@ WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
     // Not std::make_shared(): it has an object that is one in the whole program, and a library with such an
     // object is never unloaded.
     // NOLINTNEXTLINE(modernize-make-shared)
-    : d(std::shared_ptr<Private>(new Private(this, widgets)))
+    : d(std::shared_ptr<Private>(new Private))
 {
+    d->owner = this;
+    d->widgets = {widgets.begin(), widgets.end()};
     connect(qGuiApp, &QGuiApplication::lastWindowClosed, this, &WidgetColorPicker::stop);
 }
 

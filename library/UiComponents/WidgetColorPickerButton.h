@@ -26,9 +26,6 @@ class WidgetColorPickerStylingObject;
  * button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into the
  * button's own style sheet, in the place of what was there. Border, size and padding are those that the
  * application's sheet gives to WidgetColorPickerButton or QToolButton. Off, it is a QToolButton as any other.
- *
- * A button whose popupMode() is MenuButtonPopup may not be deleted while it picks or in a slot of one of its
- * signals: QToolButton goes on using it after a click.
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton
 {

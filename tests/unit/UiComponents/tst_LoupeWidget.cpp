@@ -123,7 +123,7 @@ void tst_LoupeWidget::construction()
     QCOMPARE(loupe.property("roundedEdges"), QVariant(true));
     QVERIFY(loupe.testAttribute(Qt::WA_TranslucentBackground));
     QVERIFY(!loupe.emptyPixelsColor().isValid());
-    QCOMPARE(loupe.placement(), 3);
+    QCOMPARE(loupe.offset(), QSize(0, -loupe.height()));
 
     const auto labels = loupe.findChildren<QLabel*>();
     QCOMPARE(labels.size(), 1);
