@@ -43,6 +43,11 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return std::malloc(std::max<std::size_t>(size, 1));
+}
+
 void operator delete(void* block) noexcept
 {
     release(block);
