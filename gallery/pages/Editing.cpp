@@ -97,7 +97,10 @@ void PageRegistry::titleCard(Page* page)
     editor->undoStack()->clear();
     page->addDemonstration(QString(), editor);
     QObject::connect(page, &Page::pictureRequested, editor, [editor] {
-        // The free space differs from disk to disk.
-        editor->findChild<PathSelectionWidget*>()->showAvailableSpace(false, -1);
+        // The free space differs from disk to disk, and the field names its folder after a while.
+        auto* folder = editor->findChild<PathSelectionWidget*>();
+        folder->disconnect(editor);
+        folder->showRequiredSpace(false, -1);
+        folder->showAvailableSpace(false, -1);
     });
 }
