@@ -88,6 +88,10 @@ void PageRegistry::titleCard(Page* page)
     page->setMaxSpecimenShare(0.9);
     auto* editor = new TitleCard::Editor(QString());
     editor->setWindowFlags(Qt::Widget);
+    // The space differs from disk to disk, and the field names its folder after a while: no two pictures of
+    // the page would be alike.
+    QObject::disconnect(editor->findChild<PathSelectionWidget*>(), &PathSelectionWidget::pathChanged, editor,
+                        nullptr);
     editor->addCard(tr("First light"));
     const int first = editor->canvas()->selection().first();
     editor->document()->setValue(first, TitleCard::Position, QPointF(-0.25, -0.25));
@@ -96,11 +100,4 @@ void PageRegistry::titleCard(Page* page)
                                  QPointF(0.2, 0.3));
     editor->undoStack()->clear();
     page->addDemonstration(QString(), editor);
-    QObject::connect(page, &Page::pictureRequested, editor, [editor] {
-        // The free space differs from disk to disk, and the field names its folder after a while.
-        auto* folder = editor->findChild<PathSelectionWidget*>();
-        folder->disconnect(editor);
-        folder->showRequiredSpace(false, -1);
-        folder->showAvailableSpace(false, -1);
-    });
 }
