@@ -8,7 +8,7 @@ uic_packages()
     for purpose in "$@"; do
         case $purpose in
             build)
-                echo g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
+                echo g++ cmake ninja-build qtbase5-dev qtbase5-private-dev qttools5-dev qttools5-dev-tools
                 echo qtdeclarative5-dev libqt5x11extras5-dev libxcb1-dev libgoogle-glog-dev ;;
             run | unit | gallery)
                 echo fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
@@ -17,7 +17,8 @@ uic_packages()
             desktop)
                 echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils \
                     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils \
-                    libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
+                    libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 \
+                    dbus at-spi2-core python3-gi gir1.2-atspi-2.0 ;;
             package)
                 echo fonts-dejavu-core pkg-config ;;
             benchmarks)

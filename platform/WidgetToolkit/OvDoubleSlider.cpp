@@ -2,10 +2,65 @@
 
 #include "StepMapping.h"
 
+#include <QAccessibleWidget>
+#include <QLocale>
 #include <QPointer>
 
 #include <cmath>
 #include <optional>
+
+namespace {
+
+/// In units, where Qt's own interface of sliders counts steps.
+class AccessibleDoubleSlider : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleDoubleSlider(OvDoubleSlider* slider)
+        : QAccessibleWidget(slider, QAccessible::Slider)
+    {
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? QLocale().toString(slider()->doubleValue())
+                                          : QAccessibleWidget::text(kind);
+    }
+
+    QVariant currentValue() const override { return slider()->doubleValue(); }
+    void setCurrentValue(const QVariant& value) override { slider()->setDoubleValue(value.toDouble()); }
+    QVariant minimumValue() const override { return slider()->minimum() * slider()->multiplier(); }
+    QVariant maximumValue() const override { return slider()->maximum() * slider()->multiplier(); }
+    QVariant minimumStepSize() const override { return slider()->singleStep() * slider()->multiplier(); }
+
+private:
+    OvDoubleSlider* slider() const { return qobject_cast<OvDoubleSlider*>(object()); }
+};
+
+QAccessibleInterface* makeAccessible(const QString& className, QObject* object)
+{
+    auto* const slider = qobject_cast<OvDoubleSlider*>(object);
+    return slider && className == QLatin1String("OvDoubleSlider") ? new AccessibleDoubleSlider(slider)
+                                                                  : nullptr;
+}
+
+/// From when the library is loaded until it is unloaded.
+struct AccessibleFactory
+{
+    AccessibleFactory() { QAccessible::installFactory(makeAccessible); }
+    ~AccessibleFactory() { QAccessible::removeFactory(makeAccessible); }
+    AccessibleFactory(const AccessibleFactory&) = delete;
+    AccessibleFactory& operator=(const AccessibleFactory&) = delete;
+};
+
+const AccessibleFactory factory;
+
+} // namespace
 
 class OvDoubleSlider::Private
 {

@@ -91,13 +91,15 @@ void OvDoubleSpinBox::fixup(QString& input) const
 void OvDoubleSpinBox::stepBy(int steps)
 {
     const double before = value();
-    QSignalBlocker quiet(this);
-    QDoubleSpinBox::stepBy(steps);
-    const double after = value();
-    setValue(before);
-    quiet.unblock();
+    {
+        const QSignalBlocker quiet(this);
+        QDoubleSpinBox::stepBy(steps);
+        setValue(value()); // rounds to the decimals; the text is right already
+    }
     const QPointer<OvDoubleSpinBox> self = this;
-    setValue(after); // rounds to the decimals
+    if (value() != before) {
+        SpinBoxInput::announceValue<QDoubleSpinBox>(this);
+    }
     if (self) {
         selectAll(); // as the base class does
     }

@@ -6,11 +6,14 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-namespace {
+bool SpinBoxInput::isCommit(const QKeyEvent* event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
 
 // Emits in the order of QSpinBox, which would use the box after each signal.
 template <typename SpinBox>
-void announceValue(SpinBox* box)
+void SpinBoxInput::announceValue(SpinBox* box)
 {
     const QPointer<SpinBox> self = box;
 #if QT_DEPRECATED_SINCE(5, 14)
@@ -25,13 +28,6 @@ void announceValue(SpinBox* box)
     if (self) {
         Q_EMIT box->valueChanged(box->value());
     }
-}
-
-} // namespace
-
-bool SpinBoxInput::isCommit(const QKeyEvent* event)
-{
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
 template <typename SpinBox>
@@ -63,5 +59,6 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
     }
 }
 
+template void SpinBoxInput::announceValue(QDoubleSpinBox*);
 template void SpinBoxInput::commit(QSpinBox*, QLineEdit*, QKeyEvent*);
 template void SpinBoxInput::commit(QDoubleSpinBox*, QLineEdit*, QKeyEvent*);

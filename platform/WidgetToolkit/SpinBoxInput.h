@@ -10,6 +10,10 @@ namespace SpinBoxInput {
 /// True for Enter and Return.
 bool isCommit(const QKeyEvent* event);
 
+/// Emits what QAbstractSpinBox emits for a new value. Slots may delete @p box.
+template <typename SpinBox>
+void announceValue(SpinBox* box);
+
 /// Does what QAbstractSpinBox does on Enter, but emits valueChanged() only if the text changed the value, and
 /// slots may delete @p box, a QSpinBox or QDoubleSpinBox. @p edit is its line edit.
 template <typename SpinBox>

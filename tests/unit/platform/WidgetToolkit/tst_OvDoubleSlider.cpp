@@ -1,3 +1,4 @@
+#include "AccessibleEars.h"
 #include "TestMain.h"
 
 #include <WidgetToolkit/OvDoubleSlider.h>
@@ -17,6 +18,7 @@ class tst_OvDoubleSlider : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void speaksUnits();
     void metaObject();
     void defaults();
     void keepsTheExactValue_data();
@@ -524,6 +526,27 @@ void tst_OvDoubleSlider::extremes()
     QCOMPARE(slider.value(), std::numeric_limits<int>::min());
     slider.setDoubleValue(0.0);
     QCOMPARE(slider.value(), 0);
+}
+
+void tst_OvDoubleSlider::speaksUnits()
+{
+    OvDoubleSlider slider;
+    slider.setRange(0, 100);
+    slider.setMultiplier(0.01);
+    slider.setDoubleValue(0.4);
+    QAccessibleInterface& interface = reader(&slider);
+    QCOMPARE(interface.role(), QAccessible::Slider);
+    QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("0.4"));
+    QAccessibleValueInterface* const value = interface.valueInterface();
+    QVERIFY(value);
+    QCOMPARE(value->currentValue().toDouble(), 0.4);
+    QCOMPARE(value->minimumValue().toDouble(), 0.0);
+    QCOMPARE(value->maximumValue().toDouble(), 1.0);
+    QCOMPARE(value->minimumStepSize().toDouble(), 0.01);
+    QSignalSpy changes(&slider, &OvDoubleSlider::doubleValueChanged);
+    value->setCurrentValue(0.7);
+    QCOMPARE(slider.doubleValue(), 0.7);
+    QCOMPARE(changes.size(), 1);
 }
 
 UIC_TEST_MAIN(tst_OvDoubleSlider)

@@ -1,3 +1,4 @@
+#include "AccessibleEars.h"
 #include "DecimalNumber.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -7,11 +8,19 @@
 #include <QClipboard>
 #include <QLineEdit>
 
+namespace {
+
+QStringList texts;
+
+} // namespace
+
 class tst_OvDoubleSpinBox : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void stepsAreAnnouncedOnce_data();
+    void stepsAreAnnouncedOnce();
     void metaObject();
     void wheelNeedsFocus();
     void enterCommitsAndSelects();
@@ -489,6 +498,39 @@ void tst_OvDoubleSpinBox::deletedByAListenerOfAStep()
             [target = box.data()] { delete target; });
     box->stepBy(1);
     QVERIFY(box.isNull());
+}
+
+void tst_OvDoubleSpinBox::stepsAreAnnouncedOnce_data()
+{
+    QTest::addColumn<double>("before");
+    QTest::addColumn<QStringList>("heard");
+    QTest::newRow("exact") << 0.25 << QStringList{QStringLiteral("Gain: 0.26")};
+    // Added up in binary, this is 0.060000000000000005.
+    QTest::newRow("rounded") << 0.05 << QStringList{QStringLiteral("Gain: 0.06")};
+    QTest::newRow("at the end") << 1.0 << QStringList();
+}
+
+void tst_OvDoubleSpinBox::stepsAreAnnouncedOnce()
+{
+    QFETCH(double, before);
+    OvDoubleSpinBox box;
+    box.setRange(0.0, 1.0);
+    box.setSingleStep(0.01);
+    box.setAccessibleName(QStringLiteral("Gain"));
+    box.setValue(before);
+    const AccessibleEars ears;
+    QTest::keyClick(&box, Qt::Key_Up);
+    QTEST(AccessibleEars::take().filter(QStringLiteral("Gain: ")), "heard");
+    box.setValue(before);
+    // The text is part of what is read, and would be read each time that it is written.
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::TextUpdated) {
+            texts += event->accessibleInterface()->text(QAccessible::Value);
+        }
+    });
+    texts.clear();
+    QTest::keyClick(&box, Qt::Key_Up);
+    QVERIFY2(texts.size() <= 1, qPrintable(texts.join(QLatin1Char(' '))));
 }
 
 UIC_TEST_MAIN(tst_OvDoubleSpinBox)
