@@ -2,6 +2,140 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>AccessibleNames</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ColorNames</name>
+    <message>
+        <source>pink</source>
+        <translation>Pink</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <translation>Braun</translation>
+    </message>
+    <message>
+        <source>golden yellow</source>
+        <translation>Goldgelb</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>olive</source>
+        <translation>Oliv</translation>
+    </message>
+    <message>
+        <source>yellow green</source>
+        <translation>Gelbgrün</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <translation>Türkis</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>azure</source>
+        <translation>Azurblau</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>very dark grey</source>
+        <translation>sehr dunkles Grau</translation>
+    </message>
+    <message>
+        <source>dark grey</source>
+        <translation>dunkles Grau</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>light grey</source>
+        <translation>helles Grau</translation>
+    </message>
+    <message>
+        <source>very light grey</source>
+        <translation>sehr helles Grau</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>very dark %1</source>
+        <translation>sehr dunkles %1</translation>
+    </message>
+    <message>
+        <source>very light %1</source>
+        <translation>sehr helles %1</translation>
+    </message>
+    <message>
+        <source>greyish %1</source>
+        <translation>gräuliches %1</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>dunkles %1</translation>
+    </message>
+    <message>
+        <source>light %1</source>
+        <translation>helles %1</translation>
+    </message>
+    <message>
+        <source>several colours</source>
+        <translation>mehrere Farben</translation>
+    </message>
+    <message>
+        <source>no colour</source>
+        <translation>keine Farbe</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 %</source>
+        <translation>%1, %2 %</translation>
+    </message>
+</context>
+<context>
     <name>ColorPickerWidget</name>
     <message>
         <source>Other:</source>
@@ -10,10 +144,6 @@
     <message>
         <source>Opacity:</source>
         <translation>Deckkraft:</translation>
-    </message>
-    <message>
-        <source>No colour</source>
-        <translation>Keine Farbe</translation>
     </message>
     <message>
         <source>Colour value</source>
@@ -27,6 +157,34 @@
         <source>Choose another colour</source>
         <translation>Andere Farbe wählen</translation>
     </message>
+    <message>
+        <source>Current colour</source>
+        <translation>Aktuelle Farbe</translation>
+    </message>
+    <message>
+        <source>Needs a mouse; without one, type the colour value</source>
+        <translation>Braucht eine Maus; ohne Maus den Farbwert eingeben</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Own colours</source>
+        <translation>Eigene Farben</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Opacity in percent</source>
+        <translation>Deckkraft in Prozent</translation>
+    </message>
+    <message>
+        <source>Empty place</source>
+        <translation>Leerer Platz</translation>
+    </message>
 </context>
 <context>
     <name>CustomColorSelectWidget</name>
@@ -34,12 +192,28 @@
         <source>Hue</source>
         <translation>Farbton</translation>
     </message>
+    <message>
+        <source>Saturation and brightness</source>
+        <translation>Sättigung und Helligkeit</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
 </context>
 <context>
     <name>DialogGuideWidget</name>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Animated picture</source>
+        <translation>Animiertes Bild</translation>
     </message>
 </context>
 <context>
@@ -101,6 +275,21 @@
     </message>
 </context>
 <context>
+    <name>GuideWidget</name>
+    <message>
+        <source>Animated picture</source>
+        <translation>Animiertes Bild</translation>
+    </message>
+    <message>
+        <source>Playing; Space pauses it</source>
+        <translation>Wird abgespielt; Leertaste hält an</translation>
+    </message>
+    <message>
+        <source>Paused; Space plays it</source>
+        <translation>Angehalten; Leertaste spielt ab</translation>
+    </message>
+</context>
+<context>
     <name>MultiValueFace</name>
     <message>
         <source>Several values</source>
@@ -156,6 +345,14 @@
         <source>Available: %1</source>
         <translation>Verfügbar: %1</translation>
     </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Back to the default folder</source>
+        <translation>Zurück zum Standardordner</translation>
+    </message>
 </context>
 <context>
     <name>PointSelectorWidget</name>
@@ -166,6 +363,35 @@
     <message>
         <source>Position on the y-axis</source>
         <translation>Position auf der y-Achse</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+</context>
+<context>
+    <name>SearchWidget</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
+    <name>SliderInputWidget</name>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetColorPickerButton</name>
+    <message>
+        <source>Needs a mouse</source>
+        <translation>Braucht eine Maus</translation>
     </message>
 </context>
 <context>

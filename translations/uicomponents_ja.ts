@@ -2,6 +2,140 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>AccessibleNames</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+</context>
+<context>
+    <name>ColorNames</name>
+    <message>
+        <source>pink</source>
+        <translation>ピンク</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>オレンジ</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <translation>茶色</translation>
+    </message>
+    <message>
+        <source>golden yellow</source>
+        <translation>山吹色</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>olive</source>
+        <translation>オリーブ色</translation>
+    </message>
+    <message>
+        <source>yellow green</source>
+        <translation>黄緑</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <translation>ターコイズ</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>シアン</translation>
+    </message>
+    <message>
+        <source>azure</source>
+        <translation>空色</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <translation>紫</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <translation>黒</translation>
+    </message>
+    <message>
+        <source>very dark grey</source>
+        <translation>とても暗い灰色</translation>
+    </message>
+    <message>
+        <source>dark grey</source>
+        <translation>暗い灰色</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>灰色</translation>
+    </message>
+    <message>
+        <source>light grey</source>
+        <translation>明るい灰色</translation>
+    </message>
+    <message>
+        <source>very light grey</source>
+        <translation>とても明るい灰色</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>very dark %1</source>
+        <translation>とても暗い%1</translation>
+    </message>
+    <message>
+        <source>very light %1</source>
+        <translation>とても明るい%1</translation>
+    </message>
+    <message>
+        <source>greyish %1</source>
+        <translation>くすんだ%1</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>暗い%1</translation>
+    </message>
+    <message>
+        <source>light %1</source>
+        <translation>明るい%1</translation>
+    </message>
+    <message>
+        <source>several colours</source>
+        <translation>複数の色</translation>
+    </message>
+    <message>
+        <source>no colour</source>
+        <translation>色なし</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, %2 %</source>
+        <translation>%1、%2%</translation>
+    </message>
+</context>
+<context>
     <name>ColorPickerWidget</name>
     <message>
         <source>Other:</source>
@@ -10,10 +144,6 @@
     <message>
         <source>Opacity:</source>
         <translation>不透明度:</translation>
-    </message>
-    <message>
-        <source>No colour</source>
-        <translation>色なし</translation>
     </message>
     <message>
         <source>Colour value</source>
@@ -27,6 +157,34 @@
         <source>Choose another colour</source>
         <translation>ほかの色を選択</translation>
     </message>
+    <message>
+        <source>Current colour</source>
+        <translation>現在の色</translation>
+    </message>
+    <message>
+        <source>Needs a mouse; without one, type the colour value</source>
+        <translation>マウスが必要です。ない場合は色の値を入力してください</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>Own colours</source>
+        <translation>マイカラー</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Opacity in percent</source>
+        <translation>不透明度（パーセント）</translation>
+    </message>
+    <message>
+        <source>Empty place</source>
+        <translation>空き</translation>
+    </message>
 </context>
 <context>
     <name>CustomColorSelectWidget</name>
@@ -34,12 +192,28 @@
         <source>Hue</source>
         <translation>色相</translation>
     </message>
+    <message>
+        <source>Saturation and brightness</source>
+        <translation>彩度と明度</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明度</translation>
+    </message>
 </context>
 <context>
     <name>DialogGuideWidget</name>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Animated picture</source>
+        <translation>アニメーション画像</translation>
     </message>
 </context>
 <context>
@@ -101,6 +275,21 @@
     </message>
 </context>
 <context>
+    <name>GuideWidget</name>
+    <message>
+        <source>Animated picture</source>
+        <translation>アニメーション画像</translation>
+    </message>
+    <message>
+        <source>Playing; Space pauses it</source>
+        <translation>再生中。スペースキーで一時停止</translation>
+    </message>
+    <message>
+        <source>Paused; Space plays it</source>
+        <translation>一時停止中。スペースキーで再生</translation>
+    </message>
+</context>
+<context>
     <name>MultiValueFace</name>
     <message>
         <source>Several values</source>
@@ -156,6 +345,14 @@
         <source>Available: %1</source>
         <translation>空き: %1</translation>
     </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Back to the default folder</source>
+        <translation>既定のフォルダーに戻す</translation>
+    </message>
 </context>
 <context>
     <name>PointSelectorWidget</name>
@@ -166,6 +363,35 @@
     <message>
         <source>Position on the y-axis</source>
         <translation>Y 軸上の位置</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+</context>
+<context>
+    <name>SearchWidget</name>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+</context>
+<context>
+    <name>SliderInputWidget</name>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetColorPickerButton</name>
+    <message>
+        <source>Needs a mouse</source>
+        <translation>マウスが必要です</translation>
     </message>
 </context>
 <context>

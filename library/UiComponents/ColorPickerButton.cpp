@@ -1,6 +1,8 @@
 #include "ColorPickerButton.h"
 
 #include "AbstractColorPicker.h"
+#include "AccessibleEvents.h"
+#include "AccessibleFactory.h"
 
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
@@ -141,6 +143,7 @@ ColorPickerButton::ColorPickerButton(QWidget* parent)
     : ClickButton(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     connect(this, &QAbstractButton::clicked, this, &ColorPickerButton::startPicking);
     d->updateStyle();
 }
@@ -178,6 +181,7 @@ void ColorPickerButton::setColor(const std::optional<QColor>& color)
     }
     d->color = color;
     d->updateStyle();
+    AccessibleEvents::valueChanged(this);
     if (d->color) {
         Q_EMIT colorChanged(*d->color);
     }

@@ -1,10 +1,14 @@
 #include "ColorPickerWidget.h"
 
+#include "AccessibleEvents.h"
+#include "AccessibleFactory.h"
+#include "ColorButton.h"
 #include "ColorFaces.h"
 #include "ColorPalette.h"
 #include "ColorPlaneWidget.h"
 #include "CustomColorSelectWidget.h"
 #include "CustomColors.h"
+#include "LabelFocus.h"
 #include "SelectorPlacement.h"
 #include "SheetlessBuild.h"
 
@@ -19,10 +23,9 @@
 #include <WidgetToolkit/StyleHints.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QAccessible>
 #include <QButtonGroup>
 #include <QDialog>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QHash>
 #include <QKeyEvent>
@@ -35,6 +38,8 @@
 #include <QVector>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -50,8 +55,17 @@ QColor opaque(const QColor& color)
     return color.isValid() ? QColor::fromRgb(color.rgb()) : QColor();
 }
 
+/// The colour model can differ all the same.
+bool looksTheSame(const std::optional<QColor>& first, const std::optional<QColor>& second)
+{
+    if (!first || !second) {
+        return first.has_value() == second.has_value();
+    }
+    return first->isValid() == second->isValid() && first->rgba() == second->rgba();
+}
+
 /// Buttons by keyOf() their colour.
-using ColorIndex = QHash<QRgb, QToolButton*>;
+using ColorIndex = QHash<QRgb, ColorButton*>;
 
 /// The opaque colour; 0, which is translucent, for an invalid one.
 QRgb keyOf(const QColor& color)
@@ -92,7 +106,7 @@ protected:
 
 } // namespace
 
-class ColorPickerWidget::Private : public QAccessible::ActivationObserver
+class ColorPickerWidget::Private
 {
 public:
     /// The parts of a panel that a slot has deleted. Qt's line edits, buttons and spin boxes use themselves
@@ -124,16 +138,62 @@ public:
         QVector<QPointer<QWidget>> m_parts;
     };
 
+    /// The edit of the value, which shows words where there is no colour.
+    // Without Q_OBJECT, since style sheets know it as a TesselLineEdit.
+    class ValueEdit : public Orvane::Tessel::TesselLineEdit // clazy:exclude=missing-qobject-macro
+    {
+    public:
+        using TesselLineEdit::TesselLineEdit;
+
+        /// Shows the current value in the edit.
+        std::function<void()> showValue;
+
+    protected:
+        void focusInEvent(QFocusEvent* event) override
+        {
+            TesselLineEdit::focusInEvent(event);
+            // The first press would take the selection off again.
+            m_isEntered = event->reason() == Qt::MouseFocusReason;
+            selectWords();
+        }
+
+        void focusOutEvent(QFocusEvent* event) override
+        {
+            const QPointer<ValueEdit> self(this);
+            TesselLineEdit::focusOutEvent(event);
+            const bool isBack =
+                event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+            if (self && !isBack && !hasAcceptableInput()) {
+                showValue();
+            }
+        }
+
+        void mousePressEvent(QMouseEvent* event) override
+        {
+            TesselLineEdit::mousePressEvent(event);
+            if (std::exchange(m_isEntered, false)) {
+                selectWords();
+            }
+        }
+
+    private:
+        void selectWords()
+        {
+            if (!hasAcceptableInput()) {
+                selectAll();
+            }
+        }
+
+        bool m_isEntered = false;
+    };
+
     Private(ColorPickerWidget* panel, bool nullColorAllowed, const QStringList& ownColors);
-    ~Private() override;
-    Private(const Private&) = delete;
-    Private& operator=(const Private&) = delete;
     static std::unique_ptr<Private> make(ColorPickerWidget* panel, bool nullColorAllowed);
 
     void nameObjects() const;
     void layOut();
     void buildPalette(bool nullColorAllowed);
-    QToolButton* makeColorButton(QWidget* parent);
+    ColorButton* makeColorButton(QWidget* parent);
     void addPaletteButton(int row, int column, const QColor& color);
     void buildQueue();
     void configureInputs() const;
@@ -143,16 +203,13 @@ public:
 
     void fillQueue(const QStringList& names);
     void reinitializeCustomColors();
-    QToolButton* queueButton(int index) const;
-    void setButtonColor(QToolButton* button, const QColor& color);
-    void nameButton(QWidget* button) const;
-    void nameControls() const;
-    void accessibilityActiveChanged(bool active) override;
-    QToolButton* buttonFor(const QColor& color) const;
+    ColorButton* queueButton(int index) const;
+    ColorButton* buttonFor(const QColor& color) const;
 
     void setColor(const std::optional<QColor>& color);
     void setSliderToAlpha() const;
-    void takeSliderAlpha();
+    QColor withSliderAlpha(QColor color) const;
+    void hold(const std::optional<QColor>& color);
     void clearCheckedColorButton() const;
     void updateColorButtonsCheckState();
     void updateColorValueWidgets() const;
@@ -181,7 +238,7 @@ public:
     OvFrame* const otherColorsPanel;
     OvFrame* const opacityPanel;
     QLabel* const currentColorDisplayLabel;
-    Orvane::Tessel::TesselLineEdit* const currentColorValueEdit;
+    ValueEdit* const currentColorValueEdit;
     QToolButton* const pipetteButton;
     QLabel* const otherColorsTitleLabel;
     QToolButton* const addCustomColorButton;
@@ -196,9 +253,8 @@ public:
     std::unique_ptr<QObject> listener = std::make_unique<QObject>();
 
     int colorDialogOffset = 0;
-    // The colour of each button, and the button of each colour. The settings may repeat a colour, or hold one
-    // of the palette: own colours come before the palette, later ones before earlier ones.
-    QHash<QWidget*, QColor> buttonColors;
+    // The button of each colour. The settings may repeat a colour, or hold one of the palette: own colours
+    // come before the palette, later ones before earlier ones.
     ColorIndex paletteButtons;
     ColorIndex queueButtons;
     QPointer<QDialog> dialog;
@@ -209,7 +265,6 @@ public:
     bool opacityAdjustmentAvailable = true;
 
     int nextButtonId = -2;
-    bool namesAreRead = QAccessible::isActive();
     // True while the panel changes buttons and slider itself, whose handlers then do nothing.
     bool isFollowing = false;
     const std::shared_ptr<Remains> remains = std::make_shared<Remains>();
@@ -223,7 +278,7 @@ ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllo
     , otherColorsPanel(new OvFrame(panel))
     , opacityPanel(new OvFrame(panel))
     , currentColorDisplayLabel(new QLabel(topPanel))
-    , currentColorValueEdit(new Orvane::Tessel::TesselLineEdit(topPanel))
+    , currentColorValueEdit(new ValueEdit(topPanel))
     , pipetteButton(new QToolButton(topPanel))
     , otherColorsTitleLabel(new QLabel(otherColorsPanel))
     , addCustomColorButton(new QToolButton(otherColorsPanel))
@@ -245,17 +300,12 @@ ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllo
     setTexts();
     updateColorValueWidgets();
     connectInputs();
-    QAccessible::installActivationObserver(this);
-}
-
-ColorPickerWidget::Private::~Private()
-{
-    QAccessible::removeActivationObserver(this);
 }
 
 std::unique_ptr<ColorPickerWidget::Private> ColorPickerWidget::Private::make(ColorPickerWidget* panel,
                                                                              bool nullColorAllowed)
 {
+    AccessibleFactory::install();
     const QStringList ownColors = Settings::userCustomColors();
     std::unique_ptr<Private> result;
     SheetlessBuild::run([&] { result = std::make_unique<Private>(panel, nullColorAllowed, ownColors); });
@@ -305,9 +355,9 @@ void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
     }
 }
 
-QToolButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
+ColorButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
+    auto* button = new ColorButton(parent);
     button->setCheckable(true);
     // The id that the group would assign, after a search through all others.
     buttons->addButton(button, nextButtonId--);
@@ -316,12 +366,12 @@ QToolButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
 
 void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QColor& color)
 {
-    QToolButton* const button = makeColorButton(colorMatrixPanel);
+    ColorButton* const button = makeColorButton(colorMatrixPanel);
     if (!color.isValid()) {
         button->setProperty("nullColor", true);
     }
     paletteLayout->addWidget(button, row, column);
-    setButtonColor(button, color);
+    button->setColor(color);
     paletteButtons.insert(keyOf(color), button);
 }
 
@@ -355,6 +405,7 @@ void ColorPickerWidget::Private::configureInputs() const
     ColorHint::applyColorHint(currentColorValueEdit, INPUT_LIGHT);
     ColorHint::applyColorHint(opacitySlider, SLIDER_LIGHT);
 
+    q->setFocusPolicy(LabelFocus::policy);
     otherColorsTitleLabel->setBuddy(addCustomColorButton);
     opacityTitleLabel->setBuddy(opacitySlider);
 }
@@ -372,13 +423,11 @@ void ColorPickerWidget::Private::setTexts() const
 {
     otherColorsTitleLabel->setText(tr("Other:"));
     opacityTitleLabel->setText(tr("Opacity:"));
-    if (namesAreRead) {
-        nameControls();
-    }
 }
 
 void ColorPickerWidget::Private::connectInputs()
 {
+    currentColorValueEdit->showValue = [this] { updateColorValueWidgets(); };
     connect(currentColorValueEdit, &QLineEdit::textEdited, listener.get(),
             [this](const QString& text) { onTextEdited(text); });
     connect(pipetteButton, &QAbstractButton::clicked, listener.get(),
@@ -398,9 +447,9 @@ void ColorPickerWidget::Private::fillQueue(const QStringList& names)
     for (int i = 0; i < qMin(names.size(), queueLength); ++i) {
         if (QColor::isValidColor(names.at(i))) {
             const QColor color = opaque(QColor(names.at(i)));
-            QToolButton* const button = queueButton(i);
+            ColorButton* const button = queueButton(i);
             button->setEnabled(true);
-            setButtonColor(button, color);
+            button->setColor(color);
             queueButtons.insert(keyOf(color), button);
         }
     }
@@ -414,58 +463,19 @@ void ColorPickerWidget::Private::reinitializeCustomColors()
 }
 
 /// In the order on the screen, not of creation.
-QToolButton* ColorPickerWidget::Private::queueButton(int index) const
+ColorButton* ColorPickerWidget::Private::queueButton(int index) const
 {
-    return qobject_cast<QToolButton*>(queueLayout->itemAt(index)->widget());
+    return static_cast<ColorButton*>(queueLayout->itemAt(index)->widget());
 }
 
-void ColorPickerWidget::Private::setButtonColor(QToolButton* button, const QColor& color)
-{
-    const auto shown = buttonColors.constFind(button);
-    if (shown != buttonColors.constEnd() && *shown == color) {
-        return;
-    }
-    buttonColors.insert(button, color);
-    ColorFaces::paint(button, color);
-    if (namesAreRead) {
-        nameButton(button);
-    }
-}
-
-/// For assistive technology.
-void ColorPickerWidget::Private::nameButton(QWidget* button) const
-{
-    const QColor color = buttonColors.value(button);
-    button->setAccessibleName(color.isValid() ? color.name() : tr("No colour"));
-}
-
-/// Only while accessibility is active, since setting a name takes longer than constructing the widget.
-void ColorPickerWidget::Private::nameControls() const
-{
-    currentColorValueEdit->setAccessibleName(tr("Colour value"));
-    pipetteButton->setAccessibleName(tr("Pick a colour from the screen"));
-    addCustomColorButton->setAccessibleName(tr("Choose another colour"));
-    for (auto entry = buttonColors.cbegin(); entry != buttonColors.cend(); ++entry) {
-        nameButton(entry.key());
-    }
-}
-
-void ColorPickerWidget::Private::accessibilityActiveChanged(bool active)
-{
-    namesAreRead = active;
-    if (active) {
-        nameControls();
-    }
-}
-
-QToolButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
+ColorButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
 {
     // Of several buttons of the colour, the one that the user has checked stays.
-    auto* const checked = qobject_cast<QToolButton*>(buttons->checkedButton());
-    if (checked && buttonColors.value(checked) == opaque(color)) {
+    auto* const checked = static_cast<ColorButton*>(buttons->checkedButton());
+    if (checked && checked->color() == opaque(color)) {
         return checked;
     }
-    QToolButton* const own = queueButtons.value(keyOf(color));
+    ColorButton* const own = queueButtons.value(keyOf(color));
     return own ? own : paletteButtons.value(keyOf(color));
 }
 
@@ -475,7 +485,7 @@ void ColorPickerWidget::Private::setColor(const std::optional<QColor>& color)
         return;
     }
     const QPointer<ColorPickerWidget> self = q;
-    currentColor = color;
+    hold(color);
     if (opacityAdjustmentAvailable) {
         setSliderToAlpha();
     }
@@ -492,11 +502,21 @@ void ColorPickerWidget::Private::setSliderToAlpha() const
     }
 }
 
-void ColorPickerWidget::Private::takeSliderAlpha()
+QColor ColorPickerWidget::Private::withSliderAlpha(QColor color) const
 {
     // With an alpha, an invalid colour would differ from other invalid ones.
-    if (opacityAdjustmentAvailable && currentColor->isValid()) {
-        currentColor->setAlphaF(opacitySlider->doubleValue());
+    if (opacityAdjustmentAvailable && color.isValid()) {
+        color.setAlphaF(opacitySlider->doubleValue());
+    }
+    return color;
+}
+
+void ColorPickerWidget::Private::hold(const std::optional<QColor>& color)
+{
+    const bool isSeen = !looksTheSame(color, currentColor);
+    currentColor = color;
+    if (isSeen) {
+        AccessibleEvents::valueChanged(currentColorDisplayLabel);
     }
 }
 
@@ -512,7 +532,7 @@ void ColorPickerWidget::Private::clearCheckedColorButton() const
 void ColorPickerWidget::Private::updateColorButtonsCheckState()
 {
     if (currentColor) {
-        if (QToolButton* const button = buttonFor(*currentColor)) {
+        if (ColorButton* const button = buttonFor(*currentColor)) {
             button->setChecked(true);
             return;
         }
@@ -552,8 +572,7 @@ void ColorPickerWidget::Private::onButtonToggled(QAbstractButton* button, bool c
     if (!checked || isFollowing) {
         return;
     }
-    currentColor = buttonColors.value(button);
-    takeSliderAlpha();
+    hold(withSliderAlpha(static_cast<ColorButton*>(button)->color().value_or(QColor())));
     updateColorValueWidgets();
     reportColor();
 }
@@ -564,7 +583,7 @@ void ColorPickerWidget::Private::onOpacityChanged(double opacity)
     if (!opacityAdjustmentAvailable || !currentColor || isFollowing) {
         return;
     }
-    takeSliderAlpha();
+    hold(withSliderAlpha(*currentColor));
     reportColor();
 }
 
@@ -582,9 +601,8 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
     if (!currentColorValueEdit->hasAcceptableInput() || !QColor::isValidColor(text)) {
         return;
     }
-    currentColor = QColor(text);
-    takeSliderAlpha();
-    if (QToolButton* const button = buttonFor(*currentColor)) {
+    hold(withSliderAlpha(QColor(text)));
+    if (ColorButton* const button = buttonFor(*currentColor)) {
         const QPointer<ColorPickerWidget> self = q;
         button->setChecked(true);
         // A slot may have set several colours.
@@ -673,8 +691,7 @@ bool ColorPickerWidget::Private::storeCurrentColor() const
 void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
 {
     selectorColor = opaque(color);
-    currentColor = color;
-    takeSliderAlpha();
+    hold(withSliderAlpha(color));
     isFollowing = true;
     updateColorButtonsCheckState();
     // Otherwise done by the handler of the button, which does nothing now.
@@ -689,8 +706,8 @@ void ColorPickerWidget::Private::onDialogFinished()
     if (!storeCurrentColor()) {
         return;
     }
-    QToolButton* const button = queueButton(queueLength - 1);
-    const QRgb oldKey = keyOf(buttonColors.value(button));
+    ColorButton* const button = queueButton(queueLength - 1);
+    const QRgb oldKey = keyOf(button->color().value_or(QColor()));
     if (button->isEnabled() && queueButtons.value(oldKey) == button) {
         queueButtons.remove(oldKey);
     }
@@ -698,7 +715,7 @@ void ColorPickerWidget::Private::onDialogFinished()
     queueLayout->insertWidget(0, button, 0, {});
     QWidget::setTabOrder(addCustomColorButton, button);
     const QColor color = opaque(*currentColor);
-    setButtonColor(button, color);
+    button->setColor(color);
     queueButtons.insert(keyOf(color), button);
     button->setEnabled(true);
     button->setChecked(true);
@@ -742,6 +759,7 @@ ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
 ColorPickerWidget::~ColorPickerWidget()
 {
     d->listener.reset();
+    d->currentColorValueEdit->showValue = [] {};
     d->keepPartsInUse();
 }
 
@@ -789,6 +807,13 @@ void ColorPickerWidget::hideEvent(QHideEvent* event)
         d->closeDialog();
     }
     OvFrame::hideEvent(event);
+}
+
+void ColorPickerWidget::focusInEvent(QFocusEvent* event)
+{
+    // Not by a focus proxy: Qt goes on using the panel then, which a slot may delete when a part loses the
+    // focus.
+    d->currentColorValueEdit->setFocus(event->reason());
 }
 
 void ColorPickerWidget::changeEvent(QEvent* event)

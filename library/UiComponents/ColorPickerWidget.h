@@ -18,10 +18,12 @@
  *     connect(panel, &ColorPickerWidget::pipetteRequested, this, &Editor::startPipette);
  *     connect(panel, &ColorPickerWidget::closeRequested, popup, &QWidget::close);
  *
- * The value is a `std::optional<QColor>` with the three meanings that AbstractColorPicker gives it. Arrow
- * keys move between the buttons of colours, and choose as they go once a button is checked. The edit takes
- * six hexadecimal digits, adds a missing "#", and ignores anything else; it shows "#null" for no colour and
- * "#multiple" for several. While opacity can be adjusted, a chosen or typed colour takes the slider's alpha.
+ * The value is a `std::optional<QColor>` with the three meanings that AbstractColorPicker gives it. Keys move
+ * between the buttons of colours, and choose as they go once one is checked: arrows, Home and End within the
+ * row, Page Up and Page Down within the column. The edit takes six hexadecimal digits, adds a missing "#",
+ * and ignores anything else, which goes when it is left; "#null" for no colour and "#multiple" for several
+ * are selected when it is entered. While opacity can be adjusted, a chosen or typed colour takes the slider's
+ * alpha.
  *
  * The add button opens the selector, a pop-up to the right of the button, or to its left where there is no
  * room, that stays on its screen. It starts at the current colour, or at black without one. A click
@@ -37,7 +39,8 @@
  *
  * The panel writes the background of preview and colour buttons, opaque whatever the alpha. The preview has
  * the properties "nullColor" and "multiColor" (bool), the no-colour button "nullColor". The selector is a
- * QDialog with the property "roundedEdges" (see Workaround::Ui::apply()). Buttons have accessible names.
+ * QDialog with the property "roundedEdges" (see Workaround::Ui::apply()). Tool tips and readers have the
+ * colours in words.
  * @see ColorPickerButton, Pipette, Settings::userCustomColors(), Util::appendCustomColor()
  */
 class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame
@@ -103,6 +106,8 @@ protected:
     /// Closes the selector, and adds the current colour to the user's own without reporting it.
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
+    /// Hands the focus on to the edit of the value, as for a label whose buddy the panel is.
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     class Private;

@@ -13,6 +13,7 @@ namespace {
 constexpr double noHue = -2.0;
 constexpr int fullCircle = 360;
 constexpr QPoint noMarker(-1, -1);
+constexpr double percent = 100.0;
 
 double hueOf(int degrees)
 {
@@ -40,6 +41,9 @@ public:
     QPointF pixel() const override { return markerPos; }
     void placeMarker(const QPointF& pixel) override;
     void report() override;
+    QPointF values() const override;
+    QRectF range() const override { return {0.0, percent, percent, -percent}; }
+    void takeValues(const QPointF& values) override;
     const QImage& upToDateImage();
 
     ColorPlaneWidget* const q;
@@ -79,6 +83,25 @@ void ColorPlaneWidget::Private::placeMarker(const QPointF& pixel)
     markerColor = inverse(colorAt(markerPos));
 }
 
+/// Saturation and brightness, both in percent, and whole ones as far as the pixels go.
+QPointF ColorPlaneWidget::Private::values() const
+{
+    if (!QRect(QPoint(), planeSize).contains(markerPos)) {
+        return {};
+    }
+    const double saturation = markerPos.x() / qMax(1.0, planeSize.width() - 1.0);
+    const double brightness = 1.0 - markerPos.y() / qMax(1.0, planeSize.height() - 1.0);
+    return {saturation * percent, brightness * percent};
+}
+
+void ColorPlaneWidget::Private::takeValues(const QPointF& values)
+{
+    if (!planeSize.isEmpty()) {
+        placeMarker({values.x() / percent * (planeSize.width() - 1),
+                     (1.0 - values.y() / percent) * (planeSize.height() - 1)});
+    }
+}
+
 void ColorPlaneWidget::Private::report()
 {
     Q_EMIT q->hsvColorChanged(q->hsvColor());
@@ -96,6 +119,11 @@ const QImage& ColorPlaneWidget::Private::upToDateImage()
         imageHue = hue;
     }
     return image;
+}
+
+PlaneDrag* PlaneDrag::of(ColorPlaneWidget* plane)
+{
+    return plane->d.get();
 }
 
 ColorPlaneWidget::ColorPlaneWidget(QWidget* parent)
@@ -147,9 +175,11 @@ void ColorPlaneWidget::setHsvColor(const QColor& color)
     }
     d->hue = hueOf(color.hue());
     d->takeSize();
+    const QPointF before = d->values();
     d->placeMarker(QPoint(qRound(color.hsvSaturationF() * (d->planeSize.width() - 1)),
                           qRound((1.0 - color.valueF()) * (d->planeSize.height() - 1))));
     update();
+    d->announce(before);
 }
 
 void ColorPlaneWidget::setHue(int degrees)
@@ -238,4 +268,10 @@ void ColorPlaneWidget::keyPressEvent(QKeyEvent* event)
     if (d->planeSize.isEmpty() || !d->pressKey(*event)) {
         QWidget::keyPressEvent(event);
     }
+}
+
+void ColorPlaneWidget::focusInEvent(QFocusEvent* event)
+{
+    d->focusIn(*event);
+    QWidget::focusInEvent(event);
 }

@@ -1,18 +1,20 @@
 #include "DialogGuideWidget.h"
 
+#include "AccessibleEvents.h"
+#include "AccessibleFactory.h"
 #include "ClickButton.h"
 #include "GuideLabel.h"
+#include "GuidePicture.h"
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
 #include <FileSystem/FS.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
-#include <WidgetToolkit/OvPixmapWidget.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QCoreApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -75,7 +77,6 @@ public:
     explicit Private(DialogGuideWidget* bubble);
 
     void watchParent();
-    void retranslate();
     void layOut();
     void settle();
 
@@ -86,7 +87,7 @@ public:
     QToolButton* const closeButton;
     OvFrame* const descriptionFrame;
     OvFrame* const buttonsFrame;
-    OvPixmapWidget* const gifPixmapWidget;
+    GuidePicture* const gifPixmapWidget;
     QLabel* const descriptionLabel;
     QPushButton* const secondaryButton;
     QPushButton* const mainButton;
@@ -104,7 +105,7 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     , closeButton(named("closeButton", new ClickButton(headerFrame)))
     , descriptionFrame(named("descriptionFrame", new OvFrame(contentFrame)))
     , buttonsFrame(named("buttonsFrame", new OvFrame(contentFrame)))
-    , gifPixmapWidget(named("gifPixmapWidget", new OvPixmapWidget(descriptionFrame)))
+    , gifPixmapWidget(named("gifPixmapWidget", new GuidePicture(descriptionFrame)))
     , descriptionLabel(named("descriptionLabel", new GuideLabel(descriptionFrame)))
     , secondaryButton(named("secondaryButton", new ElidingButton(buttonsFrame)))
     , mainButton(named("mainButton", new ElidingButton(buttonsFrame)))
@@ -123,7 +124,6 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
 
     Util::applyStyleHint(secondaryButton, QStringLiteral("guideButton"));
     Util::applyStyleHint(mainButton, QStringLiteral("guideMainButton"));
-    retranslate();
 }
 
 void DialogGuideWidget::Private::watchParent()
@@ -139,11 +139,6 @@ void DialogGuideWidget::Private::watchParent()
     if (parent) {
         parent->installEventFilter(q);
     }
-}
-
-void DialogGuideWidget::Private::retranslate()
-{
-    closeButton->setAccessibleName(tr("Close"));
 }
 
 /// Activates all layouts at once; a change would go up one frame for each posted layout request.
@@ -172,6 +167,7 @@ DialogGuideWidget::DialogGuideWidget(QWidget* parent)
     : PointingWidget(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     connect(d->closeButton, &QAbstractButton::clicked, this, &DialogGuideWidget::closeClicked);
     connect(d->mainButton, &QAbstractButton::clicked, this, &DialogGuideWidget::mainClicked);
     connect(d->secondaryButton, &QAbstractButton::clicked, this, &DialogGuideWidget::secondaryClicked);
@@ -186,7 +182,9 @@ void DialogGuideWidget::setInfo(const DialogGuideInfo& info)
     d->secondaryButton->setText(info.secondaryButtonText);
     d->headerLabel->setText(Customization::localeDependedBoldText(info.title));
     d->descriptionLabel->setText(info.description);
-    d->gifPixmapWidget->setMoviePath(info.moviePath);
+    d->gifPixmapWidget->setPicture(info.moviePath);
+    // What most come for is first.
+    setTabOrder(d->mainButton, d->gifPixmapWidget);
     d->gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
     d->headerLabel->setVisible(!info.title.isEmpty());
     setWindowTitle(info.title);
@@ -201,6 +199,15 @@ void DialogGuideWidget::setCloseButtonVisible(bool visible)
 void DialogGuideWidget::setSecondaryButtonVisible(bool visible)
 {
     d->secondaryButton->setVisible(visible);
+}
+
+void DialogGuideWidget::enter()
+{
+    if (!isVisible()) {
+        return;
+    }
+    activateWindow();
+    d->mainButton->setFocus(Qt::OtherFocusReason);
 }
 
 void DialogGuideWidget::updateContent()
@@ -240,10 +247,21 @@ void DialogGuideWidget::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::ParentChange) {
         d->watchParent();
-    } else if (event->type() == QEvent::LanguageChange) {
-        d->retranslate();
     }
     PointingWidget::changeEvent(event);
+}
+
+void DialogGuideWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel) && d->closeButton->isVisible()) {
+        Q_EMIT closeClicked();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (auto* const button = qobject_cast<QAbstractButton*>(focusWidget())) {
+            button->click();
+        }
+    } else {
+        PointingWidget::keyPressEvent(event);
+    }
 }
 
 void DialogGuideWidget::paintEvent(QPaintEvent* event)
@@ -258,6 +276,7 @@ void DialogGuideWidget::showEvent(QShowEvent* event)
     d->layOut();
     updateContent();
     PointingWidget::showEvent(event);
+    AccessibleEvents::alert(this);
 }
 
 void DialogGuideWidget::resizeEvent(QResizeEvent* event)

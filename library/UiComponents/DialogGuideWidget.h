@@ -25,7 +25,10 @@
  * screen: a word or image in a text takes at most half of the screen's width, a button a quarter, with an
  * ellipsis in its text.
  *
- * **Image.** It plays while the bubble is shown (see OvPixmapWidget).
+ * **Image.** It plays while the bubble is shown. GuideWidget says how to pause it, or to show its first
+ * picture only.
+ *
+ * **Readers** hear of a dialog with title and description when it appears. enter() leads in by keyboard.
  *
  * **Style sheet.** In "contentFrame" are "headerFrame" with "headerLabel" and "closeButton",
  * "descriptionFrame" with "gifPixmapWidget" and "descriptionLabel", and "buttonsFrame" with "secondaryButton"
@@ -52,6 +55,12 @@ public:
     /// settled, and when the bubble is shown.
     void setInfo(const DialogGuideInfo& info);
 
+    /// Gives the bubble the keyboard, at the main button: for a shortcut of the host's. Nothing of itself
+    /// takes it from the widget that the bubble explains. Tab then goes through the bubble; Enter presses the
+    /// button that has the focus; Escape emits closeClicked() while the close button is visible. Does nothing
+    /// while the bubble is hidden.
+    void enter();
+
     /// Both buttons are visible by default.
     void setCloseButtonVisible(bool visible);
     void setSecondaryButtonVisible(bool visible);
@@ -59,7 +68,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user, or QAbstractButton::click(), clicked the button of this name.
+    /// The user, or QAbstractButton::click(), clicked the button of this name; Escape counts as the close
+    /// button.
     void secondaryClicked();
     void mainClicked();
     void closeClicked();
@@ -74,6 +84,7 @@ protected:
     virtual void adjustPositions();
 
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

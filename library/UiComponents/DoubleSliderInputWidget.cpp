@@ -1,5 +1,6 @@
 #include "DoubleSliderInputWidget.h"
 
+#include "AccessibleFactory.h"
 #include "SliderFieldParts.h"
 #include "StepRange.h"
 
@@ -22,6 +23,7 @@ DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initiali
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     Util::bindWidgets(d->slider, d->spinBox);
     d->slider->setOrientation(Qt::Horizontal);
     d->spinBox->setBothDecimalMarksAccepted(true);

@@ -1,5 +1,6 @@
 #include "GuideButton.h"
 
+#include "AccessibleFactory.h"
 #include "GuideWidget.h"
 
 #include <EditorWidgets/PointingWidget.h>
@@ -12,6 +13,7 @@
 GuideButton::GuideButton(QWidget* parent)
     : ClickButton(parent)
 {
+    AccessibleFactory::install();
     connect(this, &QAbstractButton::clicked, this, &GuideButton::showHelp);
 }
 
@@ -79,6 +81,8 @@ void GuideButton::showHelp()
     const QPointer<PointingWidget> popup = m_pointingWidget;
     const QPointer<PointingWidget> outer = m_appearing;
     m_appearing = popup;
+    // Of its own, or readers would stay with the button.
+    popup->setFocus(Qt::PopupFocusReason);
     popup->show();
     if (self) {
         m_appearing = outer;

@@ -29,6 +29,9 @@ class PointingWidget;
  * a click elsewhere and when the button hides; the focus is then where it was before. A closed pop-up lives
  * on until the next click or the end of the button.
  *
+ * **Readers** find the pop-up below the button while it is open, a dialog whose description is the text of
+ * the guide.
+ *
  * On X11 a click on the button while its pop-up is open only closes it, since the press belongs to the
  * pop-up. Platforms that pass such a press on open a new one, and so does click() by code.
  *

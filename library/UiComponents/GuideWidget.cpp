@@ -1,12 +1,13 @@
 #include "GuideWidget.h"
 
+#include "AccessibleFactory.h"
 #include "GuideLabel.h"
+#include "GuidePicture.h"
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
 #include <FileSystem/FS.h>
 #include <WidgetToolkit/OvBoxLayout.h>
-#include <WidgetToolkit/OvPixmapWidget.h>
 
 #include <QDesktopServices>
 #include <QFocusEvent>
@@ -70,12 +71,13 @@ class GuideWidget::Private
 public:
     Private(GuideWidget* guide, GuideInfo guideInfo);
 
+    void putLinkFirst() const;
     void update();
     void followLink(const QString& link);
 
     GuideWidget* const q;
     QLabel* const headerLabel;
-    OvPixmapWidget* const gifPixmapWidget;
+    GuidePicture* const gifPixmapWidget;
     QLabel* const descriptionLabel;
     QLabel* const learnMoreLabel;
 
@@ -87,7 +89,7 @@ public:
 GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     : q(guide)
     , headerLabel(makeLabel<GuideLabel>(QStringLiteral("headerLabel"), guide))
-    , gifPixmapWidget(new OvPixmapWidget(guide))
+    , gifPixmapWidget(new GuidePicture(guide))
     , descriptionLabel(makeLabel<GuideLabel>(QStringLiteral("descriptionLabel"), guide))
     , learnMoreLabel(makeLabel<LinkLabel>(QStringLiteral("learnMoreLabel"), guide))
     , info(std::move(guideInfo))
@@ -96,8 +98,22 @@ GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
 {
     gifPixmapWidget->setObjectName(QStringLiteral("gifPixmapWidget"));
     learnMoreLabel->setOpenExternalLinks(false);
+    putLinkFirst();
 
     (new OvVBoxLayout(q))->autoFill();
+}
+
+/// The picture follows the link, which most come for. Qt leaves alone what takes no focus, and two widgets
+/// that follow each other in the circle, whichever is first.
+void GuideWidget::Private::putLinkFirst() const
+{
+    for (const Qt::FocusPolicy policy : {Qt::TabFocus, Qt::NoFocus}) {
+        for (QWidget* part : {static_cast<QWidget*>(headerLabel), static_cast<QWidget*>(gifPixmapWidget),
+                              static_cast<QWidget*>(learnMoreLabel)}) {
+            part->setFocusPolicy(policy);
+        }
+        QWidget::setTabOrder(learnMoreLabel, gifPixmapWidget);
+    }
 }
 
 void GuideWidget::Private::update()
@@ -105,7 +121,7 @@ void GuideWidget::Private::update()
     headerLabel->setVisible(!info.title.isEmpty());
     headerLabel->setText(Customization::localeDependedBoldText(info.title));
     gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
-    gifPixmapWidget->setMoviePath(info.moviePath);
+    gifPixmapWidget->setPicture(info.moviePath);
     descriptionLabel->setVisible(!info.description.isEmpty());
     descriptionLabel->setText(info.description);
     learnMoreLabel->setVisible(!info.learnMore.isEmpty());
@@ -137,6 +153,7 @@ GuideWidget::GuideWidget(const GuideInfo& info, QWidget* parent, const QString& 
     : OvFrame(parent)
     , d(std::make_unique<Private>(this, info))
 {
+    AccessibleFactory::install();
     setObjectName(name);
     d->update();
     connect(d->learnMoreLabel, &QLabel::linkActivated, this,
@@ -158,14 +175,7 @@ void GuideWidget::setInfo(const GuideInfo& info)
 void GuideWidget::showEvent(QShowEvent* event)
 {
     OvFrame::showEvent(event);
-    const QPointer<QMovie> movie = d->gifPixmapWidget->movie();
-    if (movie && movie->state() == QMovie::Running) {
-        movie->stop();
-    }
-    // A slot of the movie may have deleted it.
-    if (movie) {
-        movie->start();
-    }
+    d->gifPixmapWidget->restart();
 }
 
 void GuideWidget::hideEvent(QHideEvent* event)

@@ -20,7 +20,13 @@
  * reaches the link and Enter follows it; links in the description are not followed.
  *
  * **Image.** It plays from its first frame whenever the guide is shown, and costs nothing while it is hidden.
- * One that setInfo() brings plays at once where the guide is shown; one that stays the same plays on.
+ * One that setInfo() brings plays at once where the guide is shown; one that stays the same plays on. A click
+ * on it, or Space while it has the focus, pauses and resumes it. Where the dynamic property
+ * "firstPictureOnly" of the guide, of a widget around it in its window or of the application is true, or the
+ * style animates nothing, as where the desktop wants less motion, it shows its first picture until the user
+ * plays it:
+ *
+ *     qApp->setProperty("firstPictureOnly", true);           // takes effect when a guide is next shown
  *
  * **Size.** Heading and description get room for all their lines at the polished guide's width when its info
  * is set. Set the width first, in the style sheet or by code; a guide that becomes wider later keeps the

@@ -1,6 +1,9 @@
 #include "PathSelectionWidget.h"
 
+#include "AccessibleEvents.h"
+#include "AccessibleFactory.h"
 #include "ClickButton.h"
+#include "LabelFocus.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorUtility/FileUtil.h>
@@ -171,6 +174,7 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     , availableSpace(availableLabel, available)
 {
     pathLineEdit->setObjectName(QStringLiteral("pathLineEdit"));
+    LabelFocus::lead(q, pathLineEdit);
     (new OvVBoxLayout(q))->autoFill();
     (new OvHBoxLayout(spaceInfoFrame))->autoFill()->addStretch(0);
     (new OvHBoxLayout(pathSelectionFrame))->autoFill()->setStretch(0, 1);
@@ -259,6 +263,7 @@ void PathSelectionWidget::Private::showError(const PathError& error)
         errorLabel->setText(error.message);
         errorLabel->show();
     }
+    AccessibleEvents::alert(pathLineEdit);
 }
 
 void PathSelectionWidget::Private::dropToolTip() const
@@ -292,6 +297,7 @@ PathSelectionWidget::PathSelectionWidget(QWidget* parent)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     d->pathLineEdit->installEventFilter(this);
     connect(d->pathBrowseButton, &QToolButton::clicked, this, [this] {
         const bool isDefault = !d->defaultPath.isEmpty() && d->path == d->defaultPath;

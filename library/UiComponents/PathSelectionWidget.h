@@ -25,7 +25,8 @@ class QUrl;
  * is typed stays as typed until the focus leaves. The reset button shows only with a default path, and is
  * disabled while the path is shown by its text.
  *
- * **Disk.** Only checkPath() reads it; call it when the path is used, and in slots of pathChanged() at most.
+ * **Disk.** Only checkPath() reads it. Call it when the path is about to be used, not in a slot of
+ * pathChanged(), after which the mark goes again: the user would never see it.
  *
  * **Language.** The texts of the space figures and the field's own two messages are translated (context
  * "PathSelectionWidget") and follow a change of language; messages of FileUtil and of the host do not.
@@ -77,7 +78,8 @@ public:
      * writable for this process; a relative path never is.
      *
      * On an error the line edit gets the focus with all its text selected, the field is marked, and the
-     * message is shown as plain text. The next key hides a tool tip; the next pathChanged() removes mark and
+     * message is shown as plain text, and readers hear it: the line edit is invalid and has the message as
+     * its description. The next key hides a tool tip; the next pathChanged() removes mark and
      * label. Success removes no earlier mark. A handler of the widget that loses the focus must not delete
      * the field.
      */

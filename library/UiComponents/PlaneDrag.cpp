@@ -1,7 +1,9 @@
 #include "PlaneDrag.h"
 
+#include "AccessibleEvents.h"
 #include "PointMapping.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,14 +11,21 @@
 #include <QStyleOptionFocusRect>
 #include <QWidget>
 
+#include <cmath>
+
 namespace {
 
 constexpr int longStep = 10; // pixels
+constexpr int pages = 10;
 constexpr int focusWidth = 2;
 
-QPoint stepOf(const QKeyEvent& event)
+/// What is too long for a plane of @p size is pinned to its edge.
+QPoint stepOf(const QKeyEvent& event, const QSize& size)
 {
     const int step = event.modifiers().testFlag(Qt::ShiftModifier) ? longStep : 1;
+    const int page = qMax(1, size.height() / pages);
+    const bool isUpright = event.modifiers().testFlag(Qt::ControlModifier);
+    const QPoint end = isUpright ? QPoint(0, size.height()) : QPoint(size.width(), 0);
     switch (event.key()) {
     case Qt::Key_Left:
         return {-step, 0};
@@ -26,6 +35,14 @@ QPoint stepOf(const QKeyEvent& event)
         return {0, -step};
     case Qt::Key_Down:
         return {0, step};
+    case Qt::Key_PageUp:
+        return {0, -page};
+    case Qt::Key_PageDown:
+        return {0, page};
+    case Qt::Key_Home:
+        return -end;
+    case Qt::Key_End:
+        return end;
     default:
         return {};
     }
@@ -45,9 +62,11 @@ bool PlaneDrag::press(const QMouseEvent& event)
     if (event.button() != Qt::LeftButton) {
         return false;
     }
+    const QPointF before = values();
     placeMarker(event.pos());
     m_plane->update();
     m_plane->grabMouse();
+    announce(before);
     report();
     return true;
 }
@@ -59,8 +78,10 @@ bool PlaneDrag::move(const QMouseEvent& event)
     }
     const QPointF point = PointMapping::pinned(event.pos(), m_plane->rect());
     if (point != pixel()) {
+        const QPointF before = values();
         placeMarker(point);
         m_plane->update();
+        announce(before);
         report();
     }
     return true;
@@ -72,25 +93,29 @@ bool PlaneDrag::release(const QMouseEvent& event)
         return false;
     }
     const QPointF point = PointMapping::pinned(event.pos(), m_plane->rect());
+    const QPointF before = values();
     if (point != pixel()) {
         placeMarker(point);
     }
     m_plane->update();
     m_plane->releaseMouse();
+    announce(before);
     report();
     return true;
 }
 
 bool PlaneDrag::pressKey(const QKeyEvent& event)
 {
-    const QPoint step = stepOf(event);
-    if (step.isNull()) {
+    const QPoint move = stepOf(event, m_plane->size());
+    if (move.isNull()) {
         return false;
     }
-    const QPointF point = PointMapping::stepped(pixel(), step, m_plane->rect());
+    const QPointF point = PointMapping::stepped(pixel(), move, m_plane->rect());
     if (point != pixel()) {
+        const QPointF before = values();
         stepMarker(point);
         m_plane->update();
+        announce(before);
         report();
     }
     return true;
@@ -103,9 +128,29 @@ void PlaneDrag::stop() const
     }
 }
 
+void PlaneDrag::focusIn(const QFocusEvent& event)
+{
+    switch (event.reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        m_isKeyboardFocus = true;
+        break;
+    case Qt::MouseFocusReason:
+        m_isKeyboardFocus = false;
+        break;
+    case Qt::OtherFocusReason:
+        m_isKeyboardFocus = m_plane->window()->testAttribute(Qt::WA_KeyboardFocusChange);
+        break;
+    default: // the window has been away
+        break;
+    }
+    m_plane->update();
+}
+
 void PlaneDrag::paintFocus(QPainter& painter) const
 {
-    if (!m_plane->hasFocus() || !m_plane->window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+    if (!m_plane->hasFocus() || !m_isKeyboardFocus) {
         return;
     }
     // Clipped, since some styles fill the focus rectangle, which would tint the plane.
@@ -114,7 +159,43 @@ void PlaneDrag::paintFocus(QPainter& painter) const
     painter.setRenderHint(QPainter::Antialiasing, false);
     QStyleOptionFocusRect option;
     option.initFrom(m_plane);
+    option.state |= QStyle::State_KeyboardFocusChange;
     m_plane->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, m_plane);
+}
+
+QSizeF PlaneDrag::step() const
+{
+    const QRectF all = range();
+    return {std::abs(all.width()) / qMax(1, m_plane->width() - 1),
+            std::abs(all.height()) / qMax(1, m_plane->height() - 1)};
+}
+
+void PlaneDrag::setValue(int axis, double value)
+{
+    const QRectF all = range().normalized();
+    const QPointF before = values();
+    QPointF wanted = before;
+    (axis == 0 ? wanted.rx() : wanted.ry()) = value;
+    wanted = {qBound(all.left(), wanted.x(), all.right()), qBound(all.top(), wanted.y(), all.bottom())};
+    const bool isSame = wanted.x() == before.x() && wanted.y() == before.y();
+    if (!m_plane->isEnabled() || isSame || std::isnan(value)) {
+        return;
+    }
+    takeValues(wanted);
+    m_plane->update();
+    announce(before);
+    report();
+}
+
+void PlaneDrag::announce(const QPointF& before) const
+{
+    const QPointF now = values();
+    if (now.x() != before.x()) {
+        AccessibleEvents::valueChanged(m_plane, 0);
+    }
+    if (now.y() != before.y()) {
+        AccessibleEvents::valueChanged(m_plane, 1);
+    }
 }
 
 void PlaneDrag::stepMarker(const QPointF& pixel)

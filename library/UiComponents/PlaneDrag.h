@@ -3,7 +3,12 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
+#include <QSizeF>
 
+class ColorPlaneWidget;
+class PointSelectionPlane;
+class QFocusEvent;
 class QKeyEvent;
 class QMouseEvent;
 class QPainter;
@@ -13,9 +18,11 @@ class QWidget;
  * Moves the marker of a plane, whose private object derives from this.
  *
  * A press of the left button places the marker and grabs the mouse; a drag outside the plane pins it to the
- * nearest edge. The arrow keys move it by a pixel, by ten with Shift. Handlers return false for events that
- * belong to the base class, and otherwise end with a report, in which the plane may be deleted. A move or a
- * key that leaves the marker in its place is not reported.
+ * nearest edge. The arrow keys move it by a pixel, by ten with Shift; Page Up and Page Down by a tenth of the
+ * height; Home and End to the left and right edge, with Control to the top and bottom. Handlers return false
+ * for events that belong to the base class, and otherwise end with a report, in which the plane may be
+ * deleted. A move or a key that leaves the marker in its place is not reported. To readers the marker is two
+ * numbers, in the units of the plane.
  */
 class PlaneDrag
 {
@@ -34,8 +41,22 @@ public:
     /// every click in the application.
     void stop() const;
 
-    /// Draws the style's focus rectangle, if the plane got the focus by keyboard.
+    /// Notes the reason of the focus.
+    void focusIn(const QFocusEvent& event);
+    /// Draws the edge of the style's focus rectangle, if the plane got the focus by keyboard.
     void paintFocus(QPainter& painter) const;
+
+    static PlaneDrag* of(ColorPlaneWidget* plane);
+    static PlaneDrag* of(PointSelectionPlane* plane);
+
+    /// Where the marker is, in units; how far those go, from the left and top edge, and what a pixel is.
+    virtual QPointF values() const = 0;
+    virtual QRectF range() const = 0;
+    QSizeF step() const;
+    /// As if a key had moved the marker to @p value, bounded, along the axis 0 or 1.
+    void setValue(int axis, double value);
+    /// Says what is another number than @p before.
+    void announce(const QPointF& before) const;
 
 protected:
     /// The position of the marker.
@@ -43,10 +64,13 @@ protected:
     virtual void placeMarker(const QPointF& pixel) = 0;
     /// As placeMarker(), for a step along one axis.
     virtual void stepMarker(const QPointF& pixel);
+    /// As placeMarker(), in units.
+    virtual void takeValues(const QPointF& values) = 0;
     virtual void report() = 0;
 
 private:
     bool isDragging() const;
 
     QWidget* const m_plane;
+    bool m_isKeyboardFocus = false;
 };

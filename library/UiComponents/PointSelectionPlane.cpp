@@ -1,5 +1,6 @@
 #include "PointSelectionPlane.h"
 
+#include "AccessibleFactory.h"
 #include "PlaneDrag.h"
 #include "PointMapping.h"
 #include "PointSelectionPlanePropertyHelper.h"
@@ -29,6 +30,9 @@ public:
     void placeMarker(const QPointF& pixel) override;
     void stepMarker(const QPointF& pixel) override;
     void report() override;
+    QPointF values() const override { return point; }
+    QRectF range() const override { return limits; }
+    void takeValues(const QPointF& values) override;
     void paintAxes(QPainter& painter) const;
     void paintMarker(QPainter& painter) const;
 
@@ -78,6 +82,13 @@ void PointSelectionPlane::Private::stepMarker(const QPointF& pixel)
     }
 }
 
+void PointSelectionPlane::Private::takeValues(const QPointF& values)
+{
+    hasPoint = true;
+    point = values;
+    locatePoint();
+}
+
 void PointSelectionPlane::Private::report()
 {
     Q_EMIT q->pointChanged(point);
@@ -104,10 +115,16 @@ void PointSelectionPlane::Private::paintMarker(QPainter& painter) const
     painter.drawEllipse(pixelPosition, radius, radius);
 }
 
+PlaneDrag* PlaneDrag::of(PointSelectionPlane* plane)
+{
+    return plane->d.get();
+}
+
 PointSelectionPlane::PointSelectionPlane(QWidget* parent)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -122,10 +139,10 @@ void PointSelectionPlane::setLimits(const QRectF& limits)
 
 void PointSelectionPlane::setPoint(const QPointF& point)
 {
-    d->hasPoint = true;
-    d->point = point;
-    d->locatePoint();
+    const QPointF before = d->point;
+    d->takeValues(point);
     update();
+    d->announce(before);
 }
 
 QPointF PointSelectionPlane::point()
@@ -159,6 +176,12 @@ void PointSelectionPlane::keyPressEvent(QKeyEvent* event)
     if (!d->pressKey(*event)) {
         OvFrame::keyPressEvent(event);
     }
+}
+
+void PointSelectionPlane::focusInEvent(QFocusEvent* event)
+{
+    d->focusIn(*event);
+    OvFrame::focusInEvent(event);
 }
 
 void PointSelectionPlane::paintEvent(QPaintEvent* event)

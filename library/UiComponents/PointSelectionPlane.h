@@ -23,12 +23,15 @@
  *
  * **Input.** The left button takes the point under it and grabs the mouse: a drag may leave the plane and the
  * window, while the point stays on the edge. Hiding or disabling the plane ends the grab without a report.
- * With focus, by click or Tab, the arrow keys move the point by one pixel, with Shift by ten, up to the
- * edges.
+ * With focus, by click or Tab, the arrow keys move the point by one pixel, with Shift by ten; Page Up and
+ * Page Down by a tenth of the height, Home and End to the left and right edge, with Control to the top and
+ * bottom.
+ *
+ * **Readers** find a group of two sliders, x and y, in the host's units, which they may set.
  *
  * **Painting.** A flat background, two fixed axes through the middle, a round marker at the point, and, for
- * users who come by keyboard, the style's focus rectangle. Size and frame are the sheet's; colours and sizes
- * are properties of a hidden child:
+ * users who come by keyboard, the edge of the style's focus rectangle. Size and frame are the sheet's;
+ * colours and sizes are properties of a hidden child:
  *
  *     PointSelectionPlane { min-width: 120px; min-height: 120px; }
  *     PointSelectionPlanePropertyHelper {
@@ -70,12 +73,14 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    friend class PlaneDrag;
     class Private;
     const std::unique_ptr<Private> d;
 };

@@ -1,5 +1,6 @@
 #include "PointSelectorWidget.h"
 
+#include "AccessibleFactory.h"
 #include "PointSelectionPlane.h"
 #include "StepRange.h"
 
@@ -148,6 +149,7 @@ PointSelectorWidget::PointSelectorWidget(QWidget* parent, const Initializer& ini
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     setRange(init);
     d->setTexts();
 

@@ -1,5 +1,8 @@
 #include "QuickContent.h"
 
+#include "AccessibleFactory.h"
+#include "SceneView.h"
+
 #include <FileSystem/FS.h>
 
 #include <QGuiApplication>
@@ -76,12 +79,13 @@ public:
     const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalCodeOnly>();
     // Owned, but a parent may delete them first.
     const QPointer<QWidget> container = new QWidget;
-    const QPointer<QQuickWidget> view = new QQuickWidget;
+    const QPointer<SceneView> view = new SceneView;
     int state = Undefined;
 };
 
 Qml::QuickContent::Private::Private()
 {
+    AccessibleFactory::install();
     view->engine()->setUrlInterceptor(interceptor.get());
     view->setAttribute(Qt::WA_AlwaysStackOnTop);
     view->setClearColor(Qt::transparent);

@@ -1,7 +1,9 @@
 #include "SearchWidget.h"
 
+#include "AccessibleFactory.h"
 #include "ClickButton.h"
 #include "DyingWindow.h"
+#include "LabelFocus.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -77,6 +79,7 @@ SearchWidget::Private::Private(SearchWidget* search)
 
     (new OvHBoxLayout(q))->autoFill();
 
+    LabelFocus::lead(q, searchLineEdit);
     searchLineEdit->setAttribute(Qt::WA_MouseTracking);
     clearSearchButton->hide();
     searchLineEdit->setValidator(new NoLeadingBlank(searchLineEdit));
@@ -119,6 +122,7 @@ SearchWidget::SearchWidget(QWidget* parent)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     connect(d->searchLineEdit, &QLineEdit::textChanged, this,
             [this](const QString& text) { d->showClearButton(!text.isEmpty()); });
     d->searchLineEdit->installEventFilter(this);

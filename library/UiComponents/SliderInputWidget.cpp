@@ -1,5 +1,6 @@
 #include "SliderInputWidget.h"
 
+#include "AccessibleFactory.h"
 #include "SliderFieldParts.h"
 
 #include <WidgetToolkit/OvCustomSlider.h>
@@ -19,6 +20,7 @@ SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     Util::bindWidgets(d->slider, d->spinBox);
     setRange(init);
     d->slider->setOrientation(Qt::Horizontal);

@@ -1,5 +1,7 @@
 #include "WidgetColorPickerButton.h"
 
+#include "AccessibleEvents.h"
+#include "AccessibleFactory.h"
 #include "WidgetColorPicker.h"
 
 #include <QPointer>
@@ -25,6 +27,7 @@ WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
     : ClickButton(parent)
     , d(std::make_unique<Private>(this))
 {
+    AccessibleFactory::install();
     connect(this, &QAbstractButton::clicked, this, &WidgetColorPickerButton::startPicking);
     setTargetWidget(nullptr);
 }
@@ -71,6 +74,7 @@ void WidgetColorPickerButton::setColor(const QColor& color)
         setStyleSheet(QStringLiteral("QToolButton { background-color: %1 }").arg(color.name()));
         update();
     }
+    AccessibleEvents::valueChanged(this);
     Q_EMIT colorChanged(color);
 }
 

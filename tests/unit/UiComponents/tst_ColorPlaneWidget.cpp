@@ -812,7 +812,8 @@ void tst_ColorPlaneWidget::focusIsShownToKeyboardUsers()
     plane.setFocus(Qt::MouseFocusReason);
     QVERIFY(plane.hasFocus());
     QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
-    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    plane.clearFocus();
+    plane.setFocus(Qt::TabFocusReason);
     QVERIFY(pictureOf(plane) != planeImage(0.5, plane.size()));
     // Around the colours, not over them: styles fill the frame.
     const QRect inside = plane.rect().adjusted(2, 2, -2, -2);

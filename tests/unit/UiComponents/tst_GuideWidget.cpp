@@ -874,8 +874,14 @@ void tst_GuideWidget::tabStopsAtTheLinkAtOnce()
     QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
     press(Qt::Key_Return);
     QCOMPARE(handler.opened.size(), 1);
+    // The image, which can be paused, comes behind it.
+    const auto* const image = guide->findChild<QWidget*>(QStringLiteral("gifPixmapWidget"));
+    press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), image);
     press(Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), after);
+    press(Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), image);
     press(Qt::Key_Backtab);
     QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
     press(Qt::Key_Return);

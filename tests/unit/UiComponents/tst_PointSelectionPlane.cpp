@@ -723,8 +723,17 @@ void tst_PointSelectionPlane::focusIsShownToKeyboardUsers()
     QVERIFY(plane.hasFocus());
     QCOMPARE(plane.focusPolicy(), Qt::StrongFocus);
     QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
-    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    plane.clearFocus();
+    plane.setFocus(Qt::TabFocusReason);
     QVERIFY(pictureOf(plane) != picture(plane.size(), {}));
+    // At the edge only: styles fill the frame.
+    const QRect inside = plane.rect().adjusted(2, 2, -2, -2);
+    QCOMPARE(pictureOf(plane).copy(inside), picture(plane.size(), {}).copy(inside));
+    // A click later in the same window is none of the keyboard's business.
+    plane.clearFocus();
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    plane.setFocus(Qt::MouseFocusReason);
+    QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
     plane.clearFocus();
     QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
 }

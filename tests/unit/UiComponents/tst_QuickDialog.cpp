@@ -1,3 +1,4 @@
+#include "AccessibleEars.h"
 #include "GlogCapture.h"
 #include "MetaObject.h"
 #include "QmlFiles.h"
@@ -99,6 +100,7 @@ class tst_QuickDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void readersFindTheScene();
     void init();
     void cleanup();
 
@@ -1150,6 +1152,26 @@ void tst_QuickDialog::nothingIsPaintedBehindTheScene()
         dialog.accept();
     });
     qApp->setStyleSheet(QString());
+}
+
+void tst_QuickDialog::readersFindTheScene()
+{
+    FormDialog dialog;
+    dialog.setQmlPath(m_files->item(QStringLiteral(
+        "width: 120; height: 80; Accessible.role: Accessible.Pane; Accessible.name: 'Discard the clip?'\n"
+        "Rectangle { width: 50; height: 20; Accessible.role: Accessible.Button; Accessible.name: 'Discard'\n"
+        "Accessible.onPressAction: callback.accept() }")));
+    const int result = execWith(dialog, [&dialog] {
+        QCOMPARE(spokenName(&dialog), QStringLiteral("Discard the clip?"));
+        QAccessibleInterface& view = reader(dialog.view());
+        QCOMPARE(accessibleTree(view),
+                 QStringList({QStringLiteral("Client"), QStringLiteral("  Pane Discard the clip?"),
+                              QStringLiteral("    Button Discard")}));
+        dialog.setWindowTitle(QStringLiteral("Clip"));
+        QCOMPARE(spokenName(&dialog), QStringLiteral("Clip"));
+        view.child(0)->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    });
+    QCOMPARE(result, int(QDialog::Accepted));
 }
 
 UIC_TEST_MAIN(tst_QuickDialog)

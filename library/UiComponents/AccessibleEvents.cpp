@@ -1,0 +1,124 @@
+#include "AccessibleEvents.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+#include <utility>
+
+namespace {
+
+void send(QWidget* widget, int index)
+{
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+    if (interface && index >= 0) {
+        interface = interface->child(index);
+    }
+    if (!interface) {
+        return;
+    }
+    if (const QAccessibleValueInterface* const number = interface->valueInterface()) {
+        QAccessibleValueChangeEvent event(interface, number->currentValue());
+        QAccessible::updateAccessibility(&event);
+        return;
+    }
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+    QAccessibleValueChangeEvent event(interface, interface->text(QAccessible::Value));
+#else
+    // AT-SPI has no values in text, and Qt's bridge complains of one. The description says it too.
+    QAccessibleEvent event(interface, QAccessible::DescriptionChanged);
+#endif
+    QAccessible::updateAccessibility(&event);
+}
+
+/// Holds back what changes during a drag.
+class UntilRelease : public QObject // clazy:exclude=missing-qobject-macro
+{
+public:
+    static void hold(QWidget* widget, int index)
+    {
+        static QPointer<UntilRelease> running;
+        if (!running) {
+            running = new UntilRelease(QCoreApplication::instance());
+        }
+        running->add(widget, index);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease && QGuiApplication::mouseButtons() == Qt::NoButton &&
+            !m_changes.isEmpty()) {
+            // What the release itself changes belongs to the drag.
+            QMetaObject::invokeMethod(
+                this, [this] { sendAll(); }, Qt::QueuedConnection);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    struct Change
+    {
+        QPointer<QWidget> widget;
+        int index;
+    };
+
+    explicit UntilRelease(QCoreApplication* application)
+        : QObject(application)
+    {
+    }
+
+    void add(QWidget* widget, int index)
+    {
+        if (m_changes.isEmpty()) {
+            parent()->installEventFilter(this);
+        }
+        for (const Change& change : qAsConst(m_changes)) {
+            if (change.widget == widget && change.index == index) {
+                return;
+            }
+        }
+        m_changes.append({widget, index});
+    }
+
+    void sendAll()
+    {
+        const auto changes = std::exchange(m_changes, {});
+        parent()->removeEventFilter(this);
+        for (const Change& change : changes) {
+            if (change.widget) {
+                send(change.widget, change.index);
+            }
+        }
+    }
+
+    QVector<Change> m_changes;
+};
+
+} // namespace
+
+void AccessibleEvents::valueChanged(QWidget* widget, int index)
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) {
+        send(widget, index);
+    } else {
+        UntilRelease::hold(widget, index);
+    }
+}
+
+void AccessibleEvents::alert(QWidget* widget)
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    for (const auto type : {QAccessible::DescriptionChanged, QAccessible::Alert}) {
+        QAccessibleEvent event(widget, type);
+        QAccessible::updateAccessibility(&event);
+    }
+}

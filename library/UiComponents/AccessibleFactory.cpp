@@ -1,0 +1,133 @@
+#include "AccessibleFactory.h"
+
+#include "AccessibleNames.h"
+#include "AccessibleParts.h"
+#include "AccessiblePlane.h"
+#include "AccessibleScene.h"
+#include "ColorButton.h"
+#include "ColorPickerWidget.h"
+#include "ColorPlaneWidget.h"
+#include "GuidePicture.h"
+#include "PlaneDrag.h"
+#include "PointSelectionPlane.h"
+#include "SceneView.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPointer>
+
+namespace {
+
+class Registration
+{
+public:
+    Registration() = default;
+    ~Registration() { QAccessible::removeFactory(AccessibleFactory::interfaceFor); }
+    Registration(const Registration&) = delete;
+    Registration& operator=(const Registration&) = delete;
+
+    void renew()
+    {
+        // Qt forgets all factories with the application.
+        if (m_application != QCoreApplication::instance()) {
+            m_application = QCoreApplication::instance();
+            QAccessible::installFactory(AccessibleFactory::interfaceFor);
+        }
+    }
+
+private:
+    QPointer<QCoreApplication> m_application;
+};
+
+constexpr std::array<const char*, 2> pointAxes{QT_TRANSLATE_NOOP("PointSelectorWidget", "x"),
+                                               QT_TRANSLATE_NOOP("PointSelectorWidget", "y")};
+constexpr std::array<const char*, 2> colorAxes{QT_TRANSLATE_NOOP("CustomColorSelectWidget", "Saturation"),
+                                               QT_TRANSLATE_NOOP("CustomColorSelectWidget", "Brightness")};
+
+/// Components that are groups of their parts.
+bool isGroup(const QString& className)
+{
+    static const QStringList groups{QStringLiteral("ColorInputWidget"),
+                                    QStringLiteral("ColorPickerWidget"),
+                                    QStringLiteral("CustomColorSelectWidget"),
+                                    QStringLiteral("SliderInputWidget"),
+                                    QStringLiteral("DoubleSliderInputWidget"),
+                                    QStringLiteral("PointSelectorWidget"),
+                                    QStringLiteral("PathSelectionWidget"),
+                                    QStringLiteral("SearchWidget"),
+                                    QStringLiteral("GuideWidget")};
+    return groups.contains(className);
+}
+
+QAccessibleInterface* partFor(const QString& className, QWidget* widget)
+{
+    if (auto* const button = qobject_cast<QAbstractButton*>(widget)) {
+        const bool isChoice = dynamic_cast<ColorButton*>(widget) != nullptr;
+        return new AccessibleButton(button, isChoice ? QAccessible::RadioButton : QAccessible::Button);
+    }
+    if (auto* const slider = qobject_cast<QAbstractSlider*>(widget)) {
+        return new AccessibleSlider(slider);
+    }
+    if (auto* const box = qobject_cast<QAbstractSpinBox*>(widget)) {
+        return new AccessibleSpinBox(box);
+    }
+    if (auto* const edit = qobject_cast<QLineEdit*>(widget)) {
+        return new AccessibleLineEdit(edit);
+    }
+    if (widget->objectName() == QLatin1String("currentColorDisplayLabel")) {
+        return new AccessibleColor(widget, QAccessible::Graphic);
+    }
+    if (auto* const picture = dynamic_cast<GuidePicture*>(widget)) {
+        return new AccessiblePicture(picture);
+    }
+    if (auto* const message = qobject_cast<QLabel*>(widget)) {
+        return new AccessibleMessage(message);
+    }
+    return className == QLatin1String("OvFrame") ? new AccessiblePart(widget, QAccessible::Grouping)
+                                                 : nullptr;
+}
+
+} // namespace
+
+void AccessibleFactory::install()
+{
+    static Registration registration;
+    registration.renew();
+}
+
+QAccessibleInterface* AccessibleFactory::interfaceFor(const QString& className, QObject* object)
+{
+    auto* const widget = qobject_cast<QWidget*>(object);
+    if (!widget) {
+        return nullptr;
+    }
+    if (isGroup(className)) {
+        return new AccessiblePart(widget, QAccessible::Grouping);
+    }
+    if (className == QLatin1String("ColorPickerButton") || className == QLatin1String("GuideButton") ||
+        className == QLatin1String("WidgetColorPickerButton")) {
+        return new AccessibleButton(qobject_cast<QAbstractButton*>(widget), QAccessible::Button);
+    }
+    if (auto* const plane = qobject_cast<PointSelectionPlane*>(widget)) {
+        return new AccessiblePlane(plane, PlaneDrag::of(plane), "PointSelectorWidget", pointAxes);
+    }
+    if (auto* const plane = qobject_cast<ColorPlaneWidget*>(widget)) {
+        return new AccessiblePlane(plane, PlaneDrag::of(plane), "CustomColorSelectWidget", colorAxes);
+    }
+    if (auto* const view = dynamic_cast<SceneView*>(widget)) {
+        return new AccessibleScene(view);
+    }
+    if (className == QLatin1String("Qml::QuickDialog")) {
+        return new AccessibleQuickDialog(widget);
+    }
+    const bool isSelector = className == QLatin1String("QDialog") && widget->windowType() == Qt::Popup &&
+                            qobject_cast<ColorPickerWidget*>(widget->parentWidget());
+    if (className == QLatin1String("PointingWidget") || isSelector) {
+        return new AccessiblePopup(widget);
+    }
+    const bool isPart = AccessibleNames::hasEntry(widget) || dynamic_cast<ColorButton*>(widget);
+    return isPart ? partFor(className, widget) : nullptr;
+}

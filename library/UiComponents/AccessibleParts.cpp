@@ -1,0 +1,590 @@
+#include "AccessibleParts.h"
+
+#include "AccessibleNames.h"
+#include "ColorButton.h"
+#include "ColorNames.h"
+#include "ColorPickerButton.h"
+#include "ColorPickerWidget.h"
+#include "ColorPlaneWidget.h"
+#include "GuidePicture.h"
+#include "WidgetColorPickerButton.h"
+
+#include <WidgetToolkit/OvDoubleSlider.h>
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLocale>
+#include <QTextDocument>
+#include <QVariant>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+QString sentences(const QString& first, const QString& second)
+{
+    return first.isEmpty() || second.isEmpty() ? first + second : first + QStringLiteral(". ") + second;
+}
+
+QAccessibleInterface* interfaceOf(QWidget* widget)
+{
+    return widget ? QAccessible::queryAccessibleInterface(widget) : nullptr;
+}
+
+QLabel* labelOf(const QWidget* widget)
+{
+    const QWidget* const outer = widget->parentWidget();
+    const auto labels =
+        outer ? outer->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly) : QList<QLabel*>();
+    for (QLabel* label : labels) {
+        if (label->buddy() == widget) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+/// The message of the folder field that @p edit belongs to, while the field shows one.
+QString errorOf(const QWidget* edit)
+{
+    const QWidget* const field = AccessibleNames::componentOf(edit);
+    const auto* const frame = edit->parentWidget();
+    if (!field || !field->inherits("PathSelectionWidget") ||
+        frame->property("styleHint").toString() != QLatin1String("error")) {
+        return {};
+    }
+    const auto* const label = field->findChild<QLabel*>(QStringLiteral("errorLabel"));
+    if (label && !label->isHidden()) {
+        return label->text();
+    }
+    QTextDocument tip;
+    tip.setHtml(edit->toolTip());
+    return tip.toPlainText();
+}
+
+} // namespace
+
+QString AccessiblePart::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Name) {
+        return AccessibleNames::nameOf(widget());
+    }
+    const QString said = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Description ? sentences(said, AccessibleNames::hintOf(widget())) : said;
+}
+
+QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+AccessiblePart::relations(QAccessible::Relation match) const
+{
+    auto found = QAccessibleWidget::relations(match);
+    QWidget* const component = AccessibleNames::componentOf(widget());
+    if (!match.testFlag(QAccessible::Label) || !found.isEmpty() || !component) {
+        return found;
+    }
+    // The label leads to the component, and that hands its focus on.
+    if (QAccessibleInterface* const label = interfaceOf(labelOf(component))) {
+        found.append({label, QAccessible::Label});
+    }
+    return found;
+}
+
+int AccessiblePart::childCount() const
+{
+    return QAccessibleWidget::childCount() + popups().size();
+}
+
+QAccessibleInterface* AccessiblePart::child(int index) const
+{
+    const int beyond = index - QAccessibleWidget::childCount();
+    const QVector<QWidget*> open = beyond < 0 ? QVector<QWidget*>() : popups();
+    return beyond >= 0 && beyond < open.size() ? interfaceOf(open.at(beyond))
+                                               : QAccessibleWidget::child(index);
+}
+
+int AccessiblePart::indexOfChild(const QAccessibleInterface* child) const
+{
+    const int place = child ? popups().indexOf(qobject_cast<QWidget*>(child->object())) : -1;
+    return place < 0 ? QAccessibleWidget::indexOfChild(child) : QAccessibleWidget::childCount() + place;
+}
+
+QVector<QWidget*> AccessiblePart::popups() const
+{
+    QVector<QWidget*> open;
+    const auto children = widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    std::copy_if(children.cbegin(), children.cend(), std::back_inserter(open),
+                 [](const QWidget* child) { return child->windowType() == Qt::Popup && child->isVisible(); });
+    return open;
+}
+
+QString AccessibleColor::text(QAccessible::Text kind) const
+{
+    const QString color = spokenColor();
+    if (kind == QAccessible::Value) {
+        return color;
+    }
+    const QString said = AccessiblePart::text(kind);
+    return kind == QAccessible::Description ? sentences(color, said) : said;
+}
+
+QString AccessibleColor::spokenColor() const
+{
+    const auto* const panel = qobject_cast<ColorPickerWidget*>(AccessibleNames::componentOf(widget()));
+    return panel ? ColorNames::valueText(panel->currentColor()) : QString();
+}
+
+AccessibleMessage::AccessibleMessage(QLabel* label)
+    : AccessiblePart(label, QAccessible::AlertMessage)
+{
+}
+
+QString AccessibleMessage::text(QAccessible::Text kind) const
+{
+    return kind == QAccessible::Name ? qobject_cast<QLabel*>(object())->text() : AccessiblePart::text(kind);
+}
+
+AccessibleButton::AccessibleButton(QAbstractButton* button, QAccessible::Role role)
+    : AccessibleColor(button, role)
+{
+}
+
+QString AccessibleButton::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Name) {
+        const auto* const choice = dynamic_cast<const ColorButton*>(widget());
+        // The tool tip of a host says more than a part's general name, and less than a label.
+        const QString general = AccessibleNames::nameOf(widget());
+        const bool isLabelled = !spokenColor().isEmpty();
+        for (const QString& name :
+             {widget()->accessibleName(), choice ? choice->spokenColor() : button()->text(),
+              isLabelled ? general : widget()->toolTip(), isLabelled ? widget()->toolTip() : general}) {
+            if (!name.isEmpty()) {
+                return name;
+            }
+        }
+        return {};
+    }
+    if (kind == QAccessible::Description && text(QAccessible::Name) == widget()->toolTip() &&
+        widget()->accessibleDescription().isEmpty()) {
+        // Qt takes the tool tip for it too.
+        return sentences(spokenColor(), AccessibleNames::hintOf(widget()));
+    }
+    return AccessibleColor::text(kind);
+}
+
+QString AccessibleButton::spokenColor() const
+{
+    if (const auto* const field = qobject_cast<ColorPickerButton*>(widget())) {
+        return ColorNames::valueText(field->color());
+    }
+    if (const auto* const picking = qobject_cast<WidgetColorPickerButton*>(widget())) {
+        return sentences(ColorNames::valueText(picking->color()),
+                         QCoreApplication::translate("WidgetColorPickerButton", "Needs a mouse"));
+    }
+    return {};
+}
+
+QAccessible::State AccessibleButton::state() const
+{
+    QAccessible::State state = AccessibleColor::state();
+    state.checkable = button()->isCheckable();
+    state.checked = button()->isChecked();
+    state.pressed = button()->isDown();
+    return state;
+}
+
+QStringList AccessibleButton::actionNames() const
+{
+    QStringList names;
+    if (widget()->isEnabled()) {
+        names.append(button()->isCheckable() ? toggleAction() : pressAction());
+    }
+    return names + AccessibleColor::actionNames();
+}
+
+void AccessibleButton::doAction(const QString& actionName)
+{
+    if (actionName != pressAction() && actionName != toggleAction()) {
+        AccessibleColor::doAction(actionName);
+    } else if (button()->isCheckable()) {
+        button()->click();
+    } else {
+        // A pick may run an event loop of its own, and who asks is not to wait for it.
+        button()->animateClick();
+    }
+}
+
+QAbstractButton* AccessibleButton::button() const
+{
+    return qobject_cast<QAbstractButton*>(object());
+}
+
+AccessiblePopup::AccessiblePopup(QWidget* popup)
+    : AccessiblePart(popup, QAccessible::Dialog)
+{
+}
+
+QAccessibleInterface* AccessiblePopup::parent() const
+{
+    return widget()->windowType() == Qt::Popup && widget()->parentWidget()
+               ? interfaceOf(widget()->parentWidget())
+               : AccessiblePart::parent();
+}
+
+QString AccessiblePopup::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Name) {
+        const bool isSelector = widget()->findChild<ColorPlaneWidget*>() != nullptr;
+        return isSelector ? QCoreApplication::translate("ColorPickerWidget", "Choose another colour")
+                          : widget()->windowTitle();
+    }
+    if (kind != QAccessible::Description) {
+        return AccessiblePart::text(kind);
+    }
+    QString said;
+    for (const char* name : {"descriptionLabel", "learnMoreLabel"}) {
+        const auto* const label = widget()->findChild<QLabel*>(QLatin1String(name));
+        if (label && !label->isHidden()) {
+            said = sentences(said, AccessibleNames::plainText(label));
+        }
+    }
+    return said;
+}
+
+AccessiblePicture::AccessiblePicture(GuidePicture* picture)
+    : AccessiblePart(picture, QAccessible::Animation)
+{
+}
+
+QString AccessiblePicture::text(QAccessible::Text kind) const
+{
+    if (kind != QAccessible::Description && kind != QAccessible::Value) {
+        return AccessiblePart::text(kind);
+    }
+    return picture()->isPlaying() ? QCoreApplication::translate("GuideWidget", "Playing; Space pauses it")
+                                  : QCoreApplication::translate("GuideWidget", "Paused; Space plays it");
+}
+
+QAccessible::State AccessiblePicture::state() const
+{
+    QAccessible::State state = AccessiblePart::state();
+    state.animated = picture()->isPlaying();
+    return state;
+}
+
+QStringList AccessiblePicture::actionNames() const
+{
+    return QStringList{pressAction()} + AccessiblePart::actionNames();
+}
+
+void AccessiblePicture::doAction(const QString& actionName)
+{
+    if (actionName == pressAction()) {
+        picture()->toggle();
+    } else {
+        AccessiblePart::doAction(actionName);
+    }
+}
+
+GuidePicture* AccessiblePicture::picture() const
+{
+    return static_cast<GuidePicture*>(object());
+}
+
+AccessibleSlider::AccessibleSlider(QAbstractSlider* slider)
+    : AccessiblePart(slider, QAccessible::Slider)
+{
+}
+
+void* AccessibleSlider::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                               : AccessiblePart::interface_cast(type);
+}
+
+QString AccessibleSlider::text(QAccessible::Text kind) const
+{
+    return kind == QAccessible::Value ? QLocale().toString(currentValue().toDouble(), 'g', 6)
+                                      : AccessiblePart::text(kind);
+}
+
+QVariant AccessibleSlider::currentValue() const
+{
+    const auto* const fractional = qobject_cast<OvDoubleSlider*>(object());
+    return fractional ? QVariant(fractional->doubleValue()) : QVariant(slider()->value());
+}
+
+void AccessibleSlider::setCurrentValue(const QVariant& value)
+{
+    if (auto* const fractional = qobject_cast<OvDoubleSlider*>(object())) {
+        fractional->setDoubleValue(value.toDouble());
+    } else {
+        slider()->setValue(qRound(value.toDouble()));
+    }
+}
+
+QVariant AccessibleSlider::minimumValue() const
+{
+    return inUnits(slider()->minimum());
+}
+
+QVariant AccessibleSlider::maximumValue() const
+{
+    return inUnits(slider()->maximum());
+}
+
+QVariant AccessibleSlider::minimumStepSize() const
+{
+    return inUnits(slider()->singleStep());
+}
+
+QAbstractSlider* AccessibleSlider::slider() const
+{
+    return qobject_cast<QAbstractSlider*>(object());
+}
+
+QVariant AccessibleSlider::inUnits(int step) const
+{
+    const auto* const fractional = qobject_cast<OvDoubleSlider*>(object());
+    return fractional ? QVariant(step * fractional->multiplier()) : QVariant(step);
+}
+
+AccessibleSpinBox::AccessibleSpinBox(QAbstractSpinBox* box)
+    : AccessiblePart(box, QAccessible::SpinBox)
+    , m_edit(new AccessibleLineEdit(box->findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)))
+{
+}
+
+AccessibleSpinBox::~AccessibleSpinBox() = default;
+
+void* AccessibleSpinBox::interface_cast(QAccessible::InterfaceType type)
+{
+    switch (type) {
+    case QAccessible::ValueInterface:
+        return static_cast<QAccessibleValueInterface*>(this);
+    case QAccessible::TextInterface:
+    case QAccessible::EditableTextInterface:
+        return m_edit->interface_cast(type);
+    default:
+        return AccessiblePart::interface_cast(type);
+    }
+}
+
+QString AccessibleSpinBox::text(QAccessible::Text kind) const
+{
+    return kind == QAccessible::Value ? qobject_cast<QAbstractSpinBox*>(object())->text()
+                                      : AccessiblePart::text(kind);
+}
+
+QAccessible::State AccessibleSpinBox::state() const
+{
+    QAccessible::State state = AccessiblePart::state();
+    const auto* const box = qobject_cast<QAbstractSpinBox*>(object());
+    state.readOnly = box->isReadOnly();
+    state.editable = !box->isReadOnly();
+    return state;
+}
+
+QVariant AccessibleSpinBox::currentValue() const
+{
+    return property("value");
+}
+
+void AccessibleSpinBox::setCurrentValue(const QVariant& value)
+{
+    object()->setProperty("value", value);
+}
+
+QVariant AccessibleSpinBox::minimumValue() const
+{
+    return property("minimum");
+}
+
+QVariant AccessibleSpinBox::maximumValue() const
+{
+    return property("maximum");
+}
+
+QVariant AccessibleSpinBox::minimumStepSize() const
+{
+    return property("singleStep");
+}
+
+QVariant AccessibleSpinBox::property(const char* name) const
+{
+    return object()->property(name);
+}
+
+AccessibleLineEdit::AccessibleLineEdit(QLineEdit* edit)
+    : AccessiblePart(edit, QAccessible::EditableText)
+{
+}
+
+void* AccessibleLineEdit::interface_cast(QAccessible::InterfaceType type)
+{
+    switch (type) {
+    case QAccessible::TextInterface:
+        return static_cast<QAccessibleTextInterface*>(this);
+    case QAccessible::EditableTextInterface:
+        return edit()->isReadOnly() ? nullptr : static_cast<QAccessibleEditableTextInterface*>(this);
+    default:
+        return AccessiblePart::interface_cast(type);
+    }
+}
+
+QString AccessibleLineEdit::text(QAccessible::Text kind) const
+{
+    switch (kind) {
+    case QAccessible::Value:
+        return edit()->text();
+    case QAccessible::Name: {
+        const QString name = AccessiblePart::text(kind);
+        return name.isEmpty() ? edit()->placeholderText() : name;
+    }
+    case QAccessible::Description: {
+        const QString error = errorOf(edit());
+        return error.isEmpty() ? AccessiblePart::text(kind) : error;
+    }
+    default:
+        return AccessiblePart::text(kind);
+    }
+}
+
+void AccessibleLineEdit::setText(QAccessible::Text kind, const QString& text)
+{
+    if (kind == QAccessible::Value) {
+        enter(text);
+    } else {
+        AccessiblePart::setText(kind, text);
+    }
+}
+
+QAccessible::State AccessibleLineEdit::state() const
+{
+    QAccessible::State state = AccessiblePart::state();
+    state.readOnly = edit()->isReadOnly();
+    state.editable = !edit()->isReadOnly();
+    state.selectableText = true;
+    state.searchEdit = edit()->objectName() == QLatin1String("searchLineEdit");
+    state.invalid = !errorOf(edit()).isEmpty();
+    return state;
+}
+
+void AccessibleLineEdit::selection(int selectionIndex, int* startOffset, int* endOffset) const
+{
+    const bool isThere = selectionIndex == 0 && edit()->hasSelectedText();
+    *startOffset = isThere ? edit()->selectionStart() : 0;
+    *endOffset = isThere ? edit()->selectionEnd() : 0;
+}
+
+int AccessibleLineEdit::selectionCount() const
+{
+    return edit()->hasSelectedText() ? 1 : 0;
+}
+
+void AccessibleLineEdit::addSelection(int startOffset, int endOffset)
+{
+    setSelection(0, startOffset, endOffset);
+}
+
+void AccessibleLineEdit::removeSelection(int selectionIndex)
+{
+    if (selectionIndex == 0) {
+        edit()->deselect();
+    }
+}
+
+void AccessibleLineEdit::setSelection(int selectionIndex, int startOffset, int endOffset)
+{
+    if (selectionIndex == 0) {
+        edit()->setSelection(startOffset, endOffset - startOffset);
+    }
+}
+
+int AccessibleLineEdit::cursorPosition() const
+{
+    return edit()->cursorPosition();
+}
+
+void AccessibleLineEdit::setCursorPosition(int position)
+{
+    edit()->setCursorPosition(position);
+}
+
+QString AccessibleLineEdit::text(int startOffset, int endOffset) const
+{
+    return startOffset > endOffset ? QString() : edit()->text().mid(startOffset, endOffset - startOffset);
+}
+
+int AccessibleLineEdit::characterCount() const
+{
+    return edit()->text().size();
+}
+
+/// By the place of the caret there, which is all that a line edit tells.
+QRect AccessibleLineEdit::characterRect(int offset) const
+{
+    if (offset < 0 || offset >= characterCount()) {
+        return {};
+    }
+    const QFontMetrics metrics = edit()->fontMetrics();
+    const QRect box = edit()->rect();
+    const QRect caret = edit()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    const int fromCaret = metrics.horizontalAdvance(edit()->text().left(offset)) -
+                          metrics.horizontalAdvance(edit()->text().left(edit()->cursorPosition()));
+    const QRect local(caret.x() + fromCaret, box.center().y() - metrics.height() / 2,
+                      metrics.horizontalAdvance(edit()->text().at(offset)), metrics.height());
+    return {edit()->mapToGlobal(local.topLeft()), local.size()};
+}
+
+int AccessibleLineEdit::offsetAtPoint(const QPoint& point) const
+{
+    const QPoint local = edit()->mapFromGlobal(point);
+    return edit()->rect().contains(local) ? edit()->cursorPositionAt(local) : -1;
+}
+
+void AccessibleLineEdit::scrollToSubstring(int startIndex, int endIndex)
+{
+    edit()->setCursorPosition(endIndex);
+    edit()->setCursorPosition(startIndex);
+}
+
+QString AccessibleLineEdit::attributes(int offset, int* startOffset, int* endOffset) const
+{
+    const bool isThere = offset >= 0 && offset <= characterCount();
+    *startOffset = isThere ? 0 : -1;
+    *endOffset = isThere ? characterCount() : -1;
+    return {};
+}
+
+void AccessibleLineEdit::deleteText(int startOffset, int endOffset)
+{
+    replaceText(startOffset, endOffset, QString());
+}
+
+void AccessibleLineEdit::insertText(int offset, const QString& text)
+{
+    replaceText(offset, offset, text);
+}
+
+void AccessibleLineEdit::replaceText(int startOffset, int endOffset, const QString& text)
+{
+    // Without a selection, insert() goes by the caret.
+    edit()->setCursorPosition(startOffset);
+    edit()->setSelection(startOffset, endOffset - startOffset);
+    edit()->insert(text);
+}
+
+QLineEdit* AccessibleLineEdit::edit() const
+{
+    return qobject_cast<QLineEdit*>(object());
+}
+
+/// As if it were typed: it is validated, and reported as an edit.
+void AccessibleLineEdit::enter(const QString& text)
+{
+    edit()->selectAll();
+    edit()->insert(text);
+}

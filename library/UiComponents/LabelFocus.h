@@ -1,0 +1,19 @@
+// Internal: how the label of a component with several parts leads to the first of them.
+
+#pragma once
+
+#include <QWidget>
+
+namespace LabelFocus {
+
+/// A label asks its buddy's own policy whether there is anything to focus. With this one only labels and
+/// setFocus() lead to the component: Tab goes to its parts, and a click or wheel beside them nowhere.
+constexpr auto policy = static_cast<Qt::FocusPolicy>(Qt::WheelFocus & ~Qt::StrongFocus);
+
+inline void lead(QWidget* component, QWidget* part)
+{
+    component->setFocusPolicy(policy);
+    component->setFocusProxy(part);
+}
+
+} // namespace LabelFocus
