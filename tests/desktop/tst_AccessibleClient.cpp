@@ -1,0 +1,286 @@
+#include "RealInput.h"
+#include "TestMain.h"
+
+#include <UiComponents/AbstractColorPicker.h>
+#include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/GuideButton.h>
+#include <UiComponents/PathSelectionWidget.h>
+#include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/SearchWidget.h>
+#include <UiComponents/SliderInputWidget.h>
+
+#include <QEventLoop>
+#include <QFormLayout>
+#include <QLabel>
+#include <QProcess>
+#include <QTimer>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+constexpr int answerLimitMs = 60000;
+
+/// An assistive technology, which knows of this program what the message bus tells it.
+class Client
+{
+public:
+    Client()
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(UIC_ATSPI_CLIENT),
+                        {QString::number(QCoreApplication::applicationPid())});
+    }
+    ~Client()
+    {
+        m_process.closeWriteChannel();
+        m_process.waitForFinished();
+    }
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+
+    /// Whether it is ready, and everybody on the bus knows what it wants to hear.
+    bool isListening()
+    {
+        answer();
+        return m_process.state() == QProcess::Running;
+    }
+
+    QStringList ask(const QStringList& command)
+    {
+        m_process.write(command.join(QLatin1Char('\t')).toUtf8() + '\n');
+        return answer();
+    }
+
+    QStringList heard() { return ask({QStringLiteral("heard")}); }
+    QStringList tree(const QString& name) { return ask({QStringLiteral("tree"), name}); }
+
+private:
+    /// The event loop runs meanwhile: it is this program that the client asks, a thousand times for a tree.
+    QStringList answer()
+    {
+        QStringList lines;
+        QEventLoop loop;
+        const auto read = [&] {
+            while (m_process.canReadLine()) {
+                lines += QString::fromUtf8(m_process.readLine()).chopped(1);
+            }
+            if (lines.endsWith(QStringLiteral("."))) {
+                loop.quit();
+            }
+        };
+        QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &loop, read);
+        QObject::connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &loop,
+                         &QEventLoop::quit);
+        QTimer::singleShot(answerLimitMs, &loop, &QEventLoop::quit);
+        if (m_process.state() != QProcess::NotRunning) {
+            loop.exec();
+        }
+        return lines.endsWith(QStringLiteral(".")) ? lines.mid(0, lines.size() - 1) : QStringList();
+    }
+
+    QProcess m_process;
+};
+
+/// A window as a host's, with a labelled field of each kind.
+class Form : public QWidget
+{
+public:
+    Form()
+    {
+        m_layout->addRow(QStringLiteral("&Fill:"), fill);
+        m_layout->addRow(QStringLiteral("&Level:"), level);
+        m_layout->addRow(QStringLiteral("&Gain:"), gain);
+        m_layout->addRow(QStringLiteral("&Position:"), position);
+        m_layout->addRow(QStringLiteral("&Search:"), search);
+        m_layout->addRow(QStringLiteral("&Export to:"), folder);
+        m_layout->addRow(QStringLiteral("&Title colour:"), panel);
+        position->setValue({0.25, 0.5});
+        gain->setValue(0.4);
+        level->setValue(40);
+        panel->setCurrentColor(QColor(0xff, 0x5d, 0x00));
+    }
+
+private:
+    QFormLayout* const m_layout = new QFormLayout(this);
+
+public:
+    ColorInputWidget* const fill = new ColorInputWidget(this, QColor(0xff, 0x80, 0x40, 128));
+    SliderInputWidget* const level = new SliderInputWidget(this, {0, 100});
+    DoubleSliderInputWidget* const gain = new DoubleSliderInputWidget(this, {0.0, 1.0, 2});
+    PointSelectorWidget* const position = new PointSelectorWidget(this, {{0.0, 0.0}, {1.0, 1.0}, 2, 2});
+    SearchWidget* const search = new SearchWidget(this);
+    PathSelectionWidget* const folder = new PathSelectionWidget(this);
+    ColorPickerWidget* const panel = new ColorPickerWidget(this, false);
+};
+
+} // namespace
+
+/**
+ * What a real client of the desktop's accessibility hears of the components.
+ */
+class tst_AccessibleClient : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void reads_data();
+    void reads();
+    void sets();
+    void keyboardAlone();
+};
+
+void tst_AccessibleClient::initTestCase()
+{
+    Q_INIT_RESOURCE(translations);
+}
+
+void tst_AccessibleClient::reads_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("transcript");
+    QTest::newRow("English") << QString()
+                             << QStringList{
+                                    QStringLiteral("push button Fill (orange, #ff8040, 50 %)"),
+                                    QStringLiteral("slider Level = 40"),
+                                    QStringLiteral("spin button Level, number = 40"),
+                                    QStringLiteral("slider Gain = 0.4"),
+                                    QStringLiteral("spin button Gain, number = 0.4"),
+                                    QStringLiteral("slider Position, x = 0.25"),
+                                    QStringLiteral("spin button Position, y = 0.5 (Position on the y-axis)"),
+                                    QStringLiteral("push button Export to, Choose a folder"),
+                                    QStringLiteral("push button Pick a colour from the screen (Needs a "
+                                                   "mouse; without one, type the colour value)"),
+                                    QStringLiteral("radio button orange, #ff5d00"),
+                                    QStringLiteral("spin button Opacity in percent = 100"),
+                                };
+    QTest::newRow("German") << QStringLiteral("de")
+                            << QStringList{
+                                   QStringLiteral("push button Fill (Orange, #ff8040, 50 %)"),
+                                   QStringLiteral("spin button Level, Zahl = 40"),
+                                   QStringLiteral("spin button Position, y = 0.5 (Position auf der y-Achse)"),
+                                   QStringLiteral("push button Export to, Ordner wählen"),
+                                   QStringLiteral("radio button Orange, #ff5d00"),
+                                   QStringLiteral("radio button dunkles Rot, #760000"),
+                                   QStringLiteral("spin button Deckkraft in Prozent = 100"),
+                               };
+    QTest::newRow("Japanese") << QStringLiteral("ja")
+                              << QStringList{
+                                     QStringLiteral("push button Fill (オレンジ、#ff8040、50%)"),
+                                     QStringLiteral("spin button Level、数値 = 40"),
+                                     QStringLiteral("push button Export to、フォルダーを選択"),
+                                     QStringLiteral("radio button オレンジ、#ff5d00"),
+                                     QStringLiteral("radio button 暗い赤、#760000"),
+                                     QStringLiteral("spin button 不透明度（パーセント） = 100"),
+                                 };
+}
+
+void tst_AccessibleClient::reads()
+{
+    QFETCH(QString, language);
+    QFETCH(QStringList, transcript);
+    QTranslator translator;
+    if (!language.isEmpty()) {
+        QVERIFY(translator.load(QStringLiteral(":/translations/uicomponents_%1.qm").arg(language)));
+        QCoreApplication::installTranslator(&translator);
+    }
+    Form form;
+    form.setWindowTitle(QStringLiteral("Clip"));
+    QVERIFY(RealInput::showAndActivate(&form));
+    Client client;
+    QVERIFY(client.isListening());
+    QStringList lines = client.tree(QStringLiteral("Clip"));
+    QCoreApplication::removeTranslator(&translator);
+    for (QString& line : lines) {
+        line = line.trimmed();
+    }
+    for (const QString& expected : qAsConst(transcript)) {
+        QVERIFY2(lines.contains(expected),
+                 qPrintable(expected + QStringLiteral("\n\nis not in\n") + lines.join(QLatin1Char('\n'))));
+    }
+}
+
+void tst_AccessibleClient::sets()
+{
+    Form form;
+    form.setWindowTitle(QStringLiteral("Clip"));
+    QVERIFY(RealInput::showAndActivate(&form));
+    Client client;
+    QVERIFY(client.isListening());
+    QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
+    QSignalSpy positions(form.position, &PointSelectorWidget::valueChanged);
+    client.heard();
+    client.ask(
+        {QStringLiteral("set"), QStringLiteral("Gain"), QStringLiteral("slider"), QStringLiteral("0.7")});
+    QTRY_VERIFY(!gains.isEmpty());
+    QCOMPARE(gains.constLast().constFirst().toDouble(), 0.7);
+    client.ask({QStringLiteral("set"), QStringLiteral("Position, x"), QStringLiteral("slider"),
+                QStringLiteral("0.75")});
+    QTRY_VERIFY(!positions.isEmpty());
+    QCOMPARE(positions.constLast().constFirst().toPointF(), QPointF(0.75, 0.5));
+    QStringList heard;
+    QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Position, x: 0.75")),
+                 qPrintable(heard.join(QLatin1Char('\n'))));
+    client.ask({QStringLiteral("press"), QStringLiteral("red, #ff0000")});
+    QTRY_COMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::red)));
+    QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Current colour: red, #ff0000")),
+                 qPrintable(heard.join(QLatin1Char('\n'))));
+}
+
+// A user without a mouse and without eyes fills the form in.
+void tst_AccessibleClient::keyboardAlone()
+{
+    Form form;
+    form.setWindowTitle(QStringLiteral("Clip"));
+    QVERIFY(RealInput::showAndActivate(&form));
+    Client client;
+    QVERIFY(client.isListening());
+    QStringList heard;
+    const auto hears = [&](const QString& text) {
+        return QTest::qWaitFor([&] { return (heard += client.heard()).contains(text); }, 5000);
+    };
+    const auto goTo = [&](const char* chord, const char* name) {
+        heard.clear();
+        return RealInput::key(QLatin1String(chord)) && hears(QLatin1String(name) + QStringLiteral("!"));
+    };
+    QSignalSpy levels(form.level, &SliderInputWidget::valueChanged);
+    QVERIFY2(goTo("alt+l", "Level"), qPrintable(heard.join(QLatin1Char('\n'))));
+    QVERIFY(RealInput::key(QStringLiteral("Right")));
+    QVERIFY2(hears(QStringLiteral("Level: 41")), qPrintable(heard.join(QLatin1Char('\n'))));
+    QCOMPARE(levels.constLast().constFirst().toInt(), 41);
+
+    QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
+    QVERIFY(goTo("alt+g", "Gain"));
+    QVERIFY(RealInput::key(QStringLiteral("Right")));
+    QVERIFY2(hears(QStringLiteral("Gain: 0.41")), qPrintable(heard.join(QLatin1Char('\n'))));
+    QCOMPARE(gains.constLast().constFirst().toDouble(), 0.41);
+
+    QSignalSpy positions(form.position, &PointSelectorWidget::valueChanged);
+    QVERIFY(goTo("alt+p", "Position"));
+    QVERIFY(RealInput::key(QStringLiteral("End")));
+    QVERIFY2(hears(QStringLiteral("Position, x: 1")), qPrintable(heard.join(QLatin1Char('\n'))));
+    QCOMPARE(positions.constLast().constFirst().toPointF(), QPointF(1.0, 0.5));
+
+    QVERIFY(goTo("alt+s", "Search"));
+    QVERIFY(RealInput::type(QStringLiteral("blur")));
+    QTRY_COMPARE(form.search->text(), QStringLiteral("blur"));
+
+    QVERIFY(goTo("alt+e", "Export to"));
+    QVERIFY(RealInput::type(QStringLiteral("/tmp")));
+    QTRY_COMPARE(form.folder->path(), QStringLiteral("/tmp"));
+
+    QVERIFY(goTo("alt+t", "Colour value"));
+    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+    QVERIFY(RealInput::type(QStringLiteral("#0000ff")));
+    QVERIFY2(hears(QStringLiteral("Current colour: blue, #0000ff")),
+             qPrintable(heard.join(QLatin1Char('\n'))));
+    QCOMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::blue)));
+    QCOMPARE(heard.count(QStringLiteral("Current colour: blue, #0000ff")), 1);
+}
+
+UIC_TEST_MAIN(tst_AccessibleClient)
+#include "tst_AccessibleClient.moc"
