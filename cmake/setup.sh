@@ -10,7 +10,10 @@ uic_packages()
             build)
                 echo g++ cmake ninja-build qtbase5-dev qtbase5-private-dev qttools5-dev qttools5-dev-tools
                 echo qtdeclarative5-dev libqt5x11extras5-dev libxcb1-dev libgoogle-glog-dev ;;
-            run | unit | gallery)
+            unit)
+                echo dbus-daemon fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 \
+                    qml-module-qtquick-window2 ;;
+            run | gallery)
                 echo fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
             wayland)
                 echo qtwayland5 ;;

@@ -55,7 +55,8 @@ QVector<PageInfo> PageRegistry::pages()
         row("pipette", PageGroup::Colour, tr("Screen pipette"),
             tr("Picks the colour of any pixel on any screen, of other applications too. A click picks, any "
                "key gives up. The loupe beside the cursor shows the pixels around it."),
-            {tr("colour"), tr("pick"), tr("screen"), tr("magnifier"), tr("eyedropper")}, "Pipette", &pipette),
+            {tr("colour"), tr("pick"), tr("screen"), tr("magnifier"), tr("eyedropper")},
+            "Pipette ScreenColorSource", &pipette),
         row("widget-color-picker", PageGroup::Colour, tr("Colour from a widget"),
             tr("Click a button, then into the film: the colour of that pixel is picked. Any other click or "
                "key ends it too; with the cursor elsewhere nothing is picked."),

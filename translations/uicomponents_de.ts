@@ -187,6 +187,25 @@
     </message>
 </context>
 <context>
+    <name>ColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>Dieser Desktop hat keinen Dienst für Farben vom Bildschirm.</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>Dieser Desktop kann für Programme keine Farben vom Bildschirm aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>Der Dienst des Desktops für Farben vom Bildschirm antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>Der Dienst des Desktops für Farben vom Bildschirm hat abgelehnt.</translation>
+    </message>
+</context>
+<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>

@@ -187,6 +187,25 @@
     </message>
 </context>
 <context>
+    <name>ColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>このデスクトップには、画面の色を取得するサービスがありません。</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>このデスクトップでは、アプリケーションから画面の色を取得できません。</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>画面の色を取得するデスクトップのサービスが応答しません。</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>画面の色を取得するデスクトップのサービスに拒否されました。</translation>
+    </message>
+</context>
+<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>

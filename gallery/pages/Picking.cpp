@@ -5,6 +5,7 @@
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/LoupeWidget.h>
 #include <UiComponents/Pipette.h>
+#include <UiComponents/ScreenColorSource.h>
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 #include <UiComponents/WidgetColorPickerStylingObject.h>
@@ -68,6 +69,20 @@ QListWidget* makePickedColors(const Pipette* pipette)
     return list;
 }
 
+/// Has @p button say why when there is nothing to pick with.
+void followAvailability(QPushButton* button)
+{
+    const auto show = [button] {
+        const QString reason = Pipette::unavailableReason();
+        button->setEnabled(reason.isEmpty());
+        button->setToolTip(reason);
+    };
+    show();
+    if (const ScreenColorSource* const source = ScreenColorSource::current()) {
+        QObject::connect(source, &ScreenColorSource::unavailableReasonChanged, button, show);
+    }
+}
+
 /// The picking cursor that the page's control chooses.
 struct PickingLook : WidgetColorPickerStylingObject
 {
@@ -91,6 +106,7 @@ void PageRegistry::pipette(Page* page)
     auto* start = new QPushButton(tr("Pick a colour from the screen"));
     start->setObjectName(QStringLiteral("startPipette"));
     QObject::connect(start, &QPushButton::clicked, pipette, &Pipette::startPicking);
+    followAvailability(start);
     page->addDemonstration(QString(), start);
     page->addDemonstration(tr("What it picked, the latest first"), makePickedColors(pipette));
     const auto loupes = page->addTwins<LoupeWidget>(tr("The loupe by itself"), &setUpLoupe);

@@ -9,6 +9,8 @@
 #include "CustomColorSelectWidget.h"
 #include "CustomColors.h"
 #include "LabelFocus.h"
+#include "Pipette.h"
+#include "ScreenColorSource.h"
 #include "SelectorPlacement.h"
 #include "SheetlessBuild.h"
 
@@ -199,6 +201,7 @@ public:
     void configureInputs() const;
     void orderTabs() const;
     void setTexts() const;
+    void showPipetteState() const;
     void connectInputs();
 
     void fillQueue(const QStringList& names);
@@ -423,11 +426,24 @@ void ColorPickerWidget::Private::setTexts() const
 {
     otherColorsTitleLabel->setText(tr("Other:"));
     opacityTitleLabel->setText(tr("Opacity:"));
+    showPipetteState();
+}
+
+/// A button that could do nothing would be worse than one that says why.
+void ColorPickerWidget::Private::showPipetteState() const
+{
+    const QString reason = Pipette::unavailableReason();
+    pipetteButton->setEnabled(reason.isEmpty());
+    pipetteButton->setToolTip(reason);
 }
 
 void ColorPickerWidget::Private::connectInputs()
 {
     currentColorValueEdit->showValue = [this] { updateColorValueWidgets(); };
+    if (const ScreenColorSource* const source = ScreenColorSource::current()) {
+        connect(source, &ScreenColorSource::unavailableReasonChanged, listener.get(),
+                [this] { showPipetteState(); });
+    }
     connect(currentColorValueEdit, &QLineEdit::textEdited, listener.get(),
             [this](const QString& text) { onTextEdited(text); });
     connect(pipetteButton, &QAbstractButton::clicked, listener.get(),

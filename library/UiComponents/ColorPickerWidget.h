@@ -93,7 +93,9 @@ Q_SIGNALS:
     /// A slot that runs because the panel is being shown or hidden must delete the panel with deleteLater().
     void colorChanged(const QColor& color);
 
-    /// The user wants to pick a colour from the screen. The host picks it and calls setCurrentColor().
+    /// The user wants to pick a colour from the screen. The host picks it and calls setCurrentColor(). The
+    /// button is disabled, with a tool tip, while Pipette::unavailableReason() has one; a host that picks in
+    /// another way enables it, or installs a ScreenColorSource.
     void pipetteRequested();
 
     /// The host should close the panel, which never closes itself. Emitted right after pipetteRequested().

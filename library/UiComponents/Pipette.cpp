@@ -2,9 +2,8 @@
 
 #include "LoupeWidget.h"
 #include "PipetteScreenView.h"
+#include "ScreenColorSource.h"
 #include "ScreenReader.h"
-
-#include <QtUtility/PrivacyAccess.h>
 
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
@@ -24,21 +23,9 @@
 #endif
 
 #include <utility>
+#include <vector>
 
 namespace {
-
-/// Whether the program may read the screen. Asks for the permission if not.
-bool mayReadScreen()
-{
-    // By their numbers, which every platform shares; a host's own may have other names for them.
-    constexpr auto screenCapture = static_cast<Orvane::Util::PrivacyType>(5);
-    constexpr auto granted = static_cast<Orvane::Util::AccessStatus>(0);
-    if (Orvane::Util::IsPrivacyAccessGranted(screenCapture) == granted) {
-        return true;
-    }
-    Orvane::Util::RequestPrivacyAccess(screenCapture);
-    return false;
-}
 
 /// Whether another program has the keyboard, as the window manager has it. Qt reports an application inactive
 /// also while nobody has it, as between two windows of which a slow window manager has taken it from one and
@@ -86,9 +73,16 @@ class Pipette::Impl
 public:
     class Run;
 
+    void request(Pipette* pipette, ScreenColorSource* source);
+    void finish(Pipette* pipette, const QColor& color);
+
     QColor currentColor;
     /// One, unless startPicking() was called during a pick.
     QVector<Run*> runs;
+    /// What a ScreenColorSource has instead of runs.
+    std::vector<std::unique_ptr<QObject>> requests;
+    /// How often stopPicking() was called.
+    int ends = 0;
 };
 
 /// All that one call of startPicking() shows and listens to. It has no signals or slots of its own.
@@ -331,6 +325,30 @@ void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
     m_pipette->stopPicking();
 }
 
+void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)
+{
+    const QWidget* const window = QApplication::activeWindow();
+    requests.push_back(source->pick(
+        window ? window->windowHandle() : nullptr,
+        [this, pipette](const ScreenColorSource::Result& result) { finish(pipette, result.color); }));
+}
+
+/// Not a part of the function that calls it: the source may have no more of that when a slot returns.
+void Pipette::Impl::finish(Pipette* pipette, const QColor& color)
+{
+    if (color.isValid()) {
+        const QColor selected = currentColor = color;
+        const QPointer<Pipette> self = pipette;
+        const int endsBefore = ends;
+        Q_EMIT pipette->colorSelected(selected);
+        // A slot may have made it one more.
+        if (!self || ends != endsBefore) {
+            return;
+        }
+    }
+    pipette->stopPicking();
+}
+
 Pipette::Pipette(QObject* parent)
     : QObject(parent)
     , d(std::make_unique<Impl>())
@@ -342,12 +360,25 @@ Pipette::~Pipette()
     qDeleteAll(std::exchange(d->runs, {}));
 }
 
+QString Pipette::unavailableReason()
+{
+    const ScreenColorSource* const source = ScreenColorSource::current();
+    return source ? source->unavailableReason() : QString();
+}
+
 void Pipette::startPicking()
 {
-    if (!mayReadScreen()) {
+    ScreenColorSource* const source = ScreenColorSource::current();
+    if (source ? !source->unavailableReason().isEmpty() : !mayReadScreen()) {
+        askForScreen();
         return;
     }
     d->currentColor = QColor();
+    if (source) {
+        d->request(this, source);
+        Q_EMIT pickingStarted();
+        return;
+    }
     auto* const run = new Impl::Run(this);
     d->runs.append(run);
     if (run->show()) {
@@ -358,6 +389,8 @@ void Pipette::startPicking()
 void Pipette::stopPicking()
 {
     const QPointer<Pipette> self = this;
+    ++d->ends;
+    d->requests.clear();
     const QVector<Impl::Run*> ending = std::exchange(d->runs, {});
     for (Impl::Run* run : ending) {
         run->end();

@@ -27,8 +27,10 @@
  * last be seen: a window that closes right before a pick may still be there. Without a compositor the screens
  * stand still meanwhile. Xwayland shows nothing of other applications: run on Wayland itself.
  *
- * Where the system guards the screen (see PrivacyAccess.h), startPicking() asks for a missing permission and
- * does nothing else. A platform that grants it and gives no picture has black pixels.
+ * Where no program may read the screen, as on Wayland, the desktop's portal or a host's own ScreenColorSource
+ * picks instead, with its own means; the signals are the same. Where there is a permission that the user can
+ * give (see PrivacyAccess.h), startPicking() asks for it when it is missing, and does nothing else. A
+ * platform that grants it and gives no picture has black pixels.
  *
  * A style sheet gives the loupe its size, its rim, which is painted over the picture, and what is seen beyond
  * the edge of the desktop; the cursor's hot spot is a point of the scaled picture:
@@ -50,10 +52,15 @@ public:
     /// through these windows, or Qt activates one of them, it hides them and deletes them later.
     ~Pipette() override;
 
+    /// Why startPicking() can do nothing here, in a sentence for the user, such as the tool tip of a disabled
+    /// button; empty where it can, may ask for the permission, or that is not known yet. Changes with
+    /// ScreenColorSource::unavailableReasonChanged() of the current source, if there is one.
+    static QString unavailableReason();
+
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Does nothing, without a
-    /// signal, when the permission is missing. A call while the pipette picks puts a second set of windows
-    /// and a second loupe over the first; the trace of one set only is taken out of the colour; the next end
-    /// of the pick ends both.
+    /// signal, when the permission is missing and no ScreenColorSource can pick. A call while the pipette
+    /// picks puts a second set of windows and a second loupe over the first; the trace of one set only is
+    /// taken out of the colour; the next end of the pick ends both.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.
@@ -63,7 +70,7 @@ public:
     const QColor& currentColor() const;
 
 Q_SIGNALS:
-    /// All screens are covered.
+    /// All screens are covered, or the request of a ScreenColorSource is sent.
     void pickingStarted();
 
     /// A pick is over, with a colour or without; once for each pick, and for each call of stopPicking().

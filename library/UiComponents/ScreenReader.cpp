@@ -1,5 +1,7 @@
 #include "ScreenReader.h"
 
+#include <QtUtility/PrivacyAccess.h>
+
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
@@ -15,6 +17,10 @@
 #include <algorithm>
 
 namespace {
+
+// By their numbers, which every platform shares; a host's own may have other names for them.
+constexpr auto screenCapture = static_cast<Orvane::Util::PrivacyType>(5);
+constexpr auto granted = static_cast<Orvane::Util::AccessStatus>(0);
 
 QPoint toDevice(const QPointF& position, const QScreen& screen)
 {
@@ -143,6 +149,16 @@ public:
 };
 
 } // namespace
+
+bool mayReadScreen()
+{
+    return Orvane::Util::IsPrivacyAccessGranted(screenCapture) == granted;
+}
+
+void askForScreen()
+{
+    Orvane::Util::RequestPrivacyAccess(screenCapture);
+}
 
 ScreenSource& ScreenSource::platform()
 {

@@ -12,6 +12,12 @@
 
 class QScreen;
 
+/// Whether the program may read the screen, as IsPrivacyAccessGranted() has it.
+bool mayReadScreen();
+
+/// Asks for that with RequestPrivacyAccess().
+void askForScreen();
+
 /// Where the pixels come from, and when.
 class ScreenSource
 {

@@ -1,10 +1,10 @@
+#include "FakePrivacy.h"
 #include "FreedMemory.h"
 #include "MetaObject.h"
 #include "PaintCount.h"
 #include "PipetteWindows.h"
 #include "TestMain.h"
 
-#include <QtUtility/PrivacyAccess.h>
 #include <UiComponents/LoupeWidget.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
@@ -25,25 +25,6 @@
 #include <memory>
 
 using Orvane::Util::AccessStatus;
-
-namespace {
-
-AccessStatus access = AccessStatus::Granted;
-QVector<int> requests;
-
-} // namespace
-
-// In the place of the platform's: a host may bring its own.
-AccessStatus Orvane::Util::IsPrivacyAccessGranted(PrivacyType type)
-{
-    return type == PrivacyType::ScreenCapture ? access : AccessStatus::Granted;
-}
-
-bool Orvane::Util::RequestPrivacyAccess(PrivacyType type)
-{
-    requests.append(static_cast<int>(type));
-    return false;
-}
 
 namespace {
 
@@ -228,8 +209,7 @@ void tst_Pipette::initTestCase()
 void tst_Pipette::init()
 {
     QCursor::setPos(400, 300);
-    access = AccessStatus::Granted;
-    requests.clear();
+    FakePrivacy::reset();
     m_window = std::make_unique<PixelWindow>();
     m_window->show();
     m_window->activateWindow();
@@ -325,15 +305,15 @@ void tst_Pipette::missingPermissionIsAskedFor_data()
 void tst_Pipette::missingPermissionIsAskedFor()
 {
     QFETCH(int, status);
-    access = AccessStatus(status);
+    FakePrivacy::screenAccess = AccessStatus(status);
     m_pipette->startPicking();
-    QCOMPARE(requests, QVector<int>{5});
+    QCOMPARE(FakePrivacy::requests, QVector<int>{5});
     QCOMPARE(m_protocol.lines, QStringList());
     QVERIFY(alive<PipetteScreenView>().isEmpty());
 
-    access = AccessStatus::Granted;
+    FakePrivacy::screenAccess = AccessStatus::Granted;
     m_pipette->startPicking();
-    QCOMPARE(requests, QVector<int>{5});
+    QCOMPARE(FakePrivacy::requests, QVector<int>{5});
     QCOMPARE(m_protocol.lines, QStringList{started});
     QCOMPARE(shownViews().size(), 1);
 }

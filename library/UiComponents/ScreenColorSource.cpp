@@ -1,0 +1,52 @@
+#include "ScreenColorSource.h"
+
+#ifdef QT_DBUS_LIB
+#include "ColorPortal.h"
+#endif
+#include "ScreenReader.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+namespace {
+
+QPointer<ScreenColorSource>& installed()
+{
+    static QPointer<ScreenColorSource> source;
+    return source;
+}
+
+ScreenColorSource* portal()
+{
+#ifdef QT_DBUS_LIB
+    static QPointer<ColorPortal> portal;
+    if (!portal) {
+        portal = new ColorPortal(QDBusConnection::sessionBus(), qApp);
+    }
+    return portal;
+#else
+    return nullptr;
+#endif
+}
+
+} // namespace
+
+ScreenColorSource* ScreenColorSource::current()
+{
+    if (installed()) {
+        return installed();
+    }
+    return mayReadScreen() ? nullptr : portal();
+}
+
+void ScreenColorSource::install(ScreenColorSource* source)
+{
+    installed() = source;
+}
+
+ScreenColorSource::ScreenColorSource(QObject* parent)
+    : QObject(parent)
+{
+}
+
+ScreenColorSource::~ScreenColorSource() = default;

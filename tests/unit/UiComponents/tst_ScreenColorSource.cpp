@@ -1,0 +1,242 @@
+#include "FakePrivacy.h"
+#include "FakeScreenColors.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/Pipette.h>
+#include <UiComponents/ScreenColorSource.h>
+
+#include <QPointer>
+#include <QToolButton>
+
+#include <memory>
+
+using Orvane::Util::AccessStatus;
+
+Q_DECLARE_METATYPE(AccessStatus)
+
+namespace {
+
+/// A pipette over a source of the test's own, and what it reports.
+struct Stage
+{
+    Stage()
+    {
+        ScreenColorSource::install(&source);
+        QObject::connect(pipette, &Pipette::pickingStarted, [this] { log += QStringLiteral("started"); });
+        QObject::connect(pipette, &Pipette::pickingStopped, [this] { log += QStringLiteral("stopped"); });
+        QObject::connect(pipette, &Pipette::colorSelected,
+                         [this](const QColor& color) { log += color.name(); });
+    }
+    ~Stage() { delete pipette; }
+
+    void answer(int index, const ScreenColorSource::Result& result)
+    {
+        source.requests.at(index).answer(result);
+    }
+
+    FakeScreenColors source;
+    QPointer<Pipette> pipette = new Pipette;
+    QStringList log;
+};
+
+} // namespace
+
+class tst_ScreenColorSource : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        ScreenColorSource::install(nullptr);
+        FakePrivacy::reset();
+    }
+
+    void platforms_data()
+    {
+        QTest::addColumn<AccessStatus>("status");
+        QTest::addColumn<bool>("hasSource");
+
+        QTest::newRow("the program may read the screen") << AccessStatus::Granted << false;
+        QTest::newRow("the user has not allowed it") << AccessStatus::Denied << true;
+        QTest::newRow("no program may") << AccessStatus::Unavailable << true;
+    }
+
+    void platforms()
+    {
+        QFETCH(const AccessStatus, status);
+        QFETCH(const bool, hasSource);
+        FakePrivacy::screenAccess = status;
+        ScreenColorSource* const source = ScreenColorSource::current();
+        QCOMPARE(source != nullptr, hasSource);
+        QCOMPARE(ScreenColorSource::current(), source);
+        // Without a bus there is no portal.
+        QVERIFY(!source || !source->unavailableReason().isEmpty());
+        QCOMPARE(Pipette::unavailableReason().isEmpty(), !hasSource);
+        QCOMPARE(FakePrivacy::requests.size(), 0);
+    }
+
+    void installed()
+    {
+        auto fake = std::make_unique<FakeScreenColors>();
+        ScreenColorSource::install(fake.get());
+        QCOMPARE(ScreenColorSource::current(), static_cast<ScreenColorSource*>(fake.get()));
+        FakePrivacy::screenAccess = AccessStatus::Unavailable;
+        QCOMPARE(ScreenColorSource::current(), static_cast<ScreenColorSource*>(fake.get()));
+
+        fake.reset();
+        QVERIFY(ScreenColorSource::current());
+        FakePrivacy::screenAccess = AccessStatus::Granted;
+        QVERIFY(!ScreenColorSource::current());
+    }
+
+    void uninstalled()
+    {
+        FakeScreenColors fake;
+        ScreenColorSource::install(&fake);
+        ScreenColorSource::install(nullptr);
+        QVERIFY(!ScreenColorSource::current());
+    }
+
+    void pipetteReports_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("reason");
+        QTest::addColumn<QStringList>("reports");
+
+        const QString started = QStringLiteral("started");
+        const QString stopped = QStringLiteral("stopped");
+        QTest::newRow("a colour") << QColor(18, 52, 86) << QString()
+                                  << QStringList{started, QStringLiteral("#123456"), stopped};
+        QTest::newRow("the user gave up") << QColor() << QString() << QStringList{started, stopped};
+        QTest::newRow("the source failed")
+            << QColor() << QStringLiteral("gone") << QStringList{started, stopped};
+    }
+
+    void pipetteReports()
+    {
+        QFETCH(const QColor, color);
+        QFETCH(const QString, reason);
+        QFETCH(const QStringList, reports);
+        // The permission to read the screen, with which the pipette would cover it, is of no interest.
+        Stage stage;
+        stage.pipette->startPicking();
+        QCOMPARE(stage.log, QStringList{QStringLiteral("started")});
+        QVERIFY(stage.source.requests.constFirst().handle);
+        stage.answer(0, {color, reason});
+        QCOMPARE(stage.log, reports);
+        QCOMPARE(stage.pipette->currentColor(), color);
+        QVERIFY(!stage.source.requests.constFirst().handle);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    void requestBelongsToTheActiveWindow()
+    {
+        Stage stage;
+        stage.pipette->startPicking();
+        QWidget window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        stage.pipette->startPicking();
+        QVERIFY(!stage.source.requests.at(0).parent);
+        QCOMPARE(stage.source.requests.at(1).parent.data(), window.windowHandle());
+    }
+
+    void unavailableSourceIsNotAsked()
+    {
+        Stage stage;
+        const QString reason = QStringLiteral("broken");
+        stage.source.setReason(reason);
+        QCOMPARE(Pipette::unavailableReason(), reason);
+        stage.pipette->startPicking();
+        QCOMPARE(stage.log, QStringList());
+        QVERIFY(stage.source.requests.isEmpty());
+        QCOMPARE(FakePrivacy::requests.size(), 1);
+
+        stage.source.setReason({});
+        stage.pipette->startPicking();
+        QCOMPARE(stage.source.requests.size(), 1);
+        QCOMPARE(FakePrivacy::requests.size(), 1);
+    }
+
+    void stoppedPickIsWithdrawn()
+    {
+        Stage stage;
+        stage.pipette->startPicking();
+        stage.pipette->stopPicking();
+        QCOMPARE(stage.log, (QStringList{QStringLiteral("started"), QStringLiteral("stopped")}));
+        QVERIFY(!stage.source.requests.constFirst().handle);
+    }
+
+    void deathWithdraws()
+    {
+        Stage stage;
+        stage.pipette->startPicking();
+        delete stage.pipette;
+        QCOMPARE(stage.log, QStringList{QStringLiteral("started")});
+        QVERIFY(!stage.source.requests.constFirst().handle);
+    }
+
+    void nextEndEndsBothPicks()
+    {
+        Stage stage;
+        stage.pipette->startPicking();
+        stage.pipette->startPicking();
+        QCOMPARE(stage.source.requests.size(), 2);
+        stage.answer(0, {Qt::red, {}});
+        QCOMPARE(stage.log, (QStringList{QStringLiteral("started"), QStringLiteral("started"),
+                                         QStringLiteral("#ff0000"), QStringLiteral("stopped")}));
+        QVERIFY(!stage.source.requests.at(1).handle);
+    }
+
+    void slotsOfSelected_data()
+    {
+        QTest::addColumn<bool>("isDeleted");
+
+        QTest::newRow("delete the pipette") << true;
+        QTest::newRow("stop and start it") << false;
+    }
+
+    void slotsOfSelected()
+    {
+        QFETCH(const bool, isDeleted);
+        Stage stage;
+        connect(stage.pipette, &Pipette::colorSelected, this, [&stage, isDeleted] {
+            if (isDeleted) {
+                delete stage.pipette;
+            } else {
+                stage.pipette->stopPicking();
+                stage.pipette->startPicking();
+            }
+        });
+        stage.pipette->startPicking();
+        stage.answer(0, {Qt::red, {}});
+        QStringList reports = {QStringLiteral("started"), QStringLiteral("#ff0000")};
+        if (!isDeleted) {
+            reports += {QStringLiteral("stopped"), QStringLiteral("started")};
+            QVERIFY(stage.source.requests.constLast().handle);
+        }
+        QCOMPARE(stage.log, reports);
+    }
+
+    void panelsButtonFollows()
+    {
+        Stage stage;
+        const QString reason = QStringLiteral("broken");
+        stage.source.setReason(reason);
+        ColorPickerWidget panel(nullptr, false);
+        const auto* button = panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"));
+        QVERIFY(!button->isEnabled());
+        QCOMPARE(button->toolTip(), reason);
+        stage.source.setReason({});
+        QVERIFY(button->isEnabled());
+        QCOMPARE(button->toolTip(), QString());
+        stage.source.setReason(reason);
+        QVERIFY(!button->isEnabled());
+    }
+};
+
+UIC_TEST_MAIN(tst_ScreenColorSource)
+
+#include "tst_ScreenColorSource.moc"
