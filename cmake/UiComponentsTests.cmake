@@ -70,15 +70,18 @@ function(uic_desktop_test class)
         LAUNCHER ${launcher} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_UNPARSED_ARGUMENTS})
 endfunction()
 
-# uic_desktop_variant(<Class> <name> [SCREENS <layout>] [ENVIRONMENT <variable...>] [ARGUMENTS <function...>]):
-# runs a desktop test, or these functions of it, once more, on the screens that desktop-session describes, and
-# with these variables.
+# uic_desktop_variant(<Class> <name> [SCREENS <layout> | WAYLAND] [ENVIRONMENT <variable...>]
+#     [ARGUMENTS <function...>]):
+# runs a desktop test, or these functions of it, once more, on the screens that desktop-session describes or on
+# Wayland, and with these variables.
 function(uic_desktop_variant class name)
-    cmake_parse_arguments(arg "" "SCREENS" "ENVIRONMENT;ARGUMENTS" ${ARGN})
+    cmake_parse_arguments(arg "WAYLAND" "SCREENS" "ENVIRONMENT;ARGUMENTS" ${ARGN})
     set(test desktop.${class}.${name})
     set(launcher "${UIC_DESKTOP_SESSION}")
     if(arg_SCREENS)
         list(APPEND launcher --screens "${arg_SCREENS}")
+    elseif(arg_WAYLAND)
+        list(APPEND launcher --wayland)
     endif()
     get_property(program GLOBAL PROPERTY UIC_PROGRAM_desktop.${class})
     add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:${program}> ${class} ${arg_ARGUMENTS})

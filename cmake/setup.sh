@@ -18,7 +18,8 @@ uic_packages()
             wayland)
                 echo qtwayland5 ;;
             desktop)
-                echo fonts-dejavu-core xvfb openbox picom xdotool x11-utils \
+                echo qtwayland5 sway grim wtype dbus-daemon \
+                    fonts-dejavu-core xvfb openbox picom xdotool x11-utils \
                     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils \
                     libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 \
                     dbus at-spi2-core python3-gi gir1.2-atspi-2.0 ;;
@@ -34,6 +35,14 @@ uic_packages()
                 return 2 ;;
         esac
     done | tr ' ' '\n' | sort -u
+}
+
+# uic_choose_platform: has Qt use Wayland where there is only Wayland. It prefers X where it can have both.
+uic_choose_platform()
+{
+    if [ -z "${DISPLAY:-}" ] && [ -n "${WAYLAND_DISPLAY:-}" ]; then
+        export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-wayland}
+    fi
 }
 
 # uic_missing <package...>: those that are not installed.

@@ -1,6 +1,7 @@
 #include "RealInput.h"
 
 #include "NativeScreens.h"
+#include "WaylandInput.h"
 
 #include <QCursor>
 #include <QDir>
@@ -22,9 +23,14 @@ bool xdotool(const QStringList& arguments)
     return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
 }
 
-bool moveToGlobal(const QPoint& target)
+/// Moves to @p place of the screen, where the point @p target of the desktop is.
+bool moveAndWait(const QPoint& place, const QPoint& target)
 {
-    const QPoint place = NativeScreens::pixelAt(target);
+    if (WaylandInput::isRunning()) {
+        // Again until Qt has asked for the pointer, which comes with its first use.
+        return QTest::qWaitFor(
+            [place, target] { return WaylandInput::moveTo(place) && QCursor::pos() == target; });
+    }
     // Qt asks the server for the position. The events that are on their way by then are handled before
     // the next move, or Qt would make one of the two.
     const bool hasArrived =
@@ -34,24 +40,44 @@ bool moveToGlobal(const QPoint& target)
     return hasArrived;
 }
 
+bool pressButton(bool down)
+{
+    return WaylandInput::isRunning()
+               ? WaylandInput::pressButton(down)
+               : xdotool(
+                     {down ? QStringLiteral("mousedown") : QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
 } // namespace
 
 bool RealInput::showAndActivate(QWidget* window)
 {
     window->show();
     window->activateWindow();
+    if (WaylandInput::isRunning()) {
+        // The compositor activates new windows; programs cannot.
+        return QTest::qWaitForWindowExposed(window) &&
+               QTest::qWaitFor([window] { return window->isActiveWindow(); });
+    }
     return QTest::qWaitForWindowExposed(window) && QTest::qWaitForWindowActive(window);
 }
 
 bool RealInput::moveTo(const QWidget* widget, const QPoint& point)
 {
-    return moveToGlobal(widget->mapToGlobal(point));
+    const QPoint target = widget->mapToGlobal(point);
+    return moveAndWait(WaylandInput::isRunning() ? WaylandInput::placeOf(widget, point)
+                                                 : NativeScreens::pixelAt(target),
+                       target);
 }
 
 bool RealInput::click(const QWidget* widget, const QPoint& point)
 {
-    return moveTo(widget, point) && xdotool({QStringLiteral("click"), QStringLiteral("--delay"),
-                                             QStringLiteral("0"), QStringLiteral("1")});
+    if (!moveTo(widget, point)) {
+        return false;
+    }
+    return WaylandInput::isRunning() ? pressButton(true) && pressButton(false)
+                                     : xdotool({QStringLiteral("click"), QStringLiteral("--delay"),
+                                                QStringLiteral("0"), QStringLiteral("1")});
 }
 
 bool RealInput::click(const QWidget* widget)
@@ -64,18 +90,27 @@ bool RealInput::drag(const QWidget* widget, const QPoint& from, const QPoint& to
     // Global points: the widget may follow the mouse.
     const QPoint start = widget->mapToGlobal(from);
     const QPoint way = widget->mapToGlobal(to) - start;
-    if (!moveToGlobal(start) || !xdotool({QStringLiteral("mousedown"), QStringLiteral("1")})) {
+    const QPoint place = WaylandInput::isRunning() ? WaylandInput::placeOf(widget, from) : QPoint();
+    const auto moveBy = [start, place](const QPoint& distance) {
+        const QPoint target = start + distance;
+        return moveAndWait(WaylandInput::isRunning() ? place + distance : NativeScreens::pixelAt(target),
+                           target);
+    };
+    if (!moveBy({}) || !pressButton(true)) {
         return false;
     }
     bool isThere = true;
     for (int step = 1; step <= dragSteps && isThere; ++step) {
-        isThere = moveToGlobal(start + way * step / dragSteps);
+        isThere = moveBy(way * step / dragSteps);
     }
-    return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")}) && isThere;
+    return pressButton(false) && isThere;
 }
 
 bool RealInput::wheel(const QWidget* widget, const QPoint& point, int notches)
 {
+    if (WaylandInput::isRunning()) {
+        return moveTo(widget, point) && WaylandInput::turnWheel(notches);
+    }
     // X has no wheel: buttons 4 and 5 are its two directions.
     const QString button = notches > 0 ? QStringLiteral("4") : QStringLiteral("5");
     return moveTo(widget, point) &&
@@ -85,16 +120,22 @@ bool RealInput::wheel(const QWidget* widget, const QPoint& point, int notches)
 
 bool RealInput::type(const QString& text)
 {
+    if (WaylandInput::isRunning()) {
+        return WaylandInput::type(text);
+    }
     return xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
 }
 
 bool RealInput::key(const QString& name)
 {
-    return xdotool({QStringLiteral("key"), name});
+    return WaylandInput::isRunning() ? WaylandInput::key(name) : xdotool({QStringLiteral("key"), name});
 }
 
 QColor RealInput::pixel(const QWidget* widget, const QPoint& point)
 {
+    if (WaylandInput::isRunning()) {
+        return WaylandInput::pixel(WaylandInput::placeOf(widget, point));
+    }
     const QPoint global = widget->mapToGlobal(point);
     QScreen* screen = QGuiApplication::screenAt(global);
     if (!screen) {
@@ -107,6 +148,10 @@ QColor RealInput::pixel(const QWidget* widget, const QPoint& point)
 bool RealInput::saveScreenshot(const QString& name)
 {
     const QDir folder(qEnvironmentVariable("UIC_SCREENSHOTS", QDir::tempPath()));
+    if (WaylandInput::isRunning()) {
+        return folder.mkpath(QStringLiteral(".")) &&
+               WaylandInput::saveScreenshot(folder.filePath(name + QStringLiteral(".png")));
+    }
     // Another run of the same test may be writing the same picture.
     QSaveFile file(folder.filePath(name + QStringLiteral(".png")));
     return folder.mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&

@@ -9,7 +9,8 @@ class QWidget;
 
 /**
  * A user's mouse, keyboard and eyes for tests that run in desktop-session: input goes through the X server
- * and the window manager, as real input does, and pixels are read from the screen.
+ * and the window manager or the compositor of Wayland, as real input does, and pixels are read from the
+ * screen.
  *
  * Points are in the coordinates of the widget that is given with them, whatever the scale of its screen.
  * Events arrive through the event loop: wait for their effect with QTRY_*.
