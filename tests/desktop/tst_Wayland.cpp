@@ -1,0 +1,171 @@
+#include "PortalStage.h"
+#include "RealInput.h"
+#include "TestMain.h"
+
+#include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/Pipette.h>
+
+#include <QDir>
+#include <QImage>
+#include <QListWidget>
+#include <QPushButton>
+#include <QToolButton>
+
+#include <gallery/CommandLine.h>
+#include <gallery/GalleryApplication.h>
+#include <gallery/MainWindow.h>
+#include <gallery/Page.h>
+#include <gallery/PageRegistry.h>
+
+/**
+ * The gallery on Wayland, where no program reads the screen: the compositor shows every page, and a colour of
+ * the screen comes from the desktop's portal.
+ */
+class tst_Wayland : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void everyPageIsShown_data();
+    void everyPageIsShown();
+    void buttonsSayThatThereIsNoPortal();
+    void pipettePicksThroughThePortal();
+    void pipetteStopsThePortal();
+
+private:
+    bool open(const QString& page);
+
+    std::unique_ptr<MainWindow> m_window;
+};
+
+namespace {
+
+/// A portal on the session's bus, with a connection of its own.
+struct Desktop
+{
+    Desktop() { portal.start(); }
+    ~Desktop()
+    {
+        portal.stop();
+        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+    }
+
+    TestPortal portal =
+        TestPortal(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal")));
+};
+
+/// Whether the compositor shows @p window, in the middle of the screen, as it paints itself. Pictures may
+/// move on meanwhile.
+bool isShown(QWidget& window, const QString& screenshot)
+{
+    const QDir folder(qEnvironmentVariable("UIC_SCREENSHOTS", QDir::tempPath()));
+    if (!RealInput::saveScreenshot(screenshot)) {
+        return false;
+    }
+    const QImage screen(folder.filePath(screenshot + QStringLiteral(".png")));
+    QRect place(QPoint(), window.size());
+    place.moveTopLeft(QPoint(screen.width() - place.width(), screen.height() - place.height()) / 2);
+    const QImage shown = screen.copy(place).convertToFormat(QImage::Format_RGB32);
+    const QImage painted = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    if (shown.size() != painted.size()) {
+        return false;
+    }
+    qint64 equal = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            equal += shown.pixel(x, y) == painted.pixel(x, y) ? 1 : 0;
+        }
+    }
+    constexpr double nearlyAll = 0.98;
+    return double(equal) > nearlyAll * shown.width() * shown.height();
+}
+
+} // namespace
+
+void tst_Wayland::initTestCase()
+{
+    QVERIFY(QGuiApplication::platformName().startsWith(QLatin1String("wayland")));
+    GalleryApplication::prepare();
+}
+
+void tst_Wayland::cleanup()
+{
+    m_window.reset();
+}
+
+bool tst_Wayland::open(const QString& page)
+{
+    CommandLine start;
+    start.page = page;
+    m_window = std::make_unique<MainWindow>(start);
+    return RealInput::showAndActivate(m_window.get());
+}
+
+void tst_Wayland::everyPageIsShown_data()
+{
+    QTest::addColumn<QString>("page");
+
+    const auto pages = PageRegistry::pages();
+    for (const PageInfo& page : pages) {
+        QTest::newRow(qPrintable(page.id)) << page.id;
+    }
+}
+
+void tst_Wayland::everyPageIsShown()
+{
+    QFETCH(const QString, page);
+    QVERIFY(open(page));
+    QTRY_VERIFY(isShown(*m_window, QStringLiteral("wayland-") + page));
+}
+
+void tst_Wayland::buttonsSayThatThereIsNoPortal()
+{
+    QVERIFY(open(QStringLiteral("pipette")));
+    const auto* const start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
+    QTRY_VERIFY(!start->isEnabled());
+    QCOMPARE(start->toolTip(), Pipette::unavailableReason());
+    ColorPickerWidget panel(nullptr, false);
+    QVERIFY(!panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+
+    const Desktop desktop;
+    QTRY_VERIFY(start->isEnabled());
+    QVERIFY(panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+}
+
+void tst_Wayland::pipettePicksThroughThePortal()
+{
+    Desktop desktop;
+    QVERIFY(open(QStringLiteral("pipette")));
+    const auto* const start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
+    const auto* const picked = m_window->page()->findChild<QListWidget*>(QStringLiteral("pickedColors"));
+    QTRY_VERIFY(start->isEnabled());
+    QVERIFY(RealInput::click(start));
+    QTRY_COMPARE(desktop.portal.requests.size(), 1);
+    // Qt 5.15 cannot tell the portal which window asks.
+    QCOMPARE(desktop.portal.parents, QStringList{QString()});
+    desktop.portal.respond(0, QColor(18, 52, 86));
+    QTRY_COMPARE(picked->count(), 1);
+    QCOMPARE(picked->item(0)->text(), QStringLiteral("#123456"));
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-picked")));
+}
+
+void tst_Wayland::pipetteStopsThePortal()
+{
+    Desktop desktop;
+    Pipette pipette;
+    QSignalSpy started(&pipette, &Pipette::pickingStarted);
+    QSignalSpy stopped(&pipette, &Pipette::pickingStopped);
+    QTRY_COMPARE(Pipette::unavailableReason(), QString());
+    pipette.startPicking();
+    QCOMPARE(started.count(), 1);
+    QTRY_COMPARE(desktop.portal.requests.size(), 1);
+    pipette.stopPicking();
+    QCOMPARE(stopped.count(), 1);
+    QTRY_VERIFY(desktop.portal.requests.constFirst()->isClosed);
+}
+
+UIC_TEST_MAIN(tst_Wayland)
+#include "tst_Wayland.moc"
