@@ -27,6 +27,7 @@
 
 #include <QButtonGroup>
 #include <QDialog>
+#include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QHash>
@@ -34,7 +35,6 @@
 #include <QLabel>
 #include <QPointer>
 #include <QRegExpValidator>
-#include <QScreen>
 #include <QToolButton>
 #include <QVariant>
 #include <QVector>
@@ -681,12 +681,8 @@ void ColorPickerWidget::Private::placeDialog() const
     std::for_each(parts.crbegin(), parts.crend(), [](QWidget* part) { part->updateGeometry(); });
     dialog->adjustSize();
     const QRect button(addCustomColorButton->mapToGlobal(QPoint()), addCustomColorButton->size());
-    const QScreen* screen = QGuiApplication::screenAt(button.center());
-    if (!screen) {
-        screen = q->screen();
-    }
     dialog->move(SelectorPlacement::besideButton(button, dialog->size(), colorDialogOffset,
-                                                 screen ? screen->availableGeometry() : QRect()));
+                                                 SelectorPlacement::areaFor(*addCustomColorButton)));
 }
 
 /// Closes the selector without emitting, since the panel is being hidden and may be deleted next. The button

@@ -26,9 +26,9 @@
  * alpha.
  *
  * The add button opens the selector, a pop-up to the right of the button, or to its left where there is no
- * room, that stays on its screen. It starts at the current colour, or at black without one. A click
- * elsewhere, Escape or Enter closes it: the add button has the focus again, and the current colour is added
- * to the user's own unless it is one of them or in the palette.
+ * room, that stays on its screen (on Wayland, in its window). It starts at the current colour, or at black
+ * without one. A click elsewhere, Escape or Enter closes it: the add button has the focus again, and the
+ * current colour is added to the user's own unless it is one of them or in the palette.
  *
  * **Style sheet.** All margins and gaps are 0 until a sheet sets OvFrame's properties. The parts:
  * - "topPanel": the preview "currentColorDisplayLabel", "currentColorValueEdit" (style hint "INPUT_LIGHT")

@@ -1,7 +1,7 @@
 #include "PopupPosition.h"
 
-#include <QGuiApplication>
-#include <QScreen>
+#include "SelectorPlacement.h"
+
 #include <QWidget>
 
 namespace {
@@ -27,9 +27,5 @@ QPoint popupPosition(const QRect& field, const QSize& size, const QRect& screen,
 QPoint popupPosition(const QWidget* field, const QSize& size)
 {
     const QRect area(field->mapToGlobal(QPoint()), field->size());
-    const QScreen* screen = QGuiApplication::screenAt(area.center());
-    if (!screen) {
-        screen = field->screen();
-    }
-    return popupPosition(area, size, screen->availableGeometry(), field->layoutDirection());
+    return popupPosition(area, size, SelectorPlacement::areaFor(*field), field->layoutDirection());
 }

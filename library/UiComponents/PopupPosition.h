@@ -12,5 +12,5 @@ class QWidget;
 QPoint popupPosition(const QRect& field, const QSize& size, const QRect& screen,
                      Qt::LayoutDirection direction);
 
-/// The same for the widget @p field and the screen that its middle lies on.
+/// The same for the widget @p field, where SelectorPlacement::areaFor() has a pop-up of it.
 QPoint popupPosition(const QWidget* field, const QSize& size);

@@ -15,6 +15,18 @@
 #include <QWindow>
 
 #include <optional>
+#include <utility>
+
+namespace {
+
+/// On Wayland a program neither knows where its windows are nor moves them: the compositor puts pop-ups and
+/// tool tips beside the window they belong to, once, when they appear, and all others where it likes.
+bool isPlacedByCompositor()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+} // namespace
 
 class PointingWidget::Private : public QObject
 {
@@ -25,12 +37,14 @@ public:
 
     QPoint origin() const;
     QRect area() const;
+    QRect areaAroundWindow() const;
     void setShapeValue(int& value, int pixels, int most);
     void reshape();
     void applyMargins();
     void fit();
     void place();
     void placeLater();
+    void appearAnew();
     void moved(bool byWindowManager);
     void followWindow();
     void watchAncestors();
@@ -68,6 +82,8 @@ public:
     bool askedAgain = false;
     /// Whether the host has shown the bubble; whether it is visible depends on the parent.
     bool wanted = false;
+    bool willAppearAnew = false;
+    QPoint appearedAt;
     /// The parent and its ancestors up to their window.
     QVector<QPointer<QWidget>> ancestors;
 };
@@ -137,6 +153,9 @@ QRect PointingWidget::Private::area() const
     if (!q->isWindow()) {
         return q->parentWidget()->rect();
     }
+    if (isPlacedByCompositor() && q->parentWidget()) {
+        return areaAroundWindow();
+    }
     const auto screens = QGuiApplication::screens();
     QVector<QRect> geometries;
     geometries.reserve(screens.size());
@@ -145,6 +164,24 @@ QRect PointingWidget::Private::area() const
     }
     const int nearest = nearestArea(q->targetPoint(), geometries);
     return nearest < 0 ? QRect() : screens.at(nearest)->availableGeometry();
+}
+
+/// The window below, which is on the screen wherever that is; or as much as a screen has around a window that
+/// is smaller than the bubble.
+QRect PointingWidget::Private::areaAroundWindow() const
+{
+    const QWidget* window = q->parentWidget()->window();
+    while (window->windowType() == Qt::Popup && window->parentWidget()) {
+        window = window->parentWidget()->window();
+    }
+    QRect result = window->geometry();
+    const QSize needed = q->sizeHint();
+    if (result.width() < needed.width() || result.height() < needed.height()) {
+        const QPoint center = result.center();
+        result.setSize(window->screen()->availableSize());
+        result.moveCenter(center);
+    }
+    return result;
 }
 
 void PointingWidget::Private::setShapeValue(int& value, int pixels, int most)
@@ -227,7 +264,29 @@ void PointingWidget::Private::place()
     if (hasTarget && (sentTo != goal || !q->isVisible())) {
         sentTo = goal;
         q->move(goal);
+        if (q->isVisible() && q->windowType() == Qt::ToolTip && isPlacedByCompositor()) {
+            appearAnew();
+        }
     }
+}
+
+/// Has the compositor look at the place again.
+void PointingWidget::Private::appearAnew()
+{
+    if (std::exchange(willAppearAnew, true)) {
+        return;
+    }
+    // Not amid a paint or a resize of the bubble, which may lead here.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            willAppearAnew = false;
+            if (q->isVisible() && q->pos() != appearedAt) {
+                q->QWidget::setVisible(false);
+                q->QWidget::setVisible(true);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void PointingWidget::Private::moved(bool byWindowManager)
@@ -341,7 +400,8 @@ bool PointingWidget::Private::waitsForParent() const
 }
 
 PointingWidget::PointingWidget(QWidget* parent)
-    : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
+    : QWidget(parent, (isPlacedByCompositor() ? Qt::ToolTip : Qt::Tool) | Qt::FramelessWindowHint |
+                          Qt::NoDropShadowWindowHint)
     , d(std::make_unique<Private>(this))
 {
     setAttribute(Qt::WA_TranslucentBackground);
@@ -589,4 +649,5 @@ void PointingWidget::showEvent(QShowEvent* event)
     if (d->maskIsDue) {
         d->reshape();
     }
+    d->appearedAt = pos();
 }

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void cleanup();
 
     void followsItsWindowWhenTheUserMovesIt();
+    void followsItsTarget();
     void leavesTheKeyboardToItsWindow();
     void clicksBesideTheArrowGoToWhatLiesThere();
 
@@ -76,6 +77,16 @@ void tst_PointingBubble::followsItsWindowWhenTheUserMovesIt()
                 m_window->palette().window().color());
     QCOMPARE(RealInput::pixel(m_window.get(), m_spot - QPoint(0, 3)), m_window->palette().window().color());
     QVERIFY(RealInput::saveScreenshot(QStringLiteral("pointing-bubble")));
+}
+
+void tst_PointingBubble::followsItsTarget()
+{
+    const QColor background = m_window->palette().window().color();
+    const QPoint spot = m_spot + QPoint(90, 70);
+    m_bubble->pointTo(m_window->mapToGlobal(spot));
+    QTRY_COMPARE(RealInput::pixel(m_window.get(), spot + QPoint(0, 20)), BubbleColor);
+    QTRY_COMPARE(RealInput::pixel(m_window.get(), m_spot + QPoint(0, 20)), background);
+    QVERIFY(m_bubble->isVisible());
 }
 
 void tst_PointingBubble::leavesTheKeyboardToItsWindow()

@@ -2,8 +2,10 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
+#include <EditorWidgets/PointingWidget.h>
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/Pipette.h>
+#include <WidgetToolkit/OvFrame.h>
 
 #include <QDir>
 #include <QImage>
@@ -16,6 +18,7 @@
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
 #include <gallery/PageRegistry.h>
+#include <numeric>
 
 /**
  * The gallery on Wayland, where no program reads the screen: the compositor shows every page, and a colour of
@@ -31,6 +34,7 @@ private Q_SLOTS:
 
     void everyPageIsShown_data();
     void everyPageIsShown();
+    void popupsStayWithTheirWindow();
     void buttonsSayThatThereIsNoPortal();
     void pipettePicksThroughThePortal();
     void pipetteStopsThePortal();
@@ -75,9 +79,9 @@ bool isShown(QWidget& window, const QString& screenshot)
     }
     qint64 equal = 0;
     for (int y = 0; y < shown.height(); ++y) {
-        for (int x = 0; x < shown.width(); ++x) {
-            equal += shown.pixel(x, y) == painted.pixel(x, y) ? 1 : 0;
-        }
+        const auto* const line = reinterpret_cast<const QRgb*>(shown.constScanLine(y));
+        const auto* const other = reinterpret_cast<const QRgb*>(painted.constScanLine(y));
+        equal += std::inner_product(line, line + shown.width(), other, 0, std::plus<>(), std::equal_to<>());
     }
     constexpr double nearlyAll = 0.98;
     return double(equal) > nearlyAll * shown.width() * shown.height();
@@ -119,6 +123,33 @@ void tst_Wayland::everyPageIsShown()
     QFETCH(const QString, page);
     QVERIFY(open(page));
     QTRY_VERIFY(isShown(*m_window, QStringLiteral("wayland-") + page));
+}
+
+// Its place on the screen is not known, but that it is there is.
+void tst_Wayland::popupsStayWithTheirWindow()
+{
+    QWidget window;
+    window.setWindowTitle(QStringLiteral("Small"));
+    window.resize(560, 440);
+    ColorPickerWidget panel(&window, false);
+    panel.adjustSize();
+    panel.move(window.width() - panel.width(), window.height() - panel.height());
+    QVERIFY(RealInput::showAndActivate(&window));
+
+    PointingWidget bubble(&window);
+    bubble.contentFrame()->setFixedSize(150, 60);
+    bubble.pointTo(window.mapToGlobal(QPoint(100, window.height() - 20)));
+    bubble.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bubble));
+    QCOMPARE(bubble.effectiveArrowSide(), PointingWidget::ArrowSide::Bottom);
+    QVERIFY(window.geometry().contains(bubble.geometry()));
+
+    QVERIFY(RealInput::click(panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))));
+    QWidget* selector = nullptr;
+    QTRY_VERIFY((selector = QApplication::activePopupWidget()));
+    QTRY_VERIFY(window.geometry().contains(selector->geometry()));
+    QVERIFY(QTest::qWaitForWindowExposed(selector));
+    QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-popups")));
 }
 
 void tst_Wayland::buttonsSayThatThereIsNoPortal()
