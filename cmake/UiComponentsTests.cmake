@@ -50,16 +50,18 @@ endfunction()
 
 set(UIC_DESKTOP_SESSION "${PROJECT_SOURCE_DIR}/tests/desktop/desktop-session")
 
-# uic_desktop_test(<Class> LINK <target...> [SCREENS <layout> | WAYLAND | ACCESSIBLE]): tests/desktop/tst_<Class>.cpp,
-# run on a desktop of its own with a window manager and a compositor. See RealInput.h; desktop-session describes
-# the layout, and what the other two are.
+# uic_desktop_test(<Class> LINK <target...> [SCREENS <layout> | WAYLAND | XWAYLAND | ACCESSIBLE]):
+# tests/desktop/tst_<Class>.cpp, run on a desktop of its own with a window manager and a compositor. See
+# RealInput.h; desktop-session describes the layout, and what the others are.
 function(uic_desktop_test class)
-    cmake_parse_arguments(arg "WAYLAND;ACCESSIBLE" "SCREENS" "" ${ARGN})
+    cmake_parse_arguments(arg "WAYLAND;XWAYLAND;ACCESSIBLE" "SCREENS" "" ${ARGN})
     set(launcher "${UIC_DESKTOP_SESSION}")
     if(arg_SCREENS)
         list(APPEND launcher --screens "${arg_SCREENS}")
     elseif(arg_WAYLAND)
         list(APPEND launcher --wayland)
+    elseif(arg_XWAYLAND)
+        list(APPEND launcher --xwayland)
     elseif(arg_ACCESSIBLE)
         list(APPEND launcher --accessible)
     endif()

@@ -18,7 +18,7 @@ uic_packages()
             wayland)
                 echo qtwayland5 ;;
             desktop)
-                echo qtwayland5 sway grim wtype dbus-daemon \
+                echo qtwayland5 sway xwayland grim wtype dbus-daemon \
                     fonts-dejavu-core xvfb openbox picom xdotool x11-utils \
                     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils \
                     libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 \

@@ -22,7 +22,8 @@ enum class AccessStatus {
  * Returns whether the program may do @p type now. Never asks the user, and returns at once.
  *
  * macOS decides by itself. X11, Windows and Qt's offscreen platform have no such permissions: everything is
- * granted. On Wayland and on Qt's minimal platform nothing of it works: the result is Unavailable. The
+ * granted. On Wayland and on Qt's minimal platform nothing of it works: the result is Unavailable, also
+ * where the desktop's portal hands out single colours or pictures that the user has chosen. The
  * platform is that of the running QGuiApplication: a program under Xwayland counts as X11, although it sees
  * at most the windows of other X11 programs, and may read black instead.
  *
