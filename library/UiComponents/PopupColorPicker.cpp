@@ -4,6 +4,7 @@
 #include "ColorPickerWidget.h"
 #include "Pipette.h"
 #include "PopupPosition.h"
+#include "ScreenColorSource.h"
 
 #include <EditorWidgets/Workaround.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -83,6 +84,7 @@ public:
     void open(QWidget* field);
     void show(QWidget* field);
     void showColor();
+    void showPipetteState() const;
     void preview(const QColor& color);
     void sample();
     void sampleWithHostsPipette();
@@ -246,12 +248,17 @@ void PopupColorPicker::Private::open(QWidget* field)
     connect(popup->panel, &ColorPickerWidget::colorChanged, panelListener.get(),
             [this](const QColor& color) { preview(color); });
     connect(popup->panel, &ColorPickerWidget::pipetteRequested, panelListener.get(), [this] { sample(); });
+    if (const ScreenColorSource* const source = ScreenColorSource::current()) {
+        connect(source, &ScreenColorSource::unavailableReasonChanged, panelListener.get(),
+                [this] { showPipetteState(); });
+    }
     show(field);
 }
 
 void PopupColorPicker::Private::show(QWidget* field)
 {
     showColor();
+    showPipetteState();
     popup->setLayoutDirection(field->layoutDirection());
     popup->ensurePolished();
     popup->adjustSize();
@@ -270,6 +277,19 @@ void PopupColorPicker::Private::showColor()
         isShowingColor = true;
         popup->panel->setCurrentColor(current);
         isShowingColor = false;
+    }
+}
+
+/// The panel knows of the screen only, and other pickers may have shown it before.
+void PopupColorPicker::Private::showPipetteState() const
+{
+    const QString reason = hostsPipette ? QString() : Pipette::unavailableReason();
+    auto* const button = popup && popup->panel
+                             ? popup->panel->findChild<QToolButton*>(QStringLiteral("pipetteButton"))
+                             : nullptr;
+    if (button) {
+        button->setEnabled(reason.isEmpty());
+        button->setToolTip(reason);
     }
 }
 

@@ -12,12 +12,12 @@ class ColorPickerWidget;
  *     field->setPicker(new PopupColorPicker);
  *
  * The pop-up opens below the field, or above it where there is no room, level with its leading edge, and
- * stays on the field's screen. Each colour that the user chooses is the field's at once. A click elsewhere,
- * Enter and stop() keep it; Escape brings back the value from before, several colours and no colour included.
- * A pick without a choice ends with exactly that value too: the picker asks the ColorPickerButton, its
- * parent, for it when the pick begins, and again at the end for what the host has set meanwhile, which then
- * is the value that Escape brings back. A click on the field closes the pop-up. While the panel has its
- * selector open, these close that one first, except stop().
+ * stays on the field's screen (on Wayland, in its window). Each colour that the user chooses is the field's
+ * at once. A click elsewhere, Enter and stop() keep it; Escape brings back the value from before, several
+ * colours and no colour included. A pick without a choice ends with exactly that value too: the picker asks
+ * the ColorPickerButton, its parent, for it when the pick begins, and again at the end for what the host has
+ * set meanwhile, which then is the value that Escape brings back. A click on the field closes the pop-up.
+ * While the panel has its selector open, these close that one first, except stop().
  *
  * The panel's pipette button puts the pop-up aside and picks from the screen with a Pipette, or with the
  * picker that setPipette() names, and then shows the pop-up again. A colour from there takes the alpha of
@@ -59,7 +59,8 @@ public:
     void setOptions(const Options& options);
 
     /// Sets what the panel's pipette button starts, for example a WidgetColorPicker. It is not owned; null,
-    /// the default, stands for a Pipette.
+    /// the default, stands for a Pipette: where that can do nothing (see Pipette::unavailableReason()) the
+    /// pop-up opens with the button disabled.
     void setPipette(AbstractColorPicker* pipette);
 
     /// The panel while the pop-up is open or a pipette runs, else null.

@@ -1,4 +1,5 @@
 #include "FakeColorPicker.h"
+#include "FakeScreenColors.h"
 #include "PipetteWindows.h"
 #include "TestMain.h"
 
@@ -80,6 +81,7 @@ private Q_SLOTS:
     void aFieldInAnotherWindow();
     void pipetteComesBackToThePanel_data();
     void pipetteComesBackToThePanel();
+    void pipetteThatCanDoNothing();
     void stopEndsThePipetteToo_data();
     void stopEndsThePipetteToo();
     void withoutAField();
@@ -520,6 +522,29 @@ void tst_PopupColorPicker::pipetteComesBackToThePanel()
     m_button->startPicking();
     child<QToolButton>("pipetteButton")->click();
     QTRY_VERIFY(popup()->isVisible());
+}
+
+void tst_PopupColorPicker::pipetteThatCanDoNothing()
+{
+    FakeScreenColors screen;
+    ScreenColorSource::install(&screen);
+    screen.setReason(QStringLiteral("no screen"));
+    FakeColorPicker hosts;
+    // One after the other, with one panel.
+    for (const bool isHosts : {false, true, false}) {
+        m_picker->setPipette(isHosts ? &hosts : nullptr);
+        m_button->startPicking();
+        const auto* const button = child<QToolButton>("pipetteButton");
+        QCOMPARE(button->isEnabled(), isHosts);
+        QCOMPARE(button->toolTip(), isHosts ? QString() : QStringLiteral("no screen"));
+        screen.setReason(QStringLiteral("no portal"));
+        QCOMPARE(button->toolTip(), isHosts ? QString() : QStringLiteral("no portal"));
+        screen.setReason({});
+        QVERIFY(button->isEnabled());
+        screen.setReason(QStringLiteral("no screen"));
+        QCOMPARE(button->isEnabled(), isHosts);
+        m_picker->stop();
+    }
 }
 
 void tst_PopupColorPicker::stopEndsThePipetteToo_data()
