@@ -128,6 +128,8 @@ const std::vector<Row>& rows()
 
         {nullptr, "editingFinished", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
         {nullptr, "released", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
+        {nullptr, "cursorPositionChanged", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
+        {nullptr, "selectionChanged", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
         {nullptr, "application", Doing::Other, {}, "", qt, "changedSiblingIsDeleted"},
         {nullptr, "event", Doing::Other, {}, "", qt, "changedSiblingIsDeleted"},
         {nullptr, "delete", Doing::Deleting, {}, "", qt, "hiddenWidgetIsDeleted"},
