@@ -1,5 +1,6 @@
 # uic_test(<Class> PROGRAM <name> NAME <test> LABEL <label> LINK <target...> [SOURCES <file...>]
-#     [LAUNCHER <command...>] ENVIRONMENT <variable...>): tst_<Class>.cpp of this folder, run as one test.
+#     [LAUNCHER <command...>] ENVIRONMENT <variable...> [PLAIN_LITERALS]): tst_<Class>.cpp of this folder, run
+# as one test. PLAIN_LITERALS is for tables of texts, which may be converted to a QString.
 #
 # The classes of a PROGRAM are linked into one file, tst_<name>, and each runs in a process of its own:
 # "tst_<name> <Class> [function...]". Hundreds of small programs would take longer to link, and moc longer to
@@ -8,7 +9,7 @@
 #
 # A warning that the test did not announce with QTest::ignoreMessage() fails it.
 function(uic_test class)
-    cmake_parse_arguments(arg "" "PROGRAM;NAME;LABEL" "LINK;SOURCES;LAUNCHER;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "PLAIN_LITERALS" "PROGRAM;NAME;LABEL" "LINK;SOURCES;LAUNCHER;ENVIRONMENT" ${ARGN})
     set(program tst_${arg_PROGRAM})
     if(NOT TARGET ${program})
         add_executable(${program})
@@ -25,6 +26,10 @@ function(uic_test class)
     target_link_libraries(${program} PRIVATE ${arg_LINK})
     set_property(SOURCE tst_${class}.cpp TARGET_DIRECTORY ${program} APPEND PROPERTY COMPILE_DEFINITIONS
         UIC_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
+    if(arg_PLAIN_LITERALS)
+        set_source_files_properties(tst_${class}.cpp TARGET_DIRECTORY ${program} PROPERTIES
+            COMPILE_OPTIONS -UQT_NO_CAST_FROM_ASCII SKIP_PRECOMPILE_HEADERS ON)
+    endif()
     set_property(GLOBAL PROPERTY UIC_PROGRAM_${arg_NAME} ${program})
     # Not with -silent: it keeps back the warnings that the expression below looks for.
     add_test(NAME ${arg_NAME} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${program}> ${class})
@@ -50,44 +55,27 @@ endfunction()
 
 set(UIC_DESKTOP_SESSION "${PROJECT_SOURCE_DIR}/tests/desktop/desktop-session")
 
-# uic_desktop_test(<Class> LINK <target...> [SCREENS <layout> | WAYLAND | XWAYLAND | ACCESSIBLE]):
-# tests/desktop/tst_<Class>.cpp, run on a desktop of its own with a window manager and a compositor. See
-# RealInput.h; desktop-session describes the layout, and what the others are.
+# uic_desktop_test(<Class> LINK <target...> [SESSION <option...>]): tests/desktop/tst_<Class>.cpp, run on a desktop
+# of its own. See RealInput.h for the input, and desktop-session for its options.
 function(uic_desktop_test class)
-    cmake_parse_arguments(arg "WAYLAND;XWAYLAND;ACCESSIBLE" "SCREENS" "" ${ARGN})
-    set(launcher "${UIC_DESKTOP_SESSION}")
-    if(arg_SCREENS)
-        list(APPEND launcher --screens "${arg_SCREENS}")
-    elseif(arg_WAYLAND)
-        list(APPEND launcher --wayland)
-    elseif(arg_XWAYLAND)
-        list(APPEND launcher --xwayland)
-    elseif(arg_ACCESSIBLE)
-        list(APPEND launcher --accessible)
-    endif()
+    cmake_parse_arguments(arg "" "" "SESSION;LINK" ${ARGN})
     set(program desktop)
     if("${ARGN}" MATCHES "Testable")
         set(program desktopInternals)
     endif()
     uic_test(${class} PROGRAM ${program} NAME desktop.${class} LABEL desktop
-        LAUNCHER ${launcher} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_UNPARSED_ARGUMENTS})
+        LAUNCHER ${UIC_DESKTOP_SESSION} ${arg_SESSION} ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT}
+        LINK ${arg_LINK} ${arg_UNPARSED_ARGUMENTS})
 endfunction()
 
-# uic_desktop_variant(<Class> <name> [SCREENS <layout> | WAYLAND] [ENVIRONMENT <variable...>]
-#     [ARGUMENTS <function...>]):
-# runs a desktop test, or these functions of it, once more, on the screens that desktop-session describes or on
-# Wayland, and with these variables.
+# uic_desktop_variant(<Class> <name> [SESSION <option...>] [ENVIRONMENT <variable...>] [ARGUMENTS <function...>]):
+# runs a desktop test, or these functions of it, once more, in a session of these options and with these variables.
 function(uic_desktop_variant class name)
-    cmake_parse_arguments(arg "WAYLAND" "SCREENS" "ENVIRONMENT;ARGUMENTS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SESSION;ENVIRONMENT;ARGUMENTS" ${ARGN})
     set(test desktop.${class}.${name})
-    set(launcher "${UIC_DESKTOP_SESSION}")
-    if(arg_SCREENS)
-        list(APPEND launcher --screens "${arg_SCREENS}")
-    elseif(arg_WAYLAND)
-        list(APPEND launcher --wayland)
-    endif()
     get_property(program GLOBAL PROPERTY UIC_PROGRAM_desktop.${class})
-    add_test(NAME ${test} COMMAND ${launcher} $<TARGET_FILE:${program}> ${class} ${arg_ARGUMENTS})
+    add_test(NAME ${test} COMMAND ${UIC_DESKTOP_SESSION} ${arg_SESSION} $<TARGET_FILE:${program}> ${class}
+        ${arg_ARGUMENTS})
     foreach(property LABELS TIMEOUT FAIL_REGULAR_EXPRESSION)
         get_test_property(desktop.${class} ${property} value)
         set_tests_properties(${test} PROPERTIES ${property} "${value}")

@@ -61,27 +61,6 @@ QLineEdit* editorOf(QObject* part)
 }
 
 /// Each step of a drag brings many events that say nothing.
-bool isHeardOf(QEvent::Type type)
-{
-    switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::InputMethod:
-    case QEvent::Wheel:
-    case QEvent::Leave:
-    case QEvent::FocusOut:
-    case QEvent::EnabledChange:
-    case QEvent::Hide:
-        return true;
-    default:
-        return false;
-    }
-}
-
 ColorPickerButton* colorButtonOf(QWidget* field)
 {
     const auto* input = qobject_cast<ColorInputWidget*>(field);
@@ -125,7 +104,7 @@ public:
     void end(bool isKept);
     void cancel();
 
-    EditSession* const owner;
+    EditSession* const q;
     QWidget* const field;
     ColorPickerButton* const colorButton;
     const FieldAccess access;
@@ -148,7 +127,7 @@ public:
 };
 
 EditSession::Private::Private(EditSession* session, QWidget* editedField)
-    : owner(session)
+    : q(session)
     , field(editedField)
     , colorButton(colorButtonOf(editedField))
     , access(FieldAccess::of(editedField))
@@ -161,32 +140,32 @@ void EditSession::Private::watchParts()
 {
     const auto parts = field->findChildren<QWidget*>() << field;
     for (QWidget* watched : parts) {
-        watched->installEventFilter(owner);
+        watched->installEventFilter(q);
         if (const auto* edit = qobject_cast<QLineEdit*>(watched)) {
             // Behind the field, which has taken the text then.
-            connect(edit, &QLineEdit::textChanged, owner, [this] { onTyped(); });
+            connect(edit, &QLineEdit::textChanged, q, [this] { onTyped(); });
         }
     }
-    access.watch(owner, [this] { onChanged(); });
+    access.watch(q, [this] { onChanged(); });
     if (access.watchChoice) {
-        access.watchChoice(owner, [this] { onChosen(); });
+        access.watchChoice(q, [this] { onChosen(); });
     }
 }
 
 void EditSession::Private::watchPicks()
 {
     if (colorButton) {
-        connect(colorButton, &ColorPickerButton::pickingStarted, owner,
+        connect(colorButton, &ColorPickerButton::pickingStarted, q,
                 [this] { begin(Gesture::Pick, colorButton); });
-        connect(colorButton, &ColorPickerButton::pickingStopped, owner, [this] {
+        connect(colorButton, &ColorPickerButton::pickingStopped, q, [this] {
             AbstractColorPicker* const picker = colorButton->picker();
             onPicked(picker ? QVariant::fromValue(picker->color()) : access.read(), false);
         });
     }
     if (auto* button = qobject_cast<WidgetColorPickerButton*>(field)) {
-        connect(button, &WidgetColorPickerButton::pickingStarted, owner,
+        connect(button, &WidgetColorPickerButton::pickingStarted, q,
                 [this, button] { begin(Gesture::Pick, button); });
-        connect(button, &WidgetColorPickerButton::pickingFinished, owner, [this, button] {
+        connect(button, &WidgetColorPickerButton::pickingFinished, q, [this, button] {
             const QColor picked = button->pickedColor();
             onPicked(picked.isValid() ? picked : button->color(), picked.isValid());
         });
@@ -204,7 +183,7 @@ bool EditSession::Private::isAlive() const
 bool EditSession::Private::begin(Gesture next, QObject* onPart)
 {
     if (gesture != next) {
-        const QPointer<EditSession> self(owner);
+        const QPointer<EditSession> self(q);
         finish();
         if (!self) {
             return false;
@@ -341,7 +320,7 @@ void EditSession::Private::onChanged()
     if (!isHeard()) {
         return;
     }
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     if (!FieldAccess::isSame(access.read(), last)) {
         reportShown();
     }
@@ -356,7 +335,7 @@ void EditSession::Private::onChosen()
     if (!isHeard() || !face->isShown()) {
         return;
     }
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     reportShown();
     if (self) {
         finishIfAlone();
@@ -377,7 +356,7 @@ void EditSession::Private::onPicked(const QVariant& result, bool isNew)
     if (gesture != Gesture::Pick || !isHeard()) {
         return;
     }
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     // The button takes it after this, and is to show what is committed.
     ++holds;
     access.write(result);
@@ -398,7 +377,7 @@ void EditSession::Private::onPicked(const QVariant& result, bool isNew)
 
 void EditSession::Private::reportShown()
 {
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     report(access.read());
     if (self && isAlive()) {
         // A slot may have set another value.
@@ -408,7 +387,7 @@ void EditSession::Private::reportShown()
 
 void EditSession::Private::report(const QVariant& value)
 {
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     const QVariant before = last;
     last = value;
     isReporting = true;
@@ -419,10 +398,10 @@ void EditSession::Private::report(const QVariant& value)
         // Several colours are a value of their own.
         isNewInAnyCase = wasMulti && !colorButton;
         face->setShown(false);
-        Q_EMIT owner->started();
+        Q_EMIT q->started();
     }
     if (self) {
-        Q_EMIT owner->previewed(value);
+        Q_EMIT q->previewed(value);
     }
     if (self) {
         isReporting = false;
@@ -447,7 +426,7 @@ bool EditSession::Private::takeText()
     if (gesture != Gesture::Text || !box || !isTyped()) {
         return true;
     }
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     box->interpretText();
     if (self && face->isShown()) {
         reportShown();
@@ -481,10 +460,10 @@ void EditSession::Private::end(bool isKept)
     isActive = false;
     isNewInAnyCase = false;
     if (isKept) {
-        Q_EMIT owner->committed(last);
+        Q_EMIT q->committed(last);
     } else {
         face->setShown(wasMulti);
-        Q_EMIT owner->cancelled();
+        Q_EMIT q->cancelled();
     }
 }
 
@@ -493,7 +472,7 @@ void EditSession::Private::cancel()
     if (!isHeard() || gesture == Gesture::Pick) {
         return;
     }
-    const QPointer<EditSession> self(owner);
+    const QPointer<EditSession> self(q);
     const QVariant old = isActive ? start : last;
     ++holds;
     letGo();
@@ -610,7 +589,7 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         return false;
     }
     // A pick is the picker's to end.
-    if (!isHeardOf(event->type()) || d->gesture == Gesture::Pick || !d->isAlive()) {
+    if (d->gesture == Gesture::Pick || !d->isAlive()) {
         return false;
     }
     const QPointer<QObject> receiver(watched);

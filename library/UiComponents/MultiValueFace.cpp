@@ -48,18 +48,24 @@ void MultiValueFace::setShown(bool shown)
         if (auto* edit = qobject_cast<QLineEdit*>(part)) {
             cover(edit);
         }
-        if (part->focusPolicy() != Qt::NoFocus) {
-            describe(part);
+        if (shown && part->focusPolicy() != Qt::NoFocus) {
+            m_descriptions.append({part, part->accessibleDescription()});
         }
         // A sheet selects parts by the property of the field.
         Util::repolishWidget(part);
         part->update();
     }
+    setTexts();
     if (!shown) {
         for (const QPointer<QLabel>& label : qAsConst(m_covers)) {
             delete label.data();
         }
         m_covers.clear();
+        for (const Description& description : qAsConst(m_descriptions)) {
+            if (description.part) {
+                description.part->setAccessibleDescription(description.before);
+            }
+        }
         m_descriptions.clear();
     }
 }
@@ -97,19 +103,11 @@ void MultiValueFace::cover(QLineEdit* edit)
     m_covers.append(label);
 }
 
-void MultiValueFace::describe(QWidget* part)
-{
-    if (m_isShown) {
-        m_descriptions.insert(part, part->accessibleDescription());
-        part->setAccessibleDescription(tr("Several values"));
-    } else {
-        part->setAccessibleDescription(m_descriptions.value(part));
-    }
-}
-
 void MultiValueFace::setTexts() const
 {
-    for (auto part = m_descriptions.keyBegin(); part != m_descriptions.keyEnd(); ++part) {
-        (*part)->setAccessibleDescription(tr("Several values"));
+    for (const Description& description : m_descriptions) {
+        if (description.part) {
+            description.part->setAccessibleDescription(tr("Several values"));
+        }
     }
 }

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QVector>
@@ -31,11 +30,16 @@ public:
 
 private:
     void cover(QLineEdit* edit);
-    void describe(QWidget* part);
     void setTexts() const;
+
+    struct Description
+    {
+        QPointer<QWidget> part;
+        QString before;
+    };
 
     QWidget* const m_field;
     QVector<QPointer<QLabel>> m_covers;
-    QHash<QWidget*, QString> m_descriptions; // as they were before
+    QVector<Description> m_descriptions;
     bool m_isShown = false;
 };

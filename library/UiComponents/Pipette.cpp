@@ -237,12 +237,12 @@ void Pipette::Impl::Run::end()
     m_context.reset();
     deleteLater();
     if (qApp) {
-        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = m_reader] {});
-    }
-    const auto screens = QGuiApplication::screens();
-    for (QScreen* screen : screens) {
         // The next pick may begin at once.
-        m_reader.refresh(screen->geometry(), *screen);
+        const auto screens = QGuiApplication::screens();
+        for (QScreen* screen : screens) {
+            m_reader.refresh(screen->geometry(), *screen);
+        }
+        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = m_reader] {});
     }
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {

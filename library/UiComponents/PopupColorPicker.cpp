@@ -75,7 +75,7 @@ class PopupColorPicker::Private
 {
 public:
     explicit Private(PopupColorPicker* picker)
-        : owner(picker)
+        : q(picker)
     {
     }
     ~Private();
@@ -98,15 +98,15 @@ public:
     void onHidden();
     void finish();
 
-    QWidget* field() const { return qobject_cast<QWidget*>(owner->parent()); }
+    QWidget* field() const { return qobject_cast<QWidget*>(q->parent()); }
     void askField()
     {
-        if (const auto* button = qobject_cast<ColorPickerButton*>(owner->parent())) {
+        if (const auto* button = qobject_cast<ColorPickerButton*>(q->parent())) {
             current = button->color();
         }
     }
 
-    PopupColorPicker* const owner;
+    PopupColorPicker* const q;
     Options options;
     QPointer<AbstractColorPicker> hostsPipette;
     Pipette* pipette = nullptr;
@@ -233,7 +233,7 @@ void PopupColorPicker::Private::open(QWidget* field)
     start = current;
     popup = popupIn(field->window());
     if (popup->user) {
-        const QPointer<PopupColorPicker> self(owner);
+        const QPointer<PopupColorPicker> self(q);
         popup->user->stop();
         if (!self || state != State::Picking) {
             return;
@@ -243,7 +243,7 @@ void PopupColorPicker::Private::open(QWidget* field)
             return;
         }
     }
-    popup->user = owner;
+    popup->user = q;
     panelListener = std::make_unique<QObject>();
     connect(popup->panel, &ColorPickerWidget::colorChanged, panelListener.get(),
             [this](const QColor& color) { preview(color); });
@@ -297,7 +297,7 @@ void PopupColorPicker::Private::preview(const QColor& color)
 {
     if (!isShowingColor && !isCancelled && current != color) {
         current = color;
-        Q_EMIT owner->colorChanged(color);
+        Q_EMIT q->colorChanged(color);
     }
 }
 
@@ -330,7 +330,7 @@ void PopupColorPicker::Private::sampleWithHostsPipette()
 void PopupColorPicker::Private::sampleFromScreen()
 {
     if (!pipette) {
-        pipette = new Pipette(owner);
+        pipette = new Pipette(q);
     }
     const auto hasStarted = std::make_shared<bool>(false);
     const QPointer<QObject> listener = pipetteListener.get();
@@ -352,7 +352,7 @@ void PopupColorPicker::Private::takeSample(const std::optional<QColor>& color)
     }
     if (taken != current) {
         current = taken;
-        Q_EMIT owner->colorChanged(taken);
+        Q_EMIT q->colorChanged(taken);
     }
 }
 
@@ -361,7 +361,7 @@ void PopupColorPicker::Private::endSampling()
 {
     pipetteListener.reset();
     QMetaObject::invokeMethod(
-        owner, [this] { reopen(); }, Qt::QueuedConnection);
+        q, [this] { reopen(); }, Qt::QueuedConnection);
 }
 
 void PopupColorPicker::Private::reopen()
@@ -393,11 +393,11 @@ void PopupColorPicker::Private::stopSampling()
 
 void PopupColorPicker::Private::cancel()
 {
-    const QPointer<PopupColorPicker> self(owner);
+    const QPointer<PopupColorPicker> self(q);
     isCancelled = true;
     if (current != start) {
         current = start;
-        Q_EMIT owner->colorChanged(start);
+        Q_EMIT q->colorChanged(start);
     }
     if (self) {
         closePopup();
@@ -421,7 +421,7 @@ void PopupColorPicker::Private::onHidden()
     if (state == State::Picking) {
         state = State::Closing;
         QMetaObject::invokeMethod(
-            owner,
+            q,
             [this] {
                 if (state == State::Closing) {
                     finish();
@@ -437,7 +437,7 @@ void PopupColorPicker::Private::finish()
         return;
     }
     state = State::Finishing;
-    const QPointer<PopupColorPicker> self(owner);
+    const QPointer<PopupColorPicker> self(q);
     stopSampling();
     if (self) {
         // The selector adds its colour when it is closed, and the panel reports that.
@@ -447,11 +447,11 @@ void PopupColorPicker::Private::finish()
         return;
     }
     panelListener.reset();
-    if (popup && popup->user == owner) {
+    if (popup && popup->user == q) {
         popup->user = nullptr;
     }
     state = State::Idle;
-    Q_EMIT owner->pickingStopped();
+    Q_EMIT q->pickingStopped();
 }
 
 PopupColorPicker::PopupColorPicker()

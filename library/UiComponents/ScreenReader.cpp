@@ -79,6 +79,13 @@ void combine(const ScreenReader::Picture& from, ScreenReader::Picture& to, const
     }
 }
 
+void copy(const ScreenReader::Picture& from, ScreenReader::Picture& to, const QRegion& area)
+{
+    for (const QRect& part : area) {
+        combine(from, to, part, [](QRgb source, QRgb& target) { target = source; });
+    }
+}
+
 #ifdef QT_X11EXTRAS_LIB
 /// Asks the server once, where QScreen::grabWindow() does so several times. Null where its pixels are not
 /// RGB32.
@@ -227,9 +234,7 @@ void ScreenReader::addPicture(Picture picture)
     QVector<Picture>& pictures = m_memory->pictures;
     const QRegion untrusted = touched(picture.area());
     for (const Picture& former : qAsConst(pictures)) {
-        for (const QRect& part : untrusted) {
-            combine(former, picture, part, [](QRgb kept, QRgb& seen) { seen = kept; });
-        }
+        copy(former, picture, untrusted);
     }
     const auto isReplaced = [&picture](const Picture& former) {
         return picture.area().contains(former.area());
@@ -302,13 +307,10 @@ ScreenReader::Detail ScreenReader::around(const QPoint& point, int size, QScreen
     if (live.area() != pixels || seen != QRegion(pixels)) {
         shown = {pixels.topLeft(), QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied)};
         shown.image.fill(Qt::transparent);
-        const auto copy = [](QRgb from, QRgb& to) { to = from; };
         for (const Picture& picture : qAsConst(m_memory->pictures)) {
-            combine(picture, shown, pixels, copy);
+            copy(picture, shown, pixels);
         }
-        for (const QRect& part : seen) {
-            combine(live, shown, part, copy);
-        }
+        copy(live, shown, seen);
     }
 
     const QPoint middle = toDevice(point, screen);
