@@ -127,160 +127,153 @@ class tst_AccessibleClient : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void reads_data();
-    void reads();
-    void sets();
-    void keyboardAlone();
+    void initTestCase() { Q_INIT_RESOURCE(translations); }
+
+    void reads_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("transcript");
+        QTest::newRow("English") << QString()
+                                 << QStringList{
+                                        QStringLiteral("push button Fill (orange, #ff8040, 50 %)"),
+                                        QStringLiteral("slider Level = 40"),
+                                        QStringLiteral("spin button Level, number = 40"),
+                                        QStringLiteral("slider Gain = 0.4"),
+                                        QStringLiteral("spin button Gain, number = 0.4"),
+                                        QStringLiteral("slider Position, x = 0.25"),
+                                        QStringLiteral(
+                                            "spin button Position, y = 0.5 (Position on the y-axis)"),
+                                        QStringLiteral("push button Export to, Choose a folder"),
+                                        QStringLiteral("push button Pick a colour from the screen (Needs a "
+                                                       "mouse; without one, type the colour value)"),
+                                        QStringLiteral("radio button orange, #ff5d00"),
+                                        QStringLiteral("spin button Opacity in percent = 100"),
+                                    };
+        QTest::newRow("German") << QStringLiteral("de")
+                                << QStringList{
+                                       QStringLiteral("push button Fill (Orange, #ff8040, 50 %)"),
+                                       QStringLiteral("spin button Level, Zahl = 40"),
+                                       QStringLiteral(
+                                           "spin button Position, y = 0.5 (Position auf der y-Achse)"),
+                                       QStringLiteral("push button Export to, Ordner wählen"),
+                                       QStringLiteral("radio button Orange, #ff5d00"),
+                                       QStringLiteral("radio button dunkles Rot, #760000"),
+                                       QStringLiteral("spin button Deckkraft in Prozent = 100"),
+                                   };
+        QTest::newRow("Japanese") << QStringLiteral("ja")
+                                  << QStringList{
+                                         QStringLiteral("push button Fill (オレンジ、#ff8040、50%)"),
+                                         QStringLiteral("spin button Level、数値 = 40"),
+                                         QStringLiteral("push button Export to、フォルダーを選択"),
+                                         QStringLiteral("radio button オレンジ、#ff5d00"),
+                                         QStringLiteral("radio button 暗い赤、#760000"),
+                                         QStringLiteral("spin button 不透明度（パーセント） = 100"),
+                                     };
+    }
+
+    void reads()
+    {
+        QFETCH(QString, language);
+        QFETCH(QStringList, transcript);
+        QTranslator translator;
+        if (!language.isEmpty()) {
+            QVERIFY(translator.load(QStringLiteral(":/translations/uicomponents_%1.qm").arg(language)));
+            QCoreApplication::installTranslator(&translator);
+        }
+        Form form;
+        form.setWindowTitle(QStringLiteral("Clip"));
+        QVERIFY(RealInput::showAndActivate(&form));
+        Client client;
+        QVERIFY(client.isListening());
+        QStringList lines = client.tree(QStringLiteral("Clip"));
+        QCoreApplication::removeTranslator(&translator);
+        for (QString& line : lines) {
+            line = line.trimmed();
+        }
+        for (const QString& expected : qAsConst(transcript)) {
+            QVERIFY2(lines.contains(expected), qPrintable(expected + QStringLiteral("\n\nis not in\n") +
+                                                          lines.join(QLatin1Char('\n'))));
+        }
+    }
+
+    void sets()
+    {
+        Form form;
+        form.setWindowTitle(QStringLiteral("Clip"));
+        QVERIFY(RealInput::showAndActivate(&form));
+        Client client;
+        QVERIFY(client.isListening());
+        QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
+        QSignalSpy positions(form.position, &PointSelectorWidget::valueChanged);
+        client.heard();
+        client.ask(
+            {QStringLiteral("set"), QStringLiteral("Gain"), QStringLiteral("slider"), QStringLiteral("0.7")});
+        QTRY_VERIFY(!gains.isEmpty());
+        QCOMPARE(gains.constLast().constFirst().toDouble(), 0.7);
+        client.ask({QStringLiteral("set"), QStringLiteral("Position, x"), QStringLiteral("slider"),
+                    QStringLiteral("0.75")});
+        QTRY_VERIFY(!positions.isEmpty());
+        QCOMPARE(positions.constLast().constFirst().toPointF(), QPointF(0.75, 0.5));
+        QStringList heard;
+        QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Position, x: 0.75")),
+                     qPrintable(heard.join(QLatin1Char('\n'))));
+        client.ask({QStringLiteral("press"), QStringLiteral("red, #ff0000")});
+        QTRY_COMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::red)));
+        QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Current colour: red, #ff0000")),
+                     qPrintable(heard.join(QLatin1Char('\n'))));
+    }
+
+    // A user without a mouse and without eyes fills the form in.
+    void keyboardAlone()
+    {
+        Form form;
+        form.setWindowTitle(QStringLiteral("Clip"));
+        QVERIFY(RealInput::showAndActivate(&form));
+        Client client;
+        QVERIFY(client.isListening());
+        QStringList heard;
+        const auto hears = [&](const QString& text) {
+            return QTest::qWaitFor([&] { return (heard += client.heard()).contains(text); }, 5000);
+        };
+        const auto goTo = [&](const char* chord, const char* name) {
+            heard.clear();
+            return RealInput::key(QLatin1String(chord)) && hears(QLatin1String(name) + QStringLiteral("!"));
+        };
+        QSignalSpy levels(form.level, &SliderInputWidget::valueChanged);
+        QVERIFY2(goTo("alt+l", "Level"), qPrintable(heard.join(QLatin1Char('\n'))));
+        QVERIFY(RealInput::key(QStringLiteral("Right")));
+        QVERIFY2(hears(QStringLiteral("Level: 41")), qPrintable(heard.join(QLatin1Char('\n'))));
+        QCOMPARE(levels.constLast().constFirst().toInt(), 41);
+
+        QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
+        QVERIFY(goTo("alt+g", "Gain"));
+        QVERIFY(RealInput::key(QStringLiteral("Right")));
+        QVERIFY2(hears(QStringLiteral("Gain: 0.41")), qPrintable(heard.join(QLatin1Char('\n'))));
+        QCOMPARE(gains.constLast().constFirst().toDouble(), 0.41);
+
+        QSignalSpy positions(form.position, &PointSelectorWidget::valueChanged);
+        QVERIFY(goTo("alt+p", "Position"));
+        QVERIFY(RealInput::key(QStringLiteral("End")));
+        QVERIFY2(hears(QStringLiteral("Position, x: 1")), qPrintable(heard.join(QLatin1Char('\n'))));
+        QCOMPARE(positions.constLast().constFirst().toPointF(), QPointF(1.0, 0.5));
+
+        QVERIFY(goTo("alt+s", "Search"));
+        QVERIFY(RealInput::type(QStringLiteral("blur")));
+        QTRY_COMPARE(form.search->text(), QStringLiteral("blur"));
+
+        QVERIFY(goTo("alt+e", "Export to"));
+        QVERIFY(RealInput::type(QStringLiteral("/tmp")));
+        QTRY_COMPARE(form.folder->path(), QStringLiteral("/tmp"));
+
+        QVERIFY(goTo("alt+t", "Colour value"));
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY(RealInput::type(QStringLiteral("#0000ff")));
+        QVERIFY2(hears(QStringLiteral("Current colour: blue, #0000ff")),
+                 qPrintable(heard.join(QLatin1Char('\n'))));
+        QCOMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::blue)));
+        QCOMPARE(heard.count(QStringLiteral("Current colour: blue, #0000ff")), 1);
+    }
 };
-
-void tst_AccessibleClient::initTestCase()
-{
-    Q_INIT_RESOURCE(translations);
-}
-
-void tst_AccessibleClient::reads_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QStringList>("transcript");
-    QTest::newRow("English") << QString()
-                             << QStringList{
-                                    QStringLiteral("push button Fill (orange, #ff8040, 50 %)"),
-                                    QStringLiteral("slider Level = 40"),
-                                    QStringLiteral("spin button Level, number = 40"),
-                                    QStringLiteral("slider Gain = 0.4"),
-                                    QStringLiteral("spin button Gain, number = 0.4"),
-                                    QStringLiteral("slider Position, x = 0.25"),
-                                    QStringLiteral("spin button Position, y = 0.5 (Position on the y-axis)"),
-                                    QStringLiteral("push button Export to, Choose a folder"),
-                                    QStringLiteral("push button Pick a colour from the screen (Needs a "
-                                                   "mouse; without one, type the colour value)"),
-                                    QStringLiteral("radio button orange, #ff5d00"),
-                                    QStringLiteral("spin button Opacity in percent = 100"),
-                                };
-    QTest::newRow("German") << QStringLiteral("de")
-                            << QStringList{
-                                   QStringLiteral("push button Fill (Orange, #ff8040, 50 %)"),
-                                   QStringLiteral("spin button Level, Zahl = 40"),
-                                   QStringLiteral("spin button Position, y = 0.5 (Position auf der y-Achse)"),
-                                   QStringLiteral("push button Export to, Ordner wählen"),
-                                   QStringLiteral("radio button Orange, #ff5d00"),
-                                   QStringLiteral("radio button dunkles Rot, #760000"),
-                                   QStringLiteral("spin button Deckkraft in Prozent = 100"),
-                               };
-    QTest::newRow("Japanese") << QStringLiteral("ja")
-                              << QStringList{
-                                     QStringLiteral("push button Fill (オレンジ、#ff8040、50%)"),
-                                     QStringLiteral("spin button Level、数値 = 40"),
-                                     QStringLiteral("push button Export to、フォルダーを選択"),
-                                     QStringLiteral("radio button オレンジ、#ff5d00"),
-                                     QStringLiteral("radio button 暗い赤、#760000"),
-                                     QStringLiteral("spin button 不透明度（パーセント） = 100"),
-                                 };
-}
-
-void tst_AccessibleClient::reads()
-{
-    QFETCH(QString, language);
-    QFETCH(QStringList, transcript);
-    QTranslator translator;
-    if (!language.isEmpty()) {
-        QVERIFY(translator.load(QStringLiteral(":/translations/uicomponents_%1.qm").arg(language)));
-        QCoreApplication::installTranslator(&translator);
-    }
-    Form form;
-    form.setWindowTitle(QStringLiteral("Clip"));
-    QVERIFY(RealInput::showAndActivate(&form));
-    Client client;
-    QVERIFY(client.isListening());
-    QStringList lines = client.tree(QStringLiteral("Clip"));
-    QCoreApplication::removeTranslator(&translator);
-    for (QString& line : lines) {
-        line = line.trimmed();
-    }
-    for (const QString& expected : qAsConst(transcript)) {
-        QVERIFY2(lines.contains(expected),
-                 qPrintable(expected + QStringLiteral("\n\nis not in\n") + lines.join(QLatin1Char('\n'))));
-    }
-}
-
-void tst_AccessibleClient::sets()
-{
-    Form form;
-    form.setWindowTitle(QStringLiteral("Clip"));
-    QVERIFY(RealInput::showAndActivate(&form));
-    Client client;
-    QVERIFY(client.isListening());
-    QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
-    QSignalSpy positions(form.position, &PointSelectorWidget::valueChanged);
-    client.heard();
-    client.ask(
-        {QStringLiteral("set"), QStringLiteral("Gain"), QStringLiteral("slider"), QStringLiteral("0.7")});
-    QTRY_VERIFY(!gains.isEmpty());
-    QCOMPARE(gains.constLast().constFirst().toDouble(), 0.7);
-    client.ask({QStringLiteral("set"), QStringLiteral("Position, x"), QStringLiteral("slider"),
-                QStringLiteral("0.75")});
-    QTRY_VERIFY(!positions.isEmpty());
-    QCOMPARE(positions.constLast().constFirst().toPointF(), QPointF(0.75, 0.5));
-    QStringList heard;
-    QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Position, x: 0.75")),
-                 qPrintable(heard.join(QLatin1Char('\n'))));
-    client.ask({QStringLiteral("press"), QStringLiteral("red, #ff0000")});
-    QTRY_COMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::red)));
-    QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Current colour: red, #ff0000")),
-                 qPrintable(heard.join(QLatin1Char('\n'))));
-}
-
-// A user without a mouse and without eyes fills the form in.
-void tst_AccessibleClient::keyboardAlone()
-{
-    Form form;
-    form.setWindowTitle(QStringLiteral("Clip"));
-    QVERIFY(RealInput::showAndActivate(&form));
-    Client client;
-    QVERIFY(client.isListening());
-    QStringList heard;
-    const auto hears = [&](const QString& text) {
-        return QTest::qWaitFor([&] { return (heard += client.heard()).contains(text); }, 5000);
-    };
-    const auto goTo = [&](const char* chord, const char* name) {
-        heard.clear();
-        return RealInput::key(QLatin1String(chord)) && hears(QLatin1String(name) + QStringLiteral("!"));
-    };
-    QSignalSpy levels(form.level, &SliderInputWidget::valueChanged);
-    QVERIFY2(goTo("alt+l", "Level"), qPrintable(heard.join(QLatin1Char('\n'))));
-    QVERIFY(RealInput::key(QStringLiteral("Right")));
-    QVERIFY2(hears(QStringLiteral("Level: 41")), qPrintable(heard.join(QLatin1Char('\n'))));
-    QCOMPARE(levels.constLast().constFirst().toInt(), 41);
-
-    QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
-    QVERIFY(goTo("alt+g", "Gain"));
-    QVERIFY(RealInput::key(QStringLiteral("Right")));
-    QVERIFY2(hears(QStringLiteral("Gain: 0.41")), qPrintable(heard.join(QLatin1Char('\n'))));
-    QCOMPARE(gains.constLast().constFirst().toDouble(), 0.41);
-
-    QSignalSpy positions(form.position, &PointSelectorWidget::valueChanged);
-    QVERIFY(goTo("alt+p", "Position"));
-    QVERIFY(RealInput::key(QStringLiteral("End")));
-    QVERIFY2(hears(QStringLiteral("Position, x: 1")), qPrintable(heard.join(QLatin1Char('\n'))));
-    QCOMPARE(positions.constLast().constFirst().toPointF(), QPointF(1.0, 0.5));
-
-    QVERIFY(goTo("alt+s", "Search"));
-    QVERIFY(RealInput::type(QStringLiteral("blur")));
-    QTRY_COMPARE(form.search->text(), QStringLiteral("blur"));
-
-    QVERIFY(goTo("alt+e", "Export to"));
-    QVERIFY(RealInput::type(QStringLiteral("/tmp")));
-    QTRY_COMPARE(form.folder->path(), QStringLiteral("/tmp"));
-
-    QVERIFY(goTo("alt+t", "Colour value"));
-    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-    QVERIFY(RealInput::type(QStringLiteral("#0000ff")));
-    QVERIFY2(hears(QStringLiteral("Current colour: blue, #0000ff")),
-             qPrintable(heard.join(QLatin1Char('\n'))));
-    QCOMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::blue)));
-    QCOMPARE(heard.count(QStringLiteral("Current colour: blue, #0000ff")), 1);
-}
 
 UIC_TEST_MAIN(tst_AccessibleClient)
 #include "tst_AccessibleClient.moc"

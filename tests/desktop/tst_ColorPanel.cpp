@@ -27,31 +27,442 @@ class tst_ColorPanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        GalleryApplication::prepare();
+        m_style = std::make_unique<StyleController>();
+        QVERIFY(m_style->setStyle(QStringLiteral("dark")));
+    }
 
-    void everyPaletteColorIsChosenByAClick();
-    void arrowKeysChoose();
-    void hexValueIsTyped();
-    void opacityIsDraggedAndTyped();
-    void ownColorIsAdded();
-    void ninthOwnColorReplacesTheOldest();
-    void escapeClosesTheSelector();
-    void selectorStaysOnItsScreen_data();
-    void selectorStaysOnItsScreen();
-    void dragLeavesTheWindow_data();
-    void dragLeavesTheWindow();
-    void hueSliderTurnsThePlane();
-    void pipetteButtonAsksToCloseToo();
+    void init()
+    {
+        Settings::setUserCustomColors({});
+        m_window = std::make_unique<QWidget>();
+        auto* layout = new QHBoxLayout(m_window.get());
+        layout->setContentsMargins(20, 20, 20, 20);
+        m_panel = new ColorPickerWidget(m_window.get(), true);
+        m_field = new ColorPickerButton(m_window.get());
+        m_picker = new PopupColorPicker;
+        m_field->setPicker(m_picker);
+        m_field->setColor(QColor(Qt::red));
+        layout->addWidget(m_panel, 0, Qt::AlignTop);
+        layout->addStretch();
+        layout->addWidget(m_field, 0, Qt::AlignTop);
+        m_window->setGeometry(300, 200, 520, 380);
+        QVERIFY(RealInput::showAndActivate(m_window.get()));
+        m_reported = std::make_unique<QSignalSpy>(m_panel, &ColorPickerWidget::colorChanged);
+        // The window is on the screen.
+        QTRY_COMPARE(centerOf(m_field), QColor(Qt::red));
+        QTRY_COMPARE(centerOf(facesOf("colorMatrixPanel").constLast()), QColor(0x39, 0x00, 0x23));
+    }
 
-    void fieldOpensThePanel();
-    void fieldIsClosedByAClick_data();
-    void fieldIsClosedByAClick();
-    void fieldKeepsThePanelBelowItsSelector();
-    void escapeBringsTheValueBack_data();
-    void escapeBringsTheValueBack();
-    void pipetteComesBackToTheField();
+    void cleanup()
+    {
+        m_reported.reset();
+        m_window.reset();
+    }
+
+    void everyPaletteColorIsChosenByAClick()
+    {
+        const auto* edit = child<QLineEdit>("currentColorValueEdit");
+        const auto* preview = child<QLabel>("currentColorDisplayLabel");
+        const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
+        QCOMPARE(faces.size(), 72);
+        for (QToolButton* face : faces) {
+            const QColor shown = centerOf(face);
+            m_reported->clear();
+            QVERIFY(RealInput::click(face));
+            QTRY_COMPARE(m_reported->count(), 1);
+            QVERIFY(face->isChecked());
+            if (face == faces.first()) {
+                QVERIFY(!lastReported().isValid());
+                QCOMPARE(edit->text(), QStringLiteral("#null"));
+                continue;
+            }
+            QCOMPARE(lastReported().name(), shown.name());
+            QCOMPARE(edit->text(), shown.name());
+            QTRY_COMPARE(centerOf(preview), shown);
+        }
+        // The choice is marked by a ring at the outermost pixels, of the colour of strong text or of the
+        // focus.
+        QToolButton* const chosen = faces.at(40);
+        QVERIFY(RealInput::click(chosen));
+        QTRY_VERIFY(chosen->isChecked());
+        QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
+        const QPoint onRing(1, chosen->height() / 2);
+        QTRY_COMPARE(RealInput::pixel(chosen, onRing), QColor(0xf4, 0xf4, 0xf4));
+        QVERIFY(RealInput::pixel(faces.at(41), onRing) != QColor(0xf4, 0xf4, 0xf4));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel")));
+    }
+
+    void arrowKeysChoose()
+    {
+        const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
+        QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
+        QVERIFY(RealInput::key(QStringLiteral("Tab")));
+        QTRY_VERIFY(child<QWidget>("pipetteButton")->hasFocus());
+        QVERIFY(RealInput::key(QStringLiteral("Tab")));
+        QTRY_VERIFY(faces.contains(qobject_cast<QToolButton*>(QApplication::focusWidget())));
+        QVERIFY(RealInput::key(QStringLiteral("space")));
+        QTRY_COMPARE(m_reported->count(), 1);
+        const auto* first = QApplication::focusWidget();
+        QVERIFY(RealInput::key(QStringLiteral("Right")));
+        QTRY_COMPARE(m_reported->count(), 2);
+        const auto* second = qobject_cast<QToolButton*>(QApplication::focusWidget());
+        QVERIFY(second && second != first);
+        QVERIFY(second->isChecked());
+        // The focus is seen on the chosen one.
+        QTRY_COMPARE(RealInput::pixel(second, QPoint(1, second->height() / 2)), QColor(0x5a, 0x9c, 0xf5));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-focus")));
+    }
+
+    void hexValueIsTyped()
+    {
+        auto* edit = child<QLineEdit>("currentColorValueEdit");
+        QVERIFY(RealInput::click(edit));
+        QTRY_VERIFY(edit->hasFocus());
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY(RealInput::type(QStringLiteral("12ab34")));
+        QTRY_COMPARE(edit->text(), QStringLiteral("#12ab34"));
+        QTRY_COMPARE(m_reported->count(), 1);
+        QCOMPARE(lastReported(), QColor(0x12, 0xab, 0x34));
+        QTRY_COMPARE(centerOf(child<QLabel>("currentColorDisplayLabel")), QColor(0x12, 0xab, 0x34));
+
+        // A colour of the palette is reported by its button and by the edit; more digits are not taken.
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY(RealInput::type(QStringLiteral("#ffc0001")));
+        QTRY_COMPARE(m_reported->count(), 3);
+        QCOMPARE(edit->text(), QStringLiteral("#ffc000"));
+        QCOMPARE(lastReported(), QColor(0xff, 0xc0, 0x00));
+        QVERIFY(facesOf("colorMatrixPanel").at(9 + 2)->isChecked());
+    }
+
+    void opacityIsDraggedAndTyped()
+    {
+        QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(20)));
+        QTRY_COMPARE(m_reported->count(), 1);
+        auto* slider = child<QSlider>("opacitySlider");
+        auto* box = child<QSpinBox>("opacitySpinbox");
+        const int y = slider->height() / 2;
+        QVERIFY(RealInput::drag(slider, QPoint(slider->width() - 7, y), QPoint(slider->width() * 2 / 5, y)));
+        QTRY_VERIFY(!slider->isSliderDown());
+        QVERIFY2(qAbs(slider->value() - 40) <= 5, qPrintable(QString::number(slider->value())));
+        QCOMPARE(box->value(), slider->value());
+        QVERIFY(m_reported->count() > 2);
+        QCOMPARE(lastReported().alpha(), qRound(slider->value() * 2.55));
+
+        // All but the suffix is selected, as a user leaves it.
+        m_reported->clear();
+        auto* edit = box->findChild<QLineEdit*>();
+        QVERIFY(RealInput::click(edit));
+        QTRY_VERIFY(edit->hasFocus());
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY(RealInput::type(QStringLiteral("25\n")));
+        QTRY_COMPARE(slider->value(), 25);
+        QCOMPARE(lastReported().alphaF(), QColor::fromRgbF(0, 0, 0, 0.25).alphaF());
+        QCOMPARE(lastReported().name(), nameOf(facesOf("colorMatrixPanel").at(20)));
+    }
+
+    void ownColorIsAdded()
+    {
+        QVERIFY(openSelector());
+        const auto* add = child<QToolButton>("addCustomColorButton");
+        const QPoint corner = add->mapToGlobal(QPoint(add->width(), add->height()));
+        QCOMPARE(selectorDialog()->geometry().left(), corner.x());
+        QCOMPARE(selectorDialog()->geometry().bottom() + 1, corner.y());
+
+        // What is under the mouse is reported, shown in the preview and becomes the own colour.
+        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        QVERIFY(RealInput::click(plane, QPoint(plane->width() / 3, plane->height() / 4)));
+        QTRY_VERIFY(m_reported->count() >= 2);
+        const QColor chosen = lastReported();
+        QVERIFY(chosen.isValid());
+        QTRY_COMPARE(centerOf(child<QLabel>("currentColorDisplayLabel")), chosen);
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-selector")));
+
+        QVERIFY(clickElsewhere());
+        QTRY_VERIFY(!selectorDialog());
+        QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
+        QTRY_VERIFY(ownColor(0)->isChecked());
+        QTRY_COMPARE(centerOf(ownColor(0)), chosen);
+        QVERIFY(add->hasFocus());
+
+        // A click brings it back.
+        QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(1)));
+        QTRY_COMPARE(lastReported(), QColor(Qt::white));
+        QVERIFY(RealInput::click(ownColor(0)));
+        QTRY_COMPARE(lastReported(), chosen);
+    }
+
+    void ninthOwnColorReplacesTheOldest()
+    {
+        QStringList names;
+        for (int i = 0; i < 9; ++i) {
+            QVERIFY(openSelector());
+            const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+            QVERIFY(RealInput::click(plane, QPoint(40 + i * 15, 30 + i * 10)));
+            QTRY_VERIFY(m_reported->count() > 0);
+            QVERIFY(clickElsewhere());
+            QTRY_VERIFY(!selectorDialog());
+            QTRY_COMPARE(Settings::userCustomColors().value(0), lastReported().name());
+            names.prepend(lastReported().name());
+        }
+        names.removeLast();
+        QCOMPARE(Settings::userCustomColors(), names);
+        for (int i = 0; i < names.size(); ++i) {
+            QTRY_COMPARE(centerOf(ownColor(i)).name(), names.at(i));
+        }
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-own-colours")));
+    }
+
+    void escapeClosesTheSelector()
+    {
+        m_panel->setCurrentColor(QColor(0x12, 0xab, 0x34));
+        QVERIFY(openSelector());
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(!selectorDialog());
+        QVERIFY(m_window->isVisible());
+        QTRY_VERIFY(child<QToolButton>("addCustomColorButton")->hasFocus());
+        // From there it opens again.
+        QVERIFY(RealInput::key(QStringLiteral("space")));
+        QTRY_VERIFY(selectorDialog());
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_VERIFY(!selectorDialog());
+        QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#12ab34")});
+    }
+
+    void selectorStaysOnItsScreen_data()
+    {
+        QTest::addColumn<Qt::Alignment>("corner");
+        QTest::newRow("top left") << Qt::Alignment(Qt::AlignTop | Qt::AlignLeft);
+        QTest::newRow("bottom right") << Qt::Alignment(Qt::AlignBottom | Qt::AlignRight);
+    }
+
+    void selectorStaysOnItsScreen()
+    {
+        QFETCH(Qt::Alignment, corner);
+        const QRect screen = m_window->screen()->availableGeometry();
+        m_window->resize(300, 380);
+        // Partly outside, where a user can drag it.
+        const QPoint place = corner.testFlag(Qt::AlignTop)
+                                 ? screen.topLeft() - QPoint(0, 200)
+                                 : screen.bottomRight() - QPoint(m_window->width(), m_window->height() - 60);
+        m_window->move(place);
+        QTRY_VERIFY((m_window->pos() - place).manhattanLength() < 60);
+        QVERIFY(openSelector());
+        QVERIFY2(screen.contains(selectorDialog()->geometry()),
+                 qPrintable(QStringLiteral("%1 %2").arg(selectorDialog()->x()).arg(selectorDialog()->y())));
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(!selectorDialog());
+    }
+
+    void dragLeavesTheWindow_data()
+    {
+        QTest::addColumn<QPoint>("way");
+        QTest::addColumn<QColor>("expected");
+        QTest::newRow("above, to the left") << QPoint(-400, -300) << QColor(Qt::white);
+        QTest::newRow("above, to the right") << QPoint(350, -300) << QColor(Qt::red);
+        QTest::newRow("below") << QPoint(0, 250) << QColor(Qt::black);
+    }
+
+    void dragLeavesTheWindow()
+    {
+        QFETCH(QPoint, way);
+        QFETCH(QColor, expected);
+        QVERIFY(openSelector());
+        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        QTRY_COMPARE(RealInput::pixel(plane, QPoint(plane->width() - 1, 0)), QColor(Qt::red));
+        const QPoint start = plane->rect().center();
+        QVERIFY(RealInput::drag(plane, start, start + way));
+        QTRY_VERIFY(!QWidget::mouseGrabber());
+        QCOMPARE(lastReported(), expected);
+        QVERIFY(selectorDialog());
+        // The drag is over: the mouse moves nothing any more.
+        const int count = m_reported->count();
+        QVERIFY(RealInput::moveTo(plane, start));
+        QVERIFY(RealInput::moveTo(plane, start + QPoint(10, 10)));
+        QCOMPARE(m_reported->count(), count);
+    }
+
+    void hueSliderTurnsThePlane()
+    {
+        QVERIFY(openSelector());
+        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        auto* slider = selectorDialog()->findChild<QSlider*>(QStringLiteral("hueSlider"));
+        QVERIFY(RealInput::click(plane, QPoint(plane->width() - 2, 1)));
+        QTRY_VERIFY(m_reported->count() > 0);
+        QVERIFY(RealInput::click(slider, QPoint(slider->width() * 2 / 3, slider->height() / 2)));
+        QTRY_VERIFY(qAbs(slider->value() - 240) < 12);
+        QCOMPARE(lastReported().hue(), slider->value());
+        const QPoint upperRight(plane->width() - 1, 0);
+        QTRY_COMPARE(RealInput::pixel(plane, upperRight).hue(), slider->value());
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(!selectorDialog());
+    }
+
+    void pipetteButtonAsksToCloseToo()
+    {
+        const auto order = std::make_shared<QStringList>();
+        connect(m_panel, &ColorPickerWidget::pipetteRequested, this,
+                [order] { *order << QStringLiteral("pipette"); });
+        connect(m_panel, &ColorPickerWidget::closeRequested, this,
+                [order] { *order << QStringLiteral("close"); });
+        QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
+        QTRY_COMPARE(*order, (QStringList{QStringLiteral("pipette"), QStringLiteral("close")}));
+        QCOMPARE(m_reported->count(), 0);
+    }
+
+    void fieldOpensThePanel()
+    {
+        QSignalSpy changed(m_field, &ColorPickerButton::colorChanged);
+        QVERIFY(openField());
+        const QWidget* const popup = m_panel->window();
+        QCOMPARE(popup->pos(), m_field->mapToGlobal(QPoint(0, m_field->height() + 6)));
+        QVERIFY(m_field->isDown());
+        QVERIFY(facesOf("colorMatrixPanel").at(9)->isChecked());
+
+        // The field follows while the pop-up is open, and nothing else in the window.
+        const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
+        const QColor shown = centerOf(faces.at(30));
+        QVERIFY(RealInput::click(faces.at(30)));
+        QTRY_COMPARE(centerOf(m_field), shown);
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(popup->isVisible());
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel")));
+
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_VERIFY(!popup->isVisible());
+        QTRY_VERIFY(!m_field->isDown());
+        QVERIFY(m_window->isActiveWindow());
+        QCOMPARE(m_field->color()->name(), shown.name());
+        QCOMPARE(changed.count(), 1);
+
+        // And again, with the colour that it has now.
+        QVERIFY(openField());
+        QVERIFY(facesOf("colorMatrixPanel").at(30)->isChecked());
+    }
+
+    void fieldIsClosedByAClick_data()
+    {
+        QTest::addColumn<bool>("onTheField");
+        QTest::newRow("elsewhere") << false;
+        // It must not open again at once.
+        QTest::newRow("on the field") << true;
+    }
+
+    void fieldIsClosedByAClick()
+    {
+        QFETCH(bool, onTheField);
+        QVERIFY(openField());
+        const QWidget* const popup = m_panel->window();
+        QSignalSpy started(m_field, &ColorPickerButton::pickingStarted);
+        QVERIFY(onTheField ? RealInput::click(m_field) : clickElsewhere());
+        QTRY_VERIFY(!popup->isVisible());
+        QTRY_VERIFY(!m_picker->isInProgress());
+        QVERIFY(RealInput::moveTo(m_window.get(), QPoint(7, 7)));
+        QCOMPARE(started.count(), 0);
+        QVERIFY(!m_field->isDown());
+        QVERIFY(!popup->isVisible());
+
+        // One more click opens it.
+        QVERIFY(openField());
+        QCOMPARE(started.count(), 1);
+    }
+
+    void fieldKeepsThePanelBelowItsSelector()
+    {
+        QVERIFY(openField());
+        const QWidget* const popup = m_panel->window();
+        QVERIFY(openSelector());
+        QVERIFY(popup->isVisible());
+        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        QVERIFY(RealInput::click(plane, QPoint(plane->width() / 2, plane->height() / 2)));
+        QTRY_VERIFY(m_reported->count() > 0);
+        const QColor chosen = lastReported();
+        QTRY_COMPARE(centerOf(m_field), chosen);
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel-selector")));
+
+        // A click on the panel, in the column that the selector leaves free, closes it alone; the next one
+        // chooses.
+        QToolButton* const face = facesOf("colorMatrixPanel").at(3 * 9);
+        QVERIFY(RealInput::click(face));
+        QTRY_VERIFY(!selectorDialog());
+        QVERIFY(popup->isVisible());
+        QVERIFY(m_picker->isInProgress());
+        QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
+        QTRY_COMPARE(centerOf(ownColor(0)), chosen);
+        QVERIFY(RealInput::click(face));
+        QTRY_VERIFY(face->isChecked());
+        QTRY_COMPARE(m_field->color()->name(), nameOf(face));
+
+        // Escape closes them one by one.
+        QVERIFY(openSelector());
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(!selectorDialog());
+        QVERIFY(popup->isVisible());
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(!popup->isVisible());
+        QTRY_VERIFY(!m_field->isDown());
+    }
+
+    void escapeBringsTheValueBack_data()
+    {
+        QTest::addColumn<std::optional<QColor>>("before");
+        QTest::newRow("a colour") << std::optional<QColor>(QColor(0x12, 0xab, 0x34, 100));
+        QTest::newRow("no colour") << std::optional<QColor>(QColor());
+        QTest::newRow("several colours") << std::optional<QColor>();
+    }
+
+    void escapeBringsTheValueBack()
+    {
+        QFETCH(std::optional<QColor>, before);
+        m_field->setColor(before);
+        // Nothing is chosen.
+        QVERIFY(openField());
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_VERIFY(!m_picker->isInProgress());
+        QCOMPARE(m_field->color(), before);
+        // A click and a typed value are taken back together.
+        QVERIFY(openField());
+        QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(30)));
+        QTRY_COMPARE(m_reported->count(), 1);
+        QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY(RealInput::type(QStringLiteral("345678")));
+        QTRY_COMPARE(centerOf(m_field), QColor(0x34, 0x56, 0x78));
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QTRY_COMPARE(m_field->color(), before);
+        QTRY_VERIFY(!m_picker->isInProgress());
+        QVERIFY(m_window->isActiveWindow());
+    }
+
+    void pipetteComesBackToTheField()
+    {
+        const QColor target = centerOf(facesOf("colorMatrixPanel").at(40));
+        const QWidget* const seen = facesOf("colorMatrixPanel").at(40);
+        for (const bool isPicked : {true, false}) {
+            QVERIFY(openField());
+            const QColor before = *m_field->color();
+            const QWidget* const popup = m_panel->window();
+            QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
+            QTRY_COMPARE(PipetteWindows::views().size(), QGuiApplication::screens().size());
+            QTRY_VERIFY(PipetteWindows::views().constFirst()->isActiveWindow());
+            QVERIFY(!popup->isVisible());
+            QVERIFY(m_field->isDown());
+            QVERIFY(isPicked ? RealInput::click(seen) : RealInput::key(QStringLiteral("Escape")));
+            QTRY_VERIFY(popup->isVisible());
+            QVERIFY(PipetteWindows::views().isEmpty());
+            QCOMPARE(m_field->color()->name(), isPicked ? target.name() : before.name());
+            QVERIFY(QTest::qWaitForWindowExposed(m_panel->window()));
+            QCOMPARE(m_panel->currentColor(), m_field->color());
+            // The pop-up has mouse and keyboard again.
+            QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(isPicked ? 50 : 51)));
+            QTRY_COMPARE(m_field->color()->name(),
+                         nameOf(facesOf("colorMatrixPanel").at(isPicked ? 50 : 51)));
+            QVERIFY(RealInput::key(QStringLiteral("Return")));
+            QTRY_VERIFY(!m_picker->isInProgress());
+        }
+    }
 
 private:
     template <typename Child>
@@ -59,16 +470,51 @@ private:
     {
         return m_panel->findChild<Child*>(QLatin1String(name));
     }
-    QList<QToolButton*> facesOf(const char* panel) const;
-    QToolButton* ownColor(int place) const;
-    QDialog* selectorDialog() const;
-    bool openSelector() const;
-    bool openField();
+
+    QList<QToolButton*> facesOf(const char* panel) const
+    {
+        return child<QWidget>(panel)->findChildren<QToolButton*>();
+    }
+
+    /// The button at that place, counted from the left.
+    QToolButton* ownColor(int place) const
+    {
+        QList<QToolButton*> faces = facesOf("otherColorsQueuePanel");
+        std::sort(faces.begin(), faces.end(),
+                  [](const QToolButton* one, const QToolButton* other) { return one->x() < other->x(); });
+        return faces.at(place);
+    }
+
+    QDialog* selectorDialog() const
+    {
+        auto* dialog = m_panel->findChild<QDialog*>();
+        return dialog && dialog->isVisible() ? dialog : nullptr;
+    }
+
+    bool openSelector() const
+    {
+        return RealInput::click(child<QToolButton>("addCustomColorButton")) &&
+               QTest::qWaitFor([this] { return selectorDialog(); }) &&
+               QTest::qWaitForWindowExposed(selectorDialog());
+    }
+
+    /// From now on m_panel is the field's.
+    bool openField()
+    {
+        if (!RealInput::click(m_field) || !QTest::qWaitFor([this] { return m_picker->isInProgress(); })) {
+            return false;
+        }
+        m_panel = m_picker->panel();
+        m_reported = std::make_unique<QSignalSpy>(m_panel, &ColorPickerWidget::colorChanged);
+        return QTest::qWaitForWindowExposed(m_panel->window());
+    }
+
     bool clickElsewhere() const { return RealInput::click(m_window.get(), QPoint(5, 5)); }
     static QColor centerOf(const QWidget* widget)
     {
         return RealInput::pixel(widget, widget->rect().center());
     }
+
     /// From the sheet that a face has of its own: "background-color: #rrggbb;".
     static QString nameOf(const QToolButton* face) { return face->styleSheet().mid(18, 7); }
     QColor lastReported() const { return m_reported->constLast().constFirst().value<QColor>(); }
@@ -80,479 +526,6 @@ private:
     PopupColorPicker* m_picker = nullptr;
     std::unique_ptr<QSignalSpy> m_reported;
 };
-
-void tst_ColorPanel::initTestCase()
-{
-    GalleryApplication::prepare();
-    m_style = std::make_unique<StyleController>();
-    QVERIFY(m_style->setStyle(QStringLiteral("dark")));
-}
-
-void tst_ColorPanel::init()
-{
-    Settings::setUserCustomColors({});
-    m_window = std::make_unique<QWidget>();
-    auto* layout = new QHBoxLayout(m_window.get());
-    layout->setContentsMargins(20, 20, 20, 20);
-    m_panel = new ColorPickerWidget(m_window.get(), true);
-    m_field = new ColorPickerButton(m_window.get());
-    m_picker = new PopupColorPicker;
-    m_field->setPicker(m_picker);
-    m_field->setColor(QColor(Qt::red));
-    layout->addWidget(m_panel, 0, Qt::AlignTop);
-    layout->addStretch();
-    layout->addWidget(m_field, 0, Qt::AlignTop);
-    m_window->setGeometry(300, 200, 520, 380);
-    QVERIFY(RealInput::showAndActivate(m_window.get()));
-    m_reported = std::make_unique<QSignalSpy>(m_panel, &ColorPickerWidget::colorChanged);
-    // The window is on the screen.
-    QTRY_COMPARE(centerOf(m_field), QColor(Qt::red));
-    QTRY_COMPARE(centerOf(facesOf("colorMatrixPanel").constLast()), QColor(0x39, 0x00, 0x23));
-}
-
-void tst_ColorPanel::cleanup()
-{
-    m_reported.reset();
-    m_window.reset();
-}
-
-QList<QToolButton*> tst_ColorPanel::facesOf(const char* panel) const
-{
-    return child<QWidget>(panel)->findChildren<QToolButton*>();
-}
-
-/// The button at that place, counted from the left.
-QToolButton* tst_ColorPanel::ownColor(int place) const
-{
-    QList<QToolButton*> faces = facesOf("otherColorsQueuePanel");
-    std::sort(faces.begin(), faces.end(),
-              [](const QToolButton* one, const QToolButton* other) { return one->x() < other->x(); });
-    return faces.at(place);
-}
-
-QDialog* tst_ColorPanel::selectorDialog() const
-{
-    auto* dialog = m_panel->findChild<QDialog*>();
-    return dialog && dialog->isVisible() ? dialog : nullptr;
-}
-
-bool tst_ColorPanel::openSelector() const
-{
-    return RealInput::click(child<QToolButton>("addCustomColorButton")) &&
-           QTest::qWaitFor([this] { return selectorDialog(); }) &&
-           QTest::qWaitForWindowExposed(selectorDialog());
-}
-
-/// From now on m_panel is the field's.
-bool tst_ColorPanel::openField()
-{
-    if (!RealInput::click(m_field) || !QTest::qWaitFor([this] { return m_picker->isInProgress(); })) {
-        return false;
-    }
-    m_panel = m_picker->panel();
-    m_reported = std::make_unique<QSignalSpy>(m_panel, &ColorPickerWidget::colorChanged);
-    return QTest::qWaitForWindowExposed(m_panel->window());
-}
-
-void tst_ColorPanel::everyPaletteColorIsChosenByAClick()
-{
-    const auto* edit = child<QLineEdit>("currentColorValueEdit");
-    const auto* preview = child<QLabel>("currentColorDisplayLabel");
-    const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
-    QCOMPARE(faces.size(), 72);
-    for (QToolButton* face : faces) {
-        const QColor shown = centerOf(face);
-        m_reported->clear();
-        QVERIFY(RealInput::click(face));
-        QTRY_COMPARE(m_reported->count(), 1);
-        QVERIFY(face->isChecked());
-        if (face == faces.first()) {
-            QVERIFY(!lastReported().isValid());
-            QCOMPARE(edit->text(), QStringLiteral("#null"));
-            continue;
-        }
-        QCOMPARE(lastReported().name(), shown.name());
-        QCOMPARE(edit->text(), shown.name());
-        QTRY_COMPARE(centerOf(preview), shown);
-    }
-    // The choice is marked by a ring at the outermost pixels, of the colour of strong text or of the focus.
-    QToolButton* const chosen = faces.at(40);
-    QVERIFY(RealInput::click(chosen));
-    QTRY_VERIFY(chosen->isChecked());
-    QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
-    const QPoint onRing(1, chosen->height() / 2);
-    QTRY_COMPARE(RealInput::pixel(chosen, onRing), QColor(0xf4, 0xf4, 0xf4));
-    QVERIFY(RealInput::pixel(faces.at(41), onRing) != QColor(0xf4, 0xf4, 0xf4));
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel")));
-}
-
-void tst_ColorPanel::arrowKeysChoose()
-{
-    const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
-    QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
-    QVERIFY(RealInput::key(QStringLiteral("Tab")));
-    QTRY_VERIFY(child<QWidget>("pipetteButton")->hasFocus());
-    QVERIFY(RealInput::key(QStringLiteral("Tab")));
-    QTRY_VERIFY(faces.contains(qobject_cast<QToolButton*>(QApplication::focusWidget())));
-    QVERIFY(RealInput::key(QStringLiteral("space")));
-    QTRY_COMPARE(m_reported->count(), 1);
-    const auto* first = QApplication::focusWidget();
-    QVERIFY(RealInput::key(QStringLiteral("Right")));
-    QTRY_COMPARE(m_reported->count(), 2);
-    const auto* second = qobject_cast<QToolButton*>(QApplication::focusWidget());
-    QVERIFY(second && second != first);
-    QVERIFY(second->isChecked());
-    // The focus is seen on the chosen one.
-    QTRY_COMPARE(RealInput::pixel(second, QPoint(1, second->height() / 2)), QColor(0x5a, 0x9c, 0xf5));
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-focus")));
-}
-
-void tst_ColorPanel::hexValueIsTyped()
-{
-    auto* edit = child<QLineEdit>("currentColorValueEdit");
-    QVERIFY(RealInput::click(edit));
-    QTRY_VERIFY(edit->hasFocus());
-    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-    QVERIFY(RealInput::type(QStringLiteral("12ab34")));
-    QTRY_COMPARE(edit->text(), QStringLiteral("#12ab34"));
-    QTRY_COMPARE(m_reported->count(), 1);
-    QCOMPARE(lastReported(), QColor(0x12, 0xab, 0x34));
-    QTRY_COMPARE(centerOf(child<QLabel>("currentColorDisplayLabel")), QColor(0x12, 0xab, 0x34));
-
-    // A colour of the palette is reported by its button and by the edit; more digits are not taken.
-    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-    QVERIFY(RealInput::type(QStringLiteral("#ffc0001")));
-    QTRY_COMPARE(m_reported->count(), 3);
-    QCOMPARE(edit->text(), QStringLiteral("#ffc000"));
-    QCOMPARE(lastReported(), QColor(0xff, 0xc0, 0x00));
-    QVERIFY(facesOf("colorMatrixPanel").at(9 + 2)->isChecked());
-}
-
-void tst_ColorPanel::opacityIsDraggedAndTyped()
-{
-    QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(20)));
-    QTRY_COMPARE(m_reported->count(), 1);
-    auto* slider = child<QSlider>("opacitySlider");
-    auto* box = child<QSpinBox>("opacitySpinbox");
-    const int y = slider->height() / 2;
-    QVERIFY(RealInput::drag(slider, QPoint(slider->width() - 7, y), QPoint(slider->width() * 2 / 5, y)));
-    QTRY_VERIFY(!slider->isSliderDown());
-    QVERIFY2(qAbs(slider->value() - 40) <= 5, qPrintable(QString::number(slider->value())));
-    QCOMPARE(box->value(), slider->value());
-    QVERIFY(m_reported->count() > 2);
-    QCOMPARE(lastReported().alpha(), qRound(slider->value() * 2.55));
-
-    // All but the suffix is selected, as a user leaves it.
-    m_reported->clear();
-    auto* edit = box->findChild<QLineEdit*>();
-    QVERIFY(RealInput::click(edit));
-    QTRY_VERIFY(edit->hasFocus());
-    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-    QVERIFY(RealInput::type(QStringLiteral("25\n")));
-    QTRY_COMPARE(slider->value(), 25);
-    QCOMPARE(lastReported().alphaF(), QColor::fromRgbF(0, 0, 0, 0.25).alphaF());
-    QCOMPARE(lastReported().name(), nameOf(facesOf("colorMatrixPanel").at(20)));
-}
-
-void tst_ColorPanel::ownColorIsAdded()
-{
-    QVERIFY(openSelector());
-    const auto* add = child<QToolButton>("addCustomColorButton");
-    const QPoint corner = add->mapToGlobal(QPoint(add->width(), add->height()));
-    QCOMPARE(selectorDialog()->geometry().left(), corner.x());
-    QCOMPARE(selectorDialog()->geometry().bottom() + 1, corner.y());
-
-    // What is under the mouse is reported, shown in the preview and becomes the own colour.
-    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-    QVERIFY(RealInput::click(plane, QPoint(plane->width() / 3, plane->height() / 4)));
-    QTRY_VERIFY(m_reported->count() >= 2);
-    const QColor chosen = lastReported();
-    QVERIFY(chosen.isValid());
-    QTRY_COMPARE(centerOf(child<QLabel>("currentColorDisplayLabel")), chosen);
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-selector")));
-
-    QVERIFY(clickElsewhere());
-    QTRY_VERIFY(!selectorDialog());
-    QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
-    QTRY_VERIFY(ownColor(0)->isChecked());
-    QTRY_COMPARE(centerOf(ownColor(0)), chosen);
-    QVERIFY(add->hasFocus());
-
-    // A click brings it back.
-    QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(1)));
-    QTRY_COMPARE(lastReported(), QColor(Qt::white));
-    QVERIFY(RealInput::click(ownColor(0)));
-    QTRY_COMPARE(lastReported(), chosen);
-}
-
-void tst_ColorPanel::ninthOwnColorReplacesTheOldest()
-{
-    QStringList names;
-    for (int i = 0; i < 9; ++i) {
-        QVERIFY(openSelector());
-        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-        QVERIFY(RealInput::click(plane, QPoint(40 + i * 15, 30 + i * 10)));
-        QTRY_VERIFY(m_reported->count() > 0);
-        QVERIFY(clickElsewhere());
-        QTRY_VERIFY(!selectorDialog());
-        QTRY_COMPARE(Settings::userCustomColors().value(0), lastReported().name());
-        names.prepend(lastReported().name());
-    }
-    names.removeLast();
-    QCOMPARE(Settings::userCustomColors(), names);
-    for (int i = 0; i < names.size(); ++i) {
-        QTRY_COMPARE(centerOf(ownColor(i)).name(), names.at(i));
-    }
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-own-colours")));
-}
-
-void tst_ColorPanel::escapeClosesTheSelector()
-{
-    m_panel->setCurrentColor(QColor(0x12, 0xab, 0x34));
-    QVERIFY(openSelector());
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!selectorDialog());
-    QVERIFY(m_window->isVisible());
-    QTRY_VERIFY(child<QToolButton>("addCustomColorButton")->hasFocus());
-    // From there it opens again.
-    QVERIFY(RealInput::key(QStringLiteral("space")));
-    QTRY_VERIFY(selectorDialog());
-    QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_VERIFY(!selectorDialog());
-    QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#12ab34")});
-}
-
-void tst_ColorPanel::selectorStaysOnItsScreen_data()
-{
-    QTest::addColumn<Qt::Alignment>("corner");
-    QTest::newRow("top left") << Qt::Alignment(Qt::AlignTop | Qt::AlignLeft);
-    QTest::newRow("bottom right") << Qt::Alignment(Qt::AlignBottom | Qt::AlignRight);
-}
-
-void tst_ColorPanel::selectorStaysOnItsScreen()
-{
-    QFETCH(Qt::Alignment, corner);
-    const QRect screen = m_window->screen()->availableGeometry();
-    m_window->resize(300, 380);
-    // Partly outside, where a user can drag it.
-    const QPoint place = corner.testFlag(Qt::AlignTop)
-                             ? screen.topLeft() - QPoint(0, 200)
-                             : screen.bottomRight() - QPoint(m_window->width(), m_window->height() - 60);
-    m_window->move(place);
-    QTRY_VERIFY((m_window->pos() - place).manhattanLength() < 60);
-    QVERIFY(openSelector());
-    QVERIFY2(screen.contains(selectorDialog()->geometry()),
-             qPrintable(QStringLiteral("%1 %2").arg(selectorDialog()->x()).arg(selectorDialog()->y())));
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!selectorDialog());
-}
-
-void tst_ColorPanel::dragLeavesTheWindow_data()
-{
-    QTest::addColumn<QPoint>("way");
-    QTest::addColumn<QColor>("expected");
-    QTest::newRow("above, to the left") << QPoint(-400, -300) << QColor(Qt::white);
-    QTest::newRow("above, to the right") << QPoint(350, -300) << QColor(Qt::red);
-    QTest::newRow("below") << QPoint(0, 250) << QColor(Qt::black);
-}
-
-void tst_ColorPanel::dragLeavesTheWindow()
-{
-    QFETCH(QPoint, way);
-    QFETCH(QColor, expected);
-    QVERIFY(openSelector());
-    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-    QTRY_COMPARE(RealInput::pixel(plane, QPoint(plane->width() - 1, 0)), QColor(Qt::red));
-    const QPoint start = plane->rect().center();
-    QVERIFY(RealInput::drag(plane, start, start + way));
-    QTRY_VERIFY(!QWidget::mouseGrabber());
-    QCOMPARE(lastReported(), expected);
-    QVERIFY(selectorDialog());
-    // The drag is over: the mouse moves nothing any more.
-    const int count = m_reported->count();
-    QVERIFY(RealInput::moveTo(plane, start));
-    QVERIFY(RealInput::moveTo(plane, start + QPoint(10, 10)));
-    QCOMPARE(m_reported->count(), count);
-}
-
-void tst_ColorPanel::hueSliderTurnsThePlane()
-{
-    QVERIFY(openSelector());
-    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-    auto* slider = selectorDialog()->findChild<QSlider*>(QStringLiteral("hueSlider"));
-    QVERIFY(RealInput::click(plane, QPoint(plane->width() - 2, 1)));
-    QTRY_VERIFY(m_reported->count() > 0);
-    QVERIFY(RealInput::click(slider, QPoint(slider->width() * 2 / 3, slider->height() / 2)));
-    QTRY_VERIFY(qAbs(slider->value() - 240) < 12);
-    QCOMPARE(lastReported().hue(), slider->value());
-    const QPoint upperRight(plane->width() - 1, 0);
-    QTRY_COMPARE(RealInput::pixel(plane, upperRight).hue(), slider->value());
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!selectorDialog());
-}
-
-void tst_ColorPanel::pipetteButtonAsksToCloseToo()
-{
-    const auto order = std::make_shared<QStringList>();
-    connect(m_panel, &ColorPickerWidget::pipetteRequested, this,
-            [order] { *order << QStringLiteral("pipette"); });
-    connect(m_panel, &ColorPickerWidget::closeRequested, this,
-            [order] { *order << QStringLiteral("close"); });
-    QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
-    QTRY_COMPARE(*order, (QStringList{QStringLiteral("pipette"), QStringLiteral("close")}));
-    QCOMPARE(m_reported->count(), 0);
-}
-
-void tst_ColorPanel::fieldOpensThePanel()
-{
-    QSignalSpy changed(m_field, &ColorPickerButton::colorChanged);
-    QVERIFY(openField());
-    const QWidget* const popup = m_panel->window();
-    QCOMPARE(popup->pos(), m_field->mapToGlobal(QPoint(0, m_field->height() + 6)));
-    QVERIFY(m_field->isDown());
-    QVERIFY(facesOf("colorMatrixPanel").at(9)->isChecked());
-
-    // The field follows while the pop-up is open, and nothing else in the window.
-    const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
-    const QColor shown = centerOf(faces.at(30));
-    QVERIFY(RealInput::click(faces.at(30)));
-    QTRY_COMPARE(centerOf(m_field), shown);
-    QCOMPARE(changed.count(), 1);
-    QVERIFY(popup->isVisible());
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel")));
-
-    QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_VERIFY(!popup->isVisible());
-    QTRY_VERIFY(!m_field->isDown());
-    QVERIFY(m_window->isActiveWindow());
-    QCOMPARE(m_field->color()->name(), shown.name());
-    QCOMPARE(changed.count(), 1);
-
-    // And again, with the colour that it has now.
-    QVERIFY(openField());
-    QVERIFY(facesOf("colorMatrixPanel").at(30)->isChecked());
-}
-
-void tst_ColorPanel::fieldIsClosedByAClick_data()
-{
-    QTest::addColumn<bool>("onTheField");
-    QTest::newRow("elsewhere") << false;
-    // It must not open again at once.
-    QTest::newRow("on the field") << true;
-}
-
-void tst_ColorPanel::fieldIsClosedByAClick()
-{
-    QFETCH(bool, onTheField);
-    QVERIFY(openField());
-    const QWidget* const popup = m_panel->window();
-    QSignalSpy started(m_field, &ColorPickerButton::pickingStarted);
-    QVERIFY(onTheField ? RealInput::click(m_field) : clickElsewhere());
-    QTRY_VERIFY(!popup->isVisible());
-    QTRY_VERIFY(!m_picker->isInProgress());
-    QVERIFY(RealInput::moveTo(m_window.get(), QPoint(7, 7)));
-    QCOMPARE(started.count(), 0);
-    QVERIFY(!m_field->isDown());
-    QVERIFY(!popup->isVisible());
-
-    // One more click opens it.
-    QVERIFY(openField());
-    QCOMPARE(started.count(), 1);
-}
-
-void tst_ColorPanel::fieldKeepsThePanelBelowItsSelector()
-{
-    QVERIFY(openField());
-    const QWidget* const popup = m_panel->window();
-    QVERIFY(openSelector());
-    QVERIFY(popup->isVisible());
-    const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-    QVERIFY(RealInput::click(plane, QPoint(plane->width() / 2, plane->height() / 2)));
-    QTRY_VERIFY(m_reported->count() > 0);
-    const QColor chosen = lastReported();
-    QTRY_COMPARE(centerOf(m_field), chosen);
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-field-panel-selector")));
-
-    // A click on the panel, in the column that the selector leaves free, closes it alone; the next one
-    // chooses.
-    QToolButton* const face = facesOf("colorMatrixPanel").at(3 * 9);
-    QVERIFY(RealInput::click(face));
-    QTRY_VERIFY(!selectorDialog());
-    QVERIFY(popup->isVisible());
-    QVERIFY(m_picker->isInProgress());
-    QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
-    QTRY_COMPARE(centerOf(ownColor(0)), chosen);
-    QVERIFY(RealInput::click(face));
-    QTRY_VERIFY(face->isChecked());
-    QTRY_COMPARE(m_field->color()->name(), nameOf(face));
-
-    // Escape closes them one by one.
-    QVERIFY(openSelector());
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!selectorDialog());
-    QVERIFY(popup->isVisible());
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!popup->isVisible());
-    QTRY_VERIFY(!m_field->isDown());
-}
-
-void tst_ColorPanel::escapeBringsTheValueBack_data()
-{
-    QTest::addColumn<std::optional<QColor>>("before");
-    QTest::newRow("a colour") << std::optional<QColor>(QColor(0x12, 0xab, 0x34, 100));
-    QTest::newRow("no colour") << std::optional<QColor>(QColor());
-    QTest::newRow("several colours") << std::optional<QColor>();
-}
-
-void tst_ColorPanel::escapeBringsTheValueBack()
-{
-    QFETCH(std::optional<QColor>, before);
-    m_field->setColor(before);
-    // Nothing is chosen.
-    QVERIFY(openField());
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_VERIFY(!m_picker->isInProgress());
-    QCOMPARE(m_field->color(), before);
-    // A click and a typed value are taken back together.
-    QVERIFY(openField());
-    QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(30)));
-    QTRY_COMPARE(m_reported->count(), 1);
-    QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
-    QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-    QVERIFY(RealInput::type(QStringLiteral("345678")));
-    QTRY_COMPARE(centerOf(m_field), QColor(0x34, 0x56, 0x78));
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QTRY_COMPARE(m_field->color(), before);
-    QTRY_VERIFY(!m_picker->isInProgress());
-    QVERIFY(m_window->isActiveWindow());
-}
-
-void tst_ColorPanel::pipetteComesBackToTheField()
-{
-    const QColor target = centerOf(facesOf("colorMatrixPanel").at(40));
-    const QWidget* const seen = facesOf("colorMatrixPanel").at(40);
-    for (const bool isPicked : {true, false}) {
-        QVERIFY(openField());
-        const QColor before = *m_field->color();
-        const QWidget* const popup = m_panel->window();
-        QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
-        QTRY_COMPARE(PipetteWindows::views().size(), QGuiApplication::screens().size());
-        QTRY_VERIFY(PipetteWindows::views().constFirst()->isActiveWindow());
-        QVERIFY(!popup->isVisible());
-        QVERIFY(m_field->isDown());
-        QVERIFY(isPicked ? RealInput::click(seen) : RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(popup->isVisible());
-        QVERIFY(PipetteWindows::views().isEmpty());
-        QCOMPARE(m_field->color()->name(), isPicked ? target.name() : before.name());
-        QVERIFY(QTest::qWaitForWindowExposed(m_panel->window()));
-        QCOMPARE(m_panel->currentColor(), m_field->color());
-        // The pop-up has mouse and keyboard again.
-        QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(isPicked ? 50 : 51)));
-        QTRY_COMPARE(m_field->color()->name(), nameOf(facesOf("colorMatrixPanel").at(isPicked ? 50 : 51)));
-        QVERIFY(RealInput::key(QStringLiteral("Return")));
-        QTRY_VERIFY(!m_picker->isInProgress());
-    }
-}
 
 UIC_TEST_MAIN(tst_ColorPanel)
 #include "tst_ColorPanel.moc"

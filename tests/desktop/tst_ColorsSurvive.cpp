@@ -102,72 +102,67 @@ class tst_ColorsSurvive : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void killedAndStartedAgain();
+    // A window of the same contents, never on the screen, says where to click.
+    void initTestCase()
+    {
+        GalleryApplication::prepare();
+        CommandLine start;
+        start.page = QStringLiteral("color-panel");
+        m_model = std::make_unique<MainWindow>(start);
+        m_model->setAttribute(Qt::WA_DontShowOnScreen);
+        m_model->show();
+        m_panel = m_model->page()->findChild<ColorPickerWidget*>();
+        QVERIFY(m_panel && m_panel->isEnabled());
+        QTRY_VERIFY(placeOf("opacitySlider").y() > placeOf("addCustomColorButton").y());
+        QCoreApplication::processEvents();
+    }
+
+    void killedAndStartedAgain()
+    {
+        const QStringList names = {QStringLiteral("#12ab34"), QStringLiteral("#abcdef")};
+        const QTemporaryDir settings;
+        const QPoint edit = placeOf("currentColorValueEdit");
+        const QPoint preview = placeOf("currentColorDisplayLabel");
+        const QPoint add = placeOf("addCustomColorButton");
+        const auto* queue = m_panel->findChild<QWidget*>(QStringLiteral("otherColorsQueuePanel"));
+        const int step = queue->width() / 8;
+        const QPoint newest = queue->mapTo(m_model.get(), QPoint(step / 2, queue->height() / 2));
+        {
+            Gallery gallery(settings.path());
+            QVERIFY(gallery.isUsable());
+            for (const QString& name : names) {
+                gallery.click(edit);
+                QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+                QVERIFY(RealInput::type(name));
+                QTRY_COMPARE(gallery.pixel(preview).name(), name);
+                const QColor uncovered = gallery.pixel(newest);
+                gallery.click(add);
+                QTRY_VERIFY(gallery.pixel(newest) != uncovered);
+                QVERIFY(RealInput::key(QStringLiteral("Escape")));
+                QTRY_COMPARE(gallery.pixel(newest).name(), name);
+            }
+            QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-own-colours")));
+            gallery.kill();
+        }
+        {
+            Gallery gallery(settings.path());
+            QVERIFY(gallery.isUsable());
+            QTRY_COMPARE(gallery.pixel(newest).name(), names.last());
+            QCOMPARE(gallery.pixel(newest + QPoint(step, 0)).name(), names.first());
+            QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-own-colours-again")));
+        }
+    }
 
 private:
-    QPoint placeOf(const char* name) const;
+    QPoint placeOf(const char* name) const
+    {
+        const auto* part = m_panel->findChild<QWidget*>(QLatin1String(name));
+        return part->mapTo(m_model.get(), part->rect().center());
+    }
 
     std::unique_ptr<MainWindow> m_model;
     ColorPickerWidget* m_panel = nullptr;
 };
-
-// A window of the same contents, never on the screen, says where to click.
-void tst_ColorsSurvive::initTestCase()
-{
-    GalleryApplication::prepare();
-    CommandLine start;
-    start.page = QStringLiteral("color-panel");
-    m_model = std::make_unique<MainWindow>(start);
-    m_model->setAttribute(Qt::WA_DontShowOnScreen);
-    m_model->show();
-    m_panel = m_model->page()->findChild<ColorPickerWidget*>();
-    QVERIFY(m_panel && m_panel->isEnabled());
-    QTRY_VERIFY(placeOf("opacitySlider").y() > placeOf("addCustomColorButton").y());
-    QCoreApplication::processEvents();
-}
-
-QPoint tst_ColorsSurvive::placeOf(const char* name) const
-{
-    const auto* part = m_panel->findChild<QWidget*>(QLatin1String(name));
-    return part->mapTo(m_model.get(), part->rect().center());
-}
-
-void tst_ColorsSurvive::killedAndStartedAgain()
-{
-    const QStringList names = {QStringLiteral("#12ab34"), QStringLiteral("#abcdef")};
-    const QTemporaryDir settings;
-    const QPoint edit = placeOf("currentColorValueEdit");
-    const QPoint preview = placeOf("currentColorDisplayLabel");
-    const QPoint add = placeOf("addCustomColorButton");
-    const auto* queue = m_panel->findChild<QWidget*>(QStringLiteral("otherColorsQueuePanel"));
-    const int step = queue->width() / 8;
-    const QPoint newest = queue->mapTo(m_model.get(), QPoint(step / 2, queue->height() / 2));
-    {
-        Gallery gallery(settings.path());
-        QVERIFY(gallery.isUsable());
-        for (const QString& name : names) {
-            gallery.click(edit);
-            QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-            QVERIFY(RealInput::type(name));
-            QTRY_COMPARE(gallery.pixel(preview).name(), name);
-            const QColor uncovered = gallery.pixel(newest);
-            gallery.click(add);
-            QTRY_VERIFY(gallery.pixel(newest) != uncovered);
-            QVERIFY(RealInput::key(QStringLiteral("Escape")));
-            QTRY_COMPARE(gallery.pixel(newest).name(), name);
-        }
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-own-colours")));
-        gallery.kill();
-    }
-    {
-        Gallery gallery(settings.path());
-        QVERIFY(gallery.isUsable());
-        QTRY_COMPARE(gallery.pixel(newest).name(), names.last());
-        QCOMPARE(gallery.pixel(newest + QPoint(step, 0)).name(), names.first());
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-own-colours-again")));
-    }
-}
 
 UIC_TEST_MAIN(tst_ColorsSurvive)
 #include "tst_ColorsSurvive.moc"

@@ -20,21 +20,147 @@ class tst_Controls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_window = std::make_unique<QScrollArea>();
+        m_panel = new QWidget;
+        auto* layout = new QVBoxLayout(m_panel);
+        // Takes the focus that a window gives to its first widget.
+        layout->addWidget(new QLineEdit);
 
-    void wheelOverUnfocusedControlsScrollsThePanel_data();
-    void wheelOverUnfocusedControlsScrollsThePanel();
-    void wheelOverFocusedControlChangesIt();
-    void clickOnTheGrooveGoesThere();
-    void dragFromTheGrooveGoesOn();
-    void enterCommitsAndSelects();
-    void commaAndPointAreBothTyped();
-    void popUpOpensAndPicks();
+        m_spinBox = new OvSpinBox;
+        m_spinBox->setRange(0, 1000);
+        m_spinBox->setValue(50);
+        m_doubleSpinBox = new OvDoubleSpinBox;
+        m_doubleSpinBox->setBothDecimalMarksAccepted(true);
+        m_doubleSpinBox->setValue(50);
+        m_slider = new OvCustomSlider(Qt::Horizontal);
+        m_slider->setValue(50);
+        m_doubleSlider = new OvDoubleSlider;
+        m_doubleSlider->setOrientation(Qt::Horizontal);
+        m_doubleSlider->setValue(50);
+        m_comboBox = new OvComboBox;
+        m_comboBox->addItems(
+            {QStringLiteral("Normal"), QStringLiteral("Multiply"), QStringLiteral("Screen")});
+        m_comboBox->setCurrentIndex(1);
+
+        const QVector<QPair<const char*, QWidget*>> controls = {{"spin box", m_spinBox},
+                                                                {"double spin box", m_doubleSpinBox},
+                                                                {"slider", m_slider},
+                                                                {"double slider", m_doubleSlider},
+                                                                {"combo box", m_comboBox}};
+        for (const auto& [name, widget] : controls) {
+            widget->setObjectName(QLatin1String(name));
+            layout->addWidget(widget);
+        }
+        layout->addStretch();
+        m_panel->setMinimumSize(300, 1000);
+        m_window->setWidget(m_panel);
+        m_window->setGeometry(200, 100, 360, 400);
+        QVERIFY(RealInput::showAndActivate(m_window.get()));
+        QTRY_VERIFY(m_panel->findChild<QLineEdit*>()->hasFocus());
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void wheelOverUnfocusedControlsScrollsThePanel_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"spin box", "double spin box", "slider", "double slider", "combo box"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    void wheelOverUnfocusedControlsScrollsThePanel()
+    {
+        QFETCH(QString, name);
+        const QVariant before = valueOf(name);
+        QCOMPARE(m_window->verticalScrollBar()->value(), 0);
+        QVERIFY(RealInput::wheel(control(name), control(name)->rect().center(), -1));
+        // The wheel was for the panel.
+        QTRY_VERIFY(m_window->verticalScrollBar()->value() > 0);
+        QCOMPARE(valueOf(name), before);
+        QVERIFY(!control(name)->hasFocus());
+    }
+
+    void wheelOverFocusedControlChangesIt()
+    {
+        m_spinBox->setFocus();
+        QVERIFY(RealInput::wheel(m_spinBox, m_spinBox->rect().center(), 3));
+        QTRY_COMPARE(m_spinBox->value(), 53);
+        QCOMPARE(m_window->verticalScrollBar()->value(), 0);
+    }
+
+    void clickOnTheGrooveGoesThere()
+    {
+        QVERIFY(RealInput::click(m_slider, QPoint(m_slider->width() / 5, m_slider->height() / 2)));
+        QTRY_VERIFY(m_slider->value() < 50);
+        QVERIFY2(qAbs(m_slider->value() - 20) <= 2, qPrintable(QString::number(m_slider->value())));
+        QVERIFY(RealInput::click(m_doubleSlider,
+                                 QPoint(m_doubleSlider->width() * 4 / 5, m_slider->height() / 2)));
+        QTRY_VERIFY(m_doubleSlider->value() > 50);
+        QVERIFY2(qAbs(m_doubleSlider->value() - 80) <= 2,
+                 qPrintable(QString::number(m_doubleSlider->value())));
+    }
+
+    void dragFromTheGrooveGoesOn()
+    {
+        const int y = m_slider->height() / 2;
+        QVERIFY(RealInput::drag(m_slider, QPoint(m_slider->width() / 5, y),
+                                QPoint(m_slider->width() * 9 / 10, y)));
+        QTRY_VERIFY(!m_slider->isSliderDown());
+        QVERIFY2(qAbs(m_slider->value() - 90) <= 3, qPrintable(QString::number(m_slider->value())));
+    }
+
+    void enterCommitsAndSelects()
+    {
+        auto* edit = m_spinBox->findChild<QLineEdit*>();
+        QVERIFY(RealInput::click(edit));
+        QTRY_VERIFY(m_spinBox->hasFocus());
+        m_spinBox->selectAll();
+        QVERIFY(RealInput::type(QStringLiteral("734")));
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_COMPARE(edit->selectedText(), QStringLiteral("734"));
+        QCOMPARE(m_spinBox->value(), 734);
+        // The next number replaces it.
+        QVERIFY(RealInput::type(QStringLiteral("12")));
+        QVERIFY(RealInput::key(QStringLiteral("KP_Enter")));
+        QTRY_COMPARE(m_spinBox->value(), 12);
+    }
+
+    void commaAndPointAreBothTyped()
+    {
+        QVERIFY(RealInput::click(m_doubleSpinBox->findChild<QLineEdit*>()));
+        QTRY_VERIFY(m_doubleSpinBox->hasFocus());
+        for (const QString& typed : {QStringLiteral("12,5"), QStringLiteral("7.25")}) {
+            m_doubleSpinBox->selectAll();
+            QVERIFY(RealInput::type(typed));
+            QVERIFY(RealInput::key(QStringLiteral("Return")));
+            QTRY_COMPARE(m_doubleSpinBox->value(),
+                         QString(typed).replace(QLatin1Char(','), QLatin1Char('.')).toDouble());
+        }
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("controls")));
+    }
+
+    void popUpOpensAndPicks()
+    {
+        QVERIFY(RealInput::click(m_comboBox));
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QVERIFY(QTest::qWaitForWindowExposed(QApplication::activePopupWidget()));
+        QVERIFY(RealInput::key(QStringLiteral("Down")));
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(m_comboBox->currentText(), QStringLiteral("Screen"));
+    }
 
 private:
     QWidget* control(const QString& name) const { return m_panel->findChild<QWidget*>(name); }
-    QVariant valueOf(const QString& name) const;
+
+    QVariant valueOf(const QString& name) const
+    {
+        QWidget* const widget = control(name);
+        return widget == m_comboBox ? QVariant(m_comboBox->currentIndex()) : widget->property("value");
+    }
 
     std::unique_ptr<QScrollArea> m_window;
     QWidget* m_panel = nullptr;
@@ -44,146 +170,6 @@ private:
     OvDoubleSlider* m_doubleSlider = nullptr;
     OvComboBox* m_comboBox = nullptr;
 };
-
-void tst_Controls::init()
-{
-    m_window = std::make_unique<QScrollArea>();
-    m_panel = new QWidget;
-    auto* layout = new QVBoxLayout(m_panel);
-    // Takes the focus that a window gives to its first widget.
-    layout->addWidget(new QLineEdit);
-
-    m_spinBox = new OvSpinBox;
-    m_spinBox->setRange(0, 1000);
-    m_spinBox->setValue(50);
-    m_doubleSpinBox = new OvDoubleSpinBox;
-    m_doubleSpinBox->setBothDecimalMarksAccepted(true);
-    m_doubleSpinBox->setValue(50);
-    m_slider = new OvCustomSlider(Qt::Horizontal);
-    m_slider->setValue(50);
-    m_doubleSlider = new OvDoubleSlider;
-    m_doubleSlider->setOrientation(Qt::Horizontal);
-    m_doubleSlider->setValue(50);
-    m_comboBox = new OvComboBox;
-    m_comboBox->addItems({QStringLiteral("Normal"), QStringLiteral("Multiply"), QStringLiteral("Screen")});
-    m_comboBox->setCurrentIndex(1);
-
-    const QVector<QPair<const char*, QWidget*>> controls = {{"spin box", m_spinBox},
-                                                            {"double spin box", m_doubleSpinBox},
-                                                            {"slider", m_slider},
-                                                            {"double slider", m_doubleSlider},
-                                                            {"combo box", m_comboBox}};
-    for (const auto& [name, widget] : controls) {
-        widget->setObjectName(QLatin1String(name));
-        layout->addWidget(widget);
-    }
-    layout->addStretch();
-    m_panel->setMinimumSize(300, 1000);
-    m_window->setWidget(m_panel);
-    m_window->setGeometry(200, 100, 360, 400);
-    QVERIFY(RealInput::showAndActivate(m_window.get()));
-    QTRY_VERIFY(m_panel->findChild<QLineEdit*>()->hasFocus());
-}
-
-void tst_Controls::cleanup()
-{
-    m_window.reset();
-}
-
-QVariant tst_Controls::valueOf(const QString& name) const
-{
-    QWidget* const widget = control(name);
-    return widget == m_comboBox ? QVariant(m_comboBox->currentIndex()) : widget->property("value");
-}
-
-void tst_Controls::wheelOverUnfocusedControlsScrollsThePanel_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"spin box", "double spin box", "slider", "double slider", "combo box"}) {
-        QTest::newRow(name) << QString::fromLatin1(name);
-    }
-}
-
-void tst_Controls::wheelOverUnfocusedControlsScrollsThePanel()
-{
-    QFETCH(QString, name);
-    const QVariant before = valueOf(name);
-    QCOMPARE(m_window->verticalScrollBar()->value(), 0);
-    QVERIFY(RealInput::wheel(control(name), control(name)->rect().center(), -1));
-    // The wheel was for the panel.
-    QTRY_VERIFY(m_window->verticalScrollBar()->value() > 0);
-    QCOMPARE(valueOf(name), before);
-    QVERIFY(!control(name)->hasFocus());
-}
-
-void tst_Controls::wheelOverFocusedControlChangesIt()
-{
-    m_spinBox->setFocus();
-    QVERIFY(RealInput::wheel(m_spinBox, m_spinBox->rect().center(), 3));
-    QTRY_COMPARE(m_spinBox->value(), 53);
-    QCOMPARE(m_window->verticalScrollBar()->value(), 0);
-}
-
-void tst_Controls::clickOnTheGrooveGoesThere()
-{
-    QVERIFY(RealInput::click(m_slider, QPoint(m_slider->width() / 5, m_slider->height() / 2)));
-    QTRY_VERIFY(m_slider->value() < 50);
-    QVERIFY2(qAbs(m_slider->value() - 20) <= 2, qPrintable(QString::number(m_slider->value())));
-    QVERIFY(
-        RealInput::click(m_doubleSlider, QPoint(m_doubleSlider->width() * 4 / 5, m_slider->height() / 2)));
-    QTRY_VERIFY(m_doubleSlider->value() > 50);
-    QVERIFY2(qAbs(m_doubleSlider->value() - 80) <= 2, qPrintable(QString::number(m_doubleSlider->value())));
-}
-
-void tst_Controls::dragFromTheGrooveGoesOn()
-{
-    const int y = m_slider->height() / 2;
-    QVERIFY(
-        RealInput::drag(m_slider, QPoint(m_slider->width() / 5, y), QPoint(m_slider->width() * 9 / 10, y)));
-    QTRY_VERIFY(!m_slider->isSliderDown());
-    QVERIFY2(qAbs(m_slider->value() - 90) <= 3, qPrintable(QString::number(m_slider->value())));
-}
-
-void tst_Controls::enterCommitsAndSelects()
-{
-    auto* edit = m_spinBox->findChild<QLineEdit*>();
-    QVERIFY(RealInput::click(edit));
-    QTRY_VERIFY(m_spinBox->hasFocus());
-    m_spinBox->selectAll();
-    QVERIFY(RealInput::type(QStringLiteral("734")));
-    QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_COMPARE(edit->selectedText(), QStringLiteral("734"));
-    QCOMPARE(m_spinBox->value(), 734);
-    // The next number replaces it.
-    QVERIFY(RealInput::type(QStringLiteral("12")));
-    QVERIFY(RealInput::key(QStringLiteral("KP_Enter")));
-    QTRY_COMPARE(m_spinBox->value(), 12);
-}
-
-void tst_Controls::commaAndPointAreBothTyped()
-{
-    QVERIFY(RealInput::click(m_doubleSpinBox->findChild<QLineEdit*>()));
-    QTRY_VERIFY(m_doubleSpinBox->hasFocus());
-    for (const QString& typed : {QStringLiteral("12,5"), QStringLiteral("7.25")}) {
-        m_doubleSpinBox->selectAll();
-        QVERIFY(RealInput::type(typed));
-        QVERIFY(RealInput::key(QStringLiteral("Return")));
-        QTRY_COMPARE(m_doubleSpinBox->value(),
-                     QString(typed).replace(QLatin1Char(','), QLatin1Char('.')).toDouble());
-    }
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("controls")));
-}
-
-void tst_Controls::popUpOpensAndPicks()
-{
-    QVERIFY(RealInput::click(m_comboBox));
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QVERIFY(QTest::qWaitForWindowExposed(QApplication::activePopupWidget()));
-    QVERIFY(RealInput::key(QStringLiteral("Down")));
-    QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_VERIFY(!QApplication::activePopupWidget());
-    QCOMPARE(m_comboBox->currentText(), QStringLiteral("Screen"));
-}
 
 UIC_TEST_MAIN(tst_Controls)
 #include "tst_Controls.moc"

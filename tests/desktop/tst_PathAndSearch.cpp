@@ -25,25 +25,242 @@ class tst_PathAndSearch : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
+    void initTestCase() { GalleryApplication::prepare(); }
 
-    void typedPathIsReported();
-    void browsedFolderIsTaken();
-    void resetBringsTheDefaultBack();
-    void tabGoesThroughTheParts();
-    void toolTipIsAtTheLineEdit();
-    void errorIsMarkedUntilTheNextReport();
-    void wheelOverThePathScrollsThePanel();
+    void cleanup()
+    {
+        QToolTip::hideText();
+        m_window.reset();
+    }
 
-    void leadingBlankIsRefused();
-    void searchIsClearedByMouse();
-    void searchIsClearedByKey();
-    void emptiedSearchIsFinishedByLeaving();
-    void placeholderFollowsTheMouse();
+    void typedPathIsReported()
+    {
+        open(QStringLiteral("path-selection"));
+        QTRY_VERIFY(!m_field->findChild<QLabel*>(QStringLiteral("availableLabel"))
+                         ->text()
+                         .endsWith(QLatin1String("...")));
+        QSignalSpy changed(m_field, &PathSelectionWidget::pathChanged);
+        // The home folder is shown by its name, which goes when the user comes.
+        QCOMPARE(m_edit->text(), QStringLiteral("Home folder"));
+        QVERIFY(RealInput::click(m_edit));
+        QTRY_COMPARE(m_edit->text(), QString());
+        QVERIFY(RealInput::type(QStringLiteral("/tmp/new clips")));
+        QTRY_COMPARE(m_field->path(), QStringLiteral("/tmp/new clips"));
+        QTRY_VERIFY(!changed.isEmpty() &&
+                    changed.last().first().toString() == QLatin1String("/tmp/new clips"));
+        QVERIFY(changed.count() < 14);
+    }
+
+    void browsedFolderIsTaken()
+    {
+        const QTemporaryDir folder;
+        open(QStringLiteral("path-selection"));
+        QVERIFY(RealInput::click(m_field->findChild<QToolButton*>(QStringLiteral("pathBrowseButton"))));
+        QFileDialog* dialog = nullptr;
+        QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeWindow())) != nullptr);
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        // Nothing was chosen yet, so it starts from the computer.
+        QCOMPARE(dialog->directory().absolutePath(), QDir::rootPath());
+        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QVERIFY(name);
+        QVERIFY(RealInput::click(name));
+        QTRY_VERIFY(name->hasFocus());
+        name->selectAll();
+        QVERIFY(RealInput::type(folder.path()));
+        QTRY_COMPARE(name->text(), folder.path());
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("path-browsing")));
+        // The list of completions takes the first.
+        QVERIFY(RealInput::key(QStringLiteral("Escape")));
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_COMPARE(m_field->path(), folder.path());
+        QTRY_VERIFY(m_window->isActiveWindow());
+        QCOMPARE(m_edit->text(), folder.path());
+    }
+
+    void resetBringsTheDefaultBack()
+    {
+        open(QStringLiteral("path-selection"));
+        auto* reset = m_field->findChild<QToolButton*>(QStringLiteral("pathResetButton"));
+        QVERIFY(!reset->isEnabled());
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("/x")));
+        QTRY_VERIFY(reset->isEnabled());
+        QVERIFY(RealInput::click(reset));
+        QTRY_COMPARE(m_edit->text(), QStringLiteral("Home folder"));
+        QCOMPARE(m_field->path(), m_field->defaultPath());
+        QVERIFY(!m_edit->hasFocus());
+        QVERIFY(!reset->isEnabled());
+    }
+
+    void tabGoesThroughTheParts()
+    {
+        open(QStringLiteral("path-selection"));
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("/x")));
+        QTRY_COMPARE(m_field->path(), QStringLiteral("/x"));
+        for (const char* name : {"pathBrowseButton", "pathResetButton"}) {
+            QVERIFY(RealInput::key(QStringLiteral("Tab")));
+            QTRY_COMPARE(QApplication::focusWidget(), m_field->findChild<QWidget*>(QLatin1String(name)));
+        }
+        QVERIFY(RealInput::key(QStringLiteral("Tab")));
+        QTRY_VERIFY(!m_field->isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(RealInput::key(QStringLiteral("shift+Tab")));
+        QVERIFY(RealInput::key(QStringLiteral("space")));
+        QTRY_COMPARE(m_field->path(), m_field->defaultPath());
+    }
+
+    void toolTipIsAtTheLineEdit()
+    {
+        open(QStringLiteral("path-selection"));
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("relative")));
+        QTRY_COMPARE(m_field->path(), QStringLiteral("relative"));
+        QVERIFY(!m_field->checkPath());
+        QTRY_VERIFY(QToolTip::isVisible());
+        QWidget* tip = nullptr;
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget* window : windows) {
+            tip = window->inherits("QTipLabel") && window->isVisible() ? window : tip;
+        }
+        QVERIFY(tip);
+        QVERIFY(QTest::qWaitForWindowExposed(tip));
+        const QPoint spot = m_edit->mapToGlobal(m_edit->pos() + QPoint(0, m_edit->height() / 2));
+        // Qt keeps a tip clear of the mouse's arrow.
+        const QPoint offset = tip->pos() - spot;
+        QVERIFY2(offset.x() >= 0 && offset.x() <= 4 && offset.y() >= 0 && offset.y() <= 24,
+                 qPrintable(QStringLiteral("%1, %2").arg(offset.x()).arg(offset.y())));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("path-tool-tip")));
+        QVERIFY(RealInput::type(QStringLiteral("x")));
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QCOMPARE(m_edit->toolTip(), QString());
+    }
+
+    void errorIsMarkedUntilTheNextReport()
+    {
+        open(QStringLiteral("path-selection"));
+        const auto* frame = m_field->findChild<QWidget*>(QStringLiteral("pathSelectionFrame"));
+        const QPoint border(frame->width() / 2, 0);
+        const QColor usual = RealInput::pixel(frame, border);
+        m_field->setErrorDisplayType(PathSelectionWidget::Label);
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("relative")));
+        QSignalSpy changed(m_field, &PathSelectionWidget::pathChanged);
+        QTRY_VERIFY(!changed.isEmpty() && changed.last().first().toString() == QLatin1String("relative"));
+        QVERIFY(!m_field->checkPath());
+        const auto* label = m_field->findChild<QWidget*>(QStringLiteral("errorLabel"));
+        QTRY_VERIFY(label->isVisible());
+        const auto isRed = [frame, border] {
+            const QColor color = RealInput::pixel(frame, border);
+            return color.red() > color.green() + 60;
+        };
+        QVERIFY(usual.red() <= usual.green() + 60);
+        QTRY_VERIFY(isRed());
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("path-error")));
+        QVERIFY(RealInput::type(QStringLiteral("/x")));
+        QTRY_VERIFY(!label->isVisible());
+        QTRY_VERIFY(!isRed());
+    }
+
+    void wheelOverThePathScrollsThePanel()
+    {
+        open(QStringLiteral("path-selection"));
+        m_window->resize(1100, 420);
+        auto* area = m_window->page()->findChild<QScrollArea*>(QStringLiteral("specimenArea"));
+        QVERIFY(area);
+        QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+        const QString before = m_field->path();
+        QVERIFY(RealInput::wheel(m_edit, m_edit->rect().center(), -1));
+        QTRY_VERIFY(area->verticalScrollBar()->value() > 0);
+        QCOMPARE(m_field->path(), before);
+        QVERIFY(!m_edit->hasFocus());
+    }
+
+    void leadingBlankIsRefused()
+    {
+        open(QStringLiteral("search"));
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("  two words ")));
+        QTRY_COMPARE(m_search->text(), QStringLiteral("two words "));
+    }
+
+    void searchIsClearedByMouse()
+    {
+        open(QStringLiteral("search"));
+        auto* button = m_search->findChild<QToolButton*>();
+        QVERIFY(!button->isVisible());
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("beach")));
+        QTRY_VERIFY(button->isVisible());
+        QVERIFY(RealInput::moveTo(m_edit, m_edit->rect().center()));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("search")));
+        QVERIFY(RealInput::click(button));
+        QTRY_COMPARE(m_search->text(), QString());
+        QVERIFY(!button->isVisible());
+        QVERIFY(m_edit->hasFocus());
+    }
+
+    void searchIsClearedByKey()
+    {
+        open(QStringLiteral("search"));
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("beach")));
+        QVERIFY(RealInput::key(QStringLiteral("Tab")));
+        QTRY_VERIFY(m_search->findChild<QToolButton*>()->hasFocus());
+        QVERIFY(RealInput::key(QStringLiteral("space")));
+        QTRY_COMPARE(m_search->text(), QString());
+        QVERIFY(RealInput::type(QStringLiteral("harbour")));
+        QTRY_COMPARE(m_search->text(), QStringLiteral("harbour"));
+    }
+
+    void emptiedSearchIsFinishedByLeaving()
+    {
+        open(QStringLiteral("search"));
+        QSignalSpy finished(m_search, &SearchWidget::editingFinished);
+        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::type(QStringLiteral("ab")));
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_COMPARE(finished.count(), 1);
+        QVERIFY(RealInput::key(QStringLiteral("BackSpace")));
+        QVERIFY(RealInput::key(QStringLiteral("BackSpace")));
+        QTRY_COMPARE(m_search->text(), QString());
+        QVERIFY(RealInput::key(QStringLiteral("Tab")));
+        QTRY_COMPARE(finished.count(), 2);
+        QCOMPARE(finished.last().first().toString(), QString());
+    }
+
+    void placeholderFollowsTheMouse()
+    {
+        open(QStringLiteral("search"));
+        const auto placeholder = [this] { return m_edit->palette().color(QPalette::PlaceholderText); };
+        QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
+        QTRY_COMPARE(placeholder(), m_search->GetPlaceholderColor());
+        QVERIFY(RealInput::moveTo(m_edit, m_edit->rect().center()));
+        QTRY_COMPARE(placeholder(), m_search->GetPlaceholderHoverColor());
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("search-hovered")));
+        QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
+        QTRY_COMPARE(placeholder(), m_search->GetPlaceholderColor());
+        // The keyboard polishes it again.
+        QVERIFY(RealInput::key(QStringLiteral("Tab")));
+        m_edit->setFocus();
+        QTRY_VERIFY(m_edit->hasFocus());
+        QCOMPARE(placeholder(), m_search->GetPlaceholderColor());
+    }
 
 private:
-    void open(const QString& page);
+    void open(const QString& page)
+    {
+        CommandLine start;
+        start.page = page;
+        m_window = std::make_unique<MainWindow>(start);
+        m_window->setGeometry(40, 40, 1100, 700);
+        QVERIFY(RealInput::showAndActivate(m_window.get()));
+        m_field = find<PathSelectionWidget>();
+        m_search = find<SearchWidget>();
+        m_edit = m_field ? m_field->findChild<QLineEdit*>()
+                         : (m_search ? m_search->findChild<QLineEdit*>() : nullptr);
+        QVERIFY(m_edit);
+    }
+
     /// The first part of that kind and name that can be used.
     template <typename Widget>
     Widget* find(const char* name = nullptr) const
@@ -62,243 +279,6 @@ private:
     SearchWidget* m_search = nullptr;
     QLineEdit* m_edit = nullptr;
 };
-
-void tst_PathAndSearch::initTestCase()
-{
-    GalleryApplication::prepare();
-}
-
-void tst_PathAndSearch::open(const QString& page)
-{
-    CommandLine start;
-    start.page = page;
-    m_window = std::make_unique<MainWindow>(start);
-    m_window->setGeometry(40, 40, 1100, 700);
-    QVERIFY(RealInput::showAndActivate(m_window.get()));
-    m_field = find<PathSelectionWidget>();
-    m_search = find<SearchWidget>();
-    m_edit =
-        m_field ? m_field->findChild<QLineEdit*>() : (m_search ? m_search->findChild<QLineEdit*>() : nullptr);
-    QVERIFY(m_edit);
-}
-
-void tst_PathAndSearch::cleanup()
-{
-    QToolTip::hideText();
-    m_window.reset();
-}
-
-void tst_PathAndSearch::typedPathIsReported()
-{
-    open(QStringLiteral("path-selection"));
-    QTRY_VERIFY(!m_field->findChild<QLabel*>(QStringLiteral("availableLabel"))
-                     ->text()
-                     .endsWith(QLatin1String("...")));
-    QSignalSpy changed(m_field, &PathSelectionWidget::pathChanged);
-    // The home folder is shown by its name, which goes when the user comes.
-    QCOMPARE(m_edit->text(), QStringLiteral("Home folder"));
-    QVERIFY(RealInput::click(m_edit));
-    QTRY_COMPARE(m_edit->text(), QString());
-    QVERIFY(RealInput::type(QStringLiteral("/tmp/new clips")));
-    QTRY_COMPARE(m_field->path(), QStringLiteral("/tmp/new clips"));
-    QTRY_VERIFY(!changed.isEmpty() && changed.last().first().toString() == QLatin1String("/tmp/new clips"));
-    QVERIFY(changed.count() < 14);
-}
-
-void tst_PathAndSearch::browsedFolderIsTaken()
-{
-    const QTemporaryDir folder;
-    open(QStringLiteral("path-selection"));
-    QVERIFY(RealInput::click(m_field->findChild<QToolButton*>(QStringLiteral("pathBrowseButton"))));
-    QFileDialog* dialog = nullptr;
-    QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeWindow())) != nullptr);
-    QVERIFY(QTest::qWaitForWindowExposed(dialog));
-    // Nothing was chosen yet, so it starts from the computer.
-    QCOMPARE(dialog->directory().absolutePath(), QDir::rootPath());
-    auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    QVERIFY(name);
-    QVERIFY(RealInput::click(name));
-    QTRY_VERIFY(name->hasFocus());
-    name->selectAll();
-    QVERIFY(RealInput::type(folder.path()));
-    QTRY_COMPARE(name->text(), folder.path());
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("path-browsing")));
-    // The list of completions takes the first.
-    QVERIFY(RealInput::key(QStringLiteral("Escape")));
-    QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_COMPARE(m_field->path(), folder.path());
-    QTRY_VERIFY(m_window->isActiveWindow());
-    QCOMPARE(m_edit->text(), folder.path());
-}
-
-void tst_PathAndSearch::resetBringsTheDefaultBack()
-{
-    open(QStringLiteral("path-selection"));
-    auto* reset = m_field->findChild<QToolButton*>(QStringLiteral("pathResetButton"));
-    QVERIFY(!reset->isEnabled());
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("/x")));
-    QTRY_VERIFY(reset->isEnabled());
-    QVERIFY(RealInput::click(reset));
-    QTRY_COMPARE(m_edit->text(), QStringLiteral("Home folder"));
-    QCOMPARE(m_field->path(), m_field->defaultPath());
-    QVERIFY(!m_edit->hasFocus());
-    QVERIFY(!reset->isEnabled());
-}
-
-void tst_PathAndSearch::tabGoesThroughTheParts()
-{
-    open(QStringLiteral("path-selection"));
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("/x")));
-    QTRY_COMPARE(m_field->path(), QStringLiteral("/x"));
-    for (const char* name : {"pathBrowseButton", "pathResetButton"}) {
-        QVERIFY(RealInput::key(QStringLiteral("Tab")));
-        QTRY_COMPARE(QApplication::focusWidget(), m_field->findChild<QWidget*>(QLatin1String(name)));
-    }
-    QVERIFY(RealInput::key(QStringLiteral("Tab")));
-    QTRY_VERIFY(!m_field->isAncestorOf(QApplication::focusWidget()));
-    QVERIFY(RealInput::key(QStringLiteral("shift+Tab")));
-    QVERIFY(RealInput::key(QStringLiteral("space")));
-    QTRY_COMPARE(m_field->path(), m_field->defaultPath());
-}
-
-void tst_PathAndSearch::toolTipIsAtTheLineEdit()
-{
-    open(QStringLiteral("path-selection"));
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("relative")));
-    QTRY_COMPARE(m_field->path(), QStringLiteral("relative"));
-    QVERIFY(!m_field->checkPath());
-    QTRY_VERIFY(QToolTip::isVisible());
-    QWidget* tip = nullptr;
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
-        tip = window->inherits("QTipLabel") && window->isVisible() ? window : tip;
-    }
-    QVERIFY(tip);
-    QVERIFY(QTest::qWaitForWindowExposed(tip));
-    const QPoint spot = m_edit->mapToGlobal(m_edit->pos() + QPoint(0, m_edit->height() / 2));
-    // Qt keeps a tip clear of the mouse's arrow.
-    const QPoint offset = tip->pos() - spot;
-    QVERIFY2(offset.x() >= 0 && offset.x() <= 4 && offset.y() >= 0 && offset.y() <= 24,
-             qPrintable(QStringLiteral("%1, %2").arg(offset.x()).arg(offset.y())));
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("path-tool-tip")));
-    QVERIFY(RealInput::type(QStringLiteral("x")));
-    QTRY_VERIFY(!QToolTip::isVisible());
-    QCOMPARE(m_edit->toolTip(), QString());
-}
-
-void tst_PathAndSearch::errorIsMarkedUntilTheNextReport()
-{
-    open(QStringLiteral("path-selection"));
-    const auto* frame = m_field->findChild<QWidget*>(QStringLiteral("pathSelectionFrame"));
-    const QPoint border(frame->width() / 2, 0);
-    const QColor usual = RealInput::pixel(frame, border);
-    m_field->setErrorDisplayType(PathSelectionWidget::Label);
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("relative")));
-    QSignalSpy changed(m_field, &PathSelectionWidget::pathChanged);
-    QTRY_VERIFY(!changed.isEmpty() && changed.last().first().toString() == QLatin1String("relative"));
-    QVERIFY(!m_field->checkPath());
-    const auto* label = m_field->findChild<QWidget*>(QStringLiteral("errorLabel"));
-    QTRY_VERIFY(label->isVisible());
-    const auto isRed = [frame, border] {
-        const QColor color = RealInput::pixel(frame, border);
-        return color.red() > color.green() + 60;
-    };
-    QVERIFY(usual.red() <= usual.green() + 60);
-    QTRY_VERIFY(isRed());
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("path-error")));
-    QVERIFY(RealInput::type(QStringLiteral("/x")));
-    QTRY_VERIFY(!label->isVisible());
-    QTRY_VERIFY(!isRed());
-}
-
-void tst_PathAndSearch::wheelOverThePathScrollsThePanel()
-{
-    open(QStringLiteral("path-selection"));
-    m_window->resize(1100, 420);
-    auto* area = m_window->page()->findChild<QScrollArea*>(QStringLiteral("specimenArea"));
-    QVERIFY(area);
-    QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
-    const QString before = m_field->path();
-    QVERIFY(RealInput::wheel(m_edit, m_edit->rect().center(), -1));
-    QTRY_VERIFY(area->verticalScrollBar()->value() > 0);
-    QCOMPARE(m_field->path(), before);
-    QVERIFY(!m_edit->hasFocus());
-}
-
-void tst_PathAndSearch::leadingBlankIsRefused()
-{
-    open(QStringLiteral("search"));
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("  two words ")));
-    QTRY_COMPARE(m_search->text(), QStringLiteral("two words "));
-}
-
-void tst_PathAndSearch::searchIsClearedByMouse()
-{
-    open(QStringLiteral("search"));
-    auto* button = m_search->findChild<QToolButton*>();
-    QVERIFY(!button->isVisible());
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("beach")));
-    QTRY_VERIFY(button->isVisible());
-    QVERIFY(RealInput::moveTo(m_edit, m_edit->rect().center()));
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("search")));
-    QVERIFY(RealInput::click(button));
-    QTRY_COMPARE(m_search->text(), QString());
-    QVERIFY(!button->isVisible());
-    QVERIFY(m_edit->hasFocus());
-}
-
-void tst_PathAndSearch::searchIsClearedByKey()
-{
-    open(QStringLiteral("search"));
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("beach")));
-    QVERIFY(RealInput::key(QStringLiteral("Tab")));
-    QTRY_VERIFY(m_search->findChild<QToolButton*>()->hasFocus());
-    QVERIFY(RealInput::key(QStringLiteral("space")));
-    QTRY_COMPARE(m_search->text(), QString());
-    QVERIFY(RealInput::type(QStringLiteral("harbour")));
-    QTRY_COMPARE(m_search->text(), QStringLiteral("harbour"));
-}
-
-void tst_PathAndSearch::emptiedSearchIsFinishedByLeaving()
-{
-    open(QStringLiteral("search"));
-    QSignalSpy finished(m_search, &SearchWidget::editingFinished);
-    QVERIFY(RealInput::click(m_edit));
-    QVERIFY(RealInput::type(QStringLiteral("ab")));
-    QVERIFY(RealInput::key(QStringLiteral("Return")));
-    QTRY_COMPARE(finished.count(), 1);
-    QVERIFY(RealInput::key(QStringLiteral("BackSpace")));
-    QVERIFY(RealInput::key(QStringLiteral("BackSpace")));
-    QTRY_COMPARE(m_search->text(), QString());
-    QVERIFY(RealInput::key(QStringLiteral("Tab")));
-    QTRY_COMPARE(finished.count(), 2);
-    QCOMPARE(finished.last().first().toString(), QString());
-}
-
-void tst_PathAndSearch::placeholderFollowsTheMouse()
-{
-    open(QStringLiteral("search"));
-    const auto placeholder = [this] { return m_edit->palette().color(QPalette::PlaceholderText); };
-    QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
-    QTRY_COMPARE(placeholder(), m_search->GetPlaceholderColor());
-    QVERIFY(RealInput::moveTo(m_edit, m_edit->rect().center()));
-    QTRY_COMPARE(placeholder(), m_search->GetPlaceholderHoverColor());
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("search-hovered")));
-    QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
-    QTRY_COMPARE(placeholder(), m_search->GetPlaceholderColor());
-    // The keyboard polishes it again.
-    QVERIFY(RealInput::key(QStringLiteral("Tab")));
-    m_edit->setFocus();
-    QTRY_VERIFY(m_edit->hasFocus());
-    QCOMPARE(placeholder(), m_search->GetPlaceholderColor());
-}
 
 UIC_TEST_MAIN(tst_PathAndSearch)
 #include "tst_PathAndSearch.moc"

@@ -7,6 +7,10 @@
 #include <QLabel>
 #include <QScreen>
 
+namespace {
+
+} // namespace
+
 /**
  * Several screens, of several sizes, places and scales: what the tests that pick from them take for granted.
  * Each run is on other screens.
@@ -16,68 +20,60 @@ class tst_Screens : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void screensAreThere();
-    void mouseReachesEveryCorner();
-    void patternIsBelowWindows();
-    void patternCoversAScreen();
+    void screensAreThere()
+    {
+        QVERIFY(QGuiApplication::screens().size() > 1);
+        for (const QScreen* screen : QGuiApplication::screens()) {
+            QCOMPARE(screen->depth(), 24);
+            QCOMPARE(screen->logicalDotsPerInch(), 96.0);
+        }
+    }
+
+    void mouseReachesEveryCorner()
+    {
+        for (const QScreen* screen : QGuiApplication::screens()) {
+            QWidget window(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+            window.setGeometry(screen->geometry());
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QVERIFY(RealInput::moveTo(&window, QPoint(0, 0)));
+            QVERIFY(RealInput::moveTo(&window, window.rect().bottomRight()));
+            QCOMPARE(QGuiApplication::screenAt(QCursor::pos()), screen);
+        }
+    }
+
+    void patternIsBelowWindows()
+    {
+        PixelPattern pattern;
+        QVERIFY(pattern.show(NativeScreens::desktop()));
+        for (QScreen* screen : QGuiApplication::screens()) {
+            const QPoint middle(screen->size().width() / 2, screen->size().height() / 2);
+            const QPoint pixel = NativeScreens::pixelAt(screen->geometry().topLeft() + middle);
+            const QRgb expected = PixelPattern::colorAt(pixel.x(), pixel.y());
+            const auto seen = [screen, middle] {
+                return screen->grabWindow(0, middle.x(), middle.y(), 1, 1).toImage().pixel(0, 0);
+            };
+            QTRY_COMPARE(seen(), expected);
+
+            QLabel label;
+            label.setStyleSheet(QStringLiteral("background: #123456"));
+            label.setGeometry(QRect(screen->geometry().topLeft() + middle - QPoint(50, 50), QSize(100, 100)));
+            QVERIFY(RealInput::showAndActivate(&label));
+            QTRY_COMPARE(seen(), qRgb(0x12, 0x34, 0x56));
+        }
+    }
+
+    void patternCoversAScreen()
+    {
+        QScreen* screen = QGuiApplication::screens().last();
+        const QPoint corner = screen->geometry().topLeft();
+        PixelPattern pattern;
+        QVERIFY(
+            pattern.show(QRect(corner + QPoint(30, 40), QSize(200, 100)), PixelPattern::Window::FullScreen));
+        QCOMPARE(screen->grabWindow(0, 0, 0, 1, 1).toImage().pixel(0, 0),
+                 PixelPattern::colorAt(corner.x(), corner.y()));
+    }
 };
-
-namespace {
-
-} // namespace
-
-void tst_Screens::screensAreThere()
-{
-    QVERIFY(QGuiApplication::screens().size() > 1);
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        QCOMPARE(screen->depth(), 24);
-        QCOMPARE(screen->logicalDotsPerInch(), 96.0);
-    }
-}
-
-void tst_Screens::mouseReachesEveryCorner()
-{
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        QWidget window(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
-        window.setGeometry(screen->geometry());
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QVERIFY(RealInput::moveTo(&window, QPoint(0, 0)));
-        QVERIFY(RealInput::moveTo(&window, window.rect().bottomRight()));
-        QCOMPARE(QGuiApplication::screenAt(QCursor::pos()), screen);
-    }
-}
-
-void tst_Screens::patternIsBelowWindows()
-{
-    PixelPattern pattern;
-    QVERIFY(pattern.show(NativeScreens::desktop()));
-    for (QScreen* screen : QGuiApplication::screens()) {
-        const QPoint middle(screen->size().width() / 2, screen->size().height() / 2);
-        const QPoint pixel = NativeScreens::pixelAt(screen->geometry().topLeft() + middle);
-        const QRgb expected = PixelPattern::colorAt(pixel.x(), pixel.y());
-        const auto seen = [screen, middle] {
-            return screen->grabWindow(0, middle.x(), middle.y(), 1, 1).toImage().pixel(0, 0);
-        };
-        QTRY_COMPARE(seen(), expected);
-
-        QLabel label;
-        label.setStyleSheet(QStringLiteral("background: #123456"));
-        label.setGeometry(QRect(screen->geometry().topLeft() + middle - QPoint(50, 50), QSize(100, 100)));
-        QVERIFY(RealInput::showAndActivate(&label));
-        QTRY_COMPARE(seen(), qRgb(0x12, 0x34, 0x56));
-    }
-}
-
-void tst_Screens::patternCoversAScreen()
-{
-    QScreen* screen = QGuiApplication::screens().last();
-    const QPoint corner = screen->geometry().topLeft();
-    PixelPattern pattern;
-    QVERIFY(pattern.show(QRect(corner + QPoint(30, 40), QSize(200, 100)), PixelPattern::Window::FullScreen));
-    QCOMPARE(screen->grabWindow(0, 0, 0, 1, 1).toImage().pixel(0, 0),
-             PixelPattern::colorAt(corner.x(), corner.y()));
-}
 
 UIC_TEST_MAIN(tst_Screens)
 #include "tst_Screens.moc"

@@ -20,31 +20,6 @@
 #include <gallery/PageRegistry.h>
 #include <numeric>
 
-/**
- * The gallery on Wayland, where no program reads the screen: the compositor shows every page, and a colour of
- * the screen comes from the desktop's portal.
- */
-class tst_Wayland : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-
-    void everyPageIsShown_data();
-    void everyPageIsShown();
-    void popupsStayWithTheirWindow();
-    void buttonsSayThatThereIsNoPortal();
-    void pipettePicksThroughThePortal();
-    void pipetteStopsThePortal();
-
-private:
-    bool open(const QString& page);
-
-    std::unique_ptr<MainWindow> m_window;
-};
-
 namespace {
 
 /// A portal on the session's bus, with a connection of its own.
@@ -89,114 +64,124 @@ bool isShown(QWidget& window, const QString& screenshot)
 
 } // namespace
 
-void tst_Wayland::initTestCase()
+/**
+ * The gallery on Wayland, where no program reads the screen: the compositor shows every page, and a colour of
+ * the screen comes from the desktop's portal.
+ */
+class tst_Wayland : public QObject
 {
-    QVERIFY(QGuiApplication::platformName().startsWith(QLatin1String("wayland")));
-    GalleryApplication::prepare();
-}
+    Q_OBJECT
 
-void tst_Wayland::cleanup()
-{
-    m_window.reset();
-}
-
-bool tst_Wayland::open(const QString& page)
-{
-    CommandLine start;
-    start.page = page;
-    m_window = std::make_unique<MainWindow>(start);
-    return RealInput::showAndActivate(m_window.get());
-}
-
-void tst_Wayland::everyPageIsShown_data()
-{
-    QTest::addColumn<QString>("page");
-
-    const auto pages = PageRegistry::pages();
-    for (const PageInfo& page : pages) {
-        QTest::newRow(qPrintable(page.id)) << page.id;
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(QGuiApplication::platformName().startsWith(QLatin1String("wayland")));
+        GalleryApplication::prepare();
     }
-}
 
-void tst_Wayland::everyPageIsShown()
-{
-    QFETCH(const QString, page);
-    QVERIFY(open(page));
-    QTRY_VERIFY(isShown(*m_window, QStringLiteral("wayland-") + page));
-}
+    void cleanup() { m_window.reset(); }
 
-// Its place on the screen is not known, but that it is there is.
-void tst_Wayland::popupsStayWithTheirWindow()
-{
-    QWidget window;
-    window.setWindowTitle(QStringLiteral("Small"));
-    window.resize(560, 440);
-    ColorPickerWidget panel(&window, false);
-    panel.adjustSize();
-    panel.move(window.width() - panel.width(), window.height() - panel.height());
-    QVERIFY(RealInput::showAndActivate(&window));
+    void everyPageIsShown_data()
+    {
+        QTest::addColumn<QString>("page");
 
-    PointingWidget bubble(&window);
-    bubble.contentFrame()->setFixedSize(150, 60);
-    bubble.pointTo(window.mapToGlobal(QPoint(100, window.height() - 20)));
-    bubble.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&bubble));
-    QCOMPARE(bubble.effectiveArrowSide(), PointingWidget::ArrowSide::Bottom);
-    QVERIFY(window.geometry().contains(bubble.geometry()));
+        const auto pages = PageRegistry::pages();
+        for (const PageInfo& page : pages) {
+            QTest::newRow(qPrintable(page.id)) << page.id;
+        }
+    }
 
-    QVERIFY(RealInput::click(panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))));
-    QWidget* selector = nullptr;
-    QTRY_VERIFY((selector = QApplication::activePopupWidget()));
-    QTRY_VERIFY(window.geometry().contains(selector->geometry()));
-    QVERIFY(QTest::qWaitForWindowExposed(selector));
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-popups")));
-}
+    void everyPageIsShown()
+    {
+        QFETCH(const QString, page);
+        QVERIFY(open(page));
+        QTRY_VERIFY(isShown(*m_window, QStringLiteral("wayland-") + page));
+    }
 
-void tst_Wayland::buttonsSayThatThereIsNoPortal()
-{
-    QVERIFY(open(QStringLiteral("pipette")));
-    const auto* const start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
-    QTRY_VERIFY(!start->isEnabled());
-    QCOMPARE(start->toolTip(), Pipette::unavailableReason());
-    ColorPickerWidget panel(nullptr, false);
-    QVERIFY(!panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+    // Its place on the screen is not known, but that it is there is.
+    void popupsStayWithTheirWindow()
+    {
+        QWidget window;
+        window.setWindowTitle(QStringLiteral("Small"));
+        window.resize(560, 440);
+        ColorPickerWidget panel(&window, false);
+        panel.adjustSize();
+        panel.move(window.width() - panel.width(), window.height() - panel.height());
+        QVERIFY(RealInput::showAndActivate(&window));
 
-    const Desktop desktop;
-    QTRY_VERIFY(start->isEnabled());
-    QVERIFY(panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
-}
+        PointingWidget bubble(&window);
+        bubble.contentFrame()->setFixedSize(150, 60);
+        bubble.pointTo(window.mapToGlobal(QPoint(100, window.height() - 20)));
+        bubble.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bubble));
+        QCOMPARE(bubble.effectiveArrowSide(), PointingWidget::ArrowSide::Bottom);
+        QVERIFY(window.geometry().contains(bubble.geometry()));
 
-void tst_Wayland::pipettePicksThroughThePortal()
-{
-    Desktop desktop;
-    QVERIFY(open(QStringLiteral("pipette")));
-    const auto* const start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
-    const auto* const picked = m_window->page()->findChild<QListWidget*>(QStringLiteral("pickedColors"));
-    QTRY_VERIFY(start->isEnabled());
-    QVERIFY(RealInput::click(start));
-    QTRY_COMPARE(desktop.portal.requests.size(), 1);
-    // Qt 5.15 cannot tell the portal which window asks.
-    QCOMPARE(desktop.portal.parents, QStringList{QString()});
-    desktop.portal.respond(0, QColor(18, 52, 86));
-    QTRY_COMPARE(picked->count(), 1);
-    QCOMPARE(picked->item(0)->text(), QStringLiteral("#123456"));
-    QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-picked")));
-}
+        QVERIFY(RealInput::click(panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))));
+        QWidget* selector = nullptr;
+        QTRY_VERIFY((selector = QApplication::activePopupWidget()));
+        QTRY_VERIFY(window.geometry().contains(selector->geometry()));
+        QVERIFY(QTest::qWaitForWindowExposed(selector));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-popups")));
+    }
 
-void tst_Wayland::pipetteStopsThePortal()
-{
-    Desktop desktop;
-    Pipette pipette;
-    QSignalSpy started(&pipette, &Pipette::pickingStarted);
-    QSignalSpy stopped(&pipette, &Pipette::pickingStopped);
-    QTRY_COMPARE(Pipette::unavailableReason(), QString());
-    pipette.startPicking();
-    QCOMPARE(started.count(), 1);
-    QTRY_COMPARE(desktop.portal.requests.size(), 1);
-    pipette.stopPicking();
-    QCOMPARE(stopped.count(), 1);
-    QTRY_VERIFY(desktop.portal.requests.constFirst()->isClosed);
-}
+    void buttonsSayThatThereIsNoPortal()
+    {
+        QVERIFY(open(QStringLiteral("pipette")));
+        const auto* const start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
+        QTRY_VERIFY(!start->isEnabled());
+        QCOMPARE(start->toolTip(), Pipette::unavailableReason());
+        ColorPickerWidget panel(nullptr, false);
+        QVERIFY(!panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+
+        const Desktop desktop;
+        QTRY_VERIFY(start->isEnabled());
+        QVERIFY(panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+    }
+
+    void pipettePicksThroughThePortal()
+    {
+        Desktop desktop;
+        QVERIFY(open(QStringLiteral("pipette")));
+        const auto* const start = m_window->page()->findChild<QPushButton*>(QStringLiteral("startPipette"));
+        const auto* const picked = m_window->page()->findChild<QListWidget*>(QStringLiteral("pickedColors"));
+        QTRY_VERIFY(start->isEnabled());
+        QVERIFY(RealInput::click(start));
+        QTRY_COMPARE(desktop.portal.requests.size(), 1);
+        // Qt 5.15 cannot tell the portal which window asks.
+        QCOMPARE(desktop.portal.parents, QStringList{QString()});
+        desktop.portal.respond(0, QColor(18, 52, 86));
+        QTRY_COMPARE(picked->count(), 1);
+        QCOMPARE(picked->item(0)->text(), QStringLiteral("#123456"));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-picked")));
+    }
+
+    void pipetteStopsThePortal()
+    {
+        Desktop desktop;
+        Pipette pipette;
+        QSignalSpy started(&pipette, &Pipette::pickingStarted);
+        QSignalSpy stopped(&pipette, &Pipette::pickingStopped);
+        QTRY_COMPARE(Pipette::unavailableReason(), QString());
+        pipette.startPicking();
+        QCOMPARE(started.count(), 1);
+        QTRY_COMPARE(desktop.portal.requests.size(), 1);
+        pipette.stopPicking();
+        QCOMPARE(stopped.count(), 1);
+        QTRY_VERIFY(desktop.portal.requests.constFirst()->isClosed);
+    }
+
+private:
+    bool open(const QString& page)
+    {
+        CommandLine start;
+        start.page = page;
+        m_window = std::make_unique<MainWindow>(start);
+        return RealInput::showAndActivate(m_window.get());
+    }
+
+    std::unique_ptr<MainWindow> m_window;
+};
 
 UIC_TEST_MAIN(tst_Wayland)
 #include "tst_Wayland.moc"

@@ -17,71 +17,67 @@ class tst_Xwayland : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void windowsHaveNamesForAPortal();
-    void picksEnd_data();
-    void picksEnd();
+    void windowsHaveNamesForAPortal()
+    {
+        QWidget window;
+        QCOMPARE(portalHandle(window.windowHandle()), QString());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        bool isNumber = false;
+        const QString name = portalHandle(window.windowHandle());
+        QVERIFY(name.startsWith(QLatin1String("x11:")));
+        QCOMPARE(WId(name.mid(4).toULongLong(&isNumber, 16)), window.winId());
+        QVERIFY(isNumber);
+    }
+
+    void picksEnd_data()
+    {
+        QTest::addColumn<bool>("isPicked");
+
+        QTest::newRow("with a click") << true;
+        QTest::newRow("with Escape") << false;
+    }
+
+    void picksEnd()
+    {
+        QFETCH(const bool, isPicked);
+        QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
+        QVERIFY(qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
+        QWidget window;
+        window.resize(400, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        Pipette pipette;
+        QStringList log;
+        connect(&pipette, &Pipette::pickingStarted, this, [&log] { log += QStringLiteral("started"); });
+        connect(&pipette, &Pipette::pickingStopped, this, [&log] { log += QStringLiteral("stopped"); });
+        connect(&pipette, &Pipette::colorSelected, this, [&log](const QColor& color) {
+            QCOMPARE(color.alpha(), 255);
+            log += QStringLiteral("color");
+        });
+        pipette.startPicking();
+        QCOMPARE(log, QStringList{QStringLiteral("started")});
+        const auto windows = QGuiApplication::topLevelWindows();
+        for (QWindow* view : windows) {
+            QVERIFY(!view->isVisible() || QTest::qWaitForWindowExposed(view));
+        }
+        QTRY_VERIFY(QGuiApplication::focusWindow());
+        if (isPicked) {
+            const QPoint center = QGuiApplication::primaryScreen()->geometry().center();
+            QVERIFY(QTest::qWaitFor(
+                [center] { return WaylandInput::moveTo(center) && QCursor::pos() == center; }));
+            QVERIFY(WaylandInput::pressButton(true) && WaylandInput::pressButton(false));
+        } else {
+            QVERIFY(WaylandInput::key(QStringLiteral("Escape")));
+        }
+        QTRY_COMPARE(log.constLast(), QStringLiteral("stopped"));
+        QCOMPARE(log.contains(QStringLiteral("color")), isPicked);
+        QCOMPARE(log.size(), isPicked ? 3 : 2);
+        QTRY_COMPARE(QApplication::topLevelWidgets().size(), 1);
+        QTRY_VERIFY(window.isActiveWindow());
+    }
 };
-
-void tst_Xwayland::windowsHaveNamesForAPortal()
-{
-    QWidget window;
-    QCOMPARE(portalHandle(window.windowHandle()), QString());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    bool isNumber = false;
-    const QString name = portalHandle(window.windowHandle());
-    QVERIFY(name.startsWith(QLatin1String("x11:")));
-    QCOMPARE(WId(name.mid(4).toULongLong(&isNumber, 16)), window.winId());
-    QVERIFY(isNumber);
-}
-
-void tst_Xwayland::picksEnd_data()
-{
-    QTest::addColumn<bool>("isPicked");
-
-    QTest::newRow("with a click") << true;
-    QTest::newRow("with Escape") << false;
-}
-
-void tst_Xwayland::picksEnd()
-{
-    QFETCH(const bool, isPicked);
-    QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
-    QVERIFY(qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
-    QWidget window;
-    window.resize(400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    Pipette pipette;
-    QStringList log;
-    connect(&pipette, &Pipette::pickingStarted, this, [&log] { log += QStringLiteral("started"); });
-    connect(&pipette, &Pipette::pickingStopped, this, [&log] { log += QStringLiteral("stopped"); });
-    connect(&pipette, &Pipette::colorSelected, this, [&log](const QColor& color) {
-        QCOMPARE(color.alpha(), 255);
-        log += QStringLiteral("color");
-    });
-    pipette.startPicking();
-    QCOMPARE(log, QStringList{QStringLiteral("started")});
-    const auto windows = QGuiApplication::topLevelWindows();
-    for (QWindow* view : windows) {
-        QVERIFY(!view->isVisible() || QTest::qWaitForWindowExposed(view));
-    }
-    QTRY_VERIFY(QGuiApplication::focusWindow());
-    if (isPicked) {
-        const QPoint center = QGuiApplication::primaryScreen()->geometry().center();
-        QVERIFY(
-            QTest::qWaitFor([center] { return WaylandInput::moveTo(center) && QCursor::pos() == center; }));
-        QVERIFY(WaylandInput::pressButton(true) && WaylandInput::pressButton(false));
-    } else {
-        QVERIFY(WaylandInput::key(QStringLiteral("Escape")));
-    }
-    QTRY_COMPARE(log.constLast(), QStringLiteral("stopped"));
-    QCOMPARE(log.contains(QStringLiteral("color")), isPicked);
-    QCOMPARE(log.size(), isPicked ? 3 : 2);
-    QTRY_COMPARE(QApplication::topLevelWidgets().size(), 1);
-    QTRY_VERIFY(window.isActiveWindow());
-}
 
 UIC_TEST_MAIN(tst_Xwayland)
 #include "tst_Xwayland.moc"

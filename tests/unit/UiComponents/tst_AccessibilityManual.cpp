@@ -75,98 +75,91 @@ class tst_AccessibilityManual : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
-    void table_data();
-    void table();
+    void initTestCase()
+    {
+        auto record = std::make_shared<Record>();
+        record->value = QStringList{QStringLiteral("#123456")};
+        Settings::setStore(std::make_unique<RecordingStore>(record));
+    }
+
+    void cleanupTestCase() { Settings::setStore(nullptr); }
+
+    void table_data()
+    {
+        QTest::addColumn<Make>("make");
+        QTest::addColumn<bool>("isWhole");
+        const auto row = [](const char* component, const Make& make, bool isWhole = true) {
+            QTest::newRow(component) << make << isWhole;
+        };
+        const auto orange = QColor(0xff, 0x80, 0x40, 128);
+        row("ColorInputWidget", [orange] { return new ColorInputWidget(nullptr, orange); });
+        row("ColorPickerButton", [orange] {
+            auto* button = new ColorPickerButton;
+            button->setColor(orange);
+            return button;
+        });
+        row("ColorPickerWidget", [orange] {
+            auto* panel = new ColorPickerWidget(nullptr, false);
+            panel->setCurrentColor(orange);
+            return panel;
+        });
+        row(
+            "ColorBlendingComboBox", [] { return new ColorBlendingComboBox(nullptr); }, false);
+        row("WidgetColorPickerButton", [] {
+            auto* button = new WidgetColorPickerButton;
+            button->setColor(Qt::blue);
+            return button;
+        });
+        row("SliderInputWidget", [] {
+            auto* field = new SliderInputWidget(nullptr, {0, 100});
+            field->setValue(40);
+            return field;
+        });
+        row("DoubleSliderInputWidget", [] {
+            auto* field = new DoubleSliderInputWidget(nullptr, {0.0, 1.0, 2});
+            field->setValue(0.4);
+            return field;
+        });
+        row("PointSelectionPlane", [] {
+            auto* plane = new PointSelectionPlane(nullptr);
+            plane->setLimits({0, 0, 1, 1});
+            plane->setPoint({0.25, 0.5});
+            return plane;
+        });
+        row("PointSelectorWidget", [] {
+            auto* field = new PointSelectorWidget(nullptr, {{0, 0}, {1, 1}, 2, 2});
+            field->setValue({0.25, 0.5});
+            return field;
+        });
+        row("PathSelectionWidget", [] {
+            auto* field = new PathSelectionWidget(nullptr);
+            field->setPath(QStringLiteral("/tmp"));
+            return field;
+        });
+        row("SearchWidget", [] { return new SearchWidget; });
+        row(
+            "AdjustingListView", [] { return new AdjustingListView(nullptr); }, false);
+        row("GuideButton", [] { return new GuideButton; });
+        row("GuideWidget", [] { return new GuideWidget({QStringLiteral("Trim"), {}, {}, {}}, nullptr); });
+        row("DialogGuideWidget", [] {
+            auto* bubble = new DialogGuideWidget(nullptr);
+            bubble->setInfo({QStringLiteral("Fill"), QStringLiteral("Drag"), QStringLiteral("Next"),
+                             QStringLiteral("Back"), QString()});
+            return bubble;
+        });
+        row("Qml::QuickDialog", [] { return new Qml::QuickDialog; });
+    }
+
+    void table()
+    {
+        QFETCH(Make, make);
+        QFETCH(bool, isWhole);
+        const std::unique_ptr<QWidget> component(make());
+        component->setAccessibleName(QStringLiteral("Fill"));
+        QCOMPARE(found(reader(component.get()), isWhole),
+                 cellOf(QString::fromLatin1(QTest::currentDataTag())));
+    }
 };
-
-void tst_AccessibilityManual::initTestCase()
-{
-    auto record = std::make_shared<Record>();
-    record->value = QStringList{QStringLiteral("#123456")};
-    Settings::setStore(std::make_unique<RecordingStore>(record));
-}
-
-void tst_AccessibilityManual::cleanupTestCase()
-{
-    Settings::setStore(nullptr);
-}
-
-void tst_AccessibilityManual::table_data()
-{
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<bool>("isWhole");
-    const auto row = [](const char* component, const Make& make, bool isWhole = true) {
-        QTest::newRow(component) << make << isWhole;
-    };
-    const auto orange = QColor(0xff, 0x80, 0x40, 128);
-    row("ColorInputWidget", [orange] { return new ColorInputWidget(nullptr, orange); });
-    row("ColorPickerButton", [orange] {
-        auto* button = new ColorPickerButton;
-        button->setColor(orange);
-        return button;
-    });
-    row("ColorPickerWidget", [orange] {
-        auto* panel = new ColorPickerWidget(nullptr, false);
-        panel->setCurrentColor(orange);
-        return panel;
-    });
-    row(
-        "ColorBlendingComboBox", [] { return new ColorBlendingComboBox(nullptr); }, false);
-    row("WidgetColorPickerButton", [] {
-        auto* button = new WidgetColorPickerButton;
-        button->setColor(Qt::blue);
-        return button;
-    });
-    row("SliderInputWidget", [] {
-        auto* field = new SliderInputWidget(nullptr, {0, 100});
-        field->setValue(40);
-        return field;
-    });
-    row("DoubleSliderInputWidget", [] {
-        auto* field = new DoubleSliderInputWidget(nullptr, {0.0, 1.0, 2});
-        field->setValue(0.4);
-        return field;
-    });
-    row("PointSelectionPlane", [] {
-        auto* plane = new PointSelectionPlane(nullptr);
-        plane->setLimits({0, 0, 1, 1});
-        plane->setPoint({0.25, 0.5});
-        return plane;
-    });
-    row("PointSelectorWidget", [] {
-        auto* field = new PointSelectorWidget(nullptr, {{0, 0}, {1, 1}, 2, 2});
-        field->setValue({0.25, 0.5});
-        return field;
-    });
-    row("PathSelectionWidget", [] {
-        auto* field = new PathSelectionWidget(nullptr);
-        field->setPath(QStringLiteral("/tmp"));
-        return field;
-    });
-    row("SearchWidget", [] { return new SearchWidget; });
-    row(
-        "AdjustingListView", [] { return new AdjustingListView(nullptr); }, false);
-    row("GuideButton", [] { return new GuideButton; });
-    row("GuideWidget", [] { return new GuideWidget({QStringLiteral("Trim"), {}, {}, {}}, nullptr); });
-    row("DialogGuideWidget", [] {
-        auto* bubble = new DialogGuideWidget(nullptr);
-        bubble->setInfo({QStringLiteral("Fill"), QStringLiteral("Drag"), QStringLiteral("Next"),
-                         QStringLiteral("Back"), QString()});
-        return bubble;
-    });
-    row("Qml::QuickDialog", [] { return new Qml::QuickDialog; });
-}
-
-void tst_AccessibilityManual::table()
-{
-    QFETCH(Make, make);
-    QFETCH(bool, isWhole);
-    const std::unique_ptr<QWidget> component(make());
-    component->setAccessibleName(QStringLiteral("Fill"));
-    QCOMPARE(found(reader(component.get()), isWhole), cellOf(QString::fromLatin1(QTest::currentDataTag())));
-}
 
 UIC_TEST_MAIN(tst_AccessibilityManual)
 #include "tst_AccessibilityManual.moc"

@@ -60,568 +60,541 @@ class tst_AccessibleParts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void fields_data();
-    void fields();
-    void ownNamesWin();
-    void colorButtonSpeaks();
-    void colorsAreAnnouncedOnce();
-    void dragsAreAnnouncedOnce();
-    void panelSpeaks();
-    void panelAnnouncesItsColor();
-    void labelLeadsToPanel();
-    void valueEditHelps_data();
-    void valueEditHelps();
-    void paletteKeys_data();
-    void paletteKeys();
-    void folderErrors_data();
-    void folderErrors();
-    void paletteTips();
-    void buttonsCanBePressed();
-    void lineEditsCanBeRead();
-    void spinBoxesCanBeRead();
-    void planesAreTwoSliders();
-    void planeKeys_data();
-    void planeKeys();
-    void colorPlaneIsTwoSliders();
+    void init()
+    {
+        m_record = std::make_shared<Record>();
+        Settings::setStore(std::make_unique<RecordingStore>(m_record));
+    }
+
+    void cleanup() { Settings::setStore(nullptr); }
+
+    void fields_data()
+    {
+        QTest::addColumn<Make>("make");
+        QTest::addColumn<QStringList>("tree");
+        const auto row = [](const char* name, const Make& make, const QStringList& tree) {
+            QTest::newRow(name) << make << tree;
+        };
+        row("colour field",
+            [](QWidget* parent) { return new ColorInputWidget(parent, QColor(0xff, 0x80, 0x40)); },
+            {QStringLiteral("Grouping Fill"), QStringLiteral("  Button Fill = orange, #ff8040")});
+        row("slider field",
+            [](QWidget* parent) {
+                auto* field = new SliderInputWidget(parent, {0, 200});
+                field->setValue(40);
+                return field;
+            },
+            {QStringLiteral("Grouping Fill"), QStringLiteral("  Slider Fill = 40"),
+             QStringLiteral("  SpinBox Fill, number = 40")});
+        row("double slider field",
+            [](QWidget* parent) {
+                auto* field = new DoubleSliderInputWidget(parent, {0.0, 1.0, 2});
+                field->setValue(0.4);
+                return field;
+            },
+            {QStringLiteral("Grouping Fill"), QStringLiteral("  Slider Fill = 0.4"),
+             QStringLiteral("  SpinBox Fill, number = 0.40")});
+        row("point selector",
+            [](QWidget* parent) {
+                return new PointSelectorWidget(parent, {{0.0, 0.0}, {1.0, 1.0}, 2, 2});
+            },
+            {QStringLiteral("Grouping Fill"), QStringLiteral("  SpinBox Fill, x = 0.00"),
+             QStringLiteral("  SpinBox Fill, y = 0.00"), QStringLiteral("  Grouping Fill"),
+             QStringLiteral("  Slider Fill, x = 0"), QStringLiteral("  Slider Fill, y = 0")});
+        row("search field", [](QWidget* parent) { return new SearchWidget(parent); },
+            {QStringLiteral("Grouping Fill"), QStringLiteral("  EditableText Fill"),
+             QStringLiteral("  Button Clear the search")});
+        row("folder field", [](QWidget* parent) { return new PathSelectionWidget(parent); },
+            {QStringLiteral("Grouping Fill"), QStringLiteral("  EditableText Fill"),
+             QStringLiteral("  Button Fill, Choose a folder"),
+             QStringLiteral("  Button Fill, Back to the default folder"), QStringLiteral("  AlertMessage")});
+    }
+
+    // The label of a field names all that is inside it, and Alt and its letter lead there.
+    void fields()
+    {
+        QFETCH(Make, make);
+        QWidget window;
+        auto* form = new QFormLayout(&window);
+        auto* const other = new QLineEdit(&window);
+        form->addRow(other);
+        QWidget* const field = make(&window);
+        form->addRow(QStringLiteral("&Fill:"), field);
+        QStringList tree = accessibleTree(reader(field));
+        // Layouts are told from groups by having no name.
+        QStringList named;
+        for (const QString& line : qAsConst(tree)) {
+            const QString plain = line.trimmed();
+            if (plain != QLatin1String("Border") && plain != QLatin1String("Client") &&
+                !plain.startsWith(QLatin1String("StaticText"))) {
+                named += line.startsWith(QLatin1Char(' ')) ? QStringLiteral("  ") + plain : plain;
+            }
+        }
+        QTEST(named, "tree");
+
+        window.show();
+        QApplication::setActiveWindow(&window);
+        other->setFocus();
+        QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
+        QVERIFY(QApplication::focusWidget());
+        QVERIFY(field->isAncestorOf(QApplication::focusWidget()));
+        QCOMPARE(spokenName(QApplication::focusWidget()), QStringLiteral("Fill"));
+        const auto labels = reader(QApplication::focusWidget()).relations(QAccessible::Label);
+        QCOMPARE(labels.size(), 1);
+        QCOMPARE(labels.constFirst().first->object(), form->labelForField(field));
+    }
+
+    void ownNamesWin()
+    {
+        SliderInputWidget field(nullptr, {0, 10});
+        QCOMPARE(spokenName(partOf(&field, "slider")), QString());
+        QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("number"));
+        field.setAccessibleName(QStringLiteral("Opacity"));
+        QCOMPARE(spokenName(&field), QStringLiteral("Opacity"));
+        QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Opacity, number"));
+        partOf(&field, "spinbox")->setAccessibleName(QStringLiteral("Percent"));
+        QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Percent"));
+        partOf(&field, "spinbox")->setAccessibleName(QString());
+        MarkingTranslator translator("SliderInputWidget");
+        QCoreApplication::installTranslator(&translator);
+        QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Opacity, <number>"));
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void colorButtonSpeaks()
+    {
+        ColorPickerButton button;
+        button.setToolTip(QStringLiteral("The colour of the light"));
+        QAccessibleInterface& interface = reader(&button);
+        QCOMPARE(interface.role(), QAccessible::Button);
+        QCOMPARE(interface.text(QAccessible::Name), QStringLiteral("The colour of the light"));
+        QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("several colours"));
+        button.setColor(QColor());
+        QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("no colour"));
+        button.setColor(QColor(0xff, 0x80, 0x40, 128));
+        QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("orange, #ff8040, 50 %"));
+        QCOMPARE(interface.text(QAccessible::Description), QStringLiteral("orange, #ff8040, 50 %"));
+
+        WidgetColorPickerButton picking;
+        picking.setColor(Qt::blue);
+        QCOMPARE(reader(&picking).text(QAccessible::Value), QStringLiteral("blue, #0000ff. Needs a mouse"));
+    }
+
+    void colorsAreAnnouncedOnce()
+    {
+        ColorPickerButton button;
+        button.setAccessibleName(QStringLiteral("Fill"));
+        WidgetColorPickerButton picking;
+        picking.setAccessibleName(QStringLiteral("Key"));
+        const AccessibleEars ears;
+        button.setColor(QColor(Qt::red));
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
+        button.setColor(QColor(Qt::red));
+        QCOMPARE(AccessibleEars::take(), QStringList());
+        button.setColor({});
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: several colours")});
+        picking.setColor(Qt::blue);
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Key: blue, #0000ff. Needs a mouse")});
+    }
+
+    void dragsAreAnnouncedOnce()
+    {
+        QWidget window;
+        window.resize(100, 100);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        ColorPickerButton button;
+        button.setAccessibleName(QStringLiteral("Fill"));
+        const AccessibleEars ears;
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {10, 10});
+        for (int red = 0; red < 256; red += 51) {
+            button.setColor(QColor(red, 0, 0));
+        }
+        QCOMPARE(AccessibleEars::take(), QStringList());
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, {10, 10});
+        QCoreApplication::processEvents();
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
+        button.setColor(QColor(Qt::black));
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: black, #000000")});
+    }
+
+    void panelSpeaks()
+    {
+        m_record->value = QStringList{QStringLiteral("#123456")};
+        ColorPickerWidget panel(nullptr, true);
+        panel.setAccessibleName(QStringLiteral("Colour of the title"));
+        panel.setCurrentColor(QColor(0xff, 0x5d, 0x00));
+        QStringList lines = accessibleTree(reader(&panel));
+        for (QString& line : lines) {
+            line = line.trimmed();
+        }
+        QCOMPARE(lines.constFirst(), QStringLiteral("Grouping Colour of the title"));
+        for (const char* expected :
+             {"Graphic Current colour = orange, #ff5d00", "EditableText Colour value = #ff5d00",
+              "Button Pick a colour from the screen", "Grouping Palette", "RadioButton no colour",
+              "RadioButton orange, #ff5d00", "RadioButton white, #ffffff", "Button Choose another colour",
+              "Grouping Own colours", "RadioButton very dark blue, #123456", "RadioButton Empty place",
+              "Slider Opacity = 1", "SpinBox Opacity in percent = 100%"}) {
+            QVERIFY2(lines.contains(QString::fromLatin1(expected)), expected);
+        }
+        QVERIFY(reader(paletteButton(panel, "#ff5d00")).state().checked);
+        QVERIFY(!reader(paletteButton(panel, "#ff0000")).state().checked);
+        QCOMPARE(description(partOf(&panel, "pipetteButton")),
+                 QStringLiteral("Needs a mouse; without one, type the colour value"));
+
+        MarkingTranslator translator("ColorPickerWidget");
+        QCoreApplication::installTranslator(&translator);
+        QCOMPARE(spokenName(partOf(&panel, "pipetteButton")),
+                 QStringLiteral("<Pick a colour from the screen>"));
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void panelAnnouncesItsColor()
+    {
+        ColorPickerWidget panel(nullptr, false);
+        const AccessibleEars ears;
+        const auto changes = [] { return AccessibleEars::take().filter(QStringLiteral("Current colour:")); };
+        const auto said = [](const char* color) {
+            return QStringList{QStringLiteral("Current colour: ") + QLatin1String(color)};
+        };
+        panel.setCurrentColor(QColor(Qt::red));
+        QCOMPARE(changes(), said("red, #ff0000"));
+        paletteButton(panel, "#ff5d00")->click();
+        QCOMPARE(changes(), said("orange, #ff5d00"));
+        auto* const edit = panel.findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"));
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("#0000ff"));
+        QCOMPARE(changes(), said("blue, #0000ff"));
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("#ffc000"));
+        QCOMPARE(changes(), said("golden yellow, #ffc000"));
+        partOf(&panel, "opacitySpinbox")->setProperty("value", 50);
+        QCOMPARE(changes(), said("golden yellow, #ffc000, 50 %"));
+        panel.setCurrentColor({});
+        QCOMPARE(changes(), said("several colours"));
+    }
+
+    void labelLeadsToPanel()
+    {
+        QWidget window;
+        auto* form = new QFormLayout(&window);
+        auto* const other = new QLineEdit(&window);
+        form->addRow(other);
+        auto* const panel = new ColorPickerWidget(&window, false);
+        form->addRow(QStringLiteral("&Fill:"), panel);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        other->setFocus();
+        QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
+        QCOMPARE(QApplication::focusWidget(), partOf(panel, "currentColorValueEdit"));
+        // Tab does not stop at the panel itself.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), other);
+    }
+
+    void valueEditHelps_data()
+    {
+        QTest::addColumn<std::optional<QColor>>("color");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("left");
+        QTest::newRow("several") << std::optional<QColor>() << QStringLiteral("ff0000")
+                                 << QStringLiteral("#ff0000");
+        QTest::newRow("none") << std::optional<QColor>(QColor()) << QStringLiteral("00ff00")
+                              << QStringLiteral("#00ff00");
+        QTest::newRow("none, not a colour")
+            << std::optional<QColor>(QColor()) << QStringLiteral("00f") << QStringLiteral("#null");
+        QTest::newRow("several, nothing typed")
+            << std::optional<QColor>() << QString() << QStringLiteral("#multiple");
+    }
+
+    // What is shown for no colour is not added to, and what is no colour does not stay.
+    void valueEditHelps()
+    {
+        QFETCH(std::optional<QColor>, color);
+        QFETCH(QString, typed);
+        for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::MouseFocusReason}) {
+            ColorPickerWidget panel(nullptr, true);
+            panel.setCurrentColor(color);
+            panel.show();
+            QApplication::setActiveWindow(&panel);
+            auto* const edit = panel.findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"));
+            partOf(&panel, "opacitySlider")->setFocus();
+            if (reason == Qt::MouseFocusReason) {
+                QTest::mouseClick(edit, Qt::LeftButton);
+            } else {
+                edit->setFocus(reason);
+            }
+            QCOMPARE(edit->selectedText(), edit->text());
+            QTest::keyClicks(edit, typed);
+            partOf(&panel, "opacitySlider")->setFocus();
+            QTEST(edit->text(), "left");
+        }
+    }
+
+    void paletteKeys_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<QString>("color");
+        const auto row = [](const char* name, Qt::Key key, Qt::LayoutDirection direction, const char* color) {
+            QTest::newRow(name) << int(key) << direction << QString::fromLatin1(color);
+        };
+        row("start of the row", Qt::Key_Home, Qt::LeftToRight, "#ff8484");
+        row("end of the row", Qt::Key_End, Qt::LeftToRight, "#ff8cd3");
+        row("from right to left", Qt::Key_Home, Qt::RightToLeft, "#ff8484");
+        row("top of the column", Qt::Key_PageUp, Qt::LeftToRight, "#bfbfbf");
+        row("bottom of the column", Qt::Key_PageDown, Qt::LeftToRight, "#493700");
+    }
+
+    void paletteKeys()
+    {
+        QFETCH(int, key);
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(QString, color);
+        ColorPickerWidget panel(nullptr, false);
+        panel.setLayoutDirection(direction);
+        panel.show();
+        QApplication::setActiveWindow(&panel);
+        QToolButton* const start = paletteButton(panel, "#ffd85f");
+        QToolButton* const end = paletteButton(panel, qPrintable(color));
+        start->setFocus();
+        QSignalSpy changes(&panel, &ColorPickerWidget::colorChanged);
+        // Nothing is checked, and nothing becomes so on the way.
+        QTest::keyClick(start, Qt::Key(key));
+        QCOMPARE(QApplication::focusWidget(), end);
+        QCOMPARE(changes.size(), 0);
+        start->click();
+        start->setFocus();
+        changes.clear();
+        QTest::keyClick(start, Qt::Key(key));
+        QCOMPARE(panel.currentColor(), std::optional<QColor>(QColor(color)));
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void folderErrors_data()
+    {
+        QTest::addColumn<PathSelectionWidget::ErrorDisplayType>("type");
+        QTest::newRow("tool tip") << PathSelectionWidget::Tooltip;
+        QTest::newRow("label") << PathSelectionWidget::Label;
+    }
+
+    void folderErrors()
+    {
+        QFETCH(PathSelectionWidget::ErrorDisplayType, type);
+        PathSelectionWidget field(nullptr);
+        field.setAccessibleName(QStringLiteral("Export to"));
+        field.setErrorDisplayType(type);
+        field.setCheckPathFunc([](const QString&) { return QStringLiteral("Full & <b>locked</b>"); });
+        field.setPath(QDir::tempPath());
+        field.show();
+        QAccessibleInterface& edit = reader(partOf(&field, "pathLineEdit"));
+        QTRY_VERIFY(!edit.state().invalid);
+        QSignalSpy changes(&field, &PathSelectionWidget::pathChanged);
+        QTRY_COMPARE(changes.size(), 1);
+        const AccessibleEars ears;
+        QVERIFY(!field.checkPath());
+        QVERIFY(edit.state().invalid);
+        QCOMPARE(edit.text(QAccessible::Description), QStringLiteral("Full & <b>locked</b>"));
+        const QStringList heard = AccessibleEars::take();
+        QVERIFY(heard.contains(QStringLiteral("Export to: Full & <b>locked</b>")));
+        QCOMPARE(heard.count(QStringLiteral("Export to!")), 1);
+        QCOMPARE(reader(partOf(&field, "errorLabel")).role(), QAccessible::AlertMessage);
+        field.setPath(QDir::homePath());
+        QTRY_VERIFY(!edit.state().invalid);
+        QCOMPARE(edit.text(QAccessible::Description), QString());
+        QToolTip::hideText();
+    }
+
+    void paletteTips()
+    {
+        ColorPickerWidget panel(nullptr, false);
+        panel.show();
+        QToolButton* const button = paletteButton(panel, "#ff5d00");
+        QHelpEvent event(QEvent::ToolTip, {2, 2}, button->mapToGlobal({2, 2}));
+        QApplication::sendEvent(button, &event);
+        QCOMPARE(QToolTip::text(), QStringLiteral("orange, #ff5d00"));
+        QToolTip::hideText();
+    }
+
+    void buttonsCanBePressed()
+    {
+        ColorPickerWidget panel(nullptr, false);
+        panel.show();
+        QToolButton* const button = paletteButton(panel, "#ff5d00");
+        QAccessibleActionInterface* const actions = reader(button).actionInterface();
+        QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+        actions->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(panel.currentColor(), std::optional<QColor>(QColor(0xff, 0x5d, 0x00)));
+        QSignalSpy requests(&panel, &ColorPickerWidget::pipetteRequested);
+        reader(partOf(&panel, "pipetteButton"))
+            .actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
+        QTRY_COMPARE(requests.size(), 1);
+    }
+
+    void lineEditsCanBeRead()
+    {
+        SearchWidget field;
+        auto* const edit = field.findChild<QLineEdit*>();
+        QAccessibleInterface& interface = reader(edit);
+        QVERIFY(interface.state().editable);
+        QVERIFY(interface.state().searchEdit);
+        QAccessibleTextInterface* const text = interface.textInterface();
+        QAccessibleEditableTextInterface* const editable = interface.editableTextInterface();
+        QVERIFY(text && editable);
+        QSignalSpy changes(&field, &SearchWidget::textChanged);
+        editable->insertText(0, QStringLiteral("red light"));
+        QCOMPARE(field.text(), QStringLiteral("red light"));
+        QCOMPARE(changes.size(), 1);
+        editable->replaceText(0, 3, QStringLiteral("blue"));
+        QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("blue light"));
+        editable->deleteText(4, 10);
+        QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("blue"));
+        text->setSelection(0, 1, 3);
+        int start = 0;
+        int end = 0;
+        text->selection(0, &start, &end);
+        QCOMPARE(text->selectionCount(), 1);
+        QCOMPARE(start, 1);
+        QCOMPARE(end, 3);
+        text->removeSelection(0);
+        QCOMPARE(text->selectionCount(), 0);
+        text->setCursorPosition(2);
+        QCOMPARE(text->cursorPosition(), 2);
+        interface.setText(QAccessible::Value, QStringLiteral("green"));
+        QCOMPARE(field.text(), QStringLiteral("green"));
+        field.show();
+        const QRect second = text->characterRect(1);
+        QVERIFY(second.left() > text->characterRect(0).left());
+        QCOMPARE(text->offsetAtPoint(second.center() - QPoint(1, 0)), 1);
+        edit->setReadOnly(true);
+        QVERIFY(!interface.editableTextInterface());
+        QVERIFY(interface.state().readOnly);
+    }
+
+    void spinBoxesCanBeRead()
+    {
+        DoubleSliderInputWidget field(nullptr, {0.0, 1.0, 2});
+        QSignalSpy changes(&field, &DoubleSliderInputWidget::valueChanged);
+        for (const char* part : {"slider", "spinbox"}) {
+            QAccessibleInterface& interface = reader(partOf(&field, part));
+            QAccessibleValueInterface* const value = interface.valueInterface();
+            QVERIFY(value);
+            QCOMPARE(value->minimumValue().toDouble(), 0.0);
+            QCOMPARE(value->maximumValue().toDouble(), 1.0);
+            QCOMPARE(value->minimumStepSize().toDouble(), 0.01);
+            value->setCurrentValue(0.7);
+            QCOMPARE(value->currentValue().toDouble(), 0.7);
+            QVERIFY(!changes.isEmpty());
+            QCOMPARE(changes.takeLast().constFirst().toDouble(), 0.7);
+            changes.clear();
+            value->setCurrentValue(0.2);
+            changes.clear();
+        }
+        QAccessibleTextInterface* const text = reader(partOf(&field, "spinbox")).textInterface();
+        QVERIFY(text);
+        QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("0.20"));
+    }
+
+    void planesAreTwoSliders()
+    {
+        PointSelectorWidget field(nullptr, {{-1.0, 0.0}, {1.0, 4.0}, 2, 2});
+        field.setAccessibleName(QStringLiteral("Position"));
+        field.setValue({0.25, 1.0});
+        auto* const plane = field.findChild<PointSelectionPlane*>();
+        plane->resize(101, 101);
+        QCOMPARE(accessibleTree(reader(plane)), QStringList({QStringLiteral("Grouping Position"),
+                                                             QStringLiteral("  Slider Position, x = 0.25"),
+                                                             QStringLiteral("  Slider Position, y = 1")}));
+        QCOMPARE(spokenName(partOf(&field, "xSpinbox")), QStringLiteral("Position, x"));
+
+        QAccessibleInterface* const x = reader(plane).child(0);
+        QCOMPARE(x->parent(), &reader(plane));
+        QCOMPARE(reader(plane).indexOfChild(x), 0);
+        QVERIFY(!reader(plane).child(2));
+        QAccessibleValueInterface* const value = x->valueInterface();
+        QCOMPARE(value->minimumValue().toDouble(), -1.0);
+        QCOMPARE(value->maximumValue().toDouble(), 1.0);
+        QCOMPARE(value->minimumStepSize().toDouble(), 0.02);
+
+        // As by a key: reported once, and announced once.
+        QSignalSpy changes(plane, &PointSelectionPlane::pointChanged);
+        const AccessibleEars ears;
+        value->setCurrentValue(0.5);
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(plane->point(), QPointF(0.5, 1.0));
+        QCOMPARE(AccessibleEars::take().filter(QStringLiteral("Position, x")),
+                 QStringList{QStringLiteral("Position, x: 0.5")});
+        value->setCurrentValue(0.5);
+        QCOMPARE(changes.size(), 1);
+        value->setCurrentValue(7.0);
+        QCOMPARE(plane->point(), QPointF(1.0, 1.0));
+        plane->setEnabled(false);
+        value->setCurrentValue(0.0);
+        QCOMPARE(plane->point(), QPointF(1.0, 1.0));
+    }
+
+    void planeKeys_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<QPointF>("point");
+        QTest::addColumn<QStringList>("heard");
+        const auto row = [](const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers,
+                            const QPointF& point, const char* heard) {
+            QTest::newRow(name) << int(key) << modifiers << point << QStringList{QString::fromLatin1(heard)};
+        };
+        row("right", Qt::Key_Right, Qt::NoModifier, {51, 50}, "Light, x: 51");
+        row("up", Qt::Key_Up, Qt::NoModifier, {50, 49}, "Light, y: 49");
+        row("ten to the left", Qt::Key_Left, Qt::ShiftModifier, {40, 50}, "Light, x: 40");
+        row("a page up", Qt::Key_PageUp, Qt::NoModifier, {50, 40}, "Light, y: 40");
+        row("a page down", Qt::Key_PageDown, Qt::NoModifier, {50, 60}, "Light, y: 60");
+        row("to the left edge", Qt::Key_Home, Qt::NoModifier, {0, 50}, "Light, x: 0");
+        row("to the right edge", Qt::Key_End, Qt::NoModifier, {100, 50}, "Light, x: 100");
+        row("to the top", Qt::Key_Home, Qt::ControlModifier, {50, 0}, "Light, y: 0");
+        row("to the bottom", Qt::Key_End, Qt::ControlModifier, {50, 100}, "Light, y: 100");
+    }
+
+    void planeKeys()
+    {
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        PointSelectionPlane plane(nullptr);
+        plane.setAccessibleName(QStringLiteral("Light"));
+        plane.resize(101, 101);
+        plane.setLimits({0, 0, 100, 100});
+        plane.setPoint({50, 50});
+        plane.show();
+        QSignalSpy changes(&plane, &PointSelectionPlane::pointChanged);
+        const AccessibleEars ears;
+        QTest::keyClick(&plane, Qt::Key(key), modifiers);
+        QTEST(plane.point(), "point");
+        QCOMPARE(changes.size(), 1);
+        QTEST(AccessibleEars::take().filter(QStringLiteral("Light")), "heard");
+    }
+
+    void colorPlaneIsTwoSliders()
+    {
+        ColorPickerWidget panel(nullptr, false);
+        panel.setCurrentColor(QColor(Qt::red));
+        panel.show();
+        panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))->click();
+        QWidget* const plane = partOf(&panel, "colorPlane");
+        QVERIFY(plane);
+        QCoreApplication::processEvents();
+        QCOMPARE(accessibleTree(reader(plane)),
+                 QStringList({QStringLiteral("Grouping Saturation and brightness"),
+                              QStringLiteral("  Slider Saturation = 100"),
+                              QStringLiteral("  Slider Brightness = 100")}));
+        reader(plane).child(1)->valueInterface()->setCurrentValue(0);
+        QCOMPARE(panel.currentColor(), std::optional<QColor>(QColor(Qt::black)));
+        QCOMPARE(reader(plane).child(1)->valueInterface()->currentValue().toDouble(), 0.0);
+        plane->window()->close();
+    }
 
 private:
     std::shared_ptr<Record> m_record;
 };
-
-void tst_AccessibleParts::init()
-{
-    m_record = std::make_shared<Record>();
-    Settings::setStore(std::make_unique<RecordingStore>(m_record));
-}
-
-void tst_AccessibleParts::cleanup()
-{
-    Settings::setStore(nullptr);
-}
-
-void tst_AccessibleParts::fields_data()
-{
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<QStringList>("tree");
-    const auto row = [](const char* name, const Make& make, const QStringList& tree) {
-        QTest::newRow(name) << make << tree;
-    };
-    row("colour field",
-        [](QWidget* parent) { return new ColorInputWidget(parent, QColor(0xff, 0x80, 0x40)); },
-        {QStringLiteral("Grouping Fill"), QStringLiteral("  Button Fill = orange, #ff8040")});
-    row("slider field",
-        [](QWidget* parent) {
-            auto* field = new SliderInputWidget(parent, {0, 200});
-            field->setValue(40);
-            return field;
-        },
-        {QStringLiteral("Grouping Fill"), QStringLiteral("  Slider Fill = 40"),
-         QStringLiteral("  SpinBox Fill, number = 40")});
-    row("double slider field",
-        [](QWidget* parent) {
-            auto* field = new DoubleSliderInputWidget(parent, {0.0, 1.0, 2});
-            field->setValue(0.4);
-            return field;
-        },
-        {QStringLiteral("Grouping Fill"), QStringLiteral("  Slider Fill = 0.4"),
-         QStringLiteral("  SpinBox Fill, number = 0.40")});
-    row("point selector",
-        [](QWidget* parent) {
-            return new PointSelectorWidget(parent, {{0.0, 0.0}, {1.0, 1.0}, 2, 2});
-        },
-        {QStringLiteral("Grouping Fill"), QStringLiteral("  SpinBox Fill, x = 0.00"),
-         QStringLiteral("  SpinBox Fill, y = 0.00"), QStringLiteral("  Grouping Fill"),
-         QStringLiteral("  Slider Fill, x = 0"), QStringLiteral("  Slider Fill, y = 0")});
-    row("search field", [](QWidget* parent) { return new SearchWidget(parent); },
-        {QStringLiteral("Grouping Fill"), QStringLiteral("  EditableText Fill"),
-         QStringLiteral("  Button Clear the search")});
-    row("folder field", [](QWidget* parent) { return new PathSelectionWidget(parent); },
-        {QStringLiteral("Grouping Fill"), QStringLiteral("  EditableText Fill"),
-         QStringLiteral("  Button Fill, Choose a folder"),
-         QStringLiteral("  Button Fill, Back to the default folder"), QStringLiteral("  AlertMessage")});
-}
-
-// The label of a field names all that is inside it, and Alt and its letter lead there.
-void tst_AccessibleParts::fields()
-{
-    QFETCH(Make, make);
-    QWidget window;
-    auto* form = new QFormLayout(&window);
-    auto* const other = new QLineEdit(&window);
-    form->addRow(other);
-    QWidget* const field = make(&window);
-    form->addRow(QStringLiteral("&Fill:"), field);
-    QStringList tree = accessibleTree(reader(field));
-    // Layouts are told from groups by having no name.
-    QStringList named;
-    for (const QString& line : qAsConst(tree)) {
-        const QString plain = line.trimmed();
-        if (plain != QLatin1String("Border") && plain != QLatin1String("Client") &&
-            !plain.startsWith(QLatin1String("StaticText"))) {
-            named += line.startsWith(QLatin1Char(' ')) ? QStringLiteral("  ") + plain : plain;
-        }
-    }
-    QTEST(named, "tree");
-
-    window.show();
-    QApplication::setActiveWindow(&window);
-    other->setFocus();
-    QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
-    QVERIFY(QApplication::focusWidget());
-    QVERIFY(field->isAncestorOf(QApplication::focusWidget()));
-    QCOMPARE(spokenName(QApplication::focusWidget()), QStringLiteral("Fill"));
-    const auto labels = reader(QApplication::focusWidget()).relations(QAccessible::Label);
-    QCOMPARE(labels.size(), 1);
-    QCOMPARE(labels.constFirst().first->object(), form->labelForField(field));
-}
-
-void tst_AccessibleParts::ownNamesWin()
-{
-    SliderInputWidget field(nullptr, {0, 10});
-    QCOMPARE(spokenName(partOf(&field, "slider")), QString());
-    QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("number"));
-    field.setAccessibleName(QStringLiteral("Opacity"));
-    QCOMPARE(spokenName(&field), QStringLiteral("Opacity"));
-    QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Opacity, number"));
-    partOf(&field, "spinbox")->setAccessibleName(QStringLiteral("Percent"));
-    QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Percent"));
-    partOf(&field, "spinbox")->setAccessibleName(QString());
-    MarkingTranslator translator("SliderInputWidget");
-    QCoreApplication::installTranslator(&translator);
-    QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Opacity, <number>"));
-    QCoreApplication::removeTranslator(&translator);
-}
-
-void tst_AccessibleParts::colorButtonSpeaks()
-{
-    ColorPickerButton button;
-    button.setToolTip(QStringLiteral("The colour of the light"));
-    QAccessibleInterface& interface = reader(&button);
-    QCOMPARE(interface.role(), QAccessible::Button);
-    QCOMPARE(interface.text(QAccessible::Name), QStringLiteral("The colour of the light"));
-    QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("several colours"));
-    button.setColor(QColor());
-    QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("no colour"));
-    button.setColor(QColor(0xff, 0x80, 0x40, 128));
-    QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("orange, #ff8040, 50 %"));
-    QCOMPARE(interface.text(QAccessible::Description), QStringLiteral("orange, #ff8040, 50 %"));
-
-    WidgetColorPickerButton picking;
-    picking.setColor(Qt::blue);
-    QCOMPARE(reader(&picking).text(QAccessible::Value), QStringLiteral("blue, #0000ff. Needs a mouse"));
-}
-
-void tst_AccessibleParts::colorsAreAnnouncedOnce()
-{
-    ColorPickerButton button;
-    button.setAccessibleName(QStringLiteral("Fill"));
-    WidgetColorPickerButton picking;
-    picking.setAccessibleName(QStringLiteral("Key"));
-    const AccessibleEars ears;
-    button.setColor(QColor(Qt::red));
-    QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
-    button.setColor(QColor(Qt::red));
-    QCOMPARE(AccessibleEars::take(), QStringList());
-    button.setColor({});
-    QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: several colours")});
-    picking.setColor(Qt::blue);
-    QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Key: blue, #0000ff. Needs a mouse")});
-}
-
-void tst_AccessibleParts::dragsAreAnnouncedOnce()
-{
-    QWidget window;
-    window.resize(100, 100);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    ColorPickerButton button;
-    button.setAccessibleName(QStringLiteral("Fill"));
-    const AccessibleEars ears;
-    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {10, 10});
-    for (int red = 0; red < 256; red += 51) {
-        button.setColor(QColor(red, 0, 0));
-    }
-    QCOMPARE(AccessibleEars::take(), QStringList());
-    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, {10, 10});
-    QCoreApplication::processEvents();
-    QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
-    button.setColor(QColor(Qt::black));
-    QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: black, #000000")});
-}
-
-void tst_AccessibleParts::panelSpeaks()
-{
-    m_record->value = QStringList{QStringLiteral("#123456")};
-    ColorPickerWidget panel(nullptr, true);
-    panel.setAccessibleName(QStringLiteral("Colour of the title"));
-    panel.setCurrentColor(QColor(0xff, 0x5d, 0x00));
-    QStringList lines = accessibleTree(reader(&panel));
-    for (QString& line : lines) {
-        line = line.trimmed();
-    }
-    QCOMPARE(lines.constFirst(), QStringLiteral("Grouping Colour of the title"));
-    for (const char* expected :
-         {"Graphic Current colour = orange, #ff5d00", "EditableText Colour value = #ff5d00",
-          "Button Pick a colour from the screen", "Grouping Palette", "RadioButton no colour",
-          "RadioButton orange, #ff5d00", "RadioButton white, #ffffff", "Button Choose another colour",
-          "Grouping Own colours", "RadioButton very dark blue, #123456", "RadioButton Empty place",
-          "Slider Opacity = 1", "SpinBox Opacity in percent = 100%"}) {
-        QVERIFY2(lines.contains(QString::fromLatin1(expected)), expected);
-    }
-    QVERIFY(reader(paletteButton(panel, "#ff5d00")).state().checked);
-    QVERIFY(!reader(paletteButton(panel, "#ff0000")).state().checked);
-    QCOMPARE(description(partOf(&panel, "pipetteButton")),
-             QStringLiteral("Needs a mouse; without one, type the colour value"));
-
-    MarkingTranslator translator("ColorPickerWidget");
-    QCoreApplication::installTranslator(&translator);
-    QCOMPARE(spokenName(partOf(&panel, "pipetteButton")), QStringLiteral("<Pick a colour from the screen>"));
-    QCoreApplication::removeTranslator(&translator);
-}
-
-void tst_AccessibleParts::panelAnnouncesItsColor()
-{
-    ColorPickerWidget panel(nullptr, false);
-    const AccessibleEars ears;
-    const auto changes = [] { return AccessibleEars::take().filter(QStringLiteral("Current colour:")); };
-    const auto said = [](const char* color) {
-        return QStringList{QStringLiteral("Current colour: ") + QLatin1String(color)};
-    };
-    panel.setCurrentColor(QColor(Qt::red));
-    QCOMPARE(changes(), said("red, #ff0000"));
-    paletteButton(panel, "#ff5d00")->click();
-    QCOMPARE(changes(), said("orange, #ff5d00"));
-    auto* const edit = panel.findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"));
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("#0000ff"));
-    QCOMPARE(changes(), said("blue, #0000ff"));
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("#ffc000"));
-    QCOMPARE(changes(), said("golden yellow, #ffc000"));
-    partOf(&panel, "opacitySpinbox")->setProperty("value", 50);
-    QCOMPARE(changes(), said("golden yellow, #ffc000, 50 %"));
-    panel.setCurrentColor({});
-    QCOMPARE(changes(), said("several colours"));
-}
-
-void tst_AccessibleParts::labelLeadsToPanel()
-{
-    QWidget window;
-    auto* form = new QFormLayout(&window);
-    auto* const other = new QLineEdit(&window);
-    form->addRow(other);
-    auto* const panel = new ColorPickerWidget(&window, false);
-    form->addRow(QStringLiteral("&Fill:"), panel);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    other->setFocus();
-    QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
-    QCOMPARE(QApplication::focusWidget(), partOf(panel, "currentColorValueEdit"));
-    // Tab does not stop at the panel itself.
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(QApplication::focusWidget(), other);
-}
-
-void tst_AccessibleParts::valueEditHelps_data()
-{
-    QTest::addColumn<std::optional<QColor>>("color");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("left");
-    QTest::newRow("several") << std::optional<QColor>() << QStringLiteral("ff0000")
-                             << QStringLiteral("#ff0000");
-    QTest::newRow("none") << std::optional<QColor>(QColor()) << QStringLiteral("00ff00")
-                          << QStringLiteral("#00ff00");
-    QTest::newRow("none, not a colour")
-        << std::optional<QColor>(QColor()) << QStringLiteral("00f") << QStringLiteral("#null");
-    QTest::newRow("several, nothing typed")
-        << std::optional<QColor>() << QString() << QStringLiteral("#multiple");
-}
-
-// What is shown for no colour is not added to, and what is no colour does not stay.
-void tst_AccessibleParts::valueEditHelps()
-{
-    QFETCH(std::optional<QColor>, color);
-    QFETCH(QString, typed);
-    for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::MouseFocusReason}) {
-        ColorPickerWidget panel(nullptr, true);
-        panel.setCurrentColor(color);
-        panel.show();
-        QApplication::setActiveWindow(&panel);
-        auto* const edit = panel.findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"));
-        partOf(&panel, "opacitySlider")->setFocus();
-        if (reason == Qt::MouseFocusReason) {
-            QTest::mouseClick(edit, Qt::LeftButton);
-        } else {
-            edit->setFocus(reason);
-        }
-        QCOMPARE(edit->selectedText(), edit->text());
-        QTest::keyClicks(edit, typed);
-        partOf(&panel, "opacitySlider")->setFocus();
-        QTEST(edit->text(), "left");
-    }
-}
-
-void tst_AccessibleParts::paletteKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QString>("color");
-    const auto row = [](const char* name, Qt::Key key, Qt::LayoutDirection direction, const char* color) {
-        QTest::newRow(name) << int(key) << direction << QString::fromLatin1(color);
-    };
-    row("start of the row", Qt::Key_Home, Qt::LeftToRight, "#ff8484");
-    row("end of the row", Qt::Key_End, Qt::LeftToRight, "#ff8cd3");
-    row("from right to left", Qt::Key_Home, Qt::RightToLeft, "#ff8484");
-    row("top of the column", Qt::Key_PageUp, Qt::LeftToRight, "#bfbfbf");
-    row("bottom of the column", Qt::Key_PageDown, Qt::LeftToRight, "#493700");
-}
-
-void tst_AccessibleParts::paletteKeys()
-{
-    QFETCH(int, key);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(QString, color);
-    ColorPickerWidget panel(nullptr, false);
-    panel.setLayoutDirection(direction);
-    panel.show();
-    QApplication::setActiveWindow(&panel);
-    QToolButton* const start = paletteButton(panel, "#ffd85f");
-    QToolButton* const end = paletteButton(panel, qPrintable(color));
-    start->setFocus();
-    QSignalSpy changes(&panel, &ColorPickerWidget::colorChanged);
-    // Nothing is checked, and nothing becomes so on the way.
-    QTest::keyClick(start, Qt::Key(key));
-    QCOMPARE(QApplication::focusWidget(), end);
-    QCOMPARE(changes.size(), 0);
-    start->click();
-    start->setFocus();
-    changes.clear();
-    QTest::keyClick(start, Qt::Key(key));
-    QCOMPARE(panel.currentColor(), std::optional<QColor>(QColor(color)));
-    QCOMPARE(changes.size(), 1);
-}
-
-void tst_AccessibleParts::folderErrors_data()
-{
-    QTest::addColumn<PathSelectionWidget::ErrorDisplayType>("type");
-    QTest::newRow("tool tip") << PathSelectionWidget::Tooltip;
-    QTest::newRow("label") << PathSelectionWidget::Label;
-}
-
-void tst_AccessibleParts::folderErrors()
-{
-    QFETCH(PathSelectionWidget::ErrorDisplayType, type);
-    PathSelectionWidget field(nullptr);
-    field.setAccessibleName(QStringLiteral("Export to"));
-    field.setErrorDisplayType(type);
-    field.setCheckPathFunc([](const QString&) { return QStringLiteral("Full & <b>locked</b>"); });
-    field.setPath(QDir::tempPath());
-    field.show();
-    QAccessibleInterface& edit = reader(partOf(&field, "pathLineEdit"));
-    QTRY_VERIFY(!edit.state().invalid);
-    QSignalSpy changes(&field, &PathSelectionWidget::pathChanged);
-    QTRY_COMPARE(changes.size(), 1);
-    const AccessibleEars ears;
-    QVERIFY(!field.checkPath());
-    QVERIFY(edit.state().invalid);
-    QCOMPARE(edit.text(QAccessible::Description), QStringLiteral("Full & <b>locked</b>"));
-    const QStringList heard = AccessibleEars::take();
-    QVERIFY(heard.contains(QStringLiteral("Export to: Full & <b>locked</b>")));
-    QCOMPARE(heard.count(QStringLiteral("Export to!")), 1);
-    QCOMPARE(reader(partOf(&field, "errorLabel")).role(), QAccessible::AlertMessage);
-    field.setPath(QDir::homePath());
-    QTRY_VERIFY(!edit.state().invalid);
-    QCOMPARE(edit.text(QAccessible::Description), QString());
-    QToolTip::hideText();
-}
-
-void tst_AccessibleParts::paletteTips()
-{
-    ColorPickerWidget panel(nullptr, false);
-    panel.show();
-    QToolButton* const button = paletteButton(panel, "#ff5d00");
-    QHelpEvent event(QEvent::ToolTip, {2, 2}, button->mapToGlobal({2, 2}));
-    QApplication::sendEvent(button, &event);
-    QCOMPARE(QToolTip::text(), QStringLiteral("orange, #ff5d00"));
-    QToolTip::hideText();
-}
-
-void tst_AccessibleParts::buttonsCanBePressed()
-{
-    ColorPickerWidget panel(nullptr, false);
-    panel.show();
-    QToolButton* const button = paletteButton(panel, "#ff5d00");
-    QAccessibleActionInterface* const actions = reader(button).actionInterface();
-    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
-    actions->doAction(QAccessibleActionInterface::toggleAction());
-    QCOMPARE(panel.currentColor(), std::optional<QColor>(QColor(0xff, 0x5d, 0x00)));
-    QSignalSpy requests(&panel, &ColorPickerWidget::pipetteRequested);
-    reader(partOf(&panel, "pipetteButton"))
-        .actionInterface()
-        ->doAction(QAccessibleActionInterface::pressAction());
-    QTRY_COMPARE(requests.size(), 1);
-}
-
-void tst_AccessibleParts::lineEditsCanBeRead()
-{
-    SearchWidget field;
-    auto* const edit = field.findChild<QLineEdit*>();
-    QAccessibleInterface& interface = reader(edit);
-    QVERIFY(interface.state().editable);
-    QVERIFY(interface.state().searchEdit);
-    QAccessibleTextInterface* const text = interface.textInterface();
-    QAccessibleEditableTextInterface* const editable = interface.editableTextInterface();
-    QVERIFY(text && editable);
-    QSignalSpy changes(&field, &SearchWidget::textChanged);
-    editable->insertText(0, QStringLiteral("red light"));
-    QCOMPARE(field.text(), QStringLiteral("red light"));
-    QCOMPARE(changes.size(), 1);
-    editable->replaceText(0, 3, QStringLiteral("blue"));
-    QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("blue light"));
-    editable->deleteText(4, 10);
-    QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("blue"));
-    text->setSelection(0, 1, 3);
-    int start = 0;
-    int end = 0;
-    text->selection(0, &start, &end);
-    QCOMPARE(text->selectionCount(), 1);
-    QCOMPARE(start, 1);
-    QCOMPARE(end, 3);
-    text->removeSelection(0);
-    QCOMPARE(text->selectionCount(), 0);
-    text->setCursorPosition(2);
-    QCOMPARE(text->cursorPosition(), 2);
-    interface.setText(QAccessible::Value, QStringLiteral("green"));
-    QCOMPARE(field.text(), QStringLiteral("green"));
-    field.show();
-    const QRect second = text->characterRect(1);
-    QVERIFY(second.left() > text->characterRect(0).left());
-    QCOMPARE(text->offsetAtPoint(second.center() - QPoint(1, 0)), 1);
-    edit->setReadOnly(true);
-    QVERIFY(!interface.editableTextInterface());
-    QVERIFY(interface.state().readOnly);
-}
-
-void tst_AccessibleParts::spinBoxesCanBeRead()
-{
-    DoubleSliderInputWidget field(nullptr, {0.0, 1.0, 2});
-    QSignalSpy changes(&field, &DoubleSliderInputWidget::valueChanged);
-    for (const char* part : {"slider", "spinbox"}) {
-        QAccessibleInterface& interface = reader(partOf(&field, part));
-        QAccessibleValueInterface* const value = interface.valueInterface();
-        QVERIFY(value);
-        QCOMPARE(value->minimumValue().toDouble(), 0.0);
-        QCOMPARE(value->maximumValue().toDouble(), 1.0);
-        QCOMPARE(value->minimumStepSize().toDouble(), 0.01);
-        value->setCurrentValue(0.7);
-        QCOMPARE(value->currentValue().toDouble(), 0.7);
-        QVERIFY(!changes.isEmpty());
-        QCOMPARE(changes.takeLast().constFirst().toDouble(), 0.7);
-        changes.clear();
-        value->setCurrentValue(0.2);
-        changes.clear();
-    }
-    QAccessibleTextInterface* const text = reader(partOf(&field, "spinbox")).textInterface();
-    QVERIFY(text);
-    QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("0.20"));
-}
-
-void tst_AccessibleParts::planesAreTwoSliders()
-{
-    PointSelectorWidget field(nullptr, {{-1.0, 0.0}, {1.0, 4.0}, 2, 2});
-    field.setAccessibleName(QStringLiteral("Position"));
-    field.setValue({0.25, 1.0});
-    auto* const plane = field.findChild<PointSelectionPlane*>();
-    plane->resize(101, 101);
-    QCOMPARE(accessibleTree(reader(plane)),
-             QStringList({QStringLiteral("Grouping Position"), QStringLiteral("  Slider Position, x = 0.25"),
-                          QStringLiteral("  Slider Position, y = 1")}));
-    QCOMPARE(spokenName(partOf(&field, "xSpinbox")), QStringLiteral("Position, x"));
-
-    QAccessibleInterface* const x = reader(plane).child(0);
-    QCOMPARE(x->parent(), &reader(plane));
-    QCOMPARE(reader(plane).indexOfChild(x), 0);
-    QVERIFY(!reader(plane).child(2));
-    QAccessibleValueInterface* const value = x->valueInterface();
-    QCOMPARE(value->minimumValue().toDouble(), -1.0);
-    QCOMPARE(value->maximumValue().toDouble(), 1.0);
-    QCOMPARE(value->minimumStepSize().toDouble(), 0.02);
-
-    // As by a key: reported once, and announced once.
-    QSignalSpy changes(plane, &PointSelectionPlane::pointChanged);
-    const AccessibleEars ears;
-    value->setCurrentValue(0.5);
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(plane->point(), QPointF(0.5, 1.0));
-    QCOMPARE(AccessibleEars::take().filter(QStringLiteral("Position, x")),
-             QStringList{QStringLiteral("Position, x: 0.5")});
-    value->setCurrentValue(0.5);
-    QCOMPARE(changes.size(), 1);
-    value->setCurrentValue(7.0);
-    QCOMPARE(plane->point(), QPointF(1.0, 1.0));
-    plane->setEnabled(false);
-    value->setCurrentValue(0.0);
-    QCOMPARE(plane->point(), QPointF(1.0, 1.0));
-}
-
-void tst_AccessibleParts::planeKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QPointF>("point");
-    QTest::addColumn<QStringList>("heard");
-    const auto row = [](const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers, const QPointF& point,
-                        const char* heard) {
-        QTest::newRow(name) << int(key) << modifiers << point << QStringList{QString::fromLatin1(heard)};
-    };
-    row("right", Qt::Key_Right, Qt::NoModifier, {51, 50}, "Light, x: 51");
-    row("up", Qt::Key_Up, Qt::NoModifier, {50, 49}, "Light, y: 49");
-    row("ten to the left", Qt::Key_Left, Qt::ShiftModifier, {40, 50}, "Light, x: 40");
-    row("a page up", Qt::Key_PageUp, Qt::NoModifier, {50, 40}, "Light, y: 40");
-    row("a page down", Qt::Key_PageDown, Qt::NoModifier, {50, 60}, "Light, y: 60");
-    row("to the left edge", Qt::Key_Home, Qt::NoModifier, {0, 50}, "Light, x: 0");
-    row("to the right edge", Qt::Key_End, Qt::NoModifier, {100, 50}, "Light, x: 100");
-    row("to the top", Qt::Key_Home, Qt::ControlModifier, {50, 0}, "Light, y: 0");
-    row("to the bottom", Qt::Key_End, Qt::ControlModifier, {50, 100}, "Light, y: 100");
-}
-
-void tst_AccessibleParts::planeKeys()
-{
-    QFETCH(int, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    PointSelectionPlane plane(nullptr);
-    plane.setAccessibleName(QStringLiteral("Light"));
-    plane.resize(101, 101);
-    plane.setLimits({0, 0, 100, 100});
-    plane.setPoint({50, 50});
-    plane.show();
-    QSignalSpy changes(&plane, &PointSelectionPlane::pointChanged);
-    const AccessibleEars ears;
-    QTest::keyClick(&plane, Qt::Key(key), modifiers);
-    QTEST(plane.point(), "point");
-    QCOMPARE(changes.size(), 1);
-    QTEST(AccessibleEars::take().filter(QStringLiteral("Light")), "heard");
-}
-
-void tst_AccessibleParts::colorPlaneIsTwoSliders()
-{
-    ColorPickerWidget panel(nullptr, false);
-    panel.setCurrentColor(QColor(Qt::red));
-    panel.show();
-    panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))->click();
-    QWidget* const plane = partOf(&panel, "colorPlane");
-    QVERIFY(plane);
-    QCoreApplication::processEvents();
-    QCOMPARE(accessibleTree(reader(plane)), QStringList({QStringLiteral("Grouping Saturation and brightness"),
-                                                         QStringLiteral("  Slider Saturation = 100"),
-                                                         QStringLiteral("  Slider Brightness = 100")}));
-    reader(plane).child(1)->valueInterface()->setCurrentValue(0);
-    QCOMPARE(panel.currentColor(), std::optional<QColor>(QColor(Qt::black)));
-    QCOMPARE(reader(plane).child(1)->valueInterface()->currentValue().toDouble(), 0.0);
-    plane->window()->close();
-}
 
 UIC_TEST_MAIN(tst_AccessibleParts)
 #include "tst_AccessibleParts.moc"

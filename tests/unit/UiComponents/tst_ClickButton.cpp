@@ -16,53 +16,49 @@ class tst_ClickButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void isAToolButtonToStyleSheets();
-    void deletedByAClick_data();
-    void deletedByAClick();
-};
-
-void tst_ClickButton::isAToolButtonToStyleSheets()
-{
-    const ClickButton button;
-    QCOMPARE(button.metaObject(), &QToolButton::staticMetaObject);
-}
-
-void tst_ClickButton::deletedByAClick_data()
-{
-    auto* guideButton = new GuideButton;
-    guideButton->setGuideInfo(std::make_unique<GuideInfo>());
-
-    QTest::addColumn<ClickButton*>("made");
-    QTest::addColumn<bool>("isReleased");
-    QTest::newRow("ClickButton") << new ClickButton << false;
-    QTest::newRow("ClickButton, as it is released") << new ClickButton << true;
-    QTest::newRow("ColorPickerButton") << static_cast<ClickButton*>(new ColorPickerButton) << false;
-    QTest::newRow("GuideButton") << static_cast<ClickButton*>(guideButton) << false;
-    QTest::newRow("WidgetColorPickerButton")
-        << static_cast<ClickButton*>(new WidgetColorPickerButton) << false;
-}
-
-// Through the mouse, Qt's own handlers run after the slot, and QToolButton's writes into the button.
-void tst_ClickButton::deletedByAClick()
-{
-    QFETCH(ClickButton*, made);
-    QFETCH(bool, isReleased);
-    const QPointer<ClickButton> button = made;
-    button->setEnabled(true);
-    const auto destroy = [&button] { delete button; };
-    if (isReleased) {
-        connect(button.data(), &QAbstractButton::released, this, destroy);
-    } else {
-        connect(button.data(), &QAbstractButton::clicked, this, destroy);
+    void isAToolButtonToStyleSheets()
+    {
+        const ClickButton button;
+        QCOMPARE(button.metaObject(), &QToolButton::staticMetaObject);
     }
-    button->show();
-    const FreedMemoryWatch memory;
-    QTest::mouseClick(button.data(), Qt::LeftButton);
-    QVERIFY(!button);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-    QVERIFY(!QApplication::activePopupWidget());
-}
+
+    void deletedByAClick_data()
+    {
+        auto* guideButton = new GuideButton;
+        guideButton->setGuideInfo(std::make_unique<GuideInfo>());
+
+        QTest::addColumn<ClickButton*>("made");
+        QTest::addColumn<bool>("isReleased");
+        QTest::newRow("ClickButton") << new ClickButton << false;
+        QTest::newRow("ClickButton, as it is released") << new ClickButton << true;
+        QTest::newRow("ColorPickerButton") << static_cast<ClickButton*>(new ColorPickerButton) << false;
+        QTest::newRow("GuideButton") << static_cast<ClickButton*>(guideButton) << false;
+        QTest::newRow("WidgetColorPickerButton")
+            << static_cast<ClickButton*>(new WidgetColorPickerButton) << false;
+    }
+
+    // Through the mouse, Qt's own handlers run after the slot, and QToolButton's writes into the button.
+    void deletedByAClick()
+    {
+        QFETCH(ClickButton*, made);
+        QFETCH(bool, isReleased);
+        const QPointer<ClickButton> button = made;
+        button->setEnabled(true);
+        const auto destroy = [&button] { delete button; };
+        if (isReleased) {
+            connect(button.data(), &QAbstractButton::released, this, destroy);
+        } else {
+            connect(button.data(), &QAbstractButton::clicked, this, destroy);
+        }
+        button->show();
+        const FreedMemoryWatch memory;
+        QTest::mouseClick(button.data(), Qt::LeftButton);
+        QVERIFY(!button);
+        QVERIFY(memory.deleted() > 0);
+        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+};
 
 UIC_TEST_MAIN(tst_ClickButton)
 #include "tst_ClickButton.moc"

@@ -11,67 +11,62 @@ class tst_ColorFaces : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void styleSheets_data();
-    void styleSheets();
-    void paintIsSeen();
-    void paintOfTheSameColorDoesNothing();
-};
-
-void tst_ColorFaces::styleSheets_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("sheet");
-    QTest::newRow("red") << QColor(Qt::red) << QStringLiteral("background-color: #ff0000;");
-    QTest::newRow("translucent") << QColor(1, 2, 3, 4) << QStringLiteral("background-color: #010203;");
-    QTest::newRow("of another model")
-        << QColor::fromHsv(120, 255, 255) << QStringLiteral("background-color: #00ff00;");
-    QTest::newRow("none") << QColor() << QStringLiteral("background-color: transparent;");
-}
-
-void tst_ColorFaces::styleSheets()
-{
-    QFETCH(QColor, color);
-    QFETCH(QString, sheet);
-    QCOMPARE(ColorFaces::styleSheet(color), sheet);
-    QWidget face;
-    ColorFaces::paint(&face, color);
-    QCOMPARE(face.styleSheet(), sheet);
-}
-
-void tst_ColorFaces::paintIsSeen()
-{
-    QWidget window;
-    window.setStyleSheet(QStringLiteral("QToolButton { border: none; }"));
-    auto* button = new QToolButton(&window);
-    button->resize(20, 20);
-    ColorFaces::paint(button, Qt::red);
-    QCOMPARE(button->grab().toImage().pixelColor(10, 10), QColor(Qt::red));
-    ColorFaces::paint(button, Qt::green);
-    QCOMPARE(button->grab().toImage().pixelColor(10, 10), QColor(Qt::green));
-}
-
-void tst_ColorFaces::paintOfTheSameColorDoesNothing()
-{
-    class Face : public QWidget
+    void styleSheets_data()
     {
-    public:
-        int changes = 0;
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("sheet");
+        QTest::newRow("red") << QColor(Qt::red) << QStringLiteral("background-color: #ff0000;");
+        QTest::newRow("translucent") << QColor(1, 2, 3, 4) << QStringLiteral("background-color: #010203;");
+        QTest::newRow("of another model")
+            << QColor::fromHsv(120, 255, 255) << QStringLiteral("background-color: #00ff00;");
+        QTest::newRow("none") << QColor() << QStringLiteral("background-color: transparent;");
+    }
 
-    protected:
-        void changeEvent(QEvent* event) override
+    void styleSheets()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QString, sheet);
+        QCOMPARE(ColorFaces::styleSheet(color), sheet);
+        QWidget face;
+        ColorFaces::paint(&face, color);
+        QCOMPARE(face.styleSheet(), sheet);
+    }
+
+    void paintIsSeen()
+    {
+        QWidget window;
+        window.setStyleSheet(QStringLiteral("QToolButton { border: none; }"));
+        auto* button = new QToolButton(&window);
+        button->resize(20, 20);
+        ColorFaces::paint(button, Qt::red);
+        QCOMPARE(button->grab().toImage().pixelColor(10, 10), QColor(Qt::red));
+        ColorFaces::paint(button, Qt::green);
+        QCOMPARE(button->grab().toImage().pixelColor(10, 10), QColor(Qt::green));
+    }
+
+    void paintOfTheSameColorDoesNothing()
+    {
+        class Face : public QWidget
         {
-            changes += event->type() == QEvent::StyleChange ? 1 : 0;
-            QWidget::changeEvent(event);
-        }
-    };
-    Face face;
-    face.ensurePolished();
-    ColorFaces::paint(&face, Qt::red);
-    QVERIFY(face.changes > 0);
-    face.changes = 0;
-    ColorFaces::paint(&face, QColor(255, 0, 0, 9));
-    QCOMPARE(face.changes, 0);
-}
+        public:
+            int changes = 0;
+
+        protected:
+            void changeEvent(QEvent* event) override
+            {
+                changes += event->type() == QEvent::StyleChange ? 1 : 0;
+                QWidget::changeEvent(event);
+            }
+        };
+        Face face;
+        face.ensurePolished();
+        ColorFaces::paint(&face, Qt::red);
+        QVERIFY(face.changes > 0);
+        face.changes = 0;
+        ColorFaces::paint(&face, QColor(255, 0, 0, 9));
+        QCOMPARE(face.changes, 0);
+    }
+};
 
 UIC_TEST_MAIN(tst_ColorFaces)
 #include "tst_ColorFaces.moc"

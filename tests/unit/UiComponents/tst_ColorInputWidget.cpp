@@ -28,175 +28,162 @@ class tst_ColorInputWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject();
-    void construction();
-    void startsAsMultipleWithoutAColor();
-    void startsWithAColorInSilence();
-    void setColorIsRelayedOnce();
-    void setColorOfNoColor();
-    void pickIsRelayed();
-    void pickerIsTheButtons();
-    void deletedInItsOwnSignal();
-    void deletedWhileItsPickerRuns();
-    void labelBuddyReachesTheButton();
-    void tabStopsOnceAtTheButton();
-};
+    void metaObject()
+    {
+        const QMetaObject& meta = ColorInputWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorInputWidget"));
+        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)")}));
+        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
+        QCOMPARE(ownProperties(meta), QStringList());
+    }
 
-void tst_ColorInputWidget::metaObject()
-{
-    const QMetaObject& meta = ColorInputWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("ColorInputWidget"));
-    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)")}));
-    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
-    QCOMPARE(ownProperties(meta), QStringList());
-}
+    void construction()
+    {
+        QWidget parent;
+        const auto* field = new ColorInputWidget(&parent, QColor());
+        QCOMPARE(field->parentWidget(), &parent);
+        QCOMPARE(field->anchorWidget(), buttonOf(*field));
 
-void tst_ColorInputWidget::construction()
-{
-    QWidget parent;
-    const auto* field = new ColorInputWidget(&parent, QColor());
-    QCOMPARE(field->parentWidget(), &parent);
-    QCOMPARE(field->anchorWidget(), buttonOf(*field));
+        QLayout* layout = field->layout();
+        QVERIFY(layout);
+        QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
+        QCOMPARE(layout->contentsMargins(), QMargins());
+        QCOMPARE(layout->spacing(), 0);
+        QCOMPARE(layout->count(), 1);
+        QCOMPARE(layout->itemAt(0)->widget(), field->anchorWidget());
+    }
 
-    QLayout* layout = field->layout();
-    QVERIFY(layout);
-    QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
-    QCOMPARE(layout->contentsMargins(), QMargins());
-    QCOMPARE(layout->spacing(), 0);
-    QCOMPARE(layout->count(), 1);
-    QCOMPARE(layout->itemAt(0)->widget(), field->anchorWidget());
-}
+    void startsAsMultipleWithoutAColor()
+    {
+        const ColorInputWidget field(nullptr, QColor());
+        QVERIFY(!buttonOf(field)->color().has_value());
+        QVERIFY(!field.color().has_value());
+        QCOMPARE(buttonOf(field)->property("multiColor"), QVariant(true));
+        QCOMPARE(buttonOf(field)->property("nullColor"), QVariant(false));
+    }
 
-void tst_ColorInputWidget::startsAsMultipleWithoutAColor()
-{
-    const ColorInputWidget field(nullptr, QColor());
-    QVERIFY(!buttonOf(field)->color().has_value());
-    QVERIFY(!field.color().has_value());
-    QCOMPARE(buttonOf(field)->property("multiColor"), QVariant(true));
-    QCOMPARE(buttonOf(field)->property("nullColor"), QVariant(false));
-}
+    // A spy can only be attached after construction; a queued emission would still reach it.
+    void startsWithAColorInSilence()
+    {
+        ColorInputWidget field(nullptr, Qt::red);
+        QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
+        QCoreApplication::processEvents();
+        QCOMPARE(changed.size(), 0);
+        QVERIFY(buttonOf(field)->color() == OptionalColor(QColor(Qt::red)));
+        field.setColor(QColor(Qt::red));
+        QCOMPARE(changed.size(), 0);
+    }
 
-// A spy can only be attached after construction; a queued emission would still reach it.
-void tst_ColorInputWidget::startsWithAColorInSilence()
-{
-    ColorInputWidget field(nullptr, Qt::red);
-    QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
-    QCoreApplication::processEvents();
-    QCOMPARE(changed.size(), 0);
-    QVERIFY(buttonOf(field)->color() == OptionalColor(QColor(Qt::red)));
-    field.setColor(QColor(Qt::red));
-    QCOMPARE(changed.size(), 0);
-}
-
-void tst_ColorInputWidget::setColorIsRelayedOnce()
-{
-    ColorInputWidget field(nullptr, QColor());
-    QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
-    field.setColor(QColor(1, 2, 3, 4));
-    field.setColor(QColor(1, 2, 3, 4));
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.front().front().value<QColor>(), QColor(1, 2, 3, 4));
-    QVERIFY(field.color() == OptionalColor(QColor(1, 2, 3, 4)));
-}
-
-void tst_ColorInputWidget::setColorOfNoColor()
-{
-    ColorInputWidget field(nullptr, Qt::red);
-    QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
-    field.setColor(QColor());
-    QCOMPARE(changed.size(), 1);
-    QVERIFY(!changed.front().front().value<QColor>().isValid());
-    QCOMPARE(buttonOf(field)->property("nullColor"), QVariant(true));
-}
-
-void tst_ColorInputWidget::pickIsRelayed()
-{
-    ColorInputWidget field(nullptr, Qt::red);
-    auto* picker = new FakeColorPicker;
-    field.setPicker(picker);
-    QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
-    buttonOf(field)->click();
-    picker->preview(QColor(Qt::green));
-    picker->finish(QColor(Qt::green));
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.front().front().value<QColor>(), QColor(Qt::green));
-}
-
-void tst_ColorInputWidget::pickerIsTheButtons()
-{
-    const QPointer<FakeColorPicker> first = new FakeColorPicker;
-    const QPointer<FakeColorPicker> second = new FakeColorPicker;
+    void setColorIsRelayedOnce()
     {
         ColorInputWidget field(nullptr, QColor());
-        QVERIFY(!buttonOf(field)->picker());
-        field.setPicker(first);
-        QCOMPARE(buttonOf(field)->picker(), first.data());
-        QCOMPARE(first->parent(), field.anchorWidget());
-        field.setPicker(second);
-        QVERIFY(!first);
-        QVERIFY(second);
+        QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
+        field.setColor(QColor(1, 2, 3, 4));
+        field.setColor(QColor(1, 2, 3, 4));
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.front().front().value<QColor>(), QColor(1, 2, 3, 4));
+        QVERIFY(field.color() == OptionalColor(QColor(1, 2, 3, 4)));
     }
-    QVERIFY(!second);
-}
 
-void tst_ColorInputWidget::deletedInItsOwnSignal()
-{
-    QPointer<ColorInputWidget> field = new ColorInputWidget(nullptr, QColor());
-    auto* picker = new FakeColorPicker;
-    field->setPicker(picker);
-    connect(field.data(), &ColorInputWidget::colorChanged, this, [&field] { delete field; });
-    buttonOf(*field)->click();
-    picker->finish(QColor(Qt::green));
-    QVERIFY(!field);
-}
+    void setColorOfNoColor()
+    {
+        ColorInputWidget field(nullptr, Qt::red);
+        QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
+        field.setColor(QColor());
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!changed.front().front().value<QColor>().isValid());
+        QCOMPARE(buttonOf(field)->property("nullColor"), QVariant(true));
+    }
 
-// As a window, the field is hidden by the destructor of QWidget, which stops the picker.
-void tst_ColorInputWidget::deletedWhileItsPickerRuns()
-{
-    auto* field = new ColorInputWidget(nullptr, Qt::red);
-    auto* picker = new FakeColorPicker;
-    field->setPicker(picker);
-    field->show();
-    buttonOf(*field)->click();
-    picker->preview(QColor(Qt::green));
-    field->setColor(Qt::red);
-    int reports = 0;
-    connect(field, &ColorInputWidget::colorChanged, this, [&reports] { ++reports; });
-    QPointer<FakeColorPicker> alive = picker;
-    delete field;
-    QVERIFY(!alive);
-    QCOMPARE(reports, 0);
-}
+    void pickIsRelayed()
+    {
+        ColorInputWidget field(nullptr, Qt::red);
+        auto* picker = new FakeColorPicker;
+        field.setPicker(picker);
+        QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
+        buttonOf(field)->click();
+        picker->preview(QColor(Qt::green));
+        picker->finish(QColor(Qt::green));
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.front().front().value<QColor>(), QColor(Qt::green));
+    }
 
-void tst_ColorInputWidget::labelBuddyReachesTheButton()
-{
-    QWidget form;
-    auto* edit = new QLineEdit(&form); // has the focus, which would else be the button's from the start
-    auto* label = new QLabel(QStringLiteral("&Colour"), &form);
-    auto* field = new ColorInputWidget(&form, Qt::red);
-    label->setBuddy(field);
-    form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    edit->setFocus();
-    QCOMPARE(form.focusWidget(), edit);
-    QTest::keyClick(&form, Qt::Key_C, Qt::AltModifier);
-    QCOMPARE(form.focusWidget(), field->anchorWidget());
-}
+    void pickerIsTheButtons()
+    {
+        const QPointer<FakeColorPicker> first = new FakeColorPicker;
+        const QPointer<FakeColorPicker> second = new FakeColorPicker;
+        {
+            ColorInputWidget field(nullptr, QColor());
+            QVERIFY(!buttonOf(field)->picker());
+            field.setPicker(first);
+            QCOMPARE(buttonOf(field)->picker(), first.data());
+            QCOMPARE(first->parent(), field.anchorWidget());
+            field.setPicker(second);
+            QVERIFY(!first);
+            QVERIFY(second);
+        }
+        QVERIFY(!second);
+    }
 
-void tst_ColorInputWidget::tabStopsOnceAtTheButton()
-{
-    QWidget form;
-    auto* before = new QLineEdit(&form);
-    auto* field = new ColorInputWidget(&form, Qt::red);
-    auto* after = new QLineEdit(&form);
-    form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    before->setFocus();
-    QWidget* const button = field->anchorWidget();
-    QCOMPARE(focusedBy(Qt::Key_Tab, 2, form), QList<QWidget*>({button, after}));
-    QCOMPARE(focusedBy(Qt::Key_Backtab, 1, form), QList<QWidget*>({button}));
-}
+    void deletedInItsOwnSignal()
+    {
+        QPointer<ColorInputWidget> field = new ColorInputWidget(nullptr, QColor());
+        auto* picker = new FakeColorPicker;
+        field->setPicker(picker);
+        connect(field.data(), &ColorInputWidget::colorChanged, this, [&field] { delete field; });
+        buttonOf(*field)->click();
+        picker->finish(QColor(Qt::green));
+        QVERIFY(!field);
+    }
+
+    // As a window, the field is hidden by the destructor of QWidget, which stops the picker.
+    void deletedWhileItsPickerRuns()
+    {
+        auto* field = new ColorInputWidget(nullptr, Qt::red);
+        auto* picker = new FakeColorPicker;
+        field->setPicker(picker);
+        field->show();
+        buttonOf(*field)->click();
+        picker->preview(QColor(Qt::green));
+        field->setColor(Qt::red);
+        int reports = 0;
+        connect(field, &ColorInputWidget::colorChanged, this, [&reports] { ++reports; });
+        QPointer<FakeColorPicker> alive = picker;
+        delete field;
+        QVERIFY(!alive);
+        QCOMPARE(reports, 0);
+    }
+
+    void labelBuddyReachesTheButton()
+    {
+        QWidget form;
+        auto* edit = new QLineEdit(&form); // has the focus, which would else be the button's from the start
+        auto* label = new QLabel(QStringLiteral("&Colour"), &form);
+        auto* field = new ColorInputWidget(&form, Qt::red);
+        label->setBuddy(field);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        edit->setFocus();
+        QCOMPARE(form.focusWidget(), edit);
+        QTest::keyClick(&form, Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(form.focusWidget(), field->anchorWidget());
+    }
+
+    void tabStopsOnceAtTheButton()
+    {
+        QWidget form;
+        auto* before = new QLineEdit(&form);
+        auto* field = new ColorInputWidget(&form, Qt::red);
+        auto* after = new QLineEdit(&form);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        before->setFocus();
+        QWidget* const button = field->anchorWidget();
+        QCOMPARE(focusedBy(Qt::Key_Tab, 2, form), QList<QWidget*>({button, after}));
+        QCOMPARE(focusedBy(Qt::Key_Backtab, 1, form), QList<QWidget*>({button}));
+    }
+};
 
 UIC_TEST_MAIN(tst_ColorInputWidget)
 #include "tst_ColorInputWidget.moc"

@@ -255,1815 +255,1725 @@ class tst_ColorPickerWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void cleanupTestCase();
+    void init()
+    {
+        m_record = std::make_shared<Record>();
+        Settings::setStore(std::make_unique<RecordingStore>(m_record));
+    }
 
-    void metaObject();
-    void parts_data();
-    void parts();
-    void orderOfCreation();
-    void layouts();
-    void rowsOfTheGrids();
-    void inputs();
-    void styleHints();
-    void startsWithSeveralColors();
-    void textsFollowTheLanguage();
-    void labelsLeadToControls();
-    void tabOrder();
+    void cleanup()
+    {
+        QVERIFY(!QWidget::mouseGrabber());
+        QVERIFY(!QApplication::activePopupWidget());
+    }
 
-    void paletteOf72Colors();
-    void paletteWithNoColor();
-    void colorButtonsAreOfOneGroup();
-    void facesAreSeen();
+    void cleanupTestCase() { Settings::setStore(nullptr); }
 
-    void clickInThePalette_data();
-    void clickInThePalette();
-    void clickOnTheCheckedButtonSaysNothing();
-    void noColorIsChosen();
-    void arrowKeysChoose();
+    void metaObject()
+    {
+        const QMetaObject& meta = ColorPickerWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPickerWidget"));
+        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)"),
+                                                QStringLiteral("signal pipetteRequested()"),
+                                                QStringLiteral("signal closeRequested()")}));
+        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("color"));
+        QCOMPARE(ownProperties(meta), QStringList{QStringLiteral("int colorDialogOffset r")});
+        const Panel panel;
+        QCOMPARE(panel.property("colorDialogOffset").toInt(), 0);
+        QCOMPARE(panel.GetcolorDialogOffset(), 0);
+        static_assert(std::is_same_v<decltype(panel.currentColor()), const OptionalColor&>);
+    }
 
-    void pastedDigitsGetTheirSign();
-    void typedDigits();
-    void cursorStaysWhileTyping();
-    void colorsThatAreTyped_data();
-    void colorsThatAreTyped();
-    void textThatIsNoColor_data();
-    void textThatIsNoColor();
-    void typedOverNoColor();
+    void parts_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("parentName");
+        const auto row = [](const char* name, const char* className, const char* parentName) {
+            QTest::newRow(name) << QString::fromLatin1(className) << QString::fromLatin1(parentName);
+        };
+        row("topPanel", "OvFrame", "panel");
+        row("colorMatrixPanel", "OvFrame", "panel");
+        row("otherColorsPanel", "OvFrame", "panel");
+        row("opacityPanel", "OvFrame", "panel");
+        row("currentColorDisplayLabel", "QLabel", "topPanel");
+        row("currentColorValueEdit", "Orvane::Tessel::TesselLineEdit", "topPanel");
+        row("pipetteButton", "QToolButton", "topPanel");
+        row("otherColorsTitleLabel", "QLabel", "otherColorsPanel");
+        row("addCustomColorButton", "QToolButton", "otherColorsPanel");
+        row("otherColorsQueuePanel", "OvFrame", "otherColorsPanel");
+        row("opacityTitleLabel", "QLabel", "opacityPanel");
+        row("opacitySlider", "OvDoubleSlider", "opacityPanel");
+        row("opacitySpinbox", "OvSpinBox", "opacityPanel");
+    }
 
-    void setCurrentColor_data();
-    void setCurrentColor();
-    void sameColorDoesNothing();
-    void setCurrentColorFromASlot();
-    void severalColorsFromASlot();
+    void parts()
+    {
+        QFETCH(QString, className);
+        QFETCH(QString, parentName);
+        Panel panel;
+        panel.setObjectName(QStringLiteral("panel"));
+        const auto found = panel.findChildren<QWidget*>(QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(QString::fromLatin1(found.front()->metaObject()->className()), className);
+        QCOMPARE(found.front()->parentWidget()->objectName(), parentName);
+    }
 
-    void opacityByTheUser_data();
-    void opacityByTheUser();
-    void opacityOfNoColor();
-    void opacityOfSeveralColors();
-    void emptiedOpacity_data();
-    void emptiedOpacity();
-    void switchedOffOpacity();
-    void switchedOnOpacity();
+    void orderOfCreation()
+    {
+        const Panel panel;
+        const auto childrenOf = [](const QWidget* widget) {
+            QStringList result;
+            const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+            for (const QWidget* child : children) {
+                result += child->objectName();
+            }
+            return result.join(QLatin1Char(' '));
+        };
+        QCOMPARE(childrenOf(&panel),
+                 QStringLiteral("topPanel colorMatrixPanel otherColorsPanel opacityPanel"));
+        QCOMPARE(childrenOf(panel.part<OvFrame>("topPanel")),
+                 QStringLiteral("currentColorDisplayLabel currentColorValueEdit pipetteButton"));
+        QCOMPARE(childrenOf(panel.part<OvFrame>("otherColorsPanel")),
+                 QStringLiteral("otherColorsTitleLabel addCustomColorButton otherColorsQueuePanel"));
+        QCOMPARE(childrenOf(panel.part<OvFrame>("opacityPanel")),
+                 QStringLiteral("opacityTitleLabel opacitySlider opacitySpinbox"));
+        QVERIFY(!panel.popup());
+    }
 
-    void pipetteButton();
+    void layouts()
+    {
+        const Panel panel;
+        const auto check = [](const QWidget* owner, const char* className, const QString& items) {
+            const QLayout* layout = owner->layout();
+            QVERIFY(layout);
+            QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray(className));
+            QCOMPARE(layout->contentsMargins(), QMargins());
+            QCOMPARE(layout->spacing(), 0);
+            QStringList found;
+            for (int i = 0; i < layout->count(); ++i) {
+                found += layout->itemAt(i)->widget()->objectName();
+            }
+            QCOMPARE(found.join(QLatin1Char(' ')), items);
+        };
+        check(&panel, "OvVBoxLayout",
+              QStringLiteral("topPanel colorMatrixPanel otherColorsPanel opacityPanel"));
+        check(panel.part<OvFrame>("topPanel"), "OvHBoxLayout",
+              QStringLiteral("currentColorDisplayLabel currentColorValueEdit pipetteButton"));
+        check(panel.part<OvFrame>("colorMatrixPanel"), "OvGridLayout", QString(71, QLatin1Char(' ')));
+        check(panel.part<OvFrame>("otherColorsPanel"), "OvGridLayout",
+              QStringLiteral("otherColorsTitleLabel addCustomColorButton otherColorsQueuePanel"));
+        check(panel.part<OvFrame>("otherColorsQueuePanel"), "OvHBoxLayout", QString(7, QLatin1Char(' ')));
+        check(panel.part<OvFrame>("opacityPanel"), "OvGridLayout",
+              QStringLiteral("opacityTitleLabel opacitySlider opacitySpinbox"));
+    }
 
-    void queueIsReadFromTheSettings_data();
-    void queueIsReadFromTheSettings();
-    void settingsThatAreNoList();
-    void queueFollowsTheSettingsWhenShown();
-    void shorterListLeavesButtons();
-    void ownColorIsChosen();
-    void ownColorThatIsInThePalette();
-    void ownColorTwice();
+    void rowsOfTheGrids()
+    {
+        const Panel panel;
+        for (const char* name : {"otherColorsPanel", "opacityPanel"}) {
+            auto* grid = qobject_cast<OvGridLayout*>(panel.part<OvFrame>(name)->layout());
+            QVERIFY(grid);
+            const auto place = [grid](int index) {
+                int row = 0;
+                int column = 0;
+                int rows = 0;
+                int columns = 0;
+                grid->getItemPosition(index, &row, &column, &rows, &columns);
+                return QRect(column, row, columns, rows);
+            };
+            // The title takes the whole row.
+            QCOMPARE(place(0), QRect(0, 0, 2, 1));
+            QCOMPARE(place(1), QRect(0, 1, 1, 1));
+            QCOMPARE(place(2), QRect(1, 1, 1, 1));
+            QCOMPARE(grid->itemAt(0)->alignment(), Qt::Alignment());
+            QCOMPARE(grid->rowStretch(0), 0);
+            QCOMPARE(grid->rowStretch(1), 0);
+        }
+    }
 
-    void popup();
-    void popupPlace();
-    void popupStaysOnTheScreen();
-    void popupBeginsAtTheColor_data();
-    void popupBeginsAtTheColor();
-    void popupBeginsAtTheColorAgain();
-    void popupKeepsTheHueOfAGrey();
-    void colorFollowsThePopup_data();
-    void colorFollowsThePopup();
-    void popupMeetsAPaletteColor();
-    void popupByKeyboard();
-    void hueStepsAreRelayed();
+    void inputs()
+    {
+        const Panel panel;
+        const auto* validator = qobject_cast<const QRegExpValidator*>(panel.edit->validator());
+        QVERIFY(validator);
+        QCOMPARE(validator->regExp(), QRegExp(QStringLiteral("^(#?)[a-fA-F0-9]{6}$")));
+        QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
 
-    void closingAdds_data();
-    void closingAdds();
-    void closingAddsNothing_data();
-    void closingAddsNothing();
-    void escapeLeavesTheHostOpen();
-    void ninthColor();
-    void addedColorTakesTheOpacity();
-    void addedColorThatIsShownAlready();
-    void unwritableSettings();
-    void twoPanels();
+        QCOMPARE(panel.slider->orientation(), Qt::Horizontal);
+        QCOMPARE(panel.slider->minimum(), 0);
+        QCOMPARE(panel.slider->maximum(), 100);
+        QCOMPARE(panel.slider->multiplier(), 0.01);
+        QCOMPARE(panel.slider->value(), 100);
+        QCOMPARE(panel.slider->doubleValue(), 1.0);
 
-    void deletedByASlot_data();
-    void deletedByASlot();
-    void popupDeletedByASlot();
-    void deletedWithAnEmptySpinBox();
-    void deletedWhileThePopupIsOpen_data();
-    void deletedWhileThePopupIsOpen();
-    void deletedDuringADrag();
+        QCOMPARE(panel.spinBox->minimum(), 0);
+        QCOMPARE(panel.spinBox->maximum(), 100);
+        QCOMPARE(panel.spinBox->suffix(), QStringLiteral("%"));
+        QCOMPARE(panel.spinBox->buttonSymbols(), QAbstractSpinBox::NoButtons);
+        QCOMPARE(panel.spinBox->correctionMode(), QAbstractSpinBox::CorrectToNearestValue);
+        QCOMPARE(panel.spinBox->value(), 100);
+        panel.spinBox->setValue(30);
+        QCOMPARE(panel.slider->doubleValue(), 0.3);
+        panel.slider->setValue(70);
+        QCOMPARE(panel.spinBox->text(), QStringLiteral("70%"));
+    }
 
-    void disabledPanel();
-    void rightToLeft();
+    void styleHints()
+    {
+        const Panel panel;
+        const auto hint = [](const QWidget* widget) { return widget->property("styleHint").toString(); };
+        QCOMPARE(hint(panel.pipette), QStringLiteral("LIGHT_GREY_TWO"));
+        QCOMPARE(hint(panel.spinBox), QStringLiteral("INPUT_LIGHT"));
+        QCOMPARE(hint(panel.edit), QStringLiteral("INPUT_LIGHT"));
+        QCOMPARE(hint(panel.slider), QStringLiteral("SLIDER_LIGHT"));
+        QCOMPARE(hint(panel.addButton), QString());
+    }
+
+    void startsWithSeveralColors()
+    {
+        Panel panel;
+        const auto check = [&panel] {
+            QCOMPARE(panel.currentColor(), OptionalColor());
+            QCOMPARE(panel.edit->text(), QStringLiteral("#multiple"));
+            QCOMPARE(faceState(panel), QStringLiteral("multi transparent"));
+            QCOMPARE(panel.checked(), QString());
+            QVERIFY(panel.opacityAdjustmentAvailable());
+            QCOMPARE(panel.log(), QStringList());
+        };
+        check();
+        panel.show();
+        QVERIFY(panel.part<OvFrame>("opacityPanel")->isVisible());
+        check();
+    }
+
+    void textsFollowTheLanguage()
+    {
+        const Panel panel;
+        const auto texts = [&panel] {
+            return QStringList{panel.part<QLabel>("otherColorsTitleLabel")->text(),
+                               panel.part<QLabel>("opacityTitleLabel")->text()};
+        };
+        const QStringList english{QStringLiteral("Other:"), QStringLiteral("Opacity:")};
+        QCOMPARE(texts(), english);
+        {
+            MarkingTranslator translator("ColorPickerWidget");
+            QCoreApplication::installTranslator(&translator);
+            QCoreApplication::processEvents();
+            QCOMPARE(texts(), QStringList({QStringLiteral("<Other:>"), QStringLiteral("<Opacity:>")}));
+            QCoreApplication::removeTranslator(&translator);
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(texts(), english);
+    }
+
+    void labelsLeadToControls()
+    {
+        const Panel panel;
+        QCOMPARE(panel.part<QLabel>("opacityTitleLabel")->buddy(), panel.slider);
+        QCOMPARE(panel.part<QLabel>("otherColorsTitleLabel")->buddy(), panel.addButton);
+    }
+
+    void tabOrder()
+    {
+        m_record->value = names(3);
+        Panel panel;
+        panel.show();
+        QApplication::setActiveWindow(&panel);
+        panel.edit->setFocus();
+        QStringList stops;
+        for (int i = 0; i < 6; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            const QWidget* const widget = QApplication::focusWidget();
+            stops += widget->objectName().isEmpty() ? widget->styleSheet() : widget->objectName();
+        }
+        QCOMPARE(stops.mid(0, 3),
+                 QStringList({QStringLiteral("pipetteButton"), sheetOf(QStringLiteral("#ffffff")),
+                              QStringLiteral("addCustomColorButton")}));
+        // The group of the buttons is one stop; arrow keys lead to the others.
+        QCOMPARE(stops.mid(3), QStringList({QStringLiteral("opacitySlider"), QStringLiteral("opacitySpinbox"),
+                                            QStringLiteral("currentColorValueEdit")}));
+    }
+
+    void paletteOf72Colors()
+    {
+        const Panel panel;
+        const auto buttons = panel.part<OvFrame>("colorMatrixPanel")->findChildren<QToolButton*>();
+        QCOMPARE(buttons.size(), 72);
+        for (int i = 0; i < 72; ++i) {
+            const QToolButton* const button = panel.paletteButton(i / 9, i % 9);
+            QCOMPARE(button, buttons.at(i));
+            QCOMPARE(button->styleSheet(), sheetOf(QString::fromLatin1(palette[i / 9][i % 9])));
+            QVERIFY(button->isCheckable());
+            QVERIFY(button->isEnabled());
+            QVERIFY(!button->property("nullColor").isValid());
+            QCOMPARE(button->metaObject(), &QToolButton::staticMetaObject);
+        }
+    }
+
+    void paletteWithNoColor()
+    {
+        const Panel panel(true);
+        const auto buttons = panel.part<OvFrame>("colorMatrixPanel")->findChildren<QToolButton*>();
+        QCOMPARE(buttons.size(), 72);
+        QCOMPARE(panel.paletteButton(0, 0)->styleSheet(), sheetOf(QStringLiteral("transparent")));
+        QCOMPARE(panel.paletteButton(0, 0)->property("nullColor"), QVariant(true));
+        QCOMPARE(panel.paletteButton(0, 1)->styleSheet(), sheetOf(QStringLiteral("#ffffff")));
+        QVERIFY(!panel.paletteButton(0, 1)->property("nullColor").isValid());
+        for (int i = 2; i < 72; ++i) {
+            QCOMPARE(panel.paletteButton(i / 9, i % 9)->styleSheet(),
+                     sheetOf(QString::fromLatin1(palette[i / 9][i % 9])));
+        }
+        QVERIFY(!panel.paletteButton(QStringLiteral("#e3e3e3")));
+    }
+
+    void colorButtonsAreOfOneGroup()
+    {
+        const Panel panel;
+        QCOMPARE(panel.findChildren<QButtonGroup*>().size(), 1);
+        QVERIFY(panel.group->exclusive());
+        QCOMPARE(panel.group->buttons().size(), 80);
+        QCOMPARE(panel.group->buttons().mid(72, 8).front(), panel.queueButton(0));
+        for (int i = 0; i < 8; ++i) {
+            QVERIFY(panel.queueButton(i)->isCheckable());
+            QVERIFY(!panel.queueButton(i)->isEnabled());
+            QCOMPARE(panel.queueButton(i)->styleSheet(), QString());
+            QCOMPARE(panel.queueButton(i)->metaObject(), &QToolButton::staticMetaObject);
+        }
+    }
+
+    void facesAreSeen()
+    {
+        m_record->value = names(1);
+        Panel panel;
+        panel.setStyleSheet(QStringLiteral("QToolButton { border: none; width: 16px; height: 16px; }"));
+        panel.setCurrentColor(QColor(0, 0, 255, 100));
+        panel.show();
+        const auto middle = [](QWidget* widget) {
+            return widget->grab().toImage().pixelColor(widget->rect().center()).name();
+        };
+        QCOMPARE(middle(panel.paletteButton(1, 1)), orange);
+        QCOMPARE(middle(panel.paletteButton(7, 8)), QStringLiteral("#390023"));
+        QCOMPARE(middle(panel.queueButton(0)), names(1).constFirst());
+        QCOMPARE(middle(panel.face), QStringLiteral("#0000ff"));
+        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
+        QCOMPARE(middle(panel.face), orange);
+    }
+
+    void clickInThePalette_data()
+    {
+        QTest::addColumn<bool>("nullColorAllowed");
+        QTest::addColumn<bool>("adjustable");
+        QTest::addColumn<QString>("reported");
+        for (const bool allowed : {false, true}) {
+            const char* const first = allowed ? "with no colour, " : "";
+            QTest::addRow("%sopacity adjustable", first) << allowed << true << half(orange);
+            QTest::addRow("%sopacity fixed", first) << allowed << false << opaque(orange);
+        }
+    }
+
+    void clickInThePalette()
+    {
+        QFETCH(bool, nullColorAllowed);
+        QFETCH(bool, adjustable);
+        QFETCH(QString, reported);
+        Panel panel(nullColorAllowed);
+        panel.setOpacityAdjustmentAvailable(adjustable);
+        panel.slider->setValue(50);
+        panel.show();
+        QCOMPARE(panel.log(), QStringList());
+        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList{reported});
+        QCOMPARE(panel.edit->text(), orange);
+        QCOMPARE(faceState(panel), orange);
+        QCOMPARE(panel.checked(), orange);
+        QTest::keyClick(panel.paletteButton(1, 0), Qt::Key_Space);
+        QCOMPARE(panel.log(), QStringList{reported.left(3) + QStringLiteral("ff0000")});
+        QVERIFY(!panel.paletteButton(1, 1)->isChecked());
+    }
+
+    void clickOnTheCheckedButtonSaysNothing()
+    {
+        Panel panel;
+        panel.show();
+        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
+        panel.log();
+        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList());
+        QVERIFY(panel.paletteButton(1, 1)->isChecked());
+    }
+
+    void noColorIsChosen()
+    {
+        Panel panel(true);
+        panel.setCurrentColor(QColor(Qt::red));
+        panel.log();
+        panel.show();
+        QTest::mouseClick(panel.paletteButton(0, 0), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("none")});
+        QCOMPARE(panel.currentColor(), OptionalColor(QColor()));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#null"));
+        QCOMPARE(faceState(panel), QStringLiteral("null transparent"));
+    }
+
+    void arrowKeysChoose()
+    {
+        m_record->value = names(8);
+        Panel panel;
+        panel.show();
+        QApplication::setActiveWindow(&panel);
+        panel.paletteButton(1, 1)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+        QCOMPARE(QApplication::focusWidget(), panel.paletteButton(1, 2));
+        QCOMPARE(panel.log(), QStringList());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+        QCOMPARE(panel.log(),
+                 QStringList({opaque(QStringLiteral("#ffc000")), opaque(QStringLiteral("#ffe9a5")),
+                              opaque(QStringLiteral("#ffccae"))}));
+        QCOMPARE(QApplication::focusWidget(), panel.paletteButton(2, 1));
+        // On to the user's own colours.
+        panel.paletteButton(7, 0)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QVERIFY(panel.part<OvFrame>("otherColorsQueuePanel")->isAncestorOf(QApplication::focusWidget()));
+    }
+
+    void pastedDigitsGetTheirSign()
+    {
+        Panel panel;
+        paste(panel.edit, QStringLiteral("ff0000"));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#ff0000"));
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), OptionalColor());
+        // One more edit, as any that ends in a colour: the button reports it, and so does the edit.
+        QTest::keyClick(panel.edit, Qt::Key_Backspace);
+        QCOMPARE(panel.log(), QStringList());
+        QTest::keyClick(panel.edit, Qt::Key_0);
+        QCOMPARE(panel.log(), QStringList({QStringLiteral("#ffff0000"), QStringLiteral("#ffff0000")}));
+        QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#ff0000"));
+    }
+
+    void typedDigits()
+    {
+        Panel panel;
+        typeAnew(panel.edit, QStringLiteral("f"));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#f"));
+        QTest::keyClicks(panel.edit, QStringLiteral("f5d0"));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#ff5d0"));
+        QCOMPARE(panel.log(), QStringList());
+        QTest::keyClicks(panel.edit, QStringLiteral("0"));
+        QCOMPARE(panel.log(), QStringList({opaque(orange), opaque(orange)}));
+        // Nothing goes behind the sixth digit.
+        QTest::keyClicks(panel.edit, QStringLiteral("1"));
+        QCOMPARE(panel.edit->text(), orange);
+        QCOMPARE(panel.log(), QStringList());
+        // An edit that is emptied stays so.
+        panel.edit->setText(QStringLiteral("#"));
+        QTest::keyClick(panel.edit, Qt::Key_Backspace);
+        QCOMPARE(panel.edit->text(), QString());
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), OptionalColor(QColor(orange)));
+    }
+
+    void cursorStaysWhileTyping()
+    {
+        Panel panel;
+        panel.edit->setText(QStringLiteral("ff500"));
+        panel.edit->setCursorPosition(3);
+        QTest::keyClicks(panel.edit, QStringLiteral("D"));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#ff5D00"));
+        QCOMPARE(panel.edit->cursorPosition(), 5);
+        QTest::keyClick(panel.edit, Qt::Key_Backspace);
+        // The button's colour is written back in its own way.
+        QTest::keyClicks(panel.edit, QStringLiteral("D"));
+        QCOMPARE(panel.edit->text(), orange);
+        QCOMPARE(panel.edit->cursorPosition(), 5);
+    }
+
+    void colorsThatAreTyped_data()
+    {
+        QTest::addColumn<bool>("adjustable");
+        QTest::addColumn<OptionalColor>("before");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("reported");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("checked");
+
+        const OptionalColor several;
+        const OptionalColor red = QColor(255, 0, 0, 128);
+        const QString own = QStringLiteral("#123456");
+        QTest::newRow("of the palette")
+            << true << several << orange << QStringList({half(orange), half(orange)}) << orange << orange;
+        QTest::newRow("of the palette, opacity fixed")
+            << false << several << orange << QStringList({opaque(orange), opaque(orange)}) << orange
+            << orange;
+        QTest::newRow("of the palette, in upper case")
+            << true << several << orange.toUpper() << QStringList({half(orange), half(orange)}) << orange
+            << orange;
+        QTest::newRow("of the palette, checked already")
+            << true << red << QStringLiteral("#FF0000") << QStringList{QStringLiteral("#80ff0000")}
+            << QStringLiteral("#FF0000") << QStringLiteral("#ff0000");
+        QTest::newRow("another") << true << several << own << QStringList{half(own)} << own << QString();
+        QTest::newRow("another, opacity fixed")
+            << false << several << own << QStringList{opaque(own)} << own << QString();
+        QTest::newRow("another, with a button checked")
+            << true << red << own << QStringList{half(own)} << own << QString();
+        QTest::newRow("another, in upper case")
+            << true << several << QStringLiteral("#ABCDEF") << QStringList{QStringLiteral("#80abcdef")}
+            << QStringLiteral("#ABCDEF") << QString();
+        QTest::newRow("one of the user's own")
+            << true << several << names(1).constFirst()
+            << QStringList({half(names(1).constFirst()), half(names(1).constFirst())})
+            << names(1).constFirst() << names(1).constFirst();
+    }
+
+    void colorsThatAreTyped()
+    {
+        QFETCH(bool, adjustable);
+        QFETCH(OptionalColor, before);
+        QFETCH(QString, typed);
+        QFETCH(QStringList, reported);
+        QFETCH(QString, shown);
+        QFETCH(QString, checked);
+        m_record->value = names(1);
+        Panel panel;
+        panel.slider->setDoubleValue(QColor(0, 0, 0, 128).alphaF());
+        panel.setOpacityAdjustmentAvailable(adjustable);
+        panel.setCurrentColor(before);
+        panel.log();
+        paste(panel.edit, typed);
+        QCOMPARE(panel.log(), reported);
+        QCOMPARE(panel.edit->text(), shown);
+        QCOMPARE(panel.checked(), checked);
+        QCOMPARE(faceState(panel), typed.toLower());
+        QVERIFY(panel.group->exclusive());
+        QCOMPARE(panel.slider->value(), 50);
+    }
+
+    void textThatIsNoColor_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char* text : {"#", "#f", "#fff", "#ff000", "#gggggg", "#ff00000", "red", "#null",
+                                 "#multiple", "ff00", "  ", "#ff 000", "#80ff0000"}) {
+            QTest::newRow(text) << QString::fromLatin1(text);
+        }
+        QTest::newRow("empty") << QString();
+        QTest::newRow("not of this alphabet") << QStringLiteral("#\u0661\u0661\u0661\u0661\u0661\u0661");
+    }
+
+    void textThatIsNoColor()
+    {
+        QFETCH(QString, text);
+        Panel panel;
+        panel.setCurrentColor(QColor(Qt::red));
+        panel.log();
+        // Past the validator, as a host's code may do.
+        panel.edit->setText(text);
+        Q_EMIT panel.edit->textEdited(text);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), OptionalColor(QColor(Qt::red)));
+        QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
+        const bool isMarked = text.isEmpty() || text.startsWith(QLatin1Char('#'));
+        QCOMPARE(panel.edit->text(), isMarked ? text : QLatin1Char('#') + text);
+    }
+
+    void typedOverNoColor()
+    {
+        Panel panel(true);
+        panel.setCurrentColor(QColor());
+        panel.log();
+        typeAnew(panel.edit, QStringLiteral("#123456"));
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff123456")});
+        QCOMPARE(faceState(panel), QStringLiteral("#123456"));
+        QCOMPARE(panel.checked(), QString());
+    }
+
+    void setCurrentColor_data()
+    {
+        QTest::addColumn<bool>("nullColorAllowed");
+        QTest::addColumn<bool>("adjustable");
+        QTest::addColumn<OptionalColor>("before");
+        QTest::addColumn<OptionalColor>("color");
+        QTest::addColumn<QStringList>("reported");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("checked");
+        QTest::addColumn<int>("opacity");
+        QTest::addColumn<QString>("current");
+
+        const OptionalColor several;
+        const OptionalColor none = QColor();
+        const OptionalColor red = QColor(255, 0, 0);
+        const OptionalColor halfRed = QColor(255, 0, 0, 128);
+        const OptionalColor own = QColor(0x12, 0x34, 0x56);
+        const OptionalColor halfOwn = QColor(0x12, 0x34, 0x56, 128);
+        const QString r = QStringLiteral("#ff0000");
+        const QString o = QStringLiteral("#123456");
+        const QStringList nothing;
+
+        QTest::newRow("palette colour")
+            << false << true << several << red << QStringList{opaque(r)} << r << r << 100 << opaque(r);
+        QTest::newRow("palette colour, opacity fixed")
+            << false << false << several << red << QStringList{opaque(r)} << r << r << 100 << opaque(r);
+        // First the slider, then the button.
+        QTest::newRow("translucent palette colour")
+            << false << true << several << halfRed << QStringList({half(r), half(r)}) << r << r << 50
+            << half(r);
+        QTest::newRow("translucent palette colour, opacity fixed")
+            << false << false << several << halfRed << QStringList{opaque(r)} << r << r << 100 << opaque(r);
+        QTest::newRow("checked palette colour with another alpha")
+            << false << true << red << halfRed << QStringList{half(r)} << r << r << 50 << half(r);
+        QTest::newRow("checked palette colour with another alpha, opacity fixed")
+            << false << false << red << halfRed << nothing << r << r << 100 << half(r);
+        QTest::newRow("from one palette colour to another")
+            << false << true << halfRed << OptionalColor(QColor(orange))
+            << QStringList({opaque(orange), opaque(orange)}) << orange << orange << 100 << opaque(orange);
+        QTest::newRow("palette colour of another model")
+            << false << true << several << OptionalColor(QColor::fromHsv(0, 255, 255))
+            << QStringList{opaque(r)} << r << r << 100 << opaque(r);
+        QTest::newRow("another colour")
+            << false << true << several << own << nothing << o << QString() << 100 << opaque(o);
+        QTest::newRow("another colour, translucent")
+            << false << true << several << halfOwn << QStringList{half(o)} << o << QString() << 50 << half(o);
+        QTest::newRow("another colour, translucent, opacity fixed")
+            << false << false << several << halfOwn << nothing << o << QString() << 100 << half(o);
+        QTest::newRow("another colour after a palette colour")
+            << false << true << red << own << nothing << o << QString() << 100 << opaque(o);
+        QTest::newRow("transparent black")
+            << false << true << several << OptionalColor(QColor(0, 0, 0, 0))
+            << QStringList({QStringLiteral("#00000000"), QStringLiteral("#00000000")})
+            << QStringLiteral("#000000") << QStringLiteral("#000000") << 0 << QStringLiteral("#00000000");
+        QTest::newRow("one of the user's own")
+            << false << true << several << OptionalColor(QColor(names(1).constFirst()))
+            << QStringList{opaque(names(1).constFirst())} << names(1).constFirst() << names(1).constFirst()
+            << 100 << opaque(names(1).constFirst());
+        QTest::newRow("no colour, with its button")
+            << true << true << halfRed << none << QStringList{QStringLiteral("none")}
+            << QStringLiteral("#null") << QStringLiteral("transparent") << 50 << QStringLiteral("none");
+        QTest::newRow("no colour, with its button, opacity fixed")
+            << true << false << red << none << QStringList{QStringLiteral("none")} << QStringLiteral("#null")
+            << QStringLiteral("transparent") << 100 << QStringLiteral("none");
+        QTest::newRow("no colour, without a button")
+            << false << true << halfRed << none << nothing << QStringLiteral("#null") << QString() << 50
+            << QStringLiteral("none");
+        QTest::newRow("several colours")
+            << true << true << halfRed << several << nothing << QStringLiteral("#multiple") << QString() << 50
+            << QStringLiteral("multiple");
+        QTest::newRow("several colours after no colour")
+            << true << false << none << several << nothing << QStringLiteral("#multiple") << QString() << 100
+            << QStringLiteral("multiple");
+    }
+
+    void setCurrentColor()
+    {
+        QFETCH(bool, nullColorAllowed);
+        QFETCH(bool, adjustable);
+        QFETCH(OptionalColor, before);
+        QFETCH(OptionalColor, color);
+        QFETCH(QStringList, reported);
+        QFETCH(QString, shown);
+        QFETCH(QString, checked);
+        QFETCH(int, opacity);
+        QFETCH(QString, current);
+        m_record->value = names(1);
+        Panel panel(nullColorAllowed);
+        panel.setOpacityAdjustmentAvailable(adjustable);
+        panel.setCurrentColor(before);
+        panel.log();
+        panel.setCurrentColor(color);
+        QCOMPARE(panel.log(), reported);
+        QCOMPARE(text(panel.currentColor()), current);
+        QCOMPARE(panel.edit->text(), shown);
+        QCOMPARE(panel.checked(), checked);
+        QCOMPARE(panel.slider->value(), opacity);
+        QCOMPARE(panel.spinBox->value(), opacity);
+        QVERIFY(panel.group->exclusive());
+        QString face = shown;
+        if (!color || !color->isValid()) {
+            face = color ? QStringLiteral("null transparent") : QStringLiteral("multi transparent");
+        }
+        QCOMPARE(faceState(panel), face);
+    }
+
+    void sameColorDoesNothing()
+    {
+        Panel panel(true);
+        for (const OptionalColor& color :
+             {OptionalColor(QColor(1, 2, 3, 4)), OptionalColor(QColor()), OptionalColor()}) {
+            panel.setCurrentColor(color);
+            panel.log();
+            panel.edit->setText(QStringLiteral("#12"));
+            panel.setCurrentColor(color);
+            QCOMPARE(panel.log(), QStringList());
+            QCOMPARE(panel.edit->text(), QStringLiteral("#12"));
+        }
+    }
+
+    // The value that was set last wins, also when the slot comes between slider and button.
+    void setCurrentColorFromASlot()
+    {
+        Panel panel;
+        bool isFirst = true;
+        connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel, &isFirst] {
+            if (isFirst) {
+                isFirst = false;
+                panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+            }
+        });
+        panel.setCurrentColor(QColor(255, 0, 0, 128));
+        QCOMPARE(panel.log(), QStringList({QStringLiteral("#80ff0000"), QStringLiteral("#ff123456")}));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#123456"));
+        QCOMPARE(panel.checked(), QString());
+        QCOMPARE(panel.slider->value(), 100);
+    }
+
+    void severalColorsFromASlot()
+    {
+        Panel panel;
+        bool isFirst = true;
+        connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel, &isFirst] {
+            if (isFirst) {
+                isFirst = false;
+                panel.setCurrentColor(std::nullopt);
+            }
+        });
+        panel.edit->setText(QStringLiteral("#ff5d0"));
+        QTest::keyClick(panel.edit, Qt::Key_0);
+        // The button's report, and none of the edit after it.
+        QCOMPARE(panel.log(), QStringList{opaque(orange)});
+        QCOMPARE(panel.currentColor(), OptionalColor());
+        QCOMPARE(panel.edit->text(), QStringLiteral("#multiple"));
+        QCOMPARE(panel.checked(), QString());
+    }
+
+    void opacityByTheUser_data()
+    {
+        QTest::addColumn<QString>("color");
+        QTest::newRow("palette colour") << orange;
+        QTest::newRow("another colour") << QStringLiteral("#123456");
+    }
+
+    void opacityByTheUser()
+    {
+        QFETCH(QString, color);
+        Panel panel;
+        panel.show();
+        QApplication::setActiveWindow(&panel);
+        panel.setCurrentColor(QColor(color));
+        panel.log();
+        panel.slider->setFocus();
+        QTest::keyClick(panel.slider, Qt::Key_Left);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#fc") + color.mid(1)});
+        QCOMPARE(panel.spinBox->value(), 99);
+        QCOMPARE(panel.currentColor()->alphaF(), QColor::fromRgbF(0, 0, 0, 0.99).alphaF());
+        QTest::keyClick(panel.slider, Qt::Key_Home);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#00") + color.mid(1)});
+        panel.spinBox->setFocus();
+        panel.spinBox->selectAll();
+        QTest::keyClicks(panel.spinBox, QStringLiteral("50"));
+        QCOMPARE(panel.log(), QStringList({QStringLiteral("#0d") + color.mid(1), half(color)}));
+        QCOMPARE(panel.slider->doubleValue(), 0.5);
+        // The face and the text are of the opaque colour.
+        QCOMPARE(faceState(panel), color);
+        QCOMPARE(panel.edit->text(), color);
+        QTest::mousePress(panel.slider, Qt::LeftButton, {}, QPoint(0, panel.slider->height() / 2));
+        QTest::mouseRelease(panel.slider, Qt::LeftButton, {}, QPoint(0, panel.slider->height() / 2));
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#00") + color.mid(1)});
+    }
+
+    void opacityOfNoColor()
+    {
+        Panel panel(true);
+        panel.setCurrentColor(QColor());
+        panel.log();
+        panel.slider->setValue(30);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("none")});
+        // It is no colour as any other, without an alpha of its own.
+        QCOMPARE(panel.currentColor(), OptionalColor(QColor()));
+        QCOMPARE(panel.edit->text(), QStringLiteral("#null"));
+    }
+
+    void opacityOfSeveralColors()
+    {
+        Panel panel;
+        panel.slider->setValue(30);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), OptionalColor());
+    }
+
+    void emptiedOpacity_data()
+    {
+        QTest::addColumn<std::function<void(Panel*)>>("act");
+        const auto row = [](const char* name, const std::function<void(Panel*)>& act) {
+            QTest::newRow(name) << act;
+        };
+        row("loses the focus", [](Panel* panel) { panel->slider->setFocus(); });
+        row("is hidden", [](Panel* panel) { panel->hide(); });
+        row("the selector opens", [](Panel* panel) { panel->openPopup(); });
+    }
+
+    void emptiedOpacity()
+    {
+        QFETCH(std::function<void(Panel*)>, act);
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        emptySpinBox(&panel);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.slider->value(), 100);
+        act(&panel);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#00123456")});
+        QCOMPARE(panel.slider->value(), 0);
+        panel.hide();
+    }
+
+    void switchedOffOpacity()
+    {
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
+        panel.log();
+        panel.setOpacityAdjustmentAvailable(false);
+        QVERIFY(!panel.opacityAdjustmentAvailable());
+        QVERIFY(panel.part<OvFrame>("opacityPanel")->isHidden());
+        panel.slider->setValue(10);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(text(panel.currentColor()), QStringLiteral("#80123456"));
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 200));
+        QCOMPARE(panel.slider->value(), 10);
+        QCOMPARE(panel.log(), QStringList());
+    }
+
+    void switchedOnOpacity()
+    {
+        Panel panel;
+        panel.setOpacityAdjustmentAvailable(false);
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
+        QCOMPARE(panel.slider->value(), 100);
+        panel.setOpacityAdjustmentAvailable(true);
+        QVERIFY(!panel.part<OvFrame>("opacityPanel")->isHidden());
+        QCOMPARE(panel.slider->value(), 50);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#80123456")});
+        panel.setOpacityAdjustmentAvailable(true);
+        QCOMPARE(panel.log(), QStringList());
+        // Without a valid colour the slider stays.
+        for (const OptionalColor& color : {OptionalColor(QColor()), OptionalColor()}) {
+            panel.setOpacityAdjustmentAvailable(false);
+            panel.setCurrentColor(color);
+            panel.setOpacityAdjustmentAvailable(true);
+            QCOMPARE(panel.slider->value(), 50);
+            QCOMPARE(panel.log(), QStringList());
+        }
+    }
+
+    void pipetteButton()
+    {
+        Panel panel;
+        panel.show();
+        const QStringList expected{QStringLiteral("pipette"), QStringLiteral("close")};
+        QTest::mouseClick(panel.pipette, Qt::LeftButton);
+        QCOMPARE(panel.log(), expected);
+        QTest::keyClick(panel.pipette, Qt::Key_Space);
+        QCOMPARE(panel.log(), expected);
+        QVERIFY(panel.isVisible());
+        // The host feeds the result back.
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        QCOMPARE(panel.log(), QStringList());
+    }
+
+    void queueIsReadFromTheSettings_data()
+    {
+        QTest::addColumn<QStringList>("stored");
+        QTest::addColumn<QStringList>("offered");
+        const QString none = QStringLiteral("-");
+        QTest::newRow("nothing") << QStringList() << padded({});
+        QTest::newRow("one") << names(1) << padded(names(1));
+        QTest::newRow("eight") << names(8) << names(8);
+        QTest::newRow("nine") << names(9) << names(8);
+        QTest::newRow("a thousand") << names(1000) << names(8);
+        QTest::newRow("no colours") << QStringList{QStringLiteral("junk"), QString(), QStringLiteral("#12"),
+                                                   QStringLiteral("rgb(1,2,3)")}
+                                    << padded({});
+        QTest::newRow("gaps keep their place")
+            << QStringList{QStringLiteral("junk"), names(1).constFirst(), QStringLiteral("junk")}
+            << padded({none, names(1).constFirst()});
+        QTest::newRow("colours after the eighth entry stay out")
+            << QStringList{none, none, none, none, none, none, none, none, names(1).constFirst()}
+            << padded({});
+        QTest::newRow("in other words")
+            << QStringList{QStringLiteral("steelblue"), QStringLiteral("#FA0"), QStringLiteral("#ABCDEF")}
+            << padded({QStringLiteral("#4682b4"), QStringLiteral("#ffaa00"), QStringLiteral("#abcdef")});
+        QTest::newRow("with alpha") << QStringList{QStringLiteral("#80123456"), QStringLiteral("transparent")}
+                                    << padded({QStringLiteral("#123456"), QStringLiteral("#000000")});
+    }
+
+    void queueIsReadFromTheSettings()
+    {
+        QFETCH(QStringList, stored);
+        QFETCH(QStringList, offered);
+        m_record->value = stored;
+        Panel panel;
+        QCOMPARE(panel.queue(), offered);
+        panel.show();
+        QCOMPARE(panel.queue(), offered);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(m_record->writes, 0);
+    }
+
+    void settingsThatAreNoList()
+    {
+        for (const QVariant& value :
+             {QVariant(5), QVariant(QRect(1, 2, 3, 4)), QVariant(QByteArray(1000, '\0'))}) {
+            m_record->value = value;
+            const Panel panel;
+            QCOMPARE(panel.queue(), padded({}));
+        }
+        m_record->value = QStringLiteral("#123456");
+        const Panel panel;
+        QCOMPARE(panel.queue(), padded({QStringLiteral("#123456")}));
+        QCOMPARE(m_record->writes, 0);
+    }
+
+    void queueFollowsTheSettingsWhenShown()
+    {
+        m_record->value = names(2);
+        Panel panel;
+        panel.show();
+        QTest::mouseClick(panel.queueButton(0), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
+        panel.hide();
+        m_record->value = QStringList{QStringLiteral("#123456")} + names(2);
+        QCOMPARE(panel.queue(), padded(names(2)));
+        panel.show();
+        QCOMPARE(panel.queue(), padded(QStringList{QStringLiteral("#123456")} + names(2)));
+        // The colour is at another button now.
+        QCOMPARE(panel.checked(), names(1).constFirst());
+        QVERIFY(panel.queueButton(1)->isChecked());
+        QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
+        panel.hide();
+        panel.show();
+        QCOMPARE(panel.log(), QStringList());
+    }
+
+    void shorterListLeavesButtons()
+    {
+        m_record->value = names(3);
+        Panel panel;
+        m_record->value = names(1);
+        panel.show();
+        QCOMPARE(panel.queue(), padded(names(3)));
+        // They are not found by their colour any more, but give what they show.
+        panel.setCurrentColor(QColor(names(3).constLast()));
+        QCOMPARE(panel.checked(), QString());
+        QCOMPARE(panel.log(), QStringList());
+        QTest::mouseClick(panel.queueButton(1), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList{opaque(names(2).constLast())});
+    }
+
+    void ownColorIsChosen()
+    {
+        m_record->value = QStringList{QStringLiteral("#80123456")};
+        Panel panel;
+        panel.slider->setValue(0);
+        panel.show();
+        QTest::mouseClick(panel.queueButton(0), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#00123456")});
+        QCOMPARE(panel.edit->text(), QStringLiteral("#123456"));
+        QTest::mouseClick(panel.queueButton(1), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList());
+    }
+
+    void ownColorThatIsInThePalette()
+    {
+        m_record->value = QStringList{QStringLiteral("#ff0000")};
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(Qt::red));
+        QVERIFY(panel.queueButton(0)->isChecked());
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffff0000")});
+        // The button of the palette goes on working.
+        QTest::mouseClick(panel.paletteButton(1, 0), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffff0000")});
+        QVERIFY(panel.paletteButton(1, 0)->isChecked());
+        panel.hide();
+        panel.show();
+        QVERIFY(panel.paletteButton(1, 0)->isChecked());
+        QCOMPARE(panel.log(), QStringList());
+        // And is found again when the own colour is gone.
+        m_record->value = QStringList{QStringLiteral("#123456")};
+        panel.hide();
+        panel.show();
+        panel.setCurrentColor(std::nullopt);
+        panel.setCurrentColor(QColor(Qt::red));
+        QVERIFY(panel.paletteButton(1, 0)->isChecked());
+    }
+
+    void ownColorTwice()
+    {
+        m_record->value = QStringList{QStringLiteral("#ABCDEF"), QStringLiteral("#abcdef")};
+        Panel panel;
+        panel.show();
+        for (const int index : {0, 1, 0}) {
+            QTest::mouseClick(panel.queueButton(index), Qt::LeftButton);
+            QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffabcdef")});
+            QVERIFY(panel.queueButton(index)->isChecked());
+        }
+        panel.hide();
+        panel.show();
+        QVERIFY(panel.queueButton(0)->isChecked());
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(m_record->writes, 0);
+    }
+
+    void popup()
+    {
+        Panel panel;
+        panel.show();
+        panel.openPopup();
+        QDialog* const dialog = panel.popup();
+        QCOMPARE(QByteArray(dialog->metaObject()->className()), QByteArray("QDialog"));
+        QCOMPARE(dialog->parentWidget(), &panel);
+        QCOMPARE(dialog->windowType(), Qt::Popup);
+        QCOMPARE(dialog->property("roundedEdges"), QVariant(true));
+        QVERIFY(dialog->testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(dialog->layout()->contentsMargins(), QMargins());
+        QCOMPARE(dialog->layout()->spacing(), 0);
+        const auto children = dialog->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(children.size(), 1);
+        QCOMPARE(QByteArray(children.front()->metaObject()->className()),
+                 QByteArray("CustomColorSelectWidget"));
+        QCOMPARE(dialog->size(), children.front()->size());
+        // There is something to see without any sheet.
+        QCOMPARE(panel.plane()->size(), QSize(200, 160));
+        QCOMPARE(panel.log(), QStringList());
+        // It is made once.
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        panel.openPopup();
+        QCOMPARE(panel.findChildren<QDialog*>(), QList<QDialog*>{dialog});
+        dialog->close();
+    }
+
+    void popupPlace()
+    {
+        Panel panel;
+        const QPoint middle = panel.screen()->availableGeometry().center();
+        panel.move(middle);
+        panel.show();
+        panel.openPopup();
+        const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
+        const QDialog* const dialog = panel.popup();
+        QCOMPARE(dialog->x(), button.x() + button.width());
+        QCOMPARE(dialog->y() + dialog->height(), button.y() + button.height());
+        panel.popup()->close();
+        // Each time anew, with the size that it needs then.
+        panel.move(middle - QPoint(50, 30));
+        panel.hueSlider()->setMinimumHeight(60);
+        panel.openPopup();
+        QCOMPARE(dialog->x(), button.x() + button.width() - 50);
+        QCOMPARE(dialog->y() + dialog->height(), button.y() + button.height() - 30);
+        QCOMPARE(dialog->size(), dialog->sizeHint());
+        panel.popup()->close();
+    }
+
+    void popupStaysOnTheScreen()
+    {
+        Panel panel;
+        const QRect area = panel.screen()->availableGeometry();
+        panel.show();
+        for (const QPoint& corner : {area.topLeft(), area.bottomRight()}) {
+            panel.move(corner - panel.addButton->mapTo(&panel, panel.addButton->rect().center()));
+            panel.openPopup();
+            QVERIFY(area.contains(panel.popup()->geometry()));
+            // It leaves the button to be seen, and clicked again.
+            const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
+            QVERIFY(!button.intersects(panel.popup()->geometry()));
+            panel.popup()->close();
+        }
+    }
+
+    void popupBeginsAtTheColor_data()
+    {
+        QTest::addColumn<OptionalColor>("color");
+        QTest::addColumn<int>("hue");
+        QTest::addColumn<QString>("marker");
+        QTest::newRow("several") << OptionalColor() << 0 << QStringLiteral("bottom left");
+        QTest::newRow("none") << OptionalColor(QColor()) << 0 << QStringLiteral("bottom left");
+        QTest::newRow("blue") << OptionalColor(QColor(Qt::blue)) << 240 << QStringLiteral("top right");
+        QTest::newRow("translucent") << OptionalColor(QColor(0, 255, 0, 10)) << 120
+                                     << QStringLiteral("top right");
+    }
+
+    void popupBeginsAtTheColor()
+    {
+        QFETCH(OptionalColor, color);
+        QFETCH(int, hue);
+        QFETCH(QString, marker);
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(color);
+        panel.log();
+        panel.openPopup();
+        QTRY_COMPARE(panel.hueSlider()->value(), hue);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), color);
+        // A step to the inside shows where the marker is.
+        const bool atTheRight = marker.endsWith(QStringLiteral("right"));
+        QTest::keyClick(panel.plane(), atTheRight ? Qt::Key_Left : Qt::Key_Right);
+        const QSize size = panel.plane()->size();
+        const QPoint place = atTheRight ? QPoint(size.width() - 2, 0) : QPoint(1, size.height() - 1);
+        QColor expected = panel.planeColor(hue, place);
+        expected.setAlphaF(panel.slider->doubleValue());
+        QCOMPARE(panel.log(), QStringList{text(expected)});
+        panel.popup()->close();
+    }
+
+    void popupBeginsAtTheColorAgain()
+    {
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(Qt::blue));
+        panel.openPopup();
+        panel.popup()->close();
+        panel.setCurrentColor(QColor(Qt::green));
+        panel.log();
+        panel.openPopup();
+        QTRY_COMPARE(panel.hueSlider()->value(), 120);
+        QCoreApplication::processEvents();
+        // To open it is not to choose anything.
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), OptionalColor(QColor(Qt::green)));
+        panel.popup()->close();
+    }
+
+    void popupKeepsTheHueOfAGrey()
+    {
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(Qt::blue));
+        panel.openPopup();
+        const QPoint left(0, panel.plane()->height() / 2);
+        panel.clickPlane(left);
+        QCOMPARE(panel.currentColor()->hue(), -1);
+        panel.popup()->close();
+        panel.openPopup();
+        QCoreApplication::processEvents();
+        QCOMPARE(panel.hueSlider()->value(), 240);
+        panel.popup()->close();
+    }
+
+    void colorFollowsThePopup_data()
+    {
+        QTest::addColumn<bool>("adjustable");
+        QTest::addColumn<bool>("fedBack");
+        QTest::newRow("opacity adjustable") << true << false;
+        QTest::newRow("opacity fixed") << false << false;
+        QTest::newRow("fed back by the host") << true << true;
+        QTest::newRow("opacity fixed, fed back by the host") << false << true;
+    }
+
+    void colorFollowsThePopup()
+    {
+        QFETCH(bool, adjustable);
+        QFETCH(bool, fedBack);
+        Panel panel;
+        panel.show();
+        panel.setOpacityAdjustmentAvailable(adjustable);
+        panel.slider->setValue(30);
+        panel.setCurrentColor(QColor(0, 0, 255, 128));
+        QCOMPARE(panel.slider->value(), adjustable ? 50 : 30);
+        if (fedBack) {
+            connect(&panel, &ColorPickerWidget::colorChanged, &panel, &ColorPickerWidget::setCurrentColor);
+        }
+        panel.openPopup();
+        panel.log();
+        const auto chosen = [&panel, adjustable](int hue, const QPoint& point) {
+            QColor color = panel.planeColor(hue, point);
+            color.setAlphaF(adjustable ? 0.5 : 1.0);
+            return text(color);
+        };
+        const QString first = chosen(240, {50, 20});
+        const QString second = chosen(240, {60, 30});
+        const int slider = adjustable ? 50 : 30;
+
+        panel.pressPlane({50, 20});
+        QCOMPARE(panel.log(), QStringList{first});
+        QCOMPARE(panel.edit->text(), QLatin1Char('#') + first.mid(3));
+        QCOMPARE(faceState(panel), QLatin1Char('#') + first.mid(3));
+        QCOMPARE(panel.checked(), QString());
+        QCOMPARE(panel.slider->value(), slider);
+        panel.dragOverPlane({60, 30});
+        QCOMPARE(panel.log(), QStringList{second});
+        panel.releasePlane({60, 30});
+        QCOMPARE(panel.log(), QStringList{second});
+        QCOMPARE(text(panel.currentColor()), second);
+
+        panel.hueSlider()->setValue(0);
+        const QString third = chosen(0, {60, 30});
+        QCOMPARE(panel.log(), QStringList{third});
+        panel.popup()->close();
+        const QString added = QLatin1Char('#') + third.mid(3);
+        QCOMPARE(Settings::userCustomColors(), QStringList{added});
+        QCOMPARE(panel.queue(), padded({added}));
+        QCOMPARE(panel.log(), QStringList{third});
+    }
+
+    void popupMeetsAPaletteColor()
+    {
+        Panel panel(true);
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
+        panel.openPopup();
+        panel.log();
+        panel.hueSlider()->setValue(0);
+        panel.log();
+        // Pure red is in the corner, white in the other.
+        panel.pressPlane({panel.plane()->width() - 1, 0});
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#80ff0000")});
+        QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
+        panel.releasePlane({panel.plane()->width() - 1, 0});
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#80ff0000")});
+        panel.clickPlane({0, 0});
+        QCOMPARE(panel.log(), QStringList({QStringLiteral("#80ffffff"), QStringLiteral("#80ffffff")}));
+        QCOMPARE(panel.checked(), QStringLiteral("#ffffff"));
+        panel.clickPlane({40, 40});
+        QCOMPARE(panel.checked(), QString());
+        QVERIFY(panel.group->exclusive());
+        panel.popup()->close();
+    }
+
+    void popupByKeyboard()
+    {
+        Panel panel;
+        panel.show();
+        QApplication::setActiveWindow(&panel);
+        panel.setCurrentColor(QColor(Qt::blue));
+        panel.log();
+        panel.addButton->setFocus();
+        QTest::keyClick(panel.addButton, Qt::Key_Space);
+        QDialog* const dialog = panel.popup();
+        QVERIFY(dialog && dialog->isVisible());
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        QCoreApplication::processEvents();
+        QCOMPARE(dialog->focusWidget(), panel.plane());
+        QTest::keyClick(dialog->windowHandle(), Qt::Key_Left);
+        QCOMPARE(panel.log(), QStringList{text(panel.planeColor(240, {panel.plane()->width() - 2, 0}))});
+        QTest::keyClick(dialog->windowHandle(), Qt::Key_Tab);
+        QCOMPARE(dialog->focusWidget(), panel.hueSlider());
+        QTest::keyClick(dialog->windowHandle(), Qt::Key_Home);
+        QCOMPARE(panel.log(), QStringList{text(panel.planeColor(0, {panel.plane()->width() - 2, 0}))});
+        QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
+        QTRY_COMPARE(QApplication::focusWidget(), panel.addButton);
+    }
+
+    void hueStepsAreRelayed()
+    {
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        panel.openPopup();
+        panel.log();
+        panel.hueSlider()->setValue(10);
+        panel.hueSlider()->setValue(11);
+        panel.hueSlider()->setValue(11);
+        const QStringList log = panel.log();
+        QCOMPARE(log.size(), 2);
+        QCOMPARE(text(panel.currentColor()), log.back());
+        panel.popup()->close();
+    }
+
+    void closingAdds_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"Escape", "Return", "Enter", "click elsewhere", "hiding the panel"}) {
+            QTest::newRow(way) << QString::fromLatin1(way);
+        }
+    }
+
+    void closingAdds()
+    {
+        QFETCH(QString, way);
+        Panel panel;
+        panel.show();
+        QApplication::setActiveWindow(&panel);
+        panel.edit->setFocus();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        panel.openPopup();
+        QWindow* const window = panel.popup()->windowHandle();
+        QCOMPARE(panel.log(), QStringList());
+        if (way == QStringLiteral("Escape")) {
+            QTest::keyClick(window, Qt::Key_Escape);
+        } else if (way == QStringLiteral("Return")) {
+            QTest::keyClick(window, Qt::Key_Return);
+        } else if (way == QStringLiteral("Enter")) {
+            QTest::keyClick(window, Qt::Key_Enter, Qt::KeypadModifier);
+        } else if (way == QStringLiteral("click elsewhere")) {
+            QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(-3, -3));
+        } else {
+            panel.hide();
+        }
+        QVERIFY(!panel.popup()->isVisible());
+        QCOMPARE(panel.isVisible(), way != QStringLiteral("hiding the panel"));
+        QCOMPARE(panel.currentColor(), OptionalColor(QColor(0x12, 0x34, 0x56)));
+        QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#123456")});
+        if (panel.isVisible()) {
+            QCOMPARE(QApplication::focusWidget(), panel.addButton);
+        } else {
+            // A panel that is hidden may be about to go: it has nothing to say before it is seen again.
+            QCOMPARE(panel.log(), QStringList());
+            panel.show();
+        }
+        QCOMPARE(panel.queue(), padded({QStringLiteral("#123456")}));
+        QVERIFY(panel.queueButton(0)->isChecked());
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff123456")});
+    }
+
+    void closingAddsNothing_data()
+    {
+        QTest::addColumn<OptionalColor>("color");
+        QTest::newRow("several") << OptionalColor();
+        QTest::newRow("none") << OptionalColor(QColor());
+        QTest::newRow("of the palette") << OptionalColor(QColor(Qt::red));
+        QTest::newRow("of the palette, translucent") << OptionalColor(QColor(255, 0, 0, 5));
+        QTest::newRow("there already") << OptionalColor(QColor(names(1).constFirst()));
+    }
+
+    void closingAddsNothing()
+    {
+        QFETCH(OptionalColor, color);
+        m_record->value = names(3);
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(color);
+        const OptionalColor before = panel.currentColor();
+        panel.openPopup();
+        panel.log();
+        panel.popup()->close();
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.currentColor(), before);
+        QCOMPARE(m_record->writes, 0);
+        QCOMPARE(panel.queue(), padded(names(3)));
+    }
+
+    void escapeLeavesTheHostOpen()
+    {
+        for (const Qt::WindowType type : {Qt::Popup, Qt::Dialog}) {
+            QDialog host(nullptr, type);
+            QSignalSpy finished(&host, &QDialog::finished);
+            auto* layout = new QVBoxLayout(&host);
+            auto* panel = new Panel;
+            layout->addWidget(panel);
+            host.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&host));
+            panel->openPopup();
+            QTest::keyClick(panel->popup()->windowHandle(), Qt::Key_Escape);
+            QVERIFY(!panel->popup()->isVisible());
+            QVERIFY(host.isVisible());
+            QCOMPARE(finished.count(), 0);
+            QTRY_COMPARE(host.focusWidget(), panel->addButton);
+            QTest::keyClick(host.windowHandle(), Qt::Key_Escape);
+            QVERIFY(!host.isVisible());
+        }
+    }
+
+    void ninthColor()
+    {
+        m_record->value = names(8);
+        Panel panel;
+        panel.show();
+        QToolButton* const last = panel.queueButton(7);
+        const QStringList added = {QStringLiteral("#123456"), QStringLiteral("#654321")};
+        QStringList expected = names(8);
+        for (const QString& color : added) {
+            QToolButton* const reused = panel.queueButton(7);
+            const QString dropped = expected.takeLast();
+            expected.prepend(color);
+            panel.setCurrentColor(QColor(color));
+            panel.log();
+            panel.openPopup();
+            panel.popup()->close();
+            QCOMPARE(panel.queue(), expected);
+            QCOMPARE(Settings::userCustomColors(), expected);
+            QCOMPARE(panel.queueButton(0), reused);
+            QCOMPARE(panel.log(), QStringList{opaque(color)});
+            QCOMPARE(panel.checked(), color);
+            // Its old colour is gone.
+            panel.setCurrentColor(QColor(dropped));
+            QCOMPARE(panel.checked(), QString());
+            QCOMPARE(panel.log(), QStringList());
+        }
+        QCOMPARE(panel.queueButton(1), last);
+        panel.hide();
+        panel.show();
+        QCOMPARE(panel.queue(), expected);
+        // Tab and arrow keys go by what is seen.
+        QWidget* next = panel.addButton;
+        for (int i = 0; i < 8; ++i) {
+            next = next->nextInFocusChain();
+            QCOMPARE(next, panel.queueButton(i));
+        }
+    }
+
+    void addedColorTakesTheOpacity()
+    {
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
+        panel.log();
+        panel.openPopup();
+        panel.popup()->close();
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#80123456")});
+        panel.setOpacityAdjustmentAvailable(false);
+        panel.setCurrentColor(QColor(0x65, 0x43, 0x21, 128));
+        panel.log();
+        panel.openPopup();
+        panel.popup()->close();
+        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff654321")});
+        QCOMPARE(Settings::userCustomColors(),
+                 QStringList({QStringLiteral("#654321"), QStringLiteral("#123456")}));
+    }
+
+    // It is stored in upper case by somebody else, which makes two entries of one colour.
+    void addedColorThatIsShownAlready()
+    {
+        QStringList stored = names(7);
+        stored += QStringLiteral("#ABCDEF");
+        m_record->value = stored;
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0xab, 0xcd, 0xef));
+        QVERIFY(panel.queueButton(7)->isChecked());
+        panel.log();
+        panel.openPopup();
+        panel.popup()->close();
+        QCOMPARE(panel.queue(), QStringList{QStringLiteral("#abcdef")} + names(7));
+        QCOMPARE(Settings::userCustomColors(), panel.queue());
+        QVERIFY(panel.queueButton(0)->isChecked());
+        QCOMPARE(panel.log(), QStringList());
+    }
+
+    void unwritableSettings()
+    {
+        m_record->value = names(8);
+        m_record->isWritable = false;
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        panel.openPopup();
+        panel.popup()->close();
+        const QStringList expected = QStringList{QStringLiteral("#123456")} + names(7);
+        QCOMPARE(panel.queue(), expected);
+        QCOMPARE(m_record->value.toStringList(), names(8));
+        // Kept until the end of the program, for the next panel too.
+        QCOMPARE(Panel().queue(), expected);
+    }
+
+    void twoPanels()
+    {
+        Panel one;
+        Panel other;
+        one.show();
+        other.show();
+        const auto add = [](Panel& panel, const QColor& color) {
+            panel.setCurrentColor(color);
+            panel.openPopup();
+            panel.popup()->close();
+        };
+        const QString first = QStringLiteral("#111213");
+        const QString second = QStringLiteral("#212223");
+        add(one, QColor(first));
+        QCOMPARE(other.queue(), padded({}));
+        add(other, QColor(second));
+        QCOMPARE(Settings::userCustomColors(), QStringList({second, first}));
+        QCOMPARE(one.queue(), padded({first}));
+        QCOMPARE(other.queue(), padded({second}));
+        // The same colour at the other one is no second entry.
+        add(other, QColor(first));
+        QCOMPARE(Settings::userCustomColors(), QStringList({second, first}));
+        one.log();
+        other.log();
+        one.hide();
+        one.show();
+        other.hide();
+        other.show();
+        QCOMPARE(one.queue(), padded({second, first}));
+        QCOMPARE(other.queue(), padded({second, first}));
+        QCOMPARE(one.checked(), first);
+        QCOMPARE(one.log(), QStringList{opaque(first)});
+        QCOMPARE(other.log(), QStringList{opaque(first)});
+    }
+
+    void deletedByASlot_data()
+    {
+        using Action = std::function<void(Panel*)>;
+        QTest::addColumn<Action>("prepare");
+        QTest::addColumn<Action>("act");
+        QTest::addColumn<int>("signal"); // which of those that come
+        // A parent hides the panel before it deletes it, and the panel reports what the user has left
+        // unfinished.
+        QTest::addColumn<int>("moreFromTheParent");
+        const auto row = [](const char* name, const Action& prepare, const Action& act, int signal = 1,
+                            int moreFromTheParent = 0) {
+            QTest::newRow(name) << prepare << act << signal << moreFromTheParent;
+        };
+        const Action nothing = [](Panel*) {};
+        const Action setOwn = [](Panel* panel) { panel->setCurrentColor(QColor(0x12, 0x34, 0x56)); };
+        const Action open = [](Panel* panel) {
+            panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
+            panel->openPopup();
+        };
+        row("click in the palette", nothing,
+            [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
+        row(
+            "click in the palette, another was checked",
+            [](Panel* panel) { panel->setCurrentColor(QColor(Qt::red)); },
+            [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
+        const Action emptyBox = [setOwn](Panel* panel) {
+            setOwn(panel);
+            emptySpinBox(panel);
+        };
+        row(
+            "click in the palette, the opacity box is empty", emptyBox,
+            [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); }, 1, 1);
+        row("add button, the opacity box is empty", emptyBox,
+            [](Panel* panel) { QTest::mouseClick(panel->addButton, Qt::LeftButton); });
+        row("empty opacity box left by Tab", emptyBox,
+            [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Tab); });
+        row("palette by space", nothing,
+            [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 1), Qt::Key_Space); });
+        row(
+            "palette by arrow key",
+            [](Panel* panel) {
+                QApplication::setActiveWindow(panel->window());
+                panel->setCurrentColor(QColor(Qt::red));
+                panel->paletteButton(1, 0)->setFocus();
+            },
+            [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 0), Qt::Key_Right); });
+        row(
+            "typed, reported by the button",
+            [](Panel* panel) { panel->edit->setText(QStringLiteral("#ff5d0")); },
+            [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_0); });
+        row(
+            "typed, reported by the edit",
+            [](Panel* panel) { panel->edit->setText(QStringLiteral("#ff5d0")); },
+            [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_0); }, 2);
+        row(
+            "typed, of no button", [](Panel* panel) { panel->edit->setText(QStringLiteral("#12345")); },
+            [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_6); });
+        row("pasted", nothing, [](Panel* panel) { paste(panel->edit, QStringLiteral("#123456")); });
+        row("opacity slider by key", setOwn,
+            [](Panel* panel) { QTest::keyClick(panel->slider, Qt::Key_Left); });
+        row("opacity slider by mouse", setOwn, [](Panel* panel) {
+            QTest::mouseClick(panel->slider, Qt::LeftButton, {}, QPoint(1, panel->slider->height() / 2));
+        });
+        row("opacity spin box", setOwn, [](Panel* panel) {
+            panel->spinBox->selectAll();
+            QTest::keyClick(panel->spinBox, Qt::Key_5);
+        });
+        row("opacity spin box by arrow key", setOwn,
+            [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Down); });
+        row("setCurrentColor, reported by the slider", nothing,
+            [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); });
+        row(
+            "setCurrentColor, reported by the button", nothing,
+            [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); }, 2);
+        row(
+            "setOpacityAdjustmentAvailable",
+            [](Panel* panel) {
+                panel->setOpacityAdjustmentAvailable(false);
+                panel->setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
+            },
+            [](Panel* panel) { panel->setOpacityAdjustmentAvailable(true); });
+        row("pipette", nothing, [](Panel* panel) { QTest::mouseClick(panel->pipette, Qt::LeftButton); });
+        row("pipette by space", nothing,
+            [](Panel* panel) { QTest::keyClick(panel->pipette, Qt::Key_Space); });
+        row(
+            "close", nothing, [](Panel* panel) { QTest::mouseClick(panel->pipette, Qt::LeftButton); }, 2);
+        row("pressed in the pop-up", open, [](Panel* panel) { panel->pressPlane({40, 40}); });
+        row(
+            "dragged in the pop-up",
+            [open](Panel* panel) {
+                open(panel);
+                panel->pressPlane({40, 40});
+            },
+            [](Panel* panel) {
+                panel->dragOverPlane({60, 30});
+            });
+        row(
+            "released in the pop-up",
+            [open](Panel* panel) {
+                open(panel);
+                panel->pressPlane({40, 40});
+            },
+            [](Panel* panel) {
+                panel->releasePlane({40, 40});
+            });
+        row("hue by key", open, [](Panel* panel) { QTest::keyClick(panel->hueSlider(), Qt::Key_Home); });
+        row("hue by mouse", open, [](Panel* panel) {
+            QTest::mouseClick(panel->hueSlider(), Qt::LeftButton, {},
+                              QPoint(1, panel->hueSlider()->height() / 2));
+        });
+        row("added by Escape", open,
+            [](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), Qt::Key_Escape); });
+        row("added by Return", open,
+            [](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), Qt::Key_Return); });
+        row("added by a click elsewhere", open, [](Panel* panel) {
+            QTest::mouseClick(panel->popup()->windowHandle(), Qt::LeftButton, {}, QPoint(-3, -3));
+        });
+    }
+
+    void deletedByASlot()
+    {
+        using Action = std::function<void(Panel*)>;
+        QFETCH(Action, prepare);
+        QFETCH(Action, act);
+        QFETCH(int, signal);
+        QFETCH(int, moreFromTheParent);
+        for (const Deletion deletion : allDeletions) {
+            for (const bool isParentDeleted : {false, true}) {
+                m_record->value.clear();
+                const int before = QApplication::allWidgets().size();
+                QPointer<QWidget> host = new QWidget;
+                auto* layout = new QVBoxLayout(host);
+                QPointer<Panel> panel = new Panel(false, host);
+                layout->addWidget(panel);
+                host->show();
+                QVERIFY(QTest::qWaitForWindowExposed(host));
+                prepare(panel);
+                int signals = 0;
+                const auto slot = [&] {
+                    if (++signals == signal) {
+                        destroy(isParentDeleted ? host.data() : panel.data(), deletion);
+                    }
+                };
+                connect(panel.data(), &ColorPickerWidget::colorChanged, this, slot);
+                connect(panel.data(), &ColorPickerWidget::pipetteRequested, this, slot);
+                connect(panel.data(), &ColorPickerWidget::closeRequested, this, slot);
+                {
+                    // Qt is not compiled for the sanitizer: what it goes on to read is a pattern that leads
+                    // nowhere.
+                    const FreedMemoryWatch memory;
+                    act(panel);
+                    QVERIFY(!panel);
+                    QCOMPARE(signals, signal + (isParentDeleted ? moreFromTheParent : 0));
+                    QTRY_COMPARE(QApplication::allWidgets().size(), before + (host ? 1 : 0));
+                    QVERIFY(memory.deleted() > 0);
+                    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+                }
+                delete host;
+            }
+        }
+    }
+
+    void popupDeletedByASlot()
+    {
+        Panel panel;
+        panel.show();
+        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel] { delete panel.popup(); });
+        panel.openPopup();
+        panel.pressPlane({40, 40});
+        QVERIFY(!panel.popup());
+        // The next one begins at the colour.
+        panel.openPopup();
+        panel.pressPlane({50, 40});
+        QVERIFY(!panel.popup());
+        QVERIFY(panel.currentColor().has_value());
+    }
+
+    void deletedWithAnEmptySpinBox()
+    {
+        auto panel = std::make_unique<Panel>();
+        panel->show();
+        panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
+        emptySpinBox(panel.get());
+        QSignalSpy spy(panel.get(), &ColorPickerWidget::colorChanged);
+        const FreedMemoryWatch memory;
+        panel.reset();
+        QCOMPARE(spy.count(), 0);
+        QVERIFY(memory.deleted() > 0);
+        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+    }
+
+    void deletedWhileThePopupIsOpen_data()
+    {
+        QTest::addColumn<bool>("turn");
+        QTest::newRow("at once") << false;
+        QTest::newRow("after a turn of the event loop") << true;
+    }
+
+    void deletedWhileThePopupIsOpen()
+    {
+        QFETCH(bool, turn);
+        const int before = QApplication::allWidgets().size();
+        auto panel = std::make_unique<Panel>();
+        panel->show();
+        panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
+        QTest::mouseClick(panel->addButton, Qt::LeftButton);
+        if (turn) {
+            QCoreApplication::processEvents();
+        }
+        QSignalSpy spy(panel.get(), &ColorPickerWidget::colorChanged);
+        panel.reset();
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(m_record->writes, 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(QApplication::allWidgets().size(), before);
+    }
+
+    void deletedDuringADrag()
+    {
+        auto panel = std::make_unique<Panel>();
+        panel->show();
+        panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
+        panel->openPopup();
+        panel->pressPlane({40, 40});
+        QCOMPARE(QWidget::mouseGrabber(), panel->plane());
+        panel.reset();
+        QVERIFY(!QWidget::mouseGrabber());
+        QCOMPARE(m_record->writes, 0);
+    }
+
+    void disabledPanel()
+    {
+        Panel panel;
+        panel.setCurrentColor(QColor(Qt::red));
+        panel.setEnabled(false);
+        panel.show();
+        panel.log();
+        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
+        QTest::mouseClick(panel.pipette, Qt::LeftButton);
+        QTest::mouseClick(panel.addButton, Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList());
+        QVERIFY(!panel.popup());
+        // The host may go on setting colours.
+        panel.setCurrentColor(QColor(orange));
+        QCOMPARE(panel.log(), QStringList{opaque(orange)});
+        QCOMPARE(panel.edit->text(), orange);
+        // Own colours that are missing stay disabled when the panel is enabled.
+        panel.setEnabled(true);
+        QCOMPARE(panel.queue(), padded({}));
+    }
+
+    void rightToLeft()
+    {
+        m_record->value = names(2);
+        Panel panel;
+        panel.setLayoutDirection(Qt::RightToLeft);
+        panel.move(panel.screen()->availableGeometry().center() - QPoint(300, 0));
+        panel.show();
+        QVERIFY(panel.paletteButton(0, 0)->x() > panel.paletteButton(0, 8)->x());
+        QVERIFY(panel.queueButton(0)->x() > panel.queueButton(1)->x());
+        panel.openPopup();
+        const QPoint corner = panel.addButton->mapToGlobal(QPoint(panel.addButton->width(), 0));
+        QCOMPARE(panel.popup()->x(), corner.x());
+        panel.popup()->close();
+    }
 
 private:
     std::shared_ptr<Record> m_record;
 };
-
-void tst_ColorPickerWidget::init()
-{
-    m_record = std::make_shared<Record>();
-    Settings::setStore(std::make_unique<RecordingStore>(m_record));
-}
-
-void tst_ColorPickerWidget::cleanup()
-{
-    QVERIFY(!QWidget::mouseGrabber());
-    QVERIFY(!QApplication::activePopupWidget());
-}
-
-void tst_ColorPickerWidget::cleanupTestCase()
-{
-    Settings::setStore(nullptr);
-}
-
-void tst_ColorPickerWidget::metaObject()
-{
-    const QMetaObject& meta = ColorPickerWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPickerWidget"));
-    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)"),
-                                            QStringLiteral("signal pipetteRequested()"),
-                                            QStringLiteral("signal closeRequested()")}));
-    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("color"));
-    QCOMPARE(ownProperties(meta), QStringList{QStringLiteral("int colorDialogOffset r")});
-    const Panel panel;
-    QCOMPARE(panel.property("colorDialogOffset").toInt(), 0);
-    QCOMPARE(panel.GetcolorDialogOffset(), 0);
-    static_assert(std::is_same_v<decltype(panel.currentColor()), const OptionalColor&>);
-}
-
-void tst_ColorPickerWidget::parts_data()
-{
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("parentName");
-    const auto row = [](const char* name, const char* className, const char* parentName) {
-        QTest::newRow(name) << QString::fromLatin1(className) << QString::fromLatin1(parentName);
-    };
-    row("topPanel", "OvFrame", "panel");
-    row("colorMatrixPanel", "OvFrame", "panel");
-    row("otherColorsPanel", "OvFrame", "panel");
-    row("opacityPanel", "OvFrame", "panel");
-    row("currentColorDisplayLabel", "QLabel", "topPanel");
-    row("currentColorValueEdit", "Orvane::Tessel::TesselLineEdit", "topPanel");
-    row("pipetteButton", "QToolButton", "topPanel");
-    row("otherColorsTitleLabel", "QLabel", "otherColorsPanel");
-    row("addCustomColorButton", "QToolButton", "otherColorsPanel");
-    row("otherColorsQueuePanel", "OvFrame", "otherColorsPanel");
-    row("opacityTitleLabel", "QLabel", "opacityPanel");
-    row("opacitySlider", "OvDoubleSlider", "opacityPanel");
-    row("opacitySpinbox", "OvSpinBox", "opacityPanel");
-}
-
-void tst_ColorPickerWidget::parts()
-{
-    QFETCH(QString, className);
-    QFETCH(QString, parentName);
-    Panel panel;
-    panel.setObjectName(QStringLiteral("panel"));
-    const auto found = panel.findChildren<QWidget*>(QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(found.size(), 1);
-    QCOMPARE(QString::fromLatin1(found.front()->metaObject()->className()), className);
-    QCOMPARE(found.front()->parentWidget()->objectName(), parentName);
-}
-
-void tst_ColorPickerWidget::orderOfCreation()
-{
-    const Panel panel;
-    const auto childrenOf = [](const QWidget* widget) {
-        QStringList result;
-        const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QWidget* child : children) {
-            result += child->objectName();
-        }
-        return result.join(QLatin1Char(' '));
-    };
-    QCOMPARE(childrenOf(&panel), QStringLiteral("topPanel colorMatrixPanel otherColorsPanel opacityPanel"));
-    QCOMPARE(childrenOf(panel.part<OvFrame>("topPanel")),
-             QStringLiteral("currentColorDisplayLabel currentColorValueEdit pipetteButton"));
-    QCOMPARE(childrenOf(panel.part<OvFrame>("otherColorsPanel")),
-             QStringLiteral("otherColorsTitleLabel addCustomColorButton otherColorsQueuePanel"));
-    QCOMPARE(childrenOf(panel.part<OvFrame>("opacityPanel")),
-             QStringLiteral("opacityTitleLabel opacitySlider opacitySpinbox"));
-    QVERIFY(!panel.popup());
-}
-
-void tst_ColorPickerWidget::layouts()
-{
-    const Panel panel;
-    const auto check = [](const QWidget* owner, const char* className, const QString& items) {
-        const QLayout* layout = owner->layout();
-        QVERIFY(layout);
-        QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray(className));
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        QStringList found;
-        for (int i = 0; i < layout->count(); ++i) {
-            found += layout->itemAt(i)->widget()->objectName();
-        }
-        QCOMPARE(found.join(QLatin1Char(' ')), items);
-    };
-    check(&panel, "OvVBoxLayout", QStringLiteral("topPanel colorMatrixPanel otherColorsPanel opacityPanel"));
-    check(panel.part<OvFrame>("topPanel"), "OvHBoxLayout",
-          QStringLiteral("currentColorDisplayLabel currentColorValueEdit pipetteButton"));
-    check(panel.part<OvFrame>("colorMatrixPanel"), "OvGridLayout", QString(71, QLatin1Char(' ')));
-    check(panel.part<OvFrame>("otherColorsPanel"), "OvGridLayout",
-          QStringLiteral("otherColorsTitleLabel addCustomColorButton otherColorsQueuePanel"));
-    check(panel.part<OvFrame>("otherColorsQueuePanel"), "OvHBoxLayout", QString(7, QLatin1Char(' ')));
-    check(panel.part<OvFrame>("opacityPanel"), "OvGridLayout",
-          QStringLiteral("opacityTitleLabel opacitySlider opacitySpinbox"));
-}
-
-void tst_ColorPickerWidget::rowsOfTheGrids()
-{
-    const Panel panel;
-    for (const char* name : {"otherColorsPanel", "opacityPanel"}) {
-        auto* grid = qobject_cast<OvGridLayout*>(panel.part<OvFrame>(name)->layout());
-        QVERIFY(grid);
-        const auto place = [grid](int index) {
-            int row = 0;
-            int column = 0;
-            int rows = 0;
-            int columns = 0;
-            grid->getItemPosition(index, &row, &column, &rows, &columns);
-            return QRect(column, row, columns, rows);
-        };
-        // The title takes the whole row.
-        QCOMPARE(place(0), QRect(0, 0, 2, 1));
-        QCOMPARE(place(1), QRect(0, 1, 1, 1));
-        QCOMPARE(place(2), QRect(1, 1, 1, 1));
-        QCOMPARE(grid->itemAt(0)->alignment(), Qt::Alignment());
-        QCOMPARE(grid->rowStretch(0), 0);
-        QCOMPARE(grid->rowStretch(1), 0);
-    }
-}
-
-void tst_ColorPickerWidget::inputs()
-{
-    const Panel panel;
-    const auto* validator = qobject_cast<const QRegExpValidator*>(panel.edit->validator());
-    QVERIFY(validator);
-    QCOMPARE(validator->regExp(), QRegExp(QStringLiteral("^(#?)[a-fA-F0-9]{6}$")));
-    QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
-
-    QCOMPARE(panel.slider->orientation(), Qt::Horizontal);
-    QCOMPARE(panel.slider->minimum(), 0);
-    QCOMPARE(panel.slider->maximum(), 100);
-    QCOMPARE(panel.slider->multiplier(), 0.01);
-    QCOMPARE(panel.slider->value(), 100);
-    QCOMPARE(panel.slider->doubleValue(), 1.0);
-
-    QCOMPARE(panel.spinBox->minimum(), 0);
-    QCOMPARE(panel.spinBox->maximum(), 100);
-    QCOMPARE(panel.spinBox->suffix(), QStringLiteral("%"));
-    QCOMPARE(panel.spinBox->buttonSymbols(), QAbstractSpinBox::NoButtons);
-    QCOMPARE(panel.spinBox->correctionMode(), QAbstractSpinBox::CorrectToNearestValue);
-    QCOMPARE(panel.spinBox->value(), 100);
-    panel.spinBox->setValue(30);
-    QCOMPARE(panel.slider->doubleValue(), 0.3);
-    panel.slider->setValue(70);
-    QCOMPARE(panel.spinBox->text(), QStringLiteral("70%"));
-}
-
-void tst_ColorPickerWidget::styleHints()
-{
-    const Panel panel;
-    const auto hint = [](const QWidget* widget) { return widget->property("styleHint").toString(); };
-    QCOMPARE(hint(panel.pipette), QStringLiteral("LIGHT_GREY_TWO"));
-    QCOMPARE(hint(panel.spinBox), QStringLiteral("INPUT_LIGHT"));
-    QCOMPARE(hint(panel.edit), QStringLiteral("INPUT_LIGHT"));
-    QCOMPARE(hint(panel.slider), QStringLiteral("SLIDER_LIGHT"));
-    QCOMPARE(hint(panel.addButton), QString());
-}
-
-void tst_ColorPickerWidget::startsWithSeveralColors()
-{
-    Panel panel;
-    const auto check = [&panel] {
-        QCOMPARE(panel.currentColor(), OptionalColor());
-        QCOMPARE(panel.edit->text(), QStringLiteral("#multiple"));
-        QCOMPARE(faceState(panel), QStringLiteral("multi transparent"));
-        QCOMPARE(panel.checked(), QString());
-        QVERIFY(panel.opacityAdjustmentAvailable());
-        QCOMPARE(panel.log(), QStringList());
-    };
-    check();
-    panel.show();
-    QVERIFY(panel.part<OvFrame>("opacityPanel")->isVisible());
-    check();
-}
-
-void tst_ColorPickerWidget::textsFollowTheLanguage()
-{
-    const Panel panel;
-    const auto texts = [&panel] {
-        return QStringList{panel.part<QLabel>("otherColorsTitleLabel")->text(),
-                           panel.part<QLabel>("opacityTitleLabel")->text()};
-    };
-    const QStringList english{QStringLiteral("Other:"), QStringLiteral("Opacity:")};
-    QCOMPARE(texts(), english);
-    {
-        MarkingTranslator translator("ColorPickerWidget");
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::processEvents();
-        QCOMPARE(texts(), QStringList({QStringLiteral("<Other:>"), QStringLiteral("<Opacity:>")}));
-        QCoreApplication::removeTranslator(&translator);
-    }
-    QCoreApplication::processEvents();
-    QCOMPARE(texts(), english);
-}
-
-void tst_ColorPickerWidget::labelsLeadToControls()
-{
-    const Panel panel;
-    QCOMPARE(panel.part<QLabel>("opacityTitleLabel")->buddy(), panel.slider);
-    QCOMPARE(panel.part<QLabel>("otherColorsTitleLabel")->buddy(), panel.addButton);
-}
-
-void tst_ColorPickerWidget::tabOrder()
-{
-    m_record->value = names(3);
-    Panel panel;
-    panel.show();
-    QApplication::setActiveWindow(&panel);
-    panel.edit->setFocus();
-    QStringList stops;
-    for (int i = 0; i < 6; ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        const QWidget* const widget = QApplication::focusWidget();
-        stops += widget->objectName().isEmpty() ? widget->styleSheet() : widget->objectName();
-    }
-    QCOMPARE(stops.mid(0, 3),
-             QStringList({QStringLiteral("pipetteButton"), sheetOf(QStringLiteral("#ffffff")),
-                          QStringLiteral("addCustomColorButton")}));
-    // The group of the buttons is one stop; arrow keys lead to the others.
-    QCOMPARE(stops.mid(3), QStringList({QStringLiteral("opacitySlider"), QStringLiteral("opacitySpinbox"),
-                                        QStringLiteral("currentColorValueEdit")}));
-}
-
-void tst_ColorPickerWidget::paletteOf72Colors()
-{
-    const Panel panel;
-    const auto buttons = panel.part<OvFrame>("colorMatrixPanel")->findChildren<QToolButton*>();
-    QCOMPARE(buttons.size(), 72);
-    for (int i = 0; i < 72; ++i) {
-        const QToolButton* const button = panel.paletteButton(i / 9, i % 9);
-        QCOMPARE(button, buttons.at(i));
-        QCOMPARE(button->styleSheet(), sheetOf(QString::fromLatin1(palette[i / 9][i % 9])));
-        QVERIFY(button->isCheckable());
-        QVERIFY(button->isEnabled());
-        QVERIFY(!button->property("nullColor").isValid());
-        QCOMPARE(button->metaObject(), &QToolButton::staticMetaObject);
-    }
-}
-
-void tst_ColorPickerWidget::paletteWithNoColor()
-{
-    const Panel panel(true);
-    const auto buttons = panel.part<OvFrame>("colorMatrixPanel")->findChildren<QToolButton*>();
-    QCOMPARE(buttons.size(), 72);
-    QCOMPARE(panel.paletteButton(0, 0)->styleSheet(), sheetOf(QStringLiteral("transparent")));
-    QCOMPARE(panel.paletteButton(0, 0)->property("nullColor"), QVariant(true));
-    QCOMPARE(panel.paletteButton(0, 1)->styleSheet(), sheetOf(QStringLiteral("#ffffff")));
-    QVERIFY(!panel.paletteButton(0, 1)->property("nullColor").isValid());
-    for (int i = 2; i < 72; ++i) {
-        QCOMPARE(panel.paletteButton(i / 9, i % 9)->styleSheet(),
-                 sheetOf(QString::fromLatin1(palette[i / 9][i % 9])));
-    }
-    QVERIFY(!panel.paletteButton(QStringLiteral("#e3e3e3")));
-}
-
-void tst_ColorPickerWidget::colorButtonsAreOfOneGroup()
-{
-    const Panel panel;
-    QCOMPARE(panel.findChildren<QButtonGroup*>().size(), 1);
-    QVERIFY(panel.group->exclusive());
-    QCOMPARE(panel.group->buttons().size(), 80);
-    QCOMPARE(panel.group->buttons().mid(72, 8).front(), panel.queueButton(0));
-    for (int i = 0; i < 8; ++i) {
-        QVERIFY(panel.queueButton(i)->isCheckable());
-        QVERIFY(!panel.queueButton(i)->isEnabled());
-        QCOMPARE(panel.queueButton(i)->styleSheet(), QString());
-        QCOMPARE(panel.queueButton(i)->metaObject(), &QToolButton::staticMetaObject);
-    }
-}
-
-void tst_ColorPickerWidget::facesAreSeen()
-{
-    m_record->value = names(1);
-    Panel panel;
-    panel.setStyleSheet(QStringLiteral("QToolButton { border: none; width: 16px; height: 16px; }"));
-    panel.setCurrentColor(QColor(0, 0, 255, 100));
-    panel.show();
-    const auto middle = [](QWidget* widget) {
-        return widget->grab().toImage().pixelColor(widget->rect().center()).name();
-    };
-    QCOMPARE(middle(panel.paletteButton(1, 1)), orange);
-    QCOMPARE(middle(panel.paletteButton(7, 8)), QStringLiteral("#390023"));
-    QCOMPARE(middle(panel.queueButton(0)), names(1).constFirst());
-    QCOMPARE(middle(panel.face), QStringLiteral("#0000ff"));
-    QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-    QCOMPARE(middle(panel.face), orange);
-}
-
-void tst_ColorPickerWidget::clickInThePalette_data()
-{
-    QTest::addColumn<bool>("nullColorAllowed");
-    QTest::addColumn<bool>("adjustable");
-    QTest::addColumn<QString>("reported");
-    for (const bool allowed : {false, true}) {
-        const char* const first = allowed ? "with no colour, " : "";
-        QTest::addRow("%sopacity adjustable", first) << allowed << true << half(orange);
-        QTest::addRow("%sopacity fixed", first) << allowed << false << opaque(orange);
-    }
-}
-
-void tst_ColorPickerWidget::clickInThePalette()
-{
-    QFETCH(bool, nullColorAllowed);
-    QFETCH(bool, adjustable);
-    QFETCH(QString, reported);
-    Panel panel(nullColorAllowed);
-    panel.setOpacityAdjustmentAvailable(adjustable);
-    panel.slider->setValue(50);
-    panel.show();
-    QCOMPARE(panel.log(), QStringList());
-    QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{reported});
-    QCOMPARE(panel.edit->text(), orange);
-    QCOMPARE(faceState(panel), orange);
-    QCOMPARE(panel.checked(), orange);
-    QTest::keyClick(panel.paletteButton(1, 0), Qt::Key_Space);
-    QCOMPARE(panel.log(), QStringList{reported.left(3) + QStringLiteral("ff0000")});
-    QVERIFY(!panel.paletteButton(1, 1)->isChecked());
-}
-
-void tst_ColorPickerWidget::clickOnTheCheckedButtonSaysNothing()
-{
-    Panel panel;
-    panel.show();
-    QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-    panel.log();
-    QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList());
-    QVERIFY(panel.paletteButton(1, 1)->isChecked());
-}
-
-void tst_ColorPickerWidget::noColorIsChosen()
-{
-    Panel panel(true);
-    panel.setCurrentColor(QColor(Qt::red));
-    panel.log();
-    panel.show();
-    QTest::mouseClick(panel.paletteButton(0, 0), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("none")});
-    QCOMPARE(panel.currentColor(), OptionalColor(QColor()));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#null"));
-    QCOMPARE(faceState(panel), QStringLiteral("null transparent"));
-}
-
-void tst_ColorPickerWidget::arrowKeysChoose()
-{
-    m_record->value = names(8);
-    Panel panel;
-    panel.show();
-    QApplication::setActiveWindow(&panel);
-    panel.paletteButton(1, 1)->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-    QCOMPARE(QApplication::focusWidget(), panel.paletteButton(1, 2));
-    QCOMPARE(panel.log(), QStringList());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
-    QCOMPARE(panel.log(), QStringList({opaque(QStringLiteral("#ffc000")), opaque(QStringLiteral("#ffe9a5")),
-                                       opaque(QStringLiteral("#ffccae"))}));
-    QCOMPARE(QApplication::focusWidget(), panel.paletteButton(2, 1));
-    // On to the user's own colours.
-    panel.paletteButton(7, 0)->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-    QVERIFY(panel.part<OvFrame>("otherColorsQueuePanel")->isAncestorOf(QApplication::focusWidget()));
-}
-
-void tst_ColorPickerWidget::pastedDigitsGetTheirSign()
-{
-    Panel panel;
-    paste(panel.edit, QStringLiteral("ff0000"));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#ff0000"));
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), OptionalColor());
-    // One more edit, as any that ends in a colour: the button reports it, and so does the edit.
-    QTest::keyClick(panel.edit, Qt::Key_Backspace);
-    QCOMPARE(panel.log(), QStringList());
-    QTest::keyClick(panel.edit, Qt::Key_0);
-    QCOMPARE(panel.log(), QStringList({QStringLiteral("#ffff0000"), QStringLiteral("#ffff0000")}));
-    QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#ff0000"));
-}
-
-void tst_ColorPickerWidget::typedDigits()
-{
-    Panel panel;
-    typeAnew(panel.edit, QStringLiteral("f"));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#f"));
-    QTest::keyClicks(panel.edit, QStringLiteral("f5d0"));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#ff5d0"));
-    QCOMPARE(panel.log(), QStringList());
-    QTest::keyClicks(panel.edit, QStringLiteral("0"));
-    QCOMPARE(panel.log(), QStringList({opaque(orange), opaque(orange)}));
-    // Nothing goes behind the sixth digit.
-    QTest::keyClicks(panel.edit, QStringLiteral("1"));
-    QCOMPARE(panel.edit->text(), orange);
-    QCOMPARE(panel.log(), QStringList());
-    // An edit that is emptied stays so.
-    panel.edit->setText(QStringLiteral("#"));
-    QTest::keyClick(panel.edit, Qt::Key_Backspace);
-    QCOMPARE(panel.edit->text(), QString());
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), OptionalColor(QColor(orange)));
-}
-
-void tst_ColorPickerWidget::cursorStaysWhileTyping()
-{
-    Panel panel;
-    panel.edit->setText(QStringLiteral("ff500"));
-    panel.edit->setCursorPosition(3);
-    QTest::keyClicks(panel.edit, QStringLiteral("D"));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#ff5D00"));
-    QCOMPARE(panel.edit->cursorPosition(), 5);
-    QTest::keyClick(panel.edit, Qt::Key_Backspace);
-    // The button's colour is written back in its own way.
-    QTest::keyClicks(panel.edit, QStringLiteral("D"));
-    QCOMPARE(panel.edit->text(), orange);
-    QCOMPARE(panel.edit->cursorPosition(), 5);
-}
-
-void tst_ColorPickerWidget::colorsThatAreTyped_data()
-{
-    QTest::addColumn<bool>("adjustable");
-    QTest::addColumn<OptionalColor>("before");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QStringList>("reported");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<QString>("checked");
-
-    const OptionalColor several;
-    const OptionalColor red = QColor(255, 0, 0, 128);
-    const QString own = QStringLiteral("#123456");
-    QTest::newRow("of the palette") << true << several << orange << QStringList({half(orange), half(orange)})
-                                    << orange << orange;
-    QTest::newRow("of the palette, opacity fixed")
-        << false << several << orange << QStringList({opaque(orange), opaque(orange)}) << orange << orange;
-    QTest::newRow("of the palette, in upper case")
-        << true << several << orange.toUpper() << QStringList({half(orange), half(orange)}) << orange
-        << orange;
-    QTest::newRow("of the palette, checked already")
-        << true << red << QStringLiteral("#FF0000") << QStringList{QStringLiteral("#80ff0000")}
-        << QStringLiteral("#FF0000") << QStringLiteral("#ff0000");
-    QTest::newRow("another") << true << several << own << QStringList{half(own)} << own << QString();
-    QTest::newRow("another, opacity fixed")
-        << false << several << own << QStringList{opaque(own)} << own << QString();
-    QTest::newRow("another, with a button checked")
-        << true << red << own << QStringList{half(own)} << own << QString();
-    QTest::newRow("another, in upper case")
-        << true << several << QStringLiteral("#ABCDEF") << QStringList{QStringLiteral("#80abcdef")}
-        << QStringLiteral("#ABCDEF") << QString();
-    QTest::newRow("one of the user's own")
-        << true << several << names(1).constFirst()
-        << QStringList({half(names(1).constFirst()), half(names(1).constFirst())}) << names(1).constFirst()
-        << names(1).constFirst();
-}
-
-void tst_ColorPickerWidget::colorsThatAreTyped()
-{
-    QFETCH(bool, adjustable);
-    QFETCH(OptionalColor, before);
-    QFETCH(QString, typed);
-    QFETCH(QStringList, reported);
-    QFETCH(QString, shown);
-    QFETCH(QString, checked);
-    m_record->value = names(1);
-    Panel panel;
-    panel.slider->setDoubleValue(QColor(0, 0, 0, 128).alphaF());
-    panel.setOpacityAdjustmentAvailable(adjustable);
-    panel.setCurrentColor(before);
-    panel.log();
-    paste(panel.edit, typed);
-    QCOMPARE(panel.log(), reported);
-    QCOMPARE(panel.edit->text(), shown);
-    QCOMPARE(panel.checked(), checked);
-    QCOMPARE(faceState(panel), typed.toLower());
-    QVERIFY(panel.group->exclusive());
-    QCOMPARE(panel.slider->value(), 50);
-}
-
-void tst_ColorPickerWidget::textThatIsNoColor_data()
-{
-    QTest::addColumn<QString>("text");
-    for (const char* text : {"#", "#f", "#fff", "#ff000", "#gggggg", "#ff00000", "red", "#null", "#multiple",
-                             "ff00", "  ", "#ff 000", "#80ff0000"}) {
-        QTest::newRow(text) << QString::fromLatin1(text);
-    }
-    QTest::newRow("empty") << QString();
-    QTest::newRow("not of this alphabet") << QStringLiteral("#\u0661\u0661\u0661\u0661\u0661\u0661");
-}
-
-void tst_ColorPickerWidget::textThatIsNoColor()
-{
-    QFETCH(QString, text);
-    Panel panel;
-    panel.setCurrentColor(QColor(Qt::red));
-    panel.log();
-    // Past the validator, as a host's code may do.
-    panel.edit->setText(text);
-    Q_EMIT panel.edit->textEdited(text);
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), OptionalColor(QColor(Qt::red)));
-    QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
-    const bool isMarked = text.isEmpty() || text.startsWith(QLatin1Char('#'));
-    QCOMPARE(panel.edit->text(), isMarked ? text : QLatin1Char('#') + text);
-}
-
-void tst_ColorPickerWidget::typedOverNoColor()
-{
-    Panel panel(true);
-    panel.setCurrentColor(QColor());
-    panel.log();
-    typeAnew(panel.edit, QStringLiteral("#123456"));
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff123456")});
-    QCOMPARE(faceState(panel), QStringLiteral("#123456"));
-    QCOMPARE(panel.checked(), QString());
-}
-
-void tst_ColorPickerWidget::setCurrentColor_data()
-{
-    QTest::addColumn<bool>("nullColorAllowed");
-    QTest::addColumn<bool>("adjustable");
-    QTest::addColumn<OptionalColor>("before");
-    QTest::addColumn<OptionalColor>("color");
-    QTest::addColumn<QStringList>("reported");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<QString>("checked");
-    QTest::addColumn<int>("opacity");
-    QTest::addColumn<QString>("current");
-
-    const OptionalColor several;
-    const OptionalColor none = QColor();
-    const OptionalColor red = QColor(255, 0, 0);
-    const OptionalColor halfRed = QColor(255, 0, 0, 128);
-    const OptionalColor own = QColor(0x12, 0x34, 0x56);
-    const OptionalColor halfOwn = QColor(0x12, 0x34, 0x56, 128);
-    const QString r = QStringLiteral("#ff0000");
-    const QString o = QStringLiteral("#123456");
-    const QStringList nothing;
-
-    QTest::newRow("palette colour") << false << true << several << red << QStringList{opaque(r)} << r << r
-                                    << 100 << opaque(r);
-    QTest::newRow("palette colour, opacity fixed")
-        << false << false << several << red << QStringList{opaque(r)} << r << r << 100 << opaque(r);
-    // First the slider, then the button.
-    QTest::newRow("translucent palette colour")
-        << false << true << several << halfRed << QStringList({half(r), half(r)}) << r << r << 50 << half(r);
-    QTest::newRow("translucent palette colour, opacity fixed")
-        << false << false << several << halfRed << QStringList{opaque(r)} << r << r << 100 << opaque(r);
-    QTest::newRow("checked palette colour with another alpha")
-        << false << true << red << halfRed << QStringList{half(r)} << r << r << 50 << half(r);
-    QTest::newRow("checked palette colour with another alpha, opacity fixed")
-        << false << false << red << halfRed << nothing << r << r << 100 << half(r);
-    QTest::newRow("from one palette colour to another")
-        << false << true << halfRed << OptionalColor(QColor(orange))
-        << QStringList({opaque(orange), opaque(orange)}) << orange << orange << 100 << opaque(orange);
-    QTest::newRow("palette colour of another model")
-        << false << true << several << OptionalColor(QColor::fromHsv(0, 255, 255)) << QStringList{opaque(r)}
-        << r << r << 100 << opaque(r);
-    QTest::newRow("another colour") << false << true << several << own << nothing << o << QString() << 100
-                                    << opaque(o);
-    QTest::newRow("another colour, translucent")
-        << false << true << several << halfOwn << QStringList{half(o)} << o << QString() << 50 << half(o);
-    QTest::newRow("another colour, translucent, opacity fixed")
-        << false << false << several << halfOwn << nothing << o << QString() << 100 << half(o);
-    QTest::newRow("another colour after a palette colour")
-        << false << true << red << own << nothing << o << QString() << 100 << opaque(o);
-    QTest::newRow("transparent black")
-        << false << true << several << OptionalColor(QColor(0, 0, 0, 0))
-        << QStringList({QStringLiteral("#00000000"), QStringLiteral("#00000000")})
-        << QStringLiteral("#000000") << QStringLiteral("#000000") << 0 << QStringLiteral("#00000000");
-    QTest::newRow("one of the user's own")
-        << false << true << several << OptionalColor(QColor(names(1).constFirst()))
-        << QStringList{opaque(names(1).constFirst())} << names(1).constFirst() << names(1).constFirst() << 100
-        << opaque(names(1).constFirst());
-    QTest::newRow("no colour, with its button")
-        << true << true << halfRed << none << QStringList{QStringLiteral("none")} << QStringLiteral("#null")
-        << QStringLiteral("transparent") << 50 << QStringLiteral("none");
-    QTest::newRow("no colour, with its button, opacity fixed")
-        << true << false << red << none << QStringList{QStringLiteral("none")} << QStringLiteral("#null")
-        << QStringLiteral("transparent") << 100 << QStringLiteral("none");
-    QTest::newRow("no colour, without a button")
-        << false << true << halfRed << none << nothing << QStringLiteral("#null") << QString() << 50
-        << QStringLiteral("none");
-    QTest::newRow("several colours") << true << true << halfRed << several << nothing
-                                     << QStringLiteral("#multiple") << QString() << 50
-                                     << QStringLiteral("multiple");
-    QTest::newRow("several colours after no colour")
-        << true << false << none << several << nothing << QStringLiteral("#multiple") << QString() << 100
-        << QStringLiteral("multiple");
-}
-
-void tst_ColorPickerWidget::setCurrentColor()
-{
-    QFETCH(bool, nullColorAllowed);
-    QFETCH(bool, adjustable);
-    QFETCH(OptionalColor, before);
-    QFETCH(OptionalColor, color);
-    QFETCH(QStringList, reported);
-    QFETCH(QString, shown);
-    QFETCH(QString, checked);
-    QFETCH(int, opacity);
-    QFETCH(QString, current);
-    m_record->value = names(1);
-    Panel panel(nullColorAllowed);
-    panel.setOpacityAdjustmentAvailable(adjustable);
-    panel.setCurrentColor(before);
-    panel.log();
-    panel.setCurrentColor(color);
-    QCOMPARE(panel.log(), reported);
-    QCOMPARE(text(panel.currentColor()), current);
-    QCOMPARE(panel.edit->text(), shown);
-    QCOMPARE(panel.checked(), checked);
-    QCOMPARE(panel.slider->value(), opacity);
-    QCOMPARE(panel.spinBox->value(), opacity);
-    QVERIFY(panel.group->exclusive());
-    QString face = shown;
-    if (!color || !color->isValid()) {
-        face = color ? QStringLiteral("null transparent") : QStringLiteral("multi transparent");
-    }
-    QCOMPARE(faceState(panel), face);
-}
-
-void tst_ColorPickerWidget::sameColorDoesNothing()
-{
-    Panel panel(true);
-    for (const OptionalColor& color :
-         {OptionalColor(QColor(1, 2, 3, 4)), OptionalColor(QColor()), OptionalColor()}) {
-        panel.setCurrentColor(color);
-        panel.log();
-        panel.edit->setText(QStringLiteral("#12"));
-        panel.setCurrentColor(color);
-        QCOMPARE(panel.log(), QStringList());
-        QCOMPARE(panel.edit->text(), QStringLiteral("#12"));
-    }
-}
-
-// The value that was set last wins, also when the slot comes between slider and button.
-void tst_ColorPickerWidget::setCurrentColorFromASlot()
-{
-    Panel panel;
-    bool isFirst = true;
-    connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel, &isFirst] {
-        if (isFirst) {
-            isFirst = false;
-            panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-        }
-    });
-    panel.setCurrentColor(QColor(255, 0, 0, 128));
-    QCOMPARE(panel.log(), QStringList({QStringLiteral("#80ff0000"), QStringLiteral("#ff123456")}));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#123456"));
-    QCOMPARE(panel.checked(), QString());
-    QCOMPARE(panel.slider->value(), 100);
-}
-
-void tst_ColorPickerWidget::severalColorsFromASlot()
-{
-    Panel panel;
-    bool isFirst = true;
-    connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel, &isFirst] {
-        if (isFirst) {
-            isFirst = false;
-            panel.setCurrentColor(std::nullopt);
-        }
-    });
-    panel.edit->setText(QStringLiteral("#ff5d0"));
-    QTest::keyClick(panel.edit, Qt::Key_0);
-    // The button's report, and none of the edit after it.
-    QCOMPARE(panel.log(), QStringList{opaque(orange)});
-    QCOMPARE(panel.currentColor(), OptionalColor());
-    QCOMPARE(panel.edit->text(), QStringLiteral("#multiple"));
-    QCOMPARE(panel.checked(), QString());
-}
-
-void tst_ColorPickerWidget::opacityByTheUser_data()
-{
-    QTest::addColumn<QString>("color");
-    QTest::newRow("palette colour") << orange;
-    QTest::newRow("another colour") << QStringLiteral("#123456");
-}
-
-void tst_ColorPickerWidget::opacityByTheUser()
-{
-    QFETCH(QString, color);
-    Panel panel;
-    panel.show();
-    QApplication::setActiveWindow(&panel);
-    panel.setCurrentColor(QColor(color));
-    panel.log();
-    panel.slider->setFocus();
-    QTest::keyClick(panel.slider, Qt::Key_Left);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#fc") + color.mid(1)});
-    QCOMPARE(panel.spinBox->value(), 99);
-    QCOMPARE(panel.currentColor()->alphaF(), QColor::fromRgbF(0, 0, 0, 0.99).alphaF());
-    QTest::keyClick(panel.slider, Qt::Key_Home);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#00") + color.mid(1)});
-    panel.spinBox->setFocus();
-    panel.spinBox->selectAll();
-    QTest::keyClicks(panel.spinBox, QStringLiteral("50"));
-    QCOMPARE(panel.log(), QStringList({QStringLiteral("#0d") + color.mid(1), half(color)}));
-    QCOMPARE(panel.slider->doubleValue(), 0.5);
-    // The face and the text are of the opaque colour.
-    QCOMPARE(faceState(panel), color);
-    QCOMPARE(panel.edit->text(), color);
-    QTest::mousePress(panel.slider, Qt::LeftButton, {}, QPoint(0, panel.slider->height() / 2));
-    QTest::mouseRelease(panel.slider, Qt::LeftButton, {}, QPoint(0, panel.slider->height() / 2));
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#00") + color.mid(1)});
-}
-
-void tst_ColorPickerWidget::opacityOfNoColor()
-{
-    Panel panel(true);
-    panel.setCurrentColor(QColor());
-    panel.log();
-    panel.slider->setValue(30);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("none")});
-    // It is no colour as any other, without an alpha of its own.
-    QCOMPARE(panel.currentColor(), OptionalColor(QColor()));
-    QCOMPARE(panel.edit->text(), QStringLiteral("#null"));
-}
-
-void tst_ColorPickerWidget::opacityOfSeveralColors()
-{
-    Panel panel;
-    panel.slider->setValue(30);
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), OptionalColor());
-}
-
-void tst_ColorPickerWidget::emptiedOpacity_data()
-{
-    QTest::addColumn<std::function<void(Panel*)>>("act");
-    const auto row = [](const char* name, const std::function<void(Panel*)>& act) {
-        QTest::newRow(name) << act;
-    };
-    row("loses the focus", [](Panel* panel) { panel->slider->setFocus(); });
-    row("is hidden", [](Panel* panel) { panel->hide(); });
-    row("the selector opens", [](Panel* panel) { panel->openPopup(); });
-}
-
-void tst_ColorPickerWidget::emptiedOpacity()
-{
-    QFETCH(std::function<void(Panel*)>, act);
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-    emptySpinBox(&panel);
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.slider->value(), 100);
-    act(&panel);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#00123456")});
-    QCOMPARE(panel.slider->value(), 0);
-    panel.hide();
-}
-
-void tst_ColorPickerWidget::switchedOffOpacity()
-{
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-    panel.log();
-    panel.setOpacityAdjustmentAvailable(false);
-    QVERIFY(!panel.opacityAdjustmentAvailable());
-    QVERIFY(panel.part<OvFrame>("opacityPanel")->isHidden());
-    panel.slider->setValue(10);
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(text(panel.currentColor()), QStringLiteral("#80123456"));
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 200));
-    QCOMPARE(panel.slider->value(), 10);
-    QCOMPARE(panel.log(), QStringList());
-}
-
-void tst_ColorPickerWidget::switchedOnOpacity()
-{
-    Panel panel;
-    panel.setOpacityAdjustmentAvailable(false);
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-    QCOMPARE(panel.slider->value(), 100);
-    panel.setOpacityAdjustmentAvailable(true);
-    QVERIFY(!panel.part<OvFrame>("opacityPanel")->isHidden());
-    QCOMPARE(panel.slider->value(), 50);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#80123456")});
-    panel.setOpacityAdjustmentAvailable(true);
-    QCOMPARE(panel.log(), QStringList());
-    // Without a valid colour the slider stays.
-    for (const OptionalColor& color : {OptionalColor(QColor()), OptionalColor()}) {
-        panel.setOpacityAdjustmentAvailable(false);
-        panel.setCurrentColor(color);
-        panel.setOpacityAdjustmentAvailable(true);
-        QCOMPARE(panel.slider->value(), 50);
-        QCOMPARE(panel.log(), QStringList());
-    }
-}
-
-void tst_ColorPickerWidget::pipetteButton()
-{
-    Panel panel;
-    panel.show();
-    const QStringList expected{QStringLiteral("pipette"), QStringLiteral("close")};
-    QTest::mouseClick(panel.pipette, Qt::LeftButton);
-    QCOMPARE(panel.log(), expected);
-    QTest::keyClick(panel.pipette, Qt::Key_Space);
-    QCOMPARE(panel.log(), expected);
-    QVERIFY(panel.isVisible());
-    // The host feeds the result back.
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-    QCOMPARE(panel.log(), QStringList());
-}
-
-void tst_ColorPickerWidget::queueIsReadFromTheSettings_data()
-{
-    QTest::addColumn<QStringList>("stored");
-    QTest::addColumn<QStringList>("offered");
-    const QString none = QStringLiteral("-");
-    QTest::newRow("nothing") << QStringList() << padded({});
-    QTest::newRow("one") << names(1) << padded(names(1));
-    QTest::newRow("eight") << names(8) << names(8);
-    QTest::newRow("nine") << names(9) << names(8);
-    QTest::newRow("a thousand") << names(1000) << names(8);
-    QTest::newRow("no colours") << QStringList{QStringLiteral("junk"), QString(), QStringLiteral("#12"),
-                                               QStringLiteral("rgb(1,2,3)")}
-                                << padded({});
-    QTest::newRow("gaps keep their place")
-        << QStringList{QStringLiteral("junk"), names(1).constFirst(), QStringLiteral("junk")}
-        << padded({none, names(1).constFirst()});
-    QTest::newRow("colours after the eighth entry stay out")
-        << QStringList{none, none, none, none, none, none, none, none, names(1).constFirst()} << padded({});
-    QTest::newRow("in other words") << QStringList{QStringLiteral("steelblue"), QStringLiteral("#FA0"),
-                                                   QStringLiteral("#ABCDEF")}
-                                    << padded({QStringLiteral("#4682b4"), QStringLiteral("#ffaa00"),
-                                               QStringLiteral("#abcdef")});
-    QTest::newRow("with alpha") << QStringList{QStringLiteral("#80123456"), QStringLiteral("transparent")}
-                                << padded({QStringLiteral("#123456"), QStringLiteral("#000000")});
-}
-
-void tst_ColorPickerWidget::queueIsReadFromTheSettings()
-{
-    QFETCH(QStringList, stored);
-    QFETCH(QStringList, offered);
-    m_record->value = stored;
-    Panel panel;
-    QCOMPARE(panel.queue(), offered);
-    panel.show();
-    QCOMPARE(panel.queue(), offered);
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(m_record->writes, 0);
-}
-
-void tst_ColorPickerWidget::settingsThatAreNoList()
-{
-    for (const QVariant& value :
-         {QVariant(5), QVariant(QRect(1, 2, 3, 4)), QVariant(QByteArray(1000, '\0'))}) {
-        m_record->value = value;
-        const Panel panel;
-        QCOMPARE(panel.queue(), padded({}));
-    }
-    m_record->value = QStringLiteral("#123456");
-    const Panel panel;
-    QCOMPARE(panel.queue(), padded({QStringLiteral("#123456")}));
-    QCOMPARE(m_record->writes, 0);
-}
-
-void tst_ColorPickerWidget::queueFollowsTheSettingsWhenShown()
-{
-    m_record->value = names(2);
-    Panel panel;
-    panel.show();
-    QTest::mouseClick(panel.queueButton(0), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
-    panel.hide();
-    m_record->value = QStringList{QStringLiteral("#123456")} + names(2);
-    QCOMPARE(panel.queue(), padded(names(2)));
-    panel.show();
-    QCOMPARE(panel.queue(), padded(QStringList{QStringLiteral("#123456")} + names(2)));
-    // The colour is at another button now.
-    QCOMPARE(panel.checked(), names(1).constFirst());
-    QVERIFY(panel.queueButton(1)->isChecked());
-    QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
-    panel.hide();
-    panel.show();
-    QCOMPARE(panel.log(), QStringList());
-}
-
-void tst_ColorPickerWidget::shorterListLeavesButtons()
-{
-    m_record->value = names(3);
-    Panel panel;
-    m_record->value = names(1);
-    panel.show();
-    QCOMPARE(panel.queue(), padded(names(3)));
-    // They are not found by their colour any more, but give what they show.
-    panel.setCurrentColor(QColor(names(3).constLast()));
-    QCOMPARE(panel.checked(), QString());
-    QCOMPARE(panel.log(), QStringList());
-    QTest::mouseClick(panel.queueButton(1), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{opaque(names(2).constLast())});
-}
-
-void tst_ColorPickerWidget::ownColorIsChosen()
-{
-    m_record->value = QStringList{QStringLiteral("#80123456")};
-    Panel panel;
-    panel.slider->setValue(0);
-    panel.show();
-    QTest::mouseClick(panel.queueButton(0), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#00123456")});
-    QCOMPARE(panel.edit->text(), QStringLiteral("#123456"));
-    QTest::mouseClick(panel.queueButton(1), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList());
-}
-
-void tst_ColorPickerWidget::ownColorThatIsInThePalette()
-{
-    m_record->value = QStringList{QStringLiteral("#ff0000")};
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(Qt::red));
-    QVERIFY(panel.queueButton(0)->isChecked());
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffff0000")});
-    // The button of the palette goes on working.
-    QTest::mouseClick(panel.paletteButton(1, 0), Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffff0000")});
-    QVERIFY(panel.paletteButton(1, 0)->isChecked());
-    panel.hide();
-    panel.show();
-    QVERIFY(panel.paletteButton(1, 0)->isChecked());
-    QCOMPARE(panel.log(), QStringList());
-    // And is found again when the own colour is gone.
-    m_record->value = QStringList{QStringLiteral("#123456")};
-    panel.hide();
-    panel.show();
-    panel.setCurrentColor(std::nullopt);
-    panel.setCurrentColor(QColor(Qt::red));
-    QVERIFY(panel.paletteButton(1, 0)->isChecked());
-}
-
-void tst_ColorPickerWidget::ownColorTwice()
-{
-    m_record->value = QStringList{QStringLiteral("#ABCDEF"), QStringLiteral("#abcdef")};
-    Panel panel;
-    panel.show();
-    for (const int index : {0, 1, 0}) {
-        QTest::mouseClick(panel.queueButton(index), Qt::LeftButton);
-        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ffabcdef")});
-        QVERIFY(panel.queueButton(index)->isChecked());
-    }
-    panel.hide();
-    panel.show();
-    QVERIFY(panel.queueButton(0)->isChecked());
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(m_record->writes, 0);
-}
-
-void tst_ColorPickerWidget::popup()
-{
-    Panel panel;
-    panel.show();
-    panel.openPopup();
-    QDialog* const dialog = panel.popup();
-    QCOMPARE(QByteArray(dialog->metaObject()->className()), QByteArray("QDialog"));
-    QCOMPARE(dialog->parentWidget(), &panel);
-    QCOMPARE(dialog->windowType(), Qt::Popup);
-    QCOMPARE(dialog->property("roundedEdges"), QVariant(true));
-    QVERIFY(dialog->testAttribute(Qt::WA_TranslucentBackground));
-    QCOMPARE(dialog->layout()->contentsMargins(), QMargins());
-    QCOMPARE(dialog->layout()->spacing(), 0);
-    const auto children = dialog->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    QCOMPARE(children.size(), 1);
-    QCOMPARE(QByteArray(children.front()->metaObject()->className()), QByteArray("CustomColorSelectWidget"));
-    QCOMPARE(dialog->size(), children.front()->size());
-    // There is something to see without any sheet.
-    QCOMPARE(panel.plane()->size(), QSize(200, 160));
-    QCOMPARE(panel.log(), QStringList());
-    // It is made once.
-    QTest::keyClick(dialog, Qt::Key_Escape);
-    panel.openPopup();
-    QCOMPARE(panel.findChildren<QDialog*>(), QList<QDialog*>{dialog});
-    dialog->close();
-}
-
-void tst_ColorPickerWidget::popupPlace()
-{
-    Panel panel;
-    const QPoint middle = panel.screen()->availableGeometry().center();
-    panel.move(middle);
-    panel.show();
-    panel.openPopup();
-    const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
-    const QDialog* const dialog = panel.popup();
-    QCOMPARE(dialog->x(), button.x() + button.width());
-    QCOMPARE(dialog->y() + dialog->height(), button.y() + button.height());
-    panel.popup()->close();
-    // Each time anew, with the size that it needs then.
-    panel.move(middle - QPoint(50, 30));
-    panel.hueSlider()->setMinimumHeight(60);
-    panel.openPopup();
-    QCOMPARE(dialog->x(), button.x() + button.width() - 50);
-    QCOMPARE(dialog->y() + dialog->height(), button.y() + button.height() - 30);
-    QCOMPARE(dialog->size(), dialog->sizeHint());
-    panel.popup()->close();
-}
-
-void tst_ColorPickerWidget::popupStaysOnTheScreen()
-{
-    Panel panel;
-    const QRect area = panel.screen()->availableGeometry();
-    panel.show();
-    for (const QPoint& corner : {area.topLeft(), area.bottomRight()}) {
-        panel.move(corner - panel.addButton->mapTo(&panel, panel.addButton->rect().center()));
-        panel.openPopup();
-        QVERIFY(area.contains(panel.popup()->geometry()));
-        // It leaves the button to be seen, and clicked again.
-        const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
-        QVERIFY(!button.intersects(panel.popup()->geometry()));
-        panel.popup()->close();
-    }
-}
-
-void tst_ColorPickerWidget::popupBeginsAtTheColor_data()
-{
-    QTest::addColumn<OptionalColor>("color");
-    QTest::addColumn<int>("hue");
-    QTest::addColumn<QString>("marker");
-    QTest::newRow("several") << OptionalColor() << 0 << QStringLiteral("bottom left");
-    QTest::newRow("none") << OptionalColor(QColor()) << 0 << QStringLiteral("bottom left");
-    QTest::newRow("blue") << OptionalColor(QColor(Qt::blue)) << 240 << QStringLiteral("top right");
-    QTest::newRow("translucent") << OptionalColor(QColor(0, 255, 0, 10)) << 120
-                                 << QStringLiteral("top right");
-}
-
-void tst_ColorPickerWidget::popupBeginsAtTheColor()
-{
-    QFETCH(OptionalColor, color);
-    QFETCH(int, hue);
-    QFETCH(QString, marker);
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(color);
-    panel.log();
-    panel.openPopup();
-    QTRY_COMPARE(panel.hueSlider()->value(), hue);
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), color);
-    // A step to the inside shows where the marker is.
-    const bool atTheRight = marker.endsWith(QStringLiteral("right"));
-    QTest::keyClick(panel.plane(), atTheRight ? Qt::Key_Left : Qt::Key_Right);
-    const QSize size = panel.plane()->size();
-    const QPoint place = atTheRight ? QPoint(size.width() - 2, 0) : QPoint(1, size.height() - 1);
-    QColor expected = panel.planeColor(hue, place);
-    expected.setAlphaF(panel.slider->doubleValue());
-    QCOMPARE(panel.log(), QStringList{text(expected)});
-    panel.popup()->close();
-}
-
-void tst_ColorPickerWidget::popupBeginsAtTheColorAgain()
-{
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(Qt::blue));
-    panel.openPopup();
-    panel.popup()->close();
-    panel.setCurrentColor(QColor(Qt::green));
-    panel.log();
-    panel.openPopup();
-    QTRY_COMPARE(panel.hueSlider()->value(), 120);
-    QCoreApplication::processEvents();
-    // To open it is not to choose anything.
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), OptionalColor(QColor(Qt::green)));
-    panel.popup()->close();
-}
-
-void tst_ColorPickerWidget::popupKeepsTheHueOfAGrey()
-{
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(Qt::blue));
-    panel.openPopup();
-    const QPoint left(0, panel.plane()->height() / 2);
-    panel.clickPlane(left);
-    QCOMPARE(panel.currentColor()->hue(), -1);
-    panel.popup()->close();
-    panel.openPopup();
-    QCoreApplication::processEvents();
-    QCOMPARE(panel.hueSlider()->value(), 240);
-    panel.popup()->close();
-}
-
-void tst_ColorPickerWidget::colorFollowsThePopup_data()
-{
-    QTest::addColumn<bool>("adjustable");
-    QTest::addColumn<bool>("fedBack");
-    QTest::newRow("opacity adjustable") << true << false;
-    QTest::newRow("opacity fixed") << false << false;
-    QTest::newRow("fed back by the host") << true << true;
-    QTest::newRow("opacity fixed, fed back by the host") << false << true;
-}
-
-void tst_ColorPickerWidget::colorFollowsThePopup()
-{
-    QFETCH(bool, adjustable);
-    QFETCH(bool, fedBack);
-    Panel panel;
-    panel.show();
-    panel.setOpacityAdjustmentAvailable(adjustable);
-    panel.slider->setValue(30);
-    panel.setCurrentColor(QColor(0, 0, 255, 128));
-    QCOMPARE(panel.slider->value(), adjustable ? 50 : 30);
-    if (fedBack) {
-        connect(&panel, &ColorPickerWidget::colorChanged, &panel, &ColorPickerWidget::setCurrentColor);
-    }
-    panel.openPopup();
-    panel.log();
-    const auto chosen = [&panel, adjustable](int hue, const QPoint& point) {
-        QColor color = panel.planeColor(hue, point);
-        color.setAlphaF(adjustable ? 0.5 : 1.0);
-        return text(color);
-    };
-    const QString first = chosen(240, {50, 20});
-    const QString second = chosen(240, {60, 30});
-    const int slider = adjustable ? 50 : 30;
-
-    panel.pressPlane({50, 20});
-    QCOMPARE(panel.log(), QStringList{first});
-    QCOMPARE(panel.edit->text(), QLatin1Char('#') + first.mid(3));
-    QCOMPARE(faceState(panel), QLatin1Char('#') + first.mid(3));
-    QCOMPARE(panel.checked(), QString());
-    QCOMPARE(panel.slider->value(), slider);
-    panel.dragOverPlane({60, 30});
-    QCOMPARE(panel.log(), QStringList{second});
-    panel.releasePlane({60, 30});
-    QCOMPARE(panel.log(), QStringList{second});
-    QCOMPARE(text(panel.currentColor()), second);
-
-    panel.hueSlider()->setValue(0);
-    const QString third = chosen(0, {60, 30});
-    QCOMPARE(panel.log(), QStringList{third});
-    panel.popup()->close();
-    const QString added = QLatin1Char('#') + third.mid(3);
-    QCOMPARE(Settings::userCustomColors(), QStringList{added});
-    QCOMPARE(panel.queue(), padded({added}));
-    QCOMPARE(panel.log(), QStringList{third});
-}
-
-void tst_ColorPickerWidget::popupMeetsAPaletteColor()
-{
-    Panel panel(true);
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-    panel.openPopup();
-    panel.log();
-    panel.hueSlider()->setValue(0);
-    panel.log();
-    // Pure red is in the corner, white in the other.
-    panel.pressPlane({panel.plane()->width() - 1, 0});
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#80ff0000")});
-    QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
-    panel.releasePlane({panel.plane()->width() - 1, 0});
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#80ff0000")});
-    panel.clickPlane({0, 0});
-    QCOMPARE(panel.log(), QStringList({QStringLiteral("#80ffffff"), QStringLiteral("#80ffffff")}));
-    QCOMPARE(panel.checked(), QStringLiteral("#ffffff"));
-    panel.clickPlane({40, 40});
-    QCOMPARE(panel.checked(), QString());
-    QVERIFY(panel.group->exclusive());
-    panel.popup()->close();
-}
-
-void tst_ColorPickerWidget::popupByKeyboard()
-{
-    Panel panel;
-    panel.show();
-    QApplication::setActiveWindow(&panel);
-    panel.setCurrentColor(QColor(Qt::blue));
-    panel.log();
-    panel.addButton->setFocus();
-    QTest::keyClick(panel.addButton, Qt::Key_Space);
-    QDialog* const dialog = panel.popup();
-    QVERIFY(dialog && dialog->isVisible());
-    QVERIFY(QTest::qWaitForWindowExposed(dialog));
-    QCoreApplication::processEvents();
-    QCOMPARE(dialog->focusWidget(), panel.plane());
-    QTest::keyClick(dialog->windowHandle(), Qt::Key_Left);
-    QCOMPARE(panel.log(), QStringList{text(panel.planeColor(240, {panel.plane()->width() - 2, 0}))});
-    QTest::keyClick(dialog->windowHandle(), Qt::Key_Tab);
-    QCOMPARE(dialog->focusWidget(), panel.hueSlider());
-    QTest::keyClick(dialog->windowHandle(), Qt::Key_Home);
-    QCOMPARE(panel.log(), QStringList{text(panel.planeColor(0, {panel.plane()->width() - 2, 0}))});
-    QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
-    QVERIFY(!dialog->isVisible());
-    QTRY_COMPARE(QApplication::focusWidget(), panel.addButton);
-}
-
-void tst_ColorPickerWidget::hueStepsAreRelayed()
-{
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-    panel.openPopup();
-    panel.log();
-    panel.hueSlider()->setValue(10);
-    panel.hueSlider()->setValue(11);
-    panel.hueSlider()->setValue(11);
-    const QStringList log = panel.log();
-    QCOMPARE(log.size(), 2);
-    QCOMPARE(text(panel.currentColor()), log.back());
-    panel.popup()->close();
-}
-
-void tst_ColorPickerWidget::closingAdds_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char* way : {"Escape", "Return", "Enter", "click elsewhere", "hiding the panel"}) {
-        QTest::newRow(way) << QString::fromLatin1(way);
-    }
-}
-
-void tst_ColorPickerWidget::closingAdds()
-{
-    QFETCH(QString, way);
-    Panel panel;
-    panel.show();
-    QApplication::setActiveWindow(&panel);
-    panel.edit->setFocus();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-    panel.openPopup();
-    QWindow* const window = panel.popup()->windowHandle();
-    QCOMPARE(panel.log(), QStringList());
-    if (way == QStringLiteral("Escape")) {
-        QTest::keyClick(window, Qt::Key_Escape);
-    } else if (way == QStringLiteral("Return")) {
-        QTest::keyClick(window, Qt::Key_Return);
-    } else if (way == QStringLiteral("Enter")) {
-        QTest::keyClick(window, Qt::Key_Enter, Qt::KeypadModifier);
-    } else if (way == QStringLiteral("click elsewhere")) {
-        QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(-3, -3));
-    } else {
-        panel.hide();
-    }
-    QVERIFY(!panel.popup()->isVisible());
-    QCOMPARE(panel.isVisible(), way != QStringLiteral("hiding the panel"));
-    QCOMPARE(panel.currentColor(), OptionalColor(QColor(0x12, 0x34, 0x56)));
-    QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#123456")});
-    if (panel.isVisible()) {
-        QCOMPARE(QApplication::focusWidget(), panel.addButton);
-    } else {
-        // A panel that is hidden may be about to go: it has nothing to say before it is seen again.
-        QCOMPARE(panel.log(), QStringList());
-        panel.show();
-    }
-    QCOMPARE(panel.queue(), padded({QStringLiteral("#123456")}));
-    QVERIFY(panel.queueButton(0)->isChecked());
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff123456")});
-}
-
-void tst_ColorPickerWidget::closingAddsNothing_data()
-{
-    QTest::addColumn<OptionalColor>("color");
-    QTest::newRow("several") << OptionalColor();
-    QTest::newRow("none") << OptionalColor(QColor());
-    QTest::newRow("of the palette") << OptionalColor(QColor(Qt::red));
-    QTest::newRow("of the palette, translucent") << OptionalColor(QColor(255, 0, 0, 5));
-    QTest::newRow("there already") << OptionalColor(QColor(names(1).constFirst()));
-}
-
-void tst_ColorPickerWidget::closingAddsNothing()
-{
-    QFETCH(OptionalColor, color);
-    m_record->value = names(3);
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(color);
-    const OptionalColor before = panel.currentColor();
-    panel.openPopup();
-    panel.log();
-    panel.popup()->close();
-    QCOMPARE(panel.log(), QStringList());
-    QCOMPARE(panel.currentColor(), before);
-    QCOMPARE(m_record->writes, 0);
-    QCOMPARE(panel.queue(), padded(names(3)));
-}
-
-void tst_ColorPickerWidget::escapeLeavesTheHostOpen()
-{
-    for (const Qt::WindowType type : {Qt::Popup, Qt::Dialog}) {
-        QDialog host(nullptr, type);
-        QSignalSpy finished(&host, &QDialog::finished);
-        auto* layout = new QVBoxLayout(&host);
-        auto* panel = new Panel;
-        layout->addWidget(panel);
-        host.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&host));
-        panel->openPopup();
-        QTest::keyClick(panel->popup()->windowHandle(), Qt::Key_Escape);
-        QVERIFY(!panel->popup()->isVisible());
-        QVERIFY(host.isVisible());
-        QCOMPARE(finished.count(), 0);
-        QTRY_COMPARE(host.focusWidget(), panel->addButton);
-        QTest::keyClick(host.windowHandle(), Qt::Key_Escape);
-        QVERIFY(!host.isVisible());
-    }
-}
-
-void tst_ColorPickerWidget::ninthColor()
-{
-    m_record->value = names(8);
-    Panel panel;
-    panel.show();
-    QToolButton* const last = panel.queueButton(7);
-    const QStringList added = {QStringLiteral("#123456"), QStringLiteral("#654321")};
-    QStringList expected = names(8);
-    for (const QString& color : added) {
-        QToolButton* const reused = panel.queueButton(7);
-        const QString dropped = expected.takeLast();
-        expected.prepend(color);
-        panel.setCurrentColor(QColor(color));
-        panel.log();
-        panel.openPopup();
-        panel.popup()->close();
-        QCOMPARE(panel.queue(), expected);
-        QCOMPARE(Settings::userCustomColors(), expected);
-        QCOMPARE(panel.queueButton(0), reused);
-        QCOMPARE(panel.log(), QStringList{opaque(color)});
-        QCOMPARE(panel.checked(), color);
-        // Its old colour is gone.
-        panel.setCurrentColor(QColor(dropped));
-        QCOMPARE(panel.checked(), QString());
-        QCOMPARE(panel.log(), QStringList());
-    }
-    QCOMPARE(panel.queueButton(1), last);
-    panel.hide();
-    panel.show();
-    QCOMPARE(panel.queue(), expected);
-    // Tab and arrow keys go by what is seen.
-    QWidget* next = panel.addButton;
-    for (int i = 0; i < 8; ++i) {
-        next = next->nextInFocusChain();
-        QCOMPARE(next, panel.queueButton(i));
-    }
-}
-
-void tst_ColorPickerWidget::addedColorTakesTheOpacity()
-{
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-    panel.log();
-    panel.openPopup();
-    panel.popup()->close();
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#80123456")});
-    panel.setOpacityAdjustmentAvailable(false);
-    panel.setCurrentColor(QColor(0x65, 0x43, 0x21, 128));
-    panel.log();
-    panel.openPopup();
-    panel.popup()->close();
-    QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff654321")});
-    QCOMPARE(Settings::userCustomColors(),
-             QStringList({QStringLiteral("#654321"), QStringLiteral("#123456")}));
-}
-
-// It is stored in upper case by somebody else, which makes two entries of one colour.
-void tst_ColorPickerWidget::addedColorThatIsShownAlready()
-{
-    QStringList stored = names(7);
-    stored += QStringLiteral("#ABCDEF");
-    m_record->value = stored;
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0xab, 0xcd, 0xef));
-    QVERIFY(panel.queueButton(7)->isChecked());
-    panel.log();
-    panel.openPopup();
-    panel.popup()->close();
-    QCOMPARE(panel.queue(), QStringList{QStringLiteral("#abcdef")} + names(7));
-    QCOMPARE(Settings::userCustomColors(), panel.queue());
-    QVERIFY(panel.queueButton(0)->isChecked());
-    QCOMPARE(panel.log(), QStringList());
-}
-
-void tst_ColorPickerWidget::unwritableSettings()
-{
-    m_record->value = names(8);
-    m_record->isWritable = false;
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-    panel.openPopup();
-    panel.popup()->close();
-    const QStringList expected = QStringList{QStringLiteral("#123456")} + names(7);
-    QCOMPARE(panel.queue(), expected);
-    QCOMPARE(m_record->value.toStringList(), names(8));
-    // Kept until the end of the program, for the next panel too.
-    QCOMPARE(Panel().queue(), expected);
-}
-
-void tst_ColorPickerWidget::twoPanels()
-{
-    Panel one;
-    Panel other;
-    one.show();
-    other.show();
-    const auto add = [](Panel& panel, const QColor& color) {
-        panel.setCurrentColor(color);
-        panel.openPopup();
-        panel.popup()->close();
-    };
-    const QString first = QStringLiteral("#111213");
-    const QString second = QStringLiteral("#212223");
-    add(one, QColor(first));
-    QCOMPARE(other.queue(), padded({}));
-    add(other, QColor(second));
-    QCOMPARE(Settings::userCustomColors(), QStringList({second, first}));
-    QCOMPARE(one.queue(), padded({first}));
-    QCOMPARE(other.queue(), padded({second}));
-    // The same colour at the other one is no second entry.
-    add(other, QColor(first));
-    QCOMPARE(Settings::userCustomColors(), QStringList({second, first}));
-    one.log();
-    other.log();
-    one.hide();
-    one.show();
-    other.hide();
-    other.show();
-    QCOMPARE(one.queue(), padded({second, first}));
-    QCOMPARE(other.queue(), padded({second, first}));
-    QCOMPARE(one.checked(), first);
-    QCOMPARE(one.log(), QStringList{opaque(first)});
-    QCOMPARE(other.log(), QStringList{opaque(first)});
-}
-
-void tst_ColorPickerWidget::deletedByASlot_data()
-{
-    using Action = std::function<void(Panel*)>;
-    QTest::addColumn<Action>("prepare");
-    QTest::addColumn<Action>("act");
-    QTest::addColumn<int>("signal"); // which of those that come
-    // A parent hides the panel before it deletes it, and the panel reports what the user has left unfinished.
-    QTest::addColumn<int>("moreFromTheParent");
-    const auto row = [](const char* name, const Action& prepare, const Action& act, int signal = 1,
-                        int moreFromTheParent = 0) {
-        QTest::newRow(name) << prepare << act << signal << moreFromTheParent;
-    };
-    const Action nothing = [](Panel*) {};
-    const Action setOwn = [](Panel* panel) { panel->setCurrentColor(QColor(0x12, 0x34, 0x56)); };
-    const Action open = [](Panel* panel) {
-        panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
-        panel->openPopup();
-    };
-    row("click in the palette", nothing,
-        [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
-    row(
-        "click in the palette, another was checked",
-        [](Panel* panel) { panel->setCurrentColor(QColor(Qt::red)); },
-        [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
-    const Action emptyBox = [setOwn](Panel* panel) {
-        setOwn(panel);
-        emptySpinBox(panel);
-    };
-    row(
-        "click in the palette, the opacity box is empty", emptyBox,
-        [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); }, 1, 1);
-    row("add button, the opacity box is empty", emptyBox,
-        [](Panel* panel) { QTest::mouseClick(panel->addButton, Qt::LeftButton); });
-    row("empty opacity box left by Tab", emptyBox,
-        [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Tab); });
-    row("palette by space", nothing,
-        [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 1), Qt::Key_Space); });
-    row(
-        "palette by arrow key",
-        [](Panel* panel) {
-            QApplication::setActiveWindow(panel->window());
-            panel->setCurrentColor(QColor(Qt::red));
-            panel->paletteButton(1, 0)->setFocus();
-        },
-        [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 0), Qt::Key_Right); });
-    row(
-        "typed, reported by the button", [](Panel* panel) { panel->edit->setText(QStringLiteral("#ff5d0")); },
-        [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_0); });
-    row(
-        "typed, reported by the edit", [](Panel* panel) { panel->edit->setText(QStringLiteral("#ff5d0")); },
-        [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_0); }, 2);
-    row(
-        "typed, of no button", [](Panel* panel) { panel->edit->setText(QStringLiteral("#12345")); },
-        [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_6); });
-    row("pasted", nothing, [](Panel* panel) { paste(panel->edit, QStringLiteral("#123456")); });
-    row("opacity slider by key", setOwn, [](Panel* panel) { QTest::keyClick(panel->slider, Qt::Key_Left); });
-    row("opacity slider by mouse", setOwn, [](Panel* panel) {
-        QTest::mouseClick(panel->slider, Qt::LeftButton, {}, QPoint(1, panel->slider->height() / 2));
-    });
-    row("opacity spin box", setOwn, [](Panel* panel) {
-        panel->spinBox->selectAll();
-        QTest::keyClick(panel->spinBox, Qt::Key_5);
-    });
-    row("opacity spin box by arrow key", setOwn,
-        [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Down); });
-    row("setCurrentColor, reported by the slider", nothing,
-        [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); });
-    row(
-        "setCurrentColor, reported by the button", nothing,
-        [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); }, 2);
-    row(
-        "setOpacityAdjustmentAvailable",
-        [](Panel* panel) {
-            panel->setOpacityAdjustmentAvailable(false);
-            panel->setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-        },
-        [](Panel* panel) { panel->setOpacityAdjustmentAvailable(true); });
-    row("pipette", nothing, [](Panel* panel) { QTest::mouseClick(panel->pipette, Qt::LeftButton); });
-    row("pipette by space", nothing, [](Panel* panel) { QTest::keyClick(panel->pipette, Qt::Key_Space); });
-    row(
-        "close", nothing, [](Panel* panel) { QTest::mouseClick(panel->pipette, Qt::LeftButton); }, 2);
-    row("pressed in the pop-up", open, [](Panel* panel) { panel->pressPlane({40, 40}); });
-    row(
-        "dragged in the pop-up",
-        [open](Panel* panel) {
-            open(panel);
-            panel->pressPlane({40, 40});
-        },
-        [](Panel* panel) {
-            panel->dragOverPlane({60, 30});
-        });
-    row(
-        "released in the pop-up",
-        [open](Panel* panel) {
-            open(panel);
-            panel->pressPlane({40, 40});
-        },
-        [](Panel* panel) {
-            panel->releasePlane({40, 40});
-        });
-    row("hue by key", open, [](Panel* panel) { QTest::keyClick(panel->hueSlider(), Qt::Key_Home); });
-    row("hue by mouse", open, [](Panel* panel) {
-        QTest::mouseClick(panel->hueSlider(), Qt::LeftButton, {},
-                          QPoint(1, panel->hueSlider()->height() / 2));
-    });
-    row("added by Escape", open,
-        [](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), Qt::Key_Escape); });
-    row("added by Return", open,
-        [](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), Qt::Key_Return); });
-    row("added by a click elsewhere", open, [](Panel* panel) {
-        QTest::mouseClick(panel->popup()->windowHandle(), Qt::LeftButton, {}, QPoint(-3, -3));
-    });
-}
-
-void tst_ColorPickerWidget::deletedByASlot()
-{
-    using Action = std::function<void(Panel*)>;
-    QFETCH(Action, prepare);
-    QFETCH(Action, act);
-    QFETCH(int, signal);
-    QFETCH(int, moreFromTheParent);
-    for (const Deletion deletion : allDeletions) {
-        for (const bool isParentDeleted : {false, true}) {
-            m_record->value.clear();
-            const int before = QApplication::allWidgets().size();
-            QPointer<QWidget> host = new QWidget;
-            auto* layout = new QVBoxLayout(host);
-            QPointer<Panel> panel = new Panel(false, host);
-            layout->addWidget(panel);
-            host->show();
-            QVERIFY(QTest::qWaitForWindowExposed(host));
-            prepare(panel);
-            int signals = 0;
-            const auto slot = [&] {
-                if (++signals == signal) {
-                    destroy(isParentDeleted ? host.data() : panel.data(), deletion);
-                }
-            };
-            connect(panel.data(), &ColorPickerWidget::colorChanged, this, slot);
-            connect(panel.data(), &ColorPickerWidget::pipetteRequested, this, slot);
-            connect(panel.data(), &ColorPickerWidget::closeRequested, this, slot);
-            {
-                // Qt is not compiled for the sanitizer: what it goes on to read is a pattern that leads
-                // nowhere.
-                const FreedMemoryWatch memory;
-                act(panel);
-                QVERIFY(!panel);
-                QCOMPARE(signals, signal + (isParentDeleted ? moreFromTheParent : 0));
-                QTRY_COMPARE(QApplication::allWidgets().size(), before + (host ? 1 : 0));
-                QVERIFY(memory.deleted() > 0);
-                QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-            }
-            delete host;
-        }
-    }
-}
-
-void tst_ColorPickerWidget::popupDeletedByASlot()
-{
-    Panel panel;
-    panel.show();
-    panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-    connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel] { delete panel.popup(); });
-    panel.openPopup();
-    panel.pressPlane({40, 40});
-    QVERIFY(!panel.popup());
-    // The next one begins at the colour.
-    panel.openPopup();
-    panel.pressPlane({50, 40});
-    QVERIFY(!panel.popup());
-    QVERIFY(panel.currentColor().has_value());
-}
-
-void tst_ColorPickerWidget::deletedWithAnEmptySpinBox()
-{
-    auto panel = std::make_unique<Panel>();
-    panel->show();
-    panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
-    emptySpinBox(panel.get());
-    QSignalSpy spy(panel.get(), &ColorPickerWidget::colorChanged);
-    const FreedMemoryWatch memory;
-    panel.reset();
-    QCOMPARE(spy.count(), 0);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-}
-
-void tst_ColorPickerWidget::deletedWhileThePopupIsOpen_data()
-{
-    QTest::addColumn<bool>("turn");
-    QTest::newRow("at once") << false;
-    QTest::newRow("after a turn of the event loop") << true;
-}
-
-void tst_ColorPickerWidget::deletedWhileThePopupIsOpen()
-{
-    QFETCH(bool, turn);
-    const int before = QApplication::allWidgets().size();
-    auto panel = std::make_unique<Panel>();
-    panel->show();
-    panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
-    QTest::mouseClick(panel->addButton, Qt::LeftButton);
-    if (turn) {
-        QCoreApplication::processEvents();
-    }
-    QSignalSpy spy(panel.get(), &ColorPickerWidget::colorChanged);
-    panel.reset();
-    QCOMPARE(spy.count(), 0);
-    QCOMPARE(m_record->writes, 0);
-    QCoreApplication::processEvents();
-    QCOMPARE(QApplication::allWidgets().size(), before);
-}
-
-void tst_ColorPickerWidget::deletedDuringADrag()
-{
-    auto panel = std::make_unique<Panel>();
-    panel->show();
-    panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
-    panel->openPopup();
-    panel->pressPlane({40, 40});
-    QCOMPARE(QWidget::mouseGrabber(), panel->plane());
-    panel.reset();
-    QVERIFY(!QWidget::mouseGrabber());
-    QCOMPARE(m_record->writes, 0);
-}
-
-void tst_ColorPickerWidget::disabledPanel()
-{
-    Panel panel;
-    panel.setCurrentColor(QColor(Qt::red));
-    panel.setEnabled(false);
-    panel.show();
-    panel.log();
-    QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-    QTest::mouseClick(panel.pipette, Qt::LeftButton);
-    QTest::mouseClick(panel.addButton, Qt::LeftButton);
-    QCOMPARE(panel.log(), QStringList());
-    QVERIFY(!panel.popup());
-    // The host may go on setting colours.
-    panel.setCurrentColor(QColor(orange));
-    QCOMPARE(panel.log(), QStringList{opaque(orange)});
-    QCOMPARE(panel.edit->text(), orange);
-    // Own colours that are missing stay disabled when the panel is enabled.
-    panel.setEnabled(true);
-    QCOMPARE(panel.queue(), padded({}));
-}
-
-void tst_ColorPickerWidget::rightToLeft()
-{
-    m_record->value = names(2);
-    Panel panel;
-    panel.setLayoutDirection(Qt::RightToLeft);
-    panel.move(panel.screen()->availableGeometry().center() - QPoint(300, 0));
-    panel.show();
-    QVERIFY(panel.paletteButton(0, 0)->x() > panel.paletteButton(0, 8)->x());
-    QVERIFY(panel.queueButton(0)->x() > panel.queueButton(1)->x());
-    panel.openPopup();
-    const QPoint corner = panel.addButton->mapToGlobal(QPoint(panel.addButton->width(), 0));
-    QCOMPARE(panel.popup()->x(), corner.x());
-    panel.popup()->close();
-}
 
 UIC_TEST_MAIN(tst_ColorPickerWidget)
 #include "tst_ColorPickerWidget.moc"

@@ -201,645 +201,596 @@ class tst_ColorPlaneWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-
-    void metaObject();
-    void startsEmpty();
-    void nothingIsPaintedWithoutAHue();
-    void pressWithoutAHue();
-
-    void setHueShowsThePlane();
-    void sameHueDoesNothing();
-    void hueIsClamped_data();
-    void hueIsClamped();
-    void hue360IsAnotherHueThan0();
-    void setHueReportsTheColorUnderTheMarker();
-    void setHueKeepsTheRing();
-
-    void setHsvColorIsSilent();
-    void setHsvColorPlacesTheMarker_data();
-    void setHsvColorPlacesTheMarker();
-    void setHsvColorIgnoresNoColor();
-    void greyShowsTheRedPlane_data();
-    void greyShowsTheRedPlane();
-    void colorsOfEverySpec_data();
-    void colorsOfEverySpec();
-    void reportsRgb();
-
-    void pressOutsideIsTakenAsItIs();
-
-    void resizeKeepsTheMarker();
-    void markerOutsideAfterShrinking();
-    void removedMarker();
-    void hiddenWidgetIsResized();
-    void tinyPlanes_data();
-    void tinyPlanes();
-
-    void markerProperties();
-    void oddMarkers_data();
-    void oddMarkers();
-
-    void changesAreReportedAtOnce();
-    void eachStepOfTheMarkerPaintsOnce();
-    void resizedPlaneIsPaintedAnew();
-    void sameAsTheEagerPlane_data();
-    void sameAsTheEagerPlane();
-
-    void keysWithoutAPlane();
-    void focusIsShownToKeyboardUsers();
-
-    void rightToLeft();
-    void deletedBySettingTheHue();
-};
-
-void tst_ColorPlaneWidget::cleanup()
-{
-    QVERIFY(!QWidget::mouseGrabber());
-    QVERIFY(qApp->layoutDirection() == Qt::LeftToRight);
-}
-
-void tst_ColorPlaneWidget::metaObject()
-{
-    const QMetaObject& meta = ColorPlaneWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPlaneWidget"));
-    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal hsvColorChanged(QColor)")}));
-    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("hsvColor"));
-    QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int markerRadius rw"),
-                                               QStringLiteral("int markerBorderWidth rw")}));
-}
-
-void tst_ColorPlaneWidget::startsEmpty()
-{
-    QWidget parent;
-    const auto* plane = new ColorPlaneWidget(&parent);
-    QCOMPARE(plane->parentWidget(), &parent);
-    QCOMPARE(plane->markerRadius(), 8);
-    QCOMPARE(plane->markerBorderWidth(), 2);
-    QVERIFY(!plane->hsvColor().isValid());
-}
-
-void tst_ColorPlaneWidget::nothingIsPaintedWithoutAHue()
-{
-    QWidget window;
-    window.setStyleSheet(QStringLiteral("QWidget { background: #123456; }"));
-    window.resize(101, 51);
-    Plane plane(&window);
-    QImage empty(window.size(), QImage::Format_RGB32);
-    empty.fill(QColor(0x12, 0x34, 0x56));
-    window.show();
-    QCOMPARE(pictureOf(window), empty);
-    plane.resize(60, 40);
-    QCOMPARE(pictureOf(window), empty);
-    plane.setHsvColor(QColor());
-    QCOMPARE(pictureOf(window), empty);
-    // Once there is a plane, it covers the widget.
-    plane.setHue(0);
-    QCOMPARE(pictureOf(window).pixelColor(0, 0), QColor(Qt::white));
-    plane.resize(0, 40);
-    QCOMPARE(pictureOf(window), empty);
-}
-
-void tst_ColorPlaneWidget::pressWithoutAHue()
-{
-    Plane plane;
-    press(plane, {50, 10});
-    QCOMPARE(plane.reports(), Colors{QColor()});
-    QCOMPARE(QWidget::mouseGrabber(), &plane);
-    drag(plane, {51, 10});
-    QCOMPARE(plane.reports(), Colors{QColor()});
-    release(plane, {51, 10});
-    QCOMPARE(plane.reports(), Colors{QColor()});
-    QVERIFY(!QWidget::mouseGrabber());
-    // The marker is there, in the inverse of no colour.
-    plane.setHue(120);
-    QCOMPARE(plane.reports(), Colors{plane.at(120 / 360.0, 51, 10)});
-    QCOMPARE(pictureOf(plane), picture(120 / 360.0, plane.size(), {51, 10}, Qt::white));
-}
-
-void tst_ColorPlaneWidget::setHueShowsThePlane()
-{
-    Plane plane;
-    plane.setHue(200);
-    QCOMPARE(plane.reports(), Colors());
-    QVERIFY(!plane.hsvColor().isValid());
-    QCOMPARE(pictureOf(plane), planeImage(200 / 360.0, plane.size()));
-}
-
-void tst_ColorPlaneWidget::sameHueDoesNothing()
-{
-    Plane plane;
-    plane.show();
-    plane.setHsvColor(QColor::fromHsv(120, 200, 100));
-    pictureOf(plane);
-    QCOMPARE(paintsOf(plane, [&] { plane.setHue(120); }), 0);
-    pictureOf(plane);
-    QCOMPARE(plane.reports(), Colors());
-    plane.setHue(0);
-    plane.setHue(0);
-    QCOMPARE(plane.reports().size(), 1);
-}
-
-void tst_ColorPlaneWidget::hueIsClamped_data()
-{
-    QTest::addColumn<int>("degrees");
-    QTest::addColumn<double>("hue");
-    QTest::newRow("-1") << -1 << 0.0;
-    QTest::newRow("least int") << std::numeric_limits<int>::min() << 0.0;
-    QTest::newRow("1") << 1 << 1 / 360.0;
-    QTest::newRow("359") << 359 << 359 / 360.0;
-    QTest::newRow("360") << 360 << 1.0;
-    QTest::newRow("361") << 361 << 1.0;
-    QTest::newRow("greatest int") << std::numeric_limits<int>::max() << 1.0;
-}
-
-void tst_ColorPlaneWidget::hueIsClamped()
-{
-    QFETCH(int, degrees);
-    QFETCH(double, hue);
-    Plane plane;
-    plane.setHue(degrees);
-    QCOMPARE(pictureOf(plane), planeImage(hue, plane.size()));
-    plane.setHue(qRound(hue * 360));
-    pictureOf(plane);
-}
-
-void tst_ColorPlaneWidget::hue360IsAnotherHueThan0()
-{
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsv(0, 255, 255));
-    const QImage red = pictureOf(plane);
-    plane.setHue(360);
-    QCOMPARE(plane.reports(), Colors{QColor(Qt::red)});
-    QCOMPARE(pictureOf(plane), red);
-    plane.setHue(0);
-    QCOMPARE(plane.reports(), Colors{QColor(Qt::red)});
-}
-
-void tst_ColorPlaneWidget::setHueReportsTheColorUnderTheMarker()
-{
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsvF(0.0, 0.3, 0.6));
-    QCOMPARE(plane.hsvColor(), plane.at(0.0, 30, 20));
-    plane.setHue(77);
-    plane.setHue(78);
-    QCOMPARE(plane.reports(), Colors({plane.at(77 / 360.0, 30, 20), plane.at(78 / 360.0, 30, 20)}));
-    QCOMPARE(plane.hsvColor(), plane.at(78 / 360.0, 30, 20));
-}
-
-void tst_ColorPlaneWidget::setHueKeepsTheRing()
-{
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsvF(0.0, 0.5, 1.0));
-    const QColor below = plane.hsvColor();
-    const QColor ring(255 - below.red(), 255 - below.green(), 255 - below.blue());
-    QCOMPARE(pictureOf(plane), picture(0.0, plane.size(), {50, 0}, ring));
-    plane.setHue(120);
-    QCOMPARE(pictureOf(plane), picture(120 / 360.0, plane.size(), {50, 0}, ring));
-}
-
-void tst_ColorPlaneWidget::setHsvColorIsSilent()
-{
-    Plane plane;
-    plane.setHsvColor(QColor(Qt::blue));
-    plane.setHsvColor(QColor(Qt::yellow));
-    plane.setHsvColor(QColor(Qt::yellow));
-    QCOMPARE(plane.reports(), Colors());
-    QCOMPARE(plane.hsvColor(), QColor(Qt::yellow));
-    QCOMPARE(pictureOf(plane), picture(60 / 360.0, plane.size(), {100, 0}, Qt::blue));
-}
-
-void tst_ColorPlaneWidget::setHsvColorPlacesTheMarker_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QPoint>("marker");
-    QTest::newRow("top left") << QColor::fromHsvF(0.5, 0.0, 1.0) << QPoint(0, 0);
-    QTest::newRow("top right") << QColor::fromHsvF(0.5, 1.0, 1.0) << QPoint(100, 0);
-    QTest::newRow("bottom left") << QColor::fromHsvF(0.5, 0.0, 0.0) << QPoint(0, 50);
-    QTest::newRow("bottom right") << QColor::fromHsvF(0.5, 1.0, 0.0) << QPoint(100, 50);
-    QTest::newRow("down to the nearest") << QColor::fromHsvF(0.5, 0.204, 0.692) << QPoint(20, 15);
-    QTest::newRow("up to the nearest") << QColor::fromHsvF(0.5, 0.206, 0.688) << QPoint(21, 16);
-}
-
-void tst_ColorPlaneWidget::setHsvColorPlacesTheMarker()
-{
-    QFETCH(QColor, color);
-    QFETCH(QPoint, marker);
-    Plane plane;
-    plane.setHsvColor(color);
-    const QColor below = plane.at(0.5, marker.x(), marker.y());
-    QCOMPARE(plane.hsvColor(), below);
-    const QColor ring(255 - below.red(), 255 - below.green(), 255 - below.blue());
-    QCOMPARE(pictureOf(plane), picture(0.5, plane.size(), marker, ring));
-}
-
-void tst_ColorPlaneWidget::setHsvColorIgnoresNoColor()
-{
-    Plane plane;
-    plane.setHsvColor(QColor(Qt::green));
-    const QImage before = pictureOf(plane);
-    plane.setHsvColor(QColor());
-    QCOMPARE(plane.hsvColor(), QColor(Qt::green));
-    QCOMPARE(pictureOf(plane), before);
-}
-
-void tst_ColorPlaneWidget::greyShowsTheRedPlane_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("grey") << QColor(102, 102, 102);
-    QTest::newRow("black") << QColor(Qt::black);
-    QTest::newRow("white") << QColor(Qt::white);
-    QTest::newRow("HSV without a hue") << QColor::fromHsv(-1, 0, 102);
-}
-
-void tst_ColorPlaneWidget::greyShowsTheRedPlane()
-{
-    QFETCH(QColor, color);
-    Plane plane;
-    plane.setHue(240);
-    plane.setHsvColor(color);
-    QCOMPARE(plane.hsvColor(), color.toRgb());
-    QCOMPARE(pictureOf(plane).pixelColor(100, 0), QColor(Qt::red));
-}
-
-void tst_ColorPlaneWidget::colorsOfEverySpec_data()
-{
-    QTest::addColumn<QColor>("color");
-    const QColor color(255, 0, 255);
-    QTest::newRow("RGB") << color;
-    QTest::newRow("HSV") << color.toHsv();
-    QTest::newRow("HSL") << color.toHsl();
-    QTest::newRow("CMYK") << color.toCmyk();
-    QTest::newRow("extended RGB") << color.toExtendedRgb();
-    QTest::newRow("with alpha") << QColor(255, 0, 255, 12);
-}
-
-void tst_ColorPlaneWidget::colorsOfEverySpec()
-{
-    QFETCH(QColor, color);
-    Plane plane;
-    plane.setHsvColor(color);
-    QCOMPARE(plane.hsvColor(), QColor(255, 0, 255));
-}
-
-void tst_ColorPlaneWidget::reportsRgb()
-{
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsv(10, 100, 100, 50));
-    plane.setHue(90);
-    const Colors reports = plane.reports();
-    QCOMPARE(reports.size(), 1);
-    QCOMPARE(reports.front().spec(), QColor::Rgb);
-    QCOMPARE(reports.front().alpha(), 255);
-    QCOMPARE(plane.hsvColor().spec(), QColor::Rgb);
-}
-
-void tst_ColorPlaneWidget::pressOutsideIsTakenAsItIs()
-{
-    Plane plane;
-    plane.setHue(180);
-    press(plane, {200, 20});
-    QCOMPARE(plane.reports(), Colors{QColor()});
-    QVERIFY(!plane.hsvColor().isValid());
-    QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
-    plane.setHue(90);
-    QCOMPARE(plane.reports(), Colors());
-    release(plane, {200, 20});
-    QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 20)});
-}
-
-void tst_ColorPlaneWidget::resizeKeepsTheMarker()
-{
-    Plane plane;
-    plane.show();
-    plane.setHue(60);
-    press(plane, {30, 20});
-    release(plane, {30, 20});
-    plane.reports();
-    const QColor before = plane.hsvColor();
-    plane.resize(301, 201);
-    const QColor below = formula(60 / 360.0, {301, 201}, {30, 20});
-    QCOMPARE(plane.hsvColor(), below);
-    QVERIFY(below != before);
-    QCOMPARE(plane.reports(), Colors());
-    QCOMPARE(pictureOf(plane),
-             picture(60 / 360.0, {301, 201}, {30, 20},
-                     QColor(255 - before.red(), 255 - before.green(), 255 - before.blue())));
-}
-
-void tst_ColorPlaneWidget::markerOutsideAfterShrinking()
-{
-    Plane plane;
-    plane.show();
-    plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 1.0));
-    plane.resize(100, 51);
-    QVERIFY(!plane.hsvColor().isValid());
-    QCOMPARE(pictureOf(plane), planeImage(0.25, plane.size()));
-    plane.setHue(180);
-    QCOMPARE(plane.reports(), Colors());
-    plane.resize(102, 51);
-    QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
-    plane.setHue(90);
-    QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 0)});
-}
-
-void tst_ColorPlaneWidget::removedMarker()
-{
-    Plane plane;
-    plane.show();
-    plane.setHsvColor(QColor::fromHsvF(0.25, 0.5, 0.5));
-    QVERIFY(pictureOf(plane) != planeImage(0.25, plane.size()));
-    plane.removeMarker();
-    QVERIFY(!plane.hsvColor().isValid());
-    QCOMPARE(pictureOf(plane), planeImage(0.25, plane.size()));
-    plane.setHue(180);
-    QCOMPARE(plane.reports(), Colors());
-    plane.setHsvColor(QColor::fromHsvF(0.5, 1.0, 1.0));
-    QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
-}
-
-// It learns of its size when it is shown, unless its colour changes before.
-void tst_ColorPlaneWidget::hiddenWidgetIsResized()
-{
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsvF(0.25, 0.5, 1.0));
-    QCOMPARE(plane.hsvColor(), formula(0.25, {101, 51}, {50, 0}));
-    plane.resize(201, 101);
-    QCOMPARE(plane.hsvColor(), formula(0.25, {101, 51}, {50, 0}));
-    plane.setHue(180);
-    QCOMPARE(plane.reports(), Colors{formula(0.5, {201, 101}, {50, 0})});
-    plane.resize(51, 51);
-    plane.show();
-    QCOMPARE(plane.hsvColor(), formula(0.5, {51, 51}, {50, 0}));
-    QCOMPARE(plane.reports(), Colors());
-}
-
-void tst_ColorPlaneWidget::tinyPlanes_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("1 x 1") << QSize(1, 1);
-    QTest::newRow("1 x 40") << QSize(1, 40);
-    QTest::newRow("40 x 1") << QSize(40, 1);
-    QTest::newRow("0 x 0") << QSize(0, 0);
-    QTest::newRow("0 x 40") << QSize(0, 40);
-    QTest::newRow("40 x 0") << QSize(40, 0);
-    QTest::newRow("2 x 2") << QSize(2, 2);
-}
-
-void tst_ColorPlaneWidget::tinyPlanes()
-{
-    QFETCH(QSize, size);
-    QWidget window;
-    Plane plane(&window);
-    plane.resize(size);
-    window.show();
-    plane.setHue(100);
-    const double hue = 100 / 360.0;
-    const bool empty = size.isEmpty();
-    const QRect rect(QPoint(), size);
-    const auto color = [&](double of, const QPoint& at) {
-        return rect.contains(at) ? formula(of, size, at) : QColor();
-    };
-    if (!empty) {
-        QCOMPARE(pictureOf(plane), planeImage(hue, size));
+    void cleanup()
+    {
+        QVERIFY(!QWidget::mouseGrabber());
+        QVERIFY(qApp->layoutDirection() == Qt::LeftToRight);
     }
-    press(plane, {0, 0});
-    drag(plane, {10, 10});
-    const QPoint dragged(qMax(0, qMin(10, rect.right())), qMax(0, qMin(10, rect.bottom())));
-    release(plane, {0, 0});
-    Colors expected{color(hue, {0, 0})};
-    if (dragged != QPoint(0, 0)) {
-        expected += color(hue, dragged);
+
+    void metaObject()
+    {
+        const QMetaObject& meta = ColorPlaneWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPlaneWidget"));
+        QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal hsvColorChanged(QColor)")}));
+        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()),
+                 QByteArray("hsvColor"));
+        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int markerRadius rw"),
+                                                   QStringLiteral("int markerBorderWidth rw")}));
     }
-    expected += color(hue, {0, 0});
-    QCOMPARE(plane.reports(), expected);
-    plane.setHsvColor(QColor(Qt::blue));
-    const QPoint marker(size.width() - 1, 0);
-    QCOMPARE(plane.hsvColor(), empty ? QColor() : color(240 / 360.0, marker));
-    plane.setHue(1);
-    QCOMPARE(plane.reports(), empty ? Colors() : Colors{color(1 / 360.0, marker)});
-    pictureOf(window);
-}
 
-void tst_ColorPlaneWidget::markerProperties()
-{
-    Plane plane;
-    plane.setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
-    plane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plane));
-    QVERIFY(paintsOf(plane, [&] { plane.setMarkerRadius(12); }) > 0);
-    QCOMPARE(paintsOf(plane, [&] { plane.setMarkerRadius(12); }), 0);
-    QVERIFY(paintsOf(plane, [&] { QVERIFY(plane.setProperty("markerBorderWidth", 5)); }) > 0);
-    QCOMPARE(paintsOf(plane, [&] { plane.setMarkerBorderWidth(5); }), 0);
-    QCOMPARE(plane.markerRadius(), 12);
-    QCOMPARE(plane.markerBorderWidth(), 5);
-    QCOMPARE(plane.property("markerRadius"), QVariant(12));
-    const QColor below = plane.hsvColor();
-    QCOMPARE(pictureOf(plane),
-             picture(0.5, plane.size(), {50, 25},
-                     QColor(255 - below.red(), 255 - below.green(), 255 - below.blue()), 12, 5));
-    plane.setStyleSheet(QStringLiteral("ColorPlaneWidget { qproperty-markerRadius: 3; }"));
-    plane.ensurePolished();
-    QCOMPARE(plane.markerRadius(), 3);
-    QCOMPARE(plane.reports(), Colors());
-}
+    void startsEmpty()
+    {
+        QWidget parent;
+        const auto* plane = new ColorPlaneWidget(&parent);
+        QCOMPARE(plane->parentWidget(), &parent);
+        QCOMPARE(plane->markerRadius(), 8);
+        QCOMPARE(plane->markerBorderWidth(), 2);
+        QVERIFY(!plane->hsvColor().isValid());
+    }
 
-void tst_ColorPlaneWidget::oddMarkers_data()
-{
-    QTest::addColumn<int>("radius");
-    QTest::addColumn<int>("width");
-    QTest::newRow("no radius") << 0 << 2;
-    QTest::newRow("no width") << 8 << 0;
-    QTest::newRow("negative radius") << -8 << 2;
-    QTest::newRow("negative width") << 8 << -2;
-    QTest::newRow("huge") << 1000000 << 1000000;
-}
+    void nothingIsPaintedWithoutAHue()
+    {
+        QWidget window;
+        window.setStyleSheet(QStringLiteral("QWidget { background: #123456; }"));
+        window.resize(101, 51);
+        Plane plane(&window);
+        QImage empty(window.size(), QImage::Format_RGB32);
+        empty.fill(QColor(0x12, 0x34, 0x56));
+        window.show();
+        QCOMPARE(pictureOf(window), empty);
+        plane.resize(60, 40);
+        QCOMPARE(pictureOf(window), empty);
+        plane.setHsvColor(QColor());
+        QCOMPARE(pictureOf(window), empty);
+        // Once there is a plane, it covers the widget.
+        plane.setHue(0);
+        QCOMPARE(pictureOf(window).pixelColor(0, 0), QColor(Qt::white));
+        plane.resize(0, 40);
+        QCOMPARE(pictureOf(window), empty);
+    }
 
-void tst_ColorPlaneWidget::oddMarkers()
-{
-    QFETCH(int, radius);
-    QFETCH(int, width);
-    Plane plane;
-    plane.setMarkerRadius(radius);
-    plane.setMarkerBorderWidth(width);
-    plane.setHsvColor(QColor(Qt::green));
-    QCOMPARE(pictureOf(plane).size(), plane.size());
-    QCOMPARE(plane.hsvColor(), QColor(Qt::green));
-}
+    void pressWithoutAHue()
+    {
+        Plane plane;
+        press(plane, {50, 10});
+        QCOMPARE(plane.reports(), Colors{QColor()});
+        QCOMPARE(QWidget::mouseGrabber(), &plane);
+        drag(plane, {51, 10});
+        QCOMPARE(plane.reports(), Colors{QColor()});
+        release(plane, {51, 10});
+        QCOMPARE(plane.reports(), Colors{QColor()});
+        QVERIFY(!QWidget::mouseGrabber());
+        // The marker is there, in the inverse of no colour.
+        plane.setHue(120);
+        QCOMPARE(plane.reports(), Colors{plane.at(120 / 360.0, 51, 10)});
+        QCOMPARE(pictureOf(plane), picture(120 / 360.0, plane.size(), {51, 10}, Qt::white));
+    }
 
-void tst_ColorPlaneWidget::changesAreReportedAtOnce()
-{
-    Plane plane;
-    plane.setHsvColor(QColor(Qt::red));
-    plane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plane));
-    QCoreApplication::processEvents();
-    for (int degrees = 1; degrees < 300; ++degrees) {
+    void setHueShowsThePlane()
+    {
+        Plane plane;
+        plane.setHue(200);
+        QCOMPARE(plane.reports(), Colors());
+        QVERIFY(!plane.hsvColor().isValid());
+        QCOMPARE(pictureOf(plane), planeImage(200 / 360.0, plane.size()));
+    }
+
+    void sameHueDoesNothing()
+    {
+        Plane plane;
+        plane.show();
+        plane.setHsvColor(QColor::fromHsv(120, 200, 100));
+        pictureOf(plane);
+        QCOMPARE(paintsOf(plane, [&] { plane.setHue(120); }), 0);
+        pictureOf(plane);
+        QCOMPARE(plane.reports(), Colors());
+        plane.setHue(0);
+        plane.setHue(0);
+        QCOMPARE(plane.reports().size(), 1);
+    }
+
+    void hueIsClamped_data()
+    {
+        QTest::addColumn<int>("degrees");
+        QTest::addColumn<double>("hue");
+        QTest::newRow("-1") << -1 << 0.0;
+        QTest::newRow("least int") << std::numeric_limits<int>::min() << 0.0;
+        QTest::newRow("1") << 1 << 1 / 360.0;
+        QTest::newRow("359") << 359 << 359 / 360.0;
+        QTest::newRow("360") << 360 << 1.0;
+        QTest::newRow("361") << 361 << 1.0;
+        QTest::newRow("greatest int") << std::numeric_limits<int>::max() << 1.0;
+    }
+
+    void hueIsClamped()
+    {
+        QFETCH(int, degrees);
+        QFETCH(double, hue);
+        Plane plane;
         plane.setHue(degrees);
-        QCOMPARE(plane.reports(), Colors{plane.at(degrees / 360.0, 100, 0)});
-        QCOMPARE(plane.hsvColor(), plane.at(degrees / 360.0, 100, 0));
+        QCOMPARE(pictureOf(plane), planeImage(hue, plane.size()));
+        plane.setHue(qRound(hue * 360));
+        pictureOf(plane);
     }
-    plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 0.5));
-    QCoreApplication::processEvents();
-    QCOMPARE(pictureOf(plane).pixelColor(100, 0), plane.at(0.25, 100, 0));
-}
 
-void tst_ColorPlaneWidget::eachStepOfTheMarkerPaintsOnce()
-{
-    Plane plane;
-    plane.setHue(180);
-    plane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plane));
-    pictureOf(plane);
-    press(plane, {5, 5});
-    for (int x = 6; x < 60; ++x) {
-        QCOMPARE(paintsOf(plane, [&] { drag(plane, {x, 20}); }), 1);
+    void hue360IsAnotherHueThan0()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsv(0, 255, 255));
+        const QImage red = pictureOf(plane);
+        plane.setHue(360);
+        QCOMPARE(plane.reports(), Colors{QColor(Qt::red)});
+        QCOMPARE(pictureOf(plane), red);
+        plane.setHue(0);
+        QCOMPARE(plane.reports(), Colors{QColor(Qt::red)});
     }
-    release(plane, {60, 20});
-    plane.setHsvColor(QColor::fromHsvF(0.5, 0.1, 0.9));
-    pictureOf(plane);
-}
 
-void tst_ColorPlaneWidget::resizedPlaneIsPaintedAnew()
-{
-    Plane plane;
-    plane.setHue(180);
-    plane.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plane));
-    pictureOf(plane);
-    for (int width = 102; width < 140; ++width) {
-        plane.resize(width, 60);
+    void setHueReportsTheColorUnderTheMarker()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsvF(0.0, 0.3, 0.6));
+        QCOMPARE(plane.hsvColor(), plane.at(0.0, 30, 20));
+        plane.setHue(77);
+        plane.setHue(78);
+        QCOMPARE(plane.reports(), Colors({plane.at(77 / 360.0, 30, 20), plane.at(78 / 360.0, 30, 20)}));
+        QCOMPARE(plane.hsvColor(), plane.at(78 / 360.0, 30, 20));
     }
-    QCOMPARE(pictureOf(plane), planeImage(0.5, {139, 60}));
-}
 
-void tst_ColorPlaneWidget::sameAsTheEagerPlane_data()
-{
-    QTest::addColumn<int>("seed");
-    for (int seed = 0; seed < 30; ++seed) {
-        QTest::addRow("seed %d", seed) << seed;
+    void setHueKeepsTheRing()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsvF(0.0, 0.5, 1.0));
+        const QColor below = plane.hsvColor();
+        const QColor ring(255 - below.red(), 255 - below.green(), 255 - below.blue());
+        QCOMPARE(pictureOf(plane), picture(0.0, plane.size(), {50, 0}, ring));
+        plane.setHue(120);
+        QCOMPARE(pictureOf(plane), picture(120 / 360.0, plane.size(), {50, 0}, ring));
     }
-}
 
-// Nothing that can be asked or seen tells that the plane is rendered late.
-void tst_ColorPlaneWidget::sameAsTheEagerPlane()
-{
-    QFETCH(int, seed);
-    std::mt19937 generator{static_cast<unsigned>(seed)};
-    const auto random = [&generator](int from, int to) {
-        return std::uniform_int_distribution<int>(from, to)(generator);
-    };
-    QWidget oneWindow;
-    QWidget otherWindow;
-    Plane plane(&oneWindow);
-    EagerPlane eager(&otherWindow);
-    eager.resize(plane.size());
-    for (int step = 0; step < 120; ++step) {
-        const QPoint point(random(-20, 120), random(-20, 70));
-        const QPoint inside(random(0, 60), random(0, 40));
-        switch (random(0, 11)) {
-        case 0:
-        case 1: {
-            const int degrees = random(-10, 370);
+    void setHsvColorIsSilent()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor(Qt::blue));
+        plane.setHsvColor(QColor(Qt::yellow));
+        plane.setHsvColor(QColor(Qt::yellow));
+        QCOMPARE(plane.reports(), Colors());
+        QCOMPARE(plane.hsvColor(), QColor(Qt::yellow));
+        QCOMPARE(pictureOf(plane), picture(60 / 360.0, plane.size(), {100, 0}, Qt::blue));
+    }
+
+    void setHsvColorPlacesTheMarker_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QPoint>("marker");
+        QTest::newRow("top left") << QColor::fromHsvF(0.5, 0.0, 1.0) << QPoint(0, 0);
+        QTest::newRow("top right") << QColor::fromHsvF(0.5, 1.0, 1.0) << QPoint(100, 0);
+        QTest::newRow("bottom left") << QColor::fromHsvF(0.5, 0.0, 0.0) << QPoint(0, 50);
+        QTest::newRow("bottom right") << QColor::fromHsvF(0.5, 1.0, 0.0) << QPoint(100, 50);
+        QTest::newRow("down to the nearest") << QColor::fromHsvF(0.5, 0.204, 0.692) << QPoint(20, 15);
+        QTest::newRow("up to the nearest") << QColor::fromHsvF(0.5, 0.206, 0.688) << QPoint(21, 16);
+    }
+
+    void setHsvColorPlacesTheMarker()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QPoint, marker);
+        Plane plane;
+        plane.setHsvColor(color);
+        const QColor below = plane.at(0.5, marker.x(), marker.y());
+        QCOMPARE(plane.hsvColor(), below);
+        const QColor ring(255 - below.red(), 255 - below.green(), 255 - below.blue());
+        QCOMPARE(pictureOf(plane), picture(0.5, plane.size(), marker, ring));
+    }
+
+    void setHsvColorIgnoresNoColor()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor(Qt::green));
+        const QImage before = pictureOf(plane);
+        plane.setHsvColor(QColor());
+        QCOMPARE(plane.hsvColor(), QColor(Qt::green));
+        QCOMPARE(pictureOf(plane), before);
+    }
+
+    void greyShowsTheRedPlane_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::newRow("grey") << QColor(102, 102, 102);
+        QTest::newRow("black") << QColor(Qt::black);
+        QTest::newRow("white") << QColor(Qt::white);
+        QTest::newRow("HSV without a hue") << QColor::fromHsv(-1, 0, 102);
+    }
+
+    void greyShowsTheRedPlane()
+    {
+        QFETCH(QColor, color);
+        Plane plane;
+        plane.setHue(240);
+        plane.setHsvColor(color);
+        QCOMPARE(plane.hsvColor(), color.toRgb());
+        QCOMPARE(pictureOf(plane).pixelColor(100, 0), QColor(Qt::red));
+    }
+
+    void colorsOfEverySpec_data()
+    {
+        QTest::addColumn<QColor>("color");
+        const QColor color(255, 0, 255);
+        QTest::newRow("RGB") << color;
+        QTest::newRow("HSV") << color.toHsv();
+        QTest::newRow("HSL") << color.toHsl();
+        QTest::newRow("CMYK") << color.toCmyk();
+        QTest::newRow("extended RGB") << color.toExtendedRgb();
+        QTest::newRow("with alpha") << QColor(255, 0, 255, 12);
+    }
+
+    void colorsOfEverySpec()
+    {
+        QFETCH(QColor, color);
+        Plane plane;
+        plane.setHsvColor(color);
+        QCOMPARE(plane.hsvColor(), QColor(255, 0, 255));
+    }
+
+    void reportsRgb()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsv(10, 100, 100, 50));
+        plane.setHue(90);
+        const Colors reports = plane.reports();
+        QCOMPARE(reports.size(), 1);
+        QCOMPARE(reports.front().spec(), QColor::Rgb);
+        QCOMPARE(reports.front().alpha(), 255);
+        QCOMPARE(plane.hsvColor().spec(), QColor::Rgb);
+    }
+
+    void pressOutsideIsTakenAsItIs()
+    {
+        Plane plane;
+        plane.setHue(180);
+        press(plane, {200, 20});
+        QCOMPARE(plane.reports(), Colors{QColor()});
+        QVERIFY(!plane.hsvColor().isValid());
+        QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
+        plane.setHue(90);
+        QCOMPARE(plane.reports(), Colors());
+        release(plane, {200, 20});
+        QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 20)});
+    }
+
+    void resizeKeepsTheMarker()
+    {
+        Plane plane;
+        plane.show();
+        plane.setHue(60);
+        press(plane, {30, 20});
+        release(plane, {30, 20});
+        plane.reports();
+        const QColor before = plane.hsvColor();
+        plane.resize(301, 201);
+        const QColor below = formula(60 / 360.0, {301, 201}, {30, 20});
+        QCOMPARE(plane.hsvColor(), below);
+        QVERIFY(below != before);
+        QCOMPARE(plane.reports(), Colors());
+        QCOMPARE(pictureOf(plane),
+                 picture(60 / 360.0, {301, 201}, {30, 20},
+                         QColor(255 - before.red(), 255 - before.green(), 255 - before.blue())));
+    }
+
+    void markerOutsideAfterShrinking()
+    {
+        Plane plane;
+        plane.show();
+        plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 1.0));
+        plane.resize(100, 51);
+        QVERIFY(!plane.hsvColor().isValid());
+        QCOMPARE(pictureOf(plane), planeImage(0.25, plane.size()));
+        plane.setHue(180);
+        QCOMPARE(plane.reports(), Colors());
+        plane.resize(102, 51);
+        QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
+        plane.setHue(90);
+        QCOMPARE(plane.reports(), Colors{plane.at(0.25, 100, 0)});
+    }
+
+    void removedMarker()
+    {
+        Plane plane;
+        plane.show();
+        plane.setHsvColor(QColor::fromHsvF(0.25, 0.5, 0.5));
+        QVERIFY(pictureOf(plane) != planeImage(0.25, plane.size()));
+        plane.removeMarker();
+        QVERIFY(!plane.hsvColor().isValid());
+        QCOMPARE(pictureOf(plane), planeImage(0.25, plane.size()));
+        plane.setHue(180);
+        QCOMPARE(plane.reports(), Colors());
+        plane.setHsvColor(QColor::fromHsvF(0.5, 1.0, 1.0));
+        QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
+    }
+
+    // It learns of its size when it is shown, unless its colour changes before.
+    void hiddenWidgetIsResized()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsvF(0.25, 0.5, 1.0));
+        QCOMPARE(plane.hsvColor(), formula(0.25, {101, 51}, {50, 0}));
+        plane.resize(201, 101);
+        QCOMPARE(plane.hsvColor(), formula(0.25, {101, 51}, {50, 0}));
+        plane.setHue(180);
+        QCOMPARE(plane.reports(), Colors{formula(0.5, {201, 101}, {50, 0})});
+        plane.resize(51, 51);
+        plane.show();
+        QCOMPARE(plane.hsvColor(), formula(0.5, {51, 51}, {50, 0}));
+        QCOMPARE(plane.reports(), Colors());
+    }
+
+    void tinyPlanes_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("1 x 1") << QSize(1, 1);
+        QTest::newRow("1 x 40") << QSize(1, 40);
+        QTest::newRow("40 x 1") << QSize(40, 1);
+        QTest::newRow("0 x 0") << QSize(0, 0);
+        QTest::newRow("0 x 40") << QSize(0, 40);
+        QTest::newRow("40 x 0") << QSize(40, 0);
+        QTest::newRow("2 x 2") << QSize(2, 2);
+    }
+
+    void tinyPlanes()
+    {
+        QFETCH(QSize, size);
+        QWidget window;
+        Plane plane(&window);
+        plane.resize(size);
+        window.show();
+        plane.setHue(100);
+        const double hue = 100 / 360.0;
+        const bool empty = size.isEmpty();
+        const QRect rect(QPoint(), size);
+        const auto color = [&](double of, const QPoint& at) {
+            return rect.contains(at) ? formula(of, size, at) : QColor();
+        };
+        if (!empty) {
+            QCOMPARE(pictureOf(plane), planeImage(hue, size));
+        }
+        press(plane, {0, 0});
+        drag(plane, {10, 10});
+        const QPoint dragged(qMax(0, qMin(10, rect.right())), qMax(0, qMin(10, rect.bottom())));
+        release(plane, {0, 0});
+        Colors expected{color(hue, {0, 0})};
+        if (dragged != QPoint(0, 0)) {
+            expected += color(hue, dragged);
+        }
+        expected += color(hue, {0, 0});
+        QCOMPARE(plane.reports(), expected);
+        plane.setHsvColor(QColor(Qt::blue));
+        const QPoint marker(size.width() - 1, 0);
+        QCOMPARE(plane.hsvColor(), empty ? QColor() : color(240 / 360.0, marker));
+        plane.setHue(1);
+        QCOMPARE(plane.reports(), empty ? Colors() : Colors{color(1 / 360.0, marker)});
+        pictureOf(window);
+    }
+
+    void markerProperties()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
+        plane.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&plane));
+        QVERIFY(paintsOf(plane, [&] { plane.setMarkerRadius(12); }) > 0);
+        QCOMPARE(paintsOf(plane, [&] { plane.setMarkerRadius(12); }), 0);
+        QVERIFY(paintsOf(plane, [&] { QVERIFY(plane.setProperty("markerBorderWidth", 5)); }) > 0);
+        QCOMPARE(paintsOf(plane, [&] { plane.setMarkerBorderWidth(5); }), 0);
+        QCOMPARE(plane.markerRadius(), 12);
+        QCOMPARE(plane.markerBorderWidth(), 5);
+        QCOMPARE(plane.property("markerRadius"), QVariant(12));
+        const QColor below = plane.hsvColor();
+        QCOMPARE(pictureOf(plane),
+                 picture(0.5, plane.size(), {50, 25},
+                         QColor(255 - below.red(), 255 - below.green(), 255 - below.blue()), 12, 5));
+        plane.setStyleSheet(QStringLiteral("ColorPlaneWidget { qproperty-markerRadius: 3; }"));
+        plane.ensurePolished();
+        QCOMPARE(plane.markerRadius(), 3);
+        QCOMPARE(plane.reports(), Colors());
+    }
+
+    void oddMarkers_data()
+    {
+        QTest::addColumn<int>("radius");
+        QTest::addColumn<int>("width");
+        QTest::newRow("no radius") << 0 << 2;
+        QTest::newRow("no width") << 8 << 0;
+        QTest::newRow("negative radius") << -8 << 2;
+        QTest::newRow("negative width") << 8 << -2;
+        QTest::newRow("huge") << 1000000 << 1000000;
+    }
+
+    void oddMarkers()
+    {
+        QFETCH(int, radius);
+        QFETCH(int, width);
+        Plane plane;
+        plane.setMarkerRadius(radius);
+        plane.setMarkerBorderWidth(width);
+        plane.setHsvColor(QColor(Qt::green));
+        QCOMPARE(pictureOf(plane).size(), plane.size());
+        QCOMPARE(plane.hsvColor(), QColor(Qt::green));
+    }
+
+    void changesAreReportedAtOnce()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor(Qt::red));
+        plane.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&plane));
+        QCoreApplication::processEvents();
+        for (int degrees = 1; degrees < 300; ++degrees) {
             plane.setHue(degrees);
-            eager.setHue(degrees);
-            break;
+            QCOMPARE(plane.reports(), Colors{plane.at(degrees / 360.0, 100, 0)});
+            QCOMPARE(plane.hsvColor(), plane.at(degrees / 360.0, 100, 0));
         }
-        case 2: {
-            const QColor color = QColor::fromRgba(generator());
-            plane.setHsvColor(color);
-            eager.setColor(color);
-            break;
-        }
-        case 3: {
-            const int grey = random(0, 255);
-            plane.setHsvColor(QColor(grey, grey, grey));
-            eager.setColor(QColor(grey, grey, grey));
-            break;
-        }
-        case 4: {
-            const QSize size(random(0, 90), random(0, 60));
-            plane.resize(size);
-            eager.resize(size);
-            break;
-        }
-        case 5:
-            oneWindow.setVisible(!oneWindow.isVisible());
-            otherWindow.setVisible(oneWindow.isVisible());
-            break;
-        case 6:
-            press(plane, inside);
-            eager.pressAt(inside);
-            break;
-        case 7:
-        case 8:
-            drag(plane, point);
-            eager.dragTo(point);
-            break;
-        case 9:
-            release(plane, point);
-            eager.releaseAt(point);
-            break;
-        case 10:
-            QCoreApplication::processEvents();
-            break;
-        default:
-            QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
-        }
-        QCOMPARE(plane.hsvColor(), eager.color());
+        plane.setHsvColor(QColor::fromHsvF(0.25, 1.0, 0.5));
+        QCoreApplication::processEvents();
+        QCOMPARE(pictureOf(plane).pixelColor(100, 0), plane.at(0.25, 100, 0));
     }
-    QCOMPARE(plane.reports(), eager.reports);
-    QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
-}
 
-void tst_ColorPlaneWidget::keysWithoutAPlane()
-{
-    Plane plane;
-    QTest::keyClick(&plane, Qt::Key_Left);
-    QCOMPARE(plane.reports(), Colors());
-    plane.setHue(180);
-    QTest::keyClick(&plane, Qt::Key_Right);
-    QCOMPARE(plane.reports(), Colors{QColor(Qt::white)});
-}
+    void eachStepOfTheMarkerPaintsOnce()
+    {
+        Plane plane;
+        plane.setHue(180);
+        plane.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&plane));
+        pictureOf(plane);
+        press(plane, {5, 5});
+        for (int x = 6; x < 60; ++x) {
+            QCOMPARE(paintsOf(plane, [&] { drag(plane, {x, 20}); }), 1);
+        }
+        release(plane, {60, 20});
+        plane.setHsvColor(QColor::fromHsvF(0.5, 0.1, 0.9));
+        pictureOf(plane);
+    }
 
-void tst_ColorPlaneWidget::focusIsShownToKeyboardUsers()
-{
-    QWidget window;
-    Plane plane(&window);
-    plane.setHue(180);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    plane.setFocus(Qt::MouseFocusReason);
-    QVERIFY(plane.hasFocus());
-    QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
-    plane.clearFocus();
-    plane.setFocus(Qt::TabFocusReason);
-    QVERIFY(pictureOf(plane) != planeImage(0.5, plane.size()));
-    // Around the colours, not over them: styles fill the frame.
-    const QRect inside = plane.rect().adjusted(2, 2, -2, -2);
-    QCOMPARE(pictureOf(plane).copy(inside), planeImage(0.5, plane.size()).copy(inside));
-    plane.clearFocus();
-    QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
-}
+    void resizedPlaneIsPaintedAnew()
+    {
+        Plane plane;
+        plane.setHue(180);
+        plane.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&plane));
+        pictureOf(plane);
+        for (int width = 102; width < 140; ++width) {
+            plane.resize(width, 60);
+        }
+        QCOMPARE(pictureOf(plane), planeImage(0.5, {139, 60}));
+    }
 
-void tst_ColorPlaneWidget::rightToLeft()
-{
-    Plane plane;
-    plane.setLayoutDirection(Qt::RightToLeft);
-    plane.setHsvColor(QColor(Qt::red));
-    QCOMPARE(pictureOf(plane), picture(0.0, plane.size(), {100, 0}, Qt::cyan));
-    QTest::keyClick(&plane, Qt::Key_Left);
-    QCOMPARE(plane.reports(), Colors{plane.at(0.0, 99, 0)});
-}
+    void sameAsTheEagerPlane_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 0; seed < 30; ++seed) {
+            QTest::addRow("seed %d", seed) << seed;
+        }
+    }
 
-void tst_ColorPlaneWidget::deletedBySettingTheHue()
-{
-    const QPointer<Plane> plane = new Plane;
-    plane->setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
-    connect(plane, &ColorPlaneWidget::hsvColorChanged, this, [&plane] { delete plane; });
-    plane->setHue(7);
-    QVERIFY(!plane);
-}
+    // Nothing that can be asked or seen tells that the plane is rendered late.
+    void sameAsTheEagerPlane()
+    {
+        QFETCH(int, seed);
+        std::mt19937 generator{static_cast<unsigned>(seed)};
+        const auto random = [&generator](int from, int to) {
+            return std::uniform_int_distribution<int>(from, to)(generator);
+        };
+        QWidget oneWindow;
+        QWidget otherWindow;
+        Plane plane(&oneWindow);
+        EagerPlane eager(&otherWindow);
+        eager.resize(plane.size());
+        for (int step = 0; step < 120; ++step) {
+            const QPoint point(random(-20, 120), random(-20, 70));
+            const QPoint inside(random(0, 60), random(0, 40));
+            switch (random(0, 11)) {
+            case 0:
+            case 1: {
+                const int degrees = random(-10, 370);
+                plane.setHue(degrees);
+                eager.setHue(degrees);
+                break;
+            }
+            case 2: {
+                const QColor color = QColor::fromRgba(generator());
+                plane.setHsvColor(color);
+                eager.setColor(color);
+                break;
+            }
+            case 3: {
+                const int grey = random(0, 255);
+                plane.setHsvColor(QColor(grey, grey, grey));
+                eager.setColor(QColor(grey, grey, grey));
+                break;
+            }
+            case 4: {
+                const QSize size(random(0, 90), random(0, 60));
+                plane.resize(size);
+                eager.resize(size);
+                break;
+            }
+            case 5:
+                oneWindow.setVisible(!oneWindow.isVisible());
+                otherWindow.setVisible(oneWindow.isVisible());
+                break;
+            case 6:
+                press(plane, inside);
+                eager.pressAt(inside);
+                break;
+            case 7:
+            case 8:
+                drag(plane, point);
+                eager.dragTo(point);
+                break;
+            case 9:
+                release(plane, point);
+                eager.releaseAt(point);
+                break;
+            case 10:
+                QCoreApplication::processEvents();
+                break;
+            default:
+                QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
+            }
+            QCOMPARE(plane.hsvColor(), eager.color());
+        }
+        QCOMPARE(plane.reports(), eager.reports);
+        QCOMPARE(pictureOf(oneWindow), pictureOf(otherWindow));
+    }
+
+    void keysWithoutAPlane()
+    {
+        Plane plane;
+        QTest::keyClick(&plane, Qt::Key_Left);
+        QCOMPARE(plane.reports(), Colors());
+        plane.setHue(180);
+        QTest::keyClick(&plane, Qt::Key_Right);
+        QCOMPARE(plane.reports(), Colors{QColor(Qt::white)});
+    }
+
+    void focusIsShownToKeyboardUsers()
+    {
+        QWidget window;
+        Plane plane(&window);
+        plane.setHue(180);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        plane.setFocus(Qt::MouseFocusReason);
+        QVERIFY(plane.hasFocus());
+        QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
+        plane.clearFocus();
+        plane.setFocus(Qt::TabFocusReason);
+        QVERIFY(pictureOf(plane) != planeImage(0.5, plane.size()));
+        // Around the colours, not over them: styles fill the frame.
+        const QRect inside = plane.rect().adjusted(2, 2, -2, -2);
+        QCOMPARE(pictureOf(plane).copy(inside), planeImage(0.5, plane.size()).copy(inside));
+        plane.clearFocus();
+        QCOMPARE(pictureOf(plane), planeImage(0.5, plane.size()));
+    }
+
+    void rightToLeft()
+    {
+        Plane plane;
+        plane.setLayoutDirection(Qt::RightToLeft);
+        plane.setHsvColor(QColor(Qt::red));
+        QCOMPARE(pictureOf(plane), picture(0.0, plane.size(), {100, 0}, Qt::cyan));
+        QTest::keyClick(&plane, Qt::Key_Left);
+        QCOMPARE(plane.reports(), Colors{plane.at(0.0, 99, 0)});
+    }
+
+    void deletedBySettingTheHue()
+    {
+        const QPointer<Plane> plane = new Plane;
+        plane->setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
+        connect(plane, &ColorPlaneWidget::hsvColorChanged, this, [&plane] { delete plane; });
+        plane->setHue(7);
+        QVERIFY(!plane);
+    }
+};
 
 UIC_TEST_MAIN(tst_ColorPlaneWidget)
 #include "tst_ColorPlaneWidget.moc"

@@ -9,98 +9,93 @@ class tst_CursorGuard : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void bringsTheFormerCursorBack();
-    void widgetWithoutACursorFollowsItsParentAgain();
-    void widgetDiesFirst();
-    void severalOnOneWidget_data();
-    void severalOnOneWidget();
-};
-
-void tst_CursorGuard::bringsTheFormerCursorBack()
-{
-    QWidget widget;
-    widget.setCursor(Qt::IBeamCursor);
+    void bringsTheFormerCursorBack()
     {
-        const CursorGuard guard(&widget, Qt::CrossCursor);
-        QCOMPARE(widget.cursor().shape(), Qt::CrossCursor);
-    }
-    QCOMPARE(widget.cursor().shape(), Qt::IBeamCursor);
-}
-
-void tst_CursorGuard::widgetWithoutACursorFollowsItsParentAgain()
-{
-    QWidget parent;
-    parent.setCursor(Qt::IBeamCursor);
-    QWidget child(&parent);
-    {
-        const CursorGuard guard(&child, Qt::CrossCursor);
-        QCOMPARE(child.cursor().shape(), Qt::CrossCursor);
-    }
-    QCOMPARE(child.cursor().shape(), Qt::IBeamCursor);
-    parent.setCursor(Qt::WaitCursor);
-    QCOMPARE(child.cursor().shape(), Qt::WaitCursor);
-}
-
-// A guard that took a dead widget for none would take away an override cursor of the application's.
-void tst_CursorGuard::widgetDiesFirst()
-{
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    {
-        auto widget = std::make_unique<QWidget>();
-        const CursorGuard guard(widget.get(), Qt::CrossCursor);
-        widget.reset();
-    }
-    QVERIFY(QGuiApplication::overrideCursor());
-    QGuiApplication::restoreOverrideCursor();
-    QVERIFY(!QGuiApplication::overrideCursor());
-}
-
-void tst_CursorGuard::severalOnOneWidget_data()
-{
-    QTest::addColumn<QVector<int>>("order");
-    QTest::addColumn<bool>("hasOwnCursor");
-    const QVector<QVector<int>> orders = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
-    for (const QVector<int>& order : orders) {
-        for (const bool hasOwnCursor : {true, false}) {
-            QTest::addRow("%d, %d, %d, %s", order.at(0), order.at(1), order.at(2),
-                          hasOwnCursor ? "own cursor" : "inherited cursor")
-                << order << hasOwnCursor;
-        }
-    }
-}
-
-// Each records the cursor of the one before as the former one.
-void tst_CursorGuard::severalOnOneWidget()
-{
-    QFETCH(const QVector<int>, order);
-    QFETCH(const bool, hasOwnCursor);
-    QWidget parent;
-    QWidget widget(&parent);
-    QWidget other(&parent);
-    if (hasOwnCursor) {
+        QWidget widget;
         widget.setCursor(Qt::IBeamCursor);
+        {
+            const CursorGuard guard(&widget, Qt::CrossCursor);
+            QCOMPARE(widget.cursor().shape(), Qt::CrossCursor);
+        }
+        QCOMPARE(widget.cursor().shape(), Qt::IBeamCursor);
     }
-    const CursorGuard otherGuard(&other, Qt::WaitCursor);
-    const QVector<Qt::CursorShape> shapes = {Qt::CrossCursor, Qt::PointingHandCursor, Qt::OpenHandCursor};
-    std::unique_ptr<CursorGuard> guards[3];
-    for (int i = 0; i < 3; ++i) {
-        guards[i] = std::make_unique<CursorGuard>(&widget, shapes.at(i));
-        QCOMPARE(widget.cursor().shape(), shapes.at(i));
+
+    void widgetWithoutACursorFollowsItsParentAgain()
+    {
+        QWidget parent;
+        parent.setCursor(Qt::IBeamCursor);
+        QWidget child(&parent);
+        {
+            const CursorGuard guard(&child, Qt::CrossCursor);
+            QCOMPARE(child.cursor().shape(), Qt::CrossCursor);
+        }
+        QCOMPARE(child.cursor().shape(), Qt::IBeamCursor);
+        parent.setCursor(Qt::WaitCursor);
+        QCOMPARE(child.cursor().shape(), Qt::WaitCursor);
     }
-    for (const int next : order) {
-        guards[next].reset();
-        // The cursor is that of the latest one that is left.
-        for (int i = 2; i >= 0; --i) {
-            if (guards[i]) {
-                QCOMPARE(widget.cursor().shape(), shapes.at(i));
-                break;
+
+    // A guard that took a dead widget for none would take away an override cursor of the application's.
+    void widgetDiesFirst()
+    {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        {
+            auto widget = std::make_unique<QWidget>();
+            const CursorGuard guard(widget.get(), Qt::CrossCursor);
+            widget.reset();
+        }
+        QVERIFY(QGuiApplication::overrideCursor());
+        QGuiApplication::restoreOverrideCursor();
+        QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void severalOnOneWidget_data()
+    {
+        QTest::addColumn<QVector<int>>("order");
+        QTest::addColumn<bool>("hasOwnCursor");
+        const QVector<QVector<int>> orders = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2},
+                                              {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
+        for (const QVector<int>& order : orders) {
+            for (const bool hasOwnCursor : {true, false}) {
+                QTest::addRow("%d, %d, %d, %s", order.at(0), order.at(1), order.at(2),
+                              hasOwnCursor ? "own cursor" : "inherited cursor")
+                    << order << hasOwnCursor;
             }
         }
     }
-    QCOMPARE(widget.cursor().shape(), hasOwnCursor ? Qt::IBeamCursor : Qt::ArrowCursor);
-    QCOMPARE(widget.testAttribute(Qt::WA_SetCursor), hasOwnCursor);
-    QCOMPARE(other.cursor().shape(), Qt::WaitCursor);
-}
+
+    // Each records the cursor of the one before as the former one.
+    void severalOnOneWidget()
+    {
+        QFETCH(const QVector<int>, order);
+        QFETCH(const bool, hasOwnCursor);
+        QWidget parent;
+        QWidget widget(&parent);
+        QWidget other(&parent);
+        if (hasOwnCursor) {
+            widget.setCursor(Qt::IBeamCursor);
+        }
+        const CursorGuard otherGuard(&other, Qt::WaitCursor);
+        const QVector<Qt::CursorShape> shapes = {Qt::CrossCursor, Qt::PointingHandCursor, Qt::OpenHandCursor};
+        std::unique_ptr<CursorGuard> guards[3];
+        for (int i = 0; i < 3; ++i) {
+            guards[i] = std::make_unique<CursorGuard>(&widget, shapes.at(i));
+            QCOMPARE(widget.cursor().shape(), shapes.at(i));
+        }
+        for (const int next : order) {
+            guards[next].reset();
+            // The cursor is that of the latest one that is left.
+            for (int i = 2; i >= 0; --i) {
+                if (guards[i]) {
+                    QCOMPARE(widget.cursor().shape(), shapes.at(i));
+                    break;
+                }
+            }
+        }
+        QCOMPARE(widget.cursor().shape(), hasOwnCursor ? Qt::IBeamCursor : Qt::ArrowCursor);
+        QCOMPARE(widget.testAttribute(Qt::WA_SetCursor), hasOwnCursor);
+        QCOMPARE(other.cursor().shape(), Qt::WaitCursor);
+    }
+};
 
 UIC_TEST_MAIN(tst_CursorGuard)
 #include "tst_CursorGuard.moc"

@@ -85,453 +85,416 @@ class tst_CustomColorSelectWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() { QVERIFY(!QWidget::mouseGrabber()); }
 
-    void metaObject();
-    void construction();
-    void layouts();
-    void languageChanges();
-    void labelBelongsToTheSlider();
-
-    void startsWithoutAPlane();
-    void colorAppearsOnTheNextTurn();
-    void firstColorIsSilent();
-    void colorOfTheSameHueIsSilent();
-    void colorOfAnotherHueIsReported();
-    void startsFromAColorInSilence();
-    void setColorTwiceInOneTurn();
-    void greyShowsTheRedPlane_data();
-    void greyShowsTheRedPlane();
-    void noColorIsBlack();
-    void lastHues_data();
-    void lastHues();
-    void alphaIsDropped();
-    void hostThatFeedsTheColorBack();
-
-    void userDragsOverThePlane();
-    void userMovesTheSlider();
-    void sliderBeforeAnyColor();
-    void sliderByKeyboard();
-    void draggedBetweenSetColorAndItsTurn();
-    void invalidColorIsReportedAsItIs();
-    void reportsAreRgb();
-
-    void rightToLeft();
-    void deletedBeforeItsTurn();
-    void deletedInItsSignal_data();
-    void deletedInItsSignal();
-};
-
-void tst_CustomColorSelectWidget::cleanup()
-{
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_CustomColorSelectWidget::metaObject()
-{
-    const QMetaObject& meta = CustomColorSelectWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("CustomColorSelectWidget"));
-    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)")}));
-    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("color"));
-    QCOMPARE(ownProperties(meta), QStringList());
-}
-
-void tst_CustomColorSelectWidget::construction()
-{
-    QWidget parent;
-    const auto* selector = new CustomColorSelectWidget(&parent);
-    QCOMPARE(selector->parentWidget(), &parent);
-    const auto* plane = childOf<ColorPlaneWidget>(*selector, "colorPlane");
-    const auto* panel = childOf<OvFrame>(*selector, "huePanel");
-    const auto* label = childOf<QLabel>(*selector, "hueLabel");
-    const auto* slider = childOf<Orvane::Tessel::TesselElegantSlider>(*selector, "hueSlider");
-    QVERIFY(plane && panel && label && slider);
-    QCOMPARE(plane->parentWidget(), selector);
-    QCOMPARE(panel->parentWidget(), selector);
-    QCOMPARE(label->parentWidget(), panel);
-    QCOMPARE(slider->parentWidget(), panel);
-    QCOMPARE(slider->orientation(), Qt::Horizontal);
-    QCOMPARE(slider->minimum(), 0);
-    QCOMPARE(slider->maximum(), 359);
-    QCOMPARE(slider->value(), 0);
-    QCOMPARE(label->text(), QStringLiteral("Hue"));
-}
-
-void tst_CustomColorSelectWidget::layouts()
-{
-    const CustomColorSelectWidget selector;
-    const auto* panel = childOf<OvFrame>(selector, "huePanel");
-    const auto check = [](const QWidget& owner, const QStringList& names) {
-        const QLayout* layout = owner.layout();
-        QVERIFY(layout);
-        QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvVBoxLayout"));
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        QStringList found;
-        for (int i = 0; i < layout->count(); ++i) {
-            found += layout->itemAt(i)->widget()->objectName();
-        }
-        QCOMPARE(found, names);
-    };
-    check(selector, {QStringLiteral("colorPlane"), QStringLiteral("huePanel")});
-    check(*panel, {QStringLiteral("hueLabel"), QStringLiteral("hueSlider")});
-}
-
-void tst_CustomColorSelectWidget::languageChanges()
-{
-    const CustomColorSelectWidget selector;
-    const auto* label = childOf<QLabel>(selector, "hueLabel");
+    void metaObject()
     {
-        HueTranslator translator;
-        QCoreApplication::installTranslator(&translator);
+        const QMetaObject& meta = CustomColorSelectWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("CustomColorSelectWidget"));
+        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)")}));
+        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("color"));
+        QCOMPARE(ownProperties(meta), QStringList());
+    }
+
+    void construction()
+    {
+        QWidget parent;
+        const auto* selector = new CustomColorSelectWidget(&parent);
+        QCOMPARE(selector->parentWidget(), &parent);
+        const auto* plane = childOf<ColorPlaneWidget>(*selector, "colorPlane");
+        const auto* panel = childOf<OvFrame>(*selector, "huePanel");
+        const auto* label = childOf<QLabel>(*selector, "hueLabel");
+        const auto* slider = childOf<Orvane::Tessel::TesselElegantSlider>(*selector, "hueSlider");
+        QVERIFY(plane && panel && label && slider);
+        QCOMPARE(plane->parentWidget(), selector);
+        QCOMPARE(panel->parentWidget(), selector);
+        QCOMPARE(label->parentWidget(), panel);
+        QCOMPARE(slider->parentWidget(), panel);
+        QCOMPARE(slider->orientation(), Qt::Horizontal);
+        QCOMPARE(slider->minimum(), 0);
+        QCOMPARE(slider->maximum(), 359);
+        QCOMPARE(slider->value(), 0);
+        QCOMPARE(label->text(), QStringLiteral("Hue"));
+    }
+
+    void layouts()
+    {
+        const CustomColorSelectWidget selector;
+        const auto* panel = childOf<OvFrame>(selector, "huePanel");
+        const auto check = [](const QWidget& owner, const QStringList& names) {
+            const QLayout* layout = owner.layout();
+            QVERIFY(layout);
+            QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvVBoxLayout"));
+            QCOMPARE(layout->contentsMargins(), QMargins());
+            QCOMPARE(layout->spacing(), 0);
+            QStringList found;
+            for (int i = 0; i < layout->count(); ++i) {
+                found += layout->itemAt(i)->widget()->objectName();
+            }
+            QCOMPARE(found, names);
+        };
+        check(selector, {QStringLiteral("colorPlane"), QStringLiteral("huePanel")});
+        check(*panel, {QStringLiteral("hueLabel"), QStringLiteral("hueSlider")});
+    }
+
+    void languageChanges()
+    {
+        const CustomColorSelectWidget selector;
+        const auto* label = childOf<QLabel>(selector, "hueLabel");
+        {
+            HueTranslator translator;
+            QCoreApplication::installTranslator(&translator);
+            QCoreApplication::processEvents();
+            QCOMPARE(label->text(), QStringLiteral("Farbton"));
+            QCOMPARE(childOf<QLabel>(CustomColorSelectWidget(), "hueLabel")->text(),
+                     QStringLiteral("Farbton"));
+            QCoreApplication::removeTranslator(&translator);
+        }
         QCoreApplication::processEvents();
-        QCOMPARE(label->text(), QStringLiteral("Farbton"));
-        QCOMPARE(childOf<QLabel>(CustomColorSelectWidget(), "hueLabel")->text(), QStringLiteral("Farbton"));
-        QCoreApplication::removeTranslator(&translator);
+        QCOMPARE(label->text(), QStringLiteral("Hue"));
     }
-    QCoreApplication::processEvents();
-    QCOMPARE(label->text(), QStringLiteral("Hue"));
-}
 
-void tst_CustomColorSelectWidget::labelBelongsToTheSlider()
-{
-    const Selector selector;
-    QCOMPARE(childOf<QLabel>(selector, "hueLabel")->buddy(), selector.slider);
-}
+    void labelBelongsToTheSlider()
+    {
+        const Selector selector;
+        QCOMPARE(childOf<QLabel>(selector, "hueLabel")->buddy(), selector.slider);
+    }
 
-void tst_CustomColorSelectWidget::startsWithoutAPlane()
-{
-    Selector selector;
-    QCoreApplication::processEvents();
-    QVERIFY(!selector.plane->hsvColor().isValid());
-    selector.grab();
-    QCOMPARE(selector.reports(), Colors());
-}
+    void startsWithoutAPlane()
+    {
+        Selector selector;
+        QCoreApplication::processEvents();
+        QVERIFY(!selector.plane->hsvColor().isValid());
+        selector.grab();
+        QCOMPARE(selector.reports(), Colors());
+    }
 
-void tst_CustomColorSelectWidget::colorAppearsOnTheNextTurn()
-{
-    Selector selector;
-    selector.setColor(QColor::fromHsv(200, 255, 255));
-    QCOMPARE(selector.slider->value(), 0);
-    QVERIFY(!selector.plane->hsvColor().isValid());
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.slider->value(), 200);
-    QCOMPARE(selector.plane->hsvColor(), selector.at(200, 100, 0));
-}
+    void colorAppearsOnTheNextTurn()
+    {
+        Selector selector;
+        selector.setColor(QColor::fromHsv(200, 255, 255));
+        QCOMPARE(selector.slider->value(), 0);
+        QVERIFY(!selector.plane->hsvColor().isValid());
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.slider->value(), 200);
+        QCOMPARE(selector.plane->hsvColor(), selector.at(200, 100, 0));
+    }
 
-// The marker is outside of the plane until then, so the slider's step has nothing to report.
-void tst_CustomColorSelectWidget::firstColorIsSilent()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 100, 100));
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.slider->value(), 200);
-}
+    // The marker is outside of the plane until then, so the slider's step has nothing to report.
+    void firstColorIsSilent()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 100, 100));
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.slider->value(), 200);
+    }
 
-void tst_CustomColorSelectWidget::colorOfTheSameHueIsSilent()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    selector.show(QColor::fromHsv(200, 51, 51));
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.plane->hsvColor(), selector.at(200, 20, 40));
-    selector.show(QColor::fromHsv(200, 51, 51));
-    QCOMPARE(selector.reports(), Colors());
-}
+    void colorOfTheSameHueIsSilent()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        selector.show(QColor::fromHsv(200, 51, 51));
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.plane->hsvColor(), selector.at(200, 20, 40));
+        selector.show(QColor::fromHsv(200, 51, 51));
+        QCOMPARE(selector.reports(), Colors());
+    }
 
-// The slider goes first, and its report replaces the colour that was set.
-void tst_CustomColorSelectWidget::colorOfAnotherHueIsReported()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    selector.show(QColor::fromHsv(80, 51, 51));
-    QCOMPARE(selector.reports(), Colors{selector.at(80, 100, 0)});
-    QCOMPARE(selector.slider->value(), 80);
-    QCOMPARE(selector.plane->hsvColor(), selector.at(80, 100, 0));
-    selector.show(QColor::fromHsv(80, 51, 51));
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.plane->hsvColor(), selector.at(80, 20, 40));
-}
+    // The slider goes first, and its report replaces the colour that was set.
+    void colorOfAnotherHueIsReported()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        selector.show(QColor::fromHsv(80, 51, 51));
+        QCOMPARE(selector.reports(), Colors{selector.at(80, 100, 0)});
+        QCOMPARE(selector.slider->value(), 80);
+        QCOMPARE(selector.plane->hsvColor(), selector.at(80, 100, 0));
+        selector.show(QColor::fromHsv(80, 51, 51));
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.plane->hsvColor(), selector.at(80, 20, 40));
+    }
 
-void tst_CustomColorSelectWidget::startsFromAColorInSilence()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    selector.startFrom(QColor::fromHsv(80, 51, 51));
-    QCOMPARE(selector.slider->value(), 200);
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.slider->value(), 80);
-    QCOMPARE(selector.plane->hsvColor(), selector.at(80, 20, 40));
-    // From then on it is as after setColor().
-    selector.slider->setValue(120);
-    QCOMPARE(selector.reports(), Colors{selector.at(120, 20, 40)});
-}
+    void startsFromAColorInSilence()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        selector.startFrom(QColor::fromHsv(80, 51, 51));
+        QCOMPARE(selector.slider->value(), 200);
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.slider->value(), 80);
+        QCOMPARE(selector.plane->hsvColor(), selector.at(80, 20, 40));
+        // From then on it is as after setColor().
+        selector.slider->setValue(120);
+        QCOMPARE(selector.reports(), Colors{selector.at(120, 20, 40)});
+    }
 
-void tst_CustomColorSelectWidget::setColorTwiceInOneTurn()
-{
-    Selector selector;
-    selector.setColor(QColor::fromHsv(200, 255, 255));
-    selector.setColor(QColor::fromHsv(80, 255, 255));
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.slider->value(), 80);
-    // A set marker reports the first of the two turns, and its colour is what the second one finds.
-    selector.setColor(QColor::fromHsv(200, 51, 51));
-    selector.setColor(QColor::fromHsv(120, 51, 51));
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.reports(), Colors{QColor(Qt::green)});
-    QCOMPARE(selector.plane->hsvColor(), QColor(Qt::green));
-}
+    void setColorTwiceInOneTurn()
+    {
+        Selector selector;
+        selector.setColor(QColor::fromHsv(200, 255, 255));
+        selector.setColor(QColor::fromHsv(80, 255, 255));
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.slider->value(), 80);
+        // A set marker reports the first of the two turns, and its colour is what the second one finds.
+        selector.setColor(QColor::fromHsv(200, 51, 51));
+        selector.setColor(QColor::fromHsv(120, 51, 51));
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.reports(), Colors{QColor(Qt::green)});
+        QCOMPARE(selector.plane->hsvColor(), QColor(Qt::green));
+    }
 
-void tst_CustomColorSelectWidget::greyShowsTheRedPlane_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QPoint>("marker");
-    QTest::newRow("grey") << QColor(102, 102, 102) << QPoint(0, 30);
-    QTest::newRow("white") << QColor(Qt::white) << QPoint(0, 0);
-    QTest::newRow("black") << QColor(Qt::black) << QPoint(0, 50);
-}
+    void greyShowsTheRedPlane_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QPoint>("marker");
+        QTest::newRow("grey") << QColor(102, 102, 102) << QPoint(0, 30);
+        QTest::newRow("white") << QColor(Qt::white) << QPoint(0, 0);
+        QTest::newRow("black") << QColor(Qt::black) << QPoint(0, 50);
+    }
 
-void tst_CustomColorSelectWidget::greyShowsTheRedPlane()
-{
-    QFETCH(QColor, color);
-    QFETCH(QPoint, marker);
-    Selector selector;
-    selector.show(color);
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.slider->value(), 0);
-    QCOMPARE(selector.plane->hsvColor(), selector.at(0, marker.x(), marker.y()));
-    QCOMPARE(selector.planeColorAt(100, 0), QColor(Qt::red));
-    // From another hue, the slider's step is reported.
-    selector.show(QColor::fromHsv(0, 255, 255));
-    selector.slider->setValue(300);
-    QCOMPARE(selector.reports(), Colors{selector.at(300, 100, 0)});
-    selector.show(color);
-    QCOMPARE(selector.reports(), Colors{QColor(Qt::red)});
-    QCOMPARE(selector.slider->value(), 0);
-    QCOMPARE(selector.plane->hsvColor(), QColor(Qt::red));
-}
+    void greyShowsTheRedPlane()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QPoint, marker);
+        Selector selector;
+        selector.show(color);
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.slider->value(), 0);
+        QCOMPARE(selector.plane->hsvColor(), selector.at(0, marker.x(), marker.y()));
+        QCOMPARE(selector.planeColorAt(100, 0), QColor(Qt::red));
+        // From another hue, the slider's step is reported.
+        selector.show(QColor::fromHsv(0, 255, 255));
+        selector.slider->setValue(300);
+        QCOMPARE(selector.reports(), Colors{selector.at(300, 100, 0)});
+        selector.show(color);
+        QCOMPARE(selector.reports(), Colors{QColor(Qt::red)});
+        QCOMPARE(selector.slider->value(), 0);
+        QCOMPARE(selector.plane->hsvColor(), QColor(Qt::red));
+    }
 
-void tst_CustomColorSelectWidget::noColorIsBlack()
-{
-    Selector selector;
-    selector.show(QColor());
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.slider->value(), 0);
-    QCOMPARE(selector.plane->hsvColor(), QColor(Qt::black));
-    selector.slider->setValue(120);
-    selector.press({0, 0});
-    selector.release({0, 0});
-    QCOMPARE(selector.reports(), Colors({Qt::black, Qt::white, Qt::white}));
-}
+    void noColorIsBlack()
+    {
+        Selector selector;
+        selector.show(QColor());
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.slider->value(), 0);
+        QCOMPARE(selector.plane->hsvColor(), QColor(Qt::black));
+        selector.slider->setValue(120);
+        selector.press({0, 0});
+        selector.release({0, 0});
+        QCOMPARE(selector.reports(), Colors({Qt::black, Qt::white, Qt::white}));
+    }
 
-void tst_CustomColorSelectWidget::lastHues_data()
-{
-    QTest::addColumn<double>("hue");
-    QTest::addColumn<int>("degrees");
-    QTest::newRow("359") << 359 / 360.0 << 359;
-    QTest::newRow("just below the full circle") << 0.9999 << 359;
-    QTest::newRow("full circle") << 1.0 << 359;
-}
+    void lastHues_data()
+    {
+        QTest::addColumn<double>("hue");
+        QTest::addColumn<int>("degrees");
+        QTest::newRow("359") << 359 / 360.0 << 359;
+        QTest::newRow("just below the full circle") << 0.9999 << 359;
+        QTest::newRow("full circle") << 1.0 << 359;
+    }
 
-void tst_CustomColorSelectWidget::lastHues()
-{
-    QFETCH(double, hue);
-    QFETCH(int, degrees);
-    Selector selector;
-    selector.show(QColor::fromHsvF(hue, 1.0, 1.0));
-    QCOMPARE(selector.slider->value(), degrees);
-    QCOMPARE(selector.reports(), Colors());
-    // The plane knows the whole circle.
-    const int planeHue = QColor::fromHsvF(hue, 1.0, 1.0).hue();
-    QCOMPARE(selector.plane->hsvColor(), selector.at(planeHue, 100, 0));
-}
+    void lastHues()
+    {
+        QFETCH(double, hue);
+        QFETCH(int, degrees);
+        Selector selector;
+        selector.show(QColor::fromHsvF(hue, 1.0, 1.0));
+        QCOMPARE(selector.slider->value(), degrees);
+        QCOMPARE(selector.reports(), Colors());
+        // The plane knows the whole circle.
+        const int planeHue = QColor::fromHsvF(hue, 1.0, 1.0).hue();
+        QCOMPARE(selector.plane->hsvColor(), selector.at(planeHue, 100, 0));
+    }
 
-void tst_CustomColorSelectWidget::alphaIsDropped()
-{
-    Selector selector;
-    selector.show(QColor(0, 0, 255, 40));
-    QCOMPARE(selector.plane->hsvColor(), QColor(Qt::blue));
-    selector.press({100, 0});
-    selector.release({100, 0});
-    QCOMPARE(selector.reports(), Colors({Qt::blue, Qt::blue}));
-}
+    void alphaIsDropped()
+    {
+        Selector selector;
+        selector.show(QColor(0, 0, 255, 40));
+        QCOMPARE(selector.plane->hsvColor(), QColor(Qt::blue));
+        selector.press({100, 0});
+        selector.release({100, 0});
+        QCOMPARE(selector.reports(), Colors({Qt::blue, Qt::blue}));
+    }
 
-void tst_CustomColorSelectWidget::hostThatFeedsTheColorBack()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    connect(&selector, &CustomColorSelectWidget::colorChanged, &selector, &CustomColorSelectWidget::setColor);
-    selector.press({20, 10});
-    selector.drag({60, 20});
-    selector.release({60, 20});
-    for (int i = 0; i < 20; ++i) {
+    void hostThatFeedsTheColorBack()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        connect(&selector, &CustomColorSelectWidget::colorChanged, &selector,
+                &CustomColorSelectWidget::setColor);
+        selector.press({20, 10});
+        selector.drag({60, 20});
+        selector.release({60, 20});
+        for (int i = 0; i < 20; ++i) {
+            QCoreApplication::processEvents();
+        }
+        // It comes to rest at a colour that it has reported.
+        const Colors reports = selector.reports();
+        QVERIFY(reports.size() >= 3 && reports.size() < 8);
+        QCOMPARE(reports.mid(0, 3),
+                 Colors({selector.at(200, 20, 10), selector.at(200, 60, 20), selector.at(200, 60, 20)}));
+        QCOMPARE(selector.plane->hsvColor(), reports.back());
+    }
+
+    void userDragsOverThePlane()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        selector.press({20, 10});
+        selector.drag({21, 10});
+        selector.drag({21, 10});
+        selector.drag({-50, 500});
+        selector.release({-50, 500});
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.reports(),
+                 Colors({selector.at(200, 20, 10), selector.at(200, 21, 10), Qt::black, Qt::black}));
+        QCOMPARE(selector.slider->value(), 200);
+    }
+
+    void userMovesTheSlider()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        selector.slider->setValue(201);
+        selector.slider->setValue(201);
+        selector.slider->setSliderPosition(10);
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.reports(), Colors({selector.at(201, 100, 0), selector.at(10, 100, 0)}));
+        QCOMPARE(selector.planeColorAt(100, 0), selector.at(10, 100, 0));
+    }
+
+    void sliderBeforeAnyColor()
+    {
+        Selector selector;
+        selector.slider->setValue(120);
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.planeColorAt(100, 0), QColor(Qt::green));
+        selector.press({100, 0});
+        selector.release({100, 0});
+        QCOMPARE(selector.reports(), Colors({Qt::green, Qt::green}));
+    }
+
+    void sliderByKeyboard()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(200, 255, 255));
+        QTest::keyClick(selector.slider, Qt::Key_Right);
+        QTest::keyClick(selector.slider, Qt::Key_End);
+        QTest::keyClick(selector.slider, Qt::Key_Right);
+        QCOMPARE(selector.reports(), Colors({selector.at(201, 100, 0), selector.at(359, 100, 0)}));
+    }
+
+    // The turn shows the colour that was reported meanwhile, not the one that was set before it.
+    void draggedBetweenSetColorAndItsTurn()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsv(240, 255, 255));
+        selector.setColor(QColor::fromHsv(240, 51, 51));
+        selector.press({100, 25});
+        selector.release({100, 25});
+        const QColor reported = selector.at(240, 100, 25);
+        QCOMPARE(selector.reports(), Colors({reported, reported}));
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.reports(), Colors());
+        QCOMPARE(selector.plane->hsvColor(), reported);
+    }
+
+    void invalidColorIsReportedAsItIs()
+    {
+        Selector selector;
+        selector.setColor(QColor::fromHsv(240, 51, 51));
+        selector.press({50, 25});
+        selector.release({50, 25});
+        QCOMPARE(selector.reports(), Colors({QColor(), QColor()}));
+        // There is no colour for the turn to show, so it shows the slider's hue; the marker is inside.
+        QCoreApplication::processEvents();
+        QCOMPARE(selector.slider->value(), 0);
+        QCOMPARE(selector.reports(), Colors{selector.at(0, 50, 25)});
+        QCOMPARE(selector.plane->hsvColor(), selector.at(0, 50, 25));
+    }
+
+    void reportsAreRgb()
+    {
+        Selector selector;
+        selector.show(QColor::fromHsl(240, 51, 51));
+        selector.press({50, 25});
+        selector.release({50, 25});
+        selector.slider->setValue(7);
+        const Colors reports = selector.reports();
+        QCOMPARE(reports.size(), 3);
+        for (const QColor& color : reports) {
+            QCOMPARE(color.spec(), QColor::Rgb);
+        }
+    }
+
+    // The slider turns round with the layout, the plane does not.
+    void rightToLeft()
+    {
+        Selector selector;
+        selector.setLayoutDirection(Qt::RightToLeft);
+        selector.show(QColor::fromHsv(200, 255, 255));
+        QCOMPARE(selector.planeColorAt(0, 0), QColor(Qt::white));
+        QCOMPARE(selector.plane->hsvColor(), selector.at(200, 100, 0));
+        QTest::keyClick(selector.slider, Qt::Key_Left);
+        QCOMPARE(selector.slider->value(), 201);
+        QCOMPARE(selector.reports(), Colors{selector.at(201, 100, 0)});
+    }
+
+    void deletedBeforeItsTurn()
+    {
+        auto* selector = new CustomColorSelectWidget;
+        selector->setColor(QColor(Qt::red));
+        delete selector;
         QCoreApplication::processEvents();
     }
-    // It comes to rest at a colour that it has reported.
-    const Colors reports = selector.reports();
-    QVERIFY(reports.size() >= 3 && reports.size() < 8);
-    QCOMPARE(reports.mid(0, 3),
-             Colors({selector.at(200, 20, 10), selector.at(200, 60, 20), selector.at(200, 60, 20)}));
-    QCOMPARE(selector.plane->hsvColor(), reports.back());
-}
 
-void tst_CustomColorSelectWidget::userDragsOverThePlane()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    selector.press({20, 10});
-    selector.drag({21, 10});
-    selector.drag({21, 10});
-    selector.drag({-50, 500});
-    selector.release({-50, 500});
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.reports(),
-             Colors({selector.at(200, 20, 10), selector.at(200, 21, 10), Qt::black, Qt::black}));
-    QCOMPARE(selector.slider->value(), 200);
-}
-
-void tst_CustomColorSelectWidget::userMovesTheSlider()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    selector.slider->setValue(201);
-    selector.slider->setValue(201);
-    selector.slider->setSliderPosition(10);
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.reports(), Colors({selector.at(201, 100, 0), selector.at(10, 100, 0)}));
-    QCOMPARE(selector.planeColorAt(100, 0), selector.at(10, 100, 0));
-}
-
-void tst_CustomColorSelectWidget::sliderBeforeAnyColor()
-{
-    Selector selector;
-    selector.slider->setValue(120);
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.planeColorAt(100, 0), QColor(Qt::green));
-    selector.press({100, 0});
-    selector.release({100, 0});
-    QCOMPARE(selector.reports(), Colors({Qt::green, Qt::green}));
-}
-
-void tst_CustomColorSelectWidget::sliderByKeyboard()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(200, 255, 255));
-    QTest::keyClick(selector.slider, Qt::Key_Right);
-    QTest::keyClick(selector.slider, Qt::Key_End);
-    QTest::keyClick(selector.slider, Qt::Key_Right);
-    QCOMPARE(selector.reports(), Colors({selector.at(201, 100, 0), selector.at(359, 100, 0)}));
-}
-
-// The turn shows the colour that was reported meanwhile, not the one that was set before it.
-void tst_CustomColorSelectWidget::draggedBetweenSetColorAndItsTurn()
-{
-    Selector selector;
-    selector.show(QColor::fromHsv(240, 255, 255));
-    selector.setColor(QColor::fromHsv(240, 51, 51));
-    selector.press({100, 25});
-    selector.release({100, 25});
-    const QColor reported = selector.at(240, 100, 25);
-    QCOMPARE(selector.reports(), Colors({reported, reported}));
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.reports(), Colors());
-    QCOMPARE(selector.plane->hsvColor(), reported);
-}
-
-void tst_CustomColorSelectWidget::invalidColorIsReportedAsItIs()
-{
-    Selector selector;
-    selector.setColor(QColor::fromHsv(240, 51, 51));
-    selector.press({50, 25});
-    selector.release({50, 25});
-    QCOMPARE(selector.reports(), Colors({QColor(), QColor()}));
-    // There is no colour for the turn to show, so it shows the slider's hue; the marker is inside.
-    QCoreApplication::processEvents();
-    QCOMPARE(selector.slider->value(), 0);
-    QCOMPARE(selector.reports(), Colors{selector.at(0, 50, 25)});
-    QCOMPARE(selector.plane->hsvColor(), selector.at(0, 50, 25));
-}
-
-void tst_CustomColorSelectWidget::reportsAreRgb()
-{
-    Selector selector;
-    selector.show(QColor::fromHsl(240, 51, 51));
-    selector.press({50, 25});
-    selector.release({50, 25});
-    selector.slider->setValue(7);
-    const Colors reports = selector.reports();
-    QCOMPARE(reports.size(), 3);
-    for (const QColor& color : reports) {
-        QCOMPARE(color.spec(), QColor::Rgb);
+    void deletedInItsSignal_data()
+    {
+        QTest::addColumn<QString>("action");
+        for (const char* action :
+             {"press", "drag", "release", "slider", "slider key", "slider click", "turn", "plane key"}) {
+            QTest::newRow(action) << QString::fromLatin1(action);
+        }
     }
-}
 
-// The slider turns round with the layout, the plane does not.
-void tst_CustomColorSelectWidget::rightToLeft()
-{
-    Selector selector;
-    selector.setLayoutDirection(Qt::RightToLeft);
-    selector.show(QColor::fromHsv(200, 255, 255));
-    QCOMPARE(selector.planeColorAt(0, 0), QColor(Qt::white));
-    QCOMPARE(selector.plane->hsvColor(), selector.at(200, 100, 0));
-    QTest::keyClick(selector.slider, Qt::Key_Left);
-    QCOMPARE(selector.slider->value(), 201);
-    QCOMPARE(selector.reports(), Colors{selector.at(201, 100, 0)});
-}
-
-void tst_CustomColorSelectWidget::deletedBeforeItsTurn()
-{
-    auto* selector = new CustomColorSelectWidget;
-    selector->setColor(QColor(Qt::red));
-    delete selector;
-    QCoreApplication::processEvents();
-}
-
-void tst_CustomColorSelectWidget::deletedInItsSignal_data()
-{
-    QTest::addColumn<QString>("action");
-    for (const char* action :
-         {"press", "drag", "release", "slider", "slider key", "slider click", "turn", "plane key"}) {
-        QTest::newRow(action) << QString::fromLatin1(action);
+    void deletedInItsSignal()
+    {
+        QFETCH(QString, action);
+        const QPointer<Selector> selector = new Selector;
+        selector->CustomColorSelectWidget::show();
+        selector->show(QColor::fromHsv(200, 100, 100));
+        if (action == QLatin1String("drag") || action == QLatin1String("release")) {
+            selector->press({20, 20});
+        }
+        connect(selector, &CustomColorSelectWidget::colorChanged, this, [&selector] { delete selector; });
+        const auto is = [&action](const char* name) { return action == QLatin1String(name); };
+        if (is("press")) {
+            selector->press({20, 20});
+        } else if (is("drag")) {
+            selector->drag({30, 20});
+        } else if (is("release")) {
+            selector->release({20, 20});
+        } else if (is("slider")) {
+            selector->slider->setValue(3);
+        } else if (is("slider key")) {
+            QTest::keyPress(selector->slider, Qt::Key_Right);
+        } else if (is("slider click")) {
+            QTest::mousePress(selector->slider, Qt::LeftButton, Qt::NoModifier,
+                              {2, selector->slider->height() / 2});
+        } else if (is("turn")) {
+            selector->setColor(QColor(Qt::green));
+            selector->setColor(QColor(Qt::blue));
+            QCoreApplication::processEvents();
+        } else {
+            QTest::keyPress(selector->plane, Qt::Key_Left);
+        }
+        QVERIFY(!selector);
     }
-}
-
-void tst_CustomColorSelectWidget::deletedInItsSignal()
-{
-    QFETCH(QString, action);
-    const QPointer<Selector> selector = new Selector;
-    selector->CustomColorSelectWidget::show();
-    selector->show(QColor::fromHsv(200, 100, 100));
-    if (action == QLatin1String("drag") || action == QLatin1String("release")) {
-        selector->press({20, 20});
-    }
-    connect(selector, &CustomColorSelectWidget::colorChanged, this, [&selector] { delete selector; });
-    const auto is = [&action](const char* name) { return action == QLatin1String(name); };
-    if (is("press")) {
-        selector->press({20, 20});
-    } else if (is("drag")) {
-        selector->drag({30, 20});
-    } else if (is("release")) {
-        selector->release({20, 20});
-    } else if (is("slider")) {
-        selector->slider->setValue(3);
-    } else if (is("slider key")) {
-        QTest::keyPress(selector->slider, Qt::Key_Right);
-    } else if (is("slider click")) {
-        QTest::mousePress(selector->slider, Qt::LeftButton, Qt::NoModifier,
-                          {2, selector->slider->height() / 2});
-    } else if (is("turn")) {
-        selector->setColor(QColor(Qt::green));
-        selector->setColor(QColor(Qt::blue));
-        QCoreApplication::processEvents();
-    } else {
-        QTest::keyPress(selector->plane, Qt::Key_Left);
-    }
-    QVERIFY(!selector);
-}
+};
 
 UIC_TEST_MAIN(tst_CustomColorSelectWidget)
 #include "tst_CustomColorSelectWidget.moc"

@@ -9,43 +9,40 @@ class tst_DialogGuideInfo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsEmpty();
-    void fieldsAreInTheirOrder();
-    void copiesAreIndependent();
+    void startsEmpty()
+    {
+        const DialogGuideInfo info;
+        QVERIFY(info.title.isEmpty());
+        QVERIFY(info.description.isEmpty());
+        QVERIFY(info.mainButtonText.isEmpty());
+        QVERIFY(info.secondaryButtonText.isEmpty());
+        QVERIFY(info.moviePath.isEmpty());
+    }
+
+    void fieldsAreInTheirOrder()
+    {
+        static_assert(std::is_aggregate_v<DialogGuideInfo>);
+        const DialogGuideInfo info{QStringLiteral("title"), QStringLiteral("description"),
+                                   QStringLiteral("main"), QStringLiteral("secondary"),
+                                   QStringLiteral("movie")};
+        QCOMPARE(info.title, QStringLiteral("title"));
+        QCOMPARE(info.description, QStringLiteral("description"));
+        QCOMPARE(info.mainButtonText, QStringLiteral("main"));
+        QCOMPARE(info.secondaryButtonText, QStringLiteral("secondary"));
+        QCOMPARE(info.moviePath, QStringLiteral("movie"));
+    }
+
+    void copiesAreIndependent()
+    {
+        DialogGuideInfo info;
+        info.title = QStringLiteral("one");
+        DialogGuideInfo copy = info;
+        copy.title = QStringLiteral("two");
+        QCOMPARE(info.title, QStringLiteral("one"));
+        copy = info;
+        QCOMPARE(copy.title, QStringLiteral("one"));
+    }
 };
-
-void tst_DialogGuideInfo::startsEmpty()
-{
-    const DialogGuideInfo info;
-    QVERIFY(info.title.isEmpty());
-    QVERIFY(info.description.isEmpty());
-    QVERIFY(info.mainButtonText.isEmpty());
-    QVERIFY(info.secondaryButtonText.isEmpty());
-    QVERIFY(info.moviePath.isEmpty());
-}
-
-void tst_DialogGuideInfo::fieldsAreInTheirOrder()
-{
-    static_assert(std::is_aggregate_v<DialogGuideInfo>);
-    const DialogGuideInfo info{QStringLiteral("title"), QStringLiteral("description"), QStringLiteral("main"),
-                               QStringLiteral("secondary"), QStringLiteral("movie")};
-    QCOMPARE(info.title, QStringLiteral("title"));
-    QCOMPARE(info.description, QStringLiteral("description"));
-    QCOMPARE(info.mainButtonText, QStringLiteral("main"));
-    QCOMPARE(info.secondaryButtonText, QStringLiteral("secondary"));
-    QCOMPARE(info.moviePath, QStringLiteral("movie"));
-}
-
-void tst_DialogGuideInfo::copiesAreIndependent()
-{
-    DialogGuideInfo info;
-    info.title = QStringLiteral("one");
-    DialogGuideInfo copy = info;
-    copy.title = QStringLiteral("two");
-    QCOMPARE(info.title, QStringLiteral("one"));
-    copy = info;
-    QCOMPARE(copy.title, QStringLiteral("one"));
-}
 
 UIC_TEST_MAIN(tst_DialogGuideInfo)
 #include "tst_DialogGuideInfo.moc"

@@ -144,1077 +144,1015 @@ class tst_DialogGuideWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject();
-    void children();
-    void layouts();
-    void styleHints();
-    void isABubbleOfItsParent();
-
-    void showsTheInfo();
-    void emptyTitleHidesTheHeading();
-    void emptyInfo();
-    void missingAnimation_data();
-    void missingAnimation();
-    void brokenAnimation();
-    void hugeAnimation();
-    void titleIsNoMarkup();
-    void richDescription();
-    void closeAndSecondaryButtonVisible();
-    void closeButtonStaysInItsCorner_data();
-    void closeButtonStaysInItsCorner();
-
-    void sizeFollowsOneTurnLater();
-    void heightsAreForTheWidthsOfTheFrames();
-    void hidingTheCloseButtonWidensTheHeading();
-    void shorterTextMakesItLower();
-    void veryLongTexts_data();
-    void veryLongTexts();
-    void longButtonTextIsElided();
-    void infoSetWhileHidden_data();
-    void infoSetWhileHidden();
-    void infoChangedWhileShown();
-    void infoSetTwiceInOneTurn();
-    void deletedBeforeItSettles();
-    void emptyTextsNeedNoHeight();
-
-    void clicksAreReported_data();
-    void clicksAreReported();
-    void clickNeitherHidesNorDeletes();
-    void keyboardWorksTheButtons();
-    void deletedInASlot_data();
-    void deletedInASlot();
-
-    void followsTheParentsEvents_data();
-    void followsTheParentsEvents();
-    void otherEventsLeaveItAlone();
-    void parentsEventsAreNotConsumed();
-    void parentMoves();
-    void parentResizes();
-    void parentHides();
-    void parentIsReparented();
-    void bubbleIsReparented();
-    void withoutParent();
-    void parentDies();
-    void unaimedBubblePointsAtTheCorner();
-    void ownResizeAims();
-
-    void paintingAimsAndEnds();
-    void paintingBringsAMovedBubbleBack();
-    void thousandResizes();
-    void thousandResizesWithAnArrowThatLeans();
-
-    void animationPlaysWhileShown();
-    void animationSetWhileShown();
-    void hiddenBubbleCostsNothing();
-
-    void rightToLeft();
-    void accessibleNames();
-    void sheetReachesAllParts();
-    void asAPlainChild();
-};
-
-void tst_DialogGuideWidget::metaObject()
-{
-    const QMetaObject& meta = DialogGuideWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("DialogGuideWidget"));
-    QCOMPARE(meta.superClass(), &PointingWidget::staticMetaObject);
-    QCOMPARE(ownMethods(meta),
-             QStringList({QStringLiteral("signal secondaryClicked()"), QStringLiteral("signal mainClicked()"),
-                          QStringLiteral("signal closeClicked()")}));
-    QCOMPARE(ownProperties(meta), QStringList());
-}
-
-void tst_DialogGuideWidget::children()
-{
-    const DialogGuideWidget bubble(nullptr);
-    const auto describe = [](const QWidget* parent) {
-        QStringList found;
-        const auto widgets = parent->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QWidget* widget : widgets) {
-            found +=
-                QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
-        }
-        return found;
-    };
-    QCOMPARE(describe(bubble.contentFrame()),
-             QStringList({QStringLiteral("OvFrame headerFrame"), QStringLiteral("OvFrame descriptionFrame"),
-                          QStringLiteral("OvFrame buttonsFrame")}));
-    QCOMPARE(describe(part<OvFrame>(bubble, "headerFrame")),
-             QStringList({QStringLiteral("QLabel headerLabel"), QStringLiteral("QToolButton closeButton")}));
-    QCOMPARE(describe(part<OvFrame>(bubble, "descriptionFrame")),
-             QStringList({QStringLiteral("OvPixmapWidget gifPixmapWidget"),
-                          QStringLiteral("QLabel descriptionLabel")}));
-    QCOMPARE(describe(part<OvFrame>(bubble, "buttonsFrame")),
-             QStringList(
-                 {QStringLiteral("QPushButton secondaryButton"), QStringLiteral("QPushButton mainButton")}));
-    QVERIFY(part<QLabel>(bubble, "headerLabel")->wordWrap());
-    QVERIFY(part<QLabel>(bubble, "descriptionLabel")->wordWrap());
-}
-
-void tst_DialogGuideWidget::layouts()
-{
-    const DialogGuideWidget bubble(nullptr);
-    const auto describe = [](const QWidget* frame) {
-        const QLayout* const layout = frame->layout();
-        QStringList found = {QLatin1String(layout->metaObject()->className())};
-        for (int i = 0; i < layout->count(); ++i) {
-            QWidget* const widget = layout->itemAt(i)->widget();
-            const int stretch = static_cast<const QBoxLayout*>(layout)->stretch(i);
-            found += widget ? widget->objectName() : QStringLiteral("stretch %1").arg(stretch);
-        }
-        return found;
-    };
-    const auto* const header = part<OvFrame>(bubble, "headerFrame");
-    const auto* const description = part<OvFrame>(bubble, "descriptionFrame");
-    const auto* const buttons = part<OvFrame>(bubble, "buttonsFrame");
-    for (const OvFrame* frame :
-         {static_cast<const OvFrame*>(bubble.contentFrame()), header, description, buttons}) {
-        QCOMPARE(frame->layout()->contentsMargins(), QMargins());
-        QCOMPARE(frame->layout()->spacing(), 0);
+    void metaObject()
+    {
+        const QMetaObject& meta = DialogGuideWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("DialogGuideWidget"));
+        QCOMPARE(meta.superClass(), &PointingWidget::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal secondaryClicked()"),
+                                                QStringLiteral("signal mainClicked()"),
+                                                QStringLiteral("signal closeClicked()")}));
+        QCOMPARE(ownProperties(meta), QStringList());
     }
-    QCOMPARE(describe(bubble.contentFrame()),
-             QStringList({QStringLiteral("OvVBoxLayout"), QStringLiteral("headerFrame"),
-                          QStringLiteral("descriptionFrame"), QStringLiteral("buttonsFrame"),
-                          QStringLiteral("stretch 0")}));
-    QCOMPARE(describe(header), QStringList({QStringLiteral("OvHBoxLayout"), QStringLiteral("headerLabel"),
-                                            QStringLiteral("closeButton")}));
-    QCOMPARE(describe(description),
-             QStringList({QStringLiteral("OvVBoxLayout"), QStringLiteral("gifPixmapWidget"),
-                          QStringLiteral("descriptionLabel")}));
-    QCOMPARE(describe(buttons),
-             QStringList({QStringLiteral("OvHBoxLayout"), QStringLiteral("stretch 1"),
-                          QStringLiteral("secondaryButton"), QStringLiteral("mainButton")}));
-}
 
-void tst_DialogGuideWidget::styleHints()
-{
-    const DialogGuideWidget bubble(nullptr);
-    QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->property("styleHint").toString(),
-             QStringLiteral("guideButton"));
-    QCOMPARE(part<QPushButton>(bubble, "mainButton")->property("styleHint").toString(),
-             QStringLiteral("guideMainButton"));
-}
+    void children()
+    {
+        const DialogGuideWidget bubble(nullptr);
+        const auto describe = [](const QWidget* parent) {
+            QStringList found;
+            const auto widgets = parent->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+            for (const QWidget* widget : widgets) {
+                found += QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') +
+                         widget->objectName();
+            }
+            return found;
+        };
+        QCOMPARE(describe(bubble.contentFrame()), QStringList({QStringLiteral("OvFrame headerFrame"),
+                                                               QStringLiteral("OvFrame descriptionFrame"),
+                                                               QStringLiteral("OvFrame buttonsFrame")}));
+        QCOMPARE(
+            describe(part<OvFrame>(bubble, "headerFrame")),
+            QStringList({QStringLiteral("QLabel headerLabel"), QStringLiteral("QToolButton closeButton")}));
+        QCOMPARE(describe(part<OvFrame>(bubble, "descriptionFrame")),
+                 QStringList({QStringLiteral("OvPixmapWidget gifPixmapWidget"),
+                              QStringLiteral("QLabel descriptionLabel")}));
+        QCOMPARE(describe(part<OvFrame>(bubble, "buttonsFrame")),
+                 QStringList({QStringLiteral("QPushButton secondaryButton"),
+                              QStringLiteral("QPushButton mainButton")}));
+        QVERIFY(part<QLabel>(bubble, "headerLabel")->wordWrap());
+        QVERIFY(part<QLabel>(bubble, "descriptionLabel")->wordWrap());
+    }
 
-void tst_DialogGuideWidget::isABubbleOfItsParent()
-{
-    QWidget parent;
-    const DialogGuideWidget bubble(&parent);
-    QCOMPARE(bubble.parentWidget(), &parent);
-    QVERIFY(bubble.isWindow());
-    QCOMPARE(bubble.windowType(), Qt::Tool);
-    QVERIFY(bubble.isHidden());
-}
+    void layouts()
+    {
+        const DialogGuideWidget bubble(nullptr);
+        const auto describe = [](const QWidget* frame) {
+            const QLayout* const layout = frame->layout();
+            QStringList found = {QLatin1String(layout->metaObject()->className())};
+            for (int i = 0; i < layout->count(); ++i) {
+                QWidget* const widget = layout->itemAt(i)->widget();
+                const int stretch = static_cast<const QBoxLayout*>(layout)->stretch(i);
+                found += widget ? widget->objectName() : QStringLiteral("stretch %1").arg(stretch);
+            }
+            return found;
+        };
+        const auto* const header = part<OvFrame>(bubble, "headerFrame");
+        const auto* const description = part<OvFrame>(bubble, "descriptionFrame");
+        const auto* const buttons = part<OvFrame>(bubble, "buttonsFrame");
+        for (const OvFrame* frame :
+             {static_cast<const OvFrame*>(bubble.contentFrame()), header, description, buttons}) {
+            QCOMPARE(frame->layout()->contentsMargins(), QMargins());
+            QCOMPARE(frame->layout()->spacing(), 0);
+        }
+        QCOMPARE(describe(bubble.contentFrame()),
+                 QStringList({QStringLiteral("OvVBoxLayout"), QStringLiteral("headerFrame"),
+                              QStringLiteral("descriptionFrame"), QStringLiteral("buttonsFrame"),
+                              QStringLiteral("stretch 0")}));
+        QCOMPARE(describe(header), QStringList({QStringLiteral("OvHBoxLayout"), QStringLiteral("headerLabel"),
+                                                QStringLiteral("closeButton")}));
+        QCOMPARE(describe(description),
+                 QStringList({QStringLiteral("OvVBoxLayout"), QStringLiteral("gifPixmapWidget"),
+                              QStringLiteral("descriptionLabel")}));
+        QCOMPARE(describe(buttons),
+                 QStringList({QStringLiteral("OvHBoxLayout"), QStringLiteral("stretch 1"),
+                              QStringLiteral("secondaryButton"), QStringLiteral("mainButton")}));
+    }
 
-void tst_DialogGuideWidget::showsTheInfo()
-{
-    DialogGuideWidget bubble(nullptr);
-    const DialogGuideInfo info = fullInfo();
-    bubble.setInfo(info);
-    // Texts and visibility at once, sizes later.
-    QCOMPARE(part<QLabel>(bubble, "headerLabel")->text(), Customization::localeDependedBoldText(info.title));
-    QCOMPARE(part<QLabel>(bubble, "descriptionLabel")->text(), info.description);
-    QCOMPARE(part<QPushButton>(bubble, "mainButton")->text(), info.mainButtonText);
-    QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->text(), info.secondaryButtonText);
-    QCOMPARE(part<OvPixmapWidget>(bubble, "gifPixmapWidget")->moviePath(), info.moviePath);
-    QVERIFY(!part<QLabel>(bubble, "headerLabel")->isHidden());
-    QVERIFY(!part<OvPixmapWidget>(bubble, "gifPixmapWidget")->isHidden());
-    settle();
-}
+    void styleHints()
+    {
+        const DialogGuideWidget bubble(nullptr);
+        QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->property("styleHint").toString(),
+                 QStringLiteral("guideButton"));
+        QCOMPARE(part<QPushButton>(bubble, "mainButton")->property("styleHint").toString(),
+                 QStringLiteral("guideMainButton"));
+    }
 
-void tst_DialogGuideWidget::emptyTitleHidesTheHeading()
-{
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.title.clear();
-    stage.bubble->setInfo(info);
-    QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isHidden());
-    QVERIFY(part<QToolButton>(*stage.bubble, "closeButton")->isVisible());
-    stage.bubble->setInfo(fullInfo());
-    QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isVisible());
-}
+    void isABubbleOfItsParent()
+    {
+        QWidget parent;
+        const DialogGuideWidget bubble(&parent);
+        QCOMPARE(bubble.parentWidget(), &parent);
+        QVERIFY(bubble.isWindow());
+        QCOMPARE(bubble.windowType(), Qt::Tool);
+        QVERIFY(bubble.isHidden());
+    }
 
-void tst_DialogGuideWidget::emptyInfo()
-{
-    Stage stage;
-    stage.bubble->setInfo(DialogGuideInfo());
-    settle();
-    QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isHidden());
-    QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->isHidden());
-    // Empty buttons stay: it is the host who hides the secondary one.
-    QVERIFY(part<QPushButton>(*stage.bubble, "mainButton")->isVisible());
-    QVERIFY(part<QPushButton>(*stage.bubble, "secondaryButton")->isVisible());
-    QVERIFY(part<QPushButton>(*stage.bubble, "mainButton")->text().isEmpty());
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
-}
+    void showsTheInfo()
+    {
+        DialogGuideWidget bubble(nullptr);
+        const DialogGuideInfo info = fullInfo();
+        bubble.setInfo(info);
+        // Texts and visibility at once, sizes later.
+        QCOMPARE(part<QLabel>(bubble, "headerLabel")->text(),
+                 Customization::localeDependedBoldText(info.title));
+        QCOMPARE(part<QLabel>(bubble, "descriptionLabel")->text(), info.description);
+        QCOMPARE(part<QPushButton>(bubble, "mainButton")->text(), info.mainButtonText);
+        QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->text(), info.secondaryButtonText);
+        QCOMPARE(part<OvPixmapWidget>(bubble, "gifPixmapWidget")->moviePath(), info.moviePath);
+        QVERIFY(!part<QLabel>(bubble, "headerLabel")->isHidden());
+        QVERIFY(!part<OvPixmapWidget>(bubble, "gifPixmapWidget")->isHidden());
+        settle();
+    }
 
-void tst_DialogGuideWidget::missingAnimation_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("none") << QString();
-    QTest::newRow("file") << QStringLiteral("/no/such/guide.gif");
-    QTest::newRow("resource") << QStringLiteral(":/no/such/guide.gif");
-}
+    void emptyTitleHidesTheHeading()
+    {
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.title.clear();
+        stage.bubble->setInfo(info);
+        QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isHidden());
+        QVERIFY(part<QToolButton>(*stage.bubble, "closeButton")->isVisible());
+        stage.bubble->setInfo(fullInfo());
+        QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isVisible());
+    }
 
-void tst_DialogGuideWidget::missingAnimation()
-{
-    QFETCH(QString, path);
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.moviePath = path;
-    stage.bubble->setInfo(info);
-    auto* const picture = part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget");
-    QVERIFY(picture->isHidden());
-    QVERIFY(!picture->movie());
-    QCOMPARE(picture->moviePath(), path);
-    stage.bubble->setInfo(fullInfo());
-    QVERIFY(picture->isVisible());
-    settle();
-}
+    void emptyInfo()
+    {
+        Stage stage;
+        stage.bubble->setInfo(DialogGuideInfo());
+        settle();
+        QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isHidden());
+        QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->isHidden());
+        // Empty buttons stay: it is the host who hides the secondary one.
+        QVERIFY(part<QPushButton>(*stage.bubble, "mainButton")->isVisible());
+        QVERIFY(part<QPushButton>(*stage.bubble, "secondaryButton")->isVisible());
+        QVERIFY(part<QPushButton>(*stage.bubble, "mainButton")->text().isEmpty());
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
+    }
 
-void tst_DialogGuideWidget::brokenAnimation()
-{
-    QTemporaryFile file;
-    QVERIFY(file.open());
-    file.write("no image");
-    file.close();
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.moviePath = file.fileName();
-    stage.bubble->setInfo(info);
-    settle();
-    QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->isVisible());
-    QVERIFY(!part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->movie());
-}
+    void missingAnimation_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("none") << QString();
+        QTest::newRow("file") << QStringLiteral("/no/such/guide.gif");
+        QTest::newRow("resource") << QStringLiteral(":/no/such/guide.gif");
+    }
 
-void tst_DialogGuideWidget::hugeAnimation()
-{
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
-    stage.bubble->setInfo(info);
-    settle();
-    QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
-}
+    void missingAnimation()
+    {
+        QFETCH(QString, path);
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.moviePath = path;
+        stage.bubble->setInfo(info);
+        auto* const picture = part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget");
+        QVERIFY(picture->isHidden());
+        QVERIFY(!picture->movie());
+        QCOMPARE(picture->moviePath(), path);
+        stage.bubble->setInfo(fullInfo());
+        QVERIFY(picture->isVisible());
+        settle();
+    }
 
-void tst_DialogGuideWidget::titleIsNoMarkup()
-{
-    DialogGuideWidget bubble(nullptr);
-    const QString title = QStringLiteral("<i>In</i> & out");
-    bubble.setInfo({title, QString(), QString(), QString(), QString()});
-    QTextDocument shown;
-    shown.setHtml(part<QLabel>(bubble, "headerLabel")->text());
-    QCOMPARE(shown.toPlainText(), title);
-}
+    void brokenAnimation()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write("no image");
+        file.close();
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.moviePath = file.fileName();
+        stage.bubble->setInfo(info);
+        settle();
+        QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->isVisible());
+        QVERIFY(!part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->movie());
+    }
 
-void tst_DialogGuideWidget::richDescription()
-{
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.description = QStringLiteral("Press <b>Delete</b>,<br>and again.");
-    stage.bubble->setInfo(info);
-    settle();
-    const QLabel* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
-    QCOMPARE(description->text(), info.description);
-    const QLabel twoLines(QStringLiteral("Press Delete,\nand again."));
-    QCOMPARE(description->minimumHeight(), twoLines.sizeHint().height());
-}
+    void hugeAnimation()
+    {
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
+        stage.bubble->setInfo(info);
+        settle();
+        QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
+    }
 
-void tst_DialogGuideWidget::closeAndSecondaryButtonVisible()
-{
-    Stage stage;
-    const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
-    const auto* const secondary = part<QPushButton>(*stage.bubble, "secondaryButton");
-    QVERIFY(close->isVisible());
-    QVERIFY(secondary->isVisible());
-    stage.bubble->setCloseButtonVisible(false);
-    QVERIFY(!close->isVisible());
-    QVERIFY(secondary->isVisible());
-    stage.bubble->setSecondaryButtonVisible(false);
-    QVERIFY(!secondary->isVisible());
-    // It stays so for other infos.
-    stage.bubble->setInfo(DialogGuideInfo());
-    QVERIFY(!close->isVisible());
-    QVERIFY(!secondary->isVisible());
-    stage.bubble->setCloseButtonVisible(true);
-    stage.bubble->setSecondaryButtonVisible(true);
-    QVERIFY(close->isVisible());
-    QVERIFY(secondary->isVisible());
-    settle();
-    const QRect buttons = part<OvFrame>(*stage.bubble, "buttonsFrame")->rect();
-    QCOMPARE(part<QPushButton>(*stage.bubble, "mainButton")->geometry().right(), buttons.right());
-    QVERIFY(secondary->geometry().right() <
-            part<QPushButton>(*stage.bubble, "mainButton")->geometry().left());
-}
+    void titleIsNoMarkup()
+    {
+        DialogGuideWidget bubble(nullptr);
+        const QString title = QStringLiteral("<i>In</i> & out");
+        bubble.setInfo({title, QString(), QString(), QString(), QString()});
+        QTextDocument shown;
+        shown.setHtml(part<QLabel>(bubble, "headerLabel")->text());
+        QCOMPARE(shown.toPlainText(), title);
+    }
 
-void tst_DialogGuideWidget::closeButtonStaysInItsCorner_data()
-{
-    QTest::addColumn<QString>("title");
-    QTest::newRow("no heading") << QString();
-    QTest::newRow("one line") << words(1);
-    QTest::newRow("several lines") << words(60);
-}
+    void richDescription()
+    {
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.description = QStringLiteral("Press <b>Delete</b>,<br>and again.");
+        stage.bubble->setInfo(info);
+        settle();
+        const QLabel* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
+        QCOMPARE(description->text(), info.description);
+        const QLabel twoLines(QStringLiteral("Press Delete,\nand again."));
+        QCOMPARE(description->minimumHeight(), twoLines.sizeHint().height());
+    }
 
-void tst_DialogGuideWidget::closeButtonStaysInItsCorner()
-{
-    QFETCH(QString, title);
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.title = title;
-    stage.bubble->setFixedWidth(300);
-    stage.bubble->setInfo(info);
-    settle();
-    const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
-    QCOMPARE(close->geometry().topRight(), part<OvFrame>(*stage.bubble, "headerFrame")->rect().topRight());
-    QCOMPARE(close->size(), close->sizeHint());
-}
+    void closeAndSecondaryButtonVisible()
+    {
+        Stage stage;
+        const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
+        const auto* const secondary = part<QPushButton>(*stage.bubble, "secondaryButton");
+        QVERIFY(close->isVisible());
+        QVERIFY(secondary->isVisible());
+        stage.bubble->setCloseButtonVisible(false);
+        QVERIFY(!close->isVisible());
+        QVERIFY(secondary->isVisible());
+        stage.bubble->setSecondaryButtonVisible(false);
+        QVERIFY(!secondary->isVisible());
+        // It stays so for other infos.
+        stage.bubble->setInfo(DialogGuideInfo());
+        QVERIFY(!close->isVisible());
+        QVERIFY(!secondary->isVisible());
+        stage.bubble->setCloseButtonVisible(true);
+        stage.bubble->setSecondaryButtonVisible(true);
+        QVERIFY(close->isVisible());
+        QVERIFY(secondary->isVisible());
+        settle();
+        const QRect buttons = part<OvFrame>(*stage.bubble, "buttonsFrame")->rect();
+        QCOMPARE(part<QPushButton>(*stage.bubble, "mainButton")->geometry().right(), buttons.right());
+        QVERIFY(secondary->geometry().right() <
+                part<QPushButton>(*stage.bubble, "mainButton")->geometry().left());
+    }
 
-void tst_DialogGuideWidget::sizeFollowsOneTurnLater()
-{
-    Stage stage;
-    const QSize before = stage.bubble->size();
-    DialogGuideInfo info = fullInfo();
-    info.description = words(300);
-    stage.bubble->setInfo(info);
-    QCOMPARE(stage.bubble->size(), before);
-    QCoreApplication::processEvents();
-    QVERIFY(stage.bubble->size() != before);
-    const QSize after = stage.bubble->size();
-    settle();
-    QCOMPARE(stage.bubble->size(), after);
-}
+    void closeButtonStaysInItsCorner_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::newRow("no heading") << QString();
+        QTest::newRow("one line") << words(1);
+        QTest::newRow("several lines") << words(60);
+    }
 
-void tst_DialogGuideWidget::heightsAreForTheWidthsOfTheFrames()
-{
-    qApp->setStyleSheet(
-        QStringLiteral("#descriptionFrame { qproperty-layoutMarginLeft: 11; "
-                       "qproperty-layoutMarginRight: 6; } "
-                       "#headerFrame { qproperty-layoutSpacing: 9; qproperty-layoutMarginLeft: 5; }"));
+    void closeButtonStaysInItsCorner()
+    {
+        QFETCH(QString, title);
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.title = title;
+        stage.bubble->setFixedWidth(300);
+        stage.bubble->setInfo(info);
+        settle();
+        const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
+        QCOMPARE(close->geometry().topRight(),
+                 part<OvFrame>(*stage.bubble, "headerFrame")->rect().topRight());
+        QCOMPARE(close->size(), close->sizeHint());
+    }
+
+    void sizeFollowsOneTurnLater()
+    {
+        Stage stage;
+        const QSize before = stage.bubble->size();
+        DialogGuideInfo info = fullInfo();
+        info.description = words(300);
+        stage.bubble->setInfo(info);
+        QCOMPARE(stage.bubble->size(), before);
+        QCoreApplication::processEvents();
+        QVERIFY(stage.bubble->size() != before);
+        const QSize after = stage.bubble->size();
+        settle();
+        QCOMPARE(stage.bubble->size(), after);
+    }
+
+    void heightsAreForTheWidthsOfTheFrames()
+    {
+        qApp->setStyleSheet(
+            QStringLiteral("#descriptionFrame { qproperty-layoutMarginLeft: 11; "
+                           "qproperty-layoutMarginRight: 6; } "
+                           "#headerFrame { qproperty-layoutSpacing: 9; qproperty-layoutMarginLeft: 5; }"));
+        {
+            Stage stage;
+            stage.bubble->setFixedWidth(260);
+            DialogGuideInfo info = fullInfo();
+            info.title = words(40);
+            info.description = words(80);
+            stage.bubble->setInfo(info);
+            settle();
+            const auto* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
+            const auto* const header = part<QLabel>(*stage.bubble, "headerLabel");
+            const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
+            const int descriptionWidth = part<OvFrame>(*stage.bubble, "descriptionFrame")->width() - 17;
+            const int headerWidth =
+                part<OvFrame>(*stage.bubble, "headerFrame")->width() - 5 - 9 - close->width();
+            QCOMPARE(description->width(), descriptionWidth);
+            QCOMPARE(header->width(), headerWidth);
+            QCOMPARE(description->minimumHeight(), neededHeight(description, descriptionWidth));
+            QCOMPARE(header->minimumHeight(), neededHeight(header, headerWidth));
+            QVERIFY(description->height() >= description->minimumHeight());
+            QVERIFY(header->height() >= header->minimumHeight());
+        }
+        qApp->setStyleSheet(QString());
+    }
+
+    void hidingTheCloseButtonWidensTheHeading()
+    {
+        qApp->setStyleSheet(QStringLiteral("#headerFrame { qproperty-layoutSpacing: 40; } "
+                                           "#closeButton { min-width: 60px; }"));
+        {
+            Stage stage;
+            stage.bubble->setFixedWidth(300);
+            DialogGuideInfo info = fullInfo();
+            info.title = words(40);
+            stage.bubble->setInfo(info);
+            settle();
+            const auto* const header = part<QLabel>(*stage.bubble, "headerLabel");
+            const auto* const frame = part<OvFrame>(*stage.bubble, "headerFrame");
+            const int closeWidth = part<QToolButton>(*stage.bubble, "closeButton")->width();
+            QVERIFY(closeWidth >= 60);
+            const int narrow = header->minimumHeight();
+            QCOMPARE(narrow, neededHeight(header, frame->width() - closeWidth - 40));
+            stage.bubble->setCloseButtonVisible(false);
+            // Nothing else happens until the content is measured again.
+            QCOMPARE(header->minimumHeight(), narrow);
+            stage.bubble->updateContent();
+            QCOMPARE(header->minimumHeight(), neededHeight(header, frame->width()));
+            QVERIFY(header->minimumHeight() < narrow);
+            stage.bubble->setCloseButtonVisible(true);
+            stage.bubble->updateContent();
+            QCOMPARE(header->minimumHeight(), narrow);
+        }
+        qApp->setStyleSheet(QString());
+    }
+
+    void shorterTextMakesItLower()
     {
         Stage stage;
         stage.bubble->setFixedWidth(260);
         DialogGuideInfo info = fullInfo();
-        info.title = words(40);
-        info.description = words(80);
         stage.bubble->setInfo(info);
         settle();
-        const auto* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
-        const auto* const header = part<QLabel>(*stage.bubble, "headerLabel");
-        const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
-        const int descriptionWidth = part<OvFrame>(*stage.bubble, "descriptionFrame")->width() - 17;
-        const int headerWidth = part<OvFrame>(*stage.bubble, "headerFrame")->width() - 5 - 9 - close->width();
-        QCOMPARE(description->width(), descriptionWidth);
-        QCOMPARE(header->width(), headerWidth);
-        QCOMPARE(description->minimumHeight(), neededHeight(description, descriptionWidth));
-        QCOMPARE(header->minimumHeight(), neededHeight(header, headerWidth));
-        QVERIFY(description->height() >= description->minimumHeight());
-        QVERIFY(header->height() >= header->minimumHeight());
+        const int shortHeight = stage.bubble->height();
+        info.title = words(40);
+        info.description = words(100);
+        stage.bubble->setInfo(info);
+        settle();
+        QVERIFY(stage.bubble->height() > shortHeight + 100);
+        stage.bubble->setInfo(fullInfo());
+        settle();
+        QCOMPARE(stage.bubble->height(), shortHeight);
     }
-    qApp->setStyleSheet(QString());
-}
 
-void tst_DialogGuideWidget::hidingTheCloseButtonWidensTheHeading()
-{
-    qApp->setStyleSheet(QStringLiteral("#headerFrame { qproperty-layoutSpacing: 40; } "
-                                       "#closeButton { min-width: 60px; }"));
+    void veryLongTexts_data()
+    {
+        QTest::addColumn<DialogGuideInfo>("info");
+        const QString word(10000, QLatin1Char('w'));
+        const QString picture = QStringLiteral("<img src=\"x.png\" width=99999 height=99999>");
+        QTest::newRow("many words") << DialogGuideInfo{words(500), words(20000), words(50), words(50),
+                                                       animation()};
+        QTest::newRow("long words") << DialogGuideInfo{word, word, word, word, QString()};
+        QTest::newRow("a picture") << DialogGuideInfo{QString(), picture, QString(), QString(), QString()};
+    }
+
+    void veryLongTexts()
+    {
+        QFETCH(DialogGuideInfo, info);
+        Stage stage;
+        stage.bubble->setInfo(info);
+        settle();
+        QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
+        QVERIFY(!stage.bubble->grab().isNull());
+        for (const char* name : {"mainButton", "secondaryButton", "closeButton"}) {
+            const auto* const button = stage.bubble->findChild<QAbstractButton*>(QLatin1String(name));
+            const QRect place(button->mapTo(stage.bubble, QPoint()), button->size());
+            QVERIFY2(stage.bubble->rect().contains(place), name);
+        }
+        stage.bubble->setInfo(fullInfo());
+        settle();
+        QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
+    }
+
+    void longButtonTextIsElided()
     {
         Stage stage;
-        stage.bubble->setFixedWidth(300);
         DialogGuideInfo info = fullInfo();
-        info.title = words(40);
+        info.mainButtonText = QString(1000, QLatin1Char('M'));
         stage.bubble->setInfo(info);
         settle();
-        const auto* const header = part<QLabel>(*stage.bubble, "headerLabel");
-        const auto* const frame = part<OvFrame>(*stage.bubble, "headerFrame");
-        const int closeWidth = part<QToolButton>(*stage.bubble, "closeButton")->width();
-        QVERIFY(closeWidth >= 60);
-        const int narrow = header->minimumHeight();
-        QCOMPARE(narrow, neededHeight(header, frame->width() - closeWidth - 40));
-        stage.bubble->setCloseButtonVisible(false);
-        // Nothing else happens until the content is measured again.
-        QCOMPARE(header->minimumHeight(), narrow);
-        stage.bubble->updateContent();
-        QCOMPARE(header->minimumHeight(), neededHeight(header, frame->width()));
-        QVERIFY(header->minimumHeight() < narrow);
-        stage.bubble->setCloseButtonVisible(true);
-        stage.bubble->updateContent();
-        QCOMPARE(header->minimumHeight(), narrow);
+        auto* const button = stage.bubble->findChild<QPushButton*>(QStringLiteral("mainButton"));
+        QCOMPARE(button->text(), info.mainButtonText);
+        QCOMPARE(button->width(), button->screen()->availableSize().width() / 4);
+        // A text that is merely too long is cut off at both edges.
+        const QImage shown = button->grab().toImage();
+        button->setText(QString());
+        const QImage empty = button->grab().toImage();
+        QVERIFY(shown != empty);
+        const QRect leftEdge(0, 0, 5, button->height());
+        const QRect rightEdge(button->width() - 5, 0, 5, button->height());
+        QCOMPARE(shown.copy(leftEdge), empty.copy(leftEdge));
+        QCOMPARE(shown.copy(rightEdge), empty.copy(rightEdge));
     }
-    qApp->setStyleSheet(QString());
-}
 
-void tst_DialogGuideWidget::shorterTextMakesItLower()
-{
-    Stage stage;
-    stage.bubble->setFixedWidth(260);
-    DialogGuideInfo info = fullInfo();
-    stage.bubble->setInfo(info);
-    settle();
-    const int shortHeight = stage.bubble->height();
-    info.title = words(40);
-    info.description = words(100);
-    stage.bubble->setInfo(info);
-    settle();
-    QVERIFY(stage.bubble->height() > shortHeight + 100);
-    stage.bubble->setInfo(fullInfo());
-    settle();
-    QCOMPARE(stage.bubble->height(), shortHeight);
-}
-
-void tst_DialogGuideWidget::veryLongTexts_data()
-{
-    QTest::addColumn<DialogGuideInfo>("info");
-    const QString word(10000, QLatin1Char('w'));
-    const QString picture = QStringLiteral("<img src=\"x.png\" width=99999 height=99999>");
-    QTest::newRow("many words") << DialogGuideInfo{words(500), words(20000), words(50), words(50),
-                                                   animation()};
-    QTest::newRow("long words") << DialogGuideInfo{word, word, word, word, QString()};
-    QTest::newRow("a picture") << DialogGuideInfo{QString(), picture, QString(), QString(), QString()};
-}
-
-void tst_DialogGuideWidget::veryLongTexts()
-{
-    QFETCH(DialogGuideInfo, info);
-    Stage stage;
-    stage.bubble->setInfo(info);
-    settle();
-    QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
-    QVERIFY(!stage.bubble->grab().isNull());
-    for (const char* name : {"mainButton", "secondaryButton", "closeButton"}) {
-        const auto* const button = stage.bubble->findChild<QAbstractButton*>(QLatin1String(name));
-        const QRect place(button->mapTo(stage.bubble, QPoint()), button->size());
-        QVERIFY2(stage.bubble->rect().contains(place), name);
+    void infoSetWhileHidden_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<bool>("shownBefore");
+        for (const bool shownBefore : {false, true}) {
+            const char* const when = shownBefore ? "hidden again" : "never shown";
+            QTest::addRow("%s, no sheet", when) << QString() << shownBefore;
+            QTest::addRow("%s, width of a sheet", when)
+                << QStringLiteral("DialogGuideWidget { min-width: 280px; max-width: 280px; }") << shownBefore;
+        }
     }
-    stage.bubble->setInfo(fullInfo());
-    settle();
-    QVERIFY(stage.bubble->screen()->availableGeometry().contains(stage.bubble->geometry()));
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
-}
 
-void tst_DialogGuideWidget::longButtonTextIsElided()
-{
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.mainButtonText = QString(1000, QLatin1Char('M'));
-    stage.bubble->setInfo(info);
-    settle();
-    auto* const button = stage.bubble->findChild<QPushButton*>(QStringLiteral("mainButton"));
-    QCOMPARE(button->text(), info.mainButtonText);
-    QCOMPARE(button->width(), button->screen()->availableSize().width() / 4);
-    // A text that is merely too long is cut off at both edges.
-    const QImage shown = button->grab().toImage();
-    button->setText(QString());
-    const QImage empty = button->grab().toImage();
-    QVERIFY(shown != empty);
-    const QRect leftEdge(0, 0, 5, button->height());
-    const QRect rightEdge(button->width() - 5, 0, 5, button->height());
-    QCOMPARE(shown.copy(leftEdge), empty.copy(leftEdge));
-    QCOMPARE(shown.copy(rightEdge), empty.copy(rightEdge));
-}
+    // The frames of a hidden bubble get their widths, for which texts are measured, from nobody else.
+    void infoSetWhileHidden()
+    {
+        QFETCH(QString, sheet);
+        QFETCH(bool, shownBefore);
+        qApp->setStyleSheet(sheet);
+        const auto reset = qScopeGuard([] { qApp->setStyleSheet(QString()); });
+        Stage reference;
+        DialogGuideInfo info = fullInfo();
+        info.title = words(20);
+        info.description = words(80);
+        reference.bubble->setInfo(info);
+        settle();
 
-void tst_DialogGuideWidget::infoSetWhileHidden_data()
-{
-    QTest::addColumn<QString>("sheet");
-    QTest::addColumn<bool>("shownBefore");
-    for (const bool shownBefore : {false, true}) {
-        const char* const when = shownBefore ? "hidden again" : "never shown";
-        QTest::addRow("%s, no sheet", when) << QString() << shownBefore;
-        QTest::addRow("%s, width of a sheet", when)
-            << QStringLiteral("DialogGuideWidget { min-width: 280px; max-width: 280px; }") << shownBefore;
+        QWidget window;
+        window.setGeometry(150, 100, 400, 300);
+        window.show();
+        Bubble bubble(&window);
+        if (shownBefore) {
+            bubble.setInfo(fullInfo());
+            bubble.show();
+            settle();
+            bubble.hide();
+        }
+        bubble.setInfo(info);
+        settle();
+        bubble.pointTo(window.mapToGlobal(QPoint(100, 80)));
+        bubble.show();
+        settle();
+        QCOMPARE(bubble.size(), reference.bubble->size());
     }
-}
 
-// The frames of a hidden bubble get their widths, for which texts are measured, from nobody else.
-void tst_DialogGuideWidget::infoSetWhileHidden()
-{
-    QFETCH(QString, sheet);
-    QFETCH(bool, shownBefore);
-    qApp->setStyleSheet(sheet);
-    const auto reset = qScopeGuard([] { qApp->setStyleSheet(QString()); });
-    Stage reference;
-    DialogGuideInfo info = fullInfo();
-    info.title = words(20);
-    info.description = words(80);
-    reference.bubble->setInfo(info);
-    settle();
+    void infoChangedWhileShown()
+    {
+        Stage stage;
+        const QPoint target = stage.window.mapToGlobal(stage.spot);
+        for (int count : {1, 100, 3, 300}) {
+            DialogGuideInfo info = fullInfo();
+            info.description = words(count);
+            stage.bubble->setInfo(info);
+            settle();
+            QCOMPARE(stage.bubble->targetPoint(), target);
+            const QPoint tip = stage.bubble->mapFromGlobal(target);
+            QVERIFY(stage.bubble->mask().contains(tip));
+            const auto* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
+            QVERIFY(description->height() >= description->heightForWidth(description->width()));
+        }
+    }
 
-    QWidget window;
-    window.setGeometry(150, 100, 400, 300);
-    window.show();
-    Bubble bubble(&window);
-    if (shownBefore) {
+    void infoSetTwiceInOneTurn()
+    {
+        Stage stage;
+        DialogGuideInfo info = fullInfo();
+        info.description = words(300);
+        stage.bubble->setInfo(info);
+        stage.bubble->setInfo(fullInfo());
+        settle();
+        QCOMPARE(part<QLabel>(*stage.bubble, "descriptionLabel")->text(), fullInfo().description);
+        Stage reference;
+        QCOMPARE(stage.bubble->size(), reference.bubble->size());
+    }
+
+    void deletedBeforeItSettles()
+    {
+        Stage stage;
+        stage.bubble->setInfo(DialogGuideInfo());
+        delete stage.bubble;
+        settle();
+        QVERIFY(!stage.bubble);
+    }
+
+    void emptyTextsNeedNoHeight()
+    {
+        QWidget parent;
+        Bubble bubble(&parent);
+        bubble.updateContent();
+        QCOMPARE(part<QLabel>(bubble, "headerLabel")->minimumHeight(), 0);
+        QCOMPARE(part<QLabel>(bubble, "descriptionLabel")->minimumHeight(), 0);
+    }
+
+    void clicksAreReported_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("main");
+        QTest::addColumn<int>("secondary");
+        QTest::addColumn<int>("close");
+        QTest::newRow("main") << QStringLiteral("mainButton") << 1 << 0 << 0;
+        QTest::newRow("secondary") << QStringLiteral("secondaryButton") << 0 << 1 << 0;
+        QTest::newRow("close") << QStringLiteral("closeButton") << 0 << 0 << 1;
+    }
+
+    void clicksAreReported()
+    {
+        QFETCH(QString, button);
+        Stage stage;
+        QSignalSpy main(stage.bubble.data(), &DialogGuideWidget::mainClicked);
+        QSignalSpy secondary(stage.bubble.data(), &DialogGuideWidget::secondaryClicked);
+        QSignalSpy close(stage.bubble.data(), &DialogGuideWidget::closeClicked);
+        QTest::mouseClick(stage.bubble->findChild<QAbstractButton*>(button), Qt::LeftButton);
+        QTEST(main.size(), "main");
+        QTEST(secondary.size(), "secondary");
+        QTEST(close.size(), "close");
+    }
+
+    void clickNeitherHidesNorDeletes()
+    {
+        Stage stage;
+        for (const char* name : {"mainButton", "secondaryButton", "closeButton"}) {
+            part<QAbstractButton>(*stage.bubble, name)->click();
+            settle();
+            QVERIFY2(stage.bubble && stage.bubble->isVisible(), name);
+        }
+    }
+
+    void keyboardWorksTheButtons()
+    {
+        Stage stage;
+        stage.bubble->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(stage.bubble));
+        QStringList reported;
+        connect(stage.bubble.data(), &DialogGuideWidget::mainClicked, this,
+                [&] { reported += QStringLiteral("main"); });
+        connect(stage.bubble.data(), &DialogGuideWidget::secondaryClicked, this,
+                [&] { reported += QStringLiteral("secondary"); });
+        connect(stage.bubble.data(), &DialogGuideWidget::closeClicked, this,
+                [&] { reported += QStringLiteral("close"); });
+        part<QToolButton>(*stage.bubble, "closeButton")->setFocus();
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(reported,
+                 QStringList({QStringLiteral("close"), QStringLiteral("secondary"), QStringLiteral("main")}));
+    }
+
+    void deletedInASlot_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("withParent");
+        for (const char* button : {"mainButton", "secondaryButton", "closeButton"}) {
+            QTest::addRow("%s", button) << QString::fromLatin1(button) << false;
+            QTest::addRow("%s, parent", button) << QString::fromLatin1(button) << true;
+        }
+    }
+
+    // QToolButton writes into a button that its own click has deleted.
+    void deletedInASlot()
+    {
+        QFETCH(QString, button);
+        QFETCH(bool, withParent);
+        QPointer<QWidget> parent = new QWidget;
+        parent->show();
+        QPointer<DialogGuideWidget> bubble = new DialogGuideWidget(parent);
+        bubble->setInfo(fullInfo());
+        bubble->show();
+        settle();
+        const auto destroy = [&] {
+            if (withParent) {
+                delete parent;
+            } else {
+                delete bubble;
+            }
+        };
+        connect(bubble.data(), &DialogGuideWidget::mainClicked, this, destroy);
+        connect(bubble.data(), &DialogGuideWidget::secondaryClicked, this, destroy);
+        connect(bubble.data(), &DialogGuideWidget::closeClicked, this, destroy);
+        {
+            const FreedMemoryWatch memory;
+            QTest::mouseClick(bubble->findChild<QAbstractButton*>(button), Qt::LeftButton);
+            QVERIFY(!bubble);
+            QVERIFY(memory.deleted() > 0);
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        delete parent;
+    }
+
+    void followsTheParentsEvents_data()
+    {
+        QTest::addColumn<QEvent::Type>("type");
+        QTest::newRow("move") << QEvent::Move;
+        QTest::newRow("resize") << QEvent::Resize;
+        QTest::newRow("show") << QEvent::Show;
+    }
+
+    void followsTheParentsEvents()
+    {
+        QFETCH(QEvent::Type, type);
+        QWidget parent;
+        Bubble bubble(&parent);
+        if (type == QEvent::Move) {
+            QMoveEvent event(QPoint(1, 1), QPoint());
+            QCoreApplication::sendEvent(&parent, &event);
+        } else if (type == QEvent::Resize) {
+            QResizeEvent event(QSize(10, 10), QSize());
+            QCoreApplication::sendEvent(&parent, &event);
+        } else {
+            QShowEvent event;
+            QCoreApplication::sendEvent(&parent, &event);
+        }
+        QCOMPARE(bubble.aims, 1);
+    }
+
+    void otherEventsLeaveItAlone()
+    {
+        QWidget parent;
+        QWidget stranger;
+        Bubble bubble(&parent);
+        const auto send = [](QWidget* receiver, QEvent::Type type) {
+            QEvent event(type);
+            QCoreApplication::sendEvent(receiver, &event);
+        };
+        for (const QEvent::Type type :
+             {QEvent::HideToParent, QEvent::ShowToParent, QEvent::WindowActivate, QEvent::WindowDeactivate,
+              QEvent::EnabledChange, QEvent::FontChange, QEvent::LayoutRequest, QEvent::UpdateRequest,
+              QEvent::WindowTitleChange, QEvent::Enter, QEvent::Leave, QEvent::User}) {
+            send(&parent, type);
+            QCOMPARE(bubble.aims, 0);
+        }
+        // Nor those of another widget that somebody made it watch.
+        stranger.installEventFilter(&bubble);
+        QMoveEvent move(QPoint(1, 1), QPoint());
+        QCoreApplication::sendEvent(&stranger, &move);
+        QCOMPARE(bubble.aims, 0);
+    }
+
+    void parentsEventsAreNotConsumed()
+    {
+        struct Parent : QWidget
+        {
+            int moves = 0;
+            int resizes = 0;
+            int shows = 0;
+            void moveEvent(QMoveEvent* event) override
+            {
+                ++moves;
+                QWidget::moveEvent(event);
+            }
+            void resizeEvent(QResizeEvent* event) override
+            {
+                ++resizes;
+                QWidget::resizeEvent(event);
+            }
+            void showEvent(QShowEvent* event) override
+            {
+                ++shows;
+                QWidget::showEvent(event);
+            }
+        } parent;
+        const DialogGuideWidget bubble(&parent);
+        parent.show();
+        QCOMPARE(parent.shows, 1);
+        const int moves = parent.moves;
+        const int resizes = parent.resizes;
+        parent.move(parent.pos() + QPoint(5, 5));
+        parent.resize(parent.size() + QSize(5, 5));
+        QCOMPARE(parent.moves, moves + 1);
+        QCOMPARE(parent.resizes, resizes + 1);
+    }
+
+    void parentMoves()
+    {
+        Stage stage;
+        const QPoint before = stage.bubble->pos();
+        stage.window.move(stage.window.pos() + QPoint(30, 20));
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
+        QCOMPARE(stage.bubble->pos(), before + QPoint(30, 20));
+        QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1);
+    }
+
+    void parentResizes()
+    {
+        Stage stage;
+        stage.bubble->spot = [&] { return stage.window.mapToGlobal(stage.window.rect().center()); };
+        stage.window.resize(500, 380);
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.window.rect().center()));
+        QVERIFY(stage.bubble->mask().contains(stage.bubble->mapFromGlobal(stage.bubble->targetPoint())));
+    }
+
+    void parentHides()
+    {
+        Stage stage;
+        stage.window.hide();
+        QVERIFY(!stage.bubble->isVisible());
+        stage.window.move(stage.window.pos() + QPoint(40, 0));
+        stage.window.show();
+        QVERIFY(stage.bubble->isVisible());
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
+    }
+
+    void parentIsReparented()
+    {
+        QWidget first;
+        first.setGeometry(50, 50, 300, 200);
+        QWidget second;
+        second.setGeometry(400, 300, 300, 200);
+        first.show();
+        second.show();
+        auto* panel = new QWidget(&first);
+        panel->setGeometry(10, 10, 100, 50);
+        panel->show();
+        Bubble bubble(panel);
+        bubble.setInfo(fullInfo());
+        bubble.pointTo(panel->mapToGlobal(QPoint(20, 20)));
+        bubble.show();
+        settle();
+        panel->setParent(&second);
+        panel->show();
+        settle();
+        QCOMPARE(bubble.targetPoint(), panel->mapToGlobal(QPoint(20, 20)));
+        QVERIFY(bubble.isVisible());
+        panel->move(40, 30);
+        QCOMPARE(bubble.targetPoint(), panel->mapToGlobal(QPoint(20, 20)));
+        QVERIFY(bubble.mask().contains(bubble.mapFromGlobal(bubble.targetPoint())));
+    }
+
+    void bubbleIsReparented()
+    {
+        QWidget first;
+        QWidget second;
+        first.show();
+        second.show();
+        Bubble bubble(&first);
+        bubble.setParent(&second, bubble.windowFlags());
+        bubble.show();
+        settle();
+        bubble.forget();
+        QMoveEvent move(QPoint(1, 1), QPoint());
+        QCoreApplication::sendEvent(&first, &move);
+        QCOMPARE(bubble.aims, 0);
+        QCoreApplication::sendEvent(&second, &move);
+        QCOMPARE(bubble.aims, 1);
+        // Changing the flags is a change of parents to the same one.
+        bubble.setWindowFlags(Qt::Widget);
+        bubble.forget();
+        QCoreApplication::sendEvent(&second, &move);
+        QCOMPARE(bubble.aims, 1);
+        bubble.setParent(nullptr, Qt::Tool);
+        bubble.forget();
+        QCoreApplication::sendEvent(&second, &move);
+        QCOMPARE(bubble.aims, 0);
+    }
+
+    void withoutParent()
+    {
+        Bubble bubble(nullptr);
+        bubble.setInfo(fullInfo());
+        bubble.pointTo(QPoint(300, 200));
+        bubble.show();
+        settle();
+        QCOMPARE(bubble.targetPoint(), QPoint(300, 200));
+        QVERIFY(bubble.mask().contains(bubble.mapFromGlobal(QPoint(300, 200))));
+    }
+
+    void parentDies()
+    {
+        auto parent = std::make_unique<QWidget>();
+        parent->show();
+        QPointer<Bubble> bubble = new Bubble(parent.get());
+        bubble->setInfo(fullInfo());
+        bubble->show();
+        parent.reset();
+        QVERIFY(!bubble);
+        settle();
+    }
+
+    void unaimedBubblePointsAtTheCorner()
+    {
+        QWidget window;
+        window.setGeometry(200, 150, 300, 200);
+        window.show();
+        Bubble bubble(&window);
         bubble.setInfo(fullInfo());
         bubble.show();
         settle();
-        bubble.hide();
+        QCOMPARE(bubble.targetPoint(), window.mapToGlobal(QPoint()));
+        QVERIFY(bubble.mask().contains(bubble.mapFromGlobal(bubble.targetPoint())));
     }
-    bubble.setInfo(info);
-    settle();
-    bubble.pointTo(window.mapToGlobal(QPoint(100, 80)));
-    bubble.show();
-    settle();
-    QCOMPARE(bubble.size(), reference.bubble->size());
-}
 
-void tst_DialogGuideWidget::infoChangedWhileShown()
-{
-    Stage stage;
-    const QPoint target = stage.window.mapToGlobal(stage.spot);
-    for (int count : {1, 100, 3, 300}) {
-        DialogGuideInfo info = fullInfo();
-        info.description = words(count);
-        stage.bubble->setInfo(info);
-        settle();
-        QCOMPARE(stage.bubble->targetPoint(), target);
-        const QPoint tip = stage.bubble->mapFromGlobal(target);
-        QVERIFY(stage.bubble->mask().contains(tip));
-        const auto* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
-        QVERIFY(description->height() >= description->heightForWidth(description->width()));
-    }
-}
-
-void tst_DialogGuideWidget::infoSetTwiceInOneTurn()
-{
-    Stage stage;
-    DialogGuideInfo info = fullInfo();
-    info.description = words(300);
-    stage.bubble->setInfo(info);
-    stage.bubble->setInfo(fullInfo());
-    settle();
-    QCOMPARE(part<QLabel>(*stage.bubble, "descriptionLabel")->text(), fullInfo().description);
-    Stage reference;
-    QCOMPARE(stage.bubble->size(), reference.bubble->size());
-}
-
-void tst_DialogGuideWidget::deletedBeforeItSettles()
-{
-    Stage stage;
-    stage.bubble->setInfo(DialogGuideInfo());
-    delete stage.bubble;
-    settle();
-    QVERIFY(!stage.bubble);
-}
-
-void tst_DialogGuideWidget::emptyTextsNeedNoHeight()
-{
-    QWidget parent;
-    Bubble bubble(&parent);
-    bubble.updateContent();
-    QCOMPARE(part<QLabel>(bubble, "headerLabel")->minimumHeight(), 0);
-    QCOMPARE(part<QLabel>(bubble, "descriptionLabel")->minimumHeight(), 0);
-}
-
-void tst_DialogGuideWidget::clicksAreReported_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("main");
-    QTest::addColumn<int>("secondary");
-    QTest::addColumn<int>("close");
-    QTest::newRow("main") << QStringLiteral("mainButton") << 1 << 0 << 0;
-    QTest::newRow("secondary") << QStringLiteral("secondaryButton") << 0 << 1 << 0;
-    QTest::newRow("close") << QStringLiteral("closeButton") << 0 << 0 << 1;
-}
-
-void tst_DialogGuideWidget::clicksAreReported()
-{
-    QFETCH(QString, button);
-    Stage stage;
-    QSignalSpy main(stage.bubble.data(), &DialogGuideWidget::mainClicked);
-    QSignalSpy secondary(stage.bubble.data(), &DialogGuideWidget::secondaryClicked);
-    QSignalSpy close(stage.bubble.data(), &DialogGuideWidget::closeClicked);
-    QTest::mouseClick(stage.bubble->findChild<QAbstractButton*>(button), Qt::LeftButton);
-    QTEST(main.size(), "main");
-    QTEST(secondary.size(), "secondary");
-    QTEST(close.size(), "close");
-}
-
-void tst_DialogGuideWidget::clickNeitherHidesNorDeletes()
-{
-    Stage stage;
-    for (const char* name : {"mainButton", "secondaryButton", "closeButton"}) {
-        part<QAbstractButton>(*stage.bubble, name)->click();
-        settle();
-        QVERIFY2(stage.bubble && stage.bubble->isVisible(), name);
-    }
-}
-
-void tst_DialogGuideWidget::keyboardWorksTheButtons()
-{
-    Stage stage;
-    stage.bubble->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(stage.bubble));
-    QStringList reported;
-    connect(stage.bubble.data(), &DialogGuideWidget::mainClicked, this,
-            [&] { reported += QStringLiteral("main"); });
-    connect(stage.bubble.data(), &DialogGuideWidget::secondaryClicked, this,
-            [&] { reported += QStringLiteral("secondary"); });
-    connect(stage.bubble.data(), &DialogGuideWidget::closeClicked, this,
-            [&] { reported += QStringLiteral("close"); });
-    part<QToolButton>(*stage.bubble, "closeButton")->setFocus();
-    for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(reported,
-             QStringList({QStringLiteral("close"), QStringLiteral("secondary"), QStringLiteral("main")}));
-}
-
-void tst_DialogGuideWidget::deletedInASlot_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<bool>("withParent");
-    for (const char* button : {"mainButton", "secondaryButton", "closeButton"}) {
-        QTest::addRow("%s", button) << QString::fromLatin1(button) << false;
-        QTest::addRow("%s, parent", button) << QString::fromLatin1(button) << true;
-    }
-}
-
-// QToolButton writes into a button that its own click has deleted.
-void tst_DialogGuideWidget::deletedInASlot()
-{
-    QFETCH(QString, button);
-    QFETCH(bool, withParent);
-    QPointer<QWidget> parent = new QWidget;
-    parent->show();
-    QPointer<DialogGuideWidget> bubble = new DialogGuideWidget(parent);
-    bubble->setInfo(fullInfo());
-    bubble->show();
-    settle();
-    const auto destroy = [&] {
-        if (withParent) {
-            delete parent;
-        } else {
-            delete bubble;
-        }
-    };
-    connect(bubble.data(), &DialogGuideWidget::mainClicked, this, destroy);
-    connect(bubble.data(), &DialogGuideWidget::secondaryClicked, this, destroy);
-    connect(bubble.data(), &DialogGuideWidget::closeClicked, this, destroy);
-    {
-        const FreedMemoryWatch memory;
-        QTest::mouseClick(bubble->findChild<QAbstractButton*>(button), Qt::LeftButton);
-        QVERIFY(!bubble);
-        QVERIFY(memory.deleted() > 0);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-    }
-    delete parent;
-}
-
-void tst_DialogGuideWidget::followsTheParentsEvents_data()
-{
-    QTest::addColumn<QEvent::Type>("type");
-    QTest::newRow("move") << QEvent::Move;
-    QTest::newRow("resize") << QEvent::Resize;
-    QTest::newRow("show") << QEvent::Show;
-}
-
-void tst_DialogGuideWidget::followsTheParentsEvents()
-{
-    QFETCH(QEvent::Type, type);
-    QWidget parent;
-    Bubble bubble(&parent);
-    if (type == QEvent::Move) {
-        QMoveEvent event(QPoint(1, 1), QPoint());
-        QCoreApplication::sendEvent(&parent, &event);
-    } else if (type == QEvent::Resize) {
-        QResizeEvent event(QSize(10, 10), QSize());
-        QCoreApplication::sendEvent(&parent, &event);
-    } else {
-        QShowEvent event;
-        QCoreApplication::sendEvent(&parent, &event);
-    }
-    QCOMPARE(bubble.aims, 1);
-}
-
-void tst_DialogGuideWidget::otherEventsLeaveItAlone()
-{
-    QWidget parent;
-    QWidget stranger;
-    Bubble bubble(&parent);
-    const auto send = [](QWidget* receiver, QEvent::Type type) {
-        QEvent event(type);
-        QCoreApplication::sendEvent(receiver, &event);
-    };
-    for (const QEvent::Type type :
-         {QEvent::HideToParent, QEvent::ShowToParent, QEvent::WindowActivate, QEvent::WindowDeactivate,
-          QEvent::EnabledChange, QEvent::FontChange, QEvent::LayoutRequest, QEvent::UpdateRequest,
-          QEvent::WindowTitleChange, QEvent::Enter, QEvent::Leave, QEvent::User}) {
-        send(&parent, type);
-        QCOMPARE(bubble.aims, 0);
-    }
-    // Nor those of another widget that somebody made it watch.
-    stranger.installEventFilter(&bubble);
-    QMoveEvent move(QPoint(1, 1), QPoint());
-    QCoreApplication::sendEvent(&stranger, &move);
-    QCOMPARE(bubble.aims, 0);
-}
-
-void tst_DialogGuideWidget::parentsEventsAreNotConsumed()
-{
-    struct Parent : QWidget
-    {
-        int moves = 0;
-        int resizes = 0;
-        int shows = 0;
-        void moveEvent(QMoveEvent* event) override
-        {
-            ++moves;
-            QWidget::moveEvent(event);
-        }
-        void resizeEvent(QResizeEvent* event) override
-        {
-            ++resizes;
-            QWidget::resizeEvent(event);
-        }
-        void showEvent(QShowEvent* event) override
-        {
-            ++shows;
-            QWidget::showEvent(event);
-        }
-    } parent;
-    const DialogGuideWidget bubble(&parent);
-    parent.show();
-    QCOMPARE(parent.shows, 1);
-    const int moves = parent.moves;
-    const int resizes = parent.resizes;
-    parent.move(parent.pos() + QPoint(5, 5));
-    parent.resize(parent.size() + QSize(5, 5));
-    QCOMPARE(parent.moves, moves + 1);
-    QCOMPARE(parent.resizes, resizes + 1);
-}
-
-void tst_DialogGuideWidget::parentMoves()
-{
-    Stage stage;
-    const QPoint before = stage.bubble->pos();
-    stage.window.move(stage.window.pos() + QPoint(30, 20));
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
-    QCOMPARE(stage.bubble->pos(), before + QPoint(30, 20));
-    QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1);
-}
-
-void tst_DialogGuideWidget::parentResizes()
-{
-    Stage stage;
-    stage.bubble->spot = [&] { return stage.window.mapToGlobal(stage.window.rect().center()); };
-    stage.window.resize(500, 380);
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.window.rect().center()));
-    QVERIFY(stage.bubble->mask().contains(stage.bubble->mapFromGlobal(stage.bubble->targetPoint())));
-}
-
-void tst_DialogGuideWidget::parentHides()
-{
-    Stage stage;
-    stage.window.hide();
-    QVERIFY(!stage.bubble->isVisible());
-    stage.window.move(stage.window.pos() + QPoint(40, 0));
-    stage.window.show();
-    QVERIFY(stage.bubble->isVisible());
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
-}
-
-void tst_DialogGuideWidget::parentIsReparented()
-{
-    QWidget first;
-    first.setGeometry(50, 50, 300, 200);
-    QWidget second;
-    second.setGeometry(400, 300, 300, 200);
-    first.show();
-    second.show();
-    auto* panel = new QWidget(&first);
-    panel->setGeometry(10, 10, 100, 50);
-    panel->show();
-    Bubble bubble(panel);
-    bubble.setInfo(fullInfo());
-    bubble.pointTo(panel->mapToGlobal(QPoint(20, 20)));
-    bubble.show();
-    settle();
-    panel->setParent(&second);
-    panel->show();
-    settle();
-    QCOMPARE(bubble.targetPoint(), panel->mapToGlobal(QPoint(20, 20)));
-    QVERIFY(bubble.isVisible());
-    panel->move(40, 30);
-    QCOMPARE(bubble.targetPoint(), panel->mapToGlobal(QPoint(20, 20)));
-    QVERIFY(bubble.mask().contains(bubble.mapFromGlobal(bubble.targetPoint())));
-}
-
-void tst_DialogGuideWidget::bubbleIsReparented()
-{
-    QWidget first;
-    QWidget second;
-    first.show();
-    second.show();
-    Bubble bubble(&first);
-    bubble.setParent(&second, bubble.windowFlags());
-    bubble.show();
-    settle();
-    bubble.forget();
-    QMoveEvent move(QPoint(1, 1), QPoint());
-    QCoreApplication::sendEvent(&first, &move);
-    QCOMPARE(bubble.aims, 0);
-    QCoreApplication::sendEvent(&second, &move);
-    QCOMPARE(bubble.aims, 1);
-    // Changing the flags is a change of parents to the same one.
-    bubble.setWindowFlags(Qt::Widget);
-    bubble.forget();
-    QCoreApplication::sendEvent(&second, &move);
-    QCOMPARE(bubble.aims, 1);
-    bubble.setParent(nullptr, Qt::Tool);
-    bubble.forget();
-    QCoreApplication::sendEvent(&second, &move);
-    QCOMPARE(bubble.aims, 0);
-}
-
-void tst_DialogGuideWidget::withoutParent()
-{
-    Bubble bubble(nullptr);
-    bubble.setInfo(fullInfo());
-    bubble.pointTo(QPoint(300, 200));
-    bubble.show();
-    settle();
-    QCOMPARE(bubble.targetPoint(), QPoint(300, 200));
-    QVERIFY(bubble.mask().contains(bubble.mapFromGlobal(QPoint(300, 200))));
-}
-
-void tst_DialogGuideWidget::parentDies()
-{
-    auto parent = std::make_unique<QWidget>();
-    parent->show();
-    QPointer<Bubble> bubble = new Bubble(parent.get());
-    bubble->setInfo(fullInfo());
-    bubble->show();
-    parent.reset();
-    QVERIFY(!bubble);
-    settle();
-}
-
-void tst_DialogGuideWidget::unaimedBubblePointsAtTheCorner()
-{
-    QWidget window;
-    window.setGeometry(200, 150, 300, 200);
-    window.show();
-    Bubble bubble(&window);
-    bubble.setInfo(fullInfo());
-    bubble.show();
-    settle();
-    QCOMPARE(bubble.targetPoint(), window.mapToGlobal(QPoint()));
-    QVERIFY(bubble.mask().contains(bubble.mapFromGlobal(bubble.targetPoint())));
-}
-
-void tst_DialogGuideWidget::ownResizeAims()
-{
-    Stage stage;
-    stage.bubble->resize(stage.bubble->size() + QSize(40, 30));
-    QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1);
-    QVERIFY(stage.bubble->mask().contains(stage.bubble->mapFromGlobal(stage.bubble->targetPoint())));
-}
-
-// A paint that moved or repainted the bubble would bring the next paint, for ever.
-void tst_DialogGuideWidget::paintingAimsAndEnds()
-{
-    Stage stage;
-    DialogGuideInfo still = fullInfo();
-    still.moviePath.clear();
-    stage.bubble->setInfo(still);
-    settle();
-    stage.bubble->forget();
-    stage.bubble->update();
-    settle();
-    QCOMPARE(stage.bubble->paints, 1);
-    QCOMPARE(stage.bubble->aimsByPaints, 1);
-    QCOMPARE(stage.bubble->moves, 0);
-
-    // Aimed anew at every paint, with a spot that has moved meanwhile.
-    stage.bubble->spot = [&] { return stage.window.mapToGlobal(QPoint(350, 250)); };
-    stage.bubble->update();
-    settle();
-    QVERIFY(stage.bubble->paints >= 2);
-    const int paints = stage.bubble->paints;
-    settle();
-    QCOMPARE(stage.bubble->paints, paints);
-    QVERIFY(paints <= 4);
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(QPoint(350, 250)));
-}
-
-void tst_DialogGuideWidget::paintingBringsAMovedBubbleBack()
-{
-    Stage stage;
-    const QPoint place = stage.bubble->pos();
-    stage.bubble->move(10, 10);
-    stage.bubble->update();
-    settle();
-    QCOMPARE(stage.bubble->pos(), place);
-}
-
-void tst_DialogGuideWidget::thousandResizes()
-{
-    Stage stage;
-    DialogGuideInfo still = fullInfo();
-    still.moviePath.clear();
-    stage.bubble->setInfo(still);
-    stage.bubble->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Start);
-    stage.bubble->spot = [&] { return stage.window.mapToGlobal(QPoint(stage.window.width() / 4, 60)); };
-    settle();
-    stage.bubble->forget();
-    for (int i = 0; i < 1000; ++i) {
-        stage.window.resize(300 + 4 * (i % 100), 300);
-    }
-    QCOMPARE(stage.bubble->aims, 1000);
-    QVERIFY(stage.bubble->moves <= 1000);
-    QVERIFY(stage.bubble->moves >= 900);
-    QCOMPARE(stage.bubble->paints, 0);
-    settle();
-    QVERIFY(stage.bubble->paints <= 1);
-    QCOMPARE(stage.bubble->targetPoint(), stage.bubble->spot());
-}
-
-// At the edge of the screen the bubble stays and its arrow moves: it has to be painted, once a frame.
-void tst_DialogGuideWidget::thousandResizesWithAnArrowThatLeans()
-{
-    Stage stage;
-    DialogGuideInfo still = fullInfo();
-    still.moviePath.clear();
-    stage.bubble->setInfo(still);
-    stage.window.move(0, 100);
-    stage.bubble->spot = [&] { return stage.window.mapToGlobal(QPoint(20 + stage.window.width() % 40, 60)); };
-    settle();
-    stage.bubble->forget();
-    for (int frame = 0; frame < 10; ++frame) {
-        for (int i = 0; i < 100; ++i) {
-            stage.window.resize(300 + i, 300);
-        }
-        settle();
-        QCOMPARE(stage.bubble->paints, frame + 1);
-    }
-    QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1000);
-    QCOMPARE(stage.bubble->moves, 0);
-}
-
-void tst_DialogGuideWidget::animationPlaysWhileShown()
-{
-    Stage stage;
-    const auto* const picture = part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget");
-    QCOMPARE(picture->movie()->state(), QMovie::Running);
-    QTRY_COMPARE(picture->movie()->currentFrameNumber(), 2);
-    stage.bubble->hide();
-    QVERIFY(picture->movie()->state() != QMovie::Running);
-    stage.bubble->show();
-    QCOMPARE(picture->movie()->state(), QMovie::Running);
-}
-
-void tst_DialogGuideWidget::animationSetWhileShown()
-{
-    Stage stage;
-    DialogGuideInfo still = fullInfo();
-    still.moviePath.clear();
-    stage.bubble->setInfo(still);
-    settle();
-    const auto* const picture = part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget");
-    QVERIFY(!picture->movie());
-    stage.bubble->setInfo(fullInfo());
-    QCOMPARE(picture->movie()->state(), QMovie::Running);
-    QTRY_COMPARE(picture->movie()->currentFrameNumber(), 2);
-}
-
-// Counted against the timers of a bubble that is shown, so that the counting is seen to work.
-void tst_DialogGuideWidget::hiddenBubbleCostsNothing()
-{
-    Stage stage;
-    TimerCounter timers;
-    QVERIFY(timers.countDuring(50) > 5);
-    stage.bubble->hide();
-    stage.bubble->forget();
-    Bubble neverShown(&stage.window);
-    neverShown.setInfo(fullInfo());
-    settle();
-    QCOMPARE(timers.countDuring(50), 0);
-    QCOMPARE(startedTimers(stage.bubble), 0);
-    QCOMPARE(startedTimers(&neverShown), 0);
-    QCOMPARE(stage.bubble->paints, 0);
-    stage.bubble->show();
-    stage.window.hide();
-    stage.bubble->setInfo(fullInfo());
-    settle();
-    QCOMPARE(timers.countDuring(50), 0);
-    QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->movie()->state() != QMovie::Running);
-}
-
-void tst_DialogGuideWidget::rightToLeft()
-{
-    Stage stage;
-    stage.window.setLayoutDirection(Qt::RightToLeft);
-    settle();
-    QCOMPARE(stage.bubble->layoutDirection(), Qt::RightToLeft);
-    QCOMPARE(part<QToolButton>(*stage.bubble, "closeButton")->geometry().left(), 0);
-    QCOMPARE(part<QPushButton>(*stage.bubble, "mainButton")->geometry().left(), 0);
-    QVERIFY(part<QPushButton>(*stage.bubble, "secondaryButton")->geometry().left() > 0);
-    QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
-}
-
-void tst_DialogGuideWidget::accessibleNames()
-{
-    class Translator : public QTranslator
-    {
-    public:
-        QString translate(const char* context, const char* text, const char*, int) const override
-        {
-            const bool ours = qstrcmp(context, "DialogGuideWidget") == 0;
-            return ours ? QStringLiteral("[%1]").arg(QLatin1String(text)) : QString();
-        }
-        bool isEmpty() const override { return false; }
-    };
-    Stage stage;
-    const auto name = [](QWidget* widget) {
-        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
-    };
-    QCOMPARE(name(stage.bubble), QStringLiteral("The timeline"));
-    QCOMPARE(name(part<QToolButton>(*stage.bubble, "closeButton")), QStringLiteral("Close"));
-    Translator translator;
-    QCoreApplication::installTranslator(&translator);
-    settle();
-    QCOMPARE(name(part<QToolButton>(*stage.bubble, "closeButton")), QStringLiteral("[Close]"));
-    QCoreApplication::removeTranslator(&translator);
-    settle();
-    QCOMPARE(name(part<QToolButton>(*stage.bubble, "closeButton")), QStringLiteral("Close"));
-}
-
-void tst_DialogGuideWidget::sheetReachesAllParts()
-{
-    qApp->setStyleSheet(
-        QStringLiteral("DialogGuideWidget { min-width: 300px; max-width: 300px; }"
-                       "DialogGuideWidget #buttonsFrame { qproperty-layoutSpacing: 17; }"
-                       "QPushButton[styleHint=\"guideButton\"] { min-width: 77px; max-width: 77px; }"
-                       "QPushButton[styleHint=\"guideMainButton\"] { min-width: 88px; max-width: 88px; }"));
+    void ownResizeAims()
     {
         Stage stage;
-        QCOMPARE(stage.bubble->width(), 300);
-        const auto* const main = part<QPushButton>(*stage.bubble, "mainButton");
-        const auto* const secondary = part<QPushButton>(*stage.bubble, "secondaryButton");
-        QVERIFY(main->minimumWidth() >= 88 && main->minimumWidth() < 99);
-        QVERIFY(secondary->minimumWidth() >= 77 && secondary->minimumWidth() < 88);
-        QCOMPARE(main->geometry().left() - secondary->geometry().right() - 1, 17);
+        stage.bubble->resize(stage.bubble->size() + QSize(40, 30));
+        QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1);
+        QVERIFY(stage.bubble->mask().contains(stage.bubble->mapFromGlobal(stage.bubble->targetPoint())));
     }
-    qApp->setStyleSheet(QString());
-}
 
-void tst_DialogGuideWidget::asAPlainChild()
-{
-    QWidget window;
-    window.resize(500, 400);
-    Bubble bubble(&window);
-    bubble.setWindowFlags(Qt::Widget);
-    bubble.setInfo(fullInfo());
-    bubble.pointTo(window.mapToGlobal(QPoint(250, 100)));
-    bubble.show();
-    window.show();
-    settle();
-    QVERIFY(window.rect().contains(bubble.geometry()));
-    QCOMPARE(bubble.targetPoint(), window.mapToGlobal(QPoint(250, 100)));
-    bubble.forget();
-    window.resize(520, 400);
-    settle();
-    QCOMPARE(bubble.aims - bubble.aimsByPaints, 1);
-}
+    // A paint that moved or repainted the bubble would bring the next paint, for ever.
+    void paintingAimsAndEnds()
+    {
+        Stage stage;
+        DialogGuideInfo still = fullInfo();
+        still.moviePath.clear();
+        stage.bubble->setInfo(still);
+        settle();
+        stage.bubble->forget();
+        stage.bubble->update();
+        settle();
+        QCOMPARE(stage.bubble->paints, 1);
+        QCOMPARE(stage.bubble->aimsByPaints, 1);
+        QCOMPARE(stage.bubble->moves, 0);
+
+        // Aimed anew at every paint, with a spot that has moved meanwhile.
+        stage.bubble->spot = [&] { return stage.window.mapToGlobal(QPoint(350, 250)); };
+        stage.bubble->update();
+        settle();
+        QVERIFY(stage.bubble->paints >= 2);
+        const int paints = stage.bubble->paints;
+        settle();
+        QCOMPARE(stage.bubble->paints, paints);
+        QVERIFY(paints <= 4);
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(QPoint(350, 250)));
+    }
+
+    void paintingBringsAMovedBubbleBack()
+    {
+        Stage stage;
+        const QPoint place = stage.bubble->pos();
+        stage.bubble->move(10, 10);
+        stage.bubble->update();
+        settle();
+        QCOMPARE(stage.bubble->pos(), place);
+    }
+
+    void thousandResizes()
+    {
+        Stage stage;
+        DialogGuideInfo still = fullInfo();
+        still.moviePath.clear();
+        stage.bubble->setInfo(still);
+        stage.bubble->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Start);
+        stage.bubble->spot = [&] { return stage.window.mapToGlobal(QPoint(stage.window.width() / 4, 60)); };
+        settle();
+        stage.bubble->forget();
+        for (int i = 0; i < 1000; ++i) {
+            stage.window.resize(300 + 4 * (i % 100), 300);
+        }
+        QCOMPARE(stage.bubble->aims, 1000);
+        QVERIFY(stage.bubble->moves <= 1000);
+        QVERIFY(stage.bubble->moves >= 900);
+        QCOMPARE(stage.bubble->paints, 0);
+        settle();
+        QVERIFY(stage.bubble->paints <= 1);
+        QCOMPARE(stage.bubble->targetPoint(), stage.bubble->spot());
+    }
+
+    // At the edge of the screen the bubble stays and its arrow moves: it has to be painted, once a frame.
+    void thousandResizesWithAnArrowThatLeans()
+    {
+        Stage stage;
+        DialogGuideInfo still = fullInfo();
+        still.moviePath.clear();
+        stage.bubble->setInfo(still);
+        stage.window.move(0, 100);
+        stage.bubble->spot = [&] {
+            return stage.window.mapToGlobal(QPoint(20 + stage.window.width() % 40, 60));
+        };
+        settle();
+        stage.bubble->forget();
+        for (int frame = 0; frame < 10; ++frame) {
+            for (int i = 0; i < 100; ++i) {
+                stage.window.resize(300 + i, 300);
+            }
+            settle();
+            QCOMPARE(stage.bubble->paints, frame + 1);
+        }
+        QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1000);
+        QCOMPARE(stage.bubble->moves, 0);
+    }
+
+    void animationPlaysWhileShown()
+    {
+        Stage stage;
+        const auto* const picture = part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget");
+        QCOMPARE(picture->movie()->state(), QMovie::Running);
+        QTRY_COMPARE(picture->movie()->currentFrameNumber(), 2);
+        stage.bubble->hide();
+        QVERIFY(picture->movie()->state() != QMovie::Running);
+        stage.bubble->show();
+        QCOMPARE(picture->movie()->state(), QMovie::Running);
+    }
+
+    void animationSetWhileShown()
+    {
+        Stage stage;
+        DialogGuideInfo still = fullInfo();
+        still.moviePath.clear();
+        stage.bubble->setInfo(still);
+        settle();
+        const auto* const picture = part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget");
+        QVERIFY(!picture->movie());
+        stage.bubble->setInfo(fullInfo());
+        QCOMPARE(picture->movie()->state(), QMovie::Running);
+        QTRY_COMPARE(picture->movie()->currentFrameNumber(), 2);
+    }
+
+    // Counted against the timers of a bubble that is shown, so that the counting is seen to work.
+    void hiddenBubbleCostsNothing()
+    {
+        Stage stage;
+        TimerCounter timers;
+        QVERIFY(timers.countDuring(50) > 5);
+        stage.bubble->hide();
+        stage.bubble->forget();
+        Bubble neverShown(&stage.window);
+        neverShown.setInfo(fullInfo());
+        settle();
+        QCOMPARE(timers.countDuring(50), 0);
+        QCOMPARE(startedTimers(stage.bubble), 0);
+        QCOMPARE(startedTimers(&neverShown), 0);
+        QCOMPARE(stage.bubble->paints, 0);
+        stage.bubble->show();
+        stage.window.hide();
+        stage.bubble->setInfo(fullInfo());
+        settle();
+        QCOMPARE(timers.countDuring(50), 0);
+        QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->movie()->state() != QMovie::Running);
+    }
+
+    void rightToLeft()
+    {
+        Stage stage;
+        stage.window.setLayoutDirection(Qt::RightToLeft);
+        settle();
+        QCOMPARE(stage.bubble->layoutDirection(), Qt::RightToLeft);
+        QCOMPARE(part<QToolButton>(*stage.bubble, "closeButton")->geometry().left(), 0);
+        QCOMPARE(part<QPushButton>(*stage.bubble, "mainButton")->geometry().left(), 0);
+        QVERIFY(part<QPushButton>(*stage.bubble, "secondaryButton")->geometry().left() > 0);
+        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
+    }
+
+    void accessibleNames()
+    {
+        class Translator : public QTranslator
+        {
+        public:
+            QString translate(const char* context, const char* text, const char*, int) const override
+            {
+                const bool ours = qstrcmp(context, "DialogGuideWidget") == 0;
+                return ours ? QStringLiteral("[%1]").arg(QLatin1String(text)) : QString();
+            }
+            bool isEmpty() const override { return false; }
+        };
+        Stage stage;
+        const auto name = [](QWidget* widget) {
+            return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+        };
+        QCOMPARE(name(stage.bubble), QStringLiteral("The timeline"));
+        QCOMPARE(name(part<QToolButton>(*stage.bubble, "closeButton")), QStringLiteral("Close"));
+        Translator translator;
+        QCoreApplication::installTranslator(&translator);
+        settle();
+        QCOMPARE(name(part<QToolButton>(*stage.bubble, "closeButton")), QStringLiteral("[Close]"));
+        QCoreApplication::removeTranslator(&translator);
+        settle();
+        QCOMPARE(name(part<QToolButton>(*stage.bubble, "closeButton")), QStringLiteral("Close"));
+    }
+
+    void sheetReachesAllParts()
+    {
+        qApp->setStyleSheet(QStringLiteral(
+            "DialogGuideWidget { min-width: 300px; max-width: 300px; }"
+            "DialogGuideWidget #buttonsFrame { qproperty-layoutSpacing: 17; }"
+            "QPushButton[styleHint=\"guideButton\"] { min-width: 77px; max-width: 77px; }"
+            "QPushButton[styleHint=\"guideMainButton\"] { min-width: 88px; max-width: 88px; }"));
+        {
+            Stage stage;
+            QCOMPARE(stage.bubble->width(), 300);
+            const auto* const main = part<QPushButton>(*stage.bubble, "mainButton");
+            const auto* const secondary = part<QPushButton>(*stage.bubble, "secondaryButton");
+            QVERIFY(main->minimumWidth() >= 88 && main->minimumWidth() < 99);
+            QVERIFY(secondary->minimumWidth() >= 77 && secondary->minimumWidth() < 88);
+            QCOMPARE(main->geometry().left() - secondary->geometry().right() - 1, 17);
+        }
+        qApp->setStyleSheet(QString());
+    }
+
+    void asAPlainChild()
+    {
+        QWidget window;
+        window.resize(500, 400);
+        Bubble bubble(&window);
+        bubble.setWindowFlags(Qt::Widget);
+        bubble.setInfo(fullInfo());
+        bubble.pointTo(window.mapToGlobal(QPoint(250, 100)));
+        bubble.show();
+        window.show();
+        settle();
+        QVERIFY(window.rect().contains(bubble.geometry()));
+        QCOMPARE(bubble.targetPoint(), window.mapToGlobal(QPoint(250, 100)));
+        bubble.forget();
+        window.resize(520, 400);
+        settle();
+        QCOMPARE(bubble.aims - bubble.aimsByPaints, 1);
+    }
+};
 
 UIC_TEST_MAIN(tst_DialogGuideWidget)
 #include "tst_DialogGuideWidget.moc"

@@ -575,437 +575,419 @@ class tst_EditSession : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void story_data();
-    void story();
-    void colorPick_data();
-    void colorPick();
-    void colorPickWithThePanel();
-    void widgetColor();
-    void multiValue_data();
-    void multiValue();
-    void multiValueTakesTheHiddenValue_data();
-    void multiValueTakesTheHiddenValue();
-    void multiColor();
-    void shownValueIsCommitted();
-    void unfinishedText();
-    void refreshInAReport();
-    void deletedInASlot_data();
-    void deletedInASlot();
-    void windowDestroyedWhileTyping();
-    void otherWidgets();
-};
-
-void tst_EditSession::story_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("told");
-    for (int kind = 0; kind < kinds().size(); ++kind) {
-        for (int i = 0; i < stories().size(); ++i) {
-            const Kind& k = kinds().at(kind);
-            const Story& s = stories().at(i);
-            const bool isPossible = s.needs == Needs::Nothing || (s.needs == Needs::Drag && k.dragged) ||
-                                    (s.needs == Needs::Keys && k.keyed) ||
-                                    (s.needs == Needs::Text && k.typed);
-            // A plane has no wheel, and reports nothing that a host sets.
-            const bool isForOthers =
-                QByteArray(k.name).startsWith("Point") &&
-                (QByteArray(s.name).startsWith("wheel") || s.name == QByteArray("a host without a word"));
-            if (isPossible && !isForOthers) {
-                QTest::addRow("%s: %s", k.name, s.name) << kind << i;
-            }
-        }
-    }
-}
-
-void tst_EditSession::story()
-{
-    QFETCH(int, kind);
-    QFETCH(int, told);
-    const Kind& k = kinds().at(kind);
-    const Story& s = stories().at(told);
-    Stage stage(k);
-    QVERIFY(FieldAccess::isSame(stage.session->value(), k.start));
-    s.act(stage, k);
-    QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
-    if (stage.session) {
-        QVERIFY(!stage.session->isActive());
-        // Late reports, as a folder field's, tell no other.
-        QTest::qWait(k.name == QByteArray("PathSelectionWidget") ? 150 : 0);
-        QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
-    }
-}
-
-void tst_EditSession::colorPick_data()
-{
-    using Pick = std::function<void(FakeColorPicker&)>;
-    QTest::addColumn<Pick>("pick");
-    QTest::addColumn<Color>("start");
-    QTest::addColumn<Color>("result");
-    QTest::addColumn<QString>("expected");
-    const Color red(QColor(Qt::red));
-    const Color blue(QColor(Qt::blue));
-    const QString once("started previewed committed");
-    const QString cancelled("started previewed cancelled");
-    const Pick previews = [blue](FakeColorPicker& picker) {
-        picker.preview(QColor(Qt::green));
-        picker.preview(blue);
-        picker.finish(blue);
-    };
-    const Pick takenBack = [red](FakeColorPicker& picker) {
-        picker.preview(QColor(Qt::green));
-        picker.finish(red);
-    };
-    QTest::newRow("previews") << previews << red << blue << once;
-    QTest::newRow("without a preview")
-        << Pick([blue](FakeColorPicker& picker) { picker.finish(blue); }) << red << blue << once;
-    QTest::newRow("another end than the last preview") << Pick([blue](FakeColorPicker& picker) {
-        picker.preview(QColor(Qt::green));
-        picker.finish(blue);
-    }) << red << blue << once;
-    QTest::newRow("nothing chosen") << Pick([red](FakeColorPicker& picker) { picker.finish(red); }) << red
-                                    << red << QString();
-    QTest::newRow("taken back") << takenBack << red << red << cancelled;
-    QTest::newRow("several, taken back") << Pick([](FakeColorPicker& picker) {
-        picker.preview(QColor(Qt::green));
-        picker.finish({});
-    }) << Color() << Color() << cancelled;
-    QTest::newRow("several to one") << previews << Color() << blue << once;
-    QTest::newRow("no colour") << Pick([](FakeColorPicker& picker) { picker.finish(QColor()); }) << red
-                               << Color(QColor()) << once;
-    QTest::newRow("hidden") << Pick([](FakeColorPicker& picker) {
-        picker.preview(QColor(Qt::blue));
-        qobject_cast<QWidget*>(picker.parent())->hide();
-    }) << red << blue << once;
-    QTest::newRow("no end is told") << Pick([](FakeColorPicker& picker) {
-        picker.preview(QColor(Qt::green));
-        picker.finishInSilence();
-        picker.preview(QColor(Qt::blue));
-    }) << red << blue << once;
-}
-
-void tst_EditSession::colorPick()
-{
-    using Pick = std::function<void(FakeColorPicker&)>;
-    QFETCH(Pick, pick);
-    QFETCH(Color, start);
-    QFETCH(Color, result);
-    QFETCH(QString, expected);
-    const Kind kind = {"ColorInputWidget",
-                       [](QWidget* parent) { return new ColorInputWidget(parent, Qt::white); },
-                       nullptr,
-                       nullptr,
-                       nullptr,
-                       QVariant::fromValue(start),
-                       QVariant::fromValue(result),
-                       {}};
-    Stage stage(kind);
-    auto* const button = stage.field->findChild<ColorPickerButton*>();
-    auto* const picker = new FakeColorPicker;
-    button->setPicker(picker);
-    // A host's own look, which keeps still.
-    picker->onSetColor = [](const Color&) {};
-    button->startPicking();
-    pick(*picker);
-    QCOMPARE(stage.story(), expected);
-    QCOMPARE(button->color(), result);
-    if (expected.endsWith("committed")) {
-        QCOMPARE(stage.committed.value<Color>(), result);
-    }
-}
-
-void tst_EditSession::colorPickWithThePanel()
-{
-    const Kind kind = {"ColorPickerButton",
-                       [](QWidget* parent) { return new ColorPickerButton(parent); },
-                       nullptr,
-                       nullptr,
-                       nullptr,
-                       QVariant::fromValue(Color()),
-                       QVariant::fromValue(Color(QColor(Qt::red))),
-                       {}};
-    Stage stage(kind);
-    auto* const button = qobject_cast<ColorPickerButton*>(stage.field);
-    button->setPicker(new PopupColorPicker);
-    for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
-        stage.lines.clear();
-        button->startPicking();
-        auto* const popup = stage.window.findChild<QWidget*>("colorPanelPopup");
-        auto* const edit = popup->findChild<QLineEdit*>();
-        edit->selectAll();
-        QTest::keyClicks(edit, "#123456");
-        QTest::keyClick(edit, Qt::Key_Home);
-        QVERIFY(stage.session->isActive());
-        QTest::keyClick(edit, Qt::Key(key));
-        QTRY_VERIFY(!button->isPickingInProgress());
-        QCOMPARE(stage.story(), QString(key == Qt::Key_Escape ? "started previewed cancelled"
-                                                              : "started previewed committed"));
-        QCOMPARE(button->color(), key == Qt::Key_Escape ? Color() : Color(QColor(0x12, 0x34, 0x56)));
-    }
-}
-
-/// The colour of a picked widget is that of another selection, also when the button wears it already.
-void tst_EditSession::widgetColor()
-{
-    QWidget window;
-    window.resize(300, 200);
-    QWidget target(&window);
-    target.setGeometry(100, 50, 100, 100);
-    target.setStyleSheet("background: #2f6fde;");
-    WidgetColorPickerButton button(&window);
-    button.setTargetWidget(&target);
-    EditSession session(&button);
-    QStringList lines;
-    connect(&session, &EditSession::started, this, [&] { lines += "started"; });
-    connect(&session, &EditSession::previewed, this, [&] { lines += "previewed"; });
-    connect(&session, &EditSession::committed, this,
-            [&](const QVariant& color) { lines += color.value<QColor>().name(); });
-    connect(&session, &EditSession::cancelled, this, [&] { lines += "cancelled"; });
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const auto pickAt = [&](const QPoint& point) {
-        QTimer::singleShot(0, &window, [&window, point] {
-            QCursor::setPos(window.mapToGlobal(point));
-            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, point);
-        });
-        button.startPicking();
-    };
-    for (int i = 0; i < 2; ++i) {
-        lines.clear();
-        pickAt(target.geometry().center());
-        QCOMPARE(lines, (QStringList{"started", "previewed", "#2f6fde"}));
-    }
-    lines.clear();
-    pickAt(QPoint(5, 190));
-    QCOMPARE(lines, QStringList());
-}
-
-void tst_EditSession::multiValue_data()
-{
-    QTest::addColumn<int>("kind");
-    for (int kind = 0; kind < kinds().size(); ++kind) {
-        QTest::newRow(kinds().at(kind).name) << kind;
-    }
-}
-
-void tst_EditSession::multiValue()
-{
-    QFETCH(int, kind);
-    Stage stage(kinds().at(kind));
-    QVERIFY(!stage.session->isMultiValue());
-    stage.session->setMultiValue(true);
-    const auto edits = stage.field->findChildren<QLineEdit*>();
-    const auto isShown = [&stage] {
-        const auto parts = stage.field->findChildren<QLineEdit*>();
-        bool isCovered = true;
-        for (const QLineEdit* edit : parts) {
-            const auto* cover = edit->findChild<QLabel*>("multiValueCover");
-            isCovered = isCovered && cover && cover->isVisibleTo(edit) && cover->width() > edit->width() - 8;
-        }
-        return isCovered && stage.session->isMultiValue() && stage.field->property("multiValue").toBool();
-    };
-    QVERIFY(isShown());
-    stage.window.resize(stage.window.size() + QSize(100, 0));
-    QVERIFY(isShown());
-    const auto described = [&stage] {
-        return stage.field->accessibleDescription() + [&stage] {
-            const auto parts = stage.field->findChildren<QWidget*>();
-            for (const QWidget* part : parts) {
-                if (part->focusPolicy() != Qt::NoFocus) {
-                    return part->accessibleDescription();
+    void story_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("told");
+        for (int kind = 0; kind < kinds().size(); ++kind) {
+            for (int i = 0; i < stories().size(); ++i) {
+                const Kind& k = kinds().at(kind);
+                const Story& s = stories().at(i);
+                const bool isPossible = s.needs == Needs::Nothing || (s.needs == Needs::Drag && k.dragged) ||
+                                        (s.needs == Needs::Keys && k.keyed) ||
+                                        (s.needs == Needs::Text && k.typed);
+                // A plane has no wheel, and reports nothing that a host sets.
+                const bool isForOthers =
+                    QByteArray(k.name).startsWith("Point") &&
+                    (QByteArray(s.name).startsWith("wheel") || s.name == QByteArray("a host without a word"));
+                if (isPossible && !isForOthers) {
+                    QTest::addRow("%s: %s", k.name, s.name) << kind << i;
                 }
             }
-            return QString();
-        }();
-    };
-    QVERIFY(described().contains("Several values"));
-    // The user tabs through.
-    for (int i = 0; i < 8; ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    QVERIFY(isShown());
-    QCOMPARE(stage.story(), QString());
-    stage.session->setValue(kinds().at(kind).other);
-    QVERIFY(!stage.session->isMultiValue());
-    QVERIFY(!stage.field->property("multiValue").toBool());
-    QVERIFY(!stage.field->findChild<QLabel*>("multiValueCover"));
-    QCOMPARE(described(), QString());
-    QCOMPARE(stage.story(), QString());
-}
-
-void tst_EditSession::multiValueTakesTheHiddenValue_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("end");
-    for (int kind = 0; kind < kinds().size(); ++kind) {
-        if (kinds().at(kind).typed) {
-            QTest::addRow("%s", kinds().at(kind).name) << kind << int(Qt::Key_Return);
-            QTest::addRow("%s, Escape", kinds().at(kind).name) << kind << int(Qt::Key_Escape);
         }
     }
-}
 
-void tst_EditSession::multiValueTakesTheHiddenValue()
-{
-    QFETCH(int, kind);
-    QFETCH(int, end);
-    Stage stage(kinds().at(kind));
-    const QString hidden = stage.editor()->text();
-    stage.session->setMultiValue(true);
-    stage.typed->setFocus();
-    stage.editor()->deselect();
-    // The hidden text is typed over, wherever the cursor stands in it.
-    QTest::keyClicks(stage.typed, hidden);
-    QCOMPARE(stage.editor()->text(), hidden);
-    QVERIFY(stage.session->isActive());
-    QVERIFY(!stage.session->isMultiValue());
-    stage.pressKey(stage.typed, end);
-    if (end == Qt::Key_Escape) {
-        QCOMPARE(stage.story(), QString("started previewed cancelled"));
-        QVERIFY(stage.session->isMultiValue());
-    } else {
-        QCOMPARE(stage.story(), QString("started previewed committed"));
-        QVERIFY(FieldAccess::isSame(stage.committed, kinds().at(kind).start));
-    }
-}
-
-void tst_EditSession::multiColor()
-{
-    ColorInputWidget field(nullptr, Qt::red);
-    EditSession session(&field);
-    QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
-    session.setMultiValue(true);
-    QCOMPARE(field.color(), Color());
-    QVERIFY(field.property("multiValue").toBool());
-    session.setValue(QVariant::fromValue(Color(QColor(Qt::blue))));
-    QVERIFY(!session.isMultiValue());
-    QCOMPARE(field.color(), Color(QColor(Qt::blue)));
-}
-
-/// A plane is finer than the boxes beside it.
-void tst_EditSession::shownValueIsCommitted()
-{
-    Stage stage(kinds().at(3));
-    QVector<QPointF> points;
-    connect(stage.session, &EditSession::previewed, this,
-            [&points](const QVariant& value) { points += value.toPointF(); });
-    dragOn(stage);
-    dropAt(stage, 31);
-    QCOMPARE(stage.story(), QString("started previewed committed"));
-    const auto boxes = stage.field->findChildren<QDoubleSpinBox*>();
-    QCOMPARE(stage.committed.toPointF(), QPointF(boxes.at(0)->value(), boxes.at(1)->value()));
-    for (const QPointF& point : qAsConst(points)) {
-        QCOMPARE(point.x() * 10, double(qRound(point.x() * 10)));
-        // Never half of a point: the drag is level.
-        QCOMPARE(point.y(), points.constFirst().y());
-    }
-}
-
-void tst_EditSession::unfinishedText()
-{
-    Stage stage({"SliderInputWidget", maker<SliderInputWidget>(SliderInputWidget::Initializer{10, 100}),
-                 nullptr, nullptr, "QAbstractSpinBox", 50, 80, "5"});
-    // Below the range, and so no value yet.
-    stage.type("5");
-    QCOMPARE(stage.story(), QString());
-    stage.pressKey(stage.typed, Qt::Key_Escape);
-    QCOMPARE(stage.editor()->text(), QString("50"));
-    stage.type("5");
-    stage.other->setFocus();
-    QCOMPARE(stage.story(), QString("started previewed committed"));
-    QCOMPARE(stage.committed, QVariant(10));
-}
-
-/// A host that writes each value into its document, and shows the document again.
-void tst_EditSession::refreshInAReport()
-{
-    Stage stage(kinds().at(0));
-    auto* const slider = qobject_cast<SliderInputWidget*>(stage.field);
-    connect(stage.session, &EditSession::previewed, this, [&stage, slider](const QVariant& value) {
-        const EditSession::Refresh refresh(&stage.window);
-        slider->setValue(value.toInt() / 5 * 5);
-        stage.previewed = slider->value();
-    });
-    dragOn(stage);
-    dropAt(stage, 30);
-    QVERIFY(stage.lines.count("started") == 1);
-    QVERIFY(stage.story().endsWith("committed"));
-    QCOMPARE(stage.committed.toInt() % 5, 0);
-}
-
-void tst_EditSession::deletedInASlot_data()
-{
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<bool>("onlySession");
-    for (const bool onlySession : {true, false}) {
-        for (const char* const signal :
-             {"started()", "previewed(QVariant)", "committed(QVariant)", "cancelled()"}) {
-            QTest::addRow("%s %s", signal, onlySession ? "session" : "window")
-                << QByteArray("2").append(signal) << onlySession;
+    void story()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, told);
+        const Kind& k = kinds().at(kind);
+        const Story& s = stories().at(told);
+        Stage stage(k);
+        QVERIFY(FieldAccess::isSame(stage.session->value(), k.start));
+        s.act(stage, k);
+        QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
+        if (stage.session) {
+            QVERIFY(!stage.session->isActive());
+            // Late reports, as a folder field's, tell no other.
+            QTest::qWait(k.name == QByteArray("PathSelectionWidget") ? 150 : 0);
+            QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
         }
     }
-}
 
-void tst_EditSession::deletedInASlot()
-{
-    QFETCH(QByteArray, signal);
-    QFETCH(bool, onlySession);
-    auto window = std::make_unique<QWidget>();
-    auto* const field = new PointSelectionPlane(window.get());
-    field->setFixedSize(101, 101);
-    field->setLimits({0.0, 0.0, 100.0, 100.0});
-    QPointer<EditSession> session = new EditSession(field);
-    QAction remove(nullptr);
-    bool isDone = false;
-    connect(&remove, &QAction::triggered, this, [&] {
-        isDone = true;
-        if (onlySession) {
-            delete session;
+    void colorPick_data()
+    {
+        using Pick = std::function<void(FakeColorPicker&)>;
+        QTest::addColumn<Pick>("pick");
+        QTest::addColumn<Color>("start");
+        QTest::addColumn<Color>("result");
+        QTest::addColumn<QString>("expected");
+        const Color red(QColor(Qt::red));
+        const Color blue(QColor(Qt::blue));
+        const QString once("started previewed committed");
+        const QString cancelled("started previewed cancelled");
+        const Pick previews = [blue](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            picker.preview(blue);
+            picker.finish(blue);
+        };
+        const Pick takenBack = [red](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            picker.finish(red);
+        };
+        QTest::newRow("previews") << previews << red << blue << once;
+        QTest::newRow("without a preview")
+            << Pick([blue](FakeColorPicker& picker) { picker.finish(blue); }) << red << blue << once;
+        QTest::newRow("another end than the last preview") << Pick([blue](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            picker.finish(blue);
+        }) << red << blue << once;
+        QTest::newRow("nothing chosen")
+            << Pick([red](FakeColorPicker& picker) { picker.finish(red); }) << red << red << QString();
+        QTest::newRow("taken back") << takenBack << red << red << cancelled;
+        QTest::newRow("several, taken back") << Pick([](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            picker.finish({});
+        }) << Color() << Color() << cancelled;
+        QTest::newRow("several to one") << previews << Color() << blue << once;
+        QTest::newRow("no colour") << Pick([](FakeColorPicker& picker) { picker.finish(QColor()); }) << red
+                                   << Color(QColor()) << once;
+        QTest::newRow("hidden") << Pick([](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::blue));
+            qobject_cast<QWidget*>(picker.parent())->hide();
+        }) << red << blue << once;
+        QTest::newRow("no end is told") << Pick([](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            picker.finishInSilence();
+            picker.preview(QColor(Qt::blue));
+        }) << red << blue << once;
+    }
+
+    void colorPick()
+    {
+        using Pick = std::function<void(FakeColorPicker&)>;
+        QFETCH(Pick, pick);
+        QFETCH(Color, start);
+        QFETCH(Color, result);
+        QFETCH(QString, expected);
+        const Kind kind = {"ColorInputWidget",
+                           [](QWidget* parent) { return new ColorInputWidget(parent, Qt::white); },
+                           nullptr,
+                           nullptr,
+                           nullptr,
+                           QVariant::fromValue(start),
+                           QVariant::fromValue(result),
+                           {}};
+        Stage stage(kind);
+        auto* const button = stage.field->findChild<ColorPickerButton*>();
+        auto* const picker = new FakeColorPicker;
+        button->setPicker(picker);
+        // A host's own look, which keeps still.
+        picker->onSetColor = [](const Color&) {};
+        button->startPicking();
+        pick(*picker);
+        QCOMPARE(stage.story(), expected);
+        QCOMPARE(button->color(), result);
+        if (expected.endsWith("committed")) {
+            QCOMPARE(stage.committed.value<Color>(), result);
+        }
+    }
+
+    void colorPickWithThePanel()
+    {
+        const Kind kind = {"ColorPickerButton",
+                           [](QWidget* parent) { return new ColorPickerButton(parent); },
+                           nullptr,
+                           nullptr,
+                           nullptr,
+                           QVariant::fromValue(Color()),
+                           QVariant::fromValue(Color(QColor(Qt::red))),
+                           {}};
+        Stage stage(kind);
+        auto* const button = qobject_cast<ColorPickerButton*>(stage.field);
+        button->setPicker(new PopupColorPicker);
+        for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
+            stage.lines.clear();
+            button->startPicking();
+            auto* const popup = stage.window.findChild<QWidget*>("colorPanelPopup");
+            auto* const edit = popup->findChild<QLineEdit*>();
+            edit->selectAll();
+            QTest::keyClicks(edit, "#123456");
+            QTest::keyClick(edit, Qt::Key_Home);
+            QVERIFY(stage.session->isActive());
+            QTest::keyClick(edit, Qt::Key(key));
+            QTRY_VERIFY(!button->isPickingInProgress());
+            QCOMPARE(stage.story(), QString(key == Qt::Key_Escape ? "started previewed cancelled"
+                                                                  : "started previewed committed"));
+            QCOMPARE(button->color(), key == Qt::Key_Escape ? Color() : Color(QColor(0x12, 0x34, 0x56)));
+        }
+    }
+
+    /// The colour of a picked widget is that of another selection, also when the button wears it already.
+    void widgetColor()
+    {
+        QWidget window;
+        window.resize(300, 200);
+        QWidget target(&window);
+        target.setGeometry(100, 50, 100, 100);
+        target.setStyleSheet("background: #2f6fde;");
+        WidgetColorPickerButton button(&window);
+        button.setTargetWidget(&target);
+        EditSession session(&button);
+        QStringList lines;
+        connect(&session, &EditSession::started, this, [&] { lines += "started"; });
+        connect(&session, &EditSession::previewed, this, [&] { lines += "previewed"; });
+        connect(&session, &EditSession::committed, this,
+                [&](const QVariant& color) { lines += color.value<QColor>().name(); });
+        connect(&session, &EditSession::cancelled, this, [&] { lines += "cancelled"; });
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const auto pickAt = [&](const QPoint& point) {
+            QTimer::singleShot(0, &window, [&window, point] {
+                QCursor::setPos(window.mapToGlobal(point));
+                QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, point);
+            });
+            button.startPicking();
+        };
+        for (int i = 0; i < 2; ++i) {
+            lines.clear();
+            pickAt(target.geometry().center());
+            QCOMPARE(lines, (QStringList{"started", "previewed", "#2f6fde"}));
+        }
+        lines.clear();
+        pickAt(QPoint(5, 190));
+        QCOMPARE(lines, QStringList());
+    }
+
+    void multiValue_data()
+    {
+        QTest::addColumn<int>("kind");
+        for (int kind = 0; kind < kinds().size(); ++kind) {
+            QTest::newRow(kinds().at(kind).name) << kind;
+        }
+    }
+
+    void multiValue()
+    {
+        QFETCH(int, kind);
+        Stage stage(kinds().at(kind));
+        QVERIFY(!stage.session->isMultiValue());
+        stage.session->setMultiValue(true);
+        const auto edits = stage.field->findChildren<QLineEdit*>();
+        const auto isShown = [&stage] {
+            const auto parts = stage.field->findChildren<QLineEdit*>();
+            bool isCovered = true;
+            for (const QLineEdit* edit : parts) {
+                const auto* cover = edit->findChild<QLabel*>("multiValueCover");
+                isCovered =
+                    isCovered && cover && cover->isVisibleTo(edit) && cover->width() > edit->width() - 8;
+            }
+            return isCovered && stage.session->isMultiValue() && stage.field->property("multiValue").toBool();
+        };
+        QVERIFY(isShown());
+        stage.window.resize(stage.window.size() + QSize(100, 0));
+        QVERIFY(isShown());
+        const auto described = [&stage] {
+            return stage.field->accessibleDescription() + [&stage] {
+                const auto parts = stage.field->findChildren<QWidget*>();
+                for (const QWidget* part : parts) {
+                    if (part->focusPolicy() != Qt::NoFocus) {
+                        return part->accessibleDescription();
+                    }
+                }
+                return QString();
+            }();
+        };
+        QVERIFY(described().contains("Several values"));
+        // The user tabs through.
+        for (int i = 0; i < 8; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY(isShown());
+        QCOMPARE(stage.story(), QString());
+        stage.session->setValue(kinds().at(kind).other);
+        QVERIFY(!stage.session->isMultiValue());
+        QVERIFY(!stage.field->property("multiValue").toBool());
+        QVERIFY(!stage.field->findChild<QLabel*>("multiValueCover"));
+        QCOMPARE(described(), QString());
+        QCOMPARE(stage.story(), QString());
+    }
+
+    void multiValueTakesTheHiddenValue_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("end");
+        for (int kind = 0; kind < kinds().size(); ++kind) {
+            if (kinds().at(kind).typed) {
+                QTest::addRow("%s", kinds().at(kind).name) << kind << int(Qt::Key_Return);
+                QTest::addRow("%s, Escape", kinds().at(kind).name) << kind << int(Qt::Key_Escape);
+            }
+        }
+    }
+
+    void multiValueTakesTheHiddenValue()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, end);
+        Stage stage(kinds().at(kind));
+        const QString hidden = stage.editor()->text();
+        stage.session->setMultiValue(true);
+        stage.typed->setFocus();
+        stage.editor()->deselect();
+        // The hidden text is typed over, wherever the cursor stands in it.
+        QTest::keyClicks(stage.typed, hidden);
+        QCOMPARE(stage.editor()->text(), hidden);
+        QVERIFY(stage.session->isActive());
+        QVERIFY(!stage.session->isMultiValue());
+        stage.pressKey(stage.typed, end);
+        if (end == Qt::Key_Escape) {
+            QCOMPARE(stage.story(), QString("started previewed cancelled"));
+            QVERIFY(stage.session->isMultiValue());
         } else {
-            window.release()->deleteLater();
-            delete session;
+            QCOMPARE(stage.story(), QString("started previewed committed"));
+            QVERIFY(FieldAccess::isSame(stage.committed, kinds().at(kind).start));
         }
-    });
-    QVERIFY(connect(session, signal.constData(), &remove, SLOT(trigger())));
-    const QPointer<QWidget> alive = field;
-    press(*field, QPoint(20, 20));
-    drag(*field, QPoint(30, 30));
-    if (signal.contains("cancelled") && session) {
-        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QCoreApplication::sendEvent(field, &escape);
     }
-    if (alive) {
-        release(*field, QPoint(30, 30));
-    }
-    QVERIFY(isDone);
-    QVERIFY(!session);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
 
-void tst_EditSession::windowDestroyedWhileTyping()
-{
-    QStringList lines;
+    void multiColor()
+    {
+        ColorInputWidget field(nullptr, Qt::red);
+        EditSession session(&field);
+        QSignalSpy changed(&field, &ColorInputWidget::colorChanged);
+        session.setMultiValue(true);
+        QCOMPARE(field.color(), Color());
+        QVERIFY(field.property("multiValue").toBool());
+        session.setValue(QVariant::fromValue(Color(QColor(Qt::blue))));
+        QVERIFY(!session.isMultiValue());
+        QCOMPARE(field.color(), Color(QColor(Qt::blue)));
+    }
+
+    /// A plane is finer than the boxes beside it.
+    void shownValueIsCommitted()
+    {
+        Stage stage(kinds().at(3));
+        QVector<QPointF> points;
+        connect(stage.session, &EditSession::previewed, this,
+                [&points](const QVariant& value) { points += value.toPointF(); });
+        dragOn(stage);
+        dropAt(stage, 31);
+        QCOMPARE(stage.story(), QString("started previewed committed"));
+        const auto boxes = stage.field->findChildren<QDoubleSpinBox*>();
+        QCOMPARE(stage.committed.toPointF(), QPointF(boxes.at(0)->value(), boxes.at(1)->value()));
+        for (const QPointF& point : qAsConst(points)) {
+            QCOMPARE(point.x() * 10, double(qRound(point.x() * 10)));
+            // Never half of a point: the drag is level.
+            QCOMPARE(point.y(), points.constFirst().y());
+        }
+    }
+
+    void unfinishedText()
+    {
+        Stage stage({"SliderInputWidget", maker<SliderInputWidget>(SliderInputWidget::Initializer{10, 100}),
+                     nullptr, nullptr, "QAbstractSpinBox", 50, 80, "5"});
+        // Below the range, and so no value yet.
+        stage.type("5");
+        QCOMPARE(stage.story(), QString());
+        stage.pressKey(stage.typed, Qt::Key_Escape);
+        QCOMPARE(stage.editor()->text(), QString("50"));
+        stage.type("5");
+        stage.other->setFocus();
+        QCOMPARE(stage.story(), QString("started previewed committed"));
+        QCOMPARE(stage.committed, QVariant(10));
+    }
+
+    /// A host that writes each value into its document, and shows the document again.
+    void refreshInAReport()
     {
         Stage stage(kinds().at(0));
-        stage.type("37");
-        connect(stage.session, &EditSession::committed, this, [&lines] { lines += "committed"; });
-        connect(stage.session, &EditSession::cancelled, this, [&lines] { lines += "cancelled"; });
+        auto* const slider = qobject_cast<SliderInputWidget*>(stage.field);
+        connect(stage.session, &EditSession::previewed, this, [&stage, slider](const QVariant& value) {
+            const EditSession::Refresh refresh(&stage.window);
+            slider->setValue(value.toInt() / 5 * 5);
+            stage.previewed = slider->value();
+        });
+        dragOn(stage);
+        dropAt(stage, 30);
+        QVERIFY(stage.lines.count("started") == 1);
+        QVERIFY(stage.story().endsWith("committed"));
+        QCOMPARE(stage.committed.toInt() % 5, 0);
     }
-    QCOMPARE(lines, QStringList());
-}
 
-void tst_EditSession::otherWidgets()
-{
-    QLabel label;
-    EditSession session(&label);
-    QCOMPARE(session.field(), &label);
-    QCOMPARE(session.value(), QVariant());
-    session.setValue(7);
-    session.commit();
-    session.cancel();
-    session.setMultiValue(true);
-    QVERIFY(session.isMultiValue());
-    QVERIFY(!session.isActive());
-}
+    void deletedInASlot_data()
+    {
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<bool>("onlySession");
+        for (const bool onlySession : {true, false}) {
+            for (const char* const signal :
+                 {"started()", "previewed(QVariant)", "committed(QVariant)", "cancelled()"}) {
+                QTest::addRow("%s %s", signal, onlySession ? "session" : "window")
+                    << QByteArray("2").append(signal) << onlySession;
+            }
+        }
+    }
+
+    void deletedInASlot()
+    {
+        QFETCH(QByteArray, signal);
+        QFETCH(bool, onlySession);
+        auto window = std::make_unique<QWidget>();
+        auto* const field = new PointSelectionPlane(window.get());
+        field->setFixedSize(101, 101);
+        field->setLimits({0.0, 0.0, 100.0, 100.0});
+        QPointer<EditSession> session = new EditSession(field);
+        QAction remove(nullptr);
+        bool isDone = false;
+        connect(&remove, &QAction::triggered, this, [&] {
+            isDone = true;
+            if (onlySession) {
+                delete session;
+            } else {
+                window.release()->deleteLater();
+                delete session;
+            }
+        });
+        QVERIFY(connect(session, signal.constData(), &remove, SLOT(trigger())));
+        const QPointer<QWidget> alive = field;
+        press(*field, QPoint(20, 20));
+        drag(*field, QPoint(30, 30));
+        if (signal.contains("cancelled") && session) {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(field, &escape);
+        }
+        if (alive) {
+            release(*field, QPoint(30, 30));
+        }
+        QVERIFY(isDone);
+        QVERIFY(!session);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void windowDestroyedWhileTyping()
+    {
+        QStringList lines;
+        {
+            Stage stage(kinds().at(0));
+            stage.type("37");
+            connect(stage.session, &EditSession::committed, this, [&lines] { lines += "committed"; });
+            connect(stage.session, &EditSession::cancelled, this, [&lines] { lines += "cancelled"; });
+        }
+        QCOMPARE(lines, QStringList());
+    }
+
+    void otherWidgets()
+    {
+        QLabel label;
+        EditSession session(&label);
+        QCOMPARE(session.field(), &label);
+        QCOMPARE(session.value(), QVariant());
+        session.setValue(7);
+        session.commit();
+        session.cancel();
+        session.setMultiValue(true);
+        QVERIFY(session.isMultiValue());
+        QVERIFY(!session.isActive());
+    }
+};
 
 UIC_TEST_MAIN(tst_EditSession)
 #include "tst_EditSession.moc"

@@ -128,690 +128,644 @@ class tst_GuideButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject();
-    void startsWithoutInfo();
-    void infoIsTakenOver();
-    void clickWithoutInfoDoesNothing();
-    void clearedInfoClosesNothingAndOpensNothing();
-
-    void clickOpensThePopup();
-    void popupHasItsNamesAndFlags();
-    void guideFillsThePopup();
-    void arrowIsBelowTheMiddle();
-    void spaceOpensThePopup();
-    void disabledButtonOpensNothing();
-
-    void eachClickBuildsAnew();
-    void whileThePopupAppears_data();
-    void whileThePopupAppears();
-    void newInfoIsShownAtTheNextClick();
-    void popupDeletedByOthers();
-    void offsetTakesEffectAtTheNextClick();
-    void extremeOffsets_data();
-    void extremeOffsets();
-    void sheetReachesThePopupByItsNames();
-
-    void escapeCloses();
-    void escapeGivesTheFocusBack();
-    void clickElsewhereCloses();
-    void hidingTheButtonCloses();
-    void hidingTheWindowCloses();
-    void minimisingTheWindowCloses();
-    void buttonMovedWhileOpen();
-    void buttonResizedWhileOpen();
-    void buttonDeletedWhileOpen();
-    void disabledWhileOpen();
-    void closedPopupCostsNothing();
-
-    void atTheEdgesOfTheScreen_data();
-    void atTheEdgesOfTheScreen();
-    void neverLargerThanTheScreen_data();
-    void neverLargerThanTheScreen();
-    void rightToLeft();
-    void hugeAnimationStaysOnTheScreen();
-    void shorterTextMakesAnOpenPopupLower();
-    void popupHasAnAccessibleName();
-
-    void linkIsPassedOn();
-    void linkByKeyboard();
-    void deletedByItsLink();
-    void reopenedByItsLink();
-    void infoTakenAwayWhenTheFocusMoves();
-};
-
-void tst_GuideButton::metaObject()
-{
-    const QMetaObject& meta = GuideButton::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("GuideButton"));
-    QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal learnMoreClicked()")}));
-    QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int popupOffset rw")}));
-}
-
-void tst_GuideButton::startsWithoutInfo()
-{
-    QWidget parent;
-    const GuideButton button(&parent);
-    QCOMPARE(button.parentWidget(), &parent);
-    QVERIFY(!button.hasGuideInfo());
-    QCOMPARE(button.property("popupOffset").toInt(), 0);
-    QCOMPARE(popups(button).size(), 0);
-}
-
-void tst_GuideButton::infoIsTakenOver()
-{
-    GuideButton button;
-    button.setGuideInfo(info(QStringLiteral("One")));
-    QVERIFY(button.hasGuideInfo());
-    button.setGuideInfo(info(QStringLiteral("Two")));
-    QVERIFY(button.hasGuideInfo());
-    QCOMPARE(popups(button).size(), 0);
-}
-
-void tst_GuideButton::clickWithoutInfoDoesNothing()
-{
-    GuideButton button;
-    button.show();
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QCOMPARE(popups(button).size(), 0);
-}
-
-void tst_GuideButton::clearedInfoClosesNothingAndOpensNothing()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const QPointer<PointingWidget> open = popup(*button);
-    button->setGuideInfo(nullptr);
-    QVERIFY(!button->hasGuideInfo());
-    QVERIFY(open && open->isVisible());
-    button->click();
-    QCOMPARE(popups(*button), QList<PointingWidget*>({open.data()}));
-    QVERIFY(open->isVisible());
-    open->close();
-    button->click();
-    QVERIFY(!open->isVisible());
-}
-
-void tst_GuideButton::clickOpensThePopup()
-{
-    const auto button = makeButton();
-    button->show();
-    QTest::mouseClick(button.get(), Qt::LeftButton);
-    QVERIFY(popup(*button));
-    QVERIFY(popup(*button)->isVisible());
-    QCOMPARE(QApplication::activePopupWidget(), popup(*button));
-    QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
-    QCOMPARE(movie(*button)->state(), QMovie::Running);
-}
-
-void tst_GuideButton::popupHasItsNamesAndFlags()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    QCOMPARE(popup(*button)->parentWidget(), button.get());
-    QCOMPARE(popup(*button)->objectName(), QStringLiteral("pointingWidget"));
-    QCOMPARE(guide(*button)->objectName(), QStringLiteral("guideWidget"));
-    QCOMPARE(int(popup(*button)->windowFlags()), 0x40000809);
-    QVERIFY(popup(*button)->testAttribute(Qt::WA_TranslucentBackground));
-    QCOMPARE(popup(*button)->arrowSide(), PointingWidget::ArrowSide::Top);
-    QCOMPARE(popup(*button)->arrowPosition(), PointingWidget::ArrowPosition::Center);
-}
-
-void tst_GuideButton::guideFillsThePopup()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const OvFrame* const frame = popup(*button)->contentFrame();
-    QVERIFY(qobject_cast<OvVBoxLayout*>(frame->layout()));
-    QCOMPARE(frame->layout()->contentsMargins(), QMargins());
-    QCOMPARE(frame->layout()->spacing(), 0);
-    QCOMPARE(frame->layout()->count(), 1);
-    QCOMPARE(frame->layout()->itemAt(0)->widget(), guide(*button));
-    QCOMPARE(guide(*button)->geometry(), frame->rect());
-    const auto labels = guide(*button)->findChildren<QLabel*>();
-    for (const QLabel* label : labels) {
-        QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->objectName()));
+    void metaObject()
+    {
+        const QMetaObject& meta = GuideButton::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("GuideButton"));
+        QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal learnMoreClicked()")}));
+        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int popupOffset rw")}));
     }
-}
 
-void tst_GuideButton::arrowIsBelowTheMiddle()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    // The width is odd: the division rounds down.
-    QCOMPARE(popup(*button)->targetPoint(), button->mapToGlobal(QPoint(20, 24)));
-    QCOMPARE(popup(*button)->geometry().top(), middleOfLowerEdge(*button).y());
-    QVERIFY(qAbs(popup(*button)->geometry().center().x() - middleOfLowerEdge(*button).x()) <= 1);
-}
-
-void tst_GuideButton::spaceOpensThePopup()
-{
-    const auto button = makeButton();
-    button->show();
-    QTest::keyClick(button.get(), Qt::Key_Space);
-    QVERIFY(popup(*button) && popup(*button)->isVisible());
-}
-
-void tst_GuideButton::disabledButtonOpensNothing()
-{
-    const auto button = makeButton();
-    button->setEnabled(false);
-    button->show();
-    QTest::mouseClick(button.get(), Qt::LeftButton);
-    button->click();
-    QCOMPARE(popups(*button).size(), 0);
-}
-
-void tst_GuideButton::eachClickBuildsAnew()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const QPointer<PointingWidget> first = popup(*button);
-    const QPointer<GuideWidget> firstGuide = guide(*button);
-    button->click();
-    QVERIFY(!first);
-    QVERIFY(!firstGuide);
-    QCOMPARE(popups(*button).size(), 1);
-    QVERIFY(popup(*button)->isVisible());
-    // After it was closed, too.
-    const QPointer<PointingWidget> second = popup(*button);
-    second->close();
-    QVERIFY(second);
-    button->click();
-    QVERIFY(!second);
-    QCOMPARE(popups(*button).size(), 1);
-    QCOMPARE(button->findChildren<GuideWidget*>().size(), 1);
-}
-
-void tst_GuideButton::whileThePopupAppears_data()
-{
-    QTest::addColumn<bool>("isDeleted");
-    QTest::newRow("clicked again") << false;
-    QTest::newRow("deleted") << true;
-}
-
-void tst_GuideButton::whileThePopupAppears()
-{
-    QFETCH(bool, isDeleted);
-    QWidget window;
-    QLineEdit edit(&window);
-    auto button = makeButton(&window);
-    window.resize(400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    edit.setFocus();
-    // Opening a pop-up takes the focus.
-    int losses = 0;
-    const OnFocusOut watch(&edit, [&] {
-        if (++losses == 1) {
-            QEventLoop loop;
-            QTimer::singleShot(0, &loop, [&] {
-                if (isDeleted) {
-                    button.reset();
-                } else {
-                    button->setGuideInfo(info(QStringLiteral("Second")));
-                    button->click();
-                }
-                loop.quit();
-            });
-            loop.exec();
-        }
-    });
-    const FreedMemoryWatch memory;
-    button->click();
-    QVERIFY(losses > 0);
-    QVERIFY(isDeleted == !button);
-    if (button) {
-        QCOMPARE(popups(*button).size(), 1);
-        QVERIFY(popup(*button)->isVisible());
-        QCOMPARE(shownTitle(*button), QStringLiteral("Second"));
+    void startsWithoutInfo()
+    {
+        QWidget parent;
+        const GuideButton button(&parent);
+        QCOMPARE(button.parentWidget(), &parent);
+        QVERIFY(!button.hasGuideInfo());
+        QCOMPARE(button.property("popupOffset").toInt(), 0);
+        QCOMPARE(popups(button).size(), 0);
     }
-    QCOMPARE(QApplication::activePopupWidget() != nullptr, !isDeleted);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-}
 
-void tst_GuideButton::newInfoIsShownAtTheNextClick()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    button->setGuideInfo(info(QStringLiteral("Slip")));
-    QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
-    button->click();
-    QCOMPARE(shownTitle(*button), QStringLiteral("Slip"));
-}
+    void infoIsTakenOver()
+    {
+        GuideButton button;
+        button.setGuideInfo(info(QStringLiteral("One")));
+        QVERIFY(button.hasGuideInfo());
+        button.setGuideInfo(info(QStringLiteral("Two")));
+        QVERIFY(button.hasGuideInfo());
+        QCOMPARE(popups(button).size(), 0);
+    }
 
-void tst_GuideButton::popupDeletedByOthers()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    delete popup(*button);
-    button->hide();
-    button->show();
-    button->click();
-    QCOMPARE(popups(*button).size(), 1);
-    QVERIFY(popup(*button)->isVisible());
-}
+    void clickWithoutInfoDoesNothing()
+    {
+        GuideButton button;
+        button.show();
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(popups(button).size(), 0);
+    }
 
-void tst_GuideButton::offsetTakesEffectAtTheNextClick()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const int middle = popup(*button)->x();
-    QVERIFY(button->setProperty("popupOffset", 15));
-    QCOMPARE(button->property("popupOffset").toInt(), 15);
-    QCOMPARE(popup(*button)->arrowOffset(), 0);
-    QCOMPARE(popup(*button)->x(), middle);
-    button->click();
-    QCOMPARE(popup(*button)->arrowOffset(), 15);
-    QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
-    // The arrow goes to the right within the bubble, so the bubble goes to the left.
-    QCOMPARE(popup(*button)->x(), middle - 15);
-}
-
-void tst_GuideButton::extremeOffsets_data()
-{
-    QTest::addColumn<int>("offset");
-    QTest::newRow("least") << std::numeric_limits<int>::min();
-    QTest::newRow("far left") << -10000;
-    QTest::newRow("far right") << 10000;
-    QTest::newRow("greatest") << std::numeric_limits<int>::max();
-}
-
-void tst_GuideButton::extremeOffsets()
-{
-    QFETCH(int, offset);
-    const auto button = makeButton();
-    button->show();
-    button->setProperty("popupOffset", offset);
-    button->click();
-    QCOMPARE(popup(*button)->arrowOffset(), offset);
-    QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
-}
-
-// The guide has its name before its texts are measured, so that a width by name counts.
-void tst_GuideButton::sheetReachesThePopupByItsNames()
-{
-    qApp->setStyleSheet(
-        QStringLiteral("#pointingWidget { qproperty-radius: 11; }"
-                       "GuideButton > PointingWidget #guideWidget { min-width: 330px; max-width: 330px; }"
-                       "#guideWidget > #descriptionLabel { padding: 0 7px; }"));
+    void clearedInfoClosesNothingAndOpensNothing()
     {
         const auto button = makeButton();
-        auto text = info(QStringLiteral("Trim"));
-        text->description = QStringLiteral("frame ").repeated(60);
-        button->setGuideInfo(std::move(text));
         button->show();
         button->click();
-        QCOMPARE(popup(*button)->radius(), 11);
-        QCOMPARE(guide(*button)->width(), 330);
-        const auto* description = guide(*button)->findChild<QLabel*>(QStringLiteral("descriptionLabel"));
-        QCOMPARE(description->minimumHeight(), description->heightForWidth(330));
-        QCOMPARE(description->height(), description->minimumHeight());
+        const QPointer<PointingWidget> open = popup(*button);
+        button->setGuideInfo(nullptr);
+        QVERIFY(!button->hasGuideInfo());
+        QVERIFY(open && open->isVisible());
+        button->click();
+        QCOMPARE(popups(*button), QList<PointingWidget*>({open.data()}));
+        QVERIFY(open->isVisible());
+        open->close();
+        button->click();
+        QVERIFY(!open->isVisible());
     }
-    qApp->setStyleSheet(QString());
-}
 
-void tst_GuideButton::escapeCloses()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Escape);
-    QVERIFY(popup(*button));
-    QVERIFY(!popup(*button)->isVisible());
-    QCOMPARE(movie(*button)->state(), QMovie::NotRunning);
-}
-
-void tst_GuideButton::escapeGivesTheFocusBack()
-{
-    QWidget window;
-    QLineEdit other(&window);
-    const auto button = makeButton(&window);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    button->setFocus();
-    QTest::keyClick(button.get(), Qt::Key_Space);
-    QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("learnMoreLabel"));
-    QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Escape);
-    QVERIFY(!popup(*button)->isVisible());
-    QTRY_COMPARE(QApplication::focusWidget(), button.get());
-}
-
-void tst_GuideButton::clickElsewhereCloses()
-{
-    QWidget window;
-    window.setGeometry(100, 100, 700, 500);
-    const auto button = makeButton(&window);
-    window.show();
-    button->click();
-    QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {},
-                      popup(*button)->mapFromGlobal(window.mapToGlobal(QPoint(5, 5))));
-    QVERIFY(!popup(*button)->isVisible());
-    // Beside the arrow, inside the pop-up's rectangle.
-    button->click();
-    QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {}, QPoint(2, 1));
-    QVERIFY(!popup(*button)->isVisible());
-    // On the guide.
-    button->click();
-    QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {}, popup(*button)->rect().center());
-    QVERIFY(popup(*button)->isVisible());
-}
-
-void tst_GuideButton::hidingTheButtonCloses()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const QPointer<PointingWidget> open = popup(*button);
-    button->hide();
-    QVERIFY(open);
-    QVERIFY(!open->isVisible());
-    button->show();
-    QVERIFY(!open->isVisible());
-}
-
-void tst_GuideButton::hidingTheWindowCloses()
-{
-    QWidget window;
-    const auto button = makeButton(&window);
-    window.show();
-    button->click();
-    window.hide();
-    QVERIFY(!popup(*button)->isVisible());
-    window.show();
-    QVERIFY(!popup(*button)->isVisible());
-}
-
-// The window system hides what a minimised window holds; bubbles leave that to it.
-void tst_GuideButton::minimisingTheWindowCloses()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    QHideEvent hidden;
-    QSpontaneKeyEvent::setSpontaneous(&hidden);
-    QVERIFY(hidden.spontaneous());
-    QApplication::instance()->notify(button.get(), &hidden);
-    QVERIFY(!popup(*button)->isVisible());
-}
-
-void tst_GuideButton::buttonMovedWhileOpen()
-{
-    QWidget window;
-    window.setGeometry(100, 50, 600, 400);
-    const auto button = makeButton(&window);
-    window.show();
-    button->click();
-    button->move(button->pos() - QPoint(60, 40));
-    QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
-    QCOMPARE(popup(*button)->y(), middleOfLowerEdge(*button).y());
-    window.move(130, 70);
-    QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
-    QVERIFY(popup(*button)->isVisible());
-}
-
-void tst_GuideButton::buttonResizedWhileOpen()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const QPoint spot = popup(*button)->targetPoint();
-    button->resize(200, 60);
-    QVERIFY(popup(*button)->isVisible());
-    QCOMPARE(popup(*button)->targetPoint(), spot);
-}
-
-void tst_GuideButton::buttonDeletedWhileOpen()
-{
-    auto button = makeButton();
-    button->show();
-    button->click();
-    const QPointer<PointingWidget> open = popup(*button);
-    button.reset();
-    QVERIFY(!open);
-    QVERIFY(!QApplication::activePopupWidget());
-}
-
-// Disabled with the button, the pop-up would hear no Escape and no click, and nobody else would either.
-void tst_GuideButton::disabledWhileOpen()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    button->setEnabled(false);
-    QVERIFY(!popup(*button)->isVisible());
-    QVERIFY(!QApplication::activePopupWidget());
-    button->setEnabled(true);
-    QVERIFY(!popup(*button)->isVisible());
-}
-
-// Counted against the timers of an open pop-up, so that the counting is seen to work.
-void tst_GuideButton::closedPopupCostsNothing()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    TimerCounter timers;
-    QVERIFY(timers.countDuring(50) > 5);
-    popup(*button)->close();
-    QCoreApplication::processEvents();
-    QCOMPARE(timers.countDuring(50), 0);
-    QCOMPARE(startedTimers(button.get()), 0);
-    QVERIFY(movie(*button)->state() != QMovie::Running);
-    button->click();
-    button->hide();
-    QCoreApplication::processEvents();
-    QCOMPARE(timers.countDuring(50), 0);
-    QCOMPARE(startedTimers(button.get()), 0);
-    QVERIFY(movie(*button)->state() != QMovie::Running);
-}
-
-void tst_GuideButton::atTheEdgesOfTheScreen_data()
-{
-    QTest::addColumn<QPointF>("place");
-    QTest::addColumn<bool>("above");
-    QTest::newRow("upper left") << QPointF(0, 0) << false;
-    QTest::newRow("upper right") << QPointF(1, 0) << false;
-    QTest::newRow("left") << QPointF(0, 0.5) << false;
-    QTest::newRow("right") << QPointF(1, 0.5) << false;
-    QTest::newRow("lower left") << QPointF(0, 1) << true;
-    QTest::newRow("bottom") << QPointF(0.5, 1) << true;
-    QTest::newRow("lower right") << QPointF(1, 1) << true;
-}
-
-void tst_GuideButton::atTheEdgesOfTheScreen()
-{
-    QFETCH(QPointF, place);
-    QFETCH(bool, above);
-    const auto button = makeButton();
-    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-    button->setWindowFlag(Qt::FramelessWindowHint);
-    button->move(available.left() + qRound(place.x() * (available.width() - button->width())),
-                 available.top() + qRound(place.y() * (available.height() - button->height() - 1)));
-    button->show();
-    button->click();
-    const PointingWidget* const open = popup(*button);
-    QVERIFY(available.contains(open->geometry()));
-    QCOMPARE(open->targetPoint(), middleOfLowerEdge(*button));
-    QCOMPARE(open->effectiveArrowSide(),
-             above ? PointingWidget::ArrowSide::Bottom : PointingWidget::ArrowSide::Top);
-    // The tip is on the spot.
-    const QPoint tip = open->mapFromGlobal(open->targetPoint());
-    QVERIFY(open->rect().contains(tip));
-    QVERIFY(open->mask().contains(tip));
-}
-
-void tst_GuideButton::neverLargerThanTheScreen_data()
-{
-    QTest::addColumn<GuideInfo>("info");
-    const QString word(10000, QLatin1Char('w'));
-    const QString words = QStringLiteral("word ").repeated(20000);
-    const QString picture = QStringLiteral("<img src=\"x.png\" width=99999 height=99999>");
-    QTest::newRow("a long word") << GuideInfo({}, word, {}, {});
-    QTest::newRow("a long title") << GuideInfo(word, {}, {}, {});
-    QTest::newRow("a long link") << GuideInfo({}, {}, QStringLiteral("<a href=\"x\">%1</a>").arg(word), {});
-    QTest::newRow("many words") << GuideInfo(words, words, words, {});
-    QTest::newRow("a picture") << GuideInfo({}, picture, picture, {});
-    QTest::newRow("an animation") << GuideInfo({}, {}, {}, QStringLiteral(UIC_TEST_DATA "/huge.gif"));
-}
-
-void tst_GuideButton::neverLargerThanTheScreen()
-{
-    QFETCH(GuideInfo, info);
-    const auto button = makeButton();
-    button->setGuideInfo(std::make_unique<GuideInfo>(info));
-    button->show();
-    button->click();
-    for (int turns = 0; turns < 3; ++turns) {
-        QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
-        QVERIFY(!popup(*button)->grab().isNull());
-        QCoreApplication::processEvents();
-    }
-}
-
-void tst_GuideButton::rightToLeft()
-{
-    const auto button = makeButton();
-    button->setLayoutDirection(Qt::RightToLeft);
-    button->setProperty("popupOffset", 20);
-    button->show();
-    button->click();
-    QCOMPARE(popup(*button)->layoutDirection(), Qt::RightToLeft);
-    QCOMPARE(guide(*button)->layoutDirection(), Qt::RightToLeft);
-    QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
-    // Mirrored: the arrow goes to the left.
-    QVERIFY(popup(*button)->geometry().center().x() > middleOfLowerEdge(*button).x());
-}
-
-void tst_GuideButton::hugeAnimationStaysOnTheScreen()
-{
-    const auto button = makeButton();
-    auto huge = info(QStringLiteral("Huge"));
-    huge->moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
-    button->setGuideInfo(std::move(huge));
-    button->show();
-    button->click();
-    QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
-    QCOMPARE(movie(*button)->state(), QMovie::Running);
-}
-
-void tst_GuideButton::shorterTextMakesAnOpenPopupLower()
-{
-    const auto button = makeButton();
-    auto longText = info(QStringLiteral("Trim"));
-    longText->description = QStringLiteral("frame ").repeated(100);
-    button->setGuideInfo(std::move(longText));
-    button->show();
-    button->click();
-    const int before = popup(*button)->height();
-    guide(*button)->setInfo(*info(QStringLiteral("Trim")));
-    QTRY_VERIFY(popup(*button)->height() < before - 100);
-    QTRY_COMPARE(guide(*button)->geometry(), popup(*button)->contentFrame()->rect());
-    QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
-    QCOMPARE(popup(*button)->y(), middleOfLowerEdge(*button).y());
-}
-
-void tst_GuideButton::popupHasAnAccessibleName()
-{
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    const QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(popup(*button));
-    QVERIFY(accessible);
-    QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Trim"));
-}
-
-void tst_GuideButton::linkIsPassedOn()
-{
-    UrlHandler handler;
-    const auto button = makeButton();
-    button->show();
-    QSignalSpy clicked(button.get(), &GuideButton::learnMoreClicked);
-    button->click();
-    clickLink(*button);
-    QCOMPARE(clicked.size(), 1);
-    QCOMPARE(handler.opened, QList<QUrl>({QUrl(Scheme + QStringLiteral(":x"))}));
-    QVERIFY(popup(*button)->isVisible());
-    // The next pop-up is heard once, too.
-    button->click();
-    clickLink(*button);
-    QCOMPARE(clicked.size(), 2);
-}
-
-void tst_GuideButton::linkByKeyboard()
-{
-    UrlHandler handler;
-    const auto button = makeButton();
-    button->show();
-    QSignalSpy clicked(button.get(), &GuideButton::learnMoreClicked);
-    button->click();
-    QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
-    QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Return);
-    QCOMPARE(clicked.size(), 1);
-}
-
-void tst_GuideButton::deletedByItsLink()
-{
-    UrlHandler handler;
-    QPointer<GuideButton> button = makeButton().release();
-    button->show();
-    button->click();
-    connect(button.data(), &GuideButton::learnMoreClicked, this, [&button] { delete button; });
-    const FreedMemoryWatch memory;
-    clickLink(*button);
-    QVERIFY(!button);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-}
-
-// The pop-up is deleted in the middle of its own mouse event.
-void tst_GuideButton::reopenedByItsLink()
-{
-    UrlHandler handler;
-    const auto button = makeButton();
-    button->show();
-    button->click();
-    connect(button.get(), &GuideButton::learnMoreClicked, button.get(), &QAbstractButton::click);
-    const QPointer<PointingWidget> first = popup(*button);
+    void clickOpensThePopup()
     {
+        const auto button = makeButton();
+        button->show();
+        QTest::mouseClick(button.get(), Qt::LeftButton);
+        QVERIFY(popup(*button));
+        QVERIFY(popup(*button)->isVisible());
+        QCOMPARE(QApplication::activePopupWidget(), popup(*button));
+        QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
+        QCOMPARE(movie(*button)->state(), QMovie::Running);
+    }
+
+    void popupHasItsNamesAndFlags()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        QCOMPARE(popup(*button)->parentWidget(), button.get());
+        QCOMPARE(popup(*button)->objectName(), QStringLiteral("pointingWidget"));
+        QCOMPARE(guide(*button)->objectName(), QStringLiteral("guideWidget"));
+        QCOMPARE(int(popup(*button)->windowFlags()), 0x40000809);
+        QVERIFY(popup(*button)->testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(popup(*button)->arrowSide(), PointingWidget::ArrowSide::Top);
+        QCOMPARE(popup(*button)->arrowPosition(), PointingWidget::ArrowPosition::Center);
+    }
+
+    void guideFillsThePopup()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        const OvFrame* const frame = popup(*button)->contentFrame();
+        QVERIFY(qobject_cast<OvVBoxLayout*>(frame->layout()));
+        QCOMPARE(frame->layout()->contentsMargins(), QMargins());
+        QCOMPARE(frame->layout()->spacing(), 0);
+        QCOMPARE(frame->layout()->count(), 1);
+        QCOMPARE(frame->layout()->itemAt(0)->widget(), guide(*button));
+        QCOMPARE(guide(*button)->geometry(), frame->rect());
+        const auto labels = guide(*button)->findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            QVERIFY2(label->height() >= label->heightForWidth(label->width()),
+                     qPrintable(label->objectName()));
+        }
+    }
+
+    void arrowIsBelowTheMiddle()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        // The width is odd: the division rounds down.
+        QCOMPARE(popup(*button)->targetPoint(), button->mapToGlobal(QPoint(20, 24)));
+        QCOMPARE(popup(*button)->geometry().top(), middleOfLowerEdge(*button).y());
+        QVERIFY(qAbs(popup(*button)->geometry().center().x() - middleOfLowerEdge(*button).x()) <= 1);
+    }
+
+    void spaceOpensThePopup()
+    {
+        const auto button = makeButton();
+        button->show();
+        QTest::keyClick(button.get(), Qt::Key_Space);
+        QVERIFY(popup(*button) && popup(*button)->isVisible());
+    }
+
+    void disabledButtonOpensNothing()
+    {
+        const auto button = makeButton();
+        button->setEnabled(false);
+        button->show();
+        QTest::mouseClick(button.get(), Qt::LeftButton);
+        button->click();
+        QCOMPARE(popups(*button).size(), 0);
+    }
+
+    void eachClickBuildsAnew()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        const QPointer<PointingWidget> first = popup(*button);
+        const QPointer<GuideWidget> firstGuide = guide(*button);
+        button->click();
+        QVERIFY(!first);
+        QVERIFY(!firstGuide);
+        QCOMPARE(popups(*button).size(), 1);
+        QVERIFY(popup(*button)->isVisible());
+        // After it was closed, too.
+        const QPointer<PointingWidget> second = popup(*button);
+        second->close();
+        QVERIFY(second);
+        button->click();
+        QVERIFY(!second);
+        QCOMPARE(popups(*button).size(), 1);
+        QCOMPARE(button->findChildren<GuideWidget*>().size(), 1);
+    }
+
+    void whileThePopupAppears_data()
+    {
+        QTest::addColumn<bool>("isDeleted");
+        QTest::newRow("clicked again") << false;
+        QTest::newRow("deleted") << true;
+    }
+
+    void whileThePopupAppears()
+    {
+        QFETCH(bool, isDeleted);
+        QWidget window;
+        QLineEdit edit(&window);
+        auto button = makeButton(&window);
+        window.resize(400, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        edit.setFocus();
+        // Opening a pop-up takes the focus.
+        int losses = 0;
+        const OnFocusOut watch(&edit, [&] {
+            if (++losses == 1) {
+                QEventLoop loop;
+                QTimer::singleShot(0, &loop, [&] {
+                    if (isDeleted) {
+                        button.reset();
+                    } else {
+                        button->setGuideInfo(info(QStringLiteral("Second")));
+                        button->click();
+                    }
+                    loop.quit();
+                });
+                loop.exec();
+            }
+        });
         const FreedMemoryWatch memory;
-        clickLink(*button);
+        button->click();
+        QVERIFY(losses > 0);
+        QVERIFY(isDeleted == !button);
+        if (button) {
+            QCOMPARE(popups(*button).size(), 1);
+            QVERIFY(popup(*button)->isVisible());
+            QCOMPARE(shownTitle(*button), QStringLiteral("Second"));
+        }
+        QCOMPARE(QApplication::activePopupWidget() != nullptr, !isDeleted);
+        QVERIFY(memory.deleted() > 0);
         QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
     }
-    QVERIFY(!first);
-    QCOMPARE(popups(*button).size(), 1);
-    QVERIFY(popup(*button)->isVisible());
-}
 
-// Deleting the old pop-up gives the focus back to the window.
-void tst_GuideButton::infoTakenAwayWhenTheFocusMoves()
-{
-    QWidget window;
-    QLineEdit edit(&window);
-    const auto button = makeButton(&window);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    edit.setFocus();
-    button->click();
-    QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("learnMoreLabel"));
-    connect(qApp, &QApplication::focusChanged, button.get(), [&button] { button->setGuideInfo(nullptr); });
-    button->click();
-    QVERIFY(!button->hasGuideInfo());
-    QCOMPARE(popups(*button).size(), 1);
-    QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
-}
+    void newInfoIsShownAtTheNextClick()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        button->setGuideInfo(info(QStringLiteral("Slip")));
+        QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
+        button->click();
+        QCOMPARE(shownTitle(*button), QStringLiteral("Slip"));
+    }
+
+    void popupDeletedByOthers()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        delete popup(*button);
+        button->hide();
+        button->show();
+        button->click();
+        QCOMPARE(popups(*button).size(), 1);
+        QVERIFY(popup(*button)->isVisible());
+    }
+
+    void offsetTakesEffectAtTheNextClick()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        const int middle = popup(*button)->x();
+        QVERIFY(button->setProperty("popupOffset", 15));
+        QCOMPARE(button->property("popupOffset").toInt(), 15);
+        QCOMPARE(popup(*button)->arrowOffset(), 0);
+        QCOMPARE(popup(*button)->x(), middle);
+        button->click();
+        QCOMPARE(popup(*button)->arrowOffset(), 15);
+        QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
+        // The arrow goes to the right within the bubble, so the bubble goes to the left.
+        QCOMPARE(popup(*button)->x(), middle - 15);
+    }
+
+    void extremeOffsets_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::newRow("least") << std::numeric_limits<int>::min();
+        QTest::newRow("far left") << -10000;
+        QTest::newRow("far right") << 10000;
+        QTest::newRow("greatest") << std::numeric_limits<int>::max();
+    }
+
+    void extremeOffsets()
+    {
+        QFETCH(int, offset);
+        const auto button = makeButton();
+        button->show();
+        button->setProperty("popupOffset", offset);
+        button->click();
+        QCOMPARE(popup(*button)->arrowOffset(), offset);
+        QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
+    }
+
+    // The guide has its name before its texts are measured, so that a width by name counts.
+    void sheetReachesThePopupByItsNames()
+    {
+        qApp->setStyleSheet(
+            QStringLiteral("#pointingWidget { qproperty-radius: 11; }"
+                           "GuideButton > PointingWidget #guideWidget { min-width: 330px; max-width: 330px; }"
+                           "#guideWidget > #descriptionLabel { padding: 0 7px; }"));
+        {
+            const auto button = makeButton();
+            auto text = info(QStringLiteral("Trim"));
+            text->description = QStringLiteral("frame ").repeated(60);
+            button->setGuideInfo(std::move(text));
+            button->show();
+            button->click();
+            QCOMPARE(popup(*button)->radius(), 11);
+            QCOMPARE(guide(*button)->width(), 330);
+            const auto* description = guide(*button)->findChild<QLabel*>(QStringLiteral("descriptionLabel"));
+            QCOMPARE(description->minimumHeight(), description->heightForWidth(330));
+            QCOMPARE(description->height(), description->minimumHeight());
+        }
+        qApp->setStyleSheet(QString());
+    }
+
+    void escapeCloses()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Escape);
+        QVERIFY(popup(*button));
+        QVERIFY(!popup(*button)->isVisible());
+        QCOMPARE(movie(*button)->state(), QMovie::NotRunning);
+    }
+
+    void escapeGivesTheFocusBack()
+    {
+        QWidget window;
+        QLineEdit other(&window);
+        const auto button = makeButton(&window);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        button->setFocus();
+        QTest::keyClick(button.get(), Qt::Key_Space);
+        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("learnMoreLabel"));
+        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Escape);
+        QVERIFY(!popup(*button)->isVisible());
+        QTRY_COMPARE(QApplication::focusWidget(), button.get());
+    }
+
+    void clickElsewhereCloses()
+    {
+        QWidget window;
+        window.setGeometry(100, 100, 700, 500);
+        const auto button = makeButton(&window);
+        window.show();
+        button->click();
+        QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {},
+                          popup(*button)->mapFromGlobal(window.mapToGlobal(QPoint(5, 5))));
+        QVERIFY(!popup(*button)->isVisible());
+        // Beside the arrow, inside the pop-up's rectangle.
+        button->click();
+        QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {}, QPoint(2, 1));
+        QVERIFY(!popup(*button)->isVisible());
+        // On the guide.
+        button->click();
+        QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {},
+                          popup(*button)->rect().center());
+        QVERIFY(popup(*button)->isVisible());
+    }
+
+    void hidingTheButtonCloses()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        const QPointer<PointingWidget> open = popup(*button);
+        button->hide();
+        QVERIFY(open);
+        QVERIFY(!open->isVisible());
+        button->show();
+        QVERIFY(!open->isVisible());
+    }
+
+    void hidingTheWindowCloses()
+    {
+        QWidget window;
+        const auto button = makeButton(&window);
+        window.show();
+        button->click();
+        window.hide();
+        QVERIFY(!popup(*button)->isVisible());
+        window.show();
+        QVERIFY(!popup(*button)->isVisible());
+    }
+
+    // The window system hides what a minimised window holds; bubbles leave that to it.
+    void minimisingTheWindowCloses()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        QHideEvent hidden;
+        QSpontaneKeyEvent::setSpontaneous(&hidden);
+        QVERIFY(hidden.spontaneous());
+        QApplication::instance()->notify(button.get(), &hidden);
+        QVERIFY(!popup(*button)->isVisible());
+    }
+
+    void buttonMovedWhileOpen()
+    {
+        QWidget window;
+        window.setGeometry(100, 50, 600, 400);
+        const auto button = makeButton(&window);
+        window.show();
+        button->click();
+        button->move(button->pos() - QPoint(60, 40));
+        QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
+        QCOMPARE(popup(*button)->y(), middleOfLowerEdge(*button).y());
+        window.move(130, 70);
+        QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
+        QVERIFY(popup(*button)->isVisible());
+    }
+
+    void buttonResizedWhileOpen()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        const QPoint spot = popup(*button)->targetPoint();
+        button->resize(200, 60);
+        QVERIFY(popup(*button)->isVisible());
+        QCOMPARE(popup(*button)->targetPoint(), spot);
+    }
+
+    void buttonDeletedWhileOpen()
+    {
+        auto button = makeButton();
+        button->show();
+        button->click();
+        const QPointer<PointingWidget> open = popup(*button);
+        button.reset();
+        QVERIFY(!open);
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    // Disabled with the button, the pop-up would hear no Escape and no click, and nobody else would either.
+    void disabledWhileOpen()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        button->setEnabled(false);
+        QVERIFY(!popup(*button)->isVisible());
+        QVERIFY(!QApplication::activePopupWidget());
+        button->setEnabled(true);
+        QVERIFY(!popup(*button)->isVisible());
+    }
+
+    // Counted against the timers of an open pop-up, so that the counting is seen to work.
+    void closedPopupCostsNothing()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        TimerCounter timers;
+        QVERIFY(timers.countDuring(50) > 5);
+        popup(*button)->close();
+        QCoreApplication::processEvents();
+        QCOMPARE(timers.countDuring(50), 0);
+        QCOMPARE(startedTimers(button.get()), 0);
+        QVERIFY(movie(*button)->state() != QMovie::Running);
+        button->click();
+        button->hide();
+        QCoreApplication::processEvents();
+        QCOMPARE(timers.countDuring(50), 0);
+        QCOMPARE(startedTimers(button.get()), 0);
+        QVERIFY(movie(*button)->state() != QMovie::Running);
+    }
+
+    void atTheEdgesOfTheScreen_data()
+    {
+        QTest::addColumn<QPointF>("place");
+        QTest::addColumn<bool>("above");
+        QTest::newRow("upper left") << QPointF(0, 0) << false;
+        QTest::newRow("upper right") << QPointF(1, 0) << false;
+        QTest::newRow("left") << QPointF(0, 0.5) << false;
+        QTest::newRow("right") << QPointF(1, 0.5) << false;
+        QTest::newRow("lower left") << QPointF(0, 1) << true;
+        QTest::newRow("bottom") << QPointF(0.5, 1) << true;
+        QTest::newRow("lower right") << QPointF(1, 1) << true;
+    }
+
+    void atTheEdgesOfTheScreen()
+    {
+        QFETCH(QPointF, place);
+        QFETCH(bool, above);
+        const auto button = makeButton();
+        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+        button->setWindowFlag(Qt::FramelessWindowHint);
+        button->move(available.left() + qRound(place.x() * (available.width() - button->width())),
+                     available.top() + qRound(place.y() * (available.height() - button->height() - 1)));
+        button->show();
+        button->click();
+        const PointingWidget* const open = popup(*button);
+        QVERIFY(available.contains(open->geometry()));
+        QCOMPARE(open->targetPoint(), middleOfLowerEdge(*button));
+        QCOMPARE(open->effectiveArrowSide(),
+                 above ? PointingWidget::ArrowSide::Bottom : PointingWidget::ArrowSide::Top);
+        // The tip is on the spot.
+        const QPoint tip = open->mapFromGlobal(open->targetPoint());
+        QVERIFY(open->rect().contains(tip));
+        QVERIFY(open->mask().contains(tip));
+    }
+
+    void neverLargerThanTheScreen_data()
+    {
+        QTest::addColumn<GuideInfo>("info");
+        const QString word(10000, QLatin1Char('w'));
+        const QString words = QStringLiteral("word ").repeated(20000);
+        const QString picture = QStringLiteral("<img src=\"x.png\" width=99999 height=99999>");
+        QTest::newRow("a long word") << GuideInfo({}, word, {}, {});
+        QTest::newRow("a long title") << GuideInfo(word, {}, {}, {});
+        QTest::newRow("a long link") << GuideInfo({}, {}, QStringLiteral("<a href=\"x\">%1</a>").arg(word),
+                                                  {});
+        QTest::newRow("many words") << GuideInfo(words, words, words, {});
+        QTest::newRow("a picture") << GuideInfo({}, picture, picture, {});
+        QTest::newRow("an animation") << GuideInfo({}, {}, {}, QStringLiteral(UIC_TEST_DATA "/huge.gif"));
+    }
+
+    void neverLargerThanTheScreen()
+    {
+        QFETCH(GuideInfo, info);
+        const auto button = makeButton();
+        button->setGuideInfo(std::make_unique<GuideInfo>(info));
+        button->show();
+        button->click();
+        for (int turns = 0; turns < 3; ++turns) {
+            QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
+            QVERIFY(!popup(*button)->grab().isNull());
+            QCoreApplication::processEvents();
+        }
+    }
+
+    void rightToLeft()
+    {
+        const auto button = makeButton();
+        button->setLayoutDirection(Qt::RightToLeft);
+        button->setProperty("popupOffset", 20);
+        button->show();
+        button->click();
+        QCOMPARE(popup(*button)->layoutDirection(), Qt::RightToLeft);
+        QCOMPARE(guide(*button)->layoutDirection(), Qt::RightToLeft);
+        QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
+        // Mirrored: the arrow goes to the left.
+        QVERIFY(popup(*button)->geometry().center().x() > middleOfLowerEdge(*button).x());
+    }
+
+    void hugeAnimationStaysOnTheScreen()
+    {
+        const auto button = makeButton();
+        auto huge = info(QStringLiteral("Huge"));
+        huge->moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
+        button->setGuideInfo(std::move(huge));
+        button->show();
+        button->click();
+        QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
+        QCOMPARE(movie(*button)->state(), QMovie::Running);
+    }
+
+    void shorterTextMakesAnOpenPopupLower()
+    {
+        const auto button = makeButton();
+        auto longText = info(QStringLiteral("Trim"));
+        longText->description = QStringLiteral("frame ").repeated(100);
+        button->setGuideInfo(std::move(longText));
+        button->show();
+        button->click();
+        const int before = popup(*button)->height();
+        guide(*button)->setInfo(*info(QStringLiteral("Trim")));
+        QTRY_VERIFY(popup(*button)->height() < before - 100);
+        QTRY_COMPARE(guide(*button)->geometry(), popup(*button)->contentFrame()->rect());
+        QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
+        QCOMPARE(popup(*button)->y(), middleOfLowerEdge(*button).y());
+    }
+
+    void popupHasAnAccessibleName()
+    {
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        const QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(popup(*button));
+        QVERIFY(accessible);
+        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Trim"));
+    }
+
+    void linkIsPassedOn()
+    {
+        UrlHandler handler;
+        const auto button = makeButton();
+        button->show();
+        QSignalSpy clicked(button.get(), &GuideButton::learnMoreClicked);
+        button->click();
+        clickLink(*button);
+        QCOMPARE(clicked.size(), 1);
+        QCOMPARE(handler.opened, QList<QUrl>({QUrl(Scheme + QStringLiteral(":x"))}));
+        QVERIFY(popup(*button)->isVisible());
+        // The next pop-up is heard once, too.
+        button->click();
+        clickLink(*button);
+        QCOMPARE(clicked.size(), 2);
+    }
+
+    void linkByKeyboard()
+    {
+        UrlHandler handler;
+        const auto button = makeButton();
+        button->show();
+        QSignalSpy clicked(button.get(), &GuideButton::learnMoreClicked);
+        button->click();
+        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
+        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Return);
+        QCOMPARE(clicked.size(), 1);
+    }
+
+    void deletedByItsLink()
+    {
+        UrlHandler handler;
+        QPointer<GuideButton> button = makeButton().release();
+        button->show();
+        button->click();
+        connect(button.data(), &GuideButton::learnMoreClicked, this, [&button] { delete button; });
+        const FreedMemoryWatch memory;
+        clickLink(*button);
+        QVERIFY(!button);
+        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+    }
+
+    // The pop-up is deleted in the middle of its own mouse event.
+    void reopenedByItsLink()
+    {
+        UrlHandler handler;
+        const auto button = makeButton();
+        button->show();
+        button->click();
+        connect(button.get(), &GuideButton::learnMoreClicked, button.get(), &QAbstractButton::click);
+        const QPointer<PointingWidget> first = popup(*button);
+        {
+            const FreedMemoryWatch memory;
+            clickLink(*button);
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        QVERIFY(!first);
+        QCOMPARE(popups(*button).size(), 1);
+        QVERIFY(popup(*button)->isVisible());
+    }
+
+    // Deleting the old pop-up gives the focus back to the window.
+    void infoTakenAwayWhenTheFocusMoves()
+    {
+        QWidget window;
+        QLineEdit edit(&window);
+        const auto button = makeButton(&window);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        edit.setFocus();
+        button->click();
+        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("learnMoreLabel"));
+        connect(qApp, &QApplication::focusChanged, button.get(),
+                [&button] { button->setGuideInfo(nullptr); });
+        button->click();
+        QVERIFY(!button->hasGuideInfo());
+        QCOMPARE(popups(*button).size(), 1);
+        QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
+    }
+};
 
 UIC_TEST_MAIN(tst_GuideButton)
 #include "tst_GuideButton.moc"

@@ -33,169 +33,163 @@ class tst_GuidePicture : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pausedAndResumed();
-    void isSpoken();
-    void firstPictureOnly_data();
-    void firstPictureOnly();
-    void popupIsADialog();
-    void bubbleByKeyboard();
-};
-
-void tst_GuidePicture::pausedAndResumed()
-{
-    GuideWidget guide(info(), nullptr);
-    guide.show();
-    QApplication::setActiveWindow(&guide);
-    OvPixmapWidget* const picture = pictureOf(guide);
-    QMovie* const movie = picture->movie();
-    QCOMPARE(movie->state(), QMovie::Running);
-    QTest::mouseClick(picture, Qt::LeftButton);
-    QCOMPARE(movie->state(), QMovie::Paused);
-    QTest::mouseClick(picture, Qt::LeftButton);
-    QCOMPARE(movie->state(), QMovie::Running);
-    QTest::mouseClick(picture, Qt::RightButton);
-    QCOMPARE(movie->state(), QMovie::Running);
-    // Tab gets there, and Space does the same.
-    QCOMPARE(picture->focusPolicy(), Qt::TabFocus);
-    picture->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(picture, Qt::Key_Space);
-    QCOMPARE(movie->state(), QMovie::Paused);
-    QTest::keyClick(picture, Qt::Key_A);
-    QCOMPARE(movie->state(), QMovie::Paused);
-    // Each show plays from the start.
-    guide.hide();
-    guide.show();
-    QCOMPARE(movie->state(), QMovie::Running);
-    guide.setInfo({QStringLiteral("Trim"), QString(), QString(), QString()});
-    QCOMPARE(picture->focusPolicy(), Qt::NoFocus);
-}
-
-void tst_GuidePicture::isSpoken()
-{
-    GuideWidget guide(info(), nullptr);
-    guide.show();
-    OvPixmapWidget* const picture = pictureOf(guide);
-    QAccessibleInterface& interface = reader(picture);
-    QCOMPARE(interface.role(), QAccessible::Animation);
-    QCOMPARE(interface.text(QAccessible::Name), QStringLiteral("Animated picture"));
-    QCOMPARE(interface.text(QAccessible::Description), QStringLiteral("Playing; Space pauses it"));
-    QVERIFY(interface.state().animated);
-    const AccessibleEars ears;
-    interface.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QCOMPARE(picture->movie()->state(), QMovie::Paused);
-    QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Animated picture: Paused; Space plays it")});
-}
-
-void tst_GuidePicture::firstPictureOnly_data()
-{
-    QTest::addColumn<bool>("ofGuide");
-    QTest::addColumn<bool>("isBubble");
-    QTest::newRow("of the guide") << true << false;
-    QTest::newRow("of the application") << false << false;
-    QTest::newRow("of the bubble") << true << true;
-    QTest::newRow("of the application, in a bubble") << false << true;
-}
-
-void tst_GuidePicture::firstPictureOnly()
-{
-    QFETCH(bool, ofGuide);
-    QFETCH(bool, isBubble);
-    QWidget window;
-    window.show();
-    QWidget* guide = nullptr;
-    if (isBubble) {
-        auto* const bubble = new DialogGuideWidget(&window);
-        bubble->setInfo({QStringLiteral("Trim"), QStringLiteral("Drag"), QStringLiteral("Next"),
-                         QStringLiteral("Back"), film});
-        guide = bubble;
-    } else {
-        guide = new GuideWidget(info(), nullptr);
-    }
-    const std::unique_ptr<QWidget> owner(guide);
-    QObject* const wisher = ofGuide ? static_cast<QObject*>(guide) : qApp;
-    wisher->setProperty("firstPictureOnly", true);
-    guide->show();
-    QMovie* const movie = pictureOf(*guide)->movie();
-    QCOMPARE(movie->state(), QMovie::Paused);
-    QCOMPARE(movie->currentFrameNumber(), 0);
-    // The user may see the rest.
-    QTest::mouseClick(pictureOf(*guide), Qt::LeftButton);
-    QCOMPARE(movie->state(), QMovie::Running);
-    guide->hide();
-    wisher->setProperty("firstPictureOnly", QVariant());
-    if (!isBubble) {
-        guide->show();
-        QCOMPARE(movie->state(), QMovie::Running);
-    }
-}
-
-void tst_GuidePicture::popupIsADialog()
-{
-    QWidget window;
-    auto* const button = new GuideButton(&window);
-    button->setAccessibleName(QStringLiteral("Help"));
-    button->setGuideInfo(std::make_unique<GuideInfo>(info()));
-    window.show();
-    QApplication::setActiveWindow(&window);
-    button->setFocus();
-    QCOMPARE(reader(button).childCount(), 0);
-    QTest::keyClick(button, Qt::Key_Space);
-    QWidget* const popup = QApplication::activePopupWidget();
-    QVERIFY(popup);
-    // Qt leaves pop-ups out of the application's windows.
-    QAccessibleInterface& dialog = reader(popup);
-    QCOMPARE(reader(button).childCount(), 1);
-    QCOMPARE(reader(button).child(0), &dialog);
-    QCOMPARE(reader(button).indexOfChild(&dialog), 0);
-    QCOMPARE(dialog.parent(), &reader(button));
-    QCOMPARE(dialog.role(), QAccessible::Dialog);
-    QCOMPARE(dialog.text(QAccessible::Name), QStringLiteral("Trim"));
-    QCOMPARE(dialog.text(QAccessible::Description), QStringLiteral("Drag the edge of a clip. More"));
-    QCOMPARE(QApplication::focusWidget(), popup);
-    QTest::keyClick(popup, Qt::Key_Escape);
-    QVERIFY(!popup->isVisible());
-    QCOMPARE(reader(button).childCount(), 0);
-    QCOMPARE(QApplication::focusWidget(), button);
-}
-
-void tst_GuidePicture::bubbleByKeyboard()
-{
-    QWidget window;
-    window.show();
-    QApplication::setActiveWindow(&window);
-    DialogGuideWidget bubble(&window);
-    bubble.setInfo({QStringLiteral("Trim"), QStringLiteral("Drag the edge"), QStringLiteral("Next"),
-                    QStringLiteral("Back"), QString()});
-    bubble.enter();
-    QVERIFY(!bubble.isVisible());
+    void pausedAndResumed()
     {
-        const AccessibleEars ears;
-        bubble.show();
-        QCOMPARE(AccessibleEars::take(),
-                 QStringList({QStringLiteral("Trim: Drag the edge"), QStringLiteral("Trim!")}));
+        GuideWidget guide(info(), nullptr);
+        guide.show();
+        QApplication::setActiveWindow(&guide);
+        OvPixmapWidget* const picture = pictureOf(guide);
+        QMovie* const movie = picture->movie();
+        QCOMPARE(movie->state(), QMovie::Running);
+        QTest::mouseClick(picture, Qt::LeftButton);
+        QCOMPARE(movie->state(), QMovie::Paused);
+        QTest::mouseClick(picture, Qt::LeftButton);
+        QCOMPARE(movie->state(), QMovie::Running);
+        QTest::mouseClick(picture, Qt::RightButton);
+        QCOMPARE(movie->state(), QMovie::Running);
+        // Tab gets there, and Space does the same.
+        QCOMPARE(picture->focusPolicy(), Qt::TabFocus);
+        picture->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(picture, Qt::Key_Space);
+        QCOMPARE(movie->state(), QMovie::Paused);
+        QTest::keyClick(picture, Qt::Key_A);
+        QCOMPARE(movie->state(), QMovie::Paused);
+        // Each show plays from the start.
+        guide.hide();
+        guide.show();
+        QCOMPARE(movie->state(), QMovie::Running);
+        guide.setInfo({QStringLiteral("Trim"), QString(), QString(), QString()});
+        QCOMPARE(picture->focusPolicy(), Qt::NoFocus);
     }
-    QCOMPARE(reader(&bubble).role(), QAccessible::Dialog);
-    QVERIFY(!bubble.isActiveWindow());
-    bubble.enter();
-    auto* const main = bubble.findChild<QPushButton*>(QStringLiteral("mainButton"));
-    QTRY_COMPARE(QApplication::focusWidget(), main);
 
-    QSignalSpy mainClicks(&bubble, &DialogGuideWidget::mainClicked);
-    QSignalSpy secondaryClicks(&bubble, &DialogGuideWidget::secondaryClicked);
-    QSignalSpy closes(&bubble, &DialogGuideWidget::closeClicked);
-    QTest::keyClick(main, Qt::Key_Return);
-    QCOMPARE(mainClicks.size(), 1);
-    bubble.findChild<QPushButton*>(QStringLiteral("secondaryButton"))->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
-    QCOMPARE(secondaryClicks.size(), 1);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    QCOMPARE(closes.size(), 1);
-    QVERIFY(bubble.isVisible());
-    bubble.setCloseButtonVisible(false);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    QCOMPARE(closes.size(), 1);
-    QCOMPARE(mainClicks.size(), 1);
-}
+    void isSpoken()
+    {
+        GuideWidget guide(info(), nullptr);
+        guide.show();
+        OvPixmapWidget* const picture = pictureOf(guide);
+        QAccessibleInterface& interface = reader(picture);
+        QCOMPARE(interface.role(), QAccessible::Animation);
+        QCOMPARE(interface.text(QAccessible::Name), QStringLiteral("Animated picture"));
+        QCOMPARE(interface.text(QAccessible::Description), QStringLiteral("Playing; Space pauses it"));
+        QVERIFY(interface.state().animated);
+        const AccessibleEars ears;
+        interface.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(picture->movie()->state(), QMovie::Paused);
+        QCOMPARE(AccessibleEars::take(),
+                 QStringList{QStringLiteral("Animated picture: Paused; Space plays it")});
+    }
+
+    void firstPictureOnly_data()
+    {
+        QTest::addColumn<bool>("ofGuide");
+        QTest::addColumn<bool>("isBubble");
+        QTest::newRow("of the guide") << true << false;
+        QTest::newRow("of the application") << false << false;
+        QTest::newRow("of the bubble") << true << true;
+        QTest::newRow("of the application, in a bubble") << false << true;
+    }
+
+    void firstPictureOnly()
+    {
+        QFETCH(bool, ofGuide);
+        QFETCH(bool, isBubble);
+        QWidget window;
+        window.show();
+        QWidget* guide = nullptr;
+        if (isBubble) {
+            auto* const bubble = new DialogGuideWidget(&window);
+            bubble->setInfo({QStringLiteral("Trim"), QStringLiteral("Drag"), QStringLiteral("Next"),
+                             QStringLiteral("Back"), film});
+            guide = bubble;
+        } else {
+            guide = new GuideWidget(info(), nullptr);
+        }
+        const std::unique_ptr<QWidget> owner(guide);
+        QObject* const wisher = ofGuide ? static_cast<QObject*>(guide) : qApp;
+        wisher->setProperty("firstPictureOnly", true);
+        guide->show();
+        QMovie* const movie = pictureOf(*guide)->movie();
+        QCOMPARE(movie->state(), QMovie::Paused);
+        QCOMPARE(movie->currentFrameNumber(), 0);
+        // The user may see the rest.
+        QTest::mouseClick(pictureOf(*guide), Qt::LeftButton);
+        QCOMPARE(movie->state(), QMovie::Running);
+        guide->hide();
+        wisher->setProperty("firstPictureOnly", QVariant());
+        if (!isBubble) {
+            guide->show();
+            QCOMPARE(movie->state(), QMovie::Running);
+        }
+    }
+
+    void popupIsADialog()
+    {
+        QWidget window;
+        auto* const button = new GuideButton(&window);
+        button->setAccessibleName(QStringLiteral("Help"));
+        button->setGuideInfo(std::make_unique<GuideInfo>(info()));
+        window.show();
+        QApplication::setActiveWindow(&window);
+        button->setFocus();
+        QCOMPARE(reader(button).childCount(), 0);
+        QTest::keyClick(button, Qt::Key_Space);
+        QWidget* const popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        // Qt leaves pop-ups out of the application's windows.
+        QAccessibleInterface& dialog = reader(popup);
+        QCOMPARE(reader(button).childCount(), 1);
+        QCOMPARE(reader(button).child(0), &dialog);
+        QCOMPARE(reader(button).indexOfChild(&dialog), 0);
+        QCOMPARE(dialog.parent(), &reader(button));
+        QCOMPARE(dialog.role(), QAccessible::Dialog);
+        QCOMPARE(dialog.text(QAccessible::Name), QStringLiteral("Trim"));
+        QCOMPARE(dialog.text(QAccessible::Description), QStringLiteral("Drag the edge of a clip. More"));
+        QCOMPARE(QApplication::focusWidget(), popup);
+        QTest::keyClick(popup, Qt::Key_Escape);
+        QVERIFY(!popup->isVisible());
+        QCOMPARE(reader(button).childCount(), 0);
+        QCOMPARE(QApplication::focusWidget(), button);
+    }
+
+    void bubbleByKeyboard()
+    {
+        QWidget window;
+        window.show();
+        QApplication::setActiveWindow(&window);
+        DialogGuideWidget bubble(&window);
+        bubble.setInfo({QStringLiteral("Trim"), QStringLiteral("Drag the edge"), QStringLiteral("Next"),
+                        QStringLiteral("Back"), QString()});
+        bubble.enter();
+        QVERIFY(!bubble.isVisible());
+        {
+            const AccessibleEars ears;
+            bubble.show();
+            QCOMPARE(AccessibleEars::take(),
+                     QStringList({QStringLiteral("Trim: Drag the edge"), QStringLiteral("Trim!")}));
+        }
+        QCOMPARE(reader(&bubble).role(), QAccessible::Dialog);
+        QVERIFY(!bubble.isActiveWindow());
+        bubble.enter();
+        auto* const main = bubble.findChild<QPushButton*>(QStringLiteral("mainButton"));
+        QTRY_COMPARE(QApplication::focusWidget(), main);
+
+        QSignalSpy mainClicks(&bubble, &DialogGuideWidget::mainClicked);
+        QSignalSpy secondaryClicks(&bubble, &DialogGuideWidget::secondaryClicked);
+        QSignalSpy closes(&bubble, &DialogGuideWidget::closeClicked);
+        QTest::keyClick(main, Qt::Key_Return);
+        QCOMPARE(mainClicks.size(), 1);
+        bubble.findChild<QPushButton*>(QStringLiteral("secondaryButton"))->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+        QCOMPARE(secondaryClicks.size(), 1);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(closes.size(), 1);
+        QVERIFY(bubble.isVisible());
+        bubble.setCloseButtonVisible(false);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(closes.size(), 1);
+        QCOMPARE(mainClicks.size(), 1);
+    }
+};
 
 UIC_TEST_MAIN(tst_GuidePicture)
 #include "tst_GuidePicture.moc"

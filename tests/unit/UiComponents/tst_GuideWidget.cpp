@@ -128,939 +128,882 @@ class tst_GuideWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject();
-    void children();
-    void layoutIsTight();
-
-    void showsTheInfo();
-    void onlyTitleIsASingleBoldLabel();
-    void emptyInfoHidesAllParts();
-    void emptyPartsAreHidden_data();
-    void emptyPartsAreHidden();
-    void titleIsNoMarkup();
-    void descriptionMayBeRichText();
-    void keepsItsOwnCopy();
-
-    void equalInfoDoesNothing();
-    void changedInfoIsShown();
-    void changedInfoAdjustsTheSize();
-    void infoChangedWhileShown();
-
-    void minimumHeightsAreForTheWidth();
-    void widthOfTheSheetCounts();
-    void shorterTextMakesItLower();
-    void shorterTextMakesAShownWindowLower();
-    void minimumHeightOfTheSheetIsKept();
-    void emptyTextsNeedNoHeight();
-    void veryLongTexts();
-    void longWord();
-    void wordThatFitsNoScreen_data();
-    void wordThatFitsNoScreen();
-    void picturesInTheText_data();
-    void picturesInTheText();
-    void rightToLeft();
-
-    void playsFromTheFirstFrameAtEachShowing();
-    void hidingStopsTheAnimation();
-    void hidingTheParentStopsTheAnimation();
-    void newAnimationPlaysAtOnceInAShownGuide();
-    void newAnimationWaitsInAHiddenGuide();
-    void sameAnimationPlaysOn();
-    void animationTakenAway();
-    void hiddenGuidesCostNothing();
-    void missingAnimation_data();
-    void missingAnimation();
-    void brokenAnimation_data();
-    void brokenAnimation();
-    void hugeAnimation();
-    void movieStoppedBySlotsOfItsOwn();
-
-    void linkIsOpenedAndThenReported();
-    void linkByKeyboard();
-    void tabStopsAtTheLinkAtOnce();
-    void linkInARightToLeftGuide();
-    void plainTextIsNoTabStop();
-    void linkThatIsNoUrl_data();
-    void linkThatIsNoUrl();
-    void linkInTheDescriptionIsNotFollowed();
-    void guideDeletedByItsLink_data();
-    void guideDeletedByItsLink();
-    void guideDeletedByTheUrlHandler();
-    void infoChangedByItsLink_data();
-    void infoChangedByItsLink();
-    void guideHiddenByItsLink();
-};
-
-void tst_GuideWidget::metaObject()
-{
-    const QMetaObject& meta = GuideWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("GuideWidget"));
-    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal learnMoreClicked()")}));
-    QCOMPARE(ownProperties(meta), QStringList());
-}
-
-void tst_GuideWidget::children()
-{
-    QWidget parent;
-    const GuideWidget guide(fullInfo(), &parent);
-    QCOMPARE(guide.parentWidget(), &parent);
-    QStringList found;
-    const auto widgets = guide.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget* widget : widgets) {
-        found += QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
+    void metaObject()
+    {
+        const QMetaObject& meta = GuideWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("GuideWidget"));
+        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal learnMoreClicked()")}));
+        QCOMPARE(ownProperties(meta), QStringList());
     }
-    QCOMPARE(
-        found,
-        QStringList({QStringLiteral("QLabel headerLabel"), QStringLiteral("OvPixmapWidget gifPixmapWidget"),
-                     QStringLiteral("QLabel descriptionLabel"), QStringLiteral("QLabel learnMoreLabel")}));
-    for (const char* name : {"headerLabel", "descriptionLabel", "learnMoreLabel"}) {
-        QVERIFY2(label(guide, name)->wordWrap(), name);
+
+    void children()
+    {
+        QWidget parent;
+        const GuideWidget guide(fullInfo(), &parent);
+        QCOMPARE(guide.parentWidget(), &parent);
+        QStringList found;
+        const auto widgets = guide.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget* widget : widgets) {
+            found +=
+                QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
+        }
+        QCOMPARE(found,
+                 QStringList(
+                     {QStringLiteral("QLabel headerLabel"), QStringLiteral("OvPixmapWidget gifPixmapWidget"),
+                      QStringLiteral("QLabel descriptionLabel"), QStringLiteral("QLabel learnMoreLabel")}));
+        for (const char* name : {"headerLabel", "descriptionLabel", "learnMoreLabel"}) {
+            QVERIFY2(label(guide, name)->wordWrap(), name);
+        }
+        QVERIFY(!label(guide, "learnMoreLabel")->openExternalLinks());
     }
-    QVERIFY(!label(guide, "learnMoreLabel")->openExternalLinks());
-}
 
-void tst_GuideWidget::layoutIsTight()
-{
-    const GuideWidget guide(fullInfo(), nullptr);
-    QVERIFY(qobject_cast<OvVBoxLayout*>(guide.layout()));
-    QCOMPARE(guide.layout()->contentsMargins(), QMargins());
-    QCOMPARE(guide.layout()->spacing(), 0);
-    QStringList inOrder;
-    for (int i = 0; i < guide.layout()->count(); ++i) {
-        inOrder += guide.layout()->itemAt(i)->widget()->objectName();
+    void layoutIsTight()
+    {
+        const GuideWidget guide(fullInfo(), nullptr);
+        QVERIFY(qobject_cast<OvVBoxLayout*>(guide.layout()));
+        QCOMPARE(guide.layout()->contentsMargins(), QMargins());
+        QCOMPARE(guide.layout()->spacing(), 0);
+        QStringList inOrder;
+        for (int i = 0; i < guide.layout()->count(); ++i) {
+            inOrder += guide.layout()->itemAt(i)->widget()->objectName();
+        }
+        QCOMPARE(inOrder,
+                 QStringList({QStringLiteral("headerLabel"), QStringLiteral("gifPixmapWidget"),
+                              QStringLiteral("descriptionLabel"), QStringLiteral("learnMoreLabel")}));
     }
-    QCOMPARE(inOrder, QStringList({QStringLiteral("headerLabel"), QStringLiteral("gifPixmapWidget"),
-                                   QStringLiteral("descriptionLabel"), QStringLiteral("learnMoreLabel")}));
-}
 
-void tst_GuideWidget::showsTheInfo()
-{
-    const GuideInfo info = fullInfo();
-    const GuideWidget guide(info, nullptr);
-    QCOMPARE(label(guide, "headerLabel")->text(), Customization::localeDependedBoldText(info.title));
-    QCOMPARE(picture(guide)->moviePath(), info.moviePath);
-    QVERIFY(movie(guide));
-    QCOMPARE(label(guide, "descriptionLabel")->text(), info.description);
-    QCOMPARE(label(guide, "learnMoreLabel")->text(), info.learnMore);
-    QCOMPARE(visibleParts(guide).size(), 4);
-}
+    void showsTheInfo()
+    {
+        const GuideInfo info = fullInfo();
+        const GuideWidget guide(info, nullptr);
+        QCOMPARE(label(guide, "headerLabel")->text(), Customization::localeDependedBoldText(info.title));
+        QCOMPARE(picture(guide)->moviePath(), info.moviePath);
+        QVERIFY(movie(guide));
+        QCOMPARE(label(guide, "descriptionLabel")->text(), info.description);
+        QCOMPARE(label(guide, "learnMoreLabel")->text(), info.learnMore);
+        QCOMPARE(visibleParts(guide).size(), 4);
+    }
 
-void tst_GuideWidget::onlyTitleIsASingleBoldLabel()
-{
-    GuideWidget guide(GuideInfo(QStringLiteral("Trim"), QString(), QString(), QString()), nullptr);
-    guide.show();
-    QCOMPARE(visibleParts(guide), QStringList({QStringLiteral("headerLabel")}));
-    const QLabel* const header = label(guide, "headerLabel");
-    QVERIFY(header->isVisible());
-    QCOMPARE(header->size(), guide.size());
+    void onlyTitleIsASingleBoldLabel()
+    {
+        GuideWidget guide(GuideInfo(QStringLiteral("Trim"), QString(), QString(), QString()), nullptr);
+        guide.show();
+        QCOMPARE(visibleParts(guide), QStringList({QStringLiteral("headerLabel")}));
+        const QLabel* const header = label(guide, "headerLabel");
+        QVERIFY(header->isVisible());
+        QCOMPARE(header->size(), guide.size());
 
-    QLabel plain(QStringLiteral("Trim"));
-    QFont bold = plain.font();
-    bold.setBold(true);
-    QVERIFY(QFontMetrics(bold).horizontalAdvance(plain.text()) > plain.sizeHint().width());
-    QLabel same(header->text());
-    QVERIFY(same.sizeHint().width() > plain.sizeHint().width());
-}
+        QLabel plain(QStringLiteral("Trim"));
+        QFont bold = plain.font();
+        bold.setBold(true);
+        QVERIFY(QFontMetrics(bold).horizontalAdvance(plain.text()) > plain.sizeHint().width());
+        QLabel same(header->text());
+        QVERIFY(same.sizeHint().width() > plain.sizeHint().width());
+    }
 
-void tst_GuideWidget::emptyInfoHidesAllParts()
-{
-    GuideWidget guide(GuideInfo(), nullptr);
-    guide.show();
-    QCOMPARE(visibleParts(guide), QStringList());
-    QVERIFY(!movie(guide));
-    guide.setInfo(fullInfo());
-    QCOMPARE(visibleParts(guide).size(), 4);
-    guide.setInfo(GuideInfo());
-    QCOMPARE(visibleParts(guide), QStringList());
-    QVERIFY(!movie(guide));
-}
+    void emptyInfoHidesAllParts()
+    {
+        GuideWidget guide(GuideInfo(), nullptr);
+        guide.show();
+        QCOMPARE(visibleParts(guide), QStringList());
+        QVERIFY(!movie(guide));
+        guide.setInfo(fullInfo());
+        QCOMPARE(visibleParts(guide).size(), 4);
+        guide.setInfo(GuideInfo());
+        QCOMPARE(visibleParts(guide), QStringList());
+        QVERIFY(!movie(guide));
+    }
 
-void tst_GuideWidget::emptyPartsAreHidden_data()
-{
-    QTest::addColumn<QString>("part");
-    QTest::addColumn<int>("field");
-    QTest::newRow("title") << QStringLiteral("headerLabel") << 0;
-    QTest::newRow("movie") << QStringLiteral("gifPixmapWidget") << 1;
-    QTest::newRow("description") << QStringLiteral("descriptionLabel") << 2;
-    QTest::newRow("link") << QStringLiteral("learnMoreLabel") << 3;
-}
+    void emptyPartsAreHidden_data()
+    {
+        QTest::addColumn<QString>("part");
+        QTest::addColumn<int>("field");
+        QTest::newRow("title") << QStringLiteral("headerLabel") << 0;
+        QTest::newRow("movie") << QStringLiteral("gifPixmapWidget") << 1;
+        QTest::newRow("description") << QStringLiteral("descriptionLabel") << 2;
+        QTest::newRow("link") << QStringLiteral("learnMoreLabel") << 3;
+    }
 
-void tst_GuideWidget::emptyPartsAreHidden()
-{
-    QFETCH(QString, part);
-    QFETCH(int, field);
-    QString GuideInfo::*const fields[] = {&GuideInfo::title, &GuideInfo::moviePath, &GuideInfo::description,
-                                          &GuideInfo::learnMore};
-    GuideInfo info = fullInfo();
-    info.*fields[field] = QString();
+    void emptyPartsAreHidden()
+    {
+        QFETCH(QString, part);
+        QFETCH(int, field);
+        QString GuideInfo::*const fields[] = {&GuideInfo::title, &GuideInfo::moviePath,
+                                              &GuideInfo::description, &GuideInfo::learnMore};
+        GuideInfo info = fullInfo();
+        info.*fields[field] = QString();
 
-    GuideWidget guide(info, nullptr);
-    guide.show();
-    QVERIFY(!visibleParts(guide).contains(part));
-    QCOMPARE(visibleParts(guide).size(), 3);
-    guide.setInfo(fullInfo());
-    QCOMPARE(visibleParts(guide).size(), 4);
-    guide.setInfo(info);
-    QVERIFY(!visibleParts(guide).contains(part));
-}
+        GuideWidget guide(info, nullptr);
+        guide.show();
+        QVERIFY(!visibleParts(guide).contains(part));
+        QCOMPARE(visibleParts(guide).size(), 3);
+        guide.setInfo(fullInfo());
+        QCOMPARE(visibleParts(guide).size(), 4);
+        guide.setInfo(info);
+        QVERIFY(!visibleParts(guide).contains(part));
+    }
 
-void tst_GuideWidget::titleIsNoMarkup()
-{
-    const QString title = QStringLiteral("<i>In</i> & out");
-    const GuideWidget guide(GuideInfo(title, QString(), QString(), QString()), nullptr);
-    QTextDocument shown;
-    shown.setHtml(label(guide, "headerLabel")->text());
-    QCOMPARE(shown.toPlainText(), title);
-}
+    void titleIsNoMarkup()
+    {
+        const QString title = QStringLiteral("<i>In</i> & out");
+        const GuideWidget guide(GuideInfo(title, QString(), QString(), QString()), nullptr);
+        QTextDocument shown;
+        shown.setHtml(label(guide, "headerLabel")->text());
+        QCOMPARE(shown.toPlainText(), title);
+    }
 
-void tst_GuideWidget::descriptionMayBeRichText()
-{
-    const QString rich = QStringLiteral("Press <b>Delete</b>,<br>and again.");
-    const GuideWidget guide(described(rich), nullptr);
-    const QLabel* const description = label(guide, "descriptionLabel");
-    QCOMPARE(description->text(), rich);
-    const QLabel twoLines(QStringLiteral("Press Delete,\nand again."));
-    QCOMPARE(description->heightForWidth(1000), twoLines.sizeHint().height());
-}
+    void descriptionMayBeRichText()
+    {
+        const QString rich = QStringLiteral("Press <b>Delete</b>,<br>and again.");
+        const GuideWidget guide(described(rich), nullptr);
+        const QLabel* const description = label(guide, "descriptionLabel");
+        QCOMPARE(description->text(), rich);
+        const QLabel twoLines(QStringLiteral("Press Delete,\nand again."));
+        QCOMPARE(description->heightForWidth(1000), twoLines.sizeHint().height());
+    }
 
-void tst_GuideWidget::keepsItsOwnCopy()
-{
-    auto info = std::make_unique<GuideInfo>(fullInfo());
-    GuideWidget guide(*info, nullptr);
-    info->title = QStringLiteral("Changed by its owner");
-    guide.setInfo(*info);
-    QVERIFY(label(guide, "headerLabel")->text().contains(QLatin1String("Changed")));
-    info.reset();
-    guide.setInfo(fullInfo());
-    QVERIFY(label(guide, "headerLabel")->text().contains(QLatin1String("Ripple")));
-}
+    void keepsItsOwnCopy()
+    {
+        auto info = std::make_unique<GuideInfo>(fullInfo());
+        GuideWidget guide(*info, nullptr);
+        info->title = QStringLiteral("Changed by its owner");
+        guide.setInfo(*info);
+        QVERIFY(label(guide, "headerLabel")->text().contains(QLatin1String("Changed")));
+        info.reset();
+        guide.setInfo(fullInfo());
+        QVERIFY(label(guide, "headerLabel")->text().contains(QLatin1String("Ripple")));
+    }
 
-void tst_GuideWidget::equalInfoDoesNothing()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    guide.resize(500, 400);
-    // What filling anew would overwrite.
-    label(guide, "descriptionLabel")->setText(QStringLiteral("touched"));
-    label(guide, "headerLabel")->hide();
-    const QPointer<QMovie> playing = movie(guide);
-    guide.setInfo(fullInfo());
-    QCOMPARE(label(guide, "descriptionLabel")->text(), QStringLiteral("touched"));
-    QVERIFY(label(guide, "headerLabel")->isHidden());
-    QCOMPARE(guide.size(), QSize(500, 400));
-    QCOMPARE(movie(guide), playing.data());
-}
+    void equalInfoDoesNothing()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        guide.resize(500, 400);
+        // What filling anew would overwrite.
+        label(guide, "descriptionLabel")->setText(QStringLiteral("touched"));
+        label(guide, "headerLabel")->hide();
+        const QPointer<QMovie> playing = movie(guide);
+        guide.setInfo(fullInfo());
+        QCOMPARE(label(guide, "descriptionLabel")->text(), QStringLiteral("touched"));
+        QVERIFY(label(guide, "headerLabel")->isHidden());
+        QCOMPARE(guide.size(), QSize(500, 400));
+        QCOMPARE(movie(guide), playing.data());
+    }
 
-void tst_GuideWidget::changedInfoIsShown()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    const GuideInfo other(QStringLiteral("Slip"), QStringLiteral("Moves the content."),
-                          link(QStringLiteral("slip")), QString());
-    guide.setInfo(other);
-    QCOMPARE(label(guide, "headerLabel")->text(), Customization::localeDependedBoldText(other.title));
-    QCOMPARE(label(guide, "descriptionLabel")->text(), other.description);
-    QCOMPARE(label(guide, "learnMoreLabel")->text(), other.learnMore);
-    QVERIFY(!movie(guide));
-}
+    void changedInfoIsShown()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
+        const GuideInfo other(QStringLiteral("Slip"), QStringLiteral("Moves the content."),
+                              link(QStringLiteral("slip")), QString());
+        guide.setInfo(other);
+        QCOMPARE(label(guide, "headerLabel")->text(), Customization::localeDependedBoldText(other.title));
+        QCOMPARE(label(guide, "descriptionLabel")->text(), other.description);
+        QCOMPARE(label(guide, "learnMoreLabel")->text(), other.learnMore);
+        QVERIFY(!movie(guide));
+    }
 
-void tst_GuideWidget::changedInfoAdjustsTheSize()
-{
-    QWidget parent;
-    GuideWidget guide(described(QStringLiteral("Short")), &parent);
-    guide.resize(300, 200);
-    guide.setInfo(described(QStringLiteral("Other")));
-    QCOMPARE(guide.size(), guide.sizeHint());
-    QVERIFY(guide.height() < 200);
-}
+    void changedInfoAdjustsTheSize()
+    {
+        QWidget parent;
+        GuideWidget guide(described(QStringLiteral("Short")), &parent);
+        guide.resize(300, 200);
+        guide.setInfo(described(QStringLiteral("Other")));
+        QCOMPARE(guide.size(), guide.sizeHint());
+        QVERIFY(guide.height() < 200);
+    }
 
-void tst_GuideWidget::infoChangedWhileShown()
-{
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* guide = new GuideWidget(fullInfo(), &window);
-    layout->addWidget(guide);
-    layout->addStretch();
-    window.resize(300, 400);
-    window.show();
-    const int before = guide->height();
-    guide->setInfo(GuideInfo(QStringLiteral("Slip"), words(100), QString(), QString()));
-    QTRY_VERIFY(guide->geometry().width() == layout->contentsRect().width());
-    QTRY_VERIFY(guide->height() > before);
-    const QLabel* const description = label(*guide, "descriptionLabel");
-    QTRY_VERIFY(description->height() >= description->heightForWidth(description->width()));
-    QVERIFY(!picture(*guide)->isVisible());
-}
+    void infoChangedWhileShown()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* guide = new GuideWidget(fullInfo(), &window);
+        layout->addWidget(guide);
+        layout->addStretch();
+        window.resize(300, 400);
+        window.show();
+        const int before = guide->height();
+        guide->setInfo(GuideInfo(QStringLiteral("Slip"), words(100), QString(), QString()));
+        QTRY_VERIFY(guide->geometry().width() == layout->contentsRect().width());
+        QTRY_VERIFY(guide->height() > before);
+        const QLabel* const description = label(*guide, "descriptionLabel");
+        QTRY_VERIFY(description->height() >= description->heightForWidth(description->width()));
+        QVERIFY(!picture(*guide)->isVisible());
+    }
 
-void tst_GuideWidget::minimumHeightsAreForTheWidth()
-{
-    QWidget parent;
-    GuideWidget guide(GuideInfo(), &parent);
-    guide.resize(150, 30);
-    guide.setInfo(GuideInfo(words(20), words(60), link(QStringLiteral("x")), QString()));
-    const auto needed = [](const QLabel* wrapped, int width) {
-        QLabel fresh(wrapped->text());
-        fresh.setWordWrap(true);
-        return fresh.heightForWidth(width);
-    };
-    const QLabel* const header = label(guide, "headerLabel");
-    const QLabel* const description = label(guide, "descriptionLabel");
-    QCOMPARE(header->minimumHeight(), needed(header, 150));
-    QCOMPARE(description->minimumHeight(), needed(description, 150));
-    QVERIFY(description->minimumHeight() > 10 * QFontMetrics(description->font()).height());
-    QCOMPARE(label(guide, "learnMoreLabel")->minimumHeight(), 0);
-    QVERIFY(guide.height() >= header->minimumHeight() + description->minimumHeight());
-}
+    void minimumHeightsAreForTheWidth()
+    {
+        QWidget parent;
+        GuideWidget guide(GuideInfo(), &parent);
+        guide.resize(150, 30);
+        guide.setInfo(GuideInfo(words(20), words(60), link(QStringLiteral("x")), QString()));
+        const auto needed = [](const QLabel* wrapped, int width) {
+            QLabel fresh(wrapped->text());
+            fresh.setWordWrap(true);
+            return fresh.heightForWidth(width);
+        };
+        const QLabel* const header = label(guide, "headerLabel");
+        const QLabel* const description = label(guide, "descriptionLabel");
+        QCOMPARE(header->minimumHeight(), needed(header, 150));
+        QCOMPARE(description->minimumHeight(), needed(description, 150));
+        QVERIFY(description->minimumHeight() > 10 * QFontMetrics(description->font()).height());
+        QCOMPARE(label(guide, "learnMoreLabel")->minimumHeight(), 0);
+        QVERIFY(guide.height() >= header->minimumHeight() + description->minimumHeight());
+    }
 
-void tst_GuideWidget::widthOfTheSheetCounts()
-{
-    QWidget parent;
-    parent.setStyleSheet(QStringLiteral("GuideWidget { min-width: 700px; }"));
-    const GuideWidget guide(described(words(60)), &parent);
-    QCOMPARE(guide.width(), 700);
-    const QLabel* const description = label(guide, "descriptionLabel");
-    QVERIFY(description->minimumHeight() > 0);
-    QCOMPARE(description->minimumHeight(), description->heightForWidth(700));
-    QVERIFY(description->minimumHeight() < 8 * QFontMetrics(description->font()).height());
-}
+    void widthOfTheSheetCounts()
+    {
+        QWidget parent;
+        parent.setStyleSheet(QStringLiteral("GuideWidget { min-width: 700px; }"));
+        const GuideWidget guide(described(words(60)), &parent);
+        QCOMPARE(guide.width(), 700);
+        const QLabel* const description = label(guide, "descriptionLabel");
+        QVERIFY(description->minimumHeight() > 0);
+        QCOMPARE(description->minimumHeight(), description->heightForWidth(700));
+        QVERIFY(description->minimumHeight() < 8 * QFontMetrics(description->font()).height());
+    }
 
-void tst_GuideWidget::shorterTextMakesItLower()
-{
-    QWidget parent;
-    GuideWidget guide(GuideInfo(words(30), words(90), QString(), QString()), &parent);
-    guide.adjustSize();
-    const QSize longSize = guide.size();
-    const int header = label(guide, "headerLabel")->minimumHeight();
-    const int description = label(guide, "descriptionLabel")->minimumHeight();
-    guide.setInfo(GuideInfo(words(1), words(1), QString(), QString()));
-    QVERIFY(label(guide, "headerLabel")->minimumHeight() < header);
-    QVERIFY(label(guide, "descriptionLabel")->minimumHeight() < description);
-    QVERIFY(guide.height() < longSize.height());
-    QVERIFY(guide.height() < 4 * guide.fontMetrics().height());
-}
+    void shorterTextMakesItLower()
+    {
+        QWidget parent;
+        GuideWidget guide(GuideInfo(words(30), words(90), QString(), QString()), &parent);
+        guide.adjustSize();
+        const QSize longSize = guide.size();
+        const int header = label(guide, "headerLabel")->minimumHeight();
+        const int description = label(guide, "descriptionLabel")->minimumHeight();
+        guide.setInfo(GuideInfo(words(1), words(1), QString(), QString()));
+        QVERIFY(label(guide, "headerLabel")->minimumHeight() < header);
+        QVERIFY(label(guide, "descriptionLabel")->minimumHeight() < description);
+        QVERIFY(guide.height() < longSize.height());
+        QVERIFY(guide.height() < 4 * guide.fontMetrics().height());
+    }
 
-void tst_GuideWidget::shorterTextMakesAShownWindowLower()
-{
-    GuideWidget guide(described(words(300)), nullptr);
-    guide.show();
-    const int before = guide.height();
-    guide.setInfo(described(words(2)));
-    QTRY_VERIFY(guide.height() < before / 2);
-    QCoreApplication::processEvents();
-    QVERIFY(guide.height() < before / 2);
-}
+    void shorterTextMakesAShownWindowLower()
+    {
+        GuideWidget guide(described(words(300)), nullptr);
+        guide.show();
+        const int before = guide.height();
+        guide.setInfo(described(words(2)));
+        QTRY_VERIFY(guide.height() < before / 2);
+        QCoreApplication::processEvents();
+        QVERIFY(guide.height() < before / 2);
+    }
 
-void tst_GuideWidget::minimumHeightOfTheSheetIsKept()
-{
-    QWidget parent;
-    parent.setStyleSheet(QStringLiteral("GuideWidget { min-width: 400px; } QLabel { min-height: 90px; }"));
-    GuideWidget guide(described(words(200)), &parent);
-    const QLabel* const description = label(guide, "descriptionLabel");
-    QVERIFY(description->minimumHeight() > 90);
-    guide.setInfo(described(words(2)));
-    QCOMPARE(description->minimumHeight(), 90);
-    guide.setInfo(described(words(200)));
-    QVERIFY(description->minimumHeight() > 90);
-    guide.setInfo(described(words(3)));
-    QCOMPARE(description->minimumHeight(), 90);
-}
+    void minimumHeightOfTheSheetIsKept()
+    {
+        QWidget parent;
+        parent.setStyleSheet(
+            QStringLiteral("GuideWidget { min-width: 400px; } QLabel { min-height: 90px; }"));
+        GuideWidget guide(described(words(200)), &parent);
+        const QLabel* const description = label(guide, "descriptionLabel");
+        QVERIFY(description->minimumHeight() > 90);
+        guide.setInfo(described(words(2)));
+        QCOMPARE(description->minimumHeight(), 90);
+        guide.setInfo(described(words(200)));
+        QVERIFY(description->minimumHeight() > 90);
+        guide.setInfo(described(words(3)));
+        QCOMPARE(description->minimumHeight(), 90);
+    }
 
-void tst_GuideWidget::emptyTextsNeedNoHeight()
-{
-    const GuideWidget guide(GuideInfo(), nullptr);
-    // A label that never had a text does not know of heights for widths.
-    QCOMPARE(label(guide, "headerLabel")->minimumHeight(), 0);
-    QCOMPARE(label(guide, "descriptionLabel")->minimumHeight(), 0);
-    QCOMPARE(guide.sizeHint(), QSize(0, 0));
-}
+    void emptyTextsNeedNoHeight()
+    {
+        const GuideWidget guide(GuideInfo(), nullptr);
+        // A label that never had a text does not know of heights for widths.
+        QCOMPARE(label(guide, "headerLabel")->minimumHeight(), 0);
+        QCOMPARE(label(guide, "descriptionLabel")->minimumHeight(), 0);
+        QCOMPARE(guide.sizeHint(), QSize(0, 0));
+    }
 
-void tst_GuideWidget::veryLongTexts()
-{
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* guide = new GuideWidget(GuideInfo(words(500), words(20000), words(500), QString()), &window);
-    layout->addWidget(guide);
-    window.resize(400, 300);
-    window.show();
-    const QLabel* const description = label(*guide, "descriptionLabel");
-    QTRY_VERIFY(description->height() >= description->heightForWidth(description->width()));
-    guide->setInfo(described(words(3)));
-    QTRY_VERIFY(guide->minimumSizeHint().height() < 200);
-}
+    void veryLongTexts()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* guide = new GuideWidget(GuideInfo(words(500), words(20000), words(500), QString()), &window);
+        layout->addWidget(guide);
+        window.resize(400, 300);
+        window.show();
+        const QLabel* const description = label(*guide, "descriptionLabel");
+        QTRY_VERIFY(description->height() >= description->heightForWidth(description->width()));
+        guide->setInfo(described(words(3)));
+        QTRY_VERIFY(guide->minimumSizeHint().height() < 200);
+    }
 
-void tst_GuideWidget::longWord()
-{
-    GuideWidget guide(described(QString(20, QLatin1Char('w'))), nullptr);
-    guide.show();
-    // The word is not broken: it decides how narrow the guide can be.
-    guide.resize(50, 50);
-    const QLabel* const description = label(guide, "descriptionLabel");
-    QVERIFY(description->width() >= description->fontMetrics().horizontalAdvance(description->text()));
-    QVERIFY(!guide.grab().isNull());
-}
+    void longWord()
+    {
+        GuideWidget guide(described(QString(20, QLatin1Char('w'))), nullptr);
+        guide.show();
+        // The word is not broken: it decides how narrow the guide can be.
+        guide.resize(50, 50);
+        const QLabel* const description = label(guide, "descriptionLabel");
+        QVERIFY(description->width() >= description->fontMetrics().horizontalAdvance(description->text()));
+        QVERIFY(!guide.grab().isNull());
+    }
 
-void tst_GuideWidget::wordThatFitsNoScreen_data()
-{
-    QTest::addColumn<GuideInfo>("info");
-    QTest::addColumn<QString>("name");
-    const QString word(1000, QLatin1Char('w'));
-    const QString bold = QStringLiteral("<b>%1</b>").arg(word);
-    QTest::newRow("title") << GuideInfo(word, {}, {}, {}) << QStringLiteral("headerLabel");
-    QTest::newRow("plain description") << described(word) << QStringLiteral("descriptionLabel");
-    QTest::newRow("rich description") << described(bold) << QStringLiteral("descriptionLabel");
-    QTest::newRow("link") << GuideInfo({}, {}, QStringLiteral("<a href=\"x\">%1</a>").arg(word), {})
-                          << QStringLiteral("learnMoreLabel");
-}
+    void wordThatFitsNoScreen_data()
+    {
+        QTest::addColumn<GuideInfo>("info");
+        QTest::addColumn<QString>("name");
+        const QString word(1000, QLatin1Char('w'));
+        const QString bold = QStringLiteral("<b>%1</b>").arg(word);
+        QTest::newRow("title") << GuideInfo(word, {}, {}, {}) << QStringLiteral("headerLabel");
+        QTest::newRow("plain description") << described(word) << QStringLiteral("descriptionLabel");
+        QTest::newRow("rich description") << described(bold) << QStringLiteral("descriptionLabel");
+        QTest::newRow("link") << GuideInfo({}, {}, QStringLiteral("<a href=\"x\">%1</a>").arg(word), {})
+                              << QStringLiteral("learnMoreLabel");
+    }
 
-void tst_GuideWidget::wordThatFitsNoScreen()
-{
-    QFETCH(GuideInfo, info);
-    QFETCH(QString, name);
-    GuideWidget guide(info, nullptr);
-    const int screen = guide.screen()->availableSize().width();
-    guide.show();
-    QVERIFY(guide.width() <= screen / 2);
-    guide.resize(200, guide.heightForWidth(200));
-    QCOMPARE(guide.width(), 200);
-    // All of it is there, in lines from edge to edge.
-    auto* const label = guide.findChild<QLabel*>(name);
-    const QFontMetrics metrics = label->fontMetrics();
-    const int lines = metrics.horizontalAdvance(QLatin1Char('w')) * 1000 / 200;
-    QVERIFY(label->height() >= lines * metrics.lineSpacing());
-    const QImage picture = label->grab().toImage();
-    const QRgb empty = picture.pixel(0, picture.height() - 1);
-    const auto isDrawnIn = [&](const QRect& part) {
-        for (int y = part.top(); y <= part.bottom(); ++y) {
-            for (int x = part.left(); x <= part.right(); ++x) {
-                if (picture.pixel(x, y) != empty) {
-                    return true;
+    void wordThatFitsNoScreen()
+    {
+        QFETCH(GuideInfo, info);
+        QFETCH(QString, name);
+        GuideWidget guide(info, nullptr);
+        const int screen = guide.screen()->availableSize().width();
+        guide.show();
+        QVERIFY(guide.width() <= screen / 2);
+        guide.resize(200, guide.heightForWidth(200));
+        QCOMPARE(guide.width(), 200);
+        // All of it is there, in lines from edge to edge.
+        auto* const label = guide.findChild<QLabel*>(name);
+        const QFontMetrics metrics = label->fontMetrics();
+        const int lines = metrics.horizontalAdvance(QLatin1Char('w')) * 1000 / 200;
+        QVERIFY(label->height() >= lines * metrics.lineSpacing());
+        const QImage picture = label->grab().toImage();
+        const QRgb empty = picture.pixel(0, picture.height() - 1);
+        const auto isDrawnIn = [&](const QRect& part) {
+            for (int y = part.top(); y <= part.bottom(); ++y) {
+                for (int x = part.left(); x <= part.right(); ++x) {
+                    if (picture.pixel(x, y) != empty) {
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        QVERIFY(isDrawnIn({0, label->height() / 2, 30, 40}));
+        QVERIFY(isDrawnIn({170, label->height() / 2, 30, 40}));
+        // And painting it is no reason to paint it again.
+        const PaintCount paints(label);
+        for (int turn = 0; turn < 20; ++turn) {
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(paints.count < 5);
+    }
+
+    void picturesInTheText_data()
+    {
+        QTest::addColumn<QString>("attributes");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("as it is") << QString() << QSize(40, 20);
+        QTest::newRow("a little wider") << QStringLiteral("width=80") << QSize(80, 40);
+        QTest::newRow("too wide") << QStringLiteral("width=99999 height=20") << QSize(-1, -1);
+        QTest::newRow("too high and wide") << QStringLiteral("width=99999 height=99999") << QSize(-1, -1);
+        QTest::newRow("wide in its shape") << QStringLiteral("width=99999") << QSize(-1, -1);
+    }
+
+    void picturesInTheText()
+    {
+        QFETCH(QString, attributes);
+        QFETCH(QSize, size);
+        const QTemporaryDir folder;
+        QImage image(40, 20, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        const QString path = folder.filePath(QStringLiteral("picture.png"));
+        QVERIFY(image.save(path));
+        GuideWidget guide(described(QStringLiteral("<img src=\"%1\" %2>").arg(path, attributes)), nullptr);
+        guide.show();
+        const QSize screen = guide.screen()->availableSize();
+        QVERIFY(guide.width() <= screen.width());
+        QVERIFY(guide.height() <= screen.height());
+        const QImage shown = guide.grab().toImage();
+        QRect red;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                if (shown.pixelColor(x, y) == QColor(Qt::red)) {
+                    red |= QRect(x, y, 1, 1);
                 }
             }
         }
-        return false;
-    };
-    QVERIFY(isDrawnIn({0, label->height() / 2, 30, 40}));
-    QVERIFY(isDrawnIn({170, label->height() / 2, 30, 40}));
-    // And painting it is no reason to paint it again.
-    const PaintCount paints(label);
-    for (int turn = 0; turn < 20; ++turn) {
-        QCoreApplication::processEvents();
-    }
-    QVERIFY(paints.count < 5);
-}
-
-void tst_GuideWidget::picturesInTheText_data()
-{
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("as it is") << QString() << QSize(40, 20);
-    QTest::newRow("a little wider") << QStringLiteral("width=80") << QSize(80, 40);
-    QTest::newRow("too wide") << QStringLiteral("width=99999 height=20") << QSize(-1, -1);
-    QTest::newRow("too high and wide") << QStringLiteral("width=99999 height=99999") << QSize(-1, -1);
-    QTest::newRow("wide in its shape") << QStringLiteral("width=99999") << QSize(-1, -1);
-}
-
-void tst_GuideWidget::picturesInTheText()
-{
-    QFETCH(QString, attributes);
-    QFETCH(QSize, size);
-    const QTemporaryDir folder;
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    const QString path = folder.filePath(QStringLiteral("picture.png"));
-    QVERIFY(image.save(path));
-    GuideWidget guide(described(QStringLiteral("<img src=\"%1\" %2>").arg(path, attributes)), nullptr);
-    guide.show();
-    const QSize screen = guide.screen()->availableSize();
-    QVERIFY(guide.width() <= screen.width());
-    QVERIFY(guide.height() <= screen.height());
-    const QImage shown = guide.grab().toImage();
-    QRect red;
-    for (int y = 0; y < shown.height(); ++y) {
-        for (int x = 0; x < shown.width(); ++x) {
-            if (shown.pixelColor(x, y) == QColor(Qt::red)) {
-                red |= QRect(x, y, 1, 1);
-            }
+        if (size.isValid()) {
+            QCOMPARE(red.size(), size);
+        } else {
+            QCOMPARE(red.width(), screen.width() / 2);
         }
     }
-    if (size.isValid()) {
-        QCOMPARE(red.size(), size);
-    } else {
-        QCOMPARE(red.width(), screen.width() / 2);
-    }
-}
 
-void tst_GuideWidget::rightToLeft()
-{
-    GuideWidget guide(GuideInfo(QStringLiteral("\u05e2\u05e8\u05d9\u05db\u05d4"),
-                                QStringLiteral("\u05d2\u05d6\u05d9\u05e8\u05d4"), QString(), QString()),
-                      nullptr);
-    guide.setLayoutDirection(Qt::RightToLeft);
-    guide.resize(300, 100);
-    guide.show();
-    const QLabel* const description = label(guide, "descriptionLabel");
-    QCOMPARE(description->layoutDirection(), Qt::RightToLeft);
-    const QImage shown = label(guide, "descriptionLabel")->grab().toImage();
-    const QRgb background = shown.pixel(0, 0);
-    int leftmost = shown.width();
-    for (int y = 0; y < shown.height(); ++y) {
-        for (int x = 0; x < shown.width(); ++x) {
-            if (shown.pixel(x, y) != background) {
-                leftmost = qMin(leftmost, x);
+    void rightToLeft()
+    {
+        GuideWidget guide(GuideInfo(QStringLiteral("\u05e2\u05e8\u05d9\u05db\u05d4"),
+                                    QStringLiteral("\u05d2\u05d6\u05d9\u05e8\u05d4"), QString(), QString()),
+                          nullptr);
+        guide.setLayoutDirection(Qt::RightToLeft);
+        guide.resize(300, 100);
+        guide.show();
+        const QLabel* const description = label(guide, "descriptionLabel");
+        QCOMPARE(description->layoutDirection(), Qt::RightToLeft);
+        const QImage shown = label(guide, "descriptionLabel")->grab().toImage();
+        const QRgb background = shown.pixel(0, 0);
+        int leftmost = shown.width();
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                if (shown.pixel(x, y) != background) {
+                    leftmost = qMin(leftmost, x);
+                }
             }
         }
+        QVERIFY(leftmost < shown.width());
+        QVERIFY(leftmost > shown.width() / 2);
     }
-    QVERIFY(leftmost < shown.width());
-    QVERIFY(leftmost > shown.width() / 2);
-}
 
-void tst_GuideWidget::playsFromTheFirstFrameAtEachShowing()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    QVERIFY(movie(guide)->state() != QMovie::Running);
-    for (int showing = 0; showing < 3; ++showing) {
-        QSignalSpy frames(movie(guide), &QMovie::frameChanged);
+    void playsFromTheFirstFrameAtEachShowing()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
+        QVERIFY(movie(guide)->state() != QMovie::Running);
+        for (int showing = 0; showing < 3; ++showing) {
+            QSignalSpy frames(movie(guide), &QMovie::frameChanged);
+            guide.show();
+            QCOMPARE(movie(guide)->state(), QMovie::Running);
+            QCOMPARE(movie(guide)->currentFrameNumber(), 0);
+            QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
+            QCOMPARE(frames.first().first().toInt(), 0);
+            guide.hide();
+            QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
+        }
+    }
+
+    void hidingStopsTheAnimation()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
         guide.show();
         QCOMPARE(movie(guide)->state(), QMovie::Running);
-        QCOMPARE(movie(guide)->currentFrameNumber(), 0);
-        QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
-        QCOMPARE(frames.first().first().toInt(), 0);
         guide.hide();
         QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
     }
-}
 
-void tst_GuideWidget::hidingStopsTheAnimation()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-    guide.hide();
-    QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
-}
-
-void tst_GuideWidget::hidingTheParentStopsTheAnimation()
-{
-    QWidget parent;
-    const GuideWidget guide(fullInfo(), &parent);
-    parent.show();
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-    QTRY_COMPARE(movie(guide)->currentFrameNumber(), 1);
-    parent.hide();
-    QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
-    parent.show();
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-    QCOMPARE(movie(guide)->currentFrameNumber(), 0);
-}
-
-void tst_GuideWidget::newAnimationPlaysAtOnceInAShownGuide()
-{
-    GuideWidget guide(described(QStringLiteral("Still")), nullptr);
-    guide.show();
-    QVERIFY(!movie(guide));
-    guide.setInfo(fullInfo());
-    QVERIFY(picture(guide)->isVisible());
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-    QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
-
-    // Another file while the first one plays.
-    QTemporaryDir folder;
-    const QString copy = folder.filePath(QStringLiteral("copy.gif"));
-    QVERIFY(QFile::copy(animation(), copy));
-    GuideInfo info = fullInfo();
-    info.moviePath = copy;
-    guide.setInfo(info);
-    QCOMPARE(movie(guide)->fileName(), copy);
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-    QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
-}
-
-void tst_GuideWidget::newAnimationWaitsInAHiddenGuide()
-{
-    GuideWidget guide(GuideInfo(), nullptr);
-    guide.show();
-    guide.hide();
-    guide.setInfo(fullInfo());
-    QVERIFY(movie(guide)->state() != QMovie::Running);
-    QSignalSpy frames(movie(guide), &QMovie::frameChanged);
-    guide.show();
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-    QTRY_VERIFY(frames.size() > 2);
-    QCOMPARE(frames.at(0).first().toInt(), 0);
-    QCOMPARE(frames.at(1).first().toInt(), 1);
-}
-
-void tst_GuideWidget::sameAnimationPlaysOn()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    const QPointer<QMovie> playing = movie(guide);
-    int changes = 0;
-    connect(playing.data(), &QMovie::stateChanged, this, [&changes] { ++changes; });
-    GuideInfo info = fullInfo();
-    info.title = QStringLiteral("Another heading");
-    guide.setInfo(info);
-    QCOMPARE(movie(guide), playing.data());
-    QCOMPARE(changes, 0);
-}
-
-void tst_GuideWidget::animationTakenAway()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    GuideInfo info = fullInfo();
-    info.moviePath.clear();
-    guide.setInfo(info);
-    QVERIFY(!movie(guide));
-    QVERIFY(picture(guide)->isHidden());
-    guide.hide();
-    guide.show();
-    QVERIFY(!movie(guide));
-}
-
-// Counted against the timers of a guide that is shown, so that the counting is seen to work.
-void tst_GuideWidget::hiddenGuidesCostNothing()
-{
-    GuideWidget neverShown(fullInfo(), nullptr);
-    GuideWidget hidden(fullInfo(), nullptr);
-    GuideWidget changedWhileHidden(GuideInfo(), nullptr);
-    hidden.show();
-    changedWhileHidden.show();
-    QCoreApplication::processEvents();
-    hidden.hide();
-    changedWhileHidden.hide();
-    changedWhileHidden.setInfo(fullInfo());
-    QCoreApplication::processEvents();
-
-    TimerCounter timers;
-    QCOMPARE(timers.countDuring(50), 0);
-    for (GuideWidget* guide : {&neverShown, &hidden, &changedWhileHidden}) {
-        QVERIFY(movie(*guide)->state() != QMovie::Running);
-        QCOMPARE(startedTimers(guide), 0);
+    void hidingTheParentStopsTheAnimation()
+    {
+        QWidget parent;
+        const GuideWidget guide(fullInfo(), &parent);
+        parent.show();
+        QCOMPARE(movie(guide)->state(), QMovie::Running);
+        QTRY_COMPARE(movie(guide)->currentFrameNumber(), 1);
+        parent.hide();
+        QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
+        parent.show();
+        QCOMPARE(movie(guide)->state(), QMovie::Running);
+        QCOMPARE(movie(guide)->currentFrameNumber(), 0);
     }
-    QTimer slow(&hidden);
-    slow.start(60000);
-    QCOMPARE(startedTimers(&hidden), 1);
-    slow.stop();
-    hidden.show();
-    QVERIFY(timers.countDuring(50) > 5);
-}
 
-void tst_GuideWidget::missingAnimation_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("file") << QStringLiteral("/no/such/guide.gif");
-    QTest::newRow("resource") << QStringLiteral(":/no/such/guide.gif");
-    QTest::newRow("URL") << QUrl::fromLocalFile(animation()).toString();
-}
+    void newAnimationPlaysAtOnceInAShownGuide()
+    {
+        GuideWidget guide(described(QStringLiteral("Still")), nullptr);
+        guide.show();
+        QVERIFY(!movie(guide));
+        guide.setInfo(fullInfo());
+        QVERIFY(picture(guide)->isVisible());
+        QCOMPARE(movie(guide)->state(), QMovie::Running);
+        QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
 
-void tst_GuideWidget::missingAnimation()
-{
-    QFETCH(QString, path);
-    GuideInfo info = fullInfo();
-    info.moviePath = path;
-    GuideWidget guide(info, nullptr);
-    guide.show();
-    QVERIFY(picture(guide)->isHidden());
-    QVERIFY(!movie(guide));
-    QCOMPARE(picture(guide)->moviePath(), path);
-    QCOMPARE(visibleParts(guide).size(), 3);
-}
+        // Another file while the first one plays.
+        QTemporaryDir folder;
+        const QString copy = folder.filePath(QStringLiteral("copy.gif"));
+        QVERIFY(QFile::copy(animation(), copy));
+        GuideInfo info = fullInfo();
+        info.moviePath = copy;
+        guide.setInfo(info);
+        QCOMPARE(movie(guide)->fileName(), copy);
+        QCOMPARE(movie(guide)->state(), QMovie::Running);
+        QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
+    }
 
-void tst_GuideWidget::brokenAnimation_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty file") << QByteArray();
-    QTest::newRow("no image") << QByteArray("no image at all");
-    QTest::newRow("header alone") << QByteArray("GIF89a\x08\x00\x08\x00", 10);
-}
+    void newAnimationWaitsInAHiddenGuide()
+    {
+        GuideWidget guide(GuideInfo(), nullptr);
+        guide.show();
+        guide.hide();
+        guide.setInfo(fullInfo());
+        QVERIFY(movie(guide)->state() != QMovie::Running);
+        QSignalSpy frames(movie(guide), &QMovie::frameChanged);
+        guide.show();
+        QCOMPARE(movie(guide)->state(), QMovie::Running);
+        QTRY_VERIFY(frames.size() > 2);
+        QCOMPARE(frames.at(0).first().toInt(), 0);
+        QCOMPARE(frames.at(1).first().toInt(), 1);
+    }
 
-void tst_GuideWidget::brokenAnimation()
-{
-    QFETCH(QByteArray, content);
-    QTemporaryFile file;
-    QVERIFY(file.open());
-    file.write(content);
-    file.close();
-    GuideInfo info = fullInfo();
-    info.moviePath = file.fileName();
-    GuideWidget guide(info, nullptr);
-    guide.show();
-    // The file exists, so the picture has its place, which is empty.
-    QVERIFY(picture(guide)->isVisible());
-    QVERIFY(!movie(guide));
-    guide.hide();
-    guide.show();
-    guide.setInfo(fullInfo());
-    QCOMPARE(movie(guide)->state(), QMovie::Running);
-}
+    void sameAnimationPlaysOn()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        const QPointer<QMovie> playing = movie(guide);
+        int changes = 0;
+        connect(playing.data(), &QMovie::stateChanged, this, [&changes] { ++changes; });
+        GuideInfo info = fullInfo();
+        info.title = QStringLiteral("Another heading");
+        guide.setInfo(info);
+        QCOMPARE(movie(guide), playing.data());
+        QCOMPARE(changes, 0);
+    }
 
-void tst_GuideWidget::hugeAnimation()
-{
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    GuideInfo info = fullInfo();
-    info.moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
-    auto* guide = new GuideWidget(info, &window);
-    layout->addWidget(guide);
-    window.resize(300, 400);
-    window.show();
-    QCOMPARE(movie(*guide)->state(), QMovie::Running);
-    QVERIFY(window.width() <= 300);
-    const QSize shown = picture(*guide)->size();
-    QVERIFY(shown.width() <= 300);
-    QCOMPARE(shown.height(), picture(*guide)->heightForWidth(shown.width()));
-    QVERIFY(!guide->grab().isNull());
-}
+    void animationTakenAway()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        GuideInfo info = fullInfo();
+        info.moviePath.clear();
+        guide.setInfo(info);
+        QVERIFY(!movie(guide));
+        QVERIFY(picture(guide)->isHidden());
+        guide.hide();
+        guide.show();
+        QVERIFY(!movie(guide));
+    }
 
-void tst_GuideWidget::movieStoppedBySlotsOfItsOwn()
-{
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    guide.hide();
-    connect(movie(guide), &QMovie::stateChanged, &guide, [&guide](QMovie::MovieState state) {
-        if (state == QMovie::Running) {
-            guide.setInfo(GuideInfo());
+    // Counted against the timers of a guide that is shown, so that the counting is seen to work.
+    void hiddenGuidesCostNothing()
+    {
+        GuideWidget neverShown(fullInfo(), nullptr);
+        GuideWidget hidden(fullInfo(), nullptr);
+        GuideWidget changedWhileHidden(GuideInfo(), nullptr);
+        hidden.show();
+        changedWhileHidden.show();
+        QCoreApplication::processEvents();
+        hidden.hide();
+        changedWhileHidden.hide();
+        changedWhileHidden.setInfo(fullInfo());
+        QCoreApplication::processEvents();
+
+        TimerCounter timers;
+        QCOMPARE(timers.countDuring(50), 0);
+        for (GuideWidget* guide : {&neverShown, &hidden, &changedWhileHidden}) {
+            QVERIFY(movie(*guide)->state() != QMovie::Running);
+            QCOMPARE(startedTimers(guide), 0);
         }
-    });
-    guide.show();
-    QVERIFY(!movie(guide));
-    QCOMPARE(visibleParts(guide), QStringList());
-}
+        QTimer slow(&hidden);
+        slow.start(60000);
+        QCOMPARE(startedTimers(&hidden), 1);
+        slow.stop();
+        hidden.show();
+        QVERIFY(timers.countDuring(50) > 5);
+    }
 
-void tst_GuideWidget::linkIsOpenedAndThenReported()
-{
-    UrlHandler handler;
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    QStringList order;
-    handler.onOpen = [&order] { order += QStringLiteral("opened"); };
-    connect(&guide, &GuideWidget::learnMoreClicked, this, [&order] { order += QStringLiteral("reported"); });
-    clickLink(guide);
-    QCOMPARE(order, QStringList({QStringLiteral("opened"), QStringLiteral("reported")}));
-    QCOMPARE(handler.opened, QList<QUrl>({QUrl(Scheme + QStringLiteral(":ripple"))}));
-    clickLink(guide);
-    QCOMPARE(order.size(), 4);
-}
+    void missingAnimation_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("file") << QStringLiteral("/no/such/guide.gif");
+        QTest::newRow("resource") << QStringLiteral(":/no/such/guide.gif");
+        QTest::newRow("URL") << QUrl::fromLocalFile(animation()).toString();
+    }
 
-void tst_GuideWidget::linkByKeyboard()
-{
-    UrlHandler handler;
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
-    followLinkByKeyboard(guide);
-    QCOMPARE(handler.opened.size(), 1);
-    QCOMPARE(clicked.size(), 1);
-}
+    void missingAnimation()
+    {
+        QFETCH(QString, path);
+        GuideInfo info = fullInfo();
+        info.moviePath = path;
+        GuideWidget guide(info, nullptr);
+        guide.show();
+        QVERIFY(picture(guide)->isHidden());
+        QVERIFY(!movie(guide));
+        QCOMPARE(picture(guide)->moviePath(), path);
+        QCOMPARE(visibleParts(guide).size(), 3);
+    }
 
-void tst_GuideWidget::tabStopsAtTheLinkAtOnce()
-{
-    UrlHandler handler;
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* before = new QLineEdit(&window);
-    auto* guide = new GuideWidget(fullInfo(), &window);
-    auto* after = new QLineEdit(&window);
-    layout->addWidget(before);
-    layout->addWidget(guide);
-    layout->addWidget(after);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    before->setFocus();
-    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
-    press(Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
-    press(Qt::Key_Return);
-    QCOMPARE(handler.opened.size(), 1);
-    // The image, which can be paused, comes behind it.
-    const auto* const image = guide->findChild<QWidget*>(QStringLiteral("gifPixmapWidget"));
-    press(Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), image);
-    press(Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), after);
-    press(Qt::Key_Backtab);
-    QCOMPARE(QApplication::focusWidget(), image);
-    press(Qt::Key_Backtab);
-    QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
-    press(Qt::Key_Return);
-    QCOMPARE(handler.opened.size(), 2);
-    press(Qt::Key_Backtab);
-    QCOMPARE(QApplication::focusWidget(), before);
-}
+    void brokenAnimation_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty file") << QByteArray();
+        QTest::newRow("no image") << QByteArray("no image at all");
+        QTest::newRow("header alone") << QByteArray("GIF89a\x08\x00\x08\x00", 10);
+    }
 
-void tst_GuideWidget::linkInARightToLeftGuide()
-{
-    UrlHandler handler;
-    GuideInfo info = fullInfo();
-    info.learnMore = QStringLiteral("<a href=\"%1:x\">\u05e2\u05d5\u05d3</a>").arg(Scheme);
-    GuideWidget guide(info, nullptr);
-    guide.setLayoutDirection(Qt::RightToLeft);
-    guide.resize(300, 200);
-    guide.show();
-    clickLink(guide);
-    QCOMPARE(handler.opened.size(), 1);
-}
+    void brokenAnimation()
+    {
+        QFETCH(QByteArray, content);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(content);
+        file.close();
+        GuideInfo info = fullInfo();
+        info.moviePath = file.fileName();
+        GuideWidget guide(info, nullptr);
+        guide.show();
+        // The file exists, so the picture has its place, which is empty.
+        QVERIFY(picture(guide)->isVisible());
+        QVERIFY(!movie(guide));
+        guide.hide();
+        guide.show();
+        guide.setInfo(fullInfo());
+        QCOMPARE(movie(guide)->state(), QMovie::Running);
+    }
 
-void tst_GuideWidget::plainTextIsNoTabStop()
-{
-    GuideWidget guide(GuideInfo(QString(), QString(), QStringLiteral("Ask a colleague"), QString()), nullptr);
-    QLabel* const learnMore = label(guide, "learnMoreLabel");
-    QCOMPARE(learnMore->focusPolicy(), Qt::NoFocus);
-    guide.setInfo(fullInfo());
-    QCOMPARE(learnMore->focusPolicy(), Qt::StrongFocus);
-    guide.setInfo(GuideInfo(QString(), QString(), QStringLiteral("Ask <b>someone</b>"), QString()));
-    QCOMPARE(learnMore->focusPolicy(), Qt::NoFocus);
-    guide.setInfo(GuideInfo(QString(), QString(), QStringLiteral("<b>href=</b> is no link"), QString()));
-    QCOMPARE(learnMore->focusPolicy(), Qt::NoFocus);
-}
+    void hugeAnimation()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        GuideInfo info = fullInfo();
+        info.moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
+        auto* guide = new GuideWidget(info, &window);
+        layout->addWidget(guide);
+        window.resize(300, 400);
+        window.show();
+        QCOMPARE(movie(*guide)->state(), QMovie::Running);
+        QVERIFY(window.width() <= 300);
+        const QSize shown = picture(*guide)->size();
+        QVERIFY(shown.width() <= 300);
+        QCOMPARE(shown.height(), picture(*guide)->heightForWidth(shown.width()));
+        QVERIFY(!guide->grab().isNull());
+    }
 
-void tst_GuideWidget::linkThatIsNoUrl_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::newRow("invalid") << QStringLiteral("http://[not");
-    QTest::newRow("empty host") << QStringLiteral("//");
-    QTest::newRow("spaces") << QStringLiteral("not a link");
-    QTest::newRow("scheme that nobody opens") << QStringLiteral("uic-nobody:x");
-}
+    void movieStoppedBySlotsOfItsOwn()
+    {
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        guide.hide();
+        connect(movie(guide), &QMovie::stateChanged, &guide, [&guide](QMovie::MovieState state) {
+            if (state == QMovie::Running) {
+                guide.setInfo(GuideInfo());
+            }
+        });
+        guide.show();
+        QVERIFY(!movie(guide));
+        QCOMPARE(visibleParts(guide), QStringList());
+    }
 
-void tst_GuideWidget::linkThatIsNoUrl()
-{
-    QFETCH(QString, target);
-    GuideWidget guide(GuideInfo(QString(), QString(), link(target), QString()), nullptr);
-    guide.show();
-    QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
-    clickLink(guide);
-    QCOMPARE(clicked.size(), 1);
-}
+    void linkIsOpenedAndThenReported()
+    {
+        UrlHandler handler;
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        QStringList order;
+        handler.onOpen = [&order] { order += QStringLiteral("opened"); };
+        connect(&guide, &GuideWidget::learnMoreClicked, this,
+                [&order] { order += QStringLiteral("reported"); });
+        clickLink(guide);
+        QCOMPARE(order, QStringList({QStringLiteral("opened"), QStringLiteral("reported")}));
+        QCOMPARE(handler.opened, QList<QUrl>({QUrl(Scheme + QStringLiteral(":ripple"))}));
+        clickLink(guide);
+        QCOMPARE(order.size(), 4);
+    }
 
-void tst_GuideWidget::linkInTheDescriptionIsNotFollowed()
-{
-    UrlHandler handler;
-    GuideWidget guide(described(link(Scheme + QStringLiteral(":x"))), nullptr);
-    guide.show();
-    QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
-    QLabel* const description = label(guide, "descriptionLabel");
-    QTest::mouseClick(description, Qt::LeftButton, {}, QPoint(12, description->height() / 2));
-    QCOMPARE(clicked.size(), 0);
-    QCOMPARE(handler.opened.size(), 0);
-}
+    void linkByKeyboard()
+    {
+        UrlHandler handler;
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
+        followLinkByKeyboard(guide);
+        QCOMPARE(handler.opened.size(), 1);
+        QCOMPARE(clicked.size(), 1);
+    }
 
-void tst_GuideWidget::guideDeletedByItsLink_data()
-{
-    QTest::addColumn<bool>("byKeyboard");
-    QTest::addColumn<bool>("withParent");
-    QTest::newRow("mouse") << false << false;
-    QTest::newRow("mouse, parent") << false << true;
-    QTest::newRow("keyboard") << true << false;
-    QTest::newRow("keyboard, parent") << true << true;
-}
-
-// Qt's text control is in the middle of its own mouse or key event.
-void tst_GuideWidget::guideDeletedByItsLink()
-{
-    QFETCH(bool, byKeyboard);
-    QFETCH(bool, withParent);
-    UrlHandler handler;
-    QPointer<QWidget> window = new QWidget;
-    auto* layout = new QVBoxLayout(window);
-    QPointer<GuideWidget> guide = new GuideWidget(fullInfo(), window);
-    layout->addWidget(guide);
-    window->show();
-    window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window));
-    connect(guide.data(), &GuideWidget::learnMoreClicked, this, [&] {
-        if (withParent) {
-            delete window;
-        } else {
-            delete guide;
-        }
-    });
-    if (byKeyboard) {
+    void tabStopsAtTheLinkAtOnce()
+    {
+        UrlHandler handler;
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* before = new QLineEdit(&window);
+        auto* guide = new GuideWidget(fullInfo(), &window);
+        auto* after = new QLineEdit(&window);
+        layout->addWidget(before);
+        layout->addWidget(guide);
+        layout->addWidget(after);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        before->setFocus();
+        const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+        press(Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        press(Qt::Key_Return);
+        QCOMPARE(handler.opened.size(), 1);
+        // The image, which can be paused, comes behind it.
+        const auto* const image = guide->findChild<QWidget*>(QStringLiteral("gifPixmapWidget"));
+        press(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), image);
+        press(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), after);
+        press(Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), image);
+        press(Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
+        press(Qt::Key_Return);
+        QCOMPARE(handler.opened.size(), 2);
+        press(Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), before);
     }
+
+    void linkInARightToLeftGuide()
     {
-        const FreedMemoryWatch memory;
+        UrlHandler handler;
+        GuideInfo info = fullInfo();
+        info.learnMore = QStringLiteral("<a href=\"%1:x\">\u05e2\u05d5\u05d3</a>").arg(Scheme);
+        GuideWidget guide(info, nullptr);
+        guide.setLayoutDirection(Qt::RightToLeft);
+        guide.resize(300, 200);
+        guide.show();
+        clickLink(guide);
+        QCOMPARE(handler.opened.size(), 1);
+    }
+
+    void plainTextIsNoTabStop()
+    {
+        GuideWidget guide(GuideInfo(QString(), QString(), QStringLiteral("Ask a colleague"), QString()),
+                          nullptr);
+        QLabel* const learnMore = label(guide, "learnMoreLabel");
+        QCOMPARE(learnMore->focusPolicy(), Qt::NoFocus);
+        guide.setInfo(fullInfo());
+        QCOMPARE(learnMore->focusPolicy(), Qt::StrongFocus);
+        guide.setInfo(GuideInfo(QString(), QString(), QStringLiteral("Ask <b>someone</b>"), QString()));
+        QCOMPARE(learnMore->focusPolicy(), Qt::NoFocus);
+        guide.setInfo(GuideInfo(QString(), QString(), QStringLiteral("<b>href=</b> is no link"), QString()));
+        QCOMPARE(learnMore->focusPolicy(), Qt::NoFocus);
+    }
+
+    void linkThatIsNoUrl_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("invalid") << QStringLiteral("http://[not");
+        QTest::newRow("empty host") << QStringLiteral("//");
+        QTest::newRow("spaces") << QStringLiteral("not a link");
+        QTest::newRow("scheme that nobody opens") << QStringLiteral("uic-nobody:x");
+    }
+
+    void linkThatIsNoUrl()
+    {
+        QFETCH(QString, target);
+        GuideWidget guide(GuideInfo(QString(), QString(), link(target), QString()), nullptr);
+        guide.show();
+        QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
+        clickLink(guide);
+        QCOMPARE(clicked.size(), 1);
+    }
+
+    void linkInTheDescriptionIsNotFollowed()
+    {
+        UrlHandler handler;
+        GuideWidget guide(described(link(Scheme + QStringLiteral(":x"))), nullptr);
+        guide.show();
+        QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
+        QLabel* const description = label(guide, "descriptionLabel");
+        QTest::mouseClick(description, Qt::LeftButton, {}, QPoint(12, description->height() / 2));
+        QCOMPARE(clicked.size(), 0);
+        QCOMPARE(handler.opened.size(), 0);
+    }
+
+    void guideDeletedByItsLink_data()
+    {
+        QTest::addColumn<bool>("byKeyboard");
+        QTest::addColumn<bool>("withParent");
+        QTest::newRow("mouse") << false << false;
+        QTest::newRow("mouse, parent") << false << true;
+        QTest::newRow("keyboard") << true << false;
+        QTest::newRow("keyboard, parent") << true << true;
+    }
+
+    // Qt's text control is in the middle of its own mouse or key event.
+    void guideDeletedByItsLink()
+    {
+        QFETCH(bool, byKeyboard);
+        QFETCH(bool, withParent);
+        UrlHandler handler;
+        QPointer<QWidget> window = new QWidget;
+        auto* layout = new QVBoxLayout(window);
+        QPointer<GuideWidget> guide = new GuideWidget(fullInfo(), window);
+        layout->addWidget(guide);
+        window->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        connect(guide.data(), &GuideWidget::learnMoreClicked, this, [&] {
+            if (withParent) {
+                delete window;
+            } else {
+                delete guide;
+            }
+        });
         if (byKeyboard) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        } else {
+            QCOMPARE(QApplication::focusWidget(), label(*guide, "learnMoreLabel"));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        {
+            const FreedMemoryWatch memory;
+            if (byKeyboard) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            } else {
+                clickLink(*guide);
+            }
+            QVERIFY(!guide);
+            QVERIFY(memory.deleted() > 0);
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        QCOMPARE(handler.opened.size(), 1);
+        delete window;
+    }
+
+    void guideDeletedByTheUrlHandler()
+    {
+        UrlHandler handler;
+        QPointer<GuideWidget> guide = new GuideWidget(fullInfo(), nullptr);
+        guide->show();
+        QSignalSpy clicked(guide.data(), &GuideWidget::learnMoreClicked);
+        handler.onOpen = [&guide] { delete guide; };
+        {
+            const FreedMemoryWatch memory;
             clickLink(*guide);
+            QVERIFY(!guide);
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
         }
-        QVERIFY(!guide);
-        QVERIFY(memory.deleted() > 0);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        QCOMPARE(clicked.size(), 0);
     }
-    QCOMPARE(handler.opened.size(), 1);
-    delete window;
-}
 
-void tst_GuideWidget::guideDeletedByTheUrlHandler()
-{
-    UrlHandler handler;
-    QPointer<GuideWidget> guide = new GuideWidget(fullInfo(), nullptr);
-    guide->show();
-    QSignalSpy clicked(guide.data(), &GuideWidget::learnMoreClicked);
-    handler.onOpen = [&guide] { delete guide; };
+    void infoChangedByItsLink_data()
     {
-        const FreedMemoryWatch memory;
-        clickLink(*guide);
-        QVERIFY(!guide);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        QTest::addColumn<bool>("byKeyboard");
+        QTest::addColumn<QString>("learnMore");
+        for (const bool byKeyboard : {false, true}) {
+            const char* const how = byKeyboard ? "keyboard" : "mouse";
+            QTest::addRow("another link, %s", how) << byKeyboard << link(QStringLiteral("other"));
+            QTest::addRow("no link, %s", how) << byKeyboard << QString();
+            QTest::addRow("plain text, %s", how) << byKeyboard << QStringLiteral("Thank you");
+        }
     }
-    QCOMPARE(clicked.size(), 0);
-}
 
-void tst_GuideWidget::infoChangedByItsLink_data()
-{
-    QTest::addColumn<bool>("byKeyboard");
-    QTest::addColumn<QString>("learnMore");
-    for (const bool byKeyboard : {false, true}) {
-        const char* const how = byKeyboard ? "keyboard" : "mouse";
-        QTest::addRow("another link, %s", how) << byKeyboard << link(QStringLiteral("other"));
-        QTest::addRow("no link, %s", how) << byKeyboard << QString();
-        QTest::addRow("plain text, %s", how) << byKeyboard << QStringLiteral("Thank you");
-    }
-}
-
-void tst_GuideWidget::infoChangedByItsLink()
-{
-    QFETCH(bool, byKeyboard);
-    QFETCH(QString, learnMore);
-    UrlHandler handler;
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    const GuideInfo other(QStringLiteral("Thanks"), QString(), learnMore, QString());
-    connect(&guide, &GuideWidget::learnMoreClicked, this, [&] { guide.setInfo(other); });
-    if (byKeyboard) {
-        guide.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&guide));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
+    void infoChangedByItsLink()
     {
-        const FreedMemoryWatch memory;
+        QFETCH(bool, byKeyboard);
+        QFETCH(QString, learnMore);
+        UrlHandler handler;
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        const GuideInfo other(QStringLiteral("Thanks"), QString(), learnMore, QString());
+        connect(&guide, &GuideWidget::learnMoreClicked, this, [&] { guide.setInfo(other); });
         if (byKeyboard) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        } else {
-            clickLink(guide);
+            guide.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&guide));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        {
+            const FreedMemoryWatch memory;
+            if (byKeyboard) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            } else {
+                clickLink(guide);
+            }
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        QCOMPARE(label(guide, "learnMoreLabel")->text(), learnMore);
+        QCOMPARE(label(guide, "learnMoreLabel")->isVisible(), !learnMore.isEmpty());
     }
-    QCOMPARE(label(guide, "learnMoreLabel")->text(), learnMore);
-    QCOMPARE(label(guide, "learnMoreLabel")->isVisible(), !learnMore.isEmpty());
-}
 
-void tst_GuideWidget::guideHiddenByItsLink()
-{
-    UrlHandler handler;
-    GuideWidget guide(fullInfo(), nullptr);
-    guide.show();
-    connect(&guide, &GuideWidget::learnMoreClicked, &guide, &QWidget::hide);
-    clickLink(guide);
-    QVERIFY(guide.isHidden());
-    QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
-}
+    void guideHiddenByItsLink()
+    {
+        UrlHandler handler;
+        GuideWidget guide(fullInfo(), nullptr);
+        guide.show();
+        connect(&guide, &GuideWidget::learnMoreClicked, &guide, &QWidget::hide);
+        clickLink(guide);
+        QVERIFY(guide.isHidden());
+        QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
+    }
+};
 
 UIC_TEST_MAIN(tst_GuideWidget)
 #include "tst_GuideWidget.moc"

@@ -129,114 +129,6 @@ using Act = std::function<void(PipetteScreenView*)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(std::function<void(Pipette*)>)
 
-class tst_Pipette : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
-    void metaObject();
-    void newPipetteShowsNothing();
-    void missingPermissionIsAskedFor_data();
-    void missingPermissionIsAskedFor();
-
-    void startCoversEveryScreen();
-    void startActivatesTheScreenUnderTheCursor();
-    void startResetsTheColor();
-    void stopWhileIdleIsReported();
-    void stopEndsAPick();
-    void secondStartAddsASecondSet();
-
-    void releasePicks();
-    void whiteIsScaled();
-    void pointOnNoScreenPicksNothing();
-    void escapeGivesUp();
-    void keysGiveUp();
-    void closedWindowGivesUp();
-    void otherInputDoesNothing();
-    void everyReleaseOnAScreenPicks_data();
-    void everyReleaseOnAScreenPicks();
-    void withoutPictureEverythingIsBlack();
-    void hostsWindowKeepsTheActivation();
-    void otherApplicationEndsThePick();
-    void changedScreensEndThePick_data();
-    void changedScreensEndThePick();
-    void quittingEndsThePick();
-    void lastWindowIsNotTheOverlay();
-    void modalDialogBlocksNothing();
-    void lateEventsEndNothing();
-
-    void loupeFollowsTheCursor_data();
-    void loupeFollowsTheCursor();
-    void loupeIsPaintedOnceForAMove();
-    void loupeShowsWhatItMagnifies();
-    void everyMoveIsAnsweredAtOnce_data();
-    void everyMoveIsAnsweredAtOnce();
-    void loupeOnNoScreenStays();
-    void loupeMayDie();
-    void viewMayDie();
-
-    void slotsOfSelectedMayEndThePick();
-    void slotsOfSelectedMayRestart();
-    void slotsOfSelectedMayStartASecond();
-    void slotsOfStoppedMayRestart();
-    void colorOfARestartedPickIsReported();
-    void pipetteMayDieInItsSlots_data();
-    void pipetteMayDieInItsSlots();
-    void pipetteMayDieWhilePicking();
-    void pipetteMayDieWhileAViewIsActivated();
-    void windowOfThePipetteMayDie();
-    void handlersOutliveThePipette();
-    void pipetteMayBeTheApplicationsChild();
-
-private:
-    void start();
-
-    std::unique_ptr<PixelWindow> m_window;
-    std::unique_ptr<Pipette> m_pipette;
-    Protocol m_protocol;
-};
-
-void tst_Pipette::initTestCase()
-{
-    qApp->setStyleSheet(QStringLiteral("LoupeWidget { min-width: 117px; max-width: 117px; min-height: 117px;"
-                                       " max-height: 117px; }"));
-}
-
-void tst_Pipette::init()
-{
-    QCursor::setPos(400, 300);
-    FakePrivacy::reset();
-    m_window = std::make_unique<PixelWindow>();
-    m_window->show();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_pipette = std::make_unique<Pipette>();
-    m_protocol.lines.clear();
-    m_protocol.watch(m_pipette.get());
-}
-
-void tst_Pipette::cleanup()
-{
-    m_pipette.reset();
-    m_window.reset();
-    QVERIFY(nothingIsLeft());
-}
-
-/// Starts a pick and waits until it is on the screen.
-void tst_Pipette::start()
-{
-    m_pipette->startPicking();
-    const auto views = shownViews();
-    QVERIFY(!views.isEmpty());
-    QVERIFY(QTest::qWaitForWindowExposed(views.last()));
-    QVERIFY(QTest::qWaitForWindowActive(views.last()));
-    QCoreApplication::processEvents();
-}
-
 namespace {
 
 QGraphicsItem* loupeItem()
@@ -274,229 +166,6 @@ void release(PipetteScreenView* view, const QPoint& point, Qt::MouseButton butto
 
 } // namespace
 
-void tst_Pipette::metaObject()
-{
-    const QMetaObject& meta = Pipette::staticMetaObject;
-    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
-    QCOMPARE(ownMethods(meta), (QStringList{QStringLiteral("signal pickingStarted()"),
-                                            QStringLiteral("signal pickingStopped()"),
-                                            QStringLiteral("signal colorSelected(QColor)")}));
-    QCOMPARE(ownProperties(meta), QStringList());
-}
-
-void tst_Pipette::newPipetteShowsNothing()
-{
-    QVERIFY(!m_pipette->currentColor().isValid());
-    QVERIFY(alive<PipetteScreenView>().isEmpty());
-    QObject parent;
-    const Pipette child(&parent);
-    QCOMPARE(child.parent(), &parent);
-}
-
-void tst_Pipette::missingPermissionIsAskedFor_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::newRow("denied") << int(AccessStatus::Denied);
-    QTest::newRow("not available") << int(AccessStatus::Unavailable);
-    QTest::newRow("a number of the host's") << 17;
-    QTest::newRow("negative") << -1;
-}
-
-void tst_Pipette::missingPermissionIsAskedFor()
-{
-    QFETCH(int, status);
-    FakePrivacy::screenAccess = AccessStatus(status);
-    m_pipette->startPicking();
-    QCOMPARE(FakePrivacy::requests, QVector<int>{5});
-    QCOMPARE(m_protocol.lines, QStringList());
-    QVERIFY(alive<PipetteScreenView>().isEmpty());
-
-    FakePrivacy::screenAccess = AccessStatus::Granted;
-    m_pipette->startPicking();
-    QCOMPARE(FakePrivacy::requests, QVector<int>{5});
-    QCOMPARE(m_protocol.lines, QStringList{started});
-    QCOMPARE(shownViews().size(), 1);
-}
-
-void tst_Pipette::startCoversEveryScreen()
-{
-    bool wereUp = false;
-    connect(m_pipette.get(), &Pipette::pickingStarted, this, [&wereUp] {
-        const auto views = shownViews();
-        wereUp = views.size() == QGuiApplication::screens().size();
-    });
-    m_pipette->startPicking();
-    QVERIFY(wereUp);
-    QCOMPARE(m_protocol.lines, QStringList{started});
-    const auto views = shownViews();
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    QCOMPARE(views.size(), screens.size());
-    QRect desktop;
-    for (int i = 0; i < views.size(); ++i) {
-        QCOMPARE(views.at(i)->geometry(), screens.at(i)->geometry());
-        QCOMPARE(views.at(i)->scene(), views.first()->scene());
-        desktop |= screens.at(i)->geometry();
-    }
-    QCOMPARE(views.first()->scene()->sceneRect(), QRectF(desktop));
-    QCOMPARE(views.first()->scene()->items().size(), 1);
-    QCOMPARE(alive<LoupeWidget>().size(), 1);
-    QVERIFY(loupeItem()->isVisible());
-}
-
-void tst_Pipette::startActivatesTheScreenUnderTheCursor()
-{
-    // Platforms activate each window that is shown, so what the pipette does itself shows in the order only.
-    RaiseWatch watch;
-    const auto atStart = std::make_shared<int>(0);
-    connect(m_pipette.get(), &Pipette::pickingStarted, this, [&watch, atStart] { *atStart = watch.raises; });
-    m_pipette->startPicking();
-    QCOMPARE(*atStart, 1);
-    PipetteScreenView* const view = shownViews().first();
-    QVERIFY(QTest::qWaitForWindowActive(view));
-    QTRY_VERIFY(view->hasFocus());
-    QCOMPARE(view->geometry(), QGuiApplication::primaryScreen()->geometry());
-
-    // Beside all screens, the first one.
-    m_pipette->stopPicking();
-    deleteDeferred();
-    QCursor::setPos(-3000, -3000);
-    m_pipette->startPicking();
-    QVERIFY(QTest::qWaitForWindowActive(shownViews().first()));
-}
-
-void tst_Pipette::startResetsTheColor()
-{
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    QVERIFY(m_pipette->currentColor().isValid());
-    const QColor& color = m_pipette->currentColor();
-    m_pipette->startPicking();
-    QVERIFY(!m_pipette->currentColor().isValid());
-    QVERIFY(!color.isValid());
-    m_pipette->stopPicking();
-    QVERIFY(!m_pipette->currentColor().isValid());
-}
-
-void tst_Pipette::stopWhileIdleIsReported()
-{
-    m_pipette->stopPicking();
-    QCOMPARE(m_protocol.lines, QStringList{stopped});
-    m_pipette->stopPicking();
-    QCOMPARE(m_protocol.lines, (QStringList{stopped, stopped}));
-}
-
-void tst_Pipette::stopEndsAPick()
-{
-    start();
-    m_pipette->stopPicking();
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(shownViews().isEmpty());
-    // They vanish with the next turn of the event loop, not before.
-    QCOMPARE(alive<PipetteScreenView>().size(), 1);
-    QCOMPARE(alive<LoupeWidget>().size(), 1);
-    QCoreApplication::processEvents();
-    QVERIFY(nothingIsLeft());
-}
-
-void tst_Pipette::secondStartAddsASecondSet()
-{
-    start();
-    PipetteScreenView* const first = shownViews().first();
-    m_pipette->startPicking();
-    QCOMPARE(shownViews().size(), 2);
-    QCOMPARE(alive<LoupeWidget>().size(), 2);
-    QVERIFY(shownViews().first()->scene() != shownViews().last()->scene());
-    QCOMPARE(m_protocol.lines, (QStringList{started, started}));
-
-    // Either set ends both.
-    Q_EMIT first->pickingFinished(QPoint(600, 500), true);
-    QCOMPARE(m_protocol.lines,
-             (QStringList{started, started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
-    QVERIFY(shownViews().isEmpty());
-    // Not a second time through a connection of the first set.
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-    QCOMPARE(m_protocol.lines.size(), 4);
-}
-
-void tst_Pipette::releasePicks()
-{
-    start();
-    const QPoint point(600, 500);
-    QTest::mousePress(shownViews().first()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
-    QCOMPARE(m_protocol.lines, QStringList{started});
-    QTest::mouseRelease(shownViews().first()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
-    const QColor expected = PixelWindow::pickedAt(point);
-    QCOMPARE(m_protocol.lines, (QStringList{started, expected.name(), stopped}));
-    QCOMPARE(m_pipette->currentColor(), expected);
-    QCOMPARE(m_pipette->currentColor().alphaF(), 1.0);
-    QVERIFY(shownViews().isEmpty());
-}
-
-void tst_Pipette::whiteIsScaled()
-{
-    QWidget white;
-    white.setPalette(QPalette(Qt::white));
-    m_window.reset();
-    white.setGeometry(QGuiApplication::primaryScreen()->geometry());
-    white.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&white));
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    const QColor color = m_pipette->currentColor();
-    QVERIFY(qAbs(color.redF() - 255.0 / 254.0) < 1e-3);
-    QVERIFY(qAbs(color.greenF() - 255.0 / 254.0) < 1e-3);
-    QVERIFY(qAbs(color.blueF() - 255.0 / 254.0) < 1e-3);
-    QCOMPARE(color.alphaF(), 1.0);
-    QCOMPARE(color.name(), QStringLiteral("#ffffff"));
-}
-
-void tst_Pipette::pointOnNoScreenPicksNothing()
-{
-    start();
-    Q_EMIT shownViews().first()->pickingFinished(QPoint(-5, 300), true);
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(!m_pipette->currentColor().isValid());
-}
-
-void tst_Pipette::escapeGivesUp()
-{
-    start();
-    // Comes as a shortcut override and as a key press.
-    QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(shownViews().isEmpty());
-}
-
-void tst_Pipette::keysGiveUp()
-{
-    start();
-    QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_F5);
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(shownViews().isEmpty());
-}
-
-// As a window manager closes it, or QApplication::closeAllWindows().
-void tst_Pipette::closedWindowGivesUp()
-{
-    start();
-    shownViews().first()->close();
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(nothingIsLeft());
-}
-
-void tst_Pipette::otherInputDoesNothing()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    release(view, QPoint(600, 500), Qt::RightButton);
-    release(view, QPoint(600, 500), Qt::MiddleButton);
-    QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(view->viewport(), &wheel);
-    QCOMPARE(m_protocol.lines, QStringList{started});
-    QVERIFY(view->isVisible());
-}
-
 namespace {
 
 /// A point that the loupe, as it stands now, covers.
@@ -507,514 +176,797 @@ QPoint underTheLoupe(const QGraphicsItem* item)
 
 } // namespace
 
-void tst_Pipette::everyReleaseOnAScreenPicks_data()
+class tst_Pipette : public QObject
 {
-    QTest::addColumn<bool>("isSettled");
-    QTest::addColumn<bool>("isUnderTheLoupe");
-    QTest::newRow("before the first turn of the event loop") << false << false;
-    QTest::newRow("there, under the loupe") << false << true;
-    QTest::newRow("under the loupe") << true << true;
-}
+    Q_OBJECT
 
-void tst_Pipette::everyReleaseOnAScreenPicks()
-{
-    QFETCH(bool, isSettled);
-    QFETCH(bool, isUnderTheLoupe);
-    if (isSettled) {
-        start();
-    } else {
-        m_pipette->startPicking();
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qApp->setStyleSheet(
+            QStringLiteral("LoupeWidget { min-width: 117px; max-width: 117px; min-height: 117px;"
+                           " max-height: 117px; }"));
     }
-    PipetteScreenView* const view = shownViews().first();
-    const QPoint point = isUnderTheLoupe ? underTheLoupe(loupeItem()) : QPoint(600, 500);
-    QMouseEvent event(QEvent::MouseButtonRelease, point, point, point, Qt::LeftButton, Qt::NoButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(view->viewport(), &event);
-    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt(point).name(), stopped}));
-}
 
-// As the arithmetic has it for a picture without pixels.
-void tst_Pipette::withoutPictureEverythingIsBlack()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    m_window.reset();
-    view->move(3000, 3000);
-    Q_EMIT view->loupePosChanged(QPoint(700, 500));
-    QCOMPARE(loupeItem()->pos().toPoint(), QPoint(700 - loupeSize.width(), 500 - loupeSize.height()));
-    QCOMPARE(alive<LoupeWidget>().first()->findChild<QLabel*>()->text(), QStringLiteral("#000000"));
-    Q_EMIT view->pickingFinished(QPoint(600, 500), true);
-    QCOMPARE(m_protocol.lines, (QStringList{started, QStringLiteral("#000000"), stopped}));
-    QCOMPARE(m_pipette->currentColor(), QColor(Qt::black));
-}
-
-// The views ask for it at the start and when the cursor enters, and at no other time.
-void tst_Pipette::hostsWindowKeepsTheActivation()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    view->setAttribute(Qt::WA_UnderMouse, false);
-    m_window->activateWindow();
-    QTRY_VERIFY(m_window->isActiveWindow());
-    // Longer than anything that could ask for it again.
-    QVERIFY(!QTest::qWaitFor([this] { return !m_window->isActiveWindow(); }, 300));
-    QCOMPARE(m_protocol.lines, QStringList{started});
-}
-
-void tst_Pipette::otherApplicationEndsThePick()
-{
-    start();
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-    QCOMPARE(m_protocol.lines, QStringList{started});
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationHidden);
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    for (const Qt::ApplicationState state : {Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
+    void init()
+    {
+        QCursor::setPos(400, 300);
+        FakePrivacy::reset();
+        m_window = std::make_unique<PixelWindow>();
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_pipette = std::make_unique<Pipette>();
         m_protocol.lines.clear();
+        m_protocol.watch(m_pipette.get());
+    }
+
+    void cleanup()
+    {
+        m_pipette.reset();
+        m_window.reset();
+        QVERIFY(nothingIsLeft());
+    }
+
+    void metaObject()
+    {
+        const QMetaObject& meta = Pipette::staticMetaObject;
+        QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+        QCOMPARE(ownMethods(meta), (QStringList{QStringLiteral("signal pickingStarted()"),
+                                                QStringLiteral("signal pickingStopped()"),
+                                                QStringLiteral("signal colorSelected(QColor)")}));
+        QCOMPARE(ownProperties(meta), QStringList());
+    }
+
+    void newPipetteShowsNothing()
+    {
+        QVERIFY(!m_pipette->currentColor().isValid());
+        QVERIFY(alive<PipetteScreenView>().isEmpty());
+        QObject parent;
+        const Pipette child(&parent);
+        QCOMPARE(child.parent(), &parent);
+    }
+
+    void missingPermissionIsAskedFor_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::newRow("denied") << int(AccessStatus::Denied);
+        QTest::newRow("not available") << int(AccessStatus::Unavailable);
+        QTest::newRow("a number of the host's") << 17;
+        QTest::newRow("negative") << -1;
+    }
+
+    void missingPermissionIsAskedFor()
+    {
+        QFETCH(int, status);
+        FakePrivacy::screenAccess = AccessStatus(status);
         m_pipette->startPicking();
-        Q_EMIT qGuiApp->applicationStateChanged(state);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    }
-}
+        QCOMPARE(FakePrivacy::requests, QVector<int>{5});
+        QCOMPARE(m_protocol.lines, QStringList());
+        QVERIFY(alive<PipetteScreenView>().isEmpty());
 
-void tst_Pipette::changedScreensEndThePick_data()
-{
-    QTest::addColumn<std::function<void(Pipette*)>>("change");
-    using Change = std::function<void(Pipette*)>;
-    QTest::newRow("added") << Change(
-        [](Pipette*) { Q_EMIT qGuiApp->screenAdded(QGuiApplication::primaryScreen()); });
-    QTest::newRow("removed") << Change(
-        [](Pipette*) { Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); });
-    QTest::newRow("resized") << Change(
-        [](Pipette*) { Q_EMIT QGuiApplication::primaryScreen()->geometryChanged(QRect(0, 0, 640, 480)); });
-    QTest::newRow("scaled") << Change(
-        [](Pipette*) { Q_EMIT QGuiApplication::primaryScreen()->logicalDotsPerInchChanged(192.0); });
-}
-
-void tst_Pipette::changedScreensEndThePick()
-{
-    QFETCH(std::function<void(Pipette*)>, change);
-    start();
-    change(m_pipette.get());
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(shownViews().isEmpty());
-    change(m_pipette.get());
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-}
-
-void tst_Pipette::quittingEndsThePick()
-{
-    start();
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
-    QCOMPARE(QCoreApplication::exec(), 0);
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    QVERIFY(shownViews().isEmpty());
-}
-
-// An application that shows nothing else goes on after a pick.
-void tst_Pipette::lastWindowIsNotTheOverlay()
-{
-    m_window.reset();
-    QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
-    start();
-    m_pipette->stopPicking();
-    QCoreApplication::processEvents();
-    deleteDeferred();
-    QCOMPARE(lastClosed.count(), 0);
-}
-
-void tst_Pipette::modalDialogBlocksNothing()
-{
-    QDialog dialog;
-    dialog.setModal(true);
-    dialog.setGeometry(10, 10, 100, 100);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
-}
-
-void tst_Pipette::lateEventsEndNothing()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    m_pipette->stopPicking();
-    m_protocol.lines.clear();
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    static_cast<QObject*>(view)->event(&escape);
-    Q_EMIT view->pickingFinished(QPoint(600, 500), true);
-    Q_EMIT view->loupePosChanged(QPoint(600, 500));
-    QCOMPARE(m_protocol.lines, QStringList());
-    // Nor does what is left of one pick end the next.
-    m_pipette->startPicking();
-    Q_EMIT view->pickingFinished(QPoint(600, 500), true);
-    QCOMPARE(m_protocol.lines, QStringList{started});
-}
-
-void tst_Pipette::loupeFollowsTheCursor_data()
-{
-    QTest::addColumn<QPoint>("cursor");
-    QTest::addColumn<QPoint>("place");
-    const int side = loupeSize.width();
-    QTest::newRow("middle") << QPoint(400, 300) << QPoint(400, 300 - side);
-    QTest::newRow("left edge") << QPoint(0, 300) << QPoint(0, 300 - side);
-    QTest::newRow("bottom edge") << QPoint(400, 599) << QPoint(400, 599 - side);
-    QTest::newRow("within a loupe of the top") << QPoint(400, side - 1) << QPoint(400, side - 1);
-    QTest::newRow("a loupe below the top") << QPoint(400, side) << QPoint(400, 0);
-    QTest::newRow("within a loupe of the right edge")
-        << QPoint(800 - side, 300) << QPoint(800 - 2 * side, 300 - side);
-    QTest::newRow("a loupe from the right edge") << QPoint(799 - side, 300) << QPoint(799 - side, 300 - side);
-    QTest::newRow("top right corner") << QPoint(799, 0) << QPoint(799 - side, 0);
-}
-
-void tst_Pipette::loupeFollowsTheCursor()
-{
-    QFETCH(QPoint, cursor);
-    QFETCH(QPoint, place);
-    start();
-    QTest::mouseMove(shownViews().first()->windowHandle(), cursor);
-    QTRY_COMPARE(loupeItem()->pos(), QPointF(place));
-    LoupeWidget* const loupe = alive<LoupeWidget>().first();
-    QCOMPARE(loupe->size(), loupeSize);
-}
-
-void tst_Pipette::loupeIsPaintedOnceForAMove()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    auto* label = alive<LoupeWidget>().first()->findChild<QLabel*>();
-    PaintCount paints(alive<LoupeWidget>().first());
-    for (const QPoint& point : {QPoint(300, 200), QPoint(600, 500), QPoint(310, 210)}) {
-        paints.count = 0;
-        QTest::mouseMove(view->windowHandle(), point);
-        QTRY_COMPARE(label->text(), PixelWindow::pickedAt(point).name());
-        QTRY_VERIFY(paints.count > 0);
-        // Nor later, for the picture or the name alone.
-        for (int i = 0; i < 5; ++i) {
-            QCoreApplication::processEvents();
-        }
-        QCOMPARE(paints.count, 1);
-    }
-}
-
-void tst_Pipette::loupeShowsWhatItMagnifies()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    // Steps into the place where the loupe stands too.
-    for (const QPoint& point : {QPoint(100, 400), QPoint(130, 380), QPoint(180, 340), QPoint(183, 337),
-                                QPoint(700, 90), QPoint(300, 500)}) {
-        QTest::mouseMove(view->windowHandle(), point);
-        QCursor::setPos(point);
-        LoupeWidget* const loupe = alive<LoupeWidget>().first();
-        auto* label = loupe->findChild<QLabel*>(QStringLiteral("colorNameLabel"));
-        QTRY_COMPARE(label->text(), PixelWindow::pickedAt(point).name());
-        QImage image(loupeSize, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        loupe->QWidget::render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-        const int zoom = loupeSize.width() / 13;
-        // The middle row, as far as the label's text is not upon it.
-        for (int x = 0; x < 13; ++x) {
-            for (const int y : {1, 11}) {
-                const QPoint at(x * zoom + zoom / 2, y * zoom + zoom / 2);
-                const QPoint fromMiddle = at - QPoint(loupeSize.width() / 2, loupeSize.height() / 2);
-                if (QPoint::dotProduct(fromMiddle, fromMiddle) < 55 * 55) {
-                    QCOMPARE(image.pixelColor(at).name(),
-                             PixelWindow::pixelAt(point + QPoint(x - 6, y - 6)).name());
-                }
-            }
-        }
-    }
-}
-
-void tst_Pipette::everyMoveIsAnsweredAtOnce_data()
-{
-    QTest::addColumn<QString>("sheet");
-    QTest::newRow("no sheet") << QString();
-    QTest::newRow("large") << qApp->styleSheet();
-    QTest::newRow("rim, name in a corner") << QStringLiteral(
-        "LoupeWidget { background: transparent; border: 6px solid #ff00ff; min-width: 105px;"
-        " max-width: 105px; min-height: 105px; max-height: 105px; }"
-        "LoupeWidget > #colorNameLabel { qproperty-alignment: \"AlignLeft | AlignBottom\"; }");
-}
-
-// Label and picture are read right after each move; what is painted in between does not matter.
-void tst_Pipette::everyMoveIsAnsweredAtOnce()
-{
-    QFETCH(QString, sheet);
-    constexpr int moves = 30;
-    const QString former = qApp->styleSheet();
-    qApp->setStyleSheet(sheet);
-    const auto restore = qScopeGuard([former] { qApp->setStyleSheet(former); });
-    start();
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    const QRect area = screen->geometry();
-    for (const int speed : {1, 10, 40}) {
-        for (const QPoint& direction : {QPoint(1, 0), QPoint(1, 1), QPoint(0, 1), QPoint(-1, 1),
-                                        QPoint(-1, 0), QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1)}) {
-            QPoint point = area.center() - direction * speed * moves / 2;
-            for (int i = 0; i < moves; ++i) {
-                point += direction * speed;
-                point = area.contains(point) ? point : area.center();
-                PipetteWindows::move(screen, point);
-                QCOMPARE(PipetteWindows::colorName(), PixelWindow::pickedAt(point).name());
-                const QImage seen = PipetteWindows::magnified(screen);
-                for (int y = 0; y < seen.height(); ++y) {
-                    for (int x = 0; x < seen.width(); ++x) {
-                        const QPoint at = point + QPoint(x - 6, y - 6);
-                        if (qAlpha(seen.pixel(x, y)) == 255 && area.contains(at)) {
-                            QCOMPARE(seen.pixel(x, y), PixelWindow::pixelAt(at).rgb());
-                        }
-                    }
-                }
-                QCoreApplication::processEvents();
-            }
-        }
-    }
-}
-
-void tst_Pipette::loupeOnNoScreenStays()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    QTest::mouseMove(view->windowHandle(), QPoint(400, 400));
-    QTRY_COMPARE(loupeItem()->pos().toPoint(), QPoint(400, 400 - loupeSize.height()));
-    Q_EMIT view->loupePosChanged(QPoint(-100, 4000));
-    QCOMPARE(loupeItem()->pos().toPoint(), QPoint(400, 400 - loupeSize.height()));
-}
-
-void tst_Pipette::loupeMayDie()
-{
-    start();
-    PipetteScreenView* const view = shownViews().first();
-    delete alive<LoupeWidget>().first();
-    QTest::mouseMove(view->windowHandle(), QPoint(500, 400));
-    QCoreApplication::processEvents();
-    release(view, QPoint(600, 500));
-    QTRY_COMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
-}
-
-void tst_Pipette::viewMayDie()
-{
-    start();
-    delete shownViews().first();
-    QCOMPARE(m_protocol.lines, QStringList{started});
-    m_pipette->stopPicking();
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-}
-
-void tst_Pipette::slotsOfSelectedMayEndThePick()
-{
-    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->stopPicking(); });
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
-    QVERIFY(shownViews().isEmpty());
-}
-
-void tst_Pipette::slotsOfSelectedMayRestart()
-{
-    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] {
-        m_pipette->stopPicking();
+        FakePrivacy::screenAccess = AccessStatus::Granted;
         m_pipette->startPicking();
-    });
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(m_protocol.lines,
-             (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped, started}));
-    QCOMPARE(shownViews().size(), 1);
-}
+        QCOMPARE(FakePrivacy::requests, QVector<int>{5});
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        QCOMPARE(shownViews().size(), 1);
+    }
 
-// Without an end in between, it is part of the pick that is about to end.
-void tst_Pipette::slotsOfSelectedMayStartASecond()
-{
-    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->startPicking(); });
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(m_protocol.lines,
-             (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), started, stopped}));
-    QVERIFY(shownViews().isEmpty());
-}
-
-void tst_Pipette::slotsOfStoppedMayRestart()
-{
-    int left = 3;
-    connect(m_pipette.get(), &Pipette::pickingStopped, m_pipette.get(), [this, &left] {
-        if (--left > 0) {
-            m_pipette->startPicking();
+    void startCoversEveryScreen()
+    {
+        bool wereUp = false;
+        connect(m_pipette.get(), &Pipette::pickingStarted, this, [&wereUp] {
+            const auto views = shownViews();
+            wereUp = views.size() == QGuiApplication::screens().size();
+        });
+        m_pipette->startPicking();
+        QVERIFY(wereUp);
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        const auto views = shownViews();
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        QCOMPARE(views.size(), screens.size());
+        QRect desktop;
+        for (int i = 0; i < views.size(); ++i) {
+            QCOMPARE(views.at(i)->geometry(), screens.at(i)->geometry());
+            QCOMPARE(views.at(i)->scene(), views.first()->scene());
+            desktop |= screens.at(i)->geometry();
         }
-    });
-    start();
-    m_pipette->stopPicking();
-    QCOMPARE(shownViews().size(), 1);
-    QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
-    QCOMPARE(shownViews().size(), 1);
-    m_pipette->stopPicking();
-    QVERIFY(shownViews().isEmpty());
-    QCOMPARE(m_protocol.lines, (QStringList{started, stopped, started, stopped, started, stopped}));
-}
+        QCOMPARE(views.first()->scene()->sceneRect(), QRectF(desktop));
+        QCOMPARE(views.first()->scene()->items().size(), 1);
+        QCOMPARE(alive<LoupeWidget>().size(), 1);
+        QVERIFY(loupeItem()->isVisible());
+    }
 
-// A listener after the one that restarts is given the colour all the same.
-void tst_Pipette::colorOfARestartedPickIsReported()
-{
-    connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] { m_pipette->startPicking(); });
-    QColor heard;
-    connect(m_pipette.get(), &Pipette::colorSelected, this, [&heard](const QColor& color) { heard = color; });
-    start();
-    release(shownViews().first(), QPoint(600, 500));
-    QCOMPARE(heard, PixelWindow::pickedAt({600, 500}));
-}
-
-void tst_Pipette::pipetteMayDieInItsSlots_data()
-{
-    QTest::addColumn<QString>("signal");
-    QTest::addColumn<Act>("act");
-    const auto key = [](int code) {
-        return Act([code](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key(code)); });
-    };
-    const Act click = [](PipetteScreenView* view) { release(view, QPoint(600, 500)); };
-    const Act leave = [](PipetteScreenView*) {
-        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-    };
-    QTest::newRow("colorSelected, click") << QStringLiteral("selected") << click;
-    QTest::newRow("pickingStopped, click") << QStringLiteral("stopped") << click;
-    QTest::newRow("pickingStopped, Escape") << QStringLiteral("stopped") << key(Qt::Key_Escape);
-    QTest::newRow("pickingStopped, other key") << QStringLiteral("stopped") << key(Qt::Key_A);
-    QTest::newRow("pickingStopped, other application") << QStringLiteral("stopped") << leave;
-}
-
-void tst_Pipette::pipetteMayDieInItsSlots()
-{
-    QFETCH(QString, signal);
-    QFETCH(Act, act);
-    for (const bool withParent : {false, true}) {
-        auto parent = std::make_unique<QObject>();
-        QPointer<Pipette> pipette = new Pipette(parent.get());
-        const auto die = [&parent, pipette, withParent] {
-            if (withParent) {
-                parent.reset();
-            } else {
-                delete pipette;
-            }
-        };
-        if (signal == QLatin1String("selected")) {
-            connect(pipette, &Pipette::colorSelected, this, die);
-        } else {
-            connect(pipette, &Pipette::pickingStopped, this, die);
-        }
-        pipette->startPicking();
+    void startActivatesTheScreenUnderTheCursor()
+    {
+        // Platforms activate each window that is shown, so what the pipette does itself shows in the order
+        // only.
+        RaiseWatch watch;
+        const auto atStart = std::make_shared<int>(0);
+        connect(m_pipette.get(), &Pipette::pickingStarted, this,
+                [&watch, atStart] { *atStart = watch.raises; });
+        m_pipette->startPicking();
+        QCOMPARE(*atStart, 1);
         PipetteScreenView* const view = shownViews().first();
         QVERIFY(QTest::qWaitForWindowActive(view));
+        QTRY_VERIFY(view->hasFocus());
+        QCOMPARE(view->geometry(), QGuiApplication::primaryScreen()->geometry());
+
+        // Beside all screens, the first one.
+        m_pipette->stopPicking();
+        deleteDeferred();
+        QCursor::setPos(-3000, -3000);
+        m_pipette->startPicking();
+        QVERIFY(QTest::qWaitForWindowActive(shownViews().first()));
+    }
+
+    void startResetsTheColor()
+    {
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        QVERIFY(m_pipette->currentColor().isValid());
+        const QColor& color = m_pipette->currentColor();
+        m_pipette->startPicking();
+        QVERIFY(!m_pipette->currentColor().isValid());
+        QVERIFY(!color.isValid());
+        m_pipette->stopPicking();
+        QVERIFY(!m_pipette->currentColor().isValid());
+    }
+
+    void stopWhileIdleIsReported()
+    {
+        m_pipette->stopPicking();
+        QCOMPARE(m_protocol.lines, QStringList{stopped});
+        m_pipette->stopPicking();
+        QCOMPARE(m_protocol.lines, (QStringList{stopped, stopped}));
+    }
+
+    void stopEndsAPick()
+    {
+        start();
+        m_pipette->stopPicking();
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(shownViews().isEmpty());
+        // They vanish with the next turn of the event loop, not before.
+        QCOMPARE(alive<PipetteScreenView>().size(), 1);
+        QCOMPARE(alive<LoupeWidget>().size(), 1);
         QCoreApplication::processEvents();
+        QVERIFY(nothingIsLeft());
+    }
+
+    void secondStartAddsASecondSet()
+    {
+        start();
+        PipetteScreenView* const first = shownViews().first();
+        m_pipette->startPicking();
+        QCOMPARE(shownViews().size(), 2);
+        QCOMPARE(alive<LoupeWidget>().size(), 2);
+        QVERIFY(shownViews().first()->scene() != shownViews().last()->scene());
+        QCOMPARE(m_protocol.lines, (QStringList{started, started}));
+
+        // Either set ends both.
+        Q_EMIT first->pickingFinished(QPoint(600, 500), true);
+        QCOMPARE(m_protocol.lines,
+                 (QStringList{started, started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+        QVERIFY(shownViews().isEmpty());
+        // Not a second time through a connection of the first set.
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+        QCOMPARE(m_protocol.lines.size(), 4);
+    }
+
+    void releasePicks()
+    {
+        start();
+        const QPoint point(600, 500);
+        QTest::mousePress(shownViews().first()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        QTest::mouseRelease(shownViews().first()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+        const QColor expected = PixelWindow::pickedAt(point);
+        QCOMPARE(m_protocol.lines, (QStringList{started, expected.name(), stopped}));
+        QCOMPARE(m_pipette->currentColor(), expected);
+        QCOMPARE(m_pipette->currentColor().alphaF(), 1.0);
+        QVERIFY(shownViews().isEmpty());
+    }
+
+    void whiteIsScaled()
+    {
+        QWidget white;
+        white.setPalette(QPalette(Qt::white));
+        m_window.reset();
+        white.setGeometry(QGuiApplication::primaryScreen()->geometry());
+        white.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&white));
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        const QColor color = m_pipette->currentColor();
+        QVERIFY(qAbs(color.redF() - 255.0 / 254.0) < 1e-3);
+        QVERIFY(qAbs(color.greenF() - 255.0 / 254.0) < 1e-3);
+        QVERIFY(qAbs(color.blueF() - 255.0 / 254.0) < 1e-3);
+        QCOMPARE(color.alphaF(), 1.0);
+        QCOMPARE(color.name(), QStringLiteral("#ffffff"));
+    }
+
+    void pointOnNoScreenPicksNothing()
+    {
+        start();
+        Q_EMIT shownViews().first()->pickingFinished(QPoint(-5, 300), true);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(!m_pipette->currentColor().isValid());
+    }
+
+    void escapeGivesUp()
+    {
+        start();
+        // Comes as a shortcut override and as a key press.
+        QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(shownViews().isEmpty());
+    }
+
+    void keysGiveUp()
+    {
+        start();
+        QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_F5);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(shownViews().isEmpty());
+    }
+
+    // As a window manager closes it, or QApplication::closeAllWindows().
+    void closedWindowGivesUp()
+    {
+        start();
+        shownViews().first()->close();
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(nothingIsLeft());
+    }
+
+    void otherInputDoesNothing()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        release(view, QPoint(600, 500), Qt::RightButton);
+        release(view, QPoint(600, 500), Qt::MiddleButton);
+        QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(view->viewport(), &wheel);
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        QVERIFY(view->isVisible());
+    }
+
+    void everyReleaseOnAScreenPicks_data()
+    {
+        QTest::addColumn<bool>("isSettled");
+        QTest::addColumn<bool>("isUnderTheLoupe");
+        QTest::newRow("before the first turn of the event loop") << false << false;
+        QTest::newRow("there, under the loupe") << false << true;
+        QTest::newRow("under the loupe") << true << true;
+    }
+
+    void everyReleaseOnAScreenPicks()
+    {
+        QFETCH(bool, isSettled);
+        QFETCH(bool, isUnderTheLoupe);
+        if (isSettled) {
+            start();
+        } else {
+            m_pipette->startPicking();
+        }
+        PipetteScreenView* const view = shownViews().first();
+        const QPoint point = isUnderTheLoupe ? underTheLoupe(loupeItem()) : QPoint(600, 500);
+        QMouseEvent event(QEvent::MouseButtonRelease, point, point, point, Qt::LeftButton, Qt::NoButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(view->viewport(), &event);
+        QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt(point).name(), stopped}));
+    }
+
+    // As the arithmetic has it for a picture without pixels.
+    void withoutPictureEverythingIsBlack()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        m_window.reset();
+        view->move(3000, 3000);
+        Q_EMIT view->loupePosChanged(QPoint(700, 500));
+        QCOMPARE(loupeItem()->pos().toPoint(), QPoint(700 - loupeSize.width(), 500 - loupeSize.height()));
+        QCOMPARE(alive<LoupeWidget>().first()->findChild<QLabel*>()->text(), QStringLiteral("#000000"));
+        Q_EMIT view->pickingFinished(QPoint(600, 500), true);
+        QCOMPARE(m_protocol.lines, (QStringList{started, QStringLiteral("#000000"), stopped}));
+        QCOMPARE(m_pipette->currentColor(), QColor(Qt::black));
+    }
+
+    // The views ask for it at the start and when the cursor enters, and at no other time.
+    void hostsWindowKeepsTheActivation()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        view->setAttribute(Qt::WA_UnderMouse, false);
+        m_window->activateWindow();
+        QTRY_VERIFY(m_window->isActiveWindow());
+        // Longer than anything that could ask for it again.
+        QVERIFY(!QTest::qWaitFor([this] { return !m_window->isActiveWindow(); }, 300));
+        QCOMPARE(m_protocol.lines, QStringList{started});
+    }
+
+    void otherApplicationEndsThePick()
+    {
+        start();
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationHidden);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        for (const Qt::ApplicationState state : {Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
+            m_protocol.lines.clear();
+            m_pipette->startPicking();
+            Q_EMIT qGuiApp->applicationStateChanged(state);
+            QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        }
+    }
+
+    void changedScreensEndThePick_data()
+    {
+        QTest::addColumn<std::function<void(Pipette*)>>("change");
+        using Change = std::function<void(Pipette*)>;
+        QTest::newRow("added") << Change(
+            [](Pipette*) { Q_EMIT qGuiApp->screenAdded(QGuiApplication::primaryScreen()); });
+        QTest::newRow("removed") << Change(
+            [](Pipette*) { Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); });
+        QTest::newRow("resized") << Change([](Pipette*) {
+            Q_EMIT QGuiApplication::primaryScreen()->geometryChanged(QRect(0, 0, 640, 480));
+        });
+        QTest::newRow("scaled") << Change(
+            [](Pipette*) { Q_EMIT QGuiApplication::primaryScreen()->logicalDotsPerInchChanged(192.0); });
+    }
+
+    void changedScreensEndThePick()
+    {
+        QFETCH(std::function<void(Pipette*)>, change);
+        start();
+        change(m_pipette.get());
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(shownViews().isEmpty());
+        change(m_pipette.get());
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    }
+
+    void quittingEndsThePick()
+    {
+        start();
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(shownViews().isEmpty());
+    }
+
+    // An application that shows nothing else goes on after a pick.
+    void lastWindowIsNotTheOverlay()
+    {
+        m_window.reset();
+        QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
+        start();
+        m_pipette->stopPicking();
+        QCoreApplication::processEvents();
+        deleteDeferred();
+        QCOMPARE(lastClosed.count(), 0);
+    }
+
+    void modalDialogBlocksNothing()
+    {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.setGeometry(10, 10, 100, 100);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+    }
+
+    void lateEventsEndNothing()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        m_pipette->stopPicking();
+        m_protocol.lines.clear();
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        static_cast<QObject*>(view)->event(&escape);
+        Q_EMIT view->pickingFinished(QPoint(600, 500), true);
+        Q_EMIT view->loupePosChanged(QPoint(600, 500));
+        QCOMPARE(m_protocol.lines, QStringList());
+        // Nor does what is left of one pick end the next.
+        m_pipette->startPicking();
+        Q_EMIT view->pickingFinished(QPoint(600, 500), true);
+        QCOMPARE(m_protocol.lines, QStringList{started});
+    }
+
+    void loupeFollowsTheCursor_data()
+    {
+        QTest::addColumn<QPoint>("cursor");
+        QTest::addColumn<QPoint>("place");
+        const int side = loupeSize.width();
+        QTest::newRow("middle") << QPoint(400, 300) << QPoint(400, 300 - side);
+        QTest::newRow("left edge") << QPoint(0, 300) << QPoint(0, 300 - side);
+        QTest::newRow("bottom edge") << QPoint(400, 599) << QPoint(400, 599 - side);
+        QTest::newRow("within a loupe of the top") << QPoint(400, side - 1) << QPoint(400, side - 1);
+        QTest::newRow("a loupe below the top") << QPoint(400, side) << QPoint(400, 0);
+        QTest::newRow("within a loupe of the right edge")
+            << QPoint(800 - side, 300) << QPoint(800 - 2 * side, 300 - side);
+        QTest::newRow("a loupe from the right edge")
+            << QPoint(799 - side, 300) << QPoint(799 - side, 300 - side);
+        QTest::newRow("top right corner") << QPoint(799, 0) << QPoint(799 - side, 0);
+    }
+
+    void loupeFollowsTheCursor()
+    {
+        QFETCH(QPoint, cursor);
+        QFETCH(QPoint, place);
+        start();
+        QTest::mouseMove(shownViews().first()->windowHandle(), cursor);
+        QTRY_COMPARE(loupeItem()->pos(), QPointF(place));
+        LoupeWidget* const loupe = alive<LoupeWidget>().first();
+        QCOMPARE(loupe->size(), loupeSize);
+    }
+
+    void loupeIsPaintedOnceForAMove()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        auto* label = alive<LoupeWidget>().first()->findChild<QLabel*>();
+        PaintCount paints(alive<LoupeWidget>().first());
+        for (const QPoint& point : {QPoint(300, 200), QPoint(600, 500), QPoint(310, 210)}) {
+            paints.count = 0;
+            QTest::mouseMove(view->windowHandle(), point);
+            QTRY_COMPARE(label->text(), PixelWindow::pickedAt(point).name());
+            QTRY_VERIFY(paints.count > 0);
+            // Nor later, for the picture or the name alone.
+            for (int i = 0; i < 5; ++i) {
+                QCoreApplication::processEvents();
+            }
+            QCOMPARE(paints.count, 1);
+        }
+    }
+
+    void loupeShowsWhatItMagnifies()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        // Steps into the place where the loupe stands too.
+        for (const QPoint& point : {QPoint(100, 400), QPoint(130, 380), QPoint(180, 340), QPoint(183, 337),
+                                    QPoint(700, 90), QPoint(300, 500)}) {
+            QTest::mouseMove(view->windowHandle(), point);
+            QCursor::setPos(point);
+            LoupeWidget* const loupe = alive<LoupeWidget>().first();
+            auto* label = loupe->findChild<QLabel*>(QStringLiteral("colorNameLabel"));
+            QTRY_COMPARE(label->text(), PixelWindow::pickedAt(point).name());
+            QImage image(loupeSize, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            loupe->QWidget::render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+            const int zoom = loupeSize.width() / 13;
+            // The middle row, as far as the label's text is not upon it.
+            for (int x = 0; x < 13; ++x) {
+                for (const int y : {1, 11}) {
+                    const QPoint at(x * zoom + zoom / 2, y * zoom + zoom / 2);
+                    const QPoint fromMiddle = at - QPoint(loupeSize.width() / 2, loupeSize.height() / 2);
+                    if (QPoint::dotProduct(fromMiddle, fromMiddle) < 55 * 55) {
+                        QCOMPARE(image.pixelColor(at).name(),
+                                 PixelWindow::pixelAt(point + QPoint(x - 6, y - 6)).name());
+                    }
+                }
+            }
+        }
+    }
+
+    void everyMoveIsAnsweredAtOnce_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QTest::newRow("no sheet") << QString();
+        QTest::newRow("large") << qApp->styleSheet();
+        QTest::newRow("rim, name in a corner") << QStringLiteral(
+            "LoupeWidget { background: transparent; border: 6px solid #ff00ff; min-width: 105px;"
+            " max-width: 105px; min-height: 105px; max-height: 105px; }"
+            "LoupeWidget > #colorNameLabel { qproperty-alignment: \"AlignLeft | AlignBottom\"; }");
+    }
+
+    // Label and picture are read right after each move; what is painted in between does not matter.
+    void everyMoveIsAnsweredAtOnce()
+    {
+        QFETCH(QString, sheet);
+        constexpr int moves = 30;
+        const QString former = qApp->styleSheet();
+        qApp->setStyleSheet(sheet);
+        const auto restore = qScopeGuard([former] { qApp->setStyleSheet(former); });
+        start();
+        const QScreen* const screen = QGuiApplication::primaryScreen();
+        const QRect area = screen->geometry();
+        for (const int speed : {1, 10, 40}) {
+            for (const QPoint& direction : {QPoint(1, 0), QPoint(1, 1), QPoint(0, 1), QPoint(-1, 1),
+                                            QPoint(-1, 0), QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1)}) {
+                QPoint point = area.center() - direction * speed * moves / 2;
+                for (int i = 0; i < moves; ++i) {
+                    point += direction * speed;
+                    point = area.contains(point) ? point : area.center();
+                    PipetteWindows::move(screen, point);
+                    QCOMPARE(PipetteWindows::colorName(), PixelWindow::pickedAt(point).name());
+                    const QImage seen = PipetteWindows::magnified(screen);
+                    for (int y = 0; y < seen.height(); ++y) {
+                        for (int x = 0; x < seen.width(); ++x) {
+                            const QPoint at = point + QPoint(x - 6, y - 6);
+                            if (qAlpha(seen.pixel(x, y)) == 255 && area.contains(at)) {
+                                QCOMPARE(seen.pixel(x, y), PixelWindow::pixelAt(at).rgb());
+                            }
+                        }
+                    }
+                    QCoreApplication::processEvents();
+                }
+            }
+        }
+    }
+
+    void loupeOnNoScreenStays()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        QTest::mouseMove(view->windowHandle(), QPoint(400, 400));
+        QTRY_COMPARE(loupeItem()->pos().toPoint(), QPoint(400, 400 - loupeSize.height()));
+        Q_EMIT view->loupePosChanged(QPoint(-100, 4000));
+        QCOMPARE(loupeItem()->pos().toPoint(), QPoint(400, 400 - loupeSize.height()));
+    }
+
+    void loupeMayDie()
+    {
+        start();
+        PipetteScreenView* const view = shownViews().first();
+        delete alive<LoupeWidget>().first();
+        QTest::mouseMove(view->windowHandle(), QPoint(500, 400));
+        QCoreApplication::processEvents();
+        release(view, QPoint(600, 500));
+        QTRY_COMPARE(m_protocol.lines,
+                     (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+    }
+
+    void viewMayDie()
+    {
+        start();
+        delete shownViews().first();
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        m_pipette->stopPicking();
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+    }
+
+    void slotsOfSelectedMayEndThePick()
+    {
+        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(),
+                [this] { m_pipette->stopPicking(); });
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
+        QVERIFY(shownViews().isEmpty());
+    }
+
+    void slotsOfSelectedMayRestart()
+    {
+        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] {
+            m_pipette->stopPicking();
+            m_pipette->startPicking();
+        });
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        QCOMPARE(m_protocol.lines,
+                 (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped, started}));
+        QCOMPARE(shownViews().size(), 1);
+    }
+
+    // Without an end in between, it is part of the pick that is about to end.
+    void slotsOfSelectedMayStartASecond()
+    {
+        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(),
+                [this] { m_pipette->startPicking(); });
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        QCOMPARE(m_protocol.lines,
+                 (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), started, stopped}));
+        QVERIFY(shownViews().isEmpty());
+    }
+
+    void slotsOfStoppedMayRestart()
+    {
+        int left = 3;
+        connect(m_pipette.get(), &Pipette::pickingStopped, m_pipette.get(), [this, &left] {
+            if (--left > 0) {
+                m_pipette->startPicking();
+            }
+        });
+        start();
+        m_pipette->stopPicking();
+        QCOMPARE(shownViews().size(), 1);
+        QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
+        QCOMPARE(shownViews().size(), 1);
+        m_pipette->stopPicking();
+        QVERIFY(shownViews().isEmpty());
+        QCOMPARE(m_protocol.lines, (QStringList{started, stopped, started, stopped, started, stopped}));
+    }
+
+    // A listener after the one that restarts is given the colour all the same.
+    void colorOfARestartedPickIsReported()
+    {
+        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(),
+                [this] { m_pipette->startPicking(); });
+        QColor heard;
+        connect(m_pipette.get(), &Pipette::colorSelected, this,
+                [&heard](const QColor& color) { heard = color; });
+        start();
+        release(shownViews().first(), QPoint(600, 500));
+        QCOMPARE(heard, PixelWindow::pickedAt({600, 500}));
+    }
+
+    void pipetteMayDieInItsSlots_data()
+    {
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<Act>("act");
+        const auto key = [](int code) {
+            return Act(
+                [code](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key(code)); });
+        };
+        const Act click = [](PipetteScreenView* view) { release(view, QPoint(600, 500)); };
+        const Act leave = [](PipetteScreenView*) {
+            Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+        };
+        QTest::newRow("colorSelected, click") << QStringLiteral("selected") << click;
+        QTest::newRow("pickingStopped, click") << QStringLiteral("stopped") << click;
+        QTest::newRow("pickingStopped, Escape") << QStringLiteral("stopped") << key(Qt::Key_Escape);
+        QTest::newRow("pickingStopped, other key") << QStringLiteral("stopped") << key(Qt::Key_A);
+        QTest::newRow("pickingStopped, other application") << QStringLiteral("stopped") << leave;
+    }
+
+    void pipetteMayDieInItsSlots()
+    {
+        QFETCH(QString, signal);
+        QFETCH(Act, act);
+        for (const bool withParent : {false, true}) {
+            auto parent = std::make_unique<QObject>();
+            QPointer<Pipette> pipette = new Pipette(parent.get());
+            const auto die = [&parent, pipette, withParent] {
+                if (withParent) {
+                    parent.reset();
+                } else {
+                    delete pipette;
+                }
+            };
+            if (signal == QLatin1String("selected")) {
+                connect(pipette, &Pipette::colorSelected, this, die);
+            } else {
+                connect(pipette, &Pipette::pickingStopped, this, die);
+            }
+            pipette->startPicking();
+            PipetteScreenView* const view = shownViews().first();
+            QVERIFY(QTest::qWaitForWindowActive(view));
+            QCoreApplication::processEvents();
+            const FreedMemoryWatch watch;
+            act(view);
+            QTRY_VERIFY(!pipette);
+            QVERIFY(shownViews().isEmpty());
+            QVERIFY(nothingIsLeft());
+            QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+        }
+
+        // In the first signal of all.
+        auto* pipette = new Pipette;
+        connect(pipette, &Pipette::pickingStarted, this, [pipette] { delete pipette; });
+        pipette->startPicking();
+        QVERIFY(nothingIsLeft());
+    }
+
+    void pipetteMayDieWhilePicking()
+    {
+        start();
+        m_protocol.lines.clear();
+        m_pipette.reset();
+        // At once, and in silence.
+        QVERIFY(alive<PipetteScreenView>().isEmpty());
+        QVERIFY(alive<LoupeWidget>().isEmpty());
+        QCOMPARE(m_protocol.lines, QStringList());
+
+        // With two sets.
+        m_pipette = std::make_unique<Pipette>();
+        m_pipette->startPicking();
+        m_pipette->startPicking();
+        m_pipette.reset();
+        QVERIFY(alive<PipetteScreenView>().isEmpty());
+        QVERIFY(alive<LoupeWidget>().isEmpty());
+    }
+
+    // What loses the focus to a view hears of it while Qt is about to go on with the view.
+    void pipetteMayDieWhileAViewIsActivated()
+    {
+        QLineEdit edit;
+        edit.show();
+        QVERIFY(QTest::qWaitForWindowActive(&edit));
+        QTest::keyClick(&edit, Qt::Key_A);
+        QPointer<Pipette> pipette = new Pipette;
+        connect(&edit, &QLineEdit::editingFinished, this, [pipette] { delete pipette; });
+        pipette->startPicking();
         const FreedMemoryWatch watch;
-        act(view);
         QTRY_VERIFY(!pipette);
         QVERIFY(shownViews().isEmpty());
         QVERIFY(nothingIsLeft());
         QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
 
-    // In the first signal of all.
-    auto* pipette = new Pipette;
-    connect(pipette, &Pipette::pickingStarted, this, [pipette] { delete pipette; });
-    pipette->startPicking();
-    QVERIFY(nothingIsLeft());
-}
-
-void tst_Pipette::pipetteMayDieWhilePicking()
-{
-    start();
-    m_protocol.lines.clear();
-    m_pipette.reset();
-    // At once, and in silence.
-    QVERIFY(alive<PipetteScreenView>().isEmpty());
-    QVERIFY(alive<LoupeWidget>().isEmpty());
-    QCOMPARE(m_protocol.lines, QStringList());
-
-    // With two sets.
-    m_pipette = std::make_unique<Pipette>();
-    m_pipette->startPicking();
-    m_pipette->startPicking();
-    m_pipette.reset();
-    QVERIFY(alive<PipetteScreenView>().isEmpty());
-    QVERIFY(alive<LoupeWidget>().isEmpty());
-}
-
-// What loses the focus to a view hears of it while Qt is about to go on with the view.
-void tst_Pipette::pipetteMayDieWhileAViewIsActivated()
-{
-    QLineEdit edit;
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowActive(&edit));
-    QTest::keyClick(&edit, Qt::Key_A);
-    QPointer<Pipette> pipette = new Pipette;
-    connect(&edit, &QLineEdit::editingFinished, this, [pipette] { delete pipette; });
-    pipette->startPicking();
-    const FreedMemoryWatch watch;
-    QTRY_VERIFY(!pipette);
-    QVERIFY(shownViews().isEmpty());
-    QVERIFY(nothingIsLeft());
-    QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-}
-
-void tst_Pipette::windowOfThePipetteMayDie()
-{
-    auto* window = new QWidget;
-    auto* pipette = new Pipette(window);
-    m_protocol.watch(pipette);
-    pipette->startPicking();
-    m_protocol.lines.clear();
-    delete window;
-    QCOMPARE(m_protocol.lines, QStringList());
-    QVERIFY(nothingIsLeft());
-}
-
-// Real handlers of Qt's run on after the pipette has deleted the view that they work for.
-void tst_Pipette::handlersOutliveThePipette()
-{
-    for (const QPoint& point : {QPoint(600, 500), QPoint(0, 0), QPoint(799, 599)}) {
-        auto* pipette = new Pipette;
-        bool isOver = false;
-        connect(pipette, &Pipette::colorSelected, this, [pipette, &isOver] {
-            isOver = true;
-            delete pipette;
-        });
+    void windowOfThePipetteMayDie()
+    {
+        auto* window = new QWidget;
+        auto* pipette = new Pipette(window);
+        m_protocol.watch(pipette);
         pipette->startPicking();
-        PipetteScreenView* const view = shownViews().first();
-        QVERIFY(QTest::qWaitForWindowActive(view));
-        QTest::mouseMove(view->windowHandle(), point);
-        QCoreApplication::processEvents();
-        const FreedMemoryWatch watch;
-        QTest::mousePress(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
-        QTest::mouseRelease(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
-        QTRY_VERIFY(isOver);
-        QCoreApplication::processEvents();
+        m_protocol.lines.clear();
+        delete window;
+        QCOMPARE(m_protocol.lines, QStringList());
         QVERIFY(nothingIsLeft());
-        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
-}
 
-// It dies after everything that QGuiApplication gives: in a process of its own, whose last words are read.
-void tst_Pipette::pipetteMayBeTheApplicationsChild()
-{
-    if (qEnvironmentVariableIsSet("UIC_APPLICATIONS_PIPETTE")) {
-        new Pipette(qApp);
-        return;
+    // Real handlers of Qt's run on after the pipette has deleted the view that they work for.
+    void handlersOutliveThePipette()
+    {
+        for (const QPoint& point : {QPoint(600, 500), QPoint(0, 0), QPoint(799, 599)}) {
+            auto* pipette = new Pipette;
+            bool isOver = false;
+            connect(pipette, &Pipette::colorSelected, this, [pipette, &isOver] {
+                isOver = true;
+                delete pipette;
+            });
+            pipette->startPicking();
+            PipetteScreenView* const view = shownViews().first();
+            QVERIFY(QTest::qWaitForWindowActive(view));
+            QTest::mouseMove(view->windowHandle(), point);
+            QCoreApplication::processEvents();
+            const FreedMemoryWatch watch;
+            QTest::mousePress(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+            QTest::mouseRelease(view->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+            QTRY_VERIFY(isOver);
+            QCoreApplication::processEvents();
+            QVERIFY(nothingIsLeft());
+            QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+        }
     }
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("UIC_APPLICATIONS_PIPETTE"), QStringLiteral("1"));
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("Pipette"), QStringLiteral("pipetteMayBeTheApplicationsChild")});
-    QVERIFY(process.waitForFinished());
-    const QByteArray words = process.readAll();
-    QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0, words.constData());
-    QVERIFY2(!words.contains("nullptr"), words.constData());
-}
+
+    // It dies after everything that QGuiApplication gives: in a process of its own, whose last words are
+    // read.
+    void pipetteMayBeTheApplicationsChild()
+    {
+        if (qEnvironmentVariableIsSet("UIC_APPLICATIONS_PIPETTE")) {
+            new Pipette(qApp);
+            return;
+        }
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("UIC_APPLICATIONS_PIPETTE"), QStringLiteral("1"));
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("Pipette"), QStringLiteral("pipetteMayBeTheApplicationsChild")});
+        QVERIFY(process.waitForFinished());
+        const QByteArray words = process.readAll();
+        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0, words.constData());
+        QVERIFY2(!words.contains("nullptr"), words.constData());
+    }
+
+private:
+    /// Starts a pick and waits until it is on the screen.
+    void start()
+    {
+        m_pipette->startPicking();
+        const auto views = shownViews();
+        QVERIFY(!views.isEmpty());
+        QVERIFY(QTest::qWaitForWindowExposed(views.last()));
+        QVERIFY(QTest::qWaitForWindowActive(views.last()));
+        QCoreApplication::processEvents();
+    }
+
+    std::unique_ptr<PixelWindow> m_window;
+    std::unique_ptr<Pipette> m_pipette;
+    Protocol m_protocol;
+};
 
 UIC_TEST_MAIN(tst_Pipette)
 #include "tst_Pipette.moc"

@@ -103,32 +103,287 @@ class tst_PlaneDrag : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
-    void init();
-    void cleanup();
+    void initTestCase_data()
+    {
+        QTest::addColumn<Plane::Kind>("kind");
+        QTest::newRow("colors") << Plane::Kind::Colors;
+        QTest::newRow("points") << Plane::Kind::Points;
+    }
 
-    void clickWithoutMoving();
-    void dragReportsEachPixel();
-    void dragLeavesTheWindow_data();
-    void dragLeavesTheWindow();
-    void dragStaysOnTheClampedPixel();
-    void releaseReportsAgain();
-    void releaseElsewhereMovesTheMarker();
-    void eventsWithoutAPress();
-    void releaseAfterAPressElsewhere();
-    void otherButtons();
-    void secondButtonWhileDragging();
-    void doubleClickIsAPress();
-    void hiddenDuringADrag();
-    void disabledDuringADrag();
-    void deletedDuringADrag();
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_plane = makePlane(m_window.get());
+        m_widget = m_plane->widget;
+    }
 
-    void arrowKeys_data();
-    void arrowKeys();
-    void otherKeysAreLeft();
+    void cleanup()
+    {
+        m_plane.reset();
+        m_window.reset();
+        QVERIFY(!QWidget::mouseGrabber());
+    }
 
-    void deletedInItsSignal_data();
-    void deletedInItsSignal();
+    void clickWithoutMoving()
+    {
+        press(*m_widget, {40, 25});
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(40, 25)});
+        QCOMPARE(QWidget::mouseGrabber(), m_widget);
+        release(*m_widget, {40, 25});
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(40, 25)});
+        QVERIFY(!QWidget::mouseGrabber());
+        QCOMPARE(m_plane->value(), m_plane->at(40, 25));
+    }
+
+    void dragReportsEachPixel()
+    {
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        press(*m_widget, {10, 10});
+        drag(*m_widget, {11, 10});
+        QCOMPARE(paintsOf(*m_widget, [&] { drag(*m_widget, {11, 10}); }), 0);
+        QCOMPARE(paintsOf(*m_widget, [&] { drag(*m_widget, {30, 40}); }), 1);
+        release(*m_widget, {30, 40});
+        QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(10, 10), m_plane->at(11, 10),
+                                                   m_plane->at(30, 40), m_plane->at(30, 40)}));
+    }
+
+    void dragLeavesTheWindow_data()
+    {
+        QTest::addColumn<QPoint>("to");
+        QTest::addColumn<QPoint>("pinned");
+        QTest::newRow("left") << QPoint(-40, 20) << QPoint(0, 20);
+        QTest::newRow("right") << QPoint(101, 20) << QPoint(100, 20);
+        QTest::newRow("above") << QPoint(20, -1) << QPoint(20, 0);
+        QTest::newRow("below") << QPoint(20, 51) << QPoint(20, 50);
+        QTest::newRow("far off a corner") << QPoint(100000, -100000) << QPoint(100, 0);
+    }
+
+    void dragLeavesTheWindow()
+    {
+        QFETCH(QPoint, to);
+        QFETCH(QPoint, pinned);
+        press(*m_widget, {20, 20});
+        m_plane->reports();
+        drag(*m_widget, to);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(pinned.x(), pinned.y())});
+        release(*m_widget, to);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(pinned.x(), pinned.y())});
+        QVERIFY(!QWidget::mouseGrabber());
+    }
+
+    void dragStaysOnTheClampedPixel()
+    {
+        press(*m_widget, {100, 20});
+        drag(*m_widget, {101, 20});
+        drag(*m_widget, {5000, 20});
+        QCOMPARE(m_plane->reports().size(), 1);
+        drag(*m_widget, {5000, 21});
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(100, 21)});
+        release(*m_widget, {5000, 21});
+    }
+
+    void releaseReportsAgain()
+    {
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        press(*m_widget, {20, 20});
+        drag(*m_widget, {30, 20});
+        m_plane->reports();
+        QCOMPARE(paintsOf(*m_widget, [&] { release(*m_widget, {30, 20}); }), 1);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(30, 20)});
+    }
+
+    void releaseElsewhereMovesTheMarker()
+    {
+        press(*m_widget, {1, 1});
+        release(*m_widget, {-5, 70});
+        QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(1, 1), m_plane->at(0, 50)}));
+        QCOMPARE(m_plane->value(), m_plane->at(0, 50));
+    }
+
+    void eventsWithoutAPress()
+    {
+        m_widget->setMouseTracking(true);
+        m_plane->placeMarker(60, 20);
+        const QVariant before = m_plane->value();
+        drag(*m_widget, {20, 20});
+        QCOMPARE(m_plane->value(), before);
+        release(*m_widget, {20, 20});
+        QCOMPARE(m_plane->value(), before);
+        QCOMPARE(m_plane->reports(), QVariantList());
+    }
+
+    void releaseAfterAPressElsewhere()
+    {
+        const auto other = makePlane(m_window.get());
+        press(*m_widget, {20, 20});
+        drag(*other->widget, {30, 30});
+        release(*other->widget, {30, 30});
+        QCOMPARE(other->reports(), QVariantList());
+        QCOMPARE(QWidget::mouseGrabber(), m_widget);
+        release(*m_widget, {20, 20});
+        QCOMPARE(m_plane->reports().size(), 2);
+    }
+
+    void otherButtons()
+    {
+        const QVariant before = m_plane->value();
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+            press(*m_widget, {20, 20}, button);
+            QVERIFY(!QWidget::mouseGrabber());
+            drag(*m_widget, {30, 30});
+            release(*m_widget, {30, 30}, button);
+        }
+        QCOMPARE(m_plane->reports(), QVariantList());
+        QCOMPARE(m_plane->value(), before);
+    }
+
+    void secondButtonWhileDragging()
+    {
+        press(*m_widget, {20, 20});
+        press(*m_widget, {25, 25}, Qt::RightButton);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(20, 20)});
+        release(*m_widget, {26, 26}, Qt::RightButton);
+        QCOMPARE(m_plane->reports(), QVariantList());
+        QCOMPARE(QWidget::mouseGrabber(), m_widget);
+        drag(*m_widget, {30, 30});
+        release(*m_widget, {30, 30});
+        QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(30, 30), m_plane->at(30, 30)}));
+    }
+
+    void doubleClickIsAPress()
+    {
+        sendMouse(*m_widget, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(20, 20)});
+        QCOMPARE(QWidget::mouseGrabber(), m_widget);
+        release(*m_widget, {20, 20});
+    }
+
+    // Qt leaves the grab with a hidden widget, which then swallows every click of the application.
+    void hiddenDuringADrag()
+    {
+        m_window->show();
+        press(*m_widget, {20, 20});
+        m_plane->reports();
+        m_window->hide();
+        QVERIFY(!QWidget::mouseGrabber());
+        drag(*m_widget, {30, 30});
+        release(*m_widget, {30, 30});
+        QCOMPARE(m_plane->reports(), QVariantList());
+        QCOMPARE(m_plane->value(), m_plane->at(20, 20));
+    }
+
+    void disabledDuringADrag()
+    {
+        press(*m_widget, {20, 20});
+        m_window->setEnabled(false);
+        QVERIFY(!QWidget::mouseGrabber());
+        m_plane->reports();
+        press(*m_widget, {30, 30});
+        QCOMPARE(m_plane->reports(), QVariantList());
+        QVERIFY(!QWidget::mouseGrabber());
+    }
+
+    void deletedDuringADrag()
+    {
+        m_window->show();
+        press(*m_widget, {20, 20});
+        QCOMPARE(QWidget::mouseGrabber(), m_widget);
+        delete m_widget;
+        QVERIFY(!QWidget::mouseGrabber());
+    }
+
+    void arrowKeys_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<bool>("shift");
+        QTest::addColumn<QPoint>("pixel");
+        QTest::newRow("left") << Qt::Key_Left << false << QPoint(49, 25);
+        QTest::newRow("right") << Qt::Key_Right << false << QPoint(51, 25);
+        QTest::newRow("up") << Qt::Key_Up << false << QPoint(50, 24);
+        QTest::newRow("down") << Qt::Key_Down << false << QPoint(50, 26);
+        QTest::newRow("left, far") << Qt::Key_Left << true << QPoint(40, 25);
+        QTest::newRow("down, far") << Qt::Key_Down << true << QPoint(50, 35);
+    }
+
+    void arrowKeys()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(bool, shift);
+        QFETCH(QPoint, pixel);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_plane->placeMarker(50, 25);
+        QCOMPARE(m_plane->reports(), QVariantList());
+        QCoreApplication::processEvents();
+        const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
+        QCOMPARE(paintsOf(*m_widget, [&] { QTest::keyClick(m_widget, key, modifiers); }), 1);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(pixel.x(), pixel.y())});
+        QCOMPARE(m_plane->value(), m_plane->at(pixel.x(), pixel.y()));
+        for (int i = 0; i < 200; ++i) {
+            QTest::keyClick(m_widget, key, modifiers);
+        }
+        // As many as there were pixels left, and none at the edge.
+        const int room = pixel.y() == 25 ? 50 : 25;
+        const int step = shift ? 10 : 1;
+        QCOMPARE(m_plane->reports().size(), (room + step - 1) / step - 1);
+        QVERIFY(!QWidget::mouseGrabber());
+    }
+
+    // Of a plane that is its own window, which has nowhere to go by Tab.
+    void otherKeysAreLeft()
+    {
+        const auto plane = makePlane(nullptr);
+        plane->placeMarker(50, 25);
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A, Qt::Key_Tab}) {
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(plane->widget, &event);
+            QVERIFY(!event.isAccepted());
+        }
+        QCOMPARE(plane->reports(), QVariantList());
+    }
+
+    void deletedInItsSignal_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<bool>("withParent");
+        for (const char* action : {"press", "move", "release", "double click", "key"}) {
+            QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
+            QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
+        }
+    }
+
+    void deletedInItsSignal()
+    {
+        QFETCH(QString, action);
+        QFETCH(bool, withParent);
+        const FreedMemoryWatch watch;
+        const QPointer<QWidget> parent = new QWidget;
+        const auto plane = makePlane(withParent ? parent.data() : nullptr);
+        plane->widget->window()->show();
+        plane->placeMarker(50, 25);
+        if (action == QLatin1String("move") || action == QLatin1String("release")) {
+            press(*plane->widget, {20, 20});
+        }
+        plane->doomed = plane->widget->window();
+        if (action == QLatin1String("press")) {
+            QTest::mousePress(plane->widget, Qt::LeftButton, Qt::NoModifier, {20, 20});
+        } else if (action == QLatin1String("move")) {
+            drag(*plane->widget, {30, 20});
+        } else if (action == QLatin1String("release")) {
+            release(*plane->widget, {20, 20});
+        } else if (action == QLatin1String("double click")) {
+            sendMouse(*plane->widget, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+        } else {
+            QTest::keyPress(plane->widget, Qt::Key_Left);
+        }
+        QVERIFY(!plane->widget);
+        QVERIFY(!QWidget::mouseGrabber());
+        QVERIFY(watch.deleted() > 0);
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+        delete parent;
+    }
 
 private:
     static std::unique_ptr<Plane> makePlane(QWidget* parent)
@@ -141,288 +396,6 @@ private:
     std::unique_ptr<Plane> m_plane;
     QWidget* m_widget = nullptr;
 };
-
-void tst_PlaneDrag::initTestCase_data()
-{
-    QTest::addColumn<Plane::Kind>("kind");
-    QTest::newRow("colors") << Plane::Kind::Colors;
-    QTest::newRow("points") << Plane::Kind::Points;
-}
-
-void tst_PlaneDrag::init()
-{
-    m_window = std::make_unique<QWidget>();
-    m_plane = makePlane(m_window.get());
-    m_widget = m_plane->widget;
-}
-
-void tst_PlaneDrag::cleanup()
-{
-    m_plane.reset();
-    m_window.reset();
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PlaneDrag::clickWithoutMoving()
-{
-    press(*m_widget, {40, 25});
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(40, 25)});
-    QCOMPARE(QWidget::mouseGrabber(), m_widget);
-    release(*m_widget, {40, 25});
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(40, 25)});
-    QVERIFY(!QWidget::mouseGrabber());
-    QCOMPARE(m_plane->value(), m_plane->at(40, 25));
-}
-
-void tst_PlaneDrag::dragReportsEachPixel()
-{
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    press(*m_widget, {10, 10});
-    drag(*m_widget, {11, 10});
-    QCOMPARE(paintsOf(*m_widget, [&] { drag(*m_widget, {11, 10}); }), 0);
-    QCOMPARE(paintsOf(*m_widget, [&] { drag(*m_widget, {30, 40}); }), 1);
-    release(*m_widget, {30, 40});
-    QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(10, 10), m_plane->at(11, 10), m_plane->at(30, 40),
-                                               m_plane->at(30, 40)}));
-}
-
-void tst_PlaneDrag::dragLeavesTheWindow_data()
-{
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QPoint>("pinned");
-    QTest::newRow("left") << QPoint(-40, 20) << QPoint(0, 20);
-    QTest::newRow("right") << QPoint(101, 20) << QPoint(100, 20);
-    QTest::newRow("above") << QPoint(20, -1) << QPoint(20, 0);
-    QTest::newRow("below") << QPoint(20, 51) << QPoint(20, 50);
-    QTest::newRow("far off a corner") << QPoint(100000, -100000) << QPoint(100, 0);
-}
-
-void tst_PlaneDrag::dragLeavesTheWindow()
-{
-    QFETCH(QPoint, to);
-    QFETCH(QPoint, pinned);
-    press(*m_widget, {20, 20});
-    m_plane->reports();
-    drag(*m_widget, to);
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(pinned.x(), pinned.y())});
-    release(*m_widget, to);
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(pinned.x(), pinned.y())});
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PlaneDrag::dragStaysOnTheClampedPixel()
-{
-    press(*m_widget, {100, 20});
-    drag(*m_widget, {101, 20});
-    drag(*m_widget, {5000, 20});
-    QCOMPARE(m_plane->reports().size(), 1);
-    drag(*m_widget, {5000, 21});
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(100, 21)});
-    release(*m_widget, {5000, 21});
-}
-
-void tst_PlaneDrag::releaseReportsAgain()
-{
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    press(*m_widget, {20, 20});
-    drag(*m_widget, {30, 20});
-    m_plane->reports();
-    QCOMPARE(paintsOf(*m_widget, [&] { release(*m_widget, {30, 20}); }), 1);
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(30, 20)});
-}
-
-void tst_PlaneDrag::releaseElsewhereMovesTheMarker()
-{
-    press(*m_widget, {1, 1});
-    release(*m_widget, {-5, 70});
-    QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(1, 1), m_plane->at(0, 50)}));
-    QCOMPARE(m_plane->value(), m_plane->at(0, 50));
-}
-
-void tst_PlaneDrag::eventsWithoutAPress()
-{
-    m_widget->setMouseTracking(true);
-    m_plane->placeMarker(60, 20);
-    const QVariant before = m_plane->value();
-    drag(*m_widget, {20, 20});
-    QCOMPARE(m_plane->value(), before);
-    release(*m_widget, {20, 20});
-    QCOMPARE(m_plane->value(), before);
-    QCOMPARE(m_plane->reports(), QVariantList());
-}
-
-void tst_PlaneDrag::releaseAfterAPressElsewhere()
-{
-    const auto other = makePlane(m_window.get());
-    press(*m_widget, {20, 20});
-    drag(*other->widget, {30, 30});
-    release(*other->widget, {30, 30});
-    QCOMPARE(other->reports(), QVariantList());
-    QCOMPARE(QWidget::mouseGrabber(), m_widget);
-    release(*m_widget, {20, 20});
-    QCOMPARE(m_plane->reports().size(), 2);
-}
-
-void tst_PlaneDrag::otherButtons()
-{
-    const QVariant before = m_plane->value();
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
-        press(*m_widget, {20, 20}, button);
-        QVERIFY(!QWidget::mouseGrabber());
-        drag(*m_widget, {30, 30});
-        release(*m_widget, {30, 30}, button);
-    }
-    QCOMPARE(m_plane->reports(), QVariantList());
-    QCOMPARE(m_plane->value(), before);
-}
-
-void tst_PlaneDrag::secondButtonWhileDragging()
-{
-    press(*m_widget, {20, 20});
-    press(*m_widget, {25, 25}, Qt::RightButton);
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(20, 20)});
-    release(*m_widget, {26, 26}, Qt::RightButton);
-    QCOMPARE(m_plane->reports(), QVariantList());
-    QCOMPARE(QWidget::mouseGrabber(), m_widget);
-    drag(*m_widget, {30, 30});
-    release(*m_widget, {30, 30});
-    QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(30, 30), m_plane->at(30, 30)}));
-}
-
-void tst_PlaneDrag::doubleClickIsAPress()
-{
-    sendMouse(*m_widget, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(20, 20)});
-    QCOMPARE(QWidget::mouseGrabber(), m_widget);
-    release(*m_widget, {20, 20});
-}
-
-// Qt leaves the grab with a hidden widget, which then swallows every click of the application.
-void tst_PlaneDrag::hiddenDuringADrag()
-{
-    m_window->show();
-    press(*m_widget, {20, 20});
-    m_plane->reports();
-    m_window->hide();
-    QVERIFY(!QWidget::mouseGrabber());
-    drag(*m_widget, {30, 30});
-    release(*m_widget, {30, 30});
-    QCOMPARE(m_plane->reports(), QVariantList());
-    QCOMPARE(m_plane->value(), m_plane->at(20, 20));
-}
-
-void tst_PlaneDrag::disabledDuringADrag()
-{
-    press(*m_widget, {20, 20});
-    m_window->setEnabled(false);
-    QVERIFY(!QWidget::mouseGrabber());
-    m_plane->reports();
-    press(*m_widget, {30, 30});
-    QCOMPARE(m_plane->reports(), QVariantList());
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PlaneDrag::deletedDuringADrag()
-{
-    m_window->show();
-    press(*m_widget, {20, 20});
-    QCOMPARE(QWidget::mouseGrabber(), m_widget);
-    delete m_widget;
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PlaneDrag::arrowKeys_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<bool>("shift");
-    QTest::addColumn<QPoint>("pixel");
-    QTest::newRow("left") << Qt::Key_Left << false << QPoint(49, 25);
-    QTest::newRow("right") << Qt::Key_Right << false << QPoint(51, 25);
-    QTest::newRow("up") << Qt::Key_Up << false << QPoint(50, 24);
-    QTest::newRow("down") << Qt::Key_Down << false << QPoint(50, 26);
-    QTest::newRow("left, far") << Qt::Key_Left << true << QPoint(40, 25);
-    QTest::newRow("down, far") << Qt::Key_Down << true << QPoint(50, 35);
-}
-
-void tst_PlaneDrag::arrowKeys()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(bool, shift);
-    QFETCH(QPoint, pixel);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    m_plane->placeMarker(50, 25);
-    QCOMPARE(m_plane->reports(), QVariantList());
-    QCoreApplication::processEvents();
-    const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
-    QCOMPARE(paintsOf(*m_widget, [&] { QTest::keyClick(m_widget, key, modifiers); }), 1);
-    QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(pixel.x(), pixel.y())});
-    QCOMPARE(m_plane->value(), m_plane->at(pixel.x(), pixel.y()));
-    for (int i = 0; i < 200; ++i) {
-        QTest::keyClick(m_widget, key, modifiers);
-    }
-    // As many as there were pixels left, and none at the edge.
-    const int room = pixel.y() == 25 ? 50 : 25;
-    const int step = shift ? 10 : 1;
-    QCOMPARE(m_plane->reports().size(), (room + step - 1) / step - 1);
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-// Of a plane that is its own window, which has nowhere to go by Tab.
-void tst_PlaneDrag::otherKeysAreLeft()
-{
-    const auto plane = makePlane(nullptr);
-    plane->placeMarker(50, 25);
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A, Qt::Key_Tab}) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QCoreApplication::sendEvent(plane->widget, &event);
-        QVERIFY(!event.isAccepted());
-    }
-    QCOMPARE(plane->reports(), QVariantList());
-}
-
-void tst_PlaneDrag::deletedInItsSignal_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<bool>("withParent");
-    for (const char* action : {"press", "move", "release", "double click", "key"}) {
-        QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
-        QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
-    }
-}
-
-void tst_PlaneDrag::deletedInItsSignal()
-{
-    QFETCH(QString, action);
-    QFETCH(bool, withParent);
-    const FreedMemoryWatch watch;
-    const QPointer<QWidget> parent = new QWidget;
-    const auto plane = makePlane(withParent ? parent.data() : nullptr);
-    plane->widget->window()->show();
-    plane->placeMarker(50, 25);
-    if (action == QLatin1String("move") || action == QLatin1String("release")) {
-        press(*plane->widget, {20, 20});
-    }
-    plane->doomed = plane->widget->window();
-    if (action == QLatin1String("press")) {
-        QTest::mousePress(plane->widget, Qt::LeftButton, Qt::NoModifier, {20, 20});
-    } else if (action == QLatin1String("move")) {
-        drag(*plane->widget, {30, 20});
-    } else if (action == QLatin1String("release")) {
-        release(*plane->widget, {20, 20});
-    } else if (action == QLatin1String("double click")) {
-        sendMouse(*plane->widget, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
-    } else {
-        QTest::keyPress(plane->widget, Qt::Key_Left);
-    }
-    QVERIFY(!plane->widget);
-    QVERIFY(!QWidget::mouseGrabber());
-    QVERIFY(watch.deleted() > 0);
-    QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-    delete parent;
-}
 
 UIC_TEST_MAIN(tst_PlaneDrag)
 #include "tst_PlaneDrag.moc"

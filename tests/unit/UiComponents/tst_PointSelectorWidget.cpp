@@ -76,855 +76,791 @@ class tst_PointSelectorWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() { QVERIFY(!QWidget::mouseGrabber()); }
 
-    void metaObject();
-    void initializer();
-    void setRange_data();
-    void setRange();
-    void construction();
-    void layouts_data();
-    void layouts();
-    void spinBoxes();
-    void constructionIsSilent();
-    void startsInStep();
-
-    void clickReportsThreeTimes();
-    void clickThatChangesOneCoordinate();
-    void clickOnThePresentPoint();
-    void dragAndRelease();
-    void planeKey();
-    void clickBetweenTheDecimals();
-    void clickOutsideTheSpinBoxesRange();
-    void pressOutsideThePlane();
-
-    void setValueReportsEachCoordinate();
-    void setValueOfThePresentValue();
-    void setValueIsClamped_data();
-    void setValueIsClamped();
-    void setValueIsRounded();
-    void setValueIgnoresNaN_data();
-    void setValueIgnoresNaN();
-
-    void spinBoxChangesReachThePlane();
-    void typingIsNotRewritten();
-    void eitherMarkIsTyped();
-    void stepsAreExact();
-    void wheelNeedsFocus();
-    void planeIsSetWhileReporting();
-
-    void reversedRange();
-    void oddRanges_data();
-    void oddRanges();
-    void oddDecimals_data();
-    void oddDecimals();
-    void planeOfOnePixel();
-    void planeReportsForItself();
-    void randomWalk_data();
-    void randomWalk();
-
-    void slotSetsAnotherValue_data();
-    void slotSetsAnotherValue();
-    void slotKeepsSettingOtherValues();
-    void deletedInItsSignal_data();
-    void deletedInItsSignal();
-    void deletedBetweenTheCoordinates();
-    void destroyedWhileTyping_data();
-    void destroyedWhileTyping();
-
-    void languageChange();
-    void labelsAreEmpty();
-    void tabOrder();
-    void disabled();
-    void rightToLeft();
-};
-
-void tst_PointSelectorWidget::cleanup()
-{
-    QVERIFY(!QWidget::mouseGrabber());
-}
-
-void tst_PointSelectorWidget::setRange_data()
-{
-    using Range = PointSelectorWidget::Initializer;
-    QTest::addColumn<Range>("range");
-    QTest::addColumn<QPointF>("expected");
-    QTest::newRow("the same") << hundreds << QPointF(25.5, 75.0);
-    QTest::newRow("wider") << Range{{-500.0, -500.0}, {500.0, 500.0}, 1, 1} << QPointF(25.5, 75.0);
-    QTest::newRow("fewer decimals") << Range{{0.0, 0.0}, {100.0, 100.0}, 0, 0} << QPointF(26.0, 75.0);
-    QTest::newRow("below the value") << Range{{0.0, 0.0}, {10.0, 20.0}, 1, 1} << QPointF(10.0, 20.0);
-    QTest::newRow("above the value") << Range{{200.0, 0.0}, {300.0, 100.0}, 1, 1} << QPointF(200.0, 75.0);
-    QTest::newRow("inverted") << Range{{0.0, 100.0}, {100.0, 0.0}, 1, 1} << QPointF(25.5, 100.0);
-    QTest::newRow("without ends") << Range{{noNumber, -infinite}, {noNumber, infinite}, 1, 1}
-                                  << QPointF(25.5, 75.0);
-}
-
-void tst_PointSelectorWidget::setRange()
-{
-    QFETCH(PointSelectorWidget::Initializer, range);
-    QFETCH(QPointF, expected);
-    Field field;
-    field.setValue({25.5, 75.0});
-    QCOMPARE(field.value(), QPointF(25.5, 75.0));
-    field.reports();
-    field.setRange(range);
-    const Field made(range);
-    for (const auto& [box, other] : {std::pair(field.x, made.x), std::pair(field.y, made.y)}) {
-        QCOMPARE(box->minimum(), other->minimum());
-        QCOMPARE(box->maximum(), other->maximum());
-        QCOMPARE(box->decimals(), other->decimals());
-        QCOMPARE(box->singleStep(), other->singleStep());
+    void metaObject()
+    {
+        const QMetaObject& meta = PointSelectorWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("PointSelectorWidget"));
+        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal valueChanged(QPointF)")}));
+        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
+        QCOMPARE(ownProperties(meta), QStringList());
     }
-    QCOMPARE(field.value(), expected);
-    QCOMPARE(field.plane->point(), expected);
-    QCOMPARE(field.reports(), expected == QPointF(25.5, 75.0) ? Points() : Points{expected});
-    // The plane has the new scale.
-    QTest::mousePress(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
-    if (qIsFinite(range.maximum.x()) && qIsFinite(range.maximum.y())) {
-        QCOMPARE(field.plane->point(), range.maximum);
+
+    void initializer()
+    {
+        const auto [minimum, maximum, xDecimals, yDecimals] =
+            PointSelectorWidget::Initializer{{-1.0, -2.0}, {3.0, 4.0}, 5, 6};
+        QCOMPARE(minimum, QPointF(-1.0, -2.0));
+        QCOMPARE(maximum, QPointF(3.0, 4.0));
+        QCOMPARE(xDecimals, 5);
+        QCOMPARE(yDecimals, 6);
     }
-    QTest::mouseRelease(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
-}
 
-void tst_PointSelectorWidget::metaObject()
-{
-    const QMetaObject& meta = PointSelectorWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("PointSelectorWidget"));
-    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal valueChanged(QPointF)")}));
-    QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
-    QCOMPARE(ownProperties(meta), QStringList());
-}
-
-void tst_PointSelectorWidget::initializer()
-{
-    const auto [minimum, maximum, xDecimals, yDecimals] =
-        PointSelectorWidget::Initializer{{-1.0, -2.0}, {3.0, 4.0}, 5, 6};
-    QCOMPARE(minimum, QPointF(-1.0, -2.0));
-    QCOMPARE(maximum, QPointF(3.0, 4.0));
-    QCOMPARE(xDecimals, 5);
-    QCOMPARE(yDecimals, 6);
-}
-
-void tst_PointSelectorWidget::construction()
-{
-    QWidget parent;
-    auto* field = new PointSelectorWidget(&parent, hundreds);
-    QCOMPARE(field->parentWidget(), &parent);
-    const auto* spinBoxFrame = partOf<OvFrame>(*field, "spinBoxFrame");
-    const auto* pointSelectorFrame = partOf<OvFrame>(*field, "pointSelectorFrame");
-    const auto* xSpinboxFrame = partOf<OvFrame>(*field, "xSpinboxFrame");
-    const auto* ySpinboxFrame = partOf<OvFrame>(*field, "ySpinboxFrame");
-    QCOMPARE(spinBoxFrame->parentWidget(), field);
-    QCOMPARE(pointSelectorFrame->parentWidget(), field);
-    QCOMPARE(xSpinboxFrame->parentWidget(), spinBoxFrame);
-    QCOMPARE(ySpinboxFrame->parentWidget(), spinBoxFrame);
-    QCOMPARE(partOf<PointSelectionPlane>(*field, "pointSelector")->parentWidget(), pointSelectorFrame);
-    QCOMPARE(partOf<QLabel>(*field, "xLabel")->parentWidget(), xSpinboxFrame);
-    QCOMPARE(partOf<OvDoubleSpinBox>(*field, "xSpinbox")->parentWidget(), xSpinboxFrame);
-    QCOMPARE(partOf<QLabel>(*field, "yLabel")->parentWidget(), ySpinboxFrame);
-    QCOMPARE(partOf<OvDoubleSpinBox>(*field, "ySpinbox")->parentWidget(), ySpinboxFrame);
-}
-
-void tst_PointSelectorWidget::layouts_data()
-{
-    QTest::addColumn<QString>("frame");
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QString>("items");
-    QTest::newRow("field") << QString() << QByteArray("OvHBoxLayout") << "pointSelectorFrame spinBoxFrame";
-    QTest::newRow("pointSelectorFrame")
-        << "pointSelectorFrame" << QByteArray("OvVBoxLayout") << "pointSelector";
-    QTest::newRow("spinBoxFrame") << "spinBoxFrame" << QByteArray("OvVBoxLayout")
-                                  << "xSpinboxFrame ySpinboxFrame";
-    QTest::newRow("xSpinboxFrame") << "xSpinboxFrame" << QByteArray("OvHBoxLayout") << "xLabel xSpinbox";
-    QTest::newRow("ySpinboxFrame") << "ySpinboxFrame" << QByteArray("OvHBoxLayout") << "yLabel ySpinbox";
-}
-
-void tst_PointSelectorWidget::layouts()
-{
-    QFETCH(QString, frame);
-    QFETCH(QByteArray, type);
-    QFETCH(QString, items);
-    const PointSelectorWidget field(nullptr, hundreds);
-    const QWidget* owner = frame.isEmpty() ? &field : field.findChild<QWidget*>(frame);
-    auto* layout = qobject_cast<QBoxLayout*>(owner->layout());
-    QVERIFY(layout);
-    QCOMPARE(QByteArray(layout->metaObject()->className()), type);
-    QCOMPARE(layout->contentsMargins(), QMargins());
-    QCOMPARE(layout->spacing(), 0);
-    QStringList found;
-    for (int i = 0; i < layout->count(); ++i) {
-        found += layout->itemAt(i)->widget()->objectName();
-        QCOMPARE(layout->stretch(i), 0);
+    void setRange_data()
+    {
+        using Range = PointSelectorWidget::Initializer;
+        QTest::addColumn<Range>("range");
+        QTest::addColumn<QPointF>("expected");
+        QTest::newRow("the same") << hundreds << QPointF(25.5, 75.0);
+        QTest::newRow("wider") << Range{{-500.0, -500.0}, {500.0, 500.0}, 1, 1} << QPointF(25.5, 75.0);
+        QTest::newRow("fewer decimals") << Range{{0.0, 0.0}, {100.0, 100.0}, 0, 0} << QPointF(26.0, 75.0);
+        QTest::newRow("below the value") << Range{{0.0, 0.0}, {10.0, 20.0}, 1, 1} << QPointF(10.0, 20.0);
+        QTest::newRow("above the value") << Range{{200.0, 0.0}, {300.0, 100.0}, 1, 1} << QPointF(200.0, 75.0);
+        QTest::newRow("inverted") << Range{{0.0, 100.0}, {100.0, 0.0}, 1, 1} << QPointF(25.5, 100.0);
+        QTest::newRow("without ends")
+            << Range{{noNumber, -infinite}, {noNumber, infinite}, 1, 1} << QPointF(25.5, 75.0);
     }
-    QCOMPARE(found.join(QLatin1Char(' ')), items);
-}
 
-void tst_PointSelectorWidget::spinBoxes()
-{
-    const Field field({{-1.0, -20.0}, {2.0, 40.0}, 3, 0});
-    const auto check = [](const OvDoubleSpinBox* box, double minimum, double maximum, int decimals,
-                          double step) {
-        QCOMPARE(box->minimum(), minimum);
-        QCOMPARE(box->maximum(), maximum);
-        QCOMPARE(box->decimals(), decimals);
-        QCOMPARE(box->singleStep(), step);
-        QVERIFY(box->bothDecimalMarksAccepted());
-        QCOMPARE(box->alignment(), Qt::Alignment(Qt::AlignCenter));
-        QCOMPARE(box->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
-        QCOMPARE(box->correctionMode(), QAbstractSpinBox::CorrectToNearestValue);
-    };
-    check(field.x, -1.0, 2.0, 3, 0.001);
-    check(field.y, -20.0, 40.0, 0, 1.0);
-    QCOMPARE(field.x->toolTip(), QStringLiteral("Position on the x-axis"));
-    QCOMPARE(field.y->toolTip(), QStringLiteral("Position on the y-axis"));
-}
-
-// A queued emission would still reach the field's recorder.
-void tst_PointSelectorWidget::constructionIsSilent()
-{
-    Field field({{10.0, 20.0}, {30.0, 40.0}, 1, 1});
-    QCoreApplication::processEvents();
-    QCOMPARE(field.reports(), Points());
-}
-
-void tst_PointSelectorWidget::startsInStep()
-{
-    const Field one;
-    QCOMPARE(one.numbers(), QPointF(0, 0));
-    QCOMPARE(one.plane->point(), QPointF(0, 0));
-    const Field other({{10.0, -40.0}, {30.0, -20.0}, 1, 1});
-    QCOMPARE(other.numbers(), QPointF(10, -20));
-    QCOMPARE(other.plane->point(), QPointF(10, -20));
-}
-
-void tst_PointSelectorWidget::clickReportsThreeTimes()
-{
-    Field field;
-    press(*field.plane, {30, 40});
-    QCOMPARE(field.reports(), Points({{30, 40}, {30, 0}, {30, 40}}));
-    QCOMPARE(field.numbers(), QPointF(30, 40));
-    QCOMPARE(field.plane->point(), QPointF(30, 40));
-    release(*field.plane, {30, 40});
-    QCOMPARE(field.reports(), Points{QPointF(30, 40)});
-}
-
-void tst_PointSelectorWidget::clickThatChangesOneCoordinate()
-{
-    Field field;
-    press(*field.plane, {30, 0});
-    QCOMPARE(field.reports(), Points({{30, 0}, {30, 0}}));
-    release(*field.plane, {30, 0});
-    field.reports();
-    press(*field.plane, {30, 40});
-    QCOMPARE(field.reports(), Points({{30, 40}, {30, 40}}));
-    release(*field.plane, {30, 40});
-}
-
-void tst_PointSelectorWidget::clickOnThePresentPoint()
-{
-    Field field;
-    field.setValue({30, 40});
-    field.reports();
-    press(*field.plane, {30, 40});
-    QCOMPARE(field.reports(), Points{QPointF(30, 40)});
-    release(*field.plane, {30, 40});
-    QCOMPARE(field.reports(), Points{QPointF(30, 40)});
-}
-
-void tst_PointSelectorWidget::dragAndRelease()
-{
-    Field field;
-    press(*field.plane, {10, 10});
-    field.reports();
-    drag(*field.plane, {11, 10});
-    QCOMPARE(field.reports(), Points({{11, 10}, {11, 10}}));
-    drag(*field.plane, {11, 10});
-    QCOMPARE(field.reports(), Points());
-    release(*field.plane, {500, -500});
-    QCOMPARE(field.reports(), Points({{100, 0}, {100, 10}, {100, 0}}));
-    QCOMPARE(field.numbers(), QPointF(100, 0));
-}
-
-void tst_PointSelectorWidget::planeKey()
-{
-    Field field;
-    field.setValue({30, 40});
-    field.reports();
-    QTest::keyClick(field.plane, Qt::Key_Right);
-    QCOMPARE(field.reports(), Points({{31, 40}, {31, 40}}));
-    QTest::keyClick(field.plane, Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(field.reports(), Points({{31, 50}, {31, 50}}));
-}
-
-// The spin boxes round; the plane keeps the point as it was picked.
-void tst_PointSelectorWidget::clickBetweenTheDecimals()
-{
-    Field field({{0.0, 0.0}, {1.0, 1.0}, 1, 1});
-    press(*field.plane, {33, 77});
-    QCOMPARE(field.reports(), Points({{0.33, 0.77}, {0.3, 0.0}, {0.3, 0.8}}));
-    QCOMPARE(field.numbers(), QPointF(0.3, 0.8));
-    QCOMPARE(field.plane->point(), QPointF(0.33, 0.77));
-    release(*field.plane, {33, 77});
-    QCOMPARE(field.reports(), Points{QPointF(0.33, 0.77)});
-    QTest::keyClick(field.x, Qt::Key_Up);
-    QCOMPARE(field.reports(), Points{QPointF(0.4, 0.8)});
-    QCOMPARE(field.plane->point(), QPointF(0.4, 0.8));
-}
-
-void tst_PointSelectorWidget::clickOutsideTheSpinBoxesRange()
-{
-    Field field;
-    field.x->setMaximum(50.0);
-    press(*field.plane, {80, 20});
-    QCOMPARE(field.reports(), Points({{80, 20}, {50, 0}, {50, 20}}));
-    QCOMPARE(field.plane->point(), QPointF(80, 20));
-    release(*field.plane, {80, 20});
-    field.y->setValue(30);
-    QCOMPARE(field.plane->point(), QPointF(50, 30));
-}
-
-void tst_PointSelectorWidget::pressOutsideThePlane()
-{
-    Field field;
-    press(*field.plane, {-50, 200});
-    QCOMPARE(field.reports(), Points({{-50, 200}, {0, 100}}));
-    QCOMPARE(field.plane->point(), QPointF(-50, 200));
-    release(*field.plane, {-50, 200});
-    QCOMPARE(field.reports(), Points{QPointF(0, 100)});
-}
-
-void tst_PointSelectorWidget::setValueReportsEachCoordinate()
-{
-    Field field;
-    field.setValue({30, 40});
-    QCOMPARE(field.reports(), Points({{30, 0}, {30, 40}}));
-    QCOMPARE(field.plane->point(), QPointF(30, 40));
-    QCOMPARE(field.numbers(), QPointF(30, 40));
-    field.setValue({30, 50});
-    QCOMPARE(field.reports(), Points{QPointF(30, 50)});
-    field.setValue({20, 50});
-    QCOMPARE(field.reports(), Points{QPointF(20, 50)});
-}
-
-void tst_PointSelectorWidget::setValueOfThePresentValue()
-{
-    Field field;
-    field.setValue({0, 0});
-    field.setValue({30, 40});
-    field.reports();
-    field.setValue({30, 40});
-    field.setValue({30.01, 39.99}); // the same to one decimal
-    QCOMPARE(field.reports(), Points());
-    QCOMPARE(field.plane->point(), QPointF(30, 40));
-}
-
-void tst_PointSelectorWidget::setValueIsClamped_data()
-{
-    QTest::addColumn<QPointF>("value");
-    QTest::newRow("outside") << QPointF(-1, 101);
-    QTest::newRow("infinite") << QPointF(-infinite, infinite);
-    QTest::newRow("largest") << QPointF(-largest, largest);
-}
-
-void tst_PointSelectorWidget::setValueIsClamped()
-{
-    QFETCH(QPointF, value);
-    Field field;
-    field.setValue({50, 50});
-    field.reports();
-    field.setValue(value);
-    QCOMPARE(field.reports(), Points({{0, 50}, {0, 100}}));
-    QCOMPARE(field.plane->point(), QPointF(0, 100));
-}
-
-void tst_PointSelectorWidget::setValueIsRounded()
-{
-    Field field;
-    field.setValue({12.34, 56.78});
-    QCOMPARE(field.reports(), Points({{12.3, 0}, {12.3, 56.8}}));
-    QCOMPARE(field.plane->point(), QPointF(12.3, 56.8));
-}
-
-void tst_PointSelectorWidget::setValueIgnoresNaN_data()
-{
-    QTest::addColumn<QPointF>("value");
-    QTest::addColumn<QPointF>("after");
-    QTest::newRow("both") << QPointF(noNumber, noNumber) << QPointF(30, 40);
-    QTest::newRow("x") << QPointF(noNumber, 50) << QPointF(30, 50);
-    QTest::newRow("y") << QPointF(50, noNumber) << QPointF(50, 40);
-}
-
-void tst_PointSelectorWidget::setValueIgnoresNaN()
-{
-    QFETCH(QPointF, value);
-    QFETCH(QPointF, after);
-    Field field;
-    field.setValue({30, 40});
-    field.setValue(value);
-    QCOMPARE(field.numbers(), after);
-    QCOMPARE(field.plane->point(), after);
-}
-
-void tst_PointSelectorWidget::spinBoxChangesReachThePlane()
-{
-    Field field;
-    QSignalSpy planeSpy(field.plane, &PointSelectionPlane::pointChanged);
-    field.x->setValue(20);
-    field.y->setValue(70);
-    QCOMPARE(field.reports(), Points({{20, 0}, {20, 70}}));
-    QCOMPARE(field.plane->point(), QPointF(20, 70));
-    QCOMPARE(planeSpy.size(), 0);
-}
-
-void tst_PointSelectorWidget::typingIsNotRewritten()
-{
-    Field field;
-    const auto* edit = field.x->findChild<QLineEdit*>();
-    field.x->selectAll();
-    const auto text = QStringLiteral("007.50");
-    QString typed;
-    for (const QChar character : text) {
-        typed += character;
-        QTest::keyClicks(field.x, QString(character));
-        // One decimal only.
-        QCOMPARE(edit->text(), typed.left(5));
-    }
-    QCOMPARE(field.reports(), Points({{7, 0}, {7.5, 0}}));
-    QCOMPARE(field.plane->point(), QPointF(7.5, 0));
-    QTest::keyClick(field.x, Qt::Key_Return);
-    QCOMPARE(edit->text(), QStringLiteral("7.5"));
-    QCOMPARE(field.reports(), Points());
-}
-
-void tst_PointSelectorWidget::eitherMarkIsTyped()
-{
-    Field field;
-    typeInto(field.x, QStringLiteral("1.5"));
-    typeInto(field.y, QStringLiteral("2,5"));
-    QCOMPARE(field.numbers(), QPointF(1.5, 2.5));
-    QCOMPARE(field.plane->point(), QPointF(1.5, 2.5));
-}
-
-void tst_PointSelectorWidget::stepsAreExact()
-{
-    Field field;
-    for (int i = 1; i <= 100; ++i) {
-        QTest::keyClick(field.x, Qt::Key_Up);
-        QVERIFY(field.reports().constFirst().x() == decimalNumber(i, 1));
-        QVERIFY(field.plane->point().x() == decimalNumber(i, 1));
-    }
-}
-
-void tst_PointSelectorWidget::wheelNeedsFocus()
-{
-    QWidget window;
-    QLineEdit other(&window);
-    Field field(hundreds, &window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    other.setFocus();
-    for (QWidget* part : {static_cast<QWidget*>(field.x), static_cast<QWidget*>(field.y),
-                          static_cast<QWidget*>(field.plane)}) {
-        QVERIFY(!turnWheel(*part, 120));
-    }
-    QCOMPARE(field.reports(), Points());
-    field.x->setFocus();
-    QVERIFY(turnWheel(*field.x, 120));
-    QCOMPARE(field.reports(), Points{QPointF(0.1, 0)});
-}
-
-// At the first report of a click the spin boxes are still to follow; at a spin box's the plane is.
-void tst_PointSelectorWidget::planeIsSetWhileReporting()
-{
-    Field field;
-    Points planes;
-    Points numbers;
-    connect(&field, &PointSelectorWidget::valueChanged, this, [&] {
-        planes += field.plane->point();
-        numbers += field.numbers();
-    });
-    press(*field.plane, {30, 40});
-    QCOMPARE(planes, Points({{30, 40}, {30, 40}, {30, 40}}));
-    QCOMPARE(numbers, Points({{0, 0}, {30, 0}, {30, 40}}));
-    release(*field.plane, {30, 40});
-    planes.clear();
-    field.x->setValue(50);
-    QCOMPARE(planes, Points{QPointF(30, 40)});
-    QCOMPARE(field.plane->point(), QPointF(50, 40));
-}
-
-void tst_PointSelectorWidget::reversedRange()
-{
-    Field field({{100.0, 0.0}, {0.0, 100.0}, 1, 1});
-    QCOMPARE(field.x->minimum(), 100.0);
-    QCOMPARE(field.x->maximum(), 100.0);
-    press(*field.plane, {30, 40});
-    QCOMPARE(field.reports(), Points({{70, 40}, {100, 40}}));
-    QCOMPARE(field.plane->point(), QPointF(70, 40));
-    release(*field.plane, {30, 40});
-}
-
-void tst_PointSelectorWidget::oddRanges_data()
-{
-    QTest::addColumn<QPointF>("minimum");
-    QTest::addColumn<QPointF>("maximum");
-    QTest::newRow("infinite") << QPointF(-infinite, -infinite) << QPointF(infinite, infinite);
-    QTest::newRow("infinite, reversed") << QPointF(infinite, infinite) << QPointF(-infinite, -infinite);
-    QTest::newRow("NaN") << QPointF(noNumber, noNumber) << QPointF(noNumber, noNumber);
-    QTest::newRow("NaN minimum") << QPointF(noNumber, noNumber) << QPointF(100, 100);
-    QTest::newRow("NaN maximum") << QPointF(0, 0) << QPointF(noNumber, noNumber);
-    QTest::newRow("NaN below") << QPointF(noNumber, noNumber) << QPointF(-infinite, -infinite);
-    QTest::newRow("largest") << QPointF(-largest, -largest) << QPointF(largest, largest);
-    QTest::newRow("nothing") << QPointF() << QPointF();
-}
-
-void tst_PointSelectorWidget::oddRanges()
-{
-    QFETCH(QPointF, minimum);
-    QFETCH(QPointF, maximum);
-    Field field({minimum, maximum, 2, 2});
-    const auto hasNumbers = [&field] {
-        return !std::isnan(field.x->value()) && !std::isnan(field.y->value());
-    };
-    QVERIFY(hasNumbers());
-    field.setValue({1, 2});
-    QVERIFY(hasNumbers());
-    press(*field.plane, {30, 40});
-    drag(*field.plane, {31, 41});
-    release(*field.plane, {31, 41});
-    QTest::keyClick(field.plane, Qt::Key_Left);
-    QTest::keyClick(field.x, Qt::Key_Up);
-    QVERIFY(hasNumbers());
-    field.setValue({infinite, -infinite});
-    QVERIFY(hasNumbers());
-    field.grab();
-    QVERIFY(!field.reports().isEmpty());
-}
-
-void tst_PointSelectorWidget::oddDecimals_data()
-{
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("-1") << -1 << 0;
-    QTest::newRow("least") << std::numeric_limits<int>::min() << 0;
-    QTest::newRow("400") << 400 << 323;
-    QTest::newRow("largest") << std::numeric_limits<int>::max() << 323;
-}
-
-void tst_PointSelectorWidget::oddDecimals()
-{
-    QFETCH(int, decimals);
-    QFETCH(int, shown);
-    Field field({{-1.0, -1.0}, {1.0, 1.0}, decimals, decimals});
-    QCOMPARE(field.x->decimals(), shown);
-    QCOMPARE(field.y->decimals(), shown);
-    field.setValue({1, -1});
-    QCOMPARE(field.numbers(), QPointF(1, -1));
-    QTest::keyClick(field.x, Qt::Key_Down);
-    QVERIFY(field.numbers().x() >= -1.0 && field.numbers().x() <= 1.0);
-}
-
-// It has no places to choose from, but reports what it makes of a click.
-void tst_PointSelectorWidget::planeOfOnePixel()
-{
-    Field field;
-    field.setValue({30, 40});
-    field.plane->setFixedSize(1, 1);
-    field.layout()->activate();
-    field.plane->resize(1, 1);
-    field.reports();
-    press(*field.plane, {0, 0});
-    release(*field.plane, {0, 0});
-    const Points reports = field.reports();
-    QCOMPARE(reports.size(), 2);
-    QVERIFY(std::isnan(reports.front().x()));
-    QCOMPARE(field.numbers(), QPointF(30, 40));
-}
-
-// It is the signal's point that counts, not the one that the plane has.
-void tst_PointSelectorWidget::planeReportsForItself()
-{
-    Field field;
-    field.setValue({1, 2});
-    field.reports();
-    Q_EMIT field.plane->pointChanged({30, 40});
-    QCOMPARE(field.reports(), Points({{30, 40}, {30, 2}, {30, 40}}));
-    QCOMPARE(field.numbers(), QPointF(30, 40));
-    QCOMPARE(field.plane->point(), QPointF(1, 2));
-}
-
-void tst_PointSelectorWidget::randomWalk_data()
-{
-    QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        QTest::addRow("seed %u", seed) << seed;
-    }
-}
-
-// Whatever is done, the spin boxes show the plane's point as far as their decimals go.
-void tst_PointSelectorWidget::randomWalk()
-{
-    QFETCH(unsigned, seed);
-    std::mt19937 generator(seed);
-    const int xDecimals = int(generator() % 10);
-    const int yDecimals = int(generator() % 10);
-    const int range = 1000;
-    const auto number = [&generator](int decimals) {
-        return decimalNumber(int(generator() % (2 * range + 1)) - range, decimals);
-    };
-    Field field({{decimalNumber(-range, xDecimals), decimalNumber(-range, yDecimals)},
-                 {decimalNumber(range, xDecimals), decimalNumber(range, yDecimals)},
-                 xDecimals,
-                 yDecimals});
-    const auto shows = [](const OvDoubleSpinBox* box, double coordinate) {
-        const QString text = QString::number(coordinate, 'f', box->decimals());
-        return box->cleanText() == text || box->value() == text.toDouble();
-    };
-    QPointF last;
-    for (int step = 0; step < 200; ++step) {
-        const QPoint pixel(int(generator() % 101), int(generator() % 101));
-        switch (generator() % 6) {
-        case 0:
-            field.setValue({number(xDecimals), number(yDecimals)});
-            break;
-        case 1:
-            field.x->setValue(number(xDecimals));
-            break;
-        case 2:
-            typeInto(field.y, QString::number(number(yDecimals), 'f', yDecimals));
-            break;
-        case 3:
-            press(*field.plane, pixel);
-            drag(*field.plane, pixel + QPoint(7, -9));
-            release(*field.plane, pixel + QPoint(13, 200));
-            break;
-        case 4:
-            QTest::keyClick(field.plane, Qt::Key_Left);
-            break;
-        default:
-            QTest::keyClick(field.x, Qt::Key_Up);
-            break;
+    void setRange()
+    {
+        QFETCH(PointSelectorWidget::Initializer, range);
+        QFETCH(QPointF, expected);
+        Field field;
+        field.setValue({25.5, 75.0});
+        QCOMPARE(field.value(), QPointF(25.5, 75.0));
+        field.reports();
+        field.setRange(range);
+        const Field made(range);
+        for (const auto& [box, other] : {std::pair(field.x, made.x), std::pair(field.y, made.y)}) {
+            QCOMPARE(box->minimum(), other->minimum());
+            QCOMPARE(box->maximum(), other->maximum());
+            QCOMPARE(box->decimals(), other->decimals());
+            QCOMPARE(box->singleStep(), other->singleStep());
         }
-        QVERIFY(shows(field.x, field.plane->point().x()));
-        QVERIFY(shows(field.y, field.plane->point().y()));
-        const Points reports = field.reports();
-        last = reports.isEmpty() ? last : reports.last();
-        QVERIFY(shows(field.x, last.x()));
-        QVERIFY(shows(field.y, last.y()));
-    }
-}
-
-void tst_PointSelectorWidget::slotSetsAnotherValue_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("report");
-    for (int report = 1; report <= 3; ++report) {
-        QTest::addRow("click, report %d", report) << "click" << report;
-    }
-    QTest::newRow("setValue, report 1") << "setValue" << 1;
-    QTest::newRow("setValue, report 2") << "setValue" << 2;
-    QTest::newRow("spin box") << "spin box" << 1;
-}
-
-// At whichever report it does: afterwards the three agree.
-void tst_PointSelectorWidget::slotSetsAnotherValue()
-{
-    QFETCH(QString, action);
-    QFETCH(int, report);
-    Field field;
-    int reports = 0;
-    connect(&field, &PointSelectorWidget::valueChanged, this, [&] {
-        if (++reports == report) {
-            field.setValue({70, 80});
+        QCOMPARE(field.value(), expected);
+        QCOMPARE(field.plane->point(), expected);
+        QCOMPARE(field.reports(), expected == QPointF(25.5, 75.0) ? Points() : Points{expected});
+        // The plane has the new scale.
+        QTest::mousePress(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
+        if (qIsFinite(range.maximum.x()) && qIsFinite(range.maximum.y())) {
+            QCOMPARE(field.plane->point(), range.maximum);
         }
-    });
-    if (action == QLatin1String("click")) {
+        QTest::mouseRelease(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
+    }
+
+    void construction()
+    {
+        QWidget parent;
+        auto* field = new PointSelectorWidget(&parent, hundreds);
+        QCOMPARE(field->parentWidget(), &parent);
+        const auto* spinBoxFrame = partOf<OvFrame>(*field, "spinBoxFrame");
+        const auto* pointSelectorFrame = partOf<OvFrame>(*field, "pointSelectorFrame");
+        const auto* xSpinboxFrame = partOf<OvFrame>(*field, "xSpinboxFrame");
+        const auto* ySpinboxFrame = partOf<OvFrame>(*field, "ySpinboxFrame");
+        QCOMPARE(spinBoxFrame->parentWidget(), field);
+        QCOMPARE(pointSelectorFrame->parentWidget(), field);
+        QCOMPARE(xSpinboxFrame->parentWidget(), spinBoxFrame);
+        QCOMPARE(ySpinboxFrame->parentWidget(), spinBoxFrame);
+        QCOMPARE(partOf<PointSelectionPlane>(*field, "pointSelector")->parentWidget(), pointSelectorFrame);
+        QCOMPARE(partOf<QLabel>(*field, "xLabel")->parentWidget(), xSpinboxFrame);
+        QCOMPARE(partOf<OvDoubleSpinBox>(*field, "xSpinbox")->parentWidget(), xSpinboxFrame);
+        QCOMPARE(partOf<QLabel>(*field, "yLabel")->parentWidget(), ySpinboxFrame);
+        QCOMPARE(partOf<OvDoubleSpinBox>(*field, "ySpinbox")->parentWidget(), ySpinboxFrame);
+    }
+
+    void layouts_data()
+    {
+        QTest::addColumn<QString>("frame");
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QString>("items");
+        QTest::newRow("field") << QString() << QByteArray("OvHBoxLayout")
+                               << "pointSelectorFrame spinBoxFrame";
+        QTest::newRow("pointSelectorFrame")
+            << "pointSelectorFrame" << QByteArray("OvVBoxLayout") << "pointSelector";
+        QTest::newRow("spinBoxFrame")
+            << "spinBoxFrame" << QByteArray("OvVBoxLayout") << "xSpinboxFrame ySpinboxFrame";
+        QTest::newRow("xSpinboxFrame") << "xSpinboxFrame" << QByteArray("OvHBoxLayout") << "xLabel xSpinbox";
+        QTest::newRow("ySpinboxFrame") << "ySpinboxFrame" << QByteArray("OvHBoxLayout") << "yLabel ySpinbox";
+    }
+
+    void layouts()
+    {
+        QFETCH(QString, frame);
+        QFETCH(QByteArray, type);
+        QFETCH(QString, items);
+        const PointSelectorWidget field(nullptr, hundreds);
+        const QWidget* owner = frame.isEmpty() ? &field : field.findChild<QWidget*>(frame);
+        auto* layout = qobject_cast<QBoxLayout*>(owner->layout());
+        QVERIFY(layout);
+        QCOMPARE(QByteArray(layout->metaObject()->className()), type);
+        QCOMPARE(layout->contentsMargins(), QMargins());
+        QCOMPARE(layout->spacing(), 0);
+        QStringList found;
+        for (int i = 0; i < layout->count(); ++i) {
+            found += layout->itemAt(i)->widget()->objectName();
+            QCOMPARE(layout->stretch(i), 0);
+        }
+        QCOMPARE(found.join(QLatin1Char(' ')), items);
+    }
+
+    void spinBoxes()
+    {
+        const Field field({{-1.0, -20.0}, {2.0, 40.0}, 3, 0});
+        const auto check = [](const OvDoubleSpinBox* box, double minimum, double maximum, int decimals,
+                              double step) {
+            QCOMPARE(box->minimum(), minimum);
+            QCOMPARE(box->maximum(), maximum);
+            QCOMPARE(box->decimals(), decimals);
+            QCOMPARE(box->singleStep(), step);
+            QVERIFY(box->bothDecimalMarksAccepted());
+            QCOMPARE(box->alignment(), Qt::Alignment(Qt::AlignCenter));
+            QCOMPARE(box->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
+            QCOMPARE(box->correctionMode(), QAbstractSpinBox::CorrectToNearestValue);
+        };
+        check(field.x, -1.0, 2.0, 3, 0.001);
+        check(field.y, -20.0, 40.0, 0, 1.0);
+        QCOMPARE(field.x->toolTip(), QStringLiteral("Position on the x-axis"));
+        QCOMPARE(field.y->toolTip(), QStringLiteral("Position on the y-axis"));
+    }
+
+    // A queued emission would still reach the field's recorder.
+    void constructionIsSilent()
+    {
+        Field field({{10.0, 20.0}, {30.0, 40.0}, 1, 1});
+        QCoreApplication::processEvents();
+        QCOMPARE(field.reports(), Points());
+    }
+
+    void startsInStep()
+    {
+        const Field one;
+        QCOMPARE(one.numbers(), QPointF(0, 0));
+        QCOMPARE(one.plane->point(), QPointF(0, 0));
+        const Field other({{10.0, -40.0}, {30.0, -20.0}, 1, 1});
+        QCOMPARE(other.numbers(), QPointF(10, -20));
+        QCOMPARE(other.plane->point(), QPointF(10, -20));
+    }
+
+    void clickReportsThreeTimes()
+    {
+        Field field;
         press(*field.plane, {30, 40});
-    } else if (action == QLatin1String("setValue")) {
-        field.setValue({30, 40});
-    } else {
-        field.x->setValue(30);
+        QCOMPARE(field.reports(), Points({{30, 40}, {30, 0}, {30, 40}}));
+        QCOMPARE(field.numbers(), QPointF(30, 40));
+        QCOMPARE(field.plane->point(), QPointF(30, 40));
+        release(*field.plane, {30, 40});
+        QCOMPARE(field.reports(), Points{QPointF(30, 40)});
     }
-    QVERIFY(reports >= report);
-    QCOMPARE(field.plane->point(), field.numbers());
-    const bool isBetween = (action == QLatin1String("click") && report == 2) ||
-                           (action == QLatin1String("setValue") && report == 1);
-    // Between the coordinates, the second one is still to come.
-    QCOMPARE(field.numbers(), isBetween ? QPointF(70, 40) : QPointF(70, 80));
-    if (action == QLatin1String("click")) {
+
+    void clickThatChangesOneCoordinate()
+    {
+        Field field;
+        press(*field.plane, {30, 0});
+        QCOMPARE(field.reports(), Points({{30, 0}, {30, 0}}));
+        release(*field.plane, {30, 0});
+        field.reports();
+        press(*field.plane, {30, 40});
+        QCOMPARE(field.reports(), Points({{30, 40}, {30, 40}}));
         release(*field.plane, {30, 40});
     }
-}
 
-// Such as a host that snaps to a grid.
-void tst_PointSelectorWidget::slotKeepsSettingOtherValues()
-{
-    Field field;
-    connect(&field, &PointSelectorWidget::valueChanged, this, [&field](const QPointF& value) {
-        field.setValue({std::round(value.x() / 10) * 10, std::round(value.y() / 10) * 10});
-    });
-    field.setValue({33, 47});
-    QCOMPARE(field.numbers(), QPointF(30, 50));
-    QCOMPARE(field.plane->point(), QPointF(30, 50));
-    press(*field.plane, {72, 88});
-    QCOMPARE(field.numbers(), QPointF(70, 90));
-    QCOMPARE(field.plane->point(), QPointF(70, 90));
-    drag(*field.plane, {48, 12});
-    QCOMPARE(field.numbers(), QPointF(50, 10));
-    QCOMPARE(field.plane->point(), QPointF(50, 10));
-    release(*field.plane, {48, 12});
-    QCOMPARE(field.numbers(), QPointF(50, 10));
-    QCOMPARE(field.plane->point(), QPointF(50, 10));
-}
-
-void tst_PointSelectorWidget::deletedInItsSignal_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("report");
-    QTest::newRow("setValue, x") << "setValue" << 1;
-    QTest::newRow("setValue, y") << "setValue" << 2;
-    QTest::newRow("click, plane") << "click" << 1;
-    QTest::newRow("click, x") << "click" << 2;
-    QTest::newRow("click, y") << "click" << 3;
-    QTest::newRow("drag") << "drag" << 4;
-    QTest::newRow("release") << "release" << 4;
-    QTest::newRow("plane key") << "plane key" << 1;
-    QTest::newRow("spin box") << "spin box" << 1;
-    QTest::newRow("Enter") << "Enter" << 1;
-}
-
-void tst_PointSelectorWidget::deletedInItsSignal()
-{
-    QFETCH(QString, action);
-    QFETCH(int, report);
-    const FreedMemoryWatch watch;
-    const QPointer<Field> field = new Field;
-    const QPointer<PointSelectionPlane> plane = field->plane;
-    OvDoubleSpinBox* x = field->x;
-    if (action == QLatin1String("Enter")) {
-        x->setKeyboardTracking(false);
-        typeInto(x, QStringLiteral("5"));
+    void clickOnThePresentPoint()
+    {
+        Field field;
+        field.setValue({30, 40});
+        field.reports();
+        press(*field.plane, {30, 40});
+        QCOMPARE(field.reports(), Points{QPointF(30, 40)});
+        release(*field.plane, {30, 40});
+        QCOMPARE(field.reports(), Points{QPointF(30, 40)});
     }
-    int reports = 0;
-    connect(field.data(), &PointSelectorWidget::valueChanged, this, [&] {
-        if (++reports == report) {
-            delete field;
+
+    void dragAndRelease()
+    {
+        Field field;
+        press(*field.plane, {10, 10});
+        field.reports();
+        drag(*field.plane, {11, 10});
+        QCOMPARE(field.reports(), Points({{11, 10}, {11, 10}}));
+        drag(*field.plane, {11, 10});
+        QCOMPARE(field.reports(), Points());
+        release(*field.plane, {500, -500});
+        QCOMPARE(field.reports(), Points({{100, 0}, {100, 10}, {100, 0}}));
+        QCOMPARE(field.numbers(), QPointF(100, 0));
+    }
+
+    void planeKey()
+    {
+        Field field;
+        field.setValue({30, 40});
+        field.reports();
+        QTest::keyClick(field.plane, Qt::Key_Right);
+        QCOMPARE(field.reports(), Points({{31, 40}, {31, 40}}));
+        QTest::keyClick(field.plane, Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(field.reports(), Points({{31, 50}, {31, 50}}));
+    }
+
+    // The spin boxes round; the plane keeps the point as it was picked.
+    void clickBetweenTheDecimals()
+    {
+        Field field({{0.0, 0.0}, {1.0, 1.0}, 1, 1});
+        press(*field.plane, {33, 77});
+        QCOMPARE(field.reports(), Points({{0.33, 0.77}, {0.3, 0.0}, {0.3, 0.8}}));
+        QCOMPARE(field.numbers(), QPointF(0.3, 0.8));
+        QCOMPARE(field.plane->point(), QPointF(0.33, 0.77));
+        release(*field.plane, {33, 77});
+        QCOMPARE(field.reports(), Points{QPointF(0.33, 0.77)});
+        QTest::keyClick(field.x, Qt::Key_Up);
+        QCOMPARE(field.reports(), Points{QPointF(0.4, 0.8)});
+        QCOMPARE(field.plane->point(), QPointF(0.4, 0.8));
+    }
+
+    void clickOutsideTheSpinBoxesRange()
+    {
+        Field field;
+        field.x->setMaximum(50.0);
+        press(*field.plane, {80, 20});
+        QCOMPARE(field.reports(), Points({{80, 20}, {50, 0}, {50, 20}}));
+        QCOMPARE(field.plane->point(), QPointF(80, 20));
+        release(*field.plane, {80, 20});
+        field.y->setValue(30);
+        QCOMPARE(field.plane->point(), QPointF(50, 30));
+    }
+
+    void pressOutsideThePlane()
+    {
+        Field field;
+        press(*field.plane, {-50, 200});
+        QCOMPARE(field.reports(), Points({{-50, 200}, {0, 100}}));
+        QCOMPARE(field.plane->point(), QPointF(-50, 200));
+        release(*field.plane, {-50, 200});
+        QCOMPARE(field.reports(), Points{QPointF(0, 100)});
+    }
+
+    void setValueReportsEachCoordinate()
+    {
+        Field field;
+        field.setValue({30, 40});
+        QCOMPARE(field.reports(), Points({{30, 0}, {30, 40}}));
+        QCOMPARE(field.plane->point(), QPointF(30, 40));
+        QCOMPARE(field.numbers(), QPointF(30, 40));
+        field.setValue({30, 50});
+        QCOMPARE(field.reports(), Points{QPointF(30, 50)});
+        field.setValue({20, 50});
+        QCOMPARE(field.reports(), Points{QPointF(20, 50)});
+    }
+
+    void setValueOfThePresentValue()
+    {
+        Field field;
+        field.setValue({0, 0});
+        field.setValue({30, 40});
+        field.reports();
+        field.setValue({30, 40});
+        field.setValue({30.01, 39.99}); // the same to one decimal
+        QCOMPARE(field.reports(), Points());
+        QCOMPARE(field.plane->point(), QPointF(30, 40));
+    }
+
+    void setValueIsClamped_data()
+    {
+        QTest::addColumn<QPointF>("value");
+        QTest::newRow("outside") << QPointF(-1, 101);
+        QTest::newRow("infinite") << QPointF(-infinite, infinite);
+        QTest::newRow("largest") << QPointF(-largest, largest);
+    }
+
+    void setValueIsClamped()
+    {
+        QFETCH(QPointF, value);
+        Field field;
+        field.setValue({50, 50});
+        field.reports();
+        field.setValue(value);
+        QCOMPARE(field.reports(), Points({{0, 50}, {0, 100}}));
+        QCOMPARE(field.plane->point(), QPointF(0, 100));
+    }
+
+    void setValueIsRounded()
+    {
+        Field field;
+        field.setValue({12.34, 56.78});
+        QCOMPARE(field.reports(), Points({{12.3, 0}, {12.3, 56.8}}));
+        QCOMPARE(field.plane->point(), QPointF(12.3, 56.8));
+    }
+
+    void setValueIgnoresNaN_data()
+    {
+        QTest::addColumn<QPointF>("value");
+        QTest::addColumn<QPointF>("after");
+        QTest::newRow("both") << QPointF(noNumber, noNumber) << QPointF(30, 40);
+        QTest::newRow("x") << QPointF(noNumber, 50) << QPointF(30, 50);
+        QTest::newRow("y") << QPointF(50, noNumber) << QPointF(50, 40);
+    }
+
+    void setValueIgnoresNaN()
+    {
+        QFETCH(QPointF, value);
+        QFETCH(QPointF, after);
+        Field field;
+        field.setValue({30, 40});
+        field.setValue(value);
+        QCOMPARE(field.numbers(), after);
+        QCOMPARE(field.plane->point(), after);
+    }
+
+    void spinBoxChangesReachThePlane()
+    {
+        Field field;
+        QSignalSpy planeSpy(field.plane, &PointSelectionPlane::pointChanged);
+        field.x->setValue(20);
+        field.y->setValue(70);
+        QCOMPARE(field.reports(), Points({{20, 0}, {20, 70}}));
+        QCOMPARE(field.plane->point(), QPointF(20, 70));
+        QCOMPARE(planeSpy.size(), 0);
+    }
+
+    void typingIsNotRewritten()
+    {
+        Field field;
+        const auto* edit = field.x->findChild<QLineEdit*>();
+        field.x->selectAll();
+        const auto text = QStringLiteral("007.50");
+        QString typed;
+        for (const QChar character : text) {
+            typed += character;
+            QTest::keyClicks(field.x, QString(character));
+            // One decimal only.
+            QCOMPARE(edit->text(), typed.left(5));
         }
-    });
-    if (action == QLatin1String("setValue")) {
+        QCOMPARE(field.reports(), Points({{7, 0}, {7.5, 0}}));
+        QCOMPARE(field.plane->point(), QPointF(7.5, 0));
+        QTest::keyClick(field.x, Qt::Key_Return);
+        QCOMPARE(edit->text(), QStringLiteral("7.5"));
+        QCOMPARE(field.reports(), Points());
+    }
+
+    void eitherMarkIsTyped()
+    {
+        Field field;
+        typeInto(field.x, QStringLiteral("1.5"));
+        typeInto(field.y, QStringLiteral("2,5"));
+        QCOMPARE(field.numbers(), QPointF(1.5, 2.5));
+        QCOMPARE(field.plane->point(), QPointF(1.5, 2.5));
+    }
+
+    void stepsAreExact()
+    {
+        Field field;
+        for (int i = 1; i <= 100; ++i) {
+            QTest::keyClick(field.x, Qt::Key_Up);
+            QVERIFY(field.reports().constFirst().x() == decimalNumber(i, 1));
+            QVERIFY(field.plane->point().x() == decimalNumber(i, 1));
+        }
+    }
+
+    void wheelNeedsFocus()
+    {
+        QWidget window;
+        QLineEdit other(&window);
+        Field field(hundreds, &window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other.setFocus();
+        for (QWidget* part : {static_cast<QWidget*>(field.x), static_cast<QWidget*>(field.y),
+                              static_cast<QWidget*>(field.plane)}) {
+            QVERIFY(!turnWheel(*part, 120));
+        }
+        QCOMPARE(field.reports(), Points());
+        field.x->setFocus();
+        QVERIFY(turnWheel(*field.x, 120));
+        QCOMPARE(field.reports(), Points{QPointF(0.1, 0)});
+    }
+
+    // At the first report of a click the spin boxes are still to follow; at a spin box's the plane is.
+    void planeIsSetWhileReporting()
+    {
+        Field field;
+        Points planes;
+        Points numbers;
+        connect(&field, &PointSelectorWidget::valueChanged, this, [&] {
+            planes += field.plane->point();
+            numbers += field.numbers();
+        });
+        press(*field.plane, {30, 40});
+        QCOMPARE(planes, Points({{30, 40}, {30, 40}, {30, 40}}));
+        QCOMPARE(numbers, Points({{0, 0}, {30, 0}, {30, 40}}));
+        release(*field.plane, {30, 40});
+        planes.clear();
+        field.x->setValue(50);
+        QCOMPARE(planes, Points{QPointF(30, 40)});
+        QCOMPARE(field.plane->point(), QPointF(50, 40));
+    }
+
+    void reversedRange()
+    {
+        Field field({{100.0, 0.0}, {0.0, 100.0}, 1, 1});
+        QCOMPARE(field.x->minimum(), 100.0);
+        QCOMPARE(field.x->maximum(), 100.0);
+        press(*field.plane, {30, 40});
+        QCOMPARE(field.reports(), Points({{70, 40}, {100, 40}}));
+        QCOMPARE(field.plane->point(), QPointF(70, 40));
+        release(*field.plane, {30, 40});
+    }
+
+    void oddRanges_data()
+    {
+        QTest::addColumn<QPointF>("minimum");
+        QTest::addColumn<QPointF>("maximum");
+        QTest::newRow("infinite") << QPointF(-infinite, -infinite) << QPointF(infinite, infinite);
+        QTest::newRow("infinite, reversed") << QPointF(infinite, infinite) << QPointF(-infinite, -infinite);
+        QTest::newRow("NaN") << QPointF(noNumber, noNumber) << QPointF(noNumber, noNumber);
+        QTest::newRow("NaN minimum") << QPointF(noNumber, noNumber) << QPointF(100, 100);
+        QTest::newRow("NaN maximum") << QPointF(0, 0) << QPointF(noNumber, noNumber);
+        QTest::newRow("NaN below") << QPointF(noNumber, noNumber) << QPointF(-infinite, -infinite);
+        QTest::newRow("largest") << QPointF(-largest, -largest) << QPointF(largest, largest);
+        QTest::newRow("nothing") << QPointF() << QPointF();
+    }
+
+    void oddRanges()
+    {
+        QFETCH(QPointF, minimum);
+        QFETCH(QPointF, maximum);
+        Field field({minimum, maximum, 2, 2});
+        const auto hasNumbers = [&field] {
+            return !std::isnan(field.x->value()) && !std::isnan(field.y->value());
+        };
+        QVERIFY(hasNumbers());
+        field.setValue({1, 2});
+        QVERIFY(hasNumbers());
+        press(*field.plane, {30, 40});
+        drag(*field.plane, {31, 41});
+        release(*field.plane, {31, 41});
+        QTest::keyClick(field.plane, Qt::Key_Left);
+        QTest::keyClick(field.x, Qt::Key_Up);
+        QVERIFY(hasNumbers());
+        field.setValue({infinite, -infinite});
+        QVERIFY(hasNumbers());
+        field.grab();
+        QVERIFY(!field.reports().isEmpty());
+    }
+
+    void oddDecimals_data()
+    {
+        QTest::addColumn<int>("decimals");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("-1") << -1 << 0;
+        QTest::newRow("least") << std::numeric_limits<int>::min() << 0;
+        QTest::newRow("400") << 400 << 323;
+        QTest::newRow("largest") << std::numeric_limits<int>::max() << 323;
+    }
+
+    void oddDecimals()
+    {
+        QFETCH(int, decimals);
+        QFETCH(int, shown);
+        Field field({{-1.0, -1.0}, {1.0, 1.0}, decimals, decimals});
+        QCOMPARE(field.x->decimals(), shown);
+        QCOMPARE(field.y->decimals(), shown);
+        field.setValue({1, -1});
+        QCOMPARE(field.numbers(), QPointF(1, -1));
+        QTest::keyClick(field.x, Qt::Key_Down);
+        QVERIFY(field.numbers().x() >= -1.0 && field.numbers().x() <= 1.0);
+    }
+
+    // It has no places to choose from, but reports what it makes of a click.
+    void planeOfOnePixel()
+    {
+        Field field;
+        field.setValue({30, 40});
+        field.plane->setFixedSize(1, 1);
+        field.layout()->activate();
+        field.plane->resize(1, 1);
+        field.reports();
+        press(*field.plane, {0, 0});
+        release(*field.plane, {0, 0});
+        const Points reports = field.reports();
+        QCOMPARE(reports.size(), 2);
+        QVERIFY(std::isnan(reports.front().x()));
+        QCOMPARE(field.numbers(), QPointF(30, 40));
+    }
+
+    // It is the signal's point that counts, not the one that the plane has.
+    void planeReportsForItself()
+    {
+        Field field;
+        field.setValue({1, 2});
+        field.reports();
+        Q_EMIT field.plane->pointChanged({30, 40});
+        QCOMPARE(field.reports(), Points({{30, 40}, {30, 2}, {30, 40}}));
+        QCOMPARE(field.numbers(), QPointF(30, 40));
+        QCOMPARE(field.plane->point(), QPointF(1, 2));
+    }
+
+    void randomWalk_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        for (unsigned seed = 1; seed <= 20; ++seed) {
+            QTest::addRow("seed %u", seed) << seed;
+        }
+    }
+
+    // Whatever is done, the spin boxes show the plane's point as far as their decimals go.
+    void randomWalk()
+    {
+        QFETCH(unsigned, seed);
+        std::mt19937 generator(seed);
+        const int xDecimals = int(generator() % 10);
+        const int yDecimals = int(generator() % 10);
+        const int range = 1000;
+        const auto number = [&generator](int decimals) {
+            return decimalNumber(int(generator() % (2 * range + 1)) - range, decimals);
+        };
+        Field field({{decimalNumber(-range, xDecimals), decimalNumber(-range, yDecimals)},
+                     {decimalNumber(range, xDecimals), decimalNumber(range, yDecimals)},
+                     xDecimals,
+                     yDecimals});
+        const auto shows = [](const OvDoubleSpinBox* box, double coordinate) {
+            const QString text = QString::number(coordinate, 'f', box->decimals());
+            return box->cleanText() == text || box->value() == text.toDouble();
+        };
+        QPointF last;
+        for (int step = 0; step < 200; ++step) {
+            const QPoint pixel(int(generator() % 101), int(generator() % 101));
+            switch (generator() % 6) {
+            case 0:
+                field.setValue({number(xDecimals), number(yDecimals)});
+                break;
+            case 1:
+                field.x->setValue(number(xDecimals));
+                break;
+            case 2:
+                typeInto(field.y, QString::number(number(yDecimals), 'f', yDecimals));
+                break;
+            case 3:
+                press(*field.plane, pixel);
+                drag(*field.plane, pixel + QPoint(7, -9));
+                release(*field.plane, pixel + QPoint(13, 200));
+                break;
+            case 4:
+                QTest::keyClick(field.plane, Qt::Key_Left);
+                break;
+            default:
+                QTest::keyClick(field.x, Qt::Key_Up);
+                break;
+            }
+            QVERIFY(shows(field.x, field.plane->point().x()));
+            QVERIFY(shows(field.y, field.plane->point().y()));
+            const Points reports = field.reports();
+            last = reports.isEmpty() ? last : reports.last();
+            QVERIFY(shows(field.x, last.x()));
+            QVERIFY(shows(field.y, last.y()));
+        }
+    }
+
+    void slotSetsAnotherValue_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<int>("report");
+        for (int report = 1; report <= 3; ++report) {
+            QTest::addRow("click, report %d", report) << "click" << report;
+        }
+        QTest::newRow("setValue, report 1") << "setValue" << 1;
+        QTest::newRow("setValue, report 2") << "setValue" << 2;
+        QTest::newRow("spin box") << "spin box" << 1;
+    }
+
+    // At whichever report it does: afterwards the three agree.
+    void slotSetsAnotherValue()
+    {
+        QFETCH(QString, action);
+        QFETCH(int, report);
+        Field field;
+        int reports = 0;
+        connect(&field, &PointSelectorWidget::valueChanged, this, [&] {
+            if (++reports == report) {
+                field.setValue({70, 80});
+            }
+        });
+        if (action == QLatin1String("click")) {
+            press(*field.plane, {30, 40});
+        } else if (action == QLatin1String("setValue")) {
+            field.setValue({30, 40});
+        } else {
+            field.x->setValue(30);
+        }
+        QVERIFY(reports >= report);
+        QCOMPARE(field.plane->point(), field.numbers());
+        const bool isBetween = (action == QLatin1String("click") && report == 2) ||
+                               (action == QLatin1String("setValue") && report == 1);
+        // Between the coordinates, the second one is still to come.
+        QCOMPARE(field.numbers(), isBetween ? QPointF(70, 40) : QPointF(70, 80));
+        if (action == QLatin1String("click")) {
+            release(*field.plane, {30, 40});
+        }
+    }
+
+    // Such as a host that snaps to a grid.
+    void slotKeepsSettingOtherValues()
+    {
+        Field field;
+        connect(&field, &PointSelectorWidget::valueChanged, this, [&field](const QPointF& value) {
+            field.setValue({std::round(value.x() / 10) * 10, std::round(value.y() / 10) * 10});
+        });
+        field.setValue({33, 47});
+        QCOMPARE(field.numbers(), QPointF(30, 50));
+        QCOMPARE(field.plane->point(), QPointF(30, 50));
+        press(*field.plane, {72, 88});
+        QCOMPARE(field.numbers(), QPointF(70, 90));
+        QCOMPARE(field.plane->point(), QPointF(70, 90));
+        drag(*field.plane, {48, 12});
+        QCOMPARE(field.numbers(), QPointF(50, 10));
+        QCOMPARE(field.plane->point(), QPointF(50, 10));
+        release(*field.plane, {48, 12});
+        QCOMPARE(field.numbers(), QPointF(50, 10));
+        QCOMPARE(field.plane->point(), QPointF(50, 10));
+    }
+
+    void deletedInItsSignal_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<int>("report");
+        QTest::newRow("setValue, x") << "setValue" << 1;
+        QTest::newRow("setValue, y") << "setValue" << 2;
+        QTest::newRow("click, plane") << "click" << 1;
+        QTest::newRow("click, x") << "click" << 2;
+        QTest::newRow("click, y") << "click" << 3;
+        QTest::newRow("drag") << "drag" << 4;
+        QTest::newRow("release") << "release" << 4;
+        QTest::newRow("plane key") << "plane key" << 1;
+        QTest::newRow("spin box") << "spin box" << 1;
+        QTest::newRow("Enter") << "Enter" << 1;
+    }
+
+    void deletedInItsSignal()
+    {
+        QFETCH(QString, action);
+        QFETCH(int, report);
+        const FreedMemoryWatch watch;
+        const QPointer<Field> field = new Field;
+        const QPointer<PointSelectionPlane> plane = field->plane;
+        OvDoubleSpinBox* x = field->x;
+        if (action == QLatin1String("Enter")) {
+            x->setKeyboardTracking(false);
+            typeInto(x, QStringLiteral("5"));
+        }
+        int reports = 0;
+        connect(field.data(), &PointSelectorWidget::valueChanged, this, [&] {
+            if (++reports == report) {
+                delete field;
+            }
+        });
+        if (action == QLatin1String("setValue")) {
+            field->setValue({30, 40});
+        } else if (action == QLatin1String("plane key")) {
+            QTest::keyPress(plane, Qt::Key_Right);
+        } else if (action == QLatin1String("spin box")) {
+            x->setValue(7);
+        } else if (action == QLatin1String("Enter")) {
+            QTest::keyPress(x, Qt::Key_Return);
+        } else {
+            QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {30, 40});
+            if (action == QLatin1String("drag")) {
+                drag(*plane, {50, 50});
+            } else if (action == QLatin1String("release")) {
+                release(*plane, {30, 40});
+            }
+        }
+        QVERIFY(!field);
+        QVERIFY(!QWidget::mouseGrabber());
+        QVERIFY(watch.deleted() > 0);
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+    }
+
+    void deletedBetweenTheCoordinates()
+    {
+        QWidget parent;
+        const QPointer<PointSelectorWidget> field = new PointSelectorWidget(&parent, hundreds);
+        connect(partOf<OvDoubleSpinBox>(*field, "xSpinbox"), qOverload<double>(&QDoubleSpinBox::valueChanged),
+                &parent, [&field] { delete field; });
         field->setValue({30, 40});
-    } else if (action == QLatin1String("plane key")) {
-        QTest::keyPress(plane, Qt::Key_Right);
-    } else if (action == QLatin1String("spin box")) {
-        x->setValue(7);
-    } else if (action == QLatin1String("Enter")) {
-        QTest::keyPress(x, Qt::Key_Return);
-    } else {
-        QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {30, 40});
-        if (action == QLatin1String("drag")) {
-            drag(*plane, {50, 50});
-        } else if (action == QLatin1String("release")) {
-            release(*plane, {30, 40});
-        }
+        QVERIFY(!field);
     }
-    QVERIFY(!field);
-    QVERIFY(!QWidget::mouseGrabber());
-    QVERIFY(watch.deleted() > 0);
-    QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-}
 
-void tst_PointSelectorWidget::deletedBetweenTheCoordinates()
-{
-    QWidget parent;
-    const QPointer<PointSelectorWidget> field = new PointSelectorWidget(&parent, hundreds);
-    connect(partOf<OvDoubleSpinBox>(*field, "xSpinbox"), qOverload<double>(&QDoubleSpinBox::valueChanged),
-            &parent, [&field] { delete field; });
-    field->setValue({30, 40});
-    QVERIFY(!field);
-}
+    void destroyedWhileTyping_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("x") << "xSpinbox";
+        QTest::newRow("y") << "ySpinbox";
+    }
 
-void tst_PointSelectorWidget::destroyedWhileTyping_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("x") << "xSpinbox";
-    QTest::newRow("y") << "ySpinbox";
-}
+    void destroyedWhileTyping()
+    {
+        QFETCH(QString, name);
+        auto field = std::make_unique<PointSelectorWidget>(
+            nullptr, PointSelectorWidget::Initializer{{10.0, 10.0}, {100.0, 100.0}, 1, 1});
+        field->setValue({50, 50});
+        auto* spinBox = field->findChild<OvDoubleSpinBox*>(name);
+        destroyWhileTyping(std::move(field), spinBox);
+    }
 
-void tst_PointSelectorWidget::destroyedWhileTyping()
-{
-    QFETCH(QString, name);
-    auto field = std::make_unique<PointSelectorWidget>(
-        nullptr, PointSelectorWidget::Initializer{{10.0, 10.0}, {100.0, 100.0}, 1, 1});
-    field->setValue({50, 50});
-    auto* spinBox = field->findChild<OvDoubleSpinBox*>(name);
-    destroyWhileTyping(std::move(field), spinBox);
-}
+    void languageChange()
+    {
+        Field field;
+        MarkingTranslator translator("PointSelectorWidget");
+        QCoreApplication::installTranslator(&translator);
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&field, &change);
+        QCOMPARE(field.x->toolTip(), QStringLiteral("<Position on the x-axis>"));
+        QCOMPARE(field.y->toolTip(), QStringLiteral("<Position on the y-axis>"));
+        QCoreApplication::removeTranslator(&translator);
+        QCoreApplication::sendEvent(&field, &change);
+        QCOMPARE(field.x->toolTip(), QStringLiteral("Position on the x-axis"));
+        QCOMPARE(field.reports(), Points());
+    }
 
-void tst_PointSelectorWidget::languageChange()
-{
-    Field field;
-    MarkingTranslator translator("PointSelectorWidget");
-    QCoreApplication::installTranslator(&translator);
-    QEvent change(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(&field, &change);
-    QCOMPARE(field.x->toolTip(), QStringLiteral("<Position on the x-axis>"));
-    QCOMPARE(field.y->toolTip(), QStringLiteral("<Position on the y-axis>"));
-    QCoreApplication::removeTranslator(&translator);
-    QCoreApplication::sendEvent(&field, &change);
-    QCOMPARE(field.x->toolTip(), QStringLiteral("Position on the x-axis"));
-    QCOMPARE(field.reports(), Points());
-}
+    void labelsAreEmpty()
+    {
+        const Field field;
+        QCOMPARE(partOf<QLabel>(field, "xLabel")->text(), QString());
+        QCOMPARE(partOf<QLabel>(field, "yLabel")->text(), QString());
+    }
 
-void tst_PointSelectorWidget::labelsAreEmpty()
-{
-    const Field field;
-    QCOMPARE(partOf<QLabel>(field, "xLabel")->text(), QString());
-    QCOMPARE(partOf<QLabel>(field, "yLabel")->text(), QString());
-}
+    void tabOrder()
+    {
+        QWidget form;
+        auto* before = new QLineEdit(&form);
+        auto* label = new QLabel(QStringLiteral("&Position"), &form);
+        auto* field = new Field(hundreds, &form);
+        label->setBuddy(field);
+        auto* after = new QLineEdit(&form);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        before->setFocus();
+        QCOMPARE(focusedBy(Qt::Key_Tab, 4, form), QList<QWidget*>({field->plane, field->x, field->y, after}));
+        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
+        QCOMPARE(form.focusWidget(), field->plane);
+    }
 
-void tst_PointSelectorWidget::tabOrder()
-{
-    QWidget form;
-    auto* before = new QLineEdit(&form);
-    auto* label = new QLabel(QStringLiteral("&Position"), &form);
-    auto* field = new Field(hundreds, &form);
-    label->setBuddy(field);
-    auto* after = new QLineEdit(&form);
-    form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    before->setFocus();
-    QCOMPARE(focusedBy(Qt::Key_Tab, 4, form), QList<QWidget*>({field->plane, field->x, field->y, after}));
-    QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
-    QCOMPARE(form.focusWidget(), field->plane);
-}
+    void disabled()
+    {
+        Field field;
+        press(*field.plane, {30, 40});
+        field.setEnabled(false);
+        QVERIFY(!QWidget::mouseGrabber());
+        field.reports();
+        press(*field.plane, {50, 50});
+        QCOMPARE(field.reports(), Points());
+        field.setValue({1, 2});
+        QCOMPARE(field.plane->point(), QPointF(1, 2));
+    }
 
-void tst_PointSelectorWidget::disabled()
-{
-    Field field;
-    press(*field.plane, {30, 40});
-    field.setEnabled(false);
-    QVERIFY(!QWidget::mouseGrabber());
-    field.reports();
-    press(*field.plane, {50, 50});
-    QCOMPARE(field.reports(), Points());
-    field.setValue({1, 2});
-    QCOMPARE(field.plane->point(), QPointF(1, 2));
-}
-
-void tst_PointSelectorWidget::rightToLeft()
-{
-    Field field;
-    field.setLayoutDirection(Qt::RightToLeft);
-    field.layout()->activate();
-    const auto left = [&field](QWidget* part) { return part->mapTo(&field, QPoint()).x(); };
-    QVERIFY(left(field.plane) > left(field.x));
-    QVERIFY(field.y->mapTo(&field, QPoint()).y() > field.x->mapTo(&field, QPoint()).y());
-    press(*field.plane, {0, 0});
-    QCOMPARE(field.reports(), Points{QPointF(0, 0)});
-    release(*field.plane, {100, 0});
-    QCOMPARE(field.numbers(), QPointF(100, 0));
-}
+    void rightToLeft()
+    {
+        Field field;
+        field.setLayoutDirection(Qt::RightToLeft);
+        field.layout()->activate();
+        const auto left = [&field](QWidget* part) { return part->mapTo(&field, QPoint()).x(); };
+        QVERIFY(left(field.plane) > left(field.x));
+        QVERIFY(field.y->mapTo(&field, QPoint()).y() > field.x->mapTo(&field, QPoint()).y());
+        press(*field.plane, {0, 0});
+        QCOMPARE(field.reports(), Points{QPointF(0, 0)});
+        release(*field.plane, {100, 0});
+        QCOMPARE(field.numbers(), QPointF(100, 0));
+    }
+};
 
 UIC_TEST_MAIN(tst_PointSelectorWidget)
 #include "tst_PointSelectorWidget.moc"

@@ -114,351 +114,329 @@ class tst_ScreenReader : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-
-    void picturesAreTakenOnce();
-    void uncoveredPixelsComeFromThePicture();
-    void coveredPixelsAreCorrected();
-    void everyValueBelowTheOverlay();
-    void nothingOverTheScreenIsNotCorrected();
-    void paintedPixelsComeFromThePicture_data();
-    void paintedPixelsComeFromThePicture();
-    void eachPainterHasItsPlaces();
-    void nextReaderKnowsWhatTheLastPainted();
-    void nextReaderTakesItsOwnPicture();
-    void refreshLooksBeforeItIsPaintedOver();
-    void grabsRefreshThePicture();
-    void detailIsPutTogether();
-    void edgesOfTheScreen_data();
-    void edgesOfTheScreen();
-    void opaqueWindowsAreNotRead();
-    void windowsOfTheirOwnAreAlwaysRead();
-    void withoutAnyPicture();
-    void pointOnNoScreen();
-
-    void pointOfADevicePixel();
-};
-
-void tst_ScreenReader::initTestCase()
-{
-    QCOMPARE(QGuiApplication::primaryScreen()->geometry().intersected(everything), everything);
-}
-
-void tst_ScreenReader::picturesAreTakenOnce()
-{
-    Screen screen;
-    const ScreenReader part(QRect(10, 20, 30, 40), ScreenReader::Cover::Nothing, screen);
-    QCOMPARE(screen.grabbed, QVector<QRect>({QRect(10, 20, 30, 40)}));
-    QVERIFY(part.picture(*QGuiApplication::primaryScreen()).isNull());
-    screen.grabbed.clear();
-    const ScreenReader all(QGuiApplication::primaryScreen()->geometry(), ScreenReader::Cover::Nothing,
-                           screen);
-    const QImage picture = all.picture(*QGuiApplication::primaryScreen()).toImage();
-    QCOMPARE(picture.size(), QGuiApplication::primaryScreen()->size());
-    QCOMPARE(picture.pixel(11, 22), Screen::below({11, 22}));
-    screen.grabbed.clear();
-    const ScreenReader elsewhere(QRect(-50, -50, 20, 20), ScreenReader::Cover::Nothing, screen);
-    QCOMPARE(screen.grabbed, QVector<QRect>());
-}
-
-// A grab may show the overlay already, or not yet.
-void tst_ScreenReader::uncoveredPixelsComeFromThePicture()
-{
-    Screen screen;
-    ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
-    screen.hasChanged = true;
-    const QPoint point(200, 300);
-    for (const int elapsed : {0, 10, ScreenReader::settleTime - 100}) {
-        screen.time += elapsed;
-        QCOMPARE(reader.colorAt(point), QColor(Screen::below(point)));
-        QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
-                 QColor(Screen::below(point)));
-        // Only the first painting of a window covers the screen.
-        reader.paint(this, QRegion());
+    void initTestCase()
+    {
+        QCOMPARE(QGuiApplication::primaryScreen()->geometry().intersected(everything), everything);
     }
-    screen.hasOverlay = true;
-    screen.time += ScreenReader::settleTime;
-    QCOMPARE(reader.colorAt(point), corrected(screen.shownAt(point)));
-    // Of a second one as well.
-    reader.paint(&screen, QRegion());
-    const QPoint other(400, 300);
-    QCOMPARE(reader.colorAt(other), QColor(Screen::below(other)));
-}
 
-void tst_ScreenReader::coveredPixelsAreCorrected()
-{
-    Settled settled;
-    for (const QPoint& point : {QPoint(0, 0), QPoint(36, 51), QPoint(799, 599)}) {
-        const QColor expected = corrected(settled.screen.shownAt(point));
-        QCOMPARE(settled.reader.colorAt(point), expected);
-        QCOMPARE(settled.reader.around(point, size, *QGuiApplication::primaryScreen()).color, expected);
-        QCOMPARE(expected.alpha(), 255);
+    void picturesAreTakenOnce()
+    {
+        Screen screen;
+        const ScreenReader part(QRect(10, 20, 30, 40), ScreenReader::Cover::Nothing, screen);
+        QCOMPARE(screen.grabbed, QVector<QRect>({QRect(10, 20, 30, 40)}));
+        QVERIFY(part.picture(*QGuiApplication::primaryScreen()).isNull());
+        screen.grabbed.clear();
+        const ScreenReader all(QGuiApplication::primaryScreen()->geometry(), ScreenReader::Cover::Nothing,
+                               screen);
+        const QImage picture = all.picture(*QGuiApplication::primaryScreen()).toImage();
+        QCOMPARE(picture.size(), QGuiApplication::primaryScreen()->size());
+        QCOMPARE(picture.pixel(11, 22), Screen::below({11, 22}));
+        screen.grabbed.clear();
+        const ScreenReader elsewhere(QRect(-50, -50, 20, 20), ScreenReader::Cover::Nothing, screen);
+        QCOMPARE(screen.grabbed, QVector<QRect>());
     }
-    // A pixel needs no more than itself.
-    QCOMPARE(settled.screen.grabbed.first(), QRect(0, 0, 1, 1));
-}
 
-void tst_ScreenReader::everyValueBelowTheOverlay()
-{
-    Settled settled;
-    for (int x = 0; x < 256; ++x) {
-        const QColor color = settled.reader.colorAt(QPoint(x, 300));
-        const QColor below(Screen::below({x, 300}));
-        // It makes 127 and 128 one.
-        QCOMPARE(color.red(), below.red() == 127 ? 128 : below.red());
-        QCOMPARE(color.blue(), below.blue() == 127 ? 128 : below.blue());
+    // A grab may show the overlay already, or not yet.
+    void uncoveredPixelsComeFromThePicture()
+    {
+        Screen screen;
+        ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
+        screen.hasChanged = true;
+        const QPoint point(200, 300);
+        for (const int elapsed : {0, 10, ScreenReader::settleTime - 100}) {
+            screen.time += elapsed;
+            QCOMPARE(reader.colorAt(point), QColor(Screen::below(point)));
+            QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
+                     QColor(Screen::below(point)));
+            // Only the first painting of a window covers the screen.
+            reader.paint(this, QRegion());
+        }
+        screen.hasOverlay = true;
+        screen.time += ScreenReader::settleTime;
+        QCOMPARE(reader.colorAt(point), corrected(screen.shownAt(point)));
+        // Of a second one as well.
+        reader.paint(&screen, QRegion());
+        const QPoint other(400, 300);
+        QCOMPARE(reader.colorAt(other), QColor(Screen::below(other)));
     }
-}
 
-void tst_ScreenReader::nothingOverTheScreenIsNotCorrected()
-{
-    Screen screen;
-    ScreenReader reader(QRegion(), ScreenReader::Cover::Nothing, screen);
-    QCOMPARE(reader.colorAt(QPoint(36, 51)), QColor(Screen::below({36, 51})));
-}
-
-void tst_ScreenReader::paintedPixelsComeFromThePicture_data()
-{
-    QTest::addColumn<int>("sinceGone");
-    QTest::addColumn<bool>("isLive");
-    QTest::newRow("there") << -1 << false;
-    QTest::newRow("just gone") << 0 << false;
-    QTest::newRow("gone two frames ago") << 33 << false;
-    QTest::newRow("gone on a slow machine") << ScreenReader::settleTime - 1 << false;
-    QTest::newRow("long gone") << ScreenReader::settleTime << true;
-}
-
-void tst_ScreenReader::paintedPixelsComeFromThePicture()
-{
-    QFETCH(int, sinceGone);
-    QFETCH(bool, isLive);
-    Settled settled;
-    const QRect loupe(100, 100, 40, 40);
-    settled.reader.paint(&settled, loupe);
-    settled.screen.loupe = loupe;
-    settled.wait();
-    if (sinceGone >= 0) {
-        settled.reader.paint(&settled, QRect(500, 400, 40, 40));
-        settled.screen.time += sinceGone;
-        settled.screen.loupe = sinceGone < 40 ? loupe : QRect(500, 400, 40, 40);
+    void coveredPixelsAreCorrected()
+    {
+        Settled settled;
+        for (const QPoint& point : {QPoint(0, 0), QPoint(36, 51), QPoint(799, 599)}) {
+            const QColor expected = corrected(settled.screen.shownAt(point));
+            QCOMPARE(settled.reader.colorAt(point), expected);
+            QCOMPARE(settled.reader.around(point, size, *QGuiApplication::primaryScreen()).color, expected);
+            QCOMPARE(expected.alpha(), 255);
+        }
+        // A pixel needs no more than itself.
+        QCOMPARE(settled.screen.grabbed.first(), QRect(0, 0, 1, 1));
     }
-    for (const QPoint& point : {loupe.topLeft(), loupe.center(), loupe.bottomRight()}) {
-        const QRgb below = Screen::below(point);
-        QCOMPARE(settled.reader.colorAt(point), isLive ? corrected(Screen::covered(below)) : QColor(below));
-    }
-    // What it has not touched is grabbed all along.
-    for (const QPoint& beside : {loupe.bottomLeft() + QPoint(0, 1), loupe.topRight() + QPoint(1, 0)}) {
-        QCOMPARE(settled.reader.colorAt(beside), corrected(settled.screen.shownAt(beside)));
-    }
-}
 
-void tst_ScreenReader::eachPainterHasItsPlaces()
-{
-    Settled settled;
-    const QRect loupe(100, 100, 40, 40);
-    const int first = 0;
-    const int second = 0;
-    settled.reader.paint(&first, loupe);
-    settled.reader.paint(&second, QRegion());
-    settled.wait();
-    settled.screen.loupe = loupe;
-    QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
-    // What a painter that has gone has painted goes with it.
-    settled.reader.remove(&first);
-    QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
-    settled.screen.loupe = QRegion();
-    settled.wait();
-    QCOMPARE(settled.reader.colorAt(loupe.center()), corrected(settled.screen.shownAt(loupe.center())));
-}
-
-// A pick may begin while the last one can still be seen, of another picker and of another area.
-void tst_ScreenReader::nextReaderKnowsWhatTheLastPainted()
-{
-    Settled last;
-    const QRect loupe(100, 100, 40, 40);
-    last.reader.paint(&last, loupe);
-    last.screen.loupe = loupe;
-    last.wait();
-    last.reader.remove(&last, QRect(0, 0, 200, 200));
-    last.screen.hasChanged = true;
-    ScreenReader next(QRect(90, 90, 200, 200), ScreenReader::Cover::Nothing, last.screen);
-    for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
-        QCOMPARE(next.colorAt(point), QColor(Screen::below(point)));
+    void everyValueBelowTheOverlay()
+    {
+        Settled settled;
+        for (int x = 0; x < 256; ++x) {
+            const QColor color = settled.reader.colorAt(QPoint(x, 300));
+            const QColor below(Screen::below({x, 300}));
+            // It makes 127 and 128 one.
+            QCOMPARE(color.red(), below.red() == 127 ? 128 : below.red());
+            QCOMPARE(color.blue(), below.blue() == 127 ? 128 : below.blue());
+        }
     }
-    last.screen.loupe = QRegion();
-    last.screen.hasOverlay = false;
-    const QPoint beside(210, 210);
-    QCOMPARE(next.colorAt(beside), QColor(last.screen.bare(beside)));
-    last.wait();
-    for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
+
+    void nothingOverTheScreenIsNotCorrected()
+    {
+        Screen screen;
+        ScreenReader reader(QRegion(), ScreenReader::Cover::Nothing, screen);
+        QCOMPARE(reader.colorAt(QPoint(36, 51)), QColor(Screen::below({36, 51})));
+    }
+
+    void paintedPixelsComeFromThePicture_data()
+    {
+        QTest::addColumn<int>("sinceGone");
+        QTest::addColumn<bool>("isLive");
+        QTest::newRow("there") << -1 << false;
+        QTest::newRow("just gone") << 0 << false;
+        QTest::newRow("gone two frames ago") << 33 << false;
+        QTest::newRow("gone on a slow machine") << ScreenReader::settleTime - 1 << false;
+        QTest::newRow("long gone") << ScreenReader::settleTime << true;
+    }
+
+    void paintedPixelsComeFromThePicture()
+    {
+        QFETCH(int, sinceGone);
+        QFETCH(bool, isLive);
+        Settled settled;
+        const QRect loupe(100, 100, 40, 40);
+        settled.reader.paint(&settled, loupe);
+        settled.screen.loupe = loupe;
+        settled.wait();
+        if (sinceGone >= 0) {
+            settled.reader.paint(&settled, QRect(500, 400, 40, 40));
+            settled.screen.time += sinceGone;
+            settled.screen.loupe = sinceGone < 40 ? loupe : QRect(500, 400, 40, 40);
+        }
+        for (const QPoint& point : {loupe.topLeft(), loupe.center(), loupe.bottomRight()}) {
+            const QRgb below = Screen::below(point);
+            QCOMPARE(settled.reader.colorAt(point),
+                     isLive ? corrected(Screen::covered(below)) : QColor(below));
+        }
+        // What it has not touched is grabbed all along.
+        for (const QPoint& beside : {loupe.bottomLeft() + QPoint(0, 1), loupe.topRight() + QPoint(1, 0)}) {
+            QCOMPARE(settled.reader.colorAt(beside), corrected(settled.screen.shownAt(beside)));
+        }
+    }
+
+    void eachPainterHasItsPlaces()
+    {
+        Settled settled;
+        const QRect loupe(100, 100, 40, 40);
+        const int first = 0;
+        const int second = 0;
+        settled.reader.paint(&first, loupe);
+        settled.reader.paint(&second, QRegion());
+        settled.wait();
+        settled.screen.loupe = loupe;
+        QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
+        // What a painter that has gone has painted goes with it.
+        settled.reader.remove(&first);
+        QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
+        settled.screen.loupe = QRegion();
+        settled.wait();
+        QCOMPARE(settled.reader.colorAt(loupe.center()), corrected(settled.screen.shownAt(loupe.center())));
+    }
+
+    // A pick may begin while the last one can still be seen, of another picker and of another area.
+    void nextReaderKnowsWhatTheLastPainted()
+    {
+        Settled last;
+        const QRect loupe(100, 100, 40, 40);
+        last.reader.paint(&last, loupe);
+        last.screen.loupe = loupe;
+        last.wait();
+        last.reader.remove(&last, QRect(0, 0, 200, 200));
+        last.screen.hasChanged = true;
+        ScreenReader next(QRect(90, 90, 200, 200), ScreenReader::Cover::Nothing, last.screen);
+        for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
+            QCOMPARE(next.colorAt(point), QColor(Screen::below(point)));
+        }
+        last.screen.loupe = QRegion();
+        last.screen.hasOverlay = false;
+        const QPoint beside(210, 210);
+        QCOMPARE(next.colorAt(beside), QColor(last.screen.bare(beside)));
+        last.wait();
+        for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
+            QCOMPARE(next.colorAt(point), QColor(last.screen.bare(point)));
+        }
+    }
+
+    // The pictures are those of the new reader where nothing is in its way.
+    void nextReaderTakesItsOwnPicture()
+    {
+        Settled last(ScreenReader::Cover::Nothing);
+        last.screen.hasChanged = true;
+        ScreenReader next(everything, ScreenReader::Cover::Overlay, last.screen);
+        const QPoint point(200, 300);
         QCOMPARE(next.colorAt(point), QColor(last.screen.bare(point)));
     }
-}
 
-// The pictures are those of the new reader where nothing is in its way.
-void tst_ScreenReader::nextReaderTakesItsOwnPicture()
-{
-    Settled last(ScreenReader::Cover::Nothing);
-    last.screen.hasChanged = true;
-    ScreenReader next(everything, ScreenReader::Cover::Overlay, last.screen);
-    const QPoint point(200, 300);
-    QCOMPARE(next.colorAt(point), QColor(last.screen.bare(point)));
-}
-
-// Or it would keep what was there at the start for as long as something is over it.
-void tst_ScreenReader::refreshLooksBeforeItIsPaintedOver()
-{
-    Settled settled;
-    const QRect loupe(100, 100, 40, 40);
-    const QRect part(100, 100, 40, 10);
-    settled.reader.paint(&settled, part);
-    settled.screen.loupe = part;
-    settled.screen.hasChanged = true;
-    settled.reader.refresh(loupe, *QGuiApplication::primaryScreen());
-    QCOMPARE(settled.screen.grabbed, QVector<QRect>({QRect(100, 110, 40, 30)}));
-    settled.reader.paint(&settled, loupe);
-    settled.screen.loupe = loupe;
-    QVERIFY(difference(settled.reader.colorAt(QPoint(110, 130)), QColor(settled.screen.bare({110, 130}))) <=
-            1);
-    QCOMPARE(settled.reader.colorAt(QPoint(110, 105)), QColor(Screen::below({110, 105})));
-}
-
-void tst_ScreenReader::grabsRefreshThePicture()
-{
-    Settled settled;
-    QScreen& screen = *QGuiApplication::primaryScreen();
-    const QPoint point(200, 300);
-    // 127 below the overlay is as good as 128: the picture keeps what it knows.
-    const QPoint same(18, 300);
-    QCOMPARE(qRed(Screen::below(same)), 127);
-    settled.reader.around(same, size, screen);
-    settled.screen.hasChanged = true;
-    settled.reader.around(point, size, screen);
-    settled.reader.paint(&settled, everything);
-    QCOMPARE(settled.reader.colorAt(same).red(), 127);
-    const QColor changed(~Screen::below(point) | 0xff000000U);
-    const QColor kept = settled.reader.colorAt(point);
-    QVERIFY(qAbs(kept.red() - changed.red()) <= 1);
-    QVERIFY(qAbs(kept.green() - changed.green()) <= 1);
-    // As far as it was grabbed.
-    QCOMPARE(settled.reader.colorAt(point + QPoint(7, 0)), QColor(Screen::below(point + QPoint(7, 0))));
-}
-
-void tst_ScreenReader::detailIsPutTogether()
-{
-    Settled settled;
-    const QPoint point(200, 300);
-    // Over the upper right quarter of what is asked for.
-    const QRect loupe(201, 250, 50, 50);
-    settled.reader.paint(&settled, loupe);
-    settled.screen.loupe = loupe;
-    settled.wait();
-    const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
-    QCOMPARE(detail.picture.size(), QSize(size, size));
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < size; ++x) {
-            const QPoint at = point + QPoint(x - 6, y - 6);
-            const bool isKept = loupe.contains(at);
-            QCOMPARE(pixelOf(detail, {x, y}),
-                     isKept ? Screen::below(at) : Screen::covered(Screen::below(at)));
-        }
-    }
-    QCOMPARE(settled.screen.grabbed.size(), 1);
-}
-
-void tst_ScreenReader::edgesOfTheScreen_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::newRow("top left") << QPoint(0, 0);
-    QTest::newRow("bottom right") << QGuiApplication::primaryScreen()->geometry().bottomRight();
-    QTest::newRow("left") << QPoint(3, 300);
-    QTest::newRow("top") << QPoint(300, 5);
-}
-
-void tst_ScreenReader::edgesOfTheScreen()
-{
-    QFETCH(QPoint, point);
-    Settled settled;
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < size; ++x) {
-            const QPoint at = point + QPoint(x - 6, y - 6);
-            QCOMPARE(pixelOf(detail, {x, y}), screen.contains(at) ? Screen::covered(Screen::below(at)) : 0U);
-        }
-    }
-    QCOMPARE(detail.color, corrected(settled.screen.shownAt(point)));
-    QVERIFY(screen.contains(settled.screen.grabbed.first()));
-}
-
-void tst_ScreenReader::opaqueWindowsAreNotRead()
-{
-    Settled settled(ScreenReader::Cover::Overlay, ScreenSource::Grabs::Never);
-    settled.reader.paint(&settled, everything);
-    const QPoint point(200, 300);
-    QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
-    const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
-    QCOMPARE(detail.color, QColor(Screen::below(point)));
-    QCOMPARE(pixelOf(detail, {6, 6}), Screen::below(point));
-    QCOMPARE(settled.screen.grabbed, QVector<QRect>());
-
-    // Without a cover there are none.
-    Settled bare(ScreenReader::Cover::Nothing, ScreenSource::Grabs::Never);
-    bare.screen.hasChanged = true;
-    QCOMPARE(bare.reader.colorAt(point), QColor(bare.screen.shownAt(point)));
-}
-
-void tst_ScreenReader::windowsOfTheirOwnAreAlwaysRead()
-{
-    Screen screen;
-    screen.kind = ScreenSource::Grabs::Always;
-    ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
-    QCOMPARE(screen.grabbed, QVector<QRect>());
-    const QPoint point(200, 300);
-    QCOMPARE(reader.colorAt(point), corrected(Screen::below(point)));
-    QVERIFY(reader.picture(*QGuiApplication::primaryScreen()).isNull());
-}
-
-void tst_ScreenReader::withoutAnyPicture()
-{
-    Screen screen;
-    screen.isBlind = true;
-    const QPoint point(200, 300);
-    ScreenReader covered(everything, ScreenReader::Cover::Overlay, screen);
-    QCOMPARE(covered.colorAt(point), QColor(Qt::black));
-    const auto detail = covered.around(point, size, *QGuiApplication::primaryScreen());
-    QCOMPARE(pixelOf(detail, {6, 6}), 0U);
-    QCOMPARE(detail.color, QColor(Qt::black));
-    ScreenReader bare(everything, ScreenReader::Cover::Nothing, screen);
-    QVERIFY(!bare.colorAt(point).isValid());
-
-    // A large area without a picture says nothing of a single pixel.
-    class OnePixel : public Screen
+    // Or it would keep what was there at the start for as long as something is over it.
+    void refreshLooksBeforeItIsPaintedOver()
     {
-        QImage grab(QScreen& of, const QRect& area) override
-        {
-            return area.size() == QSize(1, 1) ? Screen::grab(of, area) : QImage();
+        Settled settled;
+        const QRect loupe(100, 100, 40, 40);
+        const QRect part(100, 100, 40, 10);
+        settled.reader.paint(&settled, part);
+        settled.screen.loupe = part;
+        settled.screen.hasChanged = true;
+        settled.reader.refresh(loupe, *QGuiApplication::primaryScreen());
+        QCOMPARE(settled.screen.grabbed, QVector<QRect>({QRect(100, 110, 40, 30)}));
+        settled.reader.paint(&settled, loupe);
+        settled.screen.loupe = loupe;
+        QVERIFY(difference(settled.reader.colorAt(QPoint(110, 130)),
+                           QColor(settled.screen.bare({110, 130}))) <= 1);
+        QCOMPARE(settled.reader.colorAt(QPoint(110, 105)), QColor(Screen::below({110, 105})));
+    }
+
+    void grabsRefreshThePicture()
+    {
+        Settled settled;
+        QScreen& screen = *QGuiApplication::primaryScreen();
+        const QPoint point(200, 300);
+        // 127 below the overlay is as good as 128: the picture keeps what it knows.
+        const QPoint same(18, 300);
+        QCOMPARE(qRed(Screen::below(same)), 127);
+        settled.reader.around(same, size, screen);
+        settled.screen.hasChanged = true;
+        settled.reader.around(point, size, screen);
+        settled.reader.paint(&settled, everything);
+        QCOMPARE(settled.reader.colorAt(same).red(), 127);
+        const QColor changed(~Screen::below(point) | 0xff000000U);
+        const QColor kept = settled.reader.colorAt(point);
+        QVERIFY(qAbs(kept.red() - changed.red()) <= 1);
+        QVERIFY(qAbs(kept.green() - changed.green()) <= 1);
+        // As far as it was grabbed.
+        QCOMPARE(settled.reader.colorAt(point + QPoint(7, 0)), QColor(Screen::below(point + QPoint(7, 0))));
+    }
+
+    void detailIsPutTogether()
+    {
+        Settled settled;
+        const QPoint point(200, 300);
+        // Over the upper right quarter of what is asked for.
+        const QRect loupe(201, 250, 50, 50);
+        settled.reader.paint(&settled, loupe);
+        settled.screen.loupe = loupe;
+        settled.wait();
+        const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+        QCOMPARE(detail.picture.size(), QSize(size, size));
+        for (int y = 0; y < size; ++y) {
+            for (int x = 0; x < size; ++x) {
+                const QPoint at = point + QPoint(x - 6, y - 6);
+                const bool isKept = loupe.contains(at);
+                QCOMPARE(pixelOf(detail, {x, y}),
+                         isKept ? Screen::below(at) : Screen::covered(Screen::below(at)));
+            }
         }
-    } onePixel;
-    onePixel.kind = ScreenSource::Grabs::Always;
-    ScreenReader reader(everything, ScreenReader::Cover::Overlay, onePixel);
-    QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
-             corrected(Screen::below(point)));
-}
+        QCOMPARE(settled.screen.grabbed.size(), 1);
+    }
 
-void tst_ScreenReader::pointOnNoScreen()
-{
-    Settled settled;
-    QVERIFY(!settled.reader.colorAt(QPoint(-100, 5000)).isValid());
-}
+    void edgesOfTheScreen_data()
+    {
+        QTest::addColumn<QPoint>("point");
+        QTest::newRow("top left") << QPoint(0, 0);
+        QTest::newRow("bottom right") << QGuiApplication::primaryScreen()->geometry().bottomRight();
+        QTest::newRow("left") << QPoint(3, 300);
+        QTest::newRow("top") << QPoint(300, 5);
+    }
 
-void tst_ScreenReader::pointOfADevicePixel()
-{
-    QCOMPARE(pointAt(QPointF(7.5, 9.9)), QPoint(7, 9));
-    QCOMPARE(pointAt(QPointF(-0.5, -1)), QPoint(-1, -1));
-    // The quotient of a pixel and a ratio may be a little less than it should.
-    QCOMPARE(pointAt(QPointF(6.9999999, 9)), QPoint(7, 9));
-}
+    void edgesOfTheScreen()
+    {
+        QFETCH(QPoint, point);
+        Settled settled;
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+        for (int y = 0; y < size; ++y) {
+            for (int x = 0; x < size; ++x) {
+                const QPoint at = point + QPoint(x - 6, y - 6);
+                QCOMPARE(pixelOf(detail, {x, y}),
+                         screen.contains(at) ? Screen::covered(Screen::below(at)) : 0U);
+            }
+        }
+        QCOMPARE(detail.color, corrected(settled.screen.shownAt(point)));
+        QVERIFY(screen.contains(settled.screen.grabbed.first()));
+    }
+
+    void opaqueWindowsAreNotRead()
+    {
+        Settled settled(ScreenReader::Cover::Overlay, ScreenSource::Grabs::Never);
+        settled.reader.paint(&settled, everything);
+        const QPoint point(200, 300);
+        QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
+        const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+        QCOMPARE(detail.color, QColor(Screen::below(point)));
+        QCOMPARE(pixelOf(detail, {6, 6}), Screen::below(point));
+        QCOMPARE(settled.screen.grabbed, QVector<QRect>());
+
+        // Without a cover there are none.
+        Settled bare(ScreenReader::Cover::Nothing, ScreenSource::Grabs::Never);
+        bare.screen.hasChanged = true;
+        QCOMPARE(bare.reader.colorAt(point), QColor(bare.screen.shownAt(point)));
+    }
+
+    void windowsOfTheirOwnAreAlwaysRead()
+    {
+        Screen screen;
+        screen.kind = ScreenSource::Grabs::Always;
+        ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
+        QCOMPARE(screen.grabbed, QVector<QRect>());
+        const QPoint point(200, 300);
+        QCOMPARE(reader.colorAt(point), corrected(Screen::below(point)));
+        QVERIFY(reader.picture(*QGuiApplication::primaryScreen()).isNull());
+    }
+
+    void withoutAnyPicture()
+    {
+        Screen screen;
+        screen.isBlind = true;
+        const QPoint point(200, 300);
+        ScreenReader covered(everything, ScreenReader::Cover::Overlay, screen);
+        QCOMPARE(covered.colorAt(point), QColor(Qt::black));
+        const auto detail = covered.around(point, size, *QGuiApplication::primaryScreen());
+        QCOMPARE(pixelOf(detail, {6, 6}), 0U);
+        QCOMPARE(detail.color, QColor(Qt::black));
+        ScreenReader bare(everything, ScreenReader::Cover::Nothing, screen);
+        QVERIFY(!bare.colorAt(point).isValid());
+
+        // A large area without a picture says nothing of a single pixel.
+        class OnePixel : public Screen
+        {
+            QImage grab(QScreen& of, const QRect& area) override
+            {
+                return area.size() == QSize(1, 1) ? Screen::grab(of, area) : QImage();
+            }
+        } onePixel;
+        onePixel.kind = ScreenSource::Grabs::Always;
+        ScreenReader reader(everything, ScreenReader::Cover::Overlay, onePixel);
+        QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
+                 corrected(Screen::below(point)));
+    }
+
+    void pointOnNoScreen()
+    {
+        Settled settled;
+        QVERIFY(!settled.reader.colorAt(QPoint(-100, 5000)).isValid());
+    }
+
+    void pointOfADevicePixel()
+    {
+        QCOMPARE(pointAt(QPointF(7.5, 9.9)), QPoint(7, 9));
+        QCOMPARE(pointAt(QPointF(-0.5, -1)), QPoint(-1, -1));
+        // The quotient of a pixel and a ratio may be a little less than it should.
+        QCOMPARE(pointAt(QPointF(6.9999999, 9)), QPoint(7, 9));
+    }
+};
 
 UIC_TEST_MAIN(tst_ScreenReader)
 #include "tst_ScreenReader.moc"

@@ -153,837 +153,783 @@ class tst_SearchWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void metaObject();
-    void children();
-    void startsEmpty();
-    void validatorRefusesALeadingBlank();
-    void translations();
-
-    void typingReportsEachChange();
-    void blankIsRefusedInAnEmptyField();
-    void blanksInsideAreAccepted();
-    void everyWhiteSpaceIsRefusedInFront_data();
-    void everyWhiteSpaceIsRefusedInFront();
-    void editThatWouldLeaveABlankInFrontIsRefused();
-    void pastedText_data();
-    void pastedText();
-    void inputMethodIsRefusedALeadingBlank();
-    void inputMethodCommitsAWord();
-
-    void clearButtonShowsWithTheText();
-    void changesThatKeepATextTouchNothing();
-    void clearClearsAndHidesTheButton();
-    void clearByMouseKeepsTheKeyboardInTheField();
-    void clearByKeyGivesTheKeyboardToTheField();
-    void deletedByAClickOnTheButton();
-
-    void enterReportsOnce();
-    void leavingReportsOnce();
-    void emptiedFieldFinishesByEnter();
-    void emptiedFieldFinishesByLeaving();
-    void fieldClearedByTheButtonFinishesByLeaving();
-    void untouchedFieldReportsNothing();
-    void reportIsMadeBeforeTheSlotFinishesAgain();
-    void deactivatedWindowFinishes();
-
-    void destroyedWhileFocused_data();
-    void destroyedWhileFocused();
-    void deletedLaterInASlot_data();
-    void deletedLaterInASlot();
-
-    void propertiesAreStoredOnly();
-    void colorOfEachState();
-    void invalidColorsAreWrittenToo();
-    void colorTakesEffectOnTheNextOccasion_data();
-    void colorTakesEffectOnTheNextOccasion();
-    void colorHoldsUnderASheetFromTheFirstPicture();
-    void colorHoldsWhenPolishedAgain_data();
-    void colorHoldsWhenPolishedAgain();
-    void colorMayBeThatOfTheText();
-    void nothingIsSetBeforeTheFirstShow();
-    void edgesCountAsHovered();
-    void hoveredIsToldToTheIcon();
-
-    void focusIsShownByTheFrame();
-    void focusInPolishesIconAndEdit();
-    void eventsAreNotConsumed();
-    void rightToLeft();
-};
-
-void tst_SearchWidget::init()
-{
-    putCursor(nullptr);
-    QGuiApplication::clipboard()->clear();
-}
-
-void tst_SearchWidget::metaObject()
-{
-    const QMetaObject& meta = SearchWidget::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("SearchWidget"));
-    QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal editingFinished(QString)"),
-                                            QStringLiteral("signal textChanged(QString)")}));
-    QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("QColor PlaceholderColor rw"),
-                                               QStringLiteral("QColor PlaceholderHoverColor rw"),
-                                               QStringLiteral("QColor PlaceholderDisabledColor rw")}));
-}
-
-void tst_SearchWidget::children()
-{
-    QWidget parent;
-    const SearchWidget search(&parent);
-    QCOMPARE(search.parentWidget(), &parent);
-    const auto children = search.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    QCOMPARE(children.size(), 3);
-    QCOMPARE(children.at(0), iconOf(search));
-    QCOMPARE(children.at(1), editOf(search));
-    QCOMPARE(children.at(2), buttonOf(search));
-    QCOMPARE(children.at(0)->metaObject(), &QLabel::staticMetaObject);
-    QCOMPARE(children.at(1)->metaObject(), &Orvane::Tessel::TesselLineEdit::staticMetaObject);
-    QCOMPARE(children.at(2)->metaObject(), &QToolButton::staticMetaObject);
-
-    const auto* layout = qobject_cast<QBoxLayout*>(search.layout());
-    QVERIFY(layout);
-    QCOMPARE(layout->direction(), QBoxLayout::LeftToRight);
-    QCOMPARE(layout->contentsMargins(), QMargins());
-    QCOMPARE(layout->spacing(), 0);
-    for (int i = 0; i < 3; ++i) {
-        QCOMPARE(layout->itemAt(i)->widget(), children.at(i));
+    void init()
+    {
+        putCursor(nullptr);
+        QGuiApplication::clipboard()->clear();
     }
-}
 
-void tst_SearchWidget::startsEmpty()
-{
-    const SearchWidget search;
-    QVERIFY(!search.parentWidget());
-    QCOMPARE(search.text(), QString());
-    QVERIFY(buttonOf(search)->isHidden());
-    QVERIFY(editOf(search)->testAttribute(Qt::WA_MouseTracking));
-    QVERIFY(!search.GetPlaceholderColor().isValid());
-    QVERIFY(!search.GetPlaceholderHoverColor().isValid());
-    QVERIFY(!search.GetPlaceholderDisabledColor().isValid());
-    QVERIFY(!search.property("focusHint").isValid());
-    QVERIFY(!iconOf(search)->property("hovered").isValid());
-}
+    void metaObject()
+    {
+        const QMetaObject& meta = SearchWidget::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("SearchWidget"));
+        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
+        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal editingFinished(QString)"),
+                                                QStringLiteral("signal textChanged(QString)")}));
+        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("QColor PlaceholderColor rw"),
+                                                   QStringLiteral("QColor PlaceholderHoverColor rw"),
+                                                   QStringLiteral("QColor PlaceholderDisabledColor rw")}));
+    }
 
-void tst_SearchWidget::validatorRefusesALeadingBlank()
-{
-    const SearchWidget search;
-    const auto* validator = qobject_cast<const QRegExpValidator*>(editOf(search)->validator());
-    QVERIFY(validator);
-    QCOMPARE(validator->parent(), editOf(search));
-    QCOMPARE(validator->regExp().pattern(), QStringLiteral("^\\S.*"));
-    QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
-    QCOMPARE(validator->regExp().patternSyntax(), QRegExp::RegExp);
-    QVERIFY(editOf(search)->hasAcceptableInput());
-}
+    void children()
+    {
+        QWidget parent;
+        const SearchWidget search(&parent);
+        QCOMPARE(search.parentWidget(), &parent);
+        const auto children = search.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(children.size(), 3);
+        QCOMPARE(children.at(0), iconOf(search));
+        QCOMPARE(children.at(1), editOf(search));
+        QCOMPARE(children.at(2), buttonOf(search));
+        QCOMPARE(children.at(0)->metaObject(), &QLabel::staticMetaObject);
+        QCOMPARE(children.at(1)->metaObject(), &Orvane::Tessel::TesselLineEdit::staticMetaObject);
+        QCOMPARE(children.at(2)->metaObject(), &QToolButton::staticMetaObject);
 
-void tst_SearchWidget::translations()
-{
-    SearchWidget search;
-    search.setTranslations(QStringLiteral("icon"), QStringLiteral("edit"), QStringLiteral("button"),
-                           QStringLiteral("placeholder"));
-    QCOMPARE(iconOf(search)->toolTip(), QStringLiteral("icon"));
-    QCOMPARE(editOf(search)->toolTip(), QStringLiteral("edit"));
-    QCOMPARE(buttonOf(search)->toolTip(), QStringLiteral("button"));
-    QCOMPARE(editOf(search)->placeholderText(), QStringLiteral("placeholder"));
-    search.setTranslations(QString(), QString(), QString(), QString());
-    QCOMPARE(editOf(search)->placeholderText(), QString());
-    QCOMPARE(iconOf(search)->toolTip(), QString());
-}
-
-void tst_SearchWidget::typingReportsEachChange()
-{
-    SearchWidget search;
-    Protocol protocol(&search);
-    QTest::keyClicks(editOf(search), QStringLiteral("ab"));
-    QTest::keyClick(editOf(search), Qt::Key_Backspace);
-    QTest::keyClick(editOf(search), Qt::Key_Backspace);
-    QCOMPARE(search.text(), QString());
-    // The button has followed when the change is reported.
-    QCOMPARE(protocol.lines,
-             QStringList({QStringLiteral("changed \"a\" shown"), QStringLiteral("changed \"ab\" shown"),
-                          QStringLiteral("changed \"a\" shown"), QStringLiteral("changed \"\" hidden")}));
-}
-
-void tst_SearchWidget::blankIsRefusedInAnEmptyField()
-{
-    SearchWidget search;
-    Protocol protocol(&search);
-    QTest::keyClick(editOf(search), Qt::Key_Space);
-    QCOMPARE(search.text(), QString());
-    QCOMPARE(protocol.lines, QStringList());
-    QVERIFY(buttonOf(search)->isHidden());
-}
-
-void tst_SearchWidget::blanksInsideAreAccepted()
-{
-    SearchWidget search;
-    QTest::keyClicks(editOf(search), QStringLiteral("a  b "));
-    QCOMPARE(search.text(), QStringLiteral("a  b "));
-}
-
-void tst_SearchWidget::everyWhiteSpaceIsRefusedInFront_data()
-{
-    QTest::addColumn<int>("code");
-    for (int code = 0; code <= 0xffff; ++code) {
-        if (QChar::isSpace(static_cast<uint>(code))) {
-            QTest::addRow("U+%04X", static_cast<unsigned>(code)) << code;
+        const auto* layout = qobject_cast<QBoxLayout*>(search.layout());
+        QVERIFY(layout);
+        QCOMPARE(layout->direction(), QBoxLayout::LeftToRight);
+        QCOMPARE(layout->contentsMargins(), QMargins());
+        QCOMPARE(layout->spacing(), 0);
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(layout->itemAt(i)->widget(), children.at(i));
         }
     }
-}
 
-void tst_SearchWidget::everyWhiteSpaceIsRefusedInFront()
-{
-    QFETCH(int, code);
-    const QChar space(code);
-    SearchWidget search;
-    Protocol protocol(&search);
-    editOf(search)->insert(space);
-    editOf(search)->insert(space + QStringLiteral("word"));
-    QCOMPARE(search.text(), QString());
-    QCOMPARE(protocol.lines, QStringList());
-    editOf(search)->insert(QStringLiteral("a") + space + QStringLiteral("b"));
-    QCOMPARE(search.text(), QStringLiteral("a") + space + QStringLiteral("b"));
-    editOf(search)->home(false);
-    editOf(search)->insert(space);
-    QCOMPARE(search.text(), QStringLiteral("a") + space + QStringLiteral("b"));
-}
-
-void tst_SearchWidget::editThatWouldLeaveABlankInFrontIsRefused()
-{
-    SearchWidget search;
-    QTest::keyClicks(editOf(search), QStringLiteral("a b"));
-    Protocol protocol(&search);
-    editOf(search)->home(false);
-    QTest::keyClick(editOf(search), Qt::Key_Delete);
-    QCOMPARE(search.text(), QStringLiteral("a b"));
-    editOf(search)->setSelection(0, 1);
-    QTest::keyClick(editOf(search), Qt::Key_Space);
-    QCOMPARE(search.text(), QStringLiteral("a b"));
-    QCOMPARE(protocol.lines, QStringList());
-    editOf(search)->setSelection(0, 2);
-    QTest::keyClick(editOf(search), Qt::Key_Delete);
-    QCOMPARE(search.text(), QStringLiteral("b"));
-}
-
-void tst_SearchWidget::pastedText_data()
-{
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("word") << QStringLiteral("word") << QStringLiteral("word");
-    QTest::newRow("leading blanks") << QStringLiteral("  word") << QString();
-    QTest::newRow("leading new line") << QStringLiteral("\nword") << QString();
-    QTest::newRow("leading no-break space") << QString(QChar(0xa0)) + QStringLiteral("word") << QString();
-    QTest::newRow("blanks behind") << QStringLiteral("word  ") << QStringLiteral("word  ");
-    QTest::newRow("two lines") << QStringLiteral("one\ntwo") << QStringLiteral("one\ntwo");
-    QTest::newRow("only blanks") << QStringLiteral("   ") << QString();
-}
-
-void tst_SearchWidget::pastedText()
-{
-    QFETCH(QString, pasted);
-    SearchWidget search;
-    QGuiApplication::clipboard()->setText(pasted);
-    QTest::keySequence(editOf(search), QKeySequence::Paste);
-    QTEST(search.text(), "text");
-    QCOMPARE(buttonOf(search)->isHidden(), search.text().isEmpty());
-}
-
-void tst_SearchWidget::inputMethodIsRefusedALeadingBlank()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    Protocol protocol(window.search);
-    for (const QString& text : {QStringLiteral(" "), QStringLiteral("\u3000"), QStringLiteral(" word")}) {
-        commit(window.edit(), text);
-        QCOMPARE(window.search->text(), QString());
+    void startsEmpty()
+    {
+        const SearchWidget search;
+        QVERIFY(!search.parentWidget());
+        QCOMPARE(search.text(), QString());
+        QVERIFY(buttonOf(search)->isHidden());
+        QVERIFY(editOf(search)->testAttribute(Qt::WA_MouseTracking));
+        QVERIFY(!search.GetPlaceholderColor().isValid());
+        QVERIFY(!search.GetPlaceholderHoverColor().isValid());
+        QVERIFY(!search.GetPlaceholderDisabledColor().isValid());
+        QVERIFY(!search.property("focusHint").isValid());
+        QVERIFY(!iconOf(search)->property("hovered").isValid());
     }
-    commit(window.edit(), QStringLiteral("word"));
-    window.edit()->home(false);
-    commit(window.edit(), QStringLiteral("\u3000"));
-    QCOMPARE(window.search->text(), QStringLiteral("word"));
-    QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"word\" shown")}));
-}
 
-void tst_SearchWidget::inputMethodCommitsAWord()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    Protocol protocol(window.search);
-    QInputMethodEvent composing(QStringLiteral("\u306d"), {});
-    QCoreApplication::sendEvent(window.edit(), &composing);
-    // Not yet text.
-    QCOMPARE(protocol.lines, QStringList());
-    commit(window.edit(), QStringLiteral("\u732b"));
-    QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\u732b\" shown")}));
-}
+    void validatorRefusesALeadingBlank()
+    {
+        const SearchWidget search;
+        const auto* validator = qobject_cast<const QRegExpValidator*>(editOf(search)->validator());
+        QVERIFY(validator);
+        QCOMPARE(validator->parent(), editOf(search));
+        QCOMPARE(validator->regExp().pattern(), QStringLiteral("^\\S.*"));
+        QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
+        QCOMPARE(validator->regExp().patternSyntax(), QRegExp::RegExp);
+        QVERIFY(editOf(search)->hasAcceptableInput());
+    }
 
-void tst_SearchWidget::clearButtonShowsWithTheText()
-{
-    SearchWidget search;
-    EventCounter shows(buttonOf(search), QEvent::ShowToParent);
-    EventCounter hides(buttonOf(search), QEvent::HideToParent);
-    QTest::keyClicks(editOf(search), QStringLiteral("abc"));
-    QVERIFY(!buttonOf(search)->isHidden());
-    for (int i = 0; i < 3; ++i) {
+    void translations()
+    {
+        SearchWidget search;
+        search.setTranslations(QStringLiteral("icon"), QStringLiteral("edit"), QStringLiteral("button"),
+                               QStringLiteral("placeholder"));
+        QCOMPARE(iconOf(search)->toolTip(), QStringLiteral("icon"));
+        QCOMPARE(editOf(search)->toolTip(), QStringLiteral("edit"));
+        QCOMPARE(buttonOf(search)->toolTip(), QStringLiteral("button"));
+        QCOMPARE(editOf(search)->placeholderText(), QStringLiteral("placeholder"));
+        search.setTranslations(QString(), QString(), QString(), QString());
+        QCOMPARE(editOf(search)->placeholderText(), QString());
+        QCOMPARE(iconOf(search)->toolTip(), QString());
+    }
+
+    void typingReportsEachChange()
+    {
+        SearchWidget search;
+        Protocol protocol(&search);
+        QTest::keyClicks(editOf(search), QStringLiteral("ab"));
         QTest::keyClick(editOf(search), Qt::Key_Backspace);
+        QTest::keyClick(editOf(search), Qt::Key_Backspace);
+        QCOMPARE(search.text(), QString());
+        // The button has followed when the change is reported.
+        QCOMPARE(protocol.lines,
+                 QStringList({QStringLiteral("changed \"a\" shown"), QStringLiteral("changed \"ab\" shown"),
+                              QStringLiteral("changed \"a\" shown"), QStringLiteral("changed \"\" hidden")}));
     }
-    QVERIFY(buttonOf(search)->isHidden());
-    QCOMPARE(shows.count, 1);
-    QCOMPARE(hides.count, 1);
-}
 
-void tst_SearchWidget::changesThatKeepATextTouchNothing()
-{
-    SearchWidget search;
-    editOf(search)->setText(QStringLiteral("a"));
-    buttonOf(search)->hide();
-    editOf(search)->setText(QStringLiteral("b"));
-    QVERIFY(buttonOf(search)->isHidden());
-    editOf(search)->clear();
-    editOf(search)->setText(QStringLiteral("a"));
-    QVERIFY(!buttonOf(search)->isHidden());
-}
-
-void tst_SearchWidget::clearClearsAndHidesTheButton()
-{
-    SearchWidget search;
-    editOf(search)->setText(QStringLiteral("a"));
-    Protocol protocol(&search);
-    search.clear();
-    search.clear();
-    QCOMPARE(search.text(), QString());
-    QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
-}
-
-void tst_SearchWidget::clearByMouseKeepsTheKeyboardInTheField()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("abc"));
-    Protocol protocol(window.search);
-    QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
-    QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
-    QVERIFY(window.edit()->hasFocus());
-}
-
-void tst_SearchWidget::clearByKeyGivesTheKeyboardToTheField()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("abc"));
-    QTest::keyClick(window.edit(), Qt::Key_Tab);
-    QVERIFY(buttonOf(*window.search)->hasFocus());
-    Protocol protocol(window.search);
-    QTest::keyClick(buttonOf(*window.search), Qt::Key_Space);
-    QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
-    QVERIFY(window.edit()->hasFocus());
-}
-
-// Qt's handlers run on after the click, and QToolButton's writes into the button.
-void tst_SearchWidget::deletedByAClickOnTheButton()
-{
-    QPointer<SearchWidget> search = new SearchWidget;
-    editOf(*search)->setText(QStringLiteral("a"));
-    search->show();
-    // Not textChanged(), whose sender is the line edit.
-    connect(buttonOf(*search), &QToolButton::clicked, this, [&search] { delete search; });
-    const FreedMemoryWatch memory;
-    QTest::mouseClick(buttonOf(*search), Qt::LeftButton);
-    QVERIFY(!search);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-}
-
-void tst_SearchWidget::enterReportsOnce()
-{
-    SearchWidget search;
-    QTest::keyClicks(editOf(search), QStringLiteral("ab"));
-    Protocol protocol(&search);
-    QTest::keyClick(editOf(search), Qt::Key_Return);
-    QTest::keyClick(editOf(search), Qt::Key_Enter);
-    QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"ab\"")}));
-    // There and back again is no other text.
-    QTest::keyClicks(editOf(search), QStringLiteral("c"));
-    QTest::keyClick(editOf(search), Qt::Key_Backspace);
-    protocol.taken();
-    QTest::keyClick(editOf(search), Qt::Key_Return);
-    QCOMPARE(protocol.taken(), QStringList());
-}
-
-void tst_SearchWidget::leavingReportsOnce()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("a"));
-    Protocol protocol(window.search);
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"a\"")}));
-    window.edit()->setFocus();
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("b"));
-    QTest::keyClick(window.edit(), Qt::Key_Return);
-    window.other->setFocus();
-    QCOMPARE(protocol.taken().filter(QStringLiteral("finished")).size(), 1);
-}
-
-// To the regular expression the empty text is unfinished, and Qt then keeps silent.
-void tst_SearchWidget::emptiedFieldFinishesByEnter()
-{
-    SearchWidget search;
-    QTest::keyClicks(editOf(search), QStringLiteral("a"));
-    QTest::keyClick(editOf(search), Qt::Key_Return);
-    Protocol protocol(&search);
-    search.clear();
-    QTest::keyClick(editOf(search), Qt::Key_Return);
-    QTest::keyClick(editOf(search), Qt::Key_Return);
-    QCOMPARE(protocol.lines,
-             QStringList({QStringLiteral("changed \"\" hidden"), QStringLiteral("finished \"\"")}));
-}
-
-void tst_SearchWidget::emptiedFieldFinishesByLeaving()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("a"));
-    QTest::keyClick(window.edit(), Qt::Key_Return);
-    QTest::keyClick(window.edit(), Qt::Key_Backspace);
-    Protocol protocol(window.search);
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
-    window.edit()->setFocus();
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList());
-}
-
-void tst_SearchWidget::fieldClearedByTheButtonFinishesByLeaving()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("a"));
-    QTest::keyClick(window.edit(), Qt::Key_Return);
-    QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
-    Protocol protocol(window.search);
-    QStringList hints;
-    connect(window.search, &SearchWidget::editingFinished, this,
-            [&] { hints += window.search->property("focusHint").toString(); });
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
-    QCOMPARE(hints, QStringList({QStringLiteral("false")}));
-    window.edit()->setFocus();
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList());
-}
-
-void tst_SearchWidget::untouchedFieldReportsNothing()
-{
-    Window window;
-    QVERIFY(window.present());
-    Protocol protocol(window.search);
-    window.edit()->setFocus();
-    QTest::keyClick(window.edit(), Qt::Key_Return);
-    QTest::keyClicks(window.edit(), QStringLiteral("a"));
-    QTest::keyClick(window.edit(), Qt::Key_Backspace);
-    protocol.taken();
-    window.other->setFocus();
-    QCOMPARE(protocol.taken(), QStringList());
-}
-
-void tst_SearchWidget::reportIsMadeBeforeTheSlotFinishesAgain()
-{
-    SearchWidget search;
-    QTest::keyClicks(editOf(search), QStringLiteral("a"));
-    int reports = 0;
-    connect(&search, &SearchWidget::editingFinished, this, [&] {
-        ++reports;
-        QTest::keyClick(editOf(search), Qt::Key_Return);
-    });
-    QTest::keyClick(editOf(search), Qt::Key_Return);
-    QCOMPARE(reports, 1);
-}
-
-void tst_SearchWidget::deactivatedWindowFinishes()
-{
-    Window window;
-    QVERIFY(window.present());
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("a"));
-    Protocol protocol(window.search);
-    QWidget another;
-    another.show();
-    another.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&another));
-    QTRY_COMPARE(protocol.lines, QStringList({QStringLiteral("finished \"a\"")}));
-}
-
-void tst_SearchWidget::destroyedWhileFocused_data()
-{
-    QTest::addColumn<QString>("dies");
-    QTest::addColumn<QString>("styleSheet");
-    for (const char* dies : {"field", "panel", "window", "field as window"}) {
-        QTest::addRow("%s", dies) << QString::fromLatin1(dies) << QString();
-        QTest::addRow("%s, styled", dies) << QString::fromLatin1(dies) << QString::fromLatin1(sheet);
+    void blankIsRefusedInAnEmptyField()
+    {
+        SearchWidget search;
+        Protocol protocol(&search);
+        QTest::keyClick(editOf(search), Qt::Key_Space);
+        QCOMPARE(search.text(), QString());
+        QCOMPARE(protocol.lines, QStringList());
+        QVERIFY(buttonOf(search)->isHidden());
     }
-}
 
-// A window that dies takes the keyboard from its widgets first, and a line edit that loses it reports the
-// end of its edit: to a window of which only QWidget is left.
-void tst_SearchWidget::destroyedWhileFocused()
-{
-    QFETCH(QString, dies);
-    QFETCH(QString, styleSheet);
-    QWidget survivor;
-    survivor.show();
-    auto* window = new QWidget;
-    window->setStyleSheet(styleSheet);
-    auto* panel = new QWidget(window);
-    const bool isWindow = dies == QLatin1String("field as window");
-    const QPointer<SearchWidget> search = new SearchWidget(isWindow ? nullptr : panel);
-    (new QHBoxLayout(window))->addWidget(panel);
-    if (isWindow) {
-        search->setStyleSheet(styleSheet);
-    } else {
-        (new QHBoxLayout(panel))->addWidget(search);
+    void blanksInsideAreAccepted()
+    {
+        SearchWidget search;
+        QTest::keyClicks(editOf(search), QStringLiteral("a  b "));
+        QCOMPARE(search.text(), QStringLiteral("a  b "));
     }
-    window->show();
-    search->window()->show();
-    search->window()->activateWindow();
-    editOf(*search)->setFocus();
-    QTRY_VERIFY(editOf(*search)->hasFocus());
-    QTest::keyClicks(editOf(*search), QStringLiteral("unreported"));
 
-    Protocol protocol(search);
-    if (dies == QLatin1String("window")) {
-        delete window;
-        window = nullptr;
-        QVERIFY(!search);
-    } else if (dies == QLatin1String("panel")) {
-        delete panel;
-        QVERIFY(!search);
-    } else {
-        delete search;
-    }
-    QCOMPARE(protocol.lines, QStringList());
-    delete window;
-    QCOMPARE(protocol.lines, QStringList());
-}
-
-void tst_SearchWidget::deletedLaterInASlot_data()
-{
-    QTest::addColumn<bool>("isFinished");
-    QTest::newRow("textChanged") << false;
-    QTest::newRow("editingFinished") << true;
-}
-
-void tst_SearchWidget::deletedLaterInASlot()
-{
-    QFETCH(bool, isFinished);
-    QPointer<SearchWidget> search = new SearchWidget;
-    if (isFinished) {
-        connect(search.data(), &SearchWidget::editingFinished, search.data(), &QObject::deleteLater);
-    } else {
-        connect(search.data(), &SearchWidget::textChanged, search.data(), &QObject::deleteLater);
-    }
-    QTest::keyClicks(editOf(*search), QStringLiteral("a"));
-    QTest::keyClick(editOf(*search), Qt::Key_Return);
-    QTRY_VERIFY(!search);
-}
-
-void tst_SearchWidget::propertiesAreStoredOnly()
-{
-    SearchWidget search;
-    search.show();
-    const QPalette before = editOf(search)->palette();
-    QVERIFY(search.setProperty("PlaceholderColor", QColor(Qt::red)));
-    QVERIFY(search.setProperty("PlaceholderHoverColor", QColor(Qt::green)));
-    QVERIFY(search.setProperty("PlaceholderDisabledColor", QColor(Qt::blue)));
-    QCOMPARE(search.GetPlaceholderColor(), QColor(Qt::red));
-    QCOMPARE(search.GetPlaceholderHoverColor(), QColor(Qt::green));
-    QCOMPARE(search.GetPlaceholderDisabledColor(), QColor(Qt::blue));
-    QCOMPARE(search.property("PlaceholderColor").value<QColor>(), QColor(Qt::red));
-    QCOMPARE(editOf(search)->palette(), before);
-}
-
-void tst_SearchWidget::colorOfEachState()
-{
-    SearchWidget search;
-    search.setProperty("PlaceholderColor", QColor(Qt::blue));
-    search.setProperty("PlaceholderHoverColor", QColor(Qt::green));
-    search.setProperty("PlaceholderDisabledColor", QColor(Qt::red));
-    search.resize(200, 30);
-    search.show();
-    QVERIFY(hasPlaceholderColor(search, Qt::blue));
-
-    QEvent enter(QEvent::Enter);
-    QEvent leave(QEvent::Leave);
-    putCursor(&search);
-    QCoreApplication::sendEvent(&search, &enter);
-    QVERIFY(hasPlaceholderColor(search, Qt::green));
-    putCursor(nullptr);
-    QCoreApplication::sendEvent(&search, &leave);
-    QVERIFY(hasPlaceholderColor(search, Qt::blue));
-
-    search.setEnabled(false);
-    QVERIFY(hasPlaceholderColor(search, Qt::red));
-    putCursor(&search);
-    QCoreApplication::sendEvent(&search, &enter);
-    QVERIFY(hasPlaceholderColor(search, Qt::red));
-    search.setEnabled(true);
-    QVERIFY(hasPlaceholderColor(search, Qt::green));
-    // The line edit alone counts.
-    editOf(search)->setEnabled(false);
-    QVERIFY(hasPlaceholderColor(search, Qt::red));
-}
-
-void tst_SearchWidget::invalidColorsAreWrittenToo()
-{
-    SearchWidget search;
-    search.show();
-    QVERIFY(hasPlaceholderColor(search, QColor()));
-}
-
-void tst_SearchWidget::colorTakesEffectOnTheNextOccasion_data()
-{
-    QTest::addColumn<QString>("occasion");
-    for (const char* occasion : {"enter", "leave", "show", "disable"}) {
-        QTest::newRow(occasion) << QString::fromLatin1(occasion);
-    }
-}
-
-void tst_SearchWidget::colorTakesEffectOnTheNextOccasion()
-{
-    QFETCH(QString, occasion);
-    Window window;
-    QVERIFY(window.present());
-    SearchWidget& search = *window.search;
-    // Without colours for the properties, which it would write again whenever it is applied.
-    search.setStyleSheet(QStringLiteral("QWidget { color: #dddddd; }"));
-    for (const char* name : {"PlaceholderColor", "PlaceholderHoverColor", "PlaceholderDisabledColor"}) {
-        search.setProperty(name, QColor(Qt::cyan));
-    }
-    const QColor before = editOf(search)->palette().color(QPalette::PlaceholderText);
-    QVERIFY(before != QColor(Qt::cyan));
-    // None of these is an occasion.
-    window.edit()->setFocus();
-    QTest::keyClicks(window.edit(), QStringLiteral("a"));
-    search.clear();
-    window.other->setFocus();
-    window.resize(400, 120);
-    QVERIFY(hasPlaceholderColor(search, before));
-
-    if (occasion == QLatin1String("show")) {
-        search.hide();
-        search.show();
-    } else if (occasion == QLatin1String("disable")) {
-        search.setDisabled(true);
-    } else {
-        QEvent event(occasion == QLatin1String("enter") ? QEvent::Enter : QEvent::Leave);
-        QCoreApplication::sendEvent(&search, &event);
-    }
-    QVERIFY(hasPlaceholderColor(search, Qt::cyan));
-}
-
-void tst_SearchWidget::colorHoldsUnderASheetFromTheFirstPicture()
-{
-    qApp->setStyleSheet(QString::fromLatin1(sheet));
-    SearchWidget search;
-    search.setTranslations(QString(), QString(), QString(), QStringLiteral("MMMMM"));
-    search.resize(200, 30);
-    search.show();
-    const bool holds = hasPlaceholderColor(search, Qt::blue);
-    const QImage picture = search.grab().toImage();
-    search.setEnabled(false);
-    const bool holdsDisabled = hasPlaceholderColor(search, Qt::red);
-    const QImage disabledPicture = search.grab().toImage();
-    qApp->setStyleSheet(QString());
-    QVERIFY(holds);
-    QVERIFY(holdsDisabled);
-    const auto shows = [](const QImage& image, const QColor& color) {
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) == color) {
-                    return true;
-                }
+    void everyWhiteSpaceIsRefusedInFront_data()
+    {
+        QTest::addColumn<int>("code");
+        for (int code = 0; code <= 0xffff; ++code) {
+            if (QChar::isSpace(static_cast<uint>(code))) {
+                QTest::addRow("U+%04X", static_cast<unsigned>(code)) << code;
             }
         }
-        return false;
-    };
-    QVERIFY(shows(picture, Qt::blue));
-    QVERIFY(!shows(picture, QColor(0xdd, 0xdd, 0xdd)));
-    QVERIFY(shows(disabledPicture, Qt::red));
-    QVERIFY(!shows(disabledPicture, QColor(0x77, 0x77, 0x77)));
-}
-
-void tst_SearchWidget::colorHoldsWhenPolishedAgain_data()
-{
-    QTest::addColumn<QString>("how");
-    for (const char* how :
-         {"focus", "style", "other sheet", "no sheet", "own sheet", "palette", "disabled"}) {
-        QTest::newRow(how) << QString::fromLatin1(how);
     }
-}
 
-void tst_SearchWidget::colorHoldsWhenPolishedAgain()
-{
-    QFETCH(QString, how);
-    QColor expected = Qt::blue;
-    Window window;
-    window.setStyleSheet(QString::fromLatin1(sheet));
-    QVERIFY(window.present());
-    QLineEdit* const edit = window.edit();
-    QVERIFY(hasPlaceholderColor(*window.search, expected));
-    if (how == QLatin1String("focus")) {
-        edit->setFocus();
+    void everyWhiteSpaceIsRefusedInFront()
+    {
+        QFETCH(int, code);
+        const QChar space(code);
+        SearchWidget search;
+        Protocol protocol(&search);
+        editOf(search)->insert(space);
+        editOf(search)->insert(space + QStringLiteral("word"));
+        QCOMPARE(search.text(), QString());
+        QCOMPARE(protocol.lines, QStringList());
+        editOf(search)->insert(QStringLiteral("a") + space + QStringLiteral("b"));
+        QCOMPARE(search.text(), QStringLiteral("a") + space + QStringLiteral("b"));
+        editOf(search)->home(false);
+        editOf(search)->insert(space);
+        QCOMPARE(search.text(), QStringLiteral("a") + space + QStringLiteral("b"));
+    }
+
+    void editThatWouldLeaveABlankInFrontIsRefused()
+    {
+        SearchWidget search;
+        QTest::keyClicks(editOf(search), QStringLiteral("a b"));
+        Protocol protocol(&search);
+        editOf(search)->home(false);
+        QTest::keyClick(editOf(search), Qt::Key_Delete);
+        QCOMPARE(search.text(), QStringLiteral("a b"));
+        editOf(search)->setSelection(0, 1);
+        QTest::keyClick(editOf(search), Qt::Key_Space);
+        QCOMPARE(search.text(), QStringLiteral("a b"));
+        QCOMPARE(protocol.lines, QStringList());
+        editOf(search)->setSelection(0, 2);
+        QTest::keyClick(editOf(search), Qt::Key_Delete);
+        QCOMPARE(search.text(), QStringLiteral("b"));
+    }
+
+    void pastedText_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("word") << QStringLiteral("word") << QStringLiteral("word");
+        QTest::newRow("leading blanks") << QStringLiteral("  word") << QString();
+        QTest::newRow("leading new line") << QStringLiteral("\nword") << QString();
+        QTest::newRow("leading no-break space") << QString(QChar(0xa0)) + QStringLiteral("word") << QString();
+        QTest::newRow("blanks behind") << QStringLiteral("word  ") << QStringLiteral("word  ");
+        QTest::newRow("two lines") << QStringLiteral("one\ntwo") << QStringLiteral("one\ntwo");
+        QTest::newRow("only blanks") << QStringLiteral("   ") << QString();
+    }
+
+    void pastedText()
+    {
+        QFETCH(QString, pasted);
+        SearchWidget search;
+        QGuiApplication::clipboard()->setText(pasted);
+        QTest::keySequence(editOf(search), QKeySequence::Paste);
+        QTEST(search.text(), "text");
+        QCOMPARE(buttonOf(search)->isHidden(), search.text().isEmpty());
+    }
+
+    void inputMethodIsRefusedALeadingBlank()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        Protocol protocol(window.search);
+        for (const QString& text : {QStringLiteral(" "), QStringLiteral("\u3000"), QStringLiteral(" word")}) {
+            commit(window.edit(), text);
+            QCOMPARE(window.search->text(), QString());
+        }
+        commit(window.edit(), QStringLiteral("word"));
+        window.edit()->home(false);
+        commit(window.edit(), QStringLiteral("\u3000"));
+        QCOMPARE(window.search->text(), QStringLiteral("word"));
+        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"word\" shown")}));
+    }
+
+    void inputMethodCommitsAWord()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        Protocol protocol(window.search);
+        QInputMethodEvent composing(QStringLiteral("\u306d"), {});
+        QCoreApplication::sendEvent(window.edit(), &composing);
+        // Not yet text.
+        QCOMPARE(protocol.lines, QStringList());
+        commit(window.edit(), QStringLiteral("\u732b"));
+        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\u732b\" shown")}));
+    }
+
+    void clearButtonShowsWithTheText()
+    {
+        SearchWidget search;
+        EventCounter shows(buttonOf(search), QEvent::ShowToParent);
+        EventCounter hides(buttonOf(search), QEvent::HideToParent);
+        QTest::keyClicks(editOf(search), QStringLiteral("abc"));
+        QVERIFY(!buttonOf(search)->isHidden());
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(editOf(search), Qt::Key_Backspace);
+        }
+        QVERIFY(buttonOf(search)->isHidden());
+        QCOMPARE(shows.count, 1);
+        QCOMPARE(hides.count, 1);
+    }
+
+    void changesThatKeepATextTouchNothing()
+    {
+        SearchWidget search;
+        editOf(search)->setText(QStringLiteral("a"));
+        buttonOf(search)->hide();
+        editOf(search)->setText(QStringLiteral("b"));
+        QVERIFY(buttonOf(search)->isHidden());
+        editOf(search)->clear();
+        editOf(search)->setText(QStringLiteral("a"));
+        QVERIFY(!buttonOf(search)->isHidden());
+    }
+
+    void clearClearsAndHidesTheButton()
+    {
+        SearchWidget search;
+        editOf(search)->setText(QStringLiteral("a"));
+        Protocol protocol(&search);
+        search.clear();
+        search.clear();
+        QCOMPARE(search.text(), QString());
+        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
+    }
+
+    void clearByMouseKeepsTheKeyboardInTheField()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("abc"));
+        Protocol protocol(window.search);
+        QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
+        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
+        QVERIFY(window.edit()->hasFocus());
+    }
+
+    void clearByKeyGivesTheKeyboardToTheField()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("abc"));
+        QTest::keyClick(window.edit(), Qt::Key_Tab);
+        QVERIFY(buttonOf(*window.search)->hasFocus());
+        Protocol protocol(window.search);
+        QTest::keyClick(buttonOf(*window.search), Qt::Key_Space);
+        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
+        QVERIFY(window.edit()->hasFocus());
+    }
+
+    // Qt's handlers run on after the click, and QToolButton's writes into the button.
+    void deletedByAClickOnTheButton()
+    {
+        QPointer<SearchWidget> search = new SearchWidget;
+        editOf(*search)->setText(QStringLiteral("a"));
+        search->show();
+        // Not textChanged(), whose sender is the line edit.
+        connect(buttonOf(*search), &QToolButton::clicked, this, [&search] { delete search; });
+        const FreedMemoryWatch memory;
+        QTest::mouseClick(buttonOf(*search), Qt::LeftButton);
+        QVERIFY(!search);
+        QVERIFY(memory.deleted() > 0);
+        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+    }
+
+    void enterReportsOnce()
+    {
+        SearchWidget search;
+        QTest::keyClicks(editOf(search), QStringLiteral("ab"));
+        Protocol protocol(&search);
+        QTest::keyClick(editOf(search), Qt::Key_Return);
+        QTest::keyClick(editOf(search), Qt::Key_Enter);
+        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"ab\"")}));
+        // There and back again is no other text.
+        QTest::keyClicks(editOf(search), QStringLiteral("c"));
+        QTest::keyClick(editOf(search), Qt::Key_Backspace);
+        protocol.taken();
+        QTest::keyClick(editOf(search), Qt::Key_Return);
+        QCOMPARE(protocol.taken(), QStringList());
+    }
+
+    void leavingReportsOnce()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        Protocol protocol(window.search);
         window.other->setFocus();
-    } else if (how == QLatin1String("style")) {
-        edit->style()->unpolish(edit);
-        edit->style()->polish(edit);
-    } else if (how == QLatin1String("other sheet")) {
-        window.setStyleSheet(QStringLiteral("QLineEdit { color: #123456; } QLineEdit:focus { color: red; }"));
-        edit->setFocus();
-    } else if (how == QLatin1String("no sheet")) {
-        window.setStyleSheet(QString());
-    } else if (how == QLatin1String("own sheet")) {
-        edit->setStyleSheet(QStringLiteral("color: #654321;"));
-    } else if (how == QLatin1String("palette")) {
-        QPalette palette;
-        palette.setColor(QPalette::PlaceholderText, Qt::magenta);
-        edit->setPalette(palette);
-    } else {
-        window.setEnabled(false);
-        expected = Qt::red;
+        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"a\"")}));
+        window.edit()->setFocus();
+        window.other->setFocus();
+        QCOMPARE(protocol.taken(), QStringList());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("b"));
+        QTest::keyClick(window.edit(), Qt::Key_Return);
+        window.other->setFocus();
+        QCOMPARE(protocol.taken().filter(QStringLiteral("finished")).size(), 1);
     }
-    QVERIFY(hasPlaceholderColor(*window.search, expected));
-    QCoreApplication::processEvents();
-    QVERIFY(hasPlaceholderColor(*window.search, expected));
-}
 
-// The line edit takes a placeholder of exactly that colour for one that no one chose.
-void tst_SearchWidget::colorMayBeThatOfTheText()
-{
-    Window window;
-    window.setStyleSheet(QStringLiteral("QWidget { color: #dddddd; }"
-                                        "SearchWidget { qproperty-PlaceholderColor: #dddddd; }"));
-    QVERIFY(window.present());
-    const QColor text(0xdd, 0xdd, 0xdd);
-    QCOMPARE(window.edit()->palette().color(QPalette::Text), text);
-    QVERIFY(hasPlaceholderColor(*window.search, text));
-    window.edit()->setFocus();
-    QVERIFY(hasPlaceholderColor(*window.search, text));
-    window.other->setFocus();
-    window.setStyleSheet(window.styleSheet() + QStringLiteral("QWidget { background-color: black; }"));
-    QVERIFY(hasPlaceholderColor(*window.search, text));
-}
+    // To the regular expression the empty text is unfinished, and Qt then keeps silent.
+    void emptiedFieldFinishesByEnter()
+    {
+        SearchWidget search;
+        QTest::keyClicks(editOf(search), QStringLiteral("a"));
+        QTest::keyClick(editOf(search), Qt::Key_Return);
+        Protocol protocol(&search);
+        search.clear();
+        QTest::keyClick(editOf(search), Qt::Key_Return);
+        QTest::keyClick(editOf(search), Qt::Key_Return);
+        QCOMPARE(protocol.lines,
+                 QStringList({QStringLiteral("changed \"\" hidden"), QStringLiteral("finished \"\"")}));
+    }
 
-void tst_SearchWidget::nothingIsSetBeforeTheFirstShow()
-{
-    SearchWidget search;
-    search.setProperty("PlaceholderColor", QColor(Qt::blue));
-    const QBrush before = editOf(search)->palette().brush(QPalette::PlaceholderText);
-    search.ensurePolished();
-    search.grab();
-    QCOMPARE(editOf(search)->palette().brush(QPalette::PlaceholderText), before);
-}
+    void emptiedFieldFinishesByLeaving()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        QTest::keyClick(window.edit(), Qt::Key_Return);
+        QTest::keyClick(window.edit(), Qt::Key_Backspace);
+        Protocol protocol(window.search);
+        window.other->setFocus();
+        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
+        window.edit()->setFocus();
+        window.other->setFocus();
+        QCOMPARE(protocol.taken(), QStringList());
+    }
 
-void tst_SearchWidget::edgesCountAsHovered()
-{
-    SearchWidget search;
-    search.resize(100, 30);
-    search.move(100, 100);
-    search.show();
-    QEvent enter(QEvent::Enter);
-    const auto isHoveredAt = [&](const QPoint& point) {
-        QCursor::setPos(search.mapToGlobal(point));
+    void fieldClearedByTheButtonFinishesByLeaving()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        QTest::keyClick(window.edit(), Qt::Key_Return);
+        QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
+        Protocol protocol(window.search);
+        QStringList hints;
+        connect(window.search, &SearchWidget::editingFinished, this,
+                [&] { hints += window.search->property("focusHint").toString(); });
+        window.other->setFocus();
+        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
+        QCOMPARE(hints, QStringList({QStringLiteral("false")}));
+        window.edit()->setFocus();
+        window.other->setFocus();
+        QCOMPARE(protocol.taken(), QStringList());
+    }
+
+    void untouchedFieldReportsNothing()
+    {
+        Window window;
+        QVERIFY(window.present());
+        Protocol protocol(window.search);
+        window.edit()->setFocus();
+        QTest::keyClick(window.edit(), Qt::Key_Return);
+        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        QTest::keyClick(window.edit(), Qt::Key_Backspace);
+        protocol.taken();
+        window.other->setFocus();
+        QCOMPARE(protocol.taken(), QStringList());
+    }
+
+    void reportIsMadeBeforeTheSlotFinishesAgain()
+    {
+        SearchWidget search;
+        QTest::keyClicks(editOf(search), QStringLiteral("a"));
+        int reports = 0;
+        connect(&search, &SearchWidget::editingFinished, this, [&] {
+            ++reports;
+            QTest::keyClick(editOf(search), Qt::Key_Return);
+        });
+        QTest::keyClick(editOf(search), Qt::Key_Return);
+        QCOMPARE(reports, 1);
+    }
+
+    void deactivatedWindowFinishes()
+    {
+        Window window;
+        QVERIFY(window.present());
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        Protocol protocol(window.search);
+        QWidget another;
+        another.show();
+        another.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&another));
+        QTRY_COMPARE(protocol.lines, QStringList({QStringLiteral("finished \"a\"")}));
+    }
+
+    void destroyedWhileFocused_data()
+    {
+        QTest::addColumn<QString>("dies");
+        QTest::addColumn<QString>("styleSheet");
+        for (const char* dies : {"field", "panel", "window", "field as window"}) {
+            QTest::addRow("%s", dies) << QString::fromLatin1(dies) << QString();
+            QTest::addRow("%s, styled", dies) << QString::fromLatin1(dies) << QString::fromLatin1(sheet);
+        }
+    }
+
+    // A window that dies takes the keyboard from its widgets first, and a line edit that loses it reports the
+    // end of its edit: to a window of which only QWidget is left.
+    void destroyedWhileFocused()
+    {
+        QFETCH(QString, dies);
+        QFETCH(QString, styleSheet);
+        QWidget survivor;
+        survivor.show();
+        auto* window = new QWidget;
+        window->setStyleSheet(styleSheet);
+        auto* panel = new QWidget(window);
+        const bool isWindow = dies == QLatin1String("field as window");
+        const QPointer<SearchWidget> search = new SearchWidget(isWindow ? nullptr : panel);
+        (new QHBoxLayout(window))->addWidget(panel);
+        if (isWindow) {
+            search->setStyleSheet(styleSheet);
+        } else {
+            (new QHBoxLayout(panel))->addWidget(search);
+        }
+        window->show();
+        search->window()->show();
+        search->window()->activateWindow();
+        editOf(*search)->setFocus();
+        QTRY_VERIFY(editOf(*search)->hasFocus());
+        QTest::keyClicks(editOf(*search), QStringLiteral("unreported"));
+
+        Protocol protocol(search);
+        if (dies == QLatin1String("window")) {
+            delete window;
+            window = nullptr;
+            QVERIFY(!search);
+        } else if (dies == QLatin1String("panel")) {
+            delete panel;
+            QVERIFY(!search);
+        } else {
+            delete search;
+        }
+        QCOMPARE(protocol.lines, QStringList());
+        delete window;
+        QCOMPARE(protocol.lines, QStringList());
+    }
+
+    void deletedLaterInASlot_data()
+    {
+        QTest::addColumn<bool>("isFinished");
+        QTest::newRow("textChanged") << false;
+        QTest::newRow("editingFinished") << true;
+    }
+
+    void deletedLaterInASlot()
+    {
+        QFETCH(bool, isFinished);
+        QPointer<SearchWidget> search = new SearchWidget;
+        if (isFinished) {
+            connect(search.data(), &SearchWidget::editingFinished, search.data(), &QObject::deleteLater);
+        } else {
+            connect(search.data(), &SearchWidget::textChanged, search.data(), &QObject::deleteLater);
+        }
+        QTest::keyClicks(editOf(*search), QStringLiteral("a"));
+        QTest::keyClick(editOf(*search), Qt::Key_Return);
+        QTRY_VERIFY(!search);
+    }
+
+    void propertiesAreStoredOnly()
+    {
+        SearchWidget search;
+        search.show();
+        const QPalette before = editOf(search)->palette();
+        QVERIFY(search.setProperty("PlaceholderColor", QColor(Qt::red)));
+        QVERIFY(search.setProperty("PlaceholderHoverColor", QColor(Qt::green)));
+        QVERIFY(search.setProperty("PlaceholderDisabledColor", QColor(Qt::blue)));
+        QCOMPARE(search.GetPlaceholderColor(), QColor(Qt::red));
+        QCOMPARE(search.GetPlaceholderHoverColor(), QColor(Qt::green));
+        QCOMPARE(search.GetPlaceholderDisabledColor(), QColor(Qt::blue));
+        QCOMPARE(search.property("PlaceholderColor").value<QColor>(), QColor(Qt::red));
+        QCOMPARE(editOf(search)->palette(), before);
+    }
+
+    void colorOfEachState()
+    {
+        SearchWidget search;
+        search.setProperty("PlaceholderColor", QColor(Qt::blue));
+        search.setProperty("PlaceholderHoverColor", QColor(Qt::green));
+        search.setProperty("PlaceholderDisabledColor", QColor(Qt::red));
+        search.resize(200, 30);
+        search.show();
+        QVERIFY(hasPlaceholderColor(search, Qt::blue));
+
+        QEvent enter(QEvent::Enter);
+        QEvent leave(QEvent::Leave);
+        putCursor(&search);
         QCoreApplication::sendEvent(&search, &enter);
-        return iconOf(search)->property("hovered") == QVariant(true);
-    };
-    const QRect all = search.rect();
-    QVERIFY(isHoveredAt(all.topLeft()));
-    QVERIFY(isHoveredAt(all.bottomRight()));
-    QVERIFY(!isHoveredAt(all.topLeft() - QPoint(1, 0)));
-    QVERIFY(!isHoveredAt(all.bottomRight() + QPoint(0, 1)));
-}
+        QVERIFY(hasPlaceholderColor(search, Qt::green));
+        putCursor(nullptr);
+        QCoreApplication::sendEvent(&search, &leave);
+        QVERIFY(hasPlaceholderColor(search, Qt::blue));
 
-void tst_SearchWidget::hoveredIsToldToTheIcon()
-{
-    SearchWidget search;
-    search.show();
-    QCOMPARE(iconOf(search)->property("hovered"), QVariant(false));
-    search.setEnabled(false);
-    putCursor(&search);
-    QEvent enter(QEvent::Enter);
-    QCoreApplication::sendEvent(&search, &enter);
-    QCOMPARE(iconOf(search)->property("hovered"), QVariant(true));
-}
-
-void tst_SearchWidget::focusIsShownByTheFrame()
-{
-    Window window;
-    QVERIFY(window.present());
-    QVERIFY(!window.search->property("focusHint").isValid());
-    window.edit()->setFocus();
-    QCOMPARE(window.search->property("focusHint"), QVariant(true));
-    window.other->setFocus();
-    QCOMPARE(window.search->property("focusHint"), QVariant(false));
-    // The button is not the field.
-    window.edit()->setText(QStringLiteral("a"));
-    buttonOf(*window.search)->setFocus();
-    QCOMPARE(window.search->property("focusHint"), QVariant(false));
-}
-
-void tst_SearchWidget::focusInPolishesIconAndEdit()
-{
-    Window window;
-    window.setStyleSheet(
-        QStringLiteral("SearchWidget[focusHint=\"true\"] > #searchIcon { color: #ff0000; }"
-                       "SearchWidget[focusHint=\"true\"] > #searchLineEdit { color: #00ff00; }"
-                       "#searchIcon, #searchLineEdit { color: #0000ff; }"));
-    QVERIFY(window.present());
-    const auto color = [](const QWidget* widget) { return widget->palette().color(QPalette::WindowText); };
-    QCOMPARE(color(iconOf(*window.search)), QColor(Qt::blue));
-    window.edit()->setFocus();
-    QCOMPARE(color(iconOf(*window.search)), QColor(Qt::red));
-    QCOMPARE(color(window.edit()), QColor(Qt::green));
-    // Polished when the keyboard comes, not when it goes.
-    window.other->setFocus();
-    QCOMPARE(color(iconOf(*window.search)), QColor(Qt::red));
-}
-
-void tst_SearchWidget::eventsAreNotConsumed()
-{
-    SearchWidget search;
-    for (const auto type : {QEvent::FocusIn, QEvent::FocusOut}) {
-        QFocusEvent event(type);
-        QVERIFY(!search.eventFilter(editOf(search), &event));
+        search.setEnabled(false);
+        QVERIFY(hasPlaceholderColor(search, Qt::red));
+        putCursor(&search);
+        QCoreApplication::sendEvent(&search, &enter);
+        QVERIFY(hasPlaceholderColor(search, Qt::red));
+        search.setEnabled(true);
+        QVERIFY(hasPlaceholderColor(search, Qt::green));
+        // The line edit alone counts.
+        editOf(search)->setEnabled(false);
+        QVERIFY(hasPlaceholderColor(search, Qt::red));
     }
-    QEvent event(QEvent::EnabledChange);
-    QVERIFY(!search.eventFilter(editOf(search), &event));
-    // Others' events are none of its business.
-    QFocusEvent focus(QEvent::FocusOut);
-    QVERIFY(!search.eventFilter(buttonOf(search), &focus));
-}
 
-void tst_SearchWidget::rightToLeft()
-{
-    SearchWidget search;
-    search.setLayoutDirection(Qt::RightToLeft);
-    editOf(search)->setText(QStringLiteral("a"));
-    search.resize(200, 30);
-    search.show();
-    QVERIFY(buttonOf(search)->x() < editOf(search)->x());
-    QVERIFY(iconOf(search)->x() >= editOf(search)->x());
-}
+    void invalidColorsAreWrittenToo()
+    {
+        SearchWidget search;
+        search.show();
+        QVERIFY(hasPlaceholderColor(search, QColor()));
+    }
+
+    void colorTakesEffectOnTheNextOccasion_data()
+    {
+        QTest::addColumn<QString>("occasion");
+        for (const char* occasion : {"enter", "leave", "show", "disable"}) {
+            QTest::newRow(occasion) << QString::fromLatin1(occasion);
+        }
+    }
+
+    void colorTakesEffectOnTheNextOccasion()
+    {
+        QFETCH(QString, occasion);
+        Window window;
+        QVERIFY(window.present());
+        SearchWidget& search = *window.search;
+        // Without colours for the properties, which it would write again whenever it is applied.
+        search.setStyleSheet(QStringLiteral("QWidget { color: #dddddd; }"));
+        for (const char* name : {"PlaceholderColor", "PlaceholderHoverColor", "PlaceholderDisabledColor"}) {
+            search.setProperty(name, QColor(Qt::cyan));
+        }
+        const QColor before = editOf(search)->palette().color(QPalette::PlaceholderText);
+        QVERIFY(before != QColor(Qt::cyan));
+        // None of these is an occasion.
+        window.edit()->setFocus();
+        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        search.clear();
+        window.other->setFocus();
+        window.resize(400, 120);
+        QVERIFY(hasPlaceholderColor(search, before));
+
+        if (occasion == QLatin1String("show")) {
+            search.hide();
+            search.show();
+        } else if (occasion == QLatin1String("disable")) {
+            search.setDisabled(true);
+        } else {
+            QEvent event(occasion == QLatin1String("enter") ? QEvent::Enter : QEvent::Leave);
+            QCoreApplication::sendEvent(&search, &event);
+        }
+        QVERIFY(hasPlaceholderColor(search, Qt::cyan));
+    }
+
+    void colorHoldsUnderASheetFromTheFirstPicture()
+    {
+        qApp->setStyleSheet(QString::fromLatin1(sheet));
+        SearchWidget search;
+        search.setTranslations(QString(), QString(), QString(), QStringLiteral("MMMMM"));
+        search.resize(200, 30);
+        search.show();
+        const bool holds = hasPlaceholderColor(search, Qt::blue);
+        const QImage picture = search.grab().toImage();
+        search.setEnabled(false);
+        const bool holdsDisabled = hasPlaceholderColor(search, Qt::red);
+        const QImage disabledPicture = search.grab().toImage();
+        qApp->setStyleSheet(QString());
+        QVERIFY(holds);
+        QVERIFY(holdsDisabled);
+        const auto shows = [](const QImage& image, const QColor& color) {
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    if (image.pixelColor(x, y) == color) {
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        QVERIFY(shows(picture, Qt::blue));
+        QVERIFY(!shows(picture, QColor(0xdd, 0xdd, 0xdd)));
+        QVERIFY(shows(disabledPicture, Qt::red));
+        QVERIFY(!shows(disabledPicture, QColor(0x77, 0x77, 0x77)));
+    }
+
+    void colorHoldsWhenPolishedAgain_data()
+    {
+        QTest::addColumn<QString>("how");
+        for (const char* how :
+             {"focus", "style", "other sheet", "no sheet", "own sheet", "palette", "disabled"}) {
+            QTest::newRow(how) << QString::fromLatin1(how);
+        }
+    }
+
+    void colorHoldsWhenPolishedAgain()
+    {
+        QFETCH(QString, how);
+        QColor expected = Qt::blue;
+        Window window;
+        window.setStyleSheet(QString::fromLatin1(sheet));
+        QVERIFY(window.present());
+        QLineEdit* const edit = window.edit();
+        QVERIFY(hasPlaceholderColor(*window.search, expected));
+        if (how == QLatin1String("focus")) {
+            edit->setFocus();
+            window.other->setFocus();
+        } else if (how == QLatin1String("style")) {
+            edit->style()->unpolish(edit);
+            edit->style()->polish(edit);
+        } else if (how == QLatin1String("other sheet")) {
+            window.setStyleSheet(
+                QStringLiteral("QLineEdit { color: #123456; } QLineEdit:focus { color: red; }"));
+            edit->setFocus();
+        } else if (how == QLatin1String("no sheet")) {
+            window.setStyleSheet(QString());
+        } else if (how == QLatin1String("own sheet")) {
+            edit->setStyleSheet(QStringLiteral("color: #654321;"));
+        } else if (how == QLatin1String("palette")) {
+            QPalette palette;
+            palette.setColor(QPalette::PlaceholderText, Qt::magenta);
+            edit->setPalette(palette);
+        } else {
+            window.setEnabled(false);
+            expected = Qt::red;
+        }
+        QVERIFY(hasPlaceholderColor(*window.search, expected));
+        QCoreApplication::processEvents();
+        QVERIFY(hasPlaceholderColor(*window.search, expected));
+    }
+
+    // The line edit takes a placeholder of exactly that colour for one that no one chose.
+    void colorMayBeThatOfTheText()
+    {
+        Window window;
+        window.setStyleSheet(QStringLiteral("QWidget { color: #dddddd; }"
+                                            "SearchWidget { qproperty-PlaceholderColor: #dddddd; }"));
+        QVERIFY(window.present());
+        const QColor text(0xdd, 0xdd, 0xdd);
+        QCOMPARE(window.edit()->palette().color(QPalette::Text), text);
+        QVERIFY(hasPlaceholderColor(*window.search, text));
+        window.edit()->setFocus();
+        QVERIFY(hasPlaceholderColor(*window.search, text));
+        window.other->setFocus();
+        window.setStyleSheet(window.styleSheet() + QStringLiteral("QWidget { background-color: black; }"));
+        QVERIFY(hasPlaceholderColor(*window.search, text));
+    }
+
+    void nothingIsSetBeforeTheFirstShow()
+    {
+        SearchWidget search;
+        search.setProperty("PlaceholderColor", QColor(Qt::blue));
+        const QBrush before = editOf(search)->palette().brush(QPalette::PlaceholderText);
+        search.ensurePolished();
+        search.grab();
+        QCOMPARE(editOf(search)->palette().brush(QPalette::PlaceholderText), before);
+    }
+
+    void edgesCountAsHovered()
+    {
+        SearchWidget search;
+        search.resize(100, 30);
+        search.move(100, 100);
+        search.show();
+        QEvent enter(QEvent::Enter);
+        const auto isHoveredAt = [&](const QPoint& point) {
+            QCursor::setPos(search.mapToGlobal(point));
+            QCoreApplication::sendEvent(&search, &enter);
+            return iconOf(search)->property("hovered") == QVariant(true);
+        };
+        const QRect all = search.rect();
+        QVERIFY(isHoveredAt(all.topLeft()));
+        QVERIFY(isHoveredAt(all.bottomRight()));
+        QVERIFY(!isHoveredAt(all.topLeft() - QPoint(1, 0)));
+        QVERIFY(!isHoveredAt(all.bottomRight() + QPoint(0, 1)));
+    }
+
+    void hoveredIsToldToTheIcon()
+    {
+        SearchWidget search;
+        search.show();
+        QCOMPARE(iconOf(search)->property("hovered"), QVariant(false));
+        search.setEnabled(false);
+        putCursor(&search);
+        QEvent enter(QEvent::Enter);
+        QCoreApplication::sendEvent(&search, &enter);
+        QCOMPARE(iconOf(search)->property("hovered"), QVariant(true));
+    }
+
+    void focusIsShownByTheFrame()
+    {
+        Window window;
+        QVERIFY(window.present());
+        QVERIFY(!window.search->property("focusHint").isValid());
+        window.edit()->setFocus();
+        QCOMPARE(window.search->property("focusHint"), QVariant(true));
+        window.other->setFocus();
+        QCOMPARE(window.search->property("focusHint"), QVariant(false));
+        // The button is not the field.
+        window.edit()->setText(QStringLiteral("a"));
+        buttonOf(*window.search)->setFocus();
+        QCOMPARE(window.search->property("focusHint"), QVariant(false));
+    }
+
+    void focusInPolishesIconAndEdit()
+    {
+        Window window;
+        window.setStyleSheet(
+            QStringLiteral("SearchWidget[focusHint=\"true\"] > #searchIcon { color: #ff0000; }"
+                           "SearchWidget[focusHint=\"true\"] > #searchLineEdit { color: #00ff00; }"
+                           "#searchIcon, #searchLineEdit { color: #0000ff; }"));
+        QVERIFY(window.present());
+        const auto color = [](const QWidget* widget) {
+            return widget->palette().color(QPalette::WindowText);
+        };
+        QCOMPARE(color(iconOf(*window.search)), QColor(Qt::blue));
+        window.edit()->setFocus();
+        QCOMPARE(color(iconOf(*window.search)), QColor(Qt::red));
+        QCOMPARE(color(window.edit()), QColor(Qt::green));
+        // Polished when the keyboard comes, not when it goes.
+        window.other->setFocus();
+        QCOMPARE(color(iconOf(*window.search)), QColor(Qt::red));
+    }
+
+    void eventsAreNotConsumed()
+    {
+        SearchWidget search;
+        for (const auto type : {QEvent::FocusIn, QEvent::FocusOut}) {
+            QFocusEvent event(type);
+            QVERIFY(!search.eventFilter(editOf(search), &event));
+        }
+        QEvent event(QEvent::EnabledChange);
+        QVERIFY(!search.eventFilter(editOf(search), &event));
+        // Others' events are none of its business.
+        QFocusEvent focus(QEvent::FocusOut);
+        QVERIFY(!search.eventFilter(buttonOf(search), &focus));
+    }
+
+    void rightToLeft()
+    {
+        SearchWidget search;
+        search.setLayoutDirection(Qt::RightToLeft);
+        editOf(search)->setText(QStringLiteral("a"));
+        search.resize(200, 30);
+        search.show();
+        QVERIFY(buttonOf(search)->x() < editOf(search)->x());
+        QVERIFY(iconOf(search)->x() >= editOf(search)->x());
+    }
+};
 
 UIC_TEST_MAIN(tst_SearchWidget)
 #include "tst_SearchWidget.moc"

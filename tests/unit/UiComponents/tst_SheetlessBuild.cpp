@@ -58,121 +58,107 @@ class tst_SheetlessBuild : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() { qApp->setStyleSheet(QString()); }
 
-    void runsOnce_data();
-    void runsOnce();
-    void looksTheSame_data();
-    void looksTheSame();
-    void noRuleIsLookedUp();
-    void sheetCountsAgainAfterwards();
-    void nested();
-    void nothingIsLeft();
-};
-
-void tst_SheetlessBuild::cleanup()
-{
-    qApp->setStyleSheet(QString());
-}
-
-void tst_SheetlessBuild::runsOnce_data()
-{
-    QTest::addColumn<QString>("applicationSheet");
-    QTest::newRow("without a sheet") << QString();
-    QTest::newRow("with a sheet") << QString::fromLatin1(sheet);
-}
-
-void tst_SheetlessBuild::runsOnce()
-{
-    QFETCH(QString, applicationSheet);
-    qApp->setStyleSheet(applicationSheet);
-    int runs = 0;
-    SheetlessBuild::run([&runs] { ++runs; });
-    QCOMPARE(runs, 1);
-}
-
-void tst_SheetlessBuild::looksTheSame_data()
-{
-    QTest::addColumn<QString>("applicationSheet");
-    QTest::addColumn<QString>("windowSheet");
-    const QString rules = QString::fromLatin1(sheet);
-    QTest::newRow("without a sheet") << QString() << QString();
-    QTest::newRow("sheet of the application") << rules << QString();
-    QTest::newRow("sheet of the window") << QString() << rules;
-    QTest::newRow("both") << rules << QStringLiteral("QToolButton { min-height: 30px; }");
-}
-
-void tst_SheetlessBuild::looksTheSame()
-{
-    QFETCH(QString, applicationSheet);
-    QFETCH(QString, windowSheet);
-    qApp->setStyleSheet(applicationSheet);
-    QWidget plain;
-    plain.setStyleSheet(windowSheet);
-    fill(&plain);
-    QWidget ours;
-    ours.setStyleSheet(windowSheet);
-    SheetlessBuild::run([&ours] { fill(&ours); });
-    QCOMPARE(ours.sizeHint(), plain.sizeHint());
-    QCOMPARE(pictureOf(&ours), pictureOf(&plain));
-    // And after another sheet.
-    for (QWidget* window : {&ours, &plain}) {
-        window->setStyleSheet(QStringLiteral("QToolButton { border: 3px solid green; }"));
+    void runsOnce_data()
+    {
+        QTest::addColumn<QString>("applicationSheet");
+        QTest::newRow("without a sheet") << QString();
+        QTest::newRow("with a sheet") << QString::fromLatin1(sheet);
     }
-    QCOMPARE(pictureOf(&ours), pictureOf(&plain));
-}
 
-// Qt marks a widget with the first look into a sheet for it.
-void tst_SheetlessBuild::noRuleIsLookedUp()
-{
-    qApp->setStyleSheet(QString::fromLatin1(sheet));
-    QWidget window;
-    const QToolButton plain(&window);
-    QVERIFY(plain.testAttribute(Qt::WA_StyleSheet));
-    QToolButton* button = nullptr;
-    SheetlessBuild::run([&] {
-        button = new QToolButton(&window);
-        button->setStyleSheet(QStringLiteral("color: red;"));
-    });
-    QVERIFY(!button->testAttribute(Qt::WA_StyleSheet));
-    button->ensurePolished();
-    QVERIFY(button->testAttribute(Qt::WA_StyleSheet));
-    QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(Qt::red));
-}
+    void runsOnce()
+    {
+        QFETCH(QString, applicationSheet);
+        qApp->setStyleSheet(applicationSheet);
+        int runs = 0;
+        SheetlessBuild::run([&runs] { ++runs; });
+        QCOMPARE(runs, 1);
+    }
 
-void tst_SheetlessBuild::sheetCountsAgainAfterwards()
-{
-    qApp->setStyleSheet(QString::fromLatin1(sheet));
-    SheetlessBuild::run([] {});
-    QLabel label;
-    label.ensurePolished();
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(0xd8, 0xda, 0xdf));
-}
+    void looksTheSame_data()
+    {
+        QTest::addColumn<QString>("applicationSheet");
+        QTest::addColumn<QString>("windowSheet");
+        const QString rules = QString::fromLatin1(sheet);
+        QTest::newRow("without a sheet") << QString() << QString();
+        QTest::newRow("sheet of the application") << rules << QString();
+        QTest::newRow("sheet of the window") << QString() << rules;
+        QTest::newRow("both") << rules << QStringLiteral("QToolButton { min-height: 30px; }");
+    }
 
-void tst_SheetlessBuild::nested()
-{
-    qApp->setStyleSheet(QString::fromLatin1(sheet));
-    QWidget plain;
-    fill(&plain);
-    QWidget ours;
-    int runs = 0;
-    SheetlessBuild::run([&] {
+    void looksTheSame()
+    {
+        QFETCH(QString, applicationSheet);
+        QFETCH(QString, windowSheet);
+        qApp->setStyleSheet(applicationSheet);
+        QWidget plain;
+        plain.setStyleSheet(windowSheet);
+        fill(&plain);
+        QWidget ours;
+        ours.setStyleSheet(windowSheet);
+        SheetlessBuild::run([&ours] { fill(&ours); });
+        QCOMPARE(ours.sizeHint(), plain.sizeHint());
+        QCOMPARE(pictureOf(&ours), pictureOf(&plain));
+        // And after another sheet.
+        for (QWidget* window : {&ours, &plain}) {
+            window->setStyleSheet(QStringLiteral("QToolButton { border: 3px solid green; }"));
+        }
+        QCOMPARE(pictureOf(&ours), pictureOf(&plain));
+    }
+
+    // Qt marks a widget with the first look into a sheet for it.
+    void noRuleIsLookedUp()
+    {
+        qApp->setStyleSheet(QString::fromLatin1(sheet));
+        QWidget window;
+        const QToolButton plain(&window);
+        QVERIFY(plain.testAttribute(Qt::WA_StyleSheet));
+        QToolButton* button = nullptr;
         SheetlessBuild::run([&] {
-            fill(&ours);
+            button = new QToolButton(&window);
+            button->setStyleSheet(QStringLiteral("color: red;"));
+        });
+        QVERIFY(!button->testAttribute(Qt::WA_StyleSheet));
+        button->ensurePolished();
+        QVERIFY(button->testAttribute(Qt::WA_StyleSheet));
+        QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(Qt::red));
+    }
+
+    void sheetCountsAgainAfterwards()
+    {
+        qApp->setStyleSheet(QString::fromLatin1(sheet));
+        SheetlessBuild::run([] {});
+        QLabel label;
+        label.ensurePolished();
+        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(0xd8, 0xda, 0xdf));
+    }
+
+    void nested()
+    {
+        qApp->setStyleSheet(QString::fromLatin1(sheet));
+        QWidget plain;
+        fill(&plain);
+        QWidget ours;
+        int runs = 0;
+        SheetlessBuild::run([&] {
+            SheetlessBuild::run([&] {
+                fill(&ours);
+                ++runs;
+            });
             ++runs;
         });
-        ++runs;
-    });
-    QCOMPARE(runs, 2);
-    QCOMPARE(pictureOf(&ours), pictureOf(&plain));
-}
+        QCOMPARE(runs, 2);
+        QCOMPARE(pictureOf(&ours), pictureOf(&plain));
+    }
 
-void tst_SheetlessBuild::nothingIsLeft()
-{
-    const int before = QApplication::allWidgets().size();
-    SheetlessBuild::run([] {});
-    QCOMPARE(QApplication::allWidgets().size(), before);
-}
+    void nothingIsLeft()
+    {
+        const int before = QApplication::allWidgets().size();
+        SheetlessBuild::run([] {});
+        QCOMPARE(QApplication::allWidgets().size(), before);
+    }
+};
 
 UIC_TEST_MAIN(tst_SheetlessBuild)
 #include "tst_SheetlessBuild.moc"

@@ -48,619 +48,569 @@ class tst_WidgetColorPickerButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_stage = std::make_unique<PickingStage>();
+        m_button = new WidgetColorPickerButton(m_stage->window);
+        m_button->setGeometry(190, 10, 40, 30);
+        m_button->setTargetWidget(m_stage->target);
+        QVERIFY(m_stage->show());
+    }
 
-    void metaObject();
-    void construction();
-    void targetEnables();
-    void targetThatDiesDisables();
-    void replacedTargetIsForgotten();
-    void startWithoutATargetDoesNothing();
+    void cleanup()
+    {
+        m_stage.reset();
+        QVERIFY(!m_button);
+        QVERIFY(!QGuiApplication::overrideCursor());
+    }
 
-    void setColorWritesTheSheet_data();
-    void setColorWritesTheSheet();
-    void sameColorIsReportedOnce();
-    void sheetStaysWithoutChangeSelfColor();
-    void changeSelfColorIsOnlyNoted();
-    void faceIsAPushButton();
-    void faceHasTheColor();
-    void pressedFaceIsSeen();
-    void plainFaceIsAToolButton();
+    void metaObject()
+    {
+        const QMetaObject& meta = WidgetColorPickerButton::staticMetaObject;
+        QCOMPARE(QByteArray(meta.className()), QByteArray("WidgetColorPickerButton"));
+        QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
+        QCOMPARE(ownMethods(meta),
+                 QStringList({QStringLiteral("signal pickingStarted()"),
+                              QStringLiteral("signal pickingFinished()"),
+                              QStringLiteral("signal colorChanged(QColor)"),
+                              QStringLiteral("slot startPicking()"), QStringLiteral("slot stopPicking()")}));
+        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("bool changeSelfColor rw")}));
+    }
 
-    void clickPicks();
-    void pickElsewhereChangesNothing();
-    void pickWithoutChangeSelfColor();
-    void samePickedColorIsReportedOnce();
-    void secondStartDoesNothing();
-    void stopPickingEndsThePick();
-    void stylingObjectIsThePickers();
-    void disabledButtonDoesNotPick();
+    void construction()
+    {
+        QWidget parent;
+        auto* button = new WidgetColorPickerButton(&parent);
+        QCOMPARE(button->parentWidget(), &parent);
+        QVERIFY(!button->isEnabled());
+        QVERIFY(!button->targetWidget());
+        QVERIFY(!button->color().isValid());
+        QVERIFY(button->changeSelfColor());
+        QVERIFY(!button->isPickingInProgress());
+        QCOMPARE(button->styleSheet(), QString());
+    }
 
-    void clickOnItselfEndsThePick();
-    void doubleClickOnItselfEndsThePick();
-    void keyEndsThePick_data();
-    void keyEndsThePick();
-    void otherKeysGoOn();
-    void spaceStartsAPickThatLasts();
+    void targetEnables()
+    {
+        QCOMPARE(m_button->targetWidget(), static_cast<const QWidget*>(m_stage->target));
+        QVERIFY(m_button->isEnabled());
+        m_button->setTargetWidget(nullptr);
+        QVERIFY(!m_button->targetWidget());
+        QVERIFY(!m_button->isEnabled());
+        m_button->setTargetWidget(m_stage->other);
+        QVERIFY(m_button->isEnabled());
+    }
 
-    void targetTakenAwayWhilePicking();
-    void targetDeletedWhilePicking();
-    void hiddenWhilePicking();
-    void windowClosedWhilePicking();
-    void deletedWhilePicking_data();
-    void deletedWhilePicking();
-    void deletedInASlot_data();
-    void deletedInASlot();
-    void targetGoneWhenStarted();
-    void startInASlot();
+    void targetThatDiesDisables()
+    {
+        delete m_stage->target;
+        QVERIFY(!m_button->targetWidget());
+        QVERIFY(!m_button->isEnabled());
+    }
+
+    void replacedTargetIsForgotten()
+    {
+        m_button->setTargetWidget(m_stage->other);
+        delete m_stage->target;
+        QVERIFY(m_button->isEnabled());
+        delete m_stage->other;
+        QVERIFY(!m_button->isEnabled());
+    }
+
+    void startWithoutATargetDoesNothing()
+    {
+        const Protocol protocol(m_button);
+        m_button->setTargetWidget(nullptr);
+        m_button->startPicking();
+        m_button->stopPicking();
+        m_button->setEnabled(true);
+        m_button->click();
+        QCOMPARE(protocol.lines, QStringList());
+    }
+
+    void setColorWritesTheSheet_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("sheet");
+        const auto sheet = [](const char* name) {
+            return QStringLiteral("QToolButton { background-color: %1 }").arg(QLatin1String(name));
+        };
+        QTest::newRow("red") << QColor(255, 0, 0) << sheet("#ff0000");
+        QTest::newRow("lower case") << QColor(0xAB, 0xCD, 0xEF) << sheet("#abcdef");
+        QTest::newRow("alpha is not shown") << QColor(1, 2, 3, 4) << sheet("#010203");
+        QTest::newRow("hsv") << QColor::fromHsv(120, 255, 255) << sheet("#00ff00");
+        QTest::newRow("invalid") << QColor() << sheet("#000000");
+    }
+
+    void setColorWritesTheSheet()
+    {
+        QFETCH(QColor, color);
+        m_button->setColor(QColor(9, 9, 9));
+        QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
+        m_button->setColor(color);
+        QCOMPARE(m_button->color(), color);
+        QTEST(m_button->styleSheet(), "sheet");
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.front().front().value<QColor>(), color);
+    }
+
+    void sameColorIsReportedOnce()
+    {
+        QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
+        m_button->setColor(QColor());
+        QCOMPARE(changed.size(), 0);
+        QCOMPARE(m_button->styleSheet(), QString());
+        m_button->setColor(QColor(1, 2, 3));
+        m_button->setColor(QColor(1, 2, 3));
+        QCOMPARE(changed.size(), 1);
+        m_button->setColor(QColor(1, 2, 3).toHsv());
+        QCOMPARE(changed.size(), 2);
+    }
+
+    void sheetStaysWithoutChangeSelfColor()
+    {
+        m_button->setColor(QColor(1, 2, 3));
+        const QString before = m_button->styleSheet();
+        m_button->setChangeSelfColor(false);
+        QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
+        m_button->setColor(QColor(4, 5, 6));
+        QCOMPARE(m_button->styleSheet(), before);
+        QCOMPARE(m_button->color(), QColor(4, 5, 6));
+        QCOMPARE(changed.size(), 1);
+    }
+
+    void changeSelfColorIsOnlyNoted()
+    {
+        m_button->setChangeSelfColor(false);
+        QVERIFY(!m_button->property("changeSelfColor").toBool());
+        m_button->setColor(QColor(1, 2, 3));
+        m_button->setProperty("changeSelfColor", true);
+        QVERIFY(m_button->changeSelfColor());
+        QCOMPARE(m_button->styleSheet(), QString());
+        m_button->setColor(QColor(4, 5, 6));
+        QCOMPARE(m_button->styleSheet(), QStringLiteral("QToolButton { background-color: #040506 }"));
+    }
+
+    void faceIsAPushButton()
+    {
+        class Reference : public QToolButton
+        {
+        public:
+            using QToolButton::QToolButton;
+
+        protected:
+            void paintEvent(QPaintEvent* /*event*/) override
+            {
+                QStyleOptionButton option;
+                option.initFrom(this);
+                QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+            }
+        };
+        auto* reference = new Reference(m_stage->window);
+        reference->setGeometry(m_button->geometry());
+        reference->show();
+        m_button->setText(QStringLiteral("never seen"));
+        QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
+        m_button->setColor(QColor(200, 100, 50));
+        reference->setStyleSheet(m_button->styleSheet());
+        QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
+        m_button->setTargetWidget(nullptr);
+        reference->setEnabled(false);
+        QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
+    }
+
+    void faceHasTheColor()
+    {
+        // With a border that is not the style's own, the background is exactly what the sheet says.
+        m_stage->window->setStyleSheet(
+            QStringLiteral("QToolButton { border: 1px solid black; background: green; }"));
+        m_button->setColor(QColor(200, 100, 50));
+        QCOMPARE(m_button->grab().toImage().pixelColor(m_button->rect().center()), QColor(200, 100, 50));
+    }
+
+    void pressedFaceIsSeen()
+    {
+        m_button->setColor(QColor(200, 100, 50));
+        const QImage before = m_button->grab().toImage();
+        m_button->setDown(true);
+        QVERIFY(m_button->grab().toImage() != before);
+    }
+
+    void plainFaceIsAToolButton()
+    {
+        auto* reference = new QToolButton(m_stage->window);
+        reference->setGeometry(m_button->geometry());
+        reference->show();
+        for (QToolButton* button : {static_cast<QToolButton*>(m_button), reference}) {
+            button->setText(QStringLiteral("Pick"));
+            button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        }
+        m_button->setChangeSelfColor(false);
+        QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
+    }
+
+    void clickPicks()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] {
+            QVERIFY(m_button->isPickingInProgress());
+            QVERIFY(!m_button->pickedColor().isValid());
+            m_stage->press();
+        }));
+        QCOMPARE(protocol.lines, Picked);
+        QCOMPARE(m_button->color(), SpotColor);
+        QCOMPARE(m_button->pickedColor(), SpotColor);
+        QCOMPARE(m_button->styleSheet(),
+                 QStringLiteral("QToolButton { background-color: %1 }").arg(SpotColor.name()));
+        QVERIFY(!m_button->isPickingInProgress());
+        QVERIFY(!m_button->isDown());
+    }
+
+    void pickElsewhereChangesNothing()
+    {
+        m_button->setColor(QColor(1, 2, 3));
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
+        QCOMPARE(protocol.lines, Cancelled);
+        QCOMPARE(m_button->color(), QColor(1, 2, 3));
+        QVERIFY(!m_button->pickedColor().isValid());
+    }
+
+    void pickWithoutChangeSelfColor()
+    {
+        m_button->setColor(QColor(1, 2, 3));
+        m_button->setChangeSelfColor(false);
+        const QString sheet = m_button->styleSheet();
+        const QImage face = m_button->grab().toImage();
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] { m_stage->press(); }));
+        QCOMPARE(protocol.lines, Picked);
+        QCOMPARE(m_button->color(), SpotColor);
+        QCOMPARE(m_button->styleSheet(), sheet);
+        QCOMPARE(m_button->grab().toImage(), face);
+    }
+
+    void samePickedColorIsReportedOnce()
+    {
+        m_button->setColor(SpotColor);
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] { m_stage->press(); }));
+        QCOMPARE(protocol.lines, Cancelled);
+    }
+
+    void secondStartDoesNothing()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] {
+            m_button->startPicking();
+            QVERIFY(m_button->isPickingInProgress());
+            m_stage->press();
+        }));
+        QCOMPARE(protocol.lines, Picked);
+    }
+
+    void stopPickingEndsThePick()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] {
+            m_button->stopPicking();
+            QVERIFY(!m_button->isPickingInProgress());
+        }));
+        QCOMPARE(protocol.lines, Picked);
+    }
+
+    void stylingObjectIsThePickers()
+    {
+        class Look : public WidgetColorPickerStylingObject
+        {
+        public:
+            QCursor pickingCursor() const override { return Qt::PointingHandCursor; }
+        };
+        const auto look = std::make_unique<Look>();
+        m_button->setPickerStylingObject(look.get());
+        QVERIFY(clickWith([this] {
+            QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
+            m_button->setPickerStylingObject(nullptr);
+            QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
+            m_stage->press();
+        }));
+    }
+
+    void disabledButtonDoesNotPick()
+    {
+        const Protocol protocol(m_button);
+        m_button->setEnabled(false);
+        PickingStage::moveCursor(m_button);
+        m_stage->press();
+        m_stage->release();
+        QCOMPARE(protocol.lines, QStringList());
+    }
+
+    void clickOnItselfEndsThePick()
+    {
+        const Protocol protocol(m_button);
+        QSignalSpy pressed(m_button.data(), &QAbstractButton::pressed);
+        QVERIFY(clickWith([this] {
+            m_stage->pressOn(m_button);
+            QVERIFY(!m_button->isDown());
+            m_stage->release();
+        }));
+        QCOMPARE(protocol.lines, Cancelled);
+        QCOMPARE(pressed.size(), 1);
+        QVERIFY(!m_button->isDown());
+        QVERIFY(!m_button->isPickingInProgress());
+    }
+
+    void doubleClickOnItselfEndsThePick()
+    {
+        const Protocol protocol(m_button);
+        QWindow* const window = m_stage->window->windowHandle();
+        const QPoint place = m_button->geometry().center();
+        QVERIFY(clickWith([&] {
+            PickingStage::moveCursor(m_button);
+            QTest::mousePress(window, Qt::LeftButton, {}, place);
+            QMouseEvent doubleClick(QEvent::MouseButtonDblClick, place, window->mapToGlobal(place),
+                                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(window, &doubleClick);
+            QTest::mouseRelease(window, Qt::LeftButton, {}, place);
+        }));
+        QCOMPARE(protocol.lines, Cancelled);
+        QVERIFY(!m_button->isDown());
+    }
+
+    void keyEndsThePick_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<bool>("isOverTarget");
+        QTest::newRow("Space over the target") << Qt::Key_Space << true;
+        QTest::newRow("Space elsewhere") << Qt::Key_Space << false;
+        QTest::newRow("Escape over the target") << Qt::Key_Escape << true;
+        QTest::newRow("Escape elsewhere") << Qt::Key_Escape << false;
+    }
+
+    // The key that ends a pick goes on to the button if that has the focus: it must not start the next pick.
+    void keyEndsThePick()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(bool, isOverTarget);
+        const Protocol protocol(m_button);
+        m_button->setFocus();
+        QWindow* const window = m_stage->window->windowHandle();
+        QVERIFY(clickWith([&] {
+            if (!isOverTarget) {
+                PickingStage::moveCursor(m_stage->other);
+            }
+            QTest::keyPress(window, key);
+            QVERIFY(!m_button->isDown());
+            QTest::keyRelease(window, key);
+        }));
+        QCOMPARE(protocol.lines, isOverTarget ? Picked : Cancelled);
+        QVERIFY(!m_button->isDown());
+
+        // Released only after the pick has returned.
+        QVERIFY(clickWith([&] {
+            PickingStage::moveCursor(m_stage->other);
+            QTest::keyPress(window, key);
+        }));
+        QTest::keyRelease(window, key);
+        QVERIFY(!m_button->isPickingInProgress());
+        QVERIFY(!m_button->isDown());
+    }
+
+    void otherKeysGoOn()
+    {
+        m_button->setFocus();
+        QWidget::setTabOrder(m_button, m_stage->other);
+        QVERIFY(clickWith([this] { QTest::keyClick(m_stage->window->windowHandle(), Qt::Key_Tab); }));
+        QVERIFY(m_stage->other->hasFocus());
+    }
+
+    void spaceStartsAPickThatLasts()
+    {
+        const Protocol protocol(m_button);
+        m_button->setFocus();
+        QWindow* const window = m_stage->window->windowHandle();
+        const auto useSpace = [window] { QTest::keyClick(window, Qt::Key_Space); };
+        QVERIFY(pickWith(useSpace, [this] {
+            QVERIFY(m_button->isPickingInProgress());
+            m_stage->press();
+        }));
+        QCOMPARE(protocol.lines, Picked);
+
+        // And again: the button is as it was.
+        QVERIFY(pickWith(useSpace, [this] {
+            QVERIFY(m_button->isPickingInProgress());
+            m_stage->pressOn(m_stage->other);
+        }));
+        QCOMPARE(protocol.lines, Picked + Cancelled);
+    }
+
+    void targetTakenAwayWhilePicking()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] {
+            m_button->setTargetWidget(nullptr);
+            QVERIFY(!m_button->isPickingInProgress());
+        }));
+        QCOMPARE(protocol.lines, Cancelled);
+        QVERIFY(!m_button->isEnabled());
+    }
+
+    void targetDeletedWhilePicking()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] { delete m_stage->target; }));
+        QCOMPARE(protocol.lines, Cancelled);
+        QVERIFY(!m_button->isEnabled());
+    }
+
+    void hiddenWhilePicking()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] {
+            m_button->hide();
+            QVERIFY(m_button->isPickingInProgress());
+            m_stage->press();
+        }));
+        QCOMPARE(protocol.lines, Picked);
+    }
+
+    void windowClosedWhilePicking()
+    {
+        const Protocol protocol(m_button);
+        QVERIFY(clickWith([this] {
+            m_stage->window->close();
+            m_button->stopPicking();
+        }));
+        // The cursor is where the target was when stopPicking() ended the pick.
+        QCOMPARE(protocol.lines, Picked);
+    }
+
+    void deletedWhilePicking_data()
+    {
+        QTest::addColumn<bool>("isWindowToo");
+        QTest::addColumn<bool>("isByKey");
+        QTest::newRow("button, by the mouse") << false << false;
+        QTest::newRow("window, by the mouse") << true << false;
+        QTest::newRow("button, by a key") << false << true;
+        QTest::newRow("window, by a key") << true << true;
+    }
+
+    // Qt's own handlers of the click run on after it, and some write into the button.
+    void deletedWhilePicking()
+    {
+        QFETCH(bool, isWindowToo);
+        QFETCH(bool, isByKey);
+        QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
+        m_button->setFocus();
+        const auto destroy = [this, isWindowToo] {
+            if (isWindowToo) {
+                delete m_stage->window;
+            } else {
+                delete m_button;
+            }
+        };
+        PickingStage::moveCursor(m_button);
+        const FreedMemoryWatch memory;
+        QTimer::singleShot(0, this, destroy);
+        if (isByKey) {
+            QTest::keyClick(m_button.data(), Qt::Key_Space);
+        } else {
+            QTest::mouseClick(m_button.data(), Qt::LeftButton);
+        }
+        QVERIFY(!m_button);
+        QCOMPARE(finished.size(), 0);
+        QVERIFY(memory.deleted() > 0);
+        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+    }
+
+    void deletedInASlot_data()
+    {
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<QStringList>("said");
+        QTest::newRow("pickingStarted")
+            << QStringLiteral("started") << QStringList(QStringLiteral("started"));
+        QTest::newRow("pickingFinished") << QStringLiteral("finished") << Cancelled;
+        QTest::newRow("colorChanged") << QStringLiteral("color") << Picked;
+    }
+
+    void deletedInASlot()
+    {
+        QFETCH(QString, signal);
+        const Protocol protocol(m_button);
+        const auto destroy = [this] { delete m_stage->window; };
+        if (signal == QLatin1String("started")) {
+            connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, this, destroy);
+        } else if (signal == QLatin1String("finished")) {
+            connect(m_button.data(), &WidgetColorPickerButton::pickingFinished, this, destroy);
+        } else {
+            connect(m_button.data(), &WidgetColorPickerButton::colorChanged, this, destroy);
+        }
+        PickingStage::moveCursor(m_stage->target, Spot);
+        QTimer::singleShot(0, this, [this] {
+            if (m_stage->window) {
+                m_stage->press();
+            }
+        });
+        m_button->click();
+        QVERIFY(!m_button);
+        QTEST(protocol.lines, "said");
+    }
+
+    void targetGoneWhenStarted()
+    {
+        const Protocol protocol(m_button);
+        connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, this,
+                [this] { delete m_stage->target; });
+        m_button->click();
+        QCOMPARE(protocol.lines, Cancelled);
+    }
+
+    void startInASlot()
+    {
+        const Protocol protocol(m_button);
+        bool isFirst = true;
+        connect(m_button.data(), &WidgetColorPickerButton::pickingFinished, this, [&] {
+            if (isFirst) {
+                isFirst = false;
+                QVERIFY(clickWith([this] { m_stage->press(); }));
+            }
+        });
+        QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
+        QCOMPARE(protocol.lines, Cancelled + Picked);
+    }
 
 private:
-    bool pickWith(const std::function<void()>& start, const std::function<void()>& inside);
-    bool clickWith(const std::function<void()>& inside);
+    /// Calls @p start, and @p inside in the loop of the pick that it begins, with the mouse over the spot in
+    /// the target.
+    bool pickWith(const std::function<void()>& start, const std::function<void()>& inside)
+    {
+        QObject once;
+        connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, &once, [this, inside, &once] {
+            m_button->disconnect(&once);
+            QTimer::singleShot(0, this, [this, inside] {
+                PickingStage::moveCursor(m_stage->target, Spot);
+                inside();
+            });
+        });
+        return runWith(
+            start, [] {}, [this] { m_button->stopPicking(); });
+    }
+
+    bool clickWith(const std::function<void()>& inside)
+    {
+        PickingStage::moveCursor(m_button);
+        return pickWith(
+            [this] {
+                m_stage->press();
+                m_stage->release();
+            },
+            inside);
+    }
 
     std::unique_ptr<PickingStage> m_stage;
     QPointer<WidgetColorPickerButton> m_button;
 };
-
-void tst_WidgetColorPickerButton::init()
-{
-    m_stage = std::make_unique<PickingStage>();
-    m_button = new WidgetColorPickerButton(m_stage->window);
-    m_button->setGeometry(190, 10, 40, 30);
-    m_button->setTargetWidget(m_stage->target);
-    QVERIFY(m_stage->show());
-}
-
-void tst_WidgetColorPickerButton::cleanup()
-{
-    m_stage.reset();
-    QVERIFY(!m_button);
-    QVERIFY(!QGuiApplication::overrideCursor());
-}
-
-/// Calls @p start, and @p inside in the loop of the pick that it begins, with the mouse over the spot in the
-/// target.
-bool tst_WidgetColorPickerButton::pickWith(const std::function<void()>& start,
-                                           const std::function<void()>& inside)
-{
-    QObject once;
-    connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, &once, [this, inside, &once] {
-        m_button->disconnect(&once);
-        QTimer::singleShot(0, this, [this, inside] {
-            PickingStage::moveCursor(m_stage->target, Spot);
-            inside();
-        });
-    });
-    return runWith(
-        start, [] {}, [this] { m_button->stopPicking(); });
-}
-
-bool tst_WidgetColorPickerButton::clickWith(const std::function<void()>& inside)
-{
-    PickingStage::moveCursor(m_button);
-    return pickWith(
-        [this] {
-            m_stage->press();
-            m_stage->release();
-        },
-        inside);
-}
-
-void tst_WidgetColorPickerButton::metaObject()
-{
-    const QMetaObject& meta = WidgetColorPickerButton::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("WidgetColorPickerButton"));
-    QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
-    QCOMPARE(
-        ownMethods(meta),
-        QStringList({QStringLiteral("signal pickingStarted()"), QStringLiteral("signal pickingFinished()"),
-                     QStringLiteral("signal colorChanged(QColor)"), QStringLiteral("slot startPicking()"),
-                     QStringLiteral("slot stopPicking()")}));
-    QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("bool changeSelfColor rw")}));
-}
-
-void tst_WidgetColorPickerButton::construction()
-{
-    QWidget parent;
-    auto* button = new WidgetColorPickerButton(&parent);
-    QCOMPARE(button->parentWidget(), &parent);
-    QVERIFY(!button->isEnabled());
-    QVERIFY(!button->targetWidget());
-    QVERIFY(!button->color().isValid());
-    QVERIFY(button->changeSelfColor());
-    QVERIFY(!button->isPickingInProgress());
-    QCOMPARE(button->styleSheet(), QString());
-}
-
-void tst_WidgetColorPickerButton::targetEnables()
-{
-    QCOMPARE(m_button->targetWidget(), static_cast<const QWidget*>(m_stage->target));
-    QVERIFY(m_button->isEnabled());
-    m_button->setTargetWidget(nullptr);
-    QVERIFY(!m_button->targetWidget());
-    QVERIFY(!m_button->isEnabled());
-    m_button->setTargetWidget(m_stage->other);
-    QVERIFY(m_button->isEnabled());
-}
-
-void tst_WidgetColorPickerButton::targetThatDiesDisables()
-{
-    delete m_stage->target;
-    QVERIFY(!m_button->targetWidget());
-    QVERIFY(!m_button->isEnabled());
-}
-
-void tst_WidgetColorPickerButton::replacedTargetIsForgotten()
-{
-    m_button->setTargetWidget(m_stage->other);
-    delete m_stage->target;
-    QVERIFY(m_button->isEnabled());
-    delete m_stage->other;
-    QVERIFY(!m_button->isEnabled());
-}
-
-void tst_WidgetColorPickerButton::startWithoutATargetDoesNothing()
-{
-    const Protocol protocol(m_button);
-    m_button->setTargetWidget(nullptr);
-    m_button->startPicking();
-    m_button->stopPicking();
-    m_button->setEnabled(true);
-    m_button->click();
-    QCOMPARE(protocol.lines, QStringList());
-}
-
-void tst_WidgetColorPickerButton::setColorWritesTheSheet_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("sheet");
-    const auto sheet = [](const char* name) {
-        return QStringLiteral("QToolButton { background-color: %1 }").arg(QLatin1String(name));
-    };
-    QTest::newRow("red") << QColor(255, 0, 0) << sheet("#ff0000");
-    QTest::newRow("lower case") << QColor(0xAB, 0xCD, 0xEF) << sheet("#abcdef");
-    QTest::newRow("alpha is not shown") << QColor(1, 2, 3, 4) << sheet("#010203");
-    QTest::newRow("hsv") << QColor::fromHsv(120, 255, 255) << sheet("#00ff00");
-    QTest::newRow("invalid") << QColor() << sheet("#000000");
-}
-
-void tst_WidgetColorPickerButton::setColorWritesTheSheet()
-{
-    QFETCH(QColor, color);
-    m_button->setColor(QColor(9, 9, 9));
-    QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
-    m_button->setColor(color);
-    QCOMPARE(m_button->color(), color);
-    QTEST(m_button->styleSheet(), "sheet");
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.front().front().value<QColor>(), color);
-}
-
-void tst_WidgetColorPickerButton::sameColorIsReportedOnce()
-{
-    QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
-    m_button->setColor(QColor());
-    QCOMPARE(changed.size(), 0);
-    QCOMPARE(m_button->styleSheet(), QString());
-    m_button->setColor(QColor(1, 2, 3));
-    m_button->setColor(QColor(1, 2, 3));
-    QCOMPARE(changed.size(), 1);
-    m_button->setColor(QColor(1, 2, 3).toHsv());
-    QCOMPARE(changed.size(), 2);
-}
-
-void tst_WidgetColorPickerButton::sheetStaysWithoutChangeSelfColor()
-{
-    m_button->setColor(QColor(1, 2, 3));
-    const QString before = m_button->styleSheet();
-    m_button->setChangeSelfColor(false);
-    QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
-    m_button->setColor(QColor(4, 5, 6));
-    QCOMPARE(m_button->styleSheet(), before);
-    QCOMPARE(m_button->color(), QColor(4, 5, 6));
-    QCOMPARE(changed.size(), 1);
-}
-
-void tst_WidgetColorPickerButton::changeSelfColorIsOnlyNoted()
-{
-    m_button->setChangeSelfColor(false);
-    QVERIFY(!m_button->property("changeSelfColor").toBool());
-    m_button->setColor(QColor(1, 2, 3));
-    m_button->setProperty("changeSelfColor", true);
-    QVERIFY(m_button->changeSelfColor());
-    QCOMPARE(m_button->styleSheet(), QString());
-    m_button->setColor(QColor(4, 5, 6));
-    QCOMPARE(m_button->styleSheet(), QStringLiteral("QToolButton { background-color: #040506 }"));
-}
-
-void tst_WidgetColorPickerButton::faceIsAPushButton()
-{
-    class Reference : public QToolButton
-    {
-    public:
-        using QToolButton::QToolButton;
-
-    protected:
-        void paintEvent(QPaintEvent* /*event*/) override
-        {
-            QStyleOptionButton option;
-            option.initFrom(this);
-            QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
-        }
-    };
-    auto* reference = new Reference(m_stage->window);
-    reference->setGeometry(m_button->geometry());
-    reference->show();
-    m_button->setText(QStringLiteral("never seen"));
-    QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
-    m_button->setColor(QColor(200, 100, 50));
-    reference->setStyleSheet(m_button->styleSheet());
-    QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
-    m_button->setTargetWidget(nullptr);
-    reference->setEnabled(false);
-    QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
-}
-
-void tst_WidgetColorPickerButton::faceHasTheColor()
-{
-    // With a border that is not the style's own, the background is exactly what the sheet says.
-    m_stage->window->setStyleSheet(
-        QStringLiteral("QToolButton { border: 1px solid black; background: green; }"));
-    m_button->setColor(QColor(200, 100, 50));
-    QCOMPARE(m_button->grab().toImage().pixelColor(m_button->rect().center()), QColor(200, 100, 50));
-}
-
-void tst_WidgetColorPickerButton::pressedFaceIsSeen()
-{
-    m_button->setColor(QColor(200, 100, 50));
-    const QImage before = m_button->grab().toImage();
-    m_button->setDown(true);
-    QVERIFY(m_button->grab().toImage() != before);
-}
-
-void tst_WidgetColorPickerButton::plainFaceIsAToolButton()
-{
-    auto* reference = new QToolButton(m_stage->window);
-    reference->setGeometry(m_button->geometry());
-    reference->show();
-    for (QToolButton* button : {static_cast<QToolButton*>(m_button), reference}) {
-        button->setText(QStringLiteral("Pick"));
-        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    }
-    m_button->setChangeSelfColor(false);
-    QCOMPARE(m_button->grab().toImage(), reference->grab().toImage());
-}
-
-void tst_WidgetColorPickerButton::clickPicks()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] {
-        QVERIFY(m_button->isPickingInProgress());
-        QVERIFY(!m_button->pickedColor().isValid());
-        m_stage->press();
-    }));
-    QCOMPARE(protocol.lines, Picked);
-    QCOMPARE(m_button->color(), SpotColor);
-    QCOMPARE(m_button->pickedColor(), SpotColor);
-    QCOMPARE(m_button->styleSheet(),
-             QStringLiteral("QToolButton { background-color: %1 }").arg(SpotColor.name()));
-    QVERIFY(!m_button->isPickingInProgress());
-    QVERIFY(!m_button->isDown());
-}
-
-void tst_WidgetColorPickerButton::pickElsewhereChangesNothing()
-{
-    m_button->setColor(QColor(1, 2, 3));
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
-    QCOMPARE(protocol.lines, Cancelled);
-    QCOMPARE(m_button->color(), QColor(1, 2, 3));
-    QVERIFY(!m_button->pickedColor().isValid());
-}
-
-void tst_WidgetColorPickerButton::pickWithoutChangeSelfColor()
-{
-    m_button->setColor(QColor(1, 2, 3));
-    m_button->setChangeSelfColor(false);
-    const QString sheet = m_button->styleSheet();
-    const QImage face = m_button->grab().toImage();
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] { m_stage->press(); }));
-    QCOMPARE(protocol.lines, Picked);
-    QCOMPARE(m_button->color(), SpotColor);
-    QCOMPARE(m_button->styleSheet(), sheet);
-    QCOMPARE(m_button->grab().toImage(), face);
-}
-
-void tst_WidgetColorPickerButton::samePickedColorIsReportedOnce()
-{
-    m_button->setColor(SpotColor);
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] { m_stage->press(); }));
-    QCOMPARE(protocol.lines, Cancelled);
-}
-
-void tst_WidgetColorPickerButton::secondStartDoesNothing()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] {
-        m_button->startPicking();
-        QVERIFY(m_button->isPickingInProgress());
-        m_stage->press();
-    }));
-    QCOMPARE(protocol.lines, Picked);
-}
-
-void tst_WidgetColorPickerButton::stopPickingEndsThePick()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] {
-        m_button->stopPicking();
-        QVERIFY(!m_button->isPickingInProgress());
-    }));
-    QCOMPARE(protocol.lines, Picked);
-}
-
-void tst_WidgetColorPickerButton::stylingObjectIsThePickers()
-{
-    class Look : public WidgetColorPickerStylingObject
-    {
-    public:
-        QCursor pickingCursor() const override { return Qt::PointingHandCursor; }
-    };
-    const auto look = std::make_unique<Look>();
-    m_button->setPickerStylingObject(look.get());
-    QVERIFY(clickWith([this] {
-        QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
-        m_button->setPickerStylingObject(nullptr);
-        QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
-        m_stage->press();
-    }));
-}
-
-void tst_WidgetColorPickerButton::disabledButtonDoesNotPick()
-{
-    const Protocol protocol(m_button);
-    m_button->setEnabled(false);
-    PickingStage::moveCursor(m_button);
-    m_stage->press();
-    m_stage->release();
-    QCOMPARE(protocol.lines, QStringList());
-}
-
-void tst_WidgetColorPickerButton::clickOnItselfEndsThePick()
-{
-    const Protocol protocol(m_button);
-    QSignalSpy pressed(m_button.data(), &QAbstractButton::pressed);
-    QVERIFY(clickWith([this] {
-        m_stage->pressOn(m_button);
-        QVERIFY(!m_button->isDown());
-        m_stage->release();
-    }));
-    QCOMPARE(protocol.lines, Cancelled);
-    QCOMPARE(pressed.size(), 1);
-    QVERIFY(!m_button->isDown());
-    QVERIFY(!m_button->isPickingInProgress());
-}
-
-void tst_WidgetColorPickerButton::doubleClickOnItselfEndsThePick()
-{
-    const Protocol protocol(m_button);
-    QWindow* const window = m_stage->window->windowHandle();
-    const QPoint place = m_button->geometry().center();
-    QVERIFY(clickWith([&] {
-        PickingStage::moveCursor(m_button);
-        QTest::mousePress(window, Qt::LeftButton, {}, place);
-        QMouseEvent doubleClick(QEvent::MouseButtonDblClick, place, window->mapToGlobal(place),
-                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window, &doubleClick);
-        QTest::mouseRelease(window, Qt::LeftButton, {}, place);
-    }));
-    QCOMPARE(protocol.lines, Cancelled);
-    QVERIFY(!m_button->isDown());
-}
-
-void tst_WidgetColorPickerButton::keyEndsThePick_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<bool>("isOverTarget");
-    QTest::newRow("Space over the target") << Qt::Key_Space << true;
-    QTest::newRow("Space elsewhere") << Qt::Key_Space << false;
-    QTest::newRow("Escape over the target") << Qt::Key_Escape << true;
-    QTest::newRow("Escape elsewhere") << Qt::Key_Escape << false;
-}
-
-// The key that ends a pick goes on to the button if that has the focus: it must not start the next pick.
-void tst_WidgetColorPickerButton::keyEndsThePick()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(bool, isOverTarget);
-    const Protocol protocol(m_button);
-    m_button->setFocus();
-    QWindow* const window = m_stage->window->windowHandle();
-    QVERIFY(clickWith([&] {
-        if (!isOverTarget) {
-            PickingStage::moveCursor(m_stage->other);
-        }
-        QTest::keyPress(window, key);
-        QVERIFY(!m_button->isDown());
-        QTest::keyRelease(window, key);
-    }));
-    QCOMPARE(protocol.lines, isOverTarget ? Picked : Cancelled);
-    QVERIFY(!m_button->isDown());
-
-    // Released only after the pick has returned.
-    QVERIFY(clickWith([&] {
-        PickingStage::moveCursor(m_stage->other);
-        QTest::keyPress(window, key);
-    }));
-    QTest::keyRelease(window, key);
-    QVERIFY(!m_button->isPickingInProgress());
-    QVERIFY(!m_button->isDown());
-}
-
-void tst_WidgetColorPickerButton::otherKeysGoOn()
-{
-    m_button->setFocus();
-    QWidget::setTabOrder(m_button, m_stage->other);
-    QVERIFY(clickWith([this] { QTest::keyClick(m_stage->window->windowHandle(), Qt::Key_Tab); }));
-    QVERIFY(m_stage->other->hasFocus());
-}
-
-void tst_WidgetColorPickerButton::spaceStartsAPickThatLasts()
-{
-    const Protocol protocol(m_button);
-    m_button->setFocus();
-    QWindow* const window = m_stage->window->windowHandle();
-    const auto useSpace = [window] { QTest::keyClick(window, Qt::Key_Space); };
-    QVERIFY(pickWith(useSpace, [this] {
-        QVERIFY(m_button->isPickingInProgress());
-        m_stage->press();
-    }));
-    QCOMPARE(protocol.lines, Picked);
-
-    // And again: the button is as it was.
-    QVERIFY(pickWith(useSpace, [this] {
-        QVERIFY(m_button->isPickingInProgress());
-        m_stage->pressOn(m_stage->other);
-    }));
-    QCOMPARE(protocol.lines, Picked + Cancelled);
-}
-
-void tst_WidgetColorPickerButton::targetTakenAwayWhilePicking()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] {
-        m_button->setTargetWidget(nullptr);
-        QVERIFY(!m_button->isPickingInProgress());
-    }));
-    QCOMPARE(protocol.lines, Cancelled);
-    QVERIFY(!m_button->isEnabled());
-}
-
-void tst_WidgetColorPickerButton::targetDeletedWhilePicking()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] { delete m_stage->target; }));
-    QCOMPARE(protocol.lines, Cancelled);
-    QVERIFY(!m_button->isEnabled());
-}
-
-void tst_WidgetColorPickerButton::hiddenWhilePicking()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] {
-        m_button->hide();
-        QVERIFY(m_button->isPickingInProgress());
-        m_stage->press();
-    }));
-    QCOMPARE(protocol.lines, Picked);
-}
-
-void tst_WidgetColorPickerButton::windowClosedWhilePicking()
-{
-    const Protocol protocol(m_button);
-    QVERIFY(clickWith([this] {
-        m_stage->window->close();
-        m_button->stopPicking();
-    }));
-    // The cursor is where the target was when stopPicking() ended the pick.
-    QCOMPARE(protocol.lines, Picked);
-}
-
-void tst_WidgetColorPickerButton::deletedWhilePicking_data()
-{
-    QTest::addColumn<bool>("isWindowToo");
-    QTest::addColumn<bool>("isByKey");
-    QTest::newRow("button, by the mouse") << false << false;
-    QTest::newRow("window, by the mouse") << true << false;
-    QTest::newRow("button, by a key") << false << true;
-    QTest::newRow("window, by a key") << true << true;
-}
-
-// Qt's own handlers of the click run on after it, and some write into the button.
-void tst_WidgetColorPickerButton::deletedWhilePicking()
-{
-    QFETCH(bool, isWindowToo);
-    QFETCH(bool, isByKey);
-    QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
-    m_button->setFocus();
-    const auto destroy = [this, isWindowToo] {
-        if (isWindowToo) {
-            delete m_stage->window;
-        } else {
-            delete m_button;
-        }
-    };
-    PickingStage::moveCursor(m_button);
-    const FreedMemoryWatch memory;
-    QTimer::singleShot(0, this, destroy);
-    if (isByKey) {
-        QTest::keyClick(m_button.data(), Qt::Key_Space);
-    } else {
-        QTest::mouseClick(m_button.data(), Qt::LeftButton);
-    }
-    QVERIFY(!m_button);
-    QCOMPARE(finished.size(), 0);
-    QVERIFY(memory.deleted() > 0);
-    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-}
-
-void tst_WidgetColorPickerButton::deletedInASlot_data()
-{
-    QTest::addColumn<QString>("signal");
-    QTest::addColumn<QStringList>("said");
-    QTest::newRow("pickingStarted") << QStringLiteral("started") << QStringList(QStringLiteral("started"));
-    QTest::newRow("pickingFinished") << QStringLiteral("finished") << Cancelled;
-    QTest::newRow("colorChanged") << QStringLiteral("color") << Picked;
-}
-
-void tst_WidgetColorPickerButton::deletedInASlot()
-{
-    QFETCH(QString, signal);
-    const Protocol protocol(m_button);
-    const auto destroy = [this] { delete m_stage->window; };
-    if (signal == QLatin1String("started")) {
-        connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, this, destroy);
-    } else if (signal == QLatin1String("finished")) {
-        connect(m_button.data(), &WidgetColorPickerButton::pickingFinished, this, destroy);
-    } else {
-        connect(m_button.data(), &WidgetColorPickerButton::colorChanged, this, destroy);
-    }
-    PickingStage::moveCursor(m_stage->target, Spot);
-    QTimer::singleShot(0, this, [this] {
-        if (m_stage->window) {
-            m_stage->press();
-        }
-    });
-    m_button->click();
-    QVERIFY(!m_button);
-    QTEST(protocol.lines, "said");
-}
-
-void tst_WidgetColorPickerButton::targetGoneWhenStarted()
-{
-    const Protocol protocol(m_button);
-    connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, this,
-            [this] { delete m_stage->target; });
-    m_button->click();
-    QCOMPARE(protocol.lines, Cancelled);
-}
-
-void tst_WidgetColorPickerButton::startInASlot()
-{
-    const Protocol protocol(m_button);
-    bool isFirst = true;
-    connect(m_button.data(), &WidgetColorPickerButton::pickingFinished, this, [&] {
-        if (isFirst) {
-            isFirst = false;
-            QVERIFY(clickWith([this] { m_stage->press(); }));
-        }
-    });
-    QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
-    QCOMPARE(protocol.lines, Cancelled + Picked);
-}
 
 UIC_TEST_MAIN(tst_WidgetColorPickerButton)
 #include "tst_WidgetColorPickerButton.moc"

@@ -37,45 +37,41 @@ class tst_WidgetColorPickerStylingObject : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void typeIsAsHostsExpect();
-    void cursorIsTheHosts();
-    void copies();
-    void deletedThroughTheBase();
+    void typeIsAsHostsExpect()
+    {
+        using Base = WidgetColorPickerStylingObject;
+        QVERIFY(std::is_abstract_v<Base>);
+        QVERIFY(std::has_virtual_destructor_v<Base>);
+        QVERIFY(std::is_copy_assignable_v<Base>);
+        // Nothing but the table of its virtual functions.
+        QCOMPARE(sizeof(Base), sizeof(void*));
+    }
+
+    void cursorIsTheHosts()
+    {
+        const Look look(Qt::PointingHandCursor);
+        const WidgetColorPickerStylingObject& base = look;
+        QCOMPARE(base.pickingCursor().shape(), Qt::PointingHandCursor);
+    }
+
+    void copies()
+    {
+        const Look look(Qt::PointingHandCursor);
+        Look copy(look);
+        QCOMPARE(copy.pickingCursor().shape(), Qt::PointingHandCursor);
+        copy = Look(Qt::WaitCursor);
+        QCOMPARE(copy.pickingCursor().shape(), Qt::WaitCursor);
+    }
+
+    void deletedThroughTheBase()
+    {
+        bool isDead = false;
+        std::unique_ptr<WidgetColorPickerStylingObject> base =
+            std::make_unique<Look>(Qt::CrossCursor, &isDead);
+        base.reset();
+        QVERIFY(isDead);
+    }
 };
-
-void tst_WidgetColorPickerStylingObject::typeIsAsHostsExpect()
-{
-    using Base = WidgetColorPickerStylingObject;
-    QVERIFY(std::is_abstract_v<Base>);
-    QVERIFY(std::has_virtual_destructor_v<Base>);
-    QVERIFY(std::is_copy_assignable_v<Base>);
-    // Nothing but the table of its virtual functions.
-    QCOMPARE(sizeof(Base), sizeof(void*));
-}
-
-void tst_WidgetColorPickerStylingObject::cursorIsTheHosts()
-{
-    const Look look(Qt::PointingHandCursor);
-    const WidgetColorPickerStylingObject& base = look;
-    QCOMPARE(base.pickingCursor().shape(), Qt::PointingHandCursor);
-}
-
-void tst_WidgetColorPickerStylingObject::copies()
-{
-    const Look look(Qt::PointingHandCursor);
-    Look copy(look);
-    QCOMPARE(copy.pickingCursor().shape(), Qt::PointingHandCursor);
-    copy = Look(Qt::WaitCursor);
-    QCOMPARE(copy.pickingCursor().shape(), Qt::WaitCursor);
-}
-
-void tst_WidgetColorPickerStylingObject::deletedThroughTheBase()
-{
-    bool isDead = false;
-    std::unique_ptr<WidgetColorPickerStylingObject> base = std::make_unique<Look>(Qt::CrossCursor, &isDead);
-    base.reset();
-    QVERIFY(isDead);
-}
 
 UIC_TEST_MAIN(tst_WidgetColorPickerStylingObject)
 #include "tst_WidgetColorPickerStylingObject.moc"

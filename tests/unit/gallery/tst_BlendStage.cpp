@@ -23,60 +23,56 @@ class tst_BlendStage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyModeHasAPictureOfItsOwn();
-    void opacity();
-    void disabledIsPaler();
-};
-
-void tst_BlendStage::everyModeHasAPictureOfItsOwn()
-{
-    BlendStage stage;
-    stage.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&stage));
-    QVector<QImage> pictures = {stage.canvas()->grab().toImage()};
-    for (int number = 0; number < 14; ++number) {
-        const auto mode = static_cast<BlendingMode>(number);
-        if (mode == BlendingMode::SourceOver) {
-            continue;
+    void everyModeHasAPictureOfItsOwn()
+    {
+        BlendStage stage;
+        stage.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&stage));
+        QVector<QImage> pictures = {stage.canvas()->grab().toImage()};
+        for (int number = 0; number < 14; ++number) {
+            const auto mode = static_cast<BlendingMode>(number);
+            if (mode == BlendingMode::SourceOver) {
+                continue;
+            }
+            choose(stage.comboBox(), mode);
+            QTRY_COMPARE(stage.canvas()->mode(), mode);
+            const QImage picture = stage.canvas()->grab().toImage();
+            QVERIFY2(!pictures.contains(picture), qPrintable(stage.comboBox()->currentText()));
+            pictures.append(picture);
+            // The lower edge is not covered; Qt rounds there too.
+            const QPoint uncovered(5, picture.height() - 2);
+            const QColor found = picture.pixelColor(uncovered);
+            const QColor before = pictures.first().pixelColor(uncovered);
+            QVERIFY2(qAbs(found.green() - before.green()) <= 2, qPrintable(found.name()));
         }
-        choose(stage.comboBox(), mode);
-        QTRY_COMPARE(stage.canvas()->mode(), mode);
-        const QImage picture = stage.canvas()->grab().toImage();
-        QVERIFY2(!pictures.contains(picture), qPrintable(stage.comboBox()->currentText()));
-        pictures.append(picture);
-        // The lower edge is not covered; Qt rounds there too.
-        const QPoint uncovered(5, picture.height() - 2);
-        const QColor found = picture.pixelColor(uncovered);
-        const QColor before = pictures.first().pixelColor(uncovered);
-        QVERIFY2(qAbs(found.green() - before.green()) <= 2, qPrintable(found.name()));
+        choose(stage.comboBox(), BlendingMode::SourceOver);
+        QTRY_COMPARE(stage.canvas()->mode(), BlendingMode::SourceOver);
+        QCOMPARE(stage.canvas()->grab().toImage(), pictures.first());
     }
-    choose(stage.comboBox(), BlendingMode::SourceOver);
-    QTRY_COMPARE(stage.canvas()->mode(), BlendingMode::SourceOver);
-    QCOMPARE(stage.canvas()->grab().toImage(), pictures.first());
-}
 
-void tst_BlendStage::opacity()
-{
-    BlendCanvas canvas;
-    const QImage full = canvas.grab().toImage();
-    canvas.setOpacity(0);
-    const QImage none = canvas.grab().toImage();
-    QVERIFY(none != full);
-    // Nothing of the layer is left, so its mode does not matter.
-    canvas.setMode(BlendingMode::LinearDodge);
-    QCOMPARE(canvas.grab().toImage(), none);
-    canvas.setMode(BlendingMode::SourceOver);
-    canvas.setOpacity(7);
-    QCOMPARE(canvas.grab().toImage(), full);
-}
+    void opacity()
+    {
+        BlendCanvas canvas;
+        const QImage full = canvas.grab().toImage();
+        canvas.setOpacity(0);
+        const QImage none = canvas.grab().toImage();
+        QVERIFY(none != full);
+        // Nothing of the layer is left, so its mode does not matter.
+        canvas.setMode(BlendingMode::LinearDodge);
+        QCOMPARE(canvas.grab().toImage(), none);
+        canvas.setMode(BlendingMode::SourceOver);
+        canvas.setOpacity(7);
+        QCOMPARE(canvas.grab().toImage(), full);
+    }
 
-void tst_BlendStage::disabledIsPaler()
-{
-    BlendCanvas canvas;
-    const QImage enabled = canvas.grab().toImage();
-    canvas.setEnabled(false);
-    QVERIFY(canvas.grab().toImage() != enabled);
-}
+    void disabledIsPaler()
+    {
+        BlendCanvas canvas;
+        const QImage enabled = canvas.grab().toImage();
+        canvas.setEnabled(false);
+        QVERIFY(canvas.grab().toImage() != enabled);
+    }
+};
 
 UIC_TEST_MAIN(tst_BlendStage)
 #include "tst_BlendStage.moc"

@@ -13,27 +13,211 @@ class tst_DialogColorPicker : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void opensOnTheFieldsColor();
-    void opensOnceAndBlocksNothing();
-    void previewIsLive();
-    void okKeeps();
-    void cancelRestores_data();
-    void cancelRestores();
-    void cancelKeepsAMixedFieldMixed();
-    void stopWithoutAPick();
-    void stopRestoresOnce();
-    void hidingTheFieldEndsIt();
-    void picksAgain();
-    void aColorSetMeanwhileIsShown();
-    void fieldDeletedWhilePicking();
-    void fieldDeletedInTheLastPreview();
-    void fieldDeletedInAPreview();
-    void dialogDeletedByOthers();
-    void stopFromInsideTheLastSignal();
-    void withoutAField();
+    void initTestCase() { m_messages = std::make_unique<MessageWatch>(); }
+
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(300, 200);
+        m_button = new ColorPickerButton(m_window.get());
+        m_picker = new DialogColorPicker(m_button);
+        m_button->setPicker(m_picker);
+        m_button->setColor(QColor(Qt::red));
+        m_window->show();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(m_messages->takeWarnings(), QStringList());
+    }
+
+    void opensOnTheFieldsColor()
+    {
+        m_button->setColor(QColor(10, 20, 30, 40));
+        m_button->click();
+        QVERIFY(dialog()->isVisible());
+        QCOMPARE(dialog()->currentColor(), QColor(10, 20, 30, 40));
+        QVERIFY(m_button->isDown());
+        QVERIFY(m_button->isPickingInProgress());
+    }
+
+    void opensOnceAndBlocksNothing()
+    {
+        m_button->startPicking();
+        QVERIFY(!dialog()->isModal());
+        m_button->startPicking();
+        QCOMPARE(m_window->findChildren<QColorDialog*>().size(), 1);
+    }
+
+    void previewIsLive()
+    {
+        m_button->startPicking();
+        QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
+        dialog()->setCurrentColor(Qt::blue);
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(m_button->isPickingInProgress());
+    }
+
+    void okKeeps()
+    {
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
+        dialog()->accept();
+        QCOMPARE(stopped.count(), 1);
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
+        QVERIFY(!m_button->isDown());
+        QVERIFY(!m_button->isPickingInProgress());
+        QVERIFY(!dialog()->isVisible());
+    }
+
+    void cancelRestores_data()
+    {
+        QTest::addColumn<bool>("closes");
+        QTest::newRow("Cancel") << false;
+        QTest::newRow("the window's close button") << true;
+    }
+
+    void cancelRestores()
+    {
+        QFETCH(bool, closes);
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        const auto order = std::make_shared<QStringList>();
+        connect(m_picker, &AbstractColorPicker::colorChanged, this, [order] { order->append("color"); });
+        connect(m_picker, &AbstractColorPicker::pickingStopped, this, [order] { order->append("stopped"); });
+        if (closes) {
+            dialog()->close();
+        } else {
+            dialog()->reject();
+        }
+        QCOMPARE(*order, (QStringList{"color", "stopped"}));
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
+        QVERIFY(!m_button->isDown());
+    }
+
+    void cancelKeepsAMixedFieldMixed()
+    {
+        // The picker still knows red: a field tells it of definite colours only.
+        m_button->setColor(std::nullopt);
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        dialog()->reject();
+        QCOMPARE(m_button->color(), std::optional<QColor>());
+    }
+
+    void stopWithoutAPick()
+    {
+        QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
+        m_picker->stop();
+        QCOMPARE(stopped.count(), 0);
+    }
+
+    void stopRestoresOnce()
+    {
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
+        m_picker->stop();
+        m_picker->stop();
+        QCOMPARE(stopped.count(), 1);
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
+    }
+
+    void hidingTheFieldEndsIt()
+    {
+        m_button->startPicking();
+        m_button->hide();
+        QVERIFY(!m_button->isPickingInProgress());
+        QVERIFY(!dialog()->isVisible());
+    }
+
+    void picksAgain()
+    {
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        dialog()->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!dialog());
+        m_button->startPicking();
+        QCOMPARE(dialog()->currentColor(), QColor(Qt::blue));
+        dialog()->setCurrentColor(Qt::green);
+        dialog()->reject();
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
+    }
+
+    void aColorSetMeanwhileIsShown()
+    {
+        m_button->startPicking();
+        QSignalSpy changed(m_picker, &AbstractColorPicker::colorChanged);
+        m_button->setColor(QColor(Qt::green));
+        QCOMPARE(dialog()->currentColor(), QColor(Qt::green));
+        QCOMPARE(changed.count(), 0);
+        m_button->setColor(QColor());
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor()));
+    }
+
+    void fieldDeletedWhilePicking()
+    {
+        m_button->startPicking();
+        const QPointer<QColorDialog> open = dialog();
+        delete m_button;
+        QVERIFY(!open->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!open);
+    }
+
+    void fieldDeletedInTheLastPreview()
+    {
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        connect(m_picker, &AbstractColorPicker::colorChanged, m_window.get(), [this] { delete m_button; });
+        dialog()->reject();
+        QVERIFY(!m_button);
+    }
+
+    void fieldDeletedInAPreview()
+    {
+        m_button->startPicking();
+        connect(m_picker, &AbstractColorPicker::colorChanged, m_window.get(), [this] { delete m_button; });
+        const QPointer<QColorDialog> open = dialog();
+        open->setCurrentColor(Qt::blue);
+        QVERIFY(!m_button);
+        QVERIFY(open && !open->isVisible());
+    }
+
+    void dialogDeletedByOthers()
+    {
+        m_button->startPicking();
+        QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
+        dialog()->setCurrentColor(Qt::blue);
+        delete dialog();
+        QCOMPARE(stopped.count(), 1);
+        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
+        QVERIFY(!m_button->isDown());
+    }
+
+    void stopFromInsideTheLastSignal()
+    {
+        m_button->startPicking();
+        dialog()->setCurrentColor(Qt::blue);
+        QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
+        connect(m_picker, &AbstractColorPicker::colorChanged, this, [this] { m_picker->stop(); });
+        dialog()->reject();
+        QCOMPARE(stopped.count(), 1);
+    }
+
+    void withoutAField()
+    {
+        DialogColorPicker picker(nullptr);
+        picker.pick();
+        QVERIFY(!picker.isInProgress());
+        picker.setColor(QColor(Qt::red));
+        QCOMPARE(picker.color(), std::optional<QColor>(QColor(Qt::red)));
+    }
 
 private:
     QColorDialog* dialog() const { return m_window->findChild<QColorDialog*>("colorPickerDialog"); }
@@ -43,215 +227,6 @@ private:
     QPointer<ColorPickerButton> m_button;
     DialogColorPicker* m_picker = nullptr;
 };
-
-void tst_DialogColorPicker::initTestCase()
-{
-    m_messages = std::make_unique<MessageWatch>();
-}
-
-void tst_DialogColorPicker::init()
-{
-    m_window = std::make_unique<QWidget>();
-    m_window->resize(300, 200);
-    m_button = new ColorPickerButton(m_window.get());
-    m_picker = new DialogColorPicker(m_button);
-    m_button->setPicker(m_picker);
-    m_button->setColor(QColor(Qt::red));
-    m_window->show();
-}
-
-void tst_DialogColorPicker::cleanup()
-{
-    m_window.reset();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(m_messages->takeWarnings(), QStringList());
-}
-
-void tst_DialogColorPicker::opensOnTheFieldsColor()
-{
-    m_button->setColor(QColor(10, 20, 30, 40));
-    m_button->click();
-    QVERIFY(dialog()->isVisible());
-    QCOMPARE(dialog()->currentColor(), QColor(10, 20, 30, 40));
-    QVERIFY(m_button->isDown());
-    QVERIFY(m_button->isPickingInProgress());
-}
-
-void tst_DialogColorPicker::opensOnceAndBlocksNothing()
-{
-    m_button->startPicking();
-    QVERIFY(!dialog()->isModal());
-    m_button->startPicking();
-    QCOMPARE(m_window->findChildren<QColorDialog*>().size(), 1);
-}
-
-void tst_DialogColorPicker::previewIsLive()
-{
-    m_button->startPicking();
-    QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
-    dialog()->setCurrentColor(Qt::blue);
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
-    QCOMPARE(changed.count(), 1);
-    QVERIFY(m_button->isPickingInProgress());
-}
-
-void tst_DialogColorPicker::okKeeps()
-{
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
-    dialog()->accept();
-    QCOMPARE(stopped.count(), 1);
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
-    QVERIFY(!m_button->isDown());
-    QVERIFY(!m_button->isPickingInProgress());
-    QVERIFY(!dialog()->isVisible());
-}
-
-void tst_DialogColorPicker::cancelRestores_data()
-{
-    QTest::addColumn<bool>("closes");
-    QTest::newRow("Cancel") << false;
-    QTest::newRow("the window's close button") << true;
-}
-
-void tst_DialogColorPicker::cancelRestores()
-{
-    QFETCH(bool, closes);
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    const auto order = std::make_shared<QStringList>();
-    connect(m_picker, &AbstractColorPicker::colorChanged, this, [order] { order->append("color"); });
-    connect(m_picker, &AbstractColorPicker::pickingStopped, this, [order] { order->append("stopped"); });
-    if (closes) {
-        dialog()->close();
-    } else {
-        dialog()->reject();
-    }
-    QCOMPARE(*order, (QStringList{"color", "stopped"}));
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
-    QVERIFY(!m_button->isDown());
-}
-
-void tst_DialogColorPicker::cancelKeepsAMixedFieldMixed()
-{
-    // The picker still knows red: a field tells it of definite colours only.
-    m_button->setColor(std::nullopt);
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    dialog()->reject();
-    QCOMPARE(m_button->color(), std::optional<QColor>());
-}
-
-void tst_DialogColorPicker::stopWithoutAPick()
-{
-    QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
-    m_picker->stop();
-    QCOMPARE(stopped.count(), 0);
-}
-
-void tst_DialogColorPicker::stopRestoresOnce()
-{
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
-    m_picker->stop();
-    m_picker->stop();
-    QCOMPARE(stopped.count(), 1);
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
-}
-
-void tst_DialogColorPicker::hidingTheFieldEndsIt()
-{
-    m_button->startPicking();
-    m_button->hide();
-    QVERIFY(!m_button->isPickingInProgress());
-    QVERIFY(!dialog()->isVisible());
-}
-
-void tst_DialogColorPicker::picksAgain()
-{
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    dialog()->accept();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!dialog());
-    m_button->startPicking();
-    QCOMPARE(dialog()->currentColor(), QColor(Qt::blue));
-    dialog()->setCurrentColor(Qt::green);
-    dialog()->reject();
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
-}
-
-void tst_DialogColorPicker::aColorSetMeanwhileIsShown()
-{
-    m_button->startPicking();
-    QSignalSpy changed(m_picker, &AbstractColorPicker::colorChanged);
-    m_button->setColor(QColor(Qt::green));
-    QCOMPARE(dialog()->currentColor(), QColor(Qt::green));
-    QCOMPARE(changed.count(), 0);
-    m_button->setColor(QColor());
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor()));
-}
-
-void tst_DialogColorPicker::fieldDeletedWhilePicking()
-{
-    m_button->startPicking();
-    const QPointer<QColorDialog> open = dialog();
-    delete m_button;
-    QVERIFY(!open->isVisible());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!open);
-}
-
-void tst_DialogColorPicker::fieldDeletedInTheLastPreview()
-{
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    connect(m_picker, &AbstractColorPicker::colorChanged, m_window.get(), [this] { delete m_button; });
-    dialog()->reject();
-    QVERIFY(!m_button);
-}
-
-void tst_DialogColorPicker::fieldDeletedInAPreview()
-{
-    m_button->startPicking();
-    connect(m_picker, &AbstractColorPicker::colorChanged, m_window.get(), [this] { delete m_button; });
-    const QPointer<QColorDialog> open = dialog();
-    open->setCurrentColor(Qt::blue);
-    QVERIFY(!m_button);
-    QVERIFY(open && !open->isVisible());
-}
-
-void tst_DialogColorPicker::dialogDeletedByOthers()
-{
-    m_button->startPicking();
-    QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
-    dialog()->setCurrentColor(Qt::blue);
-    delete dialog();
-    QCOMPARE(stopped.count(), 1);
-    QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
-    QVERIFY(!m_button->isDown());
-}
-
-void tst_DialogColorPicker::stopFromInsideTheLastSignal()
-{
-    m_button->startPicking();
-    dialog()->setCurrentColor(Qt::blue);
-    QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
-    connect(m_picker, &AbstractColorPicker::colorChanged, this, [this] { m_picker->stop(); });
-    dialog()->reject();
-    QCOMPARE(stopped.count(), 1);
-}
-
-void tst_DialogColorPicker::withoutAField()
-{
-    DialogColorPicker picker(nullptr);
-    picker.pick();
-    QVERIFY(!picker.isInProgress());
-    picker.setColor(QColor(Qt::red));
-    QCOMPARE(picker.color(), std::optional<QColor>(QColor(Qt::red)));
-}
 
 UIC_TEST_MAIN(tst_DialogColorPicker)
 #include "tst_DialogColorPicker.moc"

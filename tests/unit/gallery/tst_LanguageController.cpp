@@ -9,96 +9,80 @@ class tst_LanguageController : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void startsWithTheSourceTexts();
-    void everyLanguageHasAName();
-    void theGallerysTexts_data();
-    void theGallerysTexts();
-    void thereAndBack();
-    void unknownLanguage();
-    void goesWithTheController();
-};
+    void initTestCase() { GalleryApplication::prepare(); }
 
-void tst_LanguageController::initTestCase()
-{
-    GalleryApplication::prepare();
-}
+    void init() { QLocale::setDefault(QLocale("en")); }
 
-void tst_LanguageController::init()
-{
-    QLocale::setDefault(QLocale("en"));
-}
-
-void tst_LanguageController::startsWithTheSourceTexts()
-{
-    const LanguageController controller;
-    QCOMPARE(controller.language(), QStringLiteral("en"));
-    QCOMPARE(PageRegistry::groupTitle(PageGroup::Colour), QStringLiteral("Colour"));
-}
-
-void tst_LanguageController::everyLanguageHasAName()
-{
-    QStringList names;
-    const QStringList codes = LanguageController::languages();
-    for (const QString& code : codes) {
-        names.append(LanguageController::nativeName(code));
+    void startsWithTheSourceTexts()
+    {
+        const LanguageController controller;
+        QCOMPARE(controller.language(), QStringLiteral("en"));
+        QCOMPARE(PageRegistry::groupTitle(PageGroup::Colour), QStringLiteral("Colour"));
     }
-    QCOMPARE(names, (QStringList{"English", "Deutsch", QString::fromUtf8("日本語")}));
-}
 
-void tst_LanguageController::theGallerysTexts_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("German") << "de"
-                            << "Farbe";
-    QTest::newRow("Japanese") << "ja" << QString::fromUtf8("色");
-}
+    void everyLanguageHasAName()
+    {
+        QStringList names;
+        const QStringList codes = LanguageController::languages();
+        for (const QString& code : codes) {
+            names.append(LanguageController::nativeName(code));
+        }
+        QCOMPARE(names, (QStringList{"English", "Deutsch", QString::fromUtf8("日本語")}));
+    }
 
-void tst_LanguageController::theGallerysTexts()
-{
-    QFETCH(QString, code);
-    LanguageController controller;
-    QSignalSpy changed(&controller, &LanguageController::languageChanged);
-    controller.setLanguage(code);
-    QCOMPARE(controller.language(), code);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().first().toString(), code);
-    QTEST(PageRegistry::groupTitle(PageGroup::Colour), "title");
-    QCOMPARE(QLocale().language(), QLocale(code).language());
-}
+    void theGallerysTexts_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("German") << "de"
+                                << "Farbe";
+        QTest::newRow("Japanese") << "ja" << QString::fromUtf8("色");
+    }
 
-void tst_LanguageController::thereAndBack()
-{
-    LanguageController controller;
-    controller.setLanguage("de");
-    QSignalSpy changed(&controller, &LanguageController::languageChanged);
-    controller.setLanguage("de");
-    QCOMPARE(changed.count(), 0);
-    controller.setLanguage("en");
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(PageRegistry::groupTitle(PageGroup::Colour), QStringLiteral("Colour"));
-}
+    void theGallerysTexts()
+    {
+        QFETCH(QString, code);
+        LanguageController controller;
+        QSignalSpy changed(&controller, &LanguageController::languageChanged);
+        controller.setLanguage(code);
+        QCOMPARE(controller.language(), code);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.first().first().toString(), code);
+        QTEST(PageRegistry::groupTitle(PageGroup::Colour), "title");
+        QCOMPARE(QLocale().language(), QLocale(code).language());
+    }
 
-void tst_LanguageController::unknownLanguage()
-{
-    LanguageController controller;
-    QSignalSpy changed(&controller, &LanguageController::languageChanged);
-    controller.setLanguage("xx");
-    controller.setLanguage(QString());
-    QCOMPARE(controller.language(), QStringLiteral("en"));
-    QCOMPARE(changed.count(), 0);
-}
-
-void tst_LanguageController::goesWithTheController()
-{
+    void thereAndBack()
     {
         LanguageController controller;
         controller.setLanguage("de");
+        QSignalSpy changed(&controller, &LanguageController::languageChanged);
+        controller.setLanguage("de");
+        QCOMPARE(changed.count(), 0);
+        controller.setLanguage("en");
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(PageRegistry::groupTitle(PageGroup::Colour), QStringLiteral("Colour"));
     }
-    QCOMPARE(PageRegistry::groupTitle(PageGroup::Colour), QStringLiteral("Colour"));
-}
+
+    void unknownLanguage()
+    {
+        LanguageController controller;
+        QSignalSpy changed(&controller, &LanguageController::languageChanged);
+        controller.setLanguage("xx");
+        controller.setLanguage(QString());
+        QCOMPARE(controller.language(), QStringLiteral("en"));
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void goesWithTheController()
+    {
+        {
+            LanguageController controller;
+            controller.setLanguage("de");
+        }
+        QCOMPARE(PageRegistry::groupTitle(PageGroup::Colour), QStringLiteral("Colour"));
+    }
+};
 
 UIC_TEST_MAIN(tst_LanguageController)
 #include "tst_LanguageController.moc"

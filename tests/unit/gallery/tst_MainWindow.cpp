@@ -23,44 +23,6 @@
 #include <gallery/ValueText.h>
 #include <memory>
 
-class tst_MainWindow : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void startsOnTheFirstPage();
-    void startsWhereItIsAsked();
-    void choosingAPage();
-    void unknownPage();
-    void keysMoveThroughTheList();
-    void searching();
-    void searchThatHidesTheCurrentPage();
-    void languageRebuildsThePage();
-    void directionRebuildsThePage();
-    void styleSwitch();
-    void propertyRowsFollowTheStyle();
-    void markersAreInPlace();
-    void titlesAreNotElided_data();
-    void titlesAreNotElided();
-    void styleSheetNamesExist();
-    void unreadableStyleFile();
-    void cancelledStyleFile();
-    void scaleAsksForARestart();
-    void closedDuringTheTour();
-
-private:
-    void open(const CommandLine& start = CommandLine());
-    QAbstractButton* button(const QString& group, const QString& text) const;
-    QString shownTitle() const;
-    QStringList rows() const;
-
-    std::unique_ptr<MessageWatch> m_messages;
-    std::unique_ptr<MainWindow> m_window;
-};
-
 namespace {
 
 /// A page reads the values of a sheet after it is polished, which it is when it is laid out.
@@ -73,334 +35,338 @@ void settle()
 
 } // namespace
 
-void tst_MainWindow::initTestCase()
+class tst_MainWindow : public QObject
 {
-    GalleryApplication::prepare();
-    m_messages = std::make_unique<MessageWatch>();
-}
+    Q_OBJECT
 
-void tst_MainWindow::init()
-{
-    m_messages->takeWarnings();
-}
-
-void tst_MainWindow::cleanup()
-{
-    m_window.reset();
-    QApplication::setLayoutDirection(Qt::LeftToRight);
-    qApp->setStyleSheet(QString());
-    QCOMPARE(m_messages->takeWarnings(), QStringList());
-}
-
-void tst_MainWindow::open(const CommandLine& start)
-{
-    m_window = std::make_unique<MainWindow>(start);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-QAbstractButton* tst_MainWindow::button(const QString& group, const QString& text) const
-{
-    const auto buttons = m_window->findChild<QWidget*>(group)->findChildren<QAbstractButton*>();
-    for (QAbstractButton* candidate : buttons) {
-        if (candidate->text() == text) {
-            return candidate;
-        }
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GalleryApplication::prepare();
+        m_messages = std::make_unique<MessageWatch>();
     }
-    return nullptr;
-}
 
-QString tst_MainWindow::shownTitle() const
-{
-    return m_window->page()->findChild<QLabel*>("pageTitle")->text();
-}
+    void init() { m_messages->takeWarnings(); }
 
-/// The values of the controls of the page, each with its name.
-QStringList tst_MainWindow::rows() const
-{
-    QStringList values;
-    const auto* form = m_window->page()->properties()->findChild<QFormLayout*>();
-    for (int row = 0; row < form->rowCount(); ++row) {
-        QLayoutItem* const item = form->itemAt(row, QFormLayout::FieldRole);
-        const QWidget* const control = item ? item->widget() : nullptr;
-        if (!control) {
-            continue;
-        }
-        const auto* button = control->findChild<ColorPickerButton*>();
-        const QVariant value = button ? QVariant(button->color().value_or(QColor()))
-                                      : control->property(control->metaObject()->userProperty().name());
-        values.append(control->accessibleName() + " = " + valueText(value));
+    void cleanup()
+    {
+        m_window.reset();
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        qApp->setStyleSheet(QString());
+        QCOMPARE(m_messages->takeWarnings(), QStringList());
     }
-    return values;
-}
 
-void tst_MainWindow::startsOnTheFirstPage()
-{
-    open();
-    const PageInfo first = PageRegistry::pages().constFirst();
-    QCOMPARE(m_window->state().page, first.id);
-    QCOMPARE(m_window->state().style, QStringLiteral("dark"));
-    QCOMPARE(shownTitle(), first.title);
-    QCOMPARE(m_window->pageList()->currentPage(), first.id);
-    QVERIFY(m_window->windowTitle().contains(first.title));
-}
+    void startsOnTheFirstPage()
+    {
+        open();
+        const PageInfo first = PageRegistry::pages().constFirst();
+        QCOMPARE(m_window->state().page, first.id);
+        QCOMPARE(m_window->state().style, QStringLiteral("dark"));
+        QCOMPARE(shownTitle(), first.title);
+        QCOMPARE(m_window->pageList()->currentPage(), first.id);
+        QVERIFY(m_window->windowTitle().contains(first.title));
+    }
 
-void tst_MainWindow::startsWhereItIsAsked()
-{
-    CommandLine start;
-    start.page = "layouts";
-    start.style = "light";
-    start.language = "de";
-    start.direction = Qt::RightToLeft;
-    open(start);
-    QCOMPARE(m_window->state().arguments(), start.arguments());
-    QCOMPARE(m_window->page()->layoutDirection(), Qt::RightToLeft);
-    QVERIFY(button("styleSwitch", "Hell")->isChecked());
-    QVERIFY(button("directionSwitch", "RTL")->isChecked());
-}
+    void startsWhereItIsAsked()
+    {
+        CommandLine start;
+        start.page = "layouts";
+        start.style = "light";
+        start.language = "de";
+        start.direction = Qt::RightToLeft;
+        open(start);
+        QCOMPARE(m_window->state().arguments(), start.arguments());
+        QCOMPARE(m_window->page()->layoutDirection(), Qt::RightToLeft);
+        QVERIFY(button("styleSwitch", "Hell")->isChecked());
+        QVERIFY(button("directionSwitch", "RTL")->isChecked());
+    }
 
-void tst_MainWindow::choosingAPage()
-{
-    open();
-    QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
-    const QPointer<Page> before = m_window->page();
-    m_window->pageList()->step(1);
-    QCOMPARE(shown.count(), 1);
-    QCOMPARE(m_window->state().page, PageRegistry::pages().at(1).id);
-    QVERIFY(!before);
-    QCOMPARE(m_window->findChildren<Page*>().size(), 1);
+    void choosingAPage()
+    {
+        open();
+        QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
+        const QPointer<Page> before = m_window->page();
+        m_window->pageList()->step(1);
+        QCOMPARE(shown.count(), 1);
+        QCOMPARE(m_window->state().page, PageRegistry::pages().at(1).id);
+        QVERIFY(!before);
+        QCOMPARE(m_window->findChildren<Page*>().size(), 1);
 
-    m_window->showPage(m_window->state().page);
-    QCOMPARE(shown.count(), 1);
-}
+        m_window->showPage(m_window->state().page);
+        QCOMPARE(shown.count(), 1);
+    }
 
-void tst_MainWindow::unknownPage()
-{
-    open();
-    const QString before = m_window->state().page;
-    m_window->showPage("no-such");
-    m_window->showPage(QString());
-    QCOMPARE(m_window->state().page, before);
-}
+    void unknownPage()
+    {
+        open();
+        const QString before = m_window->state().page;
+        m_window->showPage("no-such");
+        m_window->showPage(QString());
+        QCOMPARE(m_window->state().page, before);
+    }
 
-void tst_MainWindow::keysMoveThroughTheList()
-{
-    open();
-    const QVector<PageInfo> pages = PageRegistry::pages();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-    QCOMPARE(m_window->state().page, pages.at(1).id);
-    // Over a heading, which is no page.
-    for (int i = 2; i < pages.size(); ++i) {
+    void keysMoveThroughTheList()
+    {
+        open();
+        const QVector<PageInfo> pages = PageRegistry::pages();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-        QCOMPARE(m_window->state().page, pages.at(i).id);
+        QCOMPARE(m_window->state().page, pages.at(1).id);
+        // Over a heading, which is no page.
+        for (int i = 2; i < pages.size(); ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+            QCOMPARE(m_window->state().page, pages.at(i).id);
+        }
+        QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier);
+        QCOMPARE(m_window->state().page, pages.at(pages.size() - 2).id);
+        QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+        QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+        QCOMPARE(m_window->state().page, pages.last().id);
     }
-    QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier);
-    QCOMPARE(m_window->state().page, pages.at(pages.size() - 2).id);
-    QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
-    QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
-    QCOMPARE(m_window->state().page, pages.last().id);
-}
 
-void tst_MainWindow::searching()
-{
-    open();
-    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
-    QLineEdit* const search = m_window->pageList()->searchField();
-    QCOMPARE(QApplication::focusWidget(), search);
-    QTest::keyClicks(search, "ovframe");
-    QCOMPARE(m_window->pageList()->listedPages(), QStringList{"frame"});
-    QTest::keyClick(search, Qt::Key_Return);
-    QCOMPARE(m_window->state().page, QStringLiteral("frame"));
-    QTest::keyClick(search, Qt::Key_Escape);
-    QCOMPARE(m_window->pageList()->listedPages().size(), PageRegistry::pages().size());
-    QCOMPARE(m_window->pageList()->currentPage(), QStringLiteral("frame"));
-    QTest::keyClick(search, Qt::Key_Down);
-    QVERIFY(m_window->state().page != "frame");
-}
-
-void tst_MainWindow::searchThatHidesTheCurrentPage()
-{
-    open();
-    QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
-    const QString before = m_window->state().page;
-    m_window->pageList()->searchField()->setText("zebra");
-    QCOMPARE(m_window->pageList()->listedPages(), QStringList());
-    QCOMPARE(m_window->pageList()->currentPage(), QString());
-    QTest::keyClick(m_window->pageList()->searchField(), Qt::Key_Down);
-    QCOMPARE(m_window->state().page, before);
-    m_window->pageList()->searchField()->clear();
-    QCOMPARE(m_window->pageList()->currentPage(), before);
-    QCOMPARE(shown.count(), 0);
-}
-
-void tst_MainWindow::languageRebuildsThePage()
-{
-    open();
-    QVERIFY(button("styleSwitch", "Dark"));
-    auto* languages = m_window->findChild<QWidget*>("languageSwitch")->findChild<QComboBox*>();
-    languages->setFocus();
-    QTest::keyClick(languages, Qt::Key_Down);
-    QCOMPARE(m_window->state().language, QStringLiteral("de"));
-    QCOMPARE(shownTitle(), PageRegistry::find(m_window->state().page)->title);
-    QVERIFY(shownTitle() != QStringLiteral("Colour button"));
-    QVERIFY(button("styleSwitch", "Dunkel"));
-    m_window->setLanguage("en");
-    QCOMPARE(shownTitle(), QStringLiteral("Colour button"));
-    QCOMPARE(languages->currentText(), QStringLiteral("English"));
-}
-
-void tst_MainWindow::directionRebuildsThePage()
-{
-    open();
-    QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
-    button("directionSwitch", "RTL")->click();
-    QCOMPARE(m_window->state().direction, Qt::RightToLeft);
-    QCOMPARE(m_window->page()->layoutDirection(), Qt::RightToLeft);
-    QCOMPARE(shown.count(), 1);
-    m_window->setDirection(Qt::RightToLeft);
-    QCOMPARE(shown.count(), 1);
-    button("directionSwitch", "LTR")->click();
-    QCOMPARE(m_window->state().direction, Qt::LeftToRight);
-}
-
-void tst_MainWindow::styleSwitch()
-{
-    open();
-    button("styleSwitch", "None")->click();
-    QCOMPARE(m_window->state().style, QStringLiteral("none"));
-    QCOMPARE(qApp->styleSheet(), QString());
-    QTemporaryFile sheet;
-    QVERIFY(sheet.open());
-    QVERIFY(m_window->setStyleName(sheet.fileName()));
-    QCOMPARE(m_window->state().style, sheet.fileName());
-    QVERIFY(button("styleSwitch", QString::fromUtf8("File…"))->isChecked());
-}
-
-// The sheets set properties: after a switch the rows are those of a page that was built in that style.
-void tst_MainWindow::propertyRowsFollowTheStyle()
-{
-    open();
-    const QVector<PageInfo> pages = PageRegistry::pages();
-    for (const PageInfo& page : pages) {
-        m_window->showPage(page.id);
-        settle();
-        QVERIFY(m_window->setStyleName(m_window->state().style == "dark" ? "light" : "dark"));
-        settle();
-        const QStringList switched = rows();
-        m_window->showPage(page.id == "frame" ? "layouts" : "frame");
-        m_window->showPage(page.id);
-        settle();
-        QVERIFY2(rows() == switched, qPrintable(page.id));
+    void searching()
+    {
+        open();
+        QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+        QLineEdit* const search = m_window->pageList()->searchField();
+        QCOMPARE(QApplication::focusWidget(), search);
+        QTest::keyClicks(search, "ovframe");
+        QCOMPARE(m_window->pageList()->listedPages(), QStringList{"frame"});
+        QTest::keyClick(search, Qt::Key_Return);
+        QCOMPARE(m_window->state().page, QStringLiteral("frame"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(m_window->pageList()->listedPages().size(), PageRegistry::pages().size());
+        QCOMPARE(m_window->pageList()->currentPage(), QStringLiteral("frame"));
+        QTest::keyClick(search, Qt::Key_Down);
+        QVERIFY(m_window->state().page != "frame");
     }
-}
 
-// A plane places its marker in the size that it has: a page that sets the colour too early shows another.
-void tst_MainWindow::markersAreInPlace()
-{
-    open();
-    for (const char* page : {"color-plane", "color-selector"}) {
-        m_window->showPage(page);
-        settle();
-        const QImage shown = m_window->page()->grab().toImage();
-        m_window->page()->prepareForPicture();
-        settle();
-        QVERIFY2(m_window->page()->grab().toImage() == shown, page);
+    void searchThatHidesTheCurrentPage()
+    {
+        open();
+        QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
+        const QString before = m_window->state().page;
+        m_window->pageList()->searchField()->setText("zebra");
+        QCOMPARE(m_window->pageList()->listedPages(), QStringList());
+        QCOMPARE(m_window->pageList()->currentPage(), QString());
+        QTest::keyClick(m_window->pageList()->searchField(), Qt::Key_Down);
+        QCOMPARE(m_window->state().page, before);
+        m_window->pageList()->searchField()->clear();
+        QCOMPARE(m_window->pageList()->currentPage(), before);
+        QCOMPARE(shown.count(), 0);
     }
-}
 
-void tst_MainWindow::titlesAreNotElided_data()
-{
-    QTest::addColumn<QString>("style");
-    QTest::addColumn<QString>("language");
-    for (const char* style : {"dark", "light", "none"}) {
-        for (const char* language : {"en", "de", "ja"}) {
-            QTest::addRow("%s, %s", style, language) << style << language;
+    void languageRebuildsThePage()
+    {
+        open();
+        QVERIFY(button("styleSwitch", "Dark"));
+        auto* languages = m_window->findChild<QWidget*>("languageSwitch")->findChild<QComboBox*>();
+        languages->setFocus();
+        QTest::keyClick(languages, Qt::Key_Down);
+        QCOMPARE(m_window->state().language, QStringLiteral("de"));
+        QCOMPARE(shownTitle(), PageRegistry::find(m_window->state().page)->title);
+        QVERIFY(shownTitle() != QStringLiteral("Colour button"));
+        QVERIFY(button("styleSwitch", "Dunkel"));
+        m_window->setLanguage("en");
+        QCOMPARE(shownTitle(), QStringLiteral("Colour button"));
+        QCOMPARE(languages->currentText(), QStringLiteral("English"));
+    }
+
+    void directionRebuildsThePage()
+    {
+        open();
+        QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
+        button("directionSwitch", "RTL")->click();
+        QCOMPARE(m_window->state().direction, Qt::RightToLeft);
+        QCOMPARE(m_window->page()->layoutDirection(), Qt::RightToLeft);
+        QCOMPARE(shown.count(), 1);
+        m_window->setDirection(Qt::RightToLeft);
+        QCOMPARE(shown.count(), 1);
+        button("directionSwitch", "LTR")->click();
+        QCOMPARE(m_window->state().direction, Qt::LeftToRight);
+    }
+
+    void styleSwitch()
+    {
+        open();
+        button("styleSwitch", "None")->click();
+        QCOMPARE(m_window->state().style, QStringLiteral("none"));
+        QCOMPARE(qApp->styleSheet(), QString());
+        QTemporaryFile sheet;
+        QVERIFY(sheet.open());
+        QVERIFY(m_window->setStyleName(sheet.fileName()));
+        QCOMPARE(m_window->state().style, sheet.fileName());
+        QVERIFY(button("styleSwitch", QString::fromUtf8("File…"))->isChecked());
+    }
+
+    // The sheets set properties: after a switch the rows are those of a page that was built in that style.
+    void propertyRowsFollowTheStyle()
+    {
+        open();
+        const QVector<PageInfo> pages = PageRegistry::pages();
+        for (const PageInfo& page : pages) {
+            m_window->showPage(page.id);
+            settle();
+            QVERIFY(m_window->setStyleName(m_window->state().style == "dark" ? "light" : "dark"));
+            settle();
+            const QStringList switched = rows();
+            m_window->showPage(page.id == "frame" ? "layouts" : "frame");
+            m_window->showPage(page.id);
+            settle();
+            QVERIFY2(rows() == switched, qPrintable(page.id));
         }
     }
-}
 
-void tst_MainWindow::titlesAreNotElided()
-{
-    QFETCH(QString, style);
-    QFETCH(QString, language);
-    open();
-    QVERIFY(m_window->setStyleName(style));
-    m_window->setLanguage(language);
-    QCoreApplication::processEvents();
-    const auto* list = m_window->findChild<QListWidget*>("pageList");
-    QVERIFY(list->sizeHintForColumn(0) <= list->viewport()->width());
-    m_window->pageList()->searchField()->setText("slider");
-    const int width = list->width();
-    m_window->pageList()->searchField()->clear();
-    QCOMPARE(list->width(), width);
-}
-
-// A rule about a name that no widget has is dead.
-void tst_MainWindow::styleSheetNamesExist()
-{
-    QFile sheet(":/gallery/dark.qss");
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    QSet<QString> unseen;
-    static const QRegularExpression name("^#([A-Za-z]+)", QRegularExpression::MultilineOption);
-    auto names = name.globalMatch(QString::fromUtf8(sheet.readAll()));
-    while (names.hasNext()) {
-        unseen.insert(names.next().captured(1));
-    }
-    QVERIFY(unseen.size() > 10);
-
-    open();
-    const QVector<PageInfo> pages = PageRegistry::pages();
-    for (const PageInfo& page : pages) {
-        m_window->showPage(page.id);
-        const auto widgets = m_window->findChildren<QWidget*>();
-        for (const QWidget* widget : widgets) {
-            unseen.remove(widget->objectName());
+    // A plane places its marker in the size that it has: a page that sets the colour too early shows another.
+    void markersAreInPlace()
+    {
+        open();
+        for (const char* page : {"color-plane", "color-selector"}) {
+            m_window->showPage(page);
+            settle();
+            const QImage shown = m_window->page()->grab().toImage();
+            m_window->page()->prepareForPicture();
+            settle();
+            QVERIFY2(m_window->page()->grab().toImage() == shown, page);
         }
     }
-    QVERIFY2(unseen.isEmpty(), qPrintable(QStringList(unseen.cbegin(), unseen.cend()).join(", ")));
-}
 
-void tst_MainWindow::unreadableStyleFile()
-{
-    open();
-    QVERIFY(!m_window->setStyleName("/no/such/file.qss"));
-    QCOMPARE(m_window->state().style, QStringLiteral("dark"));
-    QVERIFY(button("styleSwitch", "Dark")->isChecked());
-}
+    void titlesAreNotElided_data()
+    {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<QString>("language");
+        for (const char* style : {"dark", "light", "none"}) {
+            for (const char* language : {"en", "de", "ja"}) {
+                QTest::addRow("%s, %s", style, language) << style << language;
+            }
+        }
+    }
 
-void tst_MainWindow::cancelledStyleFile()
-{
-    open();
-    button("styleSwitch", QString::fromUtf8("File…"))->click();
-    auto* dialog = m_window->findChild<QFileDialog*>();
-    QVERIFY(dialog);
-    dialog->reject();
-    QVERIFY(button("styleSwitch", "Dark")->isChecked());
-    QCOMPARE(m_window->state().style, QStringLiteral("dark"));
-}
+    void titlesAreNotElided()
+    {
+        QFETCH(QString, style);
+        QFETCH(QString, language);
+        open();
+        QVERIFY(m_window->setStyleName(style));
+        m_window->setLanguage(language);
+        QCoreApplication::processEvents();
+        const auto* list = m_window->findChild<QListWidget*>("pageList");
+        QVERIFY(list->sizeHintForColumn(0) <= list->viewport()->width());
+        m_window->pageList()->searchField()->setText("slider");
+        const int width = list->width();
+        m_window->pageList()->searchField()->clear();
+        QCOMPARE(list->width(), width);
+    }
 
-void tst_MainWindow::scaleAsksForARestart()
-{
-    open();
-    QSignalSpy restart(m_window.get(), &MainWindow::restartRequested);
-    auto* scales = m_window->findChild<QWidget*>("scaleSwitch")->findChild<QComboBox*>();
-    QCOMPARE(scales->currentData().toDouble(), 1.0);
-    scales->setFocus();
-    QTest::keyClick(scales, Qt::Key_End);
-    QCOMPARE(restart.count(), 1);
-    QCOMPARE(restart.first().first().toDouble(), 2.0);
-}
+    // A rule about a name that no widget has is dead.
+    void styleSheetNamesExist()
+    {
+        QFile sheet(":/gallery/dark.qss");
+        QVERIFY(sheet.open(QIODevice::ReadOnly));
+        QSet<QString> unseen;
+        static const QRegularExpression name("^#([A-Za-z]+)", QRegularExpression::MultilineOption);
+        auto names = name.globalMatch(QString::fromUtf8(sheet.readAll()));
+        while (names.hasNext()) {
+            unseen.insert(names.next().captured(1));
+        }
+        QVERIFY(unseen.size() > 10);
 
-// The bubble of the tour is a child of the search field.
-void tst_MainWindow::closedDuringTheTour()
-{
-    CommandLine start;
-    start.page = "dialog-guide";
-    open(start);
-    m_window->page()->properties()->findChild<QPushButton*>()->click();
-    QVERIFY(m_window->pageList()->searchField()->findChild<DialogGuideWidget*>());
-    m_window.reset();
-}
+        open();
+        const QVector<PageInfo> pages = PageRegistry::pages();
+        for (const PageInfo& page : pages) {
+            m_window->showPage(page.id);
+            const auto widgets = m_window->findChildren<QWidget*>();
+            for (const QWidget* widget : widgets) {
+                unseen.remove(widget->objectName());
+            }
+        }
+        QVERIFY2(unseen.isEmpty(), qPrintable(QStringList(unseen.cbegin(), unseen.cend()).join(", ")));
+    }
+
+    void unreadableStyleFile()
+    {
+        open();
+        QVERIFY(!m_window->setStyleName("/no/such/file.qss"));
+        QCOMPARE(m_window->state().style, QStringLiteral("dark"));
+        QVERIFY(button("styleSwitch", "Dark")->isChecked());
+    }
+
+    void cancelledStyleFile()
+    {
+        open();
+        button("styleSwitch", QString::fromUtf8("File…"))->click();
+        auto* dialog = m_window->findChild<QFileDialog*>();
+        QVERIFY(dialog);
+        dialog->reject();
+        QVERIFY(button("styleSwitch", "Dark")->isChecked());
+        QCOMPARE(m_window->state().style, QStringLiteral("dark"));
+    }
+
+    void scaleAsksForARestart()
+    {
+        open();
+        QSignalSpy restart(m_window.get(), &MainWindow::restartRequested);
+        auto* scales = m_window->findChild<QWidget*>("scaleSwitch")->findChild<QComboBox*>();
+        QCOMPARE(scales->currentData().toDouble(), 1.0);
+        scales->setFocus();
+        QTest::keyClick(scales, Qt::Key_End);
+        QCOMPARE(restart.count(), 1);
+        QCOMPARE(restart.first().first().toDouble(), 2.0);
+    }
+
+    // The bubble of the tour is a child of the search field.
+    void closedDuringTheTour()
+    {
+        CommandLine start;
+        start.page = "dialog-guide";
+        open(start);
+        m_window->page()->properties()->findChild<QPushButton*>()->click();
+        QVERIFY(m_window->pageList()->searchField()->findChild<DialogGuideWidget*>());
+        m_window.reset();
+    }
+
+private:
+    void open(const CommandLine& start = CommandLine())
+    {
+        m_window = std::make_unique<MainWindow>(start);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    QAbstractButton* button(const QString& group, const QString& text) const
+    {
+        const auto buttons = m_window->findChild<QWidget*>(group)->findChildren<QAbstractButton*>();
+        for (QAbstractButton* candidate : buttons) {
+            if (candidate->text() == text) {
+                return candidate;
+            }
+        }
+        return nullptr;
+    }
+
+    QString shownTitle() const { return m_window->page()->findChild<QLabel*>("pageTitle")->text(); }
+
+    /// The values of the controls of the page, each with its name.
+    QStringList rows() const
+    {
+        QStringList values;
+        const auto* form = m_window->page()->properties()->findChild<QFormLayout*>();
+        for (int row = 0; row < form->rowCount(); ++row) {
+            QLayoutItem* const item = form->itemAt(row, QFormLayout::FieldRole);
+            const QWidget* const control = item ? item->widget() : nullptr;
+            if (!control) {
+                continue;
+            }
+            const auto* button = control->findChild<ColorPickerButton*>();
+            const QVariant value = button ? QVariant(button->color().value_or(QColor()))
+                                          : control->property(control->metaObject()->userProperty().name());
+            values.append(control->accessibleName() + " = " + valueText(value));
+        }
+        return values;
+    }
+
+    std::unique_ptr<MessageWatch> m_messages;
+    std::unique_ptr<MainWindow> m_window;
+};
 
 UIC_TEST_MAIN(tst_MainWindow)
 #include "tst_MainWindow.moc"

@@ -68,25 +68,222 @@ class tst_PropertyPanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void noEditorFor_data();
-    void noEditorFor();
-    void boolean();
-    void integer();
-    void fractionIsNotRoundedByShowingIt();
-    void text();
-    void color();
-    void enumeration();
-    void followsItsNotifySignal();
-    void readsAgainWithoutNotifySignal();
-    void panelReadsAgainWhenASheetHasSetValues();
-    void panelTellsOfAnEdit();
-    void aRefusedValueIsShownAsItIs();
-    void anObjectDies();
-    void aListenerDeletesThePanel();
-    void panelTakesOwnPropertiesOfAClass();
-    void panelControlsReport();
+    void initTestCase() { GalleryApplication::prepare(); }
+
+    void init()
+    {
+        m_panel.reset();
+        m_one = std::make_unique<Specimen>();
+        m_other = std::make_unique<Specimen>();
+    }
+
+    void noEditorFor_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::newRow("unknown") << "nothing";
+        QTest::newRow("empty") << "";
+        QTest::newRow("read-only") << "fixed";
+        QTest::newRow("type without control") << "point";
+    }
+
+    void noEditorFor()
+    {
+        QFETCH(QString, property);
+        PropertyPanel panel;
+        panel.addProperties([this] { return alive(); }, {property.toUtf8()});
+        panel.addProperties([] { return QObjectList(); }, {"flag"});
+        QCOMPARE(rowCount(panel), 0);
+    }
+
+    void boolean()
+    {
+        auto* box = edit<QCheckBox>("flag");
+        QVERIFY(box->isChecked());
+        QSignalSpy edited(m_panel.get(), &PropertyPanel::edited);
+        box->click();
+        QCOMPARE(m_one->m_flag, false);
+        QCOMPARE(m_other->m_flag, false);
+        QCOMPARE(edited.count(), 1);
+    }
+
+    void integer()
+    {
+        auto* box = edit<QSpinBox>("count");
+        QCOMPARE(box->value(), 4);
+        box->setValue(7);
+        QCOMPARE(m_one->m_count, 7);
+        QCOMPARE(m_other->m_count, 7);
+    }
+
+    void fractionIsNotRoundedByShowingIt()
+    {
+        auto* box = edit<QDoubleSpinBox>("share");
+        QCOMPARE(box->value(), 0.1235);
+        m_panel->refresh();
+        QCOMPARE(m_one->m_share, 0.123456);
+        box->setValue(0.5);
+        QCOMPARE(m_one->m_share, 0.5);
+        QCOMPARE(m_other->m_share, 0.5);
+    }
+
+    void text()
+    {
+        auto* line = edit<QLineEdit>("text");
+        QCOMPARE(line->text(), QStringLiteral("start"));
+        line->setCursorPosition(2);
+        QTest::keyClick(line, Qt::Key_X);
+        QCOMPARE(m_one->m_text, QStringLiteral("stxart"));
+        QCOMPARE(m_other->m_text, QStringLiteral("stxart"));
+        // Rewriting the text would have sent the cursor to its end.
+        QCOMPARE(line->cursorPosition(), 3);
+    }
+
+    void color()
+    {
+        auto* field = edit<ColorInputWidget>("color");
+        field->setColor(Qt::blue);
+        QCOMPARE(m_one->m_color, QColor(Qt::blue));
+        QCOMPARE(m_other->m_color, QColor(Qt::blue));
+    }
+
+    void enumeration()
+    {
+        auto* box = edit<QComboBox>("mode");
+        QCOMPARE(box->currentText(), QStringLiteral("Busy"));
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Up);
+        QCOMPARE(m_one->m_mode, Specimen::Idle);
+        QCOMPARE(m_other->m_mode, Specimen::Idle);
+    }
+
+    void followsItsNotifySignal()
+    {
+        auto* box = edit<QSpinBox>("count");
+        QSignalSpy edited(m_panel.get(), &PropertyPanel::edited);
+        m_one->setCount(9);
+        QCOMPARE(box->value(), 9);
+        // Shown only: the other one is not written to.
+        QCOMPARE(m_other->m_count, 4);
+        QCOMPARE(edited.count(), 0);
+    }
+
+    void readsAgainWithoutNotifySignal()
+    {
+        auto* box = edit<QCheckBox>("flag");
+        m_one->m_flag = false;
+        QVERIFY(box->isChecked());
+        m_panel->refresh();
+        QVERIFY(!box->isChecked());
+        QVERIFY(m_other->m_flag);
+    }
+
+    // A sheet's values arrive when a widget is polished, and no signal tells of them.
+    void panelReadsAgainWhenASheetHasSetValues()
+    {
+        PropertyPanel panel;
+        panel.addProperties([this] { return alive(); });
+        auto* box = panel.findChild<QDoubleSpinBox*>();
+        m_one->m_share = 0.25;
+        panel.show();
+        QTRY_COMPARE(box->value(), 0.25);
+        m_one->m_share = 0.75;
+        panel.setStyleSheet(QStringLiteral("QLabel { padding: 1px; }"));
+        QTRY_COMPARE(box->value(), 0.75);
+        QCOMPARE(m_one->m_share, 0.75);
+    }
+
+    void panelTellsOfAnEdit()
+    {
+        PropertyPanel panel;
+        panel.addProperties([this] { return alive(); });
+        QSignalSpy edited(&panel, &PropertyPanel::edited);
+        panel.findChild<QDoubleSpinBox*>()->setValue(0.5);
+        QCOMPARE(edited.size(), 1);
+        QCOMPARE(m_one->m_share, 0.5);
+        m_one->setCount(7);
+        panel.refresh();
+        QCOMPARE(edited.size(), 1);
+    }
+
+    void aRefusedValueIsShownAsItIs()
+    {
+        auto* box = edit<QSpinBox>("count");
+        box->setValue(50);
+        QCOMPARE(m_one->m_count, 10);
+        QCOMPARE(box->value(), 10);
+    }
+
+    void anObjectDies()
+    {
+        auto* box = edit<QSpinBox>("count");
+        m_one.reset();
+        box->setValue(6);
+        QCOMPARE(m_other->m_count, 6);
+        QVERIFY(box->isEnabled());
+        m_other.reset();
+        box->setValue(5);
+        QVERIFY(!box->isEnabled());
+    }
+
+    void aListenerDeletesThePanel()
+    {
+        auto* box = edit<QSpinBox>("count");
+        // Not in a slot of the spin box itself, which Qt's own code would not survive.
+        connect(m_one.get(), &Specimen::countChanged, m_panel.get(),
+                [this] { m_panel.release()->deleteLater(); });
+        box->setValue(8);
+        QCOMPARE(m_other->m_count, 8);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void panelTakesOwnPropertiesOfAClass()
+    {
+        const ColorInputWidget field(nullptr, QColor());
+        QStringList names;
+        const QVector<QMetaProperty> properties = ownProperties(&field);
+        for (const QMetaProperty& property : properties) {
+            names.append(property.name());
+        }
+        QVERIFY(names.contains(QStringLiteral("layoutMargin")));
+        QVERIFY(!names.contains(QStringLiteral("frameShape")));
+        const QObject plain;
+        QVERIFY(ownProperties(&plain).isEmpty());
+
+        PropertyPanel panel;
+        panel.addProperties([this] { return alive(); });
+        // All but the read-only one and the one that no control fits.
+        QCOMPARE(rowCount(panel), 6);
+    }
+
+    void panelControlsReport()
+    {
+        PropertyPanel panel;
+        QVariantList got;
+        panel.addSwitch(QStringLiteral("a"), false, [&got](bool on) { got.append(on); });
+        panel.addNumber(QStringLiteral("b"), 0, 9, 1, [&got](int number) { got.append(number); });
+        panel.addText(QStringLiteral("c"), QString(), [&got](const QString& text) { got.append(text); });
+        panel.addChoice(QStringLiteral("d"), {"x", "y"}, 0, [&got](int index) { got.append(index); });
+        panel.addFraction(QStringLiteral("e"), 0, 1, 0, [&got](double number) { got.append(number); });
+        panel.addColor(QStringLiteral("f"), Qt::red, [&got](const QColor& color) { got.append(color); });
+        panel.addAction(QStringLiteral("g"), [&got] { got.append(QStringLiteral("run")); });
+        QCOMPARE(got, QVariantList());
+
+        panel.findChild<QCheckBox*>()->click();
+        panel.findChild<QSpinBox*>()->setValue(5);
+        const auto lines = panel.findChildren<QLineEdit*>();
+        for (QLineEdit* line : lines) {
+            if (!qobject_cast<QAbstractSpinBox*>(line->parent())) {
+                line->setText(QStringLiteral("t"));
+            }
+        }
+        panel.findChild<QComboBox*>()->setCurrentIndex(1);
+        panel.findChild<QDoubleSpinBox*>()->setValue(0.5);
+        panel.findChild<ColorInputWidget*>()->setColor(Qt::blue);
+        panel.findChild<QPushButton*>()->click();
+        const QVariantList expected = {
+            true, 5, QStringLiteral("t"), 1, 0.5, QColor(Qt::blue), QStringLiteral("run")};
+        QCOMPARE(got, expected);
+    }
 
 private:
     template <typename Control>
@@ -108,226 +305,6 @@ private:
     std::unique_ptr<Specimen> m_other;
     std::unique_ptr<PropertyPanel> m_panel;
 };
-
-void tst_PropertyPanel::initTestCase()
-{
-    GalleryApplication::prepare();
-}
-
-void tst_PropertyPanel::init()
-{
-    m_panel.reset();
-    m_one = std::make_unique<Specimen>();
-    m_other = std::make_unique<Specimen>();
-}
-
-void tst_PropertyPanel::noEditorFor_data()
-{
-    QTest::addColumn<QString>("property");
-    QTest::newRow("unknown") << "nothing";
-    QTest::newRow("empty") << "";
-    QTest::newRow("read-only") << "fixed";
-    QTest::newRow("type without control") << "point";
-}
-
-void tst_PropertyPanel::noEditorFor()
-{
-    QFETCH(QString, property);
-    PropertyPanel panel;
-    panel.addProperties([this] { return alive(); }, {property.toUtf8()});
-    panel.addProperties([] { return QObjectList(); }, {"flag"});
-    QCOMPARE(rowCount(panel), 0);
-}
-
-void tst_PropertyPanel::boolean()
-{
-    auto* box = edit<QCheckBox>("flag");
-    QVERIFY(box->isChecked());
-    QSignalSpy edited(m_panel.get(), &PropertyPanel::edited);
-    box->click();
-    QCOMPARE(m_one->m_flag, false);
-    QCOMPARE(m_other->m_flag, false);
-    QCOMPARE(edited.count(), 1);
-}
-
-void tst_PropertyPanel::integer()
-{
-    auto* box = edit<QSpinBox>("count");
-    QCOMPARE(box->value(), 4);
-    box->setValue(7);
-    QCOMPARE(m_one->m_count, 7);
-    QCOMPARE(m_other->m_count, 7);
-}
-
-void tst_PropertyPanel::fractionIsNotRoundedByShowingIt()
-{
-    auto* box = edit<QDoubleSpinBox>("share");
-    QCOMPARE(box->value(), 0.1235);
-    m_panel->refresh();
-    QCOMPARE(m_one->m_share, 0.123456);
-    box->setValue(0.5);
-    QCOMPARE(m_one->m_share, 0.5);
-    QCOMPARE(m_other->m_share, 0.5);
-}
-
-void tst_PropertyPanel::text()
-{
-    auto* line = edit<QLineEdit>("text");
-    QCOMPARE(line->text(), QStringLiteral("start"));
-    line->setCursorPosition(2);
-    QTest::keyClick(line, Qt::Key_X);
-    QCOMPARE(m_one->m_text, QStringLiteral("stxart"));
-    QCOMPARE(m_other->m_text, QStringLiteral("stxart"));
-    // Rewriting the text would have sent the cursor to its end.
-    QCOMPARE(line->cursorPosition(), 3);
-}
-
-void tst_PropertyPanel::color()
-{
-    auto* field = edit<ColorInputWidget>("color");
-    field->setColor(Qt::blue);
-    QCOMPARE(m_one->m_color, QColor(Qt::blue));
-    QCOMPARE(m_other->m_color, QColor(Qt::blue));
-}
-
-void tst_PropertyPanel::enumeration()
-{
-    auto* box = edit<QComboBox>("mode");
-    QCOMPARE(box->currentText(), QStringLiteral("Busy"));
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Up);
-    QCOMPARE(m_one->m_mode, Specimen::Idle);
-    QCOMPARE(m_other->m_mode, Specimen::Idle);
-}
-
-void tst_PropertyPanel::followsItsNotifySignal()
-{
-    auto* box = edit<QSpinBox>("count");
-    QSignalSpy edited(m_panel.get(), &PropertyPanel::edited);
-    m_one->setCount(9);
-    QCOMPARE(box->value(), 9);
-    // Shown only: the other one is not written to.
-    QCOMPARE(m_other->m_count, 4);
-    QCOMPARE(edited.count(), 0);
-}
-
-void tst_PropertyPanel::readsAgainWithoutNotifySignal()
-{
-    auto* box = edit<QCheckBox>("flag");
-    m_one->m_flag = false;
-    QVERIFY(box->isChecked());
-    m_panel->refresh();
-    QVERIFY(!box->isChecked());
-    QVERIFY(m_other->m_flag);
-}
-
-void tst_PropertyPanel::aRefusedValueIsShownAsItIs()
-{
-    auto* box = edit<QSpinBox>("count");
-    box->setValue(50);
-    QCOMPARE(m_one->m_count, 10);
-    QCOMPARE(box->value(), 10);
-}
-
-void tst_PropertyPanel::anObjectDies()
-{
-    auto* box = edit<QSpinBox>("count");
-    m_one.reset();
-    box->setValue(6);
-    QCOMPARE(m_other->m_count, 6);
-    QVERIFY(box->isEnabled());
-    m_other.reset();
-    box->setValue(5);
-    QVERIFY(!box->isEnabled());
-}
-
-void tst_PropertyPanel::aListenerDeletesThePanel()
-{
-    auto* box = edit<QSpinBox>("count");
-    // Not in a slot of the spin box itself, which Qt's own code would not survive.
-    connect(m_one.get(), &Specimen::countChanged, m_panel.get(),
-            [this] { m_panel.release()->deleteLater(); });
-    box->setValue(8);
-    QCOMPARE(m_other->m_count, 8);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void tst_PropertyPanel::panelTakesOwnPropertiesOfAClass()
-{
-    const ColorInputWidget field(nullptr, QColor());
-    QStringList names;
-    const QVector<QMetaProperty> properties = ownProperties(&field);
-    for (const QMetaProperty& property : properties) {
-        names.append(property.name());
-    }
-    QVERIFY(names.contains(QStringLiteral("layoutMargin")));
-    QVERIFY(!names.contains(QStringLiteral("frameShape")));
-    const QObject plain;
-    QVERIFY(ownProperties(&plain).isEmpty());
-
-    PropertyPanel panel;
-    panel.addProperties([this] { return alive(); });
-    // All but the read-only one and the one that no control fits.
-    QCOMPARE(rowCount(panel), 6);
-}
-
-void tst_PropertyPanel::panelControlsReport()
-{
-    PropertyPanel panel;
-    QVariantList got;
-    panel.addSwitch(QStringLiteral("a"), false, [&got](bool on) { got.append(on); });
-    panel.addNumber(QStringLiteral("b"), 0, 9, 1, [&got](int number) { got.append(number); });
-    panel.addText(QStringLiteral("c"), QString(), [&got](const QString& text) { got.append(text); });
-    panel.addChoice(QStringLiteral("d"), {"x", "y"}, 0, [&got](int index) { got.append(index); });
-    panel.addFraction(QStringLiteral("e"), 0, 1, 0, [&got](double number) { got.append(number); });
-    panel.addColor(QStringLiteral("f"), Qt::red, [&got](const QColor& color) { got.append(color); });
-    panel.addAction(QStringLiteral("g"), [&got] { got.append(QStringLiteral("run")); });
-    QCOMPARE(got, QVariantList());
-
-    panel.findChild<QCheckBox*>()->click();
-    panel.findChild<QSpinBox*>()->setValue(5);
-    const auto lines = panel.findChildren<QLineEdit*>();
-    for (QLineEdit* line : lines) {
-        if (!qobject_cast<QAbstractSpinBox*>(line->parent())) {
-            line->setText(QStringLiteral("t"));
-        }
-    }
-    panel.findChild<QComboBox*>()->setCurrentIndex(1);
-    panel.findChild<QDoubleSpinBox*>()->setValue(0.5);
-    panel.findChild<ColorInputWidget*>()->setColor(Qt::blue);
-    panel.findChild<QPushButton*>()->click();
-    const QVariantList expected = {
-        true, 5, QStringLiteral("t"), 1, 0.5, QColor(Qt::blue), QStringLiteral("run")};
-    QCOMPARE(got, expected);
-}
-
-// A sheet's values arrive when a widget is polished, and no signal tells of them.
-void tst_PropertyPanel::panelReadsAgainWhenASheetHasSetValues()
-{
-    PropertyPanel panel;
-    panel.addProperties([this] { return alive(); });
-    auto* box = panel.findChild<QDoubleSpinBox*>();
-    m_one->m_share = 0.25;
-    panel.show();
-    QTRY_COMPARE(box->value(), 0.25);
-    m_one->m_share = 0.75;
-    panel.setStyleSheet(QStringLiteral("QLabel { padding: 1px; }"));
-    QTRY_COMPARE(box->value(), 0.75);
-    QCOMPARE(m_one->m_share, 0.75);
-}
-
-void tst_PropertyPanel::panelTellsOfAnEdit()
-{
-    PropertyPanel panel;
-    panel.addProperties([this] { return alive(); });
-    QSignalSpy edited(&panel, &PropertyPanel::edited);
-    panel.findChild<QDoubleSpinBox*>()->setValue(0.5);
-    QCOMPARE(edited.size(), 1);
-    QCOMPARE(m_one->m_share, 0.5);
-    m_one->setCount(7);
-    panel.refresh();
-    QCOMPARE(edited.size(), 1);
-}
 
 UIC_TEST_MAIN(tst_PropertyPanel)
 #include "tst_PropertyPanel.moc"

@@ -10,92 +10,80 @@ class tst_Tour : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void onePage();
-    void everyPageAlikeEachTime();
-    void aFolderThatCannotBeMade();
-    void aPictureThatCannotBeWritten();
-    void aWarningFailsIt();
+    void initTestCase() { GalleryApplication::prepare(); }
+
+    void onePage()
+    {
+        const QTemporaryDir folder;
+        Tour tour(request(folder.filePath("new/folder"), "frame"));
+        QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
+        const QStringList pictures = QDir(folder.filePath("new/folder")).entryList(QDir::Files, QDir::Name);
+        QCOMPARE(pictures, (QStringList{"frame-dark.png", "frame-light.png", "frame-none.png"}));
+        const QImage dark(folder.filePath("new/folder/frame-dark.png"));
+        const QImage light(folder.filePath("new/folder/frame-light.png"));
+        QCOMPARE(dark.size(), QSize(1100, 760));
+        QVERIFY(dark != light);
+    }
+
+    void everyPageAlikeEachTime()
+    {
+        const QTemporaryDir one;
+        const QTemporaryDir other;
+        for (const QTemporaryDir* folder : {&one, &other}) {
+            Tour tour(request(folder->path(), QString()));
+            QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
+        }
+        const QStringList pictures = QDir(one.path()).entryList(QDir::Files);
+        QCOMPARE(pictures.size(), 3 * PageRegistry::pages().size());
+        for (const QString& name : pictures) {
+            // Its folder field finishes its work after a while, and moves what is above it.
+            if (name.startsWith("title-card")) {
+                continue;
+            }
+            QVERIFY2(QImage(one.filePath(name)) == QImage(other.filePath(name)), qPrintable(name));
+        }
+    }
+
+    void aFolderThatCannotBeMade()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        Tour tour(request(file.fileName() + "/below", "frame"));
+        QVERIFY(!tour.run());
+        QCOMPARE(tour.failures().size(), 1);
+    }
+
+    void aPictureThatCannotBeWritten()
+    {
+        const QTemporaryDir folder;
+        // A folder where the picture should go stops root as well.
+        QVERIFY(QDir(folder.path()).mkdir("frame-dark.png"));
+        Tour tour(request(folder.path(), "frame"));
+        QVERIFY(!tour.run());
+        QCOMPARE(tour.failures().size(), 1);
+        QVERIFY(tour.failures().constFirst().startsWith("frame-dark.png"));
+    }
+
+    void aWarningFailsIt()
+    {
+        const QTemporaryDir folder;
+        QTest::ignoreMessage(QtWarningMsg, "out of order");
+        QTimer::singleShot(0, this, [] { qWarning("out of order"); });
+        Tour tour(request(folder.path(), "frame"));
+        QVERIFY(!tour.run());
+        QCOMPARE(tour.failures(), QStringList{"frame-dark.png: out of order"});
+    }
 
 private:
-    static CommandLine request(const QString& folder, const QString& page);
+    static CommandLine request(const QString& folder, const QString& page)
+    {
+        CommandLine line;
+        line.action = CommandLine::Action::Tour;
+        line.tourFolder = folder;
+        line.page = page;
+        return line;
+    }
 };
-
-CommandLine tst_Tour::request(const QString& folder, const QString& page)
-{
-    CommandLine line;
-    line.action = CommandLine::Action::Tour;
-    line.tourFolder = folder;
-    line.page = page;
-    return line;
-}
-
-void tst_Tour::initTestCase()
-{
-    GalleryApplication::prepare();
-}
-
-void tst_Tour::onePage()
-{
-    const QTemporaryDir folder;
-    Tour tour(request(folder.filePath("new/folder"), "frame"));
-    QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
-    const QStringList pictures = QDir(folder.filePath("new/folder")).entryList(QDir::Files, QDir::Name);
-    QCOMPARE(pictures, (QStringList{"frame-dark.png", "frame-light.png", "frame-none.png"}));
-    const QImage dark(folder.filePath("new/folder/frame-dark.png"));
-    const QImage light(folder.filePath("new/folder/frame-light.png"));
-    QCOMPARE(dark.size(), QSize(1100, 760));
-    QVERIFY(dark != light);
-}
-
-void tst_Tour::everyPageAlikeEachTime()
-{
-    const QTemporaryDir one;
-    const QTemporaryDir other;
-    for (const QTemporaryDir* folder : {&one, &other}) {
-        Tour tour(request(folder->path(), QString()));
-        QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
-    }
-    const QStringList pictures = QDir(one.path()).entryList(QDir::Files);
-    QCOMPARE(pictures.size(), 3 * PageRegistry::pages().size());
-    for (const QString& name : pictures) {
-        // Its folder field finishes its work after a while, and moves what is above it.
-        if (name.startsWith("title-card")) {
-            continue;
-        }
-        QVERIFY2(QImage(one.filePath(name)) == QImage(other.filePath(name)), qPrintable(name));
-    }
-}
-
-void tst_Tour::aFolderThatCannotBeMade()
-{
-    QTemporaryFile file;
-    QVERIFY(file.open());
-    Tour tour(request(file.fileName() + "/below", "frame"));
-    QVERIFY(!tour.run());
-    QCOMPARE(tour.failures().size(), 1);
-}
-
-void tst_Tour::aPictureThatCannotBeWritten()
-{
-    const QTemporaryDir folder;
-    // A folder where the picture should go stops root as well.
-    QVERIFY(QDir(folder.path()).mkdir("frame-dark.png"));
-    Tour tour(request(folder.path(), "frame"));
-    QVERIFY(!tour.run());
-    QCOMPARE(tour.failures().size(), 1);
-    QVERIFY(tour.failures().constFirst().startsWith("frame-dark.png"));
-}
-
-void tst_Tour::aWarningFailsIt()
-{
-    const QTemporaryDir folder;
-    QTest::ignoreMessage(QtWarningMsg, "out of order");
-    QTimer::singleShot(0, this, [] { qWarning("out of order"); });
-    Tour tour(request(folder.path(), "frame"));
-    QVERIFY(!tour.run());
-    QCOMPARE(tour.failures(), QStringList{"frame-dark.png: out of order"});
-}
 
 UIC_TEST_MAIN(tst_Tour)
 #include "tst_Tour.moc"

@@ -50,174 +50,156 @@ class tst_TesselElegantSlider : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void isACustomSlider();
-    void drawsItself_data();
-    void drawsItself();
-    void disabledShowsNoValue();
-    void focusHasARing();
-    void rulesForAllWidgetsLeaveTheLook();
-    void backgroundOfTheSheetLiesBelow();
-    void sheetDrawsTheGroove_data();
-    void sheetDrawsTheGroove();
-    void sheetChangesWhileShown();
-    void drawsAtEverySize();
-    void clickOnTheGrooveGoesThere();
-    void wheelNeedsFocus();
-};
+    void cleanup() { qApp->setStyleSheet(QString()); }
 
-void tst_TesselElegantSlider::cleanup()
-{
-    qApp->setStyleSheet(QString());
-}
-
-void tst_TesselElegantSlider::isACustomSlider()
-{
-    QWidget parent;
-    const TesselElegantSlider slider(&parent);
-    QCOMPARE(slider.parentWidget(), &parent);
-    QVERIFY(slider.inherits("OvCustomSlider"));
-    QCOMPARE(slider.metaObject()->className(), "Orvane::Tessel::TesselElegantSlider");
-}
-
-void tst_TesselElegantSlider::drawsItself_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<bool>("inverted");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<bool>("filledAtTopLeft");
-    QTest::newRow("horizontal") << Qt::Horizontal << false << Qt::LeftToRight << true;
-    QTest::newRow("horizontal, inverted") << Qt::Horizontal << true << Qt::LeftToRight << false;
-    QTest::newRow("horizontal, right to left") << Qt::Horizontal << false << Qt::RightToLeft << false;
-    QTest::newRow("vertical") << Qt::Vertical << false << Qt::LeftToRight << false;
-    QTest::newRow("vertical, inverted") << Qt::Vertical << true << Qt::LeftToRight << true;
-}
-
-void tst_TesselElegantSlider::drawsItself()
-{
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(bool, inverted);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(bool, filledAtTopLeft);
-    Slider slider(orientation);
-    slider.setInvertedAppearance(inverted);
-    slider.setLayoutDirection(direction);
-    const QImage image = picture(slider);
-    const QPoint centre = slider.handleCentre();
-    QCOMPARE(image.pixelColor(centre), faceColor);
-    const QPoint away = orientation == Qt::Horizontal ? QPoint(50, 0) : QPoint(0, 50);
-    QCOMPARE(image.pixelColor(centre - away), filledAtTopLeft ? fillColor : grooveColor);
-    QCOMPARE(image.pixelColor(centre + away), filledAtTopLeft ? grooveColor : fillColor);
-}
-
-void tst_TesselElegantSlider::disabledShowsNoValue()
-{
-    Slider slider;
-    slider.setEnabled(false);
-    const QImage image = picture(slider);
-    const QPoint centre = slider.handleCentre();
-    QCOMPARE(image.pixelColor(centre), QColor(Qt::gray));
-    QCOMPARE(image.pixelColor(centre - QPoint(50, 0)), image.pixelColor(centre + QPoint(50, 0)));
-}
-
-void tst_TesselElegantSlider::focusHasARing()
-{
-    Slider slider;
-    slider.show();
-    QVERIFY(QTest::qWaitForWindowActive(&slider));
-    slider.clearFocus();
-    const QImage without = picture(slider);
-    slider.setFocus();
-    QTRY_VERIFY(slider.hasFocus());
-    QVERIFY(picture(slider) != without);
-}
-
-void tst_TesselElegantSlider::rulesForAllWidgetsLeaveTheLook()
-{
-    Slider slider;
-    const QImage own = picture(slider);
-    slider.setStyleSheet(QStringLiteral("* { font-size: 13px; } QWidget { selection-color: red; }"));
-    QCOMPARE(picture(slider).pixelColor(slider.handleCentre()), faceColor);
-    QCOMPARE(picture(slider), own);
-}
-
-void tst_TesselElegantSlider::backgroundOfTheSheetLiesBelow()
-{
-    Slider slider;
-    slider.setStyleSheet(QStringLiteral("QWidget { background: #ff0000; }"));
-    const QImage image = picture(slider);
-    QCOMPARE(image.pixelColor(2, 1), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(slider.handleCentre()), faceColor);
-    QCOMPARE(image.pixelColor(slider.handleCentre() - QPoint(50, 0)), fillColor);
-}
-
-void tst_TesselElegantSlider::sheetDrawsTheGroove_data()
-{
-    QTest::addColumn<QString>("metrics");
-    QTest::newRow("without a height") << QString();
-    for (const int height : {1, 4, 7, 24, 1000}) {
-        QTest::addRow("%d px", height) << QStringLiteral("height: %1px;").arg(height);
+    void isACustomSlider()
+    {
+        QWidget parent;
+        const TesselElegantSlider slider(&parent);
+        QCOMPARE(slider.parentWidget(), &parent);
+        QVERIFY(slider.inherits("OvCustomSlider"));
+        QCOMPARE(slider.metaObject()->className(), "Orvane::Tessel::TesselElegantSlider");
     }
-}
 
-void tst_TesselElegantSlider::sheetDrawsTheGroove()
-{
-    QFETCH(QString, metrics);
-    Slider slider;
-    slider.setStyleSheet(
-        QStringLiteral("Orvane--Tessel--TesselElegantSlider::groove { background: #ff0000; %1 }"
-                       "Orvane--Tessel--TesselElegantSlider::handle { width: 15px; %1 }")
-            .arg(metrics));
-    const QImage image = picture(slider);
-    QCOMPARE(image.pixelColor(slider.handleCentre() + QPoint(60, 0)), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(slider.handleCentre() - QPoint(60, 0)), QColor(Qt::red));
-}
+    void drawsItself_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<bool>("inverted");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<bool>("filledAtTopLeft");
+        QTest::newRow("horizontal") << Qt::Horizontal << false << Qt::LeftToRight << true;
+        QTest::newRow("horizontal, inverted") << Qt::Horizontal << true << Qt::LeftToRight << false;
+        QTest::newRow("horizontal, right to left") << Qt::Horizontal << false << Qt::RightToLeft << false;
+        QTest::newRow("vertical") << Qt::Vertical << false << Qt::LeftToRight << false;
+        QTest::newRow("vertical, inverted") << Qt::Vertical << true << Qt::LeftToRight << true;
+    }
 
-void tst_TesselElegantSlider::sheetChangesWhileShown()
-{
-    Slider slider;
-    slider.show();
-    const QImage own = picture(slider);
-    qApp->setStyleSheet(QStringLiteral("QSlider::groove { height: 6px; background: #ff0000; }"));
-    QCOMPARE(picture(slider).pixelColor(slider.handleCentre() + QPoint(60, 0)), QColor(Qt::red));
-    qApp->setStyleSheet(QString());
-    QCOMPARE(picture(slider).pixelColor(slider.handleCentre()), own.pixelColor(slider.handleCentre()));
-}
-
-void tst_TesselElegantSlider::drawsAtEverySize()
-{
-    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+    void drawsItself()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(bool, inverted);
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(bool, filledAtTopLeft);
         Slider slider(orientation);
-        for (int width = 1; width < 20; ++width) {
-            for (int height = 1; height < 20; ++height) {
-                slider.resize(width, height);
-                QVERIFY(!picture(slider).isNull());
+        slider.setInvertedAppearance(inverted);
+        slider.setLayoutDirection(direction);
+        const QImage image = picture(slider);
+        const QPoint centre = slider.handleCentre();
+        QCOMPARE(image.pixelColor(centre), faceColor);
+        const QPoint away = orientation == Qt::Horizontal ? QPoint(50, 0) : QPoint(0, 50);
+        QCOMPARE(image.pixelColor(centre - away), filledAtTopLeft ? fillColor : grooveColor);
+        QCOMPARE(image.pixelColor(centre + away), filledAtTopLeft ? grooveColor : fillColor);
+    }
+
+    void disabledShowsNoValue()
+    {
+        Slider slider;
+        slider.setEnabled(false);
+        const QImage image = picture(slider);
+        const QPoint centre = slider.handleCentre();
+        QCOMPARE(image.pixelColor(centre), QColor(Qt::gray));
+        QCOMPARE(image.pixelColor(centre - QPoint(50, 0)), image.pixelColor(centre + QPoint(50, 0)));
+    }
+
+    void focusHasARing()
+    {
+        Slider slider;
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowActive(&slider));
+        slider.clearFocus();
+        const QImage without = picture(slider);
+        slider.setFocus();
+        QTRY_VERIFY(slider.hasFocus());
+        QVERIFY(picture(slider) != without);
+    }
+
+    void rulesForAllWidgetsLeaveTheLook()
+    {
+        Slider slider;
+        const QImage own = picture(slider);
+        slider.setStyleSheet(QStringLiteral("* { font-size: 13px; } QWidget { selection-color: red; }"));
+        QCOMPARE(picture(slider).pixelColor(slider.handleCentre()), faceColor);
+        QCOMPARE(picture(slider), own);
+    }
+
+    void backgroundOfTheSheetLiesBelow()
+    {
+        Slider slider;
+        slider.setStyleSheet(QStringLiteral("QWidget { background: #ff0000; }"));
+        const QImage image = picture(slider);
+        QCOMPARE(image.pixelColor(2, 1), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(slider.handleCentre()), faceColor);
+        QCOMPARE(image.pixelColor(slider.handleCentre() - QPoint(50, 0)), fillColor);
+    }
+
+    void sheetDrawsTheGroove_data()
+    {
+        QTest::addColumn<QString>("metrics");
+        QTest::newRow("without a height") << QString();
+        for (const int height : {1, 4, 7, 24, 1000}) {
+            QTest::addRow("%d px", height) << QStringLiteral("height: %1px;").arg(height);
+        }
+    }
+
+    void sheetDrawsTheGroove()
+    {
+        QFETCH(QString, metrics);
+        Slider slider;
+        slider.setStyleSheet(
+            QStringLiteral("Orvane--Tessel--TesselElegantSlider::groove { background: #ff0000; %1 }"
+                           "Orvane--Tessel--TesselElegantSlider::handle { width: 15px; %1 }")
+                .arg(metrics));
+        const QImage image = picture(slider);
+        QCOMPARE(image.pixelColor(slider.handleCentre() + QPoint(60, 0)), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(slider.handleCentre() - QPoint(60, 0)), QColor(Qt::red));
+    }
+
+    void sheetChangesWhileShown()
+    {
+        Slider slider;
+        slider.show();
+        const QImage own = picture(slider);
+        qApp->setStyleSheet(QStringLiteral("QSlider::groove { height: 6px; background: #ff0000; }"));
+        QCOMPARE(picture(slider).pixelColor(slider.handleCentre() + QPoint(60, 0)), QColor(Qt::red));
+        qApp->setStyleSheet(QString());
+        QCOMPARE(picture(slider).pixelColor(slider.handleCentre()), own.pixelColor(slider.handleCentre()));
+    }
+
+    void drawsAtEverySize()
+    {
+        for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            Slider slider(orientation);
+            for (int width = 1; width < 20; ++width) {
+                for (int height = 1; height < 20; ++height) {
+                    slider.resize(width, height);
+                    QVERIFY(!picture(slider).isNull());
+                }
             }
         }
     }
-}
 
-void tst_TesselElegantSlider::clickOnTheGrooveGoesThere()
-{
-    Slider slider;
-    slider.show();
-    QTest::mouseClick(&slider, Qt::LeftButton, {}, QPoint(150, 12));
-    QVERIFY(slider.value() > 70 && slider.value() < 80);
-}
+    void clickOnTheGrooveGoesThere()
+    {
+        Slider slider;
+        slider.show();
+        QTest::mouseClick(&slider, Qt::LeftButton, {}, QPoint(150, 12));
+        QVERIFY(slider.value() > 70 && slider.value() < 80);
+    }
 
-void tst_TesselElegantSlider::wheelNeedsFocus()
-{
-    Slider slider;
-    slider.show();
-    QVERIFY(QTest::qWaitForWindowActive(&slider));
-    slider.clearFocus();
-    QVERIFY(!turnWheel(slider, 120));
-    QCOMPARE(slider.value(), 50);
-    slider.setFocus();
-    QTRY_VERIFY(slider.hasFocus());
-    QVERIFY(turnWheel(slider, 120));
-    QVERIFY(slider.value() != 50);
-}
+    void wheelNeedsFocus()
+    {
+        Slider slider;
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowActive(&slider));
+        slider.clearFocus();
+        QVERIFY(!turnWheel(slider, 120));
+        QCOMPARE(slider.value(), 50);
+        slider.setFocus();
+        QTRY_VERIFY(slider.hasFocus());
+        QVERIFY(turnWheel(slider, 120));
+        QVERIFY(slider.value() != 50);
+    }
+};
 
 UIC_TEST_MAIN(tst_TesselElegantSlider)
 #include "tst_TesselElegantSlider.moc"

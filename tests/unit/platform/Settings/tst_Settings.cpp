@@ -46,180 +46,168 @@ class tst_Settings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void nothingWrittenYet();
-    void keepsAnyTexts_data();
-    void keepsAnyTexts();
-    void usesOneKeyOfTheHostApplication();
-    void leavesOtherKeysAlone();
-    void survivesAKillRightAfterTheWrite();
-    void sizesOfAnotherProcessesListDoNotMatter();
-    void oddStores_data();
-    void oddStores();
-    void aBrokenFileCanBeWritten();
-    void unwritableStore();
-    void withoutAnOrganization();
-};
-
-void tst_Settings::cleanup()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("UiComponents tests"));
-    QVERIFY(QDir(QFileInfo(storeFile()).path()).removeRecursively());
-    Settings::setStore(nullptr);
-}
-
-void tst_Settings::nothingWrittenYet()
-{
-    QCOMPARE(Settings::userCustomColors(), QStringList());
-    QVERIFY2(!QFileInfo::exists(storeFile()), "reading must not make a file");
-}
-
-void tst_Settings::keepsAnyTexts_data()
-{
-    QTest::addColumn<QStringList>("names");
-
-    QStringList thousand;
-    for (int i = 0; i < 1000; ++i) {
-        thousand += QString::number(i);
+    void cleanup()
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("UiComponents tests"));
+        QVERIFY(QDir(QFileInfo(storeFile()).path()).removeRecursively());
+        Settings::setStore(nullptr);
     }
-    QTest::newRow("three") << threeColors();
-    QTest::newRow("one") << QStringList{QStringLiteral("#00ff88")};
-    QTest::newRow("none") << QStringList();
-    QTest::newRow("one empty text") << QStringList{QLatin1String("")};
-    QTest::newRow("two empty texts") << QStringList{QLatin1String(""), QLatin1String("")};
-    QTest::newRow("repeats") << threeColors() + threeColors();
-    QTest::newRow("what an ini file gives a meaning")
-        << QStringList{QStringLiteral("a, b; c=d"), QStringLiteral("\"x\\"), QStringLiteral("@Invalid()"),
-                       QStringLiteral("[x]\n%41"), QStringLiteral(" blanks ")};
-    QTest::newRow("one text with a comma") << QStringList{QStringLiteral("a, b")};
-    QTest::newRow("one text with an at sign") << QStringList{QStringLiteral("@Variant(x)")};
-    QTest::newRow("other scripts") << QStringList{QString::fromUtf8("größe"), QString::fromUtf8("色😀")};
-    QTest::newRow("thousand") << thousand;
-}
 
-void tst_Settings::keepsAnyTexts()
-{
-    QFETCH(QStringList, names);
-    Settings::setUserCustomColors({QStringLiteral("before")});
-    Settings::setUserCustomColors(names);
-    QCOMPARE(Settings::userCustomColors(), names);
-    // Another program's view of the file, past every cache of this one.
-    const QString copy = storeFile() + QStringLiteral(".copy");
-    QVERIFY(QFile::copy(storeFile(), copy));
-    QCOMPARE(QSettings(copy, QSettings::IniFormat).value(QStringLiteral("userCustomColors")).toStringList(),
-             names);
-}
+    void nothingWrittenYet()
+    {
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+        QVERIFY2(!QFileInfo::exists(storeFile()), "reading must not make a file");
+    }
 
-void tst_Settings::usesOneKeyOfTheHostApplication()
-{
-    Settings::setUserCustomColors(threeColors());
-    QVERIFY(storeFile().startsWith(QDir::homePath()));
-    QVERIFY(storeFile().contains(QStringLiteral("UiComponents tests/tst_Settings")));
-    QCOMPARE(QSettings().allKeys(), QStringList{QStringLiteral("userCustomColors")});
-}
+    void keepsAnyTexts_data()
+    {
+        QTest::addColumn<QStringList>("names");
 
-void tst_Settings::leavesOtherKeysAlone()
-{
-    QSettings().setValue(QStringLiteral("host/value"), 7);
-    Settings::setUserCustomColors(threeColors());
-    Settings::setUserCustomColors({});
-    QCOMPARE(QSettings().value(QStringLiteral("host/value")).toInt(), 7);
-}
+        QStringList thousand;
+        for (int i = 0; i < 1000; ++i) {
+            thousand += QString::number(i);
+        }
+        QTest::newRow("three") << threeColors();
+        QTest::newRow("one") << QStringList{QStringLiteral("#00ff88")};
+        QTest::newRow("none") << QStringList();
+        QTest::newRow("one empty text") << QStringList{QLatin1String("")};
+        QTest::newRow("two empty texts") << QStringList{QLatin1String(""), QLatin1String("")};
+        QTest::newRow("repeats") << threeColors() + threeColors();
+        QTest::newRow("what an ini file gives a meaning")
+            << QStringList{QStringLiteral("a, b; c=d"), QStringLiteral("\"x\\"), QStringLiteral("@Invalid()"),
+                           QStringLiteral("[x]\n%41"), QStringLiteral(" blanks ")};
+        QTest::newRow("one text with a comma") << QStringList{QStringLiteral("a, b")};
+        QTest::newRow("one text with an at sign") << QStringList{QStringLiteral("@Variant(x)")};
+        QTest::newRow("other scripts") << QStringList{QString::fromUtf8("größe"), QString::fromUtf8("色😀")};
+        QTest::newRow("thousand") << thousand;
+    }
 
-void tst_Settings::survivesAKillRightAfterTheWrite()
-{
-    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors(threeColors()); }));
-    QCOMPARE(Settings::userCustomColors(), threeColors());
-    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
-    QCOMPARE(Settings::userCustomColors(), QStringList());
-}
+    void keepsAnyTexts()
+    {
+        QFETCH(QStringList, names);
+        Settings::setUserCustomColors({QStringLiteral("before")});
+        Settings::setUserCustomColors(names);
+        QCOMPARE(Settings::userCustomColors(), names);
+        // Another program's view of the file, past every cache of this one.
+        const QString copy = storeFile() + QStringLiteral(".copy");
+        QVERIFY(QFile::copy(storeFile(), copy));
+        QCOMPARE(
+            QSettings(copy, QSettings::IniFormat).value(QStringLiteral("userCustomColors")).toStringList(),
+            names);
+    }
 
-void tst_Settings::sizesOfAnotherProcessesListDoNotMatter()
-{
-    // A file of the same size is easily taken for the one that was read before.
-    Settings::setUserCustomColors({QStringLiteral("#111111")});
-    QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#111111")});
-    const QDateTime before = QFileInfo(storeFile()).lastModified();
-    QTRY_VERIFY([&] {
-        return inKilledProcess([] { Settings::setUserCustomColors({QStringLiteral("#222222")}); }) &&
-               QFileInfo(storeFile()).lastModified() != before;
-    }());
-    QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#222222")});
-}
+    void usesOneKeyOfTheHostApplication()
+    {
+        Settings::setUserCustomColors(threeColors());
+        QVERIFY(storeFile().startsWith(QDir::homePath()));
+        QVERIFY(storeFile().contains(QStringLiteral("UiComponents tests/tst_Settings")));
+        QCOMPARE(QSettings().allKeys(), QStringList{QStringLiteral("userCustomColors")});
+    }
 
-void tst_Settings::oddStores_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QStringList>("expected");
+    void leavesOtherKeysAlone()
+    {
+        QSettings().setValue(QStringLiteral("host/value"), 7);
+        Settings::setUserCustomColors(threeColors());
+        Settings::setUserCustomColors({});
+        QCOMPARE(QSettings().value(QStringLiteral("host/value")).toInt(), 7);
+    }
 
-    QTest::newRow("empty file") << QByteArray() << QStringList();
-    QTest::newRow("number") << QByteArray("[General]\nuserCustomColors=5\n")
-                            << QStringList{QStringLiteral("5")};
-    QTest::newRow("text") << QByteArray("[General]\nuserCustomColors=red\n")
-                          << QStringList{QStringLiteral("red")};
-    QTest::newRow("bytes") << QByteArray("[General]\nuserCustomColors=@ByteArray(red)\n")
-                           << QStringList{QStringLiteral("red")};
-    QTest::newRow("rectangle") << QByteArray("[General]\nuserCustomColors=@Rect(1 2 3 4)\n") << QStringList();
-    QTest::newRow("broken variant") << QByteArray("[General]\nuserCustomColors=@Variant(\\0)\n")
-                                    << QStringList();
-    QTest::newRow("group of that name") << QByteArray("[userCustomColors]\na=1\n") << QStringList();
-    QTest::newRow("no ini file") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << QStringList();
-    QTest::newRow("broken section") << QByteArray("[General\nuserCustomColors=red\n")
-                                    << QStringList{QStringLiteral("red")};
-    QTest::newRow("broken line before") << QByteArray("[General]\nbroken\nuserCustomColors=red, blue\n")
-                                        << QStringList{QStringLiteral("red"), QStringLiteral("blue")};
-}
+    void survivesAKillRightAfterTheWrite()
+    {
+        QVERIFY(inKilledProcess([] { Settings::setUserCustomColors(threeColors()); }));
+        QCOMPARE(Settings::userCustomColors(), threeColors());
+        QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+    }
 
-void tst_Settings::oddStores()
-{
-    QFETCH(QByteArray, content);
-    QVERIFY(writeFile(storeFile(), content));
-    QTEST(Settings::userCustomColors(), "expected");
-    // And it can be written over.
-    Settings::setUserCustomColors(threeColors());
-    QCOMPARE(Settings::userCustomColors(), threeColors());
-    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
-    QCOMPARE(Settings::userCustomColors(), QStringList());
-}
+    void sizesOfAnotherProcessesListDoNotMatter()
+    {
+        // A file of the same size is easily taken for the one that was read before.
+        Settings::setUserCustomColors({QStringLiteral("#111111")});
+        QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#111111")});
+        const QDateTime before = QFileInfo(storeFile()).lastModified();
+        QTRY_VERIFY([&] {
+            return inKilledProcess([] { Settings::setUserCustomColors({QStringLiteral("#222222")}); }) &&
+                   QFileInfo(storeFile()).lastModified() != before;
+        }());
+        QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#222222")});
+    }
 
-// QSettings reports what it could not read as an error of the write too.
-void tst_Settings::aBrokenFileCanBeWritten()
-{
-    QVERIFY(writeFile(storeFile(), "broken line\n"));
-    Settings::setUserCustomColors(threeColors());
-    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
-    QCOMPARE(Settings::userCustomColors(), QStringList());
-}
+    void oddStores_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("expected");
 
-void tst_Settings::unwritableStore()
-{
-    // A file in the place of the folder stops even root.
-    const QString folder = QFileInfo(storeFile()).path();
-    QVERIFY(writeFile(folder, "in the way"));
-    Settings::setUserCustomColors(threeColors());
-    QCOMPARE(Settings::userCustomColors(), threeColors());
-    Settings::setUserCustomColors({});
-    QCOMPARE(Settings::userCustomColors(), QStringList());
+        QTest::newRow("empty file") << QByteArray() << QStringList();
+        QTest::newRow("number") << QByteArray("[General]\nuserCustomColors=5\n")
+                                << QStringList{QStringLiteral("5")};
+        QTest::newRow("text") << QByteArray("[General]\nuserCustomColors=red\n")
+                              << QStringList{QStringLiteral("red")};
+        QTest::newRow("bytes") << QByteArray("[General]\nuserCustomColors=@ByteArray(red)\n")
+                               << QStringList{QStringLiteral("red")};
+        QTest::newRow("rectangle") << QByteArray("[General]\nuserCustomColors=@Rect(1 2 3 4)\n")
+                                   << QStringList();
+        QTest::newRow("broken variant")
+            << QByteArray("[General]\nuserCustomColors=@Variant(\\0)\n") << QStringList();
+        QTest::newRow("group of that name") << QByteArray("[userCustomColors]\na=1\n") << QStringList();
+        QTest::newRow("no ini file") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << QStringList();
+        QTest::newRow("broken section")
+            << QByteArray("[General\nuserCustomColors=red\n") << QStringList{QStringLiteral("red")};
+        QTest::newRow("broken line before") << QByteArray("[General]\nbroken\nuserCustomColors=red, blue\n")
+                                            << QStringList{QStringLiteral("red"), QStringLiteral("blue")};
+    }
 
-    QVERIFY(QFile::remove(folder));
-    Settings::setUserCustomColors(threeColors());
-    QVERIFY(QFileInfo::exists(storeFile()));
-    QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({QStringLiteral("red")}); }));
-    QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("red")});
-}
+    void oddStores()
+    {
+        QFETCH(QByteArray, content);
+        QVERIFY(writeFile(storeFile(), content));
+        QTEST(Settings::userCustomColors(), "expected");
+        // And it can be written over.
+        Settings::setUserCustomColors(threeColors());
+        QCOMPARE(Settings::userCustomColors(), threeColors());
+        QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+    }
 
-void tst_Settings::withoutAnOrganization()
-{
-    QCoreApplication::setOrganizationName(QString());
-    QCOMPARE(Settings::userCustomColors(), QStringList());
-    Settings::setUserCustomColors(threeColors());
-    QCOMPARE(Settings::userCustomColors(), threeColors());
-    const QString name = QCoreApplication::applicationName();
-    const QString file = QSettings(name, name).fileName();
-    QVERIFY(QFileInfo::exists(file));
-    QVERIFY(QFile::remove(file));
-    QCOMPARE(Settings::userCustomColors(), QStringList());
-}
+    // QSettings reports what it could not read as an error of the write too.
+    void aBrokenFileCanBeWritten()
+    {
+        QVERIFY(writeFile(storeFile(), "broken line\n"));
+        Settings::setUserCustomColors(threeColors());
+        QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({}); }));
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+    }
+
+    void unwritableStore()
+    {
+        // A file in the place of the folder stops even root.
+        const QString folder = QFileInfo(storeFile()).path();
+        QVERIFY(writeFile(folder, "in the way"));
+        Settings::setUserCustomColors(threeColors());
+        QCOMPARE(Settings::userCustomColors(), threeColors());
+        Settings::setUserCustomColors({});
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+
+        QVERIFY(QFile::remove(folder));
+        Settings::setUserCustomColors(threeColors());
+        QVERIFY(QFileInfo::exists(storeFile()));
+        QVERIFY(inKilledProcess([] { Settings::setUserCustomColors({QStringLiteral("red")}); }));
+        QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("red")});
+    }
+
+    void withoutAnOrganization()
+    {
+        QCoreApplication::setOrganizationName(QString());
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+        Settings::setUserCustomColors(threeColors());
+        QCOMPARE(Settings::userCustomColors(), threeColors());
+        const QString name = QCoreApplication::applicationName();
+        const QString file = QSettings(name, name).fileName();
+        QVERIFY(QFileInfo::exists(file));
+        QVERIFY(QFile::remove(file));
+        QCOMPARE(Settings::userCustomColors(), QStringList());
+    }
+};
 
 UIC_TEST_MAIN(tst_Settings)
 #include "tst_Settings.moc"

@@ -7,17 +7,15 @@ class tst_StandardFolderUrls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void myComputerIsTheRootFolder();
+    void myComputerIsTheRootFolder()
+    {
+        const QUrl url = StandardFolderUrls::myComputerUrl();
+        QVERIFY(url.isValid());
+        QCOMPARE(url.toString(), QStringLiteral("file:///"));
+        QCOMPARE(url.toLocalFile(), QDir::rootPath());
+        QCOMPARE(url, QUrl::fromLocalFile(QStringLiteral("/")));
+    }
 };
-
-void tst_StandardFolderUrls::myComputerIsTheRootFolder()
-{
-    const QUrl url = StandardFolderUrls::myComputerUrl();
-    QVERIFY(url.isValid());
-    QCOMPARE(url.toString(), QStringLiteral("file:///"));
-    QCOMPARE(url.toLocalFile(), QDir::rootPath());
-    QCOMPARE(url, QUrl::fromLocalFile(QStringLiteral("/")));
-}
 
 UIC_TEST_MAIN(tst_StandardFolderUrls)
 #include "tst_StandardFolderUrls.moc"

@@ -28,269 +28,249 @@ class tst_OvBoxLayout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsWithoutMarginsAndSpacing();
-    void directions();
-    void horizontalFollowsTheOwnersDirection();
-
-    void autoFillTakesChildrenInOrder();
-    void autoFillReturnsTheLayout();
-    void autoFillTakesHiddenChildren();
-    void autoFillLeavesOutWindows();
-    void autoFillLeavesOutProviders();
-    void autoFillLeavesOutGrandchildren();
-    void autoFillLeavesOutWhatIsHeldAlready();
-    void autoFillTwiceAddsNewChildrenOnly();
-    void autoFillWithoutOwner();
-    void autoFillLeavesOutNonWidgets();
-
-    void addStretch_data();
-    void addStretch();
-    void addItemsInOrder();
-    void addItemsSkipsNullWidgets();
-    void itemsTakeTheirRoom();
-    void chaining();
-    void baseOperationsStillWork();
-};
-
-void tst_OvBoxLayout::startsWithoutMarginsAndSpacing()
-{
-    QWidget owner;
-    const auto* layout = new OvBoxLayout(QBoxLayout::LeftToRight, &owner);
-    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
-    QCOMPARE(layout->spacing(), 0);
-    QCOMPARE(owner.layout(), layout);
-}
-
-void tst_OvBoxLayout::directions()
-{
-    QWidget owners[2];
-    QCOMPARE((new OvHBoxLayout(&owners[0]))->direction(), QBoxLayout::LeftToRight);
-    QCOMPARE((new OvVBoxLayout(&owners[1]))->direction(), QBoxLayout::TopToBottom);
-}
-
-void tst_OvBoxLayout::horizontalFollowsTheOwnersDirection()
-{
-    QWidget owner;
-    owner.setLayoutDirection(Qt::RightToLeft);
-    auto* first = new SizedWidget(&owner);
-    auto* second = new SizedWidget(&owner);
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->autoFill();
-    owner.resize(100, 10);
-    layout->activate();
-    QCOMPARE(first->geometry(), QRect(50, 0, 50, 10));
-    QCOMPARE(second->geometry(), QRect(0, 0, 50, 10));
-}
-
-void tst_OvBoxLayout::autoFillTakesChildrenInOrder()
-{
-    QWidget owner;
-    auto* a = new QLabel(&owner);
-    auto* b = new QWidget(&owner);
-    auto* c = new QLabel(&owner);
-    auto* layout = new OvVBoxLayout(&owner);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{a, b, c}));
-    for (int i = 0; i < 3; ++i) {
-        QCOMPARE(layout->stretch(i), 0);
+    void startsWithoutMarginsAndSpacing()
+    {
+        QWidget owner;
+        const auto* layout = new OvBoxLayout(QBoxLayout::LeftToRight, &owner);
+        QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+        QCOMPARE(layout->spacing(), 0);
+        QCOMPARE(owner.layout(), layout);
     }
-}
 
-void tst_OvBoxLayout::autoFillReturnsTheLayout()
-{
-    QWidget owner;
-    auto* layout = new OvHBoxLayout(&owner);
-    QCOMPARE(layout->autoFill(), layout);
-    QCOMPARE(layout->count(), 0);
-}
+    void directions()
+    {
+        QWidget owners[2];
+        QCOMPARE((new OvHBoxLayout(&owners[0]))->direction(), QBoxLayout::LeftToRight);
+        QCOMPARE((new OvVBoxLayout(&owners[1]))->direction(), QBoxLayout::TopToBottom);
+    }
 
-void tst_OvBoxLayout::autoFillTakesHiddenChildren()
-{
-    QWidget owner;
-    auto* hidden = new SizedWidget(&owner);
-    auto* shown = new SizedWidget(&owner);
-    hidden->hide();
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{hidden, shown}));
-    QCOMPARE(layout->sizeHint().width(), 20);
-    hidden->show();
-    QCOMPARE(layout->sizeHint().width(), 40);
-}
+    void horizontalFollowsTheOwnersDirection()
+    {
+        QWidget owner;
+        owner.setLayoutDirection(Qt::RightToLeft);
+        auto* first = new SizedWidget(&owner);
+        auto* second = new SizedWidget(&owner);
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->autoFill();
+        owner.resize(100, 10);
+        layout->activate();
+        QCOMPARE(first->geometry(), QRect(50, 0, 50, 10));
+        QCOMPARE(second->geometry(), QRect(0, 0, 50, 10));
+    }
 
-void tst_OvBoxLayout::autoFillLeavesOutWindows()
-{
-    QWidget owner;
-    auto* child = new QWidget(&owner);
-    new QWidget(&owner, Qt::Popup);
-    new QWidget(&owner, Qt::Dialog);
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
-}
+    void autoFillTakesChildrenInOrder()
+    {
+        QWidget owner;
+        auto* a = new QLabel(&owner);
+        auto* b = new QWidget(&owner);
+        auto* c = new QLabel(&owner);
+        auto* layout = new OvVBoxLayout(&owner);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{a, b, c}));
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(layout->stretch(i), 0);
+        }
+    }
 
-void tst_OvBoxLayout::autoFillLeavesOutProviders()
-{
-    QWidget owner;
-    new PropertyProviderBase(&owner);
-    auto* child = new QWidget(&owner);
-    QVERIFY(Util::installLayoutController(&owner));
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
-}
+    void autoFillReturnsTheLayout()
+    {
+        QWidget owner;
+        auto* layout = new OvHBoxLayout(&owner);
+        QCOMPARE(layout->autoFill(), layout);
+        QCOMPARE(layout->count(), 0);
+    }
 
-void tst_OvBoxLayout::autoFillLeavesOutGrandchildren()
-{
-    QWidget owner;
-    auto* child = new QWidget(&owner);
-    new QWidget(child);
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
-}
+    void autoFillTakesHiddenChildren()
+    {
+        QWidget owner;
+        auto* hidden = new SizedWidget(&owner);
+        auto* shown = new SizedWidget(&owner);
+        hidden->hide();
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{hidden, shown}));
+        QCOMPARE(layout->sizeHint().width(), 20);
+        hidden->show();
+        QCOMPARE(layout->sizeHint().width(), 40);
+    }
 
-void tst_OvBoxLayout::autoFillLeavesOutWhatIsHeldAlready()
-{
-    QWidget owner;
-    auto* a = new QWidget(&owner);
-    auto* nested = new QWidget(&owner);
-    auto* c = new QWidget(&owner);
-    auto* layout = new OvVBoxLayout(&owner);
-    layout->addWidget(c);
-    auto* inner = new OvHBoxLayout(nullptr);
-    layout->addLayout(inner);
-    inner->addWidget(nested);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{c, nullptr, a}));
-    QCOMPARE(widgetsOf(*inner), QList<QWidget*>{nested});
-}
+    void autoFillLeavesOutWindows()
+    {
+        QWidget owner;
+        auto* child = new QWidget(&owner);
+        new QWidget(&owner, Qt::Popup);
+        new QWidget(&owner, Qt::Dialog);
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
+    }
 
-void tst_OvBoxLayout::autoFillTwiceAddsNewChildrenOnly()
-{
-    QWidget owner;
-    auto* a = new QWidget(&owner);
-    auto* layout = new OvVBoxLayout(&owner);
-    layout->autoFill();
-    auto* b = new QWidget(&owner);
-    layout->autoFill();
-    QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{a, b}));
-}
+    void autoFillLeavesOutProviders()
+    {
+        QWidget owner;
+        new PropertyProviderBase(&owner);
+        auto* child = new QWidget(&owner);
+        QVERIFY(Util::installLayoutController(&owner));
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
+    }
 
-void tst_OvBoxLayout::autoFillWithoutOwner()
-{
-    OvHBoxLayout layout(nullptr);
-    QCOMPARE(layout.autoFill(), &layout);
-    QCOMPARE(layout.count(), 0);
-}
+    void autoFillLeavesOutGrandchildren()
+    {
+        QWidget owner;
+        auto* child = new QWidget(&owner);
+        new QWidget(child);
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
+    }
 
-void tst_OvBoxLayout::autoFillLeavesOutNonWidgets()
-{
-    QWidget owner;
-    new QObject(&owner);
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->autoFill();
-    QCOMPARE(layout->count(), 0);
-}
+    void autoFillLeavesOutWhatIsHeldAlready()
+    {
+        QWidget owner;
+        auto* a = new QWidget(&owner);
+        auto* nested = new QWidget(&owner);
+        auto* c = new QWidget(&owner);
+        auto* layout = new OvVBoxLayout(&owner);
+        layout->addWidget(c);
+        auto* inner = new OvHBoxLayout(nullptr);
+        layout->addLayout(inner);
+        inner->addWidget(nested);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{c, nullptr, a}));
+        QCOMPARE(widgetsOf(*inner), QList<QWidget*>{nested});
+    }
 
-void tst_OvBoxLayout::addStretch_data()
-{
-    QTest::addColumn<int>("stretch");
-    QTest::newRow("none") << 0;
-    QTest::newRow("factor") << 3;
-}
+    void autoFillTwiceAddsNewChildrenOnly()
+    {
+        QWidget owner;
+        auto* a = new QWidget(&owner);
+        auto* layout = new OvVBoxLayout(&owner);
+        layout->autoFill();
+        auto* b = new QWidget(&owner);
+        layout->autoFill();
+        QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{a, b}));
+    }
 
-void tst_OvBoxLayout::addStretch()
-{
-    QFETCH(int, stretch);
-    QWidget owner;
-    auto* widget = new SizedWidget(&owner);
-    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    auto* layout = new OvHBoxLayout(&owner);
-    OvBoxLayout* const returned = layout->autoFill()->addStretch(stretch);
-    QCOMPARE(returned, layout);
-    QCOMPARE(layout->count(), 2);
-    QVERIFY(layout->itemAt(1)->spacerItem());
-    QCOMPARE(layout->stretch(1), stretch);
-    owner.resize(100, 10);
-    layout->activate();
-    // Even a stretch of 0 takes what a widget does not ask for.
-    QCOMPARE(widget->geometry(), QRect(0, 0, 20, 10));
-}
+    void autoFillWithoutOwner()
+    {
+        OvHBoxLayout layout(nullptr);
+        QCOMPARE(layout.autoFill(), &layout);
+        QCOMPARE(layout.count(), 0);
+    }
 
-void tst_OvBoxLayout::addItemsInOrder()
-{
-    QWidget owner;
-    auto* a = new QWidget(&owner);
-    auto* b = new QLabel(&owner);
-    auto* layout = new OvHBoxLayout(&owner);
-    OvBoxLayout* const returned =
-        layout->addItems({BoxItem(SpacerPolicy::Stretch, 1), {a, 0}, {b, 2}, {SpacerPolicy::Fixed, 12}});
-    QCOMPARE(returned, layout);
-    QCOMPARE(layout->count(), 4);
-    QVERIFY(layout->itemAt(0)->spacerItem());
-    QCOMPARE(layout->stretch(0), 1);
-    QCOMPARE(layout->itemAt(1)->widget(), a);
-    QCOMPARE(layout->stretch(1), 0);
-    QCOMPARE(layout->itemAt(2)->widget(), b);
-    QCOMPARE(layout->stretch(2), 2);
-    QVERIFY(layout->itemAt(3)->spacerItem());
-    QCOMPARE(layout->stretch(3), 0);
-}
+    void autoFillLeavesOutNonWidgets()
+    {
+        QWidget owner;
+        new QObject(&owner);
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->autoFill();
+        QCOMPARE(layout->count(), 0);
+    }
 
-void tst_OvBoxLayout::addItemsSkipsNullWidgets()
-{
-    QWidget owner;
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->addItems({BoxItem(nullptr, 1)});
-    layout->addItems({});
-    QCOMPARE(layout->count(), 0);
-}
+    void addStretch_data()
+    {
+        QTest::addColumn<int>("stretch");
+        QTest::newRow("none") << 0;
+        QTest::newRow("factor") << 3;
+    }
 
-void tst_OvBoxLayout::itemsTakeTheirRoom()
-{
-    QWidget owner;
-    auto* a = new SizedWidget;
-    auto* b = new SizedWidget;
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->addItems(
-        {{SpacerPolicy::Stretch, 1}, {a, 0}, {SpacerPolicy::Fixed, 15}, {b, 0}, {SpacerPolicy::Fixed, -3}});
-    QCOMPARE(a->parentWidget(), &owner);
-    QCOMPARE(layout->sizeHint().width(), 55);
-    layout->setGeometry(QRect(0, 0, 100, 10));
-    QCOMPARE(a->geometry(), QRect(45, 0, 20, 10));
-    QCOMPARE(b->geometry(), QRect(80, 0, 20, 10));
-    layout->setGeometry(QRect(0, 0, 55, 10));
-    QCOMPARE(a->geometry(), QRect(0, 0, 20, 10));
-    QCOMPARE(b->x(), 35);
-}
+    void addStretch()
+    {
+        QFETCH(int, stretch);
+        QWidget owner;
+        auto* widget = new SizedWidget(&owner);
+        widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        auto* layout = new OvHBoxLayout(&owner);
+        OvBoxLayout* const returned = layout->autoFill()->addStretch(stretch);
+        QCOMPARE(returned, layout);
+        QCOMPARE(layout->count(), 2);
+        QVERIFY(layout->itemAt(1)->spacerItem());
+        QCOMPARE(layout->stretch(1), stretch);
+        owner.resize(100, 10);
+        layout->activate();
+        // Even a stretch of 0 takes what a widget does not ask for.
+        QCOMPARE(widget->geometry(), QRect(0, 0, 20, 10));
+    }
 
-void tst_OvBoxLayout::chaining()
-{
-    QWidget owner;
-    auto* a = new QWidget(&owner);
-    auto* layout = new OvVBoxLayout(&owner);
-    layout->autoFill()->addStretch()->addItems({{SpacerPolicy::Fixed, 4}})->addStretch(2);
-    QCOMPARE(layout->count(), 4);
-    QCOMPARE(layout->itemAt(0)->widget(), a);
-}
+    void addItemsInOrder()
+    {
+        QWidget owner;
+        auto* a = new QWidget(&owner);
+        auto* b = new QLabel(&owner);
+        auto* layout = new OvHBoxLayout(&owner);
+        OvBoxLayout* const returned =
+            layout->addItems({BoxItem(SpacerPolicy::Stretch, 1), {a, 0}, {b, 2}, {SpacerPolicy::Fixed, 12}});
+        QCOMPARE(returned, layout);
+        QCOMPARE(layout->count(), 4);
+        QVERIFY(layout->itemAt(0)->spacerItem());
+        QCOMPARE(layout->stretch(0), 1);
+        QCOMPARE(layout->itemAt(1)->widget(), a);
+        QCOMPARE(layout->stretch(1), 0);
+        QCOMPARE(layout->itemAt(2)->widget(), b);
+        QCOMPARE(layout->stretch(2), 2);
+        QVERIFY(layout->itemAt(3)->spacerItem());
+        QCOMPARE(layout->stretch(3), 0);
+    }
 
-void tst_OvBoxLayout::baseOperationsStillWork()
-{
-    QWidget owner;
-    auto* a = new QWidget(&owner);
-    auto* b = new QWidget(&owner);
-    auto* layout = new OvHBoxLayout(&owner);
-    layout->addWidget(a, 0, {});
-    layout->insertWidget(0, b);
-    layout->setStretch(0, 1);
-    layout->setSpacing(5);
-    layout->setContentsMargins(1, 2, 3, 4);
-    QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{b, a}));
-    QCOMPARE(layout->stretch(0), 1);
-    QCOMPARE(layout->spacing(), 5);
-    QCOMPARE(layout->contentsMargins(), QMargins(1, 2, 3, 4));
-}
+    void addItemsSkipsNullWidgets()
+    {
+        QWidget owner;
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->addItems({BoxItem(nullptr, 1)});
+        layout->addItems({});
+        QCOMPARE(layout->count(), 0);
+    }
+
+    void itemsTakeTheirRoom()
+    {
+        QWidget owner;
+        auto* a = new SizedWidget;
+        auto* b = new SizedWidget;
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->addItems({{SpacerPolicy::Stretch, 1},
+                          {a, 0},
+                          {SpacerPolicy::Fixed, 15},
+                          {b, 0},
+                          {SpacerPolicy::Fixed, -3}});
+        QCOMPARE(a->parentWidget(), &owner);
+        QCOMPARE(layout->sizeHint().width(), 55);
+        layout->setGeometry(QRect(0, 0, 100, 10));
+        QCOMPARE(a->geometry(), QRect(45, 0, 20, 10));
+        QCOMPARE(b->geometry(), QRect(80, 0, 20, 10));
+        layout->setGeometry(QRect(0, 0, 55, 10));
+        QCOMPARE(a->geometry(), QRect(0, 0, 20, 10));
+        QCOMPARE(b->x(), 35);
+    }
+
+    void chaining()
+    {
+        QWidget owner;
+        auto* a = new QWidget(&owner);
+        auto* layout = new OvVBoxLayout(&owner);
+        layout->autoFill()->addStretch()->addItems({{SpacerPolicy::Fixed, 4}})->addStretch(2);
+        QCOMPARE(layout->count(), 4);
+        QCOMPARE(layout->itemAt(0)->widget(), a);
+    }
+
+    void baseOperationsStillWork()
+    {
+        QWidget owner;
+        auto* a = new QWidget(&owner);
+        auto* b = new QWidget(&owner);
+        auto* layout = new OvHBoxLayout(&owner);
+        layout->addWidget(a, 0, {});
+        layout->insertWidget(0, b);
+        layout->setStretch(0, 1);
+        layout->setSpacing(5);
+        layout->setContentsMargins(1, 2, 3, 4);
+        QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{b, a}));
+        QCOMPARE(layout->stretch(0), 1);
+        QCOMPARE(layout->spacing(), 5);
+        QCOMPARE(layout->contentsMargins(), QMargins(1, 2, 3, 4));
+    }
+};
 
 UIC_TEST_MAIN(tst_OvBoxLayout)
 #include "tst_OvBoxLayout.moc"

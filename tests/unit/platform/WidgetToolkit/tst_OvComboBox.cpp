@@ -33,347 +33,326 @@ class tst_OvComboBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void isAComboBox();
-    void wheelNeedsFocus();
-    void popupIsWideEnough_data();
-    void popupIsWideEnough();
-    void popupStaysOnTheScreen();
-    void popupVisible();
-    void popupVisibleWhenClosedFromOutside();
-    void emptyBoxHasNoPopup();
-    void modelDiesBeforeThePopup();
-    void modelDiesWhileThePopupOpens();
-    void sheetSeesThePopup();
-    void minimumIsAFewCharacters();
-    void minimumOfShortItems();
-    void minimumFollowsTheFont();
-    void longTextIsElided_data();
-    void longTextIsElided();
-    void nothingIsElidedAtTheSizeHint_data();
-    void nothingIsElidedAtTheSizeHint();
-    void paintsAtAnySize();
-    void extremeContentsLength();
-    void deletedWhileOpen();
+    void isAComboBox()
+    {
+        OvComboBox box;
+        QCOMPARE(box.metaObject()->className(), "OvComboBox");
+        QCOMPARE(box.metaObject()->superClass(), &QComboBox::staticMetaObject);
+        QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+    }
+
+    void wheelNeedsFocus()
+    {
+        QWidget window;
+        QLineEdit other(&window);
+        OvComboBox box;
+        box.setParent(&window);
+        fill(box);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other.setFocus();
+        QVERIFY(!turnWheel(box, -120));
+        QCOMPARE(box.currentIndex(), 0);
+        box.setFocus();
+        QVERIFY(turnWheel(box, -120));
+        QCOMPARE(box.currentIndex(), 1);
+    }
+
+    void popupIsWideEnough_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<QString>("sheet");
+        const QString sheet =
+            QStringLiteral("QComboBox { combobox-popup: 0; border: 1px solid red; padding: 3px; }"
+                           "QComboBox QAbstractItemView::item { padding: 0 20px; }");
+        QTest::newRow("left to right") << Qt::LeftToRight << QString();
+        QTest::newRow("right to left") << Qt::RightToLeft << QString();
+        QTest::newRow("with sheet") << Qt::LeftToRight << sheet;
+        QTest::newRow("with sheet, right to left") << Qt::RightToLeft << sheet;
+    }
+
+    void popupIsWideEnough()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(QString, sheet);
+        QWidget window;
+        window.resize(700, 300);
+        OvComboBox box;
+        box.setParent(&window);
+        box.setStyleSheet(sheet);
+        box.setLayoutDirection(direction);
+        fill(box);
+        box.setGeometry(550, 10, 60, box.sizeHint().height());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        box.showPopup();
+        const QWidget* popup = box.view()->window();
+        QVERIFY(popup->isVisible());
+        QVERIFY(box.view()->viewport()->width() >= box.view()->sizeHintForColumn(0));
+        QVERIFY(box.screen()->availableGeometry().contains(popup->geometry()));
+        if (direction == Qt::RightToLeft) {
+            QCOMPARE(popup->geometry().right(), box.mapToGlobal(box.rect().topRight()).x());
+        }
+        box.hidePopup();
+        QVERIFY(!popup->isVisible());
+    }
+
+    void popupStaysOnTheScreen()
+    {
+        OvComboBox box;
+        fill(box);
+        box.addItem(QString(1000, QLatin1Char('w')));
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        box.setGeometry(screen.right() - 50, screen.bottom() - 30, 50, 25);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        box.showPopup();
+        const QRect popup = box.view()->window()->geometry();
+        QVERIFY(screen.contains(popup));
+        QCOMPARE(popup.width(), screen.width());
+        box.hidePopup();
+    }
+
+    void popupVisible()
+    {
+        OvComboBox box;
+        fill(box);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        box.showPopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(true));
+        box.hidePopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+    }
+
+    void popupVisibleWhenClosedFromOutside()
+    {
+        OvComboBox box;
+        fill(box);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        box.showPopup();
+        // As Qt closes pop-ups when the application is left: without a word to the box.
+        box.view()->window()->close();
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+        box.showPopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(true));
+        QTest::keyClick(box.view(), Qt::Key_Escape);
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+    }
+
+    void emptyBoxHasNoPopup()
+    {
+        OvComboBox box;
+        box.show();
+        box.showPopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+        box.hidePopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+    }
+
+    void modelDiesBeforeThePopup()
+    {
+        OvComboBox box;
+        box.setModel(new QStringListModel({QStringLiteral("a")}, &box));
+        box.show();
+        delete box.model();
+        // QComboBox logs a warning where it makes a pop-up without a model.
+        box.showPopup();
+        box.hidePopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+    }
+
+    void modelDiesWhileThePopupOpens()
+    {
+        OvComboBox box;
+        box.setModel(new QStringListModel({QStringLiteral("a")}, &box));
+        box.show();
+        connect(&box, QOverload<int>::of(&QComboBox::highlighted), &box, [&box] { delete box.model(); });
+        box.showPopup();
+        QCOMPARE(box.count(), 0);
+        box.hidePopup();
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+    }
+
+    void sheetSeesThePopup()
+    {
+        OvComboBox box;
+        fill(box);
+        box.setStyleSheet(QStringLiteral("OvComboBox { border: none; background: #00ff00; }"
+                                         "OvComboBox[popupVisible=\"true\"] { background: #ff0000; }"));
+        box.resize(120, 30);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        const QPoint corner(2, 2);
+        QCOMPARE(box.grab().toImage().pixelColor(corner), QColor(0, 255, 0));
+        box.showPopup();
+        QCOMPARE(box.grab().toImage().pixelColor(corner), QColor(255, 0, 0));
+        box.hidePopup();
+        QCOMPARE(box.grab().toImage().pixelColor(corner), QColor(0, 255, 0));
+    }
+
+    void minimumIsAFewCharacters()
+    {
+        OvComboBox box;
+        fill(box);
+        QVERIFY(box.minimumSizeHint().width() < box.sizeHint().width() / 2);
+        QCOMPARE(box.minimumSizeHint().height(), box.sizeHint().height());
+        const int few = box.minimumSizeHint().width();
+        box.setMinimumContentsLength(10);
+        const int letter = box.fontMetrics().horizontalAdvance(QLatin1Char('X'));
+        QCOMPARE(box.minimumSizeHint().width(), few + 6 * letter);
+    }
+
+    void minimumOfShortItems()
+    {
+        OvComboBox box;
+        box.addItems({QStringLiteral("1"), QStringLiteral("2")});
+        QVERIFY(box.minimumSizeHint().width() <= box.sizeHint().width());
+    }
+
+    void minimumFollowsTheFont()
+    {
+        Swallowing box;
+        fill(box);
+        const QSize before = box.minimumSizeHint();
+        QFont font = box.font();
+        font.setPixelSize(40);
+        box.setFont(font);
+        QVERIFY(box.minimumSizeHint().width() > before.width());
+        QVERIFY(box.minimumSizeHint().height() > before.height());
+    }
+
+    void longTextIsElided_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("sheet");
+        const QString sheet = QStringLiteral("QComboBox { border: 1px solid blue; padding: 2px 8px; }");
+        QTest::newRow("plain") << Qt::LeftToRight << true << QString();
+        QTest::newRow("right to left") << Qt::RightToLeft << true << QString();
+        QTest::newRow("disabled") << Qt::LeftToRight << false << QString();
+        QTest::newRow("with sheet") << Qt::LeftToRight << true << sheet;
+        QTest::newRow("with sheet, right to left") << Qt::RightToLeft << true << sheet;
+    }
+
+    void longTextIsElided()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(bool, enabled);
+        QFETCH(QString, sheet);
+        OvComboBox box;
+        box.setLayoutDirection(direction);
+        box.setEnabled(enabled);
+        box.setStyleSheet(sheet);
+        fill(box);
+        box.setCurrentIndex(1);
+        box.resize(110, 28);
+        box.ensurePolished();
+
+        // Looks like a box whose item has the shortened text.
+        OvComboBox shortened;
+        shortened.setLayoutDirection(direction);
+        shortened.setEnabled(enabled);
+        shortened.setStyleSheet(sheet);
+        shortened.resize(110, 28);
+        shortened.ensurePolished();
+        QStyleOptionComboBox option;
+        option.initFrom(&box);
+        option.subControls = QStyle::SC_All;
+        const int room =
+            box.style()
+                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
+                .width() -
+            2;
+        const QString text = box.fontMetrics().elidedText(box.currentText(), Qt::ElideRight, room);
+        QVERIFY(text.endsWith(QChar(0x2026)));
+        shortened.addItem(text);
+        QCOMPARE(box.grab().toImage(), shortened.grab().toImage());
+
+        // And as QComboBox paints it when there is room.
+        QComboBox plain;
+        plain.setLayoutDirection(direction);
+        plain.setEnabled(enabled);
+        plain.setStyleSheet(sheet);
+        fill(plain);
+        plain.setCurrentIndex(1);
+        plain.resize(600, 28);
+        box.resize(600, 28);
+        QCOMPARE(box.grab().toImage(), plain.grab().toImage());
+    }
+
+    void nothingIsElidedAtTheSizeHint_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("sheet");
+        const QString sheet = QStringLiteral("QComboBox { border: 1px solid blue; padding: 2px 5px; }");
+        for (const char* const text : {"Deutsch", "English", "Off", "AV", "i", "Full HD, 1920 x 1080"}) {
+            QTest::addRow("%s", text) << QString::fromLatin1(text) << QString();
+            QTest::addRow("%s, with sheet", text) << QString::fromLatin1(text) << sheet;
+        }
+    }
+
+    // A text advances by more than its ink is wide: measured by that it was shortened, in a box of its very
+    // size, as soon as the sheet left no room to spare.
+    void nothingIsElidedAtTheSizeHint()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, sheet);
+        QComboBox plain;
+        OvComboBox box;
+        for (QComboBox* const each : {&plain, static_cast<QComboBox*>(&box)}) {
+            each->setStyleSheet(sheet);
+            each->addItem(text);
+            each->ensurePolished();
+            each->resize(plain.sizeHint());
+        }
+        QCOMPARE(box.sizeHint(), plain.sizeHint());
+        QCOMPARE(box.grab().toImage(), plain.grab().toImage());
+    }
+
+    void paintsAtAnySize()
+    {
+        OvComboBox box;
+        fill(box);
+        box.setCurrentIndex(1);
+        for (int size = 0; size < 30; ++size) {
+            box.resize(size, size);
+            box.grab();
+        }
+        box.setPlaceholderText(QStringLiteral("choose"));
+        box.setCurrentIndex(-1);
+        box.resize(100, 30);
+        const QImage withPlaceholder = box.grab().toImage();
+        box.setPlaceholderText(QString());
+        QVERIFY(box.grab().toImage() != withPlaceholder);
+    }
+
+    void extremeContentsLength()
+    {
+        OvComboBox box;
+        box.addItem(QString(50, QLatin1Char('w')));
+        box.setMinimumContentsLength(100);
+        const QSize hint = box.minimumSizeHint();
+        box.setMinimumContentsLength(std::numeric_limits<int>::max());
+        QCOMPARE(box.minimumSizeHint(), hint);
+    }
+
+    void deletedWhileOpen()
+    {
+        auto* box = new OvComboBox;
+        fill(*box);
+        box->show();
+        QVERIFY(QTest::qWaitForWindowExposed(box));
+        box->showPopup();
+        const QPointer<QWidget> popup(box->view()->window());
+        QVERIFY(popup->isVisible());
+        delete box;
+        QVERIFY(popup.isNull());
+    }
 };
-
-void tst_OvComboBox::isAComboBox()
-{
-    OvComboBox box;
-    QCOMPARE(box.metaObject()->className(), "OvComboBox");
-    QCOMPARE(box.metaObject()->superClass(), &QComboBox::staticMetaObject);
-    QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-}
-
-void tst_OvComboBox::wheelNeedsFocus()
-{
-    QWidget window;
-    QLineEdit other(&window);
-    OvComboBox box;
-    box.setParent(&window);
-    fill(box);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    other.setFocus();
-    QVERIFY(!turnWheel(box, -120));
-    QCOMPARE(box.currentIndex(), 0);
-    box.setFocus();
-    QVERIFY(turnWheel(box, -120));
-    QCOMPARE(box.currentIndex(), 1);
-}
-
-void tst_OvComboBox::popupIsWideEnough_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QString>("sheet");
-    const QString sheet =
-        QStringLiteral("QComboBox { combobox-popup: 0; border: 1px solid red; padding: 3px; }"
-                       "QComboBox QAbstractItemView::item { padding: 0 20px; }");
-    QTest::newRow("left to right") << Qt::LeftToRight << QString();
-    QTest::newRow("right to left") << Qt::RightToLeft << QString();
-    QTest::newRow("with sheet") << Qt::LeftToRight << sheet;
-    QTest::newRow("with sheet, right to left") << Qt::RightToLeft << sheet;
-}
-
-void tst_OvComboBox::popupIsWideEnough()
-{
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(QString, sheet);
-    QWidget window;
-    window.resize(700, 300);
-    OvComboBox box;
-    box.setParent(&window);
-    box.setStyleSheet(sheet);
-    box.setLayoutDirection(direction);
-    fill(box);
-    box.setGeometry(550, 10, 60, box.sizeHint().height());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    box.showPopup();
-    const QWidget* popup = box.view()->window();
-    QVERIFY(popup->isVisible());
-    QVERIFY(box.view()->viewport()->width() >= box.view()->sizeHintForColumn(0));
-    QVERIFY(box.screen()->availableGeometry().contains(popup->geometry()));
-    if (direction == Qt::RightToLeft) {
-        QCOMPARE(popup->geometry().right(), box.mapToGlobal(box.rect().topRight()).x());
-    }
-    box.hidePopup();
-    QVERIFY(!popup->isVisible());
-}
-
-void tst_OvComboBox::popupStaysOnTheScreen()
-{
-    OvComboBox box;
-    fill(box);
-    box.addItem(QString(1000, QLatin1Char('w')));
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    box.setGeometry(screen.right() - 50, screen.bottom() - 30, 50, 25);
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-    box.showPopup();
-    const QRect popup = box.view()->window()->geometry();
-    QVERIFY(screen.contains(popup));
-    QCOMPARE(popup.width(), screen.width());
-    box.hidePopup();
-}
-
-void tst_OvComboBox::popupVisible()
-{
-    OvComboBox box;
-    fill(box);
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-    box.showPopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(true));
-    box.hidePopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-}
-
-void tst_OvComboBox::popupVisibleWhenClosedFromOutside()
-{
-    OvComboBox box;
-    fill(box);
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-    box.showPopup();
-    // As Qt closes pop-ups when the application is left: without a word to the box.
-    box.view()->window()->close();
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-    box.showPopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(true));
-    QTest::keyClick(box.view(), Qt::Key_Escape);
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-}
-
-void tst_OvComboBox::emptyBoxHasNoPopup()
-{
-    OvComboBox box;
-    box.show();
-    box.showPopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-    box.hidePopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-}
-
-void tst_OvComboBox::modelDiesBeforeThePopup()
-{
-    OvComboBox box;
-    box.setModel(new QStringListModel({QStringLiteral("a")}, &box));
-    box.show();
-    delete box.model();
-    // QComboBox logs a warning where it makes a pop-up without a model.
-    box.showPopup();
-    box.hidePopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-}
-
-void tst_OvComboBox::modelDiesWhileThePopupOpens()
-{
-    OvComboBox box;
-    box.setModel(new QStringListModel({QStringLiteral("a")}, &box));
-    box.show();
-    connect(&box, QOverload<int>::of(&QComboBox::highlighted), &box, [&box] { delete box.model(); });
-    box.showPopup();
-    QCOMPARE(box.count(), 0);
-    box.hidePopup();
-    QCOMPARE(box.property("popupVisible"), QVariant(false));
-}
-
-void tst_OvComboBox::sheetSeesThePopup()
-{
-    OvComboBox box;
-    fill(box);
-    box.setStyleSheet(QStringLiteral("OvComboBox { border: none; background: #00ff00; }"
-                                     "OvComboBox[popupVisible=\"true\"] { background: #ff0000; }"));
-    box.resize(120, 30);
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-    const QPoint corner(2, 2);
-    QCOMPARE(box.grab().toImage().pixelColor(corner), QColor(0, 255, 0));
-    box.showPopup();
-    QCOMPARE(box.grab().toImage().pixelColor(corner), QColor(255, 0, 0));
-    box.hidePopup();
-    QCOMPARE(box.grab().toImage().pixelColor(corner), QColor(0, 255, 0));
-}
-
-void tst_OvComboBox::minimumIsAFewCharacters()
-{
-    OvComboBox box;
-    fill(box);
-    QVERIFY(box.minimumSizeHint().width() < box.sizeHint().width() / 2);
-    QCOMPARE(box.minimumSizeHint().height(), box.sizeHint().height());
-    const int few = box.minimumSizeHint().width();
-    box.setMinimumContentsLength(10);
-    const int letter = box.fontMetrics().horizontalAdvance(QLatin1Char('X'));
-    QCOMPARE(box.minimumSizeHint().width(), few + 6 * letter);
-}
-
-void tst_OvComboBox::minimumOfShortItems()
-{
-    OvComboBox box;
-    box.addItems({QStringLiteral("1"), QStringLiteral("2")});
-    QVERIFY(box.minimumSizeHint().width() <= box.sizeHint().width());
-}
-
-void tst_OvComboBox::minimumFollowsTheFont()
-{
-    Swallowing box;
-    fill(box);
-    const QSize before = box.minimumSizeHint();
-    QFont font = box.font();
-    font.setPixelSize(40);
-    box.setFont(font);
-    QVERIFY(box.minimumSizeHint().width() > before.width());
-    QVERIFY(box.minimumSizeHint().height() > before.height());
-}
-
-void tst_OvComboBox::longTextIsElided_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("sheet");
-    const QString sheet = QStringLiteral("QComboBox { border: 1px solid blue; padding: 2px 8px; }");
-    QTest::newRow("plain") << Qt::LeftToRight << true << QString();
-    QTest::newRow("right to left") << Qt::RightToLeft << true << QString();
-    QTest::newRow("disabled") << Qt::LeftToRight << false << QString();
-    QTest::newRow("with sheet") << Qt::LeftToRight << true << sheet;
-    QTest::newRow("with sheet, right to left") << Qt::RightToLeft << true << sheet;
-}
-
-void tst_OvComboBox::longTextIsElided()
-{
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(bool, enabled);
-    QFETCH(QString, sheet);
-    OvComboBox box;
-    box.setLayoutDirection(direction);
-    box.setEnabled(enabled);
-    box.setStyleSheet(sheet);
-    fill(box);
-    box.setCurrentIndex(1);
-    box.resize(110, 28);
-    box.ensurePolished();
-
-    // Looks like a box whose item has the shortened text.
-    OvComboBox shortened;
-    shortened.setLayoutDirection(direction);
-    shortened.setEnabled(enabled);
-    shortened.setStyleSheet(sheet);
-    shortened.resize(110, 28);
-    shortened.ensurePolished();
-    QStyleOptionComboBox option;
-    option.initFrom(&box);
-    option.subControls = QStyle::SC_All;
-    const int room = box.style()
-                         ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
-                         .width() -
-                     2;
-    const QString text = box.fontMetrics().elidedText(box.currentText(), Qt::ElideRight, room);
-    QVERIFY(text.endsWith(QChar(0x2026)));
-    shortened.addItem(text);
-    QCOMPARE(box.grab().toImage(), shortened.grab().toImage());
-
-    // And as QComboBox paints it when there is room.
-    QComboBox plain;
-    plain.setLayoutDirection(direction);
-    plain.setEnabled(enabled);
-    plain.setStyleSheet(sheet);
-    fill(plain);
-    plain.setCurrentIndex(1);
-    plain.resize(600, 28);
-    box.resize(600, 28);
-    QCOMPARE(box.grab().toImage(), plain.grab().toImage());
-}
-
-void tst_OvComboBox::nothingIsElidedAtTheSizeHint_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("sheet");
-    const QString sheet = QStringLiteral("QComboBox { border: 1px solid blue; padding: 2px 5px; }");
-    for (const char* const text : {"Deutsch", "English", "Off", "AV", "i", "Full HD, 1920 x 1080"}) {
-        QTest::addRow("%s", text) << QString::fromLatin1(text) << QString();
-        QTest::addRow("%s, with sheet", text) << QString::fromLatin1(text) << sheet;
-    }
-}
-
-// A text advances by more than its ink is wide: measured by that it was shortened, in a box of its very
-// size, as soon as the sheet left no room to spare.
-void tst_OvComboBox::nothingIsElidedAtTheSizeHint()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, sheet);
-    QComboBox plain;
-    OvComboBox box;
-    for (QComboBox* const each : {&plain, static_cast<QComboBox*>(&box)}) {
-        each->setStyleSheet(sheet);
-        each->addItem(text);
-        each->ensurePolished();
-        each->resize(plain.sizeHint());
-    }
-    QCOMPARE(box.sizeHint(), plain.sizeHint());
-    QCOMPARE(box.grab().toImage(), plain.grab().toImage());
-}
-
-void tst_OvComboBox::paintsAtAnySize()
-{
-    OvComboBox box;
-    fill(box);
-    box.setCurrentIndex(1);
-    for (int size = 0; size < 30; ++size) {
-        box.resize(size, size);
-        box.grab();
-    }
-    box.setPlaceholderText(QStringLiteral("choose"));
-    box.setCurrentIndex(-1);
-    box.resize(100, 30);
-    const QImage withPlaceholder = box.grab().toImage();
-    box.setPlaceholderText(QString());
-    QVERIFY(box.grab().toImage() != withPlaceholder);
-}
-
-void tst_OvComboBox::extremeContentsLength()
-{
-    OvComboBox box;
-    box.addItem(QString(50, QLatin1Char('w')));
-    box.setMinimumContentsLength(100);
-    const QSize hint = box.minimumSizeHint();
-    box.setMinimumContentsLength(std::numeric_limits<int>::max());
-    QCOMPARE(box.minimumSizeHint(), hint);
-}
-
-void tst_OvComboBox::deletedWhileOpen()
-{
-    auto* box = new OvComboBox;
-    fill(*box);
-    box->show();
-    QVERIFY(QTest::qWaitForWindowExposed(box));
-    box->showPopup();
-    const QPointer<QWidget> popup(box->view()->window());
-    QVERIFY(popup->isVisible());
-    delete box;
-    QVERIFY(popup.isNull());
-}
 
 UIC_TEST_MAIN(tst_OvComboBox)
 #include "tst_OvComboBox.moc"

@@ -18,536 +18,505 @@ class tst_OvDoubleSlider : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void speaksUnits();
-    void metaObject();
-    void defaults();
-    void keepsTheExactValue_data();
-    void keepsTheExactValue();
-    void stepsReadAsDecimals();
-    void setValueTakesTheStep();
-    void setValueOfTheSameStepChangesNothing();
-    void anyOrder_data();
-    void anyOrder();
-    void anyOrderOfSteps();
-    void valueComesBackWhenThereIsRoom();
-    void reportedCutStays_data();
-    void reportedCutStays();
-    void infiniteValueFollowsTheRange();
-    void badMultipliersAreIgnored_data();
-    void badMultipliersAreIgnored();
-    void notANumberIsIgnored();
-    void noNegativeZero();
-    void signalsOfADoubleValue();
-    void signalsBetweenTwoSteps();
-    void signalsOfTheMultiplier();
-    void signalsAreCoherent();
-    void signalAfterABlockedChange();
-    void listenerSetsAnotherValue();
-    void keysAndDragMoveByWholeSteps();
-    void withoutTracking();
-    void deletedByAListener_data();
-    void deletedByAListener();
-    void extremes();
+    void speaksUnits()
+    {
+        OvDoubleSlider slider;
+        slider.setRange(0, 100);
+        slider.setMultiplier(0.01);
+        slider.setDoubleValue(0.4);
+        QAccessibleInterface& interface = reader(&slider);
+        QCOMPARE(interface.role(), QAccessible::Slider);
+        QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("0.4"));
+        QAccessibleValueInterface* const value = interface.valueInterface();
+        QVERIFY(value);
+        QCOMPARE(value->currentValue().toDouble(), 0.4);
+        QCOMPARE(value->minimumValue().toDouble(), 0.0);
+        QCOMPARE(value->maximumValue().toDouble(), 1.0);
+        QCOMPARE(value->minimumStepSize().toDouble(), 0.01);
+        QSignalSpy changes(&slider, &OvDoubleSlider::doubleValueChanged);
+        value->setCurrentValue(0.7);
+        QCOMPARE(slider.doubleValue(), 0.7);
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void metaObject()
+    {
+        OvDoubleSlider slider;
+        const QMetaObject* meta = slider.metaObject();
+        QCOMPARE(meta->className(), "OvDoubleSlider");
+        QVERIFY(slider.inherits("OvCustomSlider"));
+        QCOMPARE(meta->userProperty().name(), "doubleValue");
+        QVERIFY(meta->indexOfSignal("doubleValueChanged(double)") >= 0);
+        QVERIFY(slider.setProperty("multiplier", 0.5));
+        QVERIFY(slider.setProperty("doubleValue", 1.5));
+        QCOMPARE(slider.value(), 3);
+    }
+
+    void defaults()
+    {
+        const OvDoubleSlider slider;
+        QCOMPARE(slider.multiplier(), 1.0);
+        QCOMPARE(slider.doubleValue(), 0.0);
+        QCOMPARE(slider.maximum(), 99);
+    }
+
+    void keepsTheExactValue_data()
+    {
+        QTest::addColumn<double>("asked");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("step");
+        QTest::newRow("on a step") << 0.3 << 0.3 << 30;
+        QTest::newRow("between two steps") << 0.304 << 0.304 << 30;
+        QTest::newRow("half") << 0.305 << 0.305 << 31;
+        QTest::newRow("negative half") << -0.305 << -0.305 << -31;
+        QTest::newRow("minimum") << -1.0 << -1.0 << -100;
+        QTest::newRow("below the minimum") << -1.0001 << -1.0 << -100;
+        QTest::newRow("above the maximum") << 7.0 << 1.0 << 100;
+        QTest::newRow("infinite") << infinity << 1.0 << 100;
+        QTest::newRow("minus infinite") << -infinity << -1.0 << -100;
+    }
+
+    void keepsTheExactValue()
+    {
+        QFETCH(double, asked);
+        QFETCH(double, value);
+        QFETCH(int, step);
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.01);
+        slider.setRange(-100, 100);
+        slider.setDoubleValue(asked);
+        QVERIFY(slider.doubleValue() == value);
+        QCOMPARE(slider.value(), step);
+    }
+
+    void stepsReadAsDecimals()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        slider.setValue(3);
+        QVERIFY(slider.doubleValue() == 0.3);
+        slider.setValue(7);
+        QVERIFY(slider.doubleValue() == 0.7);
+    }
+
+    void setValueTakesTheStep()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.01);
+        slider.setDoubleValue(0.304);
+        slider.setValue(31);
+        QCOMPARE(slider.doubleValue(), 0.31);
+        slider.setMultiplier(0.02);
+        QCOMPARE(slider.value(), 31);
+        QCOMPARE(slider.doubleValue(), 0.62);
+    }
+
+    void setValueOfTheSameStepChangesNothing()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.01);
+        slider.setDoubleValue(0.304);
+        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
+        slider.setValue(30);
+        QCOMPARE(slider.doubleValue(), 0.304);
+        QCOMPARE(spy.count(), 0);
+    }
+
+    void anyOrder_data()
+    {
+        QTest::addColumn<double>("multiplier");
+        QTest::addColumn<int>("minimum");
+        QTest::addColumn<int>("maximum");
+        QTest::addColumn<double>("asked");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("step");
+        QTest::newRow("opacity") << 0.01 << 0 << 100 << 0.5 << 0.5 << 50;
+        QTest::newRow("opacity at its maximum") << 0.01 << 0 << 100 << 1.0 << 1.0 << 100;
+        QTest::newRow("between steps") << 0.01 << 0 << 100 << 0.505 << 0.505 << 51;
+        QTest::newRow("negative") << 0.001 << -2000 << -1000 << -1.2345 << -1.2345 << -1235;
+        QTest::newRow("range without zero") << 0.1 << 50 << 90 << 7.77 << 7.77 << 78;
+        QTest::newRow("large multiplier") << 10.0 << 0 << 1000 << 4321.0 << 4321.0 << 432;
+        QTest::newRow("outside") << 0.1 << 50 << 90 << 100.0 << 9.0 << 90;
+        QTest::newRow("infinite") << 0.1 << 50 << 90 << -infinity << 5.0 << 50;
+        QTest::newRow("nine decimals")
+            << 1e-9 << -2000000000 << 2000000000 << 1.234567891 << 1.234567891 << 1234567891;
+    }
+
+    void anyOrder()
+    {
+        QFETCH(double, multiplier);
+        QFETCH(int, minimum);
+        QFETCH(int, maximum);
+        QFETCH(double, asked);
+        QFETCH(double, value);
+        QFETCH(int, step);
+        std::string order = "mnxv";
+        std::sort(order.begin(), order.end());
+        do {
+            OvDoubleSlider slider;
+            for (const char what : order) {
+                switch (what) {
+                case 'm':
+                    slider.setMultiplier(multiplier);
+                    break;
+                case 'n':
+                    slider.setMinimum(minimum);
+                    break;
+                case 'x':
+                    slider.setMaximum(maximum);
+                    break;
+                default:
+                    slider.setDoubleValue(asked);
+                }
+            }
+            // Qt itself lets the bound that is set last win over the other.
+            slider.setRange(minimum, maximum);
+            QVERIFY2(slider.doubleValue() == value, order.c_str());
+            QVERIFY2(slider.value() == step, order.c_str());
+        } while (std::next_permutation(order.begin(), order.end()));
+    }
+
+    void anyOrderOfSteps()
+    {
+        std::string order = "mrv";
+        std::sort(order.begin(), order.end());
+        do {
+            OvDoubleSlider slider;
+            for (const char what : order) {
+                switch (what) {
+                case 'm':
+                    slider.setMultiplier(0.01);
+                    break;
+                case 'r':
+                    slider.setRange(0, 100);
+                    break;
+                default:
+                    slider.setValue(50);
+                }
+            }
+            QVERIFY2(slider.value() == 50, order.c_str());
+            QVERIFY2(slider.doubleValue() == 0.5, order.c_str());
+        } while (std::next_permutation(order.begin(), order.end()));
+    }
+
+    void valueComesBackWhenThereIsRoom()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        slider.setDoubleValue(7.25);
+        slider.setRange(0, 50);
+        QCOMPARE(slider.doubleValue(), 5.0);
+        QCOMPARE(slider.value(), 50);
+        slider.setRange(0, 100);
+        QCOMPARE(slider.doubleValue(), 7.25);
+        QCOMPARE(slider.value(), 73);
+        // Moved by the user, it does not.
+        slider.setRange(0, 50);
+        slider.setValue(40);
+        slider.setRange(0, 100);
+        QCOMPARE(slider.doubleValue(), 4.0);
+    }
+
+    void reportedCutStays_data()
+    {
+        QTest::addColumn<bool>("isInSteps");
+        QTest::addColumn<bool>("isBlocked");
+        QTest::newRow("to a listener of the value") << false << false;
+        QTest::newRow("to a listener of the step") << true << false;
+        QTest::newRow("to nobody") << false << true;
+    }
+
+    void reportedCutStays()
+    {
+        QFETCH(bool, isInSteps);
+        QFETCH(bool, isBlocked);
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        slider.setDoubleValue(7.25);
+        const auto signal = isInSteps ? QMetaMethod::fromSignal(&QAbstractSlider::valueChanged)
+                                      : QMetaMethod::fromSignal(&OvDoubleSlider::doubleValueChanged);
+        QSignalSpy spy(&slider, signal);
+        slider.blockSignals(isBlocked);
+        slider.setRange(0, 50);
+        slider.blockSignals(false);
+        QCOMPARE(slider.doubleValue(), 5.0);
+        QCOMPARE(spy.count(), isBlocked ? 0 : 1);
+        spy.clear();
+        slider.setRange(0, 100);
+        QCOMPARE(slider.doubleValue(), isBlocked ? 7.25 : 5.0);
+        QCOMPARE(spy.count(), isBlocked ? 1 : 0);
+    }
+
+    void infiniteValueFollowsTheRange()
+    {
+        OvDoubleSlider slider;
+        slider.setDoubleValue(infinity);
+        QCOMPARE(slider.doubleValue(), 99.0);
+        slider.setRange(0, 200);
+        QCOMPARE(slider.doubleValue(), 200.0);
+    }
+
+    void badMultipliersAreIgnored_data()
+    {
+        QTest::addColumn<double>("multiplier");
+        QTest::newRow("zero") << 0.0;
+        QTest::newRow("negative") << -0.5;
+        QTest::newRow("infinite") << infinity;
+        QTest::newRow("not a number") << std::nan("");
+        QTest::newRow("the same") << 0.5;
+    }
+
+    void badMultipliersAreIgnored()
+    {
+        QFETCH(double, multiplier);
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.5);
+        slider.setDoubleValue(3.25);
+        QSignalSpy changed(&slider, &OvDoubleSlider::multiplierChanged);
+        slider.setMultiplier(multiplier);
+        QCOMPARE(slider.multiplier(), 0.5);
+        QCOMPARE(slider.doubleValue(), 3.25);
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void notANumberIsIgnored()
+    {
+        OvDoubleSlider slider;
+        slider.setDoubleValue(3.25);
+        slider.setDoubleValue(std::nan(""));
+        QCOMPARE(slider.doubleValue(), 3.25);
+    }
+
+    void noNegativeZero()
+    {
+        OvDoubleSlider slider;
+        slider.setDoubleValue(1.0);
+        slider.setDoubleValue(-0.0);
+        QVERIFY(!std::signbit(slider.doubleValue()));
+    }
+
+    void signalsOfADoubleValue()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
+        QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
+        slider.setDoubleValue(0.72);
+        QCOMPARE(steps.count(), 1);
+        QCOMPARE(steps.at(0), QVariantList{7});
+        QCOMPARE(values.count(), 1);
+        QCOMPARE(values.at(0), QVariantList{0.72});
+        slider.setDoubleValue(0.72);
+        QCOMPARE(steps.count(), 1);
+        QCOMPARE(values.count(), 1);
+    }
+
+    void signalsBetweenTwoSteps()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        slider.setDoubleValue(0.72);
+        QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
+        QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
+        slider.setDoubleValue(0.73);
+        QCOMPARE(steps.count(), 0);
+        QCOMPARE(values.count(), 1);
+        QCOMPARE(values.at(0), QVariantList{0.73});
+    }
+
+    void signalsOfTheMultiplier()
+    {
+        OvDoubleSlider slider;
+        slider.setDoubleValue(5.0);
+        QStringList log;
+        connect(&slider, &QAbstractSlider::valueChanged, this,
+                [&log](int step) { log << QStringLiteral("step %1").arg(step); });
+        connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
+                [&log](double value) { log << QStringLiteral("value %1").arg(value); });
+        connect(&slider, &OvDoubleSlider::multiplierChanged, this,
+                [&log](double multiplier) { log << QStringLiteral("multiplier %1").arg(multiplier); });
+        slider.setMultiplier(0.5);
+        QCOMPARE(log, (QStringList{QStringLiteral("step 10"), QStringLiteral("multiplier 0.5")}));
+        log.clear();
+        slider.setValue(20);
+        log.clear();
+        slider.setMultiplier(0.25);
+        QCOMPARE(log, (QStringList{QStringLiteral("value 5"), QStringLiteral("multiplier 0.25")}));
+        log.clear();
+        slider.setMultiplier(0.01);
+        slider.setDoubleValue(0.9);
+        log.clear();
+        slider.setMultiplier(0.001);
+        QCOMPARE(log, (QStringList{QStringLiteral("value 0.099"), QStringLiteral("step 99"),
+                                   QStringLiteral("multiplier 0.001")}));
+    }
+
+    void signalsAreCoherent()
+    {
+        OvDoubleSlider slider;
+        QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
+        QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
+        connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
+                [&slider](double value) { QVERIFY(value == slider.doubleValue()); });
+        connect(&slider, &QAbstractSlider::valueChanged, this, [&slider](int step) {
+            QVERIFY(std::abs(slider.doubleValue() - step * slider.multiplier()) <=
+                    slider.multiplier() * 0.5000001);
+        });
+        slider.setMultiplier(0.1);
+        slider.setDoubleValue(0.72);
+        slider.setRange(-30, 50);
+        slider.setDoubleValue(17.0);
+        slider.setRange(0, 500);
+        slider.setDoubleValue(17.0);
+        slider.setMultiplier(0.7);
+        slider.setValue(3);
+        slider.setRange(10, 20);
+        QVERIFY(steps.count() >= 5);
+        QVERIFY(values.count() >= 5);
+    }
+
+    void signalAfterABlockedChange()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        slider.setValue(5);
+        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
+        slider.blockSignals(true);
+        slider.setValue(8);
+        slider.setRange(0, 50);
+        slider.blockSignals(false);
+        QCOMPARE(slider.doubleValue(), 0.8);
+        slider.setValue(5);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0), QVariantList{0.5});
+        slider.blockSignals(true);
+        slider.setDoubleValue(0.8);
+        slider.blockSignals(false);
+        slider.setDoubleValue(0.5);
+        QCOMPARE(spy.count(), 2);
+    }
+
+    void listenerSetsAnotherValue()
+    {
+        OvDoubleSlider slider;
+        slider.setMultiplier(0.1);
+        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
+        connect(&slider, &OvDoubleSlider::doubleValueChanged, &slider, [&slider](double value) {
+            if (value < 5.0) {
+                slider.setDoubleValue(5.05);
+            }
+        });
+        slider.setDoubleValue(1.0);
+        QCOMPARE(slider.doubleValue(), 5.05);
+        QCOMPARE(slider.value(), 51);
+        QCOMPARE(spy.last(), QVariantList{5.05});
+        slider.setValue(3);
+        QCOMPARE(slider.doubleValue(), 5.05);
+    }
+
+    void keysAndDragMoveByWholeSteps()
+    {
+        OvDoubleSlider slider;
+        slider.setOrientation(Qt::Horizontal);
+        slider.resize(200, 30);
+        slider.setMultiplier(0.01);
+        slider.setRange(0, 100);
+        slider.setDoubleValue(0.304);
+        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
+        QTest::keyClick(&slider, Qt::Key_Right);
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(slider.doubleValue() == 0.31);
+        QTest::mouseClick(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(199, 15));
+        QCOMPARE(slider.doubleValue(), 1.0);
+    }
+
+    void withoutTracking()
+    {
+        OvDoubleSlider slider;
+        slider.setOrientation(Qt::Horizontal);
+        slider.resize(200, 30);
+        slider.setMultiplier(0.01);
+        slider.setRange(0, 100);
+        slider.setTracking(false);
+        slider.setDoubleValue(0.304);
+        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
+        QTest::mousePress(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(199, 15));
+        QCOMPARE(slider.doubleValue(), 0.304);
+        QTest::mouseRelease(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(199, 15));
+        QCOMPARE(slider.doubleValue(), 1.0);
+        QCOMPARE(spy.count(), 1);
+    }
+
+    void deletedByAListener_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("action");
+        const char* const signalNames[] = {"valueChanged", "doubleValueChanged", "multiplierChanged"};
+        const char* const actionNames[] = {"setDoubleValue", "setValue", "setMultiplier", "click"};
+        for (int signal = 0; signal < 3; ++signal) {
+            for (int action = 0; action < 4; ++action) {
+                if (signal != 2 || action == 2) {
+                    QTest::addRow("%s by %s", signalNames[signal], actionNames[action]) << signal << action;
+                }
+            }
+        }
+    }
+
+    void deletedByAListener()
+    {
+        QFETCH(int, signal);
+        QFETCH(int, action);
+        const QPointer<OvDoubleSlider> slider(new OvDoubleSlider);
+        slider->resize(30, 200);
+        slider->setDoubleValue(5.0);
+        const auto destroy = [target = slider.data()] { delete target; };
+        switch (signal) {
+        case 0:
+            connect(slider, &QAbstractSlider::valueChanged, this, destroy);
+            break;
+        case 1:
+            connect(slider, &OvDoubleSlider::doubleValueChanged, this, destroy);
+            break;
+        default:
+            connect(slider, &OvDoubleSlider::multiplierChanged, this, destroy);
+        }
+        switch (action) {
+        case 0:
+            slider->setDoubleValue(7.25);
+            break;
+        case 1:
+            slider->setValue(7);
+            break;
+        case 2:
+            slider->setMultiplier(0.01);
+            break;
+        default: {
+            QMouseEvent press(QEvent::MouseButtonPress, QPoint(15, 2), QPoint(15, 2), Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(slider, &press);
+        }
+        }
+        QVERIFY(slider.isNull());
+    }
+
+    void extremes()
+    {
+        OvDoubleSlider slider;
+        slider.setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+        slider.setDoubleValue(1e300);
+        QCOMPARE(slider.value(), std::numeric_limits<int>::max());
+        QCOMPARE(slider.doubleValue(), 2147483647.0);
+        slider.setMultiplier(1e300);
+        QCOMPARE(slider.value(), 1);
+        QCOMPARE(slider.doubleValue(), 1e300);
+        slider.setDoubleValue(-infinity);
+        QVERIFY(std::isfinite(slider.doubleValue()));
+        slider.setMultiplier(std::numeric_limits<double>::denorm_min());
+        QCOMPARE(slider.value(), std::numeric_limits<int>::min());
+        slider.setDoubleValue(0.0);
+        QCOMPARE(slider.value(), 0);
+    }
 };
-
-void tst_OvDoubleSlider::metaObject()
-{
-    OvDoubleSlider slider;
-    const QMetaObject* meta = slider.metaObject();
-    QCOMPARE(meta->className(), "OvDoubleSlider");
-    QVERIFY(slider.inherits("OvCustomSlider"));
-    QCOMPARE(meta->userProperty().name(), "doubleValue");
-    QVERIFY(meta->indexOfSignal("doubleValueChanged(double)") >= 0);
-    QVERIFY(slider.setProperty("multiplier", 0.5));
-    QVERIFY(slider.setProperty("doubleValue", 1.5));
-    QCOMPARE(slider.value(), 3);
-}
-
-void tst_OvDoubleSlider::defaults()
-{
-    const OvDoubleSlider slider;
-    QCOMPARE(slider.multiplier(), 1.0);
-    QCOMPARE(slider.doubleValue(), 0.0);
-    QCOMPARE(slider.maximum(), 99);
-}
-
-void tst_OvDoubleSlider::keepsTheExactValue_data()
-{
-    QTest::addColumn<double>("asked");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("step");
-    QTest::newRow("on a step") << 0.3 << 0.3 << 30;
-    QTest::newRow("between two steps") << 0.304 << 0.304 << 30;
-    QTest::newRow("half") << 0.305 << 0.305 << 31;
-    QTest::newRow("negative half") << -0.305 << -0.305 << -31;
-    QTest::newRow("minimum") << -1.0 << -1.0 << -100;
-    QTest::newRow("below the minimum") << -1.0001 << -1.0 << -100;
-    QTest::newRow("above the maximum") << 7.0 << 1.0 << 100;
-    QTest::newRow("infinite") << infinity << 1.0 << 100;
-    QTest::newRow("minus infinite") << -infinity << -1.0 << -100;
-}
-
-void tst_OvDoubleSlider::keepsTheExactValue()
-{
-    QFETCH(double, asked);
-    QFETCH(double, value);
-    QFETCH(int, step);
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.01);
-    slider.setRange(-100, 100);
-    slider.setDoubleValue(asked);
-    QVERIFY(slider.doubleValue() == value);
-    QCOMPARE(slider.value(), step);
-}
-
-void tst_OvDoubleSlider::stepsReadAsDecimals()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    slider.setValue(3);
-    QVERIFY(slider.doubleValue() == 0.3);
-    slider.setValue(7);
-    QVERIFY(slider.doubleValue() == 0.7);
-}
-
-void tst_OvDoubleSlider::setValueTakesTheStep()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.01);
-    slider.setDoubleValue(0.304);
-    slider.setValue(31);
-    QCOMPARE(slider.doubleValue(), 0.31);
-    slider.setMultiplier(0.02);
-    QCOMPARE(slider.value(), 31);
-    QCOMPARE(slider.doubleValue(), 0.62);
-}
-
-void tst_OvDoubleSlider::setValueOfTheSameStepChangesNothing()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.01);
-    slider.setDoubleValue(0.304);
-    QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-    slider.setValue(30);
-    QCOMPARE(slider.doubleValue(), 0.304);
-    QCOMPARE(spy.count(), 0);
-}
-
-void tst_OvDoubleSlider::anyOrder_data()
-{
-    QTest::addColumn<double>("multiplier");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<double>("asked");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("step");
-    QTest::newRow("opacity") << 0.01 << 0 << 100 << 0.5 << 0.5 << 50;
-    QTest::newRow("opacity at its maximum") << 0.01 << 0 << 100 << 1.0 << 1.0 << 100;
-    QTest::newRow("between steps") << 0.01 << 0 << 100 << 0.505 << 0.505 << 51;
-    QTest::newRow("negative") << 0.001 << -2000 << -1000 << -1.2345 << -1.2345 << -1235;
-    QTest::newRow("range without zero") << 0.1 << 50 << 90 << 7.77 << 7.77 << 78;
-    QTest::newRow("large multiplier") << 10.0 << 0 << 1000 << 4321.0 << 4321.0 << 432;
-    QTest::newRow("outside") << 0.1 << 50 << 90 << 100.0 << 9.0 << 90;
-    QTest::newRow("infinite") << 0.1 << 50 << 90 << -infinity << 5.0 << 50;
-    QTest::newRow("nine decimals") << 1e-9 << -2000000000 << 2000000000 << 1.234567891 << 1.234567891
-                                   << 1234567891;
-}
-
-void tst_OvDoubleSlider::anyOrder()
-{
-    QFETCH(double, multiplier);
-    QFETCH(int, minimum);
-    QFETCH(int, maximum);
-    QFETCH(double, asked);
-    QFETCH(double, value);
-    QFETCH(int, step);
-    std::string order = "mnxv";
-    std::sort(order.begin(), order.end());
-    do {
-        OvDoubleSlider slider;
-        for (const char what : order) {
-            switch (what) {
-            case 'm':
-                slider.setMultiplier(multiplier);
-                break;
-            case 'n':
-                slider.setMinimum(minimum);
-                break;
-            case 'x':
-                slider.setMaximum(maximum);
-                break;
-            default:
-                slider.setDoubleValue(asked);
-            }
-        }
-        // Qt itself lets the bound that is set last win over the other.
-        slider.setRange(minimum, maximum);
-        QVERIFY2(slider.doubleValue() == value, order.c_str());
-        QVERIFY2(slider.value() == step, order.c_str());
-    } while (std::next_permutation(order.begin(), order.end()));
-}
-
-void tst_OvDoubleSlider::anyOrderOfSteps()
-{
-    std::string order = "mrv";
-    std::sort(order.begin(), order.end());
-    do {
-        OvDoubleSlider slider;
-        for (const char what : order) {
-            switch (what) {
-            case 'm':
-                slider.setMultiplier(0.01);
-                break;
-            case 'r':
-                slider.setRange(0, 100);
-                break;
-            default:
-                slider.setValue(50);
-            }
-        }
-        QVERIFY2(slider.value() == 50, order.c_str());
-        QVERIFY2(slider.doubleValue() == 0.5, order.c_str());
-    } while (std::next_permutation(order.begin(), order.end()));
-}
-
-void tst_OvDoubleSlider::valueComesBackWhenThereIsRoom()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    slider.setDoubleValue(7.25);
-    slider.setRange(0, 50);
-    QCOMPARE(slider.doubleValue(), 5.0);
-    QCOMPARE(slider.value(), 50);
-    slider.setRange(0, 100);
-    QCOMPARE(slider.doubleValue(), 7.25);
-    QCOMPARE(slider.value(), 73);
-    // Moved by the user, it does not.
-    slider.setRange(0, 50);
-    slider.setValue(40);
-    slider.setRange(0, 100);
-    QCOMPARE(slider.doubleValue(), 4.0);
-}
-
-void tst_OvDoubleSlider::reportedCutStays_data()
-{
-    QTest::addColumn<bool>("isInSteps");
-    QTest::addColumn<bool>("isBlocked");
-    QTest::newRow("to a listener of the value") << false << false;
-    QTest::newRow("to a listener of the step") << true << false;
-    QTest::newRow("to nobody") << false << true;
-}
-
-void tst_OvDoubleSlider::reportedCutStays()
-{
-    QFETCH(bool, isInSteps);
-    QFETCH(bool, isBlocked);
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    slider.setDoubleValue(7.25);
-    const auto signal = isInSteps ? QMetaMethod::fromSignal(&QAbstractSlider::valueChanged)
-                                  : QMetaMethod::fromSignal(&OvDoubleSlider::doubleValueChanged);
-    QSignalSpy spy(&slider, signal);
-    slider.blockSignals(isBlocked);
-    slider.setRange(0, 50);
-    slider.blockSignals(false);
-    QCOMPARE(slider.doubleValue(), 5.0);
-    QCOMPARE(spy.count(), isBlocked ? 0 : 1);
-    spy.clear();
-    slider.setRange(0, 100);
-    QCOMPARE(slider.doubleValue(), isBlocked ? 7.25 : 5.0);
-    QCOMPARE(spy.count(), isBlocked ? 1 : 0);
-}
-
-void tst_OvDoubleSlider::infiniteValueFollowsTheRange()
-{
-    OvDoubleSlider slider;
-    slider.setDoubleValue(infinity);
-    QCOMPARE(slider.doubleValue(), 99.0);
-    slider.setRange(0, 200);
-    QCOMPARE(slider.doubleValue(), 200.0);
-}
-
-void tst_OvDoubleSlider::badMultipliersAreIgnored_data()
-{
-    QTest::addColumn<double>("multiplier");
-    QTest::newRow("zero") << 0.0;
-    QTest::newRow("negative") << -0.5;
-    QTest::newRow("infinite") << infinity;
-    QTest::newRow("not a number") << std::nan("");
-    QTest::newRow("the same") << 0.5;
-}
-
-void tst_OvDoubleSlider::badMultipliersAreIgnored()
-{
-    QFETCH(double, multiplier);
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.5);
-    slider.setDoubleValue(3.25);
-    QSignalSpy changed(&slider, &OvDoubleSlider::multiplierChanged);
-    slider.setMultiplier(multiplier);
-    QCOMPARE(slider.multiplier(), 0.5);
-    QCOMPARE(slider.doubleValue(), 3.25);
-    QCOMPARE(changed.count(), 0);
-}
-
-void tst_OvDoubleSlider::notANumberIsIgnored()
-{
-    OvDoubleSlider slider;
-    slider.setDoubleValue(3.25);
-    slider.setDoubleValue(std::nan(""));
-    QCOMPARE(slider.doubleValue(), 3.25);
-}
-
-void tst_OvDoubleSlider::noNegativeZero()
-{
-    OvDoubleSlider slider;
-    slider.setDoubleValue(1.0);
-    slider.setDoubleValue(-0.0);
-    QVERIFY(!std::signbit(slider.doubleValue()));
-}
-
-void tst_OvDoubleSlider::signalsOfADoubleValue()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
-    QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
-    slider.setDoubleValue(0.72);
-    QCOMPARE(steps.count(), 1);
-    QCOMPARE(steps.at(0), QVariantList{7});
-    QCOMPARE(values.count(), 1);
-    QCOMPARE(values.at(0), QVariantList{0.72});
-    slider.setDoubleValue(0.72);
-    QCOMPARE(steps.count(), 1);
-    QCOMPARE(values.count(), 1);
-}
-
-void tst_OvDoubleSlider::signalsBetweenTwoSteps()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    slider.setDoubleValue(0.72);
-    QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
-    QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
-    slider.setDoubleValue(0.73);
-    QCOMPARE(steps.count(), 0);
-    QCOMPARE(values.count(), 1);
-    QCOMPARE(values.at(0), QVariantList{0.73});
-}
-
-void tst_OvDoubleSlider::signalsOfTheMultiplier()
-{
-    OvDoubleSlider slider;
-    slider.setDoubleValue(5.0);
-    QStringList log;
-    connect(&slider, &QAbstractSlider::valueChanged, this,
-            [&log](int step) { log << QStringLiteral("step %1").arg(step); });
-    connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
-            [&log](double value) { log << QStringLiteral("value %1").arg(value); });
-    connect(&slider, &OvDoubleSlider::multiplierChanged, this,
-            [&log](double multiplier) { log << QStringLiteral("multiplier %1").arg(multiplier); });
-    slider.setMultiplier(0.5);
-    QCOMPARE(log, (QStringList{QStringLiteral("step 10"), QStringLiteral("multiplier 0.5")}));
-    log.clear();
-    slider.setValue(20);
-    log.clear();
-    slider.setMultiplier(0.25);
-    QCOMPARE(log, (QStringList{QStringLiteral("value 5"), QStringLiteral("multiplier 0.25")}));
-    log.clear();
-    slider.setMultiplier(0.01);
-    slider.setDoubleValue(0.9);
-    log.clear();
-    slider.setMultiplier(0.001);
-    QCOMPARE(log, (QStringList{QStringLiteral("value 0.099"), QStringLiteral("step 99"),
-                               QStringLiteral("multiplier 0.001")}));
-}
-
-void tst_OvDoubleSlider::signalsAreCoherent()
-{
-    OvDoubleSlider slider;
-    QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
-    QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
-    connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
-            [&slider](double value) { QVERIFY(value == slider.doubleValue()); });
-    connect(&slider, &QAbstractSlider::valueChanged, this, [&slider](int step) {
-        QVERIFY(std::abs(slider.doubleValue() - step * slider.multiplier()) <=
-                slider.multiplier() * 0.5000001);
-    });
-    slider.setMultiplier(0.1);
-    slider.setDoubleValue(0.72);
-    slider.setRange(-30, 50);
-    slider.setDoubleValue(17.0);
-    slider.setRange(0, 500);
-    slider.setDoubleValue(17.0);
-    slider.setMultiplier(0.7);
-    slider.setValue(3);
-    slider.setRange(10, 20);
-    QVERIFY(steps.count() >= 5);
-    QVERIFY(values.count() >= 5);
-}
-
-void tst_OvDoubleSlider::signalAfterABlockedChange()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    slider.setValue(5);
-    QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-    slider.blockSignals(true);
-    slider.setValue(8);
-    slider.setRange(0, 50);
-    slider.blockSignals(false);
-    QCOMPARE(slider.doubleValue(), 0.8);
-    slider.setValue(5);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0), QVariantList{0.5});
-    slider.blockSignals(true);
-    slider.setDoubleValue(0.8);
-    slider.blockSignals(false);
-    slider.setDoubleValue(0.5);
-    QCOMPARE(spy.count(), 2);
-}
-
-void tst_OvDoubleSlider::listenerSetsAnotherValue()
-{
-    OvDoubleSlider slider;
-    slider.setMultiplier(0.1);
-    QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-    connect(&slider, &OvDoubleSlider::doubleValueChanged, &slider, [&slider](double value) {
-        if (value < 5.0) {
-            slider.setDoubleValue(5.05);
-        }
-    });
-    slider.setDoubleValue(1.0);
-    QCOMPARE(slider.doubleValue(), 5.05);
-    QCOMPARE(slider.value(), 51);
-    QCOMPARE(spy.last(), QVariantList{5.05});
-    slider.setValue(3);
-    QCOMPARE(slider.doubleValue(), 5.05);
-}
-
-void tst_OvDoubleSlider::keysAndDragMoveByWholeSteps()
-{
-    OvDoubleSlider slider;
-    slider.setOrientation(Qt::Horizontal);
-    slider.resize(200, 30);
-    slider.setMultiplier(0.01);
-    slider.setRange(0, 100);
-    slider.setDoubleValue(0.304);
-    QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-    QTest::keyClick(&slider, Qt::Key_Right);
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(slider.doubleValue() == 0.31);
-    QTest::mouseClick(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(199, 15));
-    QCOMPARE(slider.doubleValue(), 1.0);
-}
-
-void tst_OvDoubleSlider::withoutTracking()
-{
-    OvDoubleSlider slider;
-    slider.setOrientation(Qt::Horizontal);
-    slider.resize(200, 30);
-    slider.setMultiplier(0.01);
-    slider.setRange(0, 100);
-    slider.setTracking(false);
-    slider.setDoubleValue(0.304);
-    QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-    QTest::mousePress(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(199, 15));
-    QCOMPARE(slider.doubleValue(), 0.304);
-    QTest::mouseRelease(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(199, 15));
-    QCOMPARE(slider.doubleValue(), 1.0);
-    QCOMPARE(spy.count(), 1);
-}
-
-void tst_OvDoubleSlider::deletedByAListener_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<int>("action");
-    const char* const signalNames[] = {"valueChanged", "doubleValueChanged", "multiplierChanged"};
-    const char* const actionNames[] = {"setDoubleValue", "setValue", "setMultiplier", "click"};
-    for (int signal = 0; signal < 3; ++signal) {
-        for (int action = 0; action < 4; ++action) {
-            if (signal != 2 || action == 2) {
-                QTest::addRow("%s by %s", signalNames[signal], actionNames[action]) << signal << action;
-            }
-        }
-    }
-}
-
-void tst_OvDoubleSlider::deletedByAListener()
-{
-    QFETCH(int, signal);
-    QFETCH(int, action);
-    const QPointer<OvDoubleSlider> slider(new OvDoubleSlider);
-    slider->resize(30, 200);
-    slider->setDoubleValue(5.0);
-    const auto destroy = [target = slider.data()] { delete target; };
-    switch (signal) {
-    case 0:
-        connect(slider, &QAbstractSlider::valueChanged, this, destroy);
-        break;
-    case 1:
-        connect(slider, &OvDoubleSlider::doubleValueChanged, this, destroy);
-        break;
-    default:
-        connect(slider, &OvDoubleSlider::multiplierChanged, this, destroy);
-    }
-    switch (action) {
-    case 0:
-        slider->setDoubleValue(7.25);
-        break;
-    case 1:
-        slider->setValue(7);
-        break;
-    case 2:
-        slider->setMultiplier(0.01);
-        break;
-    default: {
-        QMouseEvent press(QEvent::MouseButtonPress, QPoint(15, 2), QPoint(15, 2), Qt::LeftButton,
-                          Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(slider, &press);
-    }
-    }
-    QVERIFY(slider.isNull());
-}
-
-void tst_OvDoubleSlider::extremes()
-{
-    OvDoubleSlider slider;
-    slider.setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    slider.setDoubleValue(1e300);
-    QCOMPARE(slider.value(), std::numeric_limits<int>::max());
-    QCOMPARE(slider.doubleValue(), 2147483647.0);
-    slider.setMultiplier(1e300);
-    QCOMPARE(slider.value(), 1);
-    QCOMPARE(slider.doubleValue(), 1e300);
-    slider.setDoubleValue(-infinity);
-    QVERIFY(std::isfinite(slider.doubleValue()));
-    slider.setMultiplier(std::numeric_limits<double>::denorm_min());
-    QCOMPARE(slider.value(), std::numeric_limits<int>::min());
-    slider.setDoubleValue(0.0);
-    QCOMPARE(slider.value(), 0);
-}
-
-void tst_OvDoubleSlider::speaksUnits()
-{
-    OvDoubleSlider slider;
-    slider.setRange(0, 100);
-    slider.setMultiplier(0.01);
-    slider.setDoubleValue(0.4);
-    QAccessibleInterface& interface = reader(&slider);
-    QCOMPARE(interface.role(), QAccessible::Slider);
-    QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("0.4"));
-    QAccessibleValueInterface* const value = interface.valueInterface();
-    QVERIFY(value);
-    QCOMPARE(value->currentValue().toDouble(), 0.4);
-    QCOMPARE(value->minimumValue().toDouble(), 0.0);
-    QCOMPARE(value->maximumValue().toDouble(), 1.0);
-    QCOMPARE(value->minimumStepSize().toDouble(), 0.01);
-    QSignalSpy changes(&slider, &OvDoubleSlider::doubleValueChanged);
-    value->setCurrentValue(0.7);
-    QCOMPARE(slider.doubleValue(), 0.7);
-    QCOMPARE(changes.size(), 1);
-}
 
 UIC_TEST_MAIN(tst_OvDoubleSlider)
 #include "tst_OvDoubleSlider.moc"
