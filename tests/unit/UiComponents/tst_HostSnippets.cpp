@@ -35,8 +35,8 @@ private Q_SLOTS:
         PopupColorPicker::Options options;
         options.nullColor = true; // the panel offers "no colour" too
         auto* picker = new PopupColorPicker(options);
-        picker->setPipette(
-            &videoPicker); // what its pipette button starts; by default it picks from the screen
+        // What its pipette button starts. By default it picks from the screen.
+        picker->setPipette(&videoPicker);
         auto* field = new ColorInputWidget(inspector, color);
         field->setPicker(picker);
         //! [colour]
