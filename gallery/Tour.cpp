@@ -4,7 +4,10 @@
 #include "MessageWatch.h"
 #include "Page.h"
 #include "PageRegistry.h"
+#include "SignalLogView.h"
 #include "StyleController.h"
+
+#include <UiComponents/PathSelectionWidget.h>
 
 #include <QApplication>
 #include <QDir>
@@ -23,6 +26,24 @@ void settle()
     constexpr int Rounds = 4;
     for (int i = 0; i < Rounds; ++i) {
         QCoreApplication::processEvents();
+    }
+}
+
+/// A folder field reports what it was given a tenth of a second later, and takes back the mark of an error.
+void awaitFolders(const MainWindow& window)
+{
+    int reports = 0;
+    const QObject untilThen;
+    const auto folders = window.findChildren<PathSelectionWidget*>();
+    for (const PathSelectionWidget* folder : folders) {
+        if (!folder->path().isEmpty()) {
+            ++reports;
+            QObject::connect(folder, &PathSelectionWidget::pathChanged, &untilThen,
+                             [&reports] { --reports; });
+        }
+    }
+    while (reports > 0) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
 
@@ -82,11 +103,14 @@ void Tour::render(const QString& page, const QString& style)
         window.setAttribute(Qt::WA_DontShowOnScreen);
         window.resize(PictureSize);
         window.show();
+        awaitFolders(window);
         settle();
         if (!window.page()) {
             m_failures.append(QStringLiteral("%1: the page cannot be built").arg(name));
             return;
         }
+        // The paths in it are this machine's.
+        window.page()->signalLog()->clear();
         window.page()->prepareForPicture();
         settle();
         if (!picture(&window).save(QDir(m_request.tourFolder).filePath(name))) {

@@ -79,7 +79,8 @@ public:
     const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalCodeOnly>();
     // Owned, but a parent may delete them first.
     const QPointer<QWidget> container = new QWidget;
-    const QPointer<SceneView> view = new SceneView;
+    // A scene may change its size while the view dies, and is no SceneView any more.
+    const QPointer<QQuickWidget> view = new SceneView;
     int state = Undefined;
 };
 

@@ -758,9 +758,10 @@ private Q_SLOTS:
         button->click();
         QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("learnMoreLabel"));
-        connect(qApp, &QApplication::focusChanged, button.get(),
-                [&button] { button->setGuideInfo(nullptr); });
+        const auto taking = connect(qApp, &QApplication::focusChanged, button.get(),
+                                    [&button] { button->setGuideInfo(nullptr); });
         button->click();
+        disconnect(taking);
         QVERIFY(!button->hasGuideInfo());
         QCOMPARE(popups(*button).size(), 1);
         QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
