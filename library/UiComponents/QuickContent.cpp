@@ -5,6 +5,7 @@
 
 #include <FileSystem/FS.h>
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlAbstractUrlInterceptor>
 #include <QQmlContext>
@@ -19,18 +20,24 @@
 
 namespace {
 
-bool isLocal(const QUrl& url)
+// Qt would wait for ever for what a pipe never says, and not survive a file that is too large for it.
+bool isLoadable(const QUrl& url)
 {
-    return url.isLocalFile() || url.scheme() == QLatin1String("qrc");
+    if (!url.isLocalFile()) {
+        return url.scheme() == QLatin1String("qrc");
+    }
+    constexpr qint64 largest = 64 * 1024 * 1024;
+    const QFileInfo file(url.toLocalFile());
+    return !file.exists() || file.isDir() || (file.isFile() && file.size() <= largest);
 }
 
-// Refuses code from other machines. Called in the engine's loading thread too.
-class LocalCodeOnly : public QQmlAbstractUrlInterceptor
+// Refuses code from other machines as well. Called in the engine's loading thread too.
+class LocalFilesOnly : public QQmlAbstractUrlInterceptor
 {
 public:
     QUrl intercept(const QUrl& url, DataType type) override
     {
-        if (type == UrlString || url.isEmpty() || isLocal(url)) {
+        if (type == UrlString || url.isEmpty() || isLoadable(url)) {
             return url;
         }
         LOG(WARNING) << "Refused to load as qml: " << url.toString().toStdString();
@@ -76,7 +83,7 @@ public:
 
     void fitContainer(const QSizeF& size) const;
 
-    const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalCodeOnly>();
+    const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalFilesOnly>();
     // Owned, but a parent may delete them first.
     const QPointer<QWidget> container = new QWidget;
     // A scene may change its size while the view dies, and is no SceneView any more.

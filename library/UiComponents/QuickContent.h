@@ -33,7 +33,8 @@ namespace Qml {
  *
  * **Files.** Only local files are loaded as QML. A path is never taken for a URL: "https://..." and
  * "qrc:/..." are files that do not exist. A loaded file cannot fetch components, modules or scripts from
- * another machine; such an import fails with a glog warning. Images and data are the scene's own affair.
+ * another machine, nor pipes, devices and files of more than 64 MiB; such an import fails with a glog
+ * warning. Images and data are the scene's own affair.
  *
  * **Size.** The container has the fixed size of the root item, rounded, and follows its changes; a size that
  * is not valid changes nothing.

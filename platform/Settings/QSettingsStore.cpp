@@ -1,22 +1,77 @@
 #include "QSettingsStore.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
 #include <QSettings>
+#include <QTemporaryFile>
 
 #include <memory>
 
 namespace {
 
-// Opened for each call: the host may construct widgets before it sets its organisation and name.
+// QSettings takes a larger one for an empty one, which it then writes over, or for all of the memory.
+constexpr qint64 largestFile = 64 * 1024 * 1024;
+
+/// Of QSettings, which is not opened to ask it: it would wait for ever for what a pipe never says. A
+/// neighbour is asked that does not exist.
+QString pathOf(const QString& organization, const QString& application, QSettings::Format format)
+{
+    const QString nobody = QStringLiteral("no-organization");
+    const QFileInfo neighbour(QSettings(format, QSettings::UserScope, nobody, application).fileName());
+    return QFileInfo(neighbour.path()).dir().filePath(organization + QLatin1Char('/') + neighbour.fileName());
+}
+
+// Opened for each call: the host may construct widgets before it sets its organisation and name. Null where
+// there is something else than a file of settings.
 std::unique_ptr<QSettings> open()
 {
-    const bool hasOrganization =
-        !QCoreApplication::organizationName().isEmpty() || !QCoreApplication::organizationDomain().isEmpty();
-    if (hasOrganization) {
-        return std::make_unique<QSettings>();
-    }
+    const QString name = QCoreApplication::organizationName();
+    const QString organization = name.isEmpty() ? QCoreApplication::organizationDomain() : name;
     const QString application = QCoreApplication::applicationName();
-    return std::make_unique<QSettings>(application, application);
+    const QString path = organization.isEmpty()
+                             ? pathOf(application, application, QSettings::NativeFormat)
+                             : pathOf(organization, application, QSettings::defaultFormat());
+    const QFileInfo file(path);
+    if (file.exists() && (!file.isFile() || file.size() > largestFile)) {
+        qWarning("This is no file of settings: %s", qUtf8Printable(path));
+        return nullptr;
+    }
+    return organization.isEmpty() ? std::make_unique<QSettings>(application, application)
+                                  : std::make_unique<QSettings>();
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Of all keys but @p key.
+QSet<QByteArray> linesOf(const QByteArray& contents, const QString& key)
+{
+    QSet<QByteArray> lines;
+    const QByteArrayList all = contents.split('\n');
+    for (const QByteArray& line : all) {
+        if (!line.startsWith(key.toLatin1() + '=')) {
+            lines.insert(line.trimmed());
+        }
+    }
+    return lines;
+}
+
+/// QSettings drops comments, lines that it does not understand and values of types that it does not know.
+void keepWhatIsLost(const QByteArray& before, const QString& path, const QString& key)
+{
+    if (linesOf(contentsOf(path), key).contains(linesOf(before, key))) {
+        return;
+    }
+    QTemporaryFile copy(path + QStringLiteral(".before-XXXXXX"));
+    copy.setAutoRemove(false);
+    const bool isKept = copy.open() && copy.write(before) == before.size();
+    qWarning("QSettings dropped lines of %s, now in %s", qUtf8Printable(path),
+             isKept ? qUtf8Printable(copy.fileName()) : "no place");
 }
 
 } // namespace
@@ -24,6 +79,9 @@ std::unique_ptr<QSettings> open()
 QVariant QSettingsStore::read(const QString& key) const
 {
     const auto settings = open();
+    if (!settings) {
+        return {};
+    }
     settings->sync(); // reads what other processes wrote, which opening does for files only
     return settings->value(key);
 }
@@ -31,8 +89,17 @@ QVariant QSettingsStore::read(const QString& key) const
 bool QSettingsStore::write(const QString& key, const QVariant& value)
 {
     const auto settings = open();
+    if (!settings) {
+        return false;
+    }
+    const QString path = settings->fileName();
+    const QByteArray before = contentsOf(path);
     settings->setValue(key, value);
     settings->sync();
     // A format error is about lines of other programs; this value is written regardless.
-    return settings->status() != QSettings::AccessError;
+    if (settings->status() == QSettings::AccessError) {
+        return false;
+    }
+    keepWhatIsLost(before, path, key);
+    return true;
 }

@@ -20,7 +20,12 @@
  * processes that interleave theirs, the last one to write wins.
  *
  * Where the store cannot be written (a full disk, a read-only home), the value stays in memory until the end
- * of the program or a later write that succeeds, and nothing is reported.
+ * of the program or a later write that succeeds, and nothing is reported. The same holds for what is no file
+ * of settings: a folder, a pipe, more than 64 MiB; then Qt's log gets a warning.
+ *
+ * QSettings writes the file anew and drops what it does not understand: comments, broken lines, values of
+ * unknown types. A file that loses such lines is kept beside the new one, ".before-" and some letters behind
+ * its name, with a warning in Qt's log.
  *
  * For one thread only, usually the GUI thread.
  */

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QMovie>
 #include <QPaintEngine>
 #include <QPainter>
@@ -15,6 +16,20 @@ namespace {
 
 // Larger pictures are scaled while they are painted, which takes no memory.
 constexpr qint64 maxScaledPixels = 4096 * 4096;
+// A broken movie may be read to its end for the first frame, and a few bytes may claim all of the memory.
+constexpr qint64 maxBytes = 256 * 1024 * 1024;
+constexpr qint64 maxPixels = 8192 * 8192;
+
+/// Opening a pipe would block until somebody writes into it.
+bool isLoadable(const QString& path)
+{
+    const QFileInfo file(path);
+    if (path.contains(QChar(0)) || !file.isFile() || file.size() > maxBytes) {
+        return false;
+    }
+    const QSize size = QImageReader(path).size();
+    return !size.isValid() || qint64(size.width()) * size.height() <= maxPixels;
+}
 
 } // namespace
 
@@ -154,8 +169,7 @@ void OvPixmapWidget::setMoviePath(const QString& path)
     }
     d->path = path;
     std::unique_ptr<QMovie> loaded;
-    // Opening a pipe would block until somebody writes into it.
-    if (!path.contains(QChar(0)) && QFileInfo(path).isFile()) {
+    if (isLoadable(path)) {
         loaded = std::make_unique<QMovie>(path);
         // A file may have a valid header and no frame. Starting reads the first frame only; counting frames
         // would read the whole file, and a jump would make a later start begin with the second.

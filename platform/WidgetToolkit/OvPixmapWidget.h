@@ -34,9 +34,9 @@ public:
     /// The path that was set, also if it gave no movie; empty by default.
     QString moviePath() const;
 
-    /// Loads the image at @p path in place of the current one. An empty path, a missing file and a file that
-    /// is no image leave the widget without a movie and report nothing. The same path again does nothing, but
-    /// loads again if there is no movie.
+    /// Loads the image at @p path in place of the current one. An empty path, a missing file, a file that is
+    /// no image, and one of more than 8192 x 8192 pixels or 256 MiB leave the widget without a movie and
+    /// report nothing. The same path again does nothing, but loads again if there is no movie.
     void setMoviePath(const QString& path);
 
     /// The movie, to start and stop; null while there is none. The widget owns it and deletes it when another

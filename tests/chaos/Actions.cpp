@@ -615,6 +615,8 @@ void readAloud(World& world)
     if (QAccessibleActionInterface* const actions = reader->actionInterface()) {
         const QStringList names = actions->actionNames();
         if (!names.isEmpty()) {
+            // Qt presses buttons with animateClick().
+            const Under acting(world, Doing::Forcing, widget, "action");
             actions->doAction(world.random.oneOf(std::vector<QString>(names.begin(), names.end())));
         }
     }

@@ -1,6 +1,5 @@
 #include "GlogCapture.h"
 #include "MetaObject.h"
-#include "NormalUser.h"
 #include "QmlFiles.h"
 #include "TestMain.h"
 
@@ -13,6 +12,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QVBoxLayout>
+
+#include <sys/stat.h>
 
 using Qml::QuickContent;
 
@@ -182,23 +183,6 @@ private Q_SLOTS:
         QCOMPARE(m_log->take(), QStringList{NoRoot});
         QVERIFY(!content.isAvailable());
         QVERIFY(!content.isUndefined());
-    }
-
-    void unreadableFile()
-    {
-        const QString path = m_files->item(QStringLiteral("width: 1; height: 1"));
-        QVERIFY(QFile::setPermissions(m_files->path(), QFile::Permissions(0x5755)));
-        QVERIFY(QFile::setPermissions(path, QFile::Permissions()));
-        const auto load = [&path] {
-            // Qt says in its own words that it cannot open the file; what is said depends on the user.
-            const QtMessageHandler before = qInstallMessageHandler([](auto, const auto&, const auto&) {});
-            GlogCapture log;
-            QuickContent content;
-            content.load(path);
-            qInstallMessageHandler(before);
-            return !content.isAvailable() && !content.isUndefined() && log.take() == QStringList{NoRoot};
-        };
-        QCOMPARE(askAsNormalUser(load), Answer::Yes);
     }
 
     void filesWithoutARootItem_data()
@@ -380,6 +364,37 @@ private Q_SLOTS:
         fence.connectToHost(QHostAddress::LocalHost, server.serverPort());
         QTRY_VERIFY(asked.count() > 0);
         QCOMPARE(asked.count(), 1);
+    }
+
+    void pipesAreRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("warnings");
+
+        QTest::newRow("list of a folder") << QStringLiteral("qmldir") << QStringList();
+        QTest::newRow("script") << QStringLiteral("script.js")
+                                << QStringList{QStringLiteral("Script .*unavailable"),
+                                               QStringLiteral("Invalid null URL")};
+    }
+
+    // Qt would wait for ever for somebody to write into them.
+    void pipesAreRefused()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, warnings);
+        const QString path = QDir(m_files->path()).filePath(name);
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        for (const QString& warning : warnings) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
+        }
+        const QString script = QStringLiteral("import \"script.js\" as Script\n");
+        QuickContent content;
+        content.load(m_files->file(QStringLiteral("main.qml"),
+                                   (name.endsWith(QLatin1String(".js")) ? script : QString()) +
+                                       QmlFiles::itemText(QStringLiteral("width: 5"))));
+        QCOMPARE(content.isAvailable(), warnings.isEmpty());
+        QVERIFY(m_log->take().contains(QStringLiteral("WARNING QuickContent.cpp: Refused to load as qml: ") +
+                                       QUrl::fromLocalFile(path).toString()));
     }
 
     void codeFromTheDiskIsLoaded()
