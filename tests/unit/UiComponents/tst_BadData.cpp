@@ -3,11 +3,16 @@
 #include "TestMain.h"
 
 #include <Settings/Settings.h>
+#include <UiComponents/AdjustingListView.h>
+#include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/GuideWidget.h>
 #include <UiComponents/QuickContent.h>
+#include <WidgetToolkit/OvComboBox.h>
 
 #include <QLabel>
 #include <QSettings>
+#include <QTranslator>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -83,15 +88,59 @@ bool isKept(const QByteArray& before, const QString& folder)
            });
 }
 
+/// A model that keeps no promise.
+class BadModel : public QAbstractListModel
+{
+public:
+    BadModel(int rows, QVariant value)
+        : m_rows(rows)
+        , m_value(std::move(value))
+    {
+    }
+    int rowCount(const QModelIndex& = {}) const override { return m_rows; }
+    QVariant data(const QModelIndex&, int = 0) const override { return m_value; }
+    Qt::ItemFlags flags(const QModelIndex&) const override { return ~Qt::ItemFlags(); }
+
+private:
+    const int m_rows;
+    const QVariant m_value;
+};
+
+/// What of a host's data is on the screen all the time.
+struct Window : QWidget
+{
+    Window()
+    {
+        auto* const layout = new QVBoxLayout(this);
+        for (QWidget* part : std::initializer_list<QWidget*>{&panel, &guide, &list, &box}) {
+            layout->addWidget(part);
+        }
+        show();
+    }
+
+    ColorPickerWidget panel{nullptr, true};
+    GuideWidget guide{GuideInfo("title", "description", "more", {}), nullptr};
+    AdjustingListView list{nullptr};
+    OvComboBox box{nullptr};
+};
+
+void mute(QtMsgType, const QMessageLogContext&, const QString&) {}
+
 } // namespace
 Q_DECLARE_METATYPE(Make)
 Q_DECLARE_METATYPE(Use)
 
-class tst_BadFiles : public QObject
+class tst_BadData : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        Q_INIT_RESOURCE(styles);
+        Q_INIT_RESOURCE(translations);
+    }
+
     void survives_data()
     {
         const std::pair<const char*, Make> kinds[] = {
@@ -172,7 +221,86 @@ private Q_SLOTS:
         QVERIFY(QDir(folder).removeRecursively());
         QVERIFY2(survives(), qPrintable(logged));
     }
+
+    void models_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QVariant>("value");
+        for (const int rows : {0, 3, 1000}) {
+            for (const QVariant& value :
+                 {QVariant(), QVariant(QVariantMap()), QVariant(QSize(-9, 1 << 30)), QVariant(1e300),
+                  QVariant(QString(QChar(0xd800)).repeated(5000)), QVariant(QPixmap(0, 0))}) {
+                QTest::addRow("%d times %s", rows, value.typeName()) << rows << value;
+            }
+        }
+    }
+
+    void models()
+    {
+        QFETCH(int, rows);
+        QFETCH(QVariant, value);
+        BadModel model(rows, value);
+        Window window;
+        window.list.setModel(&model);
+        window.box.setModel(&model);
+        QCoreApplication::processEvents();
+        window.box.showPopup();
+        QVERIFY(!window.grab().isNull());
+        QCOMPARE(window.box.count(), rows);
+    }
+
+    void sheets_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QFile file(":/styles/dark.qss");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString sheet = QString::fromUtf8(file.readAll());
+        constexpr int parts = 12;
+        for (int i = 0; i < parts; ++i) {
+            QTest::addRow("cut after %d", i) << sheet.left(sheet.size() * i / parts);
+        }
+        QTest::newRow("another encoding")
+            << QString(sheet).replace('a', QChar(0)).replace('{', QChar(0xd800));
+        QTest::newRow("impossible values")
+            << "* { qproperty-layoutMargin: red; qproperty-layoutSpacing: 99999999999; "
+               "qproperty-currentColor: 7;"
+               " qproperty-minimumSize: -4; font-size: 99999px; margin: -3px; border-radius: 1e9px; }";
+        QTest::newRow("pictures that are none")
+            << "* { border-image: url(/nowhere.png) 9 9; image: url(:/x); }";
+    }
+
+    void sheets()
+    {
+        QFETCH(QString, sheet);
+        const QtMessageHandler handler = qInstallMessageHandler(mute);
+        Window window;
+        window.setStyleSheet(sheet);
+        QCoreApplication::processEvents();
+        const bool isPainted = !window.grab().isNull();
+        qInstallMessageHandler(handler);
+        QVERIFY(isPainted);
+    }
+
+    void translations()
+    {
+        QFile file(":/translations/uicomponents_de.qm");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray good = file.readAll();
+        Window window;
+        constexpr int step = 97;
+        int loaded = 0;
+        for (int length = good.size(); length > 0; length -= step) {
+            const QByteArray cut = good.left(length);
+            QTranslator translator;
+            if (translator.load(reinterpret_cast<const uchar*>(cut.constData()), cut.size())) {
+                QCoreApplication::installTranslator(&translator);
+                QCoreApplication::processEvents();
+                ++loaded;
+            }
+        }
+        QVERIFY(loaded > 1);
+    }
 };
 
-UIC_TEST_MAIN(tst_BadFiles)
-#include "tst_BadFiles.moc"
+UIC_TEST_MAIN(tst_BadData)
+#include "tst_BadData.moc"
