@@ -5,16 +5,23 @@
 #include <QMetaProperty>
 #include <QStringList>
 
-/// The methods that a class adds to its base class, in order, as "signal colorChanged(QColor)". Those
-/// that only repeat another with fewer arguments are listed too.
+/// The methods that a class adds to its base class, in order, as "signal colorChanged(QColor color)" or
+/// "protected method QPoint place()". Those that only repeat another with fewer arguments are listed too.
 inline QStringList ownMethods(const QMetaObject& meta)
 {
-    static const char* const kinds[] = {"method", "signal", "slot", "constructor"};
+    static const char* const access[] = {"private ", "protected ", ""};
+    static const char* const kinds[] = {"method ", "signal ", "slot ", "constructor "};
     QStringList result;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         const QMetaMethod method = meta.method(i);
-        result += QLatin1String(kinds[method.methodType()]) + QLatin1Char(' ') +
-                  QString::fromLatin1(method.methodSignature());
+        QByteArrayList parameters = method.parameterTypes();
+        for (int j = 0; j < parameters.size(); ++j) {
+            parameters[j] += ' ' + method.parameterNames().at(j);
+        }
+        const QByteArray type =
+            method.returnType() == QMetaType::Void ? "" : method.typeName() + QByteArray(" ");
+        result += QString::fromLatin1(access[method.access()] + (kinds[method.methodType()] + type) +
+                                      method.name() + '(' + parameters.join(',') + ')');
     }
     return result;
 }

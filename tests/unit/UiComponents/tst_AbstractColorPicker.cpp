@@ -1,5 +1,4 @@
 #include "FakeColorPicker.h"
-#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <UiComponents/AbstractColorPicker.h>
@@ -14,7 +13,6 @@ class tst_AbstractColorPicker : public QObject
 
 private Q_SLOTS:
     void colorIsAMetaType(); // first, for a connection elsewhere would register the type as well
-    void metaObject();
     void slotCallsTheVirtual();
     void parentOwns();
     void queuedConnectionCarriesTheColor();
@@ -26,17 +24,6 @@ void tst_AbstractColorPicker::colorIsAMetaType()
     const int byName = QMetaType::type("std::optional<QColor>");
     QVERIFY(byName != QMetaType::UnknownType);
     QCOMPARE(byName, qMetaTypeId<OptionalColor>());
-}
-
-void tst_AbstractColorPicker::metaObject()
-{
-    const QMetaObject& meta = AbstractColorPicker::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("AbstractColorPicker"));
-    QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(std::optional<QColor>)"),
-                                            QStringLiteral("signal pickingStopped()"),
-                                            QStringLiteral("slot setColor(std::optional<QColor>)")}));
-    QCOMPARE(ownProperties(meta), QStringList());
-    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
 }
 
 void tst_AbstractColorPicker::slotCallsTheVirtual()

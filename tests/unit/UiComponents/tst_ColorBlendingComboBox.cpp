@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "PaintCount.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -113,16 +112,6 @@ class tst_ColorBlendingComboBox : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Q_INIT_RESOURCE(translations); }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = ColorBlendingComboBox::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorBlendingComboBox"));
-        QCOMPARE(meta.superClass(), &OvComboBox::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList{QStringLiteral("signal blendingModeChanged(BlendingMode)")});
-        QCOMPARE(ownProperties(meta), QStringList());
-        QCOMPARE(meta.enumeratorCount(), OvComboBox::staticMetaObject.enumeratorCount());
-    }
 
     void startsWithSourceOver()
     {

@@ -1,6 +1,5 @@
 #include "FakeColorPicker.h"
 #include "FocusedBy.h"
-#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorInputWidget.h>
@@ -28,16 +27,6 @@ class tst_ColorInputWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        const QMetaObject& meta = ColorInputWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorInputWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
-
     void construction()
     {
         QWidget parent;

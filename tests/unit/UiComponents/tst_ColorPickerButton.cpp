@@ -1,6 +1,5 @@
 #include "FakeColorPicker.h"
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerButton.h>
@@ -65,19 +64,6 @@ class tst_ColorPickerButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        const QMetaObject& meta = ColorPickerButton::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPickerButton"));
-        QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
-        QCOMPARE(
-            ownMethods(meta),
-            QStringList({QStringLiteral("signal pickingStarted()"), QStringLiteral("signal pickingStopped()"),
-                         QStringLiteral("signal colorChanged(QColor)"), QStringLiteral("slot startPicking()"),
-                         QStringLiteral("slot stopPicking()")}));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
-
     void construction()
     {
         QWidget parent;

@@ -1,7 +1,6 @@
 #include "Deletion.h"
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
-#include "MetaObject.h"
 #include "MouseEvents.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
@@ -269,22 +268,6 @@ private Q_SLOTS:
 
     void cleanupTestCase() { Settings::setStore(nullptr); }
 
-    void metaObject()
-    {
-        const QMetaObject& meta = ColorPickerWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPickerWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)"),
-                                                QStringLiteral("signal pipetteRequested()"),
-                                                QStringLiteral("signal closeRequested()")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("color"));
-        QCOMPARE(ownProperties(meta), QStringList{QStringLiteral("int colorDialogOffset r")});
-        const Panel panel;
-        QCOMPARE(panel.property("colorDialogOffset").toInt(), 0);
-        QCOMPARE(panel.GetcolorDialogOffset(), 0);
-        static_assert(std::is_same_v<decltype(panel.currentColor()), const OptionalColor&>);
-    }
-
     void parts_data()
     {
         QTest::addColumn<QString>("className");
@@ -441,6 +424,9 @@ private Q_SLOTS:
             QVERIFY(panel.opacityAdjustmentAvailable());
             QCOMPARE(panel.log(), QStringList());
         };
+        static_assert(std::is_same_v<decltype(panel.currentColor()), const OptionalColor&>);
+        QCOMPARE(panel.property("colorDialogOffset").toInt(), 0);
+        QCOMPARE(panel.GetcolorDialogOffset(), 0);
         check();
         panel.show();
         QVERIFY(panel.part<OvFrame>("opacityPanel")->isVisible());

@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "MouseEvents.h"
 #include "PaintCount.h"
 #include "TestMain.h"
@@ -205,18 +204,6 @@ private Q_SLOTS:
     {
         QVERIFY(!QWidget::mouseGrabber());
         QVERIFY(qApp->layoutDirection() == Qt::LeftToRight);
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = ColorPlaneWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("ColorPlaneWidget"));
-        QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal hsvColorChanged(QColor)")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()),
-                 QByteArray("hsvColor"));
-        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int markerRadius rw"),
-                                                   QStringLiteral("int markerBorderWidth rw")}));
     }
 
     void startsEmpty()

@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "MouseEvents.h"
 #include "TestMain.h"
 
@@ -86,16 +85,6 @@ class tst_CustomColorSelectWidget : public QObject
 
 private Q_SLOTS:
     void cleanup() { QVERIFY(!QWidget::mouseGrabber()); }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = CustomColorSelectWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("CustomColorSelectWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal colorChanged(QColor)")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("color"));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
 
     void construction()
     {

@@ -1,5 +1,4 @@
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -144,17 +143,6 @@ class tst_DialogGuideWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        const QMetaObject& meta = DialogGuideWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("DialogGuideWidget"));
-        QCOMPARE(meta.superClass(), &PointingWidget::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal secondaryClicked()"),
-                                                QStringLiteral("signal mainClicked()"),
-                                                QStringLiteral("signal closeClicked()")}));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
-
     void children()
     {
         const DialogGuideWidget bubble(nullptr);

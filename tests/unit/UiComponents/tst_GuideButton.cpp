@@ -1,5 +1,4 @@
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -128,15 +127,6 @@ class tst_GuideButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        const QMetaObject& meta = GuideButton::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("GuideButton"));
-        QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal learnMoreClicked()")}));
-        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("int popupOffset rw")}));
-    }
-
     void startsWithoutInfo()
     {
         QWidget parent;

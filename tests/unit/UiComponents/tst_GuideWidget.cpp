@@ -1,5 +1,4 @@
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "PaintCount.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
@@ -128,15 +127,6 @@ class tst_GuideWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        const QMetaObject& meta = GuideWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("GuideWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal learnMoreClicked()")}));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
-
     void children()
     {
         QWidget parent;

@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "PaintCount.h"
 #include "TestMain.h"
 
@@ -83,13 +82,6 @@ class tst_LoupeWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        QCOMPARE(ownMethods(LoupeWidget::staticMetaObject), QStringList());
-        QCOMPARE(ownProperties(LoupeWidget::staticMetaObject),
-                 QStringList{QStringLiteral("QColor emptyPixelsColor rw")});
-    }
-
     void construction()
     {
         const LoupeWidget loupe;

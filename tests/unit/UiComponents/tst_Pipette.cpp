@@ -1,6 +1,5 @@
 #include "FakePrivacy.h"
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "PaintCount.h"
 #include "PipetteWindows.h"
 #include "TestMain.h"
@@ -206,16 +205,6 @@ private Q_SLOTS:
         m_pipette.reset();
         m_window.reset();
         QVERIFY(nothingIsLeft());
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = Pipette::staticMetaObject;
-        QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
-        QCOMPARE(ownMethods(meta), (QStringList{QStringLiteral("signal pickingStarted()"),
-                                                QStringLiteral("signal pickingStopped()"),
-                                                QStringLiteral("signal colorSelected(QColor)")}));
-        QCOMPARE(ownProperties(meta), QStringList());
     }
 
     void newPipetteShowsNothing()

@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <UiComponents/PipetteScreenView.h>
@@ -123,7 +122,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void metaObject();
     void constructionCoversTheScreen_data();
     void constructionCoversTheScreen();
     void constructionMakesTheWindowOnItsScreen();
@@ -175,19 +173,6 @@ void tst_PipetteScreenView::init()
 void tst_PipetteScreenView::cleanup()
 {
     qApp->setStyleSheet(QString());
-}
-
-void tst_PipetteScreenView::metaObject()
-{
-    const QMetaObject& meta = PipetteScreenView::staticMetaObject;
-    QCOMPARE(ownMethods(meta), (QStringList{QStringLiteral("signal pickingFinished(QPoint,bool)"),
-                                            QStringLiteral("signal loupePosChanged(QPoint)"),
-                                            QStringLiteral("slot setCursorPixmap(QPixmap)"),
-                                            QStringLiteral("slot setCursorSize(QSize)"),
-                                            QStringLiteral("slot setCursorHotSpot(QSize)")}));
-    QCOMPARE(ownProperties(meta),
-             (QStringList{QStringLiteral("QPixmap cursorPixmap rw"), QStringLiteral("QSize cursorSize rw"),
-                          QStringLiteral("QSize cursorHotSpot rw")}));
 }
 
 void tst_PipetteScreenView::constructionCoversTheScreen_data()

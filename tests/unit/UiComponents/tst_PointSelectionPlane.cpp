@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "MouseEvents.h"
 #include "PaintCount.h"
 #include "TestMain.h"
@@ -104,16 +103,6 @@ class tst_PointSelectionPlane : public QObject
 
 private Q_SLOTS:
     void cleanup() { QVERIFY(!QWidget::mouseGrabber()); }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = PointSelectionPlane::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("PointSelectionPlane"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal pointChanged(QPointF)")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("point"));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
 
     void construction()
     {

@@ -1,4 +1,3 @@
-#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <UiComponents/PointSelectionPlanePropertyHelper.h>
@@ -8,19 +7,6 @@ class tst_PointSelectionPlanePropertyHelper : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject()
-    {
-        const QMetaObject& meta = PointSelectionPlanePropertyHelper::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("PointSelectionPlanePropertyHelper"));
-        QCOMPARE(meta.superClass(), &PropertyProviderBase::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList());
-        QCOMPARE(
-            ownProperties(meta),
-            QStringList({QStringLiteral("double MarkerRadius rw"), QStringLiteral("QColor MarkerColor rw"),
-                         QStringLiteral("QColor FillColor rw"), QStringLiteral("int CoordLinesWidth rw"),
-                         QStringLiteral("QColor CoordLinesColor rw")}));
-    }
-
     void initialValues()
     {
         QWidget plane;

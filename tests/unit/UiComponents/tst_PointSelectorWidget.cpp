@@ -2,7 +2,6 @@
 #include "FocusedBy.h"
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
-#include "MetaObject.h"
 #include "MouseEvents.h"
 #include "SpinBoxTyping.h"
 #include "TestMain.h"
@@ -77,16 +76,6 @@ class tst_PointSelectorWidget : public QObject
 
 private Q_SLOTS:
     void cleanup() { QVERIFY(!QWidget::mouseGrabber()); }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = PointSelectorWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("PointSelectorWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal valueChanged(QPointF)")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
-        QCOMPARE(ownProperties(meta), QStringList());
-    }
 
     void initializer()
     {

@@ -1,5 +1,6 @@
 #include "GlogCapture.h"
 #include "MetaObject.h"
+#include "NormalUser.h"
 #include "QmlFiles.h"
 #include "TestMain.h"
 
@@ -50,15 +51,6 @@ private Q_SLOTS:
         QCOMPARE(m_log->take(), QStringList());
         m_log.reset();
         m_files.reset();
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = QuickContent::staticMetaObject;
-        QCOMPARE(meta.className(), "Qml::QuickContent");
-        QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList());
-        QCOMPARE(ownProperties(meta), QStringList());
     }
 
     void freshIsUndefined()

@@ -1,6 +1,5 @@
 #include "AccessibleEars.h"
 #include "GlogCapture.h"
-#include "MetaObject.h"
 #include "QmlFiles.h"
 #include "TestMain.h"
 
@@ -133,18 +132,6 @@ private Q_SLOTS:
         QCOMPARE(m_log->take(), QStringList());
         m_log.reset();
         m_files.reset();
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = QuickDialog::staticMetaObject;
-        QCOMPARE(meta.className(), "Qml::QuickDialog");
-        QCOMPARE(meta.superClass(), &QDialog::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList{QStringLiteral("method cursorPos()")});
-        QCOMPARE(ownProperties(meta), QStringList());
-        const QMetaMethod method = meta.method(meta.methodOffset());
-        QCOMPARE(method.access(), QMetaMethod::Protected);
-        QCOMPARE(method.typeName(), "QPoint");
     }
 
     void fresh()

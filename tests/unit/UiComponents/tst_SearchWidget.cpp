@@ -1,5 +1,4 @@
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselLineEdit.h>
@@ -157,18 +156,6 @@ private Q_SLOTS:
     {
         putCursor(nullptr);
         QGuiApplication::clipboard()->clear();
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = SearchWidget::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("SearchWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({QStringLiteral("signal editingFinished(QString)"),
-                                                QStringLiteral("signal textChanged(QString)")}));
-        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("QColor PlaceholderColor rw"),
-                                                   QStringLiteral("QColor PlaceholderHoverColor rw"),
-                                                   QStringLiteral("QColor PlaceholderDisabledColor rw")}));
     }
 
     void children()

@@ -1,6 +1,5 @@
 #include "FocusedBy.h"
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "SliderField.h"
 #include "SpinBoxTyping.h"
 #include "TestMain.h"
@@ -35,19 +34,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("decimals");
         QTest::newRow("whole") << SliderField::whole;
         QTest::newRow("fractions") << 2;
-    }
-
-    void metaObject()
-    {
-        const auto field = makeField(0, 1);
-        const QMetaObject& meta = *field->widget->metaObject();
-        QCOMPARE(QByteArray(meta.className()),
-                 QByteArray(isWhole() ? "SliderInputWidget" : "DoubleSliderInputWidget"));
-        QCOMPARE(meta.superClass(), &OvFrame::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList({isWhole() ? QStringLiteral("signal valueChanged(int)")
-                                                          : QStringLiteral("signal valueChanged(double)")}));
-        QCOMPARE(QByteArray(meta.method(meta.methodOffset()).parameterNames().front()), QByteArray("value"));
-        QCOMPARE(ownProperties(meta), QStringList());
     }
 
     void initializer()

@@ -1,5 +1,4 @@
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "PickingStage.h"
 #include "TestMain.h"
 
@@ -114,15 +113,6 @@ private Q_SLOTS:
         delete m_picker;
         m_stage.reset();
         QVERIFY(!QGuiApplication::overrideCursor());
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = WidgetColorPicker::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("WidgetColorPicker"));
-        QCOMPARE(meta.superClass(), &AbstractColorPicker::staticMetaObject);
-        QCOMPARE(ownMethods(meta), QStringList());
-        QCOMPARE(ownProperties(meta), QStringList());
     }
 
     void construction()

@@ -1,5 +1,4 @@
 #include "FreedMemory.h"
-#include "MetaObject.h"
 #include "PickingStage.h"
 #include "TestMain.h"
 
@@ -62,19 +61,6 @@ private Q_SLOTS:
         m_stage.reset();
         QVERIFY(!m_button);
         QVERIFY(!QGuiApplication::overrideCursor());
-    }
-
-    void metaObject()
-    {
-        const QMetaObject& meta = WidgetColorPickerButton::staticMetaObject;
-        QCOMPARE(QByteArray(meta.className()), QByteArray("WidgetColorPickerButton"));
-        QCOMPARE(meta.superClass(), &QToolButton::staticMetaObject);
-        QCOMPARE(ownMethods(meta),
-                 QStringList({QStringLiteral("signal pickingStarted()"),
-                              QStringLiteral("signal pickingFinished()"),
-                              QStringLiteral("signal colorChanged(QColor)"),
-                              QStringLiteral("slot startPicking()"), QStringLiteral("slot stopPicking()")}));
-        QCOMPARE(ownProperties(meta), QStringList({QStringLiteral("bool changeSelfColor rw")}));
     }
 
     void construction()
