@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringList>
+#include <QString>
 #include <QWidget>
 
 /// A child of a widget that hosts know by its name: editOf(field), with Part<QLineEdit>
@@ -20,14 +20,3 @@ public:
 private:
     const char* m_name;
 };
-
-/// The names and classes of the widgets directly in @p widget, in the order of their creation.
-inline QStringList childrenOf(const QWidget* widget)
-{
-    QStringList result;
-    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget* child : children) {
-        result += child->objectName() + QLatin1Char(' ') + QLatin1String(child->metaObject()->className());
-    }
-    return result;
-}

@@ -27,22 +27,6 @@ class tst_ColorInputWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void construction()
-    {
-        QWidget parent;
-        const auto* field = new ColorInputWidget(&parent, QColor());
-        QCOMPARE(field->parentWidget(), &parent);
-        QCOMPARE(field->anchorWidget(), buttonOf(*field));
-
-        QLayout* layout = field->layout();
-        QVERIFY(layout);
-        QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        QCOMPARE(layout->count(), 1);
-        QCOMPARE(layout->itemAt(0)->widget(), field->anchorWidget());
-    }
-
     void startsAsMultipleWithoutAColor()
     {
         const ColorInputWidget field(nullptr, QColor());
@@ -113,17 +97,6 @@ private Q_SLOTS:
             QVERIFY(second);
         }
         QVERIFY(!second);
-    }
-
-    void deletedInItsOwnSignal()
-    {
-        QPointer<ColorInputWidget> field = new ColorInputWidget(nullptr, QColor());
-        auto* picker = new FakeColorPicker;
-        field->setPicker(picker);
-        connect(field.data(), &ColorInputWidget::colorChanged, this, [&field] { delete field; });
-        buttonOf(*field)->click();
-        picker->finish(QColor(Qt::green));
-        QVERIFY(!field);
     }
 
     // As a window, the field is hidden by the destructor of QWidget, which stops the picker.

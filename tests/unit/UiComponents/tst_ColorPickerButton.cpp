@@ -64,22 +64,6 @@ class tst_ColorPickerButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void construction()
-    {
-        QWidget parent;
-        const auto* button = new ColorPickerButton(&parent);
-        QCOMPARE(button->parentWidget(), &parent);
-
-        QLayout* layout = button->layout();
-        QVERIFY(layout);
-        QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        QCOMPARE(layout->count(), 2);
-        QCOMPARE(layout->itemAt(0)->widget(), faceOf(*button));
-        QVERIFY(layout->itemAt(1)->spacerItem());
-    }
-
     void newButtonShowsMultiple()
     {
         const ColorPickerButton button;
@@ -785,53 +769,6 @@ private Q_SLOTS:
         button->startPicking();
         QVERIFY(!guard);
         QCOMPARE(stopped.size(), 0);
-    }
-
-    void buttonDeletedInASlot_data()
-    {
-        QTest::addColumn<QString>("signal");
-        QTest::newRow("pickingStarted") << QStringLiteral("started");
-        QTest::newRow("pickingStopped") << QStringLiteral("stopped");
-        QTest::newRow("colorChanged by preview") << QStringLiteral("preview");
-        QTest::newRow("colorChanged at the end") << QStringLiteral("final");
-        QTest::newRow("colorChanged by setColor") << QStringLiteral("set");
-    }
-
-    void buttonDeletedInASlot()
-    {
-        QFETCH(QString, signal);
-        QPointer<ColorPickerButton> button = new ColorPickerButton;
-        const QPointer<FakeColorPicker> picker = new FakeColorPicker;
-        button->setPicker(picker);
-        const auto destroy = [&button] { delete button; };
-        const auto destroyOnRed = [&button](const QColor& color) {
-            if (color == QColor(Qt::red)) {
-                delete button;
-            }
-        };
-        if (signal == QLatin1String("started")) {
-            connect(button.data(), &ColorPickerButton::pickingStarted, this, destroy);
-        } else if (signal == QLatin1String("stopped")) {
-            connect(button.data(), &ColorPickerButton::pickingStopped, this, destroy);
-        } else {
-            connect(button.data(), &ColorPickerButton::colorChanged, this, destroyOnRed);
-        }
-
-        if (signal == QLatin1String("set")) {
-            button->setColor(QColor(Qt::red));
-        } else {
-            button->startPicking();
-        }
-        if (signal == QLatin1String("preview")) {
-            Q_EMIT picker->colorChanged(QColor(Qt::red));
-        } else if (signal == QLatin1String("final")) {
-            picker->preview(QColor(Qt::green));
-            picker->finish(QColor(Qt::red));
-        } else if (signal == QLatin1String("stopped")) {
-            picker->finish(QColor(Qt::green));
-        }
-        QVERIFY(!button);
-        QVERIFY(!picker);
     }
 
     void buttonDeletedByItsPickersColor()

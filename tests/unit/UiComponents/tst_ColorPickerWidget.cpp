@@ -268,113 +268,6 @@ private Q_SLOTS:
 
     void cleanupTestCase() { Settings::setStore(nullptr); }
 
-    void parts_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<QString>("parentName");
-        const auto row = [](const char* name, const char* className, const char* parentName) {
-            QTest::newRow(name) << QString::fromLatin1(className) << QString::fromLatin1(parentName);
-        };
-        row("topPanel", "OvFrame", "panel");
-        row("colorMatrixPanel", "OvFrame", "panel");
-        row("otherColorsPanel", "OvFrame", "panel");
-        row("opacityPanel", "OvFrame", "panel");
-        row("currentColorDisplayLabel", "QLabel", "topPanel");
-        row("currentColorValueEdit", "Orvane::Tessel::TesselLineEdit", "topPanel");
-        row("pipetteButton", "QToolButton", "topPanel");
-        row("otherColorsTitleLabel", "QLabel", "otherColorsPanel");
-        row("addCustomColorButton", "QToolButton", "otherColorsPanel");
-        row("otherColorsQueuePanel", "OvFrame", "otherColorsPanel");
-        row("opacityTitleLabel", "QLabel", "opacityPanel");
-        row("opacitySlider", "OvDoubleSlider", "opacityPanel");
-        row("opacitySpinbox", "OvSpinBox", "opacityPanel");
-    }
-
-    void parts()
-    {
-        QFETCH(QString, className);
-        QFETCH(QString, parentName);
-        Panel panel;
-        panel.setObjectName(QStringLiteral("panel"));
-        const auto found = panel.findChildren<QWidget*>(QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(found.size(), 1);
-        QCOMPARE(QString::fromLatin1(found.front()->metaObject()->className()), className);
-        QCOMPARE(found.front()->parentWidget()->objectName(), parentName);
-    }
-
-    void orderOfCreation()
-    {
-        const Panel panel;
-        const auto childrenOf = [](const QWidget* widget) {
-            QStringList result;
-            const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-            for (const QWidget* child : children) {
-                result += child->objectName();
-            }
-            return result.join(QLatin1Char(' '));
-        };
-        QCOMPARE(childrenOf(&panel),
-                 QStringLiteral("topPanel colorMatrixPanel otherColorsPanel opacityPanel"));
-        QCOMPARE(childrenOf(panel.part<OvFrame>("topPanel")),
-                 QStringLiteral("currentColorDisplayLabel currentColorValueEdit pipetteButton"));
-        QCOMPARE(childrenOf(panel.part<OvFrame>("otherColorsPanel")),
-                 QStringLiteral("otherColorsTitleLabel addCustomColorButton otherColorsQueuePanel"));
-        QCOMPARE(childrenOf(panel.part<OvFrame>("opacityPanel")),
-                 QStringLiteral("opacityTitleLabel opacitySlider opacitySpinbox"));
-        QVERIFY(!panel.popup());
-    }
-
-    void layouts()
-    {
-        const Panel panel;
-        const auto check = [](const QWidget* owner, const char* className, const QString& items) {
-            const QLayout* layout = owner->layout();
-            QVERIFY(layout);
-            QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray(className));
-            QCOMPARE(layout->contentsMargins(), QMargins());
-            QCOMPARE(layout->spacing(), 0);
-            QStringList found;
-            for (int i = 0; i < layout->count(); ++i) {
-                found += layout->itemAt(i)->widget()->objectName();
-            }
-            QCOMPARE(found.join(QLatin1Char(' ')), items);
-        };
-        check(&panel, "OvVBoxLayout",
-              QStringLiteral("topPanel colorMatrixPanel otherColorsPanel opacityPanel"));
-        check(panel.part<OvFrame>("topPanel"), "OvHBoxLayout",
-              QStringLiteral("currentColorDisplayLabel currentColorValueEdit pipetteButton"));
-        check(panel.part<OvFrame>("colorMatrixPanel"), "OvGridLayout", QString(71, QLatin1Char(' ')));
-        check(panel.part<OvFrame>("otherColorsPanel"), "OvGridLayout",
-              QStringLiteral("otherColorsTitleLabel addCustomColorButton otherColorsQueuePanel"));
-        check(panel.part<OvFrame>("otherColorsQueuePanel"), "OvHBoxLayout", QString(7, QLatin1Char(' ')));
-        check(panel.part<OvFrame>("opacityPanel"), "OvGridLayout",
-              QStringLiteral("opacityTitleLabel opacitySlider opacitySpinbox"));
-    }
-
-    void rowsOfTheGrids()
-    {
-        const Panel panel;
-        for (const char* name : {"otherColorsPanel", "opacityPanel"}) {
-            auto* grid = qobject_cast<OvGridLayout*>(panel.part<OvFrame>(name)->layout());
-            QVERIFY(grid);
-            const auto place = [grid](int index) {
-                int row = 0;
-                int column = 0;
-                int rows = 0;
-                int columns = 0;
-                grid->getItemPosition(index, &row, &column, &rows, &columns);
-                return QRect(column, row, columns, rows);
-            };
-            // The title takes the whole row.
-            QCOMPARE(place(0), QRect(0, 0, 2, 1));
-            QCOMPARE(place(1), QRect(0, 1, 1, 1));
-            QCOMPARE(place(2), QRect(1, 1, 1, 1));
-            QCOMPARE(grid->itemAt(0)->alignment(), Qt::Alignment());
-            QCOMPARE(grid->rowStretch(0), 0);
-            QCOMPARE(grid->rowStretch(1), 0);
-        }
-    }
-
     void inputs()
     {
         const Panel panel;
@@ -427,6 +320,7 @@ private Q_SLOTS:
         static_assert(std::is_same_v<decltype(panel.currentColor()), const OptionalColor&>);
         QCOMPARE(panel.property("colorDialogOffset").toInt(), 0);
         QCOMPARE(panel.GetcolorDialogOffset(), 0);
+        QVERIFY(!panel.popup());
         check();
         panel.show();
         QVERIFY(panel.part<OvFrame>("opacityPanel")->isVisible());
@@ -481,36 +375,33 @@ private Q_SLOTS:
                                             QStringLiteral("currentColorValueEdit")}));
     }
 
+    void paletteOf72Colors_data()
+    {
+        QTest::addColumn<bool>("nullColorAllowed");
+        QTest::newRow("colours only") << false;
+        QTest::newRow("with no colour") << true;
+    }
+
+    // "No colour" comes first, and the second grey goes.
     void paletteOf72Colors()
     {
-        const Panel panel;
+        QFETCH(bool, nullColorAllowed);
+        const Panel panel(nullColorAllowed);
         const auto buttons = panel.part<OvFrame>("colorMatrixPanel")->findChildren<QToolButton*>();
         QCOMPARE(buttons.size(), 72);
         for (int i = 0; i < 72; ++i) {
             const QToolButton* const button = panel.paletteButton(i / 9, i % 9);
+            QString color = QString::fromLatin1(palette[i / 9][i % 9]);
+            if (nullColorAllowed && i < 2) {
+                color = i == 0 ? QStringLiteral("transparent") : QStringLiteral("#ffffff");
+            }
             QCOMPARE(button, buttons.at(i));
-            QCOMPARE(button->styleSheet(), sheetOf(QString::fromLatin1(palette[i / 9][i % 9])));
+            QCOMPARE(button->styleSheet(), sheetOf(color));
             QVERIFY(button->isCheckable());
             QVERIFY(button->isEnabled());
-            QVERIFY(!button->property("nullColor").isValid());
+            QCOMPARE(button->property("nullColor"), nullColorAllowed && i == 0 ? QVariant(true) : QVariant());
             QCOMPARE(button->metaObject(), &QToolButton::staticMetaObject);
         }
-    }
-
-    void paletteWithNoColor()
-    {
-        const Panel panel(true);
-        const auto buttons = panel.part<OvFrame>("colorMatrixPanel")->findChildren<QToolButton*>();
-        QCOMPARE(buttons.size(), 72);
-        QCOMPARE(panel.paletteButton(0, 0)->styleSheet(), sheetOf(QStringLiteral("transparent")));
-        QCOMPARE(panel.paletteButton(0, 0)->property("nullColor"), QVariant(true));
-        QCOMPARE(panel.paletteButton(0, 1)->styleSheet(), sheetOf(QStringLiteral("#ffffff")));
-        QVERIFY(!panel.paletteButton(0, 1)->property("nullColor").isValid());
-        for (int i = 2; i < 72; ++i) {
-            QCOMPARE(panel.paletteButton(i / 9, i % 9)->styleSheet(),
-                     sheetOf(QString::fromLatin1(palette[i / 9][i % 9])));
-        }
-        QVERIFY(!panel.paletteButton(QStringLiteral("#e3e3e3")));
     }
 
     void colorButtonsAreOfOneGroup()
@@ -573,20 +464,12 @@ private Q_SLOTS:
         QCOMPARE(panel.edit->text(), orange);
         QCOMPARE(faceState(panel), orange);
         QCOMPARE(panel.checked(), orange);
+        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
+        QCOMPARE(panel.log(), QStringList());
+        QCOMPARE(panel.checked(), orange);
         QTest::keyClick(panel.paletteButton(1, 0), Qt::Key_Space);
         QCOMPARE(panel.log(), QStringList{reported.left(3) + QStringLiteral("ff0000")});
         QVERIFY(!panel.paletteButton(1, 1)->isChecked());
-    }
-
-    void clickOnTheCheckedButtonSaysNothing()
-    {
-        Panel panel;
-        panel.show();
-        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-        panel.log();
-        QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
-        QCOMPARE(panel.log(), QStringList());
-        QVERIFY(panel.paletteButton(1, 1)->isChecked());
     }
 
     void noColorIsChosen()
@@ -1451,22 +1334,6 @@ private Q_SLOTS:
         QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
         QVERIFY(!dialog->isVisible());
         QTRY_COMPARE(QApplication::focusWidget(), panel.addButton);
-    }
-
-    void hueStepsAreRelayed()
-    {
-        Panel panel;
-        panel.show();
-        panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-        panel.openPopup();
-        panel.log();
-        panel.hueSlider()->setValue(10);
-        panel.hueSlider()->setValue(11);
-        panel.hueSlider()->setValue(11);
-        const QStringList log = panel.log();
-        QCOMPARE(log.size(), 2);
-        QCOMPARE(text(panel.currentColor()), log.back());
-        panel.popup()->close();
     }
 
     void closingAdds_data()

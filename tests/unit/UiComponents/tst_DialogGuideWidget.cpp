@@ -1,4 +1,3 @@
-#include "FreedMemory.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -143,72 +142,11 @@ class tst_DialogGuideWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void children()
-    {
-        const DialogGuideWidget bubble(nullptr);
-        const auto describe = [](const QWidget* parent) {
-            QStringList found;
-            const auto widgets = parent->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-            for (const QWidget* widget : widgets) {
-                found += QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') +
-                         widget->objectName();
-            }
-            return found;
-        };
-        QCOMPARE(describe(bubble.contentFrame()), QStringList({QStringLiteral("OvFrame headerFrame"),
-                                                               QStringLiteral("OvFrame descriptionFrame"),
-                                                               QStringLiteral("OvFrame buttonsFrame")}));
-        QCOMPARE(
-            describe(part<OvFrame>(bubble, "headerFrame")),
-            QStringList({QStringLiteral("QLabel headerLabel"), QStringLiteral("QToolButton closeButton")}));
-        QCOMPARE(describe(part<OvFrame>(bubble, "descriptionFrame")),
-                 QStringList({QStringLiteral("OvPixmapWidget gifPixmapWidget"),
-                              QStringLiteral("QLabel descriptionLabel")}));
-        QCOMPARE(describe(part<OvFrame>(bubble, "buttonsFrame")),
-                 QStringList({QStringLiteral("QPushButton secondaryButton"),
-                              QStringLiteral("QPushButton mainButton")}));
-        QVERIFY(part<QLabel>(bubble, "headerLabel")->wordWrap());
-        QVERIFY(part<QLabel>(bubble, "descriptionLabel")->wordWrap());
-    }
-
-    void layouts()
-    {
-        const DialogGuideWidget bubble(nullptr);
-        const auto describe = [](const QWidget* frame) {
-            const QLayout* const layout = frame->layout();
-            QStringList found = {QLatin1String(layout->metaObject()->className())};
-            for (int i = 0; i < layout->count(); ++i) {
-                QWidget* const widget = layout->itemAt(i)->widget();
-                const int stretch = static_cast<const QBoxLayout*>(layout)->stretch(i);
-                found += widget ? widget->objectName() : QStringLiteral("stretch %1").arg(stretch);
-            }
-            return found;
-        };
-        const auto* const header = part<OvFrame>(bubble, "headerFrame");
-        const auto* const description = part<OvFrame>(bubble, "descriptionFrame");
-        const auto* const buttons = part<OvFrame>(bubble, "buttonsFrame");
-        for (const OvFrame* frame :
-             {static_cast<const OvFrame*>(bubble.contentFrame()), header, description, buttons}) {
-            QCOMPARE(frame->layout()->contentsMargins(), QMargins());
-            QCOMPARE(frame->layout()->spacing(), 0);
-        }
-        QCOMPARE(describe(bubble.contentFrame()),
-                 QStringList({QStringLiteral("OvVBoxLayout"), QStringLiteral("headerFrame"),
-                              QStringLiteral("descriptionFrame"), QStringLiteral("buttonsFrame"),
-                              QStringLiteral("stretch 0")}));
-        QCOMPARE(describe(header), QStringList({QStringLiteral("OvHBoxLayout"), QStringLiteral("headerLabel"),
-                                                QStringLiteral("closeButton")}));
-        QCOMPARE(describe(description),
-                 QStringList({QStringLiteral("OvVBoxLayout"), QStringLiteral("gifPixmapWidget"),
-                              QStringLiteral("descriptionLabel")}));
-        QCOMPARE(describe(buttons),
-                 QStringList({QStringLiteral("OvHBoxLayout"), QStringLiteral("stretch 1"),
-                              QStringLiteral("secondaryButton"), QStringLiteral("mainButton")}));
-    }
-
     void styleHints()
     {
         const DialogGuideWidget bubble(nullptr);
+        QVERIFY(part<QLabel>(bubble, "headerLabel")->wordWrap());
+        QVERIFY(part<QLabel>(bubble, "descriptionLabel")->wordWrap());
         QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->property("styleHint").toString(),
                  QStringLiteral("guideButton"));
         QCOMPARE(part<QPushButton>(bubble, "mainButton")->property("styleHint").toString(),
@@ -679,47 +617,6 @@ private Q_SLOTS:
         }
         QCOMPARE(reported,
                  QStringList({QStringLiteral("close"), QStringLiteral("secondary"), QStringLiteral("main")}));
-    }
-
-    void deletedInASlot_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("withParent");
-        for (const char* button : {"mainButton", "secondaryButton", "closeButton"}) {
-            QTest::addRow("%s", button) << QString::fromLatin1(button) << false;
-            QTest::addRow("%s, parent", button) << QString::fromLatin1(button) << true;
-        }
-    }
-
-    // QToolButton writes into a button that its own click has deleted.
-    void deletedInASlot()
-    {
-        QFETCH(QString, button);
-        QFETCH(bool, withParent);
-        QPointer<QWidget> parent = new QWidget;
-        parent->show();
-        QPointer<DialogGuideWidget> bubble = new DialogGuideWidget(parent);
-        bubble->setInfo(fullInfo());
-        bubble->show();
-        settle();
-        const auto destroy = [&] {
-            if (withParent) {
-                delete parent;
-            } else {
-                delete bubble;
-            }
-        };
-        connect(bubble.data(), &DialogGuideWidget::mainClicked, this, destroy);
-        connect(bubble.data(), &DialogGuideWidget::secondaryClicked, this, destroy);
-        connect(bubble.data(), &DialogGuideWidget::closeClicked, this, destroy);
-        {
-            const FreedMemoryWatch memory;
-            QTest::mouseClick(bubble->findChild<QAbstractButton*>(button), Qt::LeftButton);
-            QVERIFY(!bubble);
-            QVERIFY(memory.deleted() > 0);
-            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-        }
-        delete parent;
     }
 
     void followsTheParentsEvents_data()

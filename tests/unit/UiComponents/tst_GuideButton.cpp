@@ -703,19 +703,6 @@ private Q_SLOTS:
         QCOMPARE(clicked.size(), 1);
     }
 
-    void deletedByItsLink()
-    {
-        UrlHandler handler;
-        QPointer<GuideButton> button = makeButton().release();
-        button->show();
-        button->click();
-        connect(button.data(), &GuideButton::learnMoreClicked, this, [&button] { delete button; });
-        const FreedMemoryWatch memory;
-        clickLink(*button);
-        QVERIFY(!button);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-    }
-
     // The pop-up is deleted in the middle of its own mouse event.
     void reopenedByItsLink()
     {

@@ -1,5 +1,4 @@
 #include "DiskQuestions.h"
-#include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "NormalUser.h"
 #include "Part.h"
@@ -175,37 +174,6 @@ private Q_SLOTS:
     {
         QToolTip::hideText();
         m_folder.reset();
-    }
-
-    void children()
-    {
-        QWidget parent;
-        const PathSelectionWidget field(&parent);
-        QCOMPARE(field.parentWidget(), &parent);
-        QCOMPARE(childrenOf(&field),
-                 QStringList({"spaceInfoFrame OvFrame", "pathSelectionFrame OvFrame", "errorLabel QLabel"}));
-        QCOMPARE(childrenOf(spaceOf(field)), QStringList({"requiredLabel QLabel", "availableLabel QLabel"}));
-        QCOMPARE(childrenOf(frameOf(field)),
-                 QStringList({"pathLineEdit Orvane::Tessel::TesselLineEdit", "pathBrowseButton QToolButton",
-                              "pathResetButton QToolButton"}));
-
-        const auto* column = qobject_cast<QBoxLayout*>(field.layout());
-        const auto* spaces = qobject_cast<QBoxLayout*>(spaceOf(field)->layout());
-        const auto* row = qobject_cast<QBoxLayout*>(frameOf(field)->layout());
-        QVERIFY(column && spaces && row);
-        for (const QBoxLayout* layout : {column, spaces, row}) {
-            QCOMPARE(layout->contentsMargins(), QMargins());
-            QCOMPARE(layout->spacing(), 0);
-        }
-        QCOMPARE(column->direction(), QBoxLayout::TopToBottom);
-        QCOMPARE(column->count(), 3);
-        QCOMPARE(spaces->direction(), QBoxLayout::LeftToRight);
-        QCOMPARE(spaces->count(), 3);
-        QVERIFY(spaces->itemAt(2)->spacerItem());
-        QCOMPARE(row->count(), 3);
-        QCOMPARE(row->stretch(0), 1);
-        QCOMPARE(row->stretch(1), 0);
-        QCOMPARE(row->stretch(2), 0);
     }
 
     void startsEmpty()
@@ -970,42 +938,6 @@ private Q_SLOTS:
         QVERIFY(errorOf(field)->isHidden());
         clock.finish();
         QCOMPARE(seen, QStringList({"typed", "corrected"}));
-    }
-
-    void deletedInsidePathChanged()
-    {
-        Clock clock;
-        QPointer<PathSelectionWidget> field = new PathSelectionWidget(nullptr);
-        connect(field.data(), &PathSelectionWidget::pathChanged, this, [&field] { delete field; });
-        field->setPath("/x");
-        clock.finish();
-        QVERIFY(!field);
-    }
-
-    // QToolButton writes into itself after a click.
-    void deletedInsideBrowse()
-    {
-        QPointer<PathSelectionWidget> field = new PathSelectionWidget(nullptr);
-        connect(field.data(), &PathSelectionWidget::browseDirectoryRequested, this,
-                [&field] { delete field; });
-        field->show();
-        const FreedMemoryWatch memory;
-        QTest::mouseClick(browseOf(*field), Qt::LeftButton);
-        QVERIFY(!field);
-        QVERIFY(memory.deleted() > 0);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
-    }
-
-    void deletedByTheResetButton()
-    {
-        QPointer<PathSelectionWidget> field = new PathSelectionWidget(nullptr);
-        field->setDefaultPath(folder, folderText);
-        field->show();
-        connect(resetOf(*field), &QToolButton::clicked, this, [&field] { delete field; });
-        const FreedMemoryWatch memory;
-        QTest::mouseClick(resetOf(*field), Qt::LeftButton);
-        QVERIFY(!field);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
     }
 
     void destroyedWhileFocused_data()

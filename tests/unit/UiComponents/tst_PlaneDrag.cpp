@@ -1,4 +1,3 @@
-#include "FreedMemory.h"
 #include "MouseEvents.h"
 #include "PaintCount.h"
 #include "TestMain.h"
@@ -76,15 +75,9 @@ public:
     QVariantList reports() { return std::exchange(m_reports, {}); }
 
     QPointer<QWidget> widget;
-    /// Deleted by the next report.
-    QPointer<QWidget> doomed;
 
 private:
-    void record(const QVariant& value)
-    {
-        m_reports += value;
-        delete doomed;
-    }
+    void record(const QVariant& value) { m_reports += value; }
 
     const Kind m_kind;
     QVariantList m_reports;
@@ -342,47 +335,6 @@ private Q_SLOTS:
             QVERIFY(!event.isAccepted());
         }
         QCOMPARE(plane->reports(), QVariantList());
-    }
-
-    void deletedInItsSignal_data()
-    {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<bool>("withParent");
-        for (const char* action : {"press", "move", "release", "double click", "key"}) {
-            QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
-            QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
-        }
-    }
-
-    void deletedInItsSignal()
-    {
-        QFETCH(QString, action);
-        QFETCH(bool, withParent);
-        const FreedMemoryWatch watch;
-        const QPointer<QWidget> parent = new QWidget;
-        const auto plane = makePlane(withParent ? parent.data() : nullptr);
-        plane->widget->window()->show();
-        plane->placeMarker(50, 25);
-        if (action == QLatin1String("move") || action == QLatin1String("release")) {
-            press(*plane->widget, {20, 20});
-        }
-        plane->doomed = plane->widget->window();
-        if (action == QLatin1String("press")) {
-            QTest::mousePress(plane->widget, Qt::LeftButton, Qt::NoModifier, {20, 20});
-        } else if (action == QLatin1String("move")) {
-            drag(*plane->widget, {30, 20});
-        } else if (action == QLatin1String("release")) {
-            release(*plane->widget, {20, 20});
-        } else if (action == QLatin1String("double click")) {
-            sendMouse(*plane->widget, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
-        } else {
-            QTest::keyPress(plane->widget, Qt::Key_Left);
-        }
-        QVERIFY(!plane->widget);
-        QVERIFY(!QWidget::mouseGrabber());
-        QVERIFY(watch.deleted() > 0);
-        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-        delete parent;
     }
 
 private:

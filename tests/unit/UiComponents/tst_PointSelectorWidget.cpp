@@ -1,6 +1,5 @@
 #include "DecimalNumber.h"
 #include "FocusedBy.h"
-#include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MouseEvents.h"
 #include "SpinBoxTyping.h"
@@ -127,61 +126,6 @@ private Q_SLOTS:
             QCOMPARE(field.plane->point(), range.maximum);
         }
         QTest::mouseRelease(field.plane, Qt::LeftButton, {}, QPoint(100, 100));
-    }
-
-    void construction()
-    {
-        QWidget parent;
-        auto* field = new PointSelectorWidget(&parent, hundreds);
-        QCOMPARE(field->parentWidget(), &parent);
-        const auto* spinBoxFrame = partOf<OvFrame>(*field, "spinBoxFrame");
-        const auto* pointSelectorFrame = partOf<OvFrame>(*field, "pointSelectorFrame");
-        const auto* xSpinboxFrame = partOf<OvFrame>(*field, "xSpinboxFrame");
-        const auto* ySpinboxFrame = partOf<OvFrame>(*field, "ySpinboxFrame");
-        QCOMPARE(spinBoxFrame->parentWidget(), field);
-        QCOMPARE(pointSelectorFrame->parentWidget(), field);
-        QCOMPARE(xSpinboxFrame->parentWidget(), spinBoxFrame);
-        QCOMPARE(ySpinboxFrame->parentWidget(), spinBoxFrame);
-        QCOMPARE(partOf<PointSelectionPlane>(*field, "pointSelector")->parentWidget(), pointSelectorFrame);
-        QCOMPARE(partOf<QLabel>(*field, "xLabel")->parentWidget(), xSpinboxFrame);
-        QCOMPARE(partOf<OvDoubleSpinBox>(*field, "xSpinbox")->parentWidget(), xSpinboxFrame);
-        QCOMPARE(partOf<QLabel>(*field, "yLabel")->parentWidget(), ySpinboxFrame);
-        QCOMPARE(partOf<OvDoubleSpinBox>(*field, "ySpinbox")->parentWidget(), ySpinboxFrame);
-    }
-
-    void layouts_data()
-    {
-        QTest::addColumn<QString>("frame");
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QString>("items");
-        QTest::newRow("field") << QString() << QByteArray("OvHBoxLayout")
-                               << "pointSelectorFrame spinBoxFrame";
-        QTest::newRow("pointSelectorFrame")
-            << "pointSelectorFrame" << QByteArray("OvVBoxLayout") << "pointSelector";
-        QTest::newRow("spinBoxFrame")
-            << "spinBoxFrame" << QByteArray("OvVBoxLayout") << "xSpinboxFrame ySpinboxFrame";
-        QTest::newRow("xSpinboxFrame") << "xSpinboxFrame" << QByteArray("OvHBoxLayout") << "xLabel xSpinbox";
-        QTest::newRow("ySpinboxFrame") << "ySpinboxFrame" << QByteArray("OvHBoxLayout") << "yLabel ySpinbox";
-    }
-
-    void layouts()
-    {
-        QFETCH(QString, frame);
-        QFETCH(QByteArray, type);
-        QFETCH(QString, items);
-        const PointSelectorWidget field(nullptr, hundreds);
-        const QWidget* owner = frame.isEmpty() ? &field : field.findChild<QWidget*>(frame);
-        auto* layout = qobject_cast<QBoxLayout*>(owner->layout());
-        QVERIFY(layout);
-        QCOMPARE(QByteArray(layout->metaObject()->className()), type);
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        QStringList found;
-        for (int i = 0; i < layout->count(); ++i) {
-            found += layout->itemAt(i)->widget()->objectName();
-            QCOMPARE(layout->stretch(i), 0);
-        }
-        QCOMPARE(found.join(QLatin1Char(' ')), items);
     }
 
     void spinBoxes()
@@ -700,62 +644,6 @@ private Q_SLOTS:
         release(*field.plane, {48, 12});
         QCOMPARE(field.numbers(), QPointF(50, 10));
         QCOMPARE(field.plane->point(), QPointF(50, 10));
-    }
-
-    void deletedInItsSignal_data()
-    {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<int>("report");
-        QTest::newRow("setValue, x") << "setValue" << 1;
-        QTest::newRow("setValue, y") << "setValue" << 2;
-        QTest::newRow("click, plane") << "click" << 1;
-        QTest::newRow("click, x") << "click" << 2;
-        QTest::newRow("click, y") << "click" << 3;
-        QTest::newRow("drag") << "drag" << 4;
-        QTest::newRow("release") << "release" << 4;
-        QTest::newRow("plane key") << "plane key" << 1;
-        QTest::newRow("spin box") << "spin box" << 1;
-        QTest::newRow("Enter") << "Enter" << 1;
-    }
-
-    void deletedInItsSignal()
-    {
-        QFETCH(QString, action);
-        QFETCH(int, report);
-        const FreedMemoryWatch watch;
-        const QPointer<Field> field = new Field;
-        const QPointer<PointSelectionPlane> plane = field->plane;
-        OvDoubleSpinBox* x = field->x;
-        if (action == QLatin1String("Enter")) {
-            x->setKeyboardTracking(false);
-            typeInto(x, QStringLiteral("5"));
-        }
-        int reports = 0;
-        connect(field.data(), &PointSelectorWidget::valueChanged, this, [&] {
-            if (++reports == report) {
-                delete field;
-            }
-        });
-        if (action == QLatin1String("setValue")) {
-            field->setValue({30, 40});
-        } else if (action == QLatin1String("plane key")) {
-            QTest::keyPress(plane, Qt::Key_Right);
-        } else if (action == QLatin1String("spin box")) {
-            x->setValue(7);
-        } else if (action == QLatin1String("Enter")) {
-            QTest::keyPress(x, Qt::Key_Return);
-        } else {
-            QTest::mousePress(plane, Qt::LeftButton, Qt::NoModifier, {30, 40});
-            if (action == QLatin1String("drag")) {
-                drag(*plane, {50, 50});
-            } else if (action == QLatin1String("release")) {
-                release(*plane, {30, 40});
-            }
-        }
-        QVERIFY(!field);
-        QVERIFY(!QWidget::mouseGrabber());
-        QVERIFY(watch.deleted() > 0);
-        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
 
     void deletedBetweenTheCoordinates()

@@ -1,4 +1,3 @@
-#include "FreedMemory.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselLineEdit.h>
@@ -156,30 +155,6 @@ private Q_SLOTS:
     {
         putCursor(nullptr);
         QGuiApplication::clipboard()->clear();
-    }
-
-    void children()
-    {
-        QWidget parent;
-        const SearchWidget search(&parent);
-        QCOMPARE(search.parentWidget(), &parent);
-        const auto children = search.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        QCOMPARE(children.size(), 3);
-        QCOMPARE(children.at(0), iconOf(search));
-        QCOMPARE(children.at(1), editOf(search));
-        QCOMPARE(children.at(2), buttonOf(search));
-        QCOMPARE(children.at(0)->metaObject(), &QLabel::staticMetaObject);
-        QCOMPARE(children.at(1)->metaObject(), &Orvane::Tessel::TesselLineEdit::staticMetaObject);
-        QCOMPARE(children.at(2)->metaObject(), &QToolButton::staticMetaObject);
-
-        const auto* layout = qobject_cast<QBoxLayout*>(search.layout());
-        QVERIFY(layout);
-        QCOMPARE(layout->direction(), QBoxLayout::LeftToRight);
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        for (int i = 0; i < 3; ++i) {
-            QCOMPARE(layout->itemAt(i)->widget(), children.at(i));
-        }
     }
 
     void startsEmpty()
@@ -413,21 +388,6 @@ private Q_SLOTS:
         QTest::keyClick(buttonOf(*window.search), Qt::Key_Space);
         QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
         QVERIFY(window.edit()->hasFocus());
-    }
-
-    // Qt's handlers run on after the click, and QToolButton's writes into the button.
-    void deletedByAClickOnTheButton()
-    {
-        QPointer<SearchWidget> search = new SearchWidget;
-        editOf(*search)->setText(QStringLiteral("a"));
-        search->show();
-        // Not textChanged(), whose sender is the line edit.
-        connect(buttonOf(*search), &QToolButton::clicked, this, [&search] { delete search; });
-        const FreedMemoryWatch memory;
-        QTest::mouseClick(buttonOf(*search), Qt::LeftButton);
-        QVERIFY(!search);
-        QVERIFY(memory.deleted() > 0);
-        QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
     }
 
     void enterReportsOnce()

@@ -1,5 +1,4 @@
 #include "FocusedBy.h"
-#include "FreedMemory.h"
 #include "SliderField.h"
 #include "SpinBoxTyping.h"
 #include "TestMain.h"
@@ -49,24 +48,7 @@ private Q_SLOTS:
 
     void construction()
     {
-        QWidget parent;
-        const auto field = makeField(-3, 8, &parent);
-        QCOMPARE(field->widget->parentWidget(), &parent);
-
-        QVERIFY(field->slider);
-        QVERIFY(field->spinBox);
-        QCOMPARE(QByteArray(field->slider->metaObject()->className()),
-                 QByteArray(isWhole() ? "OvCustomSlider" : "OvDoubleSlider"));
-        QCOMPARE(QByteArray(field->spinBox->metaObject()->className()),
-                 QByteArray(isWhole() ? "OvSpinBox" : "OvDoubleSpinBox"));
-        QLayout* layout = field->widget->layout();
-        QVERIFY(layout);
-        QCOMPARE(QByteArray(layout->metaObject()->className()), QByteArray("OvHBoxLayout"));
-        QCOMPARE(layout->contentsMargins(), QMargins());
-        QCOMPARE(layout->spacing(), 0);
-        QCOMPARE(layout->count(), 2);
-        QCOMPARE(layout->itemAt(0)->widget(), field->slider);
-        QCOMPARE(layout->itemAt(1)->widget(), field->spinBox);
+        const auto field = makeField(-3, 8);
 
         QCOMPARE(field->slider->orientation(), Qt::Horizontal);
         QCOMPARE(field->slider->minimum(), -3);
@@ -456,54 +438,6 @@ private Q_SLOTS:
         });
         field->setValue(20);
         QVERIFY(field->shows(80));
-    }
-
-    void deletedInItsSignal_data()
-    {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<bool>("withParent");
-        for (const char* action :
-             {"setValue", "slider", "fraction of the slider", "drag", "slider key", "spin box", "Enter"}) {
-            QTest::addRow("%s", action) << QString::fromLatin1(action) << false;
-            QTest::addRow("%s, with its parent", action) << QString::fromLatin1(action) << true;
-        }
-    }
-
-    void deletedInItsSignal()
-    {
-        QFETCH(QString, action);
-        QFETCH(bool, withParent);
-        const FreedMemoryWatch watch;
-        const QPointer<QWidget> parent = new QWidget;
-        const auto field = makeField(0, 100 * unit(), withParent ? parent.data() : nullptr);
-        QWidget* const doomed = withParent ? parent.data() : field->widget.data();
-        doomed->resize(300, 40);
-        field->widget->resize(300, 40);
-        doomed->show();
-        if (action == QLatin1String("Enter")) {
-            field->spinBox->setKeyboardTracking(false);
-            typeInto(field->spinBox, QStringLiteral("5"));
-        }
-        field->onReport = [doomed](int) { delete doomed; };
-        if (action == QLatin1String("setValue")) {
-            field->setValue(7);
-        } else if (action == QLatin1String("slider")) {
-            field->slider->setValue(7);
-        } else if (action == QLatin1String("fraction of the slider")) {
-            field->slider->setProperty(isWhole() ? "value" : "doubleValue", field->number(7));
-        } else if (action == QLatin1String("drag")) {
-            QTest::mousePress(field->slider, Qt::LeftButton, Qt::NoModifier, field->slider->rect().center());
-        } else if (action == QLatin1String("slider key")) {
-            QTest::keyPress(field->slider, Qt::Key_Right);
-        } else if (action == QLatin1String("spin box")) {
-            field->setSpinBox(7);
-        } else {
-            QTest::keyPress(field->spinBox, Qt::Key_Return);
-        }
-        QVERIFY(!field->widget);
-        QVERIFY(watch.deleted() > 0);
-        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-        delete parent;
     }
 
     void deletedLaterWhileTyping()

@@ -1,6 +1,8 @@
 #include "FreedMemory.h"
+#include "MouseEvents.h"
 #include "PickingStage.h"
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/WidgetColorPicker.h>
@@ -9,9 +11,8 @@
 #include <memory>
 #include <utility>
 
-using Act = std::function<void(PickingStage*)>;
+using Act = std::function<void(PickingStage*, WidgetColorPicker*)>;
 Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Qt::MouseButton)
 Q_DECLARE_METATYPE(std::function<void(QWidget*)>)
 
 namespace {
@@ -85,10 +86,6 @@ QColor colorIn(const QPoint& point)
 
 const QPoint Spot(37, 21);
 
-} // namespace
-
-namespace {
-
 enum class Victim { Picker, Target, Window, Button, Other };
 enum class Moment { Timer, PressElsewhere, AfterPressElsewhere };
 
@@ -103,7 +100,8 @@ private Q_SLOTS:
     {
         m_stage = std::make_unique<PickingStage>();
         QVERIFY(m_stage->show());
-        m_picker = new WidgetColorPicker({m_stage->button});
+        // Null is no widget.
+        m_picker = new WidgetColorPicker({nullptr, m_stage->button});
         m_picker->setTarget(m_stage->target);
         PickingStage::moveCursor(m_stage->target, Spot);
     }
@@ -123,15 +121,6 @@ private Q_SLOTS:
         QVERIFY(!picker.isInProgress());
         QVERIFY(picker.color().has_value());
         QVERIFY(!picker.color()->isValid());
-    }
-
-    void nullIsNoWidget()
-    {
-        WidgetColorPicker picker({nullptr, m_stage->button});
-        picker.setTarget(m_stage->target);
-        QVERIFY(runWith([&picker] { picker.pick(); }, [this] { m_stage->pressOn(m_stage->other); },
-                        [&picker] { picker.stop(); }));
-        QVERIFY(m_stage->other->isDown());
     }
 
     void setColorDoesNothing()
@@ -188,30 +177,114 @@ private Q_SLOTS:
         QCOMPARE(m_stage->target->presses, 1);
     }
 
-    void pickedPixel_data()
+    void pick_data()
     {
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<bool>("isInside");
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QColor>("color"); // invalid: nothing is said
+        const auto row = [](const char* name, const QColor& color, const Act& act) {
+            QTest::newRow(name) << act << color;
+        };
+        const auto pressAt = [row](const char* name, const QPoint& point, const QColor& color) {
+            row(name, color, [point](PickingStage* stage, WidgetColorPicker*) {
+                PickingStage::moveCursor(stage->target, point);
+                stage->press();
+            });
+        };
+        const QColor spot = colorIn(Spot);
         // The outline lies over the outer two pixels.
-        QTest::newRow("top left") << QPoint(0, 0) << true;
-        QTest::newRow("under the outline") << QPoint(50, 1) << true;
-        QTest::newRow("beside the outline") << QPoint(2, 2) << true;
-        QTest::newRow("bottom right") << QPoint(99, 79) << true;
-        QTest::newRow("left of it") << QPoint(-1, 40) << false;
-        QTest::newRow("above it") << QPoint(50, -1) << false;
-        QTest::newRow("right of it") << QPoint(100, 40) << false;
-        QTest::newRow("below it") << QPoint(50, 80) << false;
+        for (const QPoint& point : {QPoint(0, 0), QPoint(50, 1), QPoint(2, 2), QPoint(99, 79)}) {
+            pressAt(qPrintable(QStringLiteral("pressed at %1, %2").arg(point.x()).arg(point.y())), point,
+                    colorIn(point));
+        }
+        pressAt("pressed left of it", {-1, 40}, {});
+        pressAt("pressed above it", {50, -1}, {});
+        pressAt("pressed right of it", {100, 40}, {});
+        pressAt("pressed below it", {50, 80}, {});
+        for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+            row(qPrintable(QStringLiteral("mouse button %1").arg(button)), spot,
+                [button](PickingStage* stage, WidgetColorPicker*) { stage->press(button); });
+        }
+        row("stopped, twice", spot, [](PickingStage*, WidgetColorPicker* picker) {
+            picker->stop();
+            QVERIFY(!picker->isInProgress());
+            picker->stop();
+        });
+        row("stopped elsewhere", {}, [](PickingStage* stage, WidgetColorPicker* picker) {
+            PickingStage::moveCursor(stage->button);
+            picker->stop();
+        });
+        row("key elsewhere", {}, [](PickingStage* stage, WidgetColorPicker*) {
+            PickingStage::moveCursor(stage->other);
+            QTest::keyPress(stage->window->windowHandle(), Qt::Key_Escape);
+        });
+        // The cursor decides about the colour, not the press.
+        row("another widget pressed below the cursor", spot, [](PickingStage* stage, WidgetColorPicker*) {
+            QTest::mousePress(stage->window->windowHandle(), Qt::LeftButton, {},
+                              stage->other->geometry().center());
+            QVERIFY(stage->other->isDown());
+        });
+        row("another widget clicked", {}, [](PickingStage* stage, WidgetColorPicker* picker) {
+            stage->pressOn(stage->other);
+            QVERIFY(stage->other->isDown());
+            QVERIFY(!picker->isInProgress());
+            stage->release();
+        });
+        row("target taken away", {}, [](PickingStage*, WidgetColorPicker* picker) {
+            picker->setTarget(nullptr);
+            QVERIFY(!picker->isInProgress());
+        });
+        row("target moved", colorIn(Spot - QPoint(1, 2)), [](PickingStage* stage, WidgetColorPicker*) {
+            stage->target->move(11, 12);
+            stage->press();
+        });
+        // A key ends the pick, goes on to the dialog around the target, and closes it.
+        row("window hidden at once", spot, [](PickingStage* stage, WidgetColorPicker* picker) {
+            picker->stop();
+            stage->window->hide();
+        });
+        // These do not end it.
+        const auto passing = [row, spot](const char* name, const std::function<void(PickingStage*)>& act) {
+            row(name, spot, [act](PickingStage* stage, WidgetColorPicker* picker) {
+                act(stage);
+                QCoreApplication::processEvents();
+                QVERIFY(picker->isInProgress());
+                PickingStage::moveCursor(stage->target, Spot);
+                picker->stop();
+                QVERIFY(!picker->isInProgress());
+            });
+        };
+        passing("moved",
+                [](PickingStage* stage) { QTest::mouseMove(stage->window->windowHandle(), QPoint(60, 60)); });
+        passing("released", [](PickingStage* stage) { stage->release(); });
+        passing("key released",
+                [](PickingStage* stage) { QTest::keyRelease(stage->window->windowHandle(), Qt::Key_A); });
+        passing("wheel", [](PickingStage* stage) { turnWheel(*stage->target, 120); });
+        passing("focus", [](PickingStage* stage) { stage->button->setFocus(); });
+        passing("double click", [](PickingStage* stage) {
+            sendMouse(*stage->target, QEvent::MouseButtonDblClick, {50, 50}, Qt::LeftButton, Qt::LeftButton);
+        });
+        passing("target hidden and shown", [](PickingStage* stage) {
+            stage->target->hide();
+            stage->target->show();
+        });
     }
 
-    void pickedPixel()
+    void pick()
     {
-        QFETCH(QPoint, point);
-        QFETCH(bool, isInside);
+        QFETCH(Act, act);
+        QFETCH(QColor, color);
         const Protocol protocol(m_picker);
-        PickingStage::moveCursor(m_stage->target, point);
-        QVERIFY(pickWith([this] { m_stage->press(); }));
-        QCOMPARE(protocol.lines, isInside ? picked(colorIn(point)) : QStringList());
-        QCOMPARE(m_picker->color(), std::optional<QColor>(isInside ? colorIn(point) : QColor()));
+        QVERIFY(!m_stage->outline());
+        QVERIFY(pickWith([this, act] {
+            QVERIFY(m_stage->outline() && m_stage->outline()->isVisible());
+            act(m_stage.get(), m_picker);
+            QVERIFY(!m_stage->outline());
+        }));
+        QCOMPARE(protocol.lines, color.isValid() ? picked(color) : QStringList());
+        QCOMPARE(m_picker->color(), std::optional<QColor>(color));
+        QCOMPARE(m_stage->target->presses, 0);
+        QVERIFY(!m_picker->isInProgress());
+        QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
     }
 
     void mouseBetweenPoints_data()
@@ -265,24 +338,6 @@ private Q_SLOTS:
         QCOMPARE(protocol.lines, picked(colorIn(Spot)));
     }
 
-    void everyMouseButtonEndsThePick_data()
-    {
-        QTest::addColumn<Qt::MouseButton>("button");
-        QTest::newRow("left") << Qt::LeftButton;
-        QTest::newRow("right") << Qt::RightButton;
-        QTest::newRow("middle") << Qt::MiddleButton;
-        QTest::newRow("back") << Qt::BackButton;
-    }
-
-    void everyMouseButtonEndsThePick()
-    {
-        QFETCH(Qt::MouseButton, button);
-        const Protocol protocol(m_picker);
-        QVERIFY(pickWith([this, button] { m_stage->press(button); }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
-        QCOMPARE(m_stage->target->presses, 0);
-    }
-
     void pressOnAConstructorWidgetIsSwallowed()
     {
         const Protocol protocol(m_picker);
@@ -325,31 +380,6 @@ private Q_SLOTS:
                                 Qt::NoModifier);
         QCoreApplication::sendEvent(window, &doubleClick);
         QCOMPARE(m_stage->target->doubleClicks, 1);
-    }
-
-    void pressOnAnyOtherWidgetReachesIt()
-    {
-        const Protocol protocol(m_picker);
-        QSignalSpy clicked(m_stage->other.data(), &QAbstractButton::clicked);
-        QVERIFY(pickWith([this] {
-            m_stage->pressOn(m_stage->other);
-            QVERIFY(!m_picker->isInProgress());
-            m_stage->release();
-        }));
-        QCOMPARE(clicked.size(), 1);
-        QCOMPARE(protocol.lines, QStringList());
-        QCOMPARE(m_picker->color(), std::optional<QColor>(QColor()));
-    }
-
-    void cursorDecidesNotThePress()
-    {
-        const Protocol protocol(m_picker);
-        QVERIFY(pickWith([this] {
-            QTest::mousePress(m_stage->window->windowHandle(), Qt::LeftButton, {},
-                              m_stage->other->geometry().center());
-        }));
-        QVERIFY(m_stage->other->isDown());
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
     }
 
     // The receiver of a press may have brought the target below the cursor before pick() returns.
@@ -405,52 +435,6 @@ private Q_SLOTS:
         QCOMPARE(protocol.lines, picked(colorIn(Spot)));
     }
 
-    void keyElsewherePicksNothing()
-    {
-        const Protocol protocol(m_picker);
-        PickingStage::moveCursor(m_stage->other);
-        QVERIFY(pickWith([this] { QTest::keyPress(m_stage->window->windowHandle(), Qt::Key_Escape); }));
-        QCOMPARE(protocol.lines, QStringList());
-        QVERIFY(!m_picker->color()->isValid());
-    }
-
-    void otherEventsDoNotEnd_data()
-    {
-        QTest::addColumn<Act>("act");
-        QTest::newRow("move") << Act(
-            [](PickingStage* stage) { QTest::mouseMove(stage->window->windowHandle(), QPoint(60, 60)); });
-        QTest::newRow("release") << Act([](PickingStage* stage) { stage->release(); });
-        QTest::newRow("key release") << Act(
-            [](PickingStage* stage) { QTest::keyRelease(stage->window->windowHandle(), Qt::Key_A); });
-        QTest::newRow("wheel") << Act([](PickingStage* stage) {
-            QWheelEvent event(QPointF(50, 50), stage->window->mapToGlobal(QPoint(50, 50)), QPoint(),
-                              QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(stage->window->windowHandle(), &event);
-        });
-        QTest::newRow("focus") << Act([](PickingStage* stage) { stage->button->setFocus(); });
-        QTest::newRow("double click") << Act([](PickingStage* stage) {
-            QMouseEvent event(QEvent::MouseButtonDblClick, QPoint(50, 50), Qt::LeftButton, Qt::LeftButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(stage->target, &event);
-        });
-        QTest::newRow("hidden target") << Act([](PickingStage* stage) {
-            stage->target->hide();
-            stage->target->show();
-        });
-    }
-
-    void otherEventsDoNotEnd()
-    {
-        QFETCH(Act, act);
-        QVERIFY(pickWith([this, act] {
-            act(m_stage.get());
-            QCoreApplication::processEvents();
-            QVERIFY(m_picker->isInProgress());
-            m_picker->stop();
-            QVERIFY(!m_picker->isInProgress());
-        }));
-    }
-
     void idlePickerFiltersNothing()
     {
         QMouseEvent press(QEvent::MouseButtonPress, Spot, m_stage->target->mapToGlobal(Spot), Qt::LeftButton,
@@ -473,25 +457,6 @@ private Q_SLOTS:
             m_stage->press();
         }));
         QCOMPARE(protocol.lines, picked(colorIn(Spot)));
-    }
-
-    void stopPicksWhatIsUnderTheCursor()
-    {
-        const Protocol protocol(m_picker);
-        QVERIFY(pickWith([this] {
-            m_picker->stop();
-            QVERIFY(!m_picker->isInProgress());
-            m_picker->stop();
-        }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
-    }
-
-    void stopElsewherePicksNothing()
-    {
-        const Protocol protocol(m_picker);
-        PickingStage::moveCursor(m_stage->button);
-        QVERIFY(pickWith([this] { m_picker->stop(); }));
-        QCOMPARE(protocol.lines, QStringList());
     }
 
     void lastWindowClosedEndsThePick()
@@ -564,19 +529,6 @@ private Q_SLOTS:
         QCOMPARE(protocol.lines, picked(colorIn(Spot)));
     }
 
-    void crossWithoutAStylingObject()
-    {
-        m_stage->target->setCursor(Qt::IBeamCursor);
-        QVERIFY(pickWith([this] {
-            QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
-            m_picker->stop();
-            // At once, not when pick() returns.
-            QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
-        }));
-        QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
-        QVERIFY(!QGuiApplication::overrideCursor());
-    }
-
     void cursorOfTheStylingObject()
     {
         const auto look = std::make_unique<Look>(Qt::PointingHandCursor);
@@ -600,13 +552,17 @@ private Q_SLOTS:
         Look look(Qt::PointingHandCursor);
         m_stage->target->setCursor(Qt::IBeamCursor);
         QVERIFY(pickWith([this, &look] {
+            QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
             m_picker->setStylingObject(&look);
             QCOMPARE(m_stage->target->cursor().shape(), Qt::PointingHandCursor);
             m_picker->setStylingObject(nullptr);
             QCOMPARE(m_stage->target->cursor().shape(), Qt::CrossCursor);
             m_picker->stop();
+            // At once, not when pick() returns.
+            QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
         }));
         QCOMPARE(m_stage->target->cursor().shape(), Qt::IBeamCursor);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void stylingObjectIsAskedWithoutAPickingCursor()
@@ -751,18 +707,6 @@ private Q_SLOTS:
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
-    void outlineIsThereWhilePicking()
-    {
-        QVERIFY(!m_stage->outline());
-        QVERIFY(pickWith([this] {
-            QVERIFY(m_stage->outline());
-            QVERIFY(m_stage->outline()->isVisible());
-            m_stage->press();
-            QVERIFY(!m_stage->outline());
-        }));
-        QVERIFY(!m_stage->outline());
-    }
-
     void newTargetWhilePicking()
     {
         const Protocol protocol(m_picker);
@@ -783,28 +727,6 @@ private Q_SLOTS:
         QCOMPARE(second->presses, 0);
         QCOMPARE(second->cursor().shape(), Qt::WaitCursor);
         QCOMPARE(protocol.lines, picked(colorIn(QPoint(20, 30))));
-    }
-
-    void noTargetWhilePicking()
-    {
-        const Protocol protocol(m_picker);
-        QVERIFY(pickWith([this] {
-            m_picker->setTarget(nullptr);
-            QVERIFY(!m_picker->isInProgress());
-        }));
-        QVERIFY(!m_stage->outline());
-        QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
-        QCOMPARE(protocol.lines, QStringList());
-    }
-
-    void targetMovedWhilePicking()
-    {
-        const Protocol protocol(m_picker);
-        QVERIFY(pickWith([this] {
-            m_stage->target->move(11, 12);
-            m_stage->press();
-        }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot - QPoint(1, 2))));
     }
 
     void targetReparentedWhilePicking()
@@ -1118,18 +1040,6 @@ private Q_SLOTS:
         }
     }
 
-    // A key ends the pick, goes on to the dialog around the target, and closes it. The color is that of
-    // before.
-    void hiddenTargetKeepsItsColor()
-    {
-        const Protocol protocol(m_picker);
-        QVERIFY(pickWith([this] {
-            m_picker->stop();
-            m_stage->window->hide();
-        }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
-    }
-
     void targetIsReadWhereTheScreenIsNot_data()
     {
         QTest::addColumn<QPoint>("place");
@@ -1189,49 +1099,29 @@ private Q_SLOTS:
 
     void colorButtonPicks()
     {
-        ColorPickerButton field(m_stage->window);
-        field.setGeometry(190, 10, 30, 30);
-        field.show();
-        delete m_picker;
-        m_picker = new WidgetColorPicker({&field});
-        m_picker->setTarget(m_stage->target);
-        field.setPicker(m_picker);
-        QSignalSpy changed(&field, &ColorPickerButton::colorChanged);
-        QSignalSpy stopped(&field, &ColorPickerButton::pickingStopped);
-        QVERIFY(runWith([&] { field.click(); },
-                        [&] {
-                            QVERIFY(field.isPickingInProgress());
-                            QVERIFY(field.isDown());
-                            m_stage->press();
-                        },
-                        [&] { field.stopPicking(); }));
-        QCOMPARE(field.color(), std::optional<QColor>(colorIn(Spot)));
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(stopped.size(), 1);
-        QVERIFY(!field.isDown());
-    }
-
-    void colorButtonStaysPressedWithoutAColor()
-    {
-        ColorPickerButton field(m_stage->window);
-        field.setGeometry(190, 10, 30, 30);
-        field.show();
-        delete m_picker;
-        m_picker = new WidgetColorPicker({&field});
-        m_picker->setTarget(m_stage->target);
-        field.setPicker(m_picker);
-        field.setColor(QColor(Qt::red));
-        QSignalSpy stopped(&field, &ColorPickerButton::pickingStopped);
-        QVERIFY(
-            runWith([&] { field.click(); }, [&] { m_stage->pressOn(&field); }, [&] { field.stopPicking(); }));
+        const auto field = makeField();
+        QSignalSpy changed(field.get(), &ColorPickerButton::colorChanged);
+        QSignalSpy stopped(field.get(), &ColorPickerButton::pickingStopped);
+        const auto clickWith = [&](const std::function<void()>& inside) {
+            return runWith([&] { field->click(); }, inside, [&] { field->stopPicking(); });
+        };
+        // Without a colour it stays pressed.
+        QVERIFY(clickWith([&] {
+            QVERIFY(field->isPickingInProgress());
+            QVERIFY(field->isDown());
+            m_stage->pressOn(field.get());
+        }));
         QCOMPARE(stopped.size(), 0);
-        QVERIFY(field.isDown());
-        QVERIFY(!field.isPickingInProgress());
-        QCOMPARE(field.color(), std::optional<QColor>(QColor(Qt::red)));
+        QVERIFY(field->isDown());
+        QVERIFY(!field->isPickingInProgress());
+        QCOMPARE(field->color(), std::optional<QColor>());
 
         PickingStage::moveCursor(m_stage->target, Spot);
-        QVERIFY(runWith([&] { field.click(); }, [&] { m_stage->press(); }, [&] { field.stopPicking(); }));
-        QVERIFY(!field.isDown());
+        QVERIFY(clickWith([&] { m_stage->press(); }));
+        QCOMPARE(field->color(), std::optional<QColor>(colorIn(Spot)));
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(stopped.size(), 1);
+        QVERIFY(!field->isDown());
     }
 
     void keyThatEndsAPickOfAColorButton_data()
@@ -1250,14 +1140,9 @@ private Q_SLOTS:
     {
         QFETCH(const Qt::Key, key);
         QFETCH(const bool, isReleasedInside);
-        ColorPickerButton field(m_stage->window);
-        field.setGeometry(190, 10, 30, 30);
-        field.show();
+        const auto made = makeField();
+        ColorPickerButton& field = *made;
         field.setFocus();
-        delete m_picker;
-        m_picker = new WidgetColorPicker({&field});
-        m_picker->setTarget(m_stage->target);
-        field.setPicker(m_picker);
         QSignalSpy started(&field, &ColorPickerButton::pickingStarted);
         const auto send = [&field, key](QEvent::Type type) {
             QKeyEvent event(type, key, Qt::NoModifier);
@@ -1312,12 +1197,7 @@ private Q_SLOTS:
     void colorButtonGoneWhilePicking()
     {
         QFETCH(int, how);
-        const QPointer<ColorPickerButton> field = new ColorPickerButton(m_stage->window);
-        field->show();
-        delete m_picker;
-        m_picker = new WidgetColorPicker({field.data()});
-        m_picker->setTarget(m_stage->target);
-        field->setPicker(m_picker);
+        const QPointer<ColorPickerButton> field = makeField().release();
         QSignalSpy changed(field.data(), &ColorPickerButton::colorChanged);
         QVERIFY(runWith([&] { field->startPicking(); },
                         [&] {
@@ -1350,6 +1230,19 @@ private Q_SLOTS:
     }
 
 private:
+    /// A button that has the picker.
+    std::unique_ptr<ColorPickerButton> makeField()
+    {
+        auto field = std::make_unique<ColorPickerButton>(m_stage->window);
+        field->setGeometry(190, 10, 30, 30);
+        field->show();
+        delete m_picker;
+        m_picker = new WidgetColorPicker({field.get()});
+        m_picker->setTarget(m_stage->target);
+        field->setPicker(m_picker);
+        return field;
+    }
+
     bool pickWith(const std::function<void()>& inside)
     {
         return runWith([this] { m_picker->pick(); }, inside, [this] { m_picker->stop(); });

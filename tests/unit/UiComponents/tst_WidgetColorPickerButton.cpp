@@ -11,6 +11,9 @@
 
 #include <memory>
 
+using Act = std::function<void(PickingStage*, WidgetColorPickerButton*)>;
+Q_DECLARE_METATYPE(Act)
+
 namespace {
 
 const QPoint Spot(37, 21);
@@ -252,14 +255,78 @@ private Q_SLOTS:
         QVERIFY(!m_button->isDown());
     }
 
-    void pickElsewhereChangesNothing()
+    void pick_data()
     {
-        m_button->setColor(QColor(1, 2, 3));
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QStringList>("said");
+        const auto row = [](const char* name, const QStringList& said, const Act& act) {
+            QTest::newRow(name) << act << said;
+        };
+        row("pressed elsewhere", Cancelled, [](PickingStage* stage, auto*) { stage->pressOn(stage->other); });
+        row("the colour that it has", Cancelled, [](PickingStage* stage, auto* button) {
+            const QSignalBlocker blocker(button);
+            button->setColor(SpotColor);
+            stage->press();
+        });
+        row("started again", Picked, [](PickingStage* stage, auto* button) {
+            button->startPicking();
+            QVERIFY(button->isPickingInProgress());
+            stage->press();
+        });
+        row("stopped", Picked, [](PickingStage*, auto* button) {
+            button->stopPicking();
+            QVERIFY(!button->isPickingInProgress());
+        });
+        row("target taken away", Cancelled, [](PickingStage*, auto* button) {
+            button->setTargetWidget(nullptr);
+            QVERIFY(!button->isPickingInProgress());
+            QVERIFY(!button->isEnabled());
+        });
+        row("target deleted", Cancelled, [](PickingStage* stage, auto* button) {
+            delete stage->target;
+            QVERIFY(!button->isEnabled());
+        });
+        row("hidden", Picked, [](PickingStage* stage, auto* button) {
+            button->hide();
+            QVERIFY(button->isPickingInProgress());
+            stage->press();
+        });
+        // The cursor is where the target was when stopPicking() ends the pick.
+        row("window closed", Picked, [](PickingStage* stage, auto* button) {
+            stage->window->close();
+            button->stopPicking();
+        });
+        row("clicked itself", Cancelled, [](PickingStage* stage, auto* button) {
+            stage->pressOn(button);
+            QVERIFY(!button->isDown());
+            stage->release();
+        });
+        row("double-clicked itself", Cancelled, [](PickingStage* stage, auto* button) {
+            stage->pressOn(button);
+            QWindow* const window = stage->window->windowHandle();
+            const QPoint place = button->geometry().center();
+            QMouseEvent doubleClick(QEvent::MouseButtonDblClick, place, window->mapToGlobal(place),
+                                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(window, &doubleClick);
+            stage->release();
+        });
+        row("Tab", Picked, [](PickingStage* stage, auto* button) {
+            button->setFocus();
+            QWidget::setTabOrder(button, stage->other);
+            QTest::keyClick(stage->window->windowHandle(), Qt::Key_Tab);
+            QVERIFY(stage->other->hasFocus());
+        });
+    }
+
+    void pick()
+    {
+        QFETCH(Act, act);
+        QFETCH(QStringList, said);
         const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
-        QCOMPARE(protocol.lines, Cancelled);
-        QCOMPARE(m_button->color(), QColor(1, 2, 3));
-        QVERIFY(!m_button->pickedColor().isValid());
+        QVERIFY(clickWith([this, act] { act(m_stage.get(), m_button); }));
+        QCOMPARE(protocol.lines, said);
+        QVERIFY(!m_button->isPickingInProgress());
+        QVERIFY(!m_button->isDown());
     }
 
     void pickWithoutChangeSelfColor()
@@ -274,35 +341,6 @@ private Q_SLOTS:
         QCOMPARE(m_button->color(), SpotColor);
         QCOMPARE(m_button->styleSheet(), sheet);
         QCOMPARE(m_button->grab().toImage(), face);
-    }
-
-    void samePickedColorIsReportedOnce()
-    {
-        m_button->setColor(SpotColor);
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] { m_stage->press(); }));
-        QCOMPARE(protocol.lines, Cancelled);
-    }
-
-    void secondStartDoesNothing()
-    {
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] {
-            m_button->startPicking();
-            QVERIFY(m_button->isPickingInProgress());
-            m_stage->press();
-        }));
-        QCOMPARE(protocol.lines, Picked);
-    }
-
-    void stopPickingEndsThePick()
-    {
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] {
-            m_button->stopPicking();
-            QVERIFY(!m_button->isPickingInProgress());
-        }));
-        QCOMPARE(protocol.lines, Picked);
     }
 
     void stylingObjectIsThePickers()
@@ -330,38 +368,6 @@ private Q_SLOTS:
         m_stage->press();
         m_stage->release();
         QCOMPARE(protocol.lines, QStringList());
-    }
-
-    void clickOnItselfEndsThePick()
-    {
-        const Protocol protocol(m_button);
-        QSignalSpy pressed(m_button.data(), &QAbstractButton::pressed);
-        QVERIFY(clickWith([this] {
-            m_stage->pressOn(m_button);
-            QVERIFY(!m_button->isDown());
-            m_stage->release();
-        }));
-        QCOMPARE(protocol.lines, Cancelled);
-        QCOMPARE(pressed.size(), 1);
-        QVERIFY(!m_button->isDown());
-        QVERIFY(!m_button->isPickingInProgress());
-    }
-
-    void doubleClickOnItselfEndsThePick()
-    {
-        const Protocol protocol(m_button);
-        QWindow* const window = m_stage->window->windowHandle();
-        const QPoint place = m_button->geometry().center();
-        QVERIFY(clickWith([&] {
-            PickingStage::moveCursor(m_button);
-            QTest::mousePress(window, Qt::LeftButton, {}, place);
-            QMouseEvent doubleClick(QEvent::MouseButtonDblClick, place, window->mapToGlobal(place),
-                                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(window, &doubleClick);
-            QTest::mouseRelease(window, Qt::LeftButton, {}, place);
-        }));
-        QCOMPARE(protocol.lines, Cancelled);
-        QVERIFY(!m_button->isDown());
     }
 
     void keyEndsThePick_data()
@@ -403,14 +409,6 @@ private Q_SLOTS:
         QVERIFY(!m_button->isDown());
     }
 
-    void otherKeysGoOn()
-    {
-        m_button->setFocus();
-        QWidget::setTabOrder(m_button, m_stage->other);
-        QVERIFY(clickWith([this] { QTest::keyClick(m_stage->window->windowHandle(), Qt::Key_Tab); }));
-        QVERIFY(m_stage->other->hasFocus());
-    }
-
     void spaceStartsAPickThatLasts()
     {
         const Protocol protocol(m_button);
@@ -429,47 +427,7 @@ private Q_SLOTS:
             m_stage->pressOn(m_stage->other);
         }));
         QCOMPARE(protocol.lines, Picked + Cancelled);
-    }
-
-    void targetTakenAwayWhilePicking()
-    {
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] {
-            m_button->setTargetWidget(nullptr);
-            QVERIFY(!m_button->isPickingInProgress());
-        }));
-        QCOMPARE(protocol.lines, Cancelled);
-        QVERIFY(!m_button->isEnabled());
-    }
-
-    void targetDeletedWhilePicking()
-    {
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] { delete m_stage->target; }));
-        QCOMPARE(protocol.lines, Cancelled);
-        QVERIFY(!m_button->isEnabled());
-    }
-
-    void hiddenWhilePicking()
-    {
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] {
-            m_button->hide();
-            QVERIFY(m_button->isPickingInProgress());
-            m_stage->press();
-        }));
-        QCOMPARE(protocol.lines, Picked);
-    }
-
-    void windowClosedWhilePicking()
-    {
-        const Protocol protocol(m_button);
-        QVERIFY(clickWith([this] {
-            m_stage->window->close();
-            m_button->stopPicking();
-        }));
-        // The cursor is where the target was when stopPicking() ended the pick.
-        QCOMPARE(protocol.lines, Picked);
+        QVERIFY(!m_button->pickedColor().isValid());
     }
 
     void deletedWhilePicking_data()

@@ -1,0 +1,434 @@
+#include "Deletion.h"
+#include "FakeColorPicker.h"
+#include "FreedMemory.h"
+#include "MouseEvents.h"
+#include "QmlFiles.h"
+#include "TestMain.h"
+#include "Wheel.h"
+
+#include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/DialogGuideWidget.h>
+#include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/GuideButton.h>
+#include <UiComponents/GuideWidget.h>
+#include <UiComponents/PathSelectionWidget.h>
+#include <UiComponents/PointSelectionPlane.h>
+#include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/QuickDialog.h>
+#include <UiComponents/SearchWidget.h>
+#include <UiComponents/SliderInputWidget.h>
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include <functional>
+
+namespace {
+
+using Action = std::function<void()>;
+using Report = std::function<void()>;
+
+const QString Scheme = QStringLiteral("uic-deletion-test");
+
+/// A component in a window, and what makes it report.
+struct Scene
+{
+    QWidget* component;
+    Action act;
+};
+
+using Make = std::function<Scene(QWidget* window, const Report& report)>;
+
+template <typename Part>
+Part* part(const QWidget* of, const char* name)
+{
+    return of->findChild<Part*>(QLatin1String(name));
+}
+
+QPoint middle(const QWidget* widget)
+{
+    return widget->rect().center();
+}
+
+void pressKey(QWidget* widget, int key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+template <typename Component>
+using Act = std::function<void(Component*)>;
+
+/// Adds a row: @p act makes what @p make made report by @p signal.
+template <typename Component, typename Signal>
+void add(
+    const QByteArray& name, Component* (*make)(QWidget*), Signal signal, const Act<Component>& act,
+    int report = 1, const Act<Component>& prepare = [](Component*) {})
+{
+    const auto scene = [=](QWidget* window, const Report& slot) {
+        auto* const component = make(window);
+        return Scene{component, [=] {
+                         prepare(component);
+                         QObject::connect(component, signal, component, slot);
+                         act(component);
+                     }};
+    };
+    QTest::newRow(name) << Make(scene) << report;
+}
+
+ColorPickerButton* makeColorButton(QWidget* window)
+{
+    auto* const button = new ColorPickerButton(window);
+    button->setPicker(new FakeColorPicker);
+    return button;
+}
+
+FakeColorPicker* pickerOf(ColorPickerButton* button)
+{
+    return static_cast<FakeColorPicker*>(button->picker());
+}
+
+ColorInputWidget* makeColorField(QWidget* window)
+{
+    auto* const field = new ColorInputWidget(window, Qt::blue);
+    auto* const picker = new FakeColorPicker;
+    field->setPicker(picker);
+    picker->onPick = [picker] { picker->finish(QColor(Qt::red)); };
+    return field;
+}
+
+PointSelectorWidget* makePointField(QWidget* window)
+{
+    auto* const field = new PointSelectorWidget(window, {{0, 0}, {100, 100}, 2, 2});
+    field->findChild<PointSelectionPlane*>()->setMinimumSize(100, 100);
+    return field;
+}
+
+PathSelectionWidget* makeFolderField(QWidget* window)
+{
+    auto* const field = new PathSelectionWidget(window);
+    field->setDefaultPath(QStringLiteral("/default"), QStringLiteral("Default"));
+    return field;
+}
+
+GuideInfo guideInfo()
+{
+    return {QStringLiteral("Trim"), QString(), QStringLiteral("<a href=\"%1:x\">Learn more</a>").arg(Scheme),
+            QString()};
+}
+
+GuideButton* makeGuideButton(QWidget* window)
+{
+    auto* const button = new GuideButton(window);
+    button->setGuideInfo(std::make_unique<GuideInfo>(guideInfo()));
+    return button;
+}
+
+void clickLink(QWidget* guide)
+{
+    auto* const label = part<QLabel>(guide, "learnMoreLabel");
+    QTest::mouseClick(label, Qt::LeftButton, {}, {5, middle(label).y()});
+}
+
+/// As typed, and to be reported by Enter.
+void typeUnreported(QWidget* field, const char* name)
+{
+    auto* const spinBox = part<QAbstractSpinBox>(field, name);
+    spinBox->setKeyboardTracking(false);
+    spinBox->selectAll();
+    QTest::keyClick(spinBox, Qt::Key_1);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Make)
+
+/// A slot that deletes the component that called it, or its window: at once, or while it runs an event loop,
+/// as for a message box. Qt's own handlers run on after the slot, and some write into what is gone.
+class tst_Deletion : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QDesktopServices::setUrlHandler(Scheme, this, "ignoreLink"); }
+
+    void cleanupTestCase() { QDesktopServices::unsetUrlHandler(Scheme); }
+
+    void deletedInASlot_data()
+    {
+        QTest::addColumn<Make>("make");
+        QTest::addColumn<int>("report"); // the how manieth deletes
+        addColorFields();
+        addSliderFields();
+        addPointFields();
+        addTextFields();
+        addGuides();
+        addDialogs();
+    }
+
+    void deletedInASlot()
+    {
+        QFETCH(Make, make);
+        QFETCH(int, report);
+        for (const Deletion deletion : allDeletions) {
+            for (const bool isWindowDeleted : {false, true}) {
+                int reports = 0;
+                const QPointer<QWidget> window = new QWidget;
+                auto* const layout = new QVBoxLayout(window);
+                QPointer<QWidget> component;
+                const Scene scene = make(window, [&] {
+                    if (++reports == report) {
+                        destroy(isWindowDeleted ? window.data() : component.data(), deletion);
+                    }
+                });
+                component = scene.component;
+                if (!component->isWindow()) {
+                    layout->addWidget(component);
+                }
+                window->show();
+                QVERIFY(QTest::qWaitForWindowActive(window));
+                const Action act = scene.act;
+                {
+                    const FreedMemoryWatch memory;
+                    act();
+                    QVERIFY(!component);
+                    QVERIFY(memory.deleted() > 0);
+                    QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+                }
+                QVERIFY(!QWidget::mouseGrabber());
+                delete window;
+            }
+        }
+    }
+
+    void ignoreLink(const QUrl& url) { Q_UNUSED(url) }
+
+private:
+    static void addColorFields()
+    {
+        const auto add = [](const char* name, auto signal, const Act<ColorPickerButton>& act) {
+            ::add(QByteArray("colour button, ") + name, makeColorButton, signal, act);
+        };
+        add("clicked", &ColorPickerButton::pickingStarted,
+            [](auto* button) { QTest::mouseClick(button, Qt::LeftButton); });
+        add("Space", &ColorPickerButton::pickingStarted,
+            [](auto* button) { QTest::keyClick(button, Qt::Key_Space); });
+        add("reported", &ColorPickerButton::colorChanged,
+            [](auto* button) { pickerOf(button)->preview(QColor(Qt::red)); });
+        add("reported by a picker that runs a loop", &ColorPickerButton::colorChanged, [](auto* button) {
+            auto* const picker = pickerOf(button);
+            picker->onPick = [picker] { picker->preview(QColor(Qt::red)); };
+            QTest::mouseClick(button, Qt::LeftButton);
+        });
+        add("stopped", &ColorPickerButton::pickingStopped,
+            [](auto* button) { pickerOf(button)->finish(QColor(Qt::red)); });
+        add("final colour", &ColorPickerButton::colorChanged,
+            [](auto* button) { pickerOf(button)->finish(QColor(Qt::red)); });
+        add("setColor", &ColorPickerButton::colorChanged,
+            [](auto* button) { button->setColor(QColor(Qt::red)); });
+        ::add<ColorInputWidget>(
+            "colour field", makeColorField, &ColorInputWidget::colorChanged,
+            [](auto* field) { QTest::mouseClick(field->anchorWidget(), Qt::LeftButton); });
+    }
+
+    static void addSliderFields()
+    {
+        using Slide = Act<QAbstractSlider>;
+        const auto add = [](const char* name, const Slide& act) {
+            const auto slide = [act](QWidget* field) { act(part<QAbstractSlider>(field, "slider")); };
+            ::add<SliderInputWidget>(
+                QByteArray("slider field, ") + name,
+                [](QWidget* window) {
+                    return new SliderInputWidget(window, {0, 100});
+                },
+                &SliderInputWidget::valueChanged, slide);
+            ::add<DoubleSliderInputWidget>(
+                QByteArray("fraction field, ") + name,
+                [](QWidget* window) {
+                    return new DoubleSliderInputWidget(window, {0.0, 1.0, 2});
+                },
+                &DoubleSliderInputWidget::valueChanged, slide);
+        };
+        add("press", [](auto* slider) { press(*slider, middle(slider)); });
+        add("middle press", [](auto* slider) { press(*slider, middle(slider), Qt::MiddleButton); });
+        add("release without tracking", [](auto* slider) {
+            slider->setTracking(false);
+            press(*slider, middle(slider));
+            release(*slider, middle(slider));
+        });
+        add("drag", [](auto* slider) {
+            press(*slider, {2, middle(slider).y()});
+            drag(*slider, middle(slider));
+        });
+        add("key", [](auto* slider) { pressKey(slider, Qt::Key_Right); });
+        add("wheel", [](auto* slider) {
+            slider->setFocus();
+            turnWheel(*slider, 120);
+        });
+        add("value", [](auto* slider) { slider->setValue(7); });
+        add("spin box", [](auto* slider) {
+            part<QAbstractSpinBox>(slider->parentWidget(), "spinbox")->setProperty("value", 1);
+        });
+        add("Enter", [](auto* slider) {
+            typeUnreported(slider->parentWidget(), "spinbox");
+            pressKey(part<QAbstractSpinBox>(slider->parentWidget(), "spinbox"), Qt::Key_Return);
+        });
+        add("setValue", [](auto* slider) {
+            auto* const whole = qobject_cast<SliderInputWidget*>(slider->parentWidget());
+            auto* const fraction = qobject_cast<DoubleSliderInputWidget*>(slider->parentWidget());
+            whole ? whole->setValue(7) : fraction->setValue(0.5);
+        });
+    }
+
+    static void addPointFields()
+    {
+        using Pick = Act<PointSelectionPlane>;
+        // The plane reports once, the field for the plane and for each coordinate.
+        const auto add = [](const char* name, int reports, const Pick& before, const Pick& act) {
+            ::add<PointSelectionPlane>(
+                QByteArray("point plane, ") + name,
+                [](QWidget* window) { return new PointSelectionPlane(window); },
+                &PointSelectionPlane::pointChanged, act, 1, before);
+            const auto planeOf = [](auto* field) {
+                return field->template findChild<PointSelectionPlane*>();
+            };
+            for (int i = 1; i <= reports; ++i) {
+                ::add<PointSelectorWidget>(
+                    QByteArray("point field, ") + name + ", report " + QByteArray::number(i), makePointField,
+                    &PointSelectorWidget::valueChanged, [=](auto* field) { act(planeOf(field)); }, i,
+                    [=](auto* field) { before(planeOf(field)); });
+            }
+        };
+        const Pick nothing = [](PointSelectionPlane*) {};
+        const Pick pressed = [](PointSelectionPlane* plane) { press(*plane, {5, 5}); };
+        add("press", 3, nothing, pressed);
+        add("double click", 3, nothing, [](auto* plane) {
+            sendMouse(*plane, QEvent::MouseButtonDblClick, {20, 20}, Qt::LeftButton, Qt::LeftButton);
+        });
+        add("drag", 3, pressed, [](auto* plane) { drag(*plane, QPoint(9, 9)); });
+        add("release", 3, pressed, [](auto* plane) { release(*plane, QPoint(9, 9)); });
+        add("key", 2, pressed, [](auto* plane) { pressKey(plane, Qt::Key_Right); });
+        const auto field = [](const char* name, int report, const Act<PointSelectorWidget>& act) {
+            ::add(QByteArray("point field, ") + name, makePointField, &PointSelectorWidget::valueChanged, act,
+                  report);
+        };
+        for (const int report : {1, 2}) {
+            field(report == 1 ? "setValue, x" : "setValue, y", report,
+                  [](auto* made) { made->setValue(QPointF(7, 7)); });
+        }
+        field("spin box", 1,
+              [](auto* made) { part<QAbstractSpinBox>(made, "xSpinbox")->setProperty("value", 7.0); });
+        field("Enter", 1, [](auto* made) {
+            typeUnreported(made, "xSpinbox");
+            pressKey(part<QAbstractSpinBox>(made, "xSpinbox"), Qt::Key_Return);
+        });
+    }
+
+    static void addTextFields()
+    {
+        const auto add = [](const char* name, auto signal, const Act<PathSelectionWidget>& act) {
+            ::add(QByteArray("folder field, ") + name, makeFolderField, signal, act);
+        };
+        add("browse", &PathSelectionWidget::browseDirectoryRequested,
+            [](auto* field) { QTest::mouseClick(part<QWidget>(field, "pathBrowseButton"), Qt::LeftButton); });
+        add("browse by Space", &PathSelectionWidget::browseDirectoryRequested,
+            [](auto* field) { QTest::keyClick(part<QWidget>(field, "pathBrowseButton"), Qt::Key_Space); });
+        add("changed", &PathSelectionWidget::pathChanged, [](auto* field) {
+            const QPointer<QWidget> self = field;
+            field->setPath(QStringLiteral("/another"));
+            QTRY_VERIFY(!self);
+        });
+        // What a host hears of the parts.
+        const auto addClick = [](const char* name, const char* button, auto make) {
+            QTest::newRow(name) << Make([=](QWidget* window, const Report& report) {
+                auto* const field = make(window);
+                auto* const clicked = part<QAbstractButton>(field, button);
+                connect(clicked, &QAbstractButton::clicked, field, report);
+                return Scene{field, [=] { QTest::mouseClick(clicked, Qt::LeftButton); }};
+            }) << 1;
+        };
+        addClick("folder field, reset", "pathResetButton", makeFolderField);
+        addClick("search field, clear", "clearSearchButton", [](QWidget* window) {
+            auto* const field = new SearchWidget(window);
+            part<QLineEdit>(field, "searchLineEdit")->setText(QStringLiteral("a"));
+            return field;
+        });
+        QTest::newRow("folder field, check function") << Make([](QWidget* window, const Report& report) {
+            auto* const field = new PathSelectionWidget(window);
+            field->setPath(QStringLiteral("/some"));
+            field->setCheckPathFunc([report](const QString&) {
+                report();
+                return QStringLiteral("Not this one");
+            });
+            return Scene{field, [=] { field->checkPath(); }};
+        }) << 1;
+    }
+
+    static void addGuides()
+    {
+        const auto add = [](const char* name, const Act<GuideWidget>& act) {
+            ::add<GuideWidget>(
+                QByteArray("guide, ") + name,
+                [](QWidget* window) { return new GuideWidget(guideInfo(), window); },
+                &GuideWidget::learnMoreClicked, act);
+        };
+        add("link", clickLink);
+        // Qt's text control is in the middle of its own key event.
+        add("link by keyboard", [](auto* guide) {
+            auto* const label = part<QLabel>(guide, "learnMoreLabel");
+            label->setFocus();
+            QTest::keyClick(label, Qt::Key_Tab);
+            QTest::keyClick(label, Qt::Key_Return);
+        });
+        ::add<GuideButton>("guide button, link", makeGuideButton, &GuideButton::learnMoreClicked,
+                           [](auto* button) {
+                               button->click();
+                               clickLink(button);
+                           });
+        ::add<GuideButton>("guide button, click", makeGuideButton, &GuideButton::clicked,
+                           [](auto* button) { QTest::mouseClick(button, Qt::LeftButton); });
+        const auto bubble = [](const char* name, auto signal) {
+            ::add<DialogGuideWidget>(
+                QByteArray("dialog guide, ") + name,
+                [](QWidget* window) {
+                    auto* const guide = new DialogGuideWidget(window);
+                    guide->setInfo({QStringLiteral("Trim"), QStringLiteral("What it is for."),
+                                    QStringLiteral("Next"), QStringLiteral("Back"), QString()});
+                    return guide;
+                },
+                signal,
+                [name](auto* guide) {
+                    guide->show();
+                    QTest::mouseClick(part<QWidget>(guide, name), Qt::LeftButton);
+                });
+        };
+        bubble("closeButton", &DialogGuideWidget::closeClicked);
+        bubble("mainButton", &DialogGuideWidget::mainClicked);
+        bubble("secondaryButton", &DialogGuideWidget::secondaryClicked);
+    }
+
+    static void addDialogs()
+    {
+        add<Qml::QuickDialog>(
+            "QML dialog, finished",
+            [](QWidget* window) {
+                static const QmlFiles files;
+                auto* const dialog = new Qml::QuickDialog(window);
+                dialog->setQmlPath(files.item(QStringLiteral("width: 100; height: 80")));
+                return dialog;
+            },
+            &QDialog::finished,
+            [](auto* dialog) {
+                QTimer::singleShot(0, dialog, [dialog] { dialog->accept(); });
+                dialog->exec();
+            });
+    }
+};
+
+UIC_TEST_MAIN(tst_Deletion)
+#include "tst_Deletion.moc"
