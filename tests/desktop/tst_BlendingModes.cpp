@@ -62,69 +62,6 @@ private Q_SLOTS:
         QTRY_COMPARE(changed.count(), 2);
     }
 
-    void keyboardChooses()
-    {
-        QSignalSpy changed(m_box, &ColorBlendingComboBox::blendingModeChanged);
-        QVERIFY(open());
-        QVERIFY(RealInput::key(QStringLiteral("Down")));
-        QVERIFY(RealInput::key(QStringLiteral("Return")));
-        QTRY_COMPARE(changed.count(), 1);
-        QCOMPARE(m_box->currentIndex(), 1);
-        QCOMPARE(m_box->currentText(), QStringLiteral("Color"));
-        QCOMPARE(m_window->canvas()->mode(), BlendingMode::Color);
-
-        QVERIFY(open());
-        QVERIFY(RealInput::key(QStringLiteral("Down")));
-        QVERIFY(RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(!m_box->view()->isVisible());
-        QCOMPARE(m_box->currentText(), QStringLiteral("Color"));
-        QCOMPARE(changed.count(), 1);
-    }
-
-    void openListIsSortedAnew_data()
-    {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("German") << QStringLiteral("de");
-        QTest::newRow("Japanese") << QStringLiteral("ja");
-    }
-
-    void openListIsSortedAnew()
-    {
-        QFETCH(QString, language);
-        QVERIFY(open());
-        QVERIFY(clickOn(BlendingMode::Overlay));
-        QTRY_COMPARE(m_window->canvas()->mode(), BlendingMode::Overlay);
-        QTRY_VERIFY(!m_box->view()->isVisible());
-        const QStringList before = sortedNames();
-        const int placeBefore = m_box->currentIndex();
-        QSignalSpy changed(m_box, &ColorBlendingComboBox::blendingModeChanged);
-
-        QVERIFY(open());
-        m_language->setLanguage(language);
-        QTRY_VERIFY(sortedNames() != before);
-
-        // Sorted in the new language, behind the first, with the same mode chosen and marked.
-        QVERIFY(m_box->view()->isVisible());
-        QStringList expected = sortedNames();
-        std::sort(expected.begin(), expected.end());
-        QCOMPARE(sortedNames(), expected);
-        QCOMPARE(m_box->blendingModeAt(0), static_cast<int>(BlendingMode::SourceOver));
-        QCOMPARE(m_box->currentBlendingMode(), static_cast<int>(BlendingMode::Overlay));
-        QVERIFY(m_box->currentIndex() != placeBefore);
-        QCOMPARE(m_box->view()->currentIndex(), itemOf(BlendingMode::Overlay));
-        // The list has room for the new names, and the screen shows them.
-        QTRY_VERIFY(m_box->view()->sizeHintForColumn(0) <= m_box->view()->viewport()->width());
-        QTRY_VERIFY(isAsOnScreen(m_box->view()->viewport()));
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("blending-modes-") + language));
-        QCOMPARE(changed.count(), 0);
-
-        // What is clicked is what is chosen.
-        QVERIFY(clickOn(BlendingMode::Difference));
-        QTRY_COMPARE(changed.count(), 1);
-        QCOMPARE(changed.constFirst().constFirst().value<BlendingMode>(), BlendingMode::Difference);
-        QCOMPARE(m_window->canvas()->mode(), BlendingMode::Difference);
-    }
-
 private:
     bool open() const
     {
@@ -139,16 +76,6 @@ private:
     }
 
     QModelIndex itemOf(BlendingMode mode) const { return m_box->model()->index(m_box->indexOf(mode), 0); }
-
-    /// Of all modes but the first.
-    QStringList sortedNames() const
-    {
-        QStringList names;
-        for (int i = 1; i < m_box->count(); ++i) {
-            names.append(m_box->itemText(i));
-        }
-        return names;
-    }
 
     /// Whether the screen shows @p widget as it would paint itself now.
     bool isAsOnScreen(QWidget* widget) const

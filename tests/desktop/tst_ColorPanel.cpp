@@ -95,27 +95,6 @@ private Q_SLOTS:
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel")));
     }
 
-    void arrowKeysChoose()
-    {
-        const QList<QToolButton*> faces = facesOf("colorMatrixPanel");
-        QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
-        QVERIFY(RealInput::key(QStringLiteral("Tab")));
-        QTRY_VERIFY(child<QWidget>("pipetteButton")->hasFocus());
-        QVERIFY(RealInput::key(QStringLiteral("Tab")));
-        QTRY_VERIFY(faces.contains(qobject_cast<QToolButton*>(QApplication::focusWidget())));
-        QVERIFY(RealInput::key(QStringLiteral("space")));
-        QTRY_COMPARE(m_reported->count(), 1);
-        const auto* first = QApplication::focusWidget();
-        QVERIFY(RealInput::key(QStringLiteral("Right")));
-        QTRY_COMPARE(m_reported->count(), 2);
-        const auto* second = qobject_cast<QToolButton*>(QApplication::focusWidget());
-        QVERIFY(second && second != first);
-        QVERIFY(second->isChecked());
-        // The focus is seen on the chosen one.
-        QTRY_COMPARE(RealInput::pixel(second, QPoint(1, second->height() / 2)), QColor(0x5a, 0x9c, 0xf5));
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-focus")));
-    }
-
     void hexValueIsTyped()
     {
         auto* edit = child<QLineEdit>("currentColorValueEdit");
@@ -194,27 +173,6 @@ private Q_SLOTS:
         QTRY_COMPARE(lastReported(), chosen);
     }
 
-    void ninthOwnColorReplacesTheOldest()
-    {
-        QStringList names;
-        for (int i = 0; i < 9; ++i) {
-            QVERIFY(openSelector());
-            const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-            QVERIFY(RealInput::click(plane, QPoint(40 + i * 15, 30 + i * 10)));
-            QTRY_VERIFY(m_reported->count() > 0);
-            QVERIFY(clickElsewhere());
-            QTRY_VERIFY(!selectorDialog());
-            QTRY_COMPARE(Settings::userCustomColors().value(0), lastReported().name());
-            names.prepend(lastReported().name());
-        }
-        names.removeLast();
-        QCOMPARE(Settings::userCustomColors(), names);
-        for (int i = 0; i < names.size(); ++i) {
-            QTRY_COMPARE(centerOf(ownColor(i)).name(), names.at(i));
-        }
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-own-colours")));
-    }
-
     void escapeClosesTheSelector()
     {
         m_panel->setCurrentColor(QColor(0x12, 0xab, 0x34));
@@ -282,34 +240,6 @@ private Q_SLOTS:
         QVERIFY(RealInput::moveTo(plane, start));
         QVERIFY(RealInput::moveTo(plane, start + QPoint(10, 10)));
         QCOMPARE(m_reported->count(), count);
-    }
-
-    void hueSliderTurnsThePlane()
-    {
-        QVERIFY(openSelector());
-        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
-        auto* slider = selectorDialog()->findChild<QSlider*>(QStringLiteral("hueSlider"));
-        QVERIFY(RealInput::click(plane, QPoint(plane->width() - 2, 1)));
-        QTRY_VERIFY(m_reported->count() > 0);
-        QVERIFY(RealInput::click(slider, QPoint(slider->width() * 2 / 3, slider->height() / 2)));
-        QTRY_VERIFY(qAbs(slider->value() - 240) < 12);
-        QCOMPARE(lastReported().hue(), slider->value());
-        const QPoint upperRight(plane->width() - 1, 0);
-        QTRY_COMPARE(RealInput::pixel(plane, upperRight).hue(), slider->value());
-        QVERIFY(RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(!selectorDialog());
-    }
-
-    void pipetteButtonAsksToCloseToo()
-    {
-        const auto order = std::make_shared<QStringList>();
-        connect(m_panel, &ColorPickerWidget::pipetteRequested, this,
-                [order] { *order << QStringLiteral("pipette"); });
-        connect(m_panel, &ColorPickerWidget::closeRequested, this,
-                [order] { *order << QStringLiteral("close"); });
-        QVERIFY(RealInput::click(child<QToolButton>("pipetteButton")));
-        QTRY_COMPARE(*order, (QStringList{QStringLiteral("pipette"), QStringLiteral("close")}));
-        QCOMPARE(m_reported->count(), 0);
     }
 
     void fieldOpensThePanel()

@@ -91,18 +91,6 @@ private Q_SLOTS:
         QCOMPARE(m_window->verticalScrollBar()->value(), 0);
     }
 
-    void clickOnTheGrooveGoesThere()
-    {
-        QVERIFY(RealInput::click(m_slider, QPoint(m_slider->width() / 5, m_slider->height() / 2)));
-        QTRY_VERIFY(m_slider->value() < 50);
-        QVERIFY2(qAbs(m_slider->value() - 20) <= 2, qPrintable(QString::number(m_slider->value())));
-        QVERIFY(RealInput::click(m_doubleSlider,
-                                 QPoint(m_doubleSlider->width() * 4 / 5, m_slider->height() / 2)));
-        QTRY_VERIFY(m_doubleSlider->value() > 50);
-        QVERIFY2(qAbs(m_doubleSlider->value() - 80) <= 2,
-                 qPrintable(QString::number(m_doubleSlider->value())));
-    }
-
     void dragFromTheGrooveGoesOn()
     {
         const int y = m_slider->height() / 2;
@@ -110,36 +98,6 @@ private Q_SLOTS:
                                 QPoint(m_slider->width() * 9 / 10, y)));
         QTRY_VERIFY(!m_slider->isSliderDown());
         QVERIFY2(qAbs(m_slider->value() - 90) <= 3, qPrintable(QString::number(m_slider->value())));
-    }
-
-    void enterCommitsAndSelects()
-    {
-        auto* edit = m_spinBox->findChild<QLineEdit*>();
-        QVERIFY(RealInput::click(edit));
-        QTRY_VERIFY(m_spinBox->hasFocus());
-        m_spinBox->selectAll();
-        QVERIFY(RealInput::type(QStringLiteral("734")));
-        QVERIFY(RealInput::key(QStringLiteral("Return")));
-        QTRY_COMPARE(edit->selectedText(), QStringLiteral("734"));
-        QCOMPARE(m_spinBox->value(), 734);
-        // The next number replaces it.
-        QVERIFY(RealInput::type(QStringLiteral("12")));
-        QVERIFY(RealInput::key(QStringLiteral("KP_Enter")));
-        QTRY_COMPARE(m_spinBox->value(), 12);
-    }
-
-    void commaAndPointAreBothTyped()
-    {
-        QVERIFY(RealInput::click(m_doubleSpinBox->findChild<QLineEdit*>()));
-        QTRY_VERIFY(m_doubleSpinBox->hasFocus());
-        for (const QString& typed : {QStringLiteral("12,5"), QStringLiteral("7.25")}) {
-            m_doubleSpinBox->selectAll();
-            QVERIFY(RealInput::type(typed));
-            QVERIFY(RealInput::key(QStringLiteral("Return")));
-            QTRY_COMPARE(m_doubleSpinBox->value(),
-                         QString(typed).replace(QLatin1Char(','), QLatin1Char('.')).toDouble());
-        }
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("controls")));
     }
 
     void popUpOpensAndPicks()

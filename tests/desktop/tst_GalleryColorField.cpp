@@ -147,19 +147,6 @@ private Q_SLOTS:
         QCOMPARE(panel()->currentColor()->name(), target.name());
     }
 
-    void pipetteGivesUp()
-    {
-        const QColor before = *m_button->color();
-        openPipette();
-        if (QTest::currentTestFailed()) {
-            return;
-        }
-        QVERIFY(RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(PipetteWindows::views().isEmpty());
-        QCOMPARE(*m_button->color(), before);
-        QTRY_VERIFY(panel());
-    }
-
     void pipetteEndsWithThePicker()
     {
         const QColor before = *m_button->color();
@@ -223,18 +210,6 @@ private Q_SLOTS:
         QTRY_COMPARE(face(), before);
         QCOMPARE(*m_button->color(), before);
         QVERIFY(!m_button->isDown());
-    }
-
-    void disabledFieldDoesNotAnswer()
-    {
-        choice()->setKind(PickerChoice::Kind::Dialog);
-        QVERIFY(RealInput::click(m_disabledField->anchorWidget()));
-        // Clicked afterwards, so that the first click has been handled when this one opens the dialog.
-        QVERIFY(RealInput::click(m_button));
-        QTRY_VERIFY(dialog());
-        QVERIFY(m_button->isDown());
-        QVERIFY(!qobject_cast<ColorPickerButton*>(m_disabledField->anchorWidget())->isDown());
-        QCOMPARE(m_window->findChildren<QColorDialog*>().size(), 1);
     }
 
 private:

@@ -152,17 +152,6 @@ private Q_SLOTS:
         QCOMPARE(clicked.size(), 2);
     }
 
-    void hidingTheButtonCloses()
-    {
-        QVERIFY(openPage("guide-button"));
-        QVERIFY(openGuide());
-        m_button->hide();
-        QVERIFY(!popup()->isVisible());
-        // The keyboard and the mouse are free again.
-        m_button->show();
-        QVERIFY(openGuide());
-    }
-
     void byKeyboardAlone()
     {
         Browser browser;

@@ -79,18 +79,6 @@ private Q_SLOTS:
         QCOMPARE(m_numbers.size() % 2, 0);
     }
 
-    void fractionIsDragged()
-    {
-        auto* slider = partOf<QSlider>(m_fraction, "slider");
-        const auto* spinBox = partOf<QDoubleSpinBox>(m_fraction, "spinbox");
-        const int y = slider->height() / 2;
-        QVERIFY(RealInput::drag(slider, {slider->width() / 5, y}, {slider->width() / 2, y}));
-        QTRY_VERIFY(!slider->isSliderDown());
-        QVERIFY2(qAbs(spinBox->value() - 5.0) < 0.3, qPrintable(spinBox->text()));
-        QCOMPARE(spinBox->value(), slider->value() / 100.0);
-        QCOMPARE(m_fractions.last(), spinBox->value());
-    }
-
     void numberIsTyped()
     {
         auto* spinBox = partOf<QSpinBox>(m_number, "spinbox");
@@ -101,51 +89,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_numbers, QVector<int>({7, 7, 73, 73}));
         QCOMPARE(partOf<QSlider>(m_number, "slider")->value(), 73);
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("number-inputs")));
-    }
-
-    void fractionIsTypedWithEitherMark()
-    {
-        auto* spinBox = partOf<QDoubleSpinBox>(m_fraction, "spinbox");
-        QVERIFY(RealInput::click(spinBox));
-        QTRY_VERIFY(spinBox->hasFocus());
-        for (const QString& typed : {QStringLiteral("2,57"), QStringLiteral("0.29")}) {
-            QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-            QVERIFY(RealInput::type(typed));
-            QVERIFY(RealInput::key(QStringLiteral("Return")));
-            const double value = QString(typed).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
-            QTRY_COMPARE(spinBox->value(), value);
-            QTRY_COMPARE(m_fractions.last(), value);
-            QCOMPARE(partOf<QSlider>(m_fraction, "slider")->value(), qRound(value * 100));
-        }
-    }
-
-    void typedTextStaysUntilItIsCommitted()
-    {
-        auto* spinBox = partOf<QDoubleSpinBox>(m_fraction, "spinbox");
-        const auto* edit = spinBox->findChild<QLineEdit*>();
-        QVERIFY(RealInput::click(spinBox));
-        QTRY_VERIFY(spinBox->hasFocus());
-        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-        QVERIFY(RealInput::type(QStringLiteral("003,5")));
-        QTRY_COMPARE(edit->text(), QStringLiteral("003,5"));
-        QTRY_COMPARE(partOf<QSlider>(m_fraction, "slider")->value(), 350);
-        QVERIFY(RealInput::click(m_after));
-        QTRY_COMPARE(edit->text(), QStringLiteral("3.50"));
-    }
-
-    void arrowKeysStep()
-    {
-        auto* spinBox = partOf<QDoubleSpinBox>(m_fraction, "spinbox");
-        spinBox->setFocus();
-        for (int i = 0; i < 6; ++i) {
-            QVERIFY(RealInput::key(QStringLiteral("Up")));
-        }
-        QTRY_COMPARE(m_fractions.size(), 12);
-        QVERIFY(m_fractions.last() == 0.06);
-        partOf<QSlider>(m_fraction, "slider")->setFocus();
-        QVERIFY(RealInput::key(QStringLiteral("Left")));
-        QTRY_COMPARE(m_fractions.size(), 14);
-        QVERIFY(m_fractions.last() == 0.05);
     }
 
     void wheelOverUnfocusedPartsScrollsThePanel_data()
@@ -175,46 +118,6 @@ private Q_SLOTS:
         QVERIFY(m_numbers.isEmpty() && m_fractions.isEmpty() && m_positions.isEmpty());
     }
 
-    void wheelOverAFocusedPartChangesIt()
-    {
-        auto* spinBox = partOf<QSpinBox>(m_number, "spinbox");
-        spinBox->setFocus();
-        QVERIFY(RealInput::wheel(spinBox, spinBox->rect().center(), 3));
-        QTRY_COMPARE(spinBox->value(), 3);
-        QCOMPARE(m_window->verticalScrollBar()->value(), 0);
-    }
-
-    void tabVisitsEveryPart()
-    {
-        const QVector<QWidget*> order = {partOf<QWidget>(m_number, "slider"),
-                                         partOf<QWidget>(m_number, "spinbox"),
-                                         partOf<QWidget>(m_fraction, "slider"),
-                                         partOf<QWidget>(m_fraction, "spinbox"),
-                                         m_plane,
-                                         partOf<QWidget>(m_position, "xSpinbox"),
-                                         partOf<QWidget>(m_position, "ySpinbox"),
-                                         m_after};
-        for (QWidget* widget : order) {
-            QVERIFY(RealInput::key(QStringLiteral("Tab")));
-            QTRY_COMPARE(QApplication::focusWidget(), widget);
-        }
-        for (int i = order.size() - 2; i >= 0; --i) {
-            QVERIFY(RealInput::key(QStringLiteral("shift+Tab")));
-            QTRY_COMPARE(QApplication::focusWidget(), order.at(i));
-        }
-        QVERIFY(m_numbers.isEmpty() && m_fractions.isEmpty() && m_positions.isEmpty());
-    }
-
-    void pointIsClicked()
-    {
-        QVERIFY(RealInput::click(m_plane, {30, 40}));
-        // The plane's report, those of the two coordinates, and that of the release.
-        QTRY_COMPARE(m_positions, QVector<QPointF>({{30, 40}, {30, 0}, {30, 40}, {30, 40}}));
-        QCOMPARE(partOf<QDoubleSpinBox>(m_position, "xSpinbox")->value(), 30.0);
-        QCOMPARE(partOf<QDoubleSpinBox>(m_position, "ySpinbox")->value(), 40.0);
-        QVERIFY(m_plane->hasFocus());
-    }
-
     void pointIsDraggedOutOfTheWindow()
     {
         // To the left of the window and below the plane, over other widgets.
@@ -228,32 +131,6 @@ private Q_SLOTS:
         QVERIFY(RealInput::click(m_before));
         QTRY_VERIFY(m_before->hasFocus());
         QCOMPARE(m_positions.size(), reports);
-    }
-
-    void pointIsMovedByKeys()
-    {
-        m_position->setValue({50, 50});
-        m_plane->setFocus();
-        m_positions.clear();
-        QVERIFY(RealInput::key(QStringLiteral("Right")));
-        QVERIFY(RealInput::key(QStringLiteral("shift+Down")));
-        QTRY_COMPARE(m_positions, QVector<QPointF>({{51, 50}, {51, 50}, {51, 60}, {51, 60}}));
-        QVERIFY(m_plane->hasFocus());
-    }
-
-    // The button is still down when the plane goes; its release and the next click are for others.
-    void planeIsHiddenDuringADrag()
-    {
-        connect(m_position, &PointSelectorWidget::valueChanged, m_position, [this](const QPointF& value) {
-            if (value.x() > 60) {
-                m_position->hide();
-            }
-        });
-        QVERIFY(RealInput::drag(m_plane, {20, 20}, {95, 20}));
-        QTRY_VERIFY(m_position->isHidden());
-        QVERIFY(!QWidget::mouseGrabber());
-        QVERIFY(RealInput::click(m_after));
-        QTRY_VERIFY(m_after->hasFocus());
     }
 
     void coordinateHasAToolTip()

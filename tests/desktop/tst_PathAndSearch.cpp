@@ -77,38 +77,6 @@ private Q_SLOTS:
         QCOMPARE(m_edit->text(), folder.path());
     }
 
-    void resetBringsTheDefaultBack()
-    {
-        open(QStringLiteral("path-selection"));
-        auto* reset = m_field->findChild<QToolButton*>(QStringLiteral("pathResetButton"));
-        QVERIFY(!reset->isEnabled());
-        QVERIFY(RealInput::click(m_edit));
-        QVERIFY(RealInput::type(QStringLiteral("/x")));
-        QTRY_VERIFY(reset->isEnabled());
-        QVERIFY(RealInput::click(reset));
-        QTRY_COMPARE(m_edit->text(), QStringLiteral("Home folder"));
-        QCOMPARE(m_field->path(), m_field->defaultPath());
-        QVERIFY(!m_edit->hasFocus());
-        QVERIFY(!reset->isEnabled());
-    }
-
-    void tabGoesThroughTheParts()
-    {
-        open(QStringLiteral("path-selection"));
-        QVERIFY(RealInput::click(m_edit));
-        QVERIFY(RealInput::type(QStringLiteral("/x")));
-        QTRY_COMPARE(m_field->path(), QStringLiteral("/x"));
-        for (const char* name : {"pathBrowseButton", "pathResetButton"}) {
-            QVERIFY(RealInput::key(QStringLiteral("Tab")));
-            QTRY_COMPARE(QApplication::focusWidget(), m_field->findChild<QWidget*>(QLatin1String(name)));
-        }
-        QVERIFY(RealInput::key(QStringLiteral("Tab")));
-        QTRY_VERIFY(!m_field->isAncestorOf(QApplication::focusWidget()));
-        QVERIFY(RealInput::key(QStringLiteral("shift+Tab")));
-        QVERIFY(RealInput::key(QStringLiteral("space")));
-        QTRY_COMPARE(m_field->path(), m_field->defaultPath());
-    }
-
     void toolTipIsAtTheLineEdit()
     {
         open(QStringLiteral("path-selection"));
@@ -175,14 +143,6 @@ private Q_SLOTS:
         QVERIFY(!m_edit->hasFocus());
     }
 
-    void leadingBlankIsRefused()
-    {
-        open(QStringLiteral("search"));
-        QVERIFY(RealInput::click(m_edit));
-        QVERIFY(RealInput::type(QStringLiteral("  two words ")));
-        QTRY_COMPARE(m_search->text(), QStringLiteral("two words "));
-    }
-
     void searchIsClearedByMouse()
     {
         open(QStringLiteral("search"));
@@ -197,35 +157,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_search->text(), QString());
         QVERIFY(!button->isVisible());
         QVERIFY(m_edit->hasFocus());
-    }
-
-    void searchIsClearedByKey()
-    {
-        open(QStringLiteral("search"));
-        QVERIFY(RealInput::click(m_edit));
-        QVERIFY(RealInput::type(QStringLiteral("beach")));
-        QVERIFY(RealInput::key(QStringLiteral("Tab")));
-        QTRY_VERIFY(m_search->findChild<QToolButton*>()->hasFocus());
-        QVERIFY(RealInput::key(QStringLiteral("space")));
-        QTRY_COMPARE(m_search->text(), QString());
-        QVERIFY(RealInput::type(QStringLiteral("harbour")));
-        QTRY_COMPARE(m_search->text(), QStringLiteral("harbour"));
-    }
-
-    void emptiedSearchIsFinishedByLeaving()
-    {
-        open(QStringLiteral("search"));
-        QSignalSpy finished(m_search, &SearchWidget::editingFinished);
-        QVERIFY(RealInput::click(m_edit));
-        QVERIFY(RealInput::type(QStringLiteral("ab")));
-        QVERIFY(RealInput::key(QStringLiteral("Return")));
-        QTRY_COMPARE(finished.count(), 1);
-        QVERIFY(RealInput::key(QStringLiteral("BackSpace")));
-        QVERIFY(RealInput::key(QStringLiteral("BackSpace")));
-        QTRY_COMPARE(m_search->text(), QString());
-        QVERIFY(RealInput::key(QStringLiteral("Tab")));
-        QTRY_COMPARE(finished.count(), 2);
-        QCOMPARE(finished.last().first().toString(), QString());
     }
 
     void placeholderFollowsTheMouse()

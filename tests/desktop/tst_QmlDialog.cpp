@@ -106,19 +106,6 @@ private Q_SLOTS:
         QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
     }
 
-    void tabThenSpace()
-    {
-        QVERIFY(runs([](SceneDialog*) {
-            QTRY_VERIFY(isAsked(QStringLiteral("Keep")));
-            for (const char* const key : {"Tab", "Tab", "shift+Tab"}) {
-                QVERIFY(RealInput::key(QLatin1String(key)));
-            }
-            QTRY_VERIFY(isAsked(QStringLiteral("Discard")));
-            QVERIFY(RealInput::key(QStringLiteral("space")));
-        }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
-    }
-
     void escapeRejects()
     {
         for (const Scene scene : {Confirmation, Form}) {
@@ -193,37 +180,6 @@ private Q_SLOTS:
         }));
         QTRY_COMPARE(resultOf(QStringLiteral("Values of the form")),
                      QStringLiteral("rate: 60, title: \"Sequence 1\""));
-    }
-
-    void sceneThatFailsToLoad()
-    {
-        choose(Broken);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Broken.qml:2")));
-        QVERIFY(press(QStringLiteral("Open a new dialog")));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("0"));
-        QVERIFY(resultOf(QStringLiteral("Errors in the scene")).contains(QStringLiteral("Broken.qml:2")));
-        QTRY_VERIFY(m_window->page()
-                        ->signalLog()
-                        ->lines()
-                        .join(QLatin1Char('\n'))
-                        .contains(QStringLiteral(
-                            "WARNING QuickContent.cpp: Could not resolve root object for main qml")));
-        QVERIFY(!QApplication::activeModalWidget());
-        QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("qml-dialog-broken")));
-    }
-
-    void sourceThatTheReaderChanged()
-    {
-        choose(Confirmation);
-        write(QStringLiteral("import QtQuick 2.15\nRectangle { width: 200; height: 100; color: '#c03060'\n"
-                             "MouseArea { anchors.fill: parent; onClicked: callback.done(77) } }"));
-        QVERIFY(runs([](SceneDialog* dialog) {
-            QCOMPARE(dialog->size(), QSize(200, 100));
-            QTRY_COMPARE(RealInput::pixel(dialog, QPoint(100, 50)), QColor(0xc0, 0x30, 0x60));
-            QVERIFY(RealInput::click(dialog));
-        }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("77"));
     }
 
     void whatIsBehindShowsThroughAndIsBlocked()
@@ -313,24 +269,6 @@ private Q_SLOTS:
             QVERIFY(clickOn(dialog, QStringLiteral("Discard")));
         }));
         QCOMPARE(resultOf(Result), QStringLiteral("1"));
-    }
-
-    void sceneThatChangesItsSize()
-    {
-        write(QStringLiteral("import QtQuick 2.15\nRectangle { width: 200; height: 100; color: '#3060c0'\n"
-                             "MouseArea { anchors.fill: parent; onClicked: parent.width == 200 "
-                             "? (parent.width = 320, parent.height = 60) : callback.accept() } }"));
-        QVERIFY(runs([](SceneDialog* dialog) {
-            QTRY_COMPARE(RealInput::pixel(dialog, QPoint(199, 99)), QColor(0x30, 0x60, 0xc0));
-            const QPoint before = dialog->pos();
-            QVERIFY(RealInput::click(dialog));
-            QTRY_COMPARE(dialog->size(), QSize(320, 60));
-            QTRY_COMPARE(RealInput::pixel(dialog, QPoint(319, 59)), QColor(0x30, 0x60, 0xc0));
-            QTRY_VERIFY(RealInput::pixel(dialog, QPoint(199, 99)) != QColor(0x30, 0x60, 0xc0));
-            QCOMPARE(dialog->pos(), before);
-            QVERIFY(RealInput::click(dialog, QPoint(310, 50)));
-        }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
     }
 
     void pictures_data()

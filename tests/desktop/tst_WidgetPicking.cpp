@@ -330,14 +330,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_target->presses, 1);
     }
 
-    void clickOnAnotherButtonClicksIt()
-    {
-        QSignalSpy clicked(m_other, &QAbstractButton::clicked);
-        QVERIFY(clickWith([this] { QVERIFY(RealInput::click(m_other)); }));
-        QTRY_COMPARE(clicked.size(), 1);
-        QVERIFY(!m_button->color().isValid());
-    }
-
     void clickOnTheButtonEndsThePick()
     {
         QSignalSpy started(m_button.data(), &WidgetColorPickerButton::pickingStarted);
@@ -430,23 +422,6 @@ private Q_SLOTS:
         }
     }
 
-    void targetThatMovesOn()
-    {
-        const QPoint point(33, 44);
-        QVERIFY(clickWith([&] {
-            m_target->move(24, 28);
-            QTRY_COMPARE(RealInput::pixel(m_target, point), m_target->expected(point));
-            QVERIFY(clickInTarget(point));
-        }));
-        QCOMPARE(m_button->color(), m_target->expected(point));
-    }
-
-    void dialogDeletedWhilePicking()
-    {
-        QVERIFY(clickWith([this] { m_window.reset(); }));
-        QVERIFY(!m_button);
-    }
-
     void colorButton()
     {
         const QPoint point(1, 60);
@@ -466,44 +441,6 @@ private Q_SLOTS:
         QVERIFY(m_field->isDown());
         QVERIFY(clickWith([&] { QVERIFY(clickInTarget(point)); }, m_field));
         QVERIFY(!m_field->isDown());
-    }
-
-    void keysOnAColorButton_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<bool>("isOverTarget");
-        for (const char* key : {"space", "a"}) {
-            QTest::addRow("%s over the target", key) << QString::fromLatin1(key) << true;
-            QTest::addRow("%s elsewhere", key) << QString::fromLatin1(key) << false;
-        }
-    }
-
-    // The key goes on to the field, which is still pressed: it must not begin the next pick.
-    void keysOnAColorButton()
-    {
-        QFETCH(const QString, key);
-        QFETCH(const bool, isOverTarget);
-        const QPoint point(33, 44);
-        m_field->setFocus();
-        // A button that loses the focus is released.
-        m_other->setFocusPolicy(Qt::NoFocus);
-        const QSignalSpy started(m_field, &ColorPickerButton::pickingStarted);
-        QVERIFY(clickWith(
-            [&] {
-                QVERIFY(isOverTarget ? RealInput::moveTo(m_target, point)
-                                     : RealInput::moveTo(m_window.get(), QPoint(190, 10)));
-                QVERIFY(RealInput::key(key));
-            },
-            m_field));
-        // What follows the key has been handled when the other button hears of its click.
-        const QSignalSpy otherClicked(m_other, &QAbstractButton::clicked);
-        QVERIFY(RealInput::click(m_other));
-        QTRY_COMPARE(otherClicked.size(), 1);
-        QCOMPARE(started.size(), 1);
-        QVERIFY(!m_field->isPickingInProgress());
-        QCOMPARE(m_field->isDown(), !isOverTarget);
-        QCOMPARE(m_field->color(),
-                 isOverTarget ? std::optional<QColor>(m_target->expected(point)) : std::nullopt);
     }
 
     // The last test, for a failure leaves a screen out.
