@@ -11,13 +11,6 @@
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
-#include <QEventLoop>
-#include <QFormLayout>
-#include <QLabel>
-#include <QProcess>
-#include <QTimer>
-#include <QTranslator>
-
 #include <memory>
 
 namespace {

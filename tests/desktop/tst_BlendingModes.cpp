@@ -3,9 +3,6 @@
 
 #include <UiComponents/ColorBlendingComboBox.h>
 
-#include <QAbstractItemView>
-#include <QScreen>
-
 #include <algorithm>
 #include <gallery/BlendStage.h>
 #include <gallery/GalleryApplication.h>

@@ -7,15 +7,6 @@
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/PopupColorPicker.h>
 
-#include <QDialog>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScreen>
-#include <QSlider>
-#include <QSpinBox>
-#include <QToolButton>
-
 #include <gallery/GalleryApplication.h>
 #include <gallery/StyleController.h>
 

@@ -3,12 +3,6 @@
 
 #include <UiComponents/ColorPickerWidget.h>
 
-#include <QCursor>
-#include <QLineEdit>
-#include <QProcess>
-#include <QScreen>
-#include <QToolButton>
-
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>

@@ -7,11 +7,6 @@
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 #include <WidgetToolkit/OvSpinBox.h>
 
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QVBoxLayout>
-
 /**
  * The toolkit's controls in a panel that a user scrolls, clicks and types in.
  */

@@ -1,12 +1,6 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
-#include <QLineEdit>
-#include <QPainter>
-#include <QPushButton>
-#include <QScreen>
-#include <QVBoxLayout>
-
 namespace {
 
 class DragTarget : public QWidget

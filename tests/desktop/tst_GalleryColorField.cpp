@@ -7,12 +7,6 @@
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/PopupColorPicker.h>
 
-#include <QColorDialog>
-#include <QDialogButtonBox>
-#include <QPushButton>
-#include <QToolButton>
-#include <QWindow>
-
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>

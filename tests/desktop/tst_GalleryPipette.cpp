@@ -2,10 +2,6 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
-#include <QListWidget>
-#include <QPushButton>
-#include <QWindow>
-
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>

@@ -4,8 +4,6 @@
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
-#include <QTimer>
-
 #include <functional>
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>

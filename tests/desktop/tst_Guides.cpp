@@ -7,12 +7,6 @@
 #include <UiComponents/GuideWidget.h>
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <QDesktopServices>
-#include <QLabel>
-#include <QPushButton>
-#include <QScreen>
-#include <QToolButton>
-
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>

@@ -6,16 +6,6 @@
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
-#include <QDoubleSpinBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSlider>
-#include <QSpinBox>
-#include <QToolTip>
-#include <QVBoxLayout>
-
 /**
  * The inputs of numbers and points in a panel that a user scrolls, drags and types in.
  */

@@ -4,14 +4,6 @@
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/SearchWidget.h>
 
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QToolButton>
-#include <QToolTip>
-
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>

@@ -4,8 +4,6 @@
 #include <EditorWidgets/PointingWidget.h>
 #include <WidgetToolkit/OvFrame.h>
 
-#include <QLineEdit>
-
 namespace {
 
 const QColor BubbleColor(20, 120, 60);

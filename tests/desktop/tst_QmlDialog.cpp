@@ -1,16 +1,9 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
-#include <QScreen>
-#include <QTimer>
 
 #include <functional>
 #include <gallery/CommandLine.h>

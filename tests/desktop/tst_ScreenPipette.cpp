@@ -7,12 +7,6 @@
 #include <UiComponents/Pipette.h>
 #include <UiComponents/ScreenReader.h>
 
-#include <QFile>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QScreen>
-#include <QWindow>
-
 #include <algorithm>
 #include <csignal>
 #include <functional>

@@ -3,10 +3,6 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
-#include <QGuiApplication>
-#include <QLabel>
-#include <QScreen>
-
 namespace {
 
 } // namespace

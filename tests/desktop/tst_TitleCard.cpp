@@ -10,13 +10,6 @@
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
-#include <QLineEdit>
-#include <QSlider>
-#include <QSpinBox>
-#include <QTemporaryDir>
-#include <QToolBar>
-#include <QToolButton>
-
 #include <examples/titlecard/Canvas.h>
 #include <examples/titlecard/Editor.h>
 #include <memory>

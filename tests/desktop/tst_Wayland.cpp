@@ -7,12 +7,6 @@
 #include <UiComponents/Pipette.h>
 #include <WidgetToolkit/OvFrame.h>
 
-#include <QDir>
-#include <QImage>
-#include <QListWidget>
-#include <QPushButton>
-#include <QToolButton>
-
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>

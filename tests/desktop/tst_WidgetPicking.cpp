@@ -7,16 +7,9 @@
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
-#include <QPainter>
-#include <QPointer>
-#include <QProcess>
-#include <QPushButton>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWidget>
-#include <QRandomGenerator>
-#include <QScreen>
-#include <QTimer>
 
 #include <functional>
 #include <memory>

@@ -5,9 +5,6 @@
 #include <UiComponents/ColorPortal.h>
 #include <UiComponents/Pipette.h>
 
-#include <QScreen>
-#include <QWindow>
-
 /**
  * A program of X11 on a desktop of Wayland: the pipette may cover the screen, but sees nothing of what
  * Wayland's own programs show. What counts is that a pick comes to its end.

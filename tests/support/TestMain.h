@@ -2,8 +2,9 @@
 
 #include "TestEnvironment.h"
 
-#include <QApplication>
+// For all tests: it is what they are precompiled with.
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 

@@ -3,8 +3,6 @@
 
 #include <UiComponents/AbstractColorPicker.h>
 
-#include <QPointer>
-
 using OptionalColor = std::optional<QColor>;
 
 class tst_AbstractColorPicker : public QObject

@@ -21,8 +21,6 @@
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
-#include <QFile>
-
 #include <functional>
 
 using Make = std::function<QWidget*()>;

@@ -17,13 +17,6 @@
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
-#include <QDir>
-#include <QFormLayout>
-#include <QHelpEvent>
-#include <QLabel>
-#include <QToolButton>
-#include <QToolTip>
-
 #include <functional>
 
 using Make = std::function<QWidget*(QWidget*)>;

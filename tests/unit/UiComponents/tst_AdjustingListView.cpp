@@ -2,11 +2,6 @@
 
 #include <UiComponents/AdjustingListView.h>
 
-#include <QScrollArea>
-#include <QStandardItemModel>
-#include <QStringListModel>
-#include <QVBoxLayout>
-
 #include <initializer_list>
 #include <memory>
 

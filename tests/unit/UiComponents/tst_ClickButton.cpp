@@ -5,10 +5,6 @@
 #include <UiComponents/GuideButton.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
-#include <QApplication>
-#include <QPointer>
-#include <QtTest>
-
 #include <memory>
 
 class tst_ClickButton : public QObject

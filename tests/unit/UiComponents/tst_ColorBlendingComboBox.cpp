@@ -4,12 +4,6 @@
 
 #include <UiComponents/ColorBlendingComboBox.h>
 
-#include <QAbstractItemView>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QStyledItemDelegate>
-#include <QTranslator>
-
 namespace {
 
 constexpr int modeCount = 14;

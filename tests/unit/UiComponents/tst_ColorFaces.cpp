@@ -2,10 +2,6 @@
 
 #include <UiComponents/ColorFaces.h>
 
-#include <QColor>
-#include <QSignalSpy>
-#include <QToolButton>
-
 class tst_ColorFaces : public QObject
 {
     Q_OBJECT

@@ -5,12 +5,6 @@
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
 
-#include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
-#include <QPointer>
-#include <QSignalSpy>
-
 using OptionalColor = std::optional<QColor>;
 
 namespace {

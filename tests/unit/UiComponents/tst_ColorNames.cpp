@@ -3,8 +3,6 @@
 #include <UiComponents/ColorNames.h>
 #include <UiComponents/ColorPalette.h>
 
-#include <QTranslator>
-
 #include <memory>
 
 Q_DECLARE_METATYPE(std::optional<QColor>)

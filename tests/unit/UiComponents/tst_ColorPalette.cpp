@@ -2,8 +2,6 @@
 
 #include <UiComponents/ColorPalette.h>
 
-#include <QSet>
-
 namespace {
 
 // While libraries and programs load, long before main().

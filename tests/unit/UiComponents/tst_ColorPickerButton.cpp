@@ -4,11 +4,6 @@
 
 #include <UiComponents/ColorPickerButton.h>
 
-#include <QEventLoop>
-#include <QLayout>
-#include <QPointer>
-#include <QSignalSpy>
-
 #include <memory>
 
 using OptionalColor = std::optional<QColor>;

@@ -12,17 +12,6 @@
 #include <WidgetToolkit/OvGridLayout.h>
 #include <WidgetToolkit/OvSpinBox.h>
 
-#include <QButtonGroup>
-#include <QClipboard>
-#include <QDialog>
-#include <QLabel>
-#include <QPointer>
-#include <QRegExpValidator>
-#include <QScreen>
-#include <QSettings>
-#include <QToolButton>
-#include <QVBoxLayout>
-
 #include <functional>
 #include <utility>
 

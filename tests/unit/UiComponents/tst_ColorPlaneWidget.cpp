@@ -4,10 +4,6 @@
 
 #include <UiComponents/ColorPlaneWidget.h>
 
-#include <QPainter>
-#include <QPointer>
-#include <QSignalSpy>
-
 #include <random>
 #include <utility>
 

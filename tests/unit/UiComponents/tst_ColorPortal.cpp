@@ -5,7 +5,6 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusVirtualObject>
-#include <QWidget>
 
 #include <limits>
 #include <memory>

@@ -5,11 +5,6 @@
 #include <UiComponents/ColorPlaneWidget.h>
 #include <UiComponents/CustomColorSelectWidget.h>
 
-#include <QLabel>
-#include <QLayout>
-#include <QPointer>
-#include <QTranslator>
-
 #include <utility>
 
 using Colors = QVector<QColor>;

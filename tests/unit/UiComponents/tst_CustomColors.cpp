@@ -4,8 +4,6 @@
 #include <Settings/Settings.h>
 #include <UiComponents/CustomColors.h>
 
-#include <QSettings>
-
 using Util::appendCustomColor;
 
 namespace {

@@ -19,13 +19,6 @@
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
-#include <QAbstractSlider>
-#include <QAbstractSpinBox>
-#include <QDesktopServices>
-#include <QLabel>
-#include <QPointer>
-#include <QVBoxLayout>
-
 #include <functional>
 
 namespace {

@@ -7,17 +7,6 @@
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <QAccessible>
-#include <QLabel>
-#include <QMovie>
-#include <QPointer>
-#include <QPushButton>
-#include <QScopeGuard>
-#include <QScreen>
-#include <QTextDocument>
-#include <QToolButton>
-#include <QTranslator>
-
 #include <functional>
 #include <memory>
 

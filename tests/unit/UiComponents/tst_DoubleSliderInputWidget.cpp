@@ -6,8 +6,6 @@
 #include <WidgetToolkit/OvDoubleSlider.h>
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 
-#include <QLineEdit>
-
 #include <cmath>
 #include <limits>
 #include <utility>

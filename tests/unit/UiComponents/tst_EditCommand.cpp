@@ -3,9 +3,6 @@
 #include <UiComponents/EditCommand.h>
 #include <UiComponents/EditSession.h>
 
-#include <QSlider>
-#include <QUndoStack>
-
 #include <memory>
 
 class tst_EditCommand : public QObject

@@ -18,18 +18,6 @@
 #include <UiComponents/WidgetColorPickerButton.h>
 #include <WidgetToolkit/OvDoubleSlider.h>
 
-#include <QAction>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSlider>
-#include <QSpinBox>
-#include <QToolButton>
-#include <QVBoxLayout>
-
 #include <functional>
 #include <memory>
 

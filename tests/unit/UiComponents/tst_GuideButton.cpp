@@ -9,17 +9,6 @@
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <QAccessible>
-#include <QDesktopServices>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMovie>
-#include <QPointer>
-#include <QScreen>
-#include <QTextDocument>
-#include <QTimer>
-#include <QWindow>
-
 #include <functional>
 #include <limits>
 #include <memory>

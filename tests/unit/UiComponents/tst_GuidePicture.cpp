@@ -6,11 +6,6 @@
 #include <UiComponents/GuideWidget.h>
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <QMovie>
-#include <QPushButton>
-#include <QToolButton>
-#include <QVBoxLayout>
-
 namespace {
 
 const QString film = QStringLiteral(UIC_TEST_DATA "/guide.gif");

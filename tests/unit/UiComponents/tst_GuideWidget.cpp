@@ -8,16 +8,6 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <QDesktopServices>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMovie>
-#include <QPointer>
-#include <QScreen>
-#include <QTemporaryDir>
-#include <QTextDocument>
-#include <QVBoxLayout>
-
 #include <functional>
 #include <memory>
 

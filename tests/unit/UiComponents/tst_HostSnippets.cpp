@@ -8,10 +8,6 @@
 #include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/SliderInputWidget.h>
 
-#include <QSpinBox>
-#include <QToolButton>
-#include <QUndoStack>
-
 struct Card
 {
     int size = 0;

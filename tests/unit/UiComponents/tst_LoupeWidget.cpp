@@ -3,14 +3,6 @@
 
 #include <UiComponents/LoupeWidget.h>
 
-#include <QBoxLayout>
-#include <QGraphicsScene>
-#include <QGraphicsView>
-#include <QLabel>
-#include <QPainter>
-#include <QScreen>
-#include <QStyle>
-
 #include <cmath>
 #include <functional>
 #include <memory>

@@ -10,15 +10,6 @@
 #include <Settings/StandardFolderUrls.h>
 #include <UiComponents/PathSelectionWidget.h>
 
-#include <QAbstractEventDispatcher>
-#include <QBoxLayout>
-#include <QLabel>
-#include <QPointer>
-#include <QTextDocument>
-#include <QTimerEvent>
-#include <QToolButton>
-#include <QToolTip>
-
 #include <functional>
 #include <memory>
 #include <sys/stat.h>

@@ -8,18 +8,6 @@
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
 
-#include <QDialog>
-#include <QGraphicsProxyWidget>
-#include <QGraphicsScene>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPainter>
-#include <QPointer>
-#include <QProcess>
-#include <QScreen>
-#include <QTimer>
-#include <QWindow>
-
 #include <functional>
 #include <memory>
 

@@ -2,12 +2,6 @@
 
 #include <UiComponents/PipetteScreenView.h>
 
-#include <QGraphicsRectItem>
-#include <QGraphicsScene>
-#include <QGraphicsWidget>
-#include <QScrollBar>
-#include <QWindow>
-
 #include <functional>
 #include <memory>
 

@@ -5,8 +5,6 @@
 #include <UiComponents/ColorPlaneWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 
-#include <QPointer>
-
 #include <memory>
 #include <utility>
 

@@ -2,8 +2,6 @@
 
 #include <UiComponents/PointMapping.h>
 
-#include <QRect>
-
 #include <cmath>
 #include <limits>
 #include <random>

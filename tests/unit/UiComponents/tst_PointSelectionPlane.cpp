@@ -5,10 +5,6 @@
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectionPlanePropertyHelper.h>
 
-#include <QPainter>
-#include <QPointer>
-#include <QSignalSpy>
-
 #include <cmath>
 #include <limits>
 #include <utility>

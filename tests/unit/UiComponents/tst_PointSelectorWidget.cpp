@@ -10,12 +10,6 @@
 #include <UiComponents/PointSelectorWidget.h>
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 
-#include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
-#include <QPointer>
-#include <QSignalSpy>
-
 #include <cmath>
 #include <functional>
 #include <limits>

@@ -9,10 +9,6 @@
 #include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/PopupPosition.h>
 
-#include <QDialog>
-#include <QLineEdit>
-#include <QToolButton>
-
 #include <functional>
 #include <memory>
 

@@ -12,7 +12,6 @@
 #include <QQuickWidget>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QVBoxLayout>
 
 #include <sys/stat.h>
 

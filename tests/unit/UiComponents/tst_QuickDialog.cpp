@@ -6,15 +6,11 @@
 #include <UiComponents/QuickContent.h>
 #include <UiComponents/QuickDialog.h>
 
-#include <QHBoxLayout>
-#include <QPushButton>
 #include <QQmlContext>
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
-#include <QScreen>
-#include <QTimer>
 
 #include <functional>
 

@@ -6,9 +6,6 @@
 #include <UiComponents/Pipette.h>
 #include <UiComponents/ScreenColorSource.h>
 
-#include <QPointer>
-#include <QToolButton>
-
 #include <memory>
 
 using Orvane::Util::AccessStatus;

@@ -2,9 +2,6 @@
 
 #include <UiComponents/ScreenReader.h>
 
-#include <QGuiApplication>
-#include <QScreen>
-
 namespace {
 
 const QRgb loupeColor = qRgb(255, 0, 255);

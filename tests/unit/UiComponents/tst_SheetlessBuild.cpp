@@ -2,15 +2,6 @@
 
 #include <UiComponents/SheetlessBuild.h>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QSlider>
-#include <QSpinBox>
-#include <QToolButton>
-
 namespace {
 
 const char* const sheet =

@@ -4,10 +4,6 @@
 #include "TestMain.h"
 #include "Wheel.h"
 
-#include <QLabel>
-#include <QLayout>
-#include <QSignalSpy>
-
 #include <limits>
 #include <memory>
 #include <random>

@@ -13,9 +13,6 @@
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
-#include <QBoxLayout>
-#include <QGridLayout>
-
 #include <functional>
 
 using Factory = std::function<QWidget*(QWidget*)>;

@@ -6,9 +6,6 @@
 #include <UiComponents/WidgetColorPickerButton.h>
 #include <UiComponents/WidgetColorPickerStylingObject.h>
 
-#include <QStyleOptionButton>
-#include <QStylePainter>
-
 #include <memory>
 
 using Act = std::function<void(PickingStage*, WidgetColorPickerButton*)>;

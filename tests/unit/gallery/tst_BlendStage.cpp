@@ -2,8 +2,6 @@
 
 #include <UiComponents/ColorBlendingComboBox.h>
 
-#include <QAbstractItemView>
-
 #include <gallery/BlendStage.h>
 
 namespace {

@@ -3,17 +3,6 @@
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/DialogGuideWidget.h>
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMetaProperty>
-#include <QPushButton>
-#include <QRegularExpression>
-
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/MessageWatch.h>

@@ -2,14 +2,6 @@
 
 #include <UiComponents/ColorInputWidget.h>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QFormLayout>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSpinBox>
-
 #include <gallery/GalleryApplication.h>
 #include <gallery/PropertyPanel.h>
 #include <memory>

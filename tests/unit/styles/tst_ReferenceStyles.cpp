@@ -29,37 +29,6 @@
 #include <WidgetToolkit/OvSpinBox.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QDockWidget>
-#include <QDoubleSpinBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QScrollBar>
-#include <QSizeGrip>
-#include <QSlider>
-#include <QSplitter>
-#include <QStatusBar>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTextEdit>
-#include <QToolBar>
-#include <QToolButton>
-#include <QToolTip>
-#include <QTreeWidget>
-
 #include <cmath>
 #include <functional>
 #include <memory>

@@ -2,9 +2,6 @@
 
 #include <ApplicationUtility/BoldText.h>
 
-#include <QTextBlock>
-#include <QTextDocument>
-
 class tst_BoldText : public QObject
 {
     Q_OBJECT

@@ -2,10 +2,6 @@
 
 #include <ApplicationUtility/Customization.h>
 
-#include <QLabel>
-#include <QTextBlock>
-#include <QTextDocument>
-
 namespace {
 
 bool isBold(const QString& labelText)

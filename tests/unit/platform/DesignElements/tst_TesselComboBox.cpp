@@ -3,11 +3,6 @@
 #include <DesignElements/TesselComboBox.h>
 #include <WidgetToolkit/OvComboBox.h>
 
-#include <QAbstractItemView>
-#include <QListView>
-#include <QPointer>
-#include <QStyledItemDelegate>
-
 using Orvane::Tessel::convertComboBoxToTessel;
 
 namespace {

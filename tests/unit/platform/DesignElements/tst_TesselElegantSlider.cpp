@@ -3,8 +3,6 @@
 
 #include <DesignElements/TesselElegantSlider.h>
 
-#include <QStyleOptionSlider>
-
 using Orvane::Tessel::TesselElegantSlider;
 
 namespace {

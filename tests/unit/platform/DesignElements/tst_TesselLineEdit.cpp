@@ -3,12 +3,6 @@
 
 #include <DesignElements/TesselLineEdit.h>
 
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QPointer>
-#include <QStyle>
-
 using Orvane::Tessel::TesselLineEdit;
 
 namespace {

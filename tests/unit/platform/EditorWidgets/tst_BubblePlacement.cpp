@@ -2,8 +2,6 @@
 
 #include <EditorWidgets/BubblePlacement.h>
 
-#include <QPainter>
-
 #include <limits>
 
 using ArrowPosition = PointingWidget::ArrowPosition;

@@ -4,8 +4,6 @@
 #include <WidgetToolkit/StyleHints.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QLabel>
-
 class tst_ColorHint : public QObject
 {
     Q_OBJECT

@@ -4,13 +4,6 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
 
-#include <QLabel>
-#include <QLayout>
-#include <QMetaEnum>
-#include <QPushButton>
-#include <QScreen>
-#include <QWindow>
-
 #include <functional>
 #include <limits>
 #include <memory>

@@ -2,14 +2,6 @@
 
 #include <EditorWidgets/Workaround.h>
 
-#include <QDialog>
-#include <QFrame>
-#include <QGraphicsProxyWidget>
-#include <QGraphicsScene>
-#include <QPainter>
-#include <QVBoxLayout>
-#include <QWindow>
-
 namespace {
 
 const char roundedEdges[] = "roundedEdges";

@@ -2,21 +2,6 @@
 
 #include <GuiHelper/HighlightFrame.h>
 
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QPaintEvent>
-#include <QPainter>
-#include <QPushButton>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSplitter>
-#include <QStackedWidget>
-#include <QTableWidget>
-#include <QVBoxLayout>
-#include <QWindow>
-
 #include <memory>
 
 using Orvane::Gui::HighlightFrame;

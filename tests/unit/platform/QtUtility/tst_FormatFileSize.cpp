@@ -2,8 +2,6 @@
 
 #include <QtUtility/FormatFileSize.h>
 
-#include <QTranslator>
-
 #include <limits>
 
 using Orvane::Util::FileSizeUnit;

@@ -2,10 +2,6 @@
 
 #include <QtUtility/QmlWindowFocusWorkaround.h>
 
-#include <QDialog>
-#include <QHBoxLayout>
-#include <QLineEdit>
-
 using Orvane::Util::ApplyQmlWindowFocusWorkaround;
 
 namespace {

@@ -2,8 +2,6 @@
 
 #include <QtUtility/Scheduler.h>
 
-#include <QAbstractEventDispatcher>
-
 #include <array>
 #include <functional>
 #include <thread>

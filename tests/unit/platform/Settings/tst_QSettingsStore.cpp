@@ -2,8 +2,6 @@
 
 #include <Settings/QSettingsStore.h>
 
-#include <QSettings>
-
 class tst_QSettingsStore : public QObject
 {
     Q_OBJECT

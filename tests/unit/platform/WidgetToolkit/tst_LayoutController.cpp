@@ -3,8 +3,6 @@
 #include <WidgetToolkit/LayoutController.h>
 #include <WidgetToolkit/OvGridLayout.h>
 
-#include <QBoxLayout>
-
 #include <functional>
 
 namespace {

@@ -2,8 +2,6 @@
 
 #include <WidgetToolkit/LayoutHelpers.h>
 
-#include <QWidget>
-
 using namespace LayoutHelpers;
 
 class tst_LayoutHelpers : public QObject

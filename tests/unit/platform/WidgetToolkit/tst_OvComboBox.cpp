@@ -3,12 +3,6 @@
 
 #include <WidgetToolkit/OvComboBox.h>
 
-#include <QAbstractItemView>
-#include <QLineEdit>
-#include <QScreen>
-#include <QStringListModel>
-#include <QStyleOptionComboBox>
-
 #include <limits>
 
 namespace {

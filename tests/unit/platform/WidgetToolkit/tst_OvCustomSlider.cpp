@@ -6,11 +6,6 @@
 
 #include <WidgetToolkit/OvCustomSlider.h>
 
-#include <QLineEdit>
-#include <QPointer>
-#include <QProxyStyle>
-#include <QStyleOptionSlider>
-
 #include <cmath>
 #include <functional>
 

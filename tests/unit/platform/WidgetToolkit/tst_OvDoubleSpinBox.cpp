@@ -5,9 +5,6 @@
 
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 
-#include <QClipboard>
-#include <QLineEdit>
-
 namespace {
 
 QStringList texts;

@@ -2,10 +2,6 @@
 
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <QMovie>
-#include <QPointer>
-#include <QVBoxLayout>
-
 #include <sys/resource.h>
 #include <sys/stat.h>
 

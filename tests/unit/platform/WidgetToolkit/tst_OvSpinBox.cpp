@@ -4,10 +4,6 @@
 
 #include <WidgetToolkit/OvSpinBox.h>
 
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
-
 namespace {
 
 QString selectedText(const QWidget& box)

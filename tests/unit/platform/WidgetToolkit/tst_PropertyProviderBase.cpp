@@ -3,8 +3,6 @@
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/PropertyProviderBase.h>
 
-#include <QPointer>
-
 #include <functional>
 
 Q_DECLARE_METATYPE(std::function<void(QWidget*)>)

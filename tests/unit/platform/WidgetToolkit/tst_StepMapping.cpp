@@ -3,8 +3,6 @@
 
 #include <WidgetToolkit/StepMapping.h>
 
-#include <QDoubleSpinBox>
-
 #include <cmath>
 #include <limits>
 

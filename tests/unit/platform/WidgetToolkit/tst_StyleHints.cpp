@@ -3,8 +3,6 @@
 #include <WidgetToolkit/StyleHints.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QWidget>
-
 class tst_StyleHints : public QObject
 {
     Q_OBJECT

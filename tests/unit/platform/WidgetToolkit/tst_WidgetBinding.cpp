@@ -6,9 +6,6 @@
 #include <WidgetToolkit/OvSpinBox.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QLineEdit>
-#include <QRandomGenerator>
-
 #include <cmath>
 #include <limits>
 
