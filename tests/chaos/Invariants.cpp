@@ -13,6 +13,7 @@
 #include <QMutex>
 #include <QThread>
 #include <QWindow>
+#include <QtCore/private/qobject_p.h>
 
 #include <cstdlib>
 #include <cxxabi.h>
@@ -39,7 +40,6 @@ constexpr qint64 longestStep = 1000; // ms
 using Objects = std::unordered_set<QObject*>;
 // Never destroyed: objects die after main(), too.
 Objects& objects = *new Objects;
-Objects& filters = *new Objects; // on the application
 Objects& before = *new Objects;
 QMutex mutex;
 std::map<QObject*, int>& timersBefore = *new std::map<QObject*, int>;
@@ -59,7 +59,6 @@ void removed(QObject* object)
 {
     const QMutexLocker lock(&mutex);
     objects.erase(object);
-    filters.erase(object);
     before.erase(object);
 }
 
@@ -87,6 +86,19 @@ QString names(const QVector<QObject*>& found)
         list += QString::fromUtf8(typeOf(object)) + QLatin1Char(' ') + object->objectName();
     }
     return list.join(QStringLiteral(", "));
+}
+
+/// The application's event filters, which Qt alone knows.
+Objects filters()
+{
+    Objects found;
+    if (const auto* const extra = QObjectPrivate::get(qApp)->extraData) {
+        for (const QPointer<QObject>& filter : extra->eventFilters) {
+            found.insert(filter);
+        }
+    }
+    found.erase(nullptr);
+    return found;
 }
 
 /// Of this thread, that were not there before the first window.
@@ -137,35 +149,6 @@ void check(bool isGood, const QString& problem)
 }
 
 } // namespace
-
-// In the place of Qt's, for libraries that look for it: notes the filters of the application.
-Q_DECL_EXPORT void installEventFilter(QObject* watched,
-                                      QObject* filter) __asm__("_ZN7QObject18installEventFilterEPS_");
-void installEventFilter(QObject* watched, QObject* filter)
-{
-    using Function = void (*)(QObject*, QObject*);
-    static const auto original =
-        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN7QObject18installEventFilterEPS_"));
-    original(watched, filter);
-    if (watched == qApp && filter) {
-        const QMutexLocker lock(&mutex);
-        filters.insert(filter);
-    }
-}
-
-Q_DECL_EXPORT void removeEventFilter(QObject* watched,
-                                     QObject* filter) __asm__("_ZN7QObject17removeEventFilterEPS_");
-void removeEventFilter(QObject* watched, QObject* filter)
-{
-    using Function = void (*)(QObject*, QObject*);
-    static const auto original =
-        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN7QObject17removeEventFilterEPS_"));
-    original(watched, filter);
-    if (watched == qApp) {
-        const QMutexLocker lock(&mutex);
-        filters.erase(filter);
-    }
-}
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
@@ -222,7 +205,7 @@ void Invariants::checkSettled()
           QStringLiteral("the keyboard is grabbed by %1").arg(World::nameOf(QWidget::keyboardGrabber())));
     check(!QApplication::overrideCursor(), QStringLiteral("an override cursor is left"));
     check(!QApplication::activePopupWidget(), QStringLiteral("a pop-up is left"));
-    for (QObject* filter : newOnes(filters)) {
+    for (QObject* filter : newOnes(filters())) {
         // A tip of Qt's goes by itself, after a while.
         check(filter->inherits("QTipLabel"),
               QStringLiteral("filters the application still: ") + World::nameOf(filter));

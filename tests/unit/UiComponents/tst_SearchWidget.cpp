@@ -3,15 +3,6 @@
 #include <DesignElements/TesselLineEdit.h>
 #include <UiComponents/SearchWidget.h>
 
-#include <QClipboard>
-#include <QHBoxLayout>
-#include <QInputMethodEvent>
-#include <QLabel>
-#include <QPointer>
-#include <QRegExpValidator>
-#include <QStyle>
-#include <QToolButton>
-
 #include <functional>
 #include <memory>
 
@@ -25,15 +16,15 @@ const char* const sheet = "QWidget { color: #dddddd; background-color: #222222; 
 
 QLabel* iconOf(const SearchWidget& search)
 {
-    return search.findChild<QLabel*>(QStringLiteral("searchIcon"));
+    return search.findChild<QLabel*>("searchIcon");
 }
 QLineEdit* editOf(const SearchWidget& search)
 {
-    return search.findChild<QLineEdit*>(QStringLiteral("searchLineEdit"));
+    return search.findChild<QLineEdit*>("searchLineEdit");
 }
 QToolButton* buttonOf(const SearchWidget& search)
 {
-    return search.findChild<QToolButton*>(QStringLiteral("clearSearchButton"));
+    return search.findChild<QToolButton*>("clearSearchButton");
 }
 
 bool hasPlaceholderColor(const SearchWidget& search, const QColor& color)
@@ -55,18 +46,10 @@ public:
     explicit Protocol(SearchWidget* search)
     {
         QObject::connect(search, &SearchWidget::textChanged, &m_context, [this, search](const QString& text) {
-            lines += QStringLiteral("changed \"%1\" %2").arg(text, stateOf(*search));
+            lines += QStringLiteral("changed '%1' %2").arg(text, stateOf(*search));
         });
-        QObject::connect(search, &SearchWidget::editingFinished, &m_context, [this](const QString& text) {
-            lines += QStringLiteral("finished \"%1\"").arg(text);
-        });
-    }
-
-    QStringList taken()
-    {
-        const QStringList result = lines;
-        lines.clear();
-        return result;
+        QObject::connect(search, &SearchWidget::editingFinished, &m_context,
+                         [this](const QString& text) { lines += QStringLiteral("finished '%1'").arg(text); });
     }
 
     QStringList lines;
@@ -74,7 +57,7 @@ public:
 private:
     static QString stateOf(const SearchWidget& search)
     {
-        return buttonOf(search)->isHidden() ? QStringLiteral("hidden") : QStringLiteral("shown");
+        return buttonOf(search)->isHidden() ? "hidden" : "shown";
     }
 
     QObject m_context;
@@ -177,7 +160,7 @@ private Q_SLOTS:
         const auto* validator = qobject_cast<const QRegExpValidator*>(editOf(search)->validator());
         QVERIFY(validator);
         QCOMPARE(validator->parent(), editOf(search));
-        QCOMPARE(validator->regExp().pattern(), QStringLiteral("^\\S.*"));
+        QCOMPARE(validator->regExp().pattern(), "^\\S.*");
         QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
         QCOMPARE(validator->regExp().patternSyntax(), QRegExp::RegExp);
         QVERIFY(editOf(search)->hasAcceptableInput());
@@ -186,46 +169,98 @@ private Q_SLOTS:
     void translations()
     {
         SearchWidget search;
-        search.setTranslations(QStringLiteral("icon"), QStringLiteral("edit"), QStringLiteral("button"),
-                               QStringLiteral("placeholder"));
-        QCOMPARE(iconOf(search)->toolTip(), QStringLiteral("icon"));
-        QCOMPARE(editOf(search)->toolTip(), QStringLiteral("edit"));
-        QCOMPARE(buttonOf(search)->toolTip(), QStringLiteral("button"));
-        QCOMPARE(editOf(search)->placeholderText(), QStringLiteral("placeholder"));
+        search.setTranslations("icon", "edit", "button", "placeholder");
+        QCOMPARE(iconOf(search)->toolTip(), "icon");
+        QCOMPARE(editOf(search)->toolTip(), "edit");
+        QCOMPARE(buttonOf(search)->toolTip(), "button");
+        QCOMPARE(editOf(search)->placeholderText(), "placeholder");
         search.setTranslations(QString(), QString(), QString(), QString());
         QCOMPARE(editOf(search)->placeholderText(), QString());
         QCOMPARE(iconOf(search)->toolTip(), QString());
     }
 
-    void typingReportsEachChange()
+    // What the user and the host do, and what is reported, with the state of the clear button; last the text.
+    void story_data()
     {
-        SearchWidget search;
-        Protocol protocol(&search);
-        QTest::keyClicks(editOf(search), QStringLiteral("ab"));
-        QTest::keyClick(editOf(search), Qt::Key_Backspace);
-        QTest::keyClick(editOf(search), Qt::Key_Backspace);
-        QCOMPARE(search.text(), QString());
-        // The button has followed when the change is reported.
-        QCOMPARE(protocol.lines,
-                 QStringList({QStringLiteral("changed \"a\" shown"), QStringLiteral("changed \"ab\" shown"),
-                              QStringLiteral("changed \"a\" shown"), QStringLiteral("changed \"\" hidden")}));
+        QTest::addColumn<QString>("story");
+        QTest::addColumn<QStringList>("lines");
+        QTest::newRow("typing") << "type ab; Backspace; Backspace"
+                                << QStringList{"changed 'a' shown", "changed 'ab' shown", "changed 'a' shown",
+                                               "changed '' hidden", "''"};
+        QTest::newRow("a blank in an empty field") << "Space" << QStringList{"''"};
+        QTest::newRow("blanks inside and behind")
+            << "type a; Space; type b; Space"
+            << QStringList{"changed 'a' shown", "changed 'a ' shown", "changed 'a b' shown",
+                           "changed 'a b ' shown", "'a b '"};
+        QTest::newRow("an edit would leave a blank in front")
+            << "set a b; select 0; Delete; select 1; Space; select 2; Delete"
+            << QStringList{"changed 'a b' shown", "changed 'b' shown", "'b'"};
+        QTest::newRow("input method")
+            << "commit  ; commit \u3000; commit  word; compose \u306d; commit \u732b; select 0; commit \u3000"
+            << QStringList{"changed '\u732b' shown", "'\u732b'"};
+        QTest::newRow("cleared twice")
+            << "set a; clear; clear" << QStringList{"changed 'a' shown", "changed '' hidden", "''"};
+        QTest::newRow("cleared by mouse")
+            << "set a; click" << QStringList{"changed 'a' shown", "changed '' hidden", "''"};
+        QTest::newRow("cleared by key")
+            << "set a; Tab; Space"
+            << QStringList{"changed 'a' shown", "finished 'a'", "changed '' hidden", "''"};
+        // There and back again is no other text.
+        QTest::newRow("Enter") << "set ab; Return; Enter; Backspace; set ab; Return"
+                               << QStringList{"changed 'ab' shown", "finished 'ab'", "changed 'a' shown",
+                                              "changed 'ab' shown", "'ab'"};
+        QTest::newRow("leaving") << "set a; leave; enter; leave; enter; set b; Return; leave"
+                                 << QStringList{"changed 'a' shown", "finished 'a'", "changed 'b' shown",
+                                                "finished 'b'", "'b' left"};
+        // To the regular expression the empty text is unfinished, and Qt then keeps silent.
+        QTest::newRow("emptied, Enter")
+            << "set a; Return; clear; Return; Return"
+            << QStringList{"changed 'a' shown", "finished 'a'", "changed '' hidden", "finished ''", "''"};
+        QTest::newRow("emptied, leaving") << "set a; Return; Backspace; leave; enter; leave"
+                                          << QStringList{"changed 'a' shown", "finished 'a'",
+                                                         "changed '' hidden", "finished ''", "'' left"};
+        QTest::newRow("untouched") << "Return; type a; Backspace; leave"
+                                   << QStringList{"changed 'a' shown", "changed '' hidden", "'' left"};
     }
 
-    void blankIsRefusedInAnEmptyField()
+    void story()
     {
-        SearchWidget search;
-        Protocol protocol(&search);
-        QTest::keyClick(editOf(search), Qt::Key_Space);
-        QCOMPARE(search.text(), QString());
-        QCOMPARE(protocol.lines, QStringList());
-        QVERIFY(buttonOf(search)->isHidden());
-    }
-
-    void blanksInsideAreAccepted()
-    {
-        SearchWidget search;
-        QTest::keyClicks(editOf(search), QStringLiteral("a  b "));
-        QCOMPARE(search.text(), QStringLiteral("a  b "));
+        QFETCH(QString, story);
+        QFETCH(QStringList, lines);
+        Window window;
+        QVERIFY(window.present());
+        QLineEdit* const edit = window.edit();
+        edit->setFocus();
+        Protocol protocol(window.search);
+        const QStringList steps = story.split("; ");
+        for (const QString& step : steps) {
+            const QString verb = step.section(' ', 0, 0);
+            const QString object = step.section(' ', 1);
+            const int key = QMetaEnum::fromType<Qt::Key>().keyToValue(("Key_" + verb).toLatin1());
+            if (key >= 0) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+            } else if (verb == "type") {
+                QTest::keyClicks(edit, object);
+            } else if (verb == "set") {
+                edit->setText(object);
+            } else if (verb == "select") {
+                edit->home(false);
+                edit->cursorForward(true, object.toInt());
+            } else if (verb == "commit") {
+                commit(edit, object);
+            } else if (verb == "compose") {
+                QInputMethodEvent composing(object, {});
+                QCoreApplication::sendEvent(edit, &composing);
+            } else if (verb == "clear") {
+                window.search->clear();
+            } else if (verb == "click") {
+                QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
+            } else {
+                (verb == "leave" ? window.other : edit)->setFocus();
+            }
+        }
+        protocol.lines += '\'' + window.search->text() + '\'' + (edit->hasFocus() ? "" : " left");
+        QCOMPARE(protocol.lines, lines);
     }
 
     void everyWhiteSpaceIsRefusedInFront_data()
@@ -245,44 +280,30 @@ private Q_SLOTS:
         SearchWidget search;
         Protocol protocol(&search);
         editOf(search)->insert(space);
-        editOf(search)->insert(space + QStringLiteral("word"));
+        editOf(search)->insert(QString(space) + "word");
         QCOMPARE(search.text(), QString());
         QCOMPARE(protocol.lines, QStringList());
-        editOf(search)->insert(QStringLiteral("a") + space + QStringLiteral("b"));
-        QCOMPARE(search.text(), QStringLiteral("a") + space + QStringLiteral("b"));
+        editOf(search)->insert(QString("a") + space + "b");
+        QCOMPARE(search.text(), QString("a") + space + "b");
         editOf(search)->home(false);
         editOf(search)->insert(space);
-        QCOMPARE(search.text(), QStringLiteral("a") + space + QStringLiteral("b"));
-    }
-
-    void editThatWouldLeaveABlankInFrontIsRefused()
-    {
-        SearchWidget search;
-        QTest::keyClicks(editOf(search), QStringLiteral("a b"));
-        Protocol protocol(&search);
-        editOf(search)->home(false);
-        QTest::keyClick(editOf(search), Qt::Key_Delete);
-        QCOMPARE(search.text(), QStringLiteral("a b"));
-        editOf(search)->setSelection(0, 1);
-        QTest::keyClick(editOf(search), Qt::Key_Space);
-        QCOMPARE(search.text(), QStringLiteral("a b"));
-        QCOMPARE(protocol.lines, QStringList());
-        editOf(search)->setSelection(0, 2);
-        QTest::keyClick(editOf(search), Qt::Key_Delete);
-        QCOMPARE(search.text(), QStringLiteral("b"));
+        QCOMPARE(search.text(), QString("a") + space + "b");
     }
 
     void pastedText_data()
     {
         QTest::addColumn<QString>("pasted");
         QTest::addColumn<QString>("text");
-        QTest::newRow("word") << QStringLiteral("word") << QStringLiteral("word");
-        QTest::newRow("leading blanks") << QStringLiteral("  word") << QString();
-        QTest::newRow("leading new line") << QStringLiteral("\nword") << QString();
-        QTest::newRow("leading no-break space") << QString(QChar(0xa0)) + QStringLiteral("word") << QString();
-        QTest::newRow("blanks behind") << QStringLiteral("word  ") << QStringLiteral("word  ");
-        QTest::newRow("two lines") << QStringLiteral("one\ntwo") << QStringLiteral("one\ntwo");
-        QTest::newRow("only blanks") << QStringLiteral("   ") << QString();
+        QTest::newRow("word") << "word"
+                              << "word";
+        QTest::newRow("leading blanks") << "  word" << QString();
+        QTest::newRow("leading new line") << "\nword" << QString();
+        QTest::newRow("leading no-break space") << QString(QChar(0xa0)) + "word" << QString();
+        QTest::newRow("blanks behind") << "word  "
+                                       << "word  ";
+        QTest::newRow("two lines") << "one\ntwo"
+                                   << "one\ntwo";
+        QTest::newRow("only blanks") << "   " << QString();
     }
 
     void pastedText()
@@ -295,43 +316,12 @@ private Q_SLOTS:
         QCOMPARE(buttonOf(search)->isHidden(), search.text().isEmpty());
     }
 
-    void inputMethodIsRefusedALeadingBlank()
-    {
-        Window window;
-        QVERIFY(window.present());
-        window.edit()->setFocus();
-        Protocol protocol(window.search);
-        for (const QString& text : {QStringLiteral(" "), QStringLiteral("\u3000"), QStringLiteral(" word")}) {
-            commit(window.edit(), text);
-            QCOMPARE(window.search->text(), QString());
-        }
-        commit(window.edit(), QStringLiteral("word"));
-        window.edit()->home(false);
-        commit(window.edit(), QStringLiteral("\u3000"));
-        QCOMPARE(window.search->text(), QStringLiteral("word"));
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"word\" shown")}));
-    }
-
-    void inputMethodCommitsAWord()
-    {
-        Window window;
-        QVERIFY(window.present());
-        window.edit()->setFocus();
-        Protocol protocol(window.search);
-        QInputMethodEvent composing(QStringLiteral("\u306d"), {});
-        QCoreApplication::sendEvent(window.edit(), &composing);
-        // Not yet text.
-        QCOMPARE(protocol.lines, QStringList());
-        commit(window.edit(), QStringLiteral("\u732b"));
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\u732b\" shown")}));
-    }
-
     void clearButtonShowsWithTheText()
     {
         SearchWidget search;
         EventCounter shows(buttonOf(search), QEvent::ShowToParent);
         EventCounter hides(buttonOf(search), QEvent::HideToParent);
-        QTest::keyClicks(editOf(search), QStringLiteral("abc"));
+        QTest::keyClicks(editOf(search), "abc");
         QVERIFY(!buttonOf(search)->isHidden());
         for (int i = 0; i < 3; ++i) {
             QTest::keyClick(editOf(search), Qt::Key_Backspace);
@@ -344,115 +334,13 @@ private Q_SLOTS:
     void changesThatKeepATextTouchNothing()
     {
         SearchWidget search;
-        editOf(search)->setText(QStringLiteral("a"));
+        editOf(search)->setText("a");
         buttonOf(search)->hide();
-        editOf(search)->setText(QStringLiteral("b"));
+        editOf(search)->setText("b");
         QVERIFY(buttonOf(search)->isHidden());
         editOf(search)->clear();
-        editOf(search)->setText(QStringLiteral("a"));
+        editOf(search)->setText("a");
         QVERIFY(!buttonOf(search)->isHidden());
-    }
-
-    void clearClearsAndHidesTheButton()
-    {
-        SearchWidget search;
-        editOf(search)->setText(QStringLiteral("a"));
-        Protocol protocol(&search);
-        search.clear();
-        search.clear();
-        QCOMPARE(search.text(), QString());
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
-    }
-
-    void clearByMouseKeepsTheKeyboardInTheField()
-    {
-        Window window;
-        QVERIFY(window.present());
-        window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("abc"));
-        Protocol protocol(window.search);
-        QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
-        QVERIFY(window.edit()->hasFocus());
-    }
-
-    void clearByKeyGivesTheKeyboardToTheField()
-    {
-        Window window;
-        QVERIFY(window.present());
-        window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("abc"));
-        QTest::keyClick(window.edit(), Qt::Key_Tab);
-        QVERIFY(buttonOf(*window.search)->hasFocus());
-        Protocol protocol(window.search);
-        QTest::keyClick(buttonOf(*window.search), Qt::Key_Space);
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("changed \"\" hidden")}));
-        QVERIFY(window.edit()->hasFocus());
-    }
-
-    void enterReportsOnce()
-    {
-        SearchWidget search;
-        QTest::keyClicks(editOf(search), QStringLiteral("ab"));
-        Protocol protocol(&search);
-        QTest::keyClick(editOf(search), Qt::Key_Return);
-        QTest::keyClick(editOf(search), Qt::Key_Enter);
-        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"ab\"")}));
-        // There and back again is no other text.
-        QTest::keyClicks(editOf(search), QStringLiteral("c"));
-        QTest::keyClick(editOf(search), Qt::Key_Backspace);
-        protocol.taken();
-        QTest::keyClick(editOf(search), Qt::Key_Return);
-        QCOMPARE(protocol.taken(), QStringList());
-    }
-
-    void leavingReportsOnce()
-    {
-        Window window;
-        QVERIFY(window.present());
-        window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("a"));
-        Protocol protocol(window.search);
-        window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"a\"")}));
-        window.edit()->setFocus();
-        window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList());
-        window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("b"));
-        QTest::keyClick(window.edit(), Qt::Key_Return);
-        window.other->setFocus();
-        QCOMPARE(protocol.taken().filter(QStringLiteral("finished")).size(), 1);
-    }
-
-    // To the regular expression the empty text is unfinished, and Qt then keeps silent.
-    void emptiedFieldFinishesByEnter()
-    {
-        SearchWidget search;
-        QTest::keyClicks(editOf(search), QStringLiteral("a"));
-        QTest::keyClick(editOf(search), Qt::Key_Return);
-        Protocol protocol(&search);
-        search.clear();
-        QTest::keyClick(editOf(search), Qt::Key_Return);
-        QTest::keyClick(editOf(search), Qt::Key_Return);
-        QCOMPARE(protocol.lines,
-                 QStringList({QStringLiteral("changed \"\" hidden"), QStringLiteral("finished \"\"")}));
-    }
-
-    void emptiedFieldFinishesByLeaving()
-    {
-        Window window;
-        QVERIFY(window.present());
-        window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("a"));
-        QTest::keyClick(window.edit(), Qt::Key_Return);
-        QTest::keyClick(window.edit(), Qt::Key_Backspace);
-        Protocol protocol(window.search);
-        window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
-        window.edit()->setFocus();
-        window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList());
     }
 
     void fieldClearedByTheButtonFinishesByLeaving()
@@ -460,7 +348,7 @@ private Q_SLOTS:
         Window window;
         QVERIFY(window.present());
         window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        QTest::keyClicks(window.edit(), "a");
         QTest::keyClick(window.edit(), Qt::Key_Return);
         QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
         Protocol protocol(window.search);
@@ -468,31 +356,14 @@ private Q_SLOTS:
         connect(window.search, &SearchWidget::editingFinished, this,
                 [&] { hints += window.search->property("focusHint").toString(); });
         window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList({QStringLiteral("finished \"\"")}));
-        QCOMPARE(hints, QStringList({QStringLiteral("false")}));
-        window.edit()->setFocus();
-        window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList());
-    }
-
-    void untouchedFieldReportsNothing()
-    {
-        Window window;
-        QVERIFY(window.present());
-        Protocol protocol(window.search);
-        window.edit()->setFocus();
-        QTest::keyClick(window.edit(), Qt::Key_Return);
-        QTest::keyClicks(window.edit(), QStringLiteral("a"));
-        QTest::keyClick(window.edit(), Qt::Key_Backspace);
-        protocol.taken();
-        window.other->setFocus();
-        QCOMPARE(protocol.taken(), QStringList());
+        QCOMPARE(protocol.lines, QStringList({"finished ''"}));
+        QCOMPARE(hints, QStringList({"false"}));
     }
 
     void reportIsMadeBeforeTheSlotFinishesAgain()
     {
         SearchWidget search;
-        QTest::keyClicks(editOf(search), QStringLiteral("a"));
+        QTest::keyClicks(editOf(search), "a");
         int reports = 0;
         connect(&search, &SearchWidget::editingFinished, this, [&] {
             ++reports;
@@ -507,13 +378,13 @@ private Q_SLOTS:
         Window window;
         QVERIFY(window.present());
         window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        QTest::keyClicks(window.edit(), "a");
         Protocol protocol(window.search);
         QWidget another;
         another.show();
         another.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&another));
-        QTRY_COMPARE(protocol.lines, QStringList({QStringLiteral("finished \"a\"")}));
+        QTRY_COMPARE(protocol.lines, QStringList({"finished 'a'"}));
     }
 
     void destroyedWhileFocused_data()
@@ -537,7 +408,7 @@ private Q_SLOTS:
         auto* window = new QWidget;
         window->setStyleSheet(styleSheet);
         auto* panel = new QWidget(window);
-        const bool isWindow = dies == QLatin1String("field as window");
+        const bool isWindow = dies == "field as window";
         const QPointer<SearchWidget> search = new SearchWidget(isWindow ? nullptr : panel);
         (new QHBoxLayout(window))->addWidget(panel);
         if (isWindow) {
@@ -550,14 +421,14 @@ private Q_SLOTS:
         search->window()->activateWindow();
         editOf(*search)->setFocus();
         QTRY_VERIFY(editOf(*search)->hasFocus());
-        QTest::keyClicks(editOf(*search), QStringLiteral("unreported"));
+        QTest::keyClicks(editOf(*search), "unreported");
 
         Protocol protocol(search);
-        if (dies == QLatin1String("window")) {
+        if (dies == "window") {
             delete window;
             window = nullptr;
             QVERIFY(!search);
-        } else if (dies == QLatin1String("panel")) {
+        } else if (dies == "panel") {
             delete panel;
             QVERIFY(!search);
         } else {
@@ -584,7 +455,7 @@ private Q_SLOTS:
         } else {
             connect(search.data(), &SearchWidget::textChanged, search.data(), &QObject::deleteLater);
         }
-        QTest::keyClicks(editOf(*search), QStringLiteral("a"));
+        QTest::keyClicks(editOf(*search), "a");
         QTest::keyClick(editOf(*search), Qt::Key_Return);
         QTRY_VERIFY(!search);
     }
@@ -607,6 +478,10 @@ private Q_SLOTS:
     void colorOfEachState()
     {
         SearchWidget search;
+        search.show();
+        // An invalid colour is written, too.
+        QVERIFY(hasPlaceholderColor(search, QColor()));
+        search.hide();
         search.setProperty("PlaceholderColor", QColor(Qt::blue));
         search.setProperty("PlaceholderHoverColor", QColor(Qt::green));
         search.setProperty("PlaceholderDisabledColor", QColor(Qt::red));
@@ -616,30 +491,27 @@ private Q_SLOTS:
 
         QEvent enter(QEvent::Enter);
         QEvent leave(QEvent::Leave);
+        const auto isHovered = [&search] { return iconOf(search)->property("hovered").toBool(); };
         putCursor(&search);
         QCoreApplication::sendEvent(&search, &enter);
         QVERIFY(hasPlaceholderColor(search, Qt::green));
+        QVERIFY(isHovered());
         putCursor(nullptr);
         QCoreApplication::sendEvent(&search, &leave);
         QVERIFY(hasPlaceholderColor(search, Qt::blue));
+        QVERIFY(!isHovered());
 
         search.setEnabled(false);
         QVERIFY(hasPlaceholderColor(search, Qt::red));
         putCursor(&search);
         QCoreApplication::sendEvent(&search, &enter);
         QVERIFY(hasPlaceholderColor(search, Qt::red));
+        QVERIFY(isHovered());
         search.setEnabled(true);
         QVERIFY(hasPlaceholderColor(search, Qt::green));
         // The line edit alone counts.
         editOf(search)->setEnabled(false);
         QVERIFY(hasPlaceholderColor(search, Qt::red));
-    }
-
-    void invalidColorsAreWrittenToo()
-    {
-        SearchWidget search;
-        search.show();
-        QVERIFY(hasPlaceholderColor(search, QColor()));
     }
 
     void colorTakesEffectOnTheNextOccasion_data()
@@ -657,7 +529,7 @@ private Q_SLOTS:
         QVERIFY(window.present());
         SearchWidget& search = *window.search;
         // Without colours for the properties, which it would write again whenever it is applied.
-        search.setStyleSheet(QStringLiteral("QWidget { color: #dddddd; }"));
+        search.setStyleSheet("QWidget { color: #dddddd; }");
         for (const char* name : {"PlaceholderColor", "PlaceholderHoverColor", "PlaceholderDisabledColor"}) {
             search.setProperty(name, QColor(Qt::cyan));
         }
@@ -665,19 +537,19 @@ private Q_SLOTS:
         QVERIFY(before != QColor(Qt::cyan));
         // None of these is an occasion.
         window.edit()->setFocus();
-        QTest::keyClicks(window.edit(), QStringLiteral("a"));
+        QTest::keyClicks(window.edit(), "a");
         search.clear();
         window.other->setFocus();
         window.resize(400, 120);
         QVERIFY(hasPlaceholderColor(search, before));
 
-        if (occasion == QLatin1String("show")) {
+        if (occasion == "show") {
             search.hide();
             search.show();
-        } else if (occasion == QLatin1String("disable")) {
+        } else if (occasion == "disable") {
             search.setDisabled(true);
         } else {
-            QEvent event(occasion == QLatin1String("enter") ? QEvent::Enter : QEvent::Leave);
+            QEvent event(occasion == "enter" ? QEvent::Enter : QEvent::Leave);
             QCoreApplication::sendEvent(&search, &event);
         }
         QVERIFY(hasPlaceholderColor(search, Qt::cyan));
@@ -687,7 +559,7 @@ private Q_SLOTS:
     {
         qApp->setStyleSheet(QString::fromLatin1(sheet));
         SearchWidget search;
-        search.setTranslations(QString(), QString(), QString(), QStringLiteral("MMMMM"));
+        search.setTranslations(QString(), QString(), QString(), "MMMMM");
         search.resize(200, 30);
         search.show();
         const bool holds = hasPlaceholderColor(search, Qt::blue);
@@ -732,21 +604,20 @@ private Q_SLOTS:
         QVERIFY(window.present());
         QLineEdit* const edit = window.edit();
         QVERIFY(hasPlaceholderColor(*window.search, expected));
-        if (how == QLatin1String("focus")) {
+        if (how == "focus") {
             edit->setFocus();
             window.other->setFocus();
-        } else if (how == QLatin1String("style")) {
+        } else if (how == "style") {
             edit->style()->unpolish(edit);
             edit->style()->polish(edit);
-        } else if (how == QLatin1String("other sheet")) {
-            window.setStyleSheet(
-                QStringLiteral("QLineEdit { color: #123456; } QLineEdit:focus { color: red; }"));
+        } else if (how == "other sheet") {
+            window.setStyleSheet("QLineEdit { color: #123456; } QLineEdit:focus { color: red; }");
             edit->setFocus();
-        } else if (how == QLatin1String("no sheet")) {
+        } else if (how == "no sheet") {
             window.setStyleSheet(QString());
-        } else if (how == QLatin1String("own sheet")) {
-            edit->setStyleSheet(QStringLiteral("color: #654321;"));
-        } else if (how == QLatin1String("palette")) {
+        } else if (how == "own sheet") {
+            edit->setStyleSheet("color: #654321;");
+        } else if (how == "palette") {
             QPalette palette;
             palette.setColor(QPalette::PlaceholderText, Qt::magenta);
             edit->setPalette(palette);
@@ -763,8 +634,8 @@ private Q_SLOTS:
     void colorMayBeThatOfTheText()
     {
         Window window;
-        window.setStyleSheet(QStringLiteral("QWidget { color: #dddddd; }"
-                                            "SearchWidget { qproperty-PlaceholderColor: #dddddd; }"));
+        window.setStyleSheet("QWidget { color: #dddddd; }"
+                             "SearchWidget { qproperty-PlaceholderColor: #dddddd; }");
         QVERIFY(window.present());
         const QColor text(0xdd, 0xdd, 0xdd);
         QCOMPARE(window.edit()->palette().color(QPalette::Text), text);
@@ -772,7 +643,7 @@ private Q_SLOTS:
         window.edit()->setFocus();
         QVERIFY(hasPlaceholderColor(*window.search, text));
         window.other->setFocus();
-        window.setStyleSheet(window.styleSheet() + QStringLiteral("QWidget { background-color: black; }"));
+        window.setStyleSheet(window.styleSheet() + "QWidget { background-color: black; }");
         QVERIFY(hasPlaceholderColor(*window.search, text));
     }
 
@@ -805,18 +676,6 @@ private Q_SLOTS:
         QVERIFY(!isHoveredAt(all.bottomRight() + QPoint(0, 1)));
     }
 
-    void hoveredIsToldToTheIcon()
-    {
-        SearchWidget search;
-        search.show();
-        QCOMPARE(iconOf(search)->property("hovered"), QVariant(false));
-        search.setEnabled(false);
-        putCursor(&search);
-        QEvent enter(QEvent::Enter);
-        QCoreApplication::sendEvent(&search, &enter);
-        QCOMPARE(iconOf(search)->property("hovered"), QVariant(true));
-    }
-
     void focusIsShownByTheFrame()
     {
         Window window;
@@ -827,7 +686,7 @@ private Q_SLOTS:
         window.other->setFocus();
         QCOMPARE(window.search->property("focusHint"), QVariant(false));
         // The button is not the field.
-        window.edit()->setText(QStringLiteral("a"));
+        window.edit()->setText("a");
         buttonOf(*window.search)->setFocus();
         QCOMPARE(window.search->property("focusHint"), QVariant(false));
     }
@@ -835,10 +694,9 @@ private Q_SLOTS:
     void focusInPolishesIconAndEdit()
     {
         Window window;
-        window.setStyleSheet(
-            QStringLiteral("SearchWidget[focusHint=\"true\"] > #searchIcon { color: #ff0000; }"
-                           "SearchWidget[focusHint=\"true\"] > #searchLineEdit { color: #00ff00; }"
-                           "#searchIcon, #searchLineEdit { color: #0000ff; }"));
+        window.setStyleSheet("SearchWidget[focusHint=\"true\"] > #searchIcon { color: #ff0000; }"
+                             "SearchWidget[focusHint=\"true\"] > #searchLineEdit { color: #00ff00; }"
+                             "#searchIcon, #searchLineEdit { color: #0000ff; }");
         QVERIFY(window.present());
         const auto color = [](const QWidget* widget) {
             return widget->palette().color(QPalette::WindowText);
@@ -870,7 +728,7 @@ private Q_SLOTS:
     {
         SearchWidget search;
         search.setLayoutDirection(Qt::RightToLeft);
-        editOf(search)->setText(QStringLiteral("a"));
+        editOf(search)->setText("a");
         search.resize(200, 30);
         search.show();
         QVERIFY(buttonOf(search)->x() < editOf(search)->x());

@@ -2,11 +2,13 @@
 
 #include <UiComponents/ColorPickerButton.h>
 
-#include <QColorDialog>
-
+#include <functional>
 #include <gallery/DialogColorPicker.h>
 #include <gallery/MessageWatch.h>
 #include <memory>
+
+using Act = std::function<void(QColorDialog*, ColorPickerButton*)>;
+Q_DECLARE_METATYPE(Act)
 
 class tst_DialogColorPicker : public QObject
 {
@@ -61,42 +63,47 @@ private Q_SLOTS:
         QVERIFY(m_button->isPickingInProgress());
     }
 
-    void okKeeps()
+    void ends_data()
     {
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QColor>("color");
+        const auto row = [](const char* name, const QColor& color, const Act& act) {
+            QTest::newRow(name) << act << color;
+        };
+        row("OK", Qt::blue, [](QColorDialog* dialog, auto*) { dialog->accept(); });
+        row("Cancel", Qt::red, [](QColorDialog* dialog, auto*) { dialog->reject(); });
+        row("the window's close button", Qt::red, [](QColorDialog* dialog, auto*) { dialog->close(); });
+        row("deleted by others", Qt::red, [](QColorDialog* dialog, auto*) { delete dialog; });
+        row("the field is hidden", Qt::red, [](auto*, QWidget* field) { field->hide(); });
+        row("stopped, twice", Qt::red, [](auto*, ColorPickerButton* field) {
+            auto* const picker = field->picker();
+            picker->stop();
+            picker->stop();
+        });
+        row("stopped in a slot", Qt::red, [](QColorDialog* dialog, ColorPickerButton* field) {
+            auto* const picker = field->picker();
+            connect(picker, &AbstractColorPicker::colorChanged, picker, [picker] { picker->stop(); });
+            dialog->reject();
+        });
+    }
+
+    void ends()
+    {
+        QFETCH(Act, act);
+        QFETCH(QColor, color);
         m_button->startPicking();
-        dialog()->setCurrentColor(Qt::blue);
-        QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
-        dialog()->accept();
-        QCOMPARE(stopped.count(), 1);
-        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::blue)));
+        const QPointer<QColorDialog> open = dialog();
+        open->setCurrentColor(Qt::blue);
+        QStringList order;
+        connect(m_picker, &AbstractColorPicker::colorChanged, this, [&order] { order += "color"; });
+        connect(m_picker, &AbstractColorPicker::pickingStopped, this, [&order] { order += "stopped"; });
+        act(open, m_button);
+        QCOMPARE(order, color == Qt::red ? QStringList({"color", "stopped"}) : QStringList({"stopped"}));
+        QCOMPARE(m_button->color(), std::optional<QColor>(color));
         QVERIFY(!m_button->isDown());
         QVERIFY(!m_button->isPickingInProgress());
-        QVERIFY(!dialog()->isVisible());
-    }
-
-    void cancelRestores_data()
-    {
-        QTest::addColumn<bool>("closes");
-        QTest::newRow("Cancel") << false;
-        QTest::newRow("the window's close button") << true;
-    }
-
-    void cancelRestores()
-    {
-        QFETCH(bool, closes);
-        m_button->startPicking();
-        dialog()->setCurrentColor(Qt::blue);
-        const auto order = std::make_shared<QStringList>();
-        connect(m_picker, &AbstractColorPicker::colorChanged, this, [order] { order->append("color"); });
-        connect(m_picker, &AbstractColorPicker::pickingStopped, this, [order] { order->append("stopped"); });
-        if (closes) {
-            dialog()->close();
-        } else {
-            dialog()->reject();
-        }
-        QCOMPARE(*order, (QStringList{"color", "stopped"}));
-        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
-        QVERIFY(!m_button->isDown());
+        QVERIFY(!open || !open->isVisible());
+        m_picker->disconnect(this);
     }
 
     void cancelKeepsAMixedFieldMixed()
@@ -114,25 +121,6 @@ private Q_SLOTS:
         QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
         m_picker->stop();
         QCOMPARE(stopped.count(), 0);
-    }
-
-    void stopRestoresOnce()
-    {
-        m_button->startPicking();
-        dialog()->setCurrentColor(Qt::blue);
-        QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
-        m_picker->stop();
-        m_picker->stop();
-        QCOMPARE(stopped.count(), 1);
-        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
-    }
-
-    void hidingTheFieldEndsIt()
-    {
-        m_button->startPicking();
-        m_button->hide();
-        QVERIFY(!m_button->isPickingInProgress());
-        QVERIFY(!dialog()->isVisible());
     }
 
     void picksAgain()
@@ -187,27 +175,6 @@ private Q_SLOTS:
         open->setCurrentColor(Qt::blue);
         QVERIFY(!m_button);
         QVERIFY(open && !open->isVisible());
-    }
-
-    void dialogDeletedByOthers()
-    {
-        m_button->startPicking();
-        QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
-        dialog()->setCurrentColor(Qt::blue);
-        delete dialog();
-        QCOMPARE(stopped.count(), 1);
-        QCOMPARE(m_button->color(), std::optional<QColor>(QColor(Qt::red)));
-        QVERIFY(!m_button->isDown());
-    }
-
-    void stopFromInsideTheLastSignal()
-    {
-        m_button->startPicking();
-        dialog()->setCurrentColor(Qt::blue);
-        QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
-        connect(m_picker, &AbstractColorPicker::colorChanged, this, [this] { m_picker->stop(); });
-        dialog()->reject();
-        QCOMPARE(stopped.count(), 1);
     }
 
     void withoutAField()

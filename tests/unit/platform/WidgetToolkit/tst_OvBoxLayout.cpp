@@ -5,8 +5,6 @@
 #include <WidgetToolkit/PropertyProviderBase.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QLabel>
-
 using LayoutHelpers::BoxItem;
 using LayoutHelpers::SpacerPolicy;
 
@@ -62,22 +60,21 @@ private Q_SLOTS:
     {
         QWidget owner;
         auto* a = new QLabel(&owner);
+        // What is no child widget, or none that is to be laid out.
+        new QWidget(a);
+        new QObject(&owner);
+        new QWidget(&owner, Qt::Popup);
+        new QWidget(&owner, Qt::Dialog);
+        new PropertyProviderBase(&owner);
+        QVERIFY(Util::installLayoutController(&owner));
         auto* b = new QWidget(&owner);
         auto* c = new QLabel(&owner);
         auto* layout = new OvVBoxLayout(&owner);
-        layout->autoFill();
+        QCOMPARE(layout->autoFill(), layout);
         QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{a, b, c}));
         for (int i = 0; i < 3; ++i) {
             QCOMPARE(layout->stretch(i), 0);
         }
-    }
-
-    void autoFillReturnsTheLayout()
-    {
-        QWidget owner;
-        auto* layout = new OvHBoxLayout(&owner);
-        QCOMPARE(layout->autoFill(), layout);
-        QCOMPARE(layout->count(), 0);
     }
 
     void autoFillTakesHiddenChildren()
@@ -92,38 +89,6 @@ private Q_SLOTS:
         QCOMPARE(layout->sizeHint().width(), 20);
         hidden->show();
         QCOMPARE(layout->sizeHint().width(), 40);
-    }
-
-    void autoFillLeavesOutWindows()
-    {
-        QWidget owner;
-        auto* child = new QWidget(&owner);
-        new QWidget(&owner, Qt::Popup);
-        new QWidget(&owner, Qt::Dialog);
-        auto* layout = new OvHBoxLayout(&owner);
-        layout->autoFill();
-        QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
-    }
-
-    void autoFillLeavesOutProviders()
-    {
-        QWidget owner;
-        new PropertyProviderBase(&owner);
-        auto* child = new QWidget(&owner);
-        QVERIFY(Util::installLayoutController(&owner));
-        auto* layout = new OvHBoxLayout(&owner);
-        layout->autoFill();
-        QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
-    }
-
-    void autoFillLeavesOutGrandchildren()
-    {
-        QWidget owner;
-        auto* child = new QWidget(&owner);
-        new QWidget(child);
-        auto* layout = new OvHBoxLayout(&owner);
-        layout->autoFill();
-        QCOMPARE(widgetsOf(*layout), QList<QWidget*>{child});
     }
 
     void autoFillLeavesOutWhatIsHeldAlready()
@@ -158,15 +123,6 @@ private Q_SLOTS:
         OvHBoxLayout layout(nullptr);
         QCOMPARE(layout.autoFill(), &layout);
         QCOMPARE(layout.count(), 0);
-    }
-
-    void autoFillLeavesOutNonWidgets()
-    {
-        QWidget owner;
-        new QObject(&owner);
-        auto* layout = new OvHBoxLayout(&owner);
-        layout->autoFill();
-        QCOMPARE(layout->count(), 0);
     }
 
     void addStretch_data()
@@ -242,33 +198,6 @@ private Q_SLOTS:
         layout->setGeometry(QRect(0, 0, 55, 10));
         QCOMPARE(a->geometry(), QRect(0, 0, 20, 10));
         QCOMPARE(b->x(), 35);
-    }
-
-    void chaining()
-    {
-        QWidget owner;
-        auto* a = new QWidget(&owner);
-        auto* layout = new OvVBoxLayout(&owner);
-        layout->autoFill()->addStretch()->addItems({{SpacerPolicy::Fixed, 4}})->addStretch(2);
-        QCOMPARE(layout->count(), 4);
-        QCOMPARE(layout->itemAt(0)->widget(), a);
-    }
-
-    void baseOperationsStillWork()
-    {
-        QWidget owner;
-        auto* a = new QWidget(&owner);
-        auto* b = new QWidget(&owner);
-        auto* layout = new OvHBoxLayout(&owner);
-        layout->addWidget(a, 0, {});
-        layout->insertWidget(0, b);
-        layout->setStretch(0, 1);
-        layout->setSpacing(5);
-        layout->setContentsMargins(1, 2, 3, 4);
-        QCOMPARE(widgetsOf(*layout), (QList<QWidget*>{b, a}));
-        QCOMPARE(layout->stretch(0), 1);
-        QCOMPARE(layout->spacing(), 5);
-        QCOMPARE(layout->contentsMargins(), QMargins(1, 2, 3, 4));
     }
 };
 

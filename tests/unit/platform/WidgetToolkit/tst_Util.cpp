@@ -5,14 +5,6 @@
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/Util.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QProxyStyle>
-#include <QPushButton>
-#include <QStyleFactory>
-#include <QToolButton>
-
 namespace {
 
 /// Counts what it is asked to do with one widget.
@@ -333,6 +325,8 @@ private Q_SLOTS:
         QCOMPARE(style.calls, QStringLiteral("up"));
         Util::applyProperty(&widget, "state", 1);
         QCOMPARE(style.calls, QStringLiteral("up"));
+        Util::repolishWidget(&widget);
+        QCOMPARE(style.calls, QStringLiteral("upup"));
     }
 
     void applyPropertyMovesTheLayout()
@@ -386,14 +380,6 @@ private Q_SLOTS:
         label.seen.clear();
         Util::applyProperty(&label, "state", 1);
         QTRY_VERIFY(label.seen.contains(QEvent::Paint));
-    }
-
-    void applyPropertyNull()
-    {
-        QWidget widget;
-        Util::applyProperty(nullptr, "state", 1);
-        Util::applyProperty(&widget, nullptr, 1);
-        QVERIFY(widget.dynamicPropertyNames().isEmpty());
     }
 
     void applyPropertyDeletedByItsChange()
@@ -482,23 +468,6 @@ private Q_SLOTS:
         QCOMPARE(widget.polished(), before + 2);
     }
 
-    void applyStyleHintNull()
-    {
-        Util::applyStyleHint(nullptr, QStringLiteral("error"));
-        Util::applyStyleHint(nullptr, QString());
-    }
-
-    void repolishWidgetUnpolishesAndPolishes()
-    {
-        CountingStyle style;
-        QWidget widget;
-        widget.setStyle(&style);
-        widget.ensurePolished();
-        style.calls.clear();
-        Util::repolishWidget(&widget);
-        QCOMPARE(style.calls, QStringLiteral("up"));
-    }
-
     void repolishWidgetReadsTheSheetAnew()
     {
         QLabel label;
@@ -534,8 +503,6 @@ private Q_SLOTS:
         QVERIFY(!widget.testAttribute(Qt::WA_WState_Polished));
     }
 
-    void repolishWidgetNull() { Util::repolishWidget(nullptr); }
-
     void installLayoutController()
     {
         QToolButton button;
@@ -557,13 +524,16 @@ private Q_SLOTS:
         QVERIFY(Util::installLayoutController(&child) != controller);
     }
 
-    void installLayoutControllerOnAController()
+    void nullWidgets()
     {
-        OvFrame frame;
-        QCOMPARE(Util::installLayoutController(&frame), static_cast<LayoutController*>(&frame));
+        QWidget widget;
+        Util::applyProperty(nullptr, "state", 1);
+        Util::applyProperty(&widget, nullptr, 1);
+        QVERIFY(widget.dynamicPropertyNames().isEmpty());
+        Util::applyStyleHint(nullptr, QStringLiteral("error"));
+        Util::repolishWidget(nullptr);
+        QVERIFY(!Util::installLayoutController(nullptr));
     }
-
-    void installLayoutControllerNull() { QVERIFY(!Util::installLayoutController(nullptr)); }
 
     void installedControllerProperties()
     {
@@ -580,20 +550,6 @@ private Q_SLOTS:
         }
         QVERIFY(installed->setProperty("layoutMarginTop", 3));
         QCOMPARE(layout->contentsMargins(), QMargins(0, 3, 0, 0));
-    }
-
-    void installedControllerStaysHidden()
-    {
-        QToolButton button;
-        Util::installLayoutController(&button);
-        auto* layout = new OvHBoxLayout(&button);
-        layout->autoFill();
-        QCOMPARE(layout->count(), 0);
-        button.show();
-        const auto children = button.findChildren<QWidget*>();
-        for (const QWidget* child : children) {
-            QVERIFY(!child->isVisible());
-        }
     }
 
     void installedControllerWithoutLayout()
@@ -642,16 +598,6 @@ private Q_SLOTS:
         // No event loop has run.
         QCOMPARE(layout->contentsMargins(), QMargins(6, 0, 0, 0));
         QCOMPARE(child->x(), 6);
-    }
-
-    void installedOnAPolishedWidget()
-    {
-        QWidget window;
-        window.setStyleSheet(QStringLiteral("InstalledLayoutController { qproperty-layoutMargin: 6; }"));
-        auto* layout = new OvHBoxLayout(&window);
-        window.show();
-        Util::installLayoutController(&window);
-        QCOMPARE(layout->contentsMargins(), QMargins(6, 6, 6, 6));
     }
 
     void installedFollowsTheSheet()
