@@ -197,15 +197,6 @@ private Q_SLOTS:
         QVERIFY(!visibleParts(guide).contains(part));
     }
 
-    void titleIsNoMarkup()
-    {
-        const QString title = QStringLiteral("<i>In</i> & out");
-        const GuideWidget guide(GuideInfo(title, QString(), QString(), QString()), nullptr);
-        QTextDocument shown;
-        shown.setHtml(label(guide, "headerLabel")->text());
-        QCOMPARE(shown.toPlainText(), title);
-    }
-
     void descriptionMayBeRichText()
     {
         const QString rich = QStringLiteral("Press <b>Delete</b>,<br>and again.");
@@ -532,20 +523,6 @@ private Q_SLOTS:
         QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
     }
 
-    void hidingTheParentStopsTheAnimation()
-    {
-        QWidget parent;
-        const GuideWidget guide(fullInfo(), &parent);
-        parent.show();
-        QCOMPARE(movie(guide)->state(), QMovie::Running);
-        QTRY_COMPARE(movie(guide)->currentFrameNumber(), 1);
-        parent.hide();
-        QCOMPARE(movie(guide)->state(), QMovie::NotRunning);
-        parent.show();
-        QCOMPARE(movie(guide)->state(), QMovie::Running);
-        QCOMPARE(movie(guide)->currentFrameNumber(), 0);
-    }
-
     void newAnimationPlaysAtOnceInAShownGuide()
     {
         GuideWidget guide(described(QStringLiteral("Still")), nullptr);
@@ -595,20 +572,6 @@ private Q_SLOTS:
         guide.setInfo(info);
         QCOMPARE(movie(guide), playing.data());
         QCOMPARE(changes, 0);
-    }
-
-    void animationTakenAway()
-    {
-        GuideWidget guide(fullInfo(), nullptr);
-        guide.show();
-        GuideInfo info = fullInfo();
-        info.moviePath.clear();
-        guide.setInfo(info);
-        QVERIFY(!movie(guide));
-        QVERIFY(picture(guide)->isHidden());
-        guide.hide();
-        guide.show();
-        QVERIFY(!movie(guide));
     }
 
     // Counted against the timers of a guide that is shown, so that the counting is seen to work.

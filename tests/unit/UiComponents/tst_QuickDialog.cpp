@@ -147,28 +147,6 @@ private Q_SLOTS:
         QVERIFY(!alone.parentWidget());
     }
 
-    void windowWhileItRuns()
-    {
-        QWidget parent;
-        FormDialog dialog(&parent);
-        dialog.setQmlPath(scene());
-        const int result = execWith(dialog, [&dialog] {
-            QCOMPARE(static_cast<int>(dialog.windowFlags()), 0x803);
-            QVERIFY(dialog.isModal());
-            QVERIFY(dialog.isVisible());
-            QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
-            QCOMPARE(dialog.sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum));
-            QCOMPARE(dialog.size(), QSize(120, 80));
-            QCOMPARE(dialog.container()->parent(), &dialog);
-            QCOMPARE(dialog.container()->geometry(), QRect(0, 0, 120, 80));
-            QVERIFY(dialog.view()->isVisible());
-            QCOMPARE(dialog.view()->geometry(), QRect(0, 0, 120, 80));
-            dialog.accept();
-        });
-        QCOMPARE(result, 1);
-        QVERIFY(!dialog.isVisible());
-    }
-
     void sizePolicyKeepsHeightForWidth()
     {
         FormDialog dialog;
@@ -184,16 +162,23 @@ private Q_SLOTS:
         QCOMPARE(dialog.sizePolicy(), expected);
     }
 
-    void layoutOfTheDialog()
+    void everyExec()
     {
-        FormDialog dialog;
+        QWidget parent;
+        FormDialog dialog(&parent);
         dialog.setQmlPath(scene());
         QPointer<QLayout> before;
         for (int round = 0; round < Rounds; ++round) {
-            execWith(dialog, [&dialog, &before] {
+            const int result = execWith(dialog, [&dialog, &before] {
+                QCOMPARE(static_cast<int>(dialog.windowFlags()), 0x803);
+                QVERIFY(dialog.isModal());
+                QVERIFY(dialog.isVisible());
+                QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
+                QCOMPARE(dialog.sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum));
+                QCOMPARE(dialog.size(), QSize(120, 80));
+
                 auto* const layout = qobject_cast<QHBoxLayout*>(dialog.layout());
-                QVERIFY(layout);
-                QVERIFY(!before);
+                QVERIFY(layout && !before);
                 QCOMPARE(dialog.findChildren<QLayout*>(QString(), Qt::FindDirectChildrenOnly).size(), 1);
                 QCOMPARE(layout->contentsMargins(), QMargins());
                 QCOMPARE(layout->spacing(), 0);
@@ -201,10 +186,23 @@ private Q_SLOTS:
                 QCOMPARE(layout->itemAt(0)->widget(), dialog.container());
                 QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
                 QCOMPARE(layout->stretch(0), 0);
+
+                QCOMPARE(dialog.container()->parent(), &dialog);
+                QVERIFY(dialog.container()->isVisible());
+                for (const QWidget* part : {dialog.container(), static_cast<QWidget*>(dialog.view())}) {
+                    QCOMPARE(part->geometry(), QRect(0, 0, 120, 80));
+                }
+                QVERIFY(dialog.view()->isVisible());
+                QCOMPARE(dialog.view()->window(), &dialog);
+                QTRY_COMPARE(dialog.grab().toImage().pixelColor(60, 40), QColor(0x20, 0x60, 0x40));
                 dialog.accept();
             });
+            QCOMPARE(result, 1);
+            QVERIFY(!dialog.isVisible());
             before = dialog.layout();
             QCOMPARE(before->count(), 0);
+            QVERIFY(!dialog.container()->parent());
+            QVERIFY(!dialog.container()->isVisible());
         }
     }
 
@@ -223,39 +221,36 @@ private Q_SLOTS:
         QCOMPARE(button->parent(), &dialog);
     }
 
-    void noPath()
+    void filesThatCannotBeLoaded_data()
     {
+        QTest::addColumn<QString>("body"); // of a scene
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("logged");
+        const QString missing = QStringLiteral("Could not find main qml file: ");
+        const QString nowhere = QStringLiteral("/nowhere/Scene.qml");
+        QTest::newRow("no path") << QString() << QString() << missing;
+        QTest::newRow("missing") << QString() << nowhere << missing + nowhere;
+        QTest::newRow("broken") << "width:" << QString() << "Could not resolve root object for main qml";
+    }
+
+    void filesThatCannotBeLoaded()
+    {
+        QFETCH(QString, body);
+        QFETCH(QString, path);
+        QFETCH(QString, logged);
         FormDialog dialog;
         QSignalSpy finished(&dialog, &QDialog::finished);
+        dialog.setQmlPath(body.isEmpty() ? path : scene(body));
+        if (!body.isEmpty()) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("main.qml:2")));
+        }
         QCOMPARE(dialog.exec(), 0);
-        QCOMPARE(m_log->take(),
-                 QStringList{QStringLiteral("WARNING QuickContent.cpp: Could not find main qml file: ")});
+        QCOMPARE(m_log->take(), QStringList{QStringLiteral("WARNING QuickContent.cpp: ") + logged});
         QVERIFY(!dialog.isVisible());
         QVERIFY(!dialog.layout());
         QVERIFY(!dialog.content()->isUndefined());
+        QVERIFY(!dialog.container() || !dialog.container()->parent());
         QCOMPARE(finished.count(), 0);
-    }
-
-    void missingFile()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(QStringLiteral("/nowhere/Scene.qml"));
-        QCOMPARE(dialog.exec(), 0);
-        QCOMPARE(m_log->take(),
-                 QStringList{QStringLiteral(
-                     "WARNING QuickContent.cpp: Could not find main qml file: /nowhere/Scene.qml")});
-    }
-
-    void brokenFile()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene(QStringLiteral("width:")));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("main.qml:2")));
-        QCOMPARE(dialog.exec(), 0);
-        QCOMPARE(m_log->take(), QStringList{QStringLiteral(
-                                    "WARNING QuickContent.cpp: Could not resolve root object for main qml")});
-        QVERIFY(!dialog.isVisible());
-        QVERIFY(!dialog.container()->parent());
     }
 
     void failedLoadIsNotRetried()
@@ -377,35 +372,6 @@ private Q_SLOTS:
             QCOMPARE(dialog.root(), root.data());
             QCOMPARE(root->property("count").toInt(), round);
             QCOMPARE(root->property("loads").toInt(), 1);
-        }
-    }
-
-    void containerHasNoParentAfterwards()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        for (int round = 0; round < Rounds; ++round) {
-            execWith(dialog, [&dialog] { dialog.accept(); });
-            QVERIFY(dialog.container());
-            QVERIFY(!dialog.container()->parent());
-            QVERIFY(!dialog.container()->isVisible());
-            QCOMPARE(dialog.layout()->count(), 0);
-        }
-    }
-
-    void everyExecShowsTheScene()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        for (int round = 0; round < Rounds; ++round) {
-            execWith(dialog, [&dialog] {
-                QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-                QVERIFY(dialog.container()->isVisible());
-                QVERIFY(dialog.view()->isVisible());
-                QCOMPARE(dialog.view()->window(), &dialog);
-                QTRY_COMPARE(dialog.grab().toImage().pixelColor(60, 40), QColor(0x20, 0x60, 0x40));
-                dialog.accept();
-            });
         }
     }
 
