@@ -12,7 +12,7 @@ namespace {
 
 QWidget* faceOf(const ColorPickerButton& button)
 {
-    return button.findChild<QWidget*>(QStringLiteral("color"), Qt::FindDirectChildrenOnly);
+    return button.findChild<QWidget*>("color", Qt::FindDirectChildrenOnly);
 }
 
 FakeColorPicker* installPicker(ColorPickerButton& button)
@@ -25,9 +25,9 @@ FakeColorPicker* installPicker(ColorPickerButton& button)
 QString text(const OptionalColor& color)
 {
     if (!color) {
-        return QStringLiteral("multiple");
+        return "several";
     }
-    return color->isValid() ? color->name(QColor::HexArgb) : QStringLiteral("none");
+    return color->isValid() ? color->name(QColor::HexArgb) : "none";
 }
 
 /// Everything that a button and its picker say, in order.
@@ -36,12 +36,10 @@ class Protocol : public QObject
 public:
     void watch(ColorPickerButton* button)
     {
-        connect(button, &ColorPickerButton::pickingStarted, this,
-                [this] { lines += QStringLiteral("started"); });
-        connect(button, &ColorPickerButton::pickingStopped, this,
-                [this] { lines += QStringLiteral("stopped"); });
+        connect(button, &ColorPickerButton::pickingStarted, this, [this] { lines += "started"; });
+        connect(button, &ColorPickerButton::pickingStopped, this, [this] { lines += "stopped"; });
         connect(button, &ColorPickerButton::colorChanged, this,
-                [this](const QColor& color) { lines += QStringLiteral("changed ") + text(color); });
+                [this](const QColor& color) { lines += text(color); });
     }
 
     QStringList lines;
@@ -65,7 +63,7 @@ private Q_SLOTS:
         QVERIFY(!button.color().has_value());
         QCOMPARE(button.property("multiColor"), QVariant(true));
         QCOMPARE(button.property("nullColor"), QVariant(false));
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: transparent;");
         QVERIFY(!button.isDown());
     }
 
@@ -80,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(button.grab().toImage().pixelColor(faceOf(button)->geometry().center()),
                  QColor(200, 100, 50));
 
-        button.setStyleSheet(QStringLiteral("#color { min-width: 5px; max-width: 5px; }"));
+        button.setStyleSheet("#color { min-width: 5px; max-width: 5px; }");
         QTRY_COMPARE(faceOf(button)->width(), 5);
     }
 
@@ -91,13 +89,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("multiColor");
         QTest::addColumn<QString>("face");
 
-        const QString transparent = QStringLiteral("background: transparent;");
+        const QString transparent = "background: transparent;";
         QTest::newRow("red") << OptionalColor(QColor(255, 0, 0)) << false << false
-                             << QStringLiteral("background: rgba(255, 0, 0, 1)");
-        QTest::newRow("fully transparent") << OptionalColor(QColor(1, 2, 3, 0)) << false << false
-                                           << QStringLiteral("background: rgba(1, 2, 3, 1)");
+                             << "background: rgba(255, 0, 0, 1)";
+        QTest::newRow("fully transparent")
+            << OptionalColor(QColor(1, 2, 3, 0)) << false << false << "background: rgba(1, 2, 3, 1)";
         QTest::newRow("hsv") << OptionalColor(QColor::fromHsv(120, 255, 255)) << false << false
-                             << QStringLiteral("background: rgba(0, 255, 0, 1)");
+                             << "background: rgba(0, 255, 0, 1)";
         QTest::newRow("none") << OptionalColor(QColor()) << true << false << transparent;
         QTest::newRow("multiple") << OptionalColor() << false << true << transparent;
     }
@@ -114,94 +112,35 @@ private Q_SLOTS:
         QTEST(faceOf(button)->styleSheet(), "face");
     }
 
-    void setColorOfNoColorIsReported()
-    {
-        ColorPickerButton button;
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        button.setColor(QColor());
-        QCOMPARE(button.property("nullColor"), QVariant(true));
-        QCOMPARE(button.property("multiColor"), QVariant(false));
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
-        QCOMPARE(changed.size(), 1);
-        QVERIFY(!changed.front().front().value<QColor>().isValid());
-    }
-
-    void sameColorIsReportedOnce()
-    {
-        ColorPickerButton button;
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        button.setColor(QColor(10, 20, 30));
-        button.setColor(QColor(10, 20, 30));
-        QCOMPARE(changed.size(), 1);
-        button.setColor(std::nullopt);
-        button.setColor(std::nullopt);
-        button.setColor(QColor());
-        button.setColor(QColor());
-        QCOMPARE(changed.size(), 2);
-    }
-
-    void changeToMultipleIsShownButNotReported()
-    {
-        ColorPickerButton button;
-        button.setColor(QColor(10, 20, 30));
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        button.setColor(std::nullopt);
-        QCOMPARE(changed.size(), 0);
-        QVERIFY(!button.color().has_value());
-        QCOMPARE(button.property("multiColor"), QVariant(true));
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: transparent;"));
-    }
-
-    void colorModelCounts()
-    {
-        ColorPickerButton button;
-        button.setColor(QColor(255, 0, 0));
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        button.setColor(QColor(255, 0, 0).toHsv());
-        QCOMPARE(changed.size(), 1);
-    }
-
     void disabledFaceIsDimmed()
     {
         ColorPickerButton button;
         button.setColor(QColor(1, 2, 3));
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(1, 2, 3, 1)"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: rgba(1, 2, 3, 1)");
         button.setEnabled(false);
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(1, 2, 3, 0.4)"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: rgba(1, 2, 3, 0.4)");
         button.setColor(QColor(4, 5, 6));
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(4, 5, 6, 0.4)"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: rgba(4, 5, 6, 0.4)");
         button.setEnabled(true);
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(4, 5, 6, 1)"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: rgba(4, 5, 6, 1)");
 
         QWidget parent;
         button.setParent(&parent);
         parent.setEnabled(false);
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(4, 5, 6, 0.4)"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: rgba(4, 5, 6, 0.4)");
         button.setParent(nullptr);
     }
 
     void translucentColorIsShownOpaque()
     {
         ColorPickerButton button;
-        button.setStyleSheet(QStringLiteral("#color { min-width: 20px; min-height: 20px; }"));
+        button.setStyleSheet("#color { min-width: 20px; min-height: 20px; }");
         button.setColor(QColor(200, 100, 50, 128));
-        QCOMPARE(faceOf(button)->styleSheet(), QStringLiteral("background: rgba(200, 100, 50, 1)"));
+        QCOMPARE(faceOf(button)->styleSheet(), "background: rgba(200, 100, 50, 1)");
         button.resize(40, 40);
         button.show();
         const QPoint middle = faceOf(button)->geometry().center();
         QCOMPARE(button.grab().toImage().pixelColor(middle), QColor(200, 100, 50));
-    }
-
-    void valueKeepsAlpha()
-    {
-        ColorPickerButton button;
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        const QColor translucent(200, 100, 50, 128);
-        button.setColor(translucent);
-        QVERIFY(button.color() == OptionalColor(translucent));
-        QCOMPARE(changed.front().front().value<QColor>(), translucent);
-        button.setColor(QColor(200, 100, 50, 129));
-        QCOMPARE(changed.size(), 2);
     }
 
     // A slot that changes the value again must not change what the first emission carries to later slots.
@@ -221,37 +160,125 @@ private Q_SLOTS:
         QVERIFY(button.color() == OptionalColor(QColor(Qt::blue)));
     }
 
+    // What happens, what the button reports, what its picker is asked to do, and what it then shows.
+    void story_data()
+    {
+        QTest::addColumn<QString>("story");
+        QTest::addColumn<QString>("reports");
+        QTest::addColumn<QString>("calls");
+        QTest::addColumn<QString>("state");
+        const auto row = [](const char* name, const char* story, const char* reports, const char* calls,
+                            const char* state) { QTest::newRow(name) << story << reports << calls << state; };
+        row("colours set", "set red; set red; set #fe0000; set #80fe0000", "#ffff0000; #fffe0000; #80fe0000",
+            "setColor; setColor; setColor", "#80fe0000");
+        row("the model of a colour counts", "set red; hsv red", "#ffff0000; #ffff0000", "setColor; setColor",
+            "#ffff0000");
+        // To the picker, too, several colours are no value.
+        row("several colours and none", "set red; set several; set several; set none; set none",
+            "#ffff0000; none", "setColor; setColor", "none");
+        row("picked by a click", "click; preview green; finish blue",
+            "started; #ff008000; stopped; #ff0000ff", "pick; setColor; setColor", "#ff0000ff");
+        row("by Space", "space", "started", "pick", "several down picking");
+        row("while disabled", "disable; click; space", "", "", "several");
+        row("previews", "start; preview green; preview green; preview several", "started; #ff008000",
+            "pick; setColor", "several down picking");
+        row("silent end", "start; silence", "started", "pick", "several down");
+        row("started again after a silent end", "start; silence; start; finish red",
+            "started; started; stopped; #ffff0000", "pick; pick; setColor", "#ffff0000");
+        row("stopped", "start; preview red; stop", "started; #ffff0000; stopped", "pick; setColor; stop",
+            "#ffff0000");
+        // The picker's word at the end is what counts, whatever it reported before.
+        row("hidden", "start; preview red; set yellow; hide",
+            "started; #ffff0000; #ffffff00; stopped; #ffff0000", "pick; setColor; setColor; stop; setColor",
+            "#ffff0000");
+        row("hidden while idle", "hide", "", "stop", "several");
+        row("finished twice", "start; finish red; finish red", "started; stopped; #ffff0000; stopped",
+            "pick; setColor", "#ffff0000");
+        row("finished with several colours", "set red; start; finish several", "#ffff0000; started; stopped",
+            "setColor; pick", "several");
+        row("another picker", "start; replace", "started", "", "several");
+        row("another picker is heard once", "replace; preview red; finish red", "#ffff0000; stopped",
+            "setColor", "#ffff0000");
+    }
+
+    void story()
+    {
+        QFETCH(QString, story);
+        ColorPickerButton button;
+        FakeColorPicker* picker = installPicker(button);
+        Protocol protocol;
+        protocol.watch(&button);
+        button.show();
+        const QStringList steps = story.split("; ");
+        for (const QString& step : steps) {
+            const QString verb = step.section(' ', 0, 0);
+            const QString name = step.section(' ', 1);
+            OptionalColor color = name == "none" ? QColor() : QColor(name.isEmpty() ? "red" : name);
+            if (name == "several") {
+                color.reset();
+            }
+            if (verb == "set") {
+                button.setColor(color);
+            } else if (verb == "hsv") {
+                button.setColor(color->toHsv());
+            } else if (verb == "click") {
+                QTest::mouseClick(&button, Qt::LeftButton);
+            } else if (verb == "space") {
+                QTest::keyClick(&button, Qt::Key_Space);
+            } else if (verb == "start") {
+                button.startPicking();
+            } else if (verb == "stop") {
+                button.stopPicking();
+            } else if (verb == "hide") {
+                button.hide();
+            } else if (verb == "disable") {
+                button.setEnabled(false);
+            } else if (verb == "preview") {
+                picker->preview(color);
+            } else if (verb == "finish") {
+                picker->finish(color);
+            } else if (verb == "silence") {
+                picker->finishInSilence();
+            } else {
+                picker = installPicker(button);
+            }
+        }
+        QTEST(protocol.lines.join("; "), "reports");
+        QTEST(picker->calls.join("; "), "calls");
+        QTEST(text(button.color()) + (button.isDown() ? " down" : "") +
+                  (button.isPickingInProgress() ? " picking" : ""),
+              "state");
+    }
+
     void selectorsTakeEffectAtOnce()
     {
         ColorPickerButton button;
-        button.setStyleSheet(
-            QStringLiteral("ColorPickerButton { qproperty-text: colour; }"
-                           "ColorPickerButton[nullColor=\"true\"] { qproperty-text: blank; }"
-                           "ColorPickerButton[multiColor=\"true\"] { qproperty-text: several; }"));
+        button.setStyleSheet("ColorPickerButton { qproperty-text: colour; }"
+                             "ColorPickerButton[nullColor=\"true\"] { qproperty-text: blank; }"
+                             "ColorPickerButton[multiColor=\"true\"] { qproperty-text: several; }");
         button.ensurePolished();
-        QCOMPARE(button.text(), QStringLiteral("several"));
+        QCOMPARE(button.text(), "several");
         button.setColor(QColor());
-        QCOMPARE(button.text(), QStringLiteral("blank"));
+        QCOMPARE(button.text(), "blank");
         button.setColor(QColor(Qt::red));
-        QCOMPARE(button.text(), QStringLiteral("colour"));
+        QCOMPARE(button.text(), "colour");
     }
 
     // Without a colour, the face has one and the same sheet in both states.
     void facesSelectorsTakeEffectAtOnce()
     {
         ColorPickerButton button;
-        button.setStyleSheet(
-            QStringLiteral("ColorPickerButton #color { qproperty-toolTip: colour; }"
-                           "ColorPickerButton[nullColor=\"true\"] #color { qproperty-toolTip: blank; }"
-                           "ColorPickerButton[multiColor=\"true\"] #color { qproperty-toolTip: several; }"));
+        button.setStyleSheet("ColorPickerButton #color { qproperty-toolTip: colour; }"
+                             "ColorPickerButton[nullColor=\"true\"] #color { qproperty-toolTip: blank; }"
+                             "ColorPickerButton[multiColor=\"true\"] #color { qproperty-toolTip: several; }");
         faceOf(button)->ensurePolished();
-        QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("several"));
+        QCOMPARE(faceOf(button)->toolTip(), "several");
         button.setColor(QColor());
-        QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("blank"));
+        QCOMPARE(faceOf(button)->toolTip(), "blank");
         button.setColor(std::nullopt);
-        QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("several"));
+        QCOMPARE(faceOf(button)->toolTip(), "several");
         button.setColor(QColor(Qt::red));
-        QCOMPARE(faceOf(button)->toolTip(), QStringLiteral("colour"));
+        QCOMPARE(faceOf(button)->toolTip(), "colour");
     }
 
     void clickWithoutPicker()
@@ -266,50 +293,6 @@ private Q_SLOTS:
         QVERIFY(!button.isDown());
     }
 
-    void pickFromClickToColor()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        Protocol protocol;
-        protocol.watch(&button);
-        button.show();
-
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("started")}));
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
-        QVERIFY(button.isDown());
-        QVERIFY(button.isPickingInProgress());
-
-        picker->preview(QColor(Qt::green));
-        picker->finish(QColor(Qt::blue));
-        QCOMPARE(protocol.lines,
-                 QStringList({QStringLiteral("started"), QStringLiteral("changed ") + opaque(Qt::green),
-                              QStringLiteral("stopped"), QStringLiteral("changed ") + opaque(Qt::blue)}));
-        QVERIFY(!button.isDown());
-        QVERIFY(!button.isPickingInProgress());
-        QVERIFY(button.color() == OptionalColor(QColor(Qt::blue)));
-    }
-
-    void spaceStartsAPick()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.show();
-        QTest::keyClick(&button, Qt::Key_Space);
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
-        QVERIFY(button.isDown());
-    }
-
-    void disabledButtonDoesNotPick()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.setEnabled(false);
-        button.show();
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QCOMPARE(picker->calls, QStringList());
-    }
-
     void buttonIsPressedBeforePick()
     {
         ColorPickerButton button;
@@ -321,135 +304,6 @@ private Q_SLOTS:
         button.startPicking();
         QVERIFY(!downAtStart);
         QVERIFY(downAtPick);
-    }
-
-    void previewIsAdoptedAtOnce()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.startPicking();
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        picker->preview(QColor(Qt::green));
-        QVERIFY(button.color() == OptionalColor(QColor(Qt::green)));
-        picker->preview(QColor(Qt::green));
-        picker->preview(std::nullopt);
-        QVERIFY(!button.color().has_value());
-        QCOMPARE(changed.size(), 1);
-        QVERIFY(button.isDown());
-    }
-
-    void silentEndKeepsThePress()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        Protocol protocol;
-        protocol.watch(&button);
-        button.startPicking();
-        picker->finishInSilence();
-        QVERIFY(button.isDown());
-        QVERIFY(!button.isPickingInProgress());
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("started")}));
-    }
-
-    void restartAfterSilentEnd()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.startPicking();
-        picker->finishInSilence();
-        button.startPicking();
-        picker->finish(QColor(Qt::red));
-        QVERIFY(!button.isDown());
-    }
-
-    void stopPickingAsksThePicker()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        Protocol protocol;
-        protocol.watch(&button);
-        button.startPicking();
-        picker->preview(QColor(Qt::red));
-        button.stopPicking();
-        QCOMPARE(picker->calls.count(QStringLiteral("stop")), 1);
-        QVERIFY(!button.isDown());
-        QCOMPARE(protocol.lines,
-                 QStringList({QStringLiteral("started"), QStringLiteral("changed ") + opaque(Qt::red),
-                              QStringLiteral("stopped")}));
-    }
-
-    void hidingStopsThePick()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.show();
-        button.startPicking();
-        picker->preview(QColor(Qt::red));
-        Protocol protocol;
-        protocol.watch(&button);
-        // The picker's word at the end is what counts, whatever it reported before.
-        button.setColor(QColor(Qt::yellow));
-        button.hide();
-        QCOMPARE(picker->calls.last(), QStringLiteral("setColor"));
-        QCOMPARE(picker->calls.count(QStringLiteral("stop")), 1);
-        QCOMPARE(protocol.lines,
-                 QStringList({QStringLiteral("changed ") + opaque(Qt::yellow), QStringLiteral("stopped"),
-                              QStringLiteral("changed ") + opaque(Qt::red)}));
-        QVERIFY(!button.isDown());
-        QVERIFY(button.color() == OptionalColor(QColor(Qt::red)));
-    }
-
-    void hidingAnIdleButtonAsksThePickerToStop()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        Protocol protocol;
-        protocol.watch(&button);
-        button.show();
-        button.hide();
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("stop")}));
-        QCOMPARE(protocol.lines, QStringList());
-    }
-
-    void stoppedTwiceIsRelayedTwice()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        QSignalSpy stopped(&button, &ColorPickerButton::pickingStopped);
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        button.startPicking();
-        picker->finish(QColor(Qt::red));
-        picker->finish(QColor(Qt::red));
-        QCOMPARE(stopped.size(), 2);
-        QCOMPARE(changed.size(), 1);
-        QVERIFY(!button.isDown());
-    }
-
-    void finalColorMayBeMultiple()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.setColor(QColor(Qt::red));
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        button.startPicking();
-        picker->finish(std::nullopt);
-        QVERIFY(!button.color().has_value());
-        QCOMPARE(changed.size(), 0);
-        QVERIFY(!button.isDown());
-    }
-
-    void pickerLearnsEachColor()
-    {
-        ColorPickerButton button;
-        auto* picker = new FakeColorPicker;
-        button.setColor(QColor(Qt::black));
-        button.setPicker(picker);
-        QCOMPARE(picker->received.size(), std::size_t(0));
-        button.setColor(QColor(Qt::red));
-        button.setColor(QColor());
-        QCOMPARE(picker->received.size(), std::size_t(2));
-        QVERIFY(picker->received.at(0) == OptionalColor(QColor(Qt::red)));
-        QVERIFY(picker->received.at(1) == OptionalColor(QColor()));
     }
 
     // A slot that sets another colour runs before the picker hears of the first.
@@ -466,15 +320,6 @@ private Q_SLOTS:
         button.setColor(QColor(Qt::red));
         QCOMPARE(picker->received.size(), std::size_t(1));
         QVERIFY(picker->received.back() == OptionalColor(QColor(Qt::blue)));
-    }
-
-    void pickerIsNotToldOfMultiple()
-    {
-        ColorPickerButton button;
-        FakeColorPicker* const picker = installPicker(button);
-        button.setColor(QColor(Qt::red));
-        button.setColor(std::nullopt);
-        QCOMPARE(picker->received.size(), std::size_t(1));
     }
 
     void pickerMayAnswerSetColor()
@@ -499,9 +344,7 @@ private Q_SLOTS:
         Protocol protocol;
         protocol.watch(&button);
         button.click();
-        QCOMPARE(protocol.lines,
-                 QStringList({QStringLiteral("started"), QStringLiteral("changed ") + opaque(Qt::green),
-                              QStringLiteral("stopped"), QStringLiteral("changed ") + opaque(Qt::red)}));
+        QCOMPARE(protocol.lines, QStringList({"started", opaque(Qt::green), "stopped", opaque(Qt::red)}));
         QVERIFY(!button.isDown());
     }
 
@@ -540,12 +383,12 @@ private Q_SLOTS:
         };
         button.click();
         QTest::keyRelease(&button, Qt::Key_Space);
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
+        QCOMPARE(picker->calls, QStringList({"pick"}));
         QVERIFY(button.isDown());
 
         picker->onPick = nullptr;
         QTest::keyClick(&button, Qt::Key_Space);
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("pick"), QStringLiteral("pick")}));
+        QCOMPARE(picker->calls, QStringList({"pick", "pick"}));
     }
 
     void spaceWhileANestedPickGoesOn()
@@ -558,7 +401,7 @@ private Q_SLOTS:
             QTest::keyClick(&button, Qt::Key_Space);
         };
         button.click();
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("pick"), QStringLiteral("pick")}));
+        QCOMPARE(picker->calls, QStringList({"pick", "pick"}));
     }
 
     void secondPickerReplacesTheFirst()
@@ -571,22 +414,7 @@ private Q_SLOTS:
         QVERIFY(!first);
         QCOMPARE(second->parent(), &button);
         button.startPicking();
-        QCOMPARE(second->calls, QStringList({QStringLiteral("pick")}));
-    }
-
-    void secondPickerIsHeardOnce()
-    {
-        ColorPickerButton button;
-        button.setPicker(new FakeColorPicker);
-        auto* second = new FakeColorPicker;
-        button.setPicker(second);
-        QSignalSpy changed(&button, &ColorPickerButton::colorChanged);
-        QSignalSpy stopped(&button, &ColorPickerButton::pickingStopped);
-        second->preview(QColor(Qt::red));
-        second->finish(QColor(Qt::red));
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(stopped.size(), 1);
-        QCOMPARE(second->received.size(), std::size_t(1));
+        QCOMPARE(second->calls, QStringList({"pick"}));
     }
 
     void installingTheSamePickerKeepsIt()
@@ -612,20 +440,7 @@ private Q_SLOTS:
         }
         QVERIFY(picker);
         button.startPicking();
-        QCOMPARE(picker->calls, QStringList({QStringLiteral("pick")}));
-    }
-
-    void replacedWhilePickingReleases()
-    {
-        ColorPickerButton button;
-        button.setPicker(new FakeColorPicker);
-        button.startPicking();
-        QSignalSpy stopped(&button, &ColorPickerButton::pickingStopped);
-        auto* second = new FakeColorPicker;
-        button.setPicker(second);
-        QVERIFY(!button.isDown());
-        QVERIFY(!button.isPickingInProgress());
-        QCOMPARE(stopped.size(), 0);
+        QCOMPARE(picker->calls, QStringList({"pick"}));
     }
 
     // Asking a picker for its colour while it is destroyed would call a pure virtual function.
@@ -659,7 +474,7 @@ private Q_SLOTS:
         protocol.watch(&button);
         button.click();
         QVERIFY(!button.isDown());
-        QCOMPARE(protocol.lines, QStringList({QStringLiteral("started")}));
+        QCOMPARE(protocol.lines, QStringList({"started"}));
 
         button.click();
         button.stopPicking();
@@ -688,10 +503,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("signal");
         QTest::addColumn<QStringList>("secondIsAsked");
         QTest::addColumn<bool>("pressed");
-        QTest::newRow("pickingStarted")
-            << QStringLiteral("started") << QStringList({QStringLiteral("pick")}) << true;
-        QTest::newRow("pickingStopped") << QStringLiteral("stopped") << QStringList() << false;
-        QTest::newRow("colorChanged") << QStringLiteral("changed") << QStringList() << false;
+        QTest::newRow("pickingStarted") << "started" << QStringList({"pick"}) << true;
+        QTest::newRow("pickingStopped") << "stopped" << QStringList() << false;
+        QTest::newRow("colorChanged") << "changed" << QStringList() << false;
     }
 
     void pickerReplacedInASlot()
@@ -711,9 +525,9 @@ private Q_SLOTS:
                 button.setPicker(second);
             }
         };
-        if (signal == QLatin1String("started")) {
+        if (signal == "started") {
             connect(&button, &ColorPickerButton::pickingStarted, this, replace);
-        } else if (signal == QLatin1String("stopped")) {
+        } else if (signal == "stopped") {
             connect(&button, &ColorPickerButton::pickingStopped, this, replace);
         } else {
             connect(&button, &ColorPickerButton::colorChanged, this, replace);
