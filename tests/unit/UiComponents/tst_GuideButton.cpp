@@ -33,6 +33,15 @@ std::unique_ptr<GuideButton> makeButton(QWidget* parent = nullptr)
     return button;
 }
 
+/// As makeButton(), with its pop-up open.
+std::unique_ptr<GuideButton> openGuide()
+{
+    auto button = makeButton();
+    button->show();
+    button->click();
+    return button;
+}
+
 QList<PointingWidget*> popups(const GuideButton& button)
 {
     return button.findChildren<PointingWidget*>();
@@ -110,6 +119,7 @@ public:
 } // namespace
 
 Q_DECLARE_METATYPE(GuideInfo)
+Q_DECLARE_METATYPE(std::function<void(QWidget*)>)
 
 class tst_GuideButton : public QObject
 {
@@ -146,9 +156,7 @@ private Q_SLOTS:
 
     void clearedInfoClosesNothingAndOpensNothing()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         const QPointer<PointingWidget> open = popup(*button);
         button->setGuideInfo(nullptr);
         QVERIFY(!button->hasGuideInfo());
@@ -175,9 +183,7 @@ private Q_SLOTS:
 
     void popupHasItsNamesAndFlags()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         QCOMPARE(popup(*button)->parentWidget(), button.get());
         QCOMPARE(popup(*button)->objectName(), QStringLiteral("pointingWidget"));
         QCOMPARE(guide(*button)->objectName(), QStringLiteral("guideWidget"));
@@ -189,9 +195,7 @@ private Q_SLOTS:
 
     void guideFillsThePopup()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         const OvFrame* const frame = popup(*button)->contentFrame();
         QVERIFY(qobject_cast<OvVBoxLayout*>(frame->layout()));
         QCOMPARE(frame->layout()->contentsMargins(), QMargins());
@@ -208,9 +212,7 @@ private Q_SLOTS:
 
     void arrowIsBelowTheMiddle()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         // The width is odd: the division rounds down.
         QCOMPARE(popup(*button)->targetPoint(), button->mapToGlobal(QPoint(20, 24)));
         QCOMPARE(popup(*button)->geometry().top(), middleOfLowerEdge(*button).y());
@@ -237,9 +239,7 @@ private Q_SLOTS:
 
     void eachClickBuildsAnew()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         const QPointer<PointingWidget> first = popup(*button);
         const QPointer<GuideWidget> firstGuide = guide(*button);
         button->click();
@@ -307,9 +307,7 @@ private Q_SLOTS:
 
     void newInfoIsShownAtTheNextClick()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         button->setGuideInfo(info(QStringLiteral("Slip")));
         QCOMPARE(shownTitle(*button), QStringLiteral("Trim"));
         button->click();
@@ -318,9 +316,7 @@ private Q_SLOTS:
 
     void popupDeletedByOthers()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         delete popup(*button);
         button->hide();
         button->show();
@@ -331,9 +327,7 @@ private Q_SLOTS:
 
     void offsetTakesEffectAtTheNextClick()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         const int middle = popup(*button)->x();
         QVERIFY(button->setProperty("popupOffset", 15));
         QCOMPARE(button->property("popupOffset").toInt(), 15);
@@ -389,15 +383,58 @@ private Q_SLOTS:
         qApp->setStyleSheet(QString());
     }
 
-    void escapeCloses()
+    void closes_data()
     {
-        const auto button = makeButton();
-        button->show();
+        using Act = std::function<void(QWidget*)>; // with the pop-up
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<bool>("closes");
+        const auto clickAt = [](QPoint (*point)(QWidget*)) -> Act {
+            return [point](QWidget* popup) {
+                QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, {}, point(popup));
+            };
+        };
+        QTest::newRow("click on the guide")
+            << clickAt([](QWidget* popup) { return popup->rect().center(); }) << false;
+        QTest::newRow("click beside the arrow") << clickAt([](QWidget*) { return QPoint(2, 1); }) << true;
+        QTest::newRow("click elsewhere") << clickAt([](QWidget* popup) {
+            const QWidget* const window = popup->parentWidget()->window();
+            return popup->mapFromGlobal(window->mapToGlobal(QPoint(5, 5)));
+        }) << true;
+        const auto row = [](const char* name, const Act& act) { QTest::newRow(name) << act << true; };
+        row("Escape", [](QWidget* popup) { QTest::keyClick(popup->windowHandle(), Qt::Key_Escape); });
+        row("button hidden", [](QWidget* popup) { popup->parentWidget()->hide(); });
+        row("window hidden", [](QWidget* popup) { popup->parentWidget()->window()->hide(); });
+        // The window system hides what a minimised window holds; bubbles leave that to it.
+        row("minimised", [](QWidget* popup) {
+            QHideEvent hidden;
+            QSpontaneKeyEvent::setSpontaneous(&hidden);
+            QApplication::instance()->notify(popup->parentWidget(), &hidden);
+        });
+        // The pop-up would hear no Escape and no click, and nobody else would either.
+        row("disabled", [](QWidget* popup) { popup->parentWidget()->setEnabled(false); });
+    }
+
+    void closes()
+    {
+        QFETCH(std::function<void(QWidget*)>, act);
+        QFETCH(bool, closes);
+        QWidget window;
+        window.setGeometry(100, 100, 700, 500);
+        const auto button = makeButton(&window);
+        window.show();
         button->click();
-        QTest::keyClick(popup(*button)->windowHandle(), Qt::Key_Escape);
-        QVERIFY(popup(*button));
-        QVERIFY(!popup(*button)->isVisible());
-        QCOMPARE(movie(*button)->state(), QMovie::NotRunning);
+        const QPointer<PointingWidget> open = popup(*button);
+        act(open);
+        QVERIFY(open);
+        QCOMPARE(open->isVisible(), !closes);
+        QCOMPARE(QApplication::activePopupWidget() != nullptr, !closes);
+        QVERIFY(!closes || movie(*button)->state() == QMovie::NotRunning);
+        // For good.
+        button->setEnabled(true);
+        window.hide();
+        button->show();
+        window.show();
+        QVERIFY(!open->isVisible());
     }
 
     void escapeGivesTheFocusBack()
@@ -417,65 +454,6 @@ private Q_SLOTS:
         QTRY_COMPARE(QApplication::focusWidget(), button.get());
     }
 
-    void clickElsewhereCloses()
-    {
-        QWidget window;
-        window.setGeometry(100, 100, 700, 500);
-        const auto button = makeButton(&window);
-        window.show();
-        button->click();
-        QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {},
-                          popup(*button)->mapFromGlobal(window.mapToGlobal(QPoint(5, 5))));
-        QVERIFY(!popup(*button)->isVisible());
-        // Beside the arrow, inside the pop-up's rectangle.
-        button->click();
-        QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {}, QPoint(2, 1));
-        QVERIFY(!popup(*button)->isVisible());
-        // On the guide.
-        button->click();
-        QTest::mouseClick(popup(*button)->windowHandle(), Qt::LeftButton, {},
-                          popup(*button)->rect().center());
-        QVERIFY(popup(*button)->isVisible());
-    }
-
-    void hidingTheButtonCloses()
-    {
-        const auto button = makeButton();
-        button->show();
-        button->click();
-        const QPointer<PointingWidget> open = popup(*button);
-        button->hide();
-        QVERIFY(open);
-        QVERIFY(!open->isVisible());
-        button->show();
-        QVERIFY(!open->isVisible());
-    }
-
-    void hidingTheWindowCloses()
-    {
-        QWidget window;
-        const auto button = makeButton(&window);
-        window.show();
-        button->click();
-        window.hide();
-        QVERIFY(!popup(*button)->isVisible());
-        window.show();
-        QVERIFY(!popup(*button)->isVisible());
-    }
-
-    // The window system hides what a minimised window holds; bubbles leave that to it.
-    void minimisingTheWindowCloses()
-    {
-        const auto button = makeButton();
-        button->show();
-        button->click();
-        QHideEvent hidden;
-        QSpontaneKeyEvent::setSpontaneous(&hidden);
-        QVERIFY(hidden.spontaneous());
-        QApplication::instance()->notify(button.get(), &hidden);
-        QVERIFY(!popup(*button)->isVisible());
-    }
-
     void buttonMovedWhileOpen()
     {
         QWidget window;
@@ -493,9 +471,7 @@ private Q_SLOTS:
 
     void buttonResizedWhileOpen()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         const QPoint spot = popup(*button)->targetPoint();
         button->resize(200, 60);
         QVERIFY(popup(*button)->isVisible());
@@ -513,25 +489,10 @@ private Q_SLOTS:
         QVERIFY(!QApplication::activePopupWidget());
     }
 
-    // Disabled with the button, the pop-up would hear no Escape and no click, and nobody else would either.
-    void disabledWhileOpen()
-    {
-        const auto button = makeButton();
-        button->show();
-        button->click();
-        button->setEnabled(false);
-        QVERIFY(!popup(*button)->isVisible());
-        QVERIFY(!QApplication::activePopupWidget());
-        button->setEnabled(true);
-        QVERIFY(!popup(*button)->isVisible());
-    }
-
     // Counted against the timers of an open pop-up, so that the counting is seen to work.
     void closedPopupCostsNothing()
     {
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         TimerCounter timers;
         QVERIFY(timers.countDuring(50) > 5);
         popup(*button)->close();
@@ -625,18 +586,6 @@ private Q_SLOTS:
         QVERIFY(popup(*button)->geometry().center().x() > middleOfLowerEdge(*button).x());
     }
 
-    void hugeAnimationStaysOnTheScreen()
-    {
-        const auto button = makeButton();
-        auto huge = info(QStringLiteral("Huge"));
-        huge->moviePath = QStringLiteral(UIC_TEST_DATA "/huge.gif");
-        button->setGuideInfo(std::move(huge));
-        button->show();
-        button->click();
-        QVERIFY(button->screen()->availableGeometry().contains(popup(*button)->geometry()));
-        QCOMPARE(movie(*button)->state(), QMovie::Running);
-    }
-
     void shorterTextMakesAnOpenPopupLower()
     {
         const auto button = makeButton();
@@ -651,16 +600,6 @@ private Q_SLOTS:
         QTRY_COMPARE(guide(*button)->geometry(), popup(*button)->contentFrame()->rect());
         QCOMPARE(popup(*button)->targetPoint(), middleOfLowerEdge(*button));
         QCOMPARE(popup(*button)->y(), middleOfLowerEdge(*button).y());
-    }
-
-    void popupHasAnAccessibleName()
-    {
-        const auto button = makeButton();
-        button->show();
-        button->click();
-        const QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(popup(*button));
-        QVERIFY(accessible);
-        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Trim"));
     }
 
     void linkIsPassedOn()
@@ -696,9 +635,7 @@ private Q_SLOTS:
     void reopenedByItsLink()
     {
         UrlHandler handler;
-        const auto button = makeButton();
-        button->show();
-        button->click();
+        const auto button = openGuide();
         connect(button.get(), &GuideButton::learnMoreClicked, button.get(), &QAbstractButton::click);
         const QPointer<PointingWidget> first = popup(*button);
         {

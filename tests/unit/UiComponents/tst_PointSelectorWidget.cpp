@@ -21,6 +21,16 @@ namespace {
 
 using Points = QVector<QPointF>;
 
+struct Step
+{
+    Step silent() const { return {verb, to, {}}; }
+
+    QString verb;
+    QPointF to;
+    Points reports;
+};
+using Story = QVector<Step>;
+
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double largest = std::numeric_limits<double>::max();
@@ -62,6 +72,7 @@ private:
 } // namespace
 
 Q_DECLARE_METATYPE(PointSelectorWidget::Initializer)
+Q_DECLARE_METATYPE(Story)
 
 class tst_PointSelectorWidget : public QObject
 {
@@ -160,78 +171,93 @@ private Q_SLOTS:
         QCOMPARE(other.plane->point(), QPointF(10, -20));
     }
 
-    void clickReportsThreeTimes()
+    // What is done, each with what is reported: for the plane, and for each coordinate that changes.
+    void story_data()
     {
-        Field field;
-        press(*field.plane, {30, 40});
-        QCOMPARE(field.reports(), Points({{30, 40}, {30, 0}, {30, 40}}));
-        QCOMPARE(field.numbers(), QPointF(30, 40));
-        QCOMPARE(field.plane->point(), QPointF(30, 40));
-        release(*field.plane, {30, 40});
-        QCOMPARE(field.reports(), Points{QPointF(30, 40)});
+        QTest::addColumn<PointSelectorWidget::Initializer>("range");
+        QTest::addColumn<Story>("story");
+        QTest::addColumn<QPointF>("plane");
+        QTest::addColumn<QPointF>("numbers");
+        const auto row = [](const char* name, const Story& story, const QPointF& at) {
+            QTest::newRow(name) << hundreds << story << at << at;
+        };
+        const Step there{"set", {30, 40}, {{30, 0}, {30, 40}}};
+        row("click", {{"press", {30, 40}, {{30, 40}, {30, 0}, {30, 40}}}, {"release", {30, 40}, {{30, 40}}}},
+            {30, 40});
+        row("clicks that change one coordinate",
+            {{"press", {30, 0}, {{30, 0}, {30, 0}}},
+             {"release", {30, 0}, {{30, 0}}},
+             {"press", {30, 40}, {{30, 40}, {30, 40}}},
+             {"release", {30, 40}, {{30, 40}}}},
+            {30, 40});
+        row("click on the present point",
+            {there, {"press", {30, 40}, {{30, 40}}}, {"release", {30, 40}, {{30, 40}}}}, {30, 40});
+        row("drag and release",
+            {{"press", {10, 10}, {{10, 10}, {10, 0}, {10, 10}}},
+             {"drag", {11, 10}, {{11, 10}, {11, 10}}},
+             {"drag", {11, 10}, {}},
+             {"release", {500, -500}, {{100, 0}, {100, 10}, {100, 0}}}},
+            {100, 0});
+        row("keys of the plane",
+            {there, {"right", {}, {{31, 40}, {31, 40}}}, {"down", {}, {{31, 50}, {31, 50}}}}, {31, 50});
+        row("values", {there, {"set", {30, 50}, {{30, 50}}}, {"set", {20, 50}, {{20, 50}}}}, {20, 50});
+        // To one decimal.
+        row("the present value", {{"set", {0, 0}, {}}, there, there.silent(), {"set", {30.01, 39.99}, {}}},
+            {30, 40});
+        row("rounded", {{"set", {12.34, 56.78}, {{12.3, 0}, {12.3, 56.8}}}}, {12.3, 56.8});
+        for (const double far : {101.0, infinite, largest}) {
+            row(qPrintable(QString::number(far)), {there, {"set", {-far, far}, {{0, 40}, {0, 100}}}},
+                {0, 100});
+        }
+        row("no numbers", {there, {"set", {noNumber, noNumber}, {}}}, {30, 40});
+        row("no x", {there, {"set", {noNumber, 50}, {{30, 50}}}}, {30, 50});
+        row("no y", {there, {"set", {50, noNumber}, {{50, 40}}}}, {50, 40});
+        // The spin boxes round and clamp; the plane keeps the point as it was picked.
+        QTest::newRow("outside of the plane")
+            << hundreds << Story{{"press", {-50, 200}, {{-50, 200}, {0, 100}}}} << QPointF(-50, 200)
+            << QPointF(0, 100);
+        QTest::newRow("between the decimals")
+            << PointSelectorWidget::Initializer{{0.0, 0.0}, {1.0, 1.0}, 1, 1}
+            << Story{{"press", {33, 77}, {{0.33, 0.77}, {0.3, 0.0}, {0.3, 0.8}}},
+                     {"release", {33, 77}, {{0.33, 0.77}}}}
+            << QPointF(0.33, 0.77) << QPointF(0.3, 0.8);
+        QTest::newRow("reversed range")
+            << PointSelectorWidget::Initializer{{100.0, 0.0}, {0.0, 100.0}, 1, 1}
+            << Story{{"press", {30, 40}, {{70, 40}, {100, 40}}}} << QPointF(70, 40) << QPointF(100, 40);
     }
 
-    void clickThatChangesOneCoordinate()
+    void story()
     {
-        Field field;
-        press(*field.plane, {30, 0});
-        QCOMPARE(field.reports(), Points({{30, 0}, {30, 0}}));
-        release(*field.plane, {30, 0});
-        field.reports();
-        press(*field.plane, {30, 40});
-        QCOMPARE(field.reports(), Points({{30, 40}, {30, 40}}));
-        release(*field.plane, {30, 40});
-    }
-
-    void clickOnThePresentPoint()
-    {
-        Field field;
-        field.setValue({30, 40});
-        field.reports();
-        press(*field.plane, {30, 40});
-        QCOMPARE(field.reports(), Points{QPointF(30, 40)});
-        release(*field.plane, {30, 40});
-        QCOMPARE(field.reports(), Points{QPointF(30, 40)});
-    }
-
-    void dragAndRelease()
-    {
-        Field field;
-        press(*field.plane, {10, 10});
-        field.reports();
-        drag(*field.plane, {11, 10});
-        QCOMPARE(field.reports(), Points({{11, 10}, {11, 10}}));
-        drag(*field.plane, {11, 10});
-        QCOMPARE(field.reports(), Points());
-        release(*field.plane, {500, -500});
-        QCOMPARE(field.reports(), Points({{100, 0}, {100, 10}, {100, 0}}));
-        QCOMPARE(field.numbers(), QPointF(100, 0));
-    }
-
-    void planeKey()
-    {
-        Field field;
-        field.setValue({30, 40});
-        field.reports();
-        QTest::keyClick(field.plane, Qt::Key_Right);
-        QCOMPARE(field.reports(), Points({{31, 40}, {31, 40}}));
-        QTest::keyClick(field.plane, Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(field.reports(), Points({{31, 50}, {31, 50}}));
-    }
-
-    // The spin boxes round; the plane keeps the point as it was picked.
-    void clickBetweenTheDecimals()
-    {
-        Field field({{0.0, 0.0}, {1.0, 1.0}, 1, 1});
-        press(*field.plane, {33, 77});
-        QCOMPARE(field.reports(), Points({{0.33, 0.77}, {0.3, 0.0}, {0.3, 0.8}}));
-        QCOMPARE(field.numbers(), QPointF(0.3, 0.8));
-        QCOMPARE(field.plane->point(), QPointF(0.33, 0.77));
-        release(*field.plane, {33, 77});
-        QCOMPARE(field.reports(), Points{QPointF(0.33, 0.77)});
-        QTest::keyClick(field.x, Qt::Key_Up);
-        QCOMPARE(field.reports(), Points{QPointF(0.4, 0.8)});
-        QCOMPARE(field.plane->point(), QPointF(0.4, 0.8));
+        QFETCH(PointSelectorWidget::Initializer, range);
+        QFETCH(Story, story);
+        Field field(range);
+        for (const Step& step : story) {
+            const QString verb = step.verb;
+            const QPoint pixel = verb == "set" ? QPoint() : step.to.toPoint();
+            if (verb == "set") {
+                field.setValue(step.to);
+            } else if (verb == "press") {
+                press(*field.plane, pixel);
+            } else if (verb == "drag") {
+                drag(*field.plane, pixel);
+            } else if (verb == "release") {
+                release(*field.plane, pixel);
+            } else {
+                QTest::keyClick(field.plane, verb == "right" ? Qt::Key_Right : Qt::Key_Down,
+                                verb == "right" ? Qt::NoModifier : Qt::ShiftModifier);
+            }
+            QCOMPARE(field.reports(), step.reports);
+        }
+        QTEST(field.plane->point(), "plane");
+        QTEST(field.numbers(), "numbers");
+        if (QWidget::mouseGrabber()) {
+            release(*field.plane, {50, 50});
+        }
+        // A spin box that changes brings the plane back to what is shown.
+        field.x->setValue(field.x->value() / 2);
+        if (field.x->minimum() < field.x->maximum()) {
+            QCOMPARE(field.plane->point(), field.numbers());
+        }
     }
 
     void clickOutsideTheSpinBoxesRange()
@@ -244,88 +270,6 @@ private Q_SLOTS:
         release(*field.plane, {80, 20});
         field.y->setValue(30);
         QCOMPARE(field.plane->point(), QPointF(50, 30));
-    }
-
-    void pressOutsideThePlane()
-    {
-        Field field;
-        press(*field.plane, {-50, 200});
-        QCOMPARE(field.reports(), Points({{-50, 200}, {0, 100}}));
-        QCOMPARE(field.plane->point(), QPointF(-50, 200));
-        release(*field.plane, {-50, 200});
-        QCOMPARE(field.reports(), Points{QPointF(0, 100)});
-    }
-
-    void setValueReportsEachCoordinate()
-    {
-        Field field;
-        field.setValue({30, 40});
-        QCOMPARE(field.reports(), Points({{30, 0}, {30, 40}}));
-        QCOMPARE(field.plane->point(), QPointF(30, 40));
-        QCOMPARE(field.numbers(), QPointF(30, 40));
-        field.setValue({30, 50});
-        QCOMPARE(field.reports(), Points{QPointF(30, 50)});
-        field.setValue({20, 50});
-        QCOMPARE(field.reports(), Points{QPointF(20, 50)});
-    }
-
-    void setValueOfThePresentValue()
-    {
-        Field field;
-        field.setValue({0, 0});
-        field.setValue({30, 40});
-        field.reports();
-        field.setValue({30, 40});
-        field.setValue({30.01, 39.99}); // the same to one decimal
-        QCOMPARE(field.reports(), Points());
-        QCOMPARE(field.plane->point(), QPointF(30, 40));
-    }
-
-    void setValueIsClamped_data()
-    {
-        QTest::addColumn<QPointF>("value");
-        QTest::newRow("outside") << QPointF(-1, 101);
-        QTest::newRow("infinite") << QPointF(-infinite, infinite);
-        QTest::newRow("largest") << QPointF(-largest, largest);
-    }
-
-    void setValueIsClamped()
-    {
-        QFETCH(QPointF, value);
-        Field field;
-        field.setValue({50, 50});
-        field.reports();
-        field.setValue(value);
-        QCOMPARE(field.reports(), Points({{0, 50}, {0, 100}}));
-        QCOMPARE(field.plane->point(), QPointF(0, 100));
-    }
-
-    void setValueIsRounded()
-    {
-        Field field;
-        field.setValue({12.34, 56.78});
-        QCOMPARE(field.reports(), Points({{12.3, 0}, {12.3, 56.8}}));
-        QCOMPARE(field.plane->point(), QPointF(12.3, 56.8));
-    }
-
-    void setValueIgnoresNaN_data()
-    {
-        QTest::addColumn<QPointF>("value");
-        QTest::addColumn<QPointF>("after");
-        QTest::newRow("both") << QPointF(noNumber, noNumber) << QPointF(30, 40);
-        QTest::newRow("x") << QPointF(noNumber, 50) << QPointF(30, 50);
-        QTest::newRow("y") << QPointF(50, noNumber) << QPointF(50, 40);
-    }
-
-    void setValueIgnoresNaN()
-    {
-        QFETCH(QPointF, value);
-        QFETCH(QPointF, after);
-        Field field;
-        field.setValue({30, 40});
-        field.setValue(value);
-        QCOMPARE(field.numbers(), after);
-        QCOMPARE(field.plane->point(), after);
     }
 
     void spinBoxChangesReachThePlane()
@@ -414,17 +358,6 @@ private Q_SLOTS:
         field.x->setValue(50);
         QCOMPARE(planes, Points{QPointF(30, 40)});
         QCOMPARE(field.plane->point(), QPointF(50, 40));
-    }
-
-    void reversedRange()
-    {
-        Field field({{100.0, 0.0}, {0.0, 100.0}, 1, 1});
-        QCOMPARE(field.x->minimum(), 100.0);
-        QCOMPARE(field.x->maximum(), 100.0);
-        press(*field.plane, {30, 40});
-        QCOMPARE(field.reports(), Points({{70, 40}, {100, 40}}));
-        QCOMPARE(field.plane->point(), QPointF(70, 40));
-        release(*field.plane, {30, 40});
     }
 
     void oddRanges_data()
