@@ -363,40 +363,6 @@ private Q_SLOTS:
         QCOMPARE(color.name(), QStringLiteral("#ffffff"));
     }
 
-    void pointOnNoScreenPicksNothing()
-    {
-        start();
-        Q_EMIT shownViews().first()->pickingFinished(QPoint(-5, 300), true);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        QVERIFY(!m_pipette->currentColor().isValid());
-    }
-
-    void escapeGivesUp()
-    {
-        start();
-        // Comes as a shortcut override and as a key press.
-        QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_Escape);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        QVERIFY(shownViews().isEmpty());
-    }
-
-    void keysGiveUp()
-    {
-        start();
-        QTest::keyPress(shownViews().first()->windowHandle(), Qt::Key_F5);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        QVERIFY(shownViews().isEmpty());
-    }
-
-    // As a window manager closes it, or QApplication::closeAllWindows().
-    void closedWindowGivesUp()
-    {
-        start();
-        shownViews().first()->close();
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        QVERIFY(nothingIsLeft());
-    }
-
     void otherInputDoesNothing()
     {
         start();
@@ -464,56 +430,51 @@ private Q_SLOTS:
         QCOMPARE(m_protocol.lines, QStringList{started});
     }
 
-    void otherApplicationEndsThePick()
+    void ends_data()
     {
-        start();
-        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-        QCOMPARE(m_protocol.lines, QStringList{started});
-        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationHidden);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        for (const Qt::ApplicationState state : {Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
-            m_protocol.lines.clear();
-            m_pipette->startPicking();
-            Q_EMIT qGuiApp->applicationStateChanged(state);
-            QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        }
-    }
-
-    void changedScreensEndThePick_data()
-    {
-        QTest::addColumn<std::function<void(Pipette*)>>("change");
-        using Change = std::function<void(Pipette*)>;
-        QTest::newRow("added") << Change(
-            [](Pipette*) { Q_EMIT qGuiApp->screenAdded(QGuiApplication::primaryScreen()); });
-        QTest::newRow("removed") << Change(
-            [](Pipette*) { Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); });
-        QTest::newRow("resized") << Change([](Pipette*) {
-            Q_EMIT QGuiApplication::primaryScreen()->geometryChanged(QRect(0, 0, 640, 480));
+        QTest::addColumn<Act>("act");
+        const auto row = [](const char* name, const Act& act) { QTest::newRow(name) << act; };
+        // Comes as a shortcut override and as a key press.
+        row("Escape", [](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key_Escape); });
+        row("key", [](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key_F5); });
+        // As a window manager closes it, or QApplication::closeAllWindows().
+        row("closed", [](PipetteScreenView* view) { view->close(); });
+        row("on no screen",
+            [](PipetteScreenView* view) { Q_EMIT view->pickingFinished(QPoint(-5, 300), true); });
+        row("application quits", [](PipetteScreenView*) {
+            QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+            QCOMPARE(QCoreApplication::exec(), 0);
         });
-        QTest::newRow("scaled") << Change(
-            [](Pipette*) { Q_EMIT QGuiApplication::primaryScreen()->logicalDotsPerInchChanged(192.0); });
+        for (const auto state : {Qt::ApplicationInactive, Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
+            row(qPrintable(QStringLiteral("another application, state %1").arg(state)),
+                [state](PipetteScreenView*) {
+                    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+                    QVERIFY(!shownViews().isEmpty());
+                    Q_EMIT qGuiApp->applicationStateChanged(state);
+                    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationHidden);
+                });
+        }
+        QScreen* const screen = QGuiApplication::primaryScreen();
+        row("screen added", [screen](PipetteScreenView*) { Q_EMIT qGuiApp->screenAdded(screen); });
+        row("screen removed", [screen](PipetteScreenView*) { Q_EMIT qGuiApp->screenRemoved(screen); });
+        row("screen resized",
+            [screen](PipetteScreenView*) { Q_EMIT screen->geometryChanged(QRect(0, 0, 640, 480)); });
+        row("screen scaled", [screen](PipetteScreenView*) {
+            Q_EMIT screen->logicalDotsPerInchChanged(192.0);
+            Q_EMIT screen->logicalDotsPerInchChanged(96.0);
+        });
     }
 
-    void changedScreensEndThePick()
+    // Without a colour.
+    void ends()
     {
-        QFETCH(std::function<void(Pipette*)>, change);
+        QFETCH(Act, act);
         start();
-        change(m_pipette.get());
+        act(shownViews().first());
         QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
+        QVERIFY(!m_pipette->currentColor().isValid());
         QVERIFY(shownViews().isEmpty());
-        change(m_pipette.get());
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-    }
-
-    void quittingEndsThePick()
-    {
-        start();
-        QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
-        QCOMPARE(QCoreApplication::exec(), 0);
-        QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
-        QVERIFY(shownViews().isEmpty());
+        QVERIFY(nothingIsLeft());
     }
 
     // An application that shows nothing else goes on after a pick.
@@ -711,39 +672,37 @@ private Q_SLOTS:
         QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
     }
 
-    void slotsOfSelectedMayEndThePick()
+    void slotsOfSelected_data()
     {
-        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(),
-                [this] { m_pipette->stopPicking(); });
-        start();
-        release(shownViews().first(), QPoint(600, 500));
-        QCOMPARE(m_protocol.lines, (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped}));
-        QVERIFY(shownViews().isEmpty());
+        using Slot = std::function<void(Pipette*)>;
+        QTest::addColumn<Slot>("slot");
+        QTest::addColumn<QStringList>("rest");
+        QTest::newRow("stop") << Slot([](Pipette* pipette) { pipette->stopPicking(); })
+                              << QStringList{stopped};
+        QTest::newRow("stop and start") << Slot([](Pipette* pipette) {
+            pipette->stopPicking();
+            pipette->startPicking();
+        }) << QStringList{stopped, started};
+        // Without an end in between, it is part of the pick that is about to end.
+        QTest::newRow("start") << Slot([](Pipette* pipette) { pipette->startPicking(); })
+                               << QStringList{started, stopped};
     }
 
-    void slotsOfSelectedMayRestart()
+    void slotsOfSelected()
     {
-        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [this] {
-            m_pipette->stopPicking();
-            m_pipette->startPicking();
-        });
+        QFETCH(std::function<void(Pipette*)>, slot);
+        QFETCH(QStringList, rest);
+        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(), [&] { slot(m_pipette.get()); });
+        // A listener after the one that restarts is given the colour all the same.
+        QColor heard;
+        connect(m_pipette.get(), &Pipette::colorSelected, this,
+                [&heard](const QColor& color) { heard = color; });
         start();
         release(shownViews().first(), QPoint(600, 500));
-        QCOMPARE(m_protocol.lines,
-                 (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), stopped, started}));
-        QCOMPARE(shownViews().size(), 1);
-    }
-
-    // Without an end in between, it is part of the pick that is about to end.
-    void slotsOfSelectedMayStartASecond()
-    {
-        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(),
-                [this] { m_pipette->startPicking(); });
-        start();
-        release(shownViews().first(), QPoint(600, 500));
-        QCOMPARE(m_protocol.lines,
-                 (QStringList{started, PixelWindow::pickedAt({600, 500}).name(), started, stopped}));
-        QVERIFY(shownViews().isEmpty());
+        const QColor expected = PixelWindow::pickedAt({600, 500});
+        QCOMPARE(m_protocol.lines, (QStringList{started, expected.name()} + rest));
+        QCOMPARE(heard, expected);
+        QCOMPARE(shownViews().size(), rest.last() == started ? 1 : 0);
     }
 
     void slotsOfStoppedMayRestart()
@@ -762,19 +721,6 @@ private Q_SLOTS:
         m_pipette->stopPicking();
         QVERIFY(shownViews().isEmpty());
         QCOMPARE(m_protocol.lines, (QStringList{started, stopped, started, stopped, started, stopped}));
-    }
-
-    // A listener after the one that restarts is given the colour all the same.
-    void colorOfARestartedPickIsReported()
-    {
-        connect(m_pipette.get(), &Pipette::colorSelected, m_pipette.get(),
-                [this] { m_pipette->startPicking(); });
-        QColor heard;
-        connect(m_pipette.get(), &Pipette::colorSelected, this,
-                [&heard](const QColor& color) { heard = color; });
-        start();
-        release(shownViews().first(), QPoint(600, 500));
-        QCOMPARE(heard, PixelWindow::pickedAt({600, 500}));
     }
 
     void pipetteMayDieInItsSlots_data()
@@ -868,18 +814,6 @@ private Q_SLOTS:
         QVERIFY(shownViews().isEmpty());
         QVERIFY(nothingIsLeft());
         QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-    }
-
-    void windowOfThePipetteMayDie()
-    {
-        auto* window = new QWidget;
-        auto* pipette = new Pipette(window);
-        m_protocol.watch(pipette);
-        pipette->startPicking();
-        m_protocol.lines.clear();
-        delete window;
-        QCOMPARE(m_protocol.lines, QStringList());
-        QVERIFY(nothingIsLeft());
     }
 
     // Real handlers of Qt's run on after the pipette has deleted the view that they work for.
