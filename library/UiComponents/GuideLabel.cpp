@@ -1,5 +1,6 @@
 #include "GuideLabel.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
@@ -7,8 +8,6 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QVector>
-
-#include <utility>
 
 namespace {
 
@@ -28,33 +27,54 @@ QSizeF sizeOf(const QTextImageFormat& format, QTextDocument* document)
     return size;
 }
 
-void shrinkPictures(QTextDocument* document, int most)
+/// Calls @p change with the format of each part of the text, which gets it where that returns true.
+template <typename Change>
+void reformat(QTextDocument* document, Change change)
 {
-    QVector<std::pair<int, QTextImageFormat>> shrunk; // by position, since a change invalidates the iterators
+    struct Part
+    {
+        int from;
+        int length;
+        QTextCharFormat format;
+    };
+    QVector<Part> changed; // by position, since a change invalidates the iterators
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
-            QTextImageFormat format = it.fragment().charFormat().toImageFormat();
-            const QSizeF size = format.isValid() ? sizeOf(format, document) : QSizeF();
-            if (size.width() > most || size.height() > most) {
-                const QSizeF smaller = size.scaled(most, most, Qt::KeepAspectRatio).expandedTo(QSizeF(1, 1));
-                format.setWidth(smaller.width());
-                format.setHeight(smaller.height());
-                shrunk.append({it.fragment().position(), format});
+            QTextCharFormat format = it.fragment().charFormat();
+            if (change(&format)) {
+                changed.append({it.fragment().position(), it.fragment().length(), format});
             }
         }
     }
-    for (const auto& [position, format] : qAsConst(shrunk)) {
+    for (const Part& part : qAsConst(changed)) {
         QTextCursor cursor(document);
-        cursor.setPosition(position);
-        cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(format);
+        cursor.setPosition(part.from);
+        cursor.setPosition(part.from + part.length, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(part.format);
     }
+}
+
+void shrinkPictures(QTextDocument* document, int most)
+{
+    reformat(document, [document, most](QTextCharFormat* format) {
+        QTextImageFormat picture = format->toImageFormat();
+        const QSizeF size = picture.isValid() ? sizeOf(picture, document) : QSizeF();
+        if (size.width() <= most && size.height() <= most) {
+            return false;
+        }
+        const QSizeF smaller = size.scaled(most, most, Qt::KeepAspectRatio).expandedTo(QSizeF(1, 1));
+        picture.setWidth(smaller.width());
+        picture.setHeight(smaller.height());
+        *format = picture;
+        return true;
+    });
 }
 
 } // namespace
 
 GuideLabel::GuideLabel(QWidget* parent)
     : QLabel(parent)
+    , m_linkColor(QGuiApplication::palette().color(QPalette::Link))
 {
     setWordWrap(true);
 }
@@ -98,6 +118,7 @@ void GuideLabel::resizeEvent(QResizeEvent* event)
 void GuideLabel::paintEvent(QPaintEvent* event)
 {
     if (!breaksWords() || document()) {
+        colorLinks();
         QLabel::paintEvent(event);
         return;
     }
@@ -126,6 +147,30 @@ bool GuideLabel::breaksWords() const
         }
     }
     return true;
+}
+
+/// Gives links the colour of the label where a sheet or the host has given it one: that of the application's
+/// palette, which Qt takes for them, may not be legible there. Markup of their own stays.
+void GuideLabel::colorLinks()
+{
+    QTextDocument* const rich = document();
+    if (!rich) {
+        return;
+    }
+    QPalette plain = QApplication::palette(this);
+    plain.setCurrentColorGroup(palette().currentColorGroup());
+    const QColor qtsColor = QGuiApplication::palette().color(QPalette::Link);
+    const QColor ownColor = palette().color(foregroundRole());
+    const QColor wanted = ownColor == plain.color(foregroundRole()) ? qtsColor : ownColor;
+    reformat(rich, [&](QTextCharFormat* format) {
+        const QColor present = format->foreground().color();
+        if (!format->isAnchor() || present == wanted || (present != qtsColor && present != m_linkColor)) {
+            return false;
+        }
+        format->setForeground(wanted);
+        return true;
+    });
+    m_linkColor = wanted;
 }
 
 /// Null for plain text.

@@ -2,13 +2,14 @@
 
 #pragma once
 
+#include <QColor>
 #include <QLabel>
 
 class QTextDocument;
 
 /**
  * A label that wraps its text between words. Where a word or a picture would make it wider than half of its
- * screen, it breaks words anywhere and shrinks pictures.
+ * screen, it breaks words anywhere and shrinks pictures. Links have its colour, where a sheet gives it one.
  */
 // Without Q_OBJECT, since style sheets know it as a QLabel.
 class GuideLabel : public QLabel // clazy:exclude=missing-qobject-macro
@@ -29,6 +30,10 @@ protected:
 
 private:
     bool breaksWords() const;
+    void colorLinks();
     QTextDocument* document() const;
     QRect textRect() const;
+
+    // What links that Qt has coloured have now.
+    QColor m_linkColor;
 };

@@ -188,9 +188,13 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    painter.fillRect(rect(), d->background);
-    painter.setPen(QPen(QBrush(d->style->coordLinesColor(), Qt::SolidPattern), d->style->coordLinesWidth(),
-                        Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    // What no sheet colours is the palette's.
+    const auto colorOr = [this](const QColor& color, QPalette::ColorRole role) {
+        return color.isValid() ? color : palette().color(role);
+    };
+    painter.fillRect(rect(), colorOr(d->background, QPalette::Base));
+    painter.setPen(QPen(QBrush(colorOr(d->style->coordLinesColor(), QPalette::Text), Qt::SolidPattern),
+                        d->style->coordLinesWidth(), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     d->paintAxes(painter);
     if (PointMapping::isInside(d->pixelPosition, rect()) && d->style->markerColor().isValid()) {
         d->paintMarker(painter);
@@ -201,8 +205,7 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
 void PointSelectionPlane::resizeEvent(QResizeEvent* event)
 {
     d->updateScale();
-    const QColor fill = d->style->fillColor();
-    d->background = fill.isValid() ? fill : Qt::black;
+    d->background = d->style->fillColor();
     OvFrame::resizeEvent(event);
 }
 

@@ -21,11 +21,11 @@ class PointSelectionPlanePropertyHelper : public PropertyProviderBase
     Q_PROPERTY(double MarkerRadius READ markerRadius WRITE setMarkerRadius)
     /// The fill of the marker. Invalid, the default, hides the marker.
     Q_PROPERTY(QColor MarkerColor READ markerColor WRITE setMarkerColor)
-    /// The background; invalid by default, which is painted black.
+    /// The background; invalid by default, which is the Base of the plane's palette.
     Q_PROPERTY(QColor FillColor READ fillColor WRITE setFillColor)
     /// The width of axes and marker outline, in pixels; 0 by default, a cosmetic pen.
     Q_PROPERTY(int CoordLinesWidth READ coordLinesWidth WRITE setCoordLinesWidth)
-    /// The colour of axes and marker outline; invalid by default, which is painted black.
+    /// The colour of axes and marker outline; invalid by default, which is the Text of the plane's palette.
     Q_PROPERTY(QColor CoordLinesColor READ coordLinesColor WRITE setCoordLinesColor)
 
 public:

@@ -55,7 +55,7 @@ void TesselLineEdit::dimPlaceholder()
         QBrush brush = dimmed.brush(group, QPalette::Text);
         if (dimmed.brush(group, QPalette::PlaceholderText) == brush) {
             QColor color = brush.color();
-            color.setAlpha((color.alpha() + 1) / 2);
+            color.setAlpha(color.alpha() * 3 / 4);
             brush.setColor(color);
             dimmed.setBrush(group, QPalette::PlaceholderText, brush);
         }

@@ -21,9 +21,9 @@ namespace Orvane::Tessel {
  * It opens at the mouse, or at the text cursor for the keyboard. It runs no event loop of its own; deleting
  * the edit closes it. A context menu policy other than the default works as in QWidget.
  *
- * Where a sheet colours the text, Qt gives the placeholder text the same colour; here it has half of its
- * opacity, as without a sheet. A colour set for QPalette::PlaceholderText alone, after the sheet, stays until
- * the sheet is applied again.
+ * Where a sheet colours the text, Qt gives the placeholder text the same colour; here it has three quarters
+ * of its opacity: less than a text, and still legible. A colour set for QPalette::PlaceholderText alone,
+ * after the sheet, stays until the sheet is applied again.
  */
 class DESIGNELEMENTS_EXPORT TesselLineEdit : public QLineEdit
 {

@@ -275,6 +275,48 @@ private Q_SLOTS:
         QVERIFY(!picture(*guide)->isVisible());
     }
 
+    void linksHaveTheColorOfTheirLabel_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QColor>("color");
+        const QString plain = QStringLiteral("<a href=\"x:y\">More</a>");
+        const QString sheet = QStringLiteral("QLabel { color: #ff8000; }");
+        QTest::newRow("without a sheet")
+            << QString() << plain << QApplication::palette().color(QPalette::Link);
+        QTest::newRow("of a sheet") << sheet << plain << QColor(0xff, 0x80, 0x00);
+        QTest::newRow("of its own") << sheet
+                                    << QStringLiteral("<a href=\"x:y\" style=\"color: #00ff00\">More</a>")
+                                    << QColor(Qt::green);
+    }
+
+    // Qt takes that of the application's palette, and dark blue is not read on a dark surface.
+    void linksHaveTheColorOfTheirLabel()
+    {
+        QFETCH(QString, sheet);
+        QFETCH(QString, text);
+        QFETCH(QColor, color);
+        GuideWidget guide(GuideInfo(QString(), QString(), text, QString()), nullptr);
+        const auto shows = [&guide](const QColor& wanted) {
+            const QImage picture = guide.grab().toImage();
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    if (picture.pixelColor(x, y) == wanted) {
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        guide.show();
+        guide.setStyleSheet(sheet);
+        QVERIFY(shows(color));
+        guide.setStyleSheet(QStringLiteral("QLabel { color: #ff00ff; }"));
+        QCOMPARE(shows(Qt::magenta), color != QColor(Qt::green));
+        guide.setStyleSheet(sheet);
+        QVERIFY(shows(color));
+    }
+
     void minimumHeightsAreForTheWidth()
     {
         QWidget parent;

@@ -500,13 +500,28 @@ private Q_SLOTS:
         QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
     }
 
-    void invalidColorsAreBlack()
+    void invalidColorsAreThePalettes_data()
     {
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("text");
+        QTest::newRow("black on white") << QColor(Qt::white) << QColor(Qt::black);
+        QTest::newRow("white on black") << QColor(Qt::black) << QColor(Qt::white);
+    }
+
+    void invalidColorsAreThePalettes()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, text);
         PointSelectionPlane plane(nullptr);
-        plane.resize(20, 20);
-        QImage black(20, 20, QImage::Format_RGB32);
-        black.fill(Qt::black);
-        QCOMPARE(pictureOf(plane), black);
+        plane.resize(21, 21);
+        QPalette palette;
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Text, text);
+        plane.setPalette(palette);
+        const QImage shown = pictureOf(plane);
+        QCOMPARE(shown.pixelColor(3, 3), base);
+        QCOMPARE(shown.pixelColor(10, 3), text);
+        QCOMPARE(shown.pixelColor(3, 10), text);
     }
 
     void oddStyles_data()

@@ -333,7 +333,7 @@ private Q_SLOTS:
         QCOMPARE(edit.palette().color(QPalette::PlaceholderText), QColor(Qt::red));
     }
 
-    void placeholderIsHalfOfTheTextUnderASheet()
+    void placeholderIsLessThanTheTextUnderASheet()
     {
         TesselLineEdit edit;
         edit.setStyleSheet(QStringLiteral("QLineEdit { color: #204060; }"
@@ -342,9 +342,9 @@ private Q_SLOTS:
         const auto placeholder = [&edit](QPalette::ColorGroup group) {
             return edit.palette().color(group, QPalette::PlaceholderText);
         };
-        QCOMPARE(placeholder(QPalette::Active), QColor(0x20, 0x40, 0x60, 128));
-        QCOMPARE(placeholder(QPalette::Inactive), QColor(0x20, 0x40, 0x60, 128));
-        QCOMPARE(placeholder(QPalette::Disabled), QColor(10, 20, 30, 50));
+        QCOMPARE(placeholder(QPalette::Active), QColor(0x20, 0x40, 0x60, 191));
+        QCOMPARE(placeholder(QPalette::Inactive), QColor(0x20, 0x40, 0x60, 191));
+        QCOMPARE(placeholder(QPalette::Disabled), QColor(10, 20, 30, 75));
         QCOMPARE(edit.palette().color(QPalette::Text), QColor(0x20, 0x40, 0x60));
     }
 
@@ -355,12 +355,12 @@ private Q_SLOTS:
         edit.show();
         for (const QColor& color : {QColor(Qt::red), QColor(Qt::blue), QColor(Qt::red)}) {
             edit.setStyleSheet(QStringLiteral("QLineEdit { color: %1; }").arg(color.name()));
-            QColor half = color;
-            half.setAlpha(128);
-            QCOMPARE(edit.palette().color(QPalette::PlaceholderText), half);
+            QColor dimmed = color;
+            dimmed.setAlpha(191);
+            QCOMPARE(edit.palette().color(QPalette::PlaceholderText), dimmed);
             edit.style()->unpolish(&edit);
             edit.style()->polish(&edit);
-            QCOMPARE(edit.palette().color(QPalette::PlaceholderText), half);
+            QCOMPARE(edit.palette().color(QPalette::PlaceholderText), dimmed);
         }
         edit.setStyleSheet(QString());
         QCOMPARE(edit.palette().color(QPalette::PlaceholderText), before.color(QPalette::PlaceholderText));
