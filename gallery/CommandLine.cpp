@@ -20,7 +20,8 @@ struct Options
                                   QStringLiteral("ID")};
     const QCommandLineOption style{
         QStringLiteral("style"),
-        QStringLiteral("dark, light, none, or a style sheet FILE that reloads when it is saved."),
+        QStringLiteral(
+            "dark, light, high-contrast, none, or a style sheet FILE that reloads when it is saved."),
         QStringLiteral("STYLE"), QStringLiteral("dark")};
     const QCommandLineOption language{QStringLiteral("language"), QStringLiteral("en, de or ja."),
                                       QStringLiteral("CODE"), QStringLiteral("en")};
@@ -53,7 +54,8 @@ QString valueError(const CommandLine& line, const QString& direction)
         return QStringLiteral("There is no page \"%1\". --list prints all.").arg(line.page);
     }
     if (!StyleController::builtInStyles().contains(line.style) && !QFileInfo(line.style).isFile()) {
-        return QStringLiteral("The style \"%1\" is neither dark, light, none nor a file.").arg(line.style);
+        return QStringLiteral("The style \"%1\" is neither dark, light, high-contrast, none nor a file.")
+            .arg(line.style);
     }
     if (!LanguageController::languages().contains(line.language)) {
         return QStringLiteral("There is no language \"%1\", only %2.")

@@ -145,14 +145,6 @@ void Page::showEvent(QShowEvent* event)
     }
 }
 
-void Page::changeEvent(QEvent* event)
-{
-    QFrame::changeEvent(event);
-    if (event->type() == QEvent::StyleChange) {
-        Q_EMIT styleChanged();
-    }
-}
-
 void Page::fitSpecimens()
 {
     if (m_isSplitByUser) {

@@ -134,13 +134,11 @@ public:
 
 Q_SIGNALS:
     void shown();
-    void styleChanged();
     void pictureRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void fitSpecimens();

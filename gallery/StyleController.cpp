@@ -93,7 +93,8 @@ StyleController::~StyleController() = default;
 
 QStringList StyleController::builtInStyles()
 {
-    return {QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("none")};
+    return {QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("high-contrast"),
+            QStringLiteral("none")};
 }
 
 bool StyleController::setStyle(const QString& style)

@@ -5,7 +5,7 @@
 #include <QTimer>
 
 /**
- * The style sheet of the application: one of the two reference sheets, none, or a file that it reads again
+ * The style sheet of the application: one of the reference sheets, none, or a file that it reads again
  * whenever the file is saved.
  */
 class StyleController : public QObject
@@ -16,7 +16,7 @@ public:
     explicit StyleController(QObject* parent = nullptr);
     ~StyleController() override;
 
-    /// "dark", "light" and "none".
+    /// "dark", "light", "high-contrast" and "none".
     static QStringList builtInStyles();
 
     /// A built-in style, or the absolute path of a file. Empty until setStyle() succeeded once.

@@ -112,7 +112,7 @@ void SwitchBar::retranslate()
     m_scales->setAccessibleName(m_scaleLabel->text());
     m_scales->setToolTip(tr("Restarts the gallery on the same page"));
 
-    const QStringList styleTexts = {tr("Dark"), tr("Light"), tr("None"), tr("File…")};
+    const QStringList styleTexts = {tr("Dark"), tr("Light"), tr("High contrast"), tr("None"), tr("File…")};
     for (int id = 0; id < styleTexts.size(); ++id) {
         m_styles->button(id)->setText(styleTexts.at(id));
     }

@@ -1112,8 +1112,8 @@
         <translation>Mehr über das Trimmen</translation>
     </message>
     <message>
-        <source>Texts are measured for the width that the sheet gives the guide. Links have the colour of the application&apos;s palette, unless their markup says another.</source>
-        <translation>Die Texte richten sich nach der Breite, die das Stylesheet der Hilfe gibt. Links haben die Farbe aus der Palette der Anwendung, wenn ihre Auszeichnung keine andere nennt.</translation>
+        <source>Texts are measured for the width that the sheet gives the guide. Links have the colour of their label, unless their markup says another.</source>
+        <translation>Die Texte richten sich nach der Breite, die das Stylesheet der Hilfe gibt. Links haben die Farbe ihres Textfelds, wenn ihre Auszeichnung keine andere nennt.</translation>
     </message>
     <message>
         <source>With an animated picture</source>
@@ -1172,8 +1172,8 @@
         <translation>Einen anderen Stil ausprobieren</translation>
     </message>
     <message>
-        <source>Dark, light, none at all, or a sheet of your own that reloads when you save it.</source>
-        <translation>Dunkel, hell, gar keiner oder ein eigenes Stylesheet, das beim Speichern neu geladen wird.</translation>
+        <source>Dark, light, high contrast, none at all, or a sheet of your own that reloads when you save it.</source>
+        <translation>Dunkel, hell, mit hohem Kontrast, gar keiner oder ein eigenes Stylesheet, das beim Speichern neu geladen wird.</translation>
     </message>
     <message>
         <source>Change it while it runs</source>
@@ -2201,6 +2201,10 @@
     <message>
         <source>Light</source>
         <translation>Hell</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
     </message>
     <message>
         <source>None</source>

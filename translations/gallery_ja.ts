@@ -1112,8 +1112,8 @@
         <translation>トリムについて詳しく</translation>
     </message>
     <message>
-        <source>Texts are measured for the width that the sheet gives the guide. Links have the colour of the application&apos;s palette, unless their markup says another.</source>
-        <translation>文字列はスタイルシートがガイドに与える幅に合わせて配置されます。リンクは、マークアップに指定がなければアプリケーションのパレットの色になります。</translation>
+        <source>Texts are measured for the width that the sheet gives the guide. Links have the colour of their label, unless their markup says another.</source>
+        <translation>文字列はスタイルシートがガイドに与える幅に合わせて配置されます。リンクは、マークアップに指定がなければラベルの色になります。</translation>
     </message>
     <message>
         <source>With an animated picture</source>
@@ -1172,8 +1172,8 @@
         <translation>別のスタイルを試す</translation>
     </message>
     <message>
-        <source>Dark, light, none at all, or a sheet of your own that reloads when you save it.</source>
-        <translation>暗色、明色、なし、または保存すると再読み込みされる独自のスタイルシート。</translation>
+        <source>Dark, light, high contrast, none at all, or a sheet of your own that reloads when you save it.</source>
+        <translation>暗色、明色、高コントラスト、なし、または保存すると再読み込みされる独自のスタイルシート。</translation>
     </message>
     <message>
         <source>Change it while it runs</source>
@@ -2201,6 +2201,10 @@
     <message>
         <source>Light</source>
         <translation>明色</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>高コントラスト</translation>
     </message>
     <message>
         <source>None</source>

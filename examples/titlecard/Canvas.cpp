@@ -74,6 +74,10 @@ void Canvas::paintEvent(QPaintEvent*)
     for (const int id : m_selection) {
         painter.drawPolygon(m_document->frame(id, size()));
     }
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 4));
+        painter.drawRect(rect());
+    }
 }
 
 } // namespace TitleCard

@@ -28,35 +28,31 @@ QString moviePath(int movie)
     return QLatin1String(paths[movie]);
 }
 
-/// A link to further reading, as markup. Qt takes the colour of links from the palette of the application,
-/// which no style sheet reaches: this one has a colour for the background of @p surface.
-QString link(const QString& text, const QWidget* surface)
+/// A link to further reading, as markup.
+QString link(const QString& text)
 {
-    constexpr int MiddleLightness = 128;
-    const bool isDark = surface->palette().color(QPalette::Window).lightness() < MiddleLightness;
-    return QStringLiteral("<a href=\"https://doc.qt.io/qt-5/\" style=\"color: %1\">%2</a>")
-        .arg(isDark ? QStringLiteral("#6ea8f7") : QStringLiteral("#1f66c7"), text.toHtmlEscaped());
+    return QStringLiteral("<a href=\"https://doc.qt.io/qt-5/\">%1</a>").arg(text.toHtmlEscaped());
 }
 
-GuideInfo rippleDelete(const QWidget* surface)
+GuideInfo rippleDelete()
 {
     return {PageRegistry::tr("Ripple delete"),
             PageRegistry::tr("Deletes the selected clip and closes the gap: everything behind it moves up, "
                              "on <b>all</b> tracks, so that sound and picture stay together."),
-            link(PageRegistry::tr("More about editing"), surface), moviePath(1)};
+            link(PageRegistry::tr("More about editing")), moviePath(1)};
 }
 
-GuideInfo trim(const QWidget* surface)
+GuideInfo trim()
 {
     return {PageRegistry::tr("Trim"),
             PageRegistry::tr("Drag the end of a clip to show less or more of it. Nothing is lost."),
-            link(PageRegistry::tr("More about trimming"), surface), moviePath(2)};
+            link(PageRegistry::tr("More about trimming")), moviePath(2)};
 }
 
 void setGuideInfo(GuideButton* button, int choice)
 {
     const auto info = choice == 0 ? &trim : &rippleDelete;
-    button->setGuideInfo(choice == 2 ? nullptr : std::make_unique<GuideInfo>(info(button->parentWidget())));
+    button->setGuideInfo(choice == 2 ? nullptr : std::make_unique<GuideInfo>(info()));
 }
 
 /// Adds a text control for each of @p fields of @p info, which calls @p apply.
@@ -93,7 +89,7 @@ void PageRegistry::guide(Page* page)
     const auto columns = page->addTwins<QWidget>(QString(), [](QWidget* column) {
         auto* guide = new GuideWidget(GuideInfo(), column);
         guide->setFixedWidth(Width);
-        guide->setInfo(rippleDelete(column->parentWidget()));
+        guide->setInfo(rippleDelete());
         auto* layout = new QVBoxLayout(column);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(guide);
@@ -102,11 +98,11 @@ void PageRegistry::guide(Page* page)
     const auto guides = columns.children<GuideWidget>();
 
     PropertyPanel* const panel = page->properties();
-    const auto info = std::make_shared<GuideInfo>(rippleDelete(page));
+    const auto info = std::make_shared<GuideInfo>(rippleDelete());
     info->learnMore = tr("More about editing");
-    const auto apply = [page, guides, info] {
+    const auto apply = [guides, info] {
         GuideInfo shown = *info;
-        shown.learnMore = info->learnMore.isEmpty() ? QString() : link(info->learnMore, page);
+        shown.learnMore = info->learnMore.isEmpty() ? QString() : link(info->learnMore);
         guides.setter (&GuideWidget::setInfo)(shown);
     };
     panel->addHeading(QStringLiteral("setInfo()"));
@@ -116,11 +112,10 @@ void PageRegistry::guide(Page* page)
                          {"learnMore", &GuideInfo::learnMore}});
     addMovie(panel, info, apply, 1);
     panel->addSwitch(tr("Visible"), true, guides.setter(&QWidget::setVisible));
-    QObject::connect(page, &Page::styleChanged, page, apply);
     page->signalLog()->watch(guides.enabled, "guide");
     page->describeStyling(guides.enabled,
                           tr("Texts are measured for the width that the sheet gives the guide. Links have "
-                             "the colour of the application's palette, unless their markup says another."));
+                             "the colour of their label, unless their markup says another."));
 }
 
 void PageRegistry::guideButton(Page* page)
@@ -175,7 +170,8 @@ void PageRegistry::dialogGuide(Page* page)
                     {{QStringLiteral("pageSearch"), tr("Find a component"),
                       tr("Type a few letters of a class, a title or a keyword."), moviePath(3)},
                      {QStringLiteral("styleSwitch"), tr("Try another style"),
-                      tr("Dark, light, none at all, or a sheet of your own that reloads when you save it."),
+                      tr("Dark, light, high contrast, none at all, or a sheet of your own that reloads when "
+                         "you save it."),
                       QString()},
                      {QStringLiteral("propertyPanel"), tr("Change it while it runs"),
                       tr("The controls act on the enabled twin and the disabled one at once."), QString()},

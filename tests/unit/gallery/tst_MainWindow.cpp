@@ -9,6 +9,7 @@
 #include <gallery/Page.h>
 #include <gallery/PageList.h>
 #include <gallery/PageRegistry.h>
+#include <gallery/StyleController.h>
 #include <gallery/ValueText.h>
 #include <memory>
 
@@ -223,9 +224,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("style");
         QTest::addColumn<QString>("language");
-        for (const char* style : {"dark", "light", "none"}) {
+        for (const QString& style : StyleController::builtInStyles()) {
             for (const char* language : {"en", "de", "ja"}) {
-                QTest::addRow("%s, %s", style, language) << style << language;
+                QTest::addRow("%s, %s", qPrintable(style), language) << style << language;
             }
         }
     }

@@ -12,6 +12,7 @@
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/GuideButton.h>
 #include <UiComponents/GuideWidget.h>
 #include <UiComponents/LoupeWidget.h>
 #include <UiComponents/PathSelectionWidget.h>
@@ -40,7 +41,8 @@ using Maker = std::function<QWidget*(QWidget*)>;
 
 const QStringList& styles()
 {
-    static const QStringList names = {QStringLiteral("dark"), QStringLiteral("light")};
+    static const QStringList names = {QStringLiteral("dark"), QStringLiteral("light"),
+                                      QStringLiteral("high-contrast")};
     return names;
 }
 
@@ -354,6 +356,7 @@ QMainWindow* makeEverything()
                                      make<OvPixmapWidget>(body),
                                      makeLoupe(body),
                                      makeBubble(body),
+                                     make<GuideButton>(body),
                                      new GuideWidget(guideInfo(), body),
                                      makeDialogGuide(body)};
     for (QWidget* widget : plain) {
@@ -379,7 +382,7 @@ class Stage
 public:
     explicit Stage(const std::function<QWidget*(QWidget*)>& maker)
     {
-        m_window.resize(240, 80);
+        m_window.resize(300, 80);
         m_widget = maker(&m_window);
         m_widget->ensurePolished();
         m_widget->resize(m_widget->sizeHint().expandedTo(QSize(60, 24)));
@@ -512,12 +515,15 @@ private Q_SLOTS:
     {
         // And in the icons, which are as strong as text.
         const QRegularExpression color(QStringLiteral("#[0-9a-f]{6}\\b"));
-        QString dark = textOf(QStringLiteral(":/styles/dark.qss"));
-        QString light = textOf(QStringLiteral(":/styles/light.qss"));
-        QVERIFY(dark != light);
-        dark.replace(QStringLiteral("style: dark"), QStringLiteral("style: light"));
-        dark.replace(QStringLiteral("-dark.png"), QStringLiteral("-light.png"));
-        QCOMPARE(dark.remove(color), light.remove(color));
+        const auto withoutColours = [&color](const QString& style) {
+            QString text = textOf(QStringLiteral(":/styles/%1.qss").arg(style));
+            text.replace(QStringLiteral("style: ") + style, QStringLiteral("style: any"));
+            text.replace(QStringLiteral("-%1.png").arg(style), QStringLiteral("-any.png"));
+            return text.remove(color);
+        };
+        for (const QString& style : styles()) {
+            QCOMPARE(withoutColours(style), withoutColours(styles().first()));
+        }
     }
 
     void picturesExistAtBothScales()
@@ -613,9 +619,9 @@ private Q_SLOTS:
     // Tinted greys would colour the user's judgement of a picture.
     void palettesAreNeutral()
     {
-        const QStringList tinted = {QStringLiteral("accent"), QStringLiteral("focus"),
+        const QStringList tinted = {QStringLiteral("accent"),    QStringLiteral("focus"),
                                     QStringLiteral("selection"), QStringLiteral("error"),
-                                    QStringLiteral("swatch")};
+                                    QStringLiteral("swatch"),    QStringLiteral("link")};
         for (const QString& style : styles()) {
             const QHash<QString, QColor> colors = paletteOf(style);
             for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
@@ -673,17 +679,24 @@ private Q_SLOTS:
             {"border", "field", 3},
             {"selection", "field", 3},
             {"selection", "alternate", 3},
+            {"selection", "popup", 3},
+            {"accent", "card", 3},
+            {"accent", "popup", 3},
+            {"link", "popup", 4.5},
+            {"link", "window", 4.5},
+            {"scrollHandle", "window", 3},
+            {"scrollHandle", "field", 3},
             {"focus", "window", 3},
             {"focus", "card", 3},
             {"focus", "field", 3},
             {"focus", "popup", 3},
-            {"faceOutlineHover", "card", 3},
-            {"faceOutlineHover", "popup", 3},
+            {"borderHover", "card", 3},
+            {"borderHover", "popup", 3},
             {"errorBorder", "window", 3},
             {"errorBorder", "field", 3},
-            {"focusOnAccent", "accent", 2},
+            {"focusOnAccent", "accent", 3},
             {"swatchNone", "swatchEmpty", 3},
-            {"accentText", "accentHover", 4},
+            {"accentText", "accentHover", 4.5},
             {"textDisabled", "window", 2},
             {"textDisabled", "fieldDisabled", 2},
             {"textDisabled", "buttonDisabled", 2},
@@ -725,10 +738,9 @@ private Q_SLOTS:
             {"ColorBlendingComboBox", make<ColorBlendingComboBox>}};
 
         for (const QString& style : styles()) {
-            const char* const sheet = style == styles().first() ? "dark" : "light";
-            const auto row = [&style, sheet](const char* widget, const char* hook, const Maker& maker,
-                                             const Change& change) {
-                QTest::addRow("%s: %s %s", sheet, widget, hook) << style << maker << change;
+            const auto row = [&style](const char* widget, const char* hook, const Maker& maker,
+                                      const Change& change) {
+                QTest::addRow("%s: %s %s", qPrintable(style), widget, hook) << style << maker << change;
             };
             for (const auto& button : buttons) {
                 for (const char* name :
@@ -858,14 +870,15 @@ private Q_SLOTS:
         QStringList others;
         for (QWidget* control : controls) {
             control->ensurePolished();
-            if (control->sizeHint().height() != 24) {
+            const QSize size = QWidgetItem(control).sizeHint();
+            if (size.height() != 24) {
                 others += QStringLiteral("%1: %2")
                               .arg(QString::fromLatin1(control->metaObject()->className()))
-                              .arg(control->sizeHint().height());
+                              .arg(size.height());
             }
         }
         QApplication::setFont(before);
-        QCOMPARE(others, QStringList());
+        QVERIFY2(others.isEmpty(), qPrintable(others.join(QLatin1String(", "))));
     }
 
     void focusMovesNothing_data()
@@ -992,6 +1005,32 @@ private Q_SLOTS:
         for (const char* name : {"currentColorDisplayLabel", "currentColorValueEdit", "pipetteButton"}) {
             QCOMPARE(partOf(panel, name)->height(), 24);
         }
+    }
+
+    void currentRowIsMarked_data() { sheetFitsEveryWidget_data(); }
+
+    // Ctrl and the arrows go through a list and select nothing.
+    void currentRowIsMarked()
+    {
+        QFETCH(QString, style);
+        qApp->setStyleSheet(resourceSheet(style));
+        Host host;
+        auto* list = new QListWidget;
+        list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list->addItems({QStringLiteral("one"), QStringLiteral("two")});
+        QVERIFY(host.present(list));
+        host.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&host));
+        list->setFocus();
+        list->setCurrentRow(1, QItemSelectionModel::NoUpdate);
+        const QImage picture = list->viewport()->grab().toImage();
+        const auto sideOf = [&](int row) {
+            const QRect area = list->visualItemRect(list->item(row));
+            return picture.pixelColor(area.left(), area.center().y());
+        };
+        const QHash<QString, QColor> colors = paletteOf(style);
+        QCOMPARE(sideOf(0), colors.value(QStringLiteral("field")));
+        QCOMPARE(sideOf(1), colors.value(QStringLiteral("focus")));
     }
 
     void choiceIsSeenOnEveryColor_data() { sheetFitsEveryWidget_data(); }

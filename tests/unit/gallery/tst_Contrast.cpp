@@ -1,0 +1,437 @@
+#include "TestMain.h"
+
+#include <UiComponents/PointSelectionPlane.h>
+#include <UiComponents/SearchWidget.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStyleOptionSlider>
+#include <QStyleOptionSpinBox>
+#include <QTabBar>
+#include <QTextDocument>
+#include <QTextEdit>
+#include <QToolButton>
+
+#include <cmath>
+#include <gallery/GalleryApplication.h>
+#include <gallery/MainWindow.h>
+#include <gallery/Page.h>
+#include <gallery/PageRegistry.h>
+#include <gallery/StyleController.h>
+#include <memory>
+
+namespace {
+
+constexpr double leastOfText = 4.5;
+constexpr double leastOfMarks = 3.0;
+constexpr QSize leastTarget(24, 24);
+
+/// Of WCAG 2, from 1 (the same) to 21 (black and white).
+double luminance(QRgb color)
+{
+    const auto linear = [](int part) {
+        const double share = part / 255.0;
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+double contrast(QRgb one, QRgb other)
+{
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return qMax(first, second) / qMin(first, second);
+}
+
+QVector<QRgb> pixelsOf(const QImage& picture, const QRect& area)
+{
+    QVector<QRgb> pixels;
+    const QRect inside = area & picture.rect();
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            pixels.append(picture.pixel(x, y));
+        }
+    }
+    return pixels;
+}
+
+/// The colour that most of the area has.
+QRgb surfaceOf(const QImage& picture, const QRect& area)
+{
+    QHash<QRgb, int> counts;
+    QRgb most = 0;
+    const auto pixels = pixelsOf(picture, area);
+    for (const QRgb pixel : pixels) {
+        if (++counts[pixel] > counts.value(most)) {
+            most = pixel;
+        }
+    }
+    return most;
+}
+
+/// Of whatever stands out most in the area, against @p surface.
+double strongest(const QImage& picture, const QRect& area, QRgb surface)
+{
+    double most = 1.0;
+    QSet<QRgb> seen;
+    const auto pixels = pixelsOf(picture, area);
+    for (const QRgb pixel : pixels) {
+        if (!seen.contains(pixel)) {
+            seen.insert(pixel);
+            most = qMax(most, contrast(pixel, surface));
+        }
+    }
+    return most;
+}
+
+double strongest(const QImage& picture, const QRect& area)
+{
+    return strongest(picture, area, surfaceOf(picture, area));
+}
+
+template <typename Option, typename Widget>
+QRect subControl(const Widget* widget, QStyle::ComplexControl control, QStyle::SubControl part)
+{
+    struct Opened : Widget
+    {
+        using Widget::initStyleOption;
+    };
+    Option option;
+    // Only to reach what is protected in the class itself.
+    (widget->*&Opened::initStyleOption)(&option);
+    return widget->style()->subControlRect(control, &option, part, widget);
+}
+
+bool isPartOfAnother(const QWidget* widget)
+{
+    const QWidget* const outer = widget->parentWidget();
+    return outer && (qobject_cast<const QAbstractSpinBox*>(outer) || qobject_cast<const QComboBox*>(outer));
+}
+
+/// A field whose border is that of the frame around it.
+bool isFramed(const QWidget* widget)
+{
+    return widget->property("kitVersion").isValid() || qobject_cast<SearchWidget*>(widget->parentWidget());
+}
+
+bool isTarget(const QWidget* widget)
+{
+    return !isPartOfAnother(widget) &&
+           (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QComboBox*>(widget) ||
+            qobject_cast<const QAbstractSpinBox*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+            qobject_cast<const QSlider*>(widget));
+}
+
+bool hasBorder(const QWidget* widget)
+{
+    const bool isButton =
+        qobject_cast<const QPushButton*>(widget) && !widget->property("styleHint").isValid();
+    return !isPartOfAnother(widget) && !isFramed(widget) &&
+           (isButton || qobject_cast<const QLineEdit*>(widget) ||
+            qobject_cast<const QAbstractSpinBox*>(widget) || qobject_cast<const QTextEdit*>(widget) ||
+            qobject_cast<const QPlainTextEdit*>(widget) || qobject_cast<const SearchWidget*>(widget) ||
+            (qobject_cast<const QComboBox*>(widget) && !widget->property("styleHint").isValid()) ||
+            widget->inherits("ColorPickerButton") ||
+            widget->objectName() == QLatin1String("pathSelectionFrame"));
+}
+
+/// What a widget shows as a text, and where.
+QString textOf(const QWidget* widget)
+{
+    if (const auto* const label = qobject_cast<const QLabel*>(widget)) {
+        QTextDocument document;
+        document.setHtml(label->text());
+        return Qt::mightBeRichText(label->text()) ? document.toPlainText() : label->text();
+    }
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(widget)) {
+        return button->text();
+    }
+    if (const auto* const edit = qobject_cast<const QLineEdit*>(widget)) {
+        return edit->displayText().isEmpty() ? edit->placeholderText() : edit->displayText();
+    }
+    if (const auto* const combo = qobject_cast<const QComboBox*>(widget)) {
+        return combo->currentText();
+    }
+    return {};
+}
+
+/// A window, and what is seen of it.
+class Surface
+{
+public:
+    explicit Surface(QWidget* window)
+        : m_window(window)
+        , m_picture(pictureOf(window->rect()))
+    {
+    }
+
+    QStringList failures() const
+    {
+        QStringList all;
+        const auto widgets = m_window->findChildren<QWidget*>();
+        for (const QWidget* widget : widgets) {
+            if (widget->window() != m_window || !isWhollySeen(widget) || !widget->isEnabled()) {
+                continue;
+            }
+            checkText(widget, &all);
+            checkBorder(widget, &all);
+            checkMark(widget, &all);
+            checkTarget(widget, &all);
+            if (const auto* const view = qobject_cast<const QAbstractItemView*>(widget)) {
+                checkRows(view, &all);
+            }
+        }
+        return all;
+    }
+
+    /// Those that do not show the keyboard's focus.
+    QStringList focusFailures()
+    {
+        QStringList all;
+        m_window->activateWindow();
+        if (!QTest::qWaitForWindowActive(m_window)) {
+            return {QStringLiteral("the window is not active")};
+        }
+        const auto widgets = m_window->findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            if (widget->window() == m_window && isWhollySeen(widget) && widget->isEnabled() &&
+                widget->focusPolicy() & Qt::TabFocus && !widget->focusProxy() && !isPartOfAnother(widget)) {
+                checkFocus(widget, &all);
+            }
+        }
+        return all;
+    }
+
+private:
+    QImage pictureOf(const QRect& area) const { return m_window->grab(area).toImage(); }
+
+    QRect areaOf(const QWidget* widget) const { return {widget->mapTo(m_window, QPoint()), widget->size()}; }
+
+    static bool isWhollySeen(const QWidget* widget)
+    {
+        return widget->isVisible() && !widget->size().isEmpty() &&
+               widget->visibleRegion().boundingRect() == widget->rect();
+    }
+
+    static QString describe(const QWidget* widget)
+    {
+        return QStringLiteral("%1 \"%2\" \"%3\"")
+            .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(), textOf(widget));
+    }
+
+    static void expect(double actual, double least, const QString& what, QStringList* all)
+    {
+        if (actual < least) {
+            all->append(QStringLiteral("%1: %2").arg(what).arg(actual, 0, 'f', 2));
+        }
+    }
+
+    void checkText(const QWidget* widget, QStringList* all) const
+    {
+        // Within borders, and beside the mark of a box.
+        constexpr int Border = 4;
+        QRect area = areaOf(widget).adjusted(Border, Border, -Border, -Border);
+        if (qobject_cast<const QLabel*>(widget)) {
+            area = areaOf(widget);
+        }
+        if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
+            const int mark =
+                widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + Border;
+            area.adjust(widget->isRightToLeft() ? 0 : mark, 0, widget->isRightToLeft() ? -mark : 0, 0);
+        }
+        if (!textOf(widget).trimmed().isEmpty() && !area.isEmpty() && !isPartOfAnother(widget)) {
+            expect(strongest(m_picture, area), leastOfText, QStringLiteral("text of ") + describe(widget),
+                   all);
+        }
+    }
+
+    /// At the middle of the left side, against what is left of it.
+    void checkBorder(const QWidget* widget, QStringList* all) const
+    {
+        if (!hasBorder(widget)) {
+            return;
+        }
+        const QRect area = areaOf(widget);
+        const QPoint middle(area.left(), area.center().y());
+        const QRgb outside = m_picture.pixel(middle - QPoint(2, 0));
+        expect(strongest(m_picture, QRect(middle, QSize(3, 1)), outside), leastOfMarks,
+               QStringLiteral("border of ") + describe(widget), all);
+    }
+
+    void checkMark(const QWidget* widget, QStringList* all) const
+    {
+        const QPoint corner = areaOf(widget).topLeft();
+        const auto check = [&](const QRect& area, const char* what) {
+            expect(strongest(m_picture, area.translated(corner)), leastOfMarks,
+                   QLatin1String(what) + describe(widget), all);
+        };
+        if (const auto* const combo = qobject_cast<const QComboBox*>(widget)) {
+            check(subControl<QStyleOptionComboBox>(combo, QStyle::CC_ComboBox, QStyle::SC_ComboBoxArrow),
+                  "arrow of ");
+        } else if (const auto* const slider = qobject_cast<const QSlider*>(widget)) {
+            const QRect handle =
+                subControl<QStyleOptionSlider>(slider, QStyle::CC_Slider, QStyle::SC_SliderHandle);
+            expect(strongest(m_picture, handle.translated(corner), m_picture.pixel(corner)), leastOfMarks,
+                   QStringLiteral("handle of ") + describe(widget), all);
+        } else if (qobject_cast<const QToolButton*>(widget) && textOf(widget).isEmpty()) {
+            expect(strongest(m_picture, areaOf(widget), m_picture.pixel(corner)), leastOfMarks,
+                   QStringLiteral("mark of ") + describe(widget), all);
+        } else if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
+            const int side = widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget);
+            QRect box(0, (widget->height() - side) / 2, side, side);
+            box = QStyle::visualRect(widget->layoutDirection(), widget->rect(), box).translated(corner);
+            expect(strongest(m_picture, box, m_picture.pixel(corner)), leastOfMarks,
+                   QStringLiteral("box of ") + describe(widget), all);
+            if (qobject_cast<const QAbstractButton*>(widget)->isChecked()) {
+                expect(strongest(m_picture, box.adjusted(3, 3, -3, -3)), leastOfMarks,
+                       QStringLiteral("tick of ") + describe(widget), all);
+            }
+        } else if (qobject_cast<const PointSelectionPlane*>(widget)) {
+            check(widget->rect(), "axes of ");
+        }
+    }
+
+    static void checkTarget(const QWidget* widget, QStringList* all)
+    {
+        if (isTarget(widget) && widget->size().expandedTo(leastTarget) != widget->size()) {
+            all->append(QStringLiteral("size of %1: %2 x %3")
+                            .arg(describe(widget))
+                            .arg(widget->width())
+                            .arg(widget->height()));
+        }
+    }
+
+    void checkRows(const QAbstractItemView* view, QStringList* all) const
+    {
+        const QPoint corner = areaOf(view->viewport()).topLeft();
+        const QRgb surface = surfaceOf(m_picture, areaOf(view->viewport()));
+        for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row) {
+            const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
+            const QRect seen = view->visualRect(index);
+            const bool isText = !index.data().toString().isEmpty();
+            if (!view->viewport()->rect().contains(seen) || seen.isEmpty()) {
+                continue;
+            }
+            const QString name = QStringLiteral("row %1 of ").arg(index.data().toString()) + describe(view);
+            const QRect area = seen.translated(corner);
+            if (isText) {
+                expect(strongest(m_picture, area), leastOfText, QStringLiteral("text of ") + name, all);
+            }
+            if (seen.height() < leastTarget.height() && index.flags() & Qt::ItemIsSelectable) {
+                all->append(QStringLiteral("height of %1: %2").arg(name).arg(seen.height()));
+            }
+            if (view->selectionModel() && view->selectionModel()->isSelected(index)) {
+                expect(contrast(surfaceOf(m_picture, area), surface), leastOfMarks,
+                       QStringLiteral("selection of ") + name, all);
+            }
+        }
+    }
+
+    /// By pixels that it changes by enough, at least as many as a line around a small control has.
+    void checkFocus(QWidget* widget, QStringList* all)
+    {
+        constexpr int Around = 30;
+        constexpr int LeastPixels = 40;
+        m_window->setFocus();
+        const QRect area = areaOf(widget).adjusted(-Around, -Around, Around, Around) & m_window->rect();
+        const QImage before = pictureOf(area);
+        widget->setFocus(Qt::TabFocusReason);
+        auto* const edit = qobject_cast<QLineEdit*>(widget);
+        QLineEdit* const typed = edit ? edit : widget->findChild<QLineEdit*>();
+        if (typed) {
+            typed->deselect();
+        }
+        const QImage after = pictureOf(area);
+        int changed = 0;
+        for (int y = 0; y < after.height(); ++y) {
+            for (int x = 0; x < after.width(); ++x) {
+                changed += before.pixel(x, y) != after.pixel(x, y) &&
+                           contrast(before.pixel(x, y), after.pixel(x, y)) >= leastOfMarks;
+            }
+        }
+        if (changed < LeastPixels) {
+            all->append(QStringLiteral("focus of %1: %2 pixels").arg(describe(widget)).arg(changed));
+        }
+    }
+
+    QWidget* const m_window;
+    const QImage m_picture;
+};
+
+} // namespace
+
+/**
+ * What everybody can see, from the pictures of all pages in all reference styles: texts, borders, marks, the
+ * focus, and whether what is clicked is large enough.
+ */
+class tst_Contrast : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GalleryApplication::prepare();
+        QApplication::setCursorFlashTime(0);
+        QFont font = QApplication::font();
+        font.setPixelSize(13);
+        QApplication::setFont(font);
+    }
+
+    void cleanup() { qApp->setStyleSheet(QString()); }
+
+    void everyPage_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("style");
+        const QVector<PageInfo> pages = PageRegistry::pages();
+        for (const QString& style : StyleController::builtInStyles()) {
+            for (const PageInfo& page : pages) {
+                if (style != QLatin1String("none")) {
+                    QTest::addRow("%s, %s", qPrintable(page.id), qPrintable(style)) << page.id << style;
+                }
+            }
+        }
+    }
+
+    void everyPage()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, style);
+        CommandLine start;
+        start.page = page;
+        start.style = style;
+        MainWindow window(start);
+        window.resize(1100, 1500);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.page()->prepareForPicture();
+        for (int round = 0; round < 4; ++round) {
+            QCoreApplication::processEvents();
+        }
+        QStringList all;
+        const auto others = QApplication::topLevelWidgets();
+        for (QWidget* other : others) {
+            if (other->isVisible() && (other == &window || window.isAncestorOf(other->parentWidget()))) {
+                all += Surface(other).failures();
+            }
+        }
+        all += Surface(&window).focusFailures();
+        QVERIFY2(all.isEmpty(), qPrintable(QLatin1Char('\n') + all.join(QLatin1Char('\n'))));
+    }
+};
+
+UIC_TEST_MAIN(tst_Contrast)
+#include "tst_Contrast.moc"
