@@ -409,8 +409,8 @@
 <context>
     <name>WidgetColorPickerButton</name>
     <message>
-        <source>Needs a mouse</source>
-        <translation>Braucht eine Maus</translation>
+        <source>Needs a mouse; without one, type the value in a colour panel</source>
+        <translation>Braucht eine Maus; ohne sie lässt sich der Wert in einer Farbtafel eingeben</translation>
     </message>
 </context>
 <context>

@@ -409,8 +409,8 @@
 <context>
     <name>WidgetColorPickerButton</name>
     <message>
-        <source>Needs a mouse</source>
-        <translation>マウスが必要です</translation>
+        <source>Needs a mouse; without one, type the value in a colour panel</source>
+        <translation>マウスが必要です。使わない場合は、カラーパネルに値を入力します</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,8 @@ QAccessibleInterface* AccessibleFactory::interfaceFor(const QString& className, 
     }
     const bool isSelector = className == QLatin1String("QDialog") && widget->windowType() == Qt::Popup &&
                             qobject_cast<ColorPickerWidget*>(widget->parentWidget());
-    if (className == QLatin1String("PointingWidget") || isSelector) {
+    const bool isColorPopup = widget->objectName() == QLatin1String("colorPanelPopup");
+    if (className == QLatin1String("PointingWidget") || isSelector || isColorPopup) {
         return new AccessiblePopup(widget);
     }
     const bool isPart = AccessibleNames::hasEntry(widget) || dynamic_cast<ColorButton*>(widget);

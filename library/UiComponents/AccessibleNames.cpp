@@ -164,5 +164,9 @@ QString AccessibleNames::hintOf(const QWidget* widget)
 {
     const QWidget* const component = componentOf(widget);
     const PartName* const entry = component ? entryOf(widget, component) : nullptr;
+    if (widget->inherits("WidgetColorPickerButton")) {
+        return QCoreApplication::translate("WidgetColorPickerButton",
+                                           "Needs a mouse; without one, type the value in a colour panel");
+    }
     return entry && entry->hint ? translated(*entry, entry->hint) : QString();
 }

@@ -7,6 +7,7 @@
 #include "ColorPickerWidget.h"
 #include "ColorPlaneWidget.h"
 #include "GuidePicture.h"
+#include "PopupColorPicker.h"
 #include "WidgetColorPickerButton.h"
 
 #include <WidgetToolkit/OvDoubleSlider.h>
@@ -45,6 +46,19 @@ QLabel* labelOf(const QWidget* widget)
         }
     }
     return nullptr;
+}
+
+/// What has opened @p popup. That of a colour field belongs to the window, where others use it too.
+QWidget* openerOf(const QWidget* popup)
+{
+    QWidget* const owner = popup->parentWidget();
+    const auto pickers = owner->findChildren<PopupColorPicker*>();
+    for (const PopupColorPicker* picker : pickers) {
+        if (picker->panel() && picker->panel()->parentWidget() == popup) {
+            return qobject_cast<QWidget*>(picker->parent());
+        }
+    }
+    return owner;
 }
 
 /// The message of the folder field that @p edit belongs to, while the field shows one.
@@ -116,6 +130,10 @@ QVector<QWidget*> AccessiblePart::popups() const
     const auto children = widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     std::copy_if(children.cbegin(), children.cend(), std::back_inserter(open),
                  [](const QWidget* child) { return child->windowType() == Qt::Popup && child->isVisible(); });
+    const auto* const picker = widget()->findChild<PopupColorPicker*>(QString(), Qt::FindDirectChildrenOnly);
+    if (picker && picker->panel() && picker->panel()->isVisible()) {
+        open.append(picker->panel()->window());
+    }
     return open;
 }
 
@@ -180,8 +198,7 @@ QString AccessibleButton::spokenColor() const
         return ColorNames::valueText(field->color());
     }
     if (const auto* const picking = qobject_cast<WidgetColorPickerButton*>(widget())) {
-        return sentences(ColorNames::valueText(picking->color()),
-                         QCoreApplication::translate("WidgetColorPickerButton", "Needs a mouse"));
+        return ColorNames::valueText(picking->color());
     }
     return {};
 }
@@ -228,14 +245,16 @@ AccessiblePopup::AccessiblePopup(QWidget* popup)
 
 QAccessibleInterface* AccessiblePopup::parent() const
 {
-    return widget()->windowType() == Qt::Popup && widget()->parentWidget()
-               ? interfaceOf(widget()->parentWidget())
-               : AccessiblePart::parent();
+    return widget()->windowType() == Qt::Popup && widget()->parentWidget() ? interfaceOf(openerOf(widget()))
+                                                                           : AccessiblePart::parent();
 }
 
 QString AccessiblePopup::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name) {
+        if (colorPanel()) {
+            return parent()->text(kind);
+        }
         const bool isSelector = widget()->findChild<ColorPlaneWidget*>() != nullptr;
         return isSelector ? QCoreApplication::translate("ColorPickerWidget", "Choose another colour")
                           : widget()->windowTitle();
@@ -243,7 +262,7 @@ QString AccessiblePopup::text(QAccessible::Text kind) const
     if (kind != QAccessible::Description) {
         return AccessiblePart::text(kind);
     }
-    QString said;
+    QString said = colorPanel() ? ColorNames::valueText(colorPanel()->currentColor()) : QString();
     for (const char* name : {"descriptionLabel", "learnMoreLabel"}) {
         const auto* const label = widget()->findChild<QLabel*>(QLatin1String(name));
         if (label && !label->isHidden()) {
@@ -251,6 +270,11 @@ QString AccessiblePopup::text(QAccessible::Text kind) const
         }
     }
     return said;
+}
+
+ColorPickerWidget* AccessiblePopup::colorPanel() const
+{
+    return widget()->findChild<ColorPickerWidget*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 AccessiblePicture::AccessiblePicture(GuidePicture* picture)

@@ -12,6 +12,7 @@
 class QAbstractButton;
 class QAbstractSlider;
 class GuidePicture;
+class ColorPickerWidget;
 class QLabel;
 class AccessibleLineEdit;
 
@@ -72,7 +73,8 @@ private:
     QAbstractButton* button() const;
 };
 
-/// Help that appears beside something, or a selector: its text is its description. A pop-up is below what has
+/// Help that appears beside something, a selector, or the panel of a colour field: its text, or the colour,
+/// is its description. A pop-up is below what has
 /// opened it, where Qt leaves it out of everything.
 class AccessiblePopup : public AccessiblePart
 {
@@ -81,6 +83,9 @@ public:
 
     QAccessibleInterface* parent() const override;
     QString text(QAccessible::Text kind) const override;
+
+private:
+    ColorPickerWidget* colorPanel() const;
 };
 
 /// An animated image, which can be paused.

@@ -27,6 +27,8 @@
  * **Layout.** The size-adjust policy is QAbstractScrollArea::AdjustToContents. The width of the contents
  * follows the viewport's.
  *
+ * **Readers** find a list, as any other of Qt.
+ *
  * **Style sheet.** Qt's meta-object knows no class of this name: a sheet selects it as `QListView`, or by an
  * object name. A `min-height` of the sheet is overwritten.
  */

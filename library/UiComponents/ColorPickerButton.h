@@ -28,6 +28,9 @@ class AbstractColorPicker;
  * pick() does not click the button again if the picker is no longer in progress when the key reaches the
  * button.
  *
+ * **Readers** find a button with the name of its label, its accessible name or its tool tip. Its value and,
+ * on X11 and Wayland, its description is the colour in words, and each change is said.
+ *
  * **Style sheet.** The face is a child QWidget named "color". The button writes its background, opaque
  * whatever the alpha, and at opacity 0.4 while disabled; size, border and the look of the two states without
  * a colour are the sheet's. Without a sheet the face is at least 16 by 16 pixels; min-width and min-height of

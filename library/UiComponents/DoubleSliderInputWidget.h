@@ -13,7 +13,7 @@
  *     connect(opacity, &DoubleSliderInputWidget::valueChanged, this, &Layer::setOpacity);
  *
  * The SliderInputWidget of fractions: the parts are an OvDoubleSlider and an OvDoubleSpinBox, and keys,
- * wheel and focus are as described there. A step of the slider is one unit of the last
+ * wheel, focus and what readers find are as described there. A step of the slider is one unit of the last
  * decimal that the spin box shows: the number reported is the number shown, as the double nearest to it. Both
  * "." and "," are accepted as the decimal mark while typing, whatever the locale.
  *

@@ -32,6 +32,9 @@
  * give (see PrivacyAccess.h), startPicking() asks for it when it is missing, and does nothing else. A
  * platform that grants it and gives no picture has black pixels.
  *
+ * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
+ * edit takes every colour by its digits and whose planes take keys.
+ *
  * A style sheet gives the loupe its size, its rim, which is painted over the picture, and what is seen beyond
  * the edge of the desktop; the cursor's hot spot is a point of the scaled picture:
  *     LoupeWidget { background: transparent; border: 2px solid white; border-radius: 58px;

@@ -24,6 +24,9 @@
  * Tab stops at the plane, at x and at y; a label whose buddy is the field gives the focus to the plane. From
  * right to left the plane stands on the right, and is not mirrored itself.
  *
+ * **Readers** find a group of two spin boxes, "name, x" and "name, y", and of the plane, whose two sliders
+ * are called the same.
+ *
  * **Style sheet.** The object names are "pointSelectorFrame" with "pointSelector", and "spinBoxFrame" with
  * "xSpinboxFrame" ("xLabel", "xSpinbox") and "ySpinboxFrame" ("yLabel", "ySpinbox"). The labels have no text:
  * a sheet may give them an image. The frames' metrics are OvFrame's properties: `PointSelectorWidget {

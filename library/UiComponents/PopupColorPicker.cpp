@@ -1,5 +1,6 @@
 #include "PopupColorPicker.h"
 
+#include "AccessibleEvents.h"
 #include "ColorPickerButton.h"
 #include "ColorPickerWidget.h"
 #include "Pipette.h"
@@ -268,6 +269,9 @@ void PopupColorPicker::Private::show(QWidget* field)
     isShowingColor = true;
     popup->show();
     isShowingColor = false;
+    if (popup) {
+        AccessibleEvents::alert(popup);
+    }
 }
 
 /// Gives the panel the present colour, without taking back what the panel makes of it.

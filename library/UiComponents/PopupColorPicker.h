@@ -26,6 +26,8 @@ class ColorPickerWidget;
  *
  * Fields of one window whose pickers have equal options share one panel.
  *
+ * **Accessibility.** The pop-up is a dialog with the name of its field, below which readers find it.
+ *
  * **Style sheet.** The pop-up is an OvFrame, "colorPanelPopup", with the property "roundedEdges" (see
  * Workaround::Ui::apply()): `#colorPanelPopup { qproperty-layoutMargin: 12; }`.
  *

@@ -32,6 +32,9 @@ class WidgetColorPickerStylingObject;
  * Wayland), all of it is as the target paints itself; Xwayland may give a black one. A mouse event tells the
  * pixel, also where the screen has several for a point; a key before the first one takes that of the whole
  * point next to the cursor.
+ *
+ * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
+ * edit takes every colour by its digits and whose planes take keys.
  */
 class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 {

@@ -26,6 +26,10 @@ class WidgetColorPickerStylingObject;
  * button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into the
  * button's own style sheet, in the place of what was there. Border, size and padding are those that the
  * application's sheet gives to WidgetColorPickerButton or QToolButton. Off, it is a QToolButton as any other.
+ *
+ * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key
+ * ends it; for users without one, offer a colour field with a PopupColorPicker too, whose panel takes the
+ * value in digits and whose planes take keys.
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton
 {

@@ -13,6 +13,7 @@
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPickerButton.h>
@@ -170,7 +171,10 @@ private Q_SLOTS:
 
         WidgetColorPickerButton picking;
         picking.setColor(Qt::blue);
-        QCOMPARE(reader(&picking).text(QAccessible::Value), QStringLiteral("blue, #0000ff. Needs a mouse"));
+        QCOMPARE(reader(&picking).text(QAccessible::Value), QStringLiteral("blue, #0000ff"));
+        QCOMPARE(
+            reader(&picking).text(QAccessible::Description),
+            QStringLiteral("blue, #0000ff. Needs a mouse; without one, type the value in a colour panel"));
     }
 
     void colorsAreAnnouncedOnce()
@@ -187,7 +191,8 @@ private Q_SLOTS:
         button.setColor({});
         QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: several colours")});
         picking.setColor(Qt::blue);
-        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Key: blue, #0000ff. Needs a mouse")});
+        QCOMPARE(AccessibleEars::take(),
+                 QStringList{QStringLiteral("Key: ") + reader(&picking).text(QAccessible::Description)});
     }
 
     void dragsAreAnnouncedOnce()
@@ -407,6 +412,41 @@ private Q_SLOTS:
         QApplication::sendEvent(button, &event);
         QCOMPARE(QToolTip::text(), QStringLiteral("orange, #ff5d00"));
         QToolTip::hideText();
+    }
+
+    // The pop-up belongs to the window: fields share it.
+    void colorPopupIsItsFields()
+    {
+        QWidget window;
+        ColorInputWidget fill(&window, QColor(Qt::red));
+        ColorInputWidget stroke(&window, QColor(Qt::blue));
+        fill.setAccessibleName(QStringLiteral("Fill"));
+        stroke.setAccessibleName(QStringLiteral("Stroke"));
+        for (ColorInputWidget* field : {&fill, &stroke}) {
+            field->setPicker(new PopupColorPicker);
+        }
+        window.show();
+        const AccessibleEars ears;
+        for (ColorInputWidget* field : {&fill, &stroke}) {
+            auto* const button = qobject_cast<QAbstractButton*>(field->anchorWidget());
+            AccessibleEars::take();
+            button->click();
+            QAccessibleInterface& popup = reader(QApplication::activePopupWidget());
+            QCOMPARE(popup.role(), QAccessible::Dialog);
+            QCOMPARE(popup.text(QAccessible::Name), field->accessibleName());
+            QCOMPARE(popup.parent(), &reader(button));
+            const int place = reader(button).childCount() - 1;
+            QCOMPARE(reader(button).child(place), &popup);
+            QCOMPARE(reader(button).indexOfChild(&popup), place);
+            const QStringList heard = AccessibleEars::take();
+            QVERIFY(heard.contains(field->accessibleName() + QStringLiteral("!")));
+            QVERIFY(heard.contains(field->accessibleName() + (field == &fill
+                                                                  ? QStringLiteral(": red, #ff0000")
+                                                                  : QStringLiteral(": blue, #0000ff"))));
+            QApplication::activePopupWidget()->close();
+            QCOMPARE(reader(button).childCount(), place);
+            QCoreApplication::processEvents();
+        }
     }
 
     void buttonsCanBePressed()
