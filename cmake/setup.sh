@@ -27,7 +27,8 @@ uic_packages()
                 echo fonts-dejavu-core pkg-config ;;
             benchmarks)
                 echo fonts-dejavu-core libbenchmark-dev libkf5widgetsaddons-dev python3 qml-module-qtquick2 ;;
-            headers) ;;
+            headers)
+                echo abigail-tools python3 ;;
             conventions)
                 echo fonts-dejavu-core python3 clang-format ;;
             *)

@@ -3,6 +3,7 @@
 #include "AbstractColorPicker.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 
 namespace {
 
@@ -13,8 +14,17 @@ bool isClickKey(const QKeyEvent& event)
 
 } // namespace
 
+class ClickButton::Private
+{
+public:
+    QPointer<AbstractColorPicker> picker;
+    int picksOnStack = 0;
+    bool isKeyOfEnd = false; // is down
+};
+
 ClickButton::ClickButton(QWidget* parent)
     : QToolButton(parent)
+    , d(std::make_unique<Private>())
 {
 }
 
@@ -23,20 +33,20 @@ ClickButton::~ClickButton() = default;
 void ClickButton::pick(AbstractColorPicker* picker)
 {
     const QPointer<ClickButton> self = this;
-    m_picker = picker;
-    ++m_picksOnStack;
+    d->picker = picker;
+    ++d->picksOnStack;
     picker->pick();
     if (self) {
-        --m_picksOnStack;
+        --d->picksOnStack;
     }
 }
 
 void ClickButton::keyPressEvent(QKeyEvent* event)
 {
     if (isClickKey(*event)) {
-        const bool isPicking = m_picker && m_picker->isInProgress();
-        m_isKeyOfEnd = m_picksOnStack > 0 && !isPicking;
-        if (m_isKeyOfEnd) {
+        const bool isPicking = d->picker && d->picker->isInProgress();
+        d->isKeyOfEnd = d->picksOnStack > 0 && !isPicking;
+        if (d->isKeyOfEnd) {
             return;
         }
     }
@@ -45,8 +55,8 @@ void ClickButton::keyPressEvent(QKeyEvent* event)
 
 void ClickButton::keyReleaseEvent(QKeyEvent* event)
 {
-    if (m_isKeyOfEnd && isClickKey(*event)) {
-        m_isKeyOfEnd = false;
+    if (d->isKeyOfEnd && isClickKey(*event)) {
+        d->isKeyOfEnd = false;
         return;
     }
     QToolButton::keyReleaseEvent(event);

@@ -2,8 +2,9 @@
 
 #include <UiComponents/UiComponentsExport.h>
 
-#include <QPointer>
 #include <QToolButton>
+
+#include <memory>
 
 class AbstractColorPicker;
 
@@ -34,7 +35,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QPointer<AbstractColorPicker> m_picker;
-    int m_picksOnStack = 0;
-    bool m_isKeyOfEnd = false; // is down
+    class UICOMPONENTS_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };

@@ -22,6 +22,11 @@ ColorInputWidget::Private::Private(ColorInputWidget* field)
     (new OvHBoxLayout(q))->autoFill();
 }
 
+ColorInputWidget::ColorInputWidget(QWidget* parent)
+    : ColorInputWidget(parent, QColor(Qt::black))
+{
+}
+
 ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))

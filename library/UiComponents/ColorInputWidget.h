@@ -34,6 +34,8 @@ public:
     /// @p parent owns the field. A valid @p color is the first value; an invalid one leaves the field at
     /// several different colours, as a new ColorPickerButton. Emits nothing.
     ColorInputWidget(QWidget* parent, const QColor& color);
+    /// Of black, for forms.
+    explicit ColorInputWidget(QWidget* parent);
     ~ColorInputWidget() override;
 
     /// The button's value; empty for several different colours.
@@ -54,6 +56,6 @@ Q_SIGNALS:
     void colorChanged(QColor value);
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

@@ -14,7 +14,7 @@ constexpr double lightChroma = 0.14;
 constexpr double paleLightness = 0.8;
 constexpr double deepLightness = 0.33;
 constexpr double clearDifference = 0.095;
-constexpr int fullCircle = 360;
+constexpr int degreesOfCircle = 360;
 
 /// Hues up to an angle, and how light they are where they are strongest. Below a lightness of their own some
 /// have another name.
@@ -124,9 +124,9 @@ ColorNames::Perceived ColorNames::perceived(const QColor& color)
     const double a = 1.9779984951 * l - 2.4285922050 * m + 0.4505937099 * s;
     const double b = 0.0259040371 * l + 0.7827717662 * m - 0.8086757660 * s;
     result.chroma = std::hypot(a, b);
-    result.hue = std::atan2(b, a) * fullCircle / (2.0 * std::acos(-1.0));
+    result.hue = std::atan2(b, a) * degreesOfCircle / (2.0 * std::acos(-1.0));
     if (result.hue < 0.0) {
-        result.hue += fullCircle;
+        result.hue += degreesOfCircle;
     }
     return result;
 }

@@ -99,6 +99,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

@@ -762,6 +762,11 @@ void ColorPickerWidget::Private::keepPartsInUse() const
     }
 }
 
+ColorPickerWidget::ColorPickerWidget(QWidget* parent)
+    : ColorPickerWidget(parent, false)
+{
+}
+
 ColorPickerWidget::ColorPickerWidget(QWidget* parent, bool nullColorAllowed)
     : OvFrame(parent)
     , d(Private::make(this, nullColorAllowed))

@@ -53,6 +53,8 @@ public:
     /// @p parent owns the panel. With @p nullColorAllowed the palette begins with a button for no colour, and
     /// "#e3e3e3" is left out, so that the row keeps its length.
     ColorPickerWidget(QWidget* parent, bool nullColorAllowed);
+    /// Without a button for no colour, for forms.
+    explicit ColorPickerWidget(QWidget* parent);
     ~ColorPickerWidget() override;
 
     /// The value as set or chosen, alpha included; empty by default. The reference is valid as long as the
@@ -112,6 +114,6 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

@@ -90,6 +90,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

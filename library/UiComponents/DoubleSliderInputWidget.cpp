@@ -19,6 +19,11 @@ public:
     using SliderFieldParts::SliderFieldParts;
 };
 
+DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent)
+    : DoubleSliderInputWidget(parent, {0.0, 1.0, 2})
+{
+}
+
 DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initializer& init)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))

@@ -43,6 +43,8 @@ public:
 
     /// @p parent owns the field. Emits nothing.
     DoubleSliderInputWidget(QWidget* parent, const Initializer& init);
+    /// Of 0 to 1, with 2 decimals, for forms.
+    explicit DoubleSliderInputWidget(QWidget* parent);
     ~DoubleSliderInputWidget() override;
 
     /// The value that the spin box shows.
@@ -62,6 +64,6 @@ Q_SIGNALS:
     void valueChanged(double value);
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

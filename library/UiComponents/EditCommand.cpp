@@ -5,8 +5,6 @@
 #include <QPointer>
 #include <QUndoStack>
 
-#include <memory>
-
 namespace {
 
 /// What a session edits, and what it was before.
@@ -31,6 +29,15 @@ void bringBack(const EditCommand::Targets& targets, const QVector<QVariant>& bef
 }
 
 } // namespace
+
+class EditCommand::Private
+{
+public:
+    const Targets targets;
+    const QVector<QVariant> before;
+    const QVariant value;
+    bool isDone = true;
+};
 
 void EditCommand::record(EditSession* session, QUndoStack* stack, const std::function<QString()>& text,
                          const std::function<Targets()>& targets)
@@ -62,9 +69,7 @@ void EditCommand::record(EditSession* session, QUndoStack* stack, const std::fun
 EditCommand::EditCommand(const QString& text, const Targets& targets, const QVector<QVariant>& before,
                          const QVariant& value)
     : QUndoCommand(text)
-    , m_targets(targets)
-    , m_before(before)
-    , m_value(value)
+    , d(new Private{targets, before, value})
 {
 }
 
@@ -72,14 +77,14 @@ EditCommand::~EditCommand() = default;
 
 void EditCommand::undo()
 {
-    m_isDone = false;
-    bringBack(m_targets, m_before);
+    d->isDone = false;
+    bringBack(d->targets, d->before);
 }
 
 void EditCommand::redo()
 {
-    if (!m_isDone) {
-        m_isDone = true;
-        write(m_targets, m_value);
+    if (!d->isDone) {
+        d->isDone = true;
+        write(d->targets, d->value);
     }
 }

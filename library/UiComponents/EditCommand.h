@@ -8,6 +8,7 @@
 #include <QVector>
 
 #include <functional>
+#include <memory>
 
 class EditSession;
 class QUndoStack;
@@ -56,8 +57,6 @@ public:
     void redo() override;
 
 private:
-    const Targets m_targets;
-    const QVector<QVariant> m_before;
-    const QVariant m_value;
-    bool m_isDone = true;
+    class UICOMPONENTS_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };

@@ -16,19 +16,11 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
+#include <QVector>
 
 namespace {
-
-/// What the user is doing to the field, and so what ends it.
-enum class Gesture {
-    None,
-    Mouse,
-    Key,
-    Wheel,
-    Text,
-    Pick,
-};
 
 bool isModifier(int key)
 {
@@ -72,6 +64,16 @@ ColorPickerButton* colorButtonOf(QWidget* field)
 class EditSession::Private
 {
 public:
+    /// What the user is doing to the field, and so what ends it.
+    enum class Gesture {
+        None,
+        Mouse,
+        Key,
+        Wheel,
+        Text,
+        Pick,
+    };
+
     Private(EditSession* session, QWidget* editedField);
 
     void watchParts();
@@ -487,13 +489,20 @@ void EditSession::Private::cancel()
     }
 }
 
+class EditSession::Refresh::Private
+{
+public:
+    QVector<QPointer<EditSession>> sessions;
+};
+
 EditSession::Refresh::Refresh(QWidget* panel)
+    : d(std::make_unique<Private>())
 {
     const auto sessions = panel->findChildren<EditSession*>();
     for (EditSession* session : sessions) {
-        m_sessions.append(session);
+        d->sessions.append(session);
     }
-    for (const QPointer<EditSession>& session : qAsConst(m_sessions)) {
+    for (const QPointer<EditSession>& session : qAsConst(d->sessions)) {
         if (session) {
             session->d->commit();
         }
@@ -505,7 +514,7 @@ EditSession::Refresh::Refresh(QWidget* panel)
 
 EditSession::Refresh::~Refresh()
 {
-    for (const QPointer<EditSession>& session : qAsConst(m_sessions)) {
+    for (const QPointer<EditSession>& session : qAsConst(d->sessions)) {
         if (session && --session->d->holds == 0) {
             session->d->last = session->value();
         }
@@ -589,7 +598,7 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         return false;
     }
     // A pick is the picker's to end.
-    if (d->gesture == Gesture::Pick || !d->isAlive()) {
+    if (d->gesture == Private::Gesture::Pick || !d->isAlive()) {
         return false;
     }
     const QPointer<QObject> receiver(watched);
@@ -612,13 +621,13 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         d->releaseKey(*static_cast<QKeyEvent*>(event));
         break;
     case QEvent::InputMethod:
-        d->begin(Gesture::Text, watched);
+        d->begin(Private::Gesture::Text, watched);
         break;
     case QEvent::Wheel:
         d->turnWheel(watched, *static_cast<QWheelEvent*>(event));
         break;
     case QEvent::Leave:
-        if (d->gesture == Gesture::Wheel) {
+        if (d->gesture == Private::Gesture::Wheel) {
             d->finish();
         }
         break;

@@ -3,9 +3,7 @@
 #include <UiComponents/UiComponentsExport.h>
 
 #include <QObject>
-#include <QPointer>
 #include <QVariant>
-#include <QVector>
 
 #include <memory>
 
@@ -62,7 +60,8 @@ public:
         Refresh& operator=(const Refresh&) = delete;
 
     private:
-        QVector<QPointer<EditSession>> m_sessions;
+        class UICOMPONENTS_NO_EXPORT Private;
+        const std::unique_ptr<Private> d;
     };
 
     /// @p field, which must not be null, is the parent. It has its parts already, and one session.
@@ -120,6 +119,6 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

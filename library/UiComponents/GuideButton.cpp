@@ -8,10 +8,22 @@
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/Util.h>
 
+#include <QPointer>
+
 #include <utility>
+
+class GuideButton::Private
+{
+public:
+    std::shared_ptr<GuideInfo> guideInfo;
+    QPointer<PointingWidget> pointingWidget;
+    QPointer<GuideWidget> guideWidget;
+    QPointer<PointingWidget> appearing; // while its show() runs
+};
 
 GuideButton::GuideButton(QWidget* parent)
     : ClickButton(parent)
+    , d(std::make_unique<Private>())
 {
     AccessibleFactory::install();
     connect(this, &QAbstractButton::clicked, this, &GuideButton::showHelp);
@@ -19,75 +31,79 @@ GuideButton::GuideButton(QWidget* parent)
 
 GuideButton::~GuideButton()
 {
+    // The focus leaves the pop-up, and who hears of it may still call the button.
+    if (d->pointingWidget != d->appearing) {
+        delete d->pointingWidget.data();
+    }
     // showHelp(), below on the stack, deletes it.
-    if (m_appearing) {
-        m_appearing->hide();
-        m_appearing->setParent(nullptr);
+    if (d->appearing) {
+        d->appearing->hide();
+        d->appearing->setParent(nullptr);
     }
 }
 
 void GuideButton::setGuideInfo(std::unique_ptr<GuideInfo> info)
 {
-    m_guideInfo = std::move(info);
+    d->guideInfo = std::move(info);
 }
 
 bool GuideButton::hasGuideInfo() const
 {
-    return m_guideInfo != nullptr;
+    return d->guideInfo != nullptr;
 }
 
 void GuideButton::hideEvent(QHideEvent* event)
 {
     ClickButton::hideEvent(event);
-    if (m_pointingWidget) {
-        m_pointingWidget->hide();
+    if (d->pointingWidget) {
+        d->pointingWidget->hide();
     }
 }
 
 void GuideButton::showHelp()
 {
     // Shared: deleting the old pop-up moves the focus, and a slot may remove the info.
-    const std::shared_ptr<const GuideInfo> info = m_guideInfo;
+    const std::shared_ptr<const GuideInfo> info = d->guideInfo;
     if (!info) {
         return;
     }
     const QPointer<GuideButton> self = this;
-    if (m_pointingWidget && m_pointingWidget == m_appearing) {
-        m_pointingWidget->hide();
+    if (d->pointingWidget && d->pointingWidget == d->appearing) {
+        d->pointingWidget->hide();
     } else {
-        delete m_pointingWidget.data();
+        delete d->pointingWidget.data();
     }
     if (!self) {
         return;
     }
 
-    m_pointingWidget = new PointingWidget(this);
-    m_pointingWidget->setObjectName(Util::Details::removeClassMemberPrefix("m_pointingWidget"));
-    m_pointingWidget->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
-    m_pointingWidget->setAttribute(Qt::WA_TranslucentBackground);
-    m_pointingWidget->setWindowTitle(info->title);
-    m_pointingWidget->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Center);
+    d->pointingWidget = new PointingWidget(this);
+    d->pointingWidget->setObjectName(Util::Details::removeClassMemberPrefix("m_pointingWidget"));
+    d->pointingWidget->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    d->pointingWidget->setAttribute(Qt::WA_TranslucentBackground);
+    d->pointingWidget->setWindowTitle(info->title);
+    d->pointingWidget->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Center);
 
     // Constructed with its name and parent: setting either later would polish it again, at the cost of all
     // the rest.
-    OvFrame* const frame = m_pointingWidget->contentFrame();
-    m_guideWidget = new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
-    connect(m_guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
+    OvFrame* const frame = d->pointingWidget->contentFrame();
+    d->guideWidget = new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
+    connect(d->guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
     auto* layout = new OvVBoxLayout(frame);
-    layout->addWidget(m_guideWidget);
+    layout->addWidget(d->guideWidget);
 
-    m_pointingWidget->setArrowOffset(m_popupOffset);
-    m_pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));
-    const QPointer<PointingWidget> popup = m_pointingWidget;
-    const QPointer<PointingWidget> outer = m_appearing;
-    m_appearing = popup;
+    d->pointingWidget->setArrowOffset(m_popupOffset);
+    d->pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));
+    const QPointer<PointingWidget> popup = d->pointingWidget;
+    const QPointer<PointingWidget> outer = d->appearing;
+    d->appearing = popup;
     // Of its own, or readers would stay with the button.
     popup->setFocus(Qt::PopupFocusReason);
     popup->show();
     if (self) {
-        m_appearing = outer;
+        d->appearing = outer;
     }
-    if (!self || popup != m_pointingWidget) {
+    if (!self || popup != d->pointingWidget) {
         delete popup;
     }
 }

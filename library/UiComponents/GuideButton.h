@@ -4,12 +4,7 @@
 #include <UiComponents/GuideInfo.h>
 #include <UiComponents/UiComponentsExport.h>
 
-#include <QPointer>
-
 #include <memory>
-
-class GuideWidget;
-class PointingWidget;
 
 // The property is written by style sheets and hosts, and nobody waits for it to change.
 // clazy:excludeall=qproperty-without-notify
@@ -70,9 +65,7 @@ protected:
 private:
     void showHelp();
 
-    std::shared_ptr<GuideInfo> m_guideInfo;
-    QPointer<PointingWidget> m_pointingWidget;
-    QPointer<GuideWidget> m_guideWidget;
-    QPointer<PointingWidget> m_appearing; // while its show() runs
+    class UICOMPONENTS_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
     int m_popupOffset = 0;
 };

@@ -144,6 +144,11 @@ void GuideWidget::Private::followLink(const QString& link)
     }
 }
 
+GuideWidget::GuideWidget(QWidget* parent)
+    : GuideWidget(GuideInfo(), parent)
+{
+}
+
 GuideWidget::GuideWidget(const GuideInfo& info, QWidget* parent)
     : GuideWidget(info, parent, QString())
 {

@@ -48,6 +48,8 @@ class UICOMPONENTS_EXPORT GuideWidget : public OvFrame
 public:
     /// Shows a copy of @p info. @p parent owns the guide; null makes it a window.
     GuideWidget(const GuideInfo& info, QWidget* parent);
+    /// Of no texts yet, for forms.
+    explicit GuideWidget(QWidget* parent);
     ~GuideWidget() override;
 
     /// Shows @p info instead, and resizes the guide to its size hint, which a layout around it overrules.
@@ -67,6 +69,6 @@ private:
     /// Sets the object name @p name before the texts are measured, so that a sheet's rule for it counts.
     GuideWidget(const GuideInfo& info, QWidget* parent, const QString& name);
 
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

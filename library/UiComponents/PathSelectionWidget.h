@@ -126,6 +126,6 @@ private:
     void requestPathChanged();
     void updateSpaceInfoVisibility();
 
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

@@ -84,6 +84,6 @@ Q_SIGNALS:
     void colorSelected(const QColor& color);
 
 private:
-    class Impl;
+    class UICOMPONENTS_NO_EXPORT Impl;
     const std::unique_ptr<Impl> d;
 };

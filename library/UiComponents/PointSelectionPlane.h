@@ -81,6 +81,6 @@ protected:
 
 private:
     friend class PlaneDrag;
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

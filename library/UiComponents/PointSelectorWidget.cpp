@@ -61,6 +61,8 @@ public:
     OvFrame* const ySpinboxFrame;
     QLabel* const yLabel;
     OvDoubleSpinBox* const ySpinbox;
+    // True while the parts are synchronised: what they report meanwhile goes to the host only.
+    bool updating = false;
     // A slot has set a value while the spin boxes followed the plane.
     bool isOverruled = false;
 };
@@ -108,13 +110,13 @@ void PointSelectorWidget::Private::followSpinBox(const QPointF& reported)
 {
     const QPointer<PointSelectorWidget> self = q;
     Q_EMIT q->valueChanged(reported);
-    if (!self || q->updating) {
+    if (!self || updating) {
         return;
     }
-    q->updating = true;
+    updating = true;
     // Not the reported value: a slot may have set another one.
     pointSelector->setPoint(spinBoxValue());
-    q->updating = false;
+    updating = false;
 }
 
 void PointSelectorWidget::Private::followPlane(const QPointF& reported)
@@ -122,10 +124,10 @@ void PointSelectorWidget::Private::followPlane(const QPointF& reported)
     const QPointer<PointSelectorWidget> self = q;
     const QPointF before = pointSelector->point();
     Q_EMIT q->valueChanged(reported);
-    if (!self || q->updating) {
+    if (!self || updating) {
         return;
     }
-    q->updating = true;
+    updating = true;
     isOverruled = false;
     // The reported value, unless a slot has set another one. QPointF's operator== is too coarse.
     const QPointF now = pointSelector->point();
@@ -139,10 +141,15 @@ void PointSelectorWidget::Private::followPlane(const QPointF& reported)
     if (!self) {
         return;
     }
-    q->updating = false;
+    updating = false;
     if (isOverruled) {
         pointSelector->setPoint(spinBoxValue());
     }
+}
+
+PointSelectorWidget::PointSelectorWidget(QWidget* parent)
+    : PointSelectorWidget(parent, {QPointF(0.0, 0.0), QPointF(1.0, 1.0), 2, 2})
+{
 }
 
 PointSelectorWidget::PointSelectorWidget(QWidget* parent, const Initializer& init)

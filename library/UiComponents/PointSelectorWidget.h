@@ -57,6 +57,8 @@ public:
 
     /// @p parent owns the field. Emits nothing.
     PointSelectorWidget(QWidget* parent, const Initializer& init);
+    /// Of 0 to 1 in both directions, with 2 decimals, for forms.
+    explicit PointSelectorWidget(QWidget* parent);
     ~PointSelectorWidget() override;
 
     /// The position that the spin boxes show, to which they have rounded a point picked on the plane.
@@ -86,8 +88,6 @@ protected:
     void changeEvent(QEvent* e) override;
 
 private:
-    class Private;
-    // True while the parts are synchronised: what they report meanwhile goes to the host only.
-    bool updating = false;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

@@ -21,14 +21,6 @@
 
 namespace {
 
-enum class State {
-    Idle,
-    Picking,
-    Sampling, ///< A pipette runs, and the pop-up waits for it.
-    Closing,  ///< The pop-up is closed, and the end not reported yet.
-    Finishing,
-};
-
 bool isEqual(const PopupColorPicker::Options& one, const PopupColorPicker::Options& other)
 {
     return one.nullColor == other.nullColor && one.opacity == other.opacity &&
@@ -75,6 +67,14 @@ void focusColor(const ColorPickerWidget* panel)
 class PopupColorPicker::Private
 {
 public:
+    enum class State {
+        Idle,
+        Picking,
+        Sampling, ///< A pipette runs, and the pop-up waits for it.
+        Closing,  ///< The pop-up is closed, and the end not reported yet.
+        Finishing,
+    };
+
     explicit Private(PopupColorPicker* picker)
         : q(picker)
     {
@@ -493,7 +493,7 @@ ColorPickerWidget* PopupColorPicker::panel() const
 
 bool PopupColorPicker::isInProgress() const
 {
-    return d->state != State::Idle;
+    return d->state != Private::State::Idle;
 }
 
 void PopupColorPicker::pick()

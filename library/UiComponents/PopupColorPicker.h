@@ -84,7 +84,7 @@ public:
     void setColor(const std::optional<QColor>& color) override;
 
 private:
-    class Popup;
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Popup;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

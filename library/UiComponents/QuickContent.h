@@ -88,7 +88,7 @@ private:
     bool loadQml(const QString& path);
     QSizeF getSize() const;
 
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };
 

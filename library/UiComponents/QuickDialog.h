@@ -87,7 +87,7 @@ protected:
     Q_INVOKABLE QPoint cursorPos() const;
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };
 

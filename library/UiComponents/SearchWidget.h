@@ -98,6 +98,6 @@ private:
     QColor m_placeholderColor;
     QColor m_placeholderHoverColor;
     QColor m_placeholderDisabledColor;
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

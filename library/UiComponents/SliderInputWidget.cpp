@@ -16,6 +16,11 @@ public:
     using SliderFieldParts::SliderFieldParts;
 };
 
+SliderInputWidget::SliderInputWidget(QWidget* parent)
+    : SliderInputWidget(parent, {0, 100})
+{
+}
+
 SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))

@@ -44,6 +44,8 @@ public:
 
     /// @p parent owns the field. Emits nothing.
     SliderInputWidget(QWidget* parent, const Initializer& init);
+    /// Of 0 to 100, for forms.
+    explicit SliderInputWidget(QWidget* parent);
     ~SliderInputWidget() override;
 
     /// The value that both parts show.
@@ -63,6 +65,6 @@ Q_SIGNALS:
     void valueChanged(int value);
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

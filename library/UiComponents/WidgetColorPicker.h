@@ -82,6 +82,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::shared_ptr<Private> d;
 };

@@ -92,6 +92,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    class Private;
+    class UICOMPONENTS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

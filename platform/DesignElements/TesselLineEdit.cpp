@@ -7,6 +7,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMimeData>
+#include <QPalette>
 #include <QStyle>
 
 namespace {
@@ -25,9 +26,15 @@ bool differInPlaceholderOnly(QPalette one, const QPalette& other)
 
 namespace Orvane::Tessel {
 
+class TesselLineEdit::Private
+{
+public:
+    QPalette knownPalette;
+};
+
 TesselLineEdit::TesselLineEdit(QWidget* parent)
     : QLineEdit(parent)
-    , m_knownPalette(palette())
+    , d(new Private{palette()})
 {
 }
 
@@ -46,8 +53,8 @@ void TesselLineEdit::dimPlaceholder()
     QPalette dimmed = palette();
     // A sheet sets all roles of a text. A palette that differs in this one alone was set on purpose, among
     // others by this function.
-    const bool isWanted = differInPlaceholderOnly(m_knownPalette, dimmed);
-    m_knownPalette = dimmed;
+    const bool isWanted = differInPlaceholderOnly(d->knownPalette, dimmed);
+    d->knownPalette = dimmed;
     if (isWanted || !style()->inherits("QStyleSheetStyle")) {
         return;
     }
@@ -60,7 +67,7 @@ void TesselLineEdit::dimPlaceholder()
             dimmed.setBrush(group, QPalette::PlaceholderText, brush);
         }
     }
-    if (dimmed != m_knownPalette) {
+    if (dimmed != d->knownPalette) {
         setPalette(dimmed);
     }
 }

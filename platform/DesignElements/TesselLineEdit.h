@@ -3,7 +3,8 @@
 #include <DesignElements/DesignElementsExport.h>
 
 #include <QLineEdit>
-#include <QPalette>
+
+#include <memory>
 
 namespace Orvane::Tessel {
 
@@ -41,7 +42,8 @@ protected:
 private:
     void dimPlaceholder();
 
-    QPalette m_knownPalette;
+    class DESIGNELEMENTS_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Orvane::Tessel

@@ -126,6 +126,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    class Private;
+    class EDITORWIDGETS_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

@@ -3,11 +3,21 @@
 #include "HighlightFrameOverlay.h"
 
 #include <QChildEvent>
+#include <QPointer>
 
 namespace Orvane::Gui {
 
+class HighlightFrame::Private
+{
+public:
+    const QPointer<QWidget> target;
+    QPointer<HighlightFrameOverlay> overlay;
+    /// The overlay's address, for the event of its removal, when the pointer is null already.
+    const QObject* overlayChild = nullptr;
+};
+
 HighlightFrame::HighlightFrame(QWidget* target)
-    : m_target(target)
+    : d(new Private{target, nullptr, nullptr})
 {
     if (!target) {
         return;
@@ -17,39 +27,39 @@ HighlightFrame::HighlightFrame(QWidget* target)
     }
     // Created without a parent, so that the filter knows it and can keep its ChildAdded event from the
     // target.
-    m_overlay = new HighlightFrameOverlay;
-    m_overlayChild = m_overlay;
+    d->overlay = new HighlightFrameOverlay;
+    d->overlayChild = d->overlay;
     target->installEventFilter(this);
-    m_overlay->setParent(target);
-    m_overlay->coverParent();
-    m_overlay->show();
+    d->overlay->setParent(target);
+    d->overlay->coverParent();
+    d->overlay->show();
 }
 
 HighlightFrame::~HighlightFrame()
 {
-    if (!m_overlay) {
+    if (!d->overlay) {
         return;
     }
-    if (m_target && !m_target->testAttribute(Qt::WA_WState_InPaintEvent)) {
-        m_overlay->erase();
+    if (d->target && !d->target->testAttribute(Qt::WA_WState_InPaintEvent)) {
+        d->overlay->erase();
     }
-    if (m_overlay) {
+    if (d->overlay) {
         // The filter keeps the ChildRemoved event from the target. deleteLater(), since a target that is
         // being hidden may be iterating over its children.
-        m_overlay->hide();
-        m_overlay->setParent(nullptr);
-        m_overlay->deleteLater();
+        d->overlay->hide();
+        d->overlay->setParent(nullptr);
+        d->overlay->deleteLater();
     }
 }
 
 bool HighlightFrame::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_target) {
+    if (watched == d->target) {
         if (targetEvent(event)) {
             return true;
         }
-    } else if (m_overlay && event->type() == QEvent::ZOrderChange && watched->parent() == m_target) {
-        m_overlay->raise();
+    } else if (d->overlay && event->type() == QEvent::ZOrderChange && watched->parent() == d->target) {
+        d->overlay->raise();
     }
     return QObject::eventFilter(watched, event);
 }
@@ -59,8 +69,8 @@ bool HighlightFrame::targetEvent(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Resize:
-        if (m_overlay) {
-            m_overlay->coverParent();
+        if (d->overlay) {
+            d->overlay->coverParent();
         }
         return false;
     case QEvent::ChildAdded:
@@ -75,18 +85,18 @@ bool HighlightFrame::targetEvent(QEvent* event)
 bool HighlightFrame::targetChildEvent(const QChildEvent* event)
 {
     QObject* const child = event->child();
-    if (child == m_overlayChild) {
+    if (child == d->overlayChild) {
         if (event->removed()) {
             // Another child may get the same address.
-            m_overlayChild = nullptr;
+            d->overlayChild = nullptr;
         }
         return true;
     }
     if (event->removed()) {
         child->removeEventFilter(this);
-    } else if (event->added() && m_overlay && child->isWidgetType()) {
+    } else if (event->added() && d->overlay && child->isWidgetType()) {
         watchSibling(child);
-        m_overlay->raise();
+        d->overlay->raise();
     }
     return false;
 }

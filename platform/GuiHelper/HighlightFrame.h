@@ -3,9 +3,9 @@
 #include <GuiHelper/GuiHelperExport.h>
 
 #include <QObject>
-#include <QPointer>
 
-class HighlightFrameOverlay;
+#include <memory>
+
 class QChildEvent;
 class QWidget;
 
@@ -47,10 +47,8 @@ private:
     bool targetChildEvent(const QChildEvent* event);
     void watchSibling(QObject* child);
 
-    const QPointer<QWidget> m_target;
-    QPointer<HighlightFrameOverlay> m_overlay;
-    /// The overlay's address, for the event of its removal, when the pointer is null already.
-    const QObject* m_overlayChild = nullptr;
+    class GUIHELPER_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Orvane::Gui

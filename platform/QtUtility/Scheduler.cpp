@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QTimerEvent>
 
+#include <atomic>
+
 namespace {
 
 // The bits of the state. One atomic value holds both, so that all threads see them change together.
@@ -15,9 +17,21 @@ constexpr int enabledAndPending = enabledBit | pendingBit;
 
 namespace Orvane::Util {
 
+class SchedulerBase::Private
+{
+public:
+    explicit Private(int delayMs)
+        : delay(qMax(0, delayMs))
+    {
+    }
+
+    std::atomic<int> state{enabledBit};
+    const int delay;
+    int timerId = 0;
+};
+
 SchedulerBase::SchedulerBase(int delayMs)
-    : m_state(enabledBit)
-    , m_delay(qMax(0, delayMs))
+    : d(std::make_unique<Private>(delayMs))
 {
 }
 
@@ -26,7 +40,7 @@ SchedulerBase::~SchedulerBase() = default;
 void SchedulerBase::schedule()
 {
     int idle = enabledBit;
-    if (m_state.compare_exchange_strong(idle, enabledAndPending)) {
+    if (d->state.compare_exchange_strong(idle, enabledAndPending)) {
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     }
 }
@@ -34,20 +48,20 @@ void SchedulerBase::schedule()
 void SchedulerBase::setEnabled(bool enabled)
 {
     if (enabled) {
-        m_state.fetch_or(enabledBit);
+        d->state.fetch_or(enabledBit);
     } else {
-        m_state.fetch_and(~enabledBit);
+        d->state.fetch_and(~enabledBit);
     }
 }
 
 bool SchedulerBase::isEnabled() const
 {
-    return (m_state.load() & enabledBit) != 0;
+    return (d->state.load() & enabledBit) != 0;
 }
 
 bool SchedulerBase::isPending() const
 {
-    return (m_state.load() & pendingBit) != 0;
+    return (d->state.load() & pendingBit) != 0;
 }
 
 void SchedulerBase::customEvent(QEvent* event)
@@ -56,25 +70,25 @@ void SchedulerBase::customEvent(QEvent* event)
         QObject::customEvent(event);
         return;
     }
-    if (m_state.load() == enabledAndPending) {
-        if (m_timerId == 0) {
-            m_timerId = startTimer(m_delay, Qt::CoarseTimer);
+    if (d->state.load() == enabledAndPending) {
+        if (d->timerId == 0) {
+            d->timerId = startTimer(d->delay, Qt::CoarseTimer);
         }
         return;
     }
     int disabledAndPending = pendingBit;
-    m_state.compare_exchange_strong(disabledAndPending, 0);
+    d->state.compare_exchange_strong(disabledAndPending, 0);
 }
 
 void SchedulerBase::timerEvent(QTimerEvent* event)
 {
-    if (event->timerId() != m_timerId) {
+    if (event->timerId() != d->timerId) {
         QObject::timerEvent(event);
         return;
     }
-    killTimer(m_timerId);
-    m_timerId = 0;
-    const int before = m_state.fetch_and(~pendingBit);
+    killTimer(d->timerId);
+    d->timerId = 0;
+    const int before = d->state.fetch_and(~pendingBit);
     if ((before & enabledBit) != 0) {
         call(); // may have deleted this
     }

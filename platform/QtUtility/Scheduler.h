@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-#include <atomic>
+#include <memory>
 
 namespace Orvane::Util {
 
@@ -41,9 +41,8 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    std::atomic<int> m_state;
-    const int m_delay;
-    int m_timerId = 0;
+    class QTUTILITY_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**

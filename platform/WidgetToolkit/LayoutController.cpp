@@ -4,6 +4,8 @@
 #include <QGridLayout>
 #include <QLayout>
 
+#include <optional>
+
 namespace {
 
 int horizontalSpacingOf(const QLayout* layout)
@@ -36,7 +38,37 @@ QMargins marginsOf(const QLayout* layout)
 
 } // namespace
 
-LayoutController::LayoutController() = default;
+class LayoutController::Private
+{
+public:
+    explicit Private(LayoutController* owner)
+        : q(owner)
+    {
+    }
+
+    void set(std::optional<int>& value, int pixels);
+
+    LayoutController* const q;
+    std::optional<int> marginLeft;
+    std::optional<int> marginTop;
+    std::optional<int> marginRight;
+    std::optional<int> marginBottom;
+    std::optional<int> horizontalSpacing;
+    std::optional<int> verticalSpacing;
+};
+
+void LayoutController::Private::set(std::optional<int>& value, int pixels)
+{
+    if (pixels >= 0) {
+        value = pixels;
+        q->applyLayoutMetrics();
+    }
+}
+
+LayoutController::LayoutController()
+    : d(std::make_unique<Private>(this))
+{
+}
 
 LayoutController::~LayoutController() = default;
 
@@ -50,42 +82,42 @@ void LayoutController::setLayoutMargin(int pixels)
 
 int LayoutController::layoutMarginLeft() const
 {
-    return m_marginLeft.value_or(marginsOf(getLayout()).left());
+    return d->marginLeft.value_or(marginsOf(getLayout()).left());
 }
 
 void LayoutController::setLayoutMarginLeft(int pixels)
 {
-    set(m_marginLeft, pixels);
+    d->set(d->marginLeft, pixels);
 }
 
 int LayoutController::layoutMarginTop() const
 {
-    return m_marginTop.value_or(marginsOf(getLayout()).top());
+    return d->marginTop.value_or(marginsOf(getLayout()).top());
 }
 
 void LayoutController::setLayoutMarginTop(int pixels)
 {
-    set(m_marginTop, pixels);
+    d->set(d->marginTop, pixels);
 }
 
 int LayoutController::layoutMarginRight() const
 {
-    return m_marginRight.value_or(marginsOf(getLayout()).right());
+    return d->marginRight.value_or(marginsOf(getLayout()).right());
 }
 
 void LayoutController::setLayoutMarginRight(int pixels)
 {
-    set(m_marginRight, pixels);
+    d->set(d->marginRight, pixels);
 }
 
 int LayoutController::layoutMarginBottom() const
 {
-    return m_marginBottom.value_or(marginsOf(getLayout()).bottom());
+    return d->marginBottom.value_or(marginsOf(getLayout()).bottom());
 }
 
 void LayoutController::setLayoutMarginBottom(int pixels)
 {
-    set(m_marginBottom, pixels);
+    d->set(d->marginBottom, pixels);
 }
 
 void LayoutController::setLayoutSpacing(int pixels)
@@ -96,22 +128,22 @@ void LayoutController::setLayoutSpacing(int pixels)
 
 int LayoutController::layoutHorizontalSpacing() const
 {
-    return m_horizontalSpacing.value_or(horizontalSpacingOf(getLayout()));
+    return d->horizontalSpacing.value_or(horizontalSpacingOf(getLayout()));
 }
 
 void LayoutController::setLayoutHorizontalSpacing(int pixels)
 {
-    set(m_horizontalSpacing, pixels);
+    d->set(d->horizontalSpacing, pixels);
 }
 
 int LayoutController::layoutVerticalSpacing() const
 {
-    return m_verticalSpacing.value_or(verticalSpacingOf(getLayout()));
+    return d->verticalSpacing.value_or(verticalSpacingOf(getLayout()));
 }
 
 void LayoutController::setLayoutVerticalSpacing(int pixels)
 {
-    set(m_verticalSpacing, pixels);
+    d->set(d->verticalSpacing, pixels);
 }
 
 void LayoutController::applyLayoutMetrics()
@@ -121,13 +153,13 @@ void LayoutController::applyLayoutMetrics()
         return;
     }
     const QMargins now = layout->contentsMargins();
-    const QMargins wanted(m_marginLeft.value_or(now.left()), m_marginTop.value_or(now.top()),
-                          m_marginRight.value_or(now.right()), m_marginBottom.value_or(now.bottom()));
+    const QMargins wanted(d->marginLeft.value_or(now.left()), d->marginTop.value_or(now.top()),
+                          d->marginRight.value_or(now.right()), d->marginBottom.value_or(now.bottom()));
     if (wanted != now) {
         layout->setContentsMargins(wanted);
     }
-    const int horizontal = m_horizontalSpacing.value_or(horizontalSpacingOf(layout));
-    const int vertical = m_verticalSpacing.value_or(verticalSpacingOf(layout));
+    const int horizontal = d->horizontalSpacing.value_or(horizontalSpacingOf(layout));
+    const int vertical = d->verticalSpacing.value_or(verticalSpacingOf(layout));
     if (auto* grid = qobject_cast<QGridLayout*>(layout)) {
         if (grid->horizontalSpacing() != horizontal) {
             grid->setHorizontalSpacing(horizontal);
@@ -140,13 +172,5 @@ void LayoutController::applyLayoutMetrics()
     const int spacing = isColumn(layout) ? vertical : horizontal;
     if (layout->spacing() != spacing) {
         layout->setSpacing(spacing);
-    }
-}
-
-void LayoutController::set(std::optional<int>& value, int pixels)
-{
-    if (pixels >= 0) {
-        value = pixels;
-        applyLayoutMetrics();
     }
 }

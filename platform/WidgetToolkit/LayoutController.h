@@ -2,7 +2,7 @@
 
 #include <WidgetToolkit/WidgetToolkitExport.h>
 
-#include <optional>
+#include <memory>
 
 class QLayout;
 
@@ -68,14 +68,8 @@ protected:
     void applyLayoutMetrics();
 
 private:
-    void set(std::optional<int>& value, int pixels);
-
-    std::optional<int> m_marginLeft;
-    std::optional<int> m_marginTop;
-    std::optional<int> m_marginRight;
-    std::optional<int> m_marginBottom;
-    std::optional<int> m_horizontalSpacing;
-    std::optional<int> m_verticalSpacing;
+    class WIDGETTOOLKIT_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };
 
 /// The properties of a controller that is a QObject; belongs into its class, after Q_OBJECT.

@@ -172,14 +172,24 @@ int wheelSteps(const QWheelEvent& event, const QSlider& slider, double& remainde
 
 } // namespace
 
+class OvCustomSlider::Private
+{
+public:
+    double grip = 0.0;           // during a drag: distance of cursor and handle's middle, in pixels
+    double wheelRemainder = 0.0; // the wheel's turn that is less than a step yet
+    QStyle::SubControl hovered = QStyle::SC_None;
+};
+
 OvCustomSlider::OvCustomSlider(QWidget* parent)
     : QSlider(parent)
+    , d(std::make_unique<Private>())
 {
     setFocusPolicy(Qt::StrongFocus);
 }
 
 OvCustomSlider::OvCustomSlider(Qt::Orientation orientation, QWidget* parent)
     : QSlider(orientation, parent)
+    , d(std::make_unique<Private>())
 {
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -204,8 +214,8 @@ bool OvCustomSlider::event(QEvent* event)
     option.subControls = QStyle::SC_All;
     const auto part = style()->hitTestComplexControl(QStyle::CC_Slider, &option,
                                                      static_cast<QHoverEvent*>(event)->pos(), this);
-    if (part != m_hovered) {
-        m_hovered = part;
+    if (part != d->hovered) {
+        d->hovered = part;
         update();
     }
     // QSlider hit-tests with its own style option.
@@ -226,7 +236,7 @@ void OvCustomSlider::paintEvent(QPaintEvent* event)
         option.activeSubControls = QStyle::SC_SliderHandle;
         option.state |= QStyle::State_Sunken;
     } else {
-        option.activeSubControls = m_hovered;
+        option.activeSubControls = d->hovered;
     }
     style()->drawComplexControl(QStyle::CC_Slider, &option, &painter, this);
 }
@@ -247,7 +257,7 @@ void OvCustomSlider::mousePressEvent(QMouseEvent* event)
     const Track track(this, option);
     const double place = placeOf(this, event->pos());
     const Span span = along(orientation(), handle);
-    m_grip = place - (isOnHandle ? span.start + span.length / 2 : track.bounded(place));
+    d->grip = place - (isOnHandle ? span.start + span.length / 2 : track.bounded(place));
     update();
     const QPointer<OvCustomSlider> self = this;
     setSliderDown(true);
@@ -265,7 +275,7 @@ void OvCustomSlider::mouseMoveEvent(QMouseEvent* event)
     event->accept();
     QStyleOptionSlider option;
     initStyleOption(&option);
-    dragHandle(Track(this, option).positionAt(placeOf(this, event->pos()) - m_grip));
+    dragHandle(Track(this, option).positionAt(placeOf(this, event->pos()) - d->grip));
 }
 
 void OvCustomSlider::mouseReleaseEvent(QMouseEvent* event)
@@ -309,7 +319,7 @@ void OvCustomSlider::wheelEvent(QWheelEvent* event)
         return;
     }
     event->accept();
-    const int steps = wheelSteps(*event, *this, m_wheelRemainder);
+    const int steps = wheelSteps(*event, *this, d->wheelRemainder);
     if (steps == 0) {
         return;
     }

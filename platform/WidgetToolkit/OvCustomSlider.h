@@ -3,7 +3,8 @@
 #include <WidgetToolkit/WidgetToolkitExport.h>
 
 #include <QSlider>
-#include <QStyle>
+
+#include <memory>
 
 /**
  * A QSlider that goes where it is clicked and is safe to scroll past.
@@ -55,7 +56,6 @@ private:
     void dragHandle(int position);
     void perform(SliderAction action);
 
-    double m_grip = 0.0;           // during a drag: distance of cursor and handle's middle, in pixels
-    double m_wheelRemainder = 0.0; // the wheel's turn that is less than a step yet
-    QStyle::SubControl m_hovered = QStyle::SC_None;
+    class WIDGETTOOLKIT_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };

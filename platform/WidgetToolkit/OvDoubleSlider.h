@@ -55,6 +55,6 @@ protected:
     void sliderChange(SliderChange change) override;
 
 private:
-    class Private;
+    class WIDGETTOOLKIT_NO_EXPORT Private;
     const std::unique_ptr<Private> d;
 };

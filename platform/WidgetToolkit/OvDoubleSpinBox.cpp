@@ -17,20 +17,32 @@ bool isDotOrComma(QChar character)
 
 } // namespace
 
+class OvDoubleSpinBox::Private
+{
+public:
+    bool bothMarks = false;
+};
+
 OvDoubleSpinBox::OvDoubleSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent)
+    , d(std::make_unique<Private>())
 {
     setFocusPolicy(Qt::StrongFocus);
 }
 
 OvDoubleSpinBox::~OvDoubleSpinBox() = default;
 
+bool OvDoubleSpinBox::bothDecimalMarksAccepted() const
+{
+    return d->bothMarks;
+}
+
 void OvDoubleSpinBox::setBothDecimalMarksAccepted(bool accepted)
 {
-    if (m_bothDecimalMarksAccepted == accepted) {
+    if (d->bothMarks == accepted) {
         return;
     }
-    m_bothDecimalMarksAccepted = accepted;
+    d->bothMarks = accepted;
     if (isGroupSeparatorShown()) {
         setValue(value());
     }
@@ -48,13 +60,13 @@ void OvDoubleSpinBox::setDecimals(int decimals)
 
 QValidator::State OvDoubleSpinBox::validate(QString& input, int& pos) const
 {
-    const QString given = m_bothDecimalMarksAccepted ? withLocaleMark(input) : input;
+    const QString given = d->bothMarks ? withLocaleMark(input) : input;
     QString text = given;
     QValidator::State state = QDoubleSpinBox::validate(text, pos);
     if (state == QValidator::Invalid && maximum() < 0.0 && isNegativeZero(given)) {
         state = QValidator::Intermediate;
     }
-    if (!m_bothDecimalMarksAccepted) {
+    if (!d->bothMarks) {
         input = text;
         return state;
     }
@@ -68,13 +80,13 @@ QValidator::State OvDoubleSpinBox::validate(QString& input, int& pos) const
 
 double OvDoubleSpinBox::valueFromText(const QString& text) const
 {
-    return QDoubleSpinBox::valueFromText(m_bothDecimalMarksAccepted ? withLocaleMark(text) : text);
+    return QDoubleSpinBox::valueFromText(d->bothMarks ? withLocaleMark(text) : text);
 }
 
 QString OvDoubleSpinBox::textFromValue(double value) const
 {
     QString text = QDoubleSpinBox::textFromValue(value);
-    if (m_bothDecimalMarksAccepted && isDotOrComma(locale().groupSeparator())) {
+    if (d->bothMarks && isDotOrComma(locale().groupSeparator())) {
         text.remove(locale().groupSeparator());
     }
     return text;
@@ -83,7 +95,7 @@ QString OvDoubleSpinBox::textFromValue(double value) const
 void OvDoubleSpinBox::fixup(QString& input) const
 {
     // The base class removes group separators, which would turn "1,5" into 15.
-    if (!m_bothDecimalMarksAccepted || !isDotOrComma(locale().groupSeparator())) {
+    if (!d->bothMarks || !isDotOrComma(locale().groupSeparator())) {
         QDoubleSpinBox::fixup(input);
     }
 }

@@ -4,6 +4,8 @@
 
 #include <QDoubleSpinBox>
 
+#include <memory>
+
 /**
  * A QDoubleSpinBox that is safe to scroll past, quick to type into and, on request, takes both decimal marks.
  *
@@ -31,7 +33,7 @@ public:
     /// refused, and a group separator that is one of the two is not shown even if isGroupSeparatorShown().
     /// Text keeps the typed mark until it is committed, and is then shown in the locale's notation. The
     /// locale's own mark, where it is a third one, is accepted too.
-    bool bothDecimalMarksAccepted() const { return m_bothDecimalMarksAccepted; }
+    bool bothDecimalMarksAccepted() const;
     void setBothDecimalMarksAccepted(bool accepted);
 
     /// As QDoubleSpinBox::setDecimals(), and emits decimalsChanged(). A call through a pointer to
@@ -58,5 +60,6 @@ private:
     bool isMark(QChar character) const;
     bool isNegativeZero(const QString& text) const;
 
-    bool m_bothDecimalMarksAccepted = false;
+    class WIDGETTOOLKIT_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };

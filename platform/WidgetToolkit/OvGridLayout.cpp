@@ -29,8 +29,16 @@ Qt::Alignment toQt(LayoutHelpers::Alignment alignment)
 
 } // namespace
 
+class OvGridLayout::Private
+{
+public:
+    // QGridLayout counts a row as soon as something asks for it, and an empty grid has one already.
+    int nextRow = 0;
+};
+
 OvGridLayout::OvGridLayout(QWidget* parent)
     : QGridLayout(parent)
+    , d(std::make_unique<Private>())
 {
     setContentsMargins(0, 0, 0, 0);
     setSpacing(0);
@@ -72,7 +80,7 @@ OvGridLayout* OvGridLayout::addRow(std::initializer_list<LayoutHelpers::GridItem
 
 int OvGridLayout::beginRow(int flag)
 {
-    int row = m_nextRow;
+    int row = d->nextRow;
     for (int i = 0; i < count(); ++i) {
         int itemRow = 0;
         int itemColumn = 0;
@@ -81,7 +89,7 @@ int OvGridLayout::beginRow(int flag)
         getItemPosition(i, &itemRow, &itemColumn, &rowSpan, &columnSpan);
         row = qMax(row, itemRow + rowSpan);
     }
-    m_nextRow = row + 1;
+    d->nextRow = row + 1;
     setRowStretch(row, qMax(0, flag));
     return row;
 }

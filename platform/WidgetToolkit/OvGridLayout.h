@@ -6,6 +6,7 @@
 #include <QGridLayout>
 
 #include <initializer_list>
+#include <memory>
 
 /**
  * A grid layout that is filled row by row.
@@ -46,6 +47,6 @@ public:
 private:
     int beginRow(int flag);
 
-    // QGridLayout counts a row as soon as something asks for it, and an empty grid has one already.
-    int m_nextRow = 0;
+    class WIDGETTOOLKIT_NO_EXPORT Private;
+    const std::unique_ptr<Private> d;
 };
