@@ -10,8 +10,8 @@
 #include "CustomColors.h"
 #include "LabelFocus.h"
 #include "Pipette.h"
+#include "PopupPosition.h"
 #include "ScreenColorSource.h"
-#include "SelectorPlacement.h"
 #include "SheetlessBuild.h"
 
 #include <DesignElements/TesselLineEdit.h>
@@ -681,8 +681,8 @@ void ColorPickerWidget::Private::placeDialog() const
     std::for_each(parts.crbegin(), parts.crend(), [](QWidget* part) { part->updateGeometry(); });
     dialog->adjustSize();
     const QRect button(addCustomColorButton->mapToGlobal(QPoint()), addCustomColorButton->size());
-    dialog->move(SelectorPlacement::besideButton(button, dialog->size(), colorDialogOffset,
-                                                 SelectorPlacement::areaFor(*addCustomColorButton)));
+    dialog->move(
+        selectorPosition(button, dialog->size(), colorDialogOffset, popupArea(*addCustomColorButton)));
 }
 
 /// Closes the selector without emitting, since the panel is being hidden and may be deleted next. The button

@@ -1,31 +1,78 @@
 #include "PopupPosition.h"
 
-#include "SelectorPlacement.h"
-
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
+
+#include <initializer_list>
+#include <utility>
 
 namespace {
 
 // Between the field and the pop-up.
 constexpr int Gap = 6;
 
+/// The first of @p corners from which a pop-up inside @p area leaves @p kept free; else the first.
+QPoint firstBeside(const QRect& kept, const QSize& size, const QRect& area,
+                   std::initializer_list<QPoint> corners)
+{
+    const auto inside = [&](const QPoint& corner) {
+        const QPoint last(area.x() + area.width() - size.width(), area.y() + area.height() - size.height());
+        return area.isEmpty() ? corner
+                              : QPoint(qMax(area.x(), qMin(corner.x(), last.x())),
+                                       qMax(area.y(), qMin(corner.y(), last.y())));
+    };
+    for (const QPoint& corner : corners) {
+        if (!kept.intersects(QRect(inside(corner), size))) {
+            return inside(corner);
+        }
+    }
+    return inside(*corners.begin());
+}
+
 } // namespace
 
-QPoint popupPosition(const QRect& field, const QSize& size, const QRect& screen,
-                     Qt::LayoutDirection direction)
+QPoint popupPosition(const QRect& field, const QSize& size, const QRect& area, Qt::LayoutDirection direction)
 {
-    const bool isRightToLeft = direction == Qt::RightToLeft;
-    const int x = isRightToLeft ? field.x() + field.width() - size.width() : field.x();
-    const int below = field.y() + field.height() + Gap;
-    const bool hasRoomBelow = below + size.height() <= screen.y() + screen.height();
-    const int y = hasRoomBelow ? below : field.y() - Gap - size.height();
-    const int lastX = qMax(screen.x(), screen.x() + screen.width() - size.width());
-    const int lastY = qMax(screen.y(), screen.y() + screen.height() - size.height());
-    return {qBound(screen.x(), x, lastX), qBound(screen.y(), y, lastY)};
+    int before = field.x() - Gap - size.width();
+    int after = field.x() + field.width() + Gap;
+    int level = field.x();
+    if (direction == Qt::RightToLeft) {
+        std::swap(before, after);
+        level += field.width() - size.width();
+    }
+    return firstBeside(field.adjusted(-Gap, -Gap, Gap, Gap), size, area,
+                       {{level, field.y() + field.height() + Gap},
+                        {level, field.y() - Gap - size.height()},
+                        {after, field.y()},
+                        {before, field.y()}});
 }
 
 QPoint popupPosition(const QWidget* field, const QSize& size)
 {
-    const QRect area(field->mapToGlobal(QPoint()), field->size());
-    return popupPosition(area, size, SelectorPlacement::areaFor(*field), field->layoutDirection());
+    const QRect place(field->mapToGlobal(QPoint()), field->size());
+    return popupPosition(place, size, popupArea(*field), field->layoutDirection());
+}
+
+QPoint selectorPosition(const QRect& button, const QSize& size, int offset, const QRect& area)
+{
+    const int y = button.y() + button.height() - size.height();
+    return firstBeside(button.adjusted(-offset, 0, offset, 0), size, area,
+                       {{button.x() + button.width() + offset, y}, {button.x() - offset - size.width(), y}});
+}
+
+QRect popupArea(const QWidget& widget)
+{
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        const QWidget* window = widget.window();
+        while (window->windowType() == Qt::Popup && window->parentWidget()) {
+            window = window->parentWidget()->window();
+        }
+        return window->geometry();
+    }
+    const QScreen* screen = QGuiApplication::screenAt(widget.mapToGlobal(widget.rect().center()));
+    if (!screen) {
+        screen = widget.screen();
+    }
+    return screen ? screen->availableGeometry() : QRect();
 }
