@@ -25,7 +25,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("style");
         QTest::newRow("dark") << "dark";
         QTest::newRow("light") << "light";
-        QTest::newRow("contrast") << "contrast";
+        QTest::newRow("high-contrast") << "high-contrast";
         QTest::newRow("none") << "none";
     }
 
