@@ -1684,6 +1684,10 @@
         <translation>Ein Knopf, der seine Farbe trägt</translation>
     </message>
     <message>
+        <source>Before its first pick</source>
+        <translation>Vor der ersten Aufnahme</translation>
+    </message>
+    <message>
         <source>Pick a colour from the film</source>
         <translation>Farbe aus dem Film aufnehmen</translation>
     </message>

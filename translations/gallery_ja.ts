@@ -1684,6 +1684,10 @@
         <translation>取得した色になるボタン</translation>
     </message>
     <message>
+        <source>Before its first pick</source>
+        <translation>最初の取得の前</translation>
+    </message>
+    <message>
         <source>Pick a colour from the film</source>
         <translation>映像から色を取得</translation>
     </message>

@@ -146,6 +146,12 @@ void PageRegistry::widgetColorPicker(Page* page)
             button->setPickerStylingObject(look());
             button->setColor(sample);
         });
+    page->addTwins<WidgetColorPickerButton>(tr("Before its first pick"),
+                                            [film](WidgetColorPickerButton* button) {
+                                                button->setAccessibleName(tr("Pick a colour from the film"));
+                                                button->setTargetWidget(film);
+                                                button->setPickerStylingObject(look());
+                                            });
     const auto fields = page->addTwins<ColorPickerButton>(
         tr("A colour button with this picker"), [film, sample](ColorPickerButton* field) {
             field->setAccessibleName(tr("Pick a colour from the film"));

@@ -4,6 +4,8 @@
 #include "AccessibleFactory.h"
 #include "WidgetColorPicker.h"
 
+#include <WidgetToolkit/Util.h>
+
 #include <QPointer>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -29,6 +31,7 @@ WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
 {
     AccessibleFactory::install();
     connect(this, &QAbstractButton::clicked, this, &WidgetColorPickerButton::startPicking);
+    setProperty("nullColor", true);
     setTargetWidget(nullptr);
 }
 
@@ -70,6 +73,7 @@ void WidgetColorPickerButton::setColor(const QColor& color)
         return;
     }
     d->color = color;
+    Util::applyProperty(this, "nullColor", !color.isValid());
     if (d->changeSelfColor) {
         setStyleSheet(QStringLiteral("QToolButton { background-color: %1 }").arg(color.name()));
         update();

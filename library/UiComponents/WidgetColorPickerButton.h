@@ -25,7 +25,10 @@ class WidgetColorPickerStylingObject;
  * While changeSelfColor() is on, which is the default, the button paints nothing but the face of a push
  * button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into the
  * button's own style sheet, in the place of what was there. Border, size and padding are those that the
- * application's sheet gives to WidgetColorPickerButton or QToolButton. Off, it is a QToolButton as any other.
+ * application's sheet gives to WidgetColorPickerButton or QToolButton. Before the first colour, the property
+ * "nullColor" (bool) is true, and a sheet may give it a picture:
+ *     WidgetColorPickerButton[nullColor="true"] { background-image: url(dropper.png); }
+ * Off, it is a QToolButton as any other.
  *
  * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key
  * ends it; for users without one, offer a colour field with a PopupColorPicker too, whose panel takes the

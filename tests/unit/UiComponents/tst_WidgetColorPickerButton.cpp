@@ -214,6 +214,20 @@ private Q_SLOTS:
         QCOMPARE(m_button->grab().toImage().pixelColor(m_button->rect().center()), QColor(200, 100, 50));
     }
 
+    void faceOfNoColorMayHaveAPicture()
+    {
+        m_stage->window->setStyleSheet(
+            QStringLiteral("QToolButton { border: 1px solid black; background: green; }"
+                           "QToolButton[nullColor=\"true\"] { background: qlineargradient(stop: 0 red); }"));
+        const auto face = [this] { return m_button->grab().toImage().pixelColor(m_button->rect().center()); };
+        QCOMPARE(face(), QColor(Qt::red));
+        m_button->setColor(QColor(200, 100, 50));
+        QCOMPARE(m_button->property("nullColor"), QVariant(false));
+        QCOMPARE(face(), QColor(200, 100, 50));
+        m_button->setColor(QColor());
+        QCOMPARE(m_button->property("nullColor"), QVariant(true));
+    }
+
     void pressedFaceIsSeen()
     {
         m_button->setColor(QColor(200, 100, 50));

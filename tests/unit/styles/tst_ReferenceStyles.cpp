@@ -881,6 +881,25 @@ private Q_SLOTS:
         QVERIFY2(others.isEmpty(), qPrintable(others.join(QLatin1String(", "))));
     }
 
+    // Its face tells nothing then.
+    void pickingButtonHasAPictureBeforeItsFirstColor()
+    {
+        for (const QString& style : styles()) {
+            qApp->setStyleSheet(resourceSheet(style));
+            QWidget window;
+            WidgetColorPickerButton button(&window);
+            button.ensurePolished();
+            button.resize(button.sizeHint());
+            for (QWidget* target : {static_cast<QWidget*>(nullptr), &window}) {
+                button.setTargetWidget(target);
+                const QImage fresh = button.grab().toImage();
+                Util::applyProperty(&button, "nullColor", false);
+                QVERIFY(button.grab().toImage() != fresh);
+                Util::applyProperty(&button, "nullColor", true);
+            }
+        }
+    }
+
     void focusMovesNothing_data()
     {
         QTest::addColumn<Maker>("maker");
