@@ -11,12 +11,13 @@ class ColorPickerWidget;
  *
  *     field->setPicker(new PopupColorPicker);
  *
- * The pop-up opens below the field, or above it where there is no room, level with its leading edge, and
- * stays on the field's screen (on Wayland, in its window). Each colour that the user chooses is the field's
- * at once. A click elsewhere, Enter and stop() keep it; Escape brings back the value from before, several
- * colours and no colour included. A pick without a choice ends with exactly that value too: the picker asks
- * the ColorPickerButton, its parent, for it when the pick begins, and again at the end for what the host has
- * set meanwhile, which then is the value that Escape brings back. A click on the field closes the pop-up.
+ * The pop-up opens below the field, level with its leading edge, or above it or at its side where there is no
+ * room, and stays on the field's screen (on Wayland, in its window). Each colour that the user chooses is the
+ * field's at once. A click elsewhere, Enter and stop() keep it; Escape brings back the value from before,
+ * several colours and no colour included. A pick without a choice ends with exactly that value too: the
+ * picker asks the ColorPickerButton, its parent, for it when the pick begins, and again at the end for what
+ * the host has set meanwhile, which then is the value that Escape brings back. A click on the field closes
+ * the pop-up.
  * While the panel has its selector open, these close that one first, except stop().
  *
  * The panel's pipette button puts the pop-up aside and picks from the screen with a Pipette, or with the
