@@ -4,6 +4,7 @@
 #include "Components.h"
 #include "Exceptions.h"
 #include "Journal.h"
+#include "RealUser.h"
 
 #include <Settings/Settings.h>
 #include <Settings/SettingsStore.h>
@@ -99,6 +100,12 @@ QWindow* windowOf(const QWidget* widget)
     return window && window->isVisible() ? window : nullptr;
 }
 
+/// Hardly anybody clicks anywhere else.
+QPoint inside(const QWidget* widget, const QPoint& point)
+{
+    return {qAbs(point.x()) % qMax(1, widget->width()), qAbs(point.y()) % qMax(1, widget->height())};
+}
+
 /// As the window system reports it.
 void mouse(World& world, QWidget* widget, const QPoint& point, Qt::MouseButton button, QEvent::Type type)
 {
@@ -112,10 +119,19 @@ void mouse(World& world, QWidget* widget, const QPoint& point, Qt::MouseButton b
     } else if (type == QEvent::MouseButtonRelease) {
         world.buttons &= ~Qt::MouseButtons(button);
     }
-    const QPoint local = widget->mapTo(widget->window(), point);
+    const QPoint local = widget->mapTo(widget->window(), RealUser::isThere() ? inside(widget, point) : point);
     QWidget* const receiver = widget->window()->childAt(local);
     const Under under(world, Doing::Mouse, receiver ? receiver : widget, "mouse");
     const QPoint global = window->mapToGlobal(local);
+    if (RealUser::isThere()) {
+        RealUser::moveMouse(global);
+        if (type == QEvent::MouseButtonPress) {
+            RealUser::press(button);
+        } else if (type == QEvent::MouseButtonRelease) {
+            RealUser::release(button);
+        }
+        return;
+    }
     QCursor::setPos(global);
     static ulong timestamp = 0;
     timestamp += world.random.oneIn(3) ? 1000 : 20;
@@ -211,6 +227,11 @@ void turnWheel(World& world)
                        random.oneOf<int>({0, 120, -120, 1, 100000, INT_MIN}));
     const Under under(world, Doing::Wheel, widget, "wheel");
     Journal::note(QStringLiteral("wheel %1 on %2").arg(angle.y()).arg(World::nameOf(widget)) + at(point));
+    if (RealUser::isThere() && windowOf(widget)) {
+        RealUser::moveMouse(widget->mapToGlobal(inside(widget, point)));
+        RealUser::turnWheel(angle.y() > 0);
+        return;
+    }
     QWheelEvent event(point, widget->mapToGlobal(point), QPoint(), angle, world.buttons, anyModifiers(random),
                       Qt::NoScrollPhase, random.oneIn(4));
     QCoreApplication::sendEvent(widget, &event);
@@ -218,12 +239,22 @@ void turnWheel(World& world)
 
 void pressKey(World& world)
 {
-    static const std::vector<Qt::Key> keys{
-        Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter,     Qt::Key_Escape, Qt::Key_Space,
-        Qt::Key_Up,     Qt::Key_Down,    Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Home,   Qt::Key_End,
-        Qt::Key_PageUp, Qt::Key_F4,      Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Menu,   Qt::Key_A,
-        Qt::Key_C,      Qt::Key_V,       Qt::Key_X,      Qt::Key_Z,         Qt::Key_0,      Qt::Key_9,
-        Qt::Key_Minus,  Qt::Key_Period,  Qt::Key_Comma,  Qt::Key_NumberSign};
+    // With the X server's name.
+    static const std::vector<std::pair<Qt::Key, const char*>> keys{
+        {Qt::Key_Tab, "Tab"},       {Qt::Key_Backtab, "ISO_Left_Tab"},
+        {Qt::Key_Return, "Return"}, {Qt::Key_Enter, "KP_Enter"},
+        {Qt::Key_Escape, "Escape"}, {Qt::Key_Space, "space"},
+        {Qt::Key_Up, "Up"},         {Qt::Key_Down, "Down"},
+        {Qt::Key_Left, "Left"},     {Qt::Key_Right, "Right"},
+        {Qt::Key_Home, "Home"},     {Qt::Key_End, "End"},
+        {Qt::Key_PageUp, "Prior"},  {Qt::Key_F4, "F4"},
+        {Qt::Key_Delete, "Delete"}, {Qt::Key_Backspace, "BackSpace"},
+        {Qt::Key_Menu, "Menu"},     {Qt::Key_A, "a"},
+        {Qt::Key_C, "c"},           {Qt::Key_V, "v"},
+        {Qt::Key_X, "x"},           {Qt::Key_Z, "z"},
+        {Qt::Key_0, "0"},           {Qt::Key_9, "9"},
+        {Qt::Key_Minus, "minus"},   {Qt::Key_Period, "period"},
+        {Qt::Key_Comma, "comma"},   {Qt::Key_NumberSign, "numbersign"}};
     Random& random = world.random;
     QPointer<QWidget> widget =
         random.oneIn(3) || !QApplication::focusWidget() ? world.anyWidget() : QApplication::focusWidget();
@@ -234,8 +265,13 @@ void pressKey(World& world)
     if (atWindow && widget->window()->focusWidget()) {
         widget = widget->window()->focusWidget();
     }
-    const Qt::Key key = random.oneOf(keys);
+    const auto& [key, name] = random.oneOf(keys);
     const Qt::KeyboardModifiers modifiers = anyModifiers(random);
+    if (RealUser::isThere() && atWindow) {
+        Journal::note(QStringLiteral("key ") + QLatin1String(name));
+        RealUser::strike(name, modifiers);
+        return;
+    }
     const QString text = key >= Qt::Key_Space && key <= Qt::Key_Z ? QString(QChar(key)).toLower() : QString();
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
     const Doings doing = isEnter                 ? Doing::Entering
@@ -674,6 +710,12 @@ bool isBelow(const QWidget* widget, const QWidget* ancestor)
 
 void Actions::act(World& world)
 {
+    using Act = void (*)(World&);
+    static const std::vector<Act> users{click, pressOrRelease, moveMouse, turnWheel, pressKey};
+    if (RealUser::isThere() && !world.random.oneIn(4)) {
+        world.random.oneOf(users)(world);
+        return;
+    }
     int sum = 0;
     for (const Action& action : actions()) {
         sum += action.weight;
@@ -760,6 +802,10 @@ void Actions::move(World& world, QWidget* widget)
 
 void Actions::letGo(World& world)
 {
+    if (RealUser::isThere()) {
+        world.buttons = Qt::NoButton;
+        return;
+    }
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
         if (!(world.buttons & button)) {
             continue;

@@ -192,14 +192,27 @@ int Exceptions::forbidding(const World& world, const QObject* victim)
     return -1;
 }
 
-bool Exceptions::forbidsLoop(const QObject* sender, const QByteArray& signal)
+bool Exceptions::forbidsLoop(const World& world)
 {
-    // Qt's views hold references to what a step in the loop changes: viewIsSteppedInALoop. And what takes the
-    // focus from a line edit, as its own menu does, may be gone when the loop ends: focusTakerIsDeleted.
-    const bool isOfView = qobject_cast<const QAbstractItemView*>(sender) ||
-                          signal.startsWith("highlighted") || signal.startsWith("textHighlighted");
-    return isOfView || (signal.startsWith("editingFinished") &&
-                        (sender->inherits("QLineEdit") || sender->inherits("SearchWidget")));
+    for (int i = 0; i < world.frames.size(); ++i) {
+        const Frame& frame = world.frames[i];
+        if (!frame.doing.testFlag(Doing::Signal)) {
+            continue;
+        }
+        // Qt's views hold references to what a step in the loop changes: viewIsSteppedInALoop. What takes the
+        // focus from a line edit, as its own menu does, may be gone when the loop ends: focusTakerIsDeleted.
+        // And so may the window that becomes the active one: activatedWindowBecomesAPart.
+        const bool isOfView = qobject_cast<const QAbstractItemView*>(frame.object.data()) ||
+                              isNamed(frame, "highlighted") || isNamed(frame, "textHighlighted");
+        const bool isOfEdit = isNamed(frame, "editingFinished") && frame.object &&
+                              (frame.object->inherits("QLineEdit") || frame.object->inherits("SearchWidget"));
+        const bool isOfActivation =
+            isNamed(frame, "released") && i > 0 && world.frames[i - 1].doing.testFlag(Doing::Other);
+        if (isOfView || isOfEdit || isOfActivation) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool Exceptions::isExpected(const QString& message)

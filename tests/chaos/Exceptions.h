@@ -10,8 +10,8 @@ namespace Exceptions {
 /// The row that forbids to delete @p victim at once, as @p world stands: its number in the table, or -1.
 int forbidding(const World& world, const QObject* victim);
 
-/// Whether slots of @p signal of @p sender must not run an event loop.
-bool forbidsLoop(const QObject* sender, const QByteArray& signal);
+/// Whether a slot must not run an event loop, as @p world stands.
+bool forbidsLoop(const World& world);
 
 /// Whether a warning of this text is the answer to what the program did, and no defect.
 bool isExpected(const QString& message);

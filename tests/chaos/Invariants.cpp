@@ -4,6 +4,7 @@
 #include "Exceptions.h"
 #include "FreedMemory.h"
 #include "Journal.h"
+#include "RealUser.h"
 #include "World.h"
 
 #include <QAbstractButton>
@@ -159,6 +160,9 @@ bool Application::notify(QObject* receiver, QEvent* event)
     std::optional<Under> under;
     if (world && event->type() == QEvent::DeferredDelete) {
         under.emplace(*world, Doing::Deleting, receiver, "delete");
+    } else if (const auto doing = RealUser::hear(receiver, *event); world && doing) {
+        Journal::note(QStringLiteral("input %1 to %2").arg(event->type()).arg(World::nameOf(receiver)));
+        under.emplace(*world, *doing, receiver, "input");
     }
     return QApplication::notify(receiver, event);
 }
@@ -234,7 +238,9 @@ void Invariants::checkEmpty()
 #endif
     check(left.isEmpty(), QStringLiteral("left behind: ") + names(left));
     for (const auto& [object, count] : timersOf(objects)) {
-        check(count <= timersBefore[object] || isQts(object),
+        // The application has one for Qt's tips, which end in real time.
+        const bool isForTips = RealUser::isThere() && object == qApp;
+        check(count <= timersBefore[object] || isQts(object) || isForTips,
               QStringLiteral("a timer is left of ") + World::nameOf(object));
     }
 }

@@ -30,10 +30,6 @@ Listener::Listener(World& world, QObject* sender)
             slot.at = random.between(1, 4);
             slot.now = !random.oneIn(4);
             slot.inLoop = random.oneIn(4);
-            const bool runsLoop = slot.inLoop || slot.deed == Deed::Loop || slot.deed == Deed::MessageBox;
-            if (runsLoop && Exceptions::forbidsLoop(sender, slot.signal)) {
-                slot.deed = Deed::Nothing;
-            }
         }
         QMetaObject::connect(sender, i, this, QObject::staticMetaObject.methodCount() + m_slots.size());
         m_slots.append(slot);
@@ -75,8 +71,11 @@ void Listener::hear(int index)
 void Listener::perform(Slot slot)
 {
     auto* widget = qobject_cast<QWidget*>(m_sender);
-    const bool makesNew = slot.inLoop || slot.deed == Deed::Loop || slot.deed == Deed::MessageBox ||
-                          slot.deed == Deed::Move || slot.deed == Deed::Call;
+    const bool runsLoop = slot.inLoop || slot.deed == Deed::Loop || slot.deed == Deed::MessageBox;
+    if (runsLoop && Exceptions::forbidsLoop(m_world)) {
+        return;
+    }
+    const bool makesNew = runsLoop || slot.deed == Deed::Move || slot.deed == Deed::Call;
     if (makesNew && m_world.isDeleting()) {
         return; // Qt does not survive it: dyingWindowGetsAChild
     }

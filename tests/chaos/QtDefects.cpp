@@ -110,6 +110,23 @@ bool movedWidgetStaysTheFocus()
     return window.focusWidget() == edit;
 }
 
+bool activatedWindowBecomesAPart()
+{
+    QWidget window;
+    QWidget other;
+    auto* const button = new QToolButton(&window);
+    other.show();
+    bring(window);
+    window.activateWindow();
+    QCoreApplication::processEvents();
+    button->setFocus();
+    button->setDown(true);
+    QObject::connect(button, &QToolButton::released, &other, [&] { other.setParent(&window); });
+    other.activateWindow();
+    QCoreApplication::processEvents();
+    return false;
+}
+
 bool dyingWindowGetsAChild()
 {
     auto* const window = new Window;
@@ -344,6 +361,7 @@ int main(int argc, char** argv)
         {"hiddenWidgetIsDeleted", hiddenWidgetIsDeleted},
         {"changedSiblingIsDeleted", changedSiblingIsDeleted},
         {"movedWidgetStaysTheFocus", movedWidgetStaysTheFocus},
+        {"activatedWindowBecomesAPart", activatedWindowBecomesAPart},
         {"dyingWindowGetsAChild", dyingWindowGetsAChild},
         {"partWithNativePartMoves", partWithNativePartMoves},
         {"animatedButtonIsDeleted", animatedButtonIsDeleted},

@@ -6,6 +6,7 @@
 #include "Invariants.h"
 #include "Journal.h"
 #include "Listener.h"
+#include "RealUser.h"
 
 #include <UiComponents/Pipette.h>
 #include <UiComponents/WidgetColorPicker.h>
@@ -175,6 +176,9 @@ void World::settle()
 {
     guard(0, [this] {
         Journal::note(QStringLiteral("settle"));
+        if (RealUser::isThere()) {
+            RealUser::finish();
+        }
         QToolTip::hideText();
         endLoops();
         while (QWidget* const popup = QApplication::activePopupWidget()) {

@@ -4,6 +4,7 @@
 #include "Invariants.h"
 #include "Journal.h"
 #include "Plants.h"
+#include "RealUser.h"
 #include "TestMain.h"
 #include "World.h"
 
@@ -176,6 +177,7 @@ int main(int argc, char** argv)
         {QStringLiteral("seed"), QStringLiteral("Of all windows."), QStringLiteral("S"), QStringLiteral("1")},
         {QStringLiteral("window"), QStringLiteral("Only the window of this seed."), QStringLiteral("W")},
         {QStringLiteral("verbose"), QStringLiteral("Prints all lines of the journal.")},
+        {QStringLiteral("real"), QStringLiteral("Mouse and keyboard are the X server's.")},
         {QStringLiteral("plant"), QStringLiteral("A fault to be found."), QStringLiteral("FAULT")},
         {QStringLiteral("citations"), QStringLiteral("Only looks for what is cited."),
          QStringLiteral("ROOT")},
@@ -191,6 +193,9 @@ int main(int argc, char** argv)
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         Clock::makeVirtual();
     }
+    if (options.isSet(QStringLiteral("real"))) {
+        RealUser::begin();
+    }
     {
         Driver driver(application, options.value(QStringLiteral("seed")).toULongLong(),
                       options.value(QStringLiteral("window")).toULongLong(),
@@ -200,6 +205,10 @@ int main(int argc, char** argv)
         while (!driver.isDone()) {
             Application::exec();
         }
+    }
+    if (RealUser::isThere()) {
+        std::printf("%d times the mouse or the keyboard reached a component\n", RealUser::count());
+        return RealUser::count() > 0 ? 0 : 1;
     }
     std::printf("%016llx\n", static_cast<unsigned long long>(Journal::checksum()));
     return 0;
