@@ -80,8 +80,8 @@ Q_SIGNALS:
     /// y, then in full.
     ///
     /// A slot may set another value: the three parts then agree on it, and pending reports of the earlier one
-    /// come last. While the user types or steps in a spin box, a slot must delete the field with
-    /// deleteLater(), since QAbstractSpinBox goes on.
+    /// come last. While the user types or steps in a spin box, or leaves it, a slot must delete the field
+    /// with deleteLater(), since QAbstractSpinBox goes on.
     void valueChanged(QPointF value);
 
 protected:

@@ -61,7 +61,7 @@ Q_SIGNALS:
     /// The value became @p value, by the user or through setValue(). Emitted twice for each change, since
     /// both parts report it; both then show it already. A slot may set another value: after the first of the
     /// two reports, the second follows those of the other value. While the user types or steps in the spin
-    /// box, a slot must delete the field with deleteLater(), since QAbstractSpinBox goes on.
+    /// box, or leaves it, a slot must delete the field with deleteLater(), since QAbstractSpinBox goes on.
     void valueChanged(int value);
 
 private:

@@ -33,6 +33,8 @@ const std::vector<Row>& rows()
 {
     static const Doings any;
     static const Doings input = Doing::Typing | Doing::Wheel | Doing::Mouse;
+    // Leaving a field takes over what was typed.
+    static const Doings editing = input | Doing::Showing | Doing::Other;
     static const Doings notEntering =
         input | Doing::Showing | Doing::Forcing | Doing::Deleting | Doing::Other;
     static const Doings movingFocus = notEntering | Doing::Call;
@@ -47,14 +49,18 @@ const std::vector<Row>& rows()
          "library/UiComponents/ColorPickerWidget.h",
          "A slot that runs because the panel is being shown or hidden must delete the panel with "
          "deleteLater()"},
-        {"SliderInputWidget", "valueChanged", any, input, nullptr, "library/UiComponents/SliderInputWidget.h",
-         "While the user types or steps in the spin box, a slot must delete the field with deleteLater()"},
-        {"DoubleSliderInputWidget", "valueChanged", any, input, nullptr,
+        {"SliderInputWidget", "valueChanged", any, editing, nullptr,
          "library/UiComponents/SliderInputWidget.h",
-         "While the user types or steps in the spin box, a slot must delete the field with deleteLater()"},
-        {"PointSelectorWidget", "valueChanged", any, input, nullptr,
+         "While the user types or steps in the spin box, or leaves it, a slot must delete the field with "
+         "deleteLater()"},
+        {"DoubleSliderInputWidget", "valueChanged", any, editing, nullptr,
+         "library/UiComponents/SliderInputWidget.h",
+         "While the user types or steps in the spin box, or leaves it, a slot must delete the field with "
+         "deleteLater()"},
+        {"PointSelectorWidget", "valueChanged", any, editing, nullptr,
          "library/UiComponents/PointSelectorWidget.h",
-         "While the user types or steps in a spin box, a slot must delete the field with deleteLater()"},
+         "While the user types or steps in a spin box, or leaves it, a slot must delete the field with "
+         "deleteLater()"},
         {"SearchWidget", nullptr, Doing::Signal, any, nullptr, "library/UiComponents/SearchWidget.h",
          "Slots of both signals delete the field with deleteLater()"},
         {"PathSelectionWidget", "checkPath", any, any, nullptr, "library/UiComponents/PathSelectionWidget.h",
@@ -206,8 +212,9 @@ bool Exceptions::forbidsLoop(const World& world)
                               isNamed(frame, "highlighted") || isNamed(frame, "textHighlighted");
         const bool isOfEdit = isNamed(frame, "editingFinished") && frame.object &&
                               (frame.object->inherits("QLineEdit") || frame.object->inherits("SearchWidget"));
-        const bool isOfActivation =
-            isNamed(frame, "released") && i > 0 && world.frames[i - 1].doing.testFlag(Doing::Other);
+        const bool isOfLeaving =
+            isNamed(frame, "released") || isNamed(frame, "editingFinished") || isNamed(frame, "valueChanged");
+        const bool isOfActivation = isOfLeaving && i > 0 && world.frames[i - 1].doing.testFlag(Doing::Other);
         if (isOfView || isOfEdit || isOfActivation) {
             return true;
         }

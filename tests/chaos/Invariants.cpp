@@ -71,12 +71,9 @@ QByteArray typeOf(const QObject* object)
     return name.get();
 }
 
-/// Whether the class of @p object is Qt's, by the library that its table of functions is in.
 bool isQts(const QObject* object)
 {
-    Dl_info library = {};
-    const bool isFound = dladdr(*reinterpret_cast<void* const*>(object), &library) != 0;
-    const QByteArray path = isFound ? library.dli_fname : "";
+    const QByteArray path = Invariants::libraryOf(object);
     return path.contains("/libQt5") || path.contains("/qt5/");
 }
 
@@ -165,6 +162,14 @@ bool Application::notify(QObject* receiver, QEvent* event)
         under.emplace(*world, *doing, receiver, "input");
     }
     return QApplication::notify(receiver, event);
+}
+
+QByteArray Invariants::libraryOf(const QObject* object)
+{
+    Dl_info library = {};
+    // Where its table of functions is.
+    const bool isFound = dladdr(*reinterpret_cast<void* const*>(object), &library) != 0;
+    return isFound ? library.dli_fname : "";
 }
 
 void Invariants::begin()

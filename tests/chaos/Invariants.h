@@ -20,6 +20,9 @@ public:
  */
 namespace Invariants {
 
+/// The file of the library or program that the class of @p object is in.
+QByteArray libraryOf(const QObject* object);
+
 /// To be called before the application is made.
 void begin();
 /// Remembers what there is before the first window.

@@ -1,5 +1,6 @@
 #include "RealUser.h"
 
+#include "Invariants.h"
 #include "Journal.h"
 
 #include <QCursor>
@@ -79,12 +80,9 @@ unsigned numberOf(Qt::MouseButton button)
     }
 }
 
-/// By the library that the table of functions of its class is in.
 bool isOfTheLibraries(const QObject* object)
 {
-    Dl_info library = {};
-    const bool isFound = dladdr(*reinterpret_cast<void* const*>(object), &library) != 0;
-    const QByteArray path = isFound ? library.dli_fname : "";
+    const QByteArray path = Invariants::libraryOf(object);
     return path.contains("/libUiComponents") || path.contains("/libPlatform");
 }
 

@@ -16,6 +16,7 @@
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QDialog>
+#include <QDrag>
 #include <QMouseEvent>
 #include <QThread>
 #include <QTimer>
@@ -65,7 +66,9 @@ void releaseAll(QWidget* window)
     for (const auto& widget : qAsConst(widgets)) {
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         const auto* slider = qobject_cast<QAbstractSlider*>(widget);
-        if ((button && button->isDown()) || (slider && slider->isSliderDown())) {
+        // Who grabs the mouse in the middle of a press of the X server's takes its release away.
+        const bool isLeftBehind = RealUser::isThere() && widget && widget == QWidget::mouseGrabber();
+        if ((button && button->isDown()) || (slider && slider->isSliderDown()) || isLeftBehind) {
             QMouseEvent event(QEvent::MouseButtonRelease, QPoint(-9, -9), Qt::LeftButton, Qt::NoButton,
                               Qt::NoModifier);
             QCoreApplication::sendEvent(widget, &event);
@@ -145,6 +148,9 @@ void World::endLoops()
     }
     for (const Part& part : present) {
         stopPick(part.object);
+    }
+    if (RealUser::isThere()) {
+        QDrag::cancel();
     }
     if (QWidget* const popup = QApplication::activePopupWidget()) {
         popup->close();
