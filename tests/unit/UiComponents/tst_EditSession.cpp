@@ -264,8 +264,8 @@ struct Story
 {
     const char* name;
     Needs needs;
-    Act act;
     const char* expected;
+    Act act;
 };
 
 void dragOn(Stage& stage)
@@ -317,19 +317,17 @@ const QVector<Story>& stories()
         s.write(k.other);
     };
     static const QVector<Story> all = {
-        {"drag", Needs::Drag,
+        {"drag", Needs::Drag, once,
          [](Stage& s, const Kind&) {
              dragOn(s);
              dropAt(s, 30);
-         },
-         once},
-        {"drag that is let go elsewhere", Needs::Drag,
+         }},
+        {"drag that is let go elsewhere", Needs::Drag, once,
          [](Stage& s, const Kind&) {
              dragOn(s);
              dropAt(s, 40);
-         },
-         once},
-        {"drag, Escape", Needs::Drag,
+         }},
+        {"drag, Escape", Needs::Drag, cancelled,
          [](Stage& s, const Kind& k) {
              dragOn(s);
              s.pressKey(s.dragged, Qt::Key_Escape);
@@ -337,223 +335,192 @@ const QVector<Story>& stories()
              // The mouse is still down, but moves nothing.
              drag(*s.dragged, QPoint(5, 5));
              dropAt(s, -20);
-         },
-         cancelled},
-        {"drag, host change", Needs::Drag,
+         }},
+        {"drag, host change", Needs::Drag, twice,
          [refresh](Stage& s, const Kind& k) {
              dragOn(s);
              refresh(s, k);
              drag(*s.dragged, QPoint(10, 10));
              dropAt(s, 20);
-         },
-         twice},
-        {"drag, hidden", Needs::Drag,
+         }},
+        {"drag, hidden", Needs::Drag, once,
          [](Stage& s, const Kind&) {
              dragOn(s);
              s.field->hide();
-         },
-         once},
-        {"drag, disabled", Needs::Drag,
+         }},
+        {"drag, disabled", Needs::Drag, once,
          [](Stage& s, const Kind&) {
              dragOn(s);
              s.field->setEnabled(false);
-         },
-         once},
-        {"drag, deleted", Needs::Drag,
+         }},
+        {"drag, deleted", Needs::Drag, "started previewed",
          [](Stage& s, const Kind&) {
              dragOn(s);
              delete s.field;
-         },
-         "started previewed"},
-        {"held key", Needs::Keys,
+         }},
+        {"held key", Needs::Keys, once,
          [](Stage& s, const Kind&) {
              hold(s, s.stepKey());
              QVERIFY(s.session->isActive());
              s.releaseKey(s.keyed, s.stepKey());
-         },
-         once},
-        {"key there, key back", Needs::Keys,
+         }},
+        {"key there, key back", Needs::Keys, twice,
          [](Stage& s, const Kind&) {
              s.keyed->setFocus();
              for (const int key : {s.stepKey(), s.backKey()}) {
                  s.pressKey(s.keyed, key);
                  s.releaseKey(s.keyed, key);
              }
-         },
-         twice},
-        {"keys that overlap, back where it began", Needs::Keys,
+         }},
+        {"keys that overlap, back where it began", Needs::Keys, cancelled,
          [](Stage& s, const Kind&) {
              s.keyed->setFocus();
              s.pressKey(s.keyed, s.stepKey());
              s.pressKey(s.keyed, s.backKey());
              s.releaseKey(s.keyed, s.stepKey());
              s.releaseKey(s.keyed, s.backKey());
-         },
-         cancelled},
-        {"held key, Escape", Needs::Keys,
+         }},
+        {"held key, Escape", Needs::Keys, cancelled,
          [](Stage& s, const Kind& k) {
              hold(s, s.stepKey());
              s.pressKey(s.keyed, Qt::Key_Escape);
              QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
-         },
-         cancelled},
-        {"held key, focus loss", Needs::Keys,
+         }},
+        {"held key, focus loss", Needs::Keys, once,
          [](Stage& s, const Kind&) {
              hold(s, s.stepKey());
              s.other->setFocus();
-         },
-         once},
-        {"held key, deleted", Needs::Keys,
+         }},
+        {"held key, deleted", Needs::Keys, "started previewed",
          [](Stage& s, const Kind&) {
              hold(s, s.stepKey());
              delete s.field;
-         },
-         "started previewed"},
-        {"key without effect", Needs::Keys,
+         }},
+        {"key without effect", Needs::Keys, nothing,
          [](Stage& s, const Kind&) {
              s.keyed->setFocus();
              s.pressKey(s.keyed, Qt::Key_F5);
              s.releaseKey(s.keyed, Qt::Key_F5);
-         },
-         nothing},
-        {"a host without a word", Needs::Keys, [](Stage& s, const Kind& k) { s.write(k.other); }, once},
-        {"wheel, cursor leaves", Needs::Keys,
+         }},
+        {"a host without a word", Needs::Keys, once, [](Stage& s, const Kind& k) { s.write(k.other); }},
+        {"wheel, cursor leaves", Needs::Keys, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              leave(s.keyed);
-         },
-         once},
-        {"wheel, focus loss", Needs::Keys,
+         }},
+        {"wheel, focus loss", Needs::Keys, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              s.other->setFocus();
-         },
-         once},
-        {"wheel, then a key", Needs::Keys,
+         }},
+        {"wheel, then a key", Needs::Keys, twice,
          [](Stage& s, const Kind&) {
              turnOn(s);
              s.pressKey(s.keyed, s.backKey());
              s.releaseKey(s.keyed, s.backKey());
-         },
-         twice},
-        {"wheel, then a shortcut", Needs::Keys,
+         }},
+        {"wheel, then a shortcut", Needs::Keys, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
              QCoreApplication::sendEvent(s.keyed, &shortcut);
-         },
-         once},
-        {"wheel, Escape", Needs::Keys,
+         }},
+        {"wheel, Escape", Needs::Keys, cancelled,
          [](Stage& s, const Kind& k) {
              turnOn(s);
              s.pressKey(s.keyed, Qt::Key_Escape);
              QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
-         },
-         cancelled},
-        {"wheel, hidden", Needs::Keys,
+         }},
+        {"wheel, hidden", Needs::Keys, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              s.field->hide();
-         },
-         once},
-        {"text, Enter", Needs::Text,
+         }},
+        {"text, Enter", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              QVERIFY(s.session->isActive());
              QTest::keyClick(s.typed, Qt::Key_Return);
-         },
-         once},
-        {"text, focus loss", Needs::Text,
+         }},
+        {"text, focus loss", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              s.other->setFocus();
-         },
-         once},
-        {"text, pop-up, Enter", Needs::Text,
+         }},
+        {"text, pop-up, Enter", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              QFocusEvent popup(QEvent::FocusOut, Qt::PopupFocusReason);
              QCoreApplication::sendEvent(s.typed, &popup);
              QVERIFY(s.session->isActive());
              QTest::keyClick(s.typed, Qt::Key_Return);
-         },
-         once},
-        {"text, Escape", Needs::Text,
+         }},
+        {"text, Escape", Needs::Text, cancelled,
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              s.pressKey(s.typed, Qt::Key_Escape);
              QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
-         },
-         cancelled},
-        {"text, hidden", Needs::Text,
+         }},
+        {"text, hidden", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              s.field->hide();
-         },
-         once},
-        {"text, disabled", Needs::Text,
+         }},
+        {"text, disabled", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              s.field->setEnabled(false);
-         },
-         once},
-        {"text, host change", Needs::Text,
+         }},
+        {"text, host change", Needs::Text, once,
          [refresh](Stage& s, const Kind& k) {
              s.type(k.text);
              refresh(s, k);
              s.other->setFocus();
-         },
-         once},
-        {"text, deleted", Needs::Text,
+         }},
+        {"text, deleted", Needs::Text, "started previewed",
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              delete s.field;
-         },
-         "started previewed"},
-        {"text there and back", Needs::Text,
+         }},
+        {"text there and back", Needs::Text, cancelled,
          [](Stage& s, const Kind& k) {
              const QString before = s.editor()->text();
              s.type(k.text);
              s.type(before);
              QTest::keyClick(s.typed, Qt::Key_Return);
-         },
-         cancelled},
-        {"paste, Enter", Needs::Text,
+         }},
+        {"paste, Enter", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              QGuiApplication::clipboard()->setText(k.text);
              s.typed->setFocus();
              s.editor()->selectAll();
              QTest::keyClick(s.typed, Qt::Key_V, Qt::ControlModifier);
              QTest::keyClick(s.typed, Qt::Key_Return);
-         },
-         once},
-        {"paste from the menu", Needs::Text,
+         }},
+        {"paste from the menu", Needs::Text, once,
          [](Stage& s, const Kind& k) {
              QGuiApplication::clipboard()->setText(k.text);
              s.typed->setFocus();
              s.editor()->selectAll();
              s.editor()->paste();
-         },
-         once},
-        {"tab through", Needs::Nothing,
+         }},
+        {"tab through", Needs::Nothing, nothing,
          [](Stage& s, const Kind&) {
              s.other->setFocus();
              for (int i = 0; i < 6; ++i) {
                  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
              }
-         },
-         nothing},
-        {"a host that sets it", Needs::Nothing, [](Stage& s, const Kind& k) { s.session->setValue(k.other); },
-         nothing},
-        {"a host that refreshes", Needs::Nothing, refresh, nothing},
-        {"a host in silence, then a refresh", Needs::Nothing,
+         }},
+        {"a host that sets it", Needs::Nothing, nothing,
+         [](Stage& s, const Kind& k) { s.session->setValue(k.other); }},
+        {"a host that refreshes", Needs::Nothing, nothing, refresh},
+        {"a host in silence, then a refresh", Needs::Nothing, nothing,
          [refresh](Stage& s, const Kind& k) {
              const QSignalBlocker blocker(s.field);
              refresh(s, k);
-         },
-         nothing},
-        {"hidden", Needs::Nothing, [](Stage& s, const Kind&) { s.field->hide(); }, nothing},
-        {"deleted", Needs::Nothing, [](Stage& s, const Kind&) { delete s.field; }, nothing},
+         }},
+        {"hidden", Needs::Nothing, nothing, [](Stage& s, const Kind&) { s.field->hide(); }},
+        {"deleted", Needs::Nothing, nothing, [](Stage& s, const Kind&) { delete s.field; }},
     };
     return all;
 }

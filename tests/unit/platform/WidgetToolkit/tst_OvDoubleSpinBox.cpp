@@ -1,7 +1,6 @@
 #include "AccessibleEars.h"
 #include "DecimalNumber.h"
 #include "TestMain.h"
-#include "Wheel.h"
 
 #include <WidgetToolkit/OvDoubleSpinBox.h>
 
@@ -89,38 +88,6 @@ private Q_SLOTS:
         QVERIFY(box.setProperty("bothDecimalMarksAccepted", true));
         QVERIFY(box.bothDecimalMarksAccepted());
         QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
-    }
-
-    void wheelNeedsFocus()
-    {
-        QWidget window;
-        QLineEdit other(&window);
-        OvDoubleSpinBox box(&window);
-        box.setValue(5.0);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        other.setFocus();
-        QVERIFY(!turnWheel(box, 120));
-        QCOMPARE(box.value(), 5.0);
-        box.setFocus();
-        QVERIFY(turnWheel(box, 120));
-        QCOMPARE(box.value(), 6.0);
-    }
-
-    void enterCommitsAndSelects()
-    {
-        OvDoubleSpinBox box;
-        box.setSuffix(QStringLiteral(" %"));
-        QSignalSpy changed(&box, qOverload<double>(&QDoubleSpinBox::valueChanged));
-        box.selectAll();
-        QTest::keyClicks(&box, QStringLiteral("4.5"));
-        QCOMPARE(box.text(), QStringLiteral("4.5 %"));
-        QCOMPARE(changed.count(), 2);
-        QTest::keyClick(&box, Qt::Key_Enter);
-        QCOMPARE(box.text(), QStringLiteral("4.50 %"));
-        QCOMPARE(lineEdit(box)->selectedText(), QStringLiteral("4.50"));
-        QCOMPARE(changed.count(), 2);
     }
 
     void decimalsAreAnnounced()
@@ -480,19 +447,6 @@ private Q_SLOTS:
         box.stepUp();
         QCOMPARE(values.size(), 1);
         QCOMPARE(values.front().front().toDouble(), 6.0);
-    }
-
-    void deletedByAListenerOfEnter()
-    {
-        const QPointer<OvDoubleSpinBox> box(new OvDoubleSpinBox);
-        box->setKeyboardTracking(false);
-        box->selectAll();
-        QTest::keyClick(box.data(), Qt::Key_5);
-        connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
-                [target = box.data()] { delete target; });
-        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QApplication::sendEvent(box, &enter);
-        QVERIFY(box.isNull());
     }
 
     void deletedByAListenerOfAStep()

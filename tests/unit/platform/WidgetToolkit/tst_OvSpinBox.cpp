@@ -2,6 +2,7 @@
 #include "TestMain.h"
 #include "Wheel.h"
 
+#include <WidgetToolkit/OvDoubleSpinBox.h>
 #include <WidgetToolkit/OvSpinBox.h>
 
 namespace {
@@ -11,8 +12,22 @@ QString selectedText(const QWidget& box)
     return box.findChild<QLineEdit*>()->selectedText();
 }
 
+std::unique_ptr<QAbstractSpinBox> makeBox(bool ofFractions, QWidget* parent = nullptr)
+{
+    if (ofFractions) {
+        return std::make_unique<OvDoubleSpinBox>(parent);
+    }
+    return std::make_unique<OvSpinBox>(parent);
+}
+
+const char* valueChanged(bool ofFractions)
+{
+    return ofFractions ? SIGNAL(valueChanged(double)) : SIGNAL(valueChanged(int));
+}
+
 } // namespace
 
+/// What both spin boxes share; tst_OvDoubleSpinBox has the rest of the other.
 class tst_OvSpinBox : public QObject
 {
     Q_OBJECT
@@ -30,31 +45,37 @@ private Q_SLOTS:
 
     void wheel_data()
     {
+        QTest::addColumn<bool>("fractions");
         QTest::addColumn<bool>("focused");
         QTest::addColumn<int>("delta");
         QTest::addColumn<int>("value");
-        QTest::newRow("without focus") << false << 120 << 5;
-        QTest::newRow("with focus, up") << true << 120 << 6;
-        QTest::newRow("with focus, down") << true << -120 << 4;
+        for (const bool fractions : {false, true}) {
+            const char* const name = fractions ? "fraction" : "integer";
+            QTest::addRow("%s, without focus", name) << fractions << false << 120 << 5;
+            QTest::addRow("%s, with focus, up", name) << fractions << true << 120 << 6;
+            QTest::addRow("%s, with focus, down", name) << fractions << true << -120 << 4;
+        }
     }
 
     void wheel()
     {
+        QFETCH(bool, fractions);
         QFETCH(bool, focused);
         QFETCH(int, delta);
         QFETCH(int, value);
         QWidget window;
         QLineEdit other(&window);
-        OvSpinBox box(&window);
+        const auto made = makeBox(fractions, &window);
+        QAbstractSpinBox& box = *made;
         box.move(0, 50);
-        box.setValue(5);
+        box.setProperty("value", 5);
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         (focused ? static_cast<QWidget*>(&box) : &other)->setFocus();
-        QSignalSpy spy(&box, qOverload<int>(&QSpinBox::valueChanged));
+        QSignalSpy spy(&box, valueChanged(fractions));
         const bool accepted = turnWheel(box, delta);
-        QCOMPARE(box.value(), value);
+        QCOMPARE(box.property("value").toInt(), value);
         QCOMPARE(spy.count(), focused ? 1 : 0);
         QCOMPARE(box.hasFocus(), focused);
         QCOMPARE(accepted, focused);
@@ -62,32 +83,41 @@ private Q_SLOTS:
 
     void enterCommitsAndSelects_data()
     {
+        QTest::addColumn<bool>("fractions");
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<bool>("keyboardTracking");
-        QTest::newRow("Enter") << Qt::Key_Enter << true;
-        QTest::newRow("Return") << Qt::Key_Return << true;
-        QTest::newRow("Return without keyboard tracking") << Qt::Key_Return << false;
+        for (const bool fractions : {false, true}) {
+            const char* const name = fractions ? "fraction" : "integer";
+            QTest::addRow("%s, Enter", name) << fractions << Qt::Key_Enter << true;
+            QTest::addRow("%s, Return", name) << fractions << Qt::Key_Return << true;
+            QTest::addRow("%s, Return without keyboard tracking", name)
+                << fractions << Qt::Key_Return << false;
+        }
     }
 
     void enterCommitsAndSelects()
     {
         QFETCH(Qt::Key, key);
         QFETCH(bool, keyboardTracking);
-        OvSpinBox box;
-        box.setPrefix(QStringLiteral("x "));
-        box.setSuffix(QStringLiteral(" px"));
+        QFETCH(bool, fractions);
+        const auto made = makeBox(fractions);
+        QAbstractSpinBox& box = *made;
+        box.setProperty("prefix", QStringLiteral("x "));
+        box.setProperty("suffix", QStringLiteral(" px"));
         box.setKeyboardTracking(keyboardTracking);
-        QSignalSpy changed(&box, qOverload<int>(&QSpinBox::valueChanged));
+        QSignalSpy changed(&box, valueChanged(fractions));
         QSignalSpy finished(&box, &QAbstractSpinBox::editingFinished);
         QSignalSpy returned(box.findChild<QLineEdit*>(), &QLineEdit::returnPressed);
         box.selectAll();
         QTest::keyClicks(&box, QStringLiteral("42"));
         QCOMPARE(selectedText(box), QString());
         QTest::keyClick(&box, key);
-        QCOMPARE(box.value(), 42);
-        QCOMPARE(box.text(), QStringLiteral("x 42 px"));
-        QCOMPARE(selectedText(box), QStringLiteral("42"));
-        QCOMPARE(changed.last(), QVariantList{42});
+        const QString number = fractions ? QStringLiteral("42.00") : QStringLiteral("42");
+        QCOMPARE(box.property("value").toInt(), 42);
+        QCOMPARE(box.text(), QStringLiteral("x %1 px").arg(number));
+        QCOMPARE(selectedText(box), number);
+        QCOMPARE(changed.size(), keyboardTracking ? 2 : 1);
+        QCOMPARE(changed.last().first().toInt(), 42);
         QCOMPARE(finished.count(), 1);
         QCOMPARE(returned.count(), 1);
     }
@@ -187,34 +217,31 @@ private Q_SLOTS:
 
     void deletedByAListenerOfEnter_data()
     {
-        QTest::addColumn<int>("signal");
-        QTest::newRow("valueChanged") << 0;
-        QTest::newRow("editingFinished") << 1;
-        QTest::newRow("returnPressed") << 2;
-        QTest::newRow("textChanged") << 3;
+        QTest::addColumn<bool>("fractions");
+        QTest::addColumn<QByteArray>("signal");
+        for (const bool fractions : {false, true}) {
+            for (const char* signal :
+                 {valueChanged(fractions), SIGNAL(editingFinished()), SIGNAL(textChanged(QString))}) {
+                QTest::addRow("%s, %s", fractions ? "fraction" : "integer", signal + 1)
+                    << fractions << QByteArray(signal);
+            }
+        }
+        QTest::newRow("returnPressed()") << false << QByteArray(SIGNAL(returnPressed()));
     }
 
     void deletedByAListenerOfEnter()
     {
-        QFETCH(int, signal);
-        const QPointer<OvSpinBox> box(new OvSpinBox);
+        QFETCH(bool, fractions);
+        QFETCH(QByteArray, signal);
+        const QPointer<QAbstractSpinBox> box(makeBox(fractions).release());
         box->setKeyboardTracking(false);
         box->selectAll();
         QTest::keyClick(box.data(), Qt::Key_5);
-        const auto destroy = [target = box.data()] { delete target; };
-        switch (signal) {
-        case 0:
-            connect(box, qOverload<int>(&QSpinBox::valueChanged), this, destroy);
-            break;
-        case 1:
-            connect(box, &QAbstractSpinBox::editingFinished, this, destroy);
-            break;
-        case 2:
-            connect(box->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this, destroy);
-            break;
-        default:
-            connect(box, &QSpinBox::textChanged, this, destroy);
-        }
+        QAction remove(nullptr);
+        connect(&remove, &QAction::triggered, this, [target = box.data()] { delete target; });
+        const bool isTheEdits = signal == SIGNAL(returnPressed());
+        QObject* const sender = isTheEdits ? static_cast<QObject*>(box->findChild<QLineEdit*>()) : box;
+        QVERIFY(connect(sender, signal.constData(), &remove, SLOT(trigger())));
         const FreedMemoryWatch memory;
         // Not QTest::keyClick, which uses the widget after the event.
         QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
