@@ -1565,101 +1565,84 @@ private Q_SLOTS:
             panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
             panel->openPopup();
         };
-        row("click in the palette", nothing,
-            [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
-        row(
-            "click in the palette, another was checked",
-            [](Panel* panel) { panel->setCurrentColor(QColor(Qt::red)); },
-            [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); });
+        const auto click = [](auto part) -> Action {
+            return [part](Panel* panel) { QTest::mouseClick(part(panel), Qt::LeftButton); };
+        };
+        const auto clickAtTheLeft = [](auto part) -> Action {
+            return [part](Panel* panel) {
+                QWidget* const widget = part(panel);
+                QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(1, widget->height() / 2));
+            };
+        };
+        const auto key = [](auto part, Qt::Key code) -> Action {
+            return [part, code](Panel* panel) { QTest::keyClick(part(panel), code); };
+        };
+        const auto closeBy = [](Qt::Key code) -> Action {
+            return [code](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), code); };
+        };
+        const auto textOf = [](const char* text) -> Action {
+            return [text](Panel* panel) { panel->edit->setText(QString::fromLatin1(text)); };
+        };
+        const auto paletteButton = [](Panel* panel) { return panel->paletteButton(1, 1); };
+        const auto edit = [](Panel* panel) { return panel->edit; };
+        const auto slider = [](Panel* panel) { return panel->slider; };
+        const auto spinBox = [](Panel* panel) { return panel->spinBox; };
+        const auto pipette = [](Panel* panel) { return panel->pipette; };
+        const auto hueSlider = [](Panel* panel) { return panel->hueSlider(); };
+        const Action setRed = [](Panel* panel) { panel->setCurrentColor(QColor(Qt::red)); };
+        const Action setHalfRed = [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); };
         const Action emptyBox = [setOwn](Panel* panel) {
             setOwn(panel);
             emptySpinBox(panel);
         };
-        row(
-            "click in the palette, the opacity box is empty", emptyBox,
-            [](Panel* panel) { QTest::mouseClick(panel->paletteButton(1, 1), Qt::LeftButton); }, 1, 1);
+        const Action pressed = [open](Panel* panel) {
+            open(panel);
+            panel->pressPlane({40, 40});
+        };
+        row("click in the palette", nothing, click(paletteButton));
+        row("click in the palette, another was checked", setRed, click(paletteButton));
+        row("click in the palette, the opacity box is empty", emptyBox, click(paletteButton), 1, 1);
         row("add button, the opacity box is empty", emptyBox,
-            [](Panel* panel) { QTest::mouseClick(panel->addButton, Qt::LeftButton); });
-        row("empty opacity box left by Tab", emptyBox,
-            [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Tab); });
-        row("palette by space", nothing,
-            [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 1), Qt::Key_Space); });
-        row(
-            "palette by arrow key",
-            [](Panel* panel) {
-                QApplication::setActiveWindow(panel->window());
-                panel->setCurrentColor(QColor(Qt::red));
-                panel->paletteButton(1, 0)->setFocus();
-            },
-            [](Panel* panel) { QTest::keyClick(panel->paletteButton(1, 0), Qt::Key_Right); });
-        row(
-            "typed, reported by the button",
-            [](Panel* panel) { panel->edit->setText(QStringLiteral("#ff5d0")); },
-            [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_0); });
-        row(
-            "typed, reported by the edit",
-            [](Panel* panel) { panel->edit->setText(QStringLiteral("#ff5d0")); },
-            [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_0); }, 2);
-        row(
-            "typed, of no button", [](Panel* panel) { panel->edit->setText(QStringLiteral("#12345")); },
-            [](Panel* panel) { QTest::keyClick(panel->edit, Qt::Key_6); });
+            click([](Panel* panel) { return panel->addButton; }));
+        row("empty opacity box left by Tab", emptyBox, key(spinBox, Qt::Key_Tab));
+        row("palette by space", nothing, key(paletteButton, Qt::Key_Space));
+        const Action focusRed = [setRed](Panel* panel) {
+            QApplication::setActiveWindow(panel->window());
+            setRed(panel);
+            panel->paletteButton(1, 0)->setFocus();
+        };
+        row("palette by arrow key", focusRed,
+            key([](Panel* panel) { return panel->paletteButton(1, 0); }, Qt::Key_Right));
+        row("typed, reported by the button", textOf("#ff5d0"), key(edit, Qt::Key_0));
+        row("typed, reported by the edit", textOf("#ff5d0"), key(edit, Qt::Key_0), 2);
+        row("typed, of no button", textOf("#12345"), key(edit, Qt::Key_6));
         row("pasted", nothing, [](Panel* panel) { paste(panel->edit, QStringLiteral("#123456")); });
-        row("opacity slider by key", setOwn,
-            [](Panel* panel) { QTest::keyClick(panel->slider, Qt::Key_Left); });
-        row("opacity slider by mouse", setOwn, [](Panel* panel) {
-            QTest::mouseClick(panel->slider, Qt::LeftButton, {}, QPoint(1, panel->slider->height() / 2));
-        });
-        row("opacity spin box", setOwn, [](Panel* panel) {
+        row("opacity slider by key", setOwn, key(slider, Qt::Key_Left));
+        row("opacity slider by mouse", setOwn, clickAtTheLeft(slider));
+        const Action selectBox = [setOwn](Panel* panel) {
+            setOwn(panel);
             panel->spinBox->selectAll();
-            QTest::keyClick(panel->spinBox, Qt::Key_5);
-        });
-        row("opacity spin box by arrow key", setOwn,
-            [](Panel* panel) { QTest::keyClick(panel->spinBox, Qt::Key_Down); });
-        row("setCurrentColor, reported by the slider", nothing,
-            [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); });
-        row(
-            "setCurrentColor, reported by the button", nothing,
-            [](Panel* panel) { panel->setCurrentColor(QColor(255, 0, 0, 128)); }, 2);
-        row(
-            "setOpacityAdjustmentAvailable",
-            [](Panel* panel) {
-                panel->setOpacityAdjustmentAvailable(false);
-                panel->setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-            },
+        };
+        row("opacity spin box", selectBox, key(spinBox, Qt::Key_5));
+        row("opacity spin box by arrow key", setOwn, key(spinBox, Qt::Key_Down));
+        row("setCurrentColor, reported by the slider", nothing, setHalfRed);
+        row("setCurrentColor, reported by the button", nothing, setHalfRed, 2);
+        const Action fixOpacity = [](Panel* panel) {
+            panel->setOpacityAdjustmentAvailable(false);
+            panel->setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
+        };
+        row("setOpacityAdjustmentAvailable", fixOpacity,
             [](Panel* panel) { panel->setOpacityAdjustmentAvailable(true); });
-        row("pipette", nothing, [](Panel* panel) { QTest::mouseClick(panel->pipette, Qt::LeftButton); });
-        row("pipette by space", nothing,
-            [](Panel* panel) { QTest::keyClick(panel->pipette, Qt::Key_Space); });
-        row(
-            "close", nothing, [](Panel* panel) { QTest::mouseClick(panel->pipette, Qt::LeftButton); }, 2);
+        row("pipette", nothing, click(pipette));
+        row("pipette by space", nothing, key(pipette, Qt::Key_Space));
+        row("close", nothing, click(pipette), 2);
         row("pressed in the pop-up", open, [](Panel* panel) { panel->pressPlane({40, 40}); });
-        row(
-            "dragged in the pop-up",
-            [open](Panel* panel) {
-                open(panel);
-                panel->pressPlane({40, 40});
-            },
-            [](Panel* panel) {
-                panel->dragOverPlane({60, 30});
-            });
-        row(
-            "released in the pop-up",
-            [open](Panel* panel) {
-                open(panel);
-                panel->pressPlane({40, 40});
-            },
-            [](Panel* panel) {
-                panel->releasePlane({40, 40});
-            });
-        row("hue by key", open, [](Panel* panel) { QTest::keyClick(panel->hueSlider(), Qt::Key_Home); });
-        row("hue by mouse", open, [](Panel* panel) {
-            QTest::mouseClick(panel->hueSlider(), Qt::LeftButton, {},
-                              QPoint(1, panel->hueSlider()->height() / 2));
-        });
-        row("added by Escape", open,
-            [](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), Qt::Key_Escape); });
-        row("added by Return", open,
-            [](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), Qt::Key_Return); });
+        row("dragged in the pop-up", pressed, [](Panel* panel) { panel->dragOverPlane({60, 30}); });
+        row("released in the pop-up", pressed, [](Panel* panel) { panel->releasePlane({40, 40}); });
+        row("hue by key", open, key(hueSlider, Qt::Key_Home));
+        row("hue by mouse", open, clickAtTheLeft(hueSlider));
+        row("added by Escape", open, closeBy(Qt::Key_Escape));
+        row("added by Return", open, closeBy(Qt::Key_Return));
         row("added by a click elsewhere", open, [](Panel* panel) {
             QTest::mouseClick(panel->popup()->windowHandle(), Qt::LeftButton, {}, QPoint(-3, -3));
         });
