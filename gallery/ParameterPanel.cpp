@@ -1,6 +1,5 @@
 #include "ParameterPanel.h"
 
-#include "DialogColorPicker.h"
 #include "FolderBrowser.h"
 
 #include <UiComponents/AdjustingListView.h>
@@ -10,6 +9,7 @@
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
@@ -65,6 +65,7 @@ void ParameterPanel::filter(const QString& text)
 void ParameterPanel::addRow(const QString& name, QWidget* field)
 {
     auto* label = new QLabel(name, this);
+    label->setBuddy(field);
     m_rows->addRow(label, field);
     m_all.append({label, field});
 }
@@ -110,7 +111,7 @@ void ParameterPanel::addLook()
     addRow(blendingName, blending);
 
     auto* tint = new ColorInputWidget(this, Tint);
-    tint->setPicker(new DialogColorPicker(tint->anchorWidget()));
+    tint->setPicker(new PopupColorPicker);
     const QString tintName = tr("Tint");
     connect(tint, &ColorInputWidget::colorChanged, this,
             [this, tintName](const QColor& color) { Q_EMIT parameterChanged(tintName, color.name()); });

@@ -2,6 +2,7 @@
 #include "TestMain.h"
 
 #include <UiComponents/AbstractColorPicker.h>
+#include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
@@ -11,6 +12,10 @@
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 
+#include <algorithm>
+#include <gallery/GalleryApplication.h>
+#include <gallery/MainWindow.h>
+#include <gallery/ParameterPanel.h>
 #include <memory>
 
 namespace {
@@ -78,6 +83,66 @@ private:
     QProcess m_process;
 };
 
+/// A user who sees nothing: hears what the client hears.
+class Ear
+{
+public:
+    explicit Ear(Client* client)
+        : m_client(client)
+    {
+    }
+
+    /// Whether the keyboard comes to what is called @p name, by Tab alone.
+    bool tabTo(const char* name)
+    {
+        constexpr int Most = 80;
+        for (int i = 0; i < Most; ++i) {
+            m_heard.clear();
+            if (!RealInput::key(QStringLiteral("Tab"))) {
+                return false;
+            }
+            const auto hasMoved = [this] {
+                m_heard += m_client->heard();
+                return std::any_of(m_heard.cbegin(), m_heard.cend(),
+                                   [](const QString& text) { return text.endsWith(QLatin1Char('!')); });
+            };
+            if (!QTest::qWaitFor(hasMoved, answerLimitMs) ||
+                m_heard.contains(QLatin1String(name) + QStringLiteral("!"))) {
+                break;
+            }
+        }
+        return m_heard.contains(QLatin1String(name) + QStringLiteral("!"));
+    }
+
+    bool press(const char* key, const char* text)
+    {
+        m_heard.clear();
+        return RealInput::key(QLatin1String(key)) && hears(QLatin1String(text));
+    }
+
+    bool type(const char* keys, const char* text)
+    {
+        m_heard.clear();
+        return RealInput::type(QLatin1String(keys)) && hears(QLatin1String(text));
+    }
+
+    const char* said()
+    {
+        m_said = m_heard.join(QLatin1Char('\n')).toUtf8();
+        return m_said.constData();
+    }
+
+private:
+    bool hears(const QString& text)
+    {
+        return QTest::qWaitFor([&] { return (m_heard += m_client->heard()).contains(text); }, 5000);
+    }
+
+    Client* const m_client;
+    QStringList m_heard;
+    QByteArray m_said;
+};
+
 /// A window as a host's, with a labelled field of each kind.
 class Form : public QWidget
 {
@@ -110,6 +175,13 @@ public:
     ColorPickerWidget* const panel = new ColorPickerWidget(this, false);
 };
 
+CommandLine startOn(const char* page)
+{
+    CommandLine start;
+    start.page = QLatin1String(page);
+    return start;
+}
+
 } // namespace
 
 /**
@@ -120,7 +192,9 @@ class tst_AccessibleClient : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { Q_INIT_RESOURCE(translations); }
+    void initTestCase() { GalleryApplication::prepare(); }
+
+    void cleanup() { qApp->setStyleSheet(QString()); }
 
     void reads_data()
     {
@@ -265,6 +339,81 @@ private Q_SLOTS:
                  qPrintable(heard.join(QLatin1Char('\n'))));
         QCOMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::blue)));
         QCOMPARE(heard.count(QStringLiteral("Current colour: blue, #0000ff")), 1);
+    }
+
+    // A page of the gallery, as a user finds it: Tab goes on until a field is heard by its name.
+    void clipPropertiesByEar()
+    {
+        MainWindow window(startOn("properties"));
+        QVERIFY(RealInput::showAndActivate(&window));
+        // What the panel edits, as a host keeps it.
+        QMap<QString, QString> clip;
+        const auto* const panel = window.findChild<ParameterPanel*>();
+        connect(panel, &ParameterPanel::parameterChanged, this,
+                [&clip](const QString& name, const QString& value) { clip.insert(name, value); });
+        Client client;
+        QVERIFY(client.isListening());
+        Ear ear(&client);
+
+        QVERIFY2(ear.tabTo("Search parameters"), ear.said());
+        QVERIFY2(ear.tabTo("Position"), ear.said());
+        QVERIFY2(ear.press("End", "Position, x: 1"), ear.said());
+        QVERIFY2(ear.tabTo("Position, y"), ear.said());
+        QVERIFY2(ear.press("Up", "Position, y: 0.01"), ear.said());
+        QVERIFY2(ear.tabTo("Scale"), ear.said());
+        QVERIFY2(ear.press("Right", "Scale: 100.1"), ear.said());
+        QVERIFY2(ear.tabTo("Rotation"), ear.said());
+        QVERIFY2(ear.press("Home", "Rotation: -180"), ear.said());
+        QVERIFY2(ear.tabTo("Opacity, number"), ear.said());
+        QVERIFY2(ear.press("Down", "Opacity, number: 99"), ear.said());
+        QVERIFY2(ear.tabTo("Blending"), ear.said());
+        const QString blending = panel->findChild<ColorBlendingComboBox*>()->itemText(1);
+        QVERIFY2(ear.press("Down", qPrintable(QStringLiteral("Blending: ") + blending)), ear.said());
+        QVERIFY2(ear.tabTo("Tint"), ear.said());
+        QVERIFY2(ear.press("space", "Colour value!"), ear.said());
+        QVERIFY2(ear.type("#0000ff", "Tint: blue, #0000ff"), ear.said());
+        QVERIFY2(ear.press("Return", "Tint!"), ear.said());
+        QVERIFY2(ear.tabTo("Proxies"), ear.said());
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY(RealInput::type(QStringLiteral("/tmp")));
+        QTRY_COMPARE(clip.value(QStringLiteral("Proxies")), QStringLiteral("/tmp"));
+        QVERIFY(client.tree(QStringLiteral("Proxies")).join(QString()).contains(QStringLiteral("= /tmp")));
+
+        QMap<QString, QString> expected;
+        expected.insert(QStringLiteral("Position"), QStringLiteral("1, 0.01"));
+        expected.insert(QStringLiteral("Scale"), QStringLiteral("100.1"));
+        expected.insert(QStringLiteral("Rotation"), QStringLiteral("-180"));
+        expected.insert(QStringLiteral("Opacity"), QStringLiteral("99"));
+        expected.insert(QStringLiteral("Blending"), blending);
+        expected.insert(QStringLiteral("Tint"), QStringLiteral("#0000ff"));
+        expected.insert(QStringLiteral("Proxies"), QStringLiteral("/tmp"));
+        QCOMPARE(clip, expected);
+    }
+
+    void colorPanelByEar()
+    {
+        MainWindow window(startOn("color-panel"));
+        QVERIFY(RealInput::showAndActivate(&window));
+        const auto* const panel = window.findChild<ColorPickerWidget*>();
+        Client client;
+        QVERIFY(client.isListening());
+        Ear ear(&client);
+
+        QVERIFY2(ear.tabTo("Colour value"), ear.said());
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
+        QVERIFY2(ear.type("#0000ff", "Current colour: blue, #0000ff"), ear.said());
+        QVERIFY2(ear.tabTo("no colour"), ear.said());
+        QVERIFY2(ear.press("Down", "red, #ff0000!"), ear.said());
+        QVERIFY2(ear.press("space", "Current colour: red, #ff0000"), ear.said());
+        QVERIFY2(ear.press("Right", "Current colour: orange, #ff5d00"), ear.said());
+        QVERIFY2(ear.tabTo("Opacity"), ear.said());
+        QVERIFY2(ear.press("Home", "Opacity: 0"), ear.said());
+        QVERIFY2(ear.press("Right", "Current colour: orange, #ff5d00, 1 %"), ear.said());
+        QVERIFY2(ear.tabTo("Opacity in percent"), ear.said());
+        QVERIFY2(ear.press("Up", "Opacity in percent: 2"), ear.said());
+        QColor expected(0xff, 0x5d, 0x00);
+        expected.setAlphaF(0.02);
+        QCOMPARE(panel->currentColor()->name(QColor::HexArgb), expected.name(QColor::HexArgb));
     }
 };
 
