@@ -27,7 +27,9 @@ namespace {
 
 QString sentences(const QString& first, const QString& second)
 {
-    return first.isEmpty() || second.isEmpty() ? first + second : first + QStringLiteral(". ") + second;
+    const bool isEnded = first.endsWith(QLatin1Char('.')) || first.endsWith(QChar(0x3002));
+    const QString gap = isEnded ? QStringLiteral(" ") : QStringLiteral(". ");
+    return first.isEmpty() || second.isEmpty() ? first + second : first + gap + second;
 }
 
 QAccessibleInterface* interfaceOf(QWidget* widget)
