@@ -40,6 +40,7 @@ void LanguageController::setLanguage(const QString& code)
         load(QStringLiteral("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
         load(QStringLiteral("uicomponents_") + code, ours);
         load(QStringLiteral("gallery_") + code, ours);
+        load(QStringLiteral("titlecard_") + code, QCoreApplication::applicationDirPath());
     }
     Q_EMIT languageChanged(code);
 }

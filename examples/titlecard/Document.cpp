@@ -114,10 +114,9 @@ void Document::setValue(int id, Property property, const QVariant& value)
     for (Card& card : m_cards) {
         if (card.id == id) {
             card.values[property] = value;
-            Q_EMIT changed();
-            return;
         }
     }
+    Q_EMIT changed();
 }
 
 EditCommand::Target Document::target(int id, Property property)

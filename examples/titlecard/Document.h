@@ -33,8 +33,9 @@ public:
     /// Makes a card, without adding it.
     Card newCard(const QString& text);
 
+    /// Null for a card that is not there.
+    const Card* find(int id) const;
     QVariant value(int id, Property property) const;
-    /// Does nothing for a card that is not there.
     void setValue(int id, Property property, const QVariant& value);
     EditCommand::Target target(int id, Property property);
 
@@ -48,8 +49,6 @@ Q_SIGNALS:
     void changed();
 
 private:
-    const Card* find(int id) const;
-
     QVector<Card> m_cards;
     int m_lastId = 0;
 };

@@ -31,64 +31,56 @@ Editor::Editor(const QString& shareFolder, QWidget* parent)
     : QMainWindow(parent)
     , m_shareFolder(shareFolder)
     , m_canvas(new Canvas(&m_document, this))
-    , m_inspector(new Inspector(&m_document, m_canvas, &m_stack, this))
 {
-    setWindowTitle(tr("Title cards"));
-    QFile::copy(QStringLiteral(":/titlecard/NewCard.qml"), m_scenes.filePath(QStringLiteral("NewCard.qml")));
-
     auto* left = new QVBoxLayout;
     left->addWidget(m_canvas);
     addPresets(left);
-    auto* right = new QVBoxLayout;
-    right->addWidget(m_inspector);
-    right->addStretch();
-    addFolder(right);
+    m_right = new QVBoxLayout;
+    m_right->addStretch();
+    addFolder(m_right);
     auto* columns = new QHBoxLayout;
     columns->addLayout(left);
-    columns->addLayout(right, 1);
+    columns->addLayout(m_right, 1);
     auto* body = new QWidget(this);
     body->setLayout(columns);
     setCentralWidget(body);
+    setContextMenuPolicy(Qt::NoContextMenu); // the tool bars stay
 
     makeActions();
     makeSwitches();
-}
-
-Editor::~Editor()
-{
-    // They report to members, which die before the widgets.
-    disconnect(&m_document, nullptr, nullptr, nullptr);
-    m_stack.disconnect();
+    QCoreApplication::installTranslator(&m_libraryTexts);
+    QCoreApplication::installTranslator(&m_ownTexts);
+    retranslate();
 }
 
 void Editor::makeActions()
 {
-    auto* bar = addToolBar(QString());
-    const auto add = [this, bar](const QString& text, const QKeySequence& shortcut, void (Editor::*run)()) {
-        bar->addAction(text, this, run)->setShortcut(shortcut);
+    m_commands = addToolBar(QString());
+    const auto add = [this](const char* text, const QKeySequence& shortcut, void (Editor::*run)()) {
+        QAction* const action = m_commands->addAction(QString(), this, run);
+        action->setObjectName(QLatin1String(text));
+        action->setShortcut(shortcut);
     };
-    add(tr("New card..."), QKeySequence::New, &Editor::askForCard);
-    add(tr("Undo"), QKeySequence::Undo, &Editor::undo);
-    add(tr("Redo"), QKeySequence::Redo, &Editor::redo);
-    add(tr("Save as preset"), QKeySequence::Save, &Editor::savePreset);
-    add(tr("Export picture"), QKeySequence(QStringLiteral("Ctrl+Shift+E")), &Editor::exportPicture);
-    add(tr("Tour"), QKeySequence::HelpContents, &Editor::startTour);
+    add(QT_TR_NOOP("New card..."), QKeySequence::New, &Editor::askForCard);
+    add(QT_TR_NOOP("Undo"), QKeySequence::Undo, &Editor::undo);
+    add(QT_TR_NOOP("Redo"), QKeySequence::Redo, &Editor::redo);
+    add(QT_TR_NOOP("Save as preset"), QKeySequence::Save, &Editor::savePreset);
+    add(QT_TR_NOOP("Export picture"), QKeySequence(QStringLiteral("Ctrl+Shift+E")), &Editor::exportPicture);
+    add(QT_TR_NOOP("Tour"), QKeySequence::HelpContents, &Editor::startTour);
 }
 
 void Editor::makeSwitches()
 {
     auto* bar = addToolBar(QString());
-    const auto add = [bar](const QStringList& items, const auto& choose) {
+    bar->setObjectName(QStringLiteral("switches"));
+    const auto add = [this, bar](const QStringList& items, const auto& choose) {
         auto* box = new QComboBox(bar);
         box->addItems(items);
-        connect(box, &QComboBox::currentTextChanged, bar, choose);
+        connect(box, &QComboBox::currentTextChanged, this, choose);
         bar->addWidget(box);
     };
-    add({QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("none")},
-        [this](const QString& name) { setStyle(name); });
-    setStyle(QStringLiteral("dark"));
-    add({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("ja")},
-        [this](const QString& code) { setLanguage(code); });
+    add({QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("none")}, &Editor::setStyle);
+    add({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("ja")}, &Editor::setLanguage);
     add({QStringLiteral("ltr"), QStringLiteral("rtl")}, [this](const QString& direction) {
         setLayoutDirection(direction == QLatin1String("rtl") ? Qt::RightToLeft : Qt::LeftToRight);
     });
@@ -96,18 +88,17 @@ void Editor::makeSwitches()
 
 void Editor::addPresets(QBoxLayout* layout)
 {
-    auto* search = new SearchWidget(this);
-    search->setTranslations(QString(), tr("Name of a preset"), tr("Clear"), tr("Search presets"));
+    m_search = new SearchWidget(this);
     auto* found = new QSortFilterProxyModel(this);
     found->setSourceModel(&m_presetNames);
     found->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_presetList = new AdjustingListView(this);
     m_presetList->setModel(found);
     m_presetList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    layout->addWidget(search);
+    layout->addWidget(m_search);
     layout->addWidget(m_presetList);
     layout->addStretch();
-    connect(search, &SearchWidget::textChanged, found, &QSortFilterProxyModel::setFilterFixedString);
+    connect(m_search, &SearchWidget::textChanged, found, &QSortFilterProxyModel::setFilterFixedString);
     connect(m_presetList, &QListView::activated, this,
             [this](const QModelIndex& index) { applyPreset(index.data().toString()); });
 }
@@ -116,7 +107,6 @@ void Editor::addFolder(QBoxLayout* layout)
 {
     m_folder = new PathSelectionWidget(this);
     m_folder->setErrorDisplayType(PathSelectionWidget::Label);
-    m_folder->setBrowseButtonTooltip(tr("Where the picture is saved"));
     layout->addWidget(m_folder);
     connect(m_folder, &PathSelectionWidget::pathChanged, this, &Editor::showSpace);
     connect(m_folder, &PathSelectionWidget::browseDirectoryRequested, this, [this](const QUrl& url) {
@@ -142,7 +132,7 @@ void Editor::change(const QString& text, const QVector<Card>& cards)
 void Editor::askForCard()
 {
     NewCardDialog dialog(this);
-    dialog.setQmlPath(m_scenes.filePath(QStringLiteral("NewCard.qml")));
+    dialog.setQmlPath(QCoreApplication::applicationDirPath() + QStringLiteral("/NewCard.qml"));
     if (dialog.exec() == QDialog::Accepted && !dialog.text().isEmpty()) {
         addCard(dialog.text());
     }
@@ -170,31 +160,30 @@ void Editor::redo()
 
 void Editor::savePreset()
 {
-    if (m_canvas->selection().isEmpty()) {
+    const Card* const card = m_document.find(m_canvas->selection().value(0));
+    if (!card) {
         return;
     }
-    for (const Card& card : m_document.cards()) {
-        if (card.id == m_canvas->selection().first()) {
-            m_presets.insert(card.values.value(Text).toString(), card);
-        }
-    }
+    QMap<Property, QVariant> values = card->values;
+    const QString name = values.take(Text).toString();
+    values.remove(Position);
+    m_presets.insert(name, values);
     m_presetNames.setStringList(m_presets.keys());
     // As high as its rows, until there are many.
     constexpr int ManyRows = 6;
     m_presetList->setLoadingFinished(m_presets.size() > ManyRows);
 }
 
-/// Gives the selected cards all that the preset has but its text and its place.
+/// Gives the selected cards all but text and place.
 void Editor::applyPreset(const QString& name)
 {
+    if (m_canvas->selection().isEmpty()) {
+        return;
+    }
     QVector<Card> cards = m_document.cards();
     for (Card& card : cards) {
         if (m_canvas->selection().contains(card.id)) {
-            const QVariant text = card.values.value(Text);
-            const QVariant position = card.values.value(Position);
-            card.values = m_presets.value(name).values;
-            card.values[Text] = text;
-            card.values[Position] = position;
+            card.values.insert(m_presets.value(name));
         }
     }
     change(name, cards);
@@ -228,11 +217,12 @@ void Editor::startTour()
         m_tour = new DialogGuideWidget(this);
         connect(m_tour, &DialogGuideWidget::mainClicked, this, [this] { showStep(m_step + 1); });
         connect(m_tour, &DialogGuideWidget::secondaryClicked, this, [this] { showStep(m_step - 1); });
-        connect(m_tour, &DialogGuideWidget::closeClicked, m_tour, &QObject::deleteLater);
+        connect(m_tour, &DialogGuideWidget::closeClicked, this, [this] { showStep(-1); });
     }
     showStep(0);
 }
 
+/// Ends the tour before its first and after its last step.
 void Editor::showStep(int step)
 {
     const QVector<std::tuple<QWidget*, QString, QString>> steps = {
@@ -241,7 +231,7 @@ void Editor::showStep(int step)
          tr("All selected cards get what you change. Escape takes it back.")},
         {m_folder, tr("The folder"), tr("The canvas is saved here as a picture.")},
     };
-    if (step >= steps.size()) {
+    if (step < 0 || step >= steps.size()) {
         QSettings().setValue(QStringLiteral("tourIsOver"), true);
         m_tour->deleteLater();
         return;
@@ -256,19 +246,34 @@ void Editor::showStep(int step)
 
 void Editor::setStyle(const QString& name)
 {
-    QFile sheet(m_shareFolder + QStringLiteral("/styles/%1.qss").arg(name));
-    // Its images are beside it.
-    QDir::setSearchPaths(QStringLiteral("titlecard"), {m_shareFolder + QStringLiteral("/styles")});
-    QString text = sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
-    text.replace(QLatin1String("url(images/"), QLatin1String("url(titlecard:images/"));
-    window()->setStyleSheet(text);
+    const EditSession::Refresh guard(m_inspector);
+    const QString sheet = m_shareFolder + QStringLiteral("/styles/%1.qss").arg(name);
+    // Given as a file, it has its images beside it.
+    qApp->setStyleSheet(QFile::exists(sheet) ? QStringLiteral("file:///") + sheet : QString());
+    retranslate(); // a point plane takes its fill when it gets its size
 }
 
 void Editor::setLanguage(const QString& code)
 {
-    QCoreApplication::removeTranslator(&m_translator);
-    if (m_translator.load(m_shareFolder + QStringLiteral("/translations/uicomponents_%1.qm").arg(code))) {
-        QCoreApplication::installTranslator(&m_translator);
+    const EditSession::Refresh guard(m_inspector);
+    m_libraryTexts.load(m_shareFolder + QStringLiteral("/translations/uicomponents_") + code);
+    m_ownTexts.load(QCoreApplication::applicationDirPath() + QStringLiteral("/titlecard_") + code);
+    retranslate();
+}
+
+void Editor::retranslate()
+{
+    setWindowTitle(tr("Title cards"));
+    for (QAction* action : m_commands->actions()) {
+        action->setText(tr(action->objectName().toLatin1()));
+    }
+    m_search->setTranslations(QString(), tr("Name of a preset"), tr("Clear"), tr("Search presets"));
+    m_folder->setBrowseButtonTooltip(tr("Where the picture is saved"));
+    delete m_inspector;
+    m_inspector = new Inspector(&m_document, m_canvas, &m_stack, this);
+    m_right->insertWidget(0, m_inspector);
+    if (m_tour) {
+        showStep(m_step);
     }
 }
 

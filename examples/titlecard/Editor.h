@@ -6,7 +6,6 @@
 
 #include <QMainWindow>
 #include <QStringListModel>
-#include <QTemporaryDir>
 #include <QTranslator>
 #include <QUndoStack>
 
@@ -14,6 +13,8 @@ class AdjustingListView;
 class DialogGuideWidget;
 class PathSelectionWidget;
 class QBoxLayout;
+class QToolBar;
+class SearchWidget;
 
 namespace TitleCard {
 
@@ -46,16 +47,18 @@ class Editor : public QMainWindow
     Q_OBJECT
 
 public:
-    /// @p shareFolder has the library's style sheets and translations.
+    /// @p shareFolder has the library's style sheets and translations. The program's own files are beside it.
     explicit Editor(const QString& shareFolder, QWidget* parent = nullptr);
-    ~Editor() override;
 
     Document* document() { return &m_document; }
     Canvas* canvas() const { return m_canvas; }
+    Inspector* inspector() const { return m_inspector; }
     QUndoStack* undoStack() { return &m_stack; }
     void startFirstTour();
 
 public Q_SLOTS:
+    /// For the application: the name of a sheet, or any other for none.
+    void setStyle(const QString& name);
     void askForCard();
     void addCard(const QString& text);
     void undo();
@@ -74,18 +77,21 @@ private:
     void savePreset();
     void showSpace(const QString& folder);
     void showStep(int step);
-    void setStyle(const QString& name);
     void setLanguage(const QString& code);
+    void retranslate();
 
     const QString m_shareFolder;
-    const QTemporaryDir m_scenes; // QML is loaded from files only
     QUndoStack m_stack;
     Document m_document;
-    QTranslator m_translator;
-    QMap<QString, Card> m_presets;
+    QTranslator m_libraryTexts;
+    QTranslator m_ownTexts;
+    QMap<QString, QMap<Property, QVariant>> m_presets;
     Canvas* const m_canvas;
-    Inspector* const m_inspector;
+    Inspector* m_inspector = nullptr;
     QStringListModel m_presetNames;
+    QBoxLayout* m_right = nullptr;
+    QToolBar* m_commands = nullptr;
+    SearchWidget* m_search = nullptr;
     AdjustingListView* m_presetList = nullptr;
     PathSelectionWidget* m_folder = nullptr;
     QPointer<DialogGuideWidget> m_tour;

@@ -19,19 +19,6 @@
 
 namespace TitleCard {
 
-namespace {
-
-QWidget* makeColorField(QWidget* parent, bool isOptional)
-{
-    PopupColorPicker::Options options;
-    options.nullColor = isOptional;
-    auto* field = new ColorInputWidget(parent, QColor());
-    field->setPicker(new PopupColorPicker(options));
-    return field;
-}
-
-} // namespace
-
 Inspector::Inspector(Document* document, Canvas* canvas, QUndoStack* stack, QWidget* parent)
     : QWidget(parent)
     , m_document(document)
@@ -39,10 +26,15 @@ Inspector::Inspector(Document* document, Canvas* canvas, QUndoStack* stack, QWid
     , m_stack(stack)
     , m_form(new QFormLayout(this))
 {
+    const auto colorField = [this](const PopupColorPicker::Options& options) {
+        auto* field = new ColorInputWidget(this, QColor());
+        field->setPicker(new PopupColorPicker(options));
+        return field;
+    };
     addField(Text, tr("Text"), new QLineEdit(this), tr("What the card says. Escape brings it back."));
-    addField(Color, tr("Colour"), makeColorField(this, false), tr("Of the letters."));
-    addField(Outline, tr("Outline"), makeColorField(this, true), tr("Around the letters, or none."));
-    addField(Background, tr("Background"), makeColorField(this, true), tr("Behind the letters, or none."));
+    addField(Color, tr("Colour"), colorField({}), tr("Of the letters."));
+    addField(Outline, tr("Outline"), colorField({true}), tr("Around the letters, or none."));
+    addField(Background, tr("Background"), colorField({true}), tr("Behind the letters, or none."));
     addField(Size, tr("Size"), new SliderInputWidget(this, {8, 200}), tr("Of the letters in pixels."));
     addField(Rotation, tr("Rotation"), new SliderInputWidget(this, {-180, 180}), tr("Degrees, clockwise."));
     addField(Opacity, tr("Opacity"), new DoubleSliderInputWidget(this, {0.0, 1.0, 2}),
@@ -67,7 +59,7 @@ void Inspector::addField(Property property, const QString& caption, QWidget* fie
     row->addWidget(field, 1);
     row->addWidget(guide, 0, Qt::AlignTop);
     m_form->addRow(caption, row);
-    field->setObjectName(caption);
+    field->setAccessibleName(caption);
 
     auto* session = new EditSession(field);
     EditCommand::record(
@@ -88,7 +80,8 @@ void Inspector::refresh()
     const QVector<int>& selected = m_canvas->selection();
     for (auto session = m_sessions.cbegin(); session != m_sessions.cend(); ++session) {
         (*session)->field()->setEnabled(!selected.isEmpty());
-        if (selected.isEmpty()) {
+        // One that is edited shows what the user is trying.
+        if (selected.isEmpty() || (*session)->isActive()) {
             continue;
         }
         bool isSame = true;
@@ -96,9 +89,7 @@ void Inspector::refresh()
         for (const int id : selected) {
             isSame = isSame && EditSession::isSame(m_document->value(id, session.key()), first);
         }
-        if ((*session)->isActive()) {
-            // It shows what the user is trying.
-        } else if (isSame) {
+        if (isSame) {
             (*session)->setValue(first);
         } else {
             (*session)->setMultiValue(true);

@@ -22,6 +22,7 @@ public:
 
     /// Shows what the selected cards have, or that they differ.
     void refresh();
+    EditSession* session(Property property) const { return m_sessions.value(property); }
 
 private:
     void addField(Property property, const QString& caption, QWidget* field, const QString& help);

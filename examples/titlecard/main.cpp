@@ -8,6 +8,7 @@ int main(int argc, char** argv)
     application.setOrganizationName(QStringLiteral("Example"));
     application.setApplicationName(QStringLiteral("TitleCard"));
     TitleCard::Editor editor(QStringLiteral(TITLECARD_SHARE));
+    editor.setStyle(QStringLiteral("dark"));
     editor.resize(1180, 760);
     editor.show();
     editor.startFirstTour();

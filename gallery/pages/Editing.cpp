@@ -9,6 +9,7 @@
 #include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/SliderInputWidget.h>
 
+#include <QToolBar>
 #include <QUndoStack>
 
 #include <examples/titlecard/Canvas.h>
@@ -84,10 +85,11 @@ void PageRegistry::editSession(Page* page)
 
 void PageRegistry::titleCard(Page* page)
 {
-    Q_INIT_RESOURCE(titlecard);
     page->setMaxSpecimenShare(0.9);
     auto* editor = new TitleCard::Editor(QString());
     editor->setWindowFlags(Qt::Widget);
+    // The gallery has switches of its own.
+    editor->findChild<QToolBar*>(QStringLiteral("switches"))->hide();
     // The space differs from disk to disk, and the field names its folder after a while: no two pictures of
     // the page would be alike.
     QObject::disconnect(editor->findChild<PathSelectionWidget*>(), &PathSelectionWidget::pathChanged, editor,

@@ -1,17 +1,24 @@
 #include "RealInput.h"
+#include "SameCards.h"
 #include "TestMain.h"
 
+#include <UiComponents/AdjustingListView.h>
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
+#include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/EditSession.h>
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
+#include <WidgetToolkit/OvFrame.h>
 
 #include <examples/titlecard/Canvas.h>
 #include <examples/titlecard/Editor.h>
+#include <examples/titlecard/Inspector.h>
+#include <gallery/GalleryApplication.h>
 #include <memory>
 
 using namespace TitleCard;
@@ -25,16 +32,22 @@ class tst_TitleCard : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { GalleryApplication::prepare(); }
+
     void init()
     {
-        Q_INIT_RESOURCE(titlecard);
-        m_editor = std::make_unique<Editor>(QString());
+        m_editor = std::make_unique<Editor>(QStringLiteral(":"));
+        m_editor->setStyle(QStringLiteral("dark"));
         m_editor->move(20, 40);
-        m_editor->resize(1000, 640);
+        m_editor->resize(1180, 700);
         QVERIFY(RealInput::showAndActivate(m_editor.get()));
     }
 
-    void cleanup() { m_editor.reset(); }
+    void cleanup()
+    {
+        m_editor.reset();
+        qApp->setStyleSheet(QString());
+    }
 
     void cardsByMouseAndKeyboard()
     {
@@ -46,32 +59,43 @@ private Q_SLOTS:
         QCOMPARE(steps(), 2);
 
         // Each property by keyboard, and by mouse where there is a way.
-        auto* text = field<QLineEdit>("Text");
+        auto* text = field<QLineEdit>(Text);
         QVERIFY(RealInput::click(text));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(QStringLiteral("second")));
         QVERIFY(RealInput::key(QStringLiteral("Return")));
         QTRY_COMPARE(values(Text), QVariantList({"one", "second"}));
         QTRY_COMPARE(steps(), 3);
-        QVERIFY(chooseColor("Colour", "ffc000", "Return"));
-        QVERIFY(chooseColor("Outline", "ff0000", "Return"));
-        QVERIFY(chooseColor("Background", "123456", "Return"));
-        QCOMPARE(steps(), 6);
-        QVERIFY(typeNumber("Size", "60"));
-        QVERIFY(dragSlider("Size"));
-        QVERIFY(typeNumber("Rotation", "20"));
-        QVERIFY(dragSlider("Rotation"));
-        QVERIFY(typeNumber("Opacity", "0.8"));
-        QVERIFY(dragSlider("Opacity"));
-        auto* plane = part<PointSelectionPlane>("Position");
+        int colorSteps = steps();
+        for (const Property property : {Color, Outline, Background}) {
+            QVERIFY(chooseColor(property, "ffc000", "Return"));
+            QCOMPARE(steps(), ++colorSteps);
+            QVERIFY(clickColor(property));
+            QCOMPARE(steps(), ++colorSteps);
+        }
+        QVERIFY(typeNumber(Size, "60"));
+        QVERIFY(dragSlider(Size));
+        QVERIFY(typeNumber(Rotation, "20"));
+        QVERIFY(dragSlider(Rotation));
+        QVERIFY(typeNumber(Opacity, "0.8"));
+        QVERIFY(dragSlider(Opacity));
+        auto* plane = part<PointSelectionPlane>(Position);
         const int beforePlane = steps();
         QVERIFY(RealInput::drag(plane, plane->rect().center(), plane->rect().center() + QPoint(30, 20)));
         QTRY_COMPARE(steps(), beforePlane + 1);
-        QVERIFY(typeNumber("Position", "0.25"));
-        auto* blending = field<ColorBlendingComboBox>("Blending");
+        QVERIFY(typeNumber(Position, "0.25"));
+        auto* blending = field<ColorBlendingComboBox>(Blending);
         blending->setFocus();
         QVERIFY(RealInput::key(QStringLiteral("Down")));
         QTRY_COMPARE(steps(), beforePlane + 3);
+        QVERIFY(RealInput::click(blending));
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QVERIFY(QTest::qWaitForWindowExposed(QApplication::activePopupWidget()));
+        const auto* const modes = QApplication::activePopupWidget()->findChild<QAbstractItemView*>();
+        const QModelIndex third = modes->model()->index(2, 0);
+        QVERIFY(modes->currentIndex() != third);
+        QVERIFY(RealInput::click(modes->viewport(), modes->visualRect(third).center()));
+        QTRY_COMPARE(steps(), beforePlane + 4);
 
         // All of it undone, and done again.
         const QVector<Card> made = cards();
@@ -92,13 +116,13 @@ private Q_SLOTS:
         QVERIFY(RealInput::click(m_editor->canvas(), QPoint(5, 5)));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QTRY_COMPARE(m_editor->canvas()->selection().size(), 2);
-        auto* color = field<ColorInputWidget>("Colour");
+        auto* color = field<ColorInputWidget>(Color);
         QTRY_VERIFY(!color->color());
-        QVERIFY(chooseColor("Colour", "00ff00", "Escape"));
+        QVERIFY(chooseColor(Color, "00ff00", "Escape"));
         QVERIFY(isSame(cards(), made));
         QVERIFY(!color->color());
         QCOMPARE(steps(), all);
-        QVERIFY(chooseColor("Colour", "00ff00", "Return"));
+        QVERIFY(chooseColor(Color, "00ff00", "Return"));
         QCOMPARE(steps(), all + 1);
         QVERIFY(EditSession::isSame(values(Color).at(0), values(Color).at(1)));
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("title-cards")));
@@ -118,41 +142,150 @@ private Q_SLOTS:
                  m_editor->canvas()->grab().toImage().convertToFormat(QImage::Format_RGB32));
     }
 
+    void givenUpCardIsNotMade()
+    {
+        QVERIFY(makeCard(QStringLiteral("one"), QStringLiteral("Escape")));
+        QVERIFY(cards().isEmpty());
+        QCOMPARE(steps(), 0);
+    }
+
+    void presetIsFoundAndApplied()
+    {
+        QVERIFY(makeCard(QStringLiteral("bright")));
+        QVERIFY(typeNumber(Size, "60"));
+        QVERIFY(typeNumber(Position, "0.25"));
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+s")));
+        QVERIFY(makeCard(QStringLiteral("dark")));
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+s")));
+        auto* list = m_editor->findChild<AdjustingListView*>();
+        QTRY_COMPARE(list->model()->rowCount(), 2);
+        QVERIFY(RealInput::click(m_editor->findChild<SearchWidget*>()->findChild<QLineEdit*>()));
+        QVERIFY(RealInput::type(QStringLiteral("BRI")));
+        QTRY_COMPARE(list->model()->rowCount(), 1);
+        const int before = steps();
+        const QPoint first = list->visualRect(list->model()->index(0, 0)).center();
+        QVERIFY(RealInput::click(list->viewport(), first));
+        QVERIFY(RealInput::key(QStringLiteral("Return")));
+        QTRY_COMPARE(steps(), before + 1);
+        QCOMPARE(values(Size), QVariantList({60, 60}));
+        QCOMPARE(values(Text), QVariantList({"bright", "dark"}));
+        QVERIFY(values(Position).at(0) != values(Position).at(1));
+    }
+
+    void tourRunsOnce()
+    {
+        const auto bubble = [this] { return m_editor->findChild<DialogGuideWidget*>(); };
+        for (const bool isClosed : {false, true}) {
+            QSettings().remove(QStringLiteral("tourIsOver"));
+            m_editor->startFirstTour();
+            QVERIFY(QTest::qWaitForWindowExposed(bubble()));
+            const QString button = isClosed ? QStringLiteral("closeButton") : QStringLiteral("mainButton");
+            for (int step = 0; step < (isClosed ? 1 : 3); ++step) {
+                const QString title = bubble()->windowTitle();
+                const QRect content = bubble()->contentFrame()->geometry();
+                const QPoint beside(content.left() + 3, content.center().y());
+                QTRY_COMPARE(RealInput::pixel(bubble(), beside), bubble()->backgroundColor());
+                QVERIFY(RealInput::click(bubble()->findChild<QWidget*>(button)));
+                QTRY_VERIFY(!bubble() || bubble()->windowTitle() != title);
+            }
+            QTRY_VERIFY(!bubble());
+            m_editor->startFirstTour();
+            QVERIFY(!bubble());
+        }
+    }
+
+    void switchesAreLive()
+    {
+        QVERIFY(makeCard(QStringLiteral("one")));
+        const auto switches =
+            m_editor->findChild<QToolBar*>(QStringLiteral("switches"))->findChildren<QComboBox*>();
+        QCOMPARE(switches.size(), 3);
+        const auto next = [&switches](int index) {
+            // A longer text has moved it.
+            QCoreApplication::processEvents();
+            return RealInput::click(switches.at(index)) &&
+                   QTest::qWaitFor([] { return QApplication::activePopupWidget(); }) &&
+                   QTest::qWaitForWindowExposed(QApplication::activePopupWidget()) &&
+                   RealInput::key(QStringLiteral("Down")) && RealInput::key(QStringLiteral("Return")) &&
+                   QTest::qWaitFor([] { return !QApplication::activePopupWidget(); });
+        };
+        const auto ground = [this] { return RealInput::pixel(m_editor->centralWidget(), QPoint(2, 2)); };
+        const QColor dark = ground();
+        QVERIFY(next(0));
+        QTRY_VERIFY(ground().lightness() > dark.lightness() + 100);
+
+        const auto* const undo = m_editor->findChild<QAction*>(QStringLiteral("Undo"));
+        const QString english = field<QWidget>(Size)->accessibleName();
+        for (const auto& text : {QStringLiteral("Rückgängig"), QStringLiteral("元に戻す")}) {
+            QVERIFY(next(1));
+            QTRY_COMPARE(undo->text(), text);
+            QVERIFY(field<QWidget>(Size)->accessibleName() != english);
+        }
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("title-cards-ja")));
+
+        const auto isLeading = [this] {
+            return m_editor->canvas()->mapToGlobal(QPoint()).x() <
+                   m_editor->inspector()->mapToGlobal(QPoint()).x();
+        };
+        QTRY_VERIFY(isLeading());
+        QVERIFY(next(2));
+        QTRY_VERIFY(!isLeading());
+        // What was done is still there.
+        QCOMPARE(steps(), 1);
+        QVERIFY(typeNumber(Size, "60"));
+    }
+
 private:
     template <typename Field>
-    Field* field(const char* name) const
+    Field* field(Property property) const
     {
-        return m_editor->findChild<Field*>(QLatin1String(name));
+        return qobject_cast<Field*>(m_editor->inspector()->session(property)->field());
     }
 
     template <typename Part>
-    Part* part(const char* name) const
+    Part* part(Property property) const
     {
-        return field<QWidget>(name)->findChild<Part*>();
+        return field<QWidget>(property)->findChild<Part*>();
     }
 
-    bool makeCard(const QString& text)
+    bool makeCard(const QString& text, const QString& end = QStringLiteral("Return"))
     {
-        const int count = cards().size();
+        bool isOver = false;
         // The dialog runs an event loop of its own.
         QTimer typing;
-        connect(&typing, &QTimer::timeout, this, [&typing, text] {
+        connect(&typing, &QTimer::timeout, this, [&] {
             const QWidget* const dialog = QApplication::activeModalWidget();
             if (dialog && dialog->isActiveWindow()) {
                 typing.stop();
                 RealInput::type(text);
-                RealInput::key(QStringLiteral("Return"));
+                RealInput::key(end);
+                isOver = true;
             }
         });
         typing.start(20);
         return RealInput::key(QStringLiteral("ctrl+n")) &&
-               QTest::qWaitFor([&] { return cards().size() > count; }) &&
+               QTest::qWaitFor([&] { return isOver && !QApplication::activeModalWidget(); }) &&
                QTest::qWaitFor([this] { return m_editor->isActiveWindow(); });
     }
 
-    bool chooseColor(const char* name, const QString& hex, const QString& end)
+    bool clickColor(Property property)
     {
-        auto* button = qobject_cast<QToolButton*>(field<ColorInputWidget>(name)->anchorWidget());
+        auto* button = qobject_cast<QToolButton*>(field<ColorInputWidget>(property)->anchorWidget());
+        if (!RealInput::click(button) || !QTest::qWaitFor([] { return QApplication::activePopupWidget(); })) {
+            return false;
+        }
+        const QWidget* const popup = QApplication::activePopupWidget();
+        const auto faces =
+            popup->findChild<QWidget*>(QStringLiteral("colorMatrixPanel"))->findChildren<QToolButton*>();
+        return QTest::qWaitForWindowExposed(popup->window()) && RealInput::click(faces.at(40)) &&
+               QTest::qWaitFor([&] { return faces.at(40)->isChecked(); }) &&
+               RealInput::click(m_editor.get(), QPoint(3, m_editor->height() - 3)) &&
+               QTest::qWaitFor([button] { return !button->isDown(); });
+    }
+
+    bool chooseColor(Property property, const QString& hex, const QString& end)
+    {
+        auto* button = qobject_cast<QToolButton*>(field<ColorInputWidget>(property)->anchorWidget());
         if (!RealInput::click(button) || !QTest::qWaitFor([] { return QApplication::activePopupWidget(); })) {
             return false;
         }
@@ -164,18 +297,18 @@ private:
                RealInput::key(end) && QTest::qWaitFor([button] { return !button->isDown(); });
     }
 
-    bool typeNumber(const char* name, const QString& number)
+    bool typeNumber(Property property, const QString& number)
     {
-        auto* box = part<QAbstractSpinBox>(name);
+        auto* box = part<QAbstractSpinBox>(property);
         const int before = steps();
         return RealInput::click(box->findChild<QLineEdit*>()) && RealInput::key(QStringLiteral("ctrl+a")) &&
                RealInput::type(number) && RealInput::key(QStringLiteral("Return")) &&
                QTest::qWaitFor([&] { return steps() == before + 1; });
     }
 
-    bool dragSlider(const char* name)
+    bool dragSlider(Property property)
     {
-        auto* slider = part<QSlider>(name);
+        auto* slider = part<QSlider>(property);
         const int before = steps();
         const int y = slider->height() / 2;
         return RealInput::drag(slider, QPoint(slider->width() / 2, y), QPoint(slider->width() / 3, y)) &&
@@ -194,17 +327,6 @@ private:
 
     QVector<Card> cards() const { return m_editor->document()->cards(); }
     int steps() const { return m_editor->undoStack()->index(); }
-
-    bool isSame(const QVector<Card>& one, const QVector<Card>& other) const
-    {
-        bool isSame = one.size() == other.size();
-        for (int i = 0; isSame && i < one.size(); ++i) {
-            for (auto value = one.at(i).values.cbegin(); value != one.at(i).values.cend(); ++value) {
-                isSame = isSame && EditSession::isSame(*value, other.at(i).values.value(value.key()));
-            }
-        }
-        return isSame;
-    }
 
     std::unique_ptr<Editor> m_editor;
 };
