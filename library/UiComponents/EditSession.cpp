@@ -52,7 +52,6 @@ QLineEdit* editorOf(QObject* part)
     return qobject_cast<QAbstractSpinBox*>(part) ? part->findChild<QLineEdit*>() : nullptr;
 }
 
-/// Each step of a drag brings many events that say nothing.
 ColorPickerButton* colorButtonOf(QWidget* field)
 {
     const auto* input = qobject_cast<ColorInputWidget*>(field);

@@ -18,7 +18,20 @@ class QWindow;
  * desktop's portal shows a picker of its own (org.freedesktop.portal.Screenshot). A host that knows better,
  * and a test, implement this class and install() an object of it, which all pipettes use from then on.
  *
- * Everything is asynchronous: pick() only sends the request, and the answer comes from the event loop.
+ * Everything is asynchronous: pick() only sends the request, and the answer comes from the event loop. One
+ * for the tests of a host, whose user always picks red:
+ *
+ *     class RedScreen : public ScreenColorSource
+ *     {
+ *         QString unavailableReason() const override { return {}; }
+ *         std::unique_ptr<QObject> pick(QWindow*, Answer answer) override
+ *         {
+ *             auto request = std::make_unique<QObject>();
+ *             QTimer::singleShot(0, request.get(), [answer] { answer({Qt::red, {}}); });
+ *             return request;
+ *         }
+ *     };
+ *
  * @see Pipette::unavailableReason()
  */
 class UICOMPONENTS_EXPORT ScreenColorSource : public QObject

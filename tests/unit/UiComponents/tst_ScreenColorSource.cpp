@@ -37,6 +37,18 @@ struct Stage
     QStringList log;
 };
 
+/// As the manual of ScreenColorSource shows it.
+class RedScreen : public ScreenColorSource // clazy:exclude=missing-qobject-macro
+{
+    QString unavailableReason() const override { return {}; }
+    std::unique_ptr<QObject> pick(QWindow* /*parent*/, Answer answer) override
+    {
+        auto request = std::make_unique<QObject>();
+        QTimer::singleShot(0, request.get(), [answer] { answer({Qt::red, {}}); });
+        return request;
+    }
+};
+
 } // namespace
 
 class tst_ScreenColorSource : public QObject
@@ -86,6 +98,23 @@ private Q_SLOTS:
         QVERIFY(ScreenColorSource::current());
         FakePrivacy::screenAccess = AccessStatus::Granted;
         QVERIFY(!ScreenColorSource::current());
+    }
+
+    void hostsOwn()
+    {
+        RedScreen screen;
+        ScreenColorSource::install(&screen);
+        Pipette pipette;
+        QSignalSpy selected(&pipette, &Pipette::colorSelected);
+        pipette.startPicking();
+        QCOMPARE(selected.count(), 0);
+        QTRY_COMPARE(selected.count(), 1);
+        QCOMPARE(pipette.currentColor(), QColor(Qt::red));
+        // A request that is withdrawn is not answered.
+        pipette.startPicking();
+        pipette.stopPicking();
+        QCoreApplication::processEvents();
+        QCOMPARE(selected.count(), 1);
     }
 
     void uninstalled()
