@@ -146,12 +146,6 @@ void PageRegistry::widgetColorPicker(Page* page)
             button->setPickerStylingObject(look());
             button->setColor(sample);
         });
-    page->addTwins<WidgetColorPickerButton>(tr("Before its first pick"),
-                                            [film](WidgetColorPickerButton* button) {
-                                                button->setAccessibleName(tr("Pick a colour from the film"));
-                                                button->setTargetWidget(film);
-                                                button->setPickerStylingObject(look());
-                                            });
     const auto fields = page->addTwins<ColorPickerButton>(
         tr("A colour button with this picker"), [film, sample](ColorPickerButton* field) {
             field->setAccessibleName(tr("Pick a colour from the film"));
@@ -161,6 +155,12 @@ void PageRegistry::widgetColorPicker(Page* page)
             field->setPicker(picker);
             field->setColor(sample);
         });
+    page->addTwins<WidgetColorPickerButton>(tr("Before its first pick"),
+                                            [film](WidgetColorPickerButton* button) {
+                                                button->setAccessibleName(tr("Pick a colour from the film"));
+                                                button->setTargetWidget(film);
+                                                button->setPickerStylingObject(look());
+                                            });
     const QPointer<WidgetColorPicker> picker = fields.enabled->findChild<WidgetColorPicker*>();
 
     PropertyPanel* const panel = page->properties();

@@ -7,6 +7,8 @@
 #include <UiComponents/Pipette.h>
 #include <WidgetToolkit/OvFrame.h>
 
+#include <QDBusServiceWatcher>
+
 #include <gallery/CommandLine.h>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
@@ -19,7 +21,15 @@ namespace {
 /// A portal on the session's bus, with a connection of its own.
 struct Desktop
 {
-    Desktop() { portal.start(); }
+    Desktop()
+    {
+        // Qt logs when it has asked who that is before it hears that somebody is.
+        QDBusServiceWatcher watcher(TestPortal::name(), QDBusConnection::sessionBus(),
+                                    QDBusServiceWatcher::WatchForRegistration);
+        QSignalSpy registered(&watcher, &QDBusServiceWatcher::serviceRegistered);
+        QVERIFY(portal.start());
+        QVERIFY(!registered.isEmpty() || registered.wait());
+    }
     ~Desktop()
     {
         portal.stop();

@@ -108,6 +108,24 @@ private Q_SLOTS:
         QTRY_VERIFY(m_portal->unavailableReason().isEmpty());
     }
 
+    // As an older one here, so that it is seen to be asked again. Nothing is logged.
+    void startsAgain()
+    {
+        QVERIFY(m_service->start());
+        makePortal();
+        Answers answers;
+        auto request = m_portal->pick(nullptr, answers.taker());
+        QTRY_COMPARE(m_service->requests.size(), 1);
+        m_service->respond(0, QColor(Qt::white));
+        QTRY_COMPARE(answers.results.size(), 1);
+        request.reset();
+        m_service->stop();
+        flush();
+        m_service->versionNumber = 1;
+        QVERIFY(m_service->start());
+        QTRY_VERIFY(!m_portal->unavailableReason().isEmpty());
+    }
+
     void doesNotAnswerAboutItself()
     {
         // Nobody reads what comes to this connection, as in a service that hangs.
