@@ -19,10 +19,6 @@
 
 using namespace TitleCard;
 
-extern Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong time, int key,
-                                                      Qt::KeyboardModifiers modifiers, const QString& text,
-                                                      bool isRepeated, ushort count);
-
 namespace {
 
 /// A warning is a failure, but for what the offscreen platform says.
