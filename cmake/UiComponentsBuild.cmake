@@ -5,13 +5,23 @@ if(UICOMPONENTS_INSTALL)
 endif()
 include(GenerateExportHeader)
 
-set(CMAKE_CXX_STANDARD 17)
+if(NOT CMAKE_CXX_STANDARD OR CMAKE_CXX_STANDARD LESS 17)
+    set(CMAKE_CXX_STANDARD 17)
+endif()
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(UICOMPONENTS_LIBRARY_TYPE SHARED)
+if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
+    set(UICOMPONENTS_LIBRARY_TYPE STATIC)
+    if(UICOMPONENTS_DEVELOPER_MODE)
+        message(FATAL_ERROR "The tests need shared libraries: UICOMPONENTS_DEVELOPER_MODE and "
+            "BUILD_SHARED_LIBS=OFF exclude each other")
+    endif()
+endif()
 if(UICOMPONENTS_DEVELOPER_MODE)
     set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
@@ -64,8 +74,8 @@ endif()
 #     INTERNAL <class...>     the same, for the folder's own use only
 #     LINK_PUBLIC <target...> LINK_PRIVATE <target...>)
 #
-# Makes <NAMESPACE>::<Name>, a shared library that is included as <Name/Class.h>, and <Name>Testable,
-# a static build of the same objects that tests of internal code link. A target must never link both.
+# Makes <NAMESPACE>::<Name>, a shared library that is included as <Name/Class.h> (a static one where
+# BUILD_SHARED_LIBS is off), and <Name>Testable, a static build of the same objects that tests of internal code link. A target must never link both.
 # The target itself carries the prefix, so that a host that embeds this project keeps short names free.
 function(uic_library name)
     cmake_parse_arguments(arg "" "PREFIX;NAMESPACE" "PUBLIC;INTERNAL;LINK_PUBLIC;LINK_PRIVATE" ${ARGN})
@@ -94,7 +104,7 @@ function(uic_library name)
         uic_require_platform(${arg_LINK_PUBLIC} ${arg_LINK_PRIVATE})
     endif()
 
-    add_library(${library} SHARED ${sources})
+    add_library(${library} ${UICOMPONENTS_LIBRARY_TYPE} ${sources})
     add_library(${arg_NAMESPACE}::${name} ALIAS ${library})
     generate_export_header(${library} BASE_NAME ${upper} EXPORT_FILE_NAME "${export_header}")
     set(flavours ${library})
@@ -110,7 +120,11 @@ function(uic_library name)
             PUBLIC ${arg_LINK_PUBLIC} PRIVATE ${arg_LINK_PRIVATE} $<BUILD_INTERFACE:UiComponentsBuildOptions>)
         target_compile_features(${target} PUBLIC cxx_std_17)
     endforeach()
-    target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_OPTIONS})
+    if(UICOMPONENTS_LIBRARY_TYPE STREQUAL "STATIC")
+        target_compile_definitions(${library} PUBLIC ${upper}_STATIC_DEFINE)
+    else()
+        target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_OPTIONS})
+    endif()
     # While the major version is 0, a new minor version may break its users.
     set(soversion ${PROJECT_VERSION_MAJOR})
     if(soversion EQUAL 0)

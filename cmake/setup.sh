@@ -12,7 +12,7 @@ uic_packages()
                 echo qtdeclarative5-dev libqt5x11extras5-dev libxcb1-dev libgoogle-glog-dev ;;
             unit)
                 echo dbus-daemon fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 \
-                    qml-module-qtquick-window2 ;;
+                    libqt5svg5 qml-module-qtquick-window2 ;;
             run | gallery)
                 echo fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
             wayland)
@@ -24,9 +24,11 @@ uic_packages()
                     libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 \
                     dbus at-spi2-core python3-gi gir1.2-atspi-2.0 ;;
             package)
-                echo fonts-dejavu-core pkg-config ;;
+                echo clang fonts-dejavu-core make pkg-config qt5-qmake ;;
             benchmarks)
                 echo fonts-dejavu-core libbenchmark-dev libkf5widgetsaddons-dev python3 qml-module-qtquick2 ;;
+            debian)
+                echo debhelper lintian mmdebstrap ;;
             headers)
                 echo abigail-tools python3 ;;
             conventions)

@@ -11,6 +11,7 @@ public:
     explicit OvDoubleSlider(QWidget* parent = nullptr);
     ~OvDoubleSlider() override;
 
+    double multiplier() const { return m_multiplier; }
     void setMultiplier(double multiplier);
     double doubleValue() const;
     void setDoubleValue(double value);
