@@ -61,8 +61,6 @@ public:
     OvFrame* const ySpinboxFrame;
     QLabel* const yLabel;
     OvDoubleSpinBox* const ySpinbox;
-    // True while the parts are synchronised: what they report meanwhile goes to the host only.
-    bool updating = false;
     // A slot has set a value while the spin boxes followed the plane.
     bool isOverruled = false;
 };
@@ -110,13 +108,13 @@ void PointSelectorWidget::Private::followSpinBox(const QPointF& reported)
 {
     const QPointer<PointSelectorWidget> self = q;
     Q_EMIT q->valueChanged(reported);
-    if (!self || updating) {
+    if (!self || q->updating) {
         return;
     }
-    updating = true;
+    q->updating = true;
     // Not the reported value: a slot may have set another one.
     pointSelector->setPoint(spinBoxValue());
-    updating = false;
+    q->updating = false;
 }
 
 void PointSelectorWidget::Private::followPlane(const QPointF& reported)
@@ -124,10 +122,10 @@ void PointSelectorWidget::Private::followPlane(const QPointF& reported)
     const QPointer<PointSelectorWidget> self = q;
     const QPointF before = pointSelector->point();
     Q_EMIT q->valueChanged(reported);
-    if (!self || updating) {
+    if (!self || q->updating) {
         return;
     }
-    updating = true;
+    q->updating = true;
     isOverruled = false;
     // The reported value, unless a slot has set another one. QPointF's operator== is too coarse.
     const QPointF now = pointSelector->point();
@@ -141,7 +139,7 @@ void PointSelectorWidget::Private::followPlane(const QPointF& reported)
     if (!self) {
         return;
     }
-    updating = false;
+    q->updating = false;
     if (isOverruled) {
         pointSelector->setPoint(spinBoxValue());
     }

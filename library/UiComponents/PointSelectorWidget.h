@@ -89,5 +89,7 @@ protected:
 
 private:
     class UICOMPONENTS_NO_EXPORT Private;
+    // True while the parts are synchronised: what they report meanwhile goes to the host only.
+    bool updating = false;
     const std::unique_ptr<Private> d;
 };
