@@ -75,7 +75,8 @@ endif()
 #     LINK_PUBLIC <target...> LINK_PRIVATE <target...>)
 #
 # Makes <NAMESPACE>::<Name>, a shared library that is included as <Name/Class.h> (a static one where
-# BUILD_SHARED_LIBS is off), and <Name>Testable, a static build of the same objects that tests of internal code link. A target must never link both.
+# BUILD_SHARED_LIBS is off), and <Name>Testable, a static build of the same objects that tests of internal code
+# link. A target must never link both.
 # The target itself carries the prefix, so that a host that embeds this project keeps short names free.
 function(uic_library name)
     cmake_parse_arguments(arg "" "PREFIX;NAMESPACE" "PUBLIC;INTERNAL;LINK_PUBLIC;LINK_PRIVATE" ${ARGN})
