@@ -552,6 +552,7 @@ private Q_SLOTS:
         second.hide();
         QVERIFY(!bubble->isVisible());
         bubble->setParent(nullptr, bubble->windowFlags());
+        const std::unique_ptr<QWidget> owned(bubble);
         const QPoint last = bubble->targetPoint();
         second.move(0, 0);
         QCoreApplication::processEvents();
