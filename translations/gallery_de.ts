@@ -1965,7 +1965,7 @@
     </message>
     <message>
         <source>One edit, one step</source>
-        <translation>Ein Eingriff, ein Schritt</translation>
+        <translation>Eine Bearbeitung, ein Schritt</translation>
     </message>
     <message>
         <source>A session tells what a user does to a field as one story, from the first change to the end of the drag, the text or the pick. Here each becomes one step of undo. Escape takes it back.</source>

@@ -69,8 +69,15 @@ void PageRegistry::editSession(Page* page)
     }
     PropertyPanel* const panel = page->properties();
     panel->addHeading(QStringLiteral("QUndoStack"));
-    panel->addAction(tr("Undo"), stack, &QUndoStack::undo);
-    panel->addAction(tr("Redo"), stack, &QUndoStack::redo);
+    // What is typed, and not entered yet, becomes a step first.
+    panel->addAction(tr("Undo"), [page, stack] {
+        const EditSession::Refresh refresh(page);
+        stack->undo();
+    });
+    panel->addAction(tr("Redo"), [page, stack] {
+        const EditSession::Refresh refresh(page);
+        stack->redo();
+    });
     panel->addHeading(QStringLiteral("EditSession"));
     panel->addAction(tr("Several values"), [sessions] {
         for (EditSession* session : sessions) {

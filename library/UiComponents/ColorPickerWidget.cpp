@@ -200,8 +200,8 @@ public:
     void buildQueue();
     void configureInputs() const;
     void orderTabs() const;
-    void setTexts() const;
-    void showPipetteState() const;
+    void setTexts();
+    void showPipetteState();
     void connectInputs();
 
     void fillQueue(const QStringList& names);
@@ -270,6 +270,7 @@ public:
     int nextButtonId = -2;
     // True while the panel changes buttons and slider itself, whose handlers then do nothing.
     bool isFollowing = false;
+    QString shownReason; // of the pipette button
     const std::shared_ptr<Remains> remains = std::make_shared<Remains>();
 };
 
@@ -422,19 +423,22 @@ void ColorPickerWidget::Private::orderTabs() const
     QWidget::setTabOrder(opacitySlider, opacitySpinbox);
 }
 
-void ColorPickerWidget::Private::setTexts() const
+void ColorPickerWidget::Private::setTexts()
 {
     otherColorsTitleLabel->setText(tr("Other:"));
     opacityTitleLabel->setText(tr("Opacity:"));
     showPipetteState();
 }
 
-/// A button that could do nothing would be worse than one that says why.
-void ColorPickerWidget::Private::showPipetteState() const
+/// A button that could do nothing would be worse than one that says why. What the host has made of it stays.
+void ColorPickerWidget::Private::showPipetteState()
 {
-    const QString reason = Pipette::unavailableReason();
-    pipetteButton->setEnabled(reason.isEmpty());
-    pipetteButton->setToolTip(reason);
+    const bool isAsLeft = pipetteButton->isEnabledTo(q) == shownReason.isEmpty();
+    if (isAsLeft && pipetteButton->toolTip() == shownReason) {
+        shownReason = Pipette::unavailableReason();
+        pipetteButton->setEnabled(shownReason.isEmpty());
+        pipetteButton->setToolTip(shownReason);
+    }
 }
 
 void ColorPickerWidget::Private::connectInputs()

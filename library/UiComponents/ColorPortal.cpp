@@ -170,13 +170,16 @@ PortalRequest::PortalRequest(ColorPortal* portal, const QString& parentHandle,
                   SLOT(takeResponse(uint, QVariantMap)));
     auto* const life =
         new QDBusServiceWatcher(serviceName(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(life, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString& /*service*/, const QString& before) {
-                // Not when the message has just started it.
-                if (!before.isEmpty()) {
-                    fail(ColorPortal::Trouble::NoAnswer);
-                }
-            });
+    // Queued: the answer may delete the watcher, which has more to say after this.
+    connect(
+        life, &QDBusServiceWatcher::serviceOwnerChanged, this,
+        [this](const QString& /*service*/, const QString& before) {
+            // Not when the message has just started it.
+            if (!before.isEmpty()) {
+                fail(ColorPortal::Trouble::NoAnswer);
+            }
+        },
+        Qt::QueuedConnection);
 
     const QVariantMap options = {{QStringLiteral("handle_token"), token}};
     auto* const call = new QDBusPendingCallWatcher(

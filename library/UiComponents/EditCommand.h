@@ -28,6 +28,12 @@ class QUndoStack;
  * Each target gets every value that the session previews. When it is committed, a command is pushed that
  * brings back what each target had, and again gives all of them the new value; when it is cancelled, each
  * target gets back what it had.
+ *
+ * A text that is typed, and not entered yet, is an edit under way. Hold a Refresh while you undo or redo,
+ * which makes a step of it first:
+ *
+ *     const EditSession::Refresh refresh(inspector);
+ *     undoStack.undo();
  * @see EditSession
  */
 class UICOMPONENTS_EXPORT EditCommand : public QUndoCommand

@@ -40,8 +40,9 @@
  *     }
  *
  * `PointSelectionPlanePropertyHelper[enabled="false"]` is for the disabled plane. Without a valid MarkerColor
- * there is no marker; other missing colours are black. FillColor takes effect on the next resize, the others
- * on the next paint: after changing the sheet of a visible plane, send it a QResizeEvent of its current size.
+ * there is no marker; other missing colours are those of the palette. FillColor takes effect on the next
+ * resize, the others on the next paint: after changing the sheet of a visible plane, send it a QResizeEvent
+ * of its current size.
  */
 class UICOMPONENTS_EXPORT PointSelectionPlane : public OvFrame
 {

@@ -5,7 +5,7 @@
 #endif
 #include "ScreenReader.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QPointer>
 
 namespace {
@@ -36,7 +36,9 @@ ScreenColorSource* ScreenColorSource::current()
     if (installed()) {
         return installed();
     }
-    return mayReadScreen() ? nullptr : portal();
+    // Elsewhere the user may be asked for the permission that is missing.
+    const bool isWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return isWayland && !mayReadScreen() ? portal() : nullptr;
 }
 
 void ScreenColorSource::install(ScreenColorSource* source)

@@ -27,7 +27,7 @@ class WidgetColorPickerStylingObject;
  * button's own style sheet, in the place of what was there. Border, size and padding are those that the
  * application's sheet gives to WidgetColorPickerButton or QToolButton. Before the first colour, the property
  * "nullColor" (bool) is true, and a sheet may give it a picture:
- *     WidgetColorPickerButton[nullColor="true"] { background-image: url(dropper.png); }
+ *     WidgetColorPickerButton[changeSelfColor="true"][nullColor="true"] { background-image: url(d.png); }
  * Off, it is a QToolButton as any other.
  *
  * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key

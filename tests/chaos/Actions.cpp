@@ -803,6 +803,12 @@ void Actions::move(World& world, QWidget* widget)
 void Actions::letGo(World& world)
 {
     if (RealUser::isThere()) {
+        // The server may have told another program of the release.
+        QWidget desktop;
+        QWidget* const grabber = QWidget::mouseGrabber();
+        QMouseEvent release(QEvent::MouseButtonRelease, QPoint(-9, -9), Qt::LeftButton, Qt::NoButton,
+                            Qt::NoModifier);
+        QCoreApplication::sendEvent(grabber ? grabber : &desktop, &release);
         world.buttons = Qt::NoButton;
         return;
     }

@@ -66,9 +66,7 @@ void releaseAll(QWidget* window)
     for (const auto& widget : qAsConst(widgets)) {
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         const auto* slider = qobject_cast<QAbstractSlider*>(widget);
-        // Who grabs the mouse in the middle of a press of the X server's takes its release away.
-        const bool isLeftBehind = RealUser::isThere() && widget && widget == QWidget::mouseGrabber();
-        if ((button && button->isDown()) || (slider && slider->isSliderDown()) || isLeftBehind) {
+        if ((button && button->isDown()) || (slider && slider->isSliderDown())) {
             QMouseEvent event(QEvent::MouseButtonRelease, QPoint(-9, -9), Qt::LeftButton, Qt::NoButton,
                               Qt::NoModifier);
             QCoreApplication::sendEvent(widget, &event);

@@ -291,16 +291,26 @@ private:
                QTest::qWaitFor([button] { return !button->isDown(); });
     }
 
+    /// By the keyboard alone.
     bool chooseColor(Property property, const QString& hex, const QString& end)
     {
         auto* button = qobject_cast<QToolButton*>(field<ColorInputWidget>(property)->anchorWidget());
-        if (!RealInput::click(button) || !QTest::qWaitFor([] { return QApplication::activePopupWidget(); })) {
+        button->setFocus(Qt::TabFocusReason);
+        if (!RealInput::key(QStringLiteral("space")) ||
+            !QTest::qWaitFor([] { return QApplication::activePopupWidget(); })) {
             return false;
         }
         auto* edit =
             QApplication::activePopupWidget()->findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"));
-        return QTest::qWaitForWindowExposed(edit->window()) && RealInput::click(edit) &&
-               RealInput::key(QStringLiteral("ctrl+a")) && RealInput::type(hex) &&
+        bool isThere = QTest::qWaitForWindowExposed(edit->window());
+        for (const QWidget* start = nullptr; isThere && !edit->hasFocus();) {
+            const QWidget* const from = QApplication::focusWidget();
+            start = start ? start : from;
+            isThere = RealInput::key(QStringLiteral("Tab")) &&
+                      QTest::qWaitFor([from] { return QApplication::focusWidget() != from; }) &&
+                      QApplication::focusWidget() != start;
+        }
+        return isThere && RealInput::key(QStringLiteral("ctrl+a")) && RealInput::type(hex) &&
                QTest::qWaitFor([&] { return edit->text() == QLatin1Char('#') + hex; }) &&
                RealInput::key(end) && QTest::qWaitFor([button] { return !button->isDown(); });
     }

@@ -62,27 +62,14 @@ private Q_SLOTS:
         FakePrivacy::reset();
     }
 
-    void platforms_data()
+    // Wayland has the portal. Elsewhere the user may be asked for what is missing.
+    void missingPermissionIsNoReason()
     {
-        QTest::addColumn<AccessStatus>("status");
-        QTest::addColumn<bool>("hasSource");
-
-        QTest::newRow("the program may read the screen") << AccessStatus::Granted << false;
-        QTest::newRow("the user has not allowed it") << AccessStatus::Denied << true;
-        QTest::newRow("no program may") << AccessStatus::Unavailable << true;
-    }
-
-    void platforms()
-    {
-        QFETCH(const AccessStatus, status);
-        QFETCH(const bool, hasSource);
-        FakePrivacy::screenAccess = status;
-        ScreenColorSource* const source = ScreenColorSource::current();
-        QCOMPARE(source != nullptr, hasSource);
-        QCOMPARE(ScreenColorSource::current(), source);
-        // Without a bus there is no portal.
-        QVERIFY(!source || !source->unavailableReason().isEmpty());
-        QCOMPARE(Pipette::unavailableReason().isEmpty(), !hasSource);
+        for (const auto status : {AccessStatus::Granted, AccessStatus::Denied, AccessStatus::Unavailable}) {
+            FakePrivacy::screenAccess = status;
+            QVERIFY(!ScreenColorSource::current());
+            QCOMPARE(Pipette::unavailableReason(), QString());
+        }
         QCOMPARE(FakePrivacy::requests.size(), 0);
     }
 
@@ -95,8 +82,6 @@ private Q_SLOTS:
         QCOMPARE(ScreenColorSource::current(), static_cast<ScreenColorSource*>(fake.get()));
 
         fake.reset();
-        QVERIFY(ScreenColorSource::current());
-        FakePrivacy::screenAccess = AccessStatus::Granted;
         QVERIFY(!ScreenColorSource::current());
     }
 
@@ -260,6 +245,33 @@ private Q_SLOTS:
         QCOMPARE(button->toolTip(), QString());
         stage.source.setReason(reason);
         QVERIFY(!button->isEnabled());
+    }
+
+    void hostsButtonStays_data()
+    {
+        QTest::addColumn<QString>("reason");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("disabled where it could pick") << QString() << false;
+        QTest::newRow("enabled where the host picks") << QStringLiteral("broken") << true;
+    }
+
+    void hostsButtonStays()
+    {
+        QFETCH(const QString, reason);
+        QFETCH(const bool, enabled);
+        Stage stage;
+        stage.source.setReason(reason);
+        ColorPickerWidget panel(nullptr, false);
+        auto* button = panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"));
+        const QString toolTip = QStringLiteral("From the viewer");
+        button->setEnabled(enabled);
+        button->setToolTip(toolTip);
+        QEvent languageChange(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&panel, &languageChange);
+        stage.source.setReason(QStringLiteral("gone"));
+        stage.source.setReason({});
+        QCOMPARE(button->isEnabled(), enabled);
+        QCOMPARE(button->toolTip(), toolTip);
     }
 };
 
