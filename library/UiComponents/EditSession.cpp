@@ -80,6 +80,7 @@ public:
     bool isAlive() const;
 
     bool begin(Gesture next, QObject* onPart);
+    void beginText(QObject* onPart);
     void pressMouse(QObject* onPart, const QMouseEvent& event);
     void releaseMouse(const QMouseEvent& event);
     bool pressKey(QObject* onPart, const QKeyEvent& event);
@@ -222,6 +223,15 @@ void EditSession::Private::releaseMouse(const QMouseEvent& event)
     }
 }
 
+/// A text that is hidden is replaced as a whole.
+void EditSession::Private::beginText(QObject* onPart)
+{
+    QLineEdit* const editor = editorOf(onPart);
+    if (editor && begin(Gesture::Text, onPart) && face->isShown()) {
+        editor->selectAll();
+    }
+}
+
 /// Returns whether the key goes no further.
 bool EditSession::Private::pressKey(QObject* onPart, const QKeyEvent& event)
 {
@@ -229,8 +239,7 @@ bool EditSession::Private::pressKey(QObject* onPart, const QKeyEvent& event)
         cancel();
         return true;
     }
-    QLineEdit* const editor = editorOf(onPart);
-    const bool isStepping = !editor || (!qobject_cast<QLineEdit*>(onPart) && isStep(event.key()));
+    const bool isStepping = !editorOf(onPart) || (!qobject_cast<QLineEdit*>(onPart) && isStep(event.key()));
     if (isModifier(event.key())) {
         if (gesture == Gesture::Wheel) {
             finish();
@@ -238,10 +247,7 @@ bool EditSession::Private::pressKey(QObject* onPart, const QKeyEvent& event)
     } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
         finish();
     } else if (!isStepping) {
-        if (begin(Gesture::Text, onPart) && face->isShown()) {
-            // The hidden text is not to be typed into.
-            editor->selectAll();
-        }
+        beginText(onPart);
     } else if (gesture != Gesture::Text || !isTyped()) {
         key = event.key();
         begin(Gesture::Key, onPart);
@@ -620,7 +626,13 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         d->releaseKey(*static_cast<QKeyEvent*>(event));
         break;
     case QEvent::InputMethod:
-        d->begin(Private::Gesture::Text, watched);
+        d->beginText(watched);
+        break;
+    case QEvent::ContextMenu:
+        // It may paste.
+        if (d->face->isShown()) {
+            d->beginText(watched);
+        }
         break;
     case QEvent::Wheel:
         d->turnWheel(watched, *static_cast<QWheelEvent*>(event));

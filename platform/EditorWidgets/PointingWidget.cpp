@@ -281,9 +281,14 @@ void PointingWidget::Private::appearAnew()
         this,
         [this] {
             willAppearAnew = false;
-            if (q->isVisible() && q->pos() != appearedAt) {
-                q->QWidget::setVisible(false);
-                q->QWidget::setVisible(true);
+            if (!q->isVisible() || q->pos() == appearedAt) {
+                return;
+            }
+            const QPointer<PointingWidget> self = q;
+            self->QWidget::setVisible(false);
+            // Who hears of that may delete it.
+            if (self) {
+                self->QWidget::setVisible(true);
             }
         },
         Qt::QueuedConnection);

@@ -4,6 +4,7 @@
 #include <UiComponents/ColorPortal.h>
 
 #include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
 #include <QDBusVirtualObject>
 
 #include <limits>
@@ -302,9 +303,16 @@ private Q_SLOTS:
             // As a pipette does.
             request.reset();
         });
+        // Its watcher says this last, and is not to be deleted before.
+        const auto* const watcher = request->findChild<QDBusServiceWatcher*>();
+        bool hasEnded = false;
+        bool hasEndedFirst = false;
+        connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [&] { hasEnded = true; });
+        connect(watcher, &QObject::destroyed, this, [&] { hasEndedFirst = hasEnded; });
         QTRY_COMPARE(m_service->requests.size(), 1);
         m_service->stop();
         QTRY_COMPARE(results.size(), 1);
+        QVERIFY(hasEndedFirst);
         QVERIFY(!results.constFirst().color.isValid());
         QVERIFY(!results.constFirst().reason.isEmpty());
         // The next message may start it again.

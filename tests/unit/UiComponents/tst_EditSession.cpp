@@ -804,6 +804,45 @@ private Q_SLOTS:
         }
     }
 
+    void hiddenTextIsReplaced_data()
+    {
+        QTest::addColumn<bool>("isPasted");
+        QTest::newRow("by an input method") << false;
+        QTest::newRow("from the context menu") << true;
+    }
+
+    void hiddenTextIsReplaced()
+    {
+        QFETCH(bool, isPasted);
+        QLineEdit field("before");
+        EditSession session(&field);
+        QSignalSpy committed(&session, &EditSession::committed);
+        session.setMultiValue(true);
+        field.show();
+        QVERIFY(QTest::qWaitForWindowActive(&field));
+        field.end(false);
+        if (isPasted) {
+            QApplication::clipboard()->setText("after");
+            QContextMenuEvent pressed(QContextMenuEvent::Keyboard, QPoint());
+            QCoreApplication::sendEvent(&field, &pressed);
+            auto* const menu = field.findChild<QMenu*>();
+            for (QAction* action : menu->actions()) {
+                if (action->text().startsWith("&Paste")) {
+                    action->trigger();
+                }
+            }
+            menu->close();
+        } else {
+            QInputMethodEvent composed;
+            composed.setCommitString("after");
+            QCoreApplication::sendEvent(&field, &composed);
+        }
+        QCOMPARE(field.text(), QString("after"));
+        session.commit();
+        QCOMPARE(committed.count(), 1);
+        QCOMPARE(committed.constFirst().constFirst().toString(), QString("after"));
+    }
+
     void multiColor()
     {
         ColorInputWidget field(nullptr, Qt::red);
