@@ -168,6 +168,7 @@ public:
         setTabOrder(slider, spinBox);
         fillQueue();
 
+        m_edit->installEventFilter(this);
         m_edit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("^(#?)[a-fA-F0-9]{6}$")), m_edit));
         slider->setOrientation(Qt::Horizontal);
         slider->setRange(0, 100);
@@ -191,6 +192,14 @@ protected:
         fillQueue();
         showValue();
         OvFrame::showEvent(event);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_edit && event->type() == QEvent::FocusIn) {
+            m_edit->selectAll();
+        }
+        return OvFrame::eventFilter(watched, event);
     }
 
 private:

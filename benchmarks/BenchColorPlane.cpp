@@ -135,11 +135,11 @@ using HsvPlane::Path;
 [[maybe_unused]] const bool rows[] = {
     addRowOf(Path::Avx2, "ColorPlane/render 256 x 256 with AVX2, against the plain loop", atMost(1.0 / 45),
              avx2<256>),
-    addRowOf(Path::Avx2, "ColorPlane/render 512 x 512 with AVX2, against the plain loop", atMost(1.0 / 60),
+    addRowOf(Path::Avx2, "ColorPlane/render 512 x 512 with AVX2, against the plain loop", atMost(1.0 / 50),
              avx2<512>),
-    addRowOf(Path::Avx2, "ColorPlane/render 1024 x 1024 with AVX2, against the plain loop", atMost(1.0 / 60),
+    addRowOf(Path::Avx2, "ColorPlane/render 1024 x 1024 with AVX2, against the plain loop", atMost(1.0 / 50),
              avx2<1024>),
-    addRowOf(Path::Avx2, "ColorPlane/render 2048 x 2048 with AVX2, against the plain loop", atMost(1.0 / 60),
+    addRowOf(Path::Avx2, "ColorPlane/render 2048 x 2048 with AVX2, against the plain loop", atMost(1.0 / 50),
              avx2<2048>),
     addRowOf(Path::Sse2, "ColorPlane/render 256 x 256 with SSE2, against the plain loop", atMost(1.0 / 20),
              baseline<256>),
@@ -153,7 +153,7 @@ UIC_COMPARE("ColorPlane/render 512 x 512 on any processor, against the plain loo
             [] { return againstPlainLoop(512, Path::Plain); });
 UIC_COMPARE("ColorPlane/render 1024 x 1024, against memset of its bytes", atMost(1.0 / 0.15),
             [] { return againstMemset(1024); });
-UIC_COMPARE("ColorPlane/hue step to the painted plane, 512 x 512, against the plain loop", atMost(1.0 / 50),
+UIC_COMPARE("ColorPlane/hue step to the painted plane, 512 x 512, against the plain loop", atMost(1.0 / 33),
             [] {
                 return Pair{hueStep<ColorPlaneWidget>(512), hueStep<PlainPlane>(512)};
             });
