@@ -27,6 +27,20 @@
 
 namespace {
 
+#ifdef QT_X11EXTRAS_LIB
+template <typename Reply>
+using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
+
+xcb_atom_t atomNamed(const QByteArray& name)
+{
+    xcb_connection_t* const connection = QX11Info::connection();
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData());
+    const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(connection, cookie, nullptr),
+                                                 &std::free);
+    return atom ? atom->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+#endif
+
 /// Whether another program has the keyboard, as the window manager has it. Qt reports an application inactive
 /// also while nobody has it, as between two windows of which a slow window manager has taken it from one and
 /// not yet given it to the other. True where nothing tells.
@@ -36,14 +50,10 @@ bool isFocusOfAnotherProgram()
     if (QX11Info::isPlatformX11()) {
         xcb_connection_t* const connection = QX11Info::connection();
         const auto root = static_cast<xcb_window_t>(QX11Info::appRootWindow());
-        constexpr char name[] = "_NET_ACTIVE_WINDOW";
-        const auto nameCookie = xcb_intern_atom(connection, 0, sizeof name - 1, name);
-        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
-            xcb_intern_atom_reply(connection, nameCookie, nullptr), &std::free);
-        const auto type = atom ? atom->atom : xcb_atom_t(XCB_ATOM_NONE);
-        const auto cookie = xcb_get_property(connection, 0, root, type, XCB_ATOM_WINDOW, 0, 1);
-        const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> property(
-            xcb_get_property_reply(connection, cookie, nullptr), &std::free);
+        const auto cookie = xcb_get_property(
+            connection, 0, root, atomNamed(QByteArrayLiteral("_NET_ACTIVE_WINDOW")), XCB_ATOM_WINDOW, 0, 1);
+        const XcbReply<xcb_get_property_reply_t> property(xcb_get_property_reply(connection, cookie, nullptr),
+                                                          &std::free);
         if (property && xcb_get_property_value_length(property.get()) == sizeof(xcb_window_t)) {
             const auto active = *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
             // The windows of one program share the bits outside of the mask.
@@ -211,16 +221,20 @@ void Pipette::Impl::Run::watchApplication()
     }
 }
 
-/// Qt does not say again that the application is inactive when the window manager has handed on the focus.
+/// Qt does not say again that the application is inactive when the window manager has handed on the focus,
+/// and says nothing when the user leaves for a virtual desktop where nobody has it: the views stay behind.
 bool Pipette::Impl::Run::nativeEventFilter([[maybe_unused]] const QByteArray& type,
                                            [[maybe_unused]] void* message, long* /*result*/)
 {
 #ifdef QT_X11EXTRAS_LIB
     constexpr int sentByClient = 0x80;
-    if (m_context && QGuiApplication::applicationState() == Qt::ApplicationInactive &&
-        type == QByteArrayLiteral("xcb_generic_event_t") &&
-        (static_cast<xcb_generic_event_t*>(message)->response_type & ~sentByClient) == XCB_PROPERTY_NOTIFY &&
-        isFocusOfAnotherProgram()) {
+    const auto* const event = type == QByteArrayLiteral("xcb_generic_event_t")
+                                  ? static_cast<const xcb_property_notify_event_t*>(message)
+                                  : nullptr;
+    if (m_context && event && (event->response_type & ~sentByClient) == XCB_PROPERTY_NOTIFY &&
+        event->window == QX11Info::appRootWindow() &&
+        (event->atom == atomNamed(QByteArrayLiteral("_NET_CURRENT_DESKTOP")) ||
+         (QGuiApplication::applicationState() == Qt::ApplicationInactive && isFocusOfAnotherProgram()))) {
         m_pipette->stopPicking();
     }
 #endif
@@ -247,6 +261,7 @@ void Pipette::Impl::Run::end()
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {
             m_reader.remove(view, view->geometry());
+            view->blockSignals(true); // for it sees the rest of what has ended the pick
             view->close();
         }
     }
@@ -312,17 +327,8 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
 
 void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
 {
-    if (isSucceeded && QGuiApplication::screenAt(cursorPos)) {
-        // A copy: a slot may start another pick, which resets the color.
-        const QColor selected = m_pipette->d->currentColor = m_reader.colorAt(cursorPos);
-        const QPointer<Run> self = this;
-        Q_EMIT m_pipette->colorSelected(selected);
-        // A slot may have done so.
-        if (!self || !m_context) {
-            return;
-        }
-    }
-    m_pipette->stopPicking();
+    const bool isPicked = isSucceeded && QGuiApplication::screenAt(cursorPos);
+    m_pipette->d->finish(m_pipette, isPicked ? m_reader.colorAt(cursorPos) : QColor());
 }
 
 void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)
@@ -333,10 +339,12 @@ void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)
         [this, pipette](const ScreenColorSource::Result& result) { finish(pipette, result.color); }));
 }
 
-/// Not a part of the function that calls it: the source may have no more of that when a slot returns.
+/// Of an invalid @p color only the end is reported. Not a part of the functions that call it: neither a run
+/// nor a request may be there when a slot returns.
 void Pipette::Impl::finish(Pipette* pipette, const QColor& color)
 {
     if (color.isValid()) {
+        // A copy: a slot may start another pick, which resets the color.
         const QColor selected = currentColor = color;
         const QPointer<Pipette> self = pipette;
         const int endsBefore = ends;

@@ -16,30 +16,23 @@
  *
  * Windows that are all but transparent cover the screens, and a round loupe beside the cursor shows the 13 by
  * 13 pixels around it and the name of the colour in their middle. The left button picks when it is released.
- * A key gives up; so does anything else that ends the pick: another application becomes the active one, the
- * screens change, one of the windows is closed, the application quits.
+ * A key gives up; so does anything else that ends the pick: another application or virtual desktop comes to
+ * the front, the screens change, one of the windows is closed, the application quits.
  *
  * The colour is opaque and that of the pixel without the pipette's windows: a black of alpha 1 of 255 is
- * taken out again, below which 127 and 128 are one. Where none lies over it, as on a window that another
- * program keeps above all others, a channel of 255 becomes 255 * 255 / 254 (a QColor of the model
- * ExtendedRgb, whose rgb() and name() are white's). What may show the pipette's own painting, which is
- * everything in the first second and then the last second's places of the loupe, is as it was when it could
- * last be seen: a window that closes right before a pick may still be there. Without a compositor the screens
- * stand still meanwhile. Xwayland shows nothing of other applications: run on Wayland itself.
+ * taken out again, below which 127 and 128 are one; where none lies over it, as on a window that stays above
+ * all others, a 255 becomes 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's). What may show the
+ * pipette's own painting, which is everything in the first second and then the last second's places of the
+ * loupe, is as it could last be seen. Without a compositor the screens stand still meanwhile.
  *
  * Where no program may read the screen, as on Wayland, the desktop's portal or a host's own ScreenColorSource
- * picks instead, with its own means; the signals are the same. Where there is a permission that the user can
- * give (see PrivacyAccess.h), startPicking() asks for it when it is missing, and does nothing else. A
- * platform that grants it and gives no picture has black pixels.
- *
- * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
- * edit takes every colour by its digits and whose planes take keys.
+ * picks instead, with the same signals. Xwayland shows nothing of other applications: run on Wayland itself.
+ * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
  *
  * A style sheet gives the loupe its size, its rim, which is painted over the picture, and what is seen beyond
- * the edge of the desktop; the cursor's hot spot is a point of the scaled picture:
- *     LoupeWidget { background: transparent; border: 2px solid white; border-radius: 58px;
- *                   min-width: 113px; max-width: 113px; min-height: 113px; max-height: 113px;
- *                   qproperty-emptyPixelsColor: #202020; }
+ * the desktop's edge; the cursor's hot spot is a point of the scaled picture:
+ *     LoupeWidget { background: transparent; border: 2px solid white; border-radius: 58px; min-width: 113px;
+ *                   min-height: 113px; qproperty-emptyPixelsColor: #202020; }
  *     LoupeWidget > #colorNameLabel { color: white; }
  *     PipetteScreenView { qproperty-cursorPixmap: url(dropper.png); qproperty-cursorSize: 32px 32px;
  *                         qproperty-cursorHotSpot: 2px 30px; }
@@ -60,10 +53,10 @@ public:
     /// ScreenColorSource::unavailableReasonChanged() of the current source, if there is one.
     static QString unavailableReason();
 
-    /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Does nothing, without a
-    /// signal, when the permission is missing and no ScreenColorSource can pick. A call while the pipette
-    /// picks puts a second set of windows and a second loupe over the first; the trace of one set only is
-    /// taken out of the colour; the next end of the pick ends both.
+    /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Where the permission to
+    /// read the screen is missing (see PrivacyAccess.h) it asks for it and does nothing else. A call while
+    /// the pipette picks puts a second set of windows and a second loupe over the first; the trace of one set
+    /// only is taken out of the colour; the next end of the pick ends both.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.

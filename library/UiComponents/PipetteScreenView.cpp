@@ -34,7 +34,6 @@ public:
     QCursor cursor;
 
     QPixmap stillPicture;
-    bool hasReported = false;
     bool mayReturn = false;
 };
 
@@ -149,7 +148,7 @@ bool PipetteScreenView::event(QEvent* event)
         return true;
     case QEvent::ShortcutOverride:
         event->accept();
-        report(QCursor::pos(), false);
+        Q_EMIT pickingFinished(QCursor::pos(), false);
         return true;
     case QEvent::Move:
         if (event->spontaneous()) {
@@ -164,7 +163,7 @@ bool PipetteScreenView::event(QEvent* event)
 void PipetteScreenView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {
-        report(QCursor::pos(), false);
+        Q_EMIT pickingFinished(QCursor::pos(), false);
     }
 }
 
@@ -181,7 +180,7 @@ void PipetteScreenView::mouseMoveEvent(QMouseEvent* event)
 void PipetteScreenView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        report(event->globalPos(), true);
+        Q_EMIT pickingFinished(event->globalPos(), true);
     }
 }
 
@@ -197,10 +196,7 @@ void PipetteScreenView::showEvent(QShowEvent*)
 
 void PipetteScreenView::closeEvent(QCloseEvent*)
 {
-    // What the user did before may have closed it.
-    if (!d->hasReported) {
-        report(QCursor::pos(), false);
-    }
+    Q_EMIT pickingFinished(QCursor::pos(), false);
 }
 
 void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
@@ -269,10 +265,4 @@ void PipetteScreenView::returnOnce()
     if (geometry() != area && std::exchange(d->mayReturn, false)) {
         setGeometry(area);
     }
-}
-
-void PipetteScreenView::report(const QPoint& cursorPos, bool isSucceeded)
-{
-    d->hasReported = true;
-    Q_EMIT pickingFinished(cursorPos, isSucceeded);
 }

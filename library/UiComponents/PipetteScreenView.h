@@ -11,12 +11,10 @@
  * Covers exactly one screen with a window that is all but transparent, and turns what the user does there
  * into two signals.
  *
- * All views of one pick show the same scene, in coordinates of the desktop, with the loupe as its only item.
- * The view shows the loupe while the cursor is on its screen and hides it when the cursor leaves or the
- * window is no longer the active one; somebody else moves it.
- *
- * The view is made hidden, with its native window on the right screen already. A style sheet can give it the
- * cursor of the pick with all three properties; without them, or with an empty size, it is the arrow.
+ * All views of one pick show the same scene, in coordinates of the desktop, with the loupe as its only item,
+ * and each shows it while the cursor is on its screen and its window is the active one. A view is made
+ * hidden, on the right screen already. A style sheet can give it the cursor of the pick with all three
+ * properties; without them, or with an empty size, it is the arrow.
  */
 class PipetteScreenView : public QGraphicsView
 {
@@ -45,8 +43,7 @@ public:
     bool comeToFront();
 
 Q_SIGNALS:
-    /// The user picked the point @p cursorPos of the desktop, or gave up, or somebody closed the window
-    /// before that.
+    /// The user picked the point @p cursorPos of the desktop, or gave up, or the window is closed.
     void pickingFinished(QPoint cursorPos, bool isSucceeded);
 
     /// The loupe belongs to @p cursorPos of the desktop now.
@@ -72,7 +69,6 @@ private:
     void showAtCursor(QEvent* event);
     void rebuildCursor();
     void returnOnce();
-    void report(const QPoint& cursorPos, bool isSucceeded);
 
     class Private;
     const std::unique_ptr<Private> d;

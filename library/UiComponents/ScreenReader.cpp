@@ -96,18 +96,18 @@ QImage grabRoot(const QRect& pixels)
         connection, XCB_IMAGE_FORMAT_Z_PIXMAP, static_cast<xcb_drawable_t>(QX11Info::appRootWindow()),
         static_cast<int16_t>(pixels.x()), static_cast<int16_t>(pixels.y()),
         static_cast<uint16_t>(pixels.width()), static_cast<uint16_t>(pixels.height()), ~0U);
-    const std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> reply(
+    std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> reply(
         xcb_get_image_reply(connection, cookie, nullptr), &std::free);
     const int count = pixels.width() * pixels.height();
     if (!reply || reply->depth != 24 || QSysInfo::ByteOrder != QSysInfo::LittleEndian ||
         xcb_get_image_data_length(reply.get()) != count * int(sizeof(QRgb))) {
         return {};
     }
-    QImage image(pixels.size(), QImage::Format_RGB32);
-    const auto* const data = reinterpret_cast<const QRgb*>(xcb_get_image_data(reply.get()));
-    std::transform(data, data + count, reinterpret_cast<QRgb*>(image.bits()),
-                   [](QRgb pixel) { return qRgb(0, 0, 0) | pixel; });
-    return image;
+    // In place, since the first touch of new memory takes as long as all the rest.
+    uchar* const data = xcb_get_image_data(reply.get());
+    auto* const first = reinterpret_cast<QRgb*>(data);
+    std::for_each(first, first + count, [](QRgb& pixel) { pixel |= qRgb(0, 0, 0); });
+    return {data, pixels.width(), pixels.height(), QImage::Format_RGB32, std::free, reply.release()};
 }
 #endif
 
@@ -217,30 +217,24 @@ ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& sourc
     if (source.grabs() == ScreenSource::Grabs::Always) {
         return;
     }
+    QVector<Picture>& pictures = m_memory->pictures;
     for (QScreen* screen : screens) {
         const QRect part = (toDevice(area) & toDevice(*screen)).boundingRect();
-        if (!part.isEmpty()) {
-            addPicture({part.topLeft(), source.grab(*screen, part)});
+        Picture picture = {part.topLeft(), part.isEmpty() ? QImage() : source.grab(*screen, part)};
+        if (picture.image.isNull()) {
+            continue;
         }
+        // The picks before this one may still be seen in it, where the pictures of that time know better.
+        const QRegion untrusted = touched(picture.area());
+        for (const Picture& former : qAsConst(pictures)) {
+            copy(former, picture, untrusted);
+        }
+        const auto isReplaced = [&picture](const Picture& former) {
+            return picture.area().contains(former.area());
+        };
+        pictures.erase(std::remove_if(pictures.begin(), pictures.end(), isReplaced), pictures.end());
+        pictures.append(picture);
     }
-}
-
-/// The picks before this one may still be seen in it, where the pictures of that time know better.
-void ScreenReader::addPicture(Picture picture)
-{
-    if (picture.image.isNull()) {
-        return;
-    }
-    QVector<Picture>& pictures = m_memory->pictures;
-    const QRegion untrusted = touched(picture.area());
-    for (const Picture& former : qAsConst(pictures)) {
-        copy(former, picture, untrusted);
-    }
-    const auto isReplaced = [&picture](const Picture& former) {
-        return picture.area().contains(former.area());
-    };
-    pictures.erase(std::remove_if(pictures.begin(), pictures.end(), isReplaced), pictures.end());
-    pictures.append(picture);
 }
 
 QPixmap ScreenReader::picture(QScreen& screen) const

@@ -115,7 +115,6 @@ public:
 private:
     struct Memory;
 
-    void addPicture(Picture picture);
     void noteTrace(const QRegion& area);
     QRegion hidden(const QRect& area) const;
     QRegion touched(const QRect& area) const;

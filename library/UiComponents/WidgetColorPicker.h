@@ -28,13 +28,11 @@ class WidgetColorPickerStylingObject;
  * The colour is opaque, and that of the screen when the pick ends, with whatever lies over the target, even
  * if what ended it then closes or moves the target. The outermost 8 points, which the outline may cover, are
  * those from before the pick (and before the one that ended less than a second earlier), or as the target
- * paints itself when it has moved since. Where the platform gives no picture of the screen (as plain
- * Wayland), all of it is as the target paints itself; Xwayland may give a black one. A mouse event tells the
- * pixel, also where the screen has several for a point; a key before the first one takes that of the whole
- * point next to the cursor.
+ * paints itself when it has moved since, as all of it does where the platform gives no picture of the screen
+ * (as plain Wayland; Xwayland may give a black one). A mouse event tells the pixel, also where the screen has
+ * several for a point; a key before the first one takes that of the whole point next to the cursor.
  *
- * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
- * edit takes every colour by its digits and whose planes take keys.
+ * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
  */
 class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 {

@@ -31,8 +31,7 @@ class WidgetColorPickerStylingObject;
  * Off, it is a QToolButton as any other.
  *
  * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key
- * ends it; for users without one, offer a colour field with a PopupColorPicker too, whose panel takes the
- * value in digits and whose planes take keys.
+ * ends it: offer a colour field with a PopupColorPicker too, for the keyboard.
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton
 {

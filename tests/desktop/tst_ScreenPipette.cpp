@@ -210,9 +210,13 @@ private Q_SLOTS:
     void everyMoveIsAnsweredAtOnce_data()
     {
         QTest::addColumn<QString>("sheet");
-        QTest::newRow("no sheet") << QString();
-        QTest::newRow("reference sheet") << darkSheet();
-        QTest::newRow("rim, name in a corner") << rimmedLoupe;
+        QTest::addColumn<bool>("isSettled");
+        for (const bool isSettled : {true, false}) {
+            const QByteArray when = isSettled ? QByteArray() : QByteArrayLiteral(", from the start");
+            QTest::newRow("no sheet" + when) << QString() << isSettled;
+            QTest::newRow("reference sheet" + when) << darkSheet() << isSettled;
+            QTest::newRow("rim, name in a corner" + when) << rimmedLoupe << isSettled;
+        }
     }
 
     // Label and picture are read right after each move, which never waits for the last one to be on the
@@ -220,16 +224,23 @@ private Q_SLOTS:
     void everyMoveIsAnsweredAtOnce()
     {
         QFETCH(QString, sheet);
+        QFETCH(bool, isSettled);
         constexpr int moves = 30;
         constexpr int frame = 16;
         qApp->setStyleSheet(sheet);
         QVERIFY(start());
-        settle();
+        if (isSettled) {
+            settle();
+        }
         const QScreen* const screen = QGuiApplication::screens().last();
         const QRect area = screen->geometry();
         for (const int speed : {1, 10, 40}) {
             for (const QPoint& direction : {QPoint(1, 0), QPoint(1, 1), QPoint(0, 1), QPoint(-1, 1),
                                             QPoint(-1, 0), QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1)}) {
+                if (!isSettled) {
+                    m_pipette->stopPicking();
+                    m_pipette->startPicking();
+                }
                 QPoint point = area.center() - direction * speed * moves / 2;
                 for (int i = 0; i < moves; ++i) {
                     point += direction * speed;
@@ -534,6 +545,24 @@ private Q_SLOTS:
         QCOMPARE(m_stopped->count(), 0);
         kill(manager, SIGCONT);
         QTRY_COMPARE(m_stopped->count(), 1);
+        QVERIFY(views().isEmpty());
+        QCOMPARE(m_selected->count(), 0);
+    }
+
+    // Nobody is in front there, and the views stay where they are.
+    void anotherVirtualDesktopEndsThePick()
+    {
+        const auto goTo = [](const QString& desktop) {
+            return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("set_desktop"), desktop}) ==
+                   0;
+        };
+        QVERIFY(start());
+        QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
+        QVERIFY(goTo(QStringLiteral("1")));
+        QTRY_COMPARE(m_stopped->count(), 1);
+        QVERIFY(goTo(QStringLiteral("0")));
+        const QPoint middle = QGuiApplication::screens().last()->geometry().center();
+        QTRY_COMPARE(screenAtPoint(middle), patternAt(middle));
         QVERIFY(views().isEmpty());
         QCOMPARE(m_selected->count(), 0);
     }

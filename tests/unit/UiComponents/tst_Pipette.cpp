@@ -170,6 +170,7 @@ class tst_Pipette : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        Q_INIT_RESOURCE(styles);
         qApp->setStyleSheet(
             QStringLiteral("LoupeWidget { min-width: 117px; max-width: 117px; min-height: 117px;"
                            " max-height: 117px; }"));
@@ -433,14 +434,22 @@ private Q_SLOTS:
     void ends_data()
     {
         QTest::addColumn<Act>("act");
-        const auto row = [](const char* name, const Act& act) { QTest::newRow(name) << act; };
+        QTest::addColumn<int>("reports"); // of the view; its own closing is none
+        const auto row = [](const char* name, const Act& act, int reports = 0) {
+            QTest::newRow(name) << act << reports;
+        };
         // Comes as a shortcut override and as a key press.
-        row("Escape", [](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key_Escape); });
-        row("key", [](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key_F5); });
+        row(
+            "Escape", [](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key_Escape); },
+            1);
+        row(
+            "key", [](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key_F5); }, 1);
         // As a window manager closes it, or QApplication::closeAllWindows().
-        row("closed", [](PipetteScreenView* view) { view->close(); });
-        row("on no screen",
-            [](PipetteScreenView* view) { Q_EMIT view->pickingFinished(QPoint(-5, 300), true); });
+        row(
+            "closed", [](PipetteScreenView* view) { view->close(); }, 1);
+        row(
+            "on no screen",
+            [](PipetteScreenView* view) { Q_EMIT view->pickingFinished(QPoint(-5, 300), true); }, 1);
         row("application quits", [](PipetteScreenView*) {
             QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
             QCOMPARE(QCoreApplication::exec(), 0);
@@ -470,7 +479,9 @@ private Q_SLOTS:
     {
         QFETCH(Act, act);
         start();
+        QSignalSpy reports(shownViews().first(), &PipetteScreenView::pickingFinished);
         act(shownViews().first());
+        QTEST(int(reports.count()), "reports");
         QCOMPARE(m_protocol.lines, (QStringList{started, stopped}));
         QVERIFY(!m_pipette->currentColor().isValid());
         QVERIFY(shownViews().isEmpty());
@@ -600,6 +611,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("sheet");
         QTest::newRow("no sheet") << QString();
         QTest::newRow("large") << qApp->styleSheet();
+        QFile reference(QStringLiteral(":/styles/dark.qss"));
+        QVERIFY(reference.open(QIODevice::ReadOnly));
+        QTest::newRow("reference sheet") << QString::fromUtf8(reference.readAll());
         QTest::newRow("rim, name in a corner") << QStringLiteral(
             "LoupeWidget { background: transparent; border: 6px solid #ff00ff; min-width: 105px;"
             " max-width: 105px; min-height: 105px; max-height: 105px; }"
@@ -814,6 +828,24 @@ private Q_SLOTS:
         QVERIFY(shownViews().isEmpty());
         QVERIFY(nothingIsLeft());
         QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+    }
+
+    // The keys of a pop-up go through the window of the view.
+    void pipetteMayDieInAPopup()
+    {
+        start();
+        const QPointer<PipetteScreenView> view = shownViews().first();
+        QVERIFY(QTest::qWaitForWindowActive(view));
+        QLineEdit edit;
+        edit.setWindowFlags(Qt::Popup);
+        connect(&edit, &QLineEdit::returnPressed, this, [this] { m_pipette.reset(); });
+        edit.show();
+        // Without the shortcut override, which would have ended the pick.
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(view->windowHandle(), &press);
+        QVERIFY(!m_pipette);
+        QVERIFY(view && !view->isVisible());
+        QVERIFY(nothingIsLeft());
     }
 
     // Real handlers of Qt's run on after the pipette has deleted the view that they work for.

@@ -379,21 +379,6 @@ private Q_SLOTS:
         QTRY_VERIFY(stage.view->hasFocus());
     }
 
-    // Whoever hears of the end closes the view.
-    void endIsReportedOnce()
-    {
-        for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
-            Stage stage;
-            QVERIFY(stage.present());
-            QObject::connect(stage.view.get(), &PipetteScreenView::pickingFinished, stage.view.get(),
-                             [&stage] { stage.view->close(); });
-            QKeyEvent key(type, Qt::Key_Escape, Qt::NoModifier);
-            static_cast<QObject*>(stage.view.get())->event(&key);
-            QVERIFY(!stage.view->isVisible());
-            QCOMPARE(stage.finished->count(), 1);
-        }
-    }
-
     void wheelIsSwallowed()
     {
         Stage stage;
