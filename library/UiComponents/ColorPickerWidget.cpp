@@ -654,11 +654,17 @@ void ColorPickerWidget::Private::onCustomColorButtonClicked()
         selector->startFrom(start);
     }
     placeDialog();
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
-    // Some layouts have their final size only when they are shown.
-    placeDialog();
+    announce([this, self] {
+        dialog->show();
+        if (self) {
+            dialog->raise();
+            dialog->activateWindow();
+        }
+        // Some layouts have their final size only when they are shown.
+        if (self) {
+            placeDialog();
+        }
+    });
 }
 
 void ColorPickerWidget::Private::createDialog()
@@ -675,7 +681,7 @@ void ColorPickerWidget::Private::createDialog()
     selectorColor.reset();
     connect(selector, &CustomColorSelectWidget::colorChanged, listener.get(),
             [this](const QColor& color) { onSelectorReport(color); });
-    connect(dialog, &QDialog::finished, listener.get(), [this] { onDialogFinished(); });
+    connect(dialog, &QDialog::finished, listener.get(), [this] { announce([this] { onDialogFinished(); }); });
 }
 
 void ColorPickerWidget::Private::placeDialog() const
@@ -718,8 +724,10 @@ void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
 
 void ColorPickerWidget::Private::onDialogFinished()
 {
+    // Slots of the focus, and the host's store, may delete the panel.
+    const QPointer<ColorPickerWidget> self = q;
     addCustomColorButton->setFocus(Qt::PopupFocusReason);
-    if (!storeCurrentColor()) {
+    if (!self || !storeCurrentColor() || !self) {
         return;
     }
     ColorButton* const button = queueButton(queueLength - 1);
@@ -737,7 +745,7 @@ void ColorPickerWidget::Private::onDialogFinished()
     button->setChecked(true);
 }
 
-/// Emits. Slots may delete the panel.
+/// Emits, or moves the focus. Slots may delete the panel.
 template <typename Emission>
 void ColorPickerWidget::Private::announce(Emission emission)
 {

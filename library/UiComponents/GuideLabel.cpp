@@ -131,10 +131,14 @@ void GuideLabel::paintEvent(QPaintEvent* event)
 /// Makes the document that QLabel has for rich text break words too. QLabel resets it at each layout.
 bool GuideLabel::breaksWords() const
 {
-    if (QLabel::minimumSizeHint().width() <= maxWidth(this)) {
+    const QSize least = QLabel::minimumSizeHint();
+    QTextDocument* const rich = document();
+    const QScreen* const shownOn = screen();
+    const bool isTooHigh = rich && shownOn && least.height() > shownOn->availableSize().height();
+    if (least.width() <= maxWidth(this) && !isTooHigh) {
         return false;
     }
-    if (QTextDocument* const rich = document()) {
+    if (rich) {
         // heightForWidth() makes QLabel lay out the text, and repaint.
         if (!testAttribute(Qt::WA_WState_InPaintEvent)) {
             QLabel::heightForWidth(width());

@@ -145,7 +145,9 @@ void Qml::QuickContent::load(const QString& path)
     const auto follow = [this] {
         const QQuickItem* const root = d->view ? d->view->rootObject() : nullptr;
         const QSizeF now = root ? root->size() : QSizeF();
-        if (now.isValid()) {
+        // A window without a size is hidden, and would keep a dialog from ever ending.
+        const bool mayShrink = d->container && (!d->container->isVisible() || !containerSize(now).isEmpty());
+        if (now.isValid() && mayShrink) {
             d->fitContainer(now);
         }
     };

@@ -37,7 +37,7 @@ namespace Qml {
  * warning. Images and data are the scene's own affair.
  *
  * **Size.** The container has the fixed size of the root item, rounded, and follows its changes; a size that
- * is not valid changes nothing.
+ * is not valid changes nothing, nor does one that is empty while the container is visible.
  *
  * **Compiling.** Only hosts that use qmlContext() need Qt's module Qml: they link `Qt5::Qml`.
  *

@@ -153,21 +153,22 @@ int positionAfter(QAbstractSlider::SliderAction action, const QSlider& slider)
 
 // The steps of a wheel event; with Ctrl or Shift a notch is a page. As in QAbstractSlider, whose own
 // calculation cannot be called without emitting.
-int wheelSteps(const QWheelEvent& event, const QSlider& slider, double& remainder)
+qint64 wheelSteps(const QWheelEvent& event, const QSlider& slider, double& remainder)
 {
     const QPoint turned = event.angleDelta();
     const double notches = (turned.y() != 0 ? turned.y() : -turned.x()) / 120.0;
-    const double page = slider.pageStep();
+    // Qt leaves INT_MIN negative.
+    const double page = qAbs(double(slider.pageStep()));
     if (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) {
         remainder = 0.0;
-        return static_cast<int>(qBound(-page, notches * page, page));
+        return static_cast<qint64>(qBound(-page, notches * page, page));
     }
     if (notches * remainder < 0.0) {
         remainder = 0.0;
     }
     const double steps = remainder + notches * QApplication::wheelScrollLines() * slider.singleStep();
     remainder = steps - std::trunc(steps);
-    return static_cast<int>(qBound(-page, steps, page));
+    return static_cast<qint64>(qBound(-page, steps, page));
 }
 
 } // namespace
@@ -319,7 +320,7 @@ void OvCustomSlider::wheelEvent(QWheelEvent* event)
         return;
     }
     event->accept();
-    const int steps = wheelSteps(*event, *this, d->wheelRemainder);
+    const qint64 steps = wheelSteps(*event, *this, d->wheelRemainder);
     if (steps == 0) {
         return;
     }

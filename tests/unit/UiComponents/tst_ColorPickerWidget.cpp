@@ -2,6 +2,7 @@
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MouseEvents.h"
+#include "OnFocusOut.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
 
@@ -1705,6 +1706,52 @@ private Q_SLOTS:
         panel.pressPlane({50, 40});
         QVERIFY(!panel.popup());
         QVERIFY(panel.currentColor().has_value());
+    }
+
+    void deletedAsTheFocusLeaves_data()
+    {
+        QTest::addColumn<bool>("isOpen");
+        QTest::newRow("for the selector") << false;
+        QTest::newRow("from the selector") << true;
+    }
+
+    void deletedAsTheFocusLeaves()
+    {
+        QFETCH(bool, isOpen);
+        const int before = QApplication::allWidgets().size();
+        QPointer<Panel> panel = new Panel;
+        panel->show();
+        QVERIFY(QTest::qWaitForWindowActive(panel));
+        panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
+        panel->edit->setFocus();
+        if (isOpen) {
+            panel->openPopup();
+        }
+        bool isFirst = true;
+        const OnFocusOut watch(panel->edit, [&] {
+            if (!std::exchange(isFirst, false)) {
+                return;
+            }
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, [&] {
+                delete panel;
+                loop.quit();
+            });
+            loop.exec();
+        });
+        {
+            const FreedMemoryWatch memory;
+            if (isOpen) {
+                QTest::keyClick(panel->popup(), Qt::Key_Return);
+            } else {
+                panel->addButton->click();
+            }
+            QVERIFY(!panel);
+            QTRY_COMPARE(QApplication::allWidgets().size(), before);
+            QVERIFY(memory.deleted() > 0);
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        QVERIFY(!QApplication::activePopupWidget());
     }
 
     void deletedWithAnEmptySpinBox()

@@ -1,4 +1,5 @@
 #include "FreedMemory.h"
+#include "OnFocusOut.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -79,28 +80,6 @@ void clickLink(const GuideButton& button)
     auto* const label = guide(button)->findChild<QLabel*>(QStringLiteral("learnMoreLabel"));
     QTest::mouseClick(label, Qt::LeftButton, {}, QPoint(12, label->height() / 2));
 }
-
-/// Calls a function when a widget loses the focus.
-class OnFocusOut : public QObject
-{
-public:
-    OnFocusOut(QWidget* widget, std::function<void()> call)
-        : m_call(std::move(call))
-    {
-        widget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::FocusOut) {
-            m_call();
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    const std::function<void()> m_call;
-};
 
 /// Does nothing with the URLs of the tests.
 class UrlHandler : public QObject

@@ -483,6 +483,7 @@ private Q_SLOTS:
         QTest::newRow("a little wider") << QStringLiteral("width=80") << QSize(80, 40);
         QTest::newRow("too wide") << QStringLiteral("width=99999 height=20") << QSize(-1, -1);
         QTest::newRow("too high and wide") << QStringLiteral("width=99999 height=99999") << QSize(-1, -1);
+        QTest::newRow("too high") << QStringLiteral("width=20 height=99999") << QSize(0, 0);
         QTest::newRow("wide in its shape") << QStringLiteral("width=99999") << QSize(-1, -1);
     }
 
@@ -509,7 +510,9 @@ private Q_SLOTS:
                 }
             }
         }
-        if (size.isValid()) {
+        if (size.isNull()) {
+            QCOMPARE(red.height(), screen.width() / 2);
+        } else if (size.isValid()) {
             QCOMPARE(red.size(), size);
         } else {
             QCOMPARE(red.width(), screen.width() / 2);

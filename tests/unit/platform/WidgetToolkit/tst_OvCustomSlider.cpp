@@ -446,8 +446,12 @@ private Q_SLOTS:
         QCOMPARE(slider.value(), 50);
         QVERIFY(!slider.hasFocus());
         slider.setFocus();
-        QVERIFY(turnWheel(slider, 120));
-        QVERIFY(slider.value() > 50);
+        for (const int page : {10, INT_MIN}) {
+            slider.setValue(50);
+            slider.setPageStep(page);
+            QVERIFY(turnWheel(slider, 120));
+            QCOMPARE(slider.value(), 50 + QApplication::wheelScrollLines());
+        }
     }
 
     void wheelAtTheEnd()
