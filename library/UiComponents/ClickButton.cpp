@@ -3,6 +3,7 @@
 #include "AbstractColorPicker.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPointer>
 
 namespace {
@@ -64,11 +65,12 @@ void ClickButton::keyReleaseEvent(QKeyEvent* event)
 
 void ClickButton::mouseReleaseEvent(QMouseEvent* event)
 {
-    // QToolButton resets which of its parts was pressed, which only a split button uses.
-    if (popupMode() == MenuButtonPopup) {
-        QToolButton::mouseReleaseEvent(event);
-    } else {
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
+    const QPointer<ClickButton> self = this;
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
+    if (self) {
+        // QToolButton only forgets which of its parts was pressed then.
+        QMouseEvent noButton(event->type(), event->localPos(), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QToolButton::mouseReleaseEvent(&noButton);
     }
 }

@@ -12,8 +12,7 @@ class AbstractColorPicker;
  * A tool button whose click may delete it or pick a colour: the base of the library's buttons.
  *
  * A QToolButton writes into itself after a click, and a key that ends an event loop of the click would click
- * it again. This one does neither. With QToolButton::MenuButtonPopup it writes as QToolButton does: slots of
- * its signals use deleteLater() then.
+ * it again. This one does neither.
  *
  * It has no meta-object of its own: style sheets take it for a QToolButton.
  * @see ColorPickerButton, GuideButton, WidgetColorPickerButton

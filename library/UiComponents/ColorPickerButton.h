@@ -40,9 +40,8 @@ class AbstractColorPicker;
  *     ColorPickerButton #color { min-width: 40px; min-height: 16px; border-radius: 3px; }
  *     ColorPickerButton[multiColor="true"] { background-image: url(:/mixed.png); }
  *
- * **Lifetime.** Two slots must use deleteLater(): that of a pickingStopped() that hiding the button causes,
- * since QWidget::hide() goes on, and any of a button with QToolButton::MenuButtonPopup, which goes on after a
- * click.
+ * **Lifetime.** A slot of a pickingStopped() that hiding the button causes must use deleteLater(), since
+ * QWidget::hide() goes on.
  */
 class UICOMPONENTS_EXPORT ColorPickerButton : public ClickButton
 {

@@ -27,10 +27,27 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isReleased");
         QTest::newRow("ClickButton") << new ClickButton << false;
         QTest::newRow("ClickButton, as it is released") << new ClickButton << true;
+        auto* splitButton = new ClickButton;
+        splitButton->setPopupMode(QToolButton::MenuButtonPopup);
+        QTest::newRow("ClickButton of two parts") << splitButton << false;
         QTest::newRow("ColorPickerButton") << static_cast<ClickButton*>(new ColorPickerButton) << false;
         QTest::newRow("GuideButton") << static_cast<ClickButton*>(guideButton) << false;
         QTest::newRow("WidgetColorPickerButton")
             << static_cast<ClickButton*>(new WidgetColorPickerButton) << false;
+    }
+
+    void splitButtonForgetsItsPressedPart()
+    {
+        ClickButton button;
+        button.setPopupMode(QToolButton::MenuButtonPopup);
+        QMenu menu;
+        menu.addAction(QStringLiteral("Any"));
+        button.setMenu(&menu);
+        button.show();
+        const QImage before = button.grab().toImage();
+        QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
+        QVERIFY(!button.isDown());
+        QCOMPARE(button.grab().toImage(), before);
     }
 
     // Through the mouse, Qt's own handlers run after the slot, and QToolButton's writes into the button.
