@@ -22,48 +22,33 @@
 #include <xcb/xcb.h>
 #endif
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
 namespace {
 
-#ifdef QT_X11EXTRAS_LIB
-template <typename Reply>
-using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
-
-xcb_atom_t atomNamed(const QByteArray& name)
-{
-    xcb_connection_t* const connection = QX11Info::connection();
-    const auto cookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData());
-    const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(connection, cookie, nullptr),
-                                                 &std::free);
-    return atom ? atom->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
-#endif
-
-/// Whether another program has the keyboard, as the window manager has it. Qt reports an application inactive
-/// also while nobody has it, as between two windows of which a slow window manager has taken it from one and
-/// not yet given it to the other. True where nothing tells.
-bool isFocusOfAnotherProgram()
+/// The number that an X11 window manager keeps in a property of the root window.
+std::optional<quint32> managersValue([[maybe_unused]] const char* name)
 {
 #ifdef QT_X11EXTRAS_LIB
     if (QX11Info::isPlatformX11()) {
         xcb_connection_t* const connection = QX11Info::connection();
-        const auto root = static_cast<xcb_window_t>(QX11Info::appRootWindow());
-        const auto cookie = xcb_get_property(
-            connection, 0, root, atomNamed(QByteArrayLiteral("_NET_ACTIVE_WINDOW")), XCB_ATOM_WINDOW, 0, 1);
-        const XcbReply<xcb_get_property_reply_t> property(xcb_get_property_reply(connection, cookie, nullptr),
-                                                          &std::free);
-        if (property && xcb_get_property_value_length(property.get()) == sizeof(xcb_window_t)) {
-            const auto active = *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
-            // The windows of one program share the bits outside of the mask.
-            const xcb_setup_t* const setup = xcb_get_setup(connection);
-            const bool isOwn = ((active ^ setup->resource_id_base) & ~setup->resource_id_mask) == 0;
-            return active != XCB_WINDOW_NONE && !isOwn;
+        const auto nameCookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(qstrlen(name)), name);
+        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
+            xcb_intern_atom_reply(connection, nameCookie, nullptr), &std::free);
+        const auto cookie =
+            xcb_get_property(connection, 0, static_cast<xcb_window_t>(QX11Info::appRootWindow()),
+                             atom ? atom->atom : xcb_atom_t(XCB_ATOM_NONE), XCB_GET_PROPERTY_TYPE_ANY, 0, 1);
+        const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> value(
+            xcb_get_property_reply(connection, cookie, nullptr), &std::free);
+        if (value && xcb_get_property_value_length(value.get()) == sizeof(quint32)) {
+            return *static_cast<const quint32*>(xcb_get_property_value(value.get()));
         }
     }
 #endif
-    return true;
+    return {};
 }
 
 QRect desktop()
@@ -113,12 +98,14 @@ private:
     bool nativeEventFilter(const QByteArray& type, void* message, long* result) override;
     void addView(QScreen* screen);
     void watchApplication();
+    bool isLeft() const;
+    void stop() const;
     void noteLoupe(const PipetteScreenView& view);
     void uncover(const QWidget& last);
     void update(const QPoint& cursorPos);
     void finish(const QPoint& cursorPos, bool isSucceeded);
 
-    Pipette* const m_pipette;
+    const QPointer<Pipette> m_pipette;
     ScreenReader m_reader;
     QGraphicsScene* const m_scene;
     const QPointer<LoupeWidget> m_loupe;
@@ -127,6 +114,8 @@ private:
     QVector<QPointer<PipetteScreenView>> m_views;
     /// A view becomes the active window, and has not got the focus yet.
     bool m_isActivated = false;
+    /// The virtual desktop that the views are on.
+    const std::optional<quint32> m_desktop = managersValue("_NET_CURRENT_DESKTOP");
     /// Of all connections; gone when the run has ended.
     std::unique_ptr<QObject> m_context = std::make_unique<QObject>();
 };
@@ -201,12 +190,11 @@ bool Pipette::Impl::Run::show()
 
 void Pipette::Impl::Run::watchApplication()
 {
-    const auto stop = [this] { m_pipette->stopPicking(); };
+    const auto stop = [this] { this->stop(); };
     QObject* const context = m_context.get();
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, context, [stop](Qt::ApplicationState state) {
-        if (state != Qt::ApplicationActive &&
-            (state != Qt::ApplicationInactive || isFocusOfAnotherProgram())) {
-            stop();
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, context, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive && (state != Qt::ApplicationInactive || isLeft())) {
+            this->stop();
         }
     });
     qGuiApp->installNativeEventFilter(this);
@@ -221,21 +209,40 @@ void Pipette::Impl::Run::watchApplication()
     }
 }
 
-/// Qt does not say again that the application is inactive when the window manager has handed on the focus,
-/// and says nothing when the user leaves for a virtual desktop where nobody has it: the views stay behind.
+/// Whether an application that Qt reports inactive has lost the keyboard to another program, or to another
+/// virtual desktop, where maybe nobody has it. Qt does so too while nobody has it between two windows, of
+/// which a slow window manager has taken it from one and not yet given it to the other. True where nothing
+/// tells.
+bool Pipette::Impl::Run::isLeft() const
+{
+    const std::optional<quint32> active = managersValue("_NET_ACTIVE_WINDOW");
+    if (active == 0U) {
+        return managersValue("_NET_CURRENT_DESKTOP") != m_desktop;
+    }
+    const auto windows = QGuiApplication::topLevelWindows();
+    return std::none_of(windows.cbegin(), windows.cend(), [active](const QWindow* window) {
+        return window->handle() && active == window->winId();
+    });
+}
+
+void Pipette::Impl::Run::stop() const
+{
+    if (m_pipette) {
+        m_pipette->stopPicking();
+    }
+}
+
+/// Qt does not say again that the application is inactive when the window manager has handed on the focus.
 bool Pipette::Impl::Run::nativeEventFilter([[maybe_unused]] const QByteArray& type,
                                            [[maybe_unused]] void* message, long* /*result*/)
 {
 #ifdef QT_X11EXTRAS_LIB
     constexpr int sentByClient = 0x80;
-    const auto* const event = type == QByteArrayLiteral("xcb_generic_event_t")
-                                  ? static_cast<const xcb_property_notify_event_t*>(message)
-                                  : nullptr;
-    if (m_context && event && (event->response_type & ~sentByClient) == XCB_PROPERTY_NOTIFY &&
-        event->window == QX11Info::appRootWindow() &&
-        (event->atom == atomNamed(QByteArrayLiteral("_NET_CURRENT_DESKTOP")) ||
-         (QGuiApplication::applicationState() == Qt::ApplicationInactive && isFocusOfAnotherProgram()))) {
-        m_pipette->stopPicking();
+    if (m_context && QGuiApplication::applicationState() == Qt::ApplicationInactive &&
+        type == QByteArrayLiteral("xcb_generic_event_t") &&
+        (static_cast<xcb_generic_event_t*>(message)->response_type & ~sentByClient) == XCB_PROPERTY_NOTIFY &&
+        isLeft()) {
+        stop();
     }
 #endif
     return false;
@@ -249,7 +256,6 @@ void Pipette::Impl::Run::end()
     }
     // First: windows that vanish may change what is active, and nobody is to hear of it from here.
     m_context.reset();
-    deleteLater();
     if (qApp) {
         // The next pick may begin at once.
         const auto screens = QGuiApplication::screens();
@@ -265,6 +271,7 @@ void Pipette::Impl::Run::end()
             view->close();
         }
     }
+    deleteLater();
 }
 
 bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
@@ -284,11 +291,8 @@ bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
 void Pipette::Impl::Run::noteLoupe(const PipetteScreenView& view)
 {
     const QGraphicsItem* const item = m_loupe ? m_loupe->graphicsProxyWidget() : nullptr;
-    QRect place;
-    if (item && item->isVisible()) {
-        place = item->sceneBoundingRect().toAlignedRect();
-    }
-    m_reader.paint(&view, place & view.geometry());
+    const QRectF place = item && item->isVisible() ? item->sceneBoundingRect() : QRectF();
+    m_reader.paint(&view, place.toAlignedRect() & view.geometry());
 }
 
 /// Brings the view that the cursor has come to from @p last to the front when another application's window
@@ -328,7 +332,10 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
 void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
 {
     const bool isPicked = isSucceeded && QGuiApplication::screenAt(cursorPos);
-    m_pipette->d->finish(m_pipette, isPicked ? m_reader.colorAt(cursorPos) : QColor());
+    const QColor color = isPicked ? m_reader.colorAt(cursorPos) : QColor();
+    if (m_pipette) {
+        m_pipette->d->finish(m_pipette, color);
+    }
 }
 
 void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)

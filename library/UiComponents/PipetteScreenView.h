@@ -12,8 +12,8 @@
  * into two signals.
  *
  * All views of one pick show the same scene, in coordinates of the desktop, with the loupe as its only item,
- * and each shows it while the cursor is on its screen and its window is the active one. A view is made
- * hidden, on the right screen already. A style sheet can give it the cursor of the pick with all three
+ * and each hides it when the cursor leaves or another window becomes active. A view is made hidden, on the
+ * right screen already. A style sheet can give it the cursor of the pick with all three
  * properties; without them, or with an empty size, it is the arrow.
  */
 class PipetteScreenView : public QGraphicsView

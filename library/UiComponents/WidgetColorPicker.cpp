@@ -121,6 +121,10 @@ void WidgetColorPicker::Private::applyTarget()
 {
     cursorGuard = std::make_unique<CursorGuard>(target, cursor);
     removeOutline(*run);
+    // The former target has painted itself, in which the host's code runs.
+    if (!target) {
+        return;
+    }
     run->place = onDesktop(*target);
     const QRegion outline = outlineOf(run->place);
     run->reader.emplace(outline, ScreenReader::Cover::Nothing);
@@ -248,8 +252,7 @@ QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) con
 WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
     // Not std::make_shared(): it has an object that is one in the whole program, and a library with such an
     // object is never unloaded.
-    // NOLINTNEXTLINE(modernize-make-shared)
-    : d(std::shared_ptr<Private>(new Private))
+    : d(new Private)
 {
     d->owner = this;
     d->widgets = {widgets.begin(), widgets.end()};

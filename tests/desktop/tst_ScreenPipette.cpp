@@ -211,12 +211,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("sheet");
         QTest::addColumn<bool>("isSettled");
-        for (const bool isSettled : {true, false}) {
-            const QByteArray when = isSettled ? QByteArray() : QByteArrayLiteral(", from the start");
-            QTest::newRow("no sheet" + when) << QString() << isSettled;
-            QTest::newRow("reference sheet" + when) << darkSheet() << isSettled;
-            QTest::newRow("rim, name in a corner" + when) << rimmedLoupe << isSettled;
-        }
+        QTest::newRow("no sheet") << QString() << true;
+        QTest::newRow("reference sheet") << darkSheet() << true;
+        QTest::newRow("rim, name in a corner") << rimmedLoupe << true;
+        QTest::newRow("from the start") << rimmedLoupe << false;
     }
 
     // Label and picture are read right after each move, which never waits for the last one to be on the
@@ -558,8 +556,20 @@ private Q_SLOTS:
         };
         QVERIFY(start());
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
+        // By itself it says nothing: some window managers set it when the cursor comes to another screen.
+        const auto set = [](const QString& desktop) {
+            const QString name = QStringLiteral("_NET_CURRENT_DESKTOP");
+            return QProcess::execute(QStringLiteral("xprop"),
+                                     {QStringLiteral("-root"), QStringLiteral("-f"), name,
+                                      QStringLiteral("32c"), QStringLiteral("-set"), name, desktop}) == 0;
+        };
+        QVERIFY(set(QStringLiteral("1")));
+        QVERIFY(!QTest::qWaitFor([this] { return m_stopped->count() > 0; }, 400));
+        QVERIFY(set(QStringLiteral("0")));
         QVERIFY(goTo(QStringLiteral("1")));
+        auto goBack = qScopeGuard([&goTo] { goTo(QStringLiteral("0")); });
         QTRY_COMPARE(m_stopped->count(), 1);
+        goBack.dismiss();
         QVERIFY(goTo(QStringLiteral("0")));
         const QPoint middle = QGuiApplication::screens().last()->geometry().center();
         QTRY_COMPARE(screenAtPoint(middle), patternAt(middle));

@@ -520,6 +520,7 @@ private Q_SLOTS:
         m_protocol.lines.clear();
         QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
         static_cast<QObject*>(view)->event(&escape);
+        view->blockSignals(false);
         Q_EMIT view->pickingFinished(QPoint(600, 500), true);
         Q_EMIT view->loupePosChanged(QPoint(600, 500));
         QCOMPARE(m_protocol.lines, QStringList());
