@@ -246,7 +246,9 @@ QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) con
         return seen;
     }
     const QRect pixel(point - area.topLeft(), QSize(1, 1));
-    return QColor(target->grab(pixel).toImage().pixel(0, 0));
+    // Null where a hidden target's layout has shrunk it for that.
+    const QImage image = target->grab(pixel).toImage();
+    return image.isNull() ? QColor() : QColor(image.pixel(0, 0));
 }
 
 WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)

@@ -399,6 +399,22 @@ private Q_SLOTS:
         QVERIFY(m_picker->color()->isValid());
     }
 
+    void hiddenTargetMayShrinkAsItPaints()
+    {
+        const Protocol protocol(m_picker);
+        QVERIFY(pickWith([this] {
+            QWidget* const target = m_stage->target;
+            target->hide();
+            (new QVBoxLayout(target))->setSizeConstraint(QLayout::SetFixedSize);
+            target->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+            target->setGeometry(target->geometry().adjusted(30, 0, 31, 0));
+            QCursor::setPos(target->mapToGlobal(target->rect().bottomRight() - QPoint(2, 2)));
+            m_picker->stop();
+        }));
+        QCOMPARE(protocol.lines, QStringList());
+        QVERIFY(!m_picker->color()->isValid());
+    }
+
     void keyEndsThePick_data()
     {
         QTest::addColumn<Qt::Key>("key");
