@@ -86,8 +86,8 @@ private:
 Q_DECLARE_METATYPE(Plane::Kind)
 
 /**
- * How the mouse and the keys move the marker of a plane. Every test runs with both planes, whose own suites
- * have what a marker means to each.
+ * How the mouse and the keys move the marker of a plane, and how it shows its focus. Every test runs with
+ * both planes, whose own suites have what a marker means to each.
  */
 class tst_PlaneDrag : public QObject
 {
@@ -333,6 +333,45 @@ private Q_SLOTS:
             QVERIFY(!event.isAccepted());
         }
         QCOMPARE(plane->reports(), QVariantList());
+    }
+
+    // A position is not mirrored.
+    void rightToLeft()
+    {
+        m_window->setLayoutDirection(Qt::RightToLeft);
+        press(*m_widget, {10, 10});
+        release(*m_widget, {10, 10});
+        QCOMPARE(m_plane->reports(), QVariantList({m_plane->at(10, 10), m_plane->at(10, 10)}));
+        const QImage marked = m_widget->grab().toImage();
+        m_widget->setLayoutDirection(Qt::LeftToRight);
+        QCOMPARE(m_widget->grab().toImage(), marked);
+        m_widget->unsetLayoutDirection();
+        QTest::keyClick(m_widget, Qt::Key_Right);
+        QCOMPARE(m_plane->reports(), QVariantList{m_plane->at(11, 10)});
+    }
+
+    void focusIsShownToKeyboardUsers()
+    {
+        const auto picture = [this] { return m_widget->grab().toImage(); };
+        m_window->show();
+        QApplication::setActiveWindow(m_window.get());
+        const QImage plain = picture();
+        m_widget->setFocus(Qt::MouseFocusReason);
+        QVERIFY(m_widget->hasFocus());
+        QCOMPARE(m_widget->focusPolicy(), Qt::StrongFocus);
+        QCOMPARE(picture(), plain);
+        m_widget->clearFocus();
+        m_widget->setFocus(Qt::TabFocusReason);
+        QVERIFY(picture() != plain);
+        // At the edge only: styles fill the frame.
+        const QRect inside = m_widget->rect().adjusted(2, 2, -2, -2);
+        QCOMPARE(picture().copy(inside), plain.copy(inside));
+        m_widget->clearFocus();
+        QCOMPARE(picture(), plain);
+        // A later click in the same window is no use of the keyboard.
+        m_window->setAttribute(Qt::WA_KeyboardFocusChange);
+        m_widget->setFocus(Qt::MouseFocusReason);
+        QCOMPARE(picture(), plain);
     }
 
 private:

@@ -655,45 +655,6 @@ private Q_SLOTS:
         QCOMPARE(plane.reports(), Points{at(100, 20)});
     }
 
-    void focusIsShownToKeyboardUsers()
-    {
-        QWidget window;
-        Plane plane(&window);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        plane.setFocus(Qt::MouseFocusReason);
-        QVERIFY(plane.hasFocus());
-        QCOMPARE(plane.focusPolicy(), Qt::StrongFocus);
-        QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
-        plane.clearFocus();
-        plane.setFocus(Qt::TabFocusReason);
-        QVERIFY(pictureOf(plane) != picture(plane.size(), {}));
-        // At the edge only: styles fill the frame.
-        const QRect inside = plane.rect().adjusted(2, 2, -2, -2);
-        QCOMPARE(pictureOf(plane).copy(inside), picture(plane.size(), {}).copy(inside));
-        // A click later in the same window is none of the keyboard's business.
-        plane.clearFocus();
-        window.setAttribute(Qt::WA_KeyboardFocusChange);
-        plane.setFocus(Qt::MouseFocusReason);
-        QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
-        plane.clearFocus();
-        QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
-    }
-
-    // A place is not mirrored.
-    void rightToLeft()
-    {
-        Plane plane;
-        plane.setLayoutDirection(Qt::RightToLeft);
-        press(plane, {0, 0});
-        release(plane, {0, 0});
-        QCOMPARE(plane.point(), limits.topLeft());
-        plane.reports();
-        QTest::keyClick(&plane, Qt::Key_Right);
-        QCOMPARE(plane.reports(), Points{at(1, 0)});
-        QCOMPARE(pictureOf(plane), picture(plane.size(), QPointF(1, 0)));
-    }
-
     void slotSetsAnotherPoint()
     {
         Plane plane;
