@@ -18,9 +18,9 @@ using Qml::QuickDialog;
 
 namespace {
 
-constexpr int Rounds = 3;
+constexpr int rounds = 3;
 
-const QString Lit = QStringLiteral("width: 120; height: 80; color: '#206040'");
+const QString lit = QStringLiteral("width: 120; height: 80; color: '#206040'");
 
 // What a host derives to give values to a scene and take them back.
 class FormDialog : public QuickDialog
@@ -88,7 +88,11 @@ private:
     const std::function<void()> m_call;
 };
 
+using Act = std::function<void(FormDialog*)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Act)
 
 class tst_QuickDialog : public QObject
 {
@@ -168,7 +172,7 @@ private Q_SLOTS:
         FormDialog dialog(&parent);
         dialog.setQmlPath(scene());
         QPointer<QLayout> before;
-        for (int round = 0; round < Rounds; ++round) {
+        for (int round = 0; round < rounds; ++round) {
             const int result = execWith(dialog, [&dialog, &before] {
                 QCOMPARE(static_cast<int>(dialog.windowFlags()), 0x803);
                 QVERIFY(dialog.isModal());
@@ -259,7 +263,7 @@ private Q_SLOTS:
         dialog.exec();
         m_log->take();
         dialog.setQmlPath(scene());
-        for (int round = 0; round < Rounds; ++round) {
+        for (int round = 0; round < rounds; ++round) {
             QCOMPARE(dialog.exec(), 0);
         }
         QVERIFY(!dialog.content()->isAvailable());
@@ -297,22 +301,13 @@ private Q_SLOTS:
         QFETCH(int, result);
         FormDialog dialog;
         dialog.setQmlPath(
-            scene(Lit + QStringLiteral("; MouseArea { anchors.fill: parent; onClicked: %1 }").arg(end)));
-        for (int round = 0; round < Rounds; ++round) {
+            scene(lit + QStringLiteral("; MouseArea { anchors.fill: parent; onClicked: %1 }").arg(end)));
+        for (int round = 0; round < rounds; ++round) {
             const int returned =
                 execWith(dialog, [&dialog] { QTest::mouseClick(dialog.view(), Qt::LeftButton); });
             QCOMPARE(returned, result);
             QCOMPARE(dialog.result(), result);
         }
-    }
-
-    void endedByTheHost()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        QCOMPARE(execWith(dialog, [&dialog] { dialog.done(3); }), 3);
-        QCOMPARE(execWith(dialog, [&dialog] { dialog.reject(); }), 0);
-        QCOMPARE(execWith(dialog, [&dialog] { dialog.hide(); }), 0);
     }
 
     void callbackOffersItsSlots()
@@ -341,7 +336,7 @@ private Q_SLOTS:
         FormDialog dialog;
         dialog.name = QStringLiteral("Reel 1");
         dialog.setQmlPath(
-            scene(Lit + QStringLiteral("; property bool hasKeyboard: field.activeFocus; TextInput "
+            scene(lit + QStringLiteral("; property bool hasKeyboard: field.activeFocus; TextInput "
                                        "{ id: field; focus: true; text: callback.name }"
                                        "MouseArea { anchors.fill: parent; onClicked: "
                                        "{ callback.name = field.text; callback.accept() } }")));
@@ -361,7 +356,7 @@ private Q_SLOTS:
         dialog.setQmlPath(scene(QStringLiteral("property int count: 0; property int loads: 0; "
                                                "Component.onCompleted: ++loads")));
         QPointer<QQuickItem> root;
-        for (int round = 1; round <= Rounds; ++round) {
+        for (int round = 1; round <= rounds; ++round) {
             execWith(dialog, [&] {
                 if (!root) {
                     root = dialog.root();
@@ -409,7 +404,7 @@ private Q_SLOTS:
         window.show();
         FormDialog dialog(&window);
         dialog.setQmlPath(scene(size));
-        for (int round = 0; round < Rounds; ++round) {
+        for (int round = 0; round < rounds; ++round) {
             execWith(dialog, [&] {
                 QCOMPARE(dialog.pos(), position);
                 dialog.accept();
@@ -500,31 +495,6 @@ private Q_SLOTS:
         });
     }
 
-    void sizes_data()
-    {
-        QTest::addColumn<QString>("size");
-        QTest::addColumn<QSize>("expected");
-
-        QTest::newRow("one") << QStringLiteral("width: 1; height: 1") << QSize(1, 1);
-        QTest::newRow("fraction down") << QStringLiteral("width: 80.4; height: 60.4") << QSize(80, 60);
-        QTest::newRow("fraction up") << QStringLiteral("width: 80.5; height: 60.5") << QSize(81, 61);
-    }
-
-    void sizes()
-    {
-        QFETCH(QString, size);
-        QFETCH(QSize, expected);
-        FormDialog dialog;
-        dialog.setQmlPath(scene(size));
-        const int result = execWith(dialog, [&] {
-            QCoreApplication::processEvents();
-            QCOMPARE(dialog.container()->size(), expected);
-            QCOMPARE(dialog.size(), expected);
-            dialog.done(9);
-        });
-        QCOMPARE(result, 9);
-    }
-
     void sceneWithoutASize_data()
     {
         QTest::addColumn<QString>("size");
@@ -542,7 +512,7 @@ private Q_SLOTS:
         dialog.setQmlPath(path);
         OnShow onShow([] { QFAIL("It was shown."); });
         dialog.installEventFilter(&onShow);
-        for (int round = 1; round <= Rounds; ++round) {
+        for (int round = 1; round <= rounds; ++round) {
             // It would not end by itself.
             QTimer::singleShot(2000, &dialog, [&dialog] { dialog.done(7); });
             QCOMPARE(dialog.exec(), int(QDialog::Rejected));
@@ -643,22 +613,6 @@ private Q_SLOTS:
         }
     }
 
-    void sceneThatThrows()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene(Lit + QStringLiteral("; Component.onCompleted: { throw new Error('one') } "
-                                                     "MouseArea { anchors.fill: parent; onClicked: "
-                                                     "{ throw new Error('two') } }")));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Error: one")));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Error: two")));
-        const int result = execWith(dialog, [&dialog] {
-            QTest::mouseClick(dialog.view(), Qt::LeftButton);
-            QVERIFY(dialog.isVisible());
-            dialog.accept();
-        });
-        QCOMPARE(result, 1);
-    }
-
     void endedWhileLoading_data()
     {
         QTest::addColumn<QString>("end");
@@ -678,7 +632,7 @@ private Q_SLOTS:
         QWidget parent;
         parent.show();
         FormDialog dialog(&parent);
-        dialog.setQmlPath(scene(Lit + QStringLiteral("; Component.onCompleted: %1").arg(end)));
+        dialog.setQmlPath(scene(lit + QStringLiteral("; Component.onCompleted: %1").arg(end)));
         bool isShown = false;
         QTimer::singleShot(0, &dialog, [&] { isShown = dialog.isVisible(); });
         QCOMPARE(dialog.exec(), result);
@@ -701,7 +655,7 @@ private Q_SLOTS:
     {
         FormDialog dialog;
         dialog.setQmlPath(
-            scene(Lit + QStringLiteral("; focus: true; onActiveFocusChanged: callback.done(6)")));
+            scene(lit + QStringLiteral("; focus: true; onActiveFocusChanged: callback.done(6)")));
         QCOMPARE(dialog.exec(), 6);
         QVERIFY(!dialog.isVisible());
         QVERIFY(!dialog.container()->parent());
@@ -736,7 +690,7 @@ private Q_SLOTS:
     {
         FormDialog dialog;
         dialog.setQmlPath(scene(
-            Lit +
+            lit +
             QStringLiteral("; property int inner: -1; Component.onCompleted: inner = callback.exec()")));
         QCOMPARE(execWith(dialog, [&dialog] { dialog.done(4); }), 4);
         QCOMPARE(dialog.root()->property("inner").toInt(), 0);
@@ -758,92 +712,74 @@ private Q_SLOTS:
         QCOMPARE(result, 3);
     }
 
-    void dialogDeletedMeanwhile()
+    void whileItRuns_data()
     {
-        auto* const dialog = new FormDialog;
-        dialog->setQmlPath(scene());
-        QPointer<QWidget> container = dialog->container();
-        QCOMPARE(execWith(*dialog, [dialog] { delete dialog; }), 0);
-        QVERIFY(!container);
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<int>("result");
+        const auto row = [](const char* name, int result, const Act& act) {
+            QTest::newRow(name) << act << result;
+        };
+        const auto pressEscape = [](FormDialog* dialog) {
+            QCoreApplication::processEvents();
+            QVERIFY(dialog->isVisible());
+            QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
+        };
+        row("done", 3, [](FormDialog* dialog) { dialog->done(3); });
+        row("rejected", 0, [](FormDialog* dialog) { dialog->reject(); });
+        row("hidden", 0, [](FormDialog* dialog) { dialog->hide(); });
+        row("closed by the window manager", 0, [](FormDialog* dialog) { dialog->close(); });
+        row("closed, and deleted by that", 5, [](FormDialog* dialog) {
+            dialog->setAttribute(Qt::WA_DeleteOnClose);
+            dialog->done(5);
+        });
+        row("deleted later by a slot of finished", 5, [](FormDialog* dialog) {
+            connect(dialog, &QDialog::finished, dialog, &QObject::deleteLater);
+            dialog->done(5);
+        });
+        row("deleted", 0, [](FormDialog* dialog) { delete dialog; });
+        row("parent deleted", 0, [](FormDialog* dialog) { delete dialog->parentWidget(); });
+        row("parent hidden", 0, [pressEscape](FormDialog* dialog) {
+            dialog->parentWidget()->hide();
+            pressEscape(dialog);
+        });
+        row("container deleted", 0, [pressEscape](FormDialog* dialog) {
+            delete dialog->container();
+            pressEscape(dialog);
+        });
+        row("container taken away", 1, [](FormDialog* dialog) {
+            dialog->container()->setParent(dialog->parentWidget());
+            dialog->accept();
+        });
+        row("layout deleted", 1, [](FormDialog* dialog) {
+            delete dialog->layout();
+            dialog->accept();
+        });
     }
 
-    void parentDeletedMeanwhile()
+    void whileItRuns()
     {
-        auto* const window = new QWidget;
+        QFETCH(Act, act);
+        QFETCH(int, result);
+        const QPointer<QWidget> window = new QWidget;
         window->show();
-        QPointer<FormDialog> dialog = new FormDialog(window);
+        const QPointer<FormDialog> dialog = new FormDialog(window);
         dialog->setQmlPath(scene());
-        QPointer<QWidget> container = dialog->container();
-        QCOMPARE(execWith(*dialog, [window] { delete window; }), 0);
-        QVERIFY(!dialog);
-        QVERIFY(!container);
-    }
-
-    void parentHiddenMeanwhile()
-    {
-        QWidget window;
-        window.show();
-        FormDialog dialog(&window);
-        dialog.setQmlPath(scene());
-        const int result = execWith(dialog, [&] {
-            window.hide();
-            QCoreApplication::processEvents();
-            QVERIFY(dialog.isVisible());
-            QTest::keyClick(dialog.view(), Qt::Key_Escape);
-        });
-        QCOMPARE(result, 0);
-        QVERIFY(!dialog.container()->parent());
-    }
-
-    void containerDeletedMeanwhile()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        const int result = execWith(dialog, [&dialog] {
-            delete dialog.container();
-            QCoreApplication::processEvents();
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        });
-        QCOMPARE(result, 0);
-        QCOMPARE(dialog.exec(), 0);
-        QVERIFY(!dialog.isVisible());
-    }
-
-    void containerDeletedBefore()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        delete dialog.container();
-        QCOMPARE(dialog.exec(), 0);
-        QCOMPARE(m_log->take(), QStringList{QStringLiteral(
-                                    "WARNING QuickContent.cpp: Could not resolve root object for main qml")});
-    }
-
-    void containerTakenAwayMeanwhile()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        QWidget thief;
-        execWith(dialog, [&] {
-            dialog.container()->setParent(&thief);
-            dialog.accept();
-        });
-        QVERIFY(!dialog.container()->parent());
-        execWith(dialog, [&dialog] {
-            QVERIFY(dialog.view()->isVisible());
-            dialog.accept();
-        });
-    }
-
-    void layoutDeletedMeanwhile()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        execWith(dialog, [&dialog] {
-            delete dialog.layout();
-            dialog.accept();
-        });
-        QVERIFY(!dialog.container()->parent());
+        const QPointer<QWidget> container = dialog->container();
+        QCOMPARE(execWith(*dialog, [&] { act(dialog); }), result);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (dialog) {
+            QVERIFY(!dialog->isVisible());
+            QVERIFY(!container || !container->parent());
+            QCOMPARE(execWith(*dialog,
+                              [&dialog] {
+                                  QVERIFY(dialog->view()->isVisible());
+                                  dialog->done(8);
+                              }),
+                     container ? 8 : 0);
+        } else {
+            QVERIFY(!container);
+        }
+        delete window;
     }
 
     void applicationQuitsMeanwhile()
@@ -860,36 +796,6 @@ private Q_SLOTS:
         QVERIFY(!dialog.container()->parent());
     }
 
-    void deletedOnClose()
-    {
-        QPointer<FormDialog> dialog = new FormDialog;
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->setQmlPath(scene());
-        QCOMPARE(execWith(*dialog, [&dialog] { dialog->done(5); }), 5);
-        QVERIFY(!dialog);
-    }
-
-    void deletedByASlotOfFinished()
-    {
-        QPointer<FormDialog> dialog = new FormDialog;
-        dialog->setQmlPath(scene());
-        connect(dialog, &QDialog::finished, dialog, [&dialog] { dialog->deleteLater(); });
-        QCOMPARE(execWith(*dialog, [&dialog] { dialog->done(5); }), 5);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!dialog);
-    }
-
-    void deletedBeforeExec()
-    {
-        QPointer<QWidget> container;
-        {
-            FormDialog dialog;
-            dialog.setQmlPath(scene());
-            container = dialog.container();
-        }
-        QVERIFY(!container);
-    }
-
     // The slot runs before exec() has returned.
     void runAgainBySlotOfFinished()
     {
@@ -904,8 +810,8 @@ private Q_SLOTS:
     void keyboardGoesIntoTheScene()
     {
         FormDialog dialog;
-        dialog.setQmlPath(scene(Lit + QStringLiteral("; TextInput { objectName: 'field'; focus: true }")));
-        for (int round = 1; round <= Rounds; ++round) {
+        dialog.setQmlPath(scene(lit + QStringLiteral("; TextInput { objectName: 'field'; focus: true }")));
+        for (int round = 1; round <= rounds; ++round) {
             execWith(dialog, [&] {
                 QVERIFY(QTest::qWaitForWindowExposed(&dialog));
                 QCOMPARE(dialog.focusWidget(), dialog.view());
@@ -922,7 +828,7 @@ private Q_SLOTS:
     {
         FormDialog dialog;
         dialog.setQmlPath(
-            scene(Lit + QStringLiteral("; Item { objectName: 'a'; focus: true; activeFocusOnTab: true }"
+            scene(lit + QStringLiteral("; Item { objectName: 'a'; focus: true; activeFocusOnTab: true }"
                                        "Item { objectName: 'b'; activeFocusOnTab: true }"
                                        "Item { objectName: 'c'; activeFocusOnTab: true }")));
         execWith(dialog, [&dialog] {
@@ -962,7 +868,7 @@ private Q_SLOTS:
         QFETCH(QString, body);
         QFETCH(int, result);
         FormDialog dialog;
-        dialog.setQmlPath(scene(Lit + body));
+        dialog.setQmlPath(scene(lit + body));
         const int returned = execWith(dialog, [&dialog] {
             QVERIFY(QTest::qWaitForWindowExposed(&dialog));
             QTRY_COMPARE(QApplication::focusWidget(), dialog.view());
@@ -994,7 +900,7 @@ private Q_SLOTS:
 
         FormDialog handling;
         handling.setQmlPath(
-            scene(Lit + QStringLiteral("; focus: true; Keys.onReturnPressed: callback.accept(); "
+            scene(lit + QStringLiteral("; focus: true; Keys.onReturnPressed: callback.accept(); "
                                        "Keys.onEnterPressed: callback.accept()")));
         const int handled = execWith(handling, [&] {
             QVERIFY(QTest::qWaitForWindowExposed(&handling));
@@ -1002,14 +908,6 @@ private Q_SLOTS:
             QTest::keyClick(handling.windowHandle(), static_cast<Qt::Key>(key));
         });
         QCOMPARE(handled, 1);
-    }
-
-    void closedByTheWindowManager()
-    {
-        FormDialog dialog;
-        dialog.setQmlPath(scene());
-        QCOMPARE(execWith(dialog, [&dialog] { dialog.close(); }), 0);
-        QVERIFY(!dialog.container()->parent());
     }
 
     void nothingIsPaintedBehindTheScene_data()
@@ -1046,7 +944,7 @@ private Q_SLOTS:
     }
 
 private:
-    QString scene(const QString& body = Lit) const
+    QString scene(const QString& body = lit) const
     {
         return m_files->file(QStringLiteral("main.qml"),
                              QStringLiteral("import QtQuick 2.15\nRectangle { %1 }\n").arg(body));
