@@ -1,5 +1,4 @@
 #include "FakeColorPicker.h"
-#include "FocusedBy.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorInputWidget.h>
@@ -109,35 +108,6 @@ private Q_SLOTS:
         delete field;
         QVERIFY(!alive);
         QCOMPARE(reports, 0);
-    }
-
-    void labelBuddyReachesTheButton()
-    {
-        QWidget form;
-        auto* edit = new QLineEdit(&form); // has the focus, which would else be the button's from the start
-        auto* label = new QLabel(QStringLiteral("&Colour"), &form);
-        auto* field = new ColorInputWidget(&form, Qt::red);
-        label->setBuddy(field);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        edit->setFocus();
-        QCOMPARE(form.focusWidget(), edit);
-        QTest::keyClick(&form, Qt::Key_C, Qt::AltModifier);
-        QCOMPARE(form.focusWidget(), field->anchorWidget());
-    }
-
-    void tabStopsOnceAtTheButton()
-    {
-        QWidget form;
-        auto* before = new QLineEdit(&form);
-        auto* field = new ColorInputWidget(&form, Qt::red);
-        auto* after = new QLineEdit(&form);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        before->setFocus();
-        QWidget* const button = field->anchorWidget();
-        QCOMPARE(focusedBy(Qt::Key_Tab, 2, form), QList<QWidget*>({button, after}));
-        QCOMPARE(focusedBy(Qt::Key_Backtab, 1, form), QList<QWidget*>({button}));
     }
 };
 

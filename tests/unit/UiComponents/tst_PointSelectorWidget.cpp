@@ -1,5 +1,4 @@
 #include "DecimalNumber.h"
-#include "FocusedBy.h"
 #include "MarkingTranslator.h"
 #include "MouseEvents.h"
 #include "SpinBoxTyping.h"
@@ -622,22 +621,6 @@ private Q_SLOTS:
         QCOMPARE(partOf<QLabel>(field, "yLabel")->text(), QString());
     }
 
-    void tabOrder()
-    {
-        QWidget form;
-        auto* before = new QLineEdit(&form);
-        auto* label = new QLabel(QStringLiteral("&Position"), &form);
-        auto* field = new Field(hundreds, &form);
-        label->setBuddy(field);
-        auto* after = new QLineEdit(&form);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        before->setFocus();
-        QCOMPARE(focusedBy(Qt::Key_Tab, 4, form), QList<QWidget*>({field->plane, field->x, field->y, after}));
-        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
-        QCOMPARE(form.focusWidget(), field->plane);
-    }
-
     void disabled()
     {
         Field field;
@@ -649,20 +632,6 @@ private Q_SLOTS:
         QCOMPARE(field.reports(), Points());
         field.setValue({1, 2});
         QCOMPARE(field.plane->point(), QPointF(1, 2));
-    }
-
-    void rightToLeft()
-    {
-        Field field;
-        field.setLayoutDirection(Qt::RightToLeft);
-        field.layout()->activate();
-        const auto left = [&field](QWidget* part) { return part->mapTo(&field, QPoint()).x(); };
-        QVERIFY(left(field.plane) > left(field.x));
-        QVERIFY(field.y->mapTo(&field, QPoint()).y() > field.x->mapTo(&field, QPoint()).y());
-        press(*field.plane, {0, 0});
-        QCOMPARE(field.reports(), Points{QPointF(0, 0)});
-        release(*field.plane, {100, 0});
-        QCOMPARE(field.numbers(), QPointF(100, 0));
     }
 };
 

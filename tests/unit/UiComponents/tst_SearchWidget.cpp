@@ -723,17 +723,6 @@ private Q_SLOTS:
         QFocusEvent focus(QEvent::FocusOut);
         QVERIFY(!search.eventFilter(buttonOf(search), &focus));
     }
-
-    void rightToLeft()
-    {
-        SearchWidget search;
-        search.setLayoutDirection(Qt::RightToLeft);
-        editOf(search)->setText("a");
-        search.resize(200, 30);
-        search.show();
-        QVERIFY(buttonOf(search)->x() < editOf(search)->x());
-        QVERIFY(iconOf(search)->x() >= editOf(search)->x());
-    }
 };
 
 UIC_TEST_MAIN(tst_SearchWidget)

@@ -1,4 +1,3 @@
-#include "FocusedBy.h"
 #include "SliderField.h"
 #include "SpinBoxTyping.h"
 #include "TestMain.h"
@@ -463,34 +462,6 @@ private Q_SLOTS:
         }
     }
 
-    void labelBuddyReachesTheSlider()
-    {
-        QWidget form;
-        auto* edit = new QLineEdit(&form);
-        auto* label = new QLabel(QStringLiteral("&Volume"), &form);
-        const auto field = makeField(0, 100, &form);
-        label->setBuddy(field->widget);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        edit->setFocus();
-        QTest::keyClick(&form, Qt::Key_V, Qt::AltModifier);
-        QCOMPARE(form.focusWidget(), field->slider);
-    }
-
-    void tabOrder()
-    {
-        QWidget form;
-        auto* before = new QLineEdit(&form);
-        const auto field = makeField(0, 100, &form);
-        auto* after = new QLineEdit(&form);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        before->setFocus();
-        QCOMPARE(focusedBy(Qt::Key_Tab, 3, form), QList<QWidget*>({field->slider, field->spinBox, after}));
-        QCOMPARE(focusedBy(Qt::Key_Backtab, 3, form),
-                 QList<QWidget*>({field->spinBox, field->slider, before}));
-    }
-
     void disabled()
     {
         const auto field = makeField(0, 100);
@@ -499,17 +470,6 @@ private Q_SLOTS:
         QVERIFY(!field->spinBox->isEnabled());
         field->setValue(5);
         QCOMPARE(field->reports(), Values({5, 5}));
-    }
-
-    void rightToLeft()
-    {
-        const auto field = makeField(0, 100);
-        field->widget->setLayoutDirection(Qt::RightToLeft);
-        field->widget->resize(300, 30);
-        field->widget->show();
-        QVERIFY(field->slider->x() > field->spinBox->x());
-        QTest::keyClick(field->slider, Qt::Key_Left);
-        QCOMPARE(field->reports(), Values({1, 1}));
     }
 
     void sheetSetsMetrics()

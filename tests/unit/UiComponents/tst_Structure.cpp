@@ -1,3 +1,4 @@
+#include "FocusedBy.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorInputWidget.h>
@@ -77,7 +78,8 @@ QWidget* make(QWidget* parent)
 
 } // namespace
 
-/// What sheets and hosts find in a component: its parts, their classes, names and places.
+/// What sheets, hosts and users find in a component: its parts, their classes, names and places, and how
+/// label and Tab lead to them.
 class tst_Structure : public QObject
 {
     Q_OBJECT
@@ -165,6 +167,108 @@ private Q_SLOTS:
         QVERIFY(widget->isWindow() || widget->parentWidget() == &parent);
         const auto* const bubble = qobject_cast<const PointingWidget*>(widget);
         QCOMPARE(structureOf(bubble ? bubble->contentFrame() : widget), structure);
+    }
+
+    void mirrored_data() { parts_data(); }
+
+    void mirrored()
+    {
+        QFETCH(Factory, factory);
+        QWidget parent;
+        QWidget* const widget = factory(&parent);
+        const auto* const bubble = qobject_cast<const PointingWidget*>(widget);
+        const QWidget* const area = bubble ? bubble->contentFrame() : widget;
+        const auto parts = area->findChildren<QWidget*>();
+        for (QWidget* part : parts) {
+            part->setVisible(part->parentWidget()->layout());
+        }
+        widget->resize(400, 300);
+        parent.show();
+        widget->show();
+        const auto placesIn = [&](Qt::LayoutDirection direction) {
+            widget->setLayoutDirection(direction);
+            QCoreApplication::processEvents();
+            QVector<QRect> places;
+            for (QWidget* part : parts) {
+                const QLayout* const layout = part->parentWidget()->layout();
+                if (layout && layout->indexOf(part) >= 0) {
+                    const QRect place(part->mapTo(area, QPoint()), part->size());
+                    places += QStyle::visualRect(direction, area->rect(), place);
+                }
+            }
+            return places;
+        };
+        const QVector<QRect> places = placesIn(Qt::LeftToRight);
+        QVERIFY(!places.isEmpty());
+        QCOMPARE(placesIn(Qt::RightToLeft), places);
+    }
+
+    void inAForm_data()
+    {
+        QTest::addColumn<Factory>("factory");
+        QTest::addColumn<QStringList>("stops");
+        const auto row = [](const char* name, const Factory& factory, const QStringList& stops) {
+            QTest::newRow(name) << factory << stops;
+        };
+        row("ColorInputWidget", [](QWidget* form) { return new ColorInputWidget(form, Qt::red); },
+            {"colorPicker"});
+        row("PathSelectionWidget",
+            [](QWidget* form) {
+                auto* const field = new PathSelectionWidget(form);
+                field->setDefaultPath("/default", "Default");
+                return field;
+            },
+            {"pathLineEdit", "pathBrowseButton", "pathResetButton"});
+        row("PointSelectorWidget",
+            [](QWidget* form) {
+                return new PointSelectorWidget(form, {{0, 0}, {1, 1}, 0, 0});
+            },
+            {"pointSelector", "xSpinbox", "ySpinbox"});
+        row("SearchWidget",
+            [](QWidget* form) {
+                auto* const field = new SearchWidget(form);
+                field->findChild<QLineEdit*>()->setText("a");
+                return field;
+            },
+            {"searchLineEdit", "clearSearchButton"});
+        row("SliderInputWidget",
+            [](QWidget* form) {
+                return new SliderInputWidget(form, {0, 1});
+            },
+            {"slider", "spinbox"});
+        row("DoubleSliderInputWidget",
+            [](QWidget* form) {
+                return new DoubleSliderInputWidget(form, {0, 1, 2});
+            },
+            {"slider", "spinbox"});
+    }
+
+    // The mnemonic of its label leads to the first part, and Tab to each.
+    void inAForm()
+    {
+        QFETCH(Factory, factory);
+        QFETCH(QStringList, stops);
+        QWidget form;
+        auto* const before = new QLineEdit(&form);
+        auto* const label = new QLabel("&Value", &form);
+        QWidget* const field = factory(&form);
+        label->setBuddy(field);
+        auto* const after = new QLineEdit(&form);
+        QWidgetList parts;
+        for (const QString& name : stops) {
+            parts += field->findChild<QWidget*>(name);
+        }
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        before->setFocus();
+        QTest::keyClick(&form, Qt::Key_V, Qt::AltModifier);
+        QCOMPARE(form.focusWidget(), parts.first());
+        before->setFocus();
+        QCOMPARE(focusedBy(Qt::Key_Tab, parts.size() + 1, form), parts + QWidgetList{after});
+        std::reverse(parts.begin(), parts.end());
+        QCOMPARE(focusedBy(Qt::Key_Backtab, parts.size() + 1, form), parts + QWidgetList{before});
+        field->setEnabled(false);
+        QCOMPARE(focusedBy(Qt::Key_Tab, 1, form), QWidgetList{after});
     }
 };
 
