@@ -16,6 +16,20 @@ GuideInfo info()
             QStringLiteral("<a href='https://example.org'>More</a>"), film};
 }
 
+/// A guide, or a bubble of @p window.
+std::unique_ptr<QWidget> makeGuide(bool isBubble, const QString& picture, QWidget* window)
+{
+    if (!isBubble) {
+        GuideInfo text = info();
+        text.moviePath = picture;
+        return std::make_unique<GuideWidget>(text, nullptr);
+    }
+    auto bubble = std::make_unique<DialogGuideWidget>(window);
+    bubble->setInfo({QStringLiteral("Trim"), QStringLiteral("Drag"), QStringLiteral("Next"),
+                     QStringLiteral("Back"), picture});
+    return bubble;
+}
+
 OvPixmapWidget* pictureOf(const QWidget& guide)
 {
     return guide.findChild<OvPixmapWidget*>(QStringLiteral("gifPixmapWidget"));
@@ -90,17 +104,8 @@ private Q_SLOTS:
         QFETCH(bool, isBubble);
         QWidget window;
         window.show();
-        QWidget* guide = nullptr;
-        if (isBubble) {
-            auto* const bubble = new DialogGuideWidget(&window);
-            bubble->setInfo({QStringLiteral("Trim"), QStringLiteral("Drag"), QStringLiteral("Next"),
-                             QStringLiteral("Back"), film});
-            guide = bubble;
-        } else {
-            guide = new GuideWidget(info(), nullptr);
-        }
-        const std::unique_ptr<QWidget> owner(guide);
-        QObject* const wisher = ofGuide ? static_cast<QObject*>(guide) : qApp;
+        const std::unique_ptr<QWidget> guide = makeGuide(isBubble, film, &window);
+        QObject* const wisher = ofGuide ? static_cast<QObject*>(guide.get()) : qApp;
         wisher->setProperty("firstPictureOnly", true);
         guide->show();
         QMovie* const movie = pictureOf(*guide)->movie();
@@ -114,6 +119,40 @@ private Q_SLOTS:
         if (!isBubble) {
             guide->show();
             QCOMPARE(movie->state(), QMovie::Running);
+        }
+    }
+
+    void filesWithoutAPicture_data()
+    {
+        QTest::addColumn<QString>("path"); // empty: a file of the content
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("missing file") << QStringLiteral("/no/such/guide.gif") << QByteArray();
+        QTest::newRow("missing resource") << QStringLiteral(":/no/such/guide.gif") << QByteArray();
+        QTest::newRow("URL") << QUrl::fromLocalFile(film).toString() << QByteArray();
+        QTest::newRow("empty file") << QString() << QByteArray();
+        QTest::newRow("no image") << QString() << QByteArray("no image at all");
+        QTest::newRow("header alone") << QString() << QByteArray("GIF89a\x08\x00\x08\x00", 10);
+    }
+
+    void filesWithoutAPicture()
+    {
+        QFETCH(QString, path);
+        QFETCH(QByteArray, content);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(content);
+        file.close();
+        QWidget window;
+        window.show();
+        for (const bool isBubble : {false, true}) {
+            const QString picturePath = path.isEmpty() ? file.fileName() : path;
+            const std::unique_ptr<QWidget> guide = makeGuide(isBubble, picturePath, &window);
+            guide->show();
+            const OvPixmapWidget* const picture = pictureOf(*guide);
+            QVERIFY(!picture->movie());
+            QCOMPARE(picture->moviePath(), picturePath);
+            // A file that exists has its place, which is empty.
+            QCOMPARE(picture->isVisible(), path.isEmpty());
         }
     }
 
