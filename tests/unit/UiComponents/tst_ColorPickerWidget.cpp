@@ -582,6 +582,8 @@ private Q_SLOTS:
         QTest::newRow("another, in upper case")
             << true << several << QStringLiteral("#ABCDEF") << QStringList{QStringLiteral("#80abcdef")}
             << QStringLiteral("#ABCDEF") << QString();
+        QTest::newRow("another, over no colour")
+            << true << OptionalColor(QColor()) << own << QStringList{half(own)} << own << QString();
         QTest::newRow("one of the user's own")
             << true << several << names(1).constFirst()
             << QStringList({half(names(1).constFirst()), half(names(1).constFirst())})
@@ -597,7 +599,7 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         QFETCH(QString, checked);
         m_record->value = names(1);
-        Panel panel;
+        Panel panel(before == OptionalColor(QColor()));
         panel.slider->setDoubleValue(QColor(0, 0, 0, 128).alphaF());
         panel.setOpacityAdjustmentAvailable(adjustable);
         panel.setCurrentColor(before);
@@ -636,17 +638,6 @@ private Q_SLOTS:
         QCOMPARE(panel.checked(), QStringLiteral("#ff0000"));
         const bool isMarked = text.isEmpty() || text.startsWith(QLatin1Char('#'));
         QCOMPARE(panel.edit->text(), isMarked ? text : QLatin1Char('#') + text);
-    }
-
-    void typedOverNoColor()
-    {
-        Panel panel(true);
-        panel.setCurrentColor(QColor());
-        panel.log();
-        typeAnew(panel.edit, QStringLiteral("#123456"));
-        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff123456")});
-        QCOMPARE(faceState(panel), QStringLiteral("#123456"));
-        QCOMPARE(panel.checked(), QString());
     }
 
     void setCurrentColor_data()
@@ -1153,55 +1144,45 @@ private Q_SLOTS:
 
     void popupBeginsAtTheColor_data()
     {
+        QTest::addColumn<bool>("isAgain");
         QTest::addColumn<OptionalColor>("color");
         QTest::addColumn<int>("hue");
-        QTest::addColumn<QString>("marker");
-        QTest::newRow("several") << OptionalColor() << 0 << QStringLiteral("bottom left");
-        QTest::newRow("none") << OptionalColor(QColor()) << 0 << QStringLiteral("bottom left");
-        QTest::newRow("blue") << OptionalColor(QColor(Qt::blue)) << 240 << QStringLiteral("top right");
-        QTest::newRow("translucent") << OptionalColor(QColor(0, 255, 0, 10)) << 120
-                                     << QStringLiteral("top right");
+        QTest::addColumn<bool>("atTheRight");
+        QTest::newRow("several") << false << OptionalColor() << 0 << false;
+        QTest::newRow("none") << false << OptionalColor(QColor()) << 0 << false;
+        QTest::newRow("blue") << false << OptionalColor(QColor(Qt::blue)) << 240 << true;
+        QTest::newRow("blue, opened before") << true << OptionalColor(QColor(Qt::blue)) << 240 << true;
+        QTest::newRow("translucent") << false << OptionalColor(QColor(0, 255, 0, 10)) << 120 << true;
     }
 
     void popupBeginsAtTheColor()
     {
+        QFETCH(bool, isAgain);
         QFETCH(OptionalColor, color);
         QFETCH(int, hue);
-        QFETCH(QString, marker);
+        QFETCH(bool, atTheRight);
         Panel panel;
         panel.show();
+        if (isAgain) {
+            panel.setCurrentColor(QColor(0, 255, 255));
+            panel.openPopup();
+            panel.popup()->close();
+        }
         panel.setCurrentColor(color);
         panel.log();
         panel.openPopup();
         QTRY_COMPARE(panel.hueSlider()->value(), hue);
+        QCoreApplication::processEvents();
         QCOMPARE(panel.log(), QStringList());
         QCOMPARE(panel.currentColor(), color);
         // A step to the inside shows where the marker is.
-        const bool atTheRight = marker.endsWith(QStringLiteral("right"));
+
         QTest::keyClick(panel.plane(), atTheRight ? Qt::Key_Left : Qt::Key_Right);
         const QSize size = panel.plane()->size();
         const QPoint place = atTheRight ? QPoint(size.width() - 2, 0) : QPoint(1, size.height() - 1);
         QColor expected = panel.planeColor(hue, place);
         expected.setAlphaF(panel.slider->doubleValue());
         QCOMPARE(panel.log(), QStringList{text(expected)});
-        panel.popup()->close();
-    }
-
-    void popupBeginsAtTheColorAgain()
-    {
-        Panel panel;
-        panel.show();
-        panel.setCurrentColor(QColor(Qt::blue));
-        panel.openPopup();
-        panel.popup()->close();
-        panel.setCurrentColor(QColor(Qt::green));
-        panel.log();
-        panel.openPopup();
-        QTRY_COMPARE(panel.hueSlider()->value(), 120);
-        QCoreApplication::processEvents();
-        // To open it is not to choose anything.
-        QCOMPARE(panel.log(), QStringList());
-        QCOMPARE(panel.currentColor(), OptionalColor(QColor(Qt::green)));
         panel.popup()->close();
     }
 
@@ -1372,31 +1353,57 @@ private Q_SLOTS:
         QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff123456")});
     }
 
-    void closingAddsNothing_data()
+    void closingWith_data()
     {
+        QTest::addColumn<QStringList>("stored");
+        QTest::addColumn<bool>("adjustable");
         QTest::addColumn<OptionalColor>("color");
-        QTest::newRow("several") << OptionalColor();
-        QTest::newRow("none") << OptionalColor(QColor());
-        QTest::newRow("of the palette") << OptionalColor(QColor(Qt::red));
-        QTest::newRow("of the palette, translucent") << OptionalColor(QColor(255, 0, 0, 5));
-        QTest::newRow("there already") << OptionalColor(QColor(names(1).constFirst()));
+        QTest::addColumn<QStringList>("reported");
+        QTest::addColumn<QStringList>("queue");
+        const QStringList stored = names(3);
+        const auto addsNothing = [&stored](const char* name, const OptionalColor& color) {
+            QTest::newRow(name) << stored << true << color << QStringList() << stored;
+        };
+        addsNothing("several colours", {});
+        addsNothing("no colour", QColor());
+        addsNothing("a palette colour", QColor(Qt::red));
+        addsNothing("a translucent palette colour", QColor(255, 0, 0, 5));
+        addsNothing("a colour that is there", QColor(stored.first()));
+        const QString own = QStringLiteral("#123456");
+        const QStringList added = QStringList{own} + stored;
+        QTest::newRow("a translucent colour")
+            << stored << true << OptionalColor(QColor(0x12, 0x34, 0x56, 128)) << QStringList{half(own)}
+            << added;
+        QTest::newRow("a translucent colour, opacity fixed")
+            << stored << false << OptionalColor(QColor(0x12, 0x34, 0x56, 128)) << QStringList{opaque(own)}
+            << added;
+        // Stored by somebody else, which makes two entries of one colour.
+        const QString upperCase = QStringLiteral("#ABCDEF");
+        QTest::newRow("a colour that is there in upper case")
+            << names(7) + QStringList{upperCase} << true << OptionalColor(QColor(upperCase)) << QStringList()
+            << QStringList{upperCase.toLower()} + names(7);
     }
 
-    void closingAddsNothing()
+    void closingWith()
     {
+        QFETCH(QStringList, stored);
+        QFETCH(bool, adjustable);
         QFETCH(OptionalColor, color);
-        m_record->value = names(3);
+        QFETCH(QStringList, reported);
+        QFETCH(QStringList, queue);
+        m_record->value = stored;
         Panel panel;
+        panel.setOpacityAdjustmentAvailable(adjustable);
         panel.show();
         panel.setCurrentColor(color);
-        const OptionalColor before = panel.currentColor();
         panel.openPopup();
         panel.log();
         panel.popup()->close();
-        QCOMPARE(panel.log(), QStringList());
-        QCOMPARE(panel.currentColor(), before);
-        QCOMPARE(m_record->writes, 0);
-        QCOMPARE(panel.queue(), padded(names(3)));
+        QCOMPARE(panel.log(), reported);
+        QCOMPARE(m_record->writes, queue == stored ? 0 : 1);
+        QCOMPARE(Settings::userCustomColors(), queue);
+        QCOMPARE(panel.queue(), padded(queue));
+        QVERIFY(queue == stored || panel.queueButton(0)->isChecked());
     }
 
     void escapeLeavesTheHostOpen()
@@ -1456,44 +1463,6 @@ private Q_SLOTS:
             next = next->nextInFocusChain();
             QCOMPARE(next, panel.queueButton(i));
         }
-    }
-
-    void addedColorTakesTheOpacity()
-    {
-        Panel panel;
-        panel.show();
-        panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-        panel.log();
-        panel.openPopup();
-        panel.popup()->close();
-        QCOMPARE(panel.log(), QStringList{QStringLiteral("#80123456")});
-        panel.setOpacityAdjustmentAvailable(false);
-        panel.setCurrentColor(QColor(0x65, 0x43, 0x21, 128));
-        panel.log();
-        panel.openPopup();
-        panel.popup()->close();
-        QCOMPARE(panel.log(), QStringList{QStringLiteral("#ff654321")});
-        QCOMPARE(Settings::userCustomColors(),
-                 QStringList({QStringLiteral("#654321"), QStringLiteral("#123456")}));
-    }
-
-    // It is stored in upper case by somebody else, which makes two entries of one colour.
-    void addedColorThatIsShownAlready()
-    {
-        QStringList stored = names(7);
-        stored += QStringLiteral("#ABCDEF");
-        m_record->value = stored;
-        Panel panel;
-        panel.show();
-        panel.setCurrentColor(QColor(0xab, 0xcd, 0xef));
-        QVERIFY(panel.queueButton(7)->isChecked());
-        panel.log();
-        panel.openPopup();
-        panel.popup()->close();
-        QCOMPARE(panel.queue(), QStringList{QStringLiteral("#abcdef")} + names(7));
-        QCOMPARE(Settings::userCustomColors(), panel.queue());
-        QVERIFY(panel.queueButton(0)->isChecked());
-        QCOMPARE(panel.log(), QStringList());
     }
 
     void unwritableSettings()

