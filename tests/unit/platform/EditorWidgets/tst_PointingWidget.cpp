@@ -348,7 +348,7 @@ private Q_SLOTS:
     void shorterTextMakesItLower()
     {
         PointingWidget bubble;
-        auto* label = new QLabel(QStringLiteral("word ").repeated(200));
+        auto* label = new QLabel(QStringLiteral("word ").repeated(60));
         label->setWordWrap(true);
         (new OvVBoxLayout(bubble.contentFrame()))->addWidget(label);
         bubble.setFixedWidth(200);
@@ -358,19 +358,9 @@ private Q_SLOTS:
         label->setText(QStringLiteral("word"));
         QTRY_VERIFY(bubble.height() < high / 4);
         QVERIFY(touchesTarget(bubble));
-        label->setText(QStringLiteral("word ").repeated(200));
+        label->setText(QStringLiteral("word ").repeated(60));
         QTRY_COMPARE(bubble.height(), high);
-    }
-
-    void fixedWidthWraps()
-    {
-        PointingWidget bubble;
-        auto* label = new QLabel(QStringLiteral("word ").repeated(60));
-        label->setWordWrap(true);
-        (new OvVBoxLayout(bubble.contentFrame()))->addWidget(label);
-        bubble.setFixedWidth(150);
-        bubble.show();
-        QCOMPARE(bubble.width(), 150);
+        QCOMPARE(bubble.width(), 200);
         QCOMPARE(label->height(), label->heightForWidth(label->width()));
     }
 
@@ -454,23 +444,6 @@ private Q_SLOTS:
         QCOMPARE(bubble.pos(), QPoint(33, 44));
     }
 
-    void targetMovesWithParent()
-    {
-        QWidget parent;
-        parent.setGeometry(100, 150, 300, 200);
-        parent.show();
-        PointingWidget bubble(&parent);
-        fill(bubble);
-        bubble.pointTo(parent.mapToGlobal(QPoint(30, 40)));
-        bubble.show();
-        parent.move(200, 180);
-        QTRY_COMPARE(bubble.targetPoint(), parent.mapToGlobal(QPoint(30, 40)));
-        QTRY_VERIFY(touchesTarget(bubble));
-        const QPoint place = bubble.pos();
-        parent.resize(120, 90);
-        QCOMPARE(bubble.pos(), place);
-    }
-
     void followsEveryAncestor()
     {
         QWidget window;
@@ -489,6 +462,8 @@ private Q_SLOTS:
             QTRY_COMPARE(bubble.pos(), before + QPoint(13, 17));
             QCOMPARE(bubble.targetPoint(), annotated->mapToGlobal(QPoint(5, 6)));
             QVERIFY(touchesTarget(bubble));
+            moved->resize(moved->size() + QSize(10, 10));
+            QCOMPARE(bubble.pos(), before + QPoint(13, 17));
         }
     }
 
@@ -696,24 +671,6 @@ private Q_SLOTS:
         parent.hide();
         bubble.show();
         QVERIFY(bubble.isVisible());
-    }
-
-    void popupFlags()
-    {
-        QPushButton button;
-        button.setGeometry(200, 200, 100, 30);
-        button.show();
-        PointingWidget bubble(&button);
-        bubble.setWindowFlags(asPopup);
-        bubble.setAttribute(Qt::WA_TranslucentBackground);
-        bubble.setArrowSide(static_cast<ArrowSide>(0), static_cast<ArrowPosition>(1));
-        fill(bubble);
-        const QPoint target = button.mapToGlobal(QPoint(50, 30));
-        bubble.pointTo(target);
-        bubble.show();
-        QCOMPARE(int(bubble.windowFlags()), 0x40000809);
-        QCOMPARE(bubble.geometry(), QRect(target - QPoint(62, 0), QSize(126, 74)));
-        QCOMPARE(bubble.targetPoint(), target);
     }
 
     void plainChild()

@@ -52,14 +52,6 @@ private Q_SLOTS:
         QCOMPARE(slider.value(), 3);
     }
 
-    void defaults()
-    {
-        const OvDoubleSlider slider;
-        QCOMPARE(slider.multiplier(), 1.0);
-        QCOMPARE(slider.doubleValue(), 0.0);
-        QCOMPARE(slider.maximum(), 99);
-    }
-
     void keepsTheExactValue_data()
     {
         QTest::addColumn<double>("asked");
@@ -89,37 +81,63 @@ private Q_SLOTS:
         QCOMPARE(slider.value(), step);
     }
 
-    void stepsReadAsDecimals()
+    // What is set, each with the value and the step that follow, and what is reported, in order.
+    void story_data()
     {
-        OvDoubleSlider slider;
-        slider.setMultiplier(0.1);
-        slider.setValue(3);
-        QVERIFY(slider.doubleValue() == 0.3);
-        slider.setValue(7);
-        QVERIFY(slider.doubleValue() == 0.7);
+        QTest::addColumn<QStringList>("story");
+        const auto row = [](const char* name, const QStringList& story) { QTest::newRow(name) << story; };
+        row("from the start", {"value 0 = 0, 0", "value inf = 99, 99; value 99; step 99"});
+        row("steps read as decimals",
+            {"multiplier 0.1", "step 3 = 0.3, 3; value 0.3; step 3", "step 7 = 0.7, 7; value 0.7; step 7"});
+        row("step", {"multiplier 0.01", "value 0.304", "step 30 = 0.304, 30",
+                     "step 31 = 0.31, 31; value 0.31; step 31",
+                     "multiplier 0.02 = 0.62, 31; value 0.62; multiplier 0.02"});
+        row("value",
+            {"multiplier 0.1", "value 0.72 = 0.72, 7; value 0.72; step 7", "value 0.72 = 0.72, 7",
+             "value 0.73 = 0.73, 7; value 0.73", "value nan = 0.73, 7", "value -0 = 0, 0; value 0; step 0"});
+        row("multiplier of a value", {"value 5", "multiplier 0.5 = 5, 10; step 10; multiplier 0.5"});
+        row("multiplier of a step", {"step 20", "multiplier 0.25 = 5, 20; value 5; multiplier 0.25"});
+        row("multiplier that leaves no room",
+            {"multiplier 0.01", "value 0.9",
+             "multiplier 0.001 = 0.099, 99; value 0.099; step 99; multiplier 0.001"});
+        row("bad multipliers",
+            {"multiplier 0.5", "value 3.25", "multiplier 0 = 3.25, 7", "multiplier -0.5 = 3.25, 7",
+             "multiplier inf = 3.25, 7", "multiplier nan = 3.25, 7", "multiplier 0.5 = 3.25, 7"});
+        row("blocked", {"multiplier 0.1", "step 5", "block", "step 8", "unblock = 0.8, 8",
+                        "step 5 = 0.5, 5; value 0.5; step 5", "block", "value 0.8", "unblock",
+                        "value 0.5 = 0.5, 5; value 0.5; step 5"});
     }
 
-    void setValueTakesTheStep()
+    void story()
     {
+        QFETCH(QStringList, story);
         OvDoubleSlider slider;
-        slider.setMultiplier(0.01);
-        slider.setDoubleValue(0.304);
-        slider.setValue(31);
-        QCOMPARE(slider.doubleValue(), 0.31);
-        slider.setMultiplier(0.02);
-        QCOMPARE(slider.value(), 31);
-        QCOMPARE(slider.doubleValue(), 0.62);
-    }
-
-    void setValueOfTheSameStepChangesNothing()
-    {
-        OvDoubleSlider slider;
-        slider.setMultiplier(0.01);
-        slider.setDoubleValue(0.304);
-        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-        slider.setValue(30);
-        QCOMPARE(slider.doubleValue(), 0.304);
-        QCOMPARE(spy.count(), 0);
+        QStringList log;
+        connect(&slider, &QAbstractSlider::valueChanged, this,
+                [&log](int step) { log += QString("step %1").arg(step); });
+        connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
+                [&log](double value) { log += QString("value %1").arg(value); });
+        connect(&slider, &OvDoubleSlider::multiplierChanged, this,
+                [&log](double multiplier) { log += QString("multiplier %1").arg(multiplier); });
+        for (const QString& step : story) {
+            const QString action = step.section(" = ", 0, 0);
+            const QString verb = action.section(' ', 0, 0);
+            const double number = action.section(' ', 1).toDouble();
+            log.clear();
+            if (verb == "value") {
+                slider.setDoubleValue(number);
+            } else if (verb == "step") {
+                slider.setValue(static_cast<int>(number));
+            } else if (verb == "multiplier") {
+                slider.setMultiplier(number);
+            } else {
+                slider.blockSignals(verb == "block");
+            }
+            log.prepend(QString("%1 = %2, %3").arg(action).arg(slider.doubleValue()).arg(slider.value()));
+            if (step.contains('=')) {
+                QCOMPARE(log.join("; "), step);
+            }
+        }
     }
 
     void anyOrder_data()
@@ -215,6 +233,11 @@ private Q_SLOTS:
         slider.setValue(40);
         slider.setRange(0, 100);
         QCOMPARE(slider.doubleValue(), 4.0);
+        // Nor is there ever room for one without an end.
+        slider.setDoubleValue(infinity);
+        QCOMPARE(slider.doubleValue(), 10.0);
+        slider.setRange(0, 200);
+        QCOMPARE(slider.doubleValue(), 20.0);
     }
 
     void reportedCutStays_data()
@@ -247,110 +270,6 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), isBlocked ? 1 : 0);
     }
 
-    void infiniteValueFollowsTheRange()
-    {
-        OvDoubleSlider slider;
-        slider.setDoubleValue(infinity);
-        QCOMPARE(slider.doubleValue(), 99.0);
-        slider.setRange(0, 200);
-        QCOMPARE(slider.doubleValue(), 200.0);
-    }
-
-    void badMultipliersAreIgnored_data()
-    {
-        QTest::addColumn<double>("multiplier");
-        QTest::newRow("zero") << 0.0;
-        QTest::newRow("negative") << -0.5;
-        QTest::newRow("infinite") << infinity;
-        QTest::newRow("not a number") << std::nan("");
-        QTest::newRow("the same") << 0.5;
-    }
-
-    void badMultipliersAreIgnored()
-    {
-        QFETCH(double, multiplier);
-        OvDoubleSlider slider;
-        slider.setMultiplier(0.5);
-        slider.setDoubleValue(3.25);
-        QSignalSpy changed(&slider, &OvDoubleSlider::multiplierChanged);
-        slider.setMultiplier(multiplier);
-        QCOMPARE(slider.multiplier(), 0.5);
-        QCOMPARE(slider.doubleValue(), 3.25);
-        QCOMPARE(changed.count(), 0);
-    }
-
-    void notANumberIsIgnored()
-    {
-        OvDoubleSlider slider;
-        slider.setDoubleValue(3.25);
-        slider.setDoubleValue(std::nan(""));
-        QCOMPARE(slider.doubleValue(), 3.25);
-    }
-
-    void noNegativeZero()
-    {
-        OvDoubleSlider slider;
-        slider.setDoubleValue(1.0);
-        slider.setDoubleValue(-0.0);
-        QVERIFY(!std::signbit(slider.doubleValue()));
-    }
-
-    void signalsOfADoubleValue()
-    {
-        OvDoubleSlider slider;
-        slider.setMultiplier(0.1);
-        QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
-        QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
-        slider.setDoubleValue(0.72);
-        QCOMPARE(steps.count(), 1);
-        QCOMPARE(steps.at(0), QVariantList{7});
-        QCOMPARE(values.count(), 1);
-        QCOMPARE(values.at(0), QVariantList{0.72});
-        slider.setDoubleValue(0.72);
-        QCOMPARE(steps.count(), 1);
-        QCOMPARE(values.count(), 1);
-    }
-
-    void signalsBetweenTwoSteps()
-    {
-        OvDoubleSlider slider;
-        slider.setMultiplier(0.1);
-        slider.setDoubleValue(0.72);
-        QSignalSpy steps(&slider, &QAbstractSlider::valueChanged);
-        QSignalSpy values(&slider, &OvDoubleSlider::doubleValueChanged);
-        slider.setDoubleValue(0.73);
-        QCOMPARE(steps.count(), 0);
-        QCOMPARE(values.count(), 1);
-        QCOMPARE(values.at(0), QVariantList{0.73});
-    }
-
-    void signalsOfTheMultiplier()
-    {
-        OvDoubleSlider slider;
-        slider.setDoubleValue(5.0);
-        QStringList log;
-        connect(&slider, &QAbstractSlider::valueChanged, this,
-                [&log](int step) { log << QStringLiteral("step %1").arg(step); });
-        connect(&slider, &OvDoubleSlider::doubleValueChanged, this,
-                [&log](double value) { log << QStringLiteral("value %1").arg(value); });
-        connect(&slider, &OvDoubleSlider::multiplierChanged, this,
-                [&log](double multiplier) { log << QStringLiteral("multiplier %1").arg(multiplier); });
-        slider.setMultiplier(0.5);
-        QCOMPARE(log, (QStringList{QStringLiteral("step 10"), QStringLiteral("multiplier 0.5")}));
-        log.clear();
-        slider.setValue(20);
-        log.clear();
-        slider.setMultiplier(0.25);
-        QCOMPARE(log, (QStringList{QStringLiteral("value 5"), QStringLiteral("multiplier 0.25")}));
-        log.clear();
-        slider.setMultiplier(0.01);
-        slider.setDoubleValue(0.9);
-        log.clear();
-        slider.setMultiplier(0.001);
-        QCOMPARE(log, (QStringList{QStringLiteral("value 0.099"), QStringLiteral("step 99"),
-                                   QStringLiteral("multiplier 0.001")}));
-    }
-
     void signalsAreCoherent()
     {
         OvDoubleSlider slider;
@@ -373,27 +292,6 @@ private Q_SLOTS:
         slider.setRange(10, 20);
         QVERIFY(steps.count() >= 5);
         QVERIFY(values.count() >= 5);
-    }
-
-    void signalAfterABlockedChange()
-    {
-        OvDoubleSlider slider;
-        slider.setMultiplier(0.1);
-        slider.setValue(5);
-        QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
-        slider.blockSignals(true);
-        slider.setValue(8);
-        slider.setRange(0, 50);
-        slider.blockSignals(false);
-        QCOMPARE(slider.doubleValue(), 0.8);
-        slider.setValue(5);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0), QVariantList{0.5});
-        slider.blockSignals(true);
-        slider.setDoubleValue(0.8);
-        slider.blockSignals(false);
-        slider.setDoubleValue(0.5);
-        QCOMPARE(spy.count(), 2);
     }
 
     void listenerSetsAnotherValue()
