@@ -35,6 +35,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QRegExpValidator>
+#include <QScopedValueRollback>
 #include <QToolButton>
 #include <QVariant>
 #include <QVector>
@@ -86,10 +87,10 @@ void addTitledRow(OvGridLayout* grid, QWidget* title, QWidget* first, QWidget* s
 
 /// The pop-up of the selector.
 // Without Q_OBJECT, since style sheets know it as a QDialog.
-class SelectorDialog : public QDialog // clazy:exclude=missing-qobject-macro
+class SelectorPopup : public QDialog // clazy:exclude=missing-qobject-macro
 {
 public:
-    explicit SelectorDialog(QWidget* parent)
+    explicit SelectorPopup(QWidget* parent)
         : QDialog(parent, Qt::Popup)
     {
     }
@@ -223,11 +224,11 @@ public:
     void onTextEdited(const QString& text);
     void onCustomColorButtonClicked();
     void onSelectorReport(const QColor& color);
-    void onDialogFinished();
+    void onSelectorFinished();
 
-    void createDialog();
-    void placeDialog() const;
-    void closeDialog() const;
+    void createSelector();
+    void placeSelector() const;
+    void closeSelector() const;
     bool storeCurrentColor() const;
 
     template <typename Emission>
@@ -260,7 +261,7 @@ public:
     // come before the palette, later ones before earlier ones.
     ColorIndex paletteButtons;
     ColorIndex queueButtons;
-    QPointer<QDialog> dialog;
+    QPointer<QDialog> popup;
     QPointer<CustomColorSelectWidget> selector;
     // Given to the selector, or reported by it, last.
     std::optional<QColor> selectorColor;
@@ -644,8 +645,8 @@ void ColorPickerWidget::Private::onCustomColorButtonClicked()
     if (!self) {
         return;
     }
-    if (!dialog) {
-        createDialog();
+    if (!popup) {
+        createSelector();
     }
     const QColor start = opaque(currentColor.value_or(QColor()));
     // The selector keeps the hue of a grey, which the colour does not have.
@@ -653,27 +654,27 @@ void ColorPickerWidget::Private::onCustomColorButtonClicked()
         selectorColor = start;
         selector->startFrom(start);
     }
-    placeDialog();
+    placeSelector();
     announce([this, self] {
-        dialog->show();
+        popup->show();
         if (self) {
-            dialog->raise();
-            dialog->activateWindow();
+            popup->raise();
+            popup->activateWindow();
         }
         // Some layouts have their final size only when they are shown.
         if (self) {
-            placeDialog();
+            placeSelector();
         }
     });
 }
 
-void ColorPickerWidget::Private::createDialog()
+void ColorPickerWidget::Private::createSelector()
 {
-    dialog = new SelectorDialog(q);
-    selector = new CustomColorSelectWidget(dialog);
-    (new OvVBoxLayout(dialog))->autoFill();
-    dialog->setProperty("roundedEdges", true);
-    Workaround::Ui::apply(dialog);
+    popup = new SelectorPopup(q);
+    selector = new CustomColorSelectWidget(popup);
+    (new OvVBoxLayout(popup))->autoFill();
+    popup->setProperty("roundedEdges", true);
+    Workaround::Ui::apply(popup);
     if (auto* const plane = selector->findChild<ColorPlaneWidget*>()) {
         plane->setMinimumSize(barePlaneSize);
         plane->setFocus();
@@ -681,26 +682,25 @@ void ColorPickerWidget::Private::createDialog()
     selectorColor.reset();
     connect(selector, &CustomColorSelectWidget::colorChanged, listener.get(),
             [this](const QColor& color) { onSelectorReport(color); });
-    connect(dialog, &QDialog::finished, listener.get(), [this] { announce([this] { onDialogFinished(); }); });
+    connect(popup, &QDialog::finished, listener.get(), [this] { announce([this] { onSelectorFinished(); }); });
 }
 
-void ColorPickerWidget::Private::placeDialog() const
+void ColorPickerWidget::Private::placeSelector() const
 {
     // In a hidden window, changes in nested layouts do not reach the outer ones: from the innermost outwards.
-    const auto parts = dialog->findChildren<QWidget*>();
+    const auto parts = popup->findChildren<QWidget*>();
     std::for_each(parts.crbegin(), parts.crend(), [](QWidget* part) { part->updateGeometry(); });
-    dialog->adjustSize();
+    popup->adjustSize();
     const QRect button(addCustomColorButton->mapToGlobal(QPoint()), addCustomColorButton->size());
-    dialog->move(
-        selectorPosition(button, dialog->size(), colorDialogOffset, popupArea(*addCustomColorButton)));
+    popup->move(selectorPosition(button, popup->size(), colorDialogOffset, popupArea(*addCustomColorButton)));
 }
 
 /// Closes the selector without emitting, since the panel is being hidden and may be deleted next. The button
 /// of the added colour appears when the panel is shown again.
-void ColorPickerWidget::Private::closeDialog() const
+void ColorPickerWidget::Private::closeSelector() const
 {
-    if (dialog && dialog->isVisible()) {
-        dialog->hide();
+    if (popup && popup->isVisible()) {
+        popup->hide();
         storeCurrentColor();
     }
 }
@@ -714,15 +714,16 @@ void ColorPickerWidget::Private::onSelectorReport(const QColor& color)
 {
     selectorColor = opaque(color);
     hold(withSliderAlpha(color));
-    isFollowing = true;
-    updateColorButtonsCheckState();
-    // Otherwise done by the handler of the button, which does nothing now.
-    updateColorValueWidgets();
-    isFollowing = false;
+    {
+        const QScopedValueRollback<bool> following(isFollowing, true);
+        updateColorButtonsCheckState();
+        // Otherwise done by the handler of the button, which does nothing now.
+        updateColorValueWidgets();
+    }
     reportColor();
 }
 
-void ColorPickerWidget::Private::onDialogFinished()
+void ColorPickerWidget::Private::onSelectorFinished()
 {
     // Slots of the focus, and the host's store, may delete the panel.
     const QPointer<ColorPickerWidget> self = q;
@@ -765,7 +766,7 @@ void ColorPickerWidget::Private::keepPartsInUse() const
     if (remains.use_count() == 1) {
         return;
     }
-    for (QWidget* part : {static_cast<QWidget*>(dialog), static_cast<QWidget*>(topPanel),
+    for (QWidget* part : {static_cast<QWidget*>(popup), static_cast<QWidget*>(topPanel),
                           static_cast<QWidget*>(colorMatrixPanel), static_cast<QWidget*>(otherColorsPanel),
                           static_cast<QWidget*>(opacityPanel)}) {
         if (part) {
@@ -833,7 +834,7 @@ void ColorPickerWidget::showEvent(QShowEvent* event)
 void ColorPickerWidget::hideEvent(QHideEvent* event)
 {
     if (!event->spontaneous()) {
-        d->closeDialog();
+        d->closeSelector();
     }
     OvFrame::hideEvent(event);
 }
