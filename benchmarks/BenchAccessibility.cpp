@@ -56,8 +56,8 @@ Pair constructions(Make make)
 
 void makeFields(QWidget* window)
 {
-    constexpr int Fields = 1000;
-    for (int i = 0; i < Fields; ++i) {
+    constexpr int fields = 1000;
+    for (int i = 0; i < fields; ++i) {
         new ColorInputWidget(window, QColor(Qt::red));
     }
 }

@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr QSize CanvasSize(320, 180);
-constexpr QSizeF Scene(16, 9);
-constexpr double DisabledOpacity = 0.4;
+constexpr QSize canvasSize(320, 180);
+constexpr QSizeF scene(16, 9);
+constexpr double disabledOpacity = 0.4;
 
 /// A picture of @p size for a painter in the coordinates of the scene.
 template <typename Paint>
@@ -22,7 +22,7 @@ QImage makePicture(const QSize& size, Paint paint)
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.scale(size.width() / Scene.width(), size.height() / Scene.height());
+    painter.scale(size.width() / scene.width(), size.height() / scene.height());
     paint(painter);
     return image;
 }
@@ -32,7 +32,7 @@ void paintLandscape(QPainter& painter)
     QLinearGradient sky(0, 0, 0, 7);
     sky.setColorAt(0, QColor(38, 84, 150));
     sky.setColorAt(1, QColor(250, 214, 165));
-    painter.fillRect(QRectF(QPointF(), Scene), sky);
+    painter.fillRect(QRectF(QPointF(), scene), sky);
     painter.setBrush(QColor(255, 244, 214));
     painter.drawEllipse(QPointF(11.5, 3.2), 1.1, 1.1);
     painter.setBrush(QColor(92, 106, 130));
@@ -44,10 +44,10 @@ void paintLandscape(QPainter& painter)
 
 void paintLights(QPainter& painter)
 {
-    QLinearGradient ramp(0, 0, Scene.width(), 0);
+    QLinearGradient ramp(0, 0, scene.width(), 0);
     ramp.setColorAt(0, Qt::black);
     ramp.setColorAt(1, Qt::white);
-    painter.fillRect(QRectF(0, 0, Scene.width(), 1.2), ramp);
+    painter.fillRect(QRectF(0, 0, scene.width(), 1.2), ramp);
     const std::pair<QPointF, QColor> lights[] = {
         {QPointF(5, 4), QColor(235, 64, 52)},
         {QPointF(8, 5), QColor(60, 190, 90)},
@@ -71,7 +71,7 @@ BlendCanvas::BlendCanvas(QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("blendCanvas"));
-    setFixedSize(CanvasSize);
+    setFixedSize(canvasSize);
 }
 
 BlendCanvas::~BlendCanvas() = default;
@@ -98,7 +98,7 @@ void BlendCanvas::paintEvent(QPaintEvent* event)
         m_picture =
             blended(makePicture(pixels, paintLandscape), makePicture(pixels, paintLights), m_mode, m_opacity);
     }
-    painter.setOpacity(isEnabled() ? 1 : DisabledOpacity);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     painter.drawImage(rect(), m_picture);
 }
 

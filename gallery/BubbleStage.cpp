@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int MarkRadius = 4;
-constexpr int TextMargin = 8;
+constexpr int markRadius = 4;
+constexpr int textMargin = 8;
 
 } // namespace
 
@@ -17,7 +17,7 @@ void fillBubble(PointingWidget* bubble, const QString& text)
 {
     auto* layout = new OvVBoxLayout(bubble->contentFrame());
     layout->addWidget(new QLabel(text, bubble->contentFrame()));
-    bubble->contentFrame()->setLayoutMargin(TextMargin);
+    bubble->contentFrame()->setLayoutMargin(textMargin);
 }
 
 BubbleStage::BubbleStage(PointingWidget* bubble, const QPointF& spot, const QSize& minimumSize,
@@ -48,7 +48,7 @@ void BubbleStage::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::Highlight));
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QPointF(mapFromGlobal(spot())) + QPointF(0.5, 0.5), MarkRadius, MarkRadius);
+    painter.drawEllipse(QPointF(mapFromGlobal(spot())) + QPointF(0.5, 0.5), markRadius, markRadius);
 }
 
 void BubbleStage::resizeEvent(QResizeEvent* event)

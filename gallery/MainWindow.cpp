@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr QSize StartSize(1100, 760);
-constexpr int MessageMs = 8000;
+constexpr QSize startSize(1100, 760);
+constexpr int messageMs = 8000;
 
 double scaleOfEnvironment()
 {
@@ -52,7 +52,7 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
     setCentralWidget(body);
     addToolBar(m_switches);
     // At a large scale the screen may be smaller than that.
-    resize(StartSize.boundedTo(screen()->availableSize()));
+    resize(startSize.boundedTo(screen()->availableSize()));
 
     connectSwitches();
     addShortcuts();
@@ -102,7 +102,7 @@ bool MainWindow::setStyleName(const QString& style)
 {
     const bool isApplied = m_style->setStyle(style);
     if (!isApplied) {
-        statusBar()->showMessage(tr("The style sheet %1 cannot be read.").arg(style), MessageMs);
+        statusBar()->showMessage(tr("The style sheet %1 cannot be read.").arg(style), messageMs);
     }
     m_switches->setStyleName(m_style->style());
     return isApplied;

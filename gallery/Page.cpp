@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr double TitleFontFactor = 1.5;
-constexpr double CaptionFontFactor = 0.9;
+constexpr double titleFontFactor = 1.5;
+constexpr double captionFontFactor = 0.9;
 
 /// Sets the font for a gallery without a sheet; the fonts of a sheet win.
 void setFontOf(QWidget* widget, double sizeFactor, QFont::Weight weight)
@@ -52,7 +52,7 @@ Page::Page(const PageInfo& info, QWidget* parent)
     setAccessibleName(info.title);
 
     QLabel* const title = makeLabel("pageTitle", info.title, this);
-    setFontOf(title, TitleFontFactor, QFont::Bold);
+    setFontOf(title, titleFontFactor, QFont::Bold);
     QLabel* const classes = makeLabel("pageClasses", info.covers.join(QStringLiteral("  ·  ")), this);
     classes->setWordWrap(true);
     classes->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -183,7 +183,7 @@ void Page::addToCard(QFrame* card, const QString& caption, QWidget* widget)
     layout->insertWidget(end, widget, 0, fills ? Qt::Alignment() : Qt::AlignLeft);
     if (!caption.isEmpty()) {
         QLabel* const label = makeLabel("specimenCaption", caption, card);
-        setFontOf(label, CaptionFontFactor, QFont::Normal);
+        setFontOf(label, captionFontFactor, QFont::Normal);
         layout->insertWidget(end, label);
     }
     card->show();

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int IdRole = Qt::UserRole;
+constexpr int idRole = Qt::UserRole;
 
 QListWidgetItem* makeHeading(const QString& title)
 {
@@ -29,14 +29,14 @@ QListWidgetItem* makeHeading(const QString& title)
 QListWidgetItem* makeEntry(const PageInfo& page)
 {
     auto* item = new QListWidgetItem(page.title);
-    item->setData(IdRole, page.id);
+    item->setData(idRole, page.id);
     item->setToolTip(page.covers.join(QLatin1Char('\n')));
     return item;
 }
 
 QString idOf(const QListWidgetItem* item)
 {
-    return item ? item->data(IdRole).toString() : QString();
+    return item ? item->data(idRole).toString() : QString();
 }
 
 } // namespace

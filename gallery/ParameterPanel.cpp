@@ -22,13 +22,13 @@
 
 namespace {
 
-constexpr SliderInputWidget::Initializer Opacity{0, 100};
-constexpr SliderInputWidget::Initializer Rotation{-180, 180};
-constexpr DoubleSliderInputWidget::Initializer Scale{0.1, 400.0, 1};
-constexpr double Edge = 1.0;
-constexpr int PositionDecimals = 2;
-constexpr int PlaneSize = 96;
-const QColor Tint(226, 180, 60);
+constexpr SliderInputWidget::Initializer opacityRange{0, 100};
+constexpr SliderInputWidget::Initializer rotationRange{-180, 180};
+constexpr DoubleSliderInputWidget::Initializer scaleRange{0.1, 400.0, 1};
+constexpr double edge = 1.0;
+constexpr int positionDecimals = 2;
+constexpr int planeSize = 96;
+const QColor firstTint(226, 180, 60);
 
 } // namespace
 
@@ -73,8 +73,8 @@ void ParameterPanel::addRow(const QString& name, QWidget* field)
 void ParameterPanel::addTransform()
 {
     auto* position =
-        new PointSelectorWidget(this, {{-Edge, -Edge}, {Edge, Edge}, PositionDecimals, PositionDecimals});
-    position->findChild<PointSelectionPlane*>()->setMinimumSize(PlaneSize, PlaneSize);
+        new PointSelectorWidget(this, {{-edge, -edge}, {edge, edge}, positionDecimals, positionDecimals});
+    position->findChild<PointSelectionPlane*>()->setMinimumSize(planeSize, planeSize);
     position->setValue({0, 0});
     const QString positionName = tr("Position");
     connect(position, &PointSelectorWidget::valueChanged, this, [this, positionName](const QPointF& point) {
@@ -82,7 +82,7 @@ void ParameterPanel::addTransform()
     });
     addRow(positionName, position);
 
-    auto* scale = new DoubleSliderInputWidget(this, Scale);
+    auto* scale = new DoubleSliderInputWidget(this, scaleRange);
     scale->setValue(100);
     const QString scaleName = tr("Scale");
     connect(scale, &DoubleSliderInputWidget::valueChanged, this,
@@ -97,8 +97,8 @@ void ParameterPanel::addTransform()
                 [this, name](int value) { Q_EMIT parameterChanged(name, QString::number(value)); });
         addRow(name, field);
     };
-    addWhole(tr("Rotation"), Rotation, 0);
-    addWhole(tr("Opacity"), Opacity, Opacity.maximum);
+    addWhole(tr("Rotation"), rotationRange, 0);
+    addWhole(tr("Opacity"), opacityRange, opacityRange.maximum);
 }
 
 void ParameterPanel::addLook()
@@ -110,7 +110,7 @@ void ParameterPanel::addLook()
     });
     addRow(blendingName, blending);
 
-    auto* tint = new ColorInputWidget(this, Tint);
+    auto* tint = new ColorInputWidget(this, firstTint);
     tint->setPicker(new PopupColorPicker);
     const QString tintName = tr("Tint");
     connect(tint, &ColorInputWidget::colorChanged, this,

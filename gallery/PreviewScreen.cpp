@@ -9,17 +9,17 @@
 
 namespace {
 
-constexpr int FrameTime = 40;
-constexpr double FilmLength = 12000;
-constexpr QSize NormalSize(320, 150);
+constexpr int frameTime = 40;
+constexpr double filmLength = 12000;
+constexpr QSize normalSize(320, 150);
 
 // Relative to the height.
-constexpr double BarsHeight = 0.22;
-constexpr double SunRadius = 0.11;
+constexpr double barsHeight = 0.22;
+constexpr double sunRadius = 0.11;
 
-const QColor Night(16, 22, 62);
-const QColor Noon(98, 178, 240);
-const QColor Dusk(238, 122, 70);
+const QColor night(16, 22, 62);
+const QColor noon(98, 178, 240);
+const QColor dusk(238, 122, 70);
 
 QColor mixed(const QColor& one, const QColor& other, double share)
 {
@@ -43,15 +43,15 @@ void paintDay(QPainter* painter, const QRectF& area, double progress)
 {
     const double sun = std::sin(progress * M_PI);
     QLinearGradient sky(area.topLeft(), area.bottomLeft());
-    sky.setColorAt(0, mixed(Night, Noon, sun));
-    sky.setColorAt(1, mixed(Dusk, Noon.lighter(130), sun));
+    sky.setColorAt(0, mixed(night, noon, sun));
+    sky.setColorAt(1, mixed(dusk, noon.lighter(130), sun));
     painter->fillRect(area, sky);
 
     const QPointF middle(area.left() + area.width() * progress,
                          area.bottom() - area.height() * (0.2 + 0.6 * sun));
     painter->setPen(Qt::NoPen);
     painter->setBrush(mixed(QColor(255, 96, 56), QColor(255, 244, 190), sun));
-    painter->drawEllipse(middle, area.height() * SunRadius, area.height() * SunRadius);
+    painter->drawEllipse(middle, area.height() * sunRadius, area.height() * sunRadius);
     painter->setBrush(mixed(QColor(24, 46, 66), QColor(70, 134, 92), sun));
     painter->drawPath(hills(area, 0.6, area.height() * 0.3));
     painter->setBrush(mixed(QColor(14, 30, 34), QColor(38, 96, 54), sun));
@@ -97,14 +97,14 @@ void PreviewScreen::stopAt(double progress)
 
 QSize PreviewScreen::sizeHint() const
 {
-    return NormalSize;
+    return normalSize;
 }
 
 void PreviewScreen::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    const int bars = qRound(height() * BarsHeight);
+    const int bars = qRound(height() * barsHeight);
     painter.setRenderHint(QPainter::Antialiasing);
     paintDay(&painter, QRectF(0, 0, width(), height() - bars), m_progress);
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -117,7 +117,7 @@ void PreviewScreen::timerEvent(QTimerEvent* event)
         QFrame::timerEvent(event);
         return;
     }
-    m_progress = std::fmod(m_progress + static_cast<double>(m_sinceFrame.restart()) / FilmLength, 1.0);
+    m_progress = std::fmod(m_progress + static_cast<double>(m_sinceFrame.restart()) / filmLength, 1.0);
     update();
 }
 
@@ -137,7 +137,7 @@ void PreviewScreen::updateTimer()
 {
     if (m_isRunning && isVisible()) {
         m_sinceFrame.start();
-        m_timer.start(FrameTime, this);
+        m_timer.start(frameTime, this);
     } else {
         m_timer.stop();
     }

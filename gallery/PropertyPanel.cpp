@@ -22,10 +22,10 @@
 namespace {
 
 // Room for usual values: a spin box asks for the room of its maximum.
-constexpr int MinEditorWidth = 72;
-constexpr int FractionDigits = 4;
-constexpr double MaxFraction = 1e9;
-constexpr double FractionStep = 0.1;
+constexpr int minEditorWidth = 72;
+constexpr int fractionDigits = 4;
+constexpr double maxFraction = 1e9;
+constexpr double fractionStep = 0.1;
 
 bool isQtClass(const QMetaObject* meta)
 {
@@ -232,14 +232,14 @@ PropertyPanel::Editor PropertyPanel::makeEditor(const ObjectFinder& find, const 
     case QMetaType::Int: {
         using Limits = std::numeric_limits<int>;
         auto* box = addNumber(label, Limits::min(), Limits::max(), 0, apply);
-        box->setMinimumWidth(MinEditorWidth);
+        box->setMinimumWidth(minEditorWidth);
         return {name, find, box, [box](const QVariant& value) { box->setValue(value.toInt()); }};
     }
     case QMetaType::Double: {
-        auto* box = addFraction(label, -MaxFraction, MaxFraction, 0, apply);
-        box->setMinimumWidth(MinEditorWidth);
-        box->setDecimals(FractionDigits);
-        box->setSingleStep(FractionStep);
+        auto* box = addFraction(label, -maxFraction, maxFraction, 0, apply);
+        box->setMinimumWidth(minEditorWidth);
+        box->setDecimals(fractionDigits);
+        box->setSingleStep(fractionStep);
         return {name, find, box, [box](const QVariant& value) { box->setValue(value.toDouble()); }};
     }
     case QMetaType::QString: {

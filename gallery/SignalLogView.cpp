@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int MaxLines = 500;
+constexpr int maxLines = 500;
 
 } // namespace
 
@@ -29,7 +29,7 @@ SignalLogView::SignalLogView(QWidget* parent)
 
     m_text->setObjectName(QStringLiteral("signalLogText"));
     m_text->setReadOnly(true);
-    m_text->setMaximumBlockCount(MaxLines);
+    m_text->setMaximumBlockCount(maxLines);
     m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_text->setLayoutDirection(Qt::LeftToRight);

@@ -14,7 +14,7 @@
 namespace {
 
 // An editor saves in several steps, and the watcher reports each.
-constexpr int ReloadDelayMs = 50;
+constexpr int reloadDelayMs = 50;
 
 /// The path of the sheet of @p style; empty for none.
 QString pathOf(const QString& style)
@@ -82,7 +82,7 @@ StyleController::StyleController(QObject* parent)
     : QObject(parent)
 {
     m_reloadTimer.setSingleShot(true);
-    m_reloadTimer.setInterval(ReloadDelayMs);
+    m_reloadTimer.setInterval(reloadDelayMs);
     connect(&m_reloadTimer, &QTimer::timeout, this, &StyleController::reload);
     const auto startTimer = QOverload<>::of(&QTimer::start);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_reloadTimer, startTimer);

@@ -14,9 +14,9 @@
 namespace {
 
 // The id of the button behind the built-in styles.
-const int FileStyle = StyleController::builtInStyles().size();
+const int fileStyle = StyleController::builtInStyles().size();
 
-constexpr double Scales[] = {1.0, 1.25, 1.5, 2.0};
+constexpr double scales[] = {1.0, 1.25, 1.5, 2.0};
 
 } // namespace
 
@@ -45,7 +45,7 @@ SwitchBar::SwitchBar(QWidget* parent)
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(m_name);
     addWidget(gap);
-    addWidget(makeGroup("styleSwitch", m_styleLabel, makeSegments(m_styles, FileStyle + 1)));
+    addWidget(makeGroup("styleSwitch", m_styleLabel, makeSegments(m_styles, fileStyle + 1)));
     addWidget(makeGroup("languageSwitch", m_languageLabel, m_languages));
     addWidget(makeGroup("directionSwitch", m_directionLabel, makeSegments(m_directions, 2)));
     addWidget(makeGroup("scaleSwitch", m_scaleLabel, m_scales));
@@ -55,12 +55,12 @@ SwitchBar::SwitchBar(QWidget* parent)
     for (const QString& code : codes) {
         m_languages->addItem(LanguageController::nativeName(code), code);
     }
-    for (const double scale : Scales) {
+    for (const double scale : scales) {
         m_scales->addItem(QStringLiteral("%1×").arg(scale), scale);
     }
 
     connect(m_styles, &QButtonGroup::idClicked, this, [this](int id) {
-        if (id == FileStyle) {
+        if (id == fileStyle) {
             Q_EMIT styleFileRequested();
         } else {
             Q_EMIT styleChosen(StyleController::builtInStyles().at(id));
@@ -80,10 +80,10 @@ SwitchBar::~SwitchBar() = default;
 void SwitchBar::setStyleName(const QString& style)
 {
     const int builtIn = StyleController::builtInStyles().indexOf(style);
-    QAbstractButton* const fileButton = m_styles->button(FileStyle);
+    QAbstractButton* const fileButton = m_styles->button(fileStyle);
     fileButton->setToolTip(builtIn < 0 ? style
                                        : tr("A style sheet of your own that reloads when you save it"));
-    m_styles->button(builtIn < 0 ? FileStyle : builtIn)->setChecked(true);
+    m_styles->button(builtIn < 0 ? fileStyle : builtIn)->setChecked(true);
 }
 
 void SwitchBar::setLanguage(const QString& code)

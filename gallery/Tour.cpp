@@ -17,14 +17,14 @@
 
 namespace {
 
-constexpr QSize PictureSize(1100, 760);
-constexpr int FontPixels = 13;
+constexpr QSize pictureSize(1100, 760);
+constexpr int fontPixels = 13;
 
 /// Polishing requests a layout, and a layout that changes heights requests another one.
 void settle()
 {
-    constexpr int Rounds = 4;
-    for (int i = 0; i < Rounds; ++i) {
+    constexpr int rounds = 4;
+    for (int i = 0; i < rounds; ++i) {
         QCoreApplication::processEvents();
     }
 }
@@ -63,7 +63,7 @@ bool Tour::run()
     // A blinking cursor and the platform's font size would make pictures differ.
     QApplication::setCursorFlashTime(0);
     QFont font = QApplication::font();
-    font.setPixelSize(FontPixels);
+    font.setPixelSize(fontPixels);
     QApplication::setFont(font);
     const QVector<PageInfo> pages = PageRegistry::pages();
     const QStringList styles = StyleController::builtInStyles();
@@ -101,7 +101,7 @@ void Tour::render(const QString& page, const QString& style)
     {
         MainWindow window(start);
         window.setAttribute(Qt::WA_DontShowOnScreen);
-        window.resize(PictureSize);
+        window.resize(pictureSize);
         window.show();
         awaitFolders(window);
         settle();

@@ -26,8 +26,8 @@ protected:
         const bool isHigh = inWindow.center().y() < middle;
         setArrowSide(isHigh ? ArrowSide::Top : ArrowSide::Bottom, ArrowPosition::Center);
         // A little inside the target.
-        constexpr int Inset = 6;
-        const QPoint spot(target->width() / 2, isHigh ? qMin(target->height() - Inset, middle / 2) : Inset);
+        constexpr int inset = 6;
+        const QPoint spot(target->width() / 2, isHigh ? qMin(target->height() - inset, middle / 2) : inset);
         pointTo(target->mapToGlobal(spot));
     }
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int BadArguments = 2;
+constexpr int badArguments = 2;
 
 bool isDisplayMissing()
 {
@@ -103,7 +103,7 @@ int main(int argc, char** argv)
     const CommandLine line = CommandLine::parse(arguments);
     if (!line.error.isEmpty()) {
         QTextStream(stderr) << line.error << '\n';
-        return BadArguments;
+        return badArguments;
     }
     return run(line, hasDisplay);
 }

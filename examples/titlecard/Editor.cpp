@@ -170,8 +170,8 @@ void Editor::savePreset()
     m_presets.insert(name, values);
     m_presetNames.setStringList(m_presets.keys());
     // As high as its rows, until there are many.
-    constexpr int ManyRows = 6;
-    m_presetList->setLoadingFinished(m_presets.size() > ManyRows);
+    constexpr int manyRows = 6;
+    m_presetList->setLoadingFinished(m_presets.size() > manyRows);
 }
 
 /// Gives the selected cards all but text and place.

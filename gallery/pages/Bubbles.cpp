@@ -41,13 +41,13 @@ QWidget* makeSides(QWidget* parent)
         {PageRegistry::tr("on the right"), ArrowSide::Right, {0.9, 0.5}},
         {PageRegistry::tr("at the bottom"), ArrowSide::Bottom, {0.5, 0.9}},
     };
-    constexpr QSize StageSize(150, 64);
+    constexpr QSize stageSize(150, 64);
     auto* sides = new QWidget(parent);
     sides->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* layout = new QGridLayout(sides);
     layout->setContentsMargins(0, 0, 0, 0);
     for (const Corner& corner : corners) {
-        BubbleStage* const stage = makeStage(corner.text, corner.spot, StageSize, sides);
+        BubbleStage* const stage = makeStage(corner.text, corner.spot, stageSize, sides);
         stage->bubble()->setArrowSide(corner.side, ArrowPosition::Center);
         layout->addWidget(stage, layout->count() / 2, layout->count() % 2);
     }
@@ -56,7 +56,7 @@ QWidget* makeSides(QWidget* parent)
 
 QWidget* makeRoundedPanel(QWidget* parent, Qt::WindowFlags flags)
 {
-    constexpr int Padding = 16;
+    constexpr int padding = 16;
     auto* panel = new QWidget(parent, flags);
     panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     panel->setObjectName(QStringLiteral("roundedPanel"));
@@ -65,7 +65,7 @@ QWidget* makeRoundedPanel(QWidget* parent, Qt::WindowFlags flags)
     auto* label = new QLabel(PageRegistry::tr("What lies behind shows through the corners."), panel);
     label->setWordWrap(true);
     auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(Padding, Padding, Padding, Padding);
+    layout->setContentsMargins(padding, padding, padding, padding);
     layout->addWidget(label);
     return panel;
 }
@@ -90,10 +90,10 @@ void watchMovie(const OvPixmapWidget* widget, SignalLogView* log)
 
 void PageRegistry::pointingWidget(Page* page)
 {
-    constexpr QSize StageSize(300, 132);
-    constexpr int MaxOffset = 200;
-    const auto stages = page->addTwins(tr("Driven by the controls below"), [StageSize](QWidget* parent) {
-        return makeStage(tr("Start here"), QPointF(0.5, 0.5), StageSize, parent);
+    constexpr QSize stageSize(300, 132);
+    constexpr int maxOffset = 200;
+    const auto stages = page->addTwins(tr("Driven by the controls below"), [stageSize](QWidget* parent) {
+        return makeStage(tr("Start here"), QPointF(0.5, 0.5), stageSize, parent);
     });
     page->addTwins(tr("All sides"), &makeSides);
     const auto bubbles = stages.children<PointingWidget>();
@@ -107,7 +107,7 @@ void PageRegistry::pointingWidget(Page* page)
                      bubbles.setter([](PointingWidget* bubble, int position) {
                          bubble->setArrowSide(bubble->arrowSide(), static_cast<ArrowPosition>(position));
                      }));
-    panel->addNumber(tr("Offset"), -MaxOffset, MaxOffset, 0, bubbles.setter(&PointingWidget::setArrowOffset));
+    panel->addNumber(tr("Offset"), -maxOffset, maxOffset, 0, bubbles.setter(&PointingWidget::setArrowOffset));
     panel->addProperties(bubbles);
     panel->addAction(tr("Open as a pop-up"), stages.enabled.data(), [stage = stages.enabled.data()] {
         auto* bubble = new PointingWidget(stage);
@@ -150,12 +150,12 @@ void PageRegistry::roundedPopup(Page* page)
 
 void PageRegistry::highlightFrame(Page* page)
 {
-    constexpr int MinHeight = 60;
-    constexpr int MaxHeight = 160;
+    constexpr int minHeight = 60;
+    constexpr int maxHeight = 160;
     const auto targets = page->addTwins<QFrame>(QString(), [](QFrame* target) {
         target->setObjectName(QStringLiteral("highlightTarget"));
         target->setFrameShape(QFrame::StyledPanel);
-        target->setFixedHeight(MinHeight);
+        target->setFixedHeight(minHeight);
         target->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         auto* layout = new QHBoxLayout(target);
         layout->addWidget(new QLabel(tr("The target"), target), 1);
@@ -177,7 +177,7 @@ void PageRegistry::highlightFrame(Page* page)
         panel->refresh();
     });
     panel->addProperties([overlays] { return overlays()(); }, {"borderColor", "borderWidth"});
-    panel->addNumber(tr("Height of the target"), MinHeight, MaxHeight, MinHeight,
+    panel->addNumber(tr("Height of the target"), minHeight, maxHeight, minHeight,
                      targets.setter(&QWidget::setFixedHeight));
     panel->addSwitch(tr("Visible"), true, targets.setter(&QWidget::setVisible));
     page->signalLog()->watch(targets.enabled->findChild<QPushButton*>(), "button");
@@ -186,17 +186,17 @@ void PageRegistry::highlightFrame(Page* page)
 
 void PageRegistry::pixmapWidget(Page* page)
 {
-    constexpr int Width = 240;
-    constexpr int MaxWidth = 380;
+    constexpr int width = 240;
+    constexpr int maxWidth = 380;
     const QString animation = QStringLiteral(":/gallery/playhead.gif");
     const auto widgets = page->addTwins<OvPixmapWidget>(QString(), [animation](OvPixmapWidget* widget) {
         widget->setMoviePath(animation);
-        setWidth(widget, Width);
+        setWidth(widget, width);
     });
 
     PropertyPanel* const panel = page->properties();
     panel->addProperties(widgets);
-    panel->addNumber(tr("Width"), 1, MaxWidth, Width, widgets.setter(&setWidth));
+    panel->addNumber(tr("Width"), 1, maxWidth, width, widgets.setter(&setWidth));
     panel->addSwitch(tr("Paused"), false, widgets.setter([](OvPixmapWidget* widget, bool on) {
         if (widget->movie()) {
             widget->movie()->setPaused(on);

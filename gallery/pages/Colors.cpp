@@ -16,7 +16,7 @@
 namespace {
 
 // A colour plane has no size hint: without a sheet it would have no size.
-constexpr QSize MinPlaneSize(220, 160);
+constexpr QSize minPlaneSize(220, 160);
 
 /// Adds controls of the colour that @p set sets.
 void addColorActions(PropertyPanel* panel, const QColor& color, const std::function<void(const QColor&)>& set)
@@ -140,7 +140,7 @@ void PageRegistry::colorSelector(Page* page)
             selector->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         });
     const auto planes = selectors.children<ColorPlaneWidget>(QStringLiteral("colorPlane"));
-    planes.each([](ColorPlaneWidget* plane) { plane->setMinimumSize(MinPlaneSize); });
+    planes.each([](ColorPlaneWidget* plane) { plane->setMinimumSize(minPlaneSize); });
     addReportedColor(page, selectors, &CustomColorSelectWidget::colorChanged);
 
     PropertyPanel* const panel = page->properties();
@@ -165,16 +165,16 @@ void PageRegistry::colorPlane(Page* page)
         // The name that the free colour selector gives it.
         plane->setObjectName(QStringLiteral("colorPlane"));
         plane->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        plane->setMinimumSize(MinPlaneSize);
+        plane->setMinimumSize(minPlaneSize);
     });
     addReportedColor(page, planes, &ColorPlaneWidget::hsvColorChanged);
 
     PropertyPanel* const panel = page->properties();
     const QColor sample(47, 111, 222);
-    constexpr int MaxHue = 360;
+    constexpr int maxHue = 360;
     const auto setColor = planes.setter(&ColorPlaneWidget::setHsvColor);
     panel->addColor(QStringLiteral("setHsvColor()"), sample, setColor);
-    panel->addNumber(QStringLiteral("setHue()"), 0, MaxHue, sample.hue(),
+    panel->addNumber(QStringLiteral("setHue()"), 0, maxHue, sample.hue(),
                      planes.setter(&ColorPlaneWidget::setHue));
     panel->addProperties(planes);
     page->signalLog()->watch(planes.enabled, "plane");
@@ -191,8 +191,8 @@ void PageRegistry::blendingModes(Page* page)
     const auto canvases = stages.children<BlendCanvas>();
 
     PropertyPanel* const panel = page->properties();
-    constexpr int MaxMode = 13;
-    panel->addNumber(tr("Mode by its number"), 0, MaxMode, static_cast<int>(BlendingMode::SourceOver),
+    constexpr int maxMode = 13;
+    panel->addNumber(tr("Mode by its number"), 0, maxMode, static_cast<int>(BlendingMode::SourceOver),
                      stages.setter([](BlendStage* stage, int number) {
                          stage->setMode(static_cast<BlendingMode>(number));
                      }));

@@ -83,12 +83,12 @@ void addMovie(PropertyPanel* panel, const std::shared_ptr<Info>& info, Apply app
 
 void PageRegistry::guide(Page* page)
 {
-    constexpr int Width = 280;
+    constexpr int width = 280;
     // The texts are measured for the width that the guide has: without a sheet it gets that of the
     // reference sheets.
     const auto columns = page->addTwins<QWidget>(QString(), [](QWidget* column) {
         auto* guide = new GuideWidget(GuideInfo(), column);
-        guide->setFixedWidth(Width);
+        guide->setFixedWidth(width);
         guide->setInfo(rippleDelete());
         auto* layout = new QVBoxLayout(column);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -153,14 +153,14 @@ void PageRegistry::guideButton(Page* page)
 
 void PageRegistry::dialogGuide(Page* page)
 {
-    constexpr QSize StageSize(360, 314);
+    constexpr QSize stageSize(360, 314);
     const auto info = std::make_shared<DialogGuideInfo>(
         DialogGuideInfo{tr("Trim a clip"), tr("Drag its end. The picture shows how; nothing is lost."),
                         tr("Next"), tr("Back"), moviePath(2)});
-    const auto stages = page->addTwins(QString(), [info, StageSize](QWidget* parent) {
+    const auto stages = page->addTwins(QString(), [info, stageSize](QWidget* parent) {
         auto* bubble = new DialogGuideWidget(nullptr);
         bubble->setInfo(*info);
-        return new BubbleStage(bubble, QPointF(0.5, 0.03), StageSize, parent);
+        return new BubbleStage(bubble, QPointF(0.5, 0.03), stageSize, parent);
     });
     const auto bubbles = stages.children<DialogGuideWidget>();
 

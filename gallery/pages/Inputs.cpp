@@ -25,10 +25,10 @@ using Orvane::Tessel::TesselLineEdit;
 
 namespace {
 
-const QRectF PointLimits(-1, -1, 2, 2);
-const QPointF SamplePoint(0.4, -0.3);
-constexpr QSize PlaneSizeWithoutSheet(140, 140);
-constexpr qint64 Megabyte = 1'048'576;
+const QRectF pointLimits(-1, -1, 2, 2);
+const QPointF samplePoint(0.4, -0.3);
+constexpr QSize planeSizeWithoutSheet(140, 140);
+constexpr qint64 megabyte = 1'048'576;
 
 /// Adds controls of the coordinates of the point of @p plane, which @p set sets.
 template <typename Set>
@@ -36,7 +36,7 @@ void addPoint(PropertyPanel* panel, const QPointer<PointSelectionPlane>& plane, 
 {
     const auto addCoordinate = [panel, plane, set](const QString& name, qreal& (QPointF::*coordinate)()) {
         QPointF start = plane->point();
-        panel->addFraction(name, 2 * PointLimits.left(), 2 * PointLimits.right(), (start.*coordinate)(),
+        panel->addFraction(name, 2 * pointLimits.left(), 2 * pointLimits.right(), (start.*coordinate)(),
                            [plane, set, coordinate](double value) {
                                if (plane) {
                                    QPointF point = plane->point();
@@ -65,9 +65,9 @@ void addClips(QStandardItemModel* model, int count)
         auto* item = new QStandardItem(PageRegistry::tr("Clip %1").arg(number));
         item->setEditable(false);
         if (number % 3 == 0) {
-            constexpr int Height = 44;
+            constexpr int height = 44;
             item->setText(item->text() + QLatin1Char('\n') + PageRegistry::tr("with sound"));
-            item->setSizeHint(QSize(0, Height));
+            item->setSizeHint(QSize(0, height));
         }
         model->appendRow(item);
     }
@@ -82,7 +82,7 @@ void setSearchTexts(SearchWidget* search, const QString& placeholder)
 /// A list of clips below a search that filters it while the user types.
 QWidget* makeBin(QWidget* parent)
 {
-    constexpr int MaxListHeight = 130;
+    constexpr int maxListHeight = 130;
     auto* bin = new QWidget(parent);
     auto* search = new SearchWidget(bin);
     setSearchTexts(search, PageRegistry::tr("Search clips"));
@@ -97,7 +97,7 @@ QWidget* makeBin(QWidget* parent)
                      &QSortFilterProxyModel::setFilterFixedString);
     auto* list = new QListView(bin);
     list->setModel(filter);
-    list->setMaximumHeight(MaxListHeight);
+    list->setMaximumHeight(maxListHeight);
     auto* layout = new QVBoxLayout(bin);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(search);
@@ -117,9 +117,9 @@ QString refuseHiddenFolders(const QString& path)
 void PageRegistry::pointPlane(Page* page)
 {
     const auto planes = page->addTwins<PointSelectionPlane>(QString(), [](PointSelectionPlane* plane) {
-        plane->setMinimumSize(PlaneSizeWithoutSheet);
-        plane->setLimits(PointLimits);
-        plane->setPoint(SamplePoint);
+        plane->setMinimumSize(planeSizeWithoutSheet);
+        plane->setLimits(pointLimits);
+        plane->setPoint(samplePoint);
     });
 
     PropertyPanel* const panel = page->properties();
@@ -127,7 +127,7 @@ void PageRegistry::pointPlane(Page* page)
     addPoint(panel, planes.enabled, planes.setter(&PointSelectionPlane::setPoint));
     panel->addHeading(QStringLiteral("setLimits()"));
     panel->addSwitch(tr("Upside down"), false, planes.setter([](PointSelectionPlane* plane, bool on) {
-        plane->setLimits(on ? QRectF(PointLimits.bottomRight(), PointLimits.topLeft()) : PointLimits);
+        plane->setLimits(on ? QRectF(pointLimits.bottomRight(), pointLimits.topLeft()) : pointLimits);
     }));
     panel->addHeading(QStringLiteral("PointSelectionPlanePropertyHelper"));
     panel->addProperties(planes.children<PropertyProviderBase>());
@@ -143,9 +143,9 @@ void PageRegistry::pointSelector(Page* page)
 {
     const auto fields = page->addTwins(QString(), [](QWidget* parent) {
         auto* field =
-            new PointSelectorWidget(parent, {PointLimits.topLeft(), PointLimits.bottomRight(), 2, 2});
-        field->findChild<PointSelectionPlane*>()->setMinimumSize(PlaneSizeWithoutSheet);
-        field->setValue(SamplePoint);
+            new PointSelectorWidget(parent, {pointLimits.topLeft(), pointLimits.bottomRight(), 2, 2});
+        field->findChild<PointSelectionPlane*>()->setMinimumSize(planeSizeWithoutSheet);
+        field->setValue(samplePoint);
         return field;
     });
 
@@ -163,7 +163,7 @@ void PageRegistry::pointSelector(Page* page)
 
 void PageRegistry::comboBox(Page* page)
 {
-    constexpr int NarrowWidth = 110;
+    constexpr int narrowWidth = 110;
     const auto addItems = [](OvComboBox* box) {
         box->addItems({tr("Full HD, 1920 × 1080, 25 frames"), tr("Ultra HD, 3840 × 2160, 60 frames"),
                        tr("Square"), tr("As the source")});
@@ -171,10 +171,10 @@ void PageRegistry::comboBox(Page* page)
     const auto wide = page->addTwins<OvComboBox>(tr("With room"), addItems);
     const auto narrow = page->addTwins<OvComboBox>(tr("In a narrow panel"), addItems);
     const auto setNarrowWidth = narrow.setter(&QWidget::setFixedWidth);
-    setNarrowWidth(NarrowWidth);
+    setNarrowWidth(narrowWidth);
 
     PropertyPanel* const panel = page->properties();
-    panel->addNumber(tr("Width of the narrow one"), 40, 360, NarrowWidth, setNarrowWidth);
+    panel->addNumber(tr("Width of the narrow one"), 40, 360, narrowWidth, setNarrowWidth);
     panel->addHeading(tr("With room"));
     panel->addProperties(wide,
                          {"currentIndex", "maxVisibleItems", "minimumContentsLength", "editable", "frame"});
@@ -251,10 +251,10 @@ void PageRegistry::search(Page* page)
 
 void PageRegistry::adjustingList(Page* page)
 {
-    constexpr int FirstClips = 8;
-    constexpr int MaxClips = 10000;
+    constexpr int firstClips = 8;
+    constexpr int maxClips = 10000;
     auto* model = new QStandardItemModel(page);
-    addClips(model, FirstClips);
+    addClips(model, firstClips);
     const auto lists = page->addTwins<AdjustingListView>(
         tr("A bin of clips"), [model](AdjustingListView* list) { list->setModel(model); });
     const auto logHeight = [page, lists] {
@@ -271,7 +271,7 @@ void PageRegistry::adjustingList(Page* page)
         logHeight();
     });
     panel->addHeading(tr("The model"));
-    for (const int count : {1, 100, MaxClips}) {
+    for (const int count : {1, 100, maxClips}) {
         panel->addAction(tr("Add clips: %1").arg(count), [model, count, logHeight] {
             addClips(model, count);
             logHeight();
@@ -289,8 +289,8 @@ void PageRegistry::adjustingList(Page* page)
 
 void PageRegistry::pathSelection(Page* page)
 {
-    constexpr int RequiredMegabytes = 700;
-    constexpr int MaxMegabytes = 10'000'000;
+    constexpr int requiredMegabytes = 700;
+    constexpr int maxMegabytes = 10'000'000;
     const auto setUp = [](PathSelectionWidget* field) {
         field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         field->setBrowseButtonTooltip(tr("Choose a folder"));
@@ -300,7 +300,7 @@ void PageRegistry::pathSelection(Page* page)
         tr("With a default folder and space on its disk"), [setUp](PathSelectionWidget* field) {
             setUp(field);
             field->setDefaultPath(QDir::homePath(), tr("Home folder"));
-            field->showRequiredSpace(true, RequiredMegabytes * Megabyte);
+            field->showRequiredSpace(true, requiredMegabytes * megabyte);
             field->showAvailableSpace(true, -1);
             connectToDisk(field);
             field->setPath(QDir::homePath());
@@ -341,9 +341,9 @@ void PageRegistry::pathSelection(Page* page)
                    upper.setter([](PathSelectionWidget* field, const QString& text) {
                        field->setDefaultPath(QDir::homePath(), text);
                    }));
-    panel->addNumber(tr("Required megabytes"), -1, MaxMegabytes, RequiredMegabytes,
+    panel->addNumber(tr("Required megabytes"), -1, maxMegabytes, requiredMegabytes,
                      upper.setter([](PathSelectionWidget* field, int megabytes) {
-                         field->showRequiredSpace(true, megabytes * Megabyte);
+                         field->showRequiredSpace(true, megabytes * megabyte);
                      }));
     page->signalLog()->watch(upper.enabled, "upper");
     page->signalLog()->watch(lower.enabled, "lower");
@@ -352,8 +352,8 @@ void PageRegistry::pathSelection(Page* page)
                              "\"error\" and, from the first time that the line edit gets the keyboard, "
                              "\"focusHint\"; figures above it and a message below it."));
     QObject::connect(page, &Page::pictureRequested, page, [upper, lower] {
-        constexpr qint64 Space = 213000 * Megabyte;
-        upper.each([](PathSelectionWidget* field) { field->showAvailableSpace(true, Space); });
+        constexpr qint64 space = 213000 * megabyte;
+        upper.each([](PathSelectionWidget* field) { field->showAvailableSpace(true, space); });
         lower.each([](PathSelectionWidget* field) {
             field->showAvailableSpace(false, -1);
             field->checkPath();

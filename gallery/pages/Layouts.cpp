@@ -55,19 +55,19 @@ public:
         : QWidget(parent)
         , m_style(new SampleDialStyle(this))
     {
-        constexpr int Diameter = 96;
+        constexpr int diameter = 96;
         setObjectName(QStringLiteral("sampleDial"));
-        setFixedSize(Diameter, Diameter);
+        setFixedSize(diameter, diameter);
     }
 
 protected:
     void paintEvent(QPaintEvent* event) override
     {
         Q_UNUSED(event)
-        constexpr double DisabledOpacity = 0.4;
+        constexpr double disabledOpacity = 0.4;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setOpacity(isEnabled() ? 1 : DisabledOpacity);
+        painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
         const double inset = m_style->m_handWidth / 2.0 + 1;
         const QRectF dial = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
         painter.setPen(QPen(palette().color(QPalette::Mid), m_style->m_handWidth));
@@ -85,12 +85,12 @@ namespace {
 /// A tile that stands for content.
 QLabel* makeTile(const char* text, QWidget* parent)
 {
-    constexpr QSize MinSize(44, 32);
+    constexpr QSize minSize(44, 32);
     auto* tile = new QLabel(QString::fromUtf8(text), parent);
     tile->setObjectName(QStringLiteral("sampleTile"));
     tile->setAlignment(Qt::AlignCenter);
     tile->setFrameShape(QFrame::StyledPanel);
-    tile->setMinimumSize(MinSize);
+    tile->setMinimumSize(minSize);
     return tile;
 }
 

@@ -26,10 +26,10 @@ Twins<Slider> addSliders(Page* page, int value)
         slider->setValue(value);
     });
     page->addTwins<Slider>(PageRegistry::tr("Vertical"), [value](Slider* slider) {
-        constexpr int Height = 90;
+        constexpr int height = 90;
         slider->setOrientation(Qt::Vertical);
         slider->setValue(value);
-        slider->setFixedHeight(Height);
+        slider->setFixedHeight(height);
     });
     page->signalLog()->watch(horizontal.enabled, "slider");
     return horizontal;
@@ -40,13 +40,13 @@ template <typename Slider, typename SpinBox>
 Twins<OvFrame> addPair(Page* page, const QString& caption)
 {
     return page->addTwins<OvFrame>(caption, [](OvFrame* frame) {
-        constexpr int Gap = 8;
+        constexpr int gap = 8;
         frame->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         auto* slider = new Slider(frame);
         slider->setOrientation(Qt::Horizontal);
         auto* spinBox = new SpinBox(frame);
         (new OvHBoxLayout(frame))
-            ->addItems({{slider, 1}, {LayoutHelpers::SpacerPolicy::Fixed, Gap}, {spinBox, 0}});
+            ->addItems({{slider, 1}, {LayoutHelpers::SpacerPolicy::Fixed, gap}, {spinBox, 0}});
         Util::bindWidgets(slider, spinBox);
     });
 }
@@ -55,17 +55,17 @@ Twins<OvFrame> addPair(Page* page, const QString& caption)
 
 void PageRegistry::sliderInput(Page* page)
 {
-    constexpr int Max = 100;
-    constexpr int Value = 25;
+    constexpr int max = 100;
+    constexpr int startValue = 25;
     const auto fields = page->addTwins(QString(), [](QWidget* parent) {
-        auto* field = new SliderInputWidget(parent, {-Max, Max});
-        field->setValue(Value);
+        auto* field = new SliderInputWidget(parent, {-max, max});
+        field->setValue(startValue);
         return field;
     });
 
     PropertyPanel* const panel = page->properties();
     panel->addHeading(QStringLiteral("setValue()"));
-    panel->addNumber(tr("Value"), -2 * Max, 2 * Max, Value, fields.setter(&SliderInputWidget::setValue));
+    panel->addNumber(tr("Value"), -2 * max, 2 * max, startValue, fields.setter(&SliderInputWidget::setValue));
     panel->addHeading(QStringLiteral("OvFrame"));
     panel->addProperties(fields);
     page->signalLog()->watch(fields.enabled, "field");
@@ -74,12 +74,12 @@ void PageRegistry::sliderInput(Page* page)
 
 void PageRegistry::doubleSliderInput(Page* page)
 {
-    constexpr double Max = 1;
-    constexpr double Value = 0.29;
+    constexpr double max = 1;
+    constexpr double startValue = 0.29;
     const auto addFields = [page](const QString& caption, int decimals) {
         return page->addTwins(caption, [decimals](QWidget* parent) {
-            auto* field = new DoubleSliderInputWidget(parent, {-Max, Max, decimals});
-            field->setValue(Value);
+            auto* field = new DoubleSliderInputWidget(parent, {-max, max, decimals});
+            field->setValue(startValue);
             return field;
         });
     };
@@ -88,7 +88,7 @@ void PageRegistry::doubleSliderInput(Page* page)
 
     PropertyPanel* const panel = page->properties();
     panel->addHeading(QStringLiteral("setValue()"));
-    panel->addFraction(tr("Value"), -2 * Max, 2 * Max, Value, [fields, fine](double value) {
+    panel->addFraction(tr("Value"), -2 * max, 2 * max, startValue, [fields, fine](double value) {
         fields.setter (&DoubleSliderInputWidget::setValue)(value);
         fine.setter (&DoubleSliderInputWidget::setValue)(value);
     });
@@ -103,9 +103,9 @@ void PageRegistry::spinBox(Page* page)
 {
     const auto addBoxes = [page](const QString& caption, const QString& suffix) {
         return page->addTwins<OvSpinBox>(caption, [&suffix](OvSpinBox* box) {
-            constexpr int Value = 24;
+            constexpr int startValue = 24;
             box->setSuffix(suffix);
-            box->setValue(Value);
+            box->setValue(startValue);
         });
     };
     const auto plain = addBoxes(tr("A number"), QString());
@@ -123,9 +123,9 @@ void PageRegistry::doubleSpinBox(Page* page)
 {
     const auto addBoxes = [page](const QString& caption, bool acceptsBothMarks) {
         return page->addTwins<OvDoubleSpinBox>(caption, [acceptsBothMarks](OvDoubleSpinBox* box) {
-            constexpr double Value = 23.976;
+            constexpr double startValue = 23.976;
             box->setDecimals(3);
-            box->setValue(Value);
+            box->setValue(startValue);
             box->setBothDecimalMarksAccepted(acceptsBothMarks);
         });
     };
@@ -155,11 +155,11 @@ void PageRegistry::customSlider(Page* page)
 void PageRegistry::doubleSlider(Page* page)
 {
     const auto sliders = page->addTwins<OvDoubleSlider>(QString(), [](OvDoubleSlider* slider) {
-        constexpr double Multiplier = 0.1;
-        constexpr double Value = 3.75;
+        constexpr double multiplier = 0.1;
+        constexpr double startValue = 3.75;
         slider->setOrientation(Qt::Horizontal);
-        slider->setMultiplier(Multiplier);
-        slider->setDoubleValue(Value);
+        slider->setMultiplier(multiplier);
+        slider->setDoubleValue(startValue);
     });
     page->properties()->addProperties(
         sliders, {"doubleValue", "multiplier", "value", "minimum", "maximum", "singleStep", "pageStep"});
@@ -178,7 +178,7 @@ void PageRegistry::elegantSlider(Page* page)
 
 void PageRegistry::boundWidgets(Page* page)
 {
-    constexpr int Decimals = 2;
+    constexpr int decimals = 2;
     const auto numbers = addPair<OvCustomSlider, OvSpinBox>(page, tr("Whole numbers"));
     const auto fractions = addPair<OvDoubleSlider, OvDoubleSpinBox>(page, tr("Fractions"));
     const auto sliders = numbers.children<OvCustomSlider>();
@@ -186,13 +186,13 @@ void PageRegistry::boundWidgets(Page* page)
     const auto doubleSliders = fractions.children<OvDoubleSlider>();
     const auto doubleSpinBoxes = fractions.children<OvDoubleSpinBox>();
     sliders.setter (&OvCustomSlider::setValue)(25);
-    doubleSpinBoxes.setter (&OvDoubleSpinBox::setDecimals)(Decimals);
+    doubleSpinBoxes.setter (&OvDoubleSpinBox::setDecimals)(decimals);
     doubleSliders.setter (&OvDoubleSlider::setMultiplier)(0.01);
     doubleSliders.setter (&OvDoubleSlider::setDoubleValue)(0.5);
 
     PropertyPanel* const panel = page->properties();
     panel->addHeading(tr("Fractions"));
-    panel->addNumber(QStringLiteral("decimals"), 0, 9, Decimals,
+    panel->addNumber(QStringLiteral("decimals"), 0, 9, decimals,
                      doubleSpinBoxes.setter(&OvDoubleSpinBox::setDecimals));
     panel->addProperties(doubleSliders, {"multiplier", "doubleValue", "minimum", "maximum", "singleStep"});
     panel->addHeading(tr("Whole numbers"));

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int LoupePixels = 13;
+constexpr int loupePixels = 13;
 
 /// Where the loupe is: in a corner half of its pixels are beyond the desktop.
 enum class Place { Anywhere, Corner };
@@ -24,11 +24,11 @@ enum class Place { Anywhere, Corner };
 /// A picture of the screen around a red spot.
 QPixmap loupePicture(Place place, qreal ratio)
 {
-    QImage image(LoupePixels, LoupePixels, QImage::Format_ARGB32_Premultiplied);
-    constexpr int middle = LoupePixels / 2;
-    for (int y = 0; y < LoupePixels; ++y) {
-        for (int x = 0; x < LoupePixels; ++x) {
-            const double distance = std::hypot(x - middle, y - middle) / LoupePixels;
+    QImage image(loupePixels, loupePixels, QImage::Format_ARGB32_Premultiplied);
+    constexpr int middle = loupePixels / 2;
+    for (int y = 0; y < loupePixels; ++y) {
+        for (int x = 0; x < loupePixels; ++x) {
+            const double distance = std::hypot(x - middle, y - middle) / loupePixels;
             const bool isOutside = place == Place::Corner && (x > middle || y < middle);
             image.setPixelColor(x, y,
                                 isOutside ? QColor(Qt::transparent)
@@ -40,12 +40,12 @@ QPixmap loupePicture(Place place, qreal ratio)
 
 void setUpLoupe(LoupeWidget* loupe)
 {
-    constexpr int Magnification = 9;
+    constexpr int magnification = 9;
     // By default it is a window.
     loupe->setWindowFlags(Qt::Widget);
     loupe->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     // Without a sheet it has the size of its label.
-    loupe->setMinimumSize(LoupePixels * Magnification, LoupePixels * Magnification);
+    loupe->setMinimumSize(loupePixels * magnification, loupePixels * magnification);
     loupe->setPixmap(loupePicture(Place::Anywhere, loupe->devicePixelRatioF()));
     loupe->setColorName(QColor(255, 38, 38));
 }
@@ -53,15 +53,15 @@ void setUpLoupe(LoupeWidget* loupe)
 /// The colours that @p pipette has picked, the latest first.
 QListWidget* makePickedColors(const Pipette* pipette)
 {
-    constexpr QSize SwatchSize(32, 16);
-    constexpr int Height = 96;
+    constexpr QSize swatchSize(32, 16);
+    constexpr int height = 96;
     auto* list = new QListWidget;
     list->setObjectName(QStringLiteral("pickedColors"));
     list->setAccessibleName(PageRegistry::tr("Picked colours"));
-    list->setIconSize(SwatchSize);
-    list->setFixedHeight(Height);
-    QObject::connect(pipette, &Pipette::colorSelected, list, [list, SwatchSize](const QColor& color) {
-        QPixmap swatch(SwatchSize);
+    list->setIconSize(swatchSize);
+    list->setFixedHeight(height);
+    QObject::connect(pipette, &Pipette::colorSelected, list, [list, swatchSize](const QColor& color) {
+        QPixmap swatch(swatchSize);
         swatch.fill(color.rgb());
         list->insertItem(0, new QListWidgetItem(QIcon(swatch), color.name()));
         list->setCurrentRow(0);
@@ -193,7 +193,7 @@ void PageRegistry::widgetColorPicker(Page* page)
     page->describeStyling(buttons.enabled, tr("Its background is its colour, written into its own sheet; "
                                               "size and border are the application's."));
     QObject::connect(page, &Page::pictureRequested, film, [film] {
-        constexpr double PictureProgress = 0.35;
-        film->stopAt(PictureProgress);
+        constexpr double pictureProgress = 0.35;
+        film->stopAt(pictureProgress);
     });
 }

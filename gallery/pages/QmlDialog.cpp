@@ -11,7 +11,7 @@
 
 namespace {
 
-const char* const SceneFiles[] = {"Confirmation.qml", "Form.qml", "Broken.qml", "SceneButton.qml"};
+const char* const sceneFiles[] = {"Confirmation.qml", "Form.qml", "Broken.qml", "SceneButton.qml"};
 
 QByteArray contentsOf(const QString& path)
 {
@@ -102,15 +102,15 @@ SceneEditor::SceneEditor(Page* page, ResultTable* results)
     , m_results(results)
     , m_log(page->signalLog())
 {
-    constexpr int Lines = 16;
+    constexpr int lines = 16;
     setObjectName(QStringLiteral("qmlSource"));
     setAccessibleName(tr("The scene's source"));
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setTabChangesFocus(true);
     // Source code reads from left to right in every language.
     setLayoutDirection(Qt::LeftToRight);
-    setMinimumHeight(fontMetrics().lineSpacing() * Lines);
-    for (const char* file : SceneFiles) {
+    setMinimumHeight(fontMetrics().lineSpacing() * lines);
+    for (const char* file : sceneFiles) {
         write(m_folder.filePath(QLatin1String(file)),
               contentsOf(QStringLiteral(":/gallery/") + QLatin1String(file)));
     }
@@ -120,7 +120,7 @@ SceneEditor::SceneEditor(Page* page, ResultTable* results)
 void SceneEditor::showScene(int index)
 {
     saveScene();
-    m_fileName = QLatin1String(SceneFiles[index]);
+    m_fileName = QLatin1String(sceneFiles[index]);
     const QString path = m_folder.filePath(m_fileName);
     setPlainText(QString::fromUtf8(contentsOf(path)));
     m_results->setResult(tr("File"), path);
@@ -137,10 +137,10 @@ void SceneEditor::open()
         m_results->setResult(tr("Result of exec()"), tr("%1 cannot be written").arg(m_fileName));
         return;
     }
-    constexpr int BrightHalf = 128;
+    constexpr int brightHalf = 128;
     m_path = m_folder.filePath(m_fileName);
     delete m_dialog;
-    const bool isDark = palette().color(QPalette::Text).lightness() > BrightHalf;
+    const bool isDark = palette().color(QPalette::Text).lightness() > brightHalf;
     m_dialog = new SceneDialog(isDark, m_isCentred ? m_page : nullptr);
     m_dialog->setQmlPath(m_path);
     m_page->signalLog()->watch(m_dialog, "dialog");

@@ -162,7 +162,7 @@ public:
         , m_log(page->signalLog())
         , m_results(results)
     {
-        setDelay(StartDelayMs);
+        setDelay(startDelayMs);
     }
 
     void setDelay(int delayMs)
@@ -187,7 +187,7 @@ public:
         showState();
     }
 
-    static constexpr int StartDelayMs = 500;
+    static constexpr int startDelayMs = 500;
 
 private:
     using CountingScheduler = Orvane::Util::Scheduler<RequestCounter>;
@@ -215,16 +215,16 @@ private:
 
 void addScheduler(Page* page, ResultTable* results)
 {
-    constexpr int MaxDelayMs = 5000;
-    constexpr int BurstSize = 1000;
+    constexpr int maxDelayMs = 5000;
+    constexpr int burstSize = 1000;
     auto* counter = new RequestCounter(page, results);
     PropertyPanel* const panel = page->properties();
-    panel->addNumber(PageRegistry::tr("Delay in milliseconds"), 0, MaxDelayMs, RequestCounter::StartDelayMs,
+    panel->addNumber(PageRegistry::tr("Delay in milliseconds"), 0, maxDelayMs, RequestCounter::startDelayMs,
                      [counter](int delayMs) { counter->setDelay(delayMs); });
     panel->addSwitch(PageRegistry::tr("Enabled"), true, [counter](bool on) { counter->setEnabled(on); });
     panel->addAction(PageRegistry::tr("One request"), [counter] { counter->request(1); });
-    panel->addAction(PageRegistry::tr("A burst of %1 requests").arg(BurstSize),
-                     [counter] { counter->request(BurstSize); });
+    panel->addAction(PageRegistry::tr("A burst of %1 requests").arg(burstSize),
+                     [counter] { counter->request(burstSize); });
 }
 
 void addHeadings(Page* page, ResultTable* results)

@@ -10,7 +10,7 @@
 namespace {
 
 // Between the field and the pop-up.
-constexpr int Gap = 6;
+constexpr int gap = 6;
 
 /// The first of @p corners from which a pop-up inside @p area leaves @p kept free; else the first.
 QPoint firstBeside(const QRect& kept, const QSize& size, const QRect& area,
@@ -34,16 +34,16 @@ QPoint firstBeside(const QRect& kept, const QSize& size, const QRect& area,
 
 QPoint popupPosition(const QRect& field, const QSize& size, const QRect& area, Qt::LayoutDirection direction)
 {
-    int before = field.x() - Gap - size.width();
-    int after = field.x() + field.width() + Gap;
+    int before = field.x() - gap - size.width();
+    int after = field.x() + field.width() + gap;
     int level = field.x();
     if (direction == Qt::RightToLeft) {
         std::swap(before, after);
         level += field.width() - size.width();
     }
-    return firstBeside(field.adjusted(-Gap, -Gap, Gap, Gap), size, area,
-                       {{level, field.y() + field.height() + Gap},
-                        {level, field.y() - Gap - size.height()},
+    return firstBeside(field.adjusted(-gap, -gap, gap, gap), size, area,
+                       {{level, field.y() + field.height() + gap},
+                        {level, field.y() - gap - size.height()},
                         {after, field.y()},
                         {before, field.y()}});
 }

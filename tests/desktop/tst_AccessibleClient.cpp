@@ -104,8 +104,8 @@ public:
     /// Whether the keyboard comes to what is called @p name, by Tab alone.
     bool tabTo(const char* name)
     {
-        constexpr int Most = 80;
-        for (int i = 0; i < Most; ++i) {
+        constexpr int maxStops = 80;
+        for (int i = 0; i < maxStops; ++i) {
             m_heard.clear();
             if (!RealInput::key(QStringLiteral("Tab"))) {
                 return false;

@@ -227,12 +227,12 @@ private:
     /// when it could not be clicked.
     QColor clickBasicColour(QColorDialog* dialog, int row, int column) const
     {
-        constexpr QSize Cell(28, 24);
+        constexpr QSize cellSize(28, 24);
         const auto children = dialog->findChildren<QWidget*>();
         for (const QWidget* child : children) {
             if (child->inherits("QWellArray")) {
-                const QPoint middle(column * Cell.width() + Cell.width() / 2,
-                                    row * Cell.height() + Cell.height() / 2);
+                const QPoint middle(column * cellSize.width() + cellSize.width() / 2,
+                                    row * cellSize.height() + cellSize.height() / 2);
                 const QColor shown = dialog->grab().toImage().pixelColor(child->mapTo(dialog, middle));
                 const bool isClicked =
                     QTest::qWaitFor([=] { return RealInput::pixel(child, middle) == shown; }) &&

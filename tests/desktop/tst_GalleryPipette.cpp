@@ -10,8 +10,8 @@
 
 namespace {
 
-const QColor FirstColor(47, 190, 93);
-const QColor SecondColor(200, 40, 120);
+const QColor firstColor(47, 190, 93);
+const QColor secondColor(200, 40, 120);
 
 } // namespace
 
@@ -37,12 +37,12 @@ private Q_SLOTS:
         m_patch->setObjectName(QStringLiteral("patch"));
         m_patch->setStyleSheet(QStringLiteral("#patch { background: qlineargradient(x1: 0, x2: 1, stop: 0 %1,"
                                               " stop: 0.499 %1, stop: 0.501 %2, stop: 1 %2); }")
-                                   .arg(FirstColor.name(), SecondColor.name()));
+                                   .arg(firstColor.name(), secondColor.name()));
         m_patch->setAttribute(Qt::WA_StyledBackground);
         m_patch->setGeometry(m_window->width() - 180, m_window->height() - 180, 120, 120);
         m_patch->show();
-        QTRY_COMPARE(RealInput::pixel(m_patch.get(), QPoint(20, 60)), FirstColor);
-        QTRY_COMPARE(RealInput::pixel(m_patch.get(), QPoint(100, 60)), SecondColor);
+        QTRY_COMPARE(RealInput::pixel(m_patch.get(), QPoint(20, 60)), firstColor);
+        QTRY_COMPARE(RealInput::pixel(m_patch.get(), QPoint(100, 60)), secondColor);
     }
 
     void cleanup()
@@ -78,8 +78,8 @@ private Q_SLOTS:
             QTRY_VERIFY(m_window->isActiveWindow());
         }
         QCOMPARE(history->count(), before + 2);
-        QCOMPARE(history->item(0)->text(), SecondColor.name());
-        QCOMPARE(history->item(1)->text(), FirstColor.name());
+        QCOMPARE(history->item(0)->text(), secondColor.name());
+        QCOMPARE(history->item(1)->text(), firstColor.name());
 
         const QStringList lines = said();
         QCOMPARE(lines.size(), 6);

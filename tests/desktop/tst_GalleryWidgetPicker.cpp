@@ -14,7 +14,7 @@
 
 namespace {
 
-const QColor Yellow(192, 192, 0);
+const QColor yellow(192, 192, 0);
 
 template <typename Button>
 Button* enabledOne(const Page* page)
@@ -53,7 +53,7 @@ private Q_SLOTS:
         m_field = enabledOne<ColorPickerButton>(m_window->page());
         QVERIFY(m_film && m_button && m_field);
         QVERIFY(m_film->isRunning());
-        QTRY_COMPARE(RealInput::pixel(m_film, inYellowBar()), Yellow);
+        QTRY_COMPARE(RealInput::pixel(m_film, inYellowBar()), yellow);
     }
 
     void cleanup() { m_window.reset(); }
@@ -74,13 +74,13 @@ private Q_SLOTS:
             QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-widget-picking-") + style));
             QVERIFY(RealInput::click(m_film, inYellowBar()));
         }));
-        QCOMPARE(m_button->color(), Yellow);
-        QTRY_COMPARE(RealInput::pixel(m_button, m_button->rect().center()), Yellow);
+        QCOMPARE(m_button->color(), yellow);
+        QTRY_COMPARE(RealInput::pixel(m_button, m_button->rect().center()), yellow);
         QCOMPARE(m_window->page()->signalLog()->lines().filter(QStringLiteral("button.colorChanged")).size(),
                  1);
 
         QVERIFY(pickWith(m_field, [this] { QVERIFY(RealInput::click(m_film, inYellowBar())); }));
-        QCOMPARE(m_field->color(), std::optional<QColor>(Yellow));
+        QCOMPARE(m_field->color(), std::optional<QColor>(yellow));
         QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("gallery-widget-picked-") + style));
     }

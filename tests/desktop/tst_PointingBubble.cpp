@@ -6,7 +6,7 @@
 
 namespace {
 
-const QColor BubbleColor(20, 120, 60);
+const QColor bubbleColor(20, 120, 60);
 
 QPoint middleOf(const QWidget* widget)
 {
@@ -30,13 +30,13 @@ private Q_SLOTS:
         QVERIFY(RealInput::showAndActivate(m_window.get()));
 
         m_bubble = new PointingWidget(m_window.get());
-        m_bubble->setBackgroundColor(BubbleColor);
+        m_bubble->setBackgroundColor(bubbleColor);
         m_bubble->contentFrame()->setFixedSize(150, 60);
         m_bubble->setArrowSide(PointingWidget::ArrowSide::Top, PointingWidget::ArrowPosition::Center);
         m_bubble->pointTo(m_window->mapToGlobal(m_spot));
         m_bubble->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_bubble));
-        QTRY_COMPARE(RealInput::pixel(m_bubble, middleOf(m_bubble)), BubbleColor);
+        QTRY_COMPARE(RealInput::pixel(m_bubble, middleOf(m_bubble)), bubbleColor);
     }
 
     void cleanup() { m_window.reset(); }
@@ -52,7 +52,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_window->pos(), before + QPoint(130, 90));
         QTRY_COMPARE(m_bubble->targetPoint(), m_window->mapToGlobal(m_spot));
         QTRY_COMPARE(m_bubble->pos() - m_window->pos(), distance);
-        QTRY_COMPARE(RealInput::pixel(m_bubble, middleOf(m_bubble)), BubbleColor);
+        QTRY_COMPARE(RealInput::pixel(m_bubble, middleOf(m_bubble)), bubbleColor);
         // The tip of the arrow, where it touches the spot, and nothing above it.
         QTRY_VERIFY(RealInput::pixel(m_window.get(), m_spot + QPoint(0, 4)) !=
                     m_window->palette().window().color());
@@ -66,7 +66,7 @@ private Q_SLOTS:
         const QColor background = m_window->palette().window().color();
         const QPoint spot = m_spot + QPoint(90, 70);
         m_bubble->pointTo(m_window->mapToGlobal(spot));
-        QTRY_COMPARE(RealInput::pixel(m_window.get(), spot + QPoint(0, 20)), BubbleColor);
+        QTRY_COMPARE(RealInput::pixel(m_window.get(), spot + QPoint(0, 20)), bubbleColor);
         QTRY_COMPARE(RealInput::pixel(m_window.get(), m_spot + QPoint(0, 20)), background);
         QVERIFY(m_bubble->isVisible());
     }

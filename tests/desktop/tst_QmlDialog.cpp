@@ -18,8 +18,8 @@ namespace {
 
 enum Scene { Confirmation, Form, Broken };
 
-const QString Again = QStringLiteral("Open the last dialog again");
-const QString Result = QStringLiteral("Result of exec()");
+const QString againLabel = QStringLiteral("Open the last dialog again");
+const QString resultLabel = QStringLiteral("Result of exec()");
 
 SceneDialog* shownDialog()
 {
@@ -82,9 +82,9 @@ private Q_SLOTS:
     void mouseAccepts()
     {
         QVERIFY(runs([](SceneDialog* dialog) { QVERIFY(clickOn(dialog, QStringLiteral("Discard"))); }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
+        QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("1"));
         QVERIFY(runs([](SceneDialog* dialog) { QVERIFY(clickOn(dialog, QStringLiteral("Keep"))); }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("0"));
+        QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("0"));
         QTRY_VERIFY(m_window->isActiveWindow());
     }
 
@@ -96,7 +96,7 @@ private Q_SLOTS:
             QTRY_VERIFY(isAsked(QStringLiteral("Discard")));
             QVERIFY(RealInput::key(QStringLiteral("Return")));
         }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
+        QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("1"));
     }
 
     void escapeRejects()
@@ -104,7 +104,7 @@ private Q_SLOTS:
         for (const Scene scene : {Confirmation, Form}) {
             choose(scene);
             QVERIFY(runs([](SceneDialog*) { QVERIFY(RealInput::key(QStringLiteral("Escape"))); }));
-            QTRY_COMPARE(resultOf(Result), QStringLiteral("0"));
+            QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("0"));
             QCOMPARE(resultOf(QStringLiteral("Values of the form")), QString());
         }
     }
@@ -112,7 +112,7 @@ private Q_SLOTS:
     void closedByTheWindowManager()
     {
         QVERIFY(runs([](SceneDialog*) { QVERIFY(RealInput::key(QStringLiteral("alt+F4"))); }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("0"));
+        QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("0"));
     }
 
     // The container of the view leaves the window each time, and Qt forgets its focus then.
@@ -128,7 +128,7 @@ private Q_SLOTS:
                 QTRY_VERIFY(isAsked(expected));
                 QVERIFY(RealInput::key(QStringLiteral("Return")));
             };
-            QVERIFY(round == 0 ? runs(typeOne) : runs(typeOne, Again));
+            QVERIFY(round == 0 ? runs(typeOne) : runs(typeOne, againLabel));
             QTRY_COMPARE(resultOf(QStringLiteral("Values of the form")),
                          QStringLiteral("rate: 25, title: \"%1\"").arg(expected));
         }
@@ -150,7 +150,7 @@ private Q_SLOTS:
             QTRY_VERIFY(isAsked(QStringLiteral("99")));
             QVERIFY(RealInput::key(QStringLiteral("Return")));
         }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
+        QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("1"));
         QCOMPARE(resultOf(QStringLiteral("Values of the form")),
                  QStringLiteral("rate: 99, title: \"Reel 7\""));
     }
@@ -192,7 +192,7 @@ private Q_SLOTS:
             QCOMPARE(QApplication::activeModalWidget(), dialog);
             QVERIFY(RealInput::click(dialog, hole));
         }));
-        QTRY_COMPARE(resultOf(Result), QStringLiteral("1"));
+        QTRY_COMPARE(resultOf(resultLabel), QStringLiteral("1"));
     }
 
     void centredOnItsParent()
@@ -261,7 +261,7 @@ private Q_SLOTS:
             QVERIFY(RealInput::saveScreenshot(QStringLiteral("qml-dialog-alone")));
             QVERIFY(clickOn(dialog, QStringLiteral("Discard")));
         }));
-        QCOMPARE(resultOf(Result), QStringLiteral("1"));
+        QCOMPARE(resultOf(resultLabel), QStringLiteral("1"));
     }
 
     void pictures_data()
@@ -356,8 +356,8 @@ private:
                 }
             }
         });
-        constexpr int LookEveryMs = 10;
-        look.start(LookEveryMs);
+        constexpr int lookEveryMs = 10;
+        look.start(lookEveryMs);
         return press(action) &&
                QTest::qWaitFor([&] { return hasActed && !QApplication::activeModalWidget(); });
     }

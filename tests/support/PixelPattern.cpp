@@ -19,9 +19,9 @@ bool tell(const char* command)
 QRgb PixelPattern::colorAt(int x, int y)
 {
     // An odd factor maps 24 bits to 24 bits one to one, and neighbours far apart.
-    constexpr quint32 Factor = 0x9E3779B1;
+    constexpr quint32 factor = 0x9E3779B1;
     const auto place = static_cast<quint32>(y) << 12U | static_cast<quint32>(x);
-    return qRgb(0, 0, 0) | ((place * Factor) & 0xFFFFFFU);
+    return qRgb(0, 0, 0) | ((place * factor) & 0xFFFFFFU);
 }
 
 PixelPattern::~PixelPattern()

@@ -13,7 +13,7 @@
 #include <memory>
 
 // The off-screen platform gives every window a frame, and moves it by that once more.
-constexpr QPoint OffscreenFrame(2, 2);
+constexpr QPoint offscreenFrame(2, 2);
 
 // Of the palette; its buttons are found by these names.
 const char* const AmberName = "#ffc000";
@@ -83,8 +83,8 @@ private Q_SLOTS:
         m_button->click();
         QVERIFY(popup()->isVisible());
         QVERIFY(popup()->windowFlags().testFlag(Qt::Popup));
-        QCOMPARE(popup()->pos() - OffscreenFrame, popupPosition(m_button, popup()->size()));
-        QCOMPARE(popup()->pos() - OffscreenFrame, m_button->mapToGlobal(QPoint(0, 30)));
+        QCOMPARE(popup()->pos() - offscreenFrame, popupPosition(m_button, popup()->size()));
+        QCOMPARE(popup()->pos() - offscreenFrame, m_button->mapToGlobal(QPoint(0, 30)));
         QCOMPARE(panel()->currentColor(), Color(QColor(10, 20, 30)));
         QVERIFY(m_button->isDown());
         QVERIFY(m_button->isPickingInProgress());
@@ -97,7 +97,7 @@ private Q_SLOTS:
         m_button->click();
         QCOMPARE(popup()->layoutDirection(), Qt::RightToLeft);
         QCOMPARE(panel()->layoutDirection(), Qt::RightToLeft);
-        QCOMPARE(popup()->geometry().right() - OffscreenFrame.x(), m_button->mapToGlobal(QPoint(43, 0)).x());
+        QCOMPARE(popup()->geometry().right() - offscreenFrame.x(), m_button->mapToGlobal(QPoint(43, 0)).x());
     }
 
     void opensOnce()

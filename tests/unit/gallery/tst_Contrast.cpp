@@ -241,14 +241,14 @@ private:
     void checkText(const QWidget* widget, QStringList* all) const
     {
         // Within borders, and beside the mark of a box.
-        constexpr int Border = 4;
-        QRect area = areaOf(widget).adjusted(Border, Border, -Border, -Border);
+        constexpr int border = 4;
+        QRect area = areaOf(widget).adjusted(border, border, -border, -border);
         if (qobject_cast<const QLabel*>(widget)) {
             area = areaOf(widget);
         }
         if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
             const int mark =
-                widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + Border;
+                widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + border;
             area.adjust(widget->isRightToLeft() ? 0 : mark, 0, widget->isRightToLeft() ? -mark : 0, 0);
         }
         if (!textOf(widget).trimmed().isEmpty() && !area.isEmpty() && !isPartOfAnother(widget)) {
@@ -342,10 +342,10 @@ private:
     /// By pixels that it changes by enough, at least as many as a line around a small control has.
     void checkFocus(QWidget* widget, QStringList* all)
     {
-        constexpr int Around = 30;
-        constexpr int LeastPixels = 40;
+        constexpr int around = 30;
+        constexpr int minPixels = 40;
         m_window->setFocus();
-        const QRect area = areaOf(widget).adjusted(-Around, -Around, Around, Around) & m_window->rect();
+        const QRect area = areaOf(widget).adjusted(-around, -around, around, around) & m_window->rect();
         const QImage before = pictureOf(area);
         widget->setFocus(Qt::TabFocusReason);
         auto* const edit = qobject_cast<QLineEdit*>(widget);
@@ -361,7 +361,7 @@ private:
                            contrast(before.pixel(x, y), after.pixel(x, y)) >= leastOfMarks;
             }
         }
-        if (changed < LeastPixels) {
+        if (changed < minPixels) {
             all->append(QStringLiteral("focus of %1: %2 pixels").arg(describe(widget)).arg(changed));
         }
     }

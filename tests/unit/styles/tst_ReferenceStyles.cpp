@@ -1003,17 +1003,17 @@ private Q_SLOTS:
         auto* panel = new ColorPickerWidget(&host, false);
         QVERIFY(host.present(panel));
 
-        constexpr int Ring = 2; // around an outline
+        constexpr int ring = 2; // around an outline
         const auto left = [panel](const QWidget* part) { return part->mapTo(panel, QPoint()).x(); };
         const auto right = [left](const QWidget* part) { return left(part) + part->width(); };
         const auto faces = partOf(panel, "colorMatrixPanel")->findChildren<QToolButton*>();
         const auto places = partOf(panel, "otherColorsQueuePanel")->findChildren<QToolButton*>();
         QCOMPARE(faces.first()->size(), QSize(24, 24));
         QCOMPARE(panel->width(), 9 * 24);
-        QCOMPARE(left(partOf(panel, "currentColorDisplayLabel")), left(faces.first()) + Ring);
-        QCOMPARE(left(partOf(panel, "opacitySlider")), left(faces.first()) + Ring);
-        QCOMPARE(right(partOf(panel, "pipetteButton")), right(faces.last()) - Ring);
-        QCOMPARE(right(partOf(panel, "opacitySpinbox")), right(faces.last()) - Ring);
+        QCOMPARE(left(partOf(panel, "currentColorDisplayLabel")), left(faces.first()) + ring);
+        QCOMPARE(left(partOf(panel, "opacitySlider")), left(faces.first()) + ring);
+        QCOMPARE(right(partOf(panel, "pipetteButton")), right(faces.last()) - ring);
+        QCOMPARE(right(partOf(panel, "opacitySpinbox")), right(faces.last()) - ring);
         // The add button and the places of own colours are the columns of the palette.
         QCOMPARE(left(partOf(panel, "addCustomColorButton")), left(faces.at(0)));
         QCOMPARE(partOf(panel, "addCustomColorButton")->size(), QSize(24, 24));
