@@ -14,8 +14,8 @@ struct ComponentInfo
     const char* toolTip;
     const char* whatsThis;
     QWidget* (*make)(QWidget* parent);
-    /// Gives a widget that would be empty something to show, in Designer only; may be null.
-    void (*fill)(QWidget* widget);
+    /// Gives a widget that would be empty something to show, in Designer only.
+    void (*fill)(QWidget* widget) = nullptr;
     /// What a form starts with besides the size, as in its file.
     const char* properties = "";
 };
