@@ -31,10 +31,7 @@ LoupeWidget::LoupeWidget(QWidget* parent)
     d->colorNameLabel = new QLabel(this);
     d->colorNameLabel->setObjectName(QStringLiteral("colorNameLabel"));
     d->colorNameLabel->setTextFormat(Qt::PlainText);
-    auto* layout = new OvVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
+    (new OvVBoxLayout(this))->autoFill();
     Util::installLayoutController(this);
 
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
@@ -98,8 +95,7 @@ void LoupeWidget::setColorName(const QColor& color)
     updatePicture();
 }
 
-/// A scene hears of an update of the widget only after it has painted the widget's move, and would then paint
-/// it once more.
+/// A graphics scene handles a widget's update after painting its move, and would paint twice.
 void LoupeWidget::updatePicture()
 {
     if (QGraphicsProxyWidget* const proxy = graphicsProxyWidget()) {

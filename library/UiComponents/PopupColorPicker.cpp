@@ -150,11 +150,7 @@ PopupColorPicker::Popup::Popup(QWidget* window, const Options& panelOptions)
     setFrameShape(QFrame::StyledPanel);
     setProperty("roundedEdges", true);
     Workaround::Ui::apply(this);
-    auto* layout = new OvVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->autoFill();
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    (new OvVBoxLayout(this))->autoFill()->setSizeConstraint(QLayout::SetFixedSize);
 
     panel->setOpacityAdjustmentAvailable(options.opacity);
     if (auto* ownColors = panel->findChild<QWidget*>(QStringLiteral("otherColorsPanel"))) {
