@@ -1,6 +1,7 @@
 #include "ColorInputWidget.h"
 
 #include "ColorPickerButton.h"
+#include "LabelFocus.h"
 
 #include <WidgetToolkit/OvBoxLayout.h>
 
@@ -31,9 +32,7 @@ ColorInputWidget::ColorInputWidget(QWidget* parent, const QColor& color)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
 {
-    // QLabel checks the focus policy of its buddy, not of the focus proxy.
-    setFocusPolicy(d->button->focusPolicy());
-    setFocusProxy(d->button);
+    LabelFocus::lead(this, d->button, d->button->focusPolicy());
     if (color.isValid()) {
         d->button->setColor(color);
     }

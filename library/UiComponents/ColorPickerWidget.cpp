@@ -9,6 +9,7 @@
 #include "CustomColorSelectWidget.h"
 #include "CustomColors.h"
 #include "LabelFocus.h"
+#include "NamedPart.h"
 #include "Pipette.h"
 #include "PopupPosition.h"
 #include "ScreenColorSource.h"
@@ -45,7 +46,6 @@
 #include <utility>
 
 namespace {
-
 constexpr int queueLength = 8;
 constexpr int opacitySteps = 100;
 
@@ -193,7 +193,6 @@ public:
     Private(ColorPickerWidget* panel, bool nullColorAllowed, const QStringList& ownColors);
     static std::unique_ptr<Private> make(ColorPickerWidget* panel, bool nullColorAllowed);
 
-    void nameObjects() const;
     void layOut();
     void buildPalette(bool nullColorAllowed);
     ColorButton* makeColorButton(QWidget* parent);
@@ -278,24 +277,23 @@ public:
 ColorPickerWidget::Private::Private(ColorPickerWidget* panel, bool nullColorAllowed,
                                     const QStringList& ownColors)
     : q(panel)
-    , topPanel(new OvFrame(panel))
-    , colorMatrixPanel(new OvFrame(panel))
-    , otherColorsPanel(new OvFrame(panel))
-    , opacityPanel(new OvFrame(panel))
-    , currentColorDisplayLabel(new QLabel(topPanel))
-    , currentColorValueEdit(new ValueEdit(topPanel))
-    , pipetteButton(new QToolButton(topPanel))
-    , otherColorsTitleLabel(new QLabel(otherColorsPanel))
-    , addCustomColorButton(new QToolButton(otherColorsPanel))
-    , otherColorsQueuePanel(new OvFrame(otherColorsPanel))
-    , opacityTitleLabel(new QLabel(opacityPanel))
-    , opacitySlider(new OvDoubleSlider(opacityPanel))
-    , opacitySpinbox(new OvSpinBox(opacityPanel))
+    , topPanel(named("topPanel", new OvFrame(panel)))
+    , colorMatrixPanel(named("colorMatrixPanel", new OvFrame(panel)))
+    , otherColorsPanel(named("otherColorsPanel", new OvFrame(panel)))
+    , opacityPanel(named("opacityPanel", new OvFrame(panel)))
+    , currentColorDisplayLabel(named("currentColorDisplayLabel", new QLabel(topPanel)))
+    , currentColorValueEdit(named("currentColorValueEdit", new ValueEdit(topPanel)))
+    , pipetteButton(named("pipetteButton", new QToolButton(topPanel)))
+    , otherColorsTitleLabel(named("otherColorsTitleLabel", new QLabel(otherColorsPanel)))
+    , addCustomColorButton(named("addCustomColorButton", new QToolButton(otherColorsPanel)))
+    , otherColorsQueuePanel(named("otherColorsQueuePanel", new OvFrame(otherColorsPanel)))
+    , opacityTitleLabel(named("opacityTitleLabel", new QLabel(opacityPanel)))
+    , opacitySlider(named("opacitySlider", new OvDoubleSlider(opacityPanel)))
+    , opacitySpinbox(named("opacitySpinbox", new OvSpinBox(opacityPanel)))
     , buttons(new QButtonGroup(panel))
     , paletteLayout(new OvGridLayout(colorMatrixPanel))
     , queueLayout(new OvHBoxLayout(otherColorsQueuePanel))
 {
-    nameObjects();
     layOut();
     buildPalette(nullColorAllowed);
     buildQueue();
@@ -315,23 +313,6 @@ std::unique_ptr<ColorPickerWidget::Private> ColorPickerWidget::Private::make(Col
     std::unique_ptr<Private> result;
     SheetlessBuild::run([&] { result = std::make_unique<Private>(panel, nullColorAllowed, ownColors); });
     return result;
-}
-
-void ColorPickerWidget::Private::nameObjects() const
-{
-    topPanel->setObjectName(QStringLiteral("topPanel"));
-    colorMatrixPanel->setObjectName(QStringLiteral("colorMatrixPanel"));
-    otherColorsPanel->setObjectName(QStringLiteral("otherColorsPanel"));
-    opacityPanel->setObjectName(QStringLiteral("opacityPanel"));
-    currentColorDisplayLabel->setObjectName(QStringLiteral("currentColorDisplayLabel"));
-    currentColorValueEdit->setObjectName(QStringLiteral("currentColorValueEdit"));
-    pipetteButton->setObjectName(QStringLiteral("pipetteButton"));
-    otherColorsTitleLabel->setObjectName(QStringLiteral("otherColorsTitleLabel"));
-    addCustomColorButton->setObjectName(QStringLiteral("addCustomColorButton"));
-    otherColorsQueuePanel->setObjectName(QStringLiteral("otherColorsQueuePanel"));
-    opacityTitleLabel->setObjectName(QStringLiteral("opacityTitleLabel"));
-    opacitySlider->setObjectName(QStringLiteral("opacitySlider"));
-    opacitySpinbox->setObjectName(QStringLiteral("opacitySpinbox"));
 }
 
 void ColorPickerWidget::Private::layOut()
@@ -431,7 +412,7 @@ void ColorPickerWidget::Private::setTexts()
     showPipetteState();
 }
 
-/// A button that could do nothing would be worse than one that says why. What the host has made of it stays.
+/// Disables the button and sets its tool tip while no colour can be picked, unless the host changed either.
 void ColorPickerWidget::Private::showPipetteState()
 {
     const bool isAsLeft = pipetteButton->isEnabledTo(q) == shownReason.isEmpty();

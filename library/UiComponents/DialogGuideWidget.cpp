@@ -5,6 +5,7 @@
 #include "ClickButton.h"
 #include "GuideLabel.h"
 #include "GuidePicture.h"
+#include "NamedPart.h"
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
@@ -55,13 +56,6 @@ private:
         return size.boundedTo(QSize(GuideLabel::maxWidth(this) / 2, QWIDGETSIZE_MAX));
     }
 };
-
-template <typename Widget>
-Widget* named(const char* name, Widget* widget)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
 
 int widthInside(const OvFrame* frame)
 {

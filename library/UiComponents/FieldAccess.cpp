@@ -6,6 +6,7 @@
 #include "ColorPickerButton.h"
 #include "DoubleSliderInputWidget.h"
 #include "PathSelectionWidget.h"
+#include "PointMapping.h"
 #include "PointSelectionPlane.h"
 #include "PointSelectorWidget.h"
 #include "SearchWidget.h"
@@ -197,9 +198,7 @@ bool FieldAccess::isSame(const QVariant& one, const QVariant& other)
         return one.toDouble() == other.toDouble();
     }
     if (one.userType() == QMetaType::QPointF) {
-        const QPointF a = one.toPointF();
-        const QPointF b = other.toPointF();
-        return a.x() == b.x() && a.y() == b.y();
+        return PointMapping::isSame(one.toPointF(), other.toPointF());
     }
     return one == other;
 }

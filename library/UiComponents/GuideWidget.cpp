@@ -3,6 +3,7 @@
 #include "AccessibleFactory.h"
 #include "GuideLabel.h"
 #include "GuidePicture.h"
+#include "NamedPart.h"
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
@@ -48,14 +49,6 @@ protected:
     }
 };
 
-template <typename Label>
-QLabel* makeLabel(const QString& name, QWidget* parent)
-{
-    auto* label = new Label(parent);
-    label->setObjectName(name);
-    return label;
-}
-
 /// Whether the text has a link for Tab to stop at.
 bool hasLink(const QString& text)
 {
@@ -88,15 +81,14 @@ public:
 
 GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     : q(guide)
-    , headerLabel(makeLabel<GuideLabel>(QStringLiteral("headerLabel"), guide))
-    , gifPixmapWidget(new GuidePicture(guide))
-    , descriptionLabel(makeLabel<GuideLabel>(QStringLiteral("descriptionLabel"), guide))
-    , learnMoreLabel(makeLabel<LinkLabel>(QStringLiteral("learnMoreLabel"), guide))
+    , headerLabel(named("headerLabel", new GuideLabel(guide)))
+    , gifPixmapWidget(named("gifPixmapWidget", new GuidePicture(guide)))
+    , descriptionLabel(named("descriptionLabel", new GuideLabel(guide)))
+    , learnMoreLabel(named("learnMoreLabel", new LinkLabel(guide)))
     , info(std::move(guideInfo))
     , headerHeight(headerLabel)
     , descriptionHeight(descriptionLabel)
 {
-    gifPixmapWidget->setObjectName(QStringLiteral("gifPixmapWidget"));
     learnMoreLabel->setOpenExternalLinks(false);
     putLinkFirst();
 

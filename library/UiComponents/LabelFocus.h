@@ -10,9 +10,9 @@ namespace LabelFocus {
 /// setFocus() lead to the component: Tab goes to its parts, and a click or wheel beside them nowhere.
 constexpr auto policy = static_cast<Qt::FocusPolicy>(Qt::WheelFocus & ~Qt::StrongFocus);
 
-inline void lead(QWidget* component, QWidget* part)
+inline void lead(QWidget* component, QWidget* part, Qt::FocusPolicy componentPolicy = policy)
 {
-    component->setFocusPolicy(policy);
+    component->setFocusPolicy(componentPolicy);
     component->setFocusProxy(part);
 }
 

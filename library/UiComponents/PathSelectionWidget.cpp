@@ -4,6 +4,7 @@
 #include "AccessibleFactory.h"
 #include "ClickButton.h"
 #include "LabelFocus.h"
+#include "NamedPart.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorUtility/FileUtil.h>
@@ -44,27 +45,6 @@ QString literalToolTip(const QString& text)
     }
     return QStringLiteral("<span style=\"white-space: pre-wrap\">") + text.toHtmlEscaped() +
            QStringLiteral("</span>");
-}
-
-OvFrame* makeFrame(const char* name, QWidget* parent)
-{
-    auto* frame = new OvFrame(parent);
-    frame->setObjectName(QLatin1String(name));
-    return frame;
-}
-
-QLabel* makeLabel(const char* name, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    return label;
-}
-
-QToolButton* makeButton(const char* name, QWidget* parent)
-{
-    auto* button = new ClickButton(parent);
-    button->setObjectName(QLatin1String(name));
-    return button;
 }
 
 } // namespace
@@ -161,14 +141,14 @@ public:
 
 PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     : q(widget)
-    , spaceInfoFrame(makeFrame("spaceInfoFrame", widget))
-    , requiredLabel(makeLabel("requiredLabel", spaceInfoFrame))
-    , availableLabel(makeLabel("availableLabel", spaceInfoFrame))
-    , pathSelectionFrame(makeFrame("pathSelectionFrame", widget))
+    , spaceInfoFrame(named("spaceInfoFrame", new OvFrame(widget)))
+    , requiredLabel(named("requiredLabel", new QLabel(spaceInfoFrame)))
+    , availableLabel(named("availableLabel", new QLabel(spaceInfoFrame)))
+    , pathSelectionFrame(named("pathSelectionFrame", new OvFrame(widget)))
     , pathLineEdit(new TesselLineEdit(pathSelectionFrame))
-    , pathBrowseButton(makeButton("pathBrowseButton", pathSelectionFrame))
-    , pathResetButton(makeButton("pathResetButton", pathSelectionFrame))
-    , errorLabel(makeLabel("errorLabel", widget))
+    , pathBrowseButton(named("pathBrowseButton", new ClickButton(pathSelectionFrame)))
+    , pathResetButton(named("pathResetButton", new ClickButton(pathSelectionFrame)))
+    , errorLabel(named("errorLabel", new QLabel(widget)))
     , scheduler(widget, &PathSelectionWidget::requestPathChanged, reportDelayMs)
     , requiredSpace(requiredLabel, required)
     , availableSpace(availableLabel, available)

@@ -177,8 +177,7 @@ void PlaneDrag::setValue(int axis, double value)
     QPointF wanted = before;
     (axis == 0 ? wanted.rx() : wanted.ry()) = value;
     wanted = {qBound(all.left(), wanted.x(), all.right()), qBound(all.top(), wanted.y(), all.bottom())};
-    const bool isSame = wanted.x() == before.x() && wanted.y() == before.y();
-    if (!m_plane->isEnabled() || isSame || std::isnan(value)) {
+    if (!m_plane->isEnabled() || PointMapping::isSame(wanted, before) || std::isnan(value)) {
         return;
     }
     takeValues(wanted);

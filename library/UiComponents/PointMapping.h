@@ -1,4 +1,4 @@
-// Internal: the arithmetic of PointSelectionPlane and PlaneDrag.
+// Internal: the arithmetic of points, of PointSelectionPlane and PlaneDrag.
 
 #pragma once
 
@@ -35,6 +35,12 @@ QPoint pinned(const QPoint& pixel, const QRect& rect);
 
 /// @p pixel moved by @p step, and clamped to @p rect. NaN becomes the left or top edge.
 QPointF stepped(const QPointF& pixel, const QPoint& step, const QRect& rect);
+
+/// Compares exactly: QPointF's own operator takes nearly equal points for the same. False for NaN.
+inline bool isSame(const QPointF& one, const QPointF& other)
+{
+    return one.x() == other.x() && one.y() == other.y();
+}
 
 /// True if @p pixel, rounded, is in @p rect; false for an infinite one and NaN.
 bool isInside(const QPointF& pixel, const QRect& rect);

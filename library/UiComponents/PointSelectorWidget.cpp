@@ -1,6 +1,9 @@
 #include "PointSelectorWidget.h"
 
 #include "AccessibleFactory.h"
+#include "LabelFocus.h"
+#include "NamedPart.h"
+#include "PointMapping.h"
 #include "PointSelectionPlane.h"
 #include "StepRange.h"
 
@@ -16,7 +19,6 @@
 #include <limits>
 
 namespace {
-
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
 void configure(OvDoubleSpinBox* spinBox, double minimum, double maximum, int decimals)
@@ -67,35 +69,23 @@ public:
 
 PointSelectorWidget::Private::Private(PointSelectorWidget* field)
     : q(field)
-    , spinBoxFrame(new OvFrame(field))
-    , pointSelectorFrame(new OvFrame(field))
-    , pointSelector(new PointSelectionPlane(pointSelectorFrame))
-    , xSpinboxFrame(new OvFrame(spinBoxFrame))
-    , xLabel(new QLabel(xSpinboxFrame))
-    , xSpinbox(new OvDoubleSpinBox(xSpinboxFrame))
-    , ySpinboxFrame(new OvFrame(spinBoxFrame))
-    , yLabel(new QLabel(ySpinboxFrame))
-    , ySpinbox(new OvDoubleSpinBox(ySpinboxFrame))
+    , spinBoxFrame(named("spinBoxFrame", new OvFrame(field)))
+    , pointSelectorFrame(named("pointSelectorFrame", new OvFrame(field)))
+    , pointSelector(named("pointSelector", new PointSelectionPlane(pointSelectorFrame)))
+    , xSpinboxFrame(named("xSpinboxFrame", new OvFrame(spinBoxFrame)))
+    , xLabel(named("xLabel", new QLabel(xSpinboxFrame)))
+    , xSpinbox(named("xSpinbox", new OvDoubleSpinBox(xSpinboxFrame)))
+    , ySpinboxFrame(named("ySpinboxFrame", new OvFrame(spinBoxFrame)))
+    , yLabel(named("yLabel", new QLabel(ySpinboxFrame)))
+    , ySpinbox(named("ySpinbox", new OvDoubleSpinBox(ySpinboxFrame)))
 {
-    spinBoxFrame->setObjectName(QStringLiteral("spinBoxFrame"));
-    pointSelectorFrame->setObjectName(QStringLiteral("pointSelectorFrame"));
-    pointSelector->setObjectName(QStringLiteral("pointSelector"));
-    xSpinboxFrame->setObjectName(QStringLiteral("xSpinboxFrame"));
-    xLabel->setObjectName(QStringLiteral("xLabel"));
-    xSpinbox->setObjectName(QStringLiteral("xSpinbox"));
-    ySpinboxFrame->setObjectName(QStringLiteral("ySpinboxFrame"));
-    yLabel->setObjectName(QStringLiteral("yLabel"));
-    ySpinbox->setObjectName(QStringLiteral("ySpinbox"));
-
     (new OvHBoxLayout(q))->addItems({{pointSelectorFrame, 0}, {spinBoxFrame, 0}});
     (new OvVBoxLayout(pointSelectorFrame))->autoFill();
     (new OvVBoxLayout(spinBoxFrame))->addItems({{xSpinboxFrame, 0}, {ySpinboxFrame, 0}});
     (new OvHBoxLayout(xSpinboxFrame))->autoFill();
     (new OvHBoxLayout(ySpinboxFrame))->autoFill();
 
-    // QLabel checks the focus policy of its buddy, not of the focus proxy.
-    q->setFocusPolicy(pointSelector->focusPolicy());
-    q->setFocusProxy(pointSelector);
+    LabelFocus::lead(q, pointSelector, pointSelector->focusPolicy());
 }
 
 void PointSelectorWidget::Private::setTexts() const
@@ -127,10 +117,9 @@ void PointSelectorWidget::Private::followPlane(const QPointF& reported)
     }
     q->updating = true;
     isOverruled = false;
-    // The reported value, unless a slot has set another one. QPointF's operator== is too coarse.
+    // The reported value, unless a slot has set another one.
     const QPointF now = pointSelector->point();
-    const bool isSame = now.x() == before.x() && now.y() == before.y();
-    const QPointF point = isSame ? reported : now;
+    const QPointF point = PointMapping::isSame(now, before) ? reported : now;
     setNumber(xSpinbox, point.x());
     if (!self) {
         return;
@@ -190,8 +179,7 @@ void PointSelectorWidget::setRange(const Initializer& range)
         d->pointSelector->setPoint(value());
     }
     const QPointF now = value();
-    // QPointF's own comparison is too coarse.
-    if (now.x() != before.x() || now.y() != before.y()) {
+    if (!PointMapping::isSame(now, before)) {
         Q_EMIT valueChanged(now);
     }
 }

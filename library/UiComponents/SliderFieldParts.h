@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include "LabelFocus.h"
+#include "NamedPart.h"
+
 #include <WidgetToolkit/OvBoxLayout.h>
 
 #include <QAbstractSpinBox>
@@ -22,10 +25,7 @@ public:
         spinBox->setObjectName(QStringLiteral("spinbox"));
 
         (new OvHBoxLayout(field))->autoFill();
-
-        // QLabel checks the focus policy of its buddy, not of the focus proxy.
-        field->setFocusPolicy(slider->focusPolicy());
-        field->setFocusProxy(slider);
+        LabelFocus::lead(field, slider, slider->focusPolicy());
     }
 
     Slider* const slider;
