@@ -39,7 +39,7 @@ Side construction()
             [] {}, [window] { window->reset(); }};
 }
 
-/// In a window, whose layout hears of it too.
+/// In a window, whose layout is invalidated too.
 template <typename Button>
 Side change()
 {

@@ -7,16 +7,16 @@
 
 #include <optional>
 
-/// A tool button that offers a colour. What it says of it, to readers and in its tool tip, it works out when
-/// it is asked. Besides the arrow keys of Qt's groups of buttons, Home and End go to the ends of its row, and
-/// Page Up and Page Down to those of its column; they check what they come to where the arrow keys would. It
-/// calls itself a QToolButton, to style sheets too.
+/// A tool button that offers a colour. Computes its tool tip and its accessible text on demand. Besides the
+/// arrow keys of Qt's groups of buttons, Home and End go to the ends of its row, and Page Up and Page Down to
+/// those of its column; they check the button there where the arrow keys would. Style sheets select it as a
+/// QToolButton.
 class ColorButton : public QToolButton // clazy:exclude=missing-qobject-macro
 {
 public:
     using QToolButton::QToolButton;
 
-    /// Invalid for no colour. Empty by default: then the place is.
+    /// Invalid for no colour; empty, the default, for an unused place.
     const std::optional<QColor>& color() const { return m_color; }
 
     /// Shows it, if it is another one.

@@ -1,4 +1,4 @@
-// Internal: colours in words, for tool tips and for those who do not see them.
+// Internal: names of colours, for tool tips and accessibility.
 
 #pragma once
 

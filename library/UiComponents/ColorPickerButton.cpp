@@ -67,14 +67,14 @@ void ColorPickerButton::Private::setPicker(AbstractColorPicker* newPicker)
 {
     newPicker->setParent(q);
     if (AbstractColorPicker* const old = picker) {
-        const QPointer<ColorPickerButton> button = q;
+        const QPointer<ColorPickerButton> self = q;
         // A picker that reports its end while it is destroyed can no longer be asked for its colour.
         old->disconnect(q);
         // Nor may the button delete it again, should its destructor delete the button.
         picker = nullptr;
         old->setParent(nullptr);
         delete old;
-        if (!button) {
+        if (!self) {
             return;
         }
         release();

@@ -31,7 +31,7 @@ GuideButton::GuideButton(QWidget* parent)
 
 GuideButton::~GuideButton()
 {
-    // The focus leaves the pop-up, and who hears of it may still call the button.
+    // Deleting the pop-up moves the focus; slots may still call the button.
     if (d->pointingWidget != d->appearing) {
         delete d->pointingWidget.data();
     }
@@ -97,7 +97,7 @@ void GuideButton::showHelp()
     const QPointer<PointingWidget> popup = d->pointingWidget;
     const QPointer<PointingWidget> outer = d->appearing;
     d->appearing = popup;
-    // Of its own, or readers would stay with the button.
+    // The pop-up takes the focus, so that screen readers announce it.
     popup->setFocus(Qt::PopupFocusReason);
     popup->show();
     if (self) {

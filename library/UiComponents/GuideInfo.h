@@ -12,7 +12,7 @@
  *                          QStringLiteral(":/guides/ripple.gif"));
  *
  * A plain value. Every field may be empty, which is the default: GuideWidget leaves it out.
- * @see GuideButton, GuideWidget
+ * @see GuideButton, GuideWidget, DialogGuideInfo
  */
 struct UICOMPONENTS_EXPORT GuideInfo
 {

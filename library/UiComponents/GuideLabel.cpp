@@ -54,15 +54,15 @@ void reformat(QTextDocument* document, Change change)
     }
 }
 
-void shrinkPictures(QTextDocument* document, int most)
+void shrinkPictures(QTextDocument* document, int maxSide)
 {
-    reformat(document, [document, most](QTextCharFormat* format) {
+    reformat(document, [document, maxSide](QTextCharFormat* format) {
         QTextImageFormat picture = format->toImageFormat();
         const QSizeF size = picture.isValid() ? sizeOf(picture, document) : QSizeF();
-        if (size.width() <= most && size.height() <= most) {
+        if (size.width() <= maxSide && size.height() <= maxSide) {
             return false;
         }
-        const QSizeF smaller = size.scaled(most, most, Qt::KeepAspectRatio).expandedTo(QSizeF(1, 1));
+        const QSizeF smaller = size.scaled(maxSide, maxSide, Qt::KeepAspectRatio).expandedTo(QSizeF(1, 1));
         picture.setWidth(smaller.width());
         picture.setHeight(smaller.height());
         *format = picture;

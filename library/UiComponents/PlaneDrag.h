@@ -49,13 +49,13 @@ public:
     static PlaneDrag* of(ColorPlaneWidget* plane);
     static PlaneDrag* of(PointSelectionPlane* plane);
 
-    /// Where the marker is, in units; how far those go, from the left and top edge, and what a pixel is.
+    /// The marker's position in units; their range, from the left and top edge; the size of a pixel.
     virtual QPointF values() const = 0;
     virtual QRectF range() const = 0;
     QSizeF step() const;
     /// As if a key had moved the marker to @p value, bounded, along the axis 0 or 1.
     void setValue(int axis, double value);
-    /// Says what is another number than @p before.
+    /// Notifies assistive technologies of each coordinate that differs from @p before.
     void announce(const QPointF& before) const;
 
 protected:

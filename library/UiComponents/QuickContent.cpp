@@ -26,9 +26,9 @@ bool isLoadable(const QUrl& url)
     if (!url.isLocalFile()) {
         return url.scheme() == QLatin1String("qrc");
     }
-    constexpr qint64 largest = 64 * 1024 * 1024;
+    constexpr qint64 maxSize = 64 * 1024 * 1024;
     const QFileInfo file(url.toLocalFile());
-    return !file.exists() || file.isDir() || (file.isFile() && file.size() <= largest);
+    return !file.exists() || file.isDir() || (file.isFile() && file.size() <= maxSize);
 }
 
 // Refuses code from other machines as well. Called in the engine's loading thread too.

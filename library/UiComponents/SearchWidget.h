@@ -70,12 +70,9 @@ public:
     void setTranslations(const QString& iconTooltip, const QString& lineEditTooltip,
                          const QString& clearButtonTooltip, const QString& placeholder);
 
-    /// @name The three properties.
-    /// @{
     QColor GetPlaceholderColor() const { return m_placeholderColor; }
     QColor GetPlaceholderHoverColor() const { return m_placeholderHoverColor; }
     QColor GetPlaceholderDisabledColor() const { return m_placeholderDisabledColor; }
-    /// @}
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -38,7 +38,7 @@ public:
     QPoint origin() const;
     QRect area() const;
     QRect areaAroundWindow() const;
-    void setShapeValue(int& value, int pixels, int most);
+    void setShapeValue(int& value, int pixels, int max);
     void reshape();
     void applyMargins();
     void fit();
@@ -184,9 +184,9 @@ QRect PointingWidget::Private::areaAroundWindow() const
     return result;
 }
 
-void PointingWidget::Private::setShapeValue(int& value, int pixels, int most)
+void PointingWidget::Private::setShapeValue(int& value, int pixels, int max)
 {
-    pixels = qBound(0, pixels, most);
+    pixels = qBound(0, pixels, max);
     if (value == pixels) {
         return;
     }
@@ -286,7 +286,7 @@ void PointingWidget::Private::appearAnew()
             }
             const QPointer<PointingWidget> self = q;
             self->QWidget::setVisible(false);
-            // Who hears of that may delete it.
+            // A slot may delete it.
             if (self) {
                 self->QWidget::setVisible(true);
             }

@@ -12,7 +12,7 @@
 namespace {
 
 // QSettings takes a larger one for an empty one, which it then writes over, or for all of the memory.
-constexpr qint64 largestFile = 64 * 1024 * 1024;
+constexpr qint64 maxFileSize = 64 * 1024 * 1024;
 
 /// Of QSettings, which is not opened to ask it: it would wait for ever for what a pipe never says. A
 /// neighbour is asked that does not exist.
@@ -34,7 +34,7 @@ std::unique_ptr<QSettings> open()
                              ? pathOf(application, application, QSettings::NativeFormat)
                              : pathOf(organization, application, QSettings::defaultFormat());
     const QFileInfo file(path);
-    if (file.exists() && (!file.isFile() || file.size() > largestFile)) {
+    if (file.exists() && (!file.isFile() || file.size() > maxFileSize)) {
         qWarning("This is no file of settings: %s", qUtf8Printable(path));
         return nullptr;
     }

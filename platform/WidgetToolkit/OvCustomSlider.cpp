@@ -73,11 +73,11 @@ private:
 // minimum to the first one behind the maximum, which has to as well, and draw every one of them.
 void makePaintable(QStyleOptionSlider& option)
 {
-    constexpr int most = 1 << 30;
+    constexpr int maxSteps = 1 << 30;
     qint64 steps = qint64(option.maximum) - option.minimum;
-    if (steps > most || option.maximum > most) {
+    if (steps > maxSteps || option.maximum > maxSteps) {
         const qint64 origin = option.minimum;
-        const int unit = steps > most ? 4 : 1;
+        const int unit = steps > maxSteps ? 4 : 1;
         for (int* number : {&option.minimum, &option.maximum, &option.sliderPosition, &option.sliderValue}) {
             *number = static_cast<int>((*number - origin) / unit);
         }

@@ -112,10 +112,10 @@ void OvPixmapWidget::Private::pauseWhileHidden()
 {
     if (!shown && movie && movie->state() == QMovie::Running) {
         playWhenShown = true;
-        const QPointer<OvPixmapWidget> alive(q);
+        const QPointer<OvPixmapWidget> self(q);
         changingState = true;
         movie->setPaused(true);
-        if (alive) {
+        if (self) {
             changingState = false;
         }
     }

@@ -53,7 +53,7 @@ void repolish(QWidget* widget, Unpolish unpolish)
     }
     QStyle* const style = widget->style();
     const bool hasSheet = widget->testAttribute(Qt::WA_StyleSheet);
-    const QPointer<QWidget> alive(widget);
+    const QPointer<QWidget> self(widget);
     std::optional<Box> before;
     if (hasSheet) {
         before.emplace(widget);
@@ -62,7 +62,7 @@ void repolish(QWidget* widget, Unpolish unpolish)
         style->unpolish(widget);
     }
     style->polish(widget);
-    if (!alive) {
+    if (!self) {
         return;
     }
     if (before && *before != Box(widget)) {
@@ -71,7 +71,7 @@ void repolish(QWidget* widget, Unpolish unpolish)
         QEvent changed(QEvent::StyleChange);
         QCoreApplication::sendEvent(widget, &changed);
     }
-    if (alive) {
+    if (self) {
         widget->update();
     }
 }
@@ -97,10 +97,10 @@ void Util::applyProperty(QWidget* widget, const char* name, const QVariant& valu
     if (isSame(before, value)) {
         return;
     }
-    const QPointer<QWidget> alive(widget);
+    const QPointer<QWidget> self(widget);
     widget->setProperty(name, value);
     // A declared property may refuse the value or convert it.
-    if (alive && !isSame(before, widget->property(name))) {
+    if (self && !isSame(before, widget->property(name))) {
         repolish(widget, Unpolish::WithoutSheet);
     }
 }

@@ -116,8 +116,8 @@ private Q_SLOTS:
 
         QRandomGenerator random(20);
         const QPoint corner = nativeCorner(m_target);
-        constexpr int Picks = 100;
-        for (int i = 0; i < Picks; ++i) {
+        constexpr int picks = 100;
+        for (int i = 0; i < picks; ++i) {
             QPoint point(random.bounded(m_target->width()), random.bounded(m_target->height()));
             // A third of them under the outline.
             if (i % 3 == 0) {
@@ -238,7 +238,7 @@ private Q_SLOTS:
                                         QString::number(window.winId()), QString::number(place.x()),
                                         QString::number(place.y())}),
                      0);
-            // Qt knows nothing of the move: what the pickers remember of the last outline is to be over.
+            // Qt gets no event of the move: what the pickers remember of the last outline is to be over.
             QTest::qWait(1100);
             const QPoint corner = place + inWindow;
             QTRY_COMPARE(pickAtNative(corner + QPoint(41, 31), false), Target::colorAt(QPoint(41, 31)));

@@ -8,7 +8,7 @@
  * Another application, in a process of its own, whose window has another colour in every pixel: what a test
  * that picks from the screen compares with.
  *
- * It knows nothing of scale factors: places and sizes are in X's own pixels. It needs a desktop-session.
+ * It has no scale factor: places and sizes are in X's own pixels. It needs a desktop-session.
  */
 class PixelPattern
 {

@@ -26,7 +26,7 @@ namespace {
 using Action = std::function<void()>;
 using Report = std::function<void()>;
 
-const QString Scheme = QStringLiteral("uic-deletion-test");
+const QString scheme = QStringLiteral("uic-deletion-test");
 
 /// A component in a window, and what makes it report.
 struct Scene
@@ -111,7 +111,7 @@ PathSelectionWidget* makeFolderField(QWidget* window)
 
 GuideInfo guideInfo()
 {
-    return {QStringLiteral("Trim"), QString(), QStringLiteral("<a href=\"%1:x\">Learn more</a>").arg(Scheme),
+    return {QStringLiteral("Trim"), QString(), QStringLiteral("<a href=\"%1:x\">Learn more</a>").arg(scheme),
             QString()};
 }
 
@@ -148,14 +148,14 @@ class tst_Deletion : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QDesktopServices::setUrlHandler(Scheme, this, "ignoreLink"); }
+    void initTestCase() { QDesktopServices::setUrlHandler(scheme, this, "ignoreLink"); }
 
-    void cleanupTestCase() { QDesktopServices::unsetUrlHandler(Scheme); }
+    void cleanupTestCase() { QDesktopServices::unsetUrlHandler(scheme); }
 
     void deletedInASlot_data()
     {
         QTest::addColumn<Make>("make");
-        QTest::addColumn<int>("report"); // the how manieth deletes
+        QTest::addColumn<int>("report"); // the index of the report that deletes
         addColorFields();
         addSliderFields();
         addPointFields();
@@ -336,7 +336,7 @@ private:
             field->setPath(QStringLiteral("/another"));
             QTRY_VERIFY(!self);
         });
-        // What a host hears of the parts.
+        // Signals of the parts, to which a host may connect.
         const auto addClick = [](const char* name, const char* button, auto make) {
             QTest::newRow(name) << Make([=](QWidget* window, const Report& report) {
                 auto* const field = make(window);

@@ -510,7 +510,7 @@ private Q_SLOTS:
         QEvent* const event = type == QEvent::Move     ? static_cast<QEvent*>(&move)
                               : type == QEvent::Resize ? static_cast<QEvent*>(&resize)
                                                        : &show;
-        // It is told through its filter, and leaves the event to the parent.
+        // Its filter leaves the event to the parent.
         QVERIFY(!bubble.eventFilter(&parent, event));
         QCOMPARE(bubble.aims, 1);
         QCoreApplication::sendEvent(&parent, event);

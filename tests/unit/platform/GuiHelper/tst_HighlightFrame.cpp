@@ -58,7 +58,7 @@ protected:
     void paintEvent(QPaintEvent* event) override { QPainter(this).fillRect(event->rect(), Qt::white); }
 };
 
-/// Counts the children that it is told of, as containers do that adopt them.
+/// Counts its child events, by which containers adopt children.
 class Container : public QWidget
 {
     Q_OBJECT
@@ -308,7 +308,7 @@ private Q_SLOTS:
         QVERIFY(target.childEvents > 1);
     }
 
-    /// QSplitter takes every child widget that it is told of as a new part.
+    /// QSplitter adopts every child widget in its child event.
     void splitterAdoptsNothing()
     {
         QSplitter splitter;
