@@ -73,8 +73,8 @@ void WidgetColorPickerButton::setColor(const QColor& color)
         return;
     }
     d->color = color;
-    Util::applyProperty(this, "nullColor", !color.isValid());
     if (d->changeSelfColor) {
+        Util::applyProperty(this, "nullColor", !color.isValid());
         setStyleSheet(QStringLiteral("QToolButton { background-color: %1 }").arg(color.name()));
         update();
     }

@@ -153,6 +153,33 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 2);
     }
 
+    void faceStaysWithoutChangeSelfColor_data()
+    {
+        QTest::addColumn<QColor>("before");
+        QTest::newRow("before the first colour") << QColor();
+        QTest::newRow("after one") << QColor(1, 2, 3);
+    }
+
+    void faceStaysWithoutChangeSelfColor()
+    {
+        QFETCH(const QColor, before);
+        m_stage->window->setStyleSheet(
+            QStringLiteral("QToolButton { border: 1px solid black; background: green; }"
+                           "QToolButton[nullColor=\"true\"] { background: red; }"));
+        m_button->setColor(before);
+        m_button->setChangeSelfColor(false);
+        const QString sheet = m_button->styleSheet();
+        const QImage face = m_button->grab().toImage();
+        for (const QColor& color : {QColor(4, 5, 6), QColor()}) {
+            QSignalSpy changed(m_button.data(), &WidgetColorPickerButton::colorChanged);
+            m_button->setColor(color);
+            QCOMPARE(m_button->color(), color);
+            QCOMPARE(changed.size(), 1);
+            QCOMPARE(m_button->styleSheet(), sheet);
+            QCOMPARE(m_button->grab().toImage(), face);
+        }
+    }
+
     void changeSelfColorIsOnlyNoted()
     {
         m_button->setChangeSelfColor(false);
