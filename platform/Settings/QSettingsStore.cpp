@@ -5,8 +5,10 @@
 #include <QFileInfo>
 #include <QSet>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -14,13 +16,38 @@ namespace {
 // QSettings takes a larger one for an empty one, which it then writes over, or for all of the memory.
 constexpr qint64 maxFileSize = 64 * 1024 * 1024;
 
-/// Of QSettings, which is not opened to ask it: it would wait for ever for what a pipe never says. A
-/// neighbour is asked that does not exist.
-QString pathOf(const QString& organization, const QString& application, QSettings::Format format)
+/// The files of the application and of its organisation, the user's own first. QSettings is not opened to ask
+/// it: it would wait for ever for what a pipe never says. It is asked for those of an organisation that does
+/// not exist.
+QStringList filesOf(const QString& organization, const QString& application, QSettings::Format format)
 {
     const QString nobody = QStringLiteral("no-organization");
-    const QFileInfo neighbour(QSettings(format, QSettings::UserScope, nobody, application).fileName());
-    return QFileInfo(neighbour.path()).dir().filePath(organization + QLatin1Char('/') + neighbour.fileName());
+    QStringList folders;
+    QString own;
+    QString shared;
+    for (const QSettings::Scope scope : {QSettings::SystemScope, QSettings::UserScope}) {
+        own = QSettings(format, scope, nobody, application).fileName();
+        shared = QSettings(format, scope, nobody).fileName();
+        folders.prepend(QFileInfo(shared).path());
+    }
+    folders += QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+    QStringList files;
+    for (const QString& folder : qAsConst(folders)) {
+        const QDir place(folder);
+        files += place.filePath(organization + QLatin1Char('/') + QFileInfo(own).fileName());
+        files += place.filePath(organization + QLatin1Char('.') + QFileInfo(shared).suffix());
+    }
+    return files;
+}
+
+bool isReadable(const QString& path)
+{
+    const QFileInfo file(path);
+    const bool isGood = !file.exists() || (file.isFile() && file.size() <= maxFileSize);
+    if (!isGood) {
+        qWarning("This is no file of settings: %s", qUtf8Printable(path));
+    }
+    return isGood;
 }
 
 // Opened for each call: the host may construct widgets before it sets its organisation and name. Null where
@@ -30,16 +57,17 @@ std::unique_ptr<QSettings> open()
     const QString name = QCoreApplication::organizationName();
     const QString organization = name.isEmpty() ? QCoreApplication::organizationDomain() : name;
     const QString application = QCoreApplication::applicationName();
-    const QString path = organization.isEmpty()
-                             ? pathOf(application, application, QSettings::NativeFormat)
-                             : pathOf(organization, application, QSettings::defaultFormat());
-    const QFileInfo file(path);
-    if (file.exists() && (!file.isFile() || file.size() > maxFileSize)) {
-        qWarning("This is no file of settings: %s", qUtf8Printable(path));
+    const bool isNamed = !organization.isEmpty();
+    const QSettings::Format format = isNamed ? QSettings::defaultFormat() : QSettings::NativeFormat;
+    const QStringList files = filesOf(isNamed ? organization : application, application, format);
+    if (!isReadable(files.constFirst())) {
         return nullptr;
     }
-    return organization.isEmpty() ? std::make_unique<QSettings>(application, application)
-                                  : std::make_unique<QSettings>();
+    if (!std::all_of(files.begin(), files.end(), isReadable)) {
+        // The user's settings do without those of the organisation and of the system.
+        return std::make_unique<QSettings>(files.constFirst(), format);
+    }
+    return isNamed ? std::make_unique<QSettings>() : std::make_unique<QSettings>(application, application);
 }
 
 QByteArray contentsOf(const QString& path)
