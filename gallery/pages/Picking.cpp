@@ -69,15 +69,17 @@ QListWidget* makePickedColors(const Pipette* pipette)
     return list;
 }
 
-/// Has @p button say why when there is nothing to pick with.
-void followAvailability(QPushButton* button)
+/// Has @p button, which starts @p pipette, say why when there is nothing to pick with, or the last pick
+/// failed.
+void followAvailability(QPushButton* button, const Pipette* pipette)
 {
-    const auto show = [button] {
+    const auto show = [button, pipette] {
         const QString reason = Pipette::unavailableReason();
         button->setEnabled(reason.isEmpty());
-        button->setToolTip(reason);
+        button->setToolTip(reason.isEmpty() ? pipette->failureReason() : reason);
     };
     show();
+    QObject::connect(pipette, &Pipette::pickingStopped, button, show);
     if (const ScreenColorSource* const source = ScreenColorSource::current()) {
         QObject::connect(source, &ScreenColorSource::unavailableReasonChanged, button, show);
     }
@@ -106,7 +108,7 @@ void PageRegistry::pipette(Page* page)
     auto* start = new QPushButton(tr("Pick a colour from the screen"));
     start->setObjectName(QStringLiteral("startPipette"));
     QObject::connect(start, &QPushButton::clicked, pipette, &Pipette::startPicking);
-    followAvailability(start);
+    followAvailability(start, pipette);
     page->addDemonstration(QString(), start);
     page->addDemonstration(tr("What it picked, the latest first"), makePickedColors(pipette));
     const auto loupes = page->addTwins<LoupeWidget>(tr("The loupe by itself"), &setUpLoupe);

@@ -99,6 +99,10 @@ ColorPortal::ColorPortal(const QDBusConnection& bus, QObject* parent, int timeLi
 
 QString ColorPortal::unavailableReason() const
 {
+    if (m_trouble != Trouble::None && !isLasting(m_trouble) && !m_question) {
+        // The answer comes from the event loop: nothing changes here and now.
+        const_cast<ColorPortal*>(this)->askForVersion();
+    }
     return text(m_trouble);
 }
 
@@ -130,6 +134,7 @@ void ColorPortal::askForVersion()
         portalCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
                    {screenshotInterface(), QStringLiteral("version")});
     auto* const watcher = new QDBusPendingCallWatcher(send(question), this);
+    m_question = watcher;
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         constexpr uint firstWithColors = 2;

@@ -17,7 +17,8 @@ class QDBusMessage;
  *
  * The portal may be started by the first message to it. It is asked for its version when this is made: from 2
  * on it can pick colours. Then, and whenever it starts again, unavailableReason() follows what it says; and
- * until its first answer colours count as available, which a request would find out as well.
+ * until its first answer colours count as available, which a request would find out as well. While it has not
+ * answered in time, or has refused, each look at unavailableReason() asks anew.
  *
  * Nothing waits for the portal. It has to take a request within the time limit; the user has all the time.
  */
@@ -54,6 +55,8 @@ private:
     const QDBusConnection m_bus;
     const int m_timeLimit;
     Trouble m_trouble = Trouble::None;
+    /// The latest, until everybody has heard what came of it.
+    QPointer<QObject> m_question;
 };
 
 /// One request to the portal. Its death withdraws it.

@@ -69,9 +69,10 @@ public:
     class Run;
 
     void request(Pipette* pipette, ScreenColorSource* source);
-    void finish(Pipette* pipette, const QColor& color);
+    void finish(Pipette* pipette, const ScreenColorSource::Result& result);
 
     QColor currentColor;
+    QString failureReason;
     /// One, unless startPicking() was called during a pick.
     QVector<Run*> runs;
     /// What a ScreenColorSource has instead of runs.
@@ -334,25 +335,25 @@ void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
     const bool isPicked = isSucceeded && QGuiApplication::screenAt(cursorPos);
     const QColor color = isPicked ? m_reader.colorAt(cursorPos) : QColor();
     if (m_pipette) {
-        m_pipette->d->finish(m_pipette, color);
+        m_pipette->d->finish(m_pipette, {color, {}});
     }
 }
 
 void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)
 {
     const QWidget* const window = QApplication::activeWindow();
-    requests.push_back(source->pick(
-        window ? window->windowHandle() : nullptr,
-        [this, pipette](const ScreenColorSource::Result& result) { finish(pipette, result.color); }));
+    requests.push_back(
+        source->pick(window ? window->windowHandle() : nullptr,
+                     [this, pipette](const ScreenColorSource::Result& result) { finish(pipette, result); }));
 }
 
-/// Of an invalid @p color only the end is reported. Not a part of the functions that call it: neither a run
-/// nor a request may be there when a slot returns.
-void Pipette::Impl::finish(Pipette* pipette, const QColor& color)
+/// Not a part of the functions that call it: neither a run nor a request may be there when a slot returns.
+void Pipette::Impl::finish(Pipette* pipette, const ScreenColorSource::Result& result)
 {
-    if (color.isValid()) {
+    failureReason = result.color.isValid() ? QString() : result.reason;
+    if (result.color.isValid()) {
         // A copy: a slot may start another pick, which resets the color.
-        const QColor selected = currentColor = color;
+        const QColor selected = currentColor = result.color;
         const QPointer<Pipette> self = pipette;
         const int endsBefore = ends;
         Q_EMIT pipette->colorSelected(selected);
@@ -381,10 +382,16 @@ QString Pipette::unavailableReason()
     return source ? source->unavailableReason() : QString();
 }
 
+QString Pipette::failureReason() const
+{
+    return d->failureReason;
+}
+
 void Pipette::startPicking()
 {
     ScreenColorSource* const source = ScreenColorSource::current();
-    if (source ? !source->unavailableReason().isEmpty() : !mayReadScreen()) {
+    d->failureReason = source ? source->unavailableReason() : QString();
+    if (source ? !d->failureReason.isEmpty() : !mayReadScreen()) {
         askForScreen();
         return;
     }

@@ -53,6 +53,11 @@ public:
     /// ScreenColorSource::unavailableReasonChanged() of the current source, if there is one.
     static QString unavailableReason();
 
+    /// Why the last startPicking() brought no colour although the user did not give up, in a sentence for the
+    /// user, such as a tool tip: what the ScreenColorSource said, or unavailableReason() where no pick began.
+    /// Empty otherwise, and during a pick; set before pickingStopped().
+    QString failureReason() const;
+
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Where the permission to
     /// read the screen is missing (see PrivacyAccess.h) it asks for it and does nothing else. A call while
     /// the pipette picks puts a second set of windows and a second loupe over the first; the trace of one set

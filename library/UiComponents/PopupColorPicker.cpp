@@ -283,12 +283,15 @@ void PopupColorPicker::Private::showColor()
 /// The panel knows of the screen only, and other pickers may have shown it before.
 void PopupColorPicker::Private::showPipetteState() const
 {
-    const QString reason = hostsPipette ? QString() : Pipette::unavailableReason();
+    QString reason = hostsPipette ? QString() : Pipette::unavailableReason();
     auto* const button = popup && popup->panel
                              ? popup->panel->findChild<QToolButton*>(QStringLiteral("pipetteButton"))
                              : nullptr;
     if (button) {
         button->setEnabled(reason.isEmpty());
+        if (reason.isEmpty() && pipette && !hostsPipette) {
+            reason = pipette->failureReason();
+        }
         button->setToolTip(reason);
     }
 }

@@ -63,7 +63,7 @@ public:
 
     /// Sets what the panel's pipette button starts, for example a WidgetColorPicker. It is not owned; null,
     /// the default, stands for a Pipette: where that can do nothing (see Pipette::unavailableReason()) the
-    /// pop-up opens with the button disabled.
+    /// pop-up opens with the button disabled. The button's tool tip says why, and why the last pick failed.
     void setPipette(AbstractColorPicker* pipette);
 
     /// The panel while the pop-up is open or a pipette runs, else null.

@@ -132,8 +132,40 @@ private Q_SLOTS:
         // Nobody reads what comes to this connection, as in a service that hangs.
         m_service->bus.registerVirtualObject(TestPortal::path(), &m_silence, QDBusConnection::SubPath);
         QVERIFY(m_service->bus.registerService(TestPortal::name()));
+        const int before = m_silence.questions;
         makePortal(shortTime);
-        QTRY_VERIFY(!m_portal->unavailableReason().isEmpty());
+        QSignalSpy changes(m_portal.get(), &ScreenColorSource::unavailableReasonChanged);
+        // Who hears of it may look, and that asks nothing.
+        connect(m_portal.get(), &ScreenColorSource::unavailableReasonChanged, this,
+                [this] { m_portal->unavailableReason(); });
+        QVERIFY(changes.wait());
+        QVERIFY(!m_portal->unavailableReason().isEmpty());
+        QCOMPARE(m_silence.questions, before + 1);
+
+        // It answers now, without having been started again.
+        m_service->bus.unregisterObject(TestPortal::path(), QDBusConnection::UnregisterTree);
+        QVERIFY(m_service->start());
+        QTRY_VERIFY(m_portal->unavailableReason().isEmpty());
+        QCOMPARE(changes.count(), 2);
+    }
+
+    void looksAskOnceAtATime()
+    {
+        m_service->bus.registerVirtualObject(TestPortal::path(), &m_silence, QDBusConnection::SubPath);
+        QVERIFY(m_service->bus.registerService(TestPortal::name()));
+        makePortal(shortTime);
+        QSignalSpy changes(m_portal.get(), &ScreenColorSource::unavailableReasonChanged);
+        QVERIFY(changes.wait());
+        QTRY_COMPARE(m_portal->findChildren<QDBusPendingCallWatcher*>().size(), 0);
+        const int before = m_silence.questions;
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY(!m_portal->unavailableReason().isEmpty());
+        }
+        flush();
+        QCOMPARE(m_silence.questions, before + 1);
+        // The same answer is no news.
+        QTRY_COMPARE(m_portal->findChildren<QDBusPendingCallWatcher*>().size(), 0);
+        QCOMPARE(changes.count(), 1);
     }
 
     void answers_data()
@@ -367,8 +399,11 @@ private:
         bool handleMessage(const QDBusMessage& message, const QDBusConnection& /*connection*/) override
         {
             message.setDelayedReply(true);
+            ++questions;
             return true;
         }
+
+        int questions = 0;
     };
 
     void makePortal(int timeLimit = -1)

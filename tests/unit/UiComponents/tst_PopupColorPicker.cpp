@@ -473,6 +473,25 @@ private Q_SLOTS:
         }
     }
 
+    void toolTipSaysWhyThePipetteFailed()
+    {
+        FakeScreenColors screen;
+        ScreenColorSource::install(&screen);
+        const QColor before(10, 20, 30);
+        m_button->setColor(before);
+        m_button->startPicking();
+        const QString reason = QStringLiteral("it does not answer");
+        for (const auto& result : {ScreenColorSource::Result{{}, reason}, ScreenColorSource::Result{}}) {
+            child<QToolButton>("pipetteButton")->click();
+            QVERIFY(!popup()->isVisible());
+            screen.requests.constLast().answer(result);
+            QTRY_VERIFY(popup()->isVisible());
+            QCOMPARE(child<QToolButton>("pipetteButton")->toolTip(), result.reason);
+            QVERIFY(child<QToolButton>("pipetteButton")->isEnabled());
+            QCOMPARE(m_button->color(), Color(before));
+        }
+    }
+
     void stopEndsThePipetteToo_data()
     {
         QTest::addColumn<bool>("isHosts");

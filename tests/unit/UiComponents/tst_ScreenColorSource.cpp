@@ -138,8 +138,14 @@ private Q_SLOTS:
         stage.answer(0, {color, reason});
         QCOMPARE(stage.log, reports);
         QCOMPARE(stage.pipette->currentColor(), color);
+        QCOMPARE(stage.pipette->failureReason(), reason);
         QVERIFY(!stage.source.requests.constFirst().handle);
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
+        // Nothing has failed any more.
+        stage.pipette->startPicking();
+        QCOMPARE(stage.pipette->failureReason(), QString());
+        stage.pipette->stopPicking();
+        QCOMPARE(stage.pipette->failureReason(), QString());
     }
 
     void requestBelongsToTheActiveWindow()
@@ -162,11 +168,13 @@ private Q_SLOTS:
         QCOMPARE(Pipette::unavailableReason(), reason);
         stage.pipette->startPicking();
         QCOMPARE(stage.log, QStringList());
+        QCOMPARE(stage.pipette->failureReason(), reason);
         QVERIFY(stage.source.requests.isEmpty());
         QCOMPARE(FakePrivacy::requests.size(), 1);
 
         stage.source.setReason({});
         stage.pipette->startPicking();
+        QCOMPARE(stage.pipette->failureReason(), QString());
         QCOMPARE(stage.source.requests.size(), 1);
         QCOMPARE(FakePrivacy::requests.size(), 1);
     }
