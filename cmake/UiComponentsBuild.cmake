@@ -126,6 +126,8 @@ function(uic_library name)
     else()
         target_link_options(${library} PRIVATE ${UICOMPONENTS_LINK_OPTIONS})
     endif()
+    # What is one in the whole program keeps its library from ever being unloaded.
+    target_compile_options(${library} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     # While the major version is 0, a new minor version may break its users.
     set(soversion ${PROJECT_VERSION_MAJOR})
     if(soversion EQUAL 0)

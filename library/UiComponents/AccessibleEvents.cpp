@@ -1,5 +1,7 @@
 #include "AccessibleEvents.h"
 
+#include "LibraryObject.h"
+
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QEvent>
@@ -43,7 +45,7 @@ public:
     {
         static QPointer<UntilRelease> running;
         if (!running) {
-            running = new UntilRelease(QCoreApplication::instance());
+            running = new UntilRelease;
         }
         running->add(widget, index);
     }
@@ -66,15 +68,15 @@ private:
         int index;
     };
 
-    explicit UntilRelease(QCoreApplication* application)
-        : QObject(application)
+    UntilRelease()
+        : QObject(libraryObject())
     {
     }
 
     void add(QWidget* widget, int index)
     {
         if (m_changes.isEmpty()) {
-            parent()->installEventFilter(this);
+            QCoreApplication::instance()->installEventFilter(this);
         }
         for (const Change& change : qAsConst(m_changes)) {
             if (change.widget == widget && change.index == index) {
@@ -87,7 +89,7 @@ private:
     void sendAll()
     {
         const auto changes = std::exchange(m_changes, {});
-        parent()->removeEventFilter(this);
+        QCoreApplication::instance()->removeEventFilter(this);
         for (const Change& change : changes) {
             if (change.widget) {
                 send(change.widget, change.index);

@@ -13,7 +13,6 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 #ifdef QT_X11EXTRAS_LIB
 #include <QX11Info>
@@ -263,7 +262,7 @@ void Pipette::Impl::Run::end()
         for (QScreen* screen : screens) {
             m_reader.refresh(screen->geometry(), *screen);
         }
-        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = m_reader] {});
+        m_reader.settle();
     }
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {

@@ -3,6 +3,7 @@
 #ifdef QT_DBUS_LIB
 #include "ColorPortal.h"
 #endif
+#include "LibraryObject.h"
 #include "ScreenReader.h"
 
 #include <QGuiApplication>
@@ -21,7 +22,7 @@ ScreenColorSource* portal()
 #ifdef QT_DBUS_LIB
     static QPointer<ColorPortal> portal;
     if (!portal) {
-        portal = new ColorPortal(QDBusConnection::sessionBus(), qApp);
+        portal = new ColorPortal(QDBusConnection::sessionBus(), libraryObject());
     }
     return portal;
 #else

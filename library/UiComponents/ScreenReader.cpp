@@ -1,10 +1,13 @@
 #include "ScreenReader.h"
 
+#include "LibraryObject.h"
+
 #include <QtUtility/PrivacyAccess.h>
 
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QtMath>
 #ifdef QT_X11EXTRAS_LIB
@@ -210,8 +213,7 @@ ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& sourc
     }
     m_memory = present.lock();
     if (!m_memory || m_memory->source != &source || m_memory->screens != all) {
-        // Not std::make_shared(): see the constructor of WidgetColorPicker.
-        m_memory.reset(new Memory{&source, all, {}, {}, {}});
+        m_memory = std::make_shared<Memory>(Memory{&source, all, {}, {}, {}});
         present = m_memory;
     }
     if (source.grabs() == ScreenSource::Grabs::Always) {
@@ -269,6 +271,13 @@ void ScreenReader::refresh(const QRect& area, QScreen& screen)
         const QRect pixels = toDevice(area, screen);
         grab(screen, QRegion(pixels) - hidden(pixels));
     }
+}
+
+void ScreenReader::settle() const
+{
+    auto* const timer = new QTimer(libraryObject());
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, kept = *this] { timer->deleteLater(); });
+    timer->start(settleTime);
 }
 
 QColor ScreenReader::colorAt(const QPointF& position)

@@ -51,8 +51,8 @@ public:
  * the picker paints. Pixels that hold such a painting, or held one lately, come from the picture, and so does
  * all below a cover that has just come. All others are grabbed, which refreshes the picture.
  *
- * All readers that exist at a time share what they know. Copies are one reader; keep one for settleTime after
- * a pick, or the next picker takes what is left of it on the screens for what is to be picked.
+ * All readers that exist at a time share what they know. Copies are one reader; settle() after a pick, or the
+ * next picker takes what is left of it on the screens for what is to be picked.
  *
  * What it is given is in points of the desktop. Inside, everything is in device pixels of the desktop: a
  * screen keeps its corner, and has a ratio of them to a point.
@@ -94,6 +94,9 @@ public:
 
     /// Looks at the part @p area of a screen before something is painted there.
     void refresh(const QRect& area, QScreen& screen);
+
+    /// Keeps what is known for settleTime more.
+    void settle() const;
 
     /// The opaque color at @p position, which lies between two points where the mouse is on a scaled screen.
     /// Where there is no picture it is black below an overlay and invalid otherwise; invalid on no screen.

@@ -1,6 +1,7 @@
 #include "WidgetColorPicker.h"
 
 #include "CursorGuard.h"
+#include "LibraryObject.h"
 #include "ScreenReader.h"
 #include "WidgetColorPickerStylingObject.h"
 
@@ -10,7 +11,6 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QTimer>
 #include <QVector>
 #include <QWidget>
 #include <QWindow>
@@ -45,7 +45,7 @@ class SwallowedPress : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:
     SwallowedPress()
-        : QObject(qGuiApp)
+        : QObject(libraryObject())
     {
         qGuiApp->installEventFilter(this);
     }
@@ -137,7 +137,7 @@ void WidgetColorPicker::Private::removeOutline(Run& of)
     if (highlightFrame) {
         highlightFrame.reset();
         of.reader->remove(this);
-        QTimer::singleShot(ScreenReader::settleTime, qApp, [kept = of.reader] {});
+        of.reader->settle();
     }
 }
 
@@ -252,9 +252,7 @@ QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) con
 }
 
 WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
-    // Not std::make_shared(): it has an object that is one in the whole program, and a library with such an
-    // object is never unloaded.
-    : d(new Private)
+    : d(std::make_shared<Private>())
 {
     d->owner = this;
     d->widgets = {widgets.begin(), widgets.end()};

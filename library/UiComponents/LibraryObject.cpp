@@ -1,0 +1,35 @@
+#include "LibraryObject.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+namespace {
+
+class Owner
+{
+public:
+    Owner() = default;
+    ~Owner() { delete m_object; }
+    Owner(const Owner&) = delete;
+    Owner& operator=(const Owner&) = delete;
+
+    QObject* object()
+    {
+        // It may have died with an application before the present one.
+        if (!m_object) {
+            m_object = new QObject(QCoreApplication::instance());
+        }
+        return m_object;
+    }
+
+private:
+    QPointer<QObject> m_object;
+};
+
+} // namespace
+
+QObject* libraryObject()
+{
+    static Owner owner;
+    return owner.object();
+}
