@@ -1,10 +1,14 @@
 #include "PortalStage.h"
 #include "RealInput.h"
+#include "RunScript.h"
 #include "TestMain.h"
+#include "WaylandInput.h"
 
 #include <EditorWidgets/PointingWidget.h>
+#include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/Pipette.h>
+#include <UiComponents/PopupColorPicker.h>
 #include <WidgetToolkit/OvFrame.h>
 
 #include <QDBusServiceWatcher>
@@ -14,9 +18,13 @@
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
 #include <gallery/PageRegistry.h>
+#include <gallery/StyleController.h>
 #include <numeric>
 
 namespace {
+
+constexpr int patience = 60000; // ms, for another program to start
+const QColor Green(0, 128, 0);
 
 /// A portal on the session's bus, with a connection of its own.
 struct Desktop
@@ -40,8 +48,13 @@ struct Desktop
         TestPortal(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal")));
 };
 
-/// Whether the compositor shows @p window, in the middle of the screen, as it paints itself. Pictures may
-/// move on meanwhile.
+QRect placeOf(const QWidget& widget)
+{
+    return {WaylandInput::placeOf(&widget, {}), widget.size()};
+}
+
+/// Whether the compositor shows @p window where it is known to be, as it paints itself. Pictures may move on
+/// meanwhile.
 bool isShown(QWidget& window, const QString& screenshot)
 {
     const QDir folder(qEnvironmentVariable("UIC_SCREENSHOTS", QDir::tempPath()));
@@ -49,9 +62,7 @@ bool isShown(QWidget& window, const QString& screenshot)
         return false;
     }
     const QImage screen(folder.filePath(screenshot + QStringLiteral(".png")));
-    QRect place(QPoint(), window.size());
-    place.moveTopLeft(QPoint(screen.width() - place.width(), screen.height() - place.height()) / 2);
-    const QImage shown = screen.copy(place).convertToFormat(QImage::Format_RGB32);
+    const QImage shown = screen.copy(placeOf(window)).convertToFormat(QImage::Format_RGB32);
     const QImage painted = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
     if (shown.size() != painted.size()) {
         return false;
@@ -81,9 +92,19 @@ private Q_SLOTS:
     {
         QVERIFY(QGuiApplication::platformName().startsWith(QLatin1String("wayland")));
         GalleryApplication::prepare();
+        QVERIFY(StyleController().setStyle(QStringLiteral("dark")));
     }
 
     void cleanup() { m_window.reset(); }
+
+    void runStartsTheGallery()
+    {
+        RunScript script;
+        QVERIFY(script.start({QStringLiteral("--page"), QStringLiteral("pipette")}));
+        QTRY_COMPARE_WITH_TIMEOUT(script.shell(), QStringLiteral("xdg_shell"), patience);
+        QVERIFY(script.packages().contains("qtwayland5"));
+        QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-run")));
+    }
 
     void everyPageIsShown_data()
     {
@@ -115,18 +136,50 @@ private Q_SLOTS:
 
         PointingWidget bubble(&window);
         bubble.contentFrame()->setFixedSize(150, 60);
+        bubble.contentFrame()->setStyleSheet(QStringLiteral("background: %1;").arg(Green.name()));
         bubble.pointTo(window.mapToGlobal(QPoint(100, window.height() - 20)));
         bubble.show();
         QVERIFY(QTest::qWaitForWindowExposed(&bubble));
         QCOMPARE(bubble.effectiveArrowSide(), PointingWidget::ArrowSide::Bottom);
-        QVERIFY(window.geometry().contains(bubble.geometry()));
+        QVERIFY(placeOf(window).contains(placeOf(bubble)));
+        QTRY_COMPARE(RealInput::pixel(bubble.contentFrame(), QPoint(75, 30)), Green);
+        bubble.hide();
 
         QVERIFY(RealInput::click(panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))));
         QWidget* selector = nullptr;
         QTRY_VERIFY((selector = QApplication::activePopupWidget()));
-        QTRY_VERIFY(window.geometry().contains(selector->geometry()));
         QVERIFY(QTest::qWaitForWindowExposed(selector));
-        QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-popups")));
+        QTRY_VERIFY(isShown(*selector, QStringLiteral("wayland-selector")));
+        QVERIFY(placeOf(window).contains(placeOf(*selector)));
+    }
+
+    void panelStaysWithItsField_data()
+    {
+        QTest::addColumn<QPoint>("field");
+
+        QTest::newRow("room below") << QPoint(20, 30);
+        QTest::newRow("room above") << QPoint(640, 670);
+        QTest::newRow("room at the side") << QPoint(20, 350);
+    }
+
+    void panelStaysWithItsField()
+    {
+        QFETCH(const QPoint, field);
+        QWidget window;
+        window.resize(700, 700);
+        ColorPickerButton button(&window);
+        button.setPicker(new PopupColorPicker);
+        button.move(field);
+        QVERIFY(RealInput::showAndActivate(&window));
+        QVERIFY(RealInput::click(&button));
+        QWidget* panel = nullptr;
+        QTRY_VERIFY((panel = QApplication::activePopupWidget()));
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        QTRY_VERIFY(isShown(*panel, QStringLiteral("wayland-panel")));
+        QVERIFY(placeOf(window).contains(placeOf(*panel)));
+        QVERIFY(!placeOf(button).intersects(placeOf(*panel)));
+        constexpr int near = 8;
+        QVERIFY(placeOf(button).adjusted(-near, -near, near, near).intersects(placeOf(*panel)));
     }
 
     void buttonsSayThatThereIsNoPortal()
@@ -136,11 +189,14 @@ private Q_SLOTS:
         QTRY_VERIFY(!start->isEnabled());
         QCOMPARE(start->toolTip(), Pipette::unavailableReason());
         ColorPickerWidget panel(nullptr, false);
-        QVERIFY(!panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+        const auto* const button = panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"));
+        QVERIFY(!button->isEnabled());
+        QCOMPARE(button->toolTip(), Pipette::unavailableReason());
 
         const Desktop desktop;
         QTRY_VERIFY(start->isEnabled());
-        QVERIFY(panel.findChild<QToolButton*>(QStringLiteral("pipetteButton"))->isEnabled());
+        QVERIFY(button->isEnabled());
+        QCOMPARE(button->toolTip(), QString());
     }
 
     void pipettePicksThroughThePortal()
@@ -158,6 +214,15 @@ private Q_SLOTS:
         QTRY_COMPARE(picked->count(), 1);
         QCOMPARE(picked->item(0)->text(), QStringLiteral("#123456"));
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("wayland-picked")));
+        QCOMPARE(start->toolTip(), QString());
+
+        QVERIFY(RealInput::click(start));
+        QTRY_COMPARE(desktop.portal.requests.size(), 2);
+        constexpr uint endedOtherwise = 2;
+        desktop.portal.respond(1, endedOtherwise, {});
+        QTRY_VERIFY(!start->toolTip().isEmpty());
+        QVERIFY(start->isEnabled());
+        QCOMPARE(picked->count(), 1);
     }
 
     void pipetteStopsThePortal()

@@ -1,4 +1,5 @@
 #include "RealInput.h"
+#include "RunScript.h"
 #include "TestMain.h"
 #include "WaylandInput.h"
 
@@ -27,6 +28,25 @@ private Q_SLOTS:
         QVERIFY(isNumber);
     }
 
+    void runTakesXwayland_data()
+    {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<QString>("shell");
+
+        QTest::newRow("by itself") << QString() << QStringLiteral("xwayland");
+        QTest::newRow("unless it is told") << QStringLiteral("wayland") << QStringLiteral("xdg_shell");
+    }
+
+    void runTakesXwayland()
+    {
+        QFETCH(const QString, platform);
+        QFETCH(const QString, shell);
+        RunScript script;
+        QVERIFY(script.start({}, platform));
+        constexpr int patience = 60000; // ms
+        QTRY_COMPARE_WITH_TIMEOUT(script.shell(), shell, patience);
+    }
+
     void picksEnd_data()
     {
         QTest::addColumn<bool>("isPicked");
@@ -50,7 +70,7 @@ private Q_SLOTS:
         connect(&pipette, &Pipette::pickingStarted, this, [&log] { log += QStringLiteral("started"); });
         connect(&pipette, &Pipette::pickingStopped, this, [&log] { log += QStringLiteral("stopped"); });
         connect(&pipette, &Pipette::colorSelected, this, [&log](const QColor& color) {
-            QCOMPARE(color.alpha(), 255);
+            QCOMPARE(color, QColor(Qt::black));
             log += QStringLiteral("color");
         });
         pipette.startPicking();

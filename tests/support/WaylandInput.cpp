@@ -151,30 +151,44 @@ VirtualPointer& pointer()
     return pointer;
 }
 
-/// The place of @p window, as it is in or below @p node of the compositor's tree. Qt may add the
-/// application's name to a title, and gives windows without one that name.
-QRect find(const QJsonObject& node, const QWindow& window)
+QJsonObject compositorsTree()
+{
+    const QByteArray tree = outputOf(
+        QStringLiteral("swaymsg"), {QStringLiteral("-r"), QStringLiteral("-t"), QStringLiteral("get_tree")});
+    return QJsonDocument::fromJson(tree).object();
+}
+
+/// Calls @p visit with @p node and all below it, until it returns true.
+template <typename Visit>
+bool visitAll(const QJsonObject& node, const Visit& visit)
+{
+    if (visit(node)) {
+        return true;
+    }
+    for (const char* list : {"nodes", "floating_nodes"}) {
+        const QJsonArray children = node.value(QLatin1String(list)).toArray();
+        for (const QJsonValue& child : children) {
+            if (visitAll(child.toObject(), visit)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// The place that @p node says, if that is @p window. Qt may add the application's name to a title, and gives
+/// windows without one that name.
+QRect placeIn(const QJsonObject& node, const QWindow& window)
 {
     const QJsonObject rectangle = node.value(QLatin1String("rect")).toObject();
     const auto number = [&rectangle](const char* name) {
         return rectangle.value(QLatin1String(name)).toInt();
     };
     const QRect place(number("x"), number("y"), number("width"), number("height"));
-    if (node.value(QLatin1String("pid")).toInt() == int(QCoreApplication::applicationPid()) &&
-        node.value(QLatin1String("name")).toString().startsWith(window.title()) &&
-        place.size() == window.size()) {
-        return place;
-    }
-    for (const char* list : {"nodes", "floating_nodes"}) {
-        const QJsonArray children = node.value(QLatin1String(list)).toArray();
-        for (const QJsonValue& child : children) {
-            const QRect found = find(child.toObject(), window);
-            if (found.isValid()) {
-                return found;
-            }
-        }
-    }
-    return {};
+    const bool isIt = node.value(QLatin1String("pid")).toInt() == int(QCoreApplication::applicationPid()) &&
+                      node.value(QLatin1String("name")).toString().startsWith(window.title()) &&
+                      place.size() == window.size();
+    return isIt ? place : QRect();
 }
 
 QPoint cornerOf(const QWindow* window)
@@ -184,9 +198,11 @@ QPoint cornerOf(const QWindow* window)
     if (isPopup && parent) {
         return cornerOf(parent) + window->position() - parent->position();
     }
-    const QByteArray tree = outputOf(
-        QStringLiteral("swaymsg"), {QStringLiteral("-r"), QStringLiteral("-t"), QStringLiteral("get_tree")});
-    const QRect place = find(QJsonDocument::fromJson(tree).object(), *window);
+    QRect place;
+    visitAll(compositorsTree(), [&](const QJsonObject& node) {
+        place = placeIn(node, *window);
+        return place.isValid();
+    });
     return place.isValid() ? place.topLeft() : QPoint(-1, -1);
 }
 
@@ -234,6 +250,17 @@ bool WaylandInput::key(const QString& name)
         arguments << QStringLiteral("-M") << modifier;
     }
     return QProcess::execute(QStringLiteral("wtype"), arguments << QStringLiteral("-k") << last) == 0;
+}
+
+QString WaylandInput::shellOf(qint64 pid)
+{
+    QString shell;
+    visitAll(compositorsTree(), [&](const QJsonObject& node) {
+        const bool isIt = node.value(QLatin1String("pid")).toInt() == pid;
+        shell = isIt ? node.value(QLatin1String("shell")).toString() : QString();
+        return isIt;
+    });
+    return shell;
 }
 
 QColor WaylandInput::pixel(const QPoint& place)

@@ -24,6 +24,10 @@ bool turnWheel(int notches);
 bool type(const QString& text);
 bool key(const QString& name);
 
+/// By which protocol the program of the process @p pid has its window, "xdg_shell" on Wayland itself or
+/// "xwayland". Empty when the compositor shows none.
+QString shellOf(qint64 pid);
+
 QColor pixel(const QPoint& place);
 bool saveScreenshot(const QString& fileName);
 
