@@ -25,7 +25,8 @@
  * another root count from the next of these on.
  *
  * **Layout.** The size-adjust policy is QAbstractScrollArea::AdjustToContents. The width of the contents
- * follows the viewport's.
+ * follows the viewport's: do not set a gridSize() without a width, or QListView, which goes from cell to cell
+ * of it, never comes to the end of a row.
  *
  * **Readers** find a list, as any other of Qt.
  *

@@ -483,7 +483,7 @@ void setProperty(World& world, QObject* object)
     if (name.endsWith("fix") || name == "specialValueText") {
         value = value.toString().left(mostLetters); // a spin box gets as wide as these
     }
-    if (!value.isValid()) {
+    if (!value.isValid() || !Exceptions::maySet(name, value)) {
         return;
     }
     const Under under(world, doingOf(name), object, name);
@@ -622,7 +622,7 @@ void letEventsRun(World& world)
 void grab(World& world)
 {
     QWidget* const widget = world.anyWidget();
-    if (!widget || widget->width() > 3000 || widget->height() > 3000) {
+    if (!widget || widget->width() > 3000 || widget->height() > 3000 || !Exceptions::mayGrab(widget)) {
         return;
     }
     const Under under(world, Doing::Other, widget, "grab");

@@ -13,6 +13,12 @@ int forbidding(const World& world, const QObject* victim);
 /// Whether a slot must not run an event loop, as @p world stands.
 bool forbidsLoop(const World& world);
 
+/// Whether Qt survives that a property of that name gets @p value.
+bool maySet(const QByteArray& property, const QVariant& value);
+
+/// Whether Qt survives that @p widget is painted into a picture.
+bool mayGrab(const QWidget* widget);
+
 /// Whether a warning of this text is the answer to what the program did, and no defect.
 bool isExpected(const QString& message);
 

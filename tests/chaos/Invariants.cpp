@@ -119,7 +119,9 @@ QVector<QObject*> leftovers()
     std::map<QByteArray, int> counts;
     QVector<QObject*> left;
     for (QObject* object : newOnes(objects)) {
-        const bool isSeen = object->isWidgetType() || object->isWindowType();
+        // The last drag's picture stays as a hidden window, for the next one.
+        const bool isSeen =
+            object->isWidgetType() || (object->isWindowType() && !object->inherits("QShapedPixmapWindow"));
         if (!isQts(object) || isSeen || ++counts[typeOf(object)] > few) {
             left.append(object);
         }
