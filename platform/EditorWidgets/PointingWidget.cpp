@@ -80,6 +80,9 @@ public:
     /// since the position of a window that has just appeared is not reliable. More would never end.
     std::optional<QPoint> sentTo;
     bool askedAgain = false;
+    /// The size that a window manager has replaced by its own, as of a maximised window. The arrow may be on
+    /// another side then, which asks for a layout, and that would never end either.
+    QSize refused;
     /// Whether the host has shown the bubble; whether it is visible depends on the parent.
     bool wanted = false;
     bool willAppearAnew = false;
@@ -223,7 +226,13 @@ void PointingWidget::Private::fit()
     }
     size.setHeight(qMin(size.height(), room.height()));
     size = size.expandedTo(q->minimumSizeHint());
-    q->resize(q->isWindow() && !room.isEmpty() ? size.boundedTo(room) : size);
+    if (q->isWindow() && !room.isEmpty()) {
+        size = size.boundedTo(room);
+    }
+    if (size != refused) {
+        refused = QSize();
+        q->resize(size);
+    }
     place();
 }
 
@@ -588,6 +597,9 @@ bool PointingWidget::event(QEvent* event)
     const bool result = QWidget::event(event);
     switch (event->type()) {
     case QEvent::Resize:
+        if (event->spontaneous()) {
+            d->refused = static_cast<QResizeEvent*>(event)->oldSize();
+        }
         d->place();
         break;
     case QEvent::LayoutRequest:
@@ -649,6 +661,7 @@ void PointingWidget::showEvent(QShowEvent* event)
     // Right before the window appears: its content is polished and its position up to date.
     d->sentTo.reset();
     d->askedAgain = false;
+    d->refused = QSize();
     d->followWindow();
     d->fit();
     if (d->maskIsDue) {

@@ -839,6 +839,31 @@ private Q_SLOTS:
         QVERIFY(touchesTarget(bubble));
     }
 
+    /// One that makes a bubble as large as the screen would else be asked for ever: the arrow goes to another
+    /// side each time, which asks for a layout.
+    void windowManagersSizeIsAccepted()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        PointingWidget bubble(nullptr);
+        bubble.contentFrame()->setMinimumSize(screen.size() / 3);
+        bubble.pointTo(screen.center() + QPoint(0, 40));
+        bubble.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bubble));
+        QCoreApplication::processEvents();
+        const QSize size = bubble.size();
+        const ArrowSide side = bubble.effectiveArrowSide();
+        bubble.windowHandle()->resize(screen.size());
+        QTRY_COMPARE(bubble.size(), screen.size());
+        QVERIFY(bubble.effectiveArrowSide() != side);
+        for (int turn = 0; turn < 20; ++turn) {
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(bubble.size(), screen.size());
+        // Other contents are another matter.
+        bubble.contentFrame()->setMinimumSize(screen.size() / 3 + QSize(20, 0));
+        QTRY_COMPARE(bubble.size(), size + QSize(20, 0));
+    }
+
     void maskCoversOnlyTheBubble()
     {
         ShownBubble bubble;
