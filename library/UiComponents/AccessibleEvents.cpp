@@ -41,19 +41,32 @@ void send(QWidget* widget, int index)
 class UntilRelease : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:
-    static void hold(QWidget* widget, int index)
+    static UntilRelease* instance()
     {
         static QPointer<UntilRelease> running;
         if (!running) {
             running = new UntilRelease;
         }
-        running->add(widget, index);
+        return running;
+    }
+
+    /// At once, if there is no drag.
+    void say(QWidget* widget, int index)
+    {
+        const bool isDragging = QGuiApplication::mouseButtons() != Qt::NoButton;
+        if (!isDragging && m_changes.isEmpty()) {
+            send(widget, index);
+            return;
+        }
+        add(widget, index);
+        if (!isDragging) {
+            sendAll(); // the release went elsewhere
+        }
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::MouseButtonRelease && QGuiApplication::mouseButtons() == Qt::NoButton &&
-            !m_changes.isEmpty()) {
+        if (event->type() == QEvent::MouseButtonRelease && QGuiApplication::mouseButtons() == Qt::NoButton) {
             // What the release itself changes belongs to the drag.
             QMetaObject::invokeMethod(
                 this, [this] { sendAll(); }, Qt::QueuedConnection);
@@ -104,13 +117,8 @@ private:
 
 void AccessibleEvents::valueChanged(QWidget* widget, int index)
 {
-    if (!QAccessible::isActive()) {
-        return;
-    }
-    if (QGuiApplication::mouseButtons() == Qt::NoButton) {
-        send(widget, index);
-    } else {
-        UntilRelease::hold(widget, index);
+    if (QAccessible::isActive()) {
+        UntilRelease::instance()->say(widget, index);
     }
 }
 

@@ -12,6 +12,8 @@
 #include "PointSelectionPlane.h"
 #include "SceneView.h"
 
+#include <WidgetToolkit/OvDoubleSlider.h>
+
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAccessible>
@@ -34,6 +36,8 @@ public:
         // Qt forgets all factories with the application.
         if (m_application != QCoreApplication::instance()) {
             m_application = QCoreApplication::instance();
+            // The toolkit's, which its first slider installs, has to be there before.
+            const OvDoubleSlider slider;
             QAccessible::installFactory(AccessibleFactory::interfaceFor);
         }
     }

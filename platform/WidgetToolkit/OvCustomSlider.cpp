@@ -1,5 +1,7 @@
 #include "OvCustomSlider.h"
 
+#include "SliderAccess.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,6 +10,7 @@
 #include <QStyleOptionSlider>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -179,6 +182,7 @@ public:
     double grip = 0.0;           // during a drag: distance of cursor and handle's middle, in pixels
     double wheelRemainder = 0.0; // the wheel's turn that is less than a step yet
     QStyle::SubControl hovered = QStyle::SC_None;
+    bool isUnsaid = false; // during a drag: readers do not know the value yet
 };
 
 OvCustomSlider::OvCustomSlider(QWidget* parent)
@@ -296,6 +300,9 @@ void OvCustomSlider::mouseReleaseEvent(QMouseEvent* event)
         setSliderDown(false);
         placeHandle(position);
     }
+    if (std::exchange(d->isUnsaid, false)) {
+        SliderAccess::announce(this);
+    }
     const QPointer<OvCustomSlider> self = this;
     Q_EMIT sliderReleased();
     if (self && sliderPosition() != value()) {
@@ -353,8 +360,14 @@ bool OvCustomSlider::moveHandle(int position)
 
 void OvCustomSlider::dragHandle(int position)
 {
-    if (position != sliderPosition() && moveHandle(position) && hasTracking()) {
-        perform(SliderMove);
+    if (position == sliderPosition() || !moveHandle(position) || !hasTracking()) {
+        return;
+    }
+    const QPointer<OvCustomSlider> self = this;
+    const SliderAccess::Silence silence(this);
+    perform(SliderMove);
+    if (self) {
+        d->isUnsaid |= silence.hasHeld();
     }
 }
 

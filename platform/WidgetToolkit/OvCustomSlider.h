@@ -19,6 +19,7 @@
  *   not give focus: the focus policy is Qt::StrongFocus.
  * - Every range of 32 bits is painted and clicked correctly, where QSlider loses its handle, or divides by
  *   zero, from 2^31 steps on. There is at most one tick for each pixel, where QSlider draws billions.
+ * - Readers are told of a drag once, when it is over, and of each step by a key or the wheel.
  *
  * A style sheet selects the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page` and
  * `::sub-page`.

@@ -1,66 +1,13 @@
 #include "OvDoubleSlider.h"
 
+#include "SliderAccess.h"
 #include "StepMapping.h"
 
-#include <QAccessibleWidget>
-#include <QLocale>
 #include <QPointer>
 
 #include <cmath>
 #include <optional>
-
-namespace {
-
-/// In units, where Qt's own interface of sliders counts steps.
-class AccessibleDoubleSlider : public QAccessibleWidget, public QAccessibleValueInterface
-{
-public:
-    explicit AccessibleDoubleSlider(OvDoubleSlider* slider)
-        : QAccessibleWidget(slider, QAccessible::Slider)
-    {
-    }
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
-                                                   : QAccessibleWidget::interface_cast(type);
-    }
-
-    QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Value ? QLocale().toString(slider()->doubleValue())
-                                          : QAccessibleWidget::text(kind);
-    }
-
-    QVariant currentValue() const override { return slider()->doubleValue(); }
-    void setCurrentValue(const QVariant& value) override { slider()->setDoubleValue(value.toDouble()); }
-    QVariant minimumValue() const override { return slider()->minimum() * slider()->multiplier(); }
-    QVariant maximumValue() const override { return slider()->maximum() * slider()->multiplier(); }
-    QVariant minimumStepSize() const override { return slider()->singleStep() * slider()->multiplier(); }
-
-private:
-    OvDoubleSlider* slider() const { return qobject_cast<OvDoubleSlider*>(object()); }
-};
-
-QAccessibleInterface* makeAccessible(const QString& className, QObject* object)
-{
-    auto* const slider = qobject_cast<OvDoubleSlider*>(object);
-    return slider && className == QLatin1String("OvDoubleSlider") ? new AccessibleDoubleSlider(slider)
-                                                                  : nullptr;
-}
-
-/// From when the library is loaded until it is unloaded.
-struct AccessibleFactory
-{
-    AccessibleFactory() { QAccessible::installFactory(makeAccessible); }
-    ~AccessibleFactory() { QAccessible::removeFactory(makeAccessible); }
-    AccessibleFactory(const AccessibleFactory&) = delete;
-    AccessibleFactory& operator=(const AccessibleFactory&) = delete;
-};
-
-const AccessibleFactory factory;
-
-} // namespace
+#include <utility>
 
 class OvDoubleSlider::Private
 {
@@ -80,32 +27,38 @@ public:
     StepMapping::Scale scale;
     std::optional<double> requested; // by setDoubleValue(), and no step was taken since
     double value = 0.0;
+    int step = 0; // nearest to the value
     double announced = 0.0;
+    int announcedStep = 0;
 };
 
 void OvDoubleSlider::Private::takeStep()
 {
     // The step follows from the value, which may lie between two steps: it stays.
-    if (scale.stepOf(value) == q->value()) {
+    if (step == q->value()) {
         return;
     }
     requested.reset();
-    value = scale.valueOf(q->value());
+    step = q->value();
+    value = scale.valueOf(step);
     if (q->signalsBlocked()) {
         announced = value;
+        announcedStep = step;
     }
 }
 
 void OvDoubleSlider::Private::deriveValue()
 {
     if (!requested) {
-        value = scale.valueOf(q->value());
+        step = q->value();
+        value = scale.valueOf(step);
         announce();
         return;
     }
     value = qBound(scale.valueOf(q->minimum()), *requested, scale.valueOf(q->maximum()));
+    step = scale.stepOf(value);
     const QPointer<OvDoubleSlider> self = q;
-    q->setValue(scale.stepOf(value));
+    q->setValue(step);
     if (self) {
         announce();
     }
@@ -113,10 +66,15 @@ void OvDoubleSlider::Private::deriveValue()
 
 void OvDoubleSlider::Private::announce()
 {
+    // QAbstractSlider tells readers of another step.
+    const bool isWithinStep = std::exchange(announcedStep, q->value()) == q->value();
     if (value == announced) {
         return;
     }
     announced = value;
+    if (isWithinStep) {
+        SliderAccess::announce(q);
+    }
     if (requested && isHeard()) {
         requested = value;
     }
@@ -134,6 +92,7 @@ OvDoubleSlider::OvDoubleSlider(QWidget* parent)
     : OvCustomSlider(parent)
     , d(std::make_unique<Private>(this))
 {
+    SliderAccess::install();
     // Not in sliderChange(), after which QAbstractSlider goes on using the slider.
     connect(this, &QAbstractSlider::valueChanged, this, [this] { d->announce(); });
 }
@@ -161,7 +120,8 @@ void OvDoubleSlider::setMultiplier(double multiplier)
 
 double OvDoubleSlider::doubleValue() const
 {
-    return d->value;
+    // Readers ask while QAbstractSlider has another step, and has not told of it yet.
+    return d->step == value() ? d->value : d->scale.valueOf(value());
 }
 
 void OvDoubleSlider::setDoubleValue(double value)

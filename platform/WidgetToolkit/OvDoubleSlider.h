@@ -21,7 +21,8 @@
  *
  * Click, wheel, style sheet and lifetime are as in OvCustomSlider. Slots of the signals added here may always
  * delete the slider, except in setRange(), setMinimum() and setMaximum().
- * Readers are told the value in units, and may set it.
+ *
+ * **Readers** find a slider with its value in units, which they may set while it is enabled.
  * @see Util::bindWidgets(), OvDoubleSpinBox
  */
 class WIDGETTOOLKIT_EXPORT OvDoubleSlider : public OvCustomSlider

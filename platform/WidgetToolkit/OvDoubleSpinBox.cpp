@@ -128,10 +128,15 @@ void OvDoubleSpinBox::keyPressEvent(QKeyEvent* event)
 
 void OvDoubleSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (hasFocus()) {
-        QDoubleSpinBox::wheelEvent(event);
-    } else {
+    if (!hasFocus()) {
         event->ignore();
+        return;
+    }
+    const double before = value();
+    const QPointer<OvDoubleSpinBox> self = this;
+    QDoubleSpinBox::wheelEvent(event);
+    if (self) {
+        SpinBoxInput::tellOfWheel<QDoubleSpinBox>(this, before);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "SpinBoxInput.h"
 
+#include <QPointer>
 #include <QWheelEvent>
 
 OvSpinBox::OvSpinBox(QWidget* parent)
@@ -23,9 +24,14 @@ void OvSpinBox::keyPressEvent(QKeyEvent* event)
 
 void OvSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (hasFocus()) {
-        QSpinBox::wheelEvent(event);
-    } else {
+    if (!hasFocus()) {
         event->ignore();
+        return;
+    }
+    const int before = value();
+    const QPointer<OvSpinBox> self = this;
+    QSpinBox::wheelEvent(event);
+    if (self) {
+        SpinBoxInput::tellOfWheel<QSpinBox>(this, before);
     }
 }

@@ -1,5 +1,6 @@
 #include "SpinBoxInput.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -27,6 +28,15 @@ void SpinBoxInput::announceValue(SpinBox* box)
     }
     if (self) {
         Q_EMIT box->valueChanged(box->value());
+    }
+}
+
+template <typename SpinBox, typename Number>
+void SpinBoxInput::tellOfWheel(SpinBox* box, Number before)
+{
+    if (box->value() != before && QAccessible::isActive()) {
+        QAccessibleValueChangeEvent event(box, box->value());
+        QAccessible::updateAccessibility(&event);
     }
 }
 
@@ -60,5 +70,7 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
 }
 
 template void SpinBoxInput::announceValue(QDoubleSpinBox*);
+template void SpinBoxInput::tellOfWheel(QSpinBox*, int);
+template void SpinBoxInput::tellOfWheel(QDoubleSpinBox*, double);
 template void SpinBoxInput::commit(QSpinBox*, QLineEdit*, QKeyEvent*);
 template void SpinBoxInput::commit(QDoubleSpinBox*, QLineEdit*, QKeyEvent*);

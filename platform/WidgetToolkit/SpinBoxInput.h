@@ -14,6 +14,10 @@ bool isCommit(const QKeyEvent* event);
 template <typename SpinBox>
 void announceValue(SpinBox* box);
 
+/// Tells readers of a turn of the wheel that has changed @p before, as Qt does after a key or a click.
+template <typename SpinBox, typename Number>
+void tellOfWheel(SpinBox* box, Number before);
+
 /// Does what QAbstractSpinBox does on Enter, but emits valueChanged() only if the text changed the value, and
 /// slots may delete @p box, a QSpinBox or QDoubleSpinBox. @p edit is its line edit.
 template <typename SpinBox>

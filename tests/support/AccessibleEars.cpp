@@ -13,14 +13,16 @@ QStringList heard;
 
 void hear(QAccessibleEvent* event)
 {
-    const QAccessibleInterface* const source = event->accessibleInterface();
+    QAccessibleInterface* const source = event->accessibleInterface();
     if (!source) {
         return;
     }
     const QString name = source->text(QAccessible::Name);
     if (event->type() == QAccessible::ValueChanged) {
+        // As the bridges to all desktops do, which ask when they are told.
+        const QAccessibleValueInterface* const number = source->valueInterface();
         heard += name + QStringLiteral(": ") +
-                 static_cast<QAccessibleValueChangeEvent*>(event)->value().toString();
+                 (number ? number->currentValue().toString() : source->text(QAccessible::Value));
     } else if (event->type() == QAccessible::DescriptionChanged) {
         heard += name + QStringLiteral(": ") + source->text(QAccessible::Description);
     } else if (event->type() == QAccessible::Alert) {

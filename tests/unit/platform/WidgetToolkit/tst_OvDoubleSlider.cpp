@@ -5,7 +5,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
+
+using Change = std::function<void(OvDoubleSlider&)>;
+Q_DECLARE_METATYPE(Change)
 
 namespace {
 
@@ -37,6 +41,90 @@ private Q_SLOTS:
         value->setCurrentValue(0.7);
         QCOMPARE(slider.doubleValue(), 0.7);
         QCOMPARE(changes.size(), 1);
+        slider.setEnabled(false);
+        value->setCurrentValue(0.1);
+        QCOMPARE(slider.doubleValue(), 0.7);
+    }
+
+    void changesAreAnnouncedOnce_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<QStringList>("heard");
+        const auto row = [](const char* name, const Change& change, const QStringList& heard) {
+            QTest::newRow(name) << change << heard;
+        };
+        row("a step", [](OvDoubleSlider& slider) { slider.setValue(41); }, {QStringLiteral("Gain: 0.41")});
+        row("a key", [](OvDoubleSlider& slider) { QTest::keyClick(&slider, Qt::Key_Up); },
+            {QStringLiteral("Gain: 0.41")});
+        row("a value on another step", [](OvDoubleSlider& slider) { slider.setDoubleValue(0.7); },
+            {QStringLiteral("Gain: 0.7")});
+        row("a value within the step", [](OvDoubleSlider& slider) { slider.setDoubleValue(0.404); },
+            {QStringLiteral("Gain: 0.404")});
+        row("a value within the step, after another multiplier",
+            [](OvDoubleSlider& slider) {
+                slider.setMultiplier(0.1);
+                AccessibleEars::take();
+                slider.setDoubleValue(0.42);
+            },
+            {QStringLiteral("Gain: 0.42")});
+        row("back to the step",
+            [](OvDoubleSlider& slider) {
+                slider.setDoubleValue(0.404);
+                AccessibleEars::take();
+                slider.setDoubleValue(0.4);
+            },
+            {QStringLiteral("Gain: 0.4")});
+        row("the same", [](OvDoubleSlider& slider) { slider.setDoubleValue(0.4); }, {});
+    }
+
+    // When a reader hears of it, the slider has the value already.
+    void changesAreAnnouncedOnce()
+    {
+        QFETCH(Change, change);
+        OvDoubleSlider slider;
+        slider.setAccessibleName(QStringLiteral("Gain"));
+        slider.setRange(0, 100);
+        slider.setMultiplier(0.01);
+        slider.setDoubleValue(0.4);
+        const AccessibleEars ears;
+        change(slider);
+        QTEST(AccessibleEars::take(), "heard");
+    }
+
+    void dragsAreAnnouncedOnce()
+    {
+        OvDoubleSlider slider;
+        slider.setAccessibleName(QStringLiteral("Gain"));
+        slider.setOrientation(Qt::Horizontal);
+        slider.setRange(0, 100);
+        slider.setMultiplier(0.01);
+        slider.resize(200, 30);
+        QSignalSpy changes(&slider, &OvDoubleSlider::doubleValueChanged);
+        // Others are heard meanwhile.
+        QSlider other;
+        other.setAccessibleName(QStringLiteral("Other"));
+        connect(&slider, &QAbstractSlider::valueChanged, &other, &QAbstractSlider::setValue);
+        const AccessibleEars ears;
+        const auto send = [&slider](QEvent::Type type, int x, Qt::MouseButtons buttons) {
+            QMouseEvent event(type, QPoint(x, 15), Qt::LeftButton, buttons, Qt::NoModifier);
+            QApplication::sendEvent(&slider, &event);
+        };
+        send(QEvent::MouseButtonPress, 60, Qt::LeftButton);
+        send(QEvent::MouseMove, 100, Qt::LeftButton);
+        send(QEvent::MouseMove, 199, Qt::LeftButton);
+        QCOMPARE(changes.size(), 3);
+        QStringList heard = AccessibleEars::take();
+        QCOMPARE(heard.filter(QStringLiteral("Other")).size(), 3);
+        QCOMPARE(heard.filter(QStringLiteral("Gain")), QStringList());
+        send(QEvent::MouseButtonRelease, 199, Qt::NoButton);
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Gain: 1")});
+        // A press on the handle moves nothing.
+        send(QEvent::MouseButtonPress, 195, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, 195, Qt::NoButton);
+        QCOMPARE(AccessibleEars::take(), QStringList());
+        QTest::keyClick(&slider, Qt::Key_Left);
+        QCOMPARE(AccessibleEars::take().filter(QStringLiteral("Gain")),
+                 QStringList{QStringLiteral("Gain: 0.99")});
     }
 
     void metaObject()

@@ -1,3 +1,4 @@
+#include "AccessibleEars.h"
 #include "FreedMemory.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -41,6 +42,54 @@ private Q_SLOTS:
         QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
         QCOMPARE(box.value(), 0);
         QCOMPARE(box.maximum(), 99);
+    }
+
+    void stepsAreAnnouncedOnce_data()
+    {
+        QTest::addColumn<bool>("fractions");
+        QTest::addColumn<QByteArray>("means");
+        QTest::addColumn<QStringList>("heard");
+        for (const bool fractions : {false, true}) {
+            const auto row = [fractions](const char* means, const char* heard) {
+                QTest::addRow("%s, %s", fractions ? "fraction" : "integer", means)
+                    << fractions << QByteArray(means)
+                    << (heard ? QStringList{QStringLiteral("Level: ") + QLatin1String(heard)}
+                              : QStringList());
+            };
+            row("key", "6");
+            row("page", "15");
+            row("wheel", "6");
+            row("arrow", "6");
+            row("end", nullptr);
+        }
+    }
+
+    void stepsAreAnnouncedOnce()
+    {
+        QFETCH(bool, fractions);
+        QFETCH(QByteArray, means);
+        const auto box = makeBox(fractions);
+        box->setAccessibleName(QStringLiteral("Level"));
+        box->setProperty("value", means == "end" ? box->property("maximum") : 5);
+        box->resize(100, 30);
+        box->show();
+        QApplication::setActiveWindow(box.get());
+        box->setFocus();
+        const AccessibleEars ears;
+        if (means == "wheel") {
+            turnWheel(*box, 120);
+        } else if (means == "arrow") {
+            QStyleOptionSpinBox option;
+            option.initFrom(box.get());
+            option.subControls = QStyle::SC_All;
+            option.frame = true;
+            const QRect arrow =
+                box->style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, box.get());
+            QTest::mouseClick(box.get(), Qt::LeftButton, {}, arrow.center());
+        } else {
+            QTest::keyClick(box.get(), means == "page" ? Qt::Key_PageUp : Qt::Key_Up);
+        }
+        QTEST(AccessibleEars::take(), "heard");
     }
 
     void wheel_data()

@@ -1,0 +1,39 @@
+// A program with two QApplications, one after the other: Qt forgets the factories of interfaces with the
+// first.
+
+#include <UiComponents/ColorPickerButton.h>
+#include <WidgetToolkit/OvDoubleSlider.h>
+
+#include <QAccessible>
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+QString spokenValue(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Value);
+}
+
+bool isSpoken(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    OvDoubleSlider slider;
+    slider.setMultiplier(0.01);
+    slider.setDoubleValue(0.4);
+    ColorPickerButton button;
+    button.setColor(QColor(Qt::red));
+    const QString said = spokenValue(&slider) + QLatin1Char(' ') + spokenValue(&button);
+    std::puts(qPrintable(said));
+    return said == QLatin1String("0.4 red, #ff0000");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QLocale::setDefault(QLocale::c());
+    const bool isFirst = isSpoken(argc, argv);
+    return isFirst && isSpoken(argc, argv) ? 0 : 1;
+}
