@@ -218,7 +218,7 @@ void ColorPlaneWidget::paintEvent(QPaintEvent* event)
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(d->markerPos, d->markerRadius, d->markerRadius);
     }
-    d->paintFocus(painter);
+    d->focus.paint(painter);
 }
 
 void ColorPlaneWidget::resizeEvent(QResizeEvent* event)
@@ -272,6 +272,6 @@ void ColorPlaneWidget::keyPressEvent(QKeyEvent* event)
 
 void ColorPlaneWidget::focusInEvent(QFocusEvent* event)
 {
-    d->focusIn(*event);
+    d->focus.focusIn(*event);
     QWidget::focusInEvent(event);
 }

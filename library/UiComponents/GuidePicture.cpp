@@ -8,8 +8,6 @@
 #include <QMovie>
 #include <QPainter>
 #include <QPointer>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QVariant>
 
 namespace {
@@ -72,12 +70,14 @@ void GuidePicture::showEvent(QShowEvent* event)
 void GuidePicture::paintEvent(QPaintEvent* event)
 {
     OvPixmapWidget::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    QPainter painter(this);
+    m_focus.paint(painter);
+}
+
+void GuidePicture::focusInEvent(QFocusEvent* event)
+{
+    m_focus.focusIn(*event);
+    OvPixmapWidget::focusInEvent(event);
 }
 
 void GuidePicture::keyPressEvent(QKeyEvent* event)
@@ -102,7 +102,7 @@ void GuidePicture::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
-/// By a property of the guide or of the application, or because nothing moves in this style.
+/// A style that animates nothing is no wish for less motion: some never do, whatever the desktop says.
 bool GuidePicture::isToBeStill() const
 {
     for (const QWidget* guide = this; guide; guide = guide->isWindow() ? nullptr : guide->parentWidget()) {
@@ -110,8 +110,7 @@ bool GuidePicture::isToBeStill() const
             return guide->property(stillProperty).toBool();
         }
     }
-    return QCoreApplication::instance()->property(stillProperty).toBool() ||
-           style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0;
+    return QCoreApplication::instance()->property(stillProperty).toBool();
 }
 
 void GuidePicture::holdIfStill()

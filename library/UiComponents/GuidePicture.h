@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "FocusOutline.h"
+
 #include <WidgetToolkit/OvPixmapWidget.h>
 
 /// An image that the user pauses and resumes, by a click or by Space while it has the focus. It calls itself
@@ -23,6 +25,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -30,4 +33,6 @@ protected:
 private:
     bool isToBeStill() const;
     void holdIfStill();
+
+    FocusOutline m_focus{this};
 };

@@ -22,11 +22,16 @@
  * **Image.** It plays from its first frame whenever the guide is shown, and costs nothing while it is hidden.
  * One that setInfo() brings plays at once where the guide is shown; one that stays the same plays on. A click
  * on it, or Space while it has the focus, pauses and resumes it. Where the dynamic property
- * "firstPictureOnly" of the guide, of a widget around it in its window or of the application is true, or the
- * style animates nothing, as where the desktop wants less motion, it shows its first picture until the user
- * plays it:
+ * "firstPictureOnly" of the guide, of a widget around it in its window or of the application is true, it
+ * shows its first picture until the user plays it:
  *
  *     qApp->setProperty("firstPictureOnly", true);           // takes effect when a guide is next shown
+ *
+ * Qt 5 does not know whether the desktop wants less motion: the host asks its platform, or its user, and sets
+ * the property.
+ *
+ * **Readers** find a group of the guide's texts and of the picture, which says whether it plays and what
+ * Space does.
  *
  * **Size.** Heading and description get room for all their lines at the polished guide's width when its info
  * is set. Set the width first, in the style sheet or by code; a guide that becomes wider later keeps the

@@ -3,12 +3,8 @@
 #include "AccessibleEvents.h"
 #include "PointMapping.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QWidget>
 
 #include <cmath>
@@ -17,7 +13,6 @@ namespace {
 
 constexpr int longStep = 10; // pixels
 constexpr int pages = 10;
-constexpr int focusWidth = 2;
 
 /// What is too long for a plane of @p size is pinned to its edge.
 QPoint stepOf(const QKeyEvent& event, const QSize& size)
@@ -51,7 +46,8 @@ QPoint stepOf(const QKeyEvent& event, const QSize& size)
 } // namespace
 
 PlaneDrag::PlaneDrag(QWidget* plane)
-    : m_plane(plane)
+    : focus(plane)
+    , m_plane(plane)
 {
 }
 
@@ -126,41 +122,6 @@ void PlaneDrag::stop() const
     if (isDragging()) {
         m_plane->releaseMouse();
     }
-}
-
-void PlaneDrag::focusIn(const QFocusEvent& event)
-{
-    switch (event.reason()) {
-    case Qt::TabFocusReason:
-    case Qt::BacktabFocusReason:
-    case Qt::ShortcutFocusReason:
-        m_isKeyboardFocus = true;
-        break;
-    case Qt::MouseFocusReason:
-        m_isKeyboardFocus = false;
-        break;
-    case Qt::OtherFocusReason:
-        m_isKeyboardFocus = m_plane->window()->testAttribute(Qt::WA_KeyboardFocusChange);
-        break;
-    default: // the window has been away
-        break;
-    }
-    m_plane->update();
-}
-
-void PlaneDrag::paintFocus(QPainter& painter) const
-{
-    if (!m_plane->hasFocus() || !m_isKeyboardFocus) {
-        return;
-    }
-    // Clipped, since some styles fill the focus rectangle, which would tint the plane.
-    const QRect inside = m_plane->rect().adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
-    painter.setClipRegion(QRegion(m_plane->rect()) - inside);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    QStyleOptionFocusRect option;
-    option.initFrom(m_plane);
-    option.state |= QStyle::State_KeyboardFocusChange;
-    m_plane->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, m_plane);
 }
 
 QSizeF PlaneDrag::step() const

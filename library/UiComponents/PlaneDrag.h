@@ -2,16 +2,16 @@
 
 #pragma once
 
+#include "FocusOutline.h"
+
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 
 class ColorPlaneWidget;
 class PointSelectionPlane;
-class QFocusEvent;
 class QKeyEvent;
 class QMouseEvent;
-class QPainter;
 class QWidget;
 
 /**
@@ -41,11 +41,6 @@ public:
     /// every click in the application.
     void stop() const;
 
-    /// Notes the reason of the focus.
-    void focusIn(const QFocusEvent& event);
-    /// Draws the edge of the style's focus rectangle, if the plane got the focus by keyboard.
-    void paintFocus(QPainter& painter) const;
-
     static PlaneDrag* of(ColorPlaneWidget* plane);
     static PlaneDrag* of(PointSelectionPlane* plane);
 
@@ -57,6 +52,8 @@ public:
     void setValue(int axis, double value);
     /// Notifies assistive technologies of each coordinate that differs from @p before.
     void announce(const QPointF& before) const;
+
+    FocusOutline focus;
 
 protected:
     /// The position of the marker.
@@ -72,5 +69,4 @@ private:
     bool isDragging() const;
 
     QWidget* const m_plane;
-    bool m_isKeyboardFocus = false;
 };

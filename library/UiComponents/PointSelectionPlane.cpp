@@ -180,7 +180,7 @@ void PointSelectionPlane::keyPressEvent(QKeyEvent* event)
 
 void PointSelectionPlane::focusInEvent(QFocusEvent* event)
 {
-    d->focusIn(*event);
+    d->focus.focusIn(*event);
     OvFrame::focusInEvent(event);
 }
 
@@ -199,7 +199,7 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
     if (PointMapping::isInside(d->pixelPosition, rect()) && d->style->markerColor().isValid()) {
         d->paintMarker(painter);
     }
-    d->paintFocus(painter);
+    d->focus.paint(painter);
 }
 
 void PointSelectionPlane::resizeEvent(QResizeEvent* event)

@@ -30,6 +30,20 @@ std::unique_ptr<QWidget> makeGuide(bool isBubble, const QString& picture, QWidge
     return bubble;
 }
 
+/// As those that never animate, and those that know no other.
+class StillStyle : public QProxyStyle // clazy:exclude=missing-qobject-macro
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        const bool isOfAnimations = hint == SH_Widget_Animate || hint == SH_Widget_Animation_Duration;
+        return isOfAnimations ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 OvPixmapWidget* pictureOf(const QWidget& guide)
 {
     return guide.findChild<OvPixmapWidget*>(QStringLiteral("gifPixmapWidget"));
@@ -154,6 +168,46 @@ private Q_SLOTS:
             // A file that exists has its place, which is empty.
             QCOMPARE(picture->isVisible(), path.isEmpty());
         }
+    }
+
+    // It plays from the start at each show: that nothing else moves in a style is nobody's wish.
+    void styleWithoutAnimations()
+    {
+        StillStyle style(QStringLiteral("fusion"));
+        GuideWidget guide(info(), nullptr);
+        pictureOf(guide)->setStyle(&style);
+        guide.show();
+        QCOMPARE(pictureOf(guide)->movie()->state(), QMovie::Running);
+    }
+
+    void focusIsAnOutline_data()
+    {
+        QTest::addColumn<Qt::FocusReason>("reason");
+        QTest::addColumn<bool>("isShown");
+        QTest::newRow("Tab") << Qt::TabFocusReason << true;
+        QTest::newRow("Tab, backwards") << Qt::BacktabFocusReason << true;
+        QTest::newRow("by code") << Qt::OtherFocusReason << false;
+    }
+
+    // Fusion fills the focus rectangle.
+    void focusIsAnOutline()
+    {
+        QFETCH(Qt::FocusReason, reason);
+        const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
+        GuideWidget guide(info(), nullptr);
+        OvPixmapWidget* const picture = pictureOf(guide);
+        picture->setStyle(fusion.get());
+        guide.setProperty("firstPictureOnly", true);
+        guide.show();
+        QApplication::setActiveWindow(&guide);
+        const QImage before = picture->grab().toImage();
+        picture->setFocus(reason);
+        QVERIFY(picture->hasFocus());
+        const QImage after = picture->grab().toImage();
+        const QRect inside = picture->rect().adjusted(2, 2, -2, -2);
+        QVERIFY(!inside.isEmpty());
+        QCOMPARE(after.copy(inside), before.copy(inside));
+        QTEST(after != before, "isShown");
     }
 
     void popupIsADialog()
