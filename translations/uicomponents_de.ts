@@ -7,6 +7,11 @@
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>Two sentences</comment>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>ColorNames</name>
@@ -323,7 +328,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Wieder&amp;herstellen</translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -343,7 +348,7 @@
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>A&amp;lles auswählen</translation>
+        <translation>Alle&amp;s auswählen</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,11 @@
         <source>%1, %2</source>
         <translation>%1、%2</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>Two sentences</comment>
+        <translation>%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>ColorNames</name>
@@ -323,7 +328,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>やり直し(&amp;R)</translation>
+        <translation>やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>

@@ -154,6 +154,27 @@ QString AccessibleNames::joined(const QString& component, const QString& part)
     return QCoreApplication::translate("AccessibleNames", "%1, %2").arg(component, part);
 }
 
+QString AccessibleNames::sentences(const QString& first, const QString& second)
+{
+    if (first.isEmpty() || second.isEmpty()) {
+        return first + second;
+    }
+    if (QStringLiteral("\u3002\uff01\uff1f").contains(first.back())) {
+        return first + second;
+    }
+    if (QStringLiteral(".!?").contains(first.back())) {
+        return first + QLatin1Char(' ') + second;
+    }
+    return QCoreApplication::translate("AccessibleNames", "%1. %2", "Two sentences").arg(first, second);
+}
+
+bool AccessibleNames::isNamedByComponent(const QWidget* widget)
+{
+    const QWidget* const component = componentOf(widget);
+    const PartName* const entry = component ? entryOf(widget, component) : nullptr;
+    return entry && !entry->name && ownName(widget).isEmpty();
+}
+
 bool AccessibleNames::hasEntry(const QWidget* widget)
 {
     const QWidget* const component = componentOf(widget);

@@ -24,6 +24,13 @@ QString nameOf(const QWidget* widget);
 /// The name of @p component followed by that of a part of it; one of them where the other is empty.
 QString joined(const QString& component, const QString& part);
 
+/// Both texts, as the language of now puts one sentence after the other; one of them where the other is
+/// empty.
+QString sentences(const QString& first, const QString& second);
+
+/// Whether it is called what its component is called, and by nothing of its own.
+bool isNamedByComponent(const QWidget* widget);
+
 /// Whether its component has a name for it.
 bool hasEntry(const QWidget* widget);
 

@@ -23,14 +23,9 @@
 #include <algorithm>
 #include <iterator>
 
-namespace {
+using AccessibleNames::sentences;
 
-QString sentences(const QString& first, const QString& second)
-{
-    const bool isEnded = first.endsWith(QLatin1Char('.')) || first.endsWith(QChar(0x3002));
-    const QString gap = isEnded ? QStringLiteral(" ") : QStringLiteral(". ");
-    return first.isEmpty() || second.isEmpty() ? first + second : first + gap + second;
-}
+namespace {
 
 QAccessibleInterface* interfaceOf(QWidget* widget)
 {
@@ -63,21 +58,30 @@ QWidget* openerOf(const QWidget* popup)
     return owner;
 }
 
-/// The message of the folder field that @p edit belongs to, while the field shows one.
-QString errorOf(const QWidget* edit)
+/// The folder field that @p edit belongs to, while it is marked; null for others.
+const QWidget* markedField(const QWidget* edit)
 {
     const QWidget* const field = AccessibleNames::componentOf(edit);
-    const auto* const frame = edit->parentWidget();
-    if (!field || !field->inherits("PathSelectionWidget") ||
-        frame->property("styleHint").toString() != QLatin1String("error")) {
-        return {};
-    }
-    const auto* const label = field->findChild<QLabel*>(QStringLiteral("errorLabel"));
-    if (label && !label->isHidden()) {
+    const bool isMarked = field && field->inherits("PathSelectionWidget") &&
+                          edit->parentWidget()->property("styleHint").toString() == QLatin1String("error");
+    return isMarked ? field : nullptr;
+}
+
+/// The message below @p field, while it shows one.
+QLabel* messageOf(const QWidget* field)
+{
+    auto* const label = field ? field->findChild<QLabel*>(QStringLiteral("errorLabel")) : nullptr;
+    return label && !label->isHidden() ? label : nullptr;
+}
+
+/// What @p field says to be wrong, below itself or in the tool tip of @p edit.
+QString errorOf(const QWidget* field, const QWidget* edit)
+{
+    if (const QLabel* const label = messageOf(field)) {
         return label->text();
     }
     QTextDocument tip;
-    tip.setHtml(edit->toolTip());
+    tip.setHtml(field ? edit->toolTip() : QString());
     return tip.toPlainText();
 }
 
@@ -96,13 +100,12 @@ QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
 AccessiblePart::relations(QAccessible::Relation match) const
 {
     auto found = QAccessibleWidget::relations(match);
-    QWidget* const component = AccessibleNames::componentOf(widget());
-    if (!match.testFlag(QAccessible::Label) || !found.isEmpty() || !component) {
-        return found;
-    }
-    // The label leads to the component, and that hands its focus on.
-    if (QAccessibleInterface* const label = interfaceOf(labelOf(component))) {
-        found.append({label, QAccessible::Label});
+    if (match.testFlag(QAccessible::Label) && AccessibleNames::isNamedByComponent(widget())) {
+        // The label leads to the component, and that hands its focus on.
+        const QWidget* const component = AccessibleNames::componentOf(widget());
+        if (QAccessibleInterface* const label = interfaceOf(labelOf(component))) {
+            found.append({label, QAccessible::Label});
+        }
     }
     return found;
 }
@@ -163,6 +166,18 @@ AccessibleMessage::AccessibleMessage(QLabel* label)
 QString AccessibleMessage::text(QAccessible::Text kind) const
 {
     return kind == QAccessible::Name ? qobject_cast<QLabel*>(object())->text() : AccessiblePart::text(kind);
+}
+
+QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+AccessibleMessage::relations(QAccessible::Relation match) const
+{
+    QVector<QPair<QAccessibleInterface*, QAccessible::Relation>> found;
+    const QWidget* const field = AccessibleNames::componentOf(widget());
+    if (match.testFlag(QAccessible::Controller) && messageOf(field)) {
+        auto* const edit = field->findChild<QLineEdit*>(QStringLiteral("pathLineEdit"));
+        found.append({interfaceOf(edit), QAccessible::Controller});
+    }
+    return found;
 }
 
 AccessibleButton::AccessibleButton(QAbstractButton* button, QAccessible::Role role)
@@ -344,6 +359,9 @@ QVariant AccessibleSlider::currentValue() const
 
 void AccessibleSlider::setCurrentValue(const QVariant& value)
 {
+    if (!slider()->isEnabled()) {
+        return;
+    }
     if (auto* const fractional = qobject_cast<OvDoubleSlider*>(object())) {
         fractional->setDoubleValue(value.toDouble());
     } else {
@@ -409,7 +427,7 @@ QAccessible::State AccessibleSpinBox::state() const
     QAccessible::State state = AccessiblePart::state();
     const auto* const box = qobject_cast<QAbstractSpinBox*>(object());
     state.readOnly = box->isReadOnly();
-    state.editable = !box->isReadOnly();
+    state.editable = box->isEnabled() && !box->isReadOnly();
     return state;
 }
 
@@ -420,7 +438,9 @@ QVariant AccessibleSpinBox::currentValue() const
 
 void AccessibleSpinBox::setCurrentValue(const QVariant& value)
 {
-    object()->setProperty("value", value);
+    if (state().editable) {
+        object()->setProperty("value", value);
+    }
 }
 
 QVariant AccessibleSpinBox::minimumValue() const
@@ -454,7 +474,7 @@ void* AccessibleLineEdit::interface_cast(QAccessible::InterfaceType type)
     case QAccessible::TextInterface:
         return static_cast<QAccessibleTextInterface*>(this);
     case QAccessible::EditableTextInterface:
-        return edit()->isReadOnly() ? nullptr : static_cast<QAccessibleEditableTextInterface*>(this);
+        return isEditable() ? static_cast<QAccessibleEditableTextInterface*>(this) : nullptr;
     default:
         return AccessiblePart::interface_cast(type);
     }
@@ -470,7 +490,7 @@ QString AccessibleLineEdit::text(QAccessible::Text kind) const
         return name.isEmpty() ? edit()->placeholderText() : name;
     }
     case QAccessible::Description: {
-        const QString error = errorOf(edit());
+        const QString error = errorOf(markedField(edit()), edit());
         return error.isEmpty() ? AccessiblePart::text(kind) : error;
     }
     default:
@@ -478,12 +498,24 @@ QString AccessibleLineEdit::text(QAccessible::Text kind) const
     }
 }
 
+/// A message is what the edit controls: Qt 5 has no relation for errors.
+QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+AccessibleLineEdit::relations(QAccessible::Relation match) const
+{
+    auto found = AccessiblePart::relations(match);
+    QLabel* const message = messageOf(markedField(edit()));
+    if (match.testFlag(QAccessible::Controlled) && message) {
+        found.append({interfaceOf(message), QAccessible::Controlled});
+    }
+    return found;
+}
+
 void AccessibleLineEdit::setText(QAccessible::Text kind, const QString& text)
 {
-    if (kind == QAccessible::Value) {
-        enter(text);
-    } else {
+    if (kind != QAccessible::Value) {
         AccessiblePart::setText(kind, text);
+    } else if (isEditable()) {
+        enter(text);
     }
 }
 
@@ -491,10 +523,10 @@ QAccessible::State AccessibleLineEdit::state() const
 {
     QAccessible::State state = AccessiblePart::state();
     state.readOnly = edit()->isReadOnly();
-    state.editable = !edit()->isReadOnly();
+    state.editable = isEditable();
     state.selectableText = true;
     state.searchEdit = edit()->objectName() == QLatin1String("searchLineEdit");
-    state.invalid = !errorOf(edit()).isEmpty();
+    state.invalid = markedField(edit()) != nullptr;
     return state;
 }
 
@@ -597,6 +629,9 @@ void AccessibleLineEdit::insertText(int offset, const QString& text)
 
 void AccessibleLineEdit::replaceText(int startOffset, int endOffset, const QString& text)
 {
+    if (!isEditable()) {
+        return;
+    }
     // Without a selection, insert() goes by the caret.
     edit()->setCursorPosition(startOffset);
     edit()->setSelection(startOffset, endOffset - startOffset);
@@ -606,6 +641,11 @@ void AccessibleLineEdit::replaceText(int startOffset, int endOffset, const QStri
 QLineEdit* AccessibleLineEdit::edit() const
 {
     return qobject_cast<QLineEdit*>(object());
+}
+
+bool AccessibleLineEdit::isEditable() const
+{
+    return edit()->isEnabled() && !edit()->isReadOnly();
 }
 
 /// As if it were typed: it is validated, and reported as an edit.

@@ -54,6 +54,8 @@ public:
     explicit AccessibleMessage(QLabel* label);
 
     QString text(QAccessible::Text kind) const override;
+    QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+    relations(QAccessible::Relation match) const override;
 };
 
 class AccessibleButton : public AccessibleColor
@@ -157,6 +159,8 @@ public:
 
     void* interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;
+    QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+    relations(QAccessible::Relation match) const override;
     void setText(QAccessible::Text kind, const QString& text) override;
     QAccessible::State state() const override;
 
@@ -180,5 +184,6 @@ public:
 
 private:
     QLineEdit* edit() const;
+    bool isEditable() const;
     void enter(const QString& text);
 };

@@ -2,6 +2,7 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
+#include <Settings/Settings.h>
 #include <UiComponents/AbstractColorPicker.h>
 #include <UiComponents/AdjustingListView.h>
 #include <UiComponents/ColorBlendingComboBox.h>
@@ -19,6 +20,7 @@
 #include <UiComponents/WidgetColorPickerButton.h>
 
 #include <algorithm>
+#include <functional>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/ParameterPanel.h>
@@ -102,7 +104,8 @@ public:
     }
 
     /// Whether the keyboard comes to what is called @p name, by Tab alone.
-    bool tabTo(const char* name)
+    bool tabTo(const char* name) { return tabTo(QString(QLatin1String(name))); }
+    bool tabTo(const QString& name)
     {
         constexpr int maxStops = 80;
         for (int i = 0; i < maxStops; ++i) {
@@ -115,12 +118,11 @@ public:
                 return std::any_of(m_heard.cbegin(), m_heard.cend(),
                                    [](const QString& text) { return text.endsWith(QLatin1Char('!')); });
             };
-            if (!QTest::qWaitFor(hasMoved, answerLimitMs) ||
-                m_heard.contains(QLatin1String(name) + QStringLiteral("!"))) {
+            if (!QTest::qWaitFor(hasMoved, answerLimitMs) || m_heard.contains(name + QLatin1Char('!'))) {
                 break;
             }
         }
-        return m_heard.contains(QLatin1String(name) + QStringLiteral("!"));
+        return m_heard.contains(name + QLatin1Char('!'));
     }
 
     bool press(const char* key, const QString& text)
@@ -136,13 +138,20 @@ public:
         return RealInput::type(QLatin1String(keys)) && hears(QLatin1String(text));
     }
 
-    /// Presses @p key, and returns what is heard of a change.
-    QString change(const char* key)
+    /// What is heard of @p action: at least @p count lines.
+    QStringList listen(int count, const std::function<void()>& action)
     {
+        m_client->heard(); // what came late
         m_heard.clear();
-        const auto isAnswered = [this] { return !(m_heard += m_client->heard()).isEmpty(); };
-        const bool isHeard = RealInput::key(QLatin1String(key)) && QTest::qWaitFor(isAnswered, answerLimitMs);
-        return isHeard ? m_heard.join(QLatin1Char('\n')) : QStringLiteral("nothing");
+        action();
+        const auto isAnswered = [&] { return (m_heard += m_client->heard()).size() >= count; };
+        return QTest::qWaitFor(isAnswered, answerLimitMs) ? m_heard : QStringList{QStringLiteral("nothing")};
+    }
+
+    /// Presses @p key, and returns what is heard of a change.
+    QStringList change(const char* key)
+    {
+        return listen(1, [key] { RealInput::key(QLatin1String(key)); });
     }
 
     bool hears(const char* text) { return hears(QString(QLatin1String(text))); }
@@ -212,10 +221,14 @@ public:
     GuideButton* const help = new GuideButton(this);
 };
 
-/// What the picture of a guide is called in the language of now.
+/// In the language of now.
 QString pictureName()
 {
     return QCoreApplication::translate("GuideWidget", "Animated picture");
+}
+QString panelPart(const char* name)
+{
+    return QCoreApplication::translate("ColorPickerWidget", name);
 }
 
 CommandLine startOn(const char* page)
@@ -237,7 +250,11 @@ class tst_AccessibleClient : public QObject
 private Q_SLOTS:
     void initTestCase() { GalleryApplication::prepare(); }
 
-    void cleanup() { qApp->setStyleSheet(QString()); }
+    void cleanup()
+    {
+        qApp->setStyleSheet(QString());
+        Settings::setUserCustomColors({});
+    }
 
     void transcript_data()
     {
@@ -297,6 +314,29 @@ private Q_SLOTS:
         QVERIFY(RealInput::key(QStringLiteral("Escape")));
         QTRY_COMPARE(closed.size(), 1);
         bubble.hide();
+
+        found += QStringLiteral("--- Colours and numbers that change");
+        found += ear.listen(1, [&form] { form.panel->setCurrentColor(QColor()); });
+        found += ear.listen(1, [&form] { form.panel->setCurrentColor({}); });
+        found += ear.listen(1, [&form] { form.panel->setCurrentColor(QColor(Qt::blue)); });
+        QVERIFY2(ear.press("alt+g", "Gain!"), ear.said());
+        found += ear.change("Right");
+
+        found += QStringLiteral("--- The free selector");
+        const QString other = panelPart("Choose another colour");
+        QVERIFY2(ear.press("alt+t", panelPart("Colour value") + QLatin1Char('!')), ear.said());
+        QVERIFY2(ear.tabTo(other), ear.said());
+        found += ear.listen(4, [] { RealInput::key(QStringLiteral("space")); });
+        found += client.ask({QStringLiteral("tree"), other, QStringLiteral("dialog")});
+        found += ear.listen(2, [] { RealInput::key(QStringLiteral("Left")); });
+        QVERIFY2(ear.press("Escape", other + QLatin1Char('!')), ear.said());
+
+        found += QStringLiteral("--- An error");
+        form.folder->setErrorDisplayType(PathSelectionWidget::Label);
+        QSignalSpy paths(form.folder, &PathSelectionWidget::pathChanged);
+        form.folder->setPath(QStringLiteral("nowhere"));
+        QTRY_COMPARE(paths.size(), 1);
+        found += ear.listen(3, [&form] { form.folder->checkPath(); });
 
         found += QStringLiteral("--- The QML dialog");
         const QmlFiles files;

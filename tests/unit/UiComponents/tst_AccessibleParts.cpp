@@ -136,6 +136,12 @@ private Q_SLOTS:
         const auto labels = reader(QApplication::focusWidget()).relations(QAccessible::Label);
         QCOMPARE(labels.size(), 1);
         QCOMPARE(labels.constFirst().first->object(), form->labelForField(field));
+        // A part with a name of its own would lose it: readers prefer the label's text.
+        const auto parts = field->findChildren<QWidget*>();
+        for (QWidget* part : parts) {
+            const int count = spokenName(part) == QLatin1String("Fill") ? 1 : 0;
+            QCOMPARE(reader(part).relations(QAccessible::Label).size(), count);
+        }
     }
 
     void ownNamesWin()
@@ -175,6 +181,13 @@ private Q_SLOTS:
         QCOMPARE(
             reader(&picking).text(QAccessible::Description),
             QStringLiteral("blue, #0000ff. Needs a mouse; without one, type the value in a colour panel"));
+        // One sentence after the other as the language has it.
+        MarkingTranslator translator("AccessibleNames");
+        QCoreApplication::installTranslator(&translator);
+        QCOMPARE(
+            reader(&picking).text(QAccessible::Description),
+            QStringLiteral("<blue, #0000ff. Needs a mouse; without one, type the value in a colour panel>"));
+        QCoreApplication::removeTranslator(&translator);
     }
 
     void colorsAreAnnouncedOnce()
@@ -374,6 +387,7 @@ private Q_SLOTS:
         QTest::addColumn<PathSelectionWidget::ErrorDisplayType>("type");
         QTest::newRow("tool tip") << PathSelectionWidget::Tooltip;
         QTest::newRow("label") << PathSelectionWidget::Label;
+        QTest::newRow("nowhere") << PathSelectionWidget::ErrorDisplayType(0);
     }
 
     void folderErrors()
@@ -392,14 +406,30 @@ private Q_SLOTS:
         const AccessibleEars ears;
         QVERIFY(!field.checkPath());
         QVERIFY(edit.state().invalid);
-        QCOMPARE(edit.text(QAccessible::Description), QStringLiteral("Full & <b>locked</b>"));
+        const QString message = type == PathSelectionWidget::ErrorDisplayType(0)
+                                    ? QString()
+                                    : QStringLiteral("Full & <b>locked</b>");
+        QCOMPARE(edit.text(QAccessible::Description), message);
         const QStringList heard = AccessibleEars::take();
-        QVERIFY(heard.contains(QStringLiteral("Export to: Full & <b>locked</b>")));
+        QVERIFY(heard.contains(QStringLiteral("Export to: ") + message));
         QCOMPARE(heard.count(QStringLiteral("Export to!")), 1);
-        QCOMPARE(reader(partOf(&field, "errorLabel")).role(), QAccessible::AlertMessage);
+        QAccessibleInterface& label = reader(partOf(&field, "errorLabel"));
+        QCOMPARE(label.role(), QAccessible::AlertMessage);
+        const auto messages = edit.relations(QAccessible::Controlled);
+        const auto edits = label.relations(QAccessible::Controller);
+        QCOMPARE(messages.size(), type == PathSelectionWidget::Label ? 1 : 0);
+        QCOMPARE(edits.size(), messages.size());
+        if (type == PathSelectionWidget::Label) {
+            QCOMPARE(messages.constFirst().first, &label);
+            QCOMPARE(edits.constFirst().first, &edit);
+        }
+        // The key that hides a tool tip leaves the mark.
+        partOf(&field, "pathLineEdit")->setToolTip(QString());
+        QVERIFY(edit.state().invalid);
         field.setPath(QDir::homePath());
         QTRY_VERIFY(!edit.state().invalid);
         QCOMPARE(edit.text(QAccessible::Description), QString());
+        QVERIFY(edit.relations(QAccessible::Controlled).isEmpty());
         QToolTip::hideText();
     }
 
@@ -503,6 +533,14 @@ private Q_SLOTS:
         edit->setReadOnly(true);
         QVERIFY(!interface.editableTextInterface());
         QVERIFY(interface.state().readOnly);
+        // A client may have asked for it before.
+        editable->insertText(0, QStringLiteral("dark "));
+        interface.setText(QAccessible::Value, QStringLiteral("red"));
+        edit->setReadOnly(false);
+        edit->setEnabled(false);
+        editable->deleteText(0, 5);
+        QVERIFY(!interface.editableTextInterface());
+        QCOMPARE(field.text(), QStringLiteral("green"));
     }
 
     void spinBoxesCanBeRead()
@@ -527,6 +565,19 @@ private Q_SLOTS:
         QAccessibleTextInterface* const text = reader(partOf(&field, "spinbox")).textInterface();
         QVERIFY(text);
         QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("0.20"));
+        auto* const box = field.findChild<QDoubleSpinBox*>();
+        box->setReadOnly(true);
+        reader(box).valueInterface()->setCurrentValue(0.9);
+        QVERIFY(reader(box).state().readOnly);
+        QVERIFY(!reader(box).state().editable);
+        field.setEnabled(false);
+        for (const char* part : {"slider", "spinbox"}) {
+            QAccessibleInterface& interface = reader(partOf(&field, part));
+            interface.valueInterface()->setCurrentValue(0.9);
+            QVERIFY(interface.state().disabled);
+            QCOMPARE(interface.valueInterface()->currentValue().toDouble(), 0.2);
+        }
+        QVERIFY(changes.isEmpty());
     }
 
     void planesAreTwoSliders()
@@ -604,6 +655,33 @@ private Q_SLOTS:
         QTEST(plane.point(), "point");
         QCOMPARE(changes.size(), 1);
         QTEST(AccessibleEars::take().filter(QStringLiteral("Light")), "heard");
+    }
+
+    void planeDragsAreAnnouncedOnce()
+    {
+        QWidget window;
+        PointSelectorWidget field(&window, {{0.0, 0.0}, {1.0, 1.0}, 2, 2});
+        field.setAccessibleName(QStringLiteral("Light"));
+        auto* const plane = field.findChild<PointSelectionPlane*>();
+        plane->setMinimumSize(101, 101);
+        field.resize(field.sizeHint());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QSignalSpy changes(plane, &PointSelectionPlane::pointChanged);
+        const AccessibleEars ears;
+        const auto at = [&](int x, int y) { return plane->mapTo(&window, QPoint(x, y)); };
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, at(10, 10));
+        QTest::mouseMove(window.windowHandle(), at(20, 30));
+        QTest::mouseMove(window.windowHandle(), at(30, 40));
+        QVERIFY(changes.size() >= 2);
+        QCOMPARE(AccessibleEars::take(), QStringList());
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at(50, 75));
+        QCoreApplication::processEvents();
+        const QStringList heard = AccessibleEars::take();
+        QCOMPARE(heard, QStringList({QStringLiteral("Light, x: 0.5"), QStringLiteral("Light, y: 0.75")}));
+        plane->setFocus();
+        QTest::keyClick(plane, Qt::Key_Right);
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Light, x: 0.51")});
     }
 
     void colorPlaneIsTwoSliders()
