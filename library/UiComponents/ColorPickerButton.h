@@ -29,7 +29,7 @@ class AbstractColorPicker;
  * button.
  *
  * **Readers** find a button with the name of its label, its accessible name or its tool tip. Its value and,
- * on X11 and Wayland, its description is the colour in words, and each change is said.
+ * on X11 and Wayland, its description is the colour in words, and each change is said. Space picks.
  *
  * **Style sheet.** The face is a child QWidget named "color". The button writes its background, opaque
  * whatever the alpha, and at opacity 0.4 while disabled; size, border and the look of the two states without

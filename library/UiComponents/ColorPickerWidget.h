@@ -39,8 +39,12 @@
  *
  * The panel writes the background of preview and colour buttons, opaque whatever the alpha. The preview has
  * the properties "nullColor" and "multiColor" (bool), the no-colour button "nullColor". The selector is a
- * QDialog with the property "roundedEdges" (see Workaround::Ui::apply()). Tool tips and readers have the
- * colours in words.
+ * QDialog with the property "roundedEdges" (see Workaround::Ui::apply()).
+ *
+ * **Readers** find a group of the panel's name. In it, "Current colour" is a picture with the colour in words
+ * as its value, which says each change; "Colour value" is the edit; "Palette" and "Own colours" are groups of
+ * radio buttons, which are called by their colours, as their tool tips are; the opacity is a slider and a
+ * spin box. Tab goes from group to group. The pipette needs a mouse; the edit takes every colour.
  * @see ColorPickerButton, Pipette, Settings::userCustomColors(), Util::appendCustomColor()
  */
 class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame

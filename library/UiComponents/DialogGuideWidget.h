@@ -28,7 +28,9 @@
  * **Image.** It plays while the bubble is shown. GuideWidget says how to pause it, or to show its first
  * picture only.
  *
- * **Readers** hear of a dialog with title and description when it appears. enter() leads in by keyboard.
+ * **Readers** hear of a dialog with title and description when it appears; in it are the buttons and the
+ * picture, as in GuideWidget. enter() leads in by keyboard, Enter presses the button that has the focus, and
+ * Escape asks to close.
  *
  * **Style sheet.** In "contentFrame" are "headerFrame" with "headerLabel" and "closeButton",
  * "descriptionFrame" with "gifPixmapWidget" and "descriptionLabel", and "buttonsFrame" with "secondaryButton"

@@ -24,8 +24,8 @@
  * a click elsewhere and when the button hides; the focus is then where it was before. A closed pop-up lives
  * on until the next click or the end of the button.
  *
- * **Readers** find the pop-up below the button while it is open, a dialog whose description is the text of
- * the guide.
+ * **Readers** find a button with its accessible name or tool tip, and below it, while that is open, the
+ * pop-up: a dialog with the guide's title as its name and the text as its description. Space opens it.
  *
  * On X11 a click on the button while its pop-up is open only closes it, since the press belongs to the
  * pop-up. Platforms that pass such a press on open a new one, and so does click() by code.

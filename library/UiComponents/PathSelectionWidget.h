@@ -31,6 +31,10 @@ class QUrl;
  * **Language.** The texts of the space figures and the field's own two messages are translated (context
  * "PathSelectionWidget") and follow a change of language; messages of FileUtil and of the host do not.
  *
+ * **Readers** find a group of the line edit, which has the field's name and the path as its value, and of the
+ * two buttons. Tab goes from one to the next. While the field is marked, the line edit is invalid and has the
+ * message as its description.
+ *
  * **Style sheet.** "spaceInfoFrame" (OvFrame) holds "requiredLabel" and "availableLabel";
  * "pathSelectionFrame" (OvFrame) holds "pathLineEdit" (Orvane::Tessel::TesselLineEdit, property "kitVersion",
  * always "1.0"), "pathBrowseButton" and "pathResetButton" (QToolButton, without text or icon); "errorLabel"
@@ -78,10 +82,9 @@ public:
      * writable for this process; a relative path never is.
      *
      * On an error the line edit gets the focus with all its text selected, the field is marked, and the
-     * message is shown as plain text, and readers hear it: the line edit is invalid and has the message as
-     * its description. The next key hides a tool tip; the next pathChanged() removes mark and
-     * label. Success removes no earlier mark. A handler of the widget that loses the focus must not delete
-     * the field.
+     * message is shown as plain text, and readers hear it. The next key hides a tool tip; the next
+     * pathChanged() removes mark and label. Success removes no earlier mark. A handler of the widget that
+     * loses the focus must not delete the field.
      */
     bool checkPath();
 

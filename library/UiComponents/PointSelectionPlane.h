@@ -27,7 +27,8 @@
  * Page Down by a tenth of the height, Home and End to the left and right edge, with Control to the top and
  * bottom.
  *
- * **Readers** find a group of two sliders, x and y, in the host's units, which they may set.
+ * **Readers** find a group of two sliders, x and y, in the host's units, which they may set while the plane
+ * is enabled; the keys are those of the plane. A step is said once, and a drag when it is over.
  *
  * **Painting.** A flat background, two fixed axes through the middle, a round marker at the point, and, for
  * users who come by keyboard, the edge of the style's focus rectangle. Size and frame are the sheet's;

@@ -35,6 +35,7 @@ class QuickContent;
  *
  * **Readers** find the scene's items below the dialog, as far as the scene describes them by the attached
  * properties of Accessible, and call the dialog by the name of its root item, unless it has a window title.
+ * Keys are the scene's; Escape rejects.
  *
  * **Showing.** Only exec() shows the scene: show() and open() show an empty window. Each exec() makes the
  * dialog's layout anew, without a host's children of the dialog.

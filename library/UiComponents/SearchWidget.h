@@ -36,8 +36,8 @@
  * **Focus.** Tab reaches the button; when it hides with the text, the focus goes to the line edit. A click on
  * it leaves the focus where it is.
  *
- * **Readers** find a group of an edit for searches, with the name of the field or the placeholder, and the
- * button.
+ * **Readers** find a group of an edit for searches, with the name of the field or the placeholder and with
+ * the text as its value, and the button. Tab goes from one to the other, Enter ends the edit.
  *
  * **Lifetime.** Slots of both signals delete the field with deleteLater(), since QLineEdit goes on after
  * reporting. A field that is destroyed, or whose window is, reports nothing.

@@ -23,7 +23,8 @@
  * slider.
  *
  * **Readers** find a group of a slider with the name of the field and a spin box called "name, number", both
- * in the field's units, which they may set. Arrows, Page Up and Page Down, Home and End work on the slider.
+ * in the field's units, which they may set while the field is enabled. A drag is said when it is over.
+ * Arrows, Page Up and Page Down, Home and End work on the slider.
  *
  * **Style sheet.** The object names are "slider" and "spinbox"; the frame's metrics are OvFrame's properties:
  * `SliderInputWidget { qproperty-layoutSpacing: 8; }`.
