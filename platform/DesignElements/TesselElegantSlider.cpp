@@ -52,6 +52,15 @@ void drawGroove(QPainter& painter, const QStyleOptionSlider& option, const QRect
     }
 }
 
+/// In the middle between surface and text. In a black palette, `Dark` and `Light` are black too.
+QColor edgeColor(const QPalette& palette)
+{
+    const QColor surface = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    return {(surface.red() + text.red()) / 2, (surface.green() + text.green()) / 2,
+            (surface.blue() + text.blue()) / 2};
+}
+
 void drawHandle(QPainter& painter, const QStyleOptionSlider& option, const QRectF& room)
 {
     const qreal diameter = qMin(handleDiameter, qMin(room.width(), room.height()) - 1);
@@ -63,7 +72,8 @@ void drawHandle(QPainter& painter, const QStyleOptionSlider& option, const QRect
     const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
     const QColor fill = option.palette.color(QPalette::Light);
     const qreal pen = focused ? ringWidth : 1.0;
-    painter.setPen(QPen(option.palette.color(focused ? QPalette::Highlight : QPalette::Dark), pen));
+    painter.setPen(
+        QPen(focused ? option.palette.color(QPalette::Highlight) : edgeColor(option.palette), pen));
     painter.setBrush(pressed ? fill.darker(115) : hovered ? fill.lighter(110) : fill);
     painter.drawEllipse(centredIn(room, QSizeF(diameter - pen, diameter - pen)));
 }

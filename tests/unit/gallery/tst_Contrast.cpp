@@ -1,36 +1,53 @@
 #include "TestMain.h"
 
+#include <DesignElements/TesselElegantSlider.h>
+#include <UiComponents/ColorBlendingComboBox.h>
+#include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/DialogGuideWidget.h>
+#include <UiComponents/EditSession.h>
+#include <UiComponents/GuideWidget.h>
+#include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/SearchWidget.h>
+#include <UiComponents/SliderInputWidget.h>
+#include <WidgetToolkit/OvSpinBox.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSlider>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionGroupBox>
 #include <QStyleOptionSlider>
 #include <QStyleOptionSpinBox>
 #include <QTabBar>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <cmath>
+#include <functional>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
 #include <gallery/PageRegistry.h>
 #include <gallery/StyleController.h>
 #include <memory>
+
+using Make = std::function<QWidget*()>;
+Q_DECLARE_METATYPE(Make)
 
 namespace {
 
@@ -147,7 +164,14 @@ bool hasBorder(const QWidget* widget)
             widget->objectName() == QLatin1String("pathSelectionFrame"));
 }
 
-/// What a widget shows as a text, and where.
+/// Whether it has marks that Qt's style does not know.
+bool isPaintedHere(const QWidget* widget)
+{
+    return qobject_cast<const PointSelectionPlane*>(widget) ||
+           qobject_cast<const Orvane::Tessel::TesselElegantSlider*>(widget);
+}
+
+/// What a widget shows as a text.
 QString textOf(const QWidget* widget)
 {
     if (const auto* const label = qobject_cast<const QLabel*>(widget)) {
@@ -164,7 +188,44 @@ QString textOf(const QWidget* widget)
     if (const auto* const combo = qobject_cast<const QComboBox*>(widget)) {
         return combo->currentText();
     }
+    if (const auto* const box = qobject_cast<const QAbstractSpinBox*>(widget)) {
+        return box->text();
+    }
+    if (const auto* const edit = qobject_cast<const QTextEdit*>(widget)) {
+        return edit->toPlainText().isEmpty() ? edit->placeholderText() : edit->toPlainText();
+    }
+    if (const auto* const edit = qobject_cast<const QPlainTextEdit*>(widget)) {
+        return edit->toPlainText().isEmpty() ? edit->placeholderText() : edit->toPlainText();
+    }
+    if (const auto* const group = qobject_cast<const QGroupBox*>(widget)) {
+        return group->title();
+    }
     return {};
+}
+
+/// The part of @p widget that its text is in, without borders and marks.
+QRect textAreaOf(const QWidget* widget)
+{
+    constexpr int Border = 4;
+    const QRect inside = widget->rect().adjusted(Border, Border, -Border, -Border);
+    if (qobject_cast<const QLabel*>(widget)) {
+        return widget->rect();
+    }
+    if (const auto* const area = qobject_cast<const QAbstractScrollArea*>(widget)) {
+        return area->viewport()->geometry();
+    }
+    if (const auto* const group = qobject_cast<const QGroupBox*>(widget)) {
+        return subControl<QStyleOptionGroupBox>(group, QStyle::CC_GroupBox, QStyle::SC_GroupBoxLabel);
+    }
+    if (const auto* const box = qobject_cast<const QAbstractSpinBox*>(widget)) {
+        return subControl<QStyleOptionSpinBox>(box, QStyle::CC_SpinBox, QStyle::SC_SpinBoxEditField);
+    }
+    if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
+        const int mark = widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + Border;
+        const bool isMirrored = widget->isRightToLeft();
+        return inside.adjusted(isMirrored ? 0 : mark, 0, isMirrored ? -mark : 0, 0);
+    }
+    return inside;
 }
 
 /// A window, and what is seen of it.
@@ -177,7 +238,8 @@ public:
     {
     }
 
-    QStringList failures() const
+    /// Without a sheet, borders, sizes and most marks are those of Qt's style.
+    QStringList failures(bool hasSheet = true) const
     {
         QStringList all;
         const auto widgets = m_window->findChildren<QWidget*>();
@@ -186,10 +248,15 @@ public:
                 continue;
             }
             checkText(widget, &all);
-            checkBorder(widget, &all);
-            checkMark(widget, &all);
-            checkTarget(widget, &all);
-            if (const auto* const view = qobject_cast<const QAbstractItemView*>(widget)) {
+            if (hasSheet || isPaintedHere(widget)) {
+                checkMark(widget, &all);
+            }
+            if (hasSheet) {
+                checkBorder(widget, &all);
+                checkTarget(widget, &all);
+            }
+            const auto* const view = qobject_cast<const QAbstractItemView*>(widget);
+            if (view && hasSheet) {
                 checkRows(view, &all);
             }
         }
@@ -240,17 +307,7 @@ private:
 
     void checkText(const QWidget* widget, QStringList* all) const
     {
-        // Within borders, and beside the mark of a box.
-        constexpr int border = 4;
-        QRect area = areaOf(widget).adjusted(border, border, -border, -border);
-        if (qobject_cast<const QLabel*>(widget)) {
-            area = areaOf(widget);
-        }
-        if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
-            const int mark =
-                widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + border;
-            area.adjust(widget->isRightToLeft() ? 0 : mark, 0, widget->isRightToLeft() ? -mark : 0, 0);
-        }
+        const QRect area = textAreaOf(widget).translated(areaOf(widget).topLeft());
         if (!textOf(widget).trimmed().isEmpty() && !area.isEmpty() && !isPartOfAnother(widget)) {
             expect(strongest(m_picture, area), leastOfText, QStringLiteral("text of ") + describe(widget),
                    all);
@@ -429,6 +486,73 @@ private Q_SLOTS:
             }
         }
         all += Surface(&window).focusFailures();
+        QVERIFY2(all.isEmpty(), qPrintable(QLatin1Char('\n') + all.join(QLatin1Char('\n'))));
+    }
+
+    void withoutASheet_data()
+    {
+        QTest::addColumn<QColor>("surface");
+        QTest::addColumn<Make>("make");
+        const auto row = [](const char* name, const Make& make) {
+            QTest::addRow("%s, black on white", name) << QColor(Qt::white) << make;
+            QTest::addRow("%s, white on black", name) << QColor(Qt::black) << make;
+        };
+        row("point plane", [] {
+            auto* plane = new PointSelectionPlane(nullptr);
+            plane->setMinimumSize(100, 100);
+            return plane;
+        });
+        row("slider", [] {
+            auto* slider = new Orvane::Tessel::TesselElegantSlider;
+            slider->setOrientation(Qt::Horizontal);
+            return slider;
+        });
+        row("combo box", [] { return new ColorBlendingComboBox(nullptr); });
+        row("guide", [] {
+            return new GuideWidget({QStringLiteral("Trim"), QStringLiteral("Drag the end of a clip."),
+                                    QStringLiteral("<a href='x:y'>More</a>"), QString()},
+                                   nullptr);
+        });
+        row("bubble", [] {
+            auto* bubble = new DialogGuideWidget(nullptr);
+            bubble->setInfo({QStringLiteral("Tour"), QStringLiteral("Drag the edge."), QStringLiteral("Next"),
+                             QStringLiteral("Back"), QString()});
+            return bubble;
+        });
+        row("colour panel", [] { return new ColorPickerWidget(nullptr, false); });
+        row("folder field", [] {
+            auto* field = new PathSelectionWidget(nullptr);
+            field->setPath(QStringLiteral("/tmp"));
+            return field;
+        });
+        row("slider field", [] { return new SliderInputWidget(nullptr); });
+        row("several values", [] {
+            auto* box = new OvSpinBox;
+            (new EditSession(box))->setMultiValue(true);
+            return box;
+        });
+    }
+
+    // What components paint themselves follows the palette, also a black one.
+    void withoutASheet()
+    {
+        QFETCH(QColor, surface);
+        QFETCH(Make, make);
+        const QPalette before = QApplication::palette();
+        const auto restore = qScopeGuard([&before] { QApplication::setPalette(before); });
+        const QColor ink = surface == QColor(Qt::white) ? Qt::black : Qt::white;
+        QPalette palette(surface, surface);
+        palette.setColor(QPalette::Link, ink);
+        QApplication::setPalette(palette);
+        QWidget window;
+        QWidget* const widget = make();
+        (new QVBoxLayout(&window))->addWidget(widget);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(widget->isVisible());
+        // The focus has marks of its own.
+        window.setFocus();
+        const QStringList all = Surface(&window).failures(false);
         QVERIFY2(all.isEmpty(), qPrintable(QLatin1Char('\n') + all.join(QLatin1Char('\n'))));
     }
 };
