@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>Try colours, then press Escape or Enter</source>
-        <translation>Farben ausprobieren, dann Escape oder Eingabe drücken</translation>
+        <translation>Farben ausprobieren, dann Escape- oder Eingabetaste drücken</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message>
         <source>A field that stands for several values has multiValue, and a label #multiValueCover covers each of its line edits.</source>
-        <translation>Ein Feld, das für mehrere Werte steht, hat multiValue, und ein Label #multiValueCover verdeckt jedes seiner Textfelder.</translation>
+        <translation>Ein Feld, das für mehrere Werte steht, hat multiValue, und ein Label #multiValueCover verdeckt jedes seiner Eingabefelder.</translation>
     </message>
     <message>
         <source>Title cards</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message>
         <source>An application in miniature, to be read in examples/titlecard: an inspector of several cards, undo and redo of everything, presets, a tour, a QML dialog, and pictures of the canvas.</source>
-        <translation>Eine Anwendung im Kleinen, nachzulesen in examples/titlecard: Eigenschaften mehrerer Karten, Rückgängig und Wiederholen für alles, Vorlagen, eine Führung, ein QML-Dialog und Bilder der Leinwand.</translation>
+        <translation>Eine Anwendung im Kleinen, nachzulesen in examples/titlecard: Eigenschaften mehrerer Karten, Rückgängig und Wiederholen für alles, Vorlagen, ein Rundgang, ein QML-Dialog und Bilder der Leinwand.</translation>
     </message>
     <message>
         <source>application</source>

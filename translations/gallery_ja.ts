@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>The panel that a colour field opens: a palette, a hexadecimal value, the user&apos;s own colours, a selector of any colour, and opacity.</source>
-        <translation>カラーフィールドが開くパネルです。パレット、16 進数の値、利用者の色、任意の色の選択、不透明度を備えています。</translation>
+        <translation>カラーフィールドが開くパネルです。パレット、16 進数の値、マイカラー、任意の色の選択、不透明度を備えています。</translation>
     </message>
     <message>
         <source>palette</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>How the colour of a layer is combined with what lies under it. The names are sorted in the user&apos;s language, behind the first, which is no blending at all. Here the layer is a grey ramp and three lights, on a landscape.</source>
-        <translation>レイヤーの色を下にあるものとどう合成するかを選びます。先頭は合成しないモードで、その後の名前は利用者の言語の順に並びます。ここでは、グレーの階調と三つの光のレイヤーが風景の上にあります。</translation>
+        <translation>レイヤーの色を下にあるものとどう合成するかを選びます。先頭は合成しないモードで、その後の名前はユーザーの言語の順に並びます。ここでは、グレーの階調と三つの光のレイヤーが風景の上にあります。</translation>
     </message>
     <message>
         <source>layer</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>Custom colours and folders</source>
-        <translation>カスタム色とフォルダー</translation>
+        <translation>マイカラーとフォルダー</translation>
     </message>
     <message>
         <source>Scheduler</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
-        <translation>カラーパネルがカスタム色の横で開くもので、ライブラリ内部のものです。二つの枠の余白と間隔はスタイルシートが決めます。</translation>
+        <translation>カラーパネルがマイカラーの横で開くもので、ライブラリ内部のものです。二つの枠の余白と間隔はスタイルシートが決めます。</translation>
     </message>
     <message>
         <source>Drag the marker</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Clear the search</source>
-        <translation>検索を消去</translation>
+        <translation>検索をクリア</translation>
     </message>
     <message>
         <source>Search clips</source>
@@ -1837,7 +1837,7 @@
     </message>
     <message>
         <source>Custom colours</source>
-        <translation>カスタム色</translation>
+        <translation>マイカラー</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1949,11 +1949,11 @@
     </message>
     <message>
         <source>Whether the system lets the program read the screen and the input of other programs, asked without troubling the user.</source>
-        <translation>他のプログラムの画面や入力を読むことをシステムが許しているかを、利用者を煩わせずに調べます。</translation>
+        <translation>他のプログラムの画面や入力を読むことをシステムが許しているかを、ユーザーを煩わせずに調べます。</translation>
     </message>
     <message>
         <source>The user&apos;s own colours outlive the program, also when it is killed right after the write. They are kept under the host&apos;s organisation and application name, or in a store that the host hands over. A colour is added at the front, eight are kept, and neither a colour of the fixed palette nor one that is there already is taken.</source>
-        <translation>利用者の色は、書き込み直後に強制終了されても残ります。ホストの組織名とアプリケーション名の下、またはホストが渡した保存先に保存されます。色は先頭に加えられ、八色まで保たれます。固定パレットの色とすでにある色は加えられません。</translation>
+        <translation>マイカラーは、書き込み直後に強制終了されても残ります。ホストの組織名とアプリケーション名の下、またはホストが渡した保存先に保存されます。色は先頭に加えられ、八色まで保たれます。固定パレットの色とすでにある色は加えられません。</translation>
     </message>
     <message>
         <source>Merges a burst of requests into one deferred call. Later requests do not put the call off, so a steady stream of them still gets its calls.</source>
@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>Try colours, then press Escape or Enter</source>
-        <translation>色を試してから Esc または Enter を押す</translation>
+        <translation>色を試してから Esc キーまたは Enter キーを押す</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2056,7 +2056,7 @@
     </message>
     <message>
         <source>Clear the search</source>
-        <translation>検索を消去</translation>
+        <translation>検索をクリア</translation>
     </message>
     <message>
         <source>Search parameters</source>
@@ -2147,7 +2147,7 @@
     </message>
     <message>
         <source>Panel: with own colours</source>
-        <translation>パネル: 自分の色あり</translation>
+        <translation>パネル: マイカラーあり</translation>
     </message>
 </context>
 <context>

@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>The inspector</source>
-        <translation>インスペクタ</translation>
+        <translation>インスペクター</translation>
     </message>
     <message>
         <source>All selected cards get what you change. Escape takes it back.</source>
-        <translation>変更は選択中のすべてのカードに適用されます。Escape で取り消せます。</translation>
+        <translation>変更は選択中のすべてのカードに適用されます。Esc キーで取り消せます。</translation>
     </message>
     <message>
         <source>The folder</source>
@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>What the card says. Escape brings it back.</source>
-        <translation>カードの文字です。Escape で元に戻ります。</translation>
+        <translation>カードの文字です。Esc キーで元に戻ります。</translation>
     </message>
     <message>
         <source>Colour</source>
