@@ -255,8 +255,12 @@ void PageRegistry::adjustingList(Page* page)
     constexpr int maxClips = 10000;
     auto* model = new QStandardItemModel(page);
     addClips(model, firstClips);
-    const auto lists = page->addTwins<AdjustingListView>(
-        tr("A bin of clips"), [model](AdjustingListView* list) { list->setModel(model); });
+    const auto lists =
+        page->addTwins<AdjustingListView>(tr("A bin of clips"), [model](AdjustingListView* list) {
+            list->setModel(model);
+            // Qt asks no label for the name of a list.
+            list->setAccessibleName(tr("A bin of clips"));
+        });
     const auto logHeight = [page, lists] {
         if (lists.enabled) {
             page->signalLog()->addLine(

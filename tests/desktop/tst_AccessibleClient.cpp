@@ -195,6 +195,8 @@ public:
         key->setColor(Qt::blue);
         versions->setModel(
             new QStringListModel({QStringLiteral("Rough cut"), QStringLiteral("Fine cut")}, this));
+        // Qt asks no label for the name of a list.
+        versions->setAccessibleName(QStringLiteral("Versions"));
         help->setGuideInfo(std::make_unique<GuideInfo>(
             QStringLiteral("Trim"), QStringLiteral("Drag the end of a clip."),
             QStringLiteral("<a href=\"x:y\">More</a>"), QStringLiteral(":/gallery/guides/trim.gif")));

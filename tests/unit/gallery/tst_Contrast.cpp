@@ -206,8 +206,8 @@ QString textOf(const QWidget* widget)
 /// The part of @p widget that its text is in, without borders and marks.
 QRect textAreaOf(const QWidget* widget)
 {
-    constexpr int Border = 4;
-    const QRect inside = widget->rect().adjusted(Border, Border, -Border, -Border);
+    constexpr int border = 4;
+    const QRect inside = widget->rect().adjusted(border, border, -border, -border);
     if (qobject_cast<const QLabel*>(widget)) {
         return widget->rect();
     }
@@ -221,7 +221,7 @@ QRect textAreaOf(const QWidget* widget)
         return subControl<QStyleOptionSpinBox>(box, QStyle::CC_SpinBox, QStyle::SC_SpinBoxEditField);
     }
     if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
-        const int mark = widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + Border;
+        const int mark = widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget) + border;
         const bool isMirrored = widget->isRightToLeft();
         return inside.adjusted(isMirrored ? 0 : mark, 0, isMirrored ? -mark : 0, 0);
     }
