@@ -17,8 +17,10 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QVector>
+
+#include <utility>
 
 namespace {
 
@@ -52,6 +54,16 @@ QLineEdit* editorOf(QObject* part)
     return qobject_cast<QAbstractSpinBox*>(part) ? part->findChild<QLineEdit*>() : nullptr;
 }
 
+/// An edit's own undo ends where the host's begins.
+void forgetTyping(QLineEdit* editor)
+{
+    if (editor->isUndoAvailable() || editor->isRedoAvailable()) {
+        const int cursor = editor->cursorPosition();
+        editor->setText(editor->text());
+        editor->setCursorPosition(cursor);
+    }
+}
+
 ColorPickerButton* colorButtonOf(QWidget* field)
 {
     const auto* input = qobject_cast<ColorInputWidget*>(field);
@@ -72,6 +84,13 @@ public:
         Text,
         Pick,
     };
+    /// What a slot asks for while a value is reported: done when all slots have heard of that.
+    enum class Request {
+        None,
+        Commit,
+        Finish,
+        Cancel,
+    };
 
     Private(EditSession* session, QWidget* editedField);
 
@@ -81,24 +100,30 @@ public:
 
     bool begin(Gesture next, QObject* onPart);
     void beginText(QObject* onPart);
+    void replaceText(QObject* onPart);
     void pressMouse(QObject* onPart, const QMouseEvent& event);
     void releaseMouse(const QMouseEvent& event);
     bool pressKey(QObject* onPart, const QKeyEvent& event);
     void releaseKey(const QKeyEvent& event);
     void turnWheel(QObject* onPart, const QWheelEvent& event);
     void loseFocus(const QFocusEvent& event);
-    bool overrideShortcut(QKeyEvent* event);
+    bool overrideShortcut(QObject* onPart, QKeyEvent* event);
     bool isCancelKey(const QKeyEvent& event) const;
+    bool overridesUndo(QObject* onPart, const QKeyEvent& event) const;
     bool isTyped() const;
     void letGo();
+    void writeInSilence(const QVariant& value);
 
     void onChanged();
     void onChosen();
     void onTyped();
     void onPicked(const QVariant& result, bool isNewInAnyCase);
+    void chooseAtEnd(QObject* onPart, const QEvent* event);
     bool isHeard() const { return access.read && holds == 0 && !isReporting && isAlive(); }
     void reportShown();
     void report(const QVariant& value);
+    void ask(Request what);
+    void answer();
     void finishIfAlone();
     bool takeText();
     void finish();
@@ -125,6 +150,11 @@ public:
     bool isNewInAnyCase = false;
     bool isReleasing = false;
     bool isReporting = false;
+    Request request = Request::None;
+    /// The pick was cancelled, and its end is still to be told.
+    bool isGivenUp = false;
+    /// What the button is about to take from such a pick.
+    QVariant refused;
     int holds = 0;
 };
 
@@ -198,6 +228,8 @@ bool EditSession::Private::begin(Gesture next, QObject* onPart)
     gesture = next;
     part = onPart;
     isReleasing = false;
+    isGivenUp = false;
+    refused.clear();
     return true;
 }
 
@@ -218,7 +250,15 @@ void EditSession::Private::releaseMouse(const QMouseEvent& event)
     }
     // A plane takes the point where it is let go, and always tells. Nothing else changes then.
     isReleasing = qobject_cast<PointSelectionPlane*>(part);
-    if (!isReleasing) {
+    if (isReleasing) {
+        return;
+    }
+    const QPointer<EditSession> self(q);
+    const auto* const box = qobject_cast<QAbstractSpinBox*>(part);
+    if (!box || box->buttonSymbols() != QAbstractSpinBox::NoButtons) {
+        onChosen(); // where it stands already
+    }
+    if (self) {
         finish();
     }
 }
@@ -230,6 +270,20 @@ void EditSession::Private::beginText(QObject* onPart)
     if (editor && begin(Gesture::Text, onPart) && face->isShown()) {
         editor->selectAll();
     }
+}
+
+/// What is dropped goes to where the mouse is, and not to the cursor.
+void EditSession::Private::replaceText(QObject* onPart)
+{
+    auto* const editor = qobject_cast<QLineEdit*>(onPart);
+    if (!editor || !face->isShown()) {
+        return;
+    }
+    const bool isOfAnother = editorOf(editor->parent()) == editor;
+    beginText(isOfAnother ? editor->parent() : editor);
+    isReleasing = true;
+    const QSignalBlocker quiet(editor);
+    editor->clear();
 }
 
 /// Returns whether the key goes no further.
@@ -287,14 +341,19 @@ void EditSession::Private::loseFocus(const QFocusEvent& event)
     }
 }
 
-bool EditSession::Private::overrideShortcut(QKeyEvent* event)
+bool EditSession::Private::overrideShortcut(QObject* onPart, QKeyEvent* event)
 {
     if (isCancelKey(*event)) {
         event->accept();
         return true;
     }
+    const QPointer<EditSession> self(q);
     if (gesture == Gesture::Wheel) {
         finish();
+    }
+    if (self && overridesUndo(onPart, *event)) {
+        event->ignore();
+        return true;
     }
     return false;
 }
@@ -305,26 +364,62 @@ bool EditSession::Private::isCancelKey(const QKeyEvent& event) const
     return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier && canCancel;
 }
 
+/// Whether Undo and Redo are the host's. An edit would keep them in any case, and undo what has been
+/// committed.
+bool EditSession::Private::overridesUndo(QObject* onPart, const QKeyEvent& event) const
+{
+    const QLineEdit* const editor = editorOf(onPart);
+    const bool isUndo = event.matches(QKeySequence::Undo);
+    if (!editor || (!isUndo && !event.matches(QKeySequence::Redo))) {
+        return false;
+    }
+    return gesture != Gesture::Text || !(isUndo ? editor->isUndoAvailable() : editor->isRedoAvailable());
+}
+
 /// Whether there is a text that a spin box may not have taken yet. Other fields take each at once.
 bool EditSession::Private::isTyped() const
 {
     return qobject_cast<QAbstractSpinBox*>(part) && editorOf(part)->isModified();
 }
 
-/// A drag that is cancelled is over for the part too.
+/// A drag or a pick that is cancelled is over for the part too.
 void EditSession::Private::letGo()
 {
-    auto* const widget = qobject_cast<QWidget*>(part);
-    if (gesture == Gesture::Mouse && widget) {
+    const Gesture ended = std::exchange(gesture, Gesture::None);
+    if (auto* const widget = ended == Gesture::Mouse ? qobject_cast<QWidget*>(part) : nullptr) {
         QMouseEvent release(QEvent::MouseButtonRelease, mousePosition, widget->mapToGlobal(mousePosition),
                             Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(widget, &release);
+    }
+    if (ended == Gesture::Pick) {
+        isGivenUp = true;
+        if (colorButton) {
+            colorButton->stopPicking();
+        } else {
+            qobject_cast<WidgetColorPickerButton*>(field)->stopPicking();
+        }
+    }
+}
+
+void EditSession::Private::writeInSilence(const QVariant& value)
+{
+    const QPointer<EditSession> self(q);
+    ++holds;
+    access.write(value);
+    if (self) {
+        --holds;
     }
 }
 
 void EditSession::Private::onChanged()
 {
     if (!isHeard()) {
+        return;
+    }
+    const bool isRefused = refused.isValid() && FieldAccess::isSame(access.read(), refused);
+    refused.clear();
+    if (isRefused) {
+        writeInSilence(last);
         return;
     }
     const QPointer<EditSession> self(q);
@@ -352,30 +447,49 @@ void EditSession::Private::onChosen()
 /// The same for a text.
 void EditSession::Private::onTyped()
 {
-    if (isHeard() && face->isShown() && gesture == Gesture::Text && editorOf(part) &&
-        editorOf(part)->hasAcceptableInput()) {
-        reportShown();
+    if (gesture == Gesture::Text && editorOf(part) && editorOf(part)->hasAcceptableInput()) {
+        onChosen();
+    }
+}
+
+/// The user has asked for more than there is, and so for what the field holds already.
+void EditSession::Private::chooseAtEnd(QObject* onPart, const QEvent* event)
+{
+    if (face->isShown() && !isTyped() && FieldAccess::isAtEnd(onPart, event)) {
+        onChosen();
     }
 }
 
 void EditSession::Private::onPicked(const QVariant& result, bool isNew)
 {
+    const auto refuse = [this, &result] {
+        isGivenUp = false;
+        refused = FieldAccess::isSame(result, last) ? QVariant() : result;
+    };
+    if (isGivenUp) {
+        refuse();
+        return;
+    }
     if (gesture != Gesture::Pick || !isHeard()) {
         return;
     }
     const QPointer<EditSession> self(q);
     // The button takes it after this, and is to show what is committed.
-    ++holds;
-    access.write(result);
+    writeInSilence(result);
     if (!self) {
         return;
     }
-    --holds;
     const bool isTakenBack = isActive && !isNew && FieldAccess::isSame(result, start);
     if (isNew || (!isTakenBack && !FieldAccess::isSame(result, last))) {
         report(result);
     }
-    if (self) {
+    if (self && request == Request::Cancel) {
+        answer();
+        if (self) {
+            refuse();
+        }
+    } else if (self) {
+        request = Request::None;
         last = result;
         isNewInAnyCase = isNewInAnyCase || isNew;
         finish();
@@ -389,6 +503,7 @@ void EditSession::Private::reportShown()
     if (self && isAlive()) {
         // A slot may have set another value.
         last = access.read();
+        answer();
     }
 }
 
@@ -415,6 +530,31 @@ void EditSession::Private::report(const QVariant& value)
     }
 }
 
+void EditSession::Private::ask(Request what)
+{
+    // The first one ends the session; the gesture ends in any case.
+    if (request == Request::None || (request == Request::Commit && what == Request::Finish)) {
+        request = what;
+    }
+}
+
+void EditSession::Private::answer()
+{
+    switch (std::exchange(request, Request::None)) {
+    case Request::None:
+        break;
+    case Request::Commit:
+        commit();
+        break;
+    case Request::Finish:
+        finish();
+        break;
+    case Request::Cancel:
+        cancel();
+        break;
+    }
+}
+
 /// Ends the session where nothing is held down that would.
 void EditSession::Private::finishIfAlone()
 {
@@ -429,14 +569,19 @@ void EditSession::Private::finishIfAlone()
 /// is still there.
 bool EditSession::Private::takeText()
 {
-    auto* const box = qobject_cast<QAbstractSpinBox*>(part);
-    if (gesture != Gesture::Text || !box || !isTyped()) {
+    if (gesture != Gesture::Text) {
         return true;
     }
     const QPointer<EditSession> self(q);
-    box->interpretText();
-    if (self && face->isShown()) {
-        reportShown();
+    if (isTyped()) {
+        qobject_cast<QAbstractSpinBox*>(part)->interpretText();
+        if (self && face->isShown()) {
+            reportShown();
+        }
+    }
+    QLineEdit* const editor = self ? editorOf(part) : nullptr;
+    if (editor) {
+        forgetTyping(editor);
     }
     return self;
 }
@@ -444,7 +589,11 @@ bool EditSession::Private::takeText()
 /// The gesture is over.
 void EditSession::Private::finish()
 {
-    if (isHeard() && takeText()) {
+    if (isReporting) {
+        ask(Request::Finish);
+    } else if (holds > 0) {
+        gesture = Gesture::None;
+    } else if (isHeard() && takeText()) {
         gesture = Gesture::None;
         isReleasing = false;
         end(isNewInAnyCase || !FieldAccess::isSame(last, start));
@@ -476,7 +625,11 @@ void EditSession::Private::end(bool isKept)
 
 void EditSession::Private::cancel()
 {
-    if (!isHeard() || gesture == Gesture::Pick) {
+    if (isReporting) {
+        ask(Request::Cancel);
+        return;
+    }
+    if (!isHeard()) {
         return;
     }
     const QPointer<EditSession> self(q);
@@ -488,7 +641,7 @@ void EditSession::Private::cancel()
     }
     if (self) {
         --holds;
-        gesture = Gesture::None;
+        refused.clear();
         last = access.read();
         end(false);
     }
@@ -606,6 +759,7 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
     if (d->gesture == Private::Gesture::Pick || !d->isAlive()) {
         return false;
     }
+    const QPointer<EditSession> self(this);
     const QPointer<QObject> receiver(watched);
     bool isTaken = false;
     switch (event->type()) {
@@ -617,10 +771,13 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         d->releaseMouse(*static_cast<QMouseEvent*>(event));
         break;
     case QEvent::ShortcutOverride:
-        isTaken = d->overrideShortcut(static_cast<QKeyEvent*>(event));
+        isTaken = d->overrideShortcut(watched, static_cast<QKeyEvent*>(event));
         break;
     case QEvent::KeyPress:
         isTaken = d->pressKey(watched, *static_cast<QKeyEvent*>(event));
+        if (self && !isTaken) {
+            d->chooseAtEnd(watched, event);
+        }
         break;
     case QEvent::KeyRelease:
         d->releaseKey(*static_cast<QKeyEvent*>(event));
@@ -634,8 +791,14 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
             d->beginText(watched);
         }
         break;
+    case QEvent::Drop:
+        d->replaceText(watched);
+        break;
     case QEvent::Wheel:
         d->turnWheel(watched, *static_cast<QWheelEvent*>(event));
+        if (self) {
+            d->chooseAtEnd(watched, event);
+        }
         break;
     case QEvent::Leave:
         if (d->gesture == Private::Gesture::Wheel) {
@@ -660,7 +823,11 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
 
 void EditSession::commit()
 {
-    d->commit();
+    if (d->isReporting) {
+        d->ask(Private::Request::Commit);
+    } else {
+        d->commit();
+    }
 }
 
 void EditSession::cancel()

@@ -30,11 +30,14 @@ class QWidget;
  * began is cancelled too, unless the field showed several values, or is a WidgetColorPickerButton, whose new
  * pick may be for another selection. Hiding or disabling the field commits what it shows, but leaves a pick
  * to its picker. A field that is deleted ends its session without a signal, and what was previewed stays.
+ * What ends a session in a slot of started() or previewed() does so when all slots have heard of the value.
+ * The keys of Undo and Redo belong to a text while it is typed, and else to the host's shortcuts.
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
- * he tabs through; that value is reported even if the field still held it. Its texts are covered by a dash,
- * the QLabel "multiValueCover", a colour field shows several colours, and screen readers say it. The field
- * has the property "multiValue" (bool): `[multiValue="true"] QSlider::handle { background: gray; }`.
+ * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its
+ * texts are covered by a dash, the QLabel "multiValueCover", a colour field shows several colours, and screen
+ * readers say it. The field has the property "multiValue" (bool):
+ * `[multiValue="true"] QSlider::handle { background: gray; }`.
  */
 class UICOMPONENTS_EXPORT EditSession : public QObject
 {
@@ -102,7 +105,7 @@ public Q_SLOTS:
     /// Ends a session, with a text that is being typed as the field would take it.
     void commit();
 
-    /// Ends a session and brings the old value back.
+    /// Ends a session, with the drag or the pick that makes it, and brings the old value back.
     void cancel();
 
 Q_SIGNALS:

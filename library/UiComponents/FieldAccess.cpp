@@ -6,6 +6,7 @@
 #include "ColorPickerButton.h"
 #include "DoubleSliderInputWidget.h"
 #include "PathSelectionWidget.h"
+#include "PlaneDrag.h"
 #include "PointMapping.h"
 #include "PointSelectionPlane.h"
 #include "PointSelectorWidget.h"
@@ -16,8 +17,10 @@
 #include <WidgetToolkit/OvDoubleSlider.h>
 
 #include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QWheelEvent>
 
 namespace {
 
@@ -42,6 +45,23 @@ FieldAccess access(Field* field, Getter getter, Setter setter, Signal changed)
     return access;
 }
 
+/// For a field that has a slider, which tells of each step, also of one that leads nowhere.
+template <typename Value, typename Field, typename Getter, typename Setter, typename Signal>
+FieldAccess sliderAccess(Field* field, QAbstractSlider* slider, Getter getter, Setter setter, Signal changed)
+{
+    FieldAccess number = access<Value>(field, getter, setter, changed);
+    number.watchChoice = [slider](QObject* context, const std::function<void()>& chosen) {
+        QObject::connect(slider, &QAbstractSlider::actionTriggered, context, [slider, chosen](int action) {
+            // Else the value follows.
+            const bool isThere = slider->sliderPosition() == slider->value();
+            if (isThere && action != QAbstractSlider::SliderNoAction) {
+                chosen();
+            }
+        });
+    };
+    return number;
+}
+
 FieldAccess colorAccess(ColorPickerButton* button)
 {
     return access<OptionalColor>(button, &ColorPickerButton::color, &ColorPickerButton::setColor,
@@ -60,21 +80,31 @@ FieldAccess selectorAccess(PointSelectorWidget* selector)
 {
     FieldAccess point = access<QPointF>(selector, &PointSelectorWidget::value, &PointSelectorWidget::setValue,
                                         &PointSelectorWidget::valueChanged);
-    if (auto* plane = selector->findChild<PointSelectionPlane*>()) {
-        // It tells when the spin boxes have followed it; they tell of one coordinate after the other.
-        const auto watchField = point.watch;
-        const auto watchPlane = planeAccess(plane).watch;
-        point.watch = [plane, watchField, watchPlane](QObject* context,
-                                                      const std::function<void()>& changed) {
-            watchField(context, [plane, changed] {
-                if (!plane->hasFocus() && QWidget::mouseGrabber() != plane) {
-                    changed();
-                }
-            });
-            watchPlane(context, changed);
-        };
-        point.watchChoice = watchPlane;
+    const auto boxes = selector->findChildren<QDoubleSpinBox*>();
+    auto* plane = selector->findChild<PointSelectionPlane*>();
+    if (!plane) {
+        return point;
     }
+    const auto watchField = point.watch;
+    point.watchChoice = planeAccess(plane).watch;
+    point.watch = [selector, plane, boxes, watchField,
+                   watchPlane = point.watchChoice](QObject* context, const std::function<void()>& changed) {
+        // The parts follow each other one after the other, and each report is of half a point until they
+        // agree. They are heard after the field, which has them do that.
+        const auto report = [selector, plane, changed] {
+            const QPointF onPlane = plane->point();
+            const QPointF shown = selector->value();
+            if (onPlane.x() == shown.x() && onPlane.y() == shown.y() && !selector->signalsBlocked()) {
+                changed();
+            }
+        };
+        watchField(context, report);
+        for (QDoubleSpinBox* box : boxes) {
+            watcher(box, qOverload<double>(&QDoubleSpinBox::valueChanged))(context, report);
+        }
+        // It is finer than the boxes, and not made to agree.
+        watchPlane(context, changed);
+    };
     return point;
 }
 
@@ -127,17 +157,64 @@ FieldAccess comboBoxAccess(QComboBox* box)
     return item;
 }
 
+/// 1 for a step up, -1 for one down and 0 for none.
+int directionOf(const QEvent* event)
+{
+    if (event->type() == QEvent::Wheel) {
+        const int turn = static_cast<const QWheelEvent*>(event)->angleDelta().y();
+        return int(turn > 0) - int(turn < 0);
+    }
+    switch (static_cast<const QKeyEvent*>(event)->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_PageUp:
+        return 1;
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+        return -1;
+    default:
+        return 0;
+    }
+}
+
+bool isBoxAtEnd(const QAbstractSpinBox* box, const QEvent* event)
+{
+    const int direction = directionOf(event);
+    return direction != 0 && box->hasFocus() && !box->isReadOnly() && !box->wrapping() &&
+           box->property("value") == box->property(direction > 0 ? "maximum" : "minimum");
+}
+
+bool isListAtEnd(const QComboBox* box, const QEvent* event)
+{
+    int direction = directionOf(event);
+    if (event->type() == QEvent::KeyPress && !box->isEditable()) {
+        const int key = static_cast<const QKeyEvent*>(event)->key();
+        direction += int(key == Qt::Key_Home) - int(key == Qt::Key_End);
+    }
+    const int end = direction > 0 ? 0 : box->count() - 1;
+    return direction != 0 && box->hasFocus() && box->count() > 0 && box->currentIndex() == end &&
+           box->currentText() == box->itemText(end);
+}
+
+/// There is nothing to delete.
+bool isTextAtEnd(const QLineEdit* edit, const QEvent* event)
+{
+    return event->type() == QEvent::KeyPress && edit->text().isEmpty() && !edit->isReadOnly() &&
+           (static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Delete ||
+            static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Backspace);
+}
+
 } // namespace
 
 FieldAccess FieldAccess::of(QWidget* field)
 {
     if (auto* slider = qobject_cast<SliderInputWidget*>(field)) {
-        return access<int>(slider, &SliderInputWidget::value, &SliderInputWidget::setValue,
-                           &SliderInputWidget::valueChanged);
+        return sliderAccess<int>(slider, slider->findChild<QAbstractSlider*>(), &SliderInputWidget::value,
+                                 &SliderInputWidget::setValue, &SliderInputWidget::valueChanged);
     }
     if (auto* slider = qobject_cast<DoubleSliderInputWidget*>(field)) {
-        return access<double>(slider, &DoubleSliderInputWidget::value, &DoubleSliderInputWidget::setValue,
-                              &DoubleSliderInputWidget::valueChanged);
+        return sliderAccess<double>(slider, slider->findChild<QAbstractSlider*>(),
+                                    &DoubleSliderInputWidget::value, &DoubleSliderInputWidget::setValue,
+                                    &DoubleSliderInputWidget::valueChanged);
     }
     if (auto* selector = qobject_cast<PointSelectorWidget*>(field)) {
         return selectorAccess(selector);
@@ -173,17 +250,33 @@ FieldAccess FieldAccess::of(QWidget* field)
                               qOverload<double>(&QDoubleSpinBox::valueChanged));
     }
     if (auto* slider = qobject_cast<OvDoubleSlider*>(field)) {
-        return access<double>(slider, &OvDoubleSlider::doubleValue, &OvDoubleSlider::setDoubleValue,
-                              &OvDoubleSlider::doubleValueChanged);
+        return sliderAccess<double>(slider, slider, &OvDoubleSlider::doubleValue,
+                                    &OvDoubleSlider::setDoubleValue, &OvDoubleSlider::doubleValueChanged);
     }
     if (auto* slider = qobject_cast<QAbstractSlider*>(field)) {
-        return access<int>(slider, &QAbstractSlider::value, &QAbstractSlider::setValue,
-                           &QAbstractSlider::valueChanged);
+        return sliderAccess<int>(slider, slider, &QAbstractSlider::value, &QAbstractSlider::setValue,
+                                 &QAbstractSlider::valueChanged);
     }
     if (auto* edit = qobject_cast<QLineEdit*>(field)) {
         return access<QString>(edit, &QLineEdit::text, &QLineEdit::setText, &QLineEdit::textChanged);
     }
     return {};
+}
+
+bool FieldAccess::isAtEnd(QObject* part, const QEvent* event)
+{
+    if (const auto* box = qobject_cast<const QAbstractSpinBox*>(part)) {
+        return isBoxAtEnd(box, event);
+    }
+    if (const auto* box = qobject_cast<const QComboBox*>(part)) {
+        return isListAtEnd(box, event) || (box->isEditable() && isTextAtEnd(box->lineEdit(), event));
+    }
+    if (const auto* edit = qobject_cast<const QLineEdit*>(part)) {
+        return isTextAtEnd(edit, event);
+    }
+    auto* const plane = qobject_cast<PointSelectionPlane*>(part);
+    return plane && event->type() == QEvent::KeyPress &&
+           PlaneDrag::of(plane)->isAtEdge(*static_cast<const QKeyEvent*>(event));
 }
 
 bool FieldAccess::isSame(const QVariant& one, const QVariant& other)

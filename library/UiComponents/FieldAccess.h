@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QEvent;
 class QObject;
 class QWidget;
 
@@ -24,6 +25,10 @@ struct FieldAccess
     std::function<void(QObject* context, const std::function<void()>& chosen)> watchChoice;
 
     static FieldAccess of(QWidget* field);
+
+    /// Whether a key or a turn of the wheel asks @p part for more than there is, such as a step beyond its
+    /// end, of which it tells nobody. Sliders tell.
+    static bool isAtEnd(QObject* part, const QEvent* event);
 
     /// Exact, also where QVariant compares with a tolerance or not at all.
     static bool isSame(const QVariant& one, const QVariant& other);

@@ -117,6 +117,12 @@ bool PlaneDrag::pressKey(const QKeyEvent& event)
     return true;
 }
 
+bool PlaneDrag::isAtEdge(const QKeyEvent& event) const
+{
+    const QPoint move = stepOf(event, m_plane->size());
+    return !move.isNull() && PointMapping::stepped(pixel(), move, m_plane->rect()) == pixel();
+}
+
 void PlaneDrag::stop() const
 {
     if (isDragging()) {

@@ -36,6 +36,8 @@ public:
     bool move(const QMouseEvent& event);
     bool release(const QMouseEvent& event);
     bool pressKey(const QKeyEvent& event);
+    /// Whether a key asks for a step beyond the edge, which leaves the marker in its place.
+    bool isAtEdge(const QKeyEvent& event) const;
 
     /// Releases the mouse without a report. A hidden or disabled widget would keep the grab, and with it
     /// every click in the application.

@@ -1,3 +1,4 @@
+#include "AccessibleEars.h"
 #include "FakeColorPicker.h"
 #include "MouseEvents.h"
 #include "TestMain.h"
@@ -6,7 +7,9 @@
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/EditCommand.h>
 #include <UiComponents/EditSession.h>
 #include <UiComponents/FieldAccess.h>
 #include <UiComponents/PathSelectionWidget.h>
@@ -23,7 +26,8 @@
 
 using Color = std::optional<QColor>;
 
-/// A field, the parts of it that a user works with, two values, and the text of a third.
+/// A field, the parts of it that a user works with, two values, the first of its range, and the text of
+/// another.
 struct Kind
 {
     const char* name;
@@ -33,6 +37,7 @@ struct Kind
     const char* typed;
     QVariant start;
     QVariant other;
+    QVariant first;
     QString text;
 };
 
@@ -85,9 +90,9 @@ const QVector<Kind>& kinds()
     const auto edit = "QLineEdit";
     static const QVector<Kind> all = {
         {"SliderInputWidget", maker<SliderInputWidget>(SliderInputWidget::Initializer{0, 100}), slider,
-         slider, spin, 50, 80, "37"},
+         slider, spin, 50, 80, 0, "37"},
         {"DoubleSliderInputWidget", maker<DoubleSliderInputWidget>(Double{0.0, 1.0, 2}), slider, slider, spin,
-         0.5, 0.8, "0.37"},
+         0.5, 0.8, 0.0, "0.37"},
         {"PointSelectionPlane",
          makePlane,
          "PointSelectionPlane",
@@ -95,10 +100,11 @@ const QVector<Kind>& kinds()
          nullptr,
          QPointF(50, 50),
          QPointF(80, 20),
+         QPointF(0, 0),
          {}},
         {"PointSelectorWidget", makeSelector, "PointSelectionPlane", "PointSelectionPlane", spin,
-         QPointF(5, 5), QPointF(8, 2), "3.7"},
-        {"QSlider", makeRanged<QSlider>, slider, slider, nullptr, 50, 80, {}},
+         QPointF(5, 5), QPointF(8, 2), QPointF(0, 0), "3.7"},
+        {"QSlider", makeRanged<QSlider>, slider, slider, nullptr, 50, 80, 0, {}},
         {"OvDoubleSlider",
          [](QWidget* parent) {
              auto* field = new OvDoubleSlider(parent);
@@ -111,12 +117,13 @@ const QVector<Kind>& kinds()
          nullptr,
          0.5,
          0.8,
+         0.0,
          {}},
-        {"QSpinBox", makeRanged<QSpinBox>, nullptr, spin, spin, 50, 80, "37"},
-        {"QDoubleSpinBox", makeRanged<QDoubleSpinBox>, nullptr, spin, spin, 50.0, 80.0, "3.7"},
-        {"QLineEdit", maker<QLineEdit>(), nullptr, nullptr, edit, "before", "other", "typed"},
-        {"SearchWidget", maker<SearchWidget>(), nullptr, nullptr, edit, "before", "other", "typed"},
-        {"PathSelectionWidget", maker<PathSelectionWidget>(), nullptr, nullptr, edit, "/before", "/other",
+        {"QSpinBox", makeRanged<QSpinBox>, nullptr, spin, spin, 50, 80, 0, "37"},
+        {"QDoubleSpinBox", makeRanged<QDoubleSpinBox>, nullptr, spin, spin, 50.0, 80.0, 0.0, "3.7"},
+        {"QLineEdit", maker<QLineEdit>(), nullptr, nullptr, edit, "before", "other", "", "typed"},
+        {"SearchWidget", maker<SearchWidget>(), nullptr, nullptr, edit, "before", "other", "", "typed"},
+        {"PathSelectionWidget", maker<PathSelectionWidget>(), nullptr, nullptr, edit, "/before", "/other", "",
          "/typed"},
         {"QComboBox",
          [](QWidget* parent) { return makeCombo(parent, false); },
@@ -125,9 +132,10 @@ const QVector<Kind>& kinds()
          nullptr,
          2,
          4,
+         0,
          {}},
         {"editable QComboBox", [](QWidget* parent) { return makeCombo(parent, true); }, nullptr, "QComboBox",
-         "QComboBox", "three", "five", "typed"},
+         "QComboBox", "three", "five", "one", "typed"},
         {"ColorBlendingComboBox",
          maker<ColorBlendingComboBox>(),
          nullptr,
@@ -135,6 +143,7 @@ const QVector<Kind>& kinds()
          nullptr,
          int(BlendingMode::Multiply),
          int(BlendingMode::Screen),
+         int(BlendingMode::SourceOver),
          {}},
     };
     return all;
@@ -157,6 +166,7 @@ public:
         dragged = part(kind.dragged);
         keyed = part(kind.keyed);
         typed = part(kind.typed);
+        turned = qobject_cast<PointSelectionPlane*>(keyed) ? typed : keyed;
         listen();
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -176,7 +186,11 @@ public:
     }
     /// A key that makes the value another.
     int stepKey() const { return qobject_cast<QAbstractSlider*>(keyed) ? Qt::Key_Right : Qt::Key_Down; }
-    int backKey() const { return qobject_cast<QAbstractSlider*>(keyed) ? Qt::Key_Left : Qt::Key_Up; }
+    int backKey() const { return backKey(keyed); }
+    static int backKey(const QWidget* on)
+    {
+        return qobject_cast<const QAbstractSlider*>(on) ? Qt::Key_Left : Qt::Key_Up;
+    }
 
     void type(const QString& text) const
     {
@@ -198,6 +212,7 @@ public:
     QPointer<QWidget> dragged;
     QPointer<QWidget> keyed;
     QPointer<QWidget> typed;
+    QPointer<QWidget> turned; // by the wheel
     QStringList lines;
     QVariant previewed;
     QVariant committed;
@@ -254,11 +269,23 @@ private:
     }
 };
 
+/// As those that a nested event loop ends.
+class LatePicker : public FakeColorPicker
+{
+public:
+    void stop() override {}
+};
+
+ColorPickerButton* buttonOf(const Stage& stage)
+{
+    return qobject_cast<ColorPickerButton*>(stage.field);
+}
+
 using Act = std::function<void(Stage&, const Kind&)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(std::function<void(FakeColorPicker&)>)
 
-enum class Needs { Nothing, Drag, Keys, Text };
+enum class Needs { Nothing, Drag, Keys, Wheel, Text };
 
 struct Story
 {
@@ -286,9 +313,9 @@ void dropAt(Stage& stage, int distance)
 
 void turnOn(Stage& stage)
 {
-    stage.keyed->setFocus();
+    stage.turned->setFocus();
     for (int i = 0; i < 3; ++i) {
-        turnWheel(*stage.keyed, -120);
+        turnWheel(*stage.turned, -120);
     }
 }
 
@@ -304,6 +331,46 @@ void hold(Stage& stage, int key)
     stage.pressKey(stage.keyed, key);
     stage.releaseKey(stage.keyed, key, true);
     stage.pressKey(stage.keyed, key, true);
+}
+
+/// Where a slider or a plane that is at the first of its values is taken hold of.
+QPoint markerOf(const QWidget* part)
+{
+    const auto* const slider = qobject_cast<const QSlider*>(part);
+    if (!slider) {
+        return {};
+    }
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = slider->orientation();
+    option.maximum = slider->maximum();
+    option.upsideDown = slider->orientation() == Qt::Vertical;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
+void pressKeyAtEnd(Stage& stage, const Kind&)
+{
+    const bool isList = qobject_cast<QComboBox*>(stage.turned);
+    const int key = qobject_cast<QLineEdit*>(stage.turned)          ? Qt::Key_Delete
+                    : qobject_cast<QAbstractSpinBox*>(stage.turned) ? Qt::Key_Down
+                    : isList                                        ? Qt::Key_Up
+                                                                    : Qt::Key_Left;
+    stage.turned->setFocus();
+    stage.pressKey(stage.turned, key);
+    // At once.
+    QVERIFY(stage.session->isActive());
+    stage.releaseKey(stage.turned, key);
+    stage.other->setFocus();
+}
+
+void turnWheelAtEnd(Stage& stage, const Kind&)
+{
+    stage.turned->setFocus();
+    turnWheel(*stage.turned, qobject_cast<QComboBox*>(stage.turned) ? 120 : -120);
+    QVERIFY(stage.session->isActive());
+    leave(stage.turned);
 }
 
 const QVector<Story>& stories()
@@ -403,35 +470,45 @@ const QVector<Story>& stories()
              s.releaseKey(s.keyed, Qt::Key_F5);
          }},
         {"a host without a word", Needs::Keys, once, [](Stage& s, const Kind& k) { s.write(k.other); }},
-        {"wheel, cursor leaves", Needs::Keys, once,
+        {"a part that is set while another has the focus", Needs::Wheel, once,
+         [](Stage& s, const Kind&) {
+             s.field->setFocus();
+             if (auto* box = qobject_cast<QAbstractSpinBox*>(s.turned)) {
+                 box->stepDown();
+             } else {
+                 s.pressKey(s.turned, s.stepKey());
+                 s.releaseKey(s.turned, s.stepKey());
+             }
+         }},
+        {"wheel, cursor leaves", Needs::Wheel, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
-             leave(s.keyed);
+             leave(s.turned);
          }},
-        {"wheel, focus loss", Needs::Keys, once,
+        {"wheel, focus loss", Needs::Wheel, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              s.other->setFocus();
          }},
-        {"wheel, then a key", Needs::Keys, twice,
+        {"wheel, then a key", Needs::Wheel, twice,
          [](Stage& s, const Kind&) {
              turnOn(s);
-             s.pressKey(s.keyed, s.backKey());
-             s.releaseKey(s.keyed, s.backKey());
+             s.pressKey(s.turned, s.backKey(s.turned));
+             s.releaseKey(s.turned, s.backKey(s.turned));
          }},
-        {"wheel, then a shortcut", Needs::Keys, once,
+        {"wheel, then a shortcut", Needs::Wheel, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
-             QCoreApplication::sendEvent(s.keyed, &shortcut);
+             QCoreApplication::sendEvent(s.turned, &shortcut);
          }},
-        {"wheel, Escape", Needs::Keys, cancelled,
+        {"wheel, Escape", Needs::Wheel, cancelled,
          [](Stage& s, const Kind& k) {
              turnOn(s);
-             s.pressKey(s.keyed, Qt::Key_Escape);
+             s.pressKey(s.turned, Qt::Key_Escape);
              QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
          }},
-        {"wheel, hidden", Needs::Keys, once,
+        {"wheel, hidden", Needs::Wheel, once,
          [](Stage& s, const Kind&) {
              turnOn(s);
              s.field->hide();
@@ -525,6 +602,20 @@ const QVector<Story>& stories()
     return all;
 }
 
+QString expectedOf(const Kind& kind, const Story& story)
+{
+    if (story.name == QByteArray("a host without a word")) {
+        // A plane reports nothing that is set, and a selector one coordinate after the other.
+        if (kind.name == QByteArray("PointSelectionPlane")) {
+            return {};
+        }
+        if (kind.name == QByteArray("PointSelectorWidget")) {
+            return QStringLiteral("started previewed committed started previewed committed");
+        }
+    }
+    return QString::fromLatin1(story.expected);
+}
+
 class tst_EditSession : public QObject
 {
     Q_OBJECT
@@ -534,19 +625,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<int>("told");
+        QTest::addColumn<QString>("expected");
         for (int kind = 0; kind < kinds().size(); ++kind) {
             for (int i = 0; i < stories().size(); ++i) {
                 const Kind& k = kinds().at(kind);
                 const Story& s = stories().at(i);
+                const bool isPlaneAlone = k.name == QByteArray("PointSelectionPlane");
                 const bool isPossible = s.needs == Needs::Nothing || (s.needs == Needs::Drag && k.dragged) ||
                                         (s.needs == Needs::Keys && k.keyed) ||
+                                        (s.needs == Needs::Wheel && k.keyed && !isPlaneAlone) ||
                                         (s.needs == Needs::Text && k.typed);
-                // A plane has no wheel, and reports nothing that a host sets.
-                const bool isForOthers =
-                    QByteArray(k.name).startsWith("Point") &&
-                    (QByteArray(s.name).startsWith("wheel") || s.name == QByteArray("a host without a word"));
-                if (isPossible && !isForOthers) {
-                    QTest::addRow("%s: %s", k.name, s.name) << kind << i;
+                if (isPossible) {
+                    QTest::addRow("%s: %s", k.name, s.name) << kind << i << expectedOf(k, s);
                 }
             }
         }
@@ -556,17 +646,18 @@ private Q_SLOTS:
     {
         QFETCH(int, kind);
         QFETCH(int, told);
+        QFETCH(QString, expected);
         const Kind& k = kinds().at(kind);
         const Story& s = stories().at(told);
         Stage stage(k);
         QVERIFY(FieldAccess::isSame(stage.session->value(), k.start));
         s.act(stage, k);
-        QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
+        QCOMPARE(stage.story(), expected);
         if (stage.session) {
             QVERIFY(!stage.session->isActive());
             // Late reports, as a folder field's, tell no other.
             QTest::qWait(k.name == QByteArray("PathSelectionWidget") ? 150 : 0);
-            QCOMPARE(stage.story(), QString::fromLatin1(s.expected));
+            QCOMPARE(stage.story(), expected);
         }
     }
 
@@ -632,6 +723,7 @@ private Q_SLOTS:
                            nullptr,
                            QVariant::fromValue(start),
                            QVariant::fromValue(result),
+                           {},
                            {}};
         Stage stage(kind);
         auto* const button = stage.field->findChild<ColorPickerButton*>();
@@ -648,6 +740,96 @@ private Q_SLOTS:
         }
     }
 
+    void cancelledPick_data()
+    {
+        QTest::addColumn<Act>("pick");
+        QTest::addColumn<Color>("start");
+        QTest::addColumn<QString>("expected");
+        const QString cancelled("started previewed cancelled");
+        const auto add = [](const char* name, const Color& start, const QString& expected, const Act& pick) {
+            QTest::newRow(name) << pick << start << expected;
+        };
+        const auto fake = [](const Stage& s) {
+            auto* const picker = new FakeColorPicker;
+            buttonOf(s)->setPicker(picker);
+            buttonOf(s)->startPicking();
+            return picker;
+        };
+        const auto choose = [](const Stage& s) {
+            auto* const popup = new PopupColorPicker;
+            buttonOf(s)->setPicker(popup);
+            buttonOf(s)->startPicking();
+            popup->panel()->findChildren<QToolButton*>().constFirst()->click();
+            Q_EMIT popup->panel()->colorChanged(Qt::green);
+        };
+        for (const Color& start : {Color(QColor(Qt::red)), Color(), Color(QColor())}) {
+            const char* const from = !start ? "several colours" : start->isValid() ? "red" : "no colour";
+            add(qPrintable(QStringLiteral("panel, from ") + from), start, cancelled,
+                [choose](Stage& s, const Kind&) {
+                    choose(s);
+                    s.session->cancel();
+                });
+            add(qPrintable(QStringLiteral("pipette of the panel, from ") + from), start, cancelled,
+                [choose](Stage& s, const Kind&) {
+                    FakeColorPicker pipette;
+                    choose(s);
+                    auto* const popup = qobject_cast<PopupColorPicker*>(buttonOf(s)->picker());
+                    popup->setPipette(&pipette);
+                    Q_EMIT popup->panel()->pipetteRequested();
+                    QVERIFY(pipette.isInProgress());
+                    pipette.preview(QColor(Qt::blue));
+                    s.session->cancel();
+                    QVERIFY(!pipette.isInProgress());
+                });
+            add(qPrintable(QStringLiteral("a slot of a preview, from ") + from), start, cancelled,
+                [fake](Stage& s, const Kind&) {
+                    connect(s.session, &EditSession::previewed, s.session, &EditSession::cancel);
+                    fake(s)->preview(QColor(Qt::green));
+                });
+            add(qPrintable(QStringLiteral("a slot of the end, from ") + from), start, cancelled,
+                [fake](Stage& s, const Kind&) {
+                    connect(s.session, &EditSession::started, s.session, &EditSession::cancel);
+                    fake(s)->finish(QColor(Qt::green));
+                });
+        }
+        add("nothing chosen yet", QColor(Qt::red), {}, [fake](Stage& s, const Kind&) {
+            fake(s);
+            s.session->cancel();
+        });
+        add("a picker that ends later", QColor(Qt::red), cancelled, [](Stage& s, const Kind&) {
+            auto* const picker = new LatePicker;
+            buttonOf(s)->setPicker(picker);
+            buttonOf(s)->startPicking();
+            picker->preview(QColor(Qt::green));
+            s.session->cancel();
+            picker->finish(QColor(Qt::blue));
+        });
+    }
+
+    void cancelledPick()
+    {
+        QFETCH(Act, pick);
+        QFETCH(Color, start);
+        QFETCH(QString, expected);
+        const Kind kind = {"ColorPickerButton",
+                           [](QWidget* parent) { return new ColorPickerButton(parent); },
+                           nullptr,
+                           nullptr,
+                           nullptr,
+                           QVariant::fromValue(start),
+                           {},
+                           {},
+                           {}};
+        Stage stage(kind);
+        pick(stage, kind);
+        QVERIFY(!buttonOf(stage)->isPickingInProgress());
+        QCOMPARE(stage.story(), expected);
+        QVERIFY(buttonOf(stage)->color() == start);
+        // What the host sets afterwards stays.
+        stage.session->setValue(QVariant::fromValue(Color(QColor(Qt::green))));
+        QVERIFY(buttonOf(stage)->color() == Color(QColor(Qt::green)));
+    }
+
     void colorPickWithThePanel()
     {
         const Kind kind = {"ColorPickerButton",
@@ -657,6 +839,7 @@ private Q_SLOTS:
                            nullptr,
                            QVariant::fromValue(Color()),
                            QVariant::fromValue(Color(QColor(Qt::red))),
+                           {},
                            {}};
         Stage stage(kind);
         auto* const button = qobject_cast<ColorPickerButton*>(stage.field);
@@ -712,6 +895,16 @@ private Q_SLOTS:
         lines.clear();
         pickAt(QPoint(5, 190));
         QCOMPARE(lines, QStringList());
+
+        // A pick that is cancelled would still bring what is below the cursor.
+        session.setValue(QColor(Qt::red));
+        QTimer::singleShot(0, &window, [&] {
+            QCursor::setPos(target.mapToGlobal(target.rect().center()));
+            session.cancel();
+        });
+        button.startPicking();
+        QCOMPARE(lines, QStringList());
+        QCOMPARE(button.color(), QColor(Qt::red));
     }
 
     void multiValue_data()
@@ -754,6 +947,14 @@ private Q_SLOTS:
             }();
         };
         QVERIFY(described().contains("Several values"));
+        // Whatever of it gets the keyboard.
+        const auto parts = stage.field->findChildren<QWidget*>() << stage.field;
+        for (QWidget* part : parts) {
+            if (part->focusPolicy() != Qt::NoFocus && part->isVisible()) {
+                QVERIFY2(reader(part).text(QAccessible::Description).contains("Several values"),
+                         part->metaObject()->className());
+            }
+        }
         // The user tabs through.
         for (int i = 0; i < 8; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -804,16 +1005,76 @@ private Q_SLOTS:
         }
     }
 
+    void multiValueTakesTheEnd_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("on");
+        QTest::addColumn<Act>("enter");
+        for (int i = 0; i < kinds().size(); ++i) {
+            const Kind& kind = kinds().at(i);
+            const bool isPlane = kind.keyed == QByteArray("PointSelectionPlane");
+            const auto add = [i, &kind](const char* on, const char* how, const Act& enter) {
+                QTest::addRow("%s: %s, %s", kind.name, on, how) << i << QString(on) << enter;
+            };
+            if (kind.dragged) {
+                add("dragged", "beyond the end", [](Stage& s, const Kind&) {
+                    const QPoint from = markerOf(s.dragged);
+                    const QPoint beyond = from + QPoint(-40, from.isNull() ? -40 : 40);
+                    press(*s.dragged, from);
+                    drag(*s.dragged, beyond);
+                    release(*s.dragged, beyond);
+                });
+                add("dragged", "in its place", [](Stage& s, const Kind&) {
+                    press(*s.dragged, markerOf(s.dragged));
+                    release(*s.dragged, markerOf(s.dragged));
+                });
+            }
+            if (kind.keyed) {
+                add("keyed", "key", &pressKeyAtEnd);
+            }
+            if (kind.keyed && !isPlane) {
+                add("keyed", "wheel", &turnWheelAtEnd);
+            }
+            if (kind.typed && qstrcmp(kind.typed, kind.keyed) != 0) {
+                add("typed", "key", &pressKeyAtEnd);
+            }
+            if (kind.typed == QByteArray("QAbstractSpinBox")) {
+                add("typed", "wheel", &turnWheelAtEnd);
+            }
+        }
+    }
+
+    void multiValueTakesTheEnd()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, on);
+        QFETCH(Act, enter);
+        const Kind& k = kinds().at(kind);
+        Stage stage(k);
+        stage.session->setValue(k.first);
+        if (auto* box = qobject_cast<QComboBox*>(stage.field)) {
+            const EditSession::Refresh refresh(box);
+            box->setCurrentIndex(0); // an editable one has taken the text only
+        }
+        stage.session->setMultiValue(true);
+        stage.turned = on == QLatin1String("typed") ? stage.typed : stage.keyed;
+        enter(stage, k);
+        QCOMPARE(stage.story(), QString("started previewed committed"));
+        QVERIFY(FieldAccess::isSame(stage.committed, k.first));
+        QVERIFY(!stage.session->isMultiValue());
+    }
+
     void hiddenTextIsReplaced_data()
     {
-        QTest::addColumn<bool>("isPasted");
-        QTest::newRow("by an input method") << false;
-        QTest::newRow("from the context menu") << true;
+        QTest::addColumn<QString>("how");
+        for (const char* const how : {"input method", "context menu", "drop"}) {
+            QTest::newRow(how) << QString(how);
+        }
     }
 
     void hiddenTextIsReplaced()
     {
-        QFETCH(bool, isPasted);
+        QFETCH(QString, how);
         QLineEdit field("before");
         EditSession session(&field);
         QSignalSpy committed(&session, &EditSession::committed);
@@ -821,7 +1082,15 @@ private Q_SLOTS:
         field.show();
         QVERIFY(QTest::qWaitForWindowActive(&field));
         field.end(false);
-        if (isPasted) {
+        if (how == QLatin1String("drop")) {
+            QMimeData dragged;
+            dragged.setText("after");
+            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&field, &enter);
+            QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&field, &drop);
+            QCOMPARE(committed.count(), 1);
+        } else if (how == QLatin1String("context menu")) {
             QApplication::clipboard()->setText("after");
             QContextMenuEvent pressed(QContextMenuEvent::Keyboard, QPoint());
             QCoreApplication::sendEvent(&field, &pressed);
@@ -851,6 +1120,7 @@ private Q_SLOTS:
         session.setMultiValue(true);
         QCOMPARE(field.color(), Color());
         QVERIFY(field.property("multiValue").toBool());
+        QVERIFY(reader(field.anchorWidget()).text(QAccessible::Description).contains("Several values"));
         session.setValue(QVariant::fromValue(Color(QColor(Qt::blue))));
         QVERIFY(!session.isMultiValue());
         QCOMPARE(field.color(), Color(QColor(Qt::blue)));
@@ -878,7 +1148,7 @@ private Q_SLOTS:
     void unfinishedText()
     {
         Stage stage({"SliderInputWidget", maker<SliderInputWidget>(SliderInputWidget::Initializer{10, 100}),
-                     nullptr, nullptr, "QAbstractSpinBox", 50, 80, "5"});
+                     nullptr, nullptr, "QAbstractSpinBox", 50, 80, 10, "5"});
         // Below the range, and so no value yet.
         stage.type("5");
         QCOMPARE(stage.story(), QString());
@@ -888,6 +1158,113 @@ private Q_SLOTS:
         stage.other->setFocus();
         QCOMPARE(stage.story(), QString("started previewed committed"));
         QCOMPARE(stage.committed, QVariant(10));
+    }
+
+    void undoKey_data()
+    {
+        QTest::addColumn<int>("kind");
+        for (int kind = 0; kind < kinds().size(); ++kind) {
+            if (kinds().at(kind).typed) {
+                QTest::newRow(kinds().at(kind).name) << kind;
+            }
+        }
+    }
+
+    /// What is not entered yet is the edit's to undo, and all else the host's.
+    void undoKey()
+    {
+        QFETCH(int, kind);
+        Stage stage(kinds().at(kind));
+        int undone = 0;
+        int redone = 0;
+        const QShortcut undo(QKeySequence::Undo, &stage.window, [&undone] { ++undone; });
+        const QShortcut redo(QKeySequence::Redo, &stage.window, [&redone] { ++redone; });
+        const auto press = [&stage](QKeySequence::StandardKey keys) {
+            const int key = QKeySequence::keyBindings(keys).constFirst()[0];
+            QTest::keyClick(stage.typed, Qt::Key(key & ~Qt::KeyboardModifierMask),
+                            Qt::KeyboardModifiers(key & Qt::KeyboardModifierMask));
+        };
+        if (auto* box = qobject_cast<QComboBox*>(stage.field)) {
+            box->setCompleter(nullptr); // it types too
+        }
+        const QString before = stage.editor()->text();
+        stage.type(kinds().at(kind).text);
+        for (int i = 0; stage.editor()->text() != before && i < 9; ++i) {
+            press(QKeySequence::Undo);
+        }
+        QCOMPARE(stage.editor()->text(), before);
+        QCOMPARE(undone, 0);
+        press(QKeySequence::Redo);
+        QVERIFY(stage.editor()->text() != before);
+        QCOMPARE(redone, 0);
+        stage.type(kinds().at(kind).text);
+        QTest::keyClick(stage.typed, Qt::Key_Return);
+        QVERIFY(stage.story().endsWith("committed"));
+        const QString entered = stage.editor()->text();
+        press(QKeySequence::Undo);
+        press(QKeySequence::Redo);
+        QCOMPARE(undone, 1);
+        QCOMPARE(redone, 1);
+        QCOMPARE(stage.editor()->text(), entered);
+
+        // The next text is undone back to the one that was entered, and no further.
+        QTest::keyClick(stage.typed, Qt::Key_End);
+        QTest::keyClick(stage.typed, Qt::Key_Backspace);
+        QVERIFY(stage.editor()->text() != entered);
+        press(QKeySequence::Undo);
+        QCOMPARE(stage.editor()->text(), entered);
+        QCOMPARE(undone, 1);
+        press(QKeySequence::Undo);
+        QCOMPARE(stage.editor()->text(), entered);
+        QCOMPARE(undone, 2);
+    }
+
+    void fortyFields()
+    {
+        QWidget inspector;
+        QUndoStack stack;
+        int told = 0;
+        QVector<EditSession*> sessions;
+        QVector<const Kind*> kindOf;
+        for (int i = 0; i < 40; ++i) {
+            const Kind& kind = kinds().at(i % kinds().size());
+            auto* const session = new EditSession(kind.make(&inspector));
+            for (const auto signal : {&EditSession::previewed, &EditSession::committed}) {
+                connect(session, signal, this, [&told] { ++told; });
+            }
+            for (const auto signal : {&EditSession::started, &EditSession::cancelled}) {
+                connect(session, signal, this, [&told] { ++told; });
+            }
+            EditCommand::record(
+                session, &stack, [] { return QString(); },
+                [] {
+                    return EditCommand::Targets{{[] { return QVariant(); }, [](const QVariant&) {}}};
+                });
+            sessions += session;
+            kindOf += &kind;
+        }
+        inspector.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&inspector));
+        const auto load = [&](QVariant Kind::*value) {
+            const EditSession::Refresh refresh(&inspector);
+            for (int i = 0; i < sessions.size(); ++i) {
+                // By the field's own setter, as a host has it.
+                FieldAccess::of(sessions.at(i)->field()).write(kindOf.at(i)->*value);
+                sessions.at(i)->setMultiValue(i % 7 == 0);
+            }
+        };
+        for (const auto value : {&Kind::start, &Kind::other, &Kind::first, &Kind::start}) {
+            load(value);
+            // A folder field's report is late.
+            QTest::qWait(150);
+            for (int i = 0; i < sessions.size(); ++i) {
+                QVERIFY2(FieldAccess::isSame(sessions.at(i)->value(), kindOf.at(i)->*value),
+                         kindOf.at(i)->name);
+                QVERIFY(!sessions.at(i)->isActive());
+            }
+        }
+        QCOMPARE(told, 0);
+        QCOMPARE(stack.count(), 0);
     }
 
     /// A host that writes each value into its document, and shows the document again.
@@ -905,6 +1282,69 @@ private Q_SLOTS:
         QVERIFY(stage.lines.count("started") == 1);
         QVERIFY(stage.story().endsWith("committed"));
         QCOMPARE(stage.committed.toInt() % 5, 0);
+    }
+
+    void askedInASlot_data()
+    {
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QString>("expected");
+        const QString once("started previewed committed");
+        const QString cancelled("started previewed cancelled");
+        for (const char* const signal : {"started()", "previewed(QVariant)"}) {
+            const auto add = [signal](const char* what, const QString& expected, const Act& act) {
+                QTest::addRow("%s %s", signal, what) << QByteArray("2").append(signal) << act << expected;
+            };
+            add("hide", once, [](Stage& s, const Kind&) { s.field->hide(); });
+            add("disable", once, [](Stage& s, const Kind&) { s.field->setEnabled(false); });
+            add("commit", once, [](Stage& s, const Kind&) { s.session->commit(); });
+            add("cancel", cancelled, [](Stage& s, const Kind&) { s.session->cancel(); });
+            add("hide, then cancel", once, [](Stage& s, const Kind&) {
+                s.field->hide();
+                s.session->cancel();
+            });
+            add("cancel, then hide", cancelled, [](Stage& s, const Kind&) {
+                s.session->cancel();
+                s.field->hide();
+            });
+            add("hide while refreshing", once, [](Stage& s, const Kind&) {
+                const EditSession::Refresh refresh(&s.window);
+                s.field->hide();
+            });
+            add("deleteLater", "started previewed", [](Stage& s, const Kind&) { s.field->deleteLater(); });
+        }
+    }
+
+    void askedInASlot()
+    {
+        QFETCH(QByteArray, signal);
+        QFETCH(Act, act);
+        QFETCH(QString, expected);
+        const Kind& kind = kinds().at(0);
+        Stage stage(kind);
+        QAction slot;
+        connect(&slot, &QAction::triggered, this, [&] {
+            slot.disconnect();
+            act(stage, kind);
+        });
+        QVERIFY(connect(stage.session, signal.constData(), &slot, SLOT(trigger())));
+        stage.keyed->setFocus();
+        stage.pressKey(stage.keyed, stage.stepKey());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(stage.story(), expected);
+        QVERIFY(!stage.session || !stage.session->isActive());
+        QVERIFY(!stage.field ||
+                FieldAccess::isSame(stage.session->value(), expected.endsWith("cancelled") ? 50 : 51));
+        if (stage.field) {
+            // The next one is told as ever.
+            stage.field->show();
+            stage.field->setEnabled(true);
+            stage.lines.clear();
+            stage.keyed->setFocus();
+            stage.pressKey(stage.keyed, stage.stepKey());
+            stage.releaseKey(stage.keyed, stage.stepKey());
+            QCOMPARE(stage.story(), QString("started previewed committed"));
+        }
     }
 
     void deletedInASlot_data()
