@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QMessageBox>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStorageInfo>
@@ -118,15 +119,21 @@ void Editor::addFolder(QBoxLayout* layout)
     m_folder->setPath(QDir::homePath());
 }
 
-void Editor::change(const QString& text, const QVector<Card>& cards)
+/// Gives what is not in the inspector a value, as one step of undo.
+void Editor::change(const QString& text, const EditCommand::Target& target, const QVariant& value)
 {
     const EditSession::Refresh guard(m_inspector);
-    const auto before = QVariant::fromValue(m_document.cards());
-    m_document.setCards(cards);
-    const EditCommand::Target all = {
-        [this] { return QVariant::fromValue(m_document.cards()); },
-        [this](const QVariant& value) { m_document.setCards(value.value<QVector<Card>>()); }};
-    m_stack.push(new EditCommand(text, {all}, {before}, QVariant::fromValue(cards)));
+    const QVariant before = target.read();
+    target.write(value);
+    m_stack.push(new EditCommand(text, {target}, {before}, value));
+}
+
+void Editor::changeCards(const QString& text, const QVector<Card>& cards)
+{
+    change(text,
+           {[this] { return QVariant::fromValue(m_document.cards()); },
+            [this](const QVariant& value) { m_document.setCards(value.value<QVector<Card>>()); }},
+           QVariant::fromValue(cards));
 }
 
 void Editor::askForCard()
@@ -141,7 +148,7 @@ void Editor::askForCard()
 void Editor::addCard(const QString& text)
 {
     const Card card = m_document.newCard(text);
-    change(tr("New card"), m_document.cards() + QVector<Card>{card});
+    changeCards(tr("New card"), m_document.cards() + QVector<Card>{card});
     m_canvas->select({card.id});
 }
 
@@ -167,7 +174,17 @@ void Editor::savePreset()
     QMap<Property, QVariant> values = card->values;
     const QString name = values.take(Text).toString();
     values.remove(Position);
-    m_presets.insert(name, values);
+    Presets presets = m_presets;
+    presets.insert(name, values);
+    change(tr("Save as preset"),
+           {[this] { return QVariant::fromValue(m_presets); },
+            [this](const QVariant& value) { setPresets(value.value<Presets>()); }},
+           QVariant::fromValue(presets));
+}
+
+void Editor::setPresets(const Presets& presets)
+{
+    m_presets = presets;
     m_presetNames.setStringList(m_presets.keys());
     // As high as its rows, until there are many.
     constexpr int manyRows = 6;
@@ -186,7 +203,7 @@ void Editor::applyPreset(const QString& name)
             card.values.insert(m_presets.value(name));
         }
     }
-    change(name, cards);
+    changeCards(name, cards);
 }
 
 void Editor::showSpace(const QString& folder)
@@ -198,9 +215,12 @@ void Editor::showSpace(const QString& folder)
 
 void Editor::exportPicture()
 {
-    if (m_folder->checkPath() && QDir().mkpath(m_folder->path())) {
-        m_document.render(m_canvas->size())
-            .save(QDir(m_folder->path()).filePath(QStringLiteral("titles.png")));
+    if (!m_folder->checkPath()) {
+        return; // it tells the user
+    }
+    const QString file = QDir(m_folder->path()).filePath(QStringLiteral("titles.png"));
+    if (!QDir().mkpath(m_folder->path()) || !m_document.render(m_canvas->size()).save(file)) {
+        QMessageBox::warning(this, windowTitle(), tr("The picture cannot be saved as %1.").arg(file));
     }
 }
 

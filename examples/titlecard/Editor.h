@@ -41,6 +41,9 @@ private:
     QString m_text;
 };
 
+/// What each of the presets gives a card, by its name.
+using Presets = QMap<QString, QMap<Property, QVariant>>;
+
 /// The window: the canvas and its presets on the left, the inspector and the export on the right.
 class Editor : public QMainWindow
 {
@@ -72,9 +75,11 @@ private:
     void makeSwitches();
     void addPresets(QBoxLayout* layout);
     void addFolder(QBoxLayout* layout);
-    void change(const QString& text, const QVector<Card>& cards);
-    void applyPreset(const QString& name);
+    void change(const QString& text, const EditCommand::Target& target, const QVariant& value);
+    void changeCards(const QString& text, const QVector<Card>& cards);
     void savePreset();
+    void setPresets(const Presets& presets);
+    void applyPreset(const QString& name);
     void showSpace(const QString& folder);
     void showStep(int step);
     void setLanguage(const QString& code);
@@ -85,7 +90,7 @@ private:
     Document m_document;
     QTranslator m_libraryTexts;
     QTranslator m_ownTexts;
-    QMap<QString, QMap<Property, QVariant>> m_presets;
+    Presets m_presets;
     Canvas* const m_canvas;
     Inspector* m_inspector = nullptr;
     QStringListModel m_presetNames;
@@ -99,3 +104,5 @@ private:
 };
 
 } // namespace TitleCard
+
+Q_DECLARE_METATYPE(TitleCard::Presets)

@@ -2,6 +2,7 @@
 #include "SameCards.h"
 #include "TestMain.h"
 
+#include <UiComponents/AbstractColorPicker.h>
 #include <UiComponents/AdjustingListView.h>
 #include <UiComponents/ColorBlendingComboBox.h>
 #include <UiComponents/ColorInputWidget.h>
@@ -72,6 +73,12 @@ private Q_SLOTS:
             QCOMPARE(steps(), ++colorSteps);
             QVERIFY(clickColor(property));
             QCOMPARE(steps(), ++colorSteps);
+            QVERIFY(typeOpacity(property, "40"));
+            QCOMPARE(steps(), ++colorSteps);
+            QCOMPARE(colorOf(property).alpha(), 102);
+            QVERIFY(dragOpacity(property));
+            QCOMPARE(steps(), ++colorSteps);
+            QVERIFY(colorOf(property).alpha() < 102);
         }
         QVERIFY(typeNumber(Size, "60"));
         QVERIFY(dragSlider(Size));
@@ -83,11 +90,10 @@ private Q_SLOTS:
         const int beforePlane = steps();
         QVERIFY(RealInput::drag(plane, plane->rect().center(), plane->rect().center() + QPoint(30, 20)));
         QTRY_COMPARE(steps(), beforePlane + 1);
-        QVERIFY(typeNumber(Position, "0.25"));
         auto* blending = field<ColorBlendingComboBox>(Blending);
         blending->setFocus();
         QVERIFY(RealInput::key(QStringLiteral("Down")));
-        QTRY_COMPARE(steps(), beforePlane + 3);
+        QTRY_COMPARE(steps(), beforePlane + 2);
         QVERIFY(RealInput::click(blending));
         QTRY_VERIFY(QApplication::activePopupWidget());
         QVERIFY(QTest::qWaitForWindowExposed(QApplication::activePopupWidget()));
@@ -95,12 +101,13 @@ private Q_SLOTS:
         const QModelIndex third = modes->model()->index(2, 0);
         QVERIFY(modes->currentIndex() != third);
         QVERIFY(RealInput::click(modes->viewport(), modes->visualRect(third).center()));
-        QTRY_COMPARE(steps(), beforePlane + 4);
+        QTRY_COMPARE(steps(), beforePlane + 3);
+        QVERIFY(typeNumber(Position, "0.25"));
 
-        // All of it undone, and done again.
+        // All of it undone, and done again, from the box that has just been typed into.
         const QVector<Card> made = cards();
         const int all = steps();
-        m_editor->canvas()->setFocus();
+        QVERIFY(QApplication::focusWidget()->inherits("QAbstractSpinBox"));
         for (int i = 0; i < all; ++i) {
             QVERIFY(RealInput::key(QStringLiteral("ctrl+z")));
         }
@@ -112,11 +119,13 @@ private Q_SLOTS:
         QTRY_COMPARE(steps(), all);
         QVERIFY(isSame(cards(), made));
 
-        // Both: a pick that is cancelled, and one that is not.
+        // Both, by clicks on each: a pick that is cancelled, and one that is not.
         QVERIFY(RealInput::click(m_editor->canvas(), QPoint(5, 5)));
         QTRY_VERIFY(m_editor->canvas()->selection().isEmpty());
-        QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
-        QTRY_COMPARE(m_editor->canvas()->selection().size(), 2);
+        QVERIFY(RealInput::click(m_editor->canvas(), placeOf(made.at(0).id)));
+        QTRY_COMPARE(m_editor->canvas()->selection(), QVector<int>{made.at(0).id});
+        QVERIFY(clickWithControl(m_editor->canvas(), placeOf(made.at(1).id)));
+        QTRY_COMPARE(m_editor->canvas()->selection(), (QVector<int>{made.at(0).id, made.at(1).id}));
         auto* color = field<ColorInputWidget>(Color);
         QTRY_VERIFY(!color->color());
         QVERIFY(chooseColor(Color, "00ff00", "Escape"));
@@ -141,6 +150,28 @@ private Q_SLOTS:
         const QImage exported(folder.filePath(QStringLiteral("titles.png")));
         QCOMPARE(exported.convertToFormat(QImage::Format_RGB32),
                  m_editor->canvas()->grab().toImage().convertToFormat(QImage::Format_RGB32));
+    }
+
+    void failedExportIsTold()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("titles.png")));
+        m_editor->findChild<PathSelectionWidget*>()->setPath(folder.path());
+        QString told;
+        // The message runs an event loop of its own.
+        QTimer reading;
+        connect(&reading, &QTimer::timeout, this, [&] {
+            const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box && box->isActiveWindow()) {
+                reading.stop();
+                told = box->text();
+                RealInput::key(QStringLiteral("Return"));
+            }
+        });
+        reading.start(20);
+        QVERIFY(RealInput::key(QStringLiteral("ctrl+shift+e")));
+        QTRY_VERIFY(!told.isEmpty() && !QApplication::activeModalWidget());
+        QVERIFY2(told.contains(folder.filePath(QStringLiteral("titles.png"))), qPrintable(told));
     }
 
     void givenUpCardIsNotMade()
@@ -172,6 +203,16 @@ private Q_SLOTS:
         QCOMPARE(values(Size), QVariantList({60, 60}));
         QCOMPARE(values(Text), QVariantList({"bright", "dark"}));
         QVERIFY(values(Position).at(0) != values(Position).at(1));
+
+        // The presets are steps too.
+        m_editor->findChild<SearchWidget*>()->findChild<QLineEdit*>()->clear();
+        QTRY_COMPARE(list->model()->rowCount(), 2);
+        for (const int rows : {2, 1, 1, 0}) {
+            QVERIFY(RealInput::key(QStringLiteral("ctrl+z")));
+            QTRY_COMPARE(list->model()->rowCount(), rows);
+        }
+        m_editor->undoStack()->setIndex(before);
+        QCOMPARE(list->model()->rowCount(), 2);
     }
 
     void tourRunsOnce()
@@ -184,10 +225,8 @@ private Q_SLOTS:
             const QString button = isClosed ? QStringLiteral("closeButton") : QStringLiteral("mainButton");
             for (int step = 0; step < (isClosed ? 1 : 3); ++step) {
                 const QString title = bubble()->windowTitle();
-                const QRect content = bubble()->contentFrame()->geometry();
-                const QPoint beside(content.left() + 3, content.center().y());
-                QTRY_COMPARE(RealInput::pixel(bubble(), beside), bubble()->backgroundColor());
-                bubble()->findChild<QAbstractButton*>(button)->click();
+                QTRY_VERIFY(isInPlace(bubble()));
+                QVERIFY(RealInput::click(bubble()->findChild<QAbstractButton*>(button)));
                 QTRY_VERIFY(!bubble() || bubble()->windowTitle() != title);
             }
             QTRY_VERIFY(!bubble());
@@ -276,19 +315,105 @@ private:
                QTest::qWaitFor([this] { return m_editor->isActiveWindow(); });
     }
 
-    bool clickColor(Property property)
+    /// Opens the panel of a colour field by a click.
+    QWidget* openPanel(Property property) const
+    {
+        const bool isOpen = RealInput::click(field<ColorInputWidget>(property)->anchorWidget()) &&
+                            QTest::qWaitFor([] { return QApplication::activePopupWidget(); }) &&
+                            QTest::qWaitForWindowExposed(QApplication::activePopupWidget());
+        return isOpen ? QApplication::activePopupWidget() : nullptr;
+    }
+
+    /// Closes it by a click elsewhere, which keeps the colour.
+    bool closePanel(Property property) const
     {
         auto* button = qobject_cast<QToolButton*>(field<ColorInputWidget>(property)->anchorWidget());
-        if (!RealInput::click(button) || !QTest::qWaitFor([] { return QApplication::activePopupWidget(); })) {
+        return RealInput::click(m_editor.get(), QPoint(3, m_editor->height() - 3)) &&
+               QTest::qWaitFor([button] { return !button->isDown(); });
+    }
+
+    bool clickColor(Property property) const
+    {
+        const QWidget* const panel = openPanel(property);
+        if (!panel) {
             return false;
         }
-        const QWidget* const popup = QApplication::activePopupWidget();
-        const auto faces =
-            popup->findChild<QWidget*>(QStringLiteral("colorMatrixPanel"))->findChildren<QToolButton*>();
-        return QTest::qWaitForWindowExposed(popup->window()) && RealInput::click(faces.at(40)) &&
-               QTest::qWaitFor([&] { return faces.at(40)->isChecked(); }) &&
-               RealInput::click(m_editor.get(), QPoint(3, m_editor->height() - 3)) &&
-               QTest::qWaitFor([button] { return !button->isDown(); });
+        auto* const face = panel->findChild<QWidget*>(QStringLiteral("colorMatrixPanel"))
+                               ->findChildren<QToolButton*>()
+                               .at(40);
+        return RealInput::click(face) && QTest::qWaitFor([face] { return face->isChecked(); }) &&
+               closePanel(property);
+    }
+
+    bool typeOpacity(Property property, const QString& percent) const
+    {
+        const QWidget* const panel = openPanel(property);
+        auto* const box = panel ? panel->findChild<QSpinBox*>(QStringLiteral("opacitySpinbox")) : nullptr;
+        return box && clickInto(box->findChild<QLineEdit*>()) && RealInput::key(QStringLiteral("ctrl+a")) &&
+               RealInput::type(percent + QLatin1Char('\n')) &&
+               QTest::qWaitFor([&] { return box->value() == percent.toInt(); }) && closePanel(property);
+    }
+
+    bool dragOpacity(Property property) const
+    {
+        const QWidget* const panel = openPanel(property);
+        auto* const slider = panel ? panel->findChild<QSlider*>(QStringLiteral("opacitySlider")) : nullptr;
+        if (!slider) {
+            return false;
+        }
+        const int y = slider->height() / 2;
+        return RealInput::drag(slider, QPoint(slider->width() * 2 / 5, y), QPoint(slider->width() / 5, y)) &&
+               QTest::qWaitFor([slider] { return !slider->isSliderDown(); }) && closePanel(property);
+    }
+
+    QColor colorOf(Property property) const
+    {
+        return values(property).constLast().value<std::optional<QColor>>().value_or(QColor());
+    }
+
+    /// Where nothing lies above a card.
+    QPoint placeOf(int id) const
+    {
+        const QSize size = m_editor->canvas()->size();
+        for (int x = 0; x < size.width(); ++x) {
+            for (int y = 0; y < size.height(); ++y) {
+                if (m_editor->document()->cardAt(QPoint(x, y), size) == id) {
+                    return {x, y};
+                }
+            }
+        }
+        return {};
+    }
+
+    /// Whether a bubble is where it belongs, and the screen shows it there. For each step it moves, and then
+    /// takes the size of its text, which moves it again. The window manager is later than Qt, and tells it of
+    /// the first when it has done the second: a button was clicked where it had been on the way.
+    static bool isInPlace(DialogGuideWidget* bubble)
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        const bool hasItsSize = bubble->height() == bubble->layout()->totalHeightForWidth(bubble->width());
+        if (!hasItsSize || !bubble->geometry().adjusted(-1, -1, 1, 1).contains(bubble->targetPoint())) {
+            return false;
+        }
+        const QImage picture = bubble->grab().toImage();
+        const auto* const button = bubble->findChild<QWidget*>(QStringLiteral("mainButton"));
+        const QRect area(button->mapTo(bubble, QPoint()), button->size());
+        constexpr int around = 4;
+        for (int y = area.top() - around; y <= area.bottom() + around; ++y) {
+            const QPoint point(area.left() + around, y);
+            if (RealInput::pixel(bubble, point) != picture.pixelColor(point)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    static bool clickWithControl(const QWidget* widget, const QPoint& point)
+    {
+        return RealInput::moveTo(widget, point) &&
+               QProcess::execute(QStringLiteral("xdotool"),
+                                 {QStringLiteral("keydown"), QStringLiteral("ctrl"), QStringLiteral("click"),
+                                  QStringLiteral("1"), QStringLiteral("keyup"), QStringLiteral("ctrl")}) == 0;
     }
 
     /// By the keyboard alone.

@@ -32,6 +32,10 @@
         <translation>Neue Karte</translation>
     </message>
     <message>
+        <source>The picture cannot be saved as %1.</source>
+        <translation>Das Bild kann nicht als %1 gespeichert werden.</translation>
+    </message>
+    <message>
         <source>The canvas</source>
         <translation>Die Leinwand</translation>
     </message>

@@ -32,6 +32,10 @@
         <translation>新規カード</translation>
     </message>
     <message>
+        <source>The picture cannot be saved as %1.</source>
+        <translation>画像を %1 として保存できません。</translation>
+    </message>
+    <message>
         <source>The canvas</source>
         <translation>キャンバス</translation>
     </message>
