@@ -43,22 +43,27 @@ void EditCommand::record(EditSession* session, QUndoStack* stack, const std::fun
                          const std::function<Targets()>& targets)
 {
     const auto edit = std::make_shared<Edit>();
-    // What a target's function deletes may be the session, and with it the slot that is running.
+    const QPointer<QUndoStack> alive = stack;
+    // What a host's function deletes may be the session or the stack; and a loop in it may begin another
+    // edit.
     QObject::connect(session, &EditSession::started, stack, [edit, targets] {
-        edit->targets = targets();
-        edit->before.clear();
-        for (const Target& target : qAsConst(edit->targets)) {
-            edit->before.append(target.read());
+        Edit begun{targets(), {}};
+        for (const Target& target : qAsConst(begun.targets)) {
+            begun.before.append(target.read());
         }
+        *edit = begun;
     });
     QObject::connect(session, &EditSession::previewed, stack, [edit](const QVariant& value) {
         const Edit kept = *edit;
         write(kept.targets, value);
     });
-    QObject::connect(session, &EditSession::committed, stack, [edit, stack, text](const QVariant& value) {
+    QObject::connect(session, &EditSession::committed, stack, [edit, alive, text](const QVariant& value) {
         const Edit kept = *edit;
         write(kept.targets, value);
-        stack->push(new EditCommand(text(), kept.targets, kept.before, value));
+        auto command = std::make_unique<EditCommand>(text(), kept.targets, kept.before, value);
+        if (alive) {
+            alive->push(command.release());
+        }
     });
     QObject::connect(session, &EditSession::cancelled, stack, [edit] {
         const Edit kept = *edit;

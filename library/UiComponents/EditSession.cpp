@@ -616,7 +616,9 @@ void EditSession::Private::end(bool isKept)
     isActive = false;
     isNewInAnyCase = false;
     if (isKept) {
-        Q_EMIT q->committed(last);
+        // A slot may delete the session, and goes on with the value.
+        const QVariant value = last;
+        Q_EMIT q->committed(value);
     } else {
         face->setShown(wasMulti);
         Q_EMIT q->cancelled();

@@ -3,6 +3,7 @@
 #include <UiComponents/EditCommand.h>
 #include <UiComponents/EditSession.h>
 
+#include <functional>
 #include <memory>
 
 class tst_EditCommand : public QObject
@@ -99,6 +100,31 @@ private Q_SLOTS:
         QCOMPARE(m_writes, writes);
     }
 
+    /// In a function of the host's, which the command asks while it is made.
+    void diesInATarget_data() { stackOrSessionDies_data(); }
+
+    void diesInATarget()
+    {
+        QFETCH(bool, isStack);
+        drag();
+        m_onWrite = [this, isStack] {
+            if (isStack) {
+                m_stack.reset();
+            } else {
+                delete m_session;
+            }
+        };
+        letGo();
+        m_onWrite = [] {};
+        QCOMPARE(m_cards, (QVector<int>{52, 52, 30}));
+        if (!isStack) {
+            m_stack->undo();
+            QCOMPARE(m_cards, (QVector<int>{10, 20, 30}));
+            m_stack->redo();
+            QCOMPARE(m_cards, (QVector<int>{52, 52, 30}));
+        }
+    }
+
 private:
     void drag() const
     {
@@ -114,12 +140,14 @@ private:
                 [this, card](const QVariant& value) {
                     m_cards[card] = value.toInt();
                     ++m_writes;
+                    m_onWrite();
                 }};
     }
 
     QVector<int> m_cards;
     QVector<int> m_selected;
     int m_writes = 0;
+    std::function<void()> m_onWrite = [] {};
     std::unique_ptr<QUndoStack> m_stack;
     std::unique_ptr<QSlider> m_slider;
     QPointer<EditSession> m_session;
