@@ -465,8 +465,9 @@ void setProperty(World& world, QObject* object)
     const QMetaObject* const type = object->metaObject();
     const QMetaProperty property = type->property(world.random.below(type->propertyCount()));
     const QByteArray name = property.name();
-    // Pressed without anybody who presses: that is what the invariants look for.
-    if (!property.isWritable() || name == "down" || name == "sliderDown") {
+    // Pressed without anybody who presses: that is what the invariants look for. And no limit of a stack that
+    // is in use.
+    if (!property.isWritable() || name == "down" || name == "sliderDown" || name == "undoLimit") {
         return;
     }
     QVariant value = world.random.value(property.userType());

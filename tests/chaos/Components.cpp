@@ -1,5 +1,6 @@
 #include "Components.h"
 
+#include "Exceptions.h"
 #include "FakeColorPicker.h"
 #include "QmlFiles.h"
 #include "World.h"
@@ -18,18 +19,23 @@
 #include <UiComponents/ColorPickerWidget.h>
 #include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/DoubleSliderInputWidget.h>
+#include <UiComponents/EditCommand.h>
+#include <UiComponents/EditSession.h>
 #include <UiComponents/GuideButton.h>
 #include <UiComponents/GuideWidget.h>
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/QuickContent.h>
 #include <UiComponents/QuickDialog.h>
+#include <UiComponents/ScreenColorSource.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
+#include <UiComponents/WidgetColorPickerStylingObject.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvComboBox.h>
 #include <WidgetToolkit/OvDoubleSlider.h>
@@ -40,6 +46,7 @@
 #include <WidgetToolkit/StyleHints.h>
 #include <WidgetToolkit/Util.h>
 
+#include <QApplication>
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
@@ -50,6 +57,10 @@
 #include <QStandardItemModel>
 #include <QTabWidget>
 #include <QTimer>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -59,15 +70,50 @@ Component::Call call(const char* name, Function function)
     return {name, [function](QObject* object, World& world) { function(*static_cast<T*>(object), world); }};
 }
 
-/// A host's picker, which answers in any way and at any time.
-AbstractColorPicker* makePicker(World& world)
+/// A host's cursor, for which a picker asks in the middle of its work.
+class Cursor : public WidgetColorPickerStylingObject
 {
-    if (world.random.oneIn(3)) {
-        auto* picker = new WidgetColorPicker({world.anyPartWidget()});
-        picker->setTarget(world.anyPartWidget());
-        world.others.append(picker);
-        return picker;
+public:
+    Cursor(World& world, QObject* asker)
+        : m_world(world)
+        , m_asker(asker)
+    {
     }
+
+    QCursor pickingCursor() const override
+    {
+        m_world.callHost(m_asker);
+        auto* const picker = qobject_cast<AbstractColorPicker*>(m_asker);
+        if (picker && m_world.random.oneIn(8)) {
+            picker->pick();
+        }
+        return m_world.random.value(QMetaType::QCursor).value<QCursor>();
+    }
+
+private:
+    World& m_world;
+    const QPointer<QObject> m_asker;
+};
+
+WidgetColorPickerStylingObject* makeCursor(World& world, QObject* asker)
+{
+    const auto cursor = std::make_shared<Cursor>(world, asker);
+    world.lent.push_back(cursor);
+    return world.random.oneIn(4) ? nullptr : cursor.get();
+}
+
+AbstractColorPicker* makeWidgetPicker(World& world)
+{
+    auto* picker = new WidgetColorPicker({world.anyPartWidget()});
+    picker->setTarget(world.anyPartWidget());
+    picker->setStylingObject(makeCursor(world, picker));
+    world.others.append(picker);
+    return picker;
+}
+
+/// A host's picker, which answers in any way and at any time.
+AbstractColorPicker* makeFakePicker(World& world)
+{
     auto* picker = new FakeColorPicker;
     world.others.append(picker);
     const QPointer<FakeColorPicker> alive = picker;
@@ -84,6 +130,205 @@ AbstractColorPicker* makePicker(World& world)
         world.random.oneIn(5) ? alive->finishInSilence() : alive->finish(world.random.optionalColor());
     };
     return picker;
+}
+
+/// Mostly as those of the others in the window, with which a picker then shares its panel.
+PopupColorPicker::Options panelOptions(World& world)
+{
+    PopupColorPicker::Options options;
+    if (world.random.oneIn(3)) {
+        options.nullColor = world.random.oneIn(2);
+        options.opacity = world.random.oneIn(2);
+        options.customColors = world.random.oneIn(2);
+    }
+    return options;
+}
+
+const Component& popupPicker()
+{
+    static const Component component{
+        "PopupColorPicker",
+        nullptr,
+        {call<PopupColorPicker>("pick", [](auto& t, World&) { t.pick(); }),
+         call<PopupColorPicker>("stop", [](auto& t, World&) { t.stop(); }),
+         call<PopupColorPicker>("setColor", [](auto& t, World& w) { t.setColor(w.random.optionalColor()); }),
+         call<PopupColorPicker>("setOptions", [](auto& t, World& w) { t.setOptions(panelOptions(w)); }),
+         call<PopupColorPicker>("setPipette", [](auto& t, World& w) {
+             t.setPipette(w.random.oneIn(3)   ? nullptr
+                          : w.random.oneIn(2) ? makeWidgetPicker(w)
+                                              : makeFakePicker(w));
+         })}};
+    return component;
+}
+
+AbstractColorPicker* makePicker(World& world)
+{
+    switch (world.random.below(4)) {
+    case 0:
+        return makeFakePicker(world);
+    case 1:
+        return makeWidgetPicker(world);
+    default:
+        break;
+    }
+    auto* picker = new PopupColorPicker(panelOptions(world));
+    world.others.append(picker);
+    world.add(picker, &popupPicker());
+    if (world.random.oneIn(3)) {
+        picker->setPipette(world.random.oneIn(2) ? makeWidgetPicker(world) : makeFakePicker(world));
+    }
+    return picker;
+}
+
+/// The host's way to the colours of the screen, whose answers come whenever it likes.
+class Screen : public ScreenColorSource // clazy:exclude=missing-qobject-macro
+{
+public:
+    QString unavailableReason() const override { return m_reason; }
+
+    std::unique_ptr<QObject> pick(QWindow*, Answer answer) override
+    {
+        auto request = std::make_unique<QObject>();
+        m_requests.append({request.get(), std::move(answer)});
+        return request;
+    }
+
+    void answer(const Result& result)
+    {
+        const auto requests = std::exchange(m_requests, {});
+        for (const auto& [request, answer] : requests) {
+            if (request) {
+                answer(result);
+            }
+        }
+    }
+
+    void setReason(const QString& reason)
+    {
+        m_reason = reason;
+        Q_EMIT unavailableReasonChanged();
+    }
+
+private:
+    QString m_reason;
+    QVector<QPair<QPointer<QObject>, Answer>> m_requests;
+};
+
+const Component& screen()
+{
+    static const Component component{
+        "ScreenColorSource",
+        nullptr,
+        {call<Screen>("answer",
+                      [](auto& t, World& w) {
+                          QColor color = w.random.color();
+                          color = color.isValid() ? color : QColor(Qt::red);
+                          t.answer({w.random.oneIn(3) ? QColor() : color, w.random.text()});
+                      }),
+         call<Screen>(
+             "setReason",
+             [](auto& t, World& w) { t.setReason(w.random.oneIn(2) ? w.random.text() : QString()); }),
+         call<Screen>("install", [](auto& t, World& w) {
+             ScreenColorSource::install(w.random.oneIn(2) ? nullptr : &t);
+         })}};
+    return component;
+}
+
+QVariant editValue(World& world, const QVariant& like)
+{
+    if (like.userType() == qMetaTypeId<std::optional<QColor>>()) {
+        return QVariant::fromValue(world.random.optionalColor());
+    }
+    if (like.userType() == QMetaType::QPointF) {
+        return QPointF{world.random.real(), world.random.real()};
+    }
+    return world.random.value(world.random.oneIn(8) ? world.random.below(QMetaType::User) : like.userType());
+}
+
+/// Does @p change as a host does it, who shows other values meanwhile.
+void refresh(World& world, QWidget* panel, const std::function<void()>& change)
+{
+    if (!panel) {
+        return;
+    }
+    const EditSession::Refresh refresh(panel);
+    if (world.random.oneIn(4) && !Exceptions::forbidsLoop(world)) {
+        world.runLoop();
+    }
+    change();
+}
+
+const Component& editSession()
+{
+    static const Component component{
+        "EditSession",
+        nullptr,
+        {call<EditSession>("commit", [](auto& t, World&) { t.commit(); }),
+         call<EditSession>("cancel", [](auto& t, World&) { t.cancel(); }),
+         call<EditSession>("setMultiValue", [](auto& t, World& w) { t.setMultiValue(!w.random.oneIn(3)); }),
+         call<EditSession>("setValue", [](auto& t, World& w) { t.setValue(editValue(w, t.value())); }),
+         call<EditSession>("refresh", [](auto& t, World& w) {
+             const QPointer<EditSession> session = &t;
+             refresh(w, w.random.oneIn(2) ? t.field() : t.field()->window(), [&] {
+                 if (session) {
+                     session->setValue(editValue(w, session->value()));
+                 }
+             });
+         })}};
+    return component;
+}
+
+const Component& undoStack()
+{
+    static const Component component{"QUndoStack",
+                                     nullptr,
+                                     {call<QUndoStack>("setIndex",
+                                                       [](auto& t, World& w) {
+                                                           const QPointer<QUndoStack> stack = &t;
+                                                           refresh(w, w.anyTop(), [&] {
+                                                               if (stack) {
+                                                                   stack->setIndex(
+                                                                       w.random.below(stack->count() + 1));
+                                                               }
+                                                           });
+                                                       }),
+                                      call<QUndoStack>("undo", [](auto& t, World&) { t.undo(); }),
+                                      call<QUndoStack>("redo", [](auto& t, World&) { t.redo(); }),
+                                      call<QUndoStack>("clear", [](auto& t, World&) { t.clear(); })}};
+    return component;
+}
+
+/// The edits of @p field as a host hears of them, for one selected thing or several.
+void listenToEdits(World& world, QWidget* field)
+{
+    auto* session = new EditSession(field);
+    world.add(session, &editSession());
+    if (world.random.oneIn(2)) {
+        return;
+    }
+    auto* stack = new QUndoStack;
+    world.others.append(stack);
+    world.add(stack, &undoStack());
+    const auto values = std::make_shared<QVector<QVariant>>(world.random.between(0, 3));
+    const QPointer<QWidget> alive = field;
+    EditCommand::record(
+        session, stack,
+        [&world, alive] {
+            world.callHost(alive);
+            return world.random.text();
+        },
+        [&world, alive, values] {
+            EditCommand::Targets targets;
+            for (QVariant& value : *values) {
+                targets.append({[values, &value] { return value; },
+                                [&world, alive, values, &value](const QVariant& other) {
+                                    value = other;
+                                    world.callHost(alive);
+                                }});
+            }
+            world.callHost(alive);
+            return targets;
+        });
 }
 
 QString picture(World& world)
@@ -350,6 +595,7 @@ std::vector<Component> makeTable()
          [](World& world, QWidget* parent) {
              auto* button = new WidgetColorPickerButton(parent);
              button->setTargetWidget(world.anyPartWidget());
+             button->setPickerStylingObject(makeCursor(world, button));
              return button;
          },
          {call<WidgetColorPickerButton>("setTargetWidget",
@@ -520,6 +766,9 @@ void Components::build(World& world)
                 continue;
             }
             dress(world, widget);
+            if (random.oneIn(2)) {
+                listenToEdits(world, widget);
+            }
             if (!parent) {
                 world.addTop(widget);
             } else if (layout && !widget->isWindow()) {
@@ -528,6 +777,27 @@ void Components::build(World& world)
         }
         if (!random.oneIn(8)) {
             top->show();
+        }
+    }
+    if (random.oneIn(4)) {
+        auto* source = new Screen;
+        world.others.append(source);
+        world.add(source, &screen());
+        ScreenColorSource::install(source);
+    }
+}
+
+void Components::takeInPanels(World& world)
+{
+    static const auto found = std::find_if(all().begin(), all().end(), [](const Component& component) {
+        return QByteArray(component.name) == "ColorPickerWidget";
+    });
+    if (const QWidget* const popup = QApplication::activePopupWidget()) {
+        const auto panels = popup->findChildren<ColorPickerWidget*>();
+        for (ColorPickerWidget* panel : panels) {
+            if (!world.isPart(panel)) {
+                world.add(panel, &*found);
+            }
         }
     }
 }

@@ -30,4 +30,7 @@ const std::vector<Component>& all();
 /// Makes the windows of @p world.
 void build(World& world);
 
+/// Takes in the colour panels of the pop-up that is open.
+void takeInPanels(World& world);
+
 } // namespace Components

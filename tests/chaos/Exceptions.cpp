@@ -8,11 +8,15 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QSize>
+#include <QUndoStack>
 
 #include <algorithm>
 #include <cstdio>
 
 namespace {
+
+/// In the place of a type: whatever takes the focus.
+constexpr const char* focus = "";
 
 /// While @p name is under way for an object of @p type, neither it nor what owns it is deleted at once.
 /// Without a type, no widget is, nor what owns some.
@@ -30,6 +34,7 @@ struct Row
 constexpr const char* qt = "tests/chaos/QtDefects.cpp";
 constexpr const char* slider = "platform/WidgetToolkit/OvCustomSlider.h";
 constexpr const char* spinBox = "platform/WidgetToolkit/OvSpinBox.h";
+constexpr const char* session = "library/UiComponents/EditSession.h";
 constexpr const char* util = "platform/WidgetToolkit/Util.h";
 
 const std::vector<Row>& rows()
@@ -40,7 +45,6 @@ const std::vector<Row>& rows()
     static const Doings editing = input | Doing::Showing | Doing::Other;
     static const Doings notEntering =
         input | Doing::Showing | Doing::Forcing | Doing::Deleting | Doing::Other;
-    static const Doings movingFocus = notEntering | Doing::Call;
     static const std::vector<Row> table{
         {"ColorBlendingComboBox", "blendingModeChanged", any, any, nullptr,
          "library/UiComponents/ColorBlendingComboBox.h",
@@ -83,10 +87,11 @@ const std::vector<Row>& rows()
         {"QAbstractSpinBox", "textChanged", Doing::Signal, Doing::Call, nullptr, spinBox,
          "Behind all others, above all while the user types or steps, QAbstractSpinBox goes on"},
 
-        {nullptr, "editingFinished", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
-        {nullptr, "released", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
-        {nullptr, "cursorPositionChanged", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
-        {nullptr, "selectionChanged", Doing::Signal, movingFocus, nullptr, qt, "focusTakerIsDeleted"},
+        {"QAbstractSpinBox", nullptr, any, any, "", session, "Its slots may delete the session"},
+        {"QComboBox", nullptr, any, any, "", session, "Its slots may delete the session"},
+        {"QLineEdit", nullptr, any, any, "", session, "Its slots may delete the session"},
+
+        {focus, nullptr, Doing::Leaving, any, "", qt, "focusTakerIsDeleted"},
         {nullptr, "application", Doing::Other, any, "", qt, "changedSiblingIsDeleted"},
         {nullptr, "event", Doing::Other, any, "", qt, "changedSiblingIsDeleted"},
         {nullptr, "delete", Doing::Deleting, any, "", qt, "hiddenWidgetIsDeleted"},
@@ -98,6 +103,7 @@ const std::vector<Row>& rows()
         {"QComboBox", nullptr, Doing::Signal, any, nullptr, qt, "comboBoxIsDeleted"},
         {"QDialog", nullptr, Doing::Signal, any, nullptr, qt, "dialogIsDeleted"},
         {"QLineEdit", nullptr, Doing::Signal, any, nullptr, qt, "lineEditIsDeleted"},
+        {"QUndoStack", nullptr, any, any, nullptr, qt, "undoStackIsDeleted"},
     };
     return table;
 }
@@ -183,7 +189,9 @@ int Exceptions::forbidding(const World& world, const QObject* victim)
         const Frame& frame = world.frames[i];
         around |= frame.doing;
         const auto isMeant = [&](const char* type) {
-            return type ? concerns(frame, type, victim) : isWidget;
+            return !type           ? isWidget
+                   : *type == '\0' ? isAt(frame.focusTaker, victim)
+                                   : concerns(frame, type, victim);
         };
         const auto isInSlotOf = [&](const char* signal) {
             return std::any_of(world.frames.begin() + i, world.frames.end(), [&](const Frame& inner) {
@@ -206,6 +214,9 @@ bool Exceptions::forbidsLoop(const World& world)
 {
     for (int i = 0; i < world.frames.size(); ++i) {
         const Frame& frame = world.frames[i];
+        if (qobject_cast<const QUndoStack*>(frame.object.data())) {
+            return true; // undoStackIsPushedInUndo
+        }
         if (!frame.doing.testFlag(Doing::Signal)) {
             continue;
         }

@@ -11,6 +11,7 @@
 #include <QAbstractEventDispatcher>
 #include <QAbstractSlider>
 #include <QApplication>
+#include <QFocusEvent>
 #include <QMutex>
 #include <QThread>
 #include <QWindow>
@@ -159,6 +160,11 @@ bool Application::notify(QObject* receiver, QEvent* event)
     std::optional<Under> under;
     if (world && event->type() == QEvent::DeferredDelete) {
         under.emplace(*world, Doing::Deleting, receiver, "delete");
+    } else if (world && event->type() == QEvent::FocusOut && receiver->isWidgetType()) {
+        const bool isPopup = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
+        under.emplace(*world, Doing::Leaving, receiver, "leave");
+        world->frames.last().focusTaker =
+            isPopup ? QApplication::activePopupWidget() : QApplication::focusWidget();
     } else if (const auto doing = RealUser::hear(receiver, *event); world && doing) {
         Journal::note(QStringLiteral("input %1 to %2").arg(event->type()).arg(World::nameOf(receiver)));
         under.emplace(*world, *doing, receiver, "input");

@@ -130,6 +130,7 @@ QObject* Listener::victim(Deed deed) const
     case Deed::DeleteParent:
         return widget ? widget->parentWidget() : m_sender->parent();
     case Deed::DeleteWindow:
+        widget = widget ? widget : qobject_cast<QWidget*>(m_sender->parent());
         return widget ? widget->window() : nullptr;
     case Deed::DeleteSibling:
         return m_world.anyPart().object;

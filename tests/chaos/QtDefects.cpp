@@ -16,11 +16,13 @@
 #include <QStringListModel>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QUndoStack>
 #include <QVBoxLayout>
 #include <QtTest>
 
 #include <cstdio>
 #include <fcntl.h>
+#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -268,6 +270,37 @@ bool lineEditIsDeleted()
     return false;
 }
 
+/// Does something when it is undone.
+class Command : public QUndoCommand
+{
+public:
+    explicit Command(std::function<void()> act)
+        : m_act(std::move(act))
+    {
+    }
+    void undo() override { m_act(); }
+
+private:
+    const std::function<void()> m_act;
+};
+
+bool undoStackIsDeleted()
+{
+    auto* const stack = new QUndoStack;
+    stack->push(new Command([stack] { delete stack; }));
+    stack->undo();
+    return false;
+}
+
+bool undoStackIsPushedInUndo()
+{
+    QUndoStack stack;
+    stack.push(new Command([] {}));
+    stack.push(new Command([&stack] { stack.push(new Command([] {})); }));
+    stack.undo();
+    return stack.index() != stack.count(); // What was pushed is not the last that was done.
+}
+
 bool hiddenScrollBarStaysPressed()
 {
     QScrollBar bar(Qt::Horizontal);
@@ -424,6 +457,8 @@ int main(int argc, char** argv)
         {"comboBoxIsDeleted", comboBoxIsDeleted},
         {"dialogIsDeleted", dialogIsDeleted},
         {"lineEditIsDeleted", lineEditIsDeleted},
+        {"undoStackIsDeleted", undoStackIsDeleted},
+        {"undoStackIsPushedInUndo", undoStackIsPushedInUndo},
         {"hiddenScrollBarStaysPressed", hiddenScrollBarStaysPressed},
         {"tinyScrollAreaGoesOn", tinyScrollAreaGoesOn},
         {"smallListOfABoxGoesOn", smallListOfABoxGoesOn},

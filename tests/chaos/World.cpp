@@ -96,6 +96,7 @@ void World::step()
         }
         m_doomed.clear();
     }
+    Components::takeInPanels(*this);
     guard(random.below(8), [this] { Actions::act(*this); });
 }
 
@@ -228,6 +229,12 @@ void World::add(QObject* object, const Component* component)
     Journal::note(QStringLiteral("made %1").arg(nameOf(object)));
 }
 
+bool World::isPart(const QObject* object) const
+{
+    return std::any_of(parts.begin(), parts.end(),
+                       [object](const Part& part) { return part.object == object; });
+}
+
 void World::addTop(QWidget* widget)
 {
     constexpr int most = 5000;
@@ -322,6 +329,19 @@ void World::runLoop()
     m_loops.removeOne(&loop);
 }
 
+void World::callHost(QObject* object)
+{
+    const Under under(*this, Doing::Signal, object, "callback");
+    const int deed = random.below(16);
+    if (deed == 0 && !Exceptions::forbidsLoop(*this) && !isDeleting()) {
+        runLoop();
+    } else if (deed == 1) {
+        remove(anyPart().object, true);
+    } else if (deed == 2) {
+        remove(random.oneIn(2) ? anyTop() : object, true);
+    }
+}
+
 QString World::nameOf(const QObject* object)
 {
     if (!object) {
@@ -334,7 +354,7 @@ QString World::nameOf(const QObject* object)
 Under::Under(World& world, Doings doing, QObject* object, const QByteArray& name)
     : m_world(world)
 {
-    world.frames.append({object, name, doing, loopLevel()});
+    world.frames.append({object, name, doing, loopLevel(), nullptr});
 }
 
 Under::~Under()

@@ -26,7 +26,8 @@ enum class Doing {
     Forcing = 64, ///< a setter that several signals lie behind: of a range, of a state
     Call = 128,   ///< another setter or slot
     Deleting = 256,
-    Other = 512, ///< focus, style, language, models, time ...
+    Other = 512,    ///< focus, style, language, models, time ...
+    Leaving = 1024, ///< a widget, for another or for a pop-up
 };
 Q_DECLARE_FLAGS(Doings, Doing)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Doings)
@@ -37,7 +38,8 @@ struct Frame
     QPointer<QObject> object;
     QByteArray name;
     Doings doing;
-    int level = 0; ///< how many event loops run
+    int level = 0;                ///< how many event loops run
+    QPointer<QWidget> focusTaker; ///< of one that leaves a widget
 };
 
 /// A component of a window, and what is known of it.
@@ -74,6 +76,7 @@ public:
 
     /// Takes @p object in as a part of the window: hears its signals and acts on it.
     void add(QObject* object, const Component* component);
+    bool isPart(const QObject* object) const;
 
     void addTop(QWidget* widget);
 
@@ -98,6 +101,9 @@ public:
     /// Runs an event loop in the middle of everything, in which other steps are taken.
     void runLoop();
 
+    /// What a host's own function may do when it is called for @p object: anything, as a slot may.
+    void callHost(QObject* object);
+
     /// A sentence for the journal.
     static QString nameOf(const QObject* object);
 
@@ -106,6 +112,8 @@ public:
     QVector<Part> parts;
     /// Models, pickers, pipettes: anything without a window.
     QVector<QPointer<QObject>> others;
+    /// What is lent to parts as long as they live.
+    std::vector<std::shared_ptr<void>> lent;
 
     /// What is under way, outermost first.
     QVector<Frame> frames;
