@@ -287,7 +287,8 @@ void pressKey(World& world)
         if (atWindow && windowOf(widget)) {
             qt_handleKeyEvent(windowOf(widget), type, key, modifiers, text);
         } else {
-            QKeyEvent event(type, key, modifiers, text, random.oneIn(5),
+            const bool isRepeated = type == QEvent::KeyPress && random.oneIn(5);
+            QKeyEvent event(type, key, modifiers, text, isRepeated,
                             static_cast<ushort>(random.between(1, 3)));
             QCoreApplication::sendEvent(widget, &event);
         }
@@ -511,6 +512,9 @@ void invokeSlot(World& world, QObject* object)
             name == "setStyleSheet" ? QVariant(world.random.styleSheet()) : world.random.value(wanted);
         if (!values[place].isValid() || values[place].userType() != wanted) {
             return;
+        }
+        if (name == "animateClick") {
+            values[place] = world.random.below(Actions::longestClick);
         }
         arguments[place] = QGenericArgument(values[place].typeName(), values[place].constData());
     }

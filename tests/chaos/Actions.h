@@ -7,6 +7,9 @@
  */
 namespace Actions {
 
+/// How long a button is shown pressed that is clicked without a mouse, in ms.
+constexpr int longestClick = 200;
+
 /// Takes one action, by chance.
 void act(World& world);
 

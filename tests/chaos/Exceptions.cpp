@@ -15,7 +15,7 @@
 
 namespace {
 
-/// In the place of a type: whatever takes the focus.
+/// In the place of a type: the widget that takes the focus, or the window that becomes the active one.
 constexpr const char* focus = "";
 
 /// While @p name is under way for an object of @p type, neither it nor what owns it is deleted at once.
@@ -92,6 +92,7 @@ const std::vector<Row>& rows()
         {"QLineEdit", nullptr, any, any, "", session, "Its slots may delete the session"},
 
         {focus, nullptr, Doing::Leaving, any, "", qt, "focusTakerIsDeleted"},
+        {"QWidget", "override", Doing::Typing, any, "", qt, "overridingWidgetIsDeleted"},
         {nullptr, "application", Doing::Other, any, "", qt, "changedSiblingIsDeleted"},
         {nullptr, "event", Doing::Other, any, "", qt, "changedSiblingIsDeleted"},
         {nullptr, "delete", Doing::Deleting, any, "", qt, "hiddenWidgetIsDeleted"},

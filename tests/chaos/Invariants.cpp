@@ -12,6 +12,7 @@
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QMutex>
 #include <QThread>
 #include <QWindow>
@@ -142,6 +143,16 @@ std::map<QObject*, int> timersOf(const Objects& among)
     return counts;
 }
 
+/// Whether another button of the mouse is down already.
+bool isFurtherPress(const QEvent& event)
+{
+    if (event.type() != QEvent::MouseButtonPress) {
+        return false;
+    }
+    const auto& press = static_cast<const QMouseEvent&>(event);
+    return press.buttons() != press.button();
+}
+
 void check(bool isGood, const QString& problem)
 {
     if (!isGood) {
@@ -157,14 +168,20 @@ bool Application::notify(QObject* receiver, QEvent* event)
     if (delivered.size() < mostLetters && event->type() != QEvent::Timer) {
         delivered += QStringLiteral("%1 to %2; ").arg(event->type()).arg(World::nameOf(receiver));
     }
+    const bool isHidden = event->type() == QEvent::Hide || event->type() == QEvent::WindowBlocked;
+    if (world && ((isHidden && Invariants::isPressed(receiver)) || isFurtherPress(*event))) {
+        world->leftByQt.append(receiver);
+    }
     std::optional<Under> under;
     if (world && event->type() == QEvent::DeferredDelete) {
         under.emplace(*world, Doing::Deleting, receiver, "delete");
     } else if (world && event->type() == QEvent::FocusOut && receiver->isWidgetType()) {
         const bool isPopup = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
         under.emplace(*world, Doing::Leaving, receiver, "leave");
-        world->frames.last().focusTaker =
-            isPopup ? QApplication::activePopupWidget() : QApplication::focusWidget();
+        QWidget* const taker = isPopup ? QApplication::activePopupWidget() : QApplication::focusWidget();
+        world->frames.last().focusTaker = taker ? taker : QApplication::activeWindow();
+    } else if (world && event->type() == QEvent::ShortcutOverride) {
+        under.emplace(*world, Doing::Typing, receiver, "override");
     } else if (const auto doing = RealUser::hear(receiver, *event); world && doing) {
         Journal::note(QStringLiteral("input %1 to %2").arg(event->type()).arg(World::nameOf(receiver)));
         under.emplace(*world, *doing, receiver, "input");
@@ -178,6 +195,13 @@ QByteArray Invariants::libraryOf(const QObject* object)
     // Where its table of functions is.
     const bool isFound = dladdr(*reinterpret_cast<void* const*>(object), &library) != 0;
     return isFound ? library.dli_fname : "";
+}
+
+bool Invariants::isPressed(const QObject* object)
+{
+    const auto* button = qobject_cast<const QAbstractButton*>(object);
+    const auto* slider = qobject_cast<const QAbstractSlider*>(object);
+    return (button && button->isDown()) || (slider && slider->isSliderDown());
 }
 
 void Invariants::begin()
@@ -229,10 +253,7 @@ void Invariants::checkSettled()
     }
     for (QObject* object : newOnes(objects)) {
         check(!object->inherits("HighlightFrameOverlay"), QStringLiteral("a highlight is left"));
-        const auto* button = qobject_cast<QAbstractButton*>(object);
-        const auto* slider = qobject_cast<QAbstractSlider*>(object);
-        const bool isPressed = (button && button->isDown()) || (slider && slider->isSliderDown());
-        check(!isPressed || Exceptions::mayStayPressed(object),
+        check(!isPressed(object) || Exceptions::mayStayPressed(object),
               QStringLiteral("stays pressed: ") + World::nameOf(object));
     }
 }

@@ -23,6 +23,9 @@ namespace Invariants {
 /// The file of the library or program that the class of @p object is in.
 QByteArray libraryOf(const QObject* object);
 
+/// Whether @p object is a button or a slider that is held down.
+bool isPressed(const QObject* object);
+
 /// To be called before the application is made.
 void begin();
 /// Remembers what there is before the first window.

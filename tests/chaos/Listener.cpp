@@ -64,6 +64,11 @@ void Listener::hear(int index)
         // A change of the active window, say.
         cause.emplace(m_world, Doing::Other, m_sender, "loop");
     }
+    // A session tells what its field is about to tell.
+    std::optional<Under> field;
+    if (m_sender->inherits("EditSession")) {
+        field.emplace(m_world, Doing::Signal, m_sender->parent(), signal);
+    }
     const Under under(m_world, Doing::Signal, m_sender, signal);
     perform(m_slots[index]);
 }

@@ -73,7 +73,8 @@ void warn(World& world)
 void press(World& world)
 {
     auto* const button = new QToolButton(world.tops.first());
-    button->setEnabled(false);
+    button->show();
+    world.tops.first()->show();
     button->setDown(true);
 }
 

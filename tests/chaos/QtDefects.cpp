@@ -301,6 +301,65 @@ bool undoStackIsPushedInUndo()
     return stack.index() != stack.count(); // What was pushed is not the last that was done.
 }
 
+/// Without the focus, whose loss releases it.
+struct ButtonWindow : Window
+{
+    ButtonWindow()
+    {
+        button->setFocusPolicy(Qt::NoFocus);
+        button->move(0, 100);
+        button->show();
+        resize(200, 200);
+        QCoreApplication::processEvents();
+    }
+
+    void click(Qt::MouseButton mouseButton) const
+    {
+        QTest::mouseClick(windowHandle(), mouseButton, Qt::NoModifier, button->geometry().center());
+    }
+
+    QToolButton* const button = new QToolButton(this);
+};
+
+bool hiddenButtonStaysPressed()
+{
+    const ButtonWindow window;
+    QObject::connect(window.button, &QToolButton::pressed, window.button, &QWidget::hide);
+    window.click(Qt::LeftButton);
+    return window.button->isDown();
+}
+
+bool blockedButtonStaysPressed()
+{
+    const ButtonWindow window;
+    QDialog dialog;
+    dialog.setModal(true);
+    QObject::connect(window.button, &QToolButton::pressed, &dialog, &QWidget::show);
+    window.click(Qt::LeftButton);
+    return window.button->isDown();
+}
+
+bool secondReleaseIsLost()
+{
+    const ButtonWindow window;
+    const QPoint place = window.first->geometry().center();
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::NoModifier, place);
+    delete window.first;
+    window.click(Qt::LeftButton);
+    return window.button->isDown();
+}
+
+bool activatedWindowIsDeleted()
+{
+    auto* const other = new QWidget;
+    other->show();
+    const Window window;
+    QObject::connect(window.first, &QLineEdit::editingFinished, other, [other] { delete other; });
+    other->activateWindow();
+    QCoreApplication::processEvents();
+    return false;
+}
+
 bool hiddenScrollBarStaysPressed()
 {
     QScrollBar bar(Qt::Horizontal);
@@ -372,6 +431,29 @@ bool smallListOfABoxGoesOn()
     box.showPopup();
     box.view()->window()->resize(100, 7);
     return goesOn();
+}
+
+/// Deletes itself when it is asked whether a key is its own.
+class Overrider : public QWidget
+{
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::ShortcutOverride) {
+            delete this;
+            return true;
+        }
+        return QWidget::event(event);
+    }
+};
+
+bool overridingWidgetIsDeleted()
+{
+    auto* const widget = new Overrider;
+    bring(*widget);
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+    return false;
 }
 
 class Closer : public QObject
@@ -459,9 +541,14 @@ int main(int argc, char** argv)
         {"lineEditIsDeleted", lineEditIsDeleted},
         {"undoStackIsDeleted", undoStackIsDeleted},
         {"undoStackIsPushedInUndo", undoStackIsPushedInUndo},
+        {"hiddenButtonStaysPressed", hiddenButtonStaysPressed},
+        {"blockedButtonStaysPressed", blockedButtonStaysPressed},
+        {"secondReleaseIsLost", secondReleaseIsLost},
+        {"activatedWindowIsDeleted", activatedWindowIsDeleted},
         {"hiddenScrollBarStaysPressed", hiddenScrollBarStaysPressed},
         {"tinyScrollAreaGoesOn", tinyScrollAreaGoesOn},
         {"smallListOfABoxGoesOn", smallListOfABoxGoesOn},
+        {"overridingWidgetIsDeleted", overridingWidgetIsDeleted},
         {"menuClosedWhileItOpens", menuClosedWhileItOpens},
     };
     int unseen = 0;

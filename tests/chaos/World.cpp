@@ -12,8 +12,6 @@
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
-#include <QAbstractButton>
-#include <QAbstractSlider>
 #include <QApplication>
 #include <QDialog>
 #include <QDrag>
@@ -56,22 +54,11 @@ void endModal(QWidget* widget)
     }
 }
 
-/// Qt leaves what is hidden while it is pressed as it is, until the next release.
-void releaseAll(QWidget* window)
+void release(QObject* object)
 {
-    QVector<QPointer<QWidget>> widgets;
-    for (QWidget* widget : window->findChildren<QWidget*>() + QList<QWidget*>{window}) {
-        widgets.append(widget);
-    }
-    for (const auto& widget : qAsConst(widgets)) {
-        const auto* button = qobject_cast<QAbstractButton*>(widget);
-        const auto* slider = qobject_cast<QAbstractSlider*>(widget);
-        if ((button && button->isDown()) || (slider && slider->isSliderDown())) {
-            QMouseEvent event(QEvent::MouseButtonRelease, QPoint(-9, -9), Qt::LeftButton, Qt::NoButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(widget, &event);
-        }
-    }
+    QMouseEvent event(QEvent::MouseButtonRelease, QPoint(-9, -9), Qt::LeftButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(object, &event);
 }
 
 } // namespace
@@ -198,10 +185,10 @@ void World::settle()
                 delete object;
             }
         }
-        const auto present = tops;
-        for (const auto& widget : present) {
-            if (widget) {
-                releaseAll(widget);
+        const auto left = leftByQt;
+        for (const auto& object : left) {
+            if (object && Invariants::isPressed(object)) {
+                release(object);
             }
         }
     });

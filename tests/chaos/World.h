@@ -118,6 +118,10 @@ public:
     /// What is under way, outermost first.
     QVector<Frame> frames;
 
+    /// What Qt leaves pressed until the next release: hiddenButtonStaysPressed, blockedButtonStaysPressed,
+    /// secondReleaseIsLost.
+    QVector<QPointer<QObject>> leftByQt;
+
     Qt::MouseButtons buttons;
     QPointer<QWidget> mouseWidget;
 

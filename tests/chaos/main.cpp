@@ -105,22 +105,25 @@ private:
         constexpr int longestDelay = 20000;
         switch (turn) {
         case 1:
-            m_world->settle();
+            Clock::advance(Actions::longestClick);
             break;
         case 3:
+            m_world->settle();
+            break;
+        case 5:
             m_world->rest();
             Invariants::checkSettled();
             m_world->clear();
             break;
-        case 5:
+        case 7:
             Actions::resetApplication();
             Clock::advance(longestDelay);
             break;
-        case 7:
+        case 9:
             // Qt deletes what was put off outside of any loop when the outermost one ends.
             QCoreApplication::quit();
             break;
-        case 8:
+        case 10:
             m_application.world = nullptr;
             m_world.reset();
             Invariants::checkEmpty();
