@@ -4,14 +4,15 @@
 #include "Components.h"
 #include "Exceptions.h"
 #include "Journal.h"
+#include "Reader.h"
 #include "RealUser.h"
 
 #include <Settings/Settings.h>
 #include <Settings/SettingsStore.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QLayout>
 #include <QMetaProperty>
 #include <QMimeData>
@@ -48,15 +49,28 @@ std::unique_ptr<QTranslator> translator;
 constexpr int mostPixels = 300;
 constexpr int mostLetters = 60;
 
-class JunkStore : public SettingsStore
+/// Of a host that does anything while it is asked. Good ones have a few colours, and keep what they are
+/// given.
+class Store : public SettingsStore
 {
 public:
-    explicit JunkStore(quint64 seed)
+    /// Without @p world nothing happens.
+    Store(quint64 seed, World* world)
         : m_random(seed)
+        , m_world(world)
+        , m_isGood(m_random.oneIn(2))
     {
+        QStringList colors;
+        for (int i = m_random.below(12); i > 0; --i) {
+            colors += QColor::fromRgb(static_cast<QRgb>(m_random.next())).name();
+        }
+        m_value = colors;
     }
     QVariant read(const QString&) const override
     {
+        if (m_isGood) {
+            return m_value;
+        }
         switch (m_random.below(6)) {
         case 0:
             return {};
@@ -70,10 +84,21 @@ public:
             return m_random.value(m_random.below(70));
         }
     }
-    bool write(const QString&, const QVariant&) override { return m_random.oneIn(2); }
+    bool write(const QString&, const QVariant& value) override
+    {
+        m_value = value;
+        const bool isWritten = m_isGood || m_random.oneIn(2);
+        if (m_world) {
+            m_world->callHost(nullptr);
+        }
+        return isWritten;
+    }
 
 private:
     mutable Random m_random;
+    World* const m_world;
+    const bool m_isGood;
+    QVariant m_value;
 };
 
 QString at(const QPoint& point)
@@ -133,10 +158,8 @@ void mouse(World& world, QWidget* widget, const QPoint& point, Qt::MouseButton b
         return;
     }
     QCursor::setPos(global);
-    static ulong timestamp = 0;
-    timestamp += world.random.oneIn(3) ? 1000 : 20;
-    qt_handleMouseEvent(window, local, global, world.buttons, button, type, Qt::NoModifier,
-                        static_cast<int>(timestamp));
+    world.timestamp += world.random.oneIn(3) ? 1000 : 20;
+    qt_handleMouseEvent(window, local, global, world.buttons, button, type, Qt::NoModifier, world.timestamp);
 }
 
 void moveMouse(World& world)
@@ -181,7 +204,9 @@ void click(World& world)
     Journal::note(QStringLiteral("click button %1 on %2").arg(button).arg(World::nameOf(widget)) + at(point));
     for (int i = world.random.oneIn(4) ? 2 : 1; i > 0; --i) {
         for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            if (widget) {
+            // One that is down is let go.
+            const bool isDown = type == QEvent::MouseButtonPress && world.buttons.testFlag(button);
+            if (widget && !isDown) {
                 mouse(world, widget, point, type == QEvent::MouseMove ? Qt::NoButton : button, type);
             }
         }
@@ -604,7 +629,7 @@ void changeApplication(World& world)
         QApplication::setFont(random.value(QMetaType::QFont).value<QFont>());
         break;
     case 7:
-        Settings::setStore(std::make_unique<JunkStore>(random.next()));
+        Settings::setStore(std::make_unique<Store>(random.next(), &world));
         break;
     default:
         QCoreApplication::quit();
@@ -635,32 +660,19 @@ void grab(World& world)
     widget->grab();
 }
 
-void readAloud(World& world)
+void makeAny(World& world)
 {
-    QWidget* const widget = world.anyWidget();
-    QAccessibleInterface* const reader = widget ? QAccessible::queryAccessibleInterface(widget) : nullptr;
-    if (!reader || !reader->isValid()) {
-        return;
-    }
-    const Under under(world, Doing::Other, widget, "read aloud");
-    Journal::note(QStringLiteral("read %1 aloud").arg(World::nameOf(widget)));
-    for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value}) {
-        reader->text(kind);
-    }
-    reader->state();
-    for (int i = 0; i < reader->childCount(); ++i) {
-        if (const QAccessibleInterface* const child = reader->child(i)) {
-            child->text(QAccessible::Name);
-        }
-    }
-    if (QAccessibleActionInterface* const actions = reader->actionInterface()) {
-        const QStringList names = actions->actionNames();
-        if (!names.isEmpty()) {
-            // Qt presses buttons with animateClick().
-            const Under acting(world, Doing::Forcing, widget, "action");
-            actions->doAction(world.random.oneOf(std::vector<QString>(names.begin(), names.end())));
-        }
-    }
+    Actions::make(world);
+}
+
+void execDialog(World& world)
+{
+    const QPointer<QDialog> dialog = new QDialog(world.anyTop());
+    world.addTop(dialog);
+    Journal::note(QStringLiteral("exec of a dialog"));
+    const Under under(world, Doing::Call, nullptr, "exec");
+    dialog->setAttribute(Qt::WA_DeleteOnClose, world.random.oneIn(3));
+    dialog->exec();
 }
 
 void removeAny(World& world)
@@ -690,7 +702,7 @@ const std::vector<Action>& actions()
         {5, focus},       {3, sendState},         {3, contextMenu},   {5, resize},
         {6, show},        {3, enableAny},         {20, callAny},      {2, moveAny},
         {3, changeModel}, {2, changeApplication}, {12, letEventsRun}, {3, grab},
-        {2, readAloud},   {2, removeAny},
+        {4, Reader::act}, {2, removeAny},         {2, makeAny},       {1, execDialog},
     };
     return table;
 }
@@ -770,6 +782,17 @@ void Actions::enable(World& world, QWidget* widget, bool on)
     widget->setEnabled(on);
 }
 
+void Actions::make(World& world)
+{
+    constexpr int most = 30;
+    QWidget* const top = world.anyTop();
+    if (!top || world.parts.size() > most || Exceptions::forbidsLoop(world)) {
+        return;
+    }
+    const Under under(world, Doing::Showing, top, "make");
+    Components::make(world, world.random.oneIn(3) ? world.anyPartWidget() : top);
+}
+
 void Actions::move(World& world, QWidget* widget)
 {
     QWidget* const parent = world.random.oneIn(3)   ? nullptr
@@ -843,7 +866,7 @@ void Actions::resetApplication()
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    Settings::setStore(std::make_unique<JunkStore>(1));
+    Settings::setStore(std::make_unique<Store>(1, nullptr));
     QGuiApplication::clipboard()->clear();
     QCursor::setPos(0, 0);
 }

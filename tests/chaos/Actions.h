@@ -18,6 +18,9 @@ void call(World& world, QObject* object);
 
 void enable(World& world, QWidget* widget, bool on);
 
+/// Makes a component in a window that is in use.
+void make(World& world);
+
 /// Gives @p widget another parent, or none.
 void move(World& world, QWidget* widget);
 

@@ -1,7 +1,10 @@
 #include "Clock.h"
 
+#include <array>
 #include <cerrno>
+#include <cstdio>
 #include <ctime>
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -43,6 +46,33 @@ void Clock::advance(int milliseconds)
     if (virtualNow != 0) {
         virtualNow += milliseconds * nanosecondsPerMillisecond;
     }
+}
+
+void Clock::align()
+{
+    if (virtualNow != 0) {
+        virtualNow = (virtualNow / nanosecondsPerSecond + 1) * nanosecondsPerSecond;
+        looks = 0;
+        polls = 0;
+    }
+}
+
+qint64 Clock::waitedMilliseconds()
+{
+    if (virtualNow == 0) {
+        return 0;
+    }
+    // "ran waited turns", in ns: for a processor, not for something else.
+    static const int file = open("/proc/self/schedstat", O_RDONLY | O_CLOEXEC);
+    std::array<char, 80> text = {};
+    long long ran = 0;
+    long long queued = 0;
+    if (pread(file, text.data(), text.size() - 1, 0) <= 0 ||
+        std::sscanf(text.data(), "%lld %lld", &ran, &queued) != 2) {
+        return 0;
+    }
+    return (realTime(CLOCK_MONOTONIC) - realTime(CLOCK_THREAD_CPUTIME_ID) - queued) /
+           nanosecondsPerMillisecond;
 }
 
 qint64 Clock::cpuMilliseconds()

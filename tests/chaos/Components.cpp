@@ -756,22 +756,8 @@ void Components::build(World& world)
                                      : new OvGridLayout(content);
         }
         for (int j = random.between(1, 4); j > 0; --j) {
-            const auto& component =
-                all()[static_cast<std::size_t>(random.below(static_cast<int>(all().size())))];
-            QWidget* const parent = random.oneIn(8) ? nullptr : content;
-            QObject* const object = component.make(world, parent);
-            world.add(object, &component);
-            auto* widget = qobject_cast<QWidget*>(object);
-            if (!widget) {
-                continue;
-            }
-            dress(world, widget);
-            if (random.oneIn(2)) {
-                listenToEdits(world, widget);
-            }
-            if (!parent) {
-                world.addTop(widget);
-            } else if (layout && !widget->isWindow()) {
+            QWidget* const widget = make(world, random.oneIn(8) ? nullptr : content);
+            if (layout && widget) {
                 layout->addWidget(widget);
             }
         }
@@ -785,6 +771,28 @@ void Components::build(World& world)
         world.add(source, &screen());
         ScreenColorSource::install(source);
     }
+}
+
+QWidget* Components::make(World& world, QWidget* parent)
+{
+    const auto& component =
+        all()[static_cast<std::size_t>(world.random.below(static_cast<int>(all().size())))];
+    QObject* const object = component.make(world, parent);
+    world.add(object, &component);
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (!widget) {
+        return nullptr;
+    }
+    dress(world, widget);
+    if (world.random.oneIn(2)) {
+        listenToEdits(world, widget);
+    }
+    if (!parent) {
+        world.addTop(widget);
+        widget->setAttribute(Qt::WA_DeleteOnClose, world.random.oneIn(4));
+        return nullptr;
+    }
+    return widget->isWindow() ? nullptr : widget;
 }
 
 void Components::takeInPanels(World& world)

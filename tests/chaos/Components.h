@@ -30,6 +30,9 @@ const std::vector<Component>& all();
 /// Makes the windows of @p world.
 void build(World& world);
 
+/// Makes one component in @p parent, which may be null, and shows it. Returns it if it is a widget there.
+QWidget* make(World& world, QWidget* parent);
+
 /// Takes in the colour panels of the pop-up that is open.
 void takeInPanels(World& world);
 

@@ -18,6 +18,7 @@
 #include <QWindow>
 #include <QtCore/private/qobject_p.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <cxxabi.h>
 #include <dlfcn.h>
@@ -39,6 +40,7 @@ namespace {
 constexpr int addObjectHook = 3;
 constexpr int removeObjectHook = 4;
 constexpr qint64 longestStep = 1000; // ms
+constexpr qint64 longestWait = 3000;
 
 using Objects = std::unordered_set<QObject*>;
 // Never destroyed: objects die after main(), too.
@@ -47,6 +49,8 @@ Objects& before = *new Objects;
 QMutex mutex;
 std::map<QObject*, int>& timersBefore = *new std::map<QObject*, int>;
 qint64 stepBegan = 0;
+qint64 waitedBefore = 0;
+volatile std::sig_atomic_t wasStopped = 0;
 #ifndef __SANITIZE_ADDRESS__
 std::unique_ptr<FreedMemoryWatch> memory;
 #endif
@@ -114,7 +118,8 @@ QVector<QObject*> newOnes(const Objects& among)
     return found;
 }
 
-/// What is new, without the few of a kind that Qt makes when they are first needed and keeps.
+/// What is new, without the few of a kind that Qt makes when they are first needed and keeps, and the one of
+/// a kind that a library gives to the application.
 QVector<QObject*> leftovers()
 {
     constexpr int few = 16;
@@ -124,7 +129,9 @@ QVector<QObject*> leftovers()
         // The last drag's picture stays as a hidden window, for the next one.
         const bool isSeen =
             object->isWidgetType() || (object->isWindowType() && !object->inherits("QShapedPixmapWindow"));
-        if (!isQts(object) || isSeen || ++counts[typeOf(object)] > few) {
+        const bool isKept = isQts(object) || object->parent() == qApp;
+        const int max = isQts(object) ? few : 1;
+        if (!isKept || isSeen || ++counts[typeOf(object)] > max) {
             left.append(object);
         }
     }
@@ -215,6 +222,8 @@ void Invariants::rememberObjects()
     before = objects;
     timersBefore = timersOf(objects);
     stepBegan = Clock::cpuMilliseconds();
+    waitedBefore = Clock::waitedMilliseconds();
+    std::signal(SIGCONT, [](int) { wasStopped = 1; });
 }
 
 void Invariants::beginWindow()
@@ -283,5 +292,15 @@ void Invariants::noteStep()
 {
     const qint64 now = Clock::cpuMilliseconds();
     check(now - stepBegan < longestStep, QStringLiteral("a step took %1 ms").arg(now - stepBegan));
+    check(!isWaiting(),
+          QStringLiteral("a step waited for %1 ms").arg(Clock::waitedMilliseconds() - waitedBefore));
     stepBegan = now;
+    waitedBefore = Clock::waitedMilliseconds();
+    wasStopped = 0;
+}
+
+bool Invariants::isWaiting()
+{
+    // A slow disk is nobody's fault, nor is somebody who stops the program.
+    return wasStopped == 0 && Clock::waitedMilliseconds() - waitedBefore > longestWait;
 }

@@ -41,7 +41,9 @@ void checkSettled();
 /// Nothing of the windows is left: objects, timers, event filters, cursors.
 void checkEmpty();
 
-/// Is called between any two steps: fails when the former took a second of the processor's.
+/// Is called between any two steps: fails when the former took a second of the processor's, or waited.
 void noteStep();
+/// Whether the present step waits for longer than anything may.
+bool isWaiting();
 
 } // namespace Invariants

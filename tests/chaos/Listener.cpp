@@ -26,7 +26,7 @@ Listener::Listener(World& world, QObject* sender)
         Slot slot;
         slot.signal = method.methodSignature();
         if (random.oneIn(4)) {
-            slot.deed = static_cast<Deed>(random.below(static_cast<int>(Deed::Call) + 1));
+            slot.deed = static_cast<Deed>(random.below(static_cast<int>(Deed::Make) + 1));
             slot.at = random.between(1, 4);
             slot.now = !random.oneIn(4);
             slot.inLoop = random.oneIn(4);
@@ -80,7 +80,8 @@ void Listener::perform(Slot slot)
     if (runsLoop && Exceptions::forbidsLoop(m_world)) {
         return;
     }
-    const bool makesNew = runsLoop || slot.deed == Deed::Move || slot.deed == Deed::Call;
+    const bool makesNew =
+        runsLoop || slot.deed == Deed::Move || slot.deed == Deed::Call || slot.deed == Deed::Make;
     if (makesNew && m_world.isDeleting()) {
         return; // Qt does not survive it: dyingWindowGetsAChild
     }
@@ -113,6 +114,9 @@ void Listener::perform(Slot slot)
         return;
     case Deed::Call:
         Actions::call(m_world, m_sender);
+        return;
+    case Deed::Make:
+        Actions::make(m_world);
         return;
     default:
         break;

@@ -27,6 +27,7 @@ private:
         Disable,
         Move,
         Call,
+        Make,
     };
     struct Slot
     {

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QPaintEvent>
+#include <QThread>
 #include <QTimer>
 #include <QToolButton>
 
@@ -27,6 +28,14 @@ protected:
     }
 };
 
+QWidget* anyTop(World& world)
+{
+    if (!world.anyTop()) {
+        world.addTop(new QWidget);
+    }
+    return world.anyTop();
+}
+
 void writeToTheDead(World& world)
 {
     Q_UNUSED(world)
@@ -43,13 +52,14 @@ void leakFilter(World& world)
 
 void grab(World& world)
 {
-    world.tops.first()->show();
-    world.tops.first()->grabMouse();
+    QWidget* const top = anyTop(world);
+    top->show();
+    top->grabMouse();
 }
 
 void highlight(World& world)
 {
-    new Orvane::Gui::HighlightFrame(world.tops.first());
+    new Orvane::Gui::HighlightFrame(anyTop(world));
 }
 
 void leakWindow(World& world)
@@ -72,16 +82,18 @@ void warn(World& world)
 
 void press(World& world)
 {
-    auto* const button = new QToolButton(world.tops.first());
+    QWidget* const top = anyTop(world);
+    auto* const button = new QToolButton(top);
     button->show();
-    world.tops.first()->show();
+    top->show();
     button->setDown(true);
 }
 
 void repaint(World& world)
 {
-    (new Repainter(world.tops.first()))->show();
-    world.tops.first()->show();
+    QWidget* const top = anyTop(world);
+    (new Repainter(top))->show();
+    top->show();
 }
 
 void takeLong(World& world)
@@ -90,6 +102,12 @@ void takeLong(World& world)
     const qint64 end = Clock::cpuMilliseconds() + 1100;
     while (Clock::cpuMilliseconds() < end) {
     }
+}
+
+void wait(World& world)
+{
+    Q_UNUSED(world)
+    QThread::sleep(4);
 }
 
 void overrideCursor(World& world)
@@ -113,6 +131,7 @@ bool Plants::plant(const QString& name, World& world)
         {QStringLiteral("press"), press},
         {QStringLiteral("repaint"), repaint},
         {QStringLiteral("slow"), takeLong},
+        {QStringLiteral("wait"), wait},
         {QStringLiteral("cursor"), overrideCursor},
     };
     const auto fault = faults.find(name);

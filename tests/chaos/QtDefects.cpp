@@ -2,6 +2,7 @@
 // this library. A case that is no longer seen, as with another Qt, fails: its row can go. Off the screen all
 // but one are shown, and on a screen that one, which needs OpenGL.
 
+#include "AccessibleEars.h"
 #include "FreedMemory.h"
 
 #include <QApplication>
@@ -456,6 +457,16 @@ bool overridingWidgetIsDeleted()
     return false;
 }
 
+bool dyingViewIsRead()
+{
+    const AccessibleEars ears;
+    auto* const view = new QListView;
+    bring(*view);
+    reader(view);
+    delete view;
+    return false;
+}
+
 class Closer : public QObject
 {
 public:
@@ -549,6 +560,7 @@ int main(int argc, char** argv)
         {"tinyScrollAreaGoesOn", tinyScrollAreaGoesOn},
         {"smallListOfABoxGoesOn", smallListOfABoxGoesOn},
         {"overridingWidgetIsDeleted", overridingWidgetIsDeleted},
+        {"dyingViewIsRead", dyingViewIsRead},
         {"menuClosedWhileItOpens", menuClosedWhileItOpens},
     };
     int unseen = 0;

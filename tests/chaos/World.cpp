@@ -6,6 +6,7 @@
 #include "Invariants.h"
 #include "Journal.h"
 #include "Listener.h"
+#include "Reader.h"
 #include "RealUser.h"
 
 #include <UiComponents/Pipette.h>
@@ -68,10 +69,14 @@ World::World(quint64 seed, QObject* parent)
     , random(seed)
     , m_steps(20 + random.below(180))
 {
+    Reader::listen(random.oneIn(3));
     guard(0, [this] { Components::build(*this); });
 }
 
-World::~World() = default;
+World::~World()
+{
+    Reader::listen(false);
+}
 
 void World::step()
 {

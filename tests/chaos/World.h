@@ -124,6 +124,7 @@ public:
 
     Qt::MouseButtons buttons;
     QPointer<QWidget> mouseWidget;
+    int timestamp = 0; ///< of the mouse's last event, in ms
 
 private:
     void guard(int budget, const std::function<void()>& action);

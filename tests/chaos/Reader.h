@@ -1,0 +1,16 @@
+#pragma once
+
+class World;
+
+/**
+ * Somebody who has the windows read aloud: hears what changes in the middle of the change, and acts.
+ */
+namespace Reader {
+
+/// As long as a window lasts, or not at all.
+void listen(bool isListening);
+
+/// One look at a widget, or at one that was looked at before and may be gone; and perhaps an action.
+void act(World& world);
+
+} // namespace Reader
