@@ -133,6 +133,8 @@ QAccessibleInterface* AccessibleFactory::interfaceFor(const QString& className, 
     if (className == QLatin1String("PointingWidget") || isSelector || isColorPopup) {
         return new AccessiblePopup(widget);
     }
-    const bool isPart = AccessibleNames::hasEntry(widget) || dynamic_cast<ColorButton*>(widget);
+    // Qt comes again for each class above, also while nobody listens.
+    const bool isAsked = className == QLatin1String(widget->metaObject()->className());
+    const bool isPart = isAsked && (dynamic_cast<ColorButton*>(widget) || AccessibleNames::hasEntry(widget));
     return isPart ? partFor(className, widget) : nullptr;
 }

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTextDocument>
+#include <QVector>
 
 #include <algorithm>
 
@@ -67,11 +68,30 @@ QString translated(const PartName& entry, const char* text)
     return QCoreApplication::translate(isTwin ? "SliderInputWidget" : entry.component, text);
 }
 
-/// Those that are components without a part of a name.
+/// The classes of the table, each once.
+QVector<const char*> componentClasses()
+{
+    QVector<const char*> classes;
+    for (const PartName& entry : partNames) {
+        if (classes.isEmpty() || qstrcmp(classes.last(), entry.component) != 0) {
+            classes.append(entry.component);
+        }
+    }
+    return classes;
+}
+
 bool isComponent(const QWidget* widget)
 {
+    static const QVector<const char*> classes = componentClasses();
+    return std::any_of(classes.cbegin(), classes.cend(),
+                       [widget](const char* name) { return widget->inherits(name); });
+}
+
+/// Whether some component has a part called so.
+bool isPartName(const QString& name)
+{
     return std::any_of(std::begin(partNames), std::end(partNames),
-                       [widget](const PartName& entry) { return widget->inherits(entry.component); });
+                       [&name](const PartName& entry) { return name == QLatin1String(entry.part); });
 }
 
 const PartName* entryOf(const QWidget* widget, const QWidget* component)
@@ -177,7 +197,7 @@ bool AccessibleNames::isNamedByComponent(const QWidget* widget)
 
 bool AccessibleNames::hasEntry(const QWidget* widget)
 {
-    const QWidget* const component = componentOf(widget);
+    const QWidget* const component = isPartName(widget->objectName()) ? componentOf(widget) : nullptr;
     return component && entryOf(widget, component);
 }
 
