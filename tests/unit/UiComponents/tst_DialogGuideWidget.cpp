@@ -540,25 +540,6 @@ private Q_SLOTS:
         QCOMPARE(bubble.aims, 0);
     }
 
-    void parentMoves()
-    {
-        Stage stage;
-        const QPoint before = stage.bubble->pos();
-        stage.window.move(stage.window.pos() + QPoint(30, 20));
-        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
-        QCOMPARE(stage.bubble->pos(), before + QPoint(30, 20));
-        QCOMPARE(stage.bubble->aims - stage.bubble->aimsByPaints, 1);
-    }
-
-    void parentResizes()
-    {
-        Stage stage;
-        stage.bubble->spot = [&] { return stage.window.mapToGlobal(stage.window.rect().center()); };
-        stage.window.resize(500, 380);
-        QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.window.rect().center()));
-        QVERIFY(stage.bubble->mask().contains(stage.bubble->mapFromGlobal(stage.bubble->targetPoint())));
-    }
-
     void parentIsReparented()
     {
         QWidget first;

@@ -451,41 +451,6 @@ private Q_SLOTS:
         QVERIFY(movie(*button)->state() != QMovie::Running);
     }
 
-    void atTheEdgesOfTheScreen_data()
-    {
-        QTest::addColumn<QPointF>("place");
-        QTest::addColumn<bool>("above");
-        QTest::newRow("upper left") << QPointF(0, 0) << false;
-        QTest::newRow("upper right") << QPointF(1, 0) << false;
-        QTest::newRow("left") << QPointF(0, 0.5) << false;
-        QTest::newRow("right") << QPointF(1, 0.5) << false;
-        QTest::newRow("lower left") << QPointF(0, 1) << true;
-        QTest::newRow("bottom") << QPointF(0.5, 1) << true;
-        QTest::newRow("lower right") << QPointF(1, 1) << true;
-    }
-
-    void atTheEdgesOfTheScreen()
-    {
-        QFETCH(QPointF, place);
-        QFETCH(bool, above);
-        const auto button = makeButton();
-        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-        button->setWindowFlag(Qt::FramelessWindowHint);
-        button->move(available.left() + qRound(place.x() * (available.width() - button->width())),
-                     available.top() + qRound(place.y() * (available.height() - button->height() - 1)));
-        button->show();
-        button->click();
-        const PointingWidget* const open = popup(*button);
-        QVERIFY(available.contains(open->geometry()));
-        QCOMPARE(open->targetPoint(), middleOfLowerEdge(*button));
-        QCOMPARE(open->effectiveArrowSide(),
-                 above ? PointingWidget::ArrowSide::Bottom : PointingWidget::ArrowSide::Top);
-        // The tip is on the spot.
-        const QPoint tip = open->mapFromGlobal(open->targetPoint());
-        QVERIFY(open->rect().contains(tip));
-        QVERIFY(open->mask().contains(tip));
-    }
-
     void neverLargerThanTheScreen_data()
     {
         QTest::addColumn<GuideInfo>("info");
