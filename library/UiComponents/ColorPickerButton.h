@@ -24,9 +24,7 @@ class AbstractColorPicker;
  * the picker's pick(). Each colour that the picker reports becomes the button's at once. When the picker
  * emits its `pickingStopped()`, the button emits its own, takes the picker's final colour and is released. A
  * picker that ends without a signal leaves the button pressed until one reports its end, or until Escape or
- * the loss of the focus releases it, as any button with focus. A Space that ends a nested event loop of
- * pick() does not click the button again if the picker is no longer in progress when the key reaches the
- * button.
+ * the loss of the focus releases it, as any button with focus.
  *
  * **Readers** find a button with the name of its label, its accessible name or its tool tip. Its value and,
  * on X11 and Wayland, its description is the colour in words, and each change is said. Space picks.
@@ -86,7 +84,8 @@ Q_SIGNALS:
     void colorChanged(QColor color);
 
 public Q_SLOTS:
-    /// Starts the picker; does nothing without one.
+    /// Starts the picker; does nothing without one. A Space that ends a nested event loop of pick() does not
+    /// click the button again if the picker is no longer in progress when the key reaches the button.
     void startPicking();
 
     /// Stops the picker; does nothing without one.

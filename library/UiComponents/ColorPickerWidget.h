@@ -21,14 +21,7 @@
  * The value is a `std::optional<QColor>` with the three meanings that AbstractColorPicker gives it. Keys move
  * between the buttons of colours, and choose as they go once one is checked: arrows, Home and End within the
  * row, Page Up and Page Down within the column. The edit takes six hexadecimal digits, adds a missing "#",
- * and ignores anything else, which goes when it is left; "#null" for no colour and "#multiple" for several
- * are selected when it is entered. While opacity can be adjusted, a chosen or typed colour takes the slider's
- * alpha.
- *
- * The add button opens the selector, a pop-up to the right of the button, or to its left where there is no
- * room, that stays on its screen (on Wayland, in its window). It starts at the current colour, or at black
- * without one. A click elsewhere, Escape or Enter closes it: the add button has the focus again, and the
- * current colour is added to the user's own unless it is one of them or in the palette.
+ * and ignores anything else, which goes when it is left.
  *
  * **Style sheet.** All margins and gaps are 0 until a sheet sets OvFrame's properties. The parts:
  * - "topPanel": the preview "currentColorDisplayLabel", "currentColorValueEdit" (style hint "INPUT_LIGHT")
@@ -56,6 +49,11 @@ class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame
 public:
     /// @p parent owns the panel. With @p nullColorAllowed the palette begins with a button for no colour, and
     /// "#e3e3e3" is left out, so that the row keeps its length.
+    ///
+    /// The add button opens the selector, a pop-up to the right of the button, or to its left where there is
+    /// no room, that stays on its screen (on Wayland, in its window). It starts at the current colour, or at
+    /// black without one. A click elsewhere, Escape or Enter closes it: the add button has the focus again,
+    /// and the current colour is added to the user's own unless it is one of them or in the palette.
     ColorPickerWidget(QWidget* parent, bool nullColorAllowed);
     /// Without a button for no colour, for forms.
     explicit ColorPickerWidget(QWidget* parent);
@@ -65,7 +63,8 @@ public:
     /// panel, and follows the value.
     const std::optional<QColor>& currentColor() const;
 
-    /// Sets the value and shows it. An equal one (as QColor compares: the colour model counts) does nothing.
+    /// Sets the value and shows it: no colour as "#null", several as "#multiple", which the edit selects when
+    /// it is entered. An equal value (as QColor compares: the colour model counts) does nothing.
     ///
     /// Emits nothing for the value itself, but reports what it moves, as for the user: once for the opacity
     /// slider, if opacity can be adjusted and the alpha differs from the slider's, and once for the button of
@@ -77,7 +76,7 @@ public:
     bool opacityAdjustmentAvailable() const;
 
     /// Shows or hides the opacity slider. A slider that appears moves to the alpha of the colour, if there is
-    /// one, and reports that if it changes.
+    /// one, and reports that if it changes. A colour that is chosen or typed then takes the slider's alpha.
     void setOpacityAdjustmentAvailable(bool available);
 
     int GetcolorDialogOffset() const;

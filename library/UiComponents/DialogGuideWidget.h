@@ -25,12 +25,8 @@
  * screen: a word or image in a text takes at most half of the screen's width, a button a quarter, with an
  * ellipsis in its text.
  *
- * **Image.** It plays while the bubble is shown. GuideWidget says how to pause it, or to show its first
- * picture only.
- *
  * **Readers** hear of a dialog with title and description when it appears; in it are the buttons and the
- * picture, as in GuideWidget. enter() leads in by keyboard, Enter presses the button that has the focus, and
- * Escape asks to close.
+ * picture, as in GuideWidget. enter() leads in by keyboard.
  *
  * **Style sheet.** In "contentFrame" are "headerFrame" with "headerLabel" and "closeButton",
  * "descriptionFrame" with "gifPixmapWidget" and "descriptionLabel", and "buttonsFrame" with "secondaryButton"
@@ -53,7 +49,8 @@ public:
 
     /// Shows @p info. The heading is plain text in a weight that suits the language (see
     /// Customization::localeDependedBoldText()) and hidden when empty; the image is hidden when its file does
-    /// not exist. The size follows one turn of the event loop later, when layouts and style sheet have
+    /// not exist, and plays while the bubble is shown (GuideWidget says how to pause it, or to show its first
+    /// picture only). The size follows one turn of the event loop later, when layouts and style sheet have
     /// settled, and when the bubble is shown.
     void setInfo(const DialogGuideInfo& info);
 

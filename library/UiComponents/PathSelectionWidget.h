@@ -25,12 +25,6 @@ class QUrl;
  * is typed stays as typed until the focus leaves. The reset button shows only with a default path, and is
  * disabled while the path is shown by its text.
  *
- * **Disk.** Only checkPath() reads it. Call it when the path is about to be used, not in a slot of
- * pathChanged(), after which the mark goes again: the user would never see it.
- *
- * **Language.** The texts of the space figures and the field's own two messages are translated (context
- * "PathSelectionWidget") and follow a change of language; messages of FileUtil and of the host do not.
- *
  * **Readers** find a group of the line edit, which has the field's name and the path as its value, and of the
  * two buttons. Tab goes from one to the next. While the field is marked, the line edit is invalid and has the
  * message as its description.
@@ -75,7 +69,9 @@ public:
     void setDefaultPath(const QString& path, const QString& displayText);
 
     /**
-     * Returns whether the path can be used; reads the disk.
+     * Returns whether the path can be used. Reads the disk, as nothing else does. Call it when the path is
+     * about to be used, not in a slot of pathChanged(), after which the mark goes again: the user would never
+     * see it.
      *
      * First FileUtil::isPathValid() must agree. Then, if there is one, the check function alone decides.
      * Without one the folder, or the nearest folder above it if it does not exist yet, must be readable and
@@ -123,6 +119,8 @@ Q_SIGNALS:
     void browseDirectoryRequested(const QUrl& url);
 
 protected:
+    /// The texts of the space figures and the field's own two messages are translated (context
+    /// "PathSelectionWidget") and follow a change of language; messages of FileUtil and of the host do not.
     void changeEvent(QEvent* event) override;
 
 private:

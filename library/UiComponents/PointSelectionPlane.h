@@ -17,15 +17,10 @@
  *     connect(plane, &PointSelectionPlane::pointChanged, this, &Panel::moveLight);
  *
  * **Scale.** The first pixel is exactly the left and top limit, the last one the right and bottom limit, in
- * the host's units. The y axis points down; nothing is mirrored from right to left. Limits of negative width
- * or height invert the axis. A plane of one pixel or without limits has no scale: a pick gives NaN or (0, 0),
- * and the marker's place means nothing.
+ * the host's units. The y axis points down; nothing is mirrored from right to left.
  *
  * **Input.** The left button takes the point under it and grabs the mouse: a drag may leave the plane and the
  * window, while the point stays on the edge. Hiding or disabling the plane ends the grab without a report.
- * With focus, by click or Tab, the arrow keys move the point by one pixel, with Shift by ten; Page Up and
- * Page Down by a tenth of the height, Home and End to the left and right edge, with Control to the top and
- * bottom.
  *
  * **Readers** find a group of two sliders, x and y, in the host's units, which they may set while the plane
  * is enabled; the keys are those of the plane. A step is said once, and a drag when it is over.
@@ -55,7 +50,9 @@ public:
     ~PointSelectionPlane() override;
 
     /// Sets the rectangle that the plane stands for. Keeps the point, wherever it then lies, and emits
-    /// nothing. Takes infinite limits and NaN, with which picks and the marker's place mean nothing.
+    /// nothing. A negative width or height inverts the axis. A plane of one pixel or without limits has no
+    /// scale: a pick gives NaN or (0, 0), and the marker's place means nothing; so it is with infinite limits
+    /// and NaN.
     void setLimits(const QRectF& limits);
 
     /// Sets the point and moves the marker; a point outside the limits, infinite or NaN has none. Emits
@@ -74,6 +71,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    /// With focus, by click or Tab, the arrow keys move the point by one pixel, with Shift by ten; Page Up
+    /// and Page Down by a tenth of the height, Home and End to the left and right edge, with Control to the
+    /// top and bottom.
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -39,8 +39,6 @@ namespace Qml {
  * **Size.** The container has the fixed size of the root item, rounded, and follows its changes; a size that
  * is not valid changes nothing, nor does one that is empty while the container is visible.
  *
- * **Compiling.** Only hosts that use qmlContext() need Qt's module Qml: they link `Qt5::Qml`.
- *
  * **Lifetime.** This object deletes container and view, in whichever window they are: take the container out
  * of a window (`setParent(nullptr)`) before using it elsewhere. A window that dies first takes the container
  * with it, and nothing can be loaded or shown any more. Handlers of the scene must neither delete this object
@@ -81,7 +79,7 @@ public:
     QPointer<QWidget> getUiContent();
 
     /// The root context of the view's own engine, which owns it. The scene sees properties set on it before
-    /// loading. Null when the container died.
+    /// loading. Null when the container died. Only hosts that use it link `Qt5::Qml`.
     QPointer<QQmlContext> qmlContext();
 
 private:

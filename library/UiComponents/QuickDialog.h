@@ -37,9 +37,6 @@ class QuickContent;
  * properties of Accessible, and call the dialog by the name of its root item, unless it has a window title.
  * Keys are the scene's; Escape rejects.
  *
- * **Showing.** Only exec() shows the scene: show() and open() show an empty window. Each exec() makes the
- * dialog's layout anew, without a host's children of the dialog.
- *
  * **Lifetime.** The scene is loaded once, by the first exec(), and keeps its state. During exec() the dialog
  * (on the heap, as with every QDialog), its parent and the scene's container may be deleted. Handlers of the
  * scene and slots of accepted() and rejected(), behind which QDialog emits finished(), use deleteLater()
@@ -60,8 +57,10 @@ public:
     /// reads it: a later path has no effect, also when the first could not be loaded.
     void setQmlPath(const QString& path);
 
-    /// Shows the scene and returns its result: 1 when accepted, 0 when rejected, by Escape too, when the
-    /// application quits, or when the dialog, its parent or the container is deleted.
+    /// Shows the scene, as nothing else does: show() and open() show an empty window. Makes the dialog's
+    /// layout anew, without a host's children of the dialog. Returns the scene's result: 1 when accepted, 0
+    /// when rejected, by Escape too, when the application quits, or when the dialog, its parent or the
+    /// container is deleted.
     ///
     /// Returns 0 at once, and shows nothing, when the scene could not be loaded, now or by the first exec()
     /// (QuickContent logs the reason), and when exec() of the same dialog runs already. A scene that ends the

@@ -33,9 +33,6 @@
  *     SearchWidget > #searchIcon { image: url(:/search.png); min-width: 16px; }
  *     SearchWidget > #searchIcon[hovered="true"] { image: url(:/search-hovered.png); }
  *
- * **Focus.** Tab reaches the button; when it hides with the text, the focus goes to the line edit. A click on
- * it leaves the focus where it is.
- *
  * **Readers** find a group of an edit for searches, with the name of the field or the placeholder and with
  * the text as its value, and the button. Tab goes from one to the other, Enter ends the edit.
  *
@@ -62,7 +59,8 @@ public:
     QString text() const;
 
     /// Empties the line edit, as the button does. Emits textChanged() if there was a text; editingFinished()
-    /// waits for the end of the edit.
+    /// waits for the end of the edit. Tab reaches the button; when it hides with the text, the focus goes to
+    /// the line edit. A click on it leaves the focus where it is.
     void clear();
 
     /// Sets the host's texts: the tool tips of the icon, the line edit and the button, and the placeholder.

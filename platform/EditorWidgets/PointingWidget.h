@@ -34,9 +34,6 @@ class OvFrame;
  * placed anew when its size, its layout direction or the screens change; a move() by other code lasts until
  * then or the next pointTo().
  *
- * On Wayland, where a program does not know the screen around its windows, a bubble with a parent is a
- * `Qt::ToolTip`, its area is the parent's window, and it appears anew where it is moved to.
- *
  * **Parent.** The bubble moves with its parent and the parent's ancestors, and hides with it; unless it is a
  * pop-up it comes back with it. Shown while the parent is hidden, it appears with the parent.
  *
@@ -78,7 +75,9 @@ public:
     ~PointingWidget() override;
 
     /// Places the bubble so that the tip of its arrow is at @p globalPos, without showing it. The same point
-    /// again causes no repaint. Coordinates are clamped to 2^28.
+    /// again causes no repaint. Coordinates are clamped to 2^28. On Wayland, where a program does not know
+    /// the screen around its windows, a bubble with a parent is a `Qt::ToolTip`, its area is the parent's
+    /// window, and it appears anew where it is moved to.
     void pointTo(const QPoint& globalPos);
 
     /// The target in global coordinates: the point last given to pointTo(), which moves with the parent.
