@@ -33,6 +33,7 @@ class WidgetColorPickerStylingObject;
  * several for a point; a key before the first one takes that of the whole point next to the cursor.
  *
  * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
+ * @see WidgetColorPickerButton, WidgetColorPickerStylingObject
  */
 class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 {

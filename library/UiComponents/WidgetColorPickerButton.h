@@ -32,6 +32,7 @@ class WidgetColorPickerStylingObject;
  *
  * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key
  * ends it: offer a colour field with a PopupColorPicker too, for the keyboard.
+ * @see WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton
 {
