@@ -12,6 +12,7 @@
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/GuideButton.h>
 #include <UiComponents/PathSelectionWidget.h>
+#include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/QuickDialog.h>
@@ -394,6 +395,62 @@ private Q_SLOTS:
         QTRY_COMPARE(form.panel->currentColor(), std::optional<QColor>(QColor(Qt::red)));
         QTRY_VERIFY2((heard += client.heard()).contains(QStringLiteral("Current colour: red, #ff0000")),
                      qPrintable(heard.join(QLatin1Char('\n'))));
+    }
+
+    // What the user cannot change, his reader cannot either.
+    void setsNothingThatIsLocked()
+    {
+        Form form;
+        form.setWindowTitle(QStringLiteral("Clip"));
+        form.level->setEnabled(false);
+        auto* const number = form.gain->findChild<QDoubleSpinBox*>();
+        number->setReadOnly(true);
+        QVERIFY(RealInput::showAndActivate(&form));
+        Client client;
+        QVERIFY(client.isListening());
+        const auto set = [&client](const char* name, const char* role, const char* value) {
+            client.ask(
+                {QStringLiteral("set"), QLatin1String(name), QLatin1String(role), QLatin1String(value)});
+        };
+        set("Level", "slider", "70");
+        set("Level, number", "spin button", "70");
+        set("Gain, number", "spin button", "0.7");
+        // Answered after those.
+        set("Position, x", "slider", "0.75");
+        QTRY_COMPARE(form.position->value(), QPointF(0.75, 0.5));
+        QCOMPARE(form.level->value(), 40);
+        QCOMPARE(form.gain->value(), 0.4);
+    }
+
+    void dragsAreHeardOnce()
+    {
+        Form form;
+        form.setWindowTitle(QStringLiteral("Clip"));
+        QVERIFY(RealInput::showAndActivate(&form));
+        Client client;
+        QVERIFY(client.isListening());
+        const auto* const slider = form.gain->findChild<QSlider*>();
+        QWidget* const plane = form.position->findChild<PointSelectionPlane*>();
+        QSignalSpy gains(form.gain, &DoubleSliderInputWidget::valueChanged);
+        QStringList heard;
+        const auto hears = [&](const char* start, int count) {
+            return QTest::qWaitFor(
+                [&] { return (heard += client.heard()).filter(QLatin1String(start)).size() >= count; });
+        };
+        client.heard();
+        const QPoint middle = slider->rect().center();
+        QVERIFY(RealInput::drag(slider, middle, middle + QPoint(slider->width() / 4, 0)));
+        QVERIFY2(hears("Gain: ", 1), qPrintable(heard.join(QLatin1Char('\n'))));
+        QVERIFY(gains.size() > 1);
+        const QPoint corner(plane->width() / 4, plane->height() / 4);
+        QVERIFY(RealInput::drag(plane, corner, corner * 2));
+        // One after the other, so that more of them would have come before.
+        QVERIFY2(hears("Position, ", 2), qPrintable(heard.join(QLatin1Char('\n'))));
+        QVERIFY(RealInput::key(QStringLiteral("alt+l")));
+        QVERIFY2(hears("Level!", 1), qPrintable(heard.join(QLatin1Char('\n'))));
+        QCOMPARE(heard.filter(QStringLiteral("Gain: ")).size(), 1);
+        QCOMPARE(heard.filter(QStringLiteral("Position, x: ")).size(), 1);
+        QCOMPARE(heard.filter(QStringLiteral("Position, y: ")).size(), 1);
     }
 
     // A user without a mouse and without eyes fills the form in.
