@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int width = 2;
+constexpr int outlineWidth = 2;
 
 } // namespace
 
@@ -43,7 +43,8 @@ void FocusOutline::paint(QPainter& painter) const
         return;
     }
     // Clipped, since some styles fill the focus rectangle, which would tint what is painted.
-    const QRect inside = m_widget->rect().adjusted(width, width, -width, -width);
+    const QMargins outline(outlineWidth, outlineWidth, outlineWidth, outlineWidth);
+    const QRect inside = m_widget->rect().marginsRemoved(outline);
     painter.setClipRegion(QRegion(m_widget->rect()) - inside);
     painter.setRenderHint(QPainter::Antialiasing, false);
     QStyleOptionFocusRect option;
