@@ -1,4 +1,4 @@
-// Internal: what the components tell those who do not see them change.
+// Internal: notifies assistive technologies of changed values.
 
 #pragma once
 

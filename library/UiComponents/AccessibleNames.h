@@ -1,4 +1,4 @@
-// Internal: what the components and their parts are called by those who do not see them.
+// Internal: the accessible names of components and their parts.
 
 #pragma once
 

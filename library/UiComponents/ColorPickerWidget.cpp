@@ -663,7 +663,8 @@ void ColorPickerWidget::Private::createSelector()
     selectorColor.reset();
     connect(selector, &CustomColorSelectWidget::colorChanged, listener.get(),
             [this](const QColor& color) { onSelectorReport(color); });
-    connect(popup, &QDialog::finished, listener.get(), [this] { announce([this] { onSelectorFinished(); }); });
+    connect(popup, &QDialog::finished, listener.get(),
+            [this] { announce([this] { onSelectorFinished(); }); });
 }
 
 void ColorPickerWidget::Private::placeSelector() const

@@ -229,7 +229,7 @@ void PortalRequest::fail(ColorPortal::Trouble trouble)
 {
     // A portal that has not answered in time may still show its dialog.
     close(m_bus, m_path);
-    // Somebody who hears of it may delete this.
+    // A slot may delete this.
     const QPointer<PortalRequest> self = this;
     if (isLasting(trouble) && m_portal) {
         m_portal->setTrouble(trouble);

@@ -1,4 +1,4 @@
-// Internal: how EditSession reads, writes and hears any of the fields that it knows.
+// Internal: uniform access to the value of the fields that EditSession supports.
 
 #pragma once
 

@@ -112,7 +112,7 @@ public:
     QPointer<AbstractColorPicker> hostsPipette;
     Pipette* pipette = nullptr;
     QPointer<Popup> popup;
-    // Hear the panel during a pick, and a pipette during its own.
+    // Contexts of the connections to the panel and to a running pipette.
     std::unique_ptr<QObject> panelListener;
     std::unique_ptr<QObject> pipetteListener;
     std::optional<QColor> current;

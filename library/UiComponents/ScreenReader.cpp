@@ -226,7 +226,7 @@ ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& sourc
         if (picture.image.isNull()) {
             continue;
         }
-        // The picks before this one may still be seen in it, where the pictures of that time know better.
+        // Pixels that an earlier pick may still cover are copied from its picture.
         const QRegion untrusted = touched(picture.area());
         for (const Picture& former : qAsConst(pictures)) {
             copy(former, picture, untrusted);
