@@ -40,7 +40,6 @@ class QWidget;
  * texts are covered by a dash, the QLabel "multiValueCover", a colour field shows several colours, and screen
  * readers say it. The field has the property "multiValue" (bool):
  * `[multiValue="true"] QSlider::handle { background: gray; }`.
- * @see EditCommand
  */
 class UICOMPONENTS_EXPORT EditSession : public QObject
 {
