@@ -30,12 +30,13 @@ QPainterPath textPath(const Card& card)
     font.setPixelSize(card.values.value(Size).toInt());
     QPainterPath path;
     path.addText(0, 0, font, card.values.value(Text).toString());
-    return path.translated(-path.boundingRect().center());
+    // By whole pixels: how a letter begins within one depends on what Qt has drawn before.
+    return path.translated(-path.boundingRect().center().toPoint());
 }
 
 QRectF box(const QPainterPath& text)
 {
-    return text.boundingRect().adjusted(-12, -12, 12, 12);
+    return text.boundingRect().toAlignedRect().adjusted(-12, -12, 12, 12);
 }
 
 /// From the card's own coordinates, with its middle at (0, 0), to the picture's.

@@ -1,5 +1,7 @@
 #include "TestMain.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/PageRegistry.h>
@@ -38,11 +40,11 @@ private Q_SLOTS:
         const QStringList pictures = QDir(one.path()).entryList(QDir::Files);
         QCOMPARE(pictures.size(), StyleController::builtInStyles().size() * PageRegistry::pages().size());
         for (const QString& name : pictures) {
-            // Its large text may be a point wider or not: Qt drops font engines after a while.
-            if (name.startsWith("title-card")) {
-                continue;
-            }
-            QVERIFY2(QImage(one.filePath(name)) == QImage(other.filePath(name)), qPrintable(name));
+            // Outlines of letters, which are all that a title card has: QPainterPath::addText() has them
+            // begin a 64th of a pixel further or not, by what FreeType was asked for before.
+            const int tolerance = name.startsWith("title-card") ? 8 : 0;
+            QVERIFY2(difference(QImage(one.filePath(name)), QImage(other.filePath(name))) <= tolerance,
+                     qPrintable(name));
         }
     }
 
@@ -77,6 +79,24 @@ private Q_SLOTS:
     }
 
 private:
+    /// The largest between the channels of two pixels in one place.
+    static int difference(const QImage& one, const QImage& other)
+    {
+        if (one.size() != other.size()) {
+            return 255;
+        }
+        int largest = 0;
+        for (int y = 0; y < one.height() && one != other; ++y) {
+            for (int x = 0; x < one.width(); ++x) {
+                const QRgb a = one.pixel(x, y);
+                const QRgb b = other.pixel(x, y);
+                largest = std::max({largest, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                                    std::abs(qBlue(a) - qBlue(b))});
+            }
+        }
+        return largest;
+    }
+
     static CommandLine request(const QString& folder, const QString& page)
     {
         CommandLine line;
