@@ -254,7 +254,16 @@ void PopupColorPicker::Private::open(QWidget* field)
 
 void PopupColorPicker::Private::show(QWidget* field)
 {
+    const QPointer<PopupColorPicker> self(q);
     showColor();
+    if (!self) {
+        return;
+    }
+    if (state != State::Picking || !popup || !popup->panel) {
+        // A host's slot of the panel's colorChanged() has closed or deleted it.
+        finish();
+        return;
+    }
     showPipetteState();
     popup->setLayoutDirection(field->layoutDirection());
     popup->ensurePolished();
@@ -264,6 +273,9 @@ void PopupColorPicker::Private::show(QWidget* field)
     // A panel that is shown may find the colour among the user's own, and report its button.
     isShowingColor = true;
     popup->show();
+    if (!self) {
+        return;
+    }
     isShowingColor = false;
     if (popup) {
         AccessibleEvents::alert(popup);
@@ -274,9 +286,12 @@ void PopupColorPicker::Private::show(QWidget* field)
 void PopupColorPicker::Private::showColor()
 {
     if (popup && popup->panel) {
+        const QPointer<PopupColorPicker> self(q);
         isShowingColor = true;
         popup->panel->setCurrentColor(current);
-        isShowingColor = false;
+        if (self) {
+            isShowingColor = false;
+        }
     }
 }
 
@@ -324,8 +339,8 @@ void PopupColorPicker::Private::sampleWithHostsPipette()
     connect(hostsPipette, &AbstractColorPicker::pickingStopped, listener, [this] { endSampling(); });
     connect(hostsPipette, &QObject::destroyed, listener, [this] { endSampling(); });
     hostsPipette->pick();
-    // A picker may end without a signal.
-    if (listener && !hostsPipette->isInProgress()) {
+    // A picker may end without a signal, and the host may have taken it away meanwhile.
+    if (listener && !(hostsPipette && hostsPipette->isInProgress())) {
         endSampling();
     }
 }

@@ -441,13 +441,18 @@ private Q_SLOTS:
             QCOMPARE(m_button->color(), Color(QColor(10, 20, 30, 100)));
             delete pipette;
         }
-        // One that ends without a signal.
+        // One that ends without a signal, or that the host takes away.
         FakeColorPicker silent;
-        silent.onPick = [&silent] { silent.finishInSilence(); };
-        m_picker->setPipette(&silent);
-        m_button->startPicking();
-        child<QToolButton>("pipetteButton")->click();
-        QTRY_VERIFY(popup()->isVisible());
+        for (const bool isTaken : {false, true}) {
+            silent.onPick = [this, &silent, isTaken] {
+                isTaken ? m_picker->setPipette(nullptr) : silent.finishInSilence();
+            };
+            m_picker->setPipette(&silent);
+            m_button->startPicking();
+            child<QToolButton>("pipetteButton")->click();
+            QTRY_VERIFY(popup()->isVisible());
+            m_picker->stop();
+        }
     }
 
     void pipetteThatCanDoNothing()
@@ -694,6 +699,32 @@ private Q_SLOTS:
             QVERIFY(!m_button->isPickingInProgress());
             QVERIFY(!m_button->isDown());
         }
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void deletedBeforeThePanelIsShown_data()
+    {
+        QTest::addColumn<Action>("remove");
+        QTest::newRow("panel") << Action([this] { delete panel(); });
+        QTest::newRow("pop-up") << Action([this] { delete popup(); });
+        QTest::newRow("field") << Action([this] { delete m_button; });
+        QTest::newRow("window") << Action([this] { m_window.reset(); });
+    }
+
+    /// In a host's slot of the panel, which gets the field's colour then.
+    void deletedBeforeThePanelIsShown()
+    {
+        QFETCH(Action, remove);
+        m_button->startPicking();
+        m_picker->stop();
+        // The panel's slider has no such step.
+        m_button->setColor(QColor::fromRgbF(0.1, 0.2, 0.3, 0.12345));
+        Trigger trigger(remove);
+        connect(panel(), SIGNAL(colorChanged(QColor)), &trigger, SLOT(run()));
+        m_button->startPicking();
+        QCOMPARE(trigger.count, 1);
+        QVERIFY(!m_button || !m_button->isPickingInProgress());
+        QVERIFY(!m_button || !m_button->isDown());
         QVERIFY(!QApplication::activePopupWidget());
     }
 
