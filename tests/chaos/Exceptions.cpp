@@ -286,7 +286,10 @@ int Exceptions::checkCitations(const QString& root)
         QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
         text.remove(
             QRegularExpression(QStringLiteral("^\\s*(\\*|///)"), QRegularExpression::MultilineOption));
-        if (!text.simplified().contains(QLatin1String(row.words))) {
+        const QString words = QLatin1String(row.words);
+        // Of the cases, one that is run.
+        const QString cited = row.file == qt ? QStringLiteral("{\"%1\", %1}").arg(words) : words;
+        if (!text.simplified().contains(cited)) {
             std::fprintf(stderr, "%s does not say \"%s\"\n", row.file, row.words);
             ++wrong;
         }

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -457,14 +458,30 @@ bool overridingWidgetIsDeleted()
     return false;
 }
 
-bool dyingViewIsRead()
+/// By the one to whom a child of it says that it goes.
+bool dyingButtonIsRead()
 {
     const AccessibleEars ears;
-    auto* const view = new QListView;
-    bring(*view);
-    reader(view);
-    delete view;
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::ObjectHide) {
+            event->accessibleInterface()->parent()->text(QAccessible::Name);
+        }
+    });
+    auto* const button = new QToolButton;
+    new QLabel(button);
+    bring(*button);
+    reader(button);
+    delete button;
     return false;
+}
+
+bool sizelessDialogIsNotModal()
+{
+    QDialog dialog;
+    dialog.setModal(true);
+    bring(dialog);
+    dialog.resize(0, 30);
+    return dialog.isVisible() && QApplication::activeModalWidget() != &dialog;
 }
 
 class Closer : public QObject
@@ -560,7 +577,8 @@ int main(int argc, char** argv)
         {"tinyScrollAreaGoesOn", tinyScrollAreaGoesOn},
         {"smallListOfABoxGoesOn", smallListOfABoxGoesOn},
         {"overridingWidgetIsDeleted", overridingWidgetIsDeleted},
-        {"dyingViewIsRead", dyingViewIsRead},
+        {"dyingButtonIsRead", dyingButtonIsRead},
+        {"sizelessDialogIsNotModal", sizelessDialogIsNotModal},
         {"menuClosedWhileItOpens", menuClosedWhileItOpens},
     };
     int unseen = 0;

@@ -42,11 +42,12 @@ void read(QAccessibleInterface& reader)
     }
 }
 
+const World* present = nullptr;
+
 void hear(QAccessibleEvent* event)
 {
-    // Its widget may be half destroyed: dyingViewIsRead.
-    const bool isDying = event->type() == QAccessible::ObjectHide;
-    QAccessibleInterface* const reader = isDying ? nullptr : event->accessibleInterface();
+    // What is there may be half destroyed: dyingButtonIsRead.
+    QAccessibleInterface* const reader = present->isDeleting() ? nullptr : event->accessibleInterface();
     if (reader && reader->isValid()) {
         read(*reader);
     }
@@ -107,11 +108,12 @@ void change(World& world, QAccessibleInterface& reader)
 
 } // namespace
 
-void Reader::listen(bool isListening)
+void Reader::listen(const World* world)
 {
     ids.clear();
-    QAccessible::installUpdateHandler(isListening ? hear : nullptr);
-    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(isListening);
+    present = world;
+    QAccessible::installUpdateHandler(world ? hear : nullptr);
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(world);
 }
 
 void Reader::act(World& world)

@@ -7,8 +7,8 @@ class World;
  */
 namespace Reader {
 
-/// As long as a window lasts, or not at all.
-void listen(bool isListening);
+/// To the windows of @p world until the next call; null for none.
+void listen(const World* world);
 
 /// One look at a widget, or at one that was looked at before and may be gone; and perhaps an action.
 void act(World& world);

@@ -69,13 +69,13 @@ World::World(quint64 seed, QObject* parent)
     , random(seed)
     , m_steps(20 + random.below(180))
 {
-    Reader::listen(random.oneIn(3));
+    Reader::listen(random.oneIn(3) ? this : nullptr);
     guard(0, [this] { Components::build(*this); });
 }
 
 World::~World()
 {
-    Reader::listen(false);
+    Reader::listen(nullptr);
 }
 
 void World::step()
@@ -147,7 +147,13 @@ void World::endLoops()
         popup->close();
     }
     if (m_endings % patience == 0) {
-        // A dialog without a size is nobody's modal one.
+        // One without a size is nobody's modal one: sizelessDialogIsNotModal.
+        const auto presentTops = tops;
+        for (const auto& top : presentTops) {
+            if (auto* dialog = qobject_cast<QDialog*>(top)) {
+                dialog->reject();
+            }
+        }
         for (const Part& part : present) {
             if (auto* dialog = qobject_cast<QDialog*>(part.object)) {
                 dialog->reject();
