@@ -27,6 +27,8 @@ uic_packages()
                 echo clang fonts-dejavu-core make pkg-config qt5-qmake ;;
             benchmarks)
                 echo fonts-dejavu-core libbenchmark-dev libkf5widgetsaddons-dev python3 qml-module-qtquick2 ;;
+            debian)
+                echo debhelper fakeroot git lintian mmdebstrap ;;
             headers)
                 echo abigail-tools python3 ;;
             conventions)
