@@ -190,8 +190,13 @@ void EditSession::Private::watchPicks()
         connect(colorButton, &ColorPickerButton::pickingStarted, q,
                 [this] { begin(Gesture::Pick, colorButton); });
         connect(colorButton, &ColorPickerButton::pickingStopped, q, [this] {
+            const QPointer<EditSession> self(q);
             AbstractColorPicker* const picker = colorButton->picker();
-            onPicked(picker ? QVariant::fromValue(picker->color()) : access.read(), false);
+            const QVariant result = picker ? QVariant::fromValue(picker->color()) : access.read();
+            // Asking a picker for its colour may delete the field.
+            if (self) {
+                onPicked(result, false);
+            }
         });
     }
     if (auto* button = qobject_cast<WidgetColorPickerButton*>(field)) {

@@ -107,7 +107,7 @@ void takeLong(World& world)
 void wait(World& world)
 {
     Q_UNUSED(world)
-    QThread::sleep(4);
+    QThread::msleep(4000);
 }
 
 void overrideCursor(World& world)

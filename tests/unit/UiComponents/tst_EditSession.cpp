@@ -1396,6 +1396,28 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    // Seen by the sanitizer alone.
+    void fieldDeletedByItsPickersColor()
+    {
+        class Picker : public FakeColorPicker
+        {
+        public:
+            std::optional<QColor> color() override
+            {
+                delete parent();
+                return QColor(Qt::red);
+            }
+        };
+        const QPointer<ColorPickerButton> button = new ColorPickerButton;
+        auto* const picker = new Picker;
+        button->setPicker(picker);
+        const QPointer<EditSession> session = new EditSession(button);
+        button->startPicking();
+        picker->finish(QColor(Qt::red));
+        QVERIFY(!button);
+        QVERIFY(!session);
+    }
+
     void windowDestroyedWhileTyping()
     {
         QStringList lines;
