@@ -119,7 +119,7 @@ QVector<QObject*> newOnes(const Objects& among)
 }
 
 /// What is new, without the few of a kind that Qt makes when they are first needed and keeps, and the one of
-/// a kind that a library gives to the application.
+/// a kind that a library keeps.
 QVector<QObject*> leftovers()
 {
     constexpr int few = 16;
@@ -129,7 +129,14 @@ QVector<QObject*> leftovers()
         // The last drag's picture stays as a hidden window, for the next one.
         const bool isSeen =
             object->isWidgetType() || (object->isWindowType() && !object->inherits("QShapedPixmapWindow"));
-        const bool isKept = isQts(object) || object->parent() == qApp;
+        const QObject* root = object;
+        while (root->parent()) {
+            root = root->parent();
+        }
+        // The library's own are below the application, or below a plain object.
+        const bool isBelow =
+            root == qApp || (root != object && root->metaObject() == &QObject::staticMetaObject);
+        const bool isKept = isQts(object) || isBelow;
         const int max = isQts(object) ? few : 1;
         if (!isKept || isSeen || ++counts[typeOf(object)] > max) {
             left.append(object);
