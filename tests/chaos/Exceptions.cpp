@@ -51,7 +51,7 @@ const std::vector<Row>& rows()
          "A slot of blendingModeChanged() deletes the box with deleteLater()"},
         {"ColorPickerButton", "pickingStopped", any, Doing::Showing, nullptr,
          "library/UiComponents/ColorPickerButton.h",
-         "that of a pickingStopped() that hiding the button causes, since QWidget::hide() goes on"},
+         "A slot of a pickingStopped() that hiding the button causes must use deleteLater()"},
         {"ColorPickerWidget", "colorChanged", any, Doing::Showing, nullptr,
          "library/UiComponents/ColorPickerWidget.h",
          "A slot that runs because the panel is being shown or hidden must delete the panel with "
