@@ -190,9 +190,10 @@ void WidgetColorPicker::Private::stop()
     ending.loop.quit();
     removeOutline(ending);
     cursorGuard.reset();
-    // Now: what ends the pick may close or change the target before the loop returns.
+    // Now: what ends the pick may close or change the target before the loop returns. Not with the picker:
+    // the target may be dying around it.
     ending.end = cursorPosition();
-    ending.color = target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
+    ending.color = owner && target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
 }
 
 void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseEvent& event)
