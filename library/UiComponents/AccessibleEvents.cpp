@@ -66,7 +66,9 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::MouseButtonRelease && QGuiApplication::mouseButtons() == Qt::NoButton) {
+        // With any event: the release of a button over a window that has died comes to nobody.
+        if (!m_isOver && QGuiApplication::mouseButtons() == Qt::NoButton) {
+            m_isOver = true;
             // What the release itself changes belongs to the drag.
             QMetaObject::invokeMethod(
                 this, [this] { sendAll(); }, Qt::QueuedConnection);
@@ -101,6 +103,7 @@ private:
 
     void sendAll()
     {
+        m_isOver = false;
         const auto changes = std::exchange(m_changes, {});
         QCoreApplication::instance()->removeEventFilter(this);
         for (const Change& change : changes) {
@@ -111,6 +114,7 @@ private:
     }
 
     QVector<Change> m_changes;
+    bool m_isOver = false;
 };
 
 } // namespace
