@@ -2,17 +2,31 @@
 
 #include <WidgetToolkit/Util.h>
 
+#include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStyleOptionFrame>
+#include <QStyleOptionComboBox>
 #include <QVariant>
 
 namespace {
 
-/// Inside of the frame.
-QRect textRect(const QLineEdit* edit)
+bool showsText(const QWidget* part)
 {
+    const auto* box = qobject_cast<const QComboBox*>(part);
+    return qobject_cast<const QLineEdit*>(part) || (box && !box->isEditable());
+}
+
+/// Inside of the frame.
+QRect textRect(const QWidget* part)
+{
+    if (const auto* box = qobject_cast<const QComboBox*>(part)) {
+        QStyleOptionComboBox option;
+        option.initFrom(box);
+        option.frame = box->hasFrame();
+        return box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+    }
+    const auto* edit = static_cast<const QLineEdit*>(part);
     QStyleOptionFrame option;
     option.initFrom(edit);
     option.rect = edit->contentsRect();
@@ -45,8 +59,8 @@ void MultiValueFace::setShown(bool shown)
     Util::applyProperty(m_field, "multiValue", shown);
     const auto parts = m_field->findChildren<QWidget*>() << m_field;
     for (QWidget* part : parts) {
-        if (auto* edit = qobject_cast<QLineEdit*>(part)) {
-            cover(edit);
+        if (showsText(part)) {
+            cover(part);
         }
         if (shown && part->focusPolicy() != Qt::NoFocus) {
             m_descriptions.append({part, part->accessibleDescription()});
@@ -77,28 +91,29 @@ bool MultiValueFace::eventFilter(QObject* watched, QEvent* event)
     } else if (event->type() == QEvent::Resize) {
         for (const QPointer<QLabel>& label : qAsConst(m_covers)) {
             if (label && label->parent() == watched) {
-                label->setGeometry(textRect(qobject_cast<QLineEdit*>(watched)));
+                label->setGeometry(textRect(static_cast<QWidget*>(watched)));
             }
         }
     }
     return QObject::eventFilter(watched, event);
 }
 
-void MultiValueFace::cover(QLineEdit* edit)
+void MultiValueFace::cover(QWidget* part)
 {
     if (!m_isShown) {
-        edit->removeEventFilter(this);
+        part->removeEventFilter(this);
         return;
     }
-    edit->installEventFilter(this);
-    auto* label = new QLabel(QStringLiteral("\u2013"), edit);
+    part->installEventFilter(this);
+    const auto* const edit = qobject_cast<QLineEdit*>(part);
+    auto* label = new QLabel(QStringLiteral("\u2013"), part);
     label->setObjectName(QStringLiteral("multiValueCover"));
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->setAutoFillBackground(true);
-    label->setBackgroundRole(QPalette::Base);
-    label->setForegroundRole(QPalette::Text);
-    label->setAlignment(edit->alignment() | Qt::AlignVCenter);
-    label->setGeometry(textRect(edit));
+    label->setBackgroundRole(edit ? QPalette::Base : QPalette::Button);
+    label->setForegroundRole(edit ? QPalette::Text : QPalette::ButtonText);
+    label->setAlignment((edit ? edit->alignment() : Qt::AlignLeading) | Qt::AlignVCenter);
+    label->setGeometry(textRect(part));
     label->show();
     m_covers.append(label);
 }

@@ -7,7 +7,6 @@
 #include <QVector>
 
 class QLabel;
-class QLineEdit;
 class QWidget;
 
 /**
@@ -29,7 +28,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void cover(QLineEdit* edit);
+    void cover(QWidget* part);
     void setTexts() const;
 
     struct Description

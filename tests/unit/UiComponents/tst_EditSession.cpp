@@ -702,6 +702,18 @@ private Q_SLOTS:
             picker.preview(QColor(Qt::blue));
             qobject_cast<QWidget*>(picker.parent())->hide();
         }) << red << blue << once;
+        QTest::newRow("disabled") << Pick([](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            qobject_cast<QWidget*>(picker.parent())->setEnabled(false);
+            picker.finish(QColor(Qt::blue));
+        }) << red << blue << once;
+        QTest::newRow("the host's value, then more previews") << Pick([](FakeColorPicker& picker) {
+            picker.preview(QColor(Qt::green));
+            const auto* const field = qobject_cast<QWidget*>(picker.parent())->parentWidget();
+            field->findChild<EditSession*>()->setValue(QVariant::fromValue(Color(QColor(Qt::yellow))));
+            picker.preview(QColor(Qt::cyan));
+            picker.finish(QColor(Qt::blue));
+        }) << red << blue << QString("started previewed committed started previewed committed");
         QTest::newRow("no end is told") << Pick([](FakeColorPicker& picker) {
             picker.preview(QColor(Qt::green));
             picker.finishInSilence();
@@ -923,12 +935,16 @@ private Q_SLOTS:
         stage.session->setMultiValue(true);
         const auto edits = stage.field->findChildren<QLineEdit*>();
         const auto isShown = [&stage] {
-            const auto parts = stage.field->findChildren<QLineEdit*>();
+            const auto parts = stage.field->findChildren<QWidget*>() << stage.field;
             bool isCovered = true;
-            for (const QLineEdit* edit : parts) {
-                const auto* cover = edit->findChild<QLabel*>("multiValueCover");
-                isCovered =
-                    isCovered && cover && cover->isVisibleTo(edit) && cover->width() > edit->width() - 8;
+            for (const QWidget* part : parts) {
+                const auto* box = qobject_cast<const QComboBox*>(part);
+                const int arrow = box ? box->height() + 8 : 8;
+                if (qobject_cast<const QLineEdit*>(part) || (box && !box->isEditable())) {
+                    const auto* cover = part->findChild<QLabel*>("multiValueCover");
+                    isCovered = isCovered && cover && cover->isVisibleTo(part) &&
+                                cover->width() > part->width() - arrow;
+                }
             }
             return isCovered && stage.session->isMultiValue() && stage.field->property("multiValue").toBool();
         };
