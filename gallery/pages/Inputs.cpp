@@ -242,6 +242,9 @@ void PageRegistry::search(Page* page)
     panel->addProperties(searches, {"PlaceholderColor", "PlaceholderHoverColor", "PlaceholderDisabledColor"});
     panel->addText(tr("Placeholder"), tr("Search clips"), searches.setter(setPlaceholder));
     panel->addAction(QStringLiteral("clear()"), [searches] { searches.each(&SearchWidget::clear); });
+    QObject::connect(page, &Page::pictureRequested, page, [searches] {
+        searches.enabled->findChild<QLineEdit*>()->setText(QStringLiteral("beach"));
+    });
     page->signalLog()->watch(searches.enabled, "search");
     page->signalLog()->watch(bins.enabled->findChild<SearchWidget*>(), "binSearch");
     page->describeStyling(searches.enabled,

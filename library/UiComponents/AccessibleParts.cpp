@@ -191,7 +191,7 @@ QString AccessibleButton::text(QAccessible::Text kind) const
         const auto* const choice = dynamic_cast<const ColorButton*>(widget());
         // The tool tip of a host says more than a part's general name, and less than a label.
         const QString general = AccessibleNames::nameOf(widget());
-        const bool isLabelled = !spokenColor().isEmpty();
+        const bool isLabelled = !spokenColor().isEmpty() || !AccessibleNames::hintOf(widget()).isEmpty();
         for (const QString& name :
              {widget()->accessibleName(), choice ? choice->spokenColor() : button()->text(),
               isLabelled ? general : widget()->toolTip(), isLabelled ? widget()->toolTip() : general}) {

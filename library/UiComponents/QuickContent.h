@@ -76,6 +76,7 @@ public:
 
     /// The container, which this object owns: a widget without a parent by default, null when it died with a
     /// window that it was put into.
+    /// Readers find the scene's items below it, as below a QuickDialog.
     QPointer<QWidget> getUiContent();
 
     /// The root context of the view's own engine, which owns it. The scene sees properties set on it before

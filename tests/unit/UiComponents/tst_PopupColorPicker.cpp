@@ -493,6 +493,9 @@ private Q_SLOTS:
             QTRY_VERIFY(popup()->isVisible());
             QCOMPARE(child<QToolButton>("pipetteButton")->toolTip(), result.reason);
             QVERIFY(child<QToolButton>("pipetteButton")->isEnabled());
+            QCOMPARE(QAccessible::queryAccessibleInterface(child<QToolButton>("pipetteButton"))
+                         ->text(QAccessible::Name),
+                     QStringLiteral("Pick a colour from the screen"));
             QCOMPARE(m_button->color(), Color(before));
         }
     }
