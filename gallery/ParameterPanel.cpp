@@ -139,5 +139,8 @@ void ParameterPanel::addFiles()
     effects->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     // Shows all effects at once: the panel scrolls.
     effects->setLoadingFinished(false);
-    addRow(tr("Effects"), effects);
+    const QString effectsName = tr("Effects");
+    // Qt asks no label for the name of a list.
+    effects->setAccessibleName(effectsName);
+    addRow(effectsName, effects);
 }
