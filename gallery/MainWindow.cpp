@@ -7,6 +7,8 @@
 #include "StyleController.h"
 #include "SwitchBar.h"
 
+#include <UiComponents/DialogGuideWidget.h>
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -149,6 +151,15 @@ void MainWindow::addShortcuts()
     add(QKeySequence::Find, [this] { m_list->searchField()->setFocus(Qt::ShortcutFocusReason); });
     add(QKeySequence(Qt::CTRL + Qt::Key_PageDown), [this] { m_list->step(1); });
     add(QKeySequence(Qt::CTRL + Qt::Key_PageUp), [this] { m_list->step(-1); });
+    // A bubble takes the keyboard from nobody by itself.
+    add(QKeySequence(Qt::Key_F6), [this] {
+        const auto bubbles = findChildren<DialogGuideWidget*>();
+        for (DialogGuideWidget* bubble : bubbles) {
+            if (bubble->isVisible()) {
+                bubble->enter();
+            }
+        }
+    });
     add(QKeySequence::Quit, [this] { close(); });
 }
 

@@ -18,6 +18,7 @@
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QSettings>
+#include <QShortcut>
 #include <QSortFilterProxyModel>
 #include <QStorageInfo>
 #include <QToolBar>
@@ -238,6 +239,8 @@ void Editor::startTour()
         connect(m_tour, &DialogGuideWidget::mainClicked, this, [this] { showStep(m_step + 1); });
         connect(m_tour, &DialogGuideWidget::secondaryClicked, this, [this] { showStep(m_step - 1); });
         connect(m_tour, &DialogGuideWidget::closeClicked, this, [this] { showStep(-1); });
+        // A bubble takes the keyboard from nobody by itself.
+        connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, m_tour, &DialogGuideWidget::enter);
     }
     showStep(0);
 }

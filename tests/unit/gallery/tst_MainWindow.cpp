@@ -113,6 +113,16 @@ private Q_SLOTS:
         QCOMPARE(m_window->state().page, pages.last().id);
     }
 
+    void keyEntersTheBubble()
+    {
+        open();
+        DialogGuideWidget bubble(m_window.get());
+        bubble.setInfo({"Here", QString(), "Next", QString(), QString()});
+        bubble.show();
+        QTest::keyClick(m_window.get(), Qt::Key_F6);
+        QTRY_VERIFY(bubble.isAncestorOf(QApplication::focusWidget()));
+    }
+
     void searching()
     {
         open();
