@@ -202,7 +202,11 @@ void PipetteScreenView::closeEvent(QCloseEvent*)
 void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
 {
     painter->drawPixmap(sceneRect().topLeft(), d->stillPicture);
+    // Over nothing, blending takes time for nothing.
+    painter->setCompositionMode(d->stillPicture.isNull() ? QPainter::CompositionMode_Source
+                                                         : QPainter::CompositionMode_SourceOver);
     QGraphicsView::drawBackground(painter, rect);
+    painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 void PipetteScreenView::setLoupeVisible(bool visible)

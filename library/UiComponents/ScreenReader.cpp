@@ -60,6 +60,12 @@ QRegion toDevice(const QRegion& area)
     return result;
 }
 
+/// RGB32 leaves the alpha open.
+QRgb opaque(QRgb color)
+{
+    return color | qRgb(0, 0, 0);
+}
+
 /// @p color below the overlay.
 QRgb darkened(QRgb color)
 {
@@ -85,7 +91,7 @@ void combine(const ScreenReader::Picture& from, ScreenReader::Picture& to, const
 void copy(const ScreenReader::Picture& from, ScreenReader::Picture& to, const QRegion& area)
 {
     for (const QRect& part : area) {
-        combine(from, to, part, [](QRgb source, QRgb& target) { target = source; });
+        combine(from, to, part, [](QRgb source, QRgb& target) { target = opaque(source); });
     }
 }
 
@@ -106,10 +112,8 @@ QImage grabRoot(const QRect& pixels)
         xcb_get_image_data_length(reply.get()) != count * int(sizeof(QRgb))) {
         return {};
     }
-    // In place, since the first touch of new memory takes as long as all the rest.
+    // Not copied, since the first touch of new memory takes as long as all the rest.
     uchar* const data = xcb_get_image_data(reply.get());
-    auto* const first = reinterpret_cast<QRgb*>(data);
-    std::for_each(first, first + count, [](QRgb& pixel) { pixel |= qRgb(0, 0, 0); });
     return {data, pixels.width(), pixels.height(), QImage::Format_RGB32, std::free, reply.release()};
 }
 #endif
@@ -379,7 +383,7 @@ ScreenReader::Picture ScreenReader::grab(QScreen& screen, const QRegion& area)
     const QRect bounds = area.boundingRect();
     const Picture live = {bounds.topLeft(), bounds.isEmpty() ? QImage() : m_source->grab(screen, bounds)};
     const auto keep = [this](QRgb seen, QRgb& kept) {
-        if (seen != (m_cover == Cover::Overlay ? darkened(kept) : kept)) {
+        if (opaque(seen) != (m_cover == Cover::Overlay ? darkened(kept) : opaque(kept))) {
             kept = belowCover(seen).rgb();
         }
     };
