@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyleOptionComboBox>
@@ -71,8 +72,8 @@ void MultiValueFace::setShown(bool shown)
     }
     setTexts();
     if (!shown) {
-        for (const QPointer<QLabel>& label : qAsConst(m_covers)) {
-            delete label.data();
+        for (const QPointer<QWidget>& cover : qAsConst(m_covers)) {
+            delete cover.data();
         }
         m_covers.clear();
         for (const Description& description : qAsConst(m_descriptions)) {
@@ -89,9 +90,9 @@ bool MultiValueFace::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::LanguageChange && watched == m_field) {
         setTexts();
     } else if (event->type() == QEvent::Resize) {
-        for (const QPointer<QLabel>& label : qAsConst(m_covers)) {
-            if (label && label->parent() == watched) {
-                label->setGeometry(textRect(static_cast<QWidget*>(watched)));
+        for (const QPointer<QWidget>& cover : qAsConst(m_covers)) {
+            if (cover && cover->parent() == watched) {
+                cover->setGeometry(textRect(static_cast<QWidget*>(watched)));
             }
         }
     }
@@ -113,9 +114,18 @@ void MultiValueFace::cover(QWidget* part)
     label->setBackgroundRole(edit ? QPalette::Base : QPalette::Button);
     label->setForegroundRole(edit ? QPalette::Text : QPalette::ButtonText);
     label->setAlignment((edit ? edit->alignment() : Qt::AlignLeading) | Qt::AlignVCenter);
-    label->setGeometry(textRect(part));
-    label->show();
-    m_covers.append(label);
+    QWidget* cover = label;
+    if (!edit) {
+        // Qt keeps style sheets from a frame right in a combo box.
+        cover = new QWidget(part);
+        cover->setAttribute(Qt::WA_TransparentForMouseEvents);
+        auto* layout = new QHBoxLayout(cover);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(label);
+    }
+    cover->setGeometry(textRect(part));
+    cover->show();
+    m_covers.append(cover);
 }
 
 void MultiValueFace::setTexts() const

@@ -6,7 +6,6 @@
 #include <QPointer>
 #include <QVector>
 
-class QLabel;
 class QWidget;
 
 /**
@@ -38,7 +37,7 @@ private:
     };
 
     QWidget* const m_field;
-    QVector<QPointer<QLabel>> m_covers;
+    QVector<QPointer<QWidget>> m_covers;
     QVector<Description> m_descriptions;
     bool m_isShown = false;
 };
