@@ -10,9 +10,8 @@
 #include <algorithm>
 #include <optional>
 
-/// Replaces the cursor of a widget for as long as it exists, and brings back the former one, or none where
-/// the widget had none of its own. The widget may die first. Several on one widget may go in any order: it
-/// has the cursor of the latest one that is left.
+/// Replaces the cursor of a widget for as long as it exists, and brings back the former one, or none. The
+/// widget may die first. Several on one widget may go in any order: it has the cursor of the latest one left.
 class CursorGuard
 {
 public:

@@ -12,9 +12,8 @@
  * A round magnifier: a picture of the pixels around the cursor, enlarged to the widget's size, and the name
  * of their middle's colour in a QLabel "colorNameLabel" that lies over all of it.
  *
- * The size, the label's look and the rim come from the style sheet. The picture is clipped to the ellipse
- * that the widget had when it was first shown; the sheet's background and border are painted over it, and
- * are not clipped: give it a transparent background.
+ * The size, the label's look and the rim come from the style sheet. The picture is clipped to the ellipse of
+ * the first showing; the sheet's background and border are painted over it: make the background transparent.
  */
 class LoupeWidget : public QWidget
 {
@@ -44,13 +43,11 @@ public:
     /// A Placement; above right at first. Moves nothing.
     void setPlacement(int placement);
 
-    /// The placement for a cursor, in points of the desktop: below it within one loupe's height of the
-    /// screen's top, left of it within one loupe's width of the right edge. The other two edges decide
-    /// nothing: above right, the loupe does not reach them.
+    /// In points of the desktop: below the cursor within one loupe's height of the screen's top, left of it
+    /// within one loupe's width of the right edge. Above right, the loupe does not reach the other two.
     static Placement placementAt(const QPoint& cursor, const QRect& screen, const QSize& loupe);
 
-    /// From the cursor to the loupe's top-left corner, in its present size and placement; nothing for a
-    /// number that is no placement.
+    /// From the cursor to the loupe's top-left corner; nothing for a number that is no placement.
     QSize offset() const;
 
     /// The picture to magnify: 13 by 13 pixels of the desktop.

@@ -209,9 +209,8 @@ void Pipette::Impl::Run::watchApplication()
     }
 }
 
-/// Whether an application that Qt reports inactive has lost the keyboard to another program, or to another
-/// virtual desktop, where maybe nobody has it. Qt does so too while nobody has it between two windows, of
-/// which a slow window manager has taken it from one and not yet given it to the other. True where nothing
+/// Whether an application that Qt reports inactive has lost the keyboard to another program or virtual
+/// desktop, and not only for as long as a slow window manager needs between two windows. True where nothing
 /// tells.
 bool Pipette::Impl::Run::isLeft() const
 {
@@ -295,9 +294,8 @@ void Pipette::Impl::Run::noteLoupe(const PipetteScreenView& view)
     m_reader.paint(&view, place.toAlignedRect() & view.geometry());
 }
 
-/// Brings the view that the cursor has come to from @p last to the front when another application's window
-/// keeps the Enter from it. Window managers have a full-screen window above all others on a screen without
-/// the focus.
+/// Brings the view that the cursor has come to from @p last to the front when another application's window,
+/// as one that fills a screen without the focus, keeps the Enter from it.
 void Pipette::Impl::Run::uncover(const QWidget& last)
 {
     const QPoint cursorPos = QCursor::pos();

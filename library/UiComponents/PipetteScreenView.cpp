@@ -260,9 +260,8 @@ void PipetteScreenView::showAtCursor(QEvent* event)
     }
 }
 
-/// A window manager that puts a frame around the window moves it about. Now and then Qt is left with the
-/// place within the frame, and would take the mouse to be on another screen: to be told the right one, it has
-/// to ask for it. A window manager that wants the window elsewhere gets its way.
+/// A window manager that puts a frame around the window may leave Qt with the place within the frame, until
+/// it asks for the right one. A window manager that wants the window elsewhere gets its way.
 void PipetteScreenView::returnOnce()
 {
     const QRect area = sceneRect().toRect();

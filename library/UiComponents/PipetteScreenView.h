@@ -35,8 +35,7 @@ public:
     QSize cursorSize() const;
     QSize cursorHotSpot() const;
 
-    /// What the screen shows where no compositor would let it show through the window: the view then shows
-    /// this picture of it below the overlay.
+    /// What the view shows below the overlay where no compositor lets the screen show through.
     void setStillPicture(const QPixmap& picture);
 
     /// Raises and activates it. False when that has deleted it.

@@ -47,15 +47,11 @@ public:
  * Reads the screens below what a picker paints over them, at once.
  *
  * A compositor shows a painting some frames later: a grab may still hold what a picker painted before. So the
- * reader takes a picture of the screens when it is made, before the picker shows anything, and is told what
- * the picker paints. Pixels that hold such a painting, or held one lately, come from the picture, and so does
- * all below a cover that has just come. All others are grabbed, which refreshes the picture.
- *
- * All readers that exist at a time share what they know. Copies are one reader; settle() after a pick, or the
- * next picker takes what is left of it on the screens for what is to be picked.
- *
- * What it is given is in points of the desktop. Inside, everything is in device pixels of the desktop: a
- * screen keeps its corner, and has a ratio of them to a point.
+ * reader takes a picture of the screens when it is made, and is told what the picker paints. Pixels that hold
+ * such a painting, or held one lately, come from the picture, and so does all below a cover that has just
+ * come. All others are grabbed, which refreshes the picture. All readers share what they know: settle() after
+ * a pick, or the next picker takes what is left of it on the screens for what is to be picked. What a reader
+ * is given is in points of the desktop; inside, everything is in device pixels.
  */
 class ScreenReader
 {
