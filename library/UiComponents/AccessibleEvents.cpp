@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QVector>
 #include <QWidget>
@@ -66,8 +67,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // With any event: the release of a button over a window that has died comes to nobody.
-        if (!m_isOver && QGuiApplication::mouseButtons() == Qt::NoButton) {
+        if (!m_isOver && isUp(*event)) {
             m_isOver = true;
             // What the release itself changes belongs to the drag.
             QMetaObject::invokeMethod(
@@ -86,6 +86,15 @@ private:
     UntilRelease()
         : QObject(libraryObject())
     {
+    }
+
+    /// With any event: the release of a button over a window that has died comes to nobody. Qt then takes the
+    /// button for pressed until the next press, but not in the moves before it.
+    static bool isUp(const QEvent& event)
+    {
+        return QGuiApplication::mouseButtons() == Qt::NoButton ||
+               (event.type() == QEvent::MouseMove &&
+                static_cast<const QMouseEvent&>(event).buttons() == Qt::NoButton);
     }
 
     void add(QWidget* widget, int index)

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTest>
+#include <QWidget>
 #include <qpa/qplatformwindow.h>
 
 #include <dlfcn.h>
@@ -35,6 +36,7 @@ constexpr const char* xtest = "libXtst.so.6";
 void* display = nullptr;
 QPoint lastCorner;
 int received = 0;
+bool hasMoved = false;
 
 /// Makes the server take what was done.
 void flush()
@@ -193,6 +195,25 @@ void RealUser::finish()
     QCoreApplication::processEvents();
 }
 
+void RealUser::comeBack()
+{
+    if (!display || QGuiApplication::mouseButtons() == Qt::NoButton) {
+        return;
+    }
+    QWidget window(nullptr, Qt::BypassWindowManagerHint);
+    window.setGeometry(0, 0, corner, corner);
+    window.show();
+    hasMoved = false;
+    const auto isReached = [] {
+        lastCorner = QPoint(1, 1) - lastCorner;
+        moveTo(lastCorner);
+        return hasMoved;
+    };
+    if (!QTest::qWaitFor(isReached, longestWait)) {
+        Journal::fail(QStringLiteral("the mouse does not come back"));
+    }
+}
+
 std::optional<Doings> RealUser::hear(const QObject* receiver, const QEvent& event)
 {
     if (!display) {
@@ -204,6 +225,7 @@ std::optional<Doings> RealUser::hear(const QObject* receiver, const QEvent& even
     if (!event.spontaneous()) {
         return std::nullopt;
     }
+    hasMoved = hasMoved || event.type() == QEvent::MouseMove;
     const Doings doing = doingOf(event);
     const QObject* part = receiver->isWidgetType() && !doing.testFlag(Doing::Other) ? receiver : nullptr;
     while (part && !isOfTheLibraries(part)) {

@@ -27,6 +27,9 @@ void strike(const char* name, Qt::KeyboardModifiers modifiers);
 /// Lets go of the buttons, and returns when all that was done has arrived.
 void finish();
 
+/// Moves the mouse over a window if Qt takes a button for pressed that was released over none.
+void comeBack();
+
 /// What goes on while @p receiver gets @p event: nothing, unless it comes from the window system.
 std::optional<Doings> hear(const QObject* receiver, const QEvent& event);
 

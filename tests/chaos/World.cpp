@@ -190,6 +190,7 @@ void World::settle()
                 Journal::fail(QStringLiteral("a pop-up does not close: %1").arg(nameOf(popup)));
             }
         }
+        RealUser::comeBack();
         Actions::letGo(*this);
         for (const auto& object : qAsConst(others)) {
             if (object && object->inherits("Orvane::Gui::HighlightFrame")) {

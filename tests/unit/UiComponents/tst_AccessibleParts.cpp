@@ -19,6 +19,7 @@
 #include <UiComponents/WidgetColorPickerButton.h>
 
 #include <functional>
+#include <private/qguiapplication_p.h>
 
 using Make = std::function<QWidget*(QWidget*)>;
 Q_DECLARE_METATYPE(Make)
@@ -227,6 +228,37 @@ private Q_SLOTS:
         QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
         button.setColor(QColor(Qt::black));
         QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: black, #000000")});
+    }
+
+    // The release of a button over a window that has died comes to nobody.
+    void dragThatNobodyEnds_data()
+    {
+        QTest::addColumn<bool>("isKnown");
+        QTest::newRow("the window of the press has died") << true;
+        QTest::newRow("released beside all windows") << false;
+    }
+
+    void dragThatNobodyEnds()
+    {
+        QFETCH(const bool, isKnown);
+        ColorPickerButton button;
+        button.setAccessibleName(QStringLiteral("Fill"));
+        const AccessibleEars ears;
+        QGuiApplicationPrivate::mouse_buttons = Qt::LeftButton;
+        const auto release = qScopeGuard([] { QGuiApplicationPrivate::mouse_buttons = Qt::NoButton; });
+        button.setColor(QColor(Qt::red));
+        QCoreApplication::processEvents();
+        QCOMPARE(AccessibleEars::take(), QStringList());
+        if (isKnown) {
+            QGuiApplicationPrivate::mouse_buttons = Qt::NoButton;
+            QEvent any(QEvent::User);
+            QCoreApplication::sendEvent(&button, &any);
+        } else {
+            QMouseEvent move(QEvent::MouseMove, {}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&button, &move);
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
     }
 
     void panelSpeaks()
