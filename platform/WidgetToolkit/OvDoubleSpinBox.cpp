@@ -128,16 +128,7 @@ void OvDoubleSpinBox::keyPressEvent(QKeyEvent* event)
 
 void OvDoubleSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
-    const double before = value();
-    const QPointer<OvDoubleSpinBox> self = this;
-    QDoubleSpinBox::wheelEvent(event);
-    if (self) {
-        SpinBoxInput::tellOfWheel<QDoubleSpinBox>(this, before);
-    }
+    SpinBoxInput::turnWheel(this, event, [this, event] { QDoubleSpinBox::wheelEvent(event); });
 }
 
 QString OvDoubleSpinBox::withLocaleMark(const QString& text) const

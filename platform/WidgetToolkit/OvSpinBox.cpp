@@ -24,14 +24,5 @@ void OvSpinBox::keyPressEvent(QKeyEvent* event)
 
 void OvSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
-    const int before = value();
-    const QPointer<OvSpinBox> self = this;
-    QSpinBox::wheelEvent(event);
-    if (self) {
-        SpinBoxInput::tellOfWheel<QSpinBox>(this, before);
-    }
+    SpinBoxInput::turnWheel(this, event, [this, event] { QSpinBox::wheelEvent(event); });
 }

@@ -31,11 +31,10 @@ void SpinBoxInput::announceValue(SpinBox* box)
     }
 }
 
-template <typename SpinBox, typename Number>
-void SpinBoxInput::tellOfWheel(SpinBox* box, Number before)
+void SpinBoxInput::tellReaders(QObject* box, const QVariant& value)
 {
-    if (box->value() != before && QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(box, box->value());
+    if (QAccessible::isActive()) {
+        QAccessibleValueChangeEvent event(box, value);
         QAccessible::updateAccessibility(&event);
     }
 }
@@ -70,7 +69,5 @@ void SpinBoxInput::commit(SpinBox* box, QLineEdit* edit, QKeyEvent* event)
 }
 
 template void SpinBoxInput::announceValue(QDoubleSpinBox*);
-template void SpinBoxInput::tellOfWheel(QSpinBox*, int);
-template void SpinBoxInput::tellOfWheel(QDoubleSpinBox*, double);
 template void SpinBoxInput::commit(QSpinBox*, QLineEdit*, QKeyEvent*);
 template void SpinBoxInput::commit(QDoubleSpinBox*, QLineEdit*, QKeyEvent*);

@@ -2,8 +2,12 @@
 
 #pragma once
 
+#include <QPointer>
+#include <QWheelEvent>
+
 class QKeyEvent;
 class QLineEdit;
+class QVariant;
 
 namespace SpinBoxInput {
 
@@ -14,9 +18,25 @@ bool isCommit(const QKeyEvent* event);
 template <typename SpinBox>
 void announceValue(SpinBox* box);
 
-/// Tells readers of a turn of the wheel that has changed @p before, as Qt does after a key or a click.
-template <typename SpinBox, typename Number>
-void tellOfWheel(SpinBox* box, Number before);
+/// Tells readers of the value, as Qt does after a key or a click.
+void tellReaders(QObject* box, const QVariant& value);
+
+/// Calls @p turn, Qt's handler of the wheel, for a @p box with the focus, and tells readers what it changes.
+/// Slots may delete @p box.
+template <typename SpinBox, typename Turn>
+void turnWheel(SpinBox* box, QWheelEvent* event, Turn turn)
+{
+    if (!box->hasFocus()) {
+        event->ignore();
+        return;
+    }
+    const auto before = box->value();
+    const QPointer<SpinBox> self = box;
+    turn();
+    if (self && box->value() != before) {
+        tellReaders(box, box->value());
+    }
+}
 
 /// Does what QAbstractSpinBox does on Enter, but emits valueChanged() only if the text changed the value, and
 /// slots may delete @p box, a QSpinBox or QDoubleSpinBox. @p edit is its line edit.
