@@ -40,7 +40,16 @@ public:
         }
     }
 
-    std::optional<QColor> color() override { return m_color; }
+    std::optional<QColor> color() override
+    {
+        // A copy: the call may delete this picker.
+        const std::optional<QColor> color = m_color;
+        if (onColor) {
+            const auto call = onColor;
+            call();
+        }
+        return color;
+    }
 
     void setColor(const std::optional<QColor>& color) override
     {
@@ -70,6 +79,7 @@ public:
     void finishInSilence() { m_inProgress = false; }
 
     std::function<void()> onPick;
+    std::function<void()> onColor;
     std::function<void()> onDestruction;
     std::function<void(const std::optional<QColor>&)> onSetColor;
     QStringList calls;

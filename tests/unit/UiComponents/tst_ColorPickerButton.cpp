@@ -582,17 +582,9 @@ private Q_SLOTS:
 
     void buttonDeletedByItsPickersColor()
     {
-        class Picker : public FakeColorPicker
-        {
-        public:
-            std::optional<QColor> color() override
-            {
-                delete parent();
-                return QColor(Qt::red);
-            }
-        };
         const QPointer<ColorPickerButton> button = new ColorPickerButton;
-        auto* picker = new Picker;
+        auto* picker = new FakeColorPicker;
+        picker->onColor = [button] { delete button; };
         button->setPicker(picker);
         button->startPicking();
         const FreedMemoryWatch memory;

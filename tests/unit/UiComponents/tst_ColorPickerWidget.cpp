@@ -2,7 +2,7 @@
 #include "FreedMemory.h"
 #include "MarkingTranslator.h"
 #include "MouseEvents.h"
-#include "OnFocusOut.h"
+#include "OnEvent.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
 
@@ -1697,7 +1697,7 @@ private Q_SLOTS:
             panel->openPopup();
         }
         bool isFirst = true;
-        const OnFocusOut watch(panel->edit, [&] {
+        const OnEvent watch(QEvent::FocusOut, panel->edit, [&] {
             if (!std::exchange(isFirst, false)) {
                 return;
             }

@@ -284,6 +284,7 @@ ColorPickerButton* buttonOf(const Stage& stage)
 using Act = std::function<void(Stage&, const Kind&)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(std::function<void(FakeColorPicker&)>)
+Q_DECLARE_METATYPE(std::function<void(WidgetColorPickerButton*)>)
 
 enum class Needs { Nothing, Drag, Keys, Wheel, Text };
 
@@ -919,6 +920,75 @@ private Q_SLOTS:
         QCOMPARE(button.color(), QColor(Qt::red));
     }
 
+    void meanwhileInAWidgetPick_data()
+    {
+        using Meanwhile = std::function<void(WidgetColorPickerButton*)>;
+        QTest::addColumn<Meanwhile>("meanwhile");
+        QTest::addColumn<QStringList>("lines");
+        const QStringList once{"started", "previewed", "#2f6fde"};
+        // Left to the picker.
+        QTest::newRow("hidden") << Meanwhile([](WidgetColorPickerButton* button) { button->hide(); }) << once;
+        QTest::newRow("disabled") << Meanwhile([](WidgetColorPickerButton* button) {
+            button->setEnabled(false);
+        }) << once;
+        QTest::newRow("set by the host") << Meanwhile([](WidgetColorPickerButton* button) {
+            button->findChild<EditSession*>()->setValue(QColor(Qt::red));
+        }) << once;
+        QTest::newRow("deleted") << Meanwhile([](WidgetColorPickerButton* button) { delete button; })
+                                 << QStringList();
+    }
+
+    void meanwhileInAWidgetPick()
+    {
+        using Meanwhile = std::function<void(WidgetColorPickerButton*)>;
+        QFETCH(Meanwhile, meanwhile);
+        QFETCH(QStringList, lines);
+        QWidget window;
+        window.resize(300, 200);
+        QWidget target(&window);
+        target.setGeometry(100, 50, 100, 100);
+        target.setStyleSheet("background: #2f6fde;");
+        const QPointer<WidgetColorPickerButton> button = new WidgetColorPickerButton(&window);
+        button->setTargetWidget(&target);
+        const QPointer<EditSession> session = new EditSession(button);
+        QStringList story;
+        connect(session, &EditSession::started, this, [&] { story += "started"; });
+        connect(session, &EditSession::previewed, this, [&] { story += "previewed"; });
+        connect(session, &EditSession::committed, this,
+                [&](const QVariant& color) { story += color.value<QColor>().name(); });
+        connect(session, &EditSession::cancelled, this, [&] { story += "cancelled"; });
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QPoint middle = target.geometry().center();
+        QTimer::singleShot(0, &window, [&] {
+            meanwhile(button);
+            QCursor::setPos(window.mapToGlobal(middle));
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, middle);
+        });
+        button->startPicking();
+        QCOMPARE(story, lines);
+        QVERIFY(!session || !session->isActive());
+    }
+
+    void deletedInAColorPick()
+    {
+        QWidget window;
+        auto* const field = new ColorInputWidget(&window, Qt::red);
+        auto* const picker = new FakeColorPicker;
+        field->setPicker(picker);
+        QStringList story;
+        const QPointer<EditSession> session = new EditSession(field);
+        connect(session, &EditSession::started, this, [&] { story += "started"; });
+        connect(session, &EditSession::previewed, this, [&] { story += "previewed"; });
+        connect(session, &EditSession::committed, this, [&] { story += "committed"; });
+        connect(session, &EditSession::cancelled, this, [&] { story += "cancelled"; });
+        field->findChild<ColorPickerButton*>()->startPicking();
+        picker->preview(QColor(Qt::blue));
+        delete field;
+        QVERIFY(!session);
+        QCOMPARE(story, QStringList({"started", "previewed"}));
+    }
+
     void multiValue_data()
     {
         QTest::addColumn<int>("kind");
@@ -1415,17 +1485,9 @@ private Q_SLOTS:
     // Seen by the sanitizer alone.
     void fieldDeletedByItsPickersColor()
     {
-        class Picker : public FakeColorPicker
-        {
-        public:
-            std::optional<QColor> color() override
-            {
-                delete parent();
-                return QColor(Qt::red);
-            }
-        };
         const QPointer<ColorPickerButton> button = new ColorPickerButton;
-        auto* const picker = new Picker;
+        auto* const picker = new FakeColorPicker;
+        picker->onColor = [button] { delete button; };
         button->setPicker(picker);
         const QPointer<EditSession> session = new EditSession(button);
         button->startPicking();

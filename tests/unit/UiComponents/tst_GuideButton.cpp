@@ -1,5 +1,5 @@
 #include "FreedMemory.h"
-#include "OnFocusOut.h"
+#include "OnEvent.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -230,7 +230,7 @@ private Q_SLOTS:
         edit.setFocus();
         // Opening a pop-up takes the focus.
         int losses = 0;
-        const OnFocusOut watch(&edit, [&] {
+        const OnEvent watch(QEvent::FocusOut, &edit, [&] {
             if (++losses == 1) {
                 QEventLoop loop;
                 QTimer::singleShot(0, &loop, [&] {

@@ -1,5 +1,6 @@
 #include "AccessibleEars.h"
 #include "GlogCapture.h"
+#include "OnEvent.h"
 #include "QmlFiles.h"
 #include "TestMain.h"
 
@@ -66,27 +67,6 @@ int execWith(QuickDialog& dialog, const std::function<void()>& meanwhile)
     start.start(0);
     return dialog.exec();
 }
-
-// Calls a function when a widget is being shown.
-class OnShow : public QObject
-{
-public:
-    explicit OnShow(std::function<void()> call)
-        : m_call(std::move(call))
-    {
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show) {
-            m_call();
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    const std::function<void()> m_call;
-};
 
 using Act = std::function<void(FormDialog*)>;
 
@@ -470,7 +450,7 @@ private Q_SLOTS:
         const QPoint corner(0, 0);
         FormDialog dialog;
         dialog.setQmlPath(scene());
-        OnShow filter([&] {
+        const OnEvent filter(QEvent::Show, &dialog, [&] {
             dialog.move(corner);
             if (isMovedByTheWindowSystem) {
                 QMoveEvent event(corner, corner);
@@ -478,7 +458,6 @@ private Q_SLOTS:
                 qApp->notify(&dialog, &event);
             }
         });
-        dialog.installEventFilter(&filter);
         execWith(dialog, [&] {
             QTRY_VERIFY(dialog.isActiveWindow());
             const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
@@ -510,8 +489,7 @@ private Q_SLOTS:
         FormDialog dialog;
         const QString path = scene(size);
         dialog.setQmlPath(path);
-        OnShow onShow([] { QFAIL("It was shown."); });
-        dialog.installEventFilter(&onShow);
+        const OnEvent onShow(QEvent::Show, &dialog, [] { QFAIL("It was shown."); });
         for (int round = 1; round <= rounds; ++round) {
             // It would not end by itself.
             QTimer::singleShot(2000, &dialog, [&dialog] { dialog.done(7); });
@@ -545,7 +523,7 @@ private Q_SLOTS:
         FormDialog dialog(&host);
         dialog.setQmlPath(scene(body));
         bool isShown = false;
-        OnShow onShow([&] {
+        const OnEvent onShow(QEvent::Show, &dialog, [&] {
             isShown = true;
             QCOMPARE(dialog.pos(), host.mapToGlobal(host.rect().center()) - QPoint(45, 45));
             QTimer::singleShot(0, &dialog, [&dialog] {
@@ -553,7 +531,6 @@ private Q_SLOTS:
                 dialog.accept();
             });
         });
-        dialog.installEventFilter(&onShow);
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QVERIFY(isShown);
     }
@@ -663,8 +640,7 @@ private Q_SLOTS:
         FormDialog other;
         other.setQmlPath(m_files->file(QStringLiteral("other.qml"),
                                        QmlFiles::itemText(QStringLiteral("width: 9; height: 9"))));
-        OnShow filter([&other] { other.done(7); });
-        other.installEventFilter(&filter);
+        const OnEvent filter(QEvent::Show, &other, [&other] { other.done(7); });
         QCOMPARE(other.exec(), 7);
         QVERIFY(!other.isVisible());
         QVERIFY(!other.container()->parent());
