@@ -427,7 +427,8 @@ private Q_SLOTS:
             m_pipette->stopPicking();
             m_pipette->startPicking();
         }
-        for (const QPoint& place : {point, other}) {
+        // The last one is below where the loupe is then.
+        for (const QPoint& place : {point, other, other + QPoint(loupeSize / 2, -loupeSize / 2)}) {
             PipetteWindows::move(screen, place);
             QVERIFY2(isSame(QColor(colorName()), colors[1]), qPrintable(colorName()));
         }
