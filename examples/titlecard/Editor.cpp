@@ -20,11 +20,11 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
-#include <QStorageInfo>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <filesystem>
 #include <tuple>
 
 namespace TitleCard {
@@ -209,9 +209,10 @@ void Editor::applyPreset(const QString& name)
 
 void Editor::showSpace(const QString& folder)
 {
-    const QStorageInfo disk(folder);
+    std::error_code error;
+    const auto space = std::filesystem::space(QFile::encodeName(folder).constData(), error);
     m_folder->showRequiredSpace(true, m_document.render(m_canvas->size()).sizeInBytes());
-    m_folder->showAvailableSpace(true, disk.isValid() ? disk.bytesAvailable() : -1);
+    m_folder->showAvailableSpace(true, error ? -1 : qint64(space.available));
 }
 
 void Editor::exportPicture()

@@ -46,6 +46,7 @@
 #include <utility>
 
 namespace {
+
 constexpr int queueLength = 8;
 constexpr int opacitySteps = 100;
 

@@ -92,9 +92,7 @@ FieldAccess selectorAccess(PointSelectorWidget* selector)
         // The parts follow each other one after the other, and each report is of half a point until they
         // agree. They are heard after the field, which has them do that.
         const auto report = [selector, plane, changed] {
-            const QPointF onPlane = plane->point();
-            const QPointF shown = selector->value();
-            if (onPlane.x() == shown.x() && onPlane.y() == shown.y() && !selector->signalsBlocked()) {
+            if (PointMapping::isSame(plane->point(), selector->value()) && !selector->signalsBlocked()) {
                 changed();
             }
         };

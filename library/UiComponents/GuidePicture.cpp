@@ -70,8 +70,10 @@ void GuidePicture::showEvent(QShowEvent* event)
 void GuidePicture::paintEvent(QPaintEvent* event)
 {
     OvPixmapWidget::paintEvent(event);
-    QPainter painter(this);
-    m_focus.paint(painter);
+    if (hasFocus()) {
+        QPainter painter(this);
+        m_focus.paint(painter);
+    }
 }
 
 void GuidePicture::focusInEvent(QFocusEvent* event)
