@@ -427,11 +427,22 @@ private Q_SLOTS:
             m_pipette->stopPicking();
             m_pipette->startPicking();
         }
-        // The last one is below where the loupe is then.
-        for (const QPoint& place : {point, other, other + QPoint(loupeSize / 2, -loupeSize / 2)}) {
+        for (const QPoint& place : {point, other}) {
             PipetteWindows::move(screen, place);
             QVERIFY2(isSame(QColor(colorName()), colors[1]), qPrintable(colorName()));
         }
+        const QRect loupe(other - QPoint(0, loupeSize), QSize(loupeSize, loupeSize));
+        const auto isLoupeSeen = [&] {
+            for (int y = loupe.top(); y <= loupe.bottom(); ++y) {
+                if (screenAtPoint({loupe.center().x(), y}) != darkened(colors[1])) {
+                    return true;
+                }
+            }
+            return false;
+        };
+        QTRY_VERIFY(isLoupeSeen());
+        PipetteWindows::move(screen, loupe.center());
+        QVERIFY2(isSame(QColor(colorName()), colors[1]), qPrintable(colorName()));
         release(screen, point);
         QVERIFY(isSame(m_pipette->currentColor(), colors[1]));
     }
