@@ -111,6 +111,7 @@ public:
     bool isCancelKey(const QKeyEvent& event) const;
     bool overridesUndo(QObject* onPart, const QKeyEvent& event) const;
     bool isTyped() const;
+    bool isGone(const QObject* watched, const QEvent& event) const;
     void letGo();
     void writeInSilence(const QVariant& value);
 
@@ -385,6 +386,14 @@ bool EditSession::Private::overridesUndo(QObject* onPart, const QKeyEvent& event
 bool EditSession::Private::isTyped() const
 {
     return qobject_cast<QAbstractSpinBox*>(part) && editorOf(part)->isModified();
+}
+
+/// Parts come and go with the value, so only that of the session counts, unless it goes with the field: then
+/// Qt is about to go on with the next child of the field, which may be this session.
+bool EditSession::Private::isGone(const QObject* watched, const QEvent& event) const
+{
+    const bool isWithField = event.spontaneous() || !field->isVisible() || !field->isEnabled();
+    return watched == field || (watched == part && !isWithField);
 }
 
 /// A drag or a pick that is cancelled is over for the part too.
@@ -817,8 +826,7 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::EnabledChange:
     case QEvent::Hide:
-        // Parts come and go with the value.
-        if (watched == d->field || watched == d->part) {
+        if (d->isGone(watched, *event)) {
             d->finish();
         }
         break;

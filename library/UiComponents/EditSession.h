@@ -33,7 +33,7 @@ class QWidget;
  * What ends a session in a slot of started() or previewed() does so when all slots have heard of the value.
  * The keys of Undo and Redo belong to a text while it is typed, and else to the host's shortcuts.
  * Its slots may delete the session, and the field where a slot of the field's own signals may: with a text
- * field, a combo box and a spin box they use deleteLater().
+ * field, a combo box and a spin box, and where hiding the field ends the session, they use deleteLater().
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its

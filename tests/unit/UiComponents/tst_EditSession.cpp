@@ -1,5 +1,6 @@
 #include "AccessibleEars.h"
 #include "FakeColorPicker.h"
+#include "FreedMemory.h"
 #include "MouseEvents.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -284,6 +285,7 @@ ColorPickerButton* buttonOf(const Stage& stage)
 using Act = std::function<void(Stage&, const Kind&)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(std::function<void(FakeColorPicker&)>)
+Q_DECLARE_METATYPE(std::function<void(QWidget*)>)
 Q_DECLARE_METATYPE(std::function<void(WidgetColorPickerButton*)>)
 
 enum class Needs { Nothing, Drag, Keys, Wheel, Text };
@@ -1480,6 +1482,34 @@ private Q_SLOTS:
         QVERIFY(isDone);
         QVERIFY(!session);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void deletedAsItsWindowGoes_data()
+    {
+        using Way = std::function<void(QWidget*)>;
+        QTest::addColumn<Way>("way");
+        QTest::newRow("hidden") << Way(&QWidget::hide);
+        QTest::newRow("minimised") << Way(&QWidget::showMinimized);
+        QTest::newRow("disabled") << Way([](QWidget* window) { window->setEnabled(false); });
+    }
+
+    // Qt goes through the children of the field, of which the session is one. Seen by the sanitizer, which
+    // finds the session's memory in use.
+    void deletedAsItsWindowGoes()
+    {
+        using Way = std::function<void(QWidget*)>;
+        QFETCH(Way, way);
+        QWidget window;
+        SliderInputWidget field(&window);
+        auto* const slider = field.findChild<OvCustomSlider*>();
+        const QPointer<EditSession> session = new EditSession(&field);
+        connect(session, &EditSession::committed, this, [session] { delete session; });
+        window.show();
+        press(*slider, slider->rect().bottomRight());
+        QVERIFY(session->isActive());
+        const FreedMemoryWatch watch;
+        way(&window);
+        QVERIFY(!session);
     }
 
     // Seen by the sanitizer alone.
