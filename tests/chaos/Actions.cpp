@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "Components.h"
 #include "Exceptions.h"
+#include "Invariants.h"
 #include "Journal.h"
 #include "Reader.h"
 #include "RealUser.h"
@@ -116,7 +117,8 @@ Qt::KeyboardModifiers anyModifiers(Random& random)
 Qt::MouseButton anyButton(Random& random)
 {
     return random.oneOf<Qt::MouseButton>({Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::LeftButton,
-                                          Qt::RightButton, Qt::MiddleButton, Qt::BackButton});
+                                          Qt::RightButton, Qt::MiddleButton, Qt::BackButton,
+                                          Qt::ForwardButton, Qt::ExtraButton24});
 }
 
 QWindow* windowOf(const QWidget* widget)
@@ -238,6 +240,12 @@ void sendMouse(World& world)
         send(QEvent::MouseMove, random.pointAround({200, 200}), Qt::NoButton, button);
     }
     send(QEvent::MouseButtonRelease, random.pointAround({200, 200}), button, Qt::NoButton);
+    for (QWidget* parent = widget ? widget->parentWidget() : nullptr; parent;
+         parent = parent->parentWidget()) {
+        if (Invariants::isPressed(parent)) {
+            world.leftByQt.append(parent);
+        }
+    }
 }
 
 void turnWheel(World& world)
@@ -257,8 +265,10 @@ void turnWheel(World& world)
         RealUser::turnWheel(angle.y() > 0);
         return;
     }
-    QWheelEvent event(point, widget->mapToGlobal(point), QPoint(), angle, world.buttons, anyModifiers(random),
-                      Qt::NoScrollPhase, random.oneIn(4));
+    // Of a touch pad, which counts in pixels, too; and phases that nobody began.
+    QWheelEvent event(point, widget->mapToGlobal(point), random.oneIn(2) ? QPoint() : angle / 4, angle,
+                      world.buttons, anyModifiers(random),
+                      static_cast<Qt::ScrollPhase>(random.below(Qt::ScrollMomentum + 1)), random.oneIn(4));
     QCoreApplication::sendEvent(widget, &event);
 }
 
@@ -354,7 +364,15 @@ void paste(World& world)
     const QPoint point = random.pointAround(widget->size());
     QDragEnterEvent enter(point, Qt::CopyAction | Qt::MoveAction, mime, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &enter);
-    if (alive && enter.isAccepted()) {
+    for (int i = random.below(3); alive && i > 0; --i) {
+        QDragMoveEvent move(random.pointAround(widget->size()), Qt::CopyAction, mime, Qt::LeftButton,
+                            Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &move);
+    }
+    if (alive && random.oneIn(3)) {
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(widget, &leave);
+    } else if (alive && enter.isAccepted()) {
         QDropEvent drop(point, Qt::CopyAction, mime, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(widget, &drop);
     }
@@ -569,7 +587,7 @@ void changeModel(World& world)
             continue;
         }
         const Under under(world, Doing::Other, model, "model");
-        const int change = random.below(6);
+        const int change = random.below(7);
         Journal::note(QStringLiteral("change %1 of a model").arg(change));
         switch (change) {
         case 0:
@@ -586,6 +604,10 @@ void changeModel(World& world)
             return;
         case 4:
             model->setColumnCount(random.below(3));
+            return;
+        case 5:
+            Q_EMIT model->layoutAboutToBeChanged();
+            Q_EMIT model->layoutChanged();
             return;
         default:
             if (QStandardItem* const item = model->item(0)) {
@@ -840,7 +862,8 @@ void Actions::letGo(World& world)
         world.buttons = Qt::NoButton;
         return;
     }
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton,
+                                         Qt::ForwardButton, Qt::ExtraButton24}) {
         if (!(world.buttons & button)) {
             continue;
         }

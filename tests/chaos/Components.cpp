@@ -53,6 +53,7 @@
 #include <QLineEdit>
 #include <QMovie>
 #include <QScrollArea>
+#include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QStandardItemModel>
 #include <QTabWidget>
@@ -357,8 +358,17 @@ QAbstractItemModel* makeModel(World& world)
     for (int i = world.random.below(30); i > 0; --i) {
         model->appendRow(new QStandardItem(world.random.text()));
     }
+    if (world.random.oneIn(2)) {
+        world.others.append(model);
+        return model;
+    }
+    auto* proxy = new QSortFilterProxyModel;
+    proxy->setSourceModel(model);
+    proxy->sort(world.random.between(-1, 0));
+    proxy->setFilterFixedString(world.random.oneIn(3) ? world.random.text() : QString());
+    world.others.append(proxy);
     world.others.append(model);
-    return model;
+    return proxy;
 }
 
 QAbstractItemModel* anyModel(World& world)

@@ -186,14 +186,23 @@ bool Application::notify(QObject* receiver, QEvent* event)
     if (world && ((isHidden && Invariants::isPressed(receiver)) || isFurtherPress(*event))) {
         world->leftByQt.append(receiver);
     }
+    if (world && event->type() == QEvent::MouseButtonRelease && QApplication::activePopupWidget()) {
+        world->noteLeft();
+    }
     std::optional<Under> under;
+    std::optional<Under> inner;
     if (world && event->type() == QEvent::DeferredDelete) {
         under.emplace(*world, Doing::Deleting, receiver, "delete");
     } else if (world && event->type() == QEvent::FocusOut && receiver->isWidgetType()) {
-        const bool isPopup = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         under.emplace(*world, Doing::Leaving, receiver, "leave");
-        QWidget* const taker = isPopup ? QApplication::activePopupWidget() : QApplication::focusWidget();
+        QWidget* const taker =
+            reason == Qt::PopupFocusReason ? QApplication::activePopupWidget() : QApplication::focusWidget();
         world->frames.last().focusTaker = taker ? taker : QApplication::activeWindow();
+        if (reason == Qt::ActiveWindowFocusReason) {
+            inner.emplace(*world, Doing::Leaving, receiver, "deactivate");
+            world->frames.last().focusTaker = static_cast<QWidget*>(receiver)->window();
+        }
     } else if (world && event->type() == QEvent::ShortcutOverride) {
         under.emplace(*world, Doing::Typing, receiver, "override");
     } else if (const auto doing = RealUser::hear(receiver, *event); world && doing) {

@@ -15,6 +15,8 @@
 #include <QQuickWidget>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSlider>
+#include <QSpinBox>
 #include <QStringListModel>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -362,6 +364,64 @@ bool activatedWindowIsDeleted()
     return false;
 }
 
+bool deactivatedWindowIsDeleted()
+{
+    struct Filter : QObject
+    {
+        bool eventFilter(QObject* object, QEvent* event) override
+        {
+            const bool isMeant = event->type() == QEvent::FocusOut && object == window->first;
+            if (isMeant) {
+                delete window;
+            }
+            return isMeant;
+        }
+        Window* const window = new Window;
+    };
+    Filter filter;
+    filter.window->first->installEventFilter(&filter);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QCoreApplication::processEvents();
+    return false;
+}
+
+/// The slider does not get it.
+bool menuTakesARelease()
+{
+    QSlider slider;
+    bring(slider);
+    const QPoint middle = slider.rect().center();
+    QTest::mousePress(slider.windowHandle(), Qt::LeftButton, {}, middle);
+    slider.setSliderDown(true);
+    QMenu menu;
+    menu.addAction(QStringLiteral("a"));
+    menu.popup(slider.mapToGlobal(middle));
+    QTest::mouseRelease(menu.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
+    menu.close();
+    return slider.isSliderDown();
+}
+
+/// Its parent gets the press.
+bool spinBoxKeepsARelease()
+{
+    struct Parent : QWidget
+    {
+        void mousePressEvent(QMouseEvent*) override { isDown = true; }
+        void mouseReleaseEvent(QMouseEvent*) override { isDown = false; }
+        bool isDown = false;
+    };
+    Parent parent;
+    QSpinBox box(&parent);
+    parent.show();
+    const QPoint edge(0, 0);
+    QTest::mousePress(&box, Qt::LeftButton, {}, edge);
+    const bool isGiven = parent.isDown;
+    QTest::mouseRelease(&box, Qt::LeftButton, {}, edge);
+    return isGiven && parent.isDown;
+}
+
 bool hiddenScrollBarStaysPressed()
 {
     QScrollBar bar(Qt::Horizontal);
@@ -574,6 +634,9 @@ int main(int argc, char** argv)
         {"secondReleaseIsLost", secondReleaseIsLost},
         {"activatedWindowIsDeleted", activatedWindowIsDeleted},
         {"hiddenScrollBarStaysPressed", hiddenScrollBarStaysPressed},
+        {"spinBoxKeepsARelease", spinBoxKeepsARelease},
+        {"deactivatedWindowIsDeleted", deactivatedWindowIsDeleted},
+        {"menuTakesARelease", menuTakesARelease},
         {"tinyScrollAreaGoesOn", tinyScrollAreaGoesOn},
         {"smallListOfABoxGoesOn", smallListOfABoxGoesOn},
         {"overridingWidgetIsDeleted", overridingWidgetIsDeleted},

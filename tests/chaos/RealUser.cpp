@@ -77,6 +77,8 @@ unsigned numberOf(Qt::MouseButton button)
         return 2;
     case Qt::RightButton:
         return 3;
+    case Qt::ForwardButton:
+        return 9;
     default:
         return 8;
     }
@@ -182,7 +184,8 @@ void RealUser::strike(const char* name, Qt::KeyboardModifiers modifiers)
 
 void RealUser::finish()
 {
-    for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton, Qt::BackButton}) {
+    for (const auto button :
+         {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton, Qt::BackButton, Qt::ForwardButton}) {
         release(button);
     }
     // The window manager's menu, on a click beside all windows, has the mouse and the keyboard.

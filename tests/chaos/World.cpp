@@ -341,6 +341,16 @@ void World::callHost(QObject* object)
     }
 }
 
+void World::noteLeft()
+{
+    const auto widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        if (Invariants::isPressed(widget)) {
+            leftByQt.append(widget);
+        }
+    }
+}
+
 QString World::nameOf(const QObject* object)
 {
     if (!object) {

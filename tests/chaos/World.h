@@ -104,6 +104,9 @@ public:
     /// What a host's own function may do when it is called for @p object: anything, as a slot may.
     void callHost(QObject* object);
 
+    /// Takes all that is pressed now for left by Qt.
+    void noteLeft();
+
     /// A sentence for the journal.
     static QString nameOf(const QObject* object);
 
@@ -119,7 +122,7 @@ public:
     QVector<Frame> frames;
 
     /// What Qt leaves pressed until the next release: hiddenButtonStaysPressed, blockedButtonStaysPressed,
-    /// secondReleaseIsLost.
+    /// secondReleaseIsLost, menuTakesARelease, spinBoxKeepsARelease.
     QVector<QPointer<QObject>> leftByQt;
 
     Qt::MouseButtons buttons;
