@@ -281,8 +281,16 @@ private Q_SLOTS:
         QVERIFY(isPainted);
     }
 
+    void translations_data()
+    {
+        QTest::addColumn<bool>("isCut");
+        QTest::newRow("cut") << true;
+        QTest::newRow("with a wrong byte") << false;
+    }
+
     void translations()
     {
+        QFETCH(bool, isCut);
         QFile file(":/translations/uicomponents_de.qm");
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray good = file.readAll();
@@ -291,9 +299,12 @@ private Q_SLOTS:
         constexpr int end = 200;
         int loaded = 0;
         for (int length = good.size(); length > 0; length -= good.size() - length < end ? 1 : 97) {
-            const QByteArray cut = good.left(length);
+            QByteArray bad = isCut ? good.left(length) : good;
+            if (!isCut) {
+                bad[length - 1] = static_cast<char>(~bad.at(length - 1));
+            }
             QTranslator translator;
-            if (translator.load(reinterpret_cast<const uchar*>(cut.constData()), cut.size())) {
+            if (translator.load(reinterpret_cast<const uchar*>(bad.constData()), bad.size())) {
                 QCoreApplication::installTranslator(&translator);
                 QCoreApplication::processEvents();
                 ++loaded;
