@@ -273,7 +273,9 @@ void EditSession::Private::releaseMouse(const QMouseEvent& event)
 void EditSession::Private::beginText(QObject* onPart)
 {
     QLineEdit* const editor = editorOf(onPart);
-    if (editor && begin(Gesture::Text, onPart) && face->isShown()) {
+    // A number that is not there yet, such as the first digit below a minimum, is typed on.
+    const bool isTyping = gesture == Gesture::Text && part == onPart && isTyped();
+    if (editor && begin(Gesture::Text, onPart) && face->isShown() && !isTyping) {
         editor->selectAll();
     }
 }

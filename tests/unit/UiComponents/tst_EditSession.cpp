@@ -1152,6 +1152,22 @@ private Q_SLOTS:
         QVERIFY(!stage.session->isMultiValue());
     }
 
+    // Its first digit is no value of the range yet.
+    void hiddenNumberIsTypedOn()
+    {
+        QSpinBox field;
+        field.setRange(8, 200);
+        EditSession session(&field);
+        QSignalSpy committed(&session, &EditSession::committed);
+        session.setMultiValue(true);
+        field.show();
+        QVERIFY(QTest::qWaitForWindowActive(&field));
+        QTest::keyClicks(&field, "72");
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(committed.count(), 1);
+        QCOMPARE(committed.constFirst().constFirst().toInt(), 72);
+    }
+
     void hiddenTextIsReplaced_data()
     {
         QTest::addColumn<QString>("how");
