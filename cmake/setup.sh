@@ -23,16 +23,18 @@ uic_packages()
                     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils \
                     libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 \
                     dbus at-spi2-core python3-gi gir1.2-atspi-2.0 ;;
+            docs)
+                echo doxygen ;;
             package)
                 echo clang fonts-dejavu-core make pkg-config qt5-qmake ;;
             benchmarks)
                 echo fonts-dejavu-core libbenchmark-dev libkf5widgetsaddons-dev python3 qml-module-qtquick2 ;;
             debian)
-                echo debhelper fakeroot git lintian mmdebstrap ;;
+                echo debhelper doxygen fakeroot git lintian mmdebstrap ;;
             headers)
                 echo abigail-tools python3 ;;
             conventions)
-                echo fonts-dejavu-core python3 clang-format ;;
+                echo fonts-dejavu-core python3 clang-format doxygen ;;
             *)
                 echo "uic_packages: unknown purpose $purpose" >&2
                 return 2 ;;

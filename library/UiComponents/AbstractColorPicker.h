@@ -32,7 +32,7 @@ class QObjectPrivate;
  *   and the picker with it.
  *
  * All calls and signals stay on the GUI thread. `std::optional<QColor>` is registered as a meta type.
- * @see ColorPickerButton, WidgetColorPicker
+ * @see ColorPickerButton, ColorInputWidget, PopupColorPicker, WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT AbstractColorPicker : public QObject
 {

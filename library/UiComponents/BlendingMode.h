@@ -8,6 +8,7 @@
  * Projects store the numbers, so they never change, and the number of a removed mode is never reused. The
  * library only names the modes; blending is the renderer's work. `BlendingMode` is registered as a meta type.
  * @see ColorBlendingComboBox, which offers all fourteen
+ * @ingroup colour
  */
 enum class BlendingMode {
     Overlay = 0,     ///< multiplies what is dark below and screens what is light

@@ -25,7 +25,7 @@ class AbstractColorPicker;
  *
  * **Style sheet.** The button's object name is "colorPicker"; the frame's metrics are OvFrame's properties:
  * `ColorInputWidget { qproperty-layoutMargin: 2; }`.
- * @see ColorPickerButton, AbstractColorPicker
+ * @see ColorPickerButton, AbstractColorPicker, PopupColorPicker, EditSession
  */
 class UICOMPONENTS_EXPORT ColorInputWidget : public OvFrame
 {

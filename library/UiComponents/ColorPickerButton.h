@@ -40,6 +40,7 @@ class AbstractColorPicker;
  *
  * **Lifetime.** A slot of a pickingStopped() that hiding the button causes must use deleteLater(), since
  * QWidget::hide() goes on.
+ * @see ColorInputWidget, AbstractColorPicker, PopupColorPicker, WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT ColorPickerButton : public ClickButton
 {

@@ -38,7 +38,7 @@
  * as its value, which says each change; "Colour value" is the edit; "Palette" and "Own colours" are groups of
  * radio buttons, which are called by their colours, as their tool tips are; the opacity is a slider and a
  * spin box. Tab goes from group to group. The pipette needs a mouse; the edit takes every colour.
- * @see ColorPickerButton, Pipette, Settings::userCustomColors(), Util::appendCustomColor()
+ * @see PopupColorPicker, ColorPickerButton, Pipette, Settings::userCustomColors(), Util::appendCustomColor()
  */
 class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame
 {

@@ -20,6 +20,7 @@ namespace Util {
  *
  * Nothing is reported when the store cannot be written (see Settings). Read and write are two steps, so two
  * processes may overwrite each other's colour. For the GUI thread only.
+ * @see ColorPickerWidget, Settings
  */
 UICOMPONENTS_EXPORT bool appendCustomColor(const QString& colorName);
 

@@ -9,7 +9,7 @@
  *                                tr("Next"), tr("Back"), QStringLiteral(":/tour/timeline.gif")};
  *
  * A plain value. Every field may be empty, which is the default.
- * @see DialogGuideWidget
+ * @see DialogGuideWidget, GuideInfo
  */
 struct DialogGuideInfo
 {

@@ -36,7 +36,7 @@
  *     DialogGuideWidget { min-width: 300px; max-width: 300px; }
  *     DialogGuideWidget #buttonsFrame { qproperty-layoutSpacing: 6; }
  *     DialogGuideWidget #closeButton { qproperty-icon: url(images/close.png); }
- * @see PointingWidget for window, place and size; GuideWidget
+ * @see DialogGuideInfo; PointingWidget for window, place and size; GuideWidget
  */
 class UICOMPONENTS_EXPORT DialogGuideWidget : public PointingWidget
 {

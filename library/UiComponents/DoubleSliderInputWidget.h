@@ -19,7 +19,7 @@
  *
  * **Style sheet.** The object names are "slider" and "spinbox"; the frame's metrics are OvFrame's properties:
  * `DoubleSliderInputWidget { qproperty-layoutSpacing: 8; }`.
- * @see SliderInputWidget, Util::bindWidgets()
+ * @see SliderInputWidget, EditSession, Util::bindWidgets()
  */
 class UICOMPONENTS_EXPORT DoubleSliderInputWidget : public OvFrame
 {

@@ -38,8 +38,8 @@ class QWidget;
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its
  * texts are covered by a dash, the QLabel "multiValueCover", a colour field shows several colours, and screen
- * readers say it. The field has the property "multiValue" (bool):
- * `[multiValue="true"] QSlider::handle { background: gray; }`.
+ * readers say it. The field has the property "multiValue" (bool).
+ * @see EditCommand, ColorInputWidget, SliderInputWidget, PointSelectorWidget, PathSelectionWidget
  */
 class UICOMPONENTS_EXPORT EditSession : public QObject
 {

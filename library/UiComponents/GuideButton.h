@@ -35,7 +35,7 @@
  *
  *     GuideButton > PointingWidget { qproperty-radius: 8; }
  *     #guideWidget { min-width: 280px; max-width: 280px; }
- * @see GuideWidget, PointingWidget
+ * @see GuideInfo, GuideWidget, PointingWidget
  */
 class UICOMPONENTS_EXPORT GuideButton : public ClickButton
 {

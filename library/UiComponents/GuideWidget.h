@@ -35,7 +35,7 @@
  *     GuideWidget { min-width: 280px; max-width: 280px; qproperty-layoutSpacing: 8; }
  *     GuideWidget > #descriptionLabel { color: gray; }
  *     GuideWidget > #learnMoreLabel { color: #6ea8f7; }  // the link too; without it, that of the palette
- * @see GuideButton, which shows a guide in a pop-up; DialogGuideWidget
+ * @see GuideInfo; GuideButton, which shows a guide in a pop-up; DialogGuideWidget
  */
 class UICOMPONENTS_EXPORT GuideWidget : public OvFrame
 {

@@ -38,6 +38,7 @@ class QUrl;
  *
  *     #pathSelectionFrame[focusHint="true"] { border: 1px solid blue; }
  *     #pathSelectionFrame[styleHint="error"] { border: 1px solid red; }
+ * @see FileUtil, StandardFolderUrls, EditSession
  */
 class UICOMPONENTS_EXPORT PathSelectionWidget : public OvFrame
 {

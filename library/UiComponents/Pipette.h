@@ -27,16 +27,17 @@
  *
  * Where no program may read the screen, as on Wayland, the desktop's portal or a host's own ScreenColorSource
  * picks instead, with the same signals. Xwayland shows nothing of other applications: run on Wayland itself.
- * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
- * edit takes every colour by its digits, and whose selector's plane takes keys.
+ * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
  *
  * A style sheet gives the loupe its size, its rim, which is painted over the picture, and what is seen beyond
  * the desktop's edge; the cursor's hot spot is a point of the scaled picture:
+ *
  *     LoupeWidget { background: transparent; border: 2px solid white; border-radius: 58px; min-width: 113px;
  *                   min-height: 113px; qproperty-emptyPixelsColor: #202020; }
  *     LoupeWidget > #colorNameLabel { color: white; }
  *     PipetteScreenView { qproperty-cursorPixmap: url(dropper.png); qproperty-cursorSize: 32px 32px;
  *                         qproperty-cursorHotSpot: 2px 30px; }
+ * @see ScreenColorSource, PopupColorPicker, ColorPickerWidget, WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT Pipette : public QObject
 {

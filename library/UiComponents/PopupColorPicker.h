@@ -35,7 +35,7 @@ class ColorPickerWidget;
  *
  * **Lifetime.** When the user closes the pop-up, pickingStopped() is emitted from the event loop: Qt goes on
  * using a pop-up that a press has closed.
- * @see ColorPickerButton, ColorInputWidget, ColorPickerWidget
+ * @see ColorPickerButton, ColorInputWidget, ColorPickerWidget, Pipette
  */
 class UICOMPONENTS_EXPORT PopupColorPicker : public AbstractColorPicker
 {

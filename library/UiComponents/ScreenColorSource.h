@@ -32,7 +32,7 @@ class QWindow;
  *         }
  *     };
  *
- * @see Pipette::unavailableReason()
+ * @see Pipette::unavailableReason(), Orvane::Util::IsPrivacyAccessGranted()
  */
 class UICOMPONENTS_EXPORT ScreenColorSource : public QObject
 {

@@ -28,7 +28,7 @@
  *
  * **Style sheet.** The object names are "slider" and "spinbox"; the frame's metrics are OvFrame's properties:
  * `SliderInputWidget { qproperty-layoutSpacing: 8; }`.
- * @see DoubleSliderInputWidget, Util::bindWidgets()
+ * @see DoubleSliderInputWidget, EditSession, Util::bindWidgets()
  */
 class UICOMPONENTS_EXPORT SliderInputWidget : public OvFrame
 {

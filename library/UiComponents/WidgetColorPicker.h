@@ -34,7 +34,7 @@ class WidgetColorPickerStylingObject;
  *
  * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
  * edit takes every colour by its digits, and whose selector's plane takes keys.
- * @see WidgetColorPickerButton, WidgetColorPickerStylingObject
+ * @see WidgetColorPickerButton, WidgetColorPickerStylingObject, Orvane::Gui::HighlightFrame, Pipette
  */
 class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 {

@@ -27,12 +27,14 @@ class WidgetColorPickerStylingObject;
  * button's own style sheet, in the place of what was there. Border, size and padding are those that the
  * application's sheet gives to WidgetColorPickerButton or QToolButton. Before the first colour, and for an
  * invalid one, the property "nullColor" (bool) is true, and a sheet may give it a picture:
+ *
  *     WidgetColorPickerButton[changeSelfColor="true"][nullColor="true"] { background-image: url(d.png); }
+ *
  * Off, it is a QToolButton as any other, and no colour changes its sheet, its property or its face.
  *
  * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key
  * ends it: offer a colour field with a PopupColorPicker too, for the keyboard.
- * @see WidgetColorPicker
+ * @see WidgetColorPicker, PopupColorPicker, ColorPickerButton
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton
 {

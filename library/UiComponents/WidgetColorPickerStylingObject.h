@@ -10,6 +10,7 @@
  * Derive from it, keep the object, and lend it to WidgetColorPicker::setStylingObject() or
  * WidgetColorPickerButton::setPickerStylingObject(). One object may serve any number of pickers. It has no
  * data of its own and may be copied.
+ * @see WidgetColorPicker, WidgetColorPickerButton
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerStylingObject
 {

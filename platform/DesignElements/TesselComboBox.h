@@ -17,6 +17,7 @@ namespace Orvane::Tessel {
  *
  * Items, index, signals and a delegate of the host's own stay. A second call changes only a view or a
  * delegate that was replaced meanwhile; null does nothing.
+ * @see OvComboBox
  */
 DESIGNELEMENTS_EXPORT void convertComboBoxToTessel(OvComboBox* comboBox);
 

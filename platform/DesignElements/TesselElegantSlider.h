@@ -17,6 +17,7 @@ namespace Orvane::Tessel {
  * Where no sheet has a rule for its groove, it draws itself, on the sheet's background if there is one, in
  * the colours of its palette: `Mid` for the groove, `Highlight` for the part below the value and the focus
  * ring, `Light` for the handle, and for its edge the middle of `Window` and `WindowText`.
+ * @see OvCustomSlider
  */
 class DESIGNELEMENTS_EXPORT TesselElegantSlider : public OvCustomSlider
 {

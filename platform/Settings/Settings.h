@@ -28,6 +28,7 @@
  * its name, with a warning in Qt's log.
  *
  * For one thread only, usually the GUI thread.
+ * @see SettingsStore
  */
 class SETTINGS_EXPORT Settings
 {

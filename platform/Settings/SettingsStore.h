@@ -12,6 +12,7 @@
  * Settings::setStore(). All calls come from the thread that uses Settings, one at a time, and must not call
  * Settings themselves. Keys are short names of letters, unique in the store; a host may put them into a group
  * of its own.
+ * @see Settings
  */
 class SETTINGS_EXPORT SettingsStore
 {

@@ -33,6 +33,7 @@ class QLayout;
  * without a layout. A value that was set wins over code: it is written again when the widget is polished and
  * whenever Qt lays it out after a change. A value that a sheet no longer sets stays, as all `qproperty-`
  * values do.
+ * @see OvFrame, OvBoxLayout, OvGridLayout, Util::installLayoutController()
  */
 class WIDGETTOOLKIT_EXPORT LayoutController
 {

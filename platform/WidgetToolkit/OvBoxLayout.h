@@ -12,7 +12,7 @@
  *
  * The owner widget, given to the constructor, owns it and has it as its layout. Contents margins and spacing
  * are 0 by default; the style sheet sets them through the owner's LayoutController.
- * @see OvGridLayout, OvFrame
+ * @see OvGridLayout, OvFrame, LayoutHelpers
  */
 class WIDGETTOOLKIT_EXPORT OvBoxLayout : public QBoxLayout
 {

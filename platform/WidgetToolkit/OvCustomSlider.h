@@ -28,6 +28,7 @@
  * valueChanged() that setValue() causes. Behind the signals of setRange(), setMinimum(), setMaximum(),
  * setSliderDown(), setSliderPosition(), triggerAction() and setEnabled(), and behind sliderMoved() of a
  * setValue() during a drag, QAbstractSlider goes on: use deleteLater() there.
+ * @see OvDoubleSlider, Util::bindWidgets()
  */
 class WIDGETTOOLKIT_EXPORT OvCustomSlider : public QSlider
 {

@@ -13,7 +13,7 @@
  *
  * A step leads to a value of exactly the decimals that are shown: six steps of 0.01 are 0.06, where
  * QDoubleSpinBox adds up to 0.060000000000000005. A range below 0 takes "-0" as the beginning of -0.5.
- * @see OvSpinBox, OvDoubleSlider
+ * @see OvSpinBox, OvDoubleSlider, Util::bindWidgets()
  */
 class WIDGETTOOLKIT_EXPORT OvDoubleSpinBox : public QDoubleSpinBox
 {

@@ -11,7 +11,7 @@
  * It has neither a frame nor margins until a style sheet sets them; the sheet sets the layout's metrics
  * through the properties that LayoutController lists. They reach the layout before the frame is first shown,
  * whether layout or sheet is set first.
- * @see LayoutController
+ * @see LayoutController, OvBoxLayout, OvGridLayout
  */
 class WIDGETTOOLKIT_EXPORT OvFrame : public QFrame, public LayoutController
 {

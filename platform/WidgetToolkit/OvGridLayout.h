@@ -26,6 +26,7 @@
  *
  * Both forms of addRow() reparent the widgets to the owner. `flag` is the stretch factor of the row: a row of
  * 0 takes free height only when no row has a factor; a negative number counts as 0.
+ * @see OvBoxLayout, LayoutHelpers
  */
 class WIDGETTOOLKIT_EXPORT OvGridLayout : public QGridLayout
 {

@@ -18,6 +18,7 @@
  * **Lifetime.** Slots of signals that Enter causes may delete the spin box, and so may those of a
  * valueChanged() that setValue() causes. Behind all others, above all while the user types or steps,
  * QAbstractSpinBox goes on: use deleteLater() there.
+ * @see OvDoubleSpinBox, Util::bindWidgets()
  */
 class WIDGETTOOLKIT_EXPORT OvSpinBox : public QSpinBox
 {

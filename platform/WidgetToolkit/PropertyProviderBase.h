@@ -16,6 +16,7 @@
  * no space in a layout, is left out by OvBoxLayout::autoFill(), and takes neither mouse nor focus. It is
  * polished before its owner sees its first polish, a resize or a paint, also if it is created after the
  * owner's polish, and again whenever the sheet changes: the first paint already shows the sheet's values.
+ * @see LayoutController
  */
 class WIDGETTOOLKIT_EXPORT PropertyProviderBase : public QWidget
 {
