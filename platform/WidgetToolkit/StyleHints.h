@@ -3,6 +3,7 @@
 #include <QString>
 
 /**
+ * @file
  * The colour variants whose look is up to the host's style sheet.
  *
  * Each constant's text is its own name. Pass one to Util::applyStyleHint() or ColorHint::applyColorHint(); a
