@@ -30,7 +30,6 @@
  *
  *     SearchWidget { qproperty-PlaceholderColor: #808080; qproperty-PlaceholderHoverColor: #a0a0a0; }
  *     SearchWidget[focusHint="true"] { border: 1px solid blue; }
- *     SearchWidget > #searchIcon { image: url(:/search.png); min-width: 16px; }
  *     SearchWidget > #searchIcon[hovered="true"] { image: url(:/search-hovered.png); }
  *
  * **Readers** find a group of an edit for searches, with the name of the field or the placeholder and with
@@ -38,6 +37,7 @@
  *
  * **Lifetime.** Slots of both signals delete the field with deleteLater(), since QLineEdit goes on after
  * reporting. A field that is destroyed, or whose window is, reports nothing.
+ * @see Orvane::Tessel::TesselLineEdit, EditSession
  */
 class UICOMPONENTS_EXPORT SearchWidget : public OvFrame
 {
