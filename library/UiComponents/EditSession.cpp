@@ -590,8 +590,12 @@ bool EditSession::Private::takeText()
     }
     const QPointer<EditSession> self(q);
     if (isTyped()) {
-        qobject_cast<QAbstractSpinBox*>(part)->interpretText();
-        if (self && face->isShown()) {
+        auto* const box = qobject_cast<QAbstractSpinBox*>(part);
+        // A text that is no value brings back the hidden one, which nobody has entered.
+        const bool isEntered =
+            box->hasAcceptableInput() || box->correctionMode() == QAbstractSpinBox::CorrectToNearestValue;
+        box->interpretText();
+        if (self && isEntered && face->isShown()) {
             reportShown();
         }
     }

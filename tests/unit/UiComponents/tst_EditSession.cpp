@@ -1168,6 +1168,30 @@ private Q_SLOTS:
         QCOMPARE(committed.constFirst().constFirst().toInt(), 72);
     }
 
+    void hiddenNumberIsNotEntered_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("not yet a value") << int(Qt::Key_7);
+        QTest::newRow("nothing") << int(Qt::Key_Backspace);
+    }
+
+    // A spin box takes its own number again when the text is none.
+    void hiddenNumberIsNotEntered()
+    {
+        QFETCH(int, key);
+        QSpinBox field;
+        field.setRange(8, 200);
+        EditSession session(&field);
+        QSignalSpy started(&session, &EditSession::started);
+        session.setMultiValue(true);
+        field.show();
+        QVERIFY(QTest::qWaitForWindowActive(&field));
+        QTest::keyClick(&field, Qt::Key(key));
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(started.count(), 0);
+        QVERIFY(session.isMultiValue());
+    }
+
     void hiddenTextIsReplaced_data()
     {
         QTest::addColumn<QString>("how");
