@@ -1,13 +1,10 @@
 #include "StyleController.h"
 
-#include <UiComponents/PointSelectionPlane.h>
-
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QResizeEvent>
 
 #include <optional>
 
@@ -44,18 +41,6 @@ QByteArray windowSheet(const QString& style)
 {
     QFile file(QStringLiteral(":/gallery/%1.qss").arg(style));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// A point plane reads its fill from the sheet when it is resized.
-void refillPlanes()
-{
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget* widget : widgets) {
-        if (auto* plane = qobject_cast<PointSelectionPlane*>(widget)) {
-            QResizeEvent event(plane->size(), plane->size());
-            QCoreApplication::sendEvent(plane, &event);
-        }
-    }
 }
 
 } // namespace
@@ -148,6 +133,5 @@ void StyleController::apply(const QByteArray& contents)
     const QString sheet =
         withAbsoluteUrls(QString::fromUtf8(contents), QFileInfo(pathOf(m_style)).absolutePath());
     qApp->setStyleSheet(sheet + QString::fromUtf8(windowSheet(m_style)));
-    refillPlanes();
     Q_EMIT styleApplied(m_style);
 }

@@ -223,6 +223,10 @@ void PointSelectionPlane::changeEvent(QEvent* event)
         }
         // Qt does not apply qproperty values of other states by itself.
         Util::repolishWidget(d->style);
+    } else if (event->type() == QEvent::StyleChange) {
+        // Qt may polish the plane under a new sheet before its children.
+        Util::repolishWidget(d->style);
+        d->background = d->style->fillColor();
     }
     OvFrame::changeEvent(event);
 }

@@ -36,9 +36,8 @@
  *     }
  *
  * `PointSelectionPlanePropertyHelper[enabled="false"]` is for the disabled plane. Without a valid MarkerColor
- * there is no marker; other missing colours are those of the palette. FillColor takes effect on the next
- * resize, the others on the next paint: after changing the sheet of a visible plane, send it a QResizeEvent
- * of its current size.
+ * there is no marker; other missing colours are those of the palette. A new sheet takes effect at once. Of
+ * values that code sets, FillColor does so on the next resize, the others on the next paint.
  */
 class UICOMPONENTS_EXPORT PointSelectionPlane : public OvFrame
 {

@@ -11,8 +11,8 @@
  *
  *     PointSelectionPlanePropertyHelper { qproperty-MarkerRadius: 5; qproperty-MarkerColor: white; }
  *
- * Setters neither repaint nor notify. Setting a sheet repaints the plane anyway; "FillColor" takes effect on
- * the plane's next resize.
+ * Setters neither repaint nor notify; "FillColor" takes effect on the plane's next resize. A new sheet
+ * repaints the plane, with all that it sets.
  */
 class PointSelectionPlanePropertyHelper : public PropertyProviderBase
 {

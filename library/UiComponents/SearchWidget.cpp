@@ -200,6 +200,15 @@ void SearchWidget::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
 }
 
+void SearchWidget::changeEvent(QEvent* event)
+{
+    // A new sheet has colours of its own for what it shows already.
+    if (event->type() == QEvent::StyleChange && d->placeholderBrush) {
+        updatePalette();
+    }
+    OvFrame::changeEvent(event);
+}
+
 void SearchWidget::updatePalette()
 {
     const bool isHovered = rect().contains(mapFromGlobal(QCursor::pos()));

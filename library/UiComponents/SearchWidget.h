@@ -19,8 +19,8 @@
  *
  * **Placeholder.** Its colour is PlaceholderDisabledColor while the line edit is disabled, else
  * PlaceholderHoverColor under the mouse, else PlaceholderColor, whatever colour a sheet gives the text. Set
- * all three, normally in the sheet: one that is not set is drawn black. A property takes effect when the
- * field is next shown, entered, left, enabled or disabled.
+ * all three, normally in the sheet: one that is not set is drawn black. A new sheet takes effect at once, a
+ * property that code sets when the field is next shown, entered, left, enabled or disabled.
  *
  * **Style sheet.** The children are "searchIcon" (QLabel, without an image by default), "searchLineEdit"
  * (Orvane::Tessel::TesselLineEdit) and "clearSearchButton" (QToolButton). The field has the property
@@ -86,6 +86,7 @@ protected:
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void updatePalette();
