@@ -6,6 +6,7 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QLocale>
 
 namespace {
 
@@ -23,10 +24,13 @@ struct Options
         QStringLiteral(
             "dark, light, high-contrast, none, or a style sheet FILE that reloads when it is saved."),
         QStringLiteral("STYLE"), QStringLiteral("dark")};
-    const QCommandLineOption language{QStringLiteral("language"), QStringLiteral("en, de or ja."),
+    const QCommandLineOption language{QStringLiteral("language"),
+                                      LanguageController::languages().join(QStringLiteral(", ")) +
+                                          QLatin1Char('.'),
                                       QStringLiteral("CODE"), QStringLiteral("en")};
-    const QCommandLineOption direction{QStringLiteral("direction"), QStringLiteral("ltr or rtl."),
-                                       QStringLiteral("DIRECTION"), QStringLiteral("ltr")};
+    const QCommandLineOption direction{QStringLiteral("direction"),
+                                       QStringLiteral("ltr or rtl; by default that of the language."),
+                                       QStringLiteral("DIRECTION")};
     const QCommandLineOption tour{
         QStringLiteral("tour"),
         QStringLiteral("Render every page in every style to DIR/<id>-<style>.png and end. With --page, "
@@ -93,7 +97,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.page = parser.value(options.page);
     line.style = parser.value(options.style);
     line.language = parser.value(options.language);
-    const QString direction = parser.value(options.direction);
+    const QString direction = parser.isSet(options.direction) ? parser.value(options.direction)
+                                                              : text(QLocale(line.language).textDirection());
     line.direction = direction == text(Qt::RightToLeft) ? Qt::RightToLeft : Qt::LeftToRight;
     line.tourFolder = parser.value(options.tour);
     if (parser.isSet(options.tour)) {

@@ -9,7 +9,7 @@ static void initResources()
 {
     Q_INIT_RESOURCE(styles);
     Q_INIT_RESOURCE(gallery_styles);
-    Q_INIT_RESOURCE(translations);
+    Q_INIT_RESOURCE(gallery_catalogues);
     Q_INIT_RESOURCE(gallery);
 }
 

@@ -1,63 +1,54 @@
 #include "LanguageController.h"
 
+#include <UiComponents/Translations.h>
+
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QLocale>
-#include <QTranslator>
 
 LanguageController::LanguageController(QObject* parent)
     : QObject(parent)
-    , m_language(languages().constFirst())
 {
+    QCoreApplication::installTranslator(&m_gallery);
+    QCoreApplication::installTranslator(&m_titleCard);
+    load(QStringLiteral("en"));
 }
 
-LanguageController::~LanguageController()
-{
-    removeTranslators();
-}
+LanguageController::~LanguageController() = default;
 
 QStringList LanguageController::languages()
 {
-    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("ja")};
+    return Translations::languages();
 }
 
 QString LanguageController::nativeName(const QString& code)
 {
-    // QLocale says "American English".
-    return code == QLatin1String("en") ? QStringLiteral("English") : QLocale(code).nativeLanguageName();
+    // QLocale says "American English" and "español de España".
+    if (code == QLatin1String("en")) {
+        return QStringLiteral("English");
+    }
+    if (code == QLatin1String("es")) {
+        return QStringLiteral("Español");
+    }
+    const QLocale locale(code);
+    const QString name = locale.nativeLanguageName();
+    return locale.toUpper(name.left(1)) + name.mid(1);
 }
 
 void LanguageController::setLanguage(const QString& code)
 {
-    if (code == m_language || !languages().contains(code)) {
-        return;
+    if (code != m_language && languages().contains(code)) {
+        load(code);
+        Q_EMIT languageChanged(code);
     }
-    removeTranslators();
+}
+
+void LanguageController::load(const QString& code)
+{
+    const QString ours = QStringLiteral(":/gallery/translations");
+    const QLocale locale(code);
     m_language = code;
-    QLocale::setDefault(QLocale(code));
-    if (code != languages().constFirst()) {
-        const QString ours = QStringLiteral(":/translations");
-        load(QStringLiteral("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-        load(QStringLiteral("uicomponents_") + code, ours);
-        load(QStringLiteral("gallery_") + code, ours);
-        load(QStringLiteral("titlecard_") + code, QCoreApplication::applicationDirPath());
-    }
-    Q_EMIT languageChanged(code);
-}
-
-void LanguageController::removeTranslators()
-{
-    for (const auto& translator : m_translators) {
-        QCoreApplication::removeTranslator(translator.get());
-    }
-    m_translators.clear();
-}
-
-void LanguageController::load(const QString& name, const QString& folder)
-{
-    auto translator = std::make_unique<QTranslator>();
-    if (translator->load(name, folder)) {
-        QCoreApplication::installTranslator(translator.get());
-        m_translators.push_back(std::move(translator));
-    }
+    QLocale::setDefault(locale);
+    m_gallery.load(QStringLiteral("gallery_") + code, ours);
+    m_titleCard.load(QStringLiteral("titlecard_") + code, ours);
+    Translations::load(locale);
 }

@@ -2,26 +2,22 @@
 
 #include <QObject>
 #include <QStringList>
-
-#include <memory>
-#include <vector>
-
-class QTranslator;
+#include <QTranslator>
 
 /**
- * The language of the application's texts: the gallery's, the library's and, where it is installed, Qt's
- * own.
+ * The language of the application's texts: the gallery's, the example's, the library's and, where it is
+ * installed, Qt's own.
  */
 class LanguageController : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Starts with English.
     explicit LanguageController(QObject* parent = nullptr);
-    /// Removes its translations from the application.
     ~LanguageController() override;
 
-    /// The codes of all languages; the first is that of the source texts.
+    /// The codes of all languages.
     static QStringList languages();
 
     /// The language's name in itself.
@@ -33,13 +29,13 @@ public:
     void setLanguage(const QString& code);
 
 Q_SIGNALS:
-    /// From now on, tr() returns texts in the language @p code.
+    /// From now on, tr() returns texts in the language @p code, and the layout has its direction.
     void languageChanged(const QString& code);
 
 private:
-    void removeTranslators();
-    void load(const QString& name, const QString& folder);
+    void load(const QString& code);
 
     QString m_language;
-    std::vector<std::unique_ptr<QTranslator>> m_translators;
+    QTranslator m_gallery;
+    QTranslator m_titleCard;
 };

@@ -135,10 +135,12 @@ void MainWindow::connectSwitches()
     connect(m_switches, &SwitchBar::directionChosen, this, &MainWindow::setDirection);
     connect(m_switches, &SwitchBar::scaleChosen, this, &MainWindow::restartRequested);
     connect(m_language, &LanguageController::languageChanged, this, [this](const QString& code) {
+        setLocale(QLocale()); // numbers
         m_switches->retranslate();
         m_switches->setStyleName(m_style->style());
         m_switches->setLanguage(code);
         m_list->retranslate();
+        m_switches->setDirection(QApplication::layoutDirection());
         rebuildPage();
     });
 }

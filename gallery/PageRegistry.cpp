@@ -218,6 +218,7 @@ QVector<PageInfo> PageRegistry::pages()
              tr("Custom colours and folders"),
              tr("Scheduler"),
              tr("Headings"),
+             tr("Languages"),
              tr("Privacy access"),
              tr("Focus of hosted QML"),
              tr("bytes"),
@@ -246,7 +247,7 @@ QVector<PageInfo> PageRegistry::pages()
              tr("dialog"),
              QStringLiteral("QML")},
             "FormatFileSize FileUtil FS Settings SettingsStore StandardFolderUrls CustomColors Scheduler "
-            "Customization PrivacyAccess QmlWindowFocusWorkaround",
+            "Customization PrivacyAccess QmlWindowFocusWorkaround Translations",
             &services),
     };
 }

@@ -2043,6 +2043,14 @@
         <source>A film</source>
         <translation>Ein Film</translation>
     </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>The languages that the library has its texts in. One call loads one of them, here by the switch of the gallery, and every component changes at once.</source>
+        <translation>Die Sprachen, in denen die Bibliothek ihre Texte hat. Ein Aufruf lädt eine davon, hier durch den Umschalter der Galerie, und jede Komponente wechselt sofort.</translation>
+    </message>
 </context>
 <context>
     <name>ParameterPanel</name>

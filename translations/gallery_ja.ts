@@ -2043,6 +2043,14 @@
         <source>A film</source>
         <translation>映画</translation>
     </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>The languages that the library has its texts in. One call loads one of them, here by the switch of the gallery, and every component changes at once.</source>
+        <translation>ライブラリがテキストを用意している言語です。1回の呼び出しでそのうちの1つを読み込みます。ここではギャラリーの切り替えで行い、すべてのコンポーネントがすぐに切り替わります。</translation>
+    </message>
 </context>
 <context>
     <name>ParameterPanel</name>

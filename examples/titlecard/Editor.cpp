@@ -9,6 +9,7 @@
 #include <UiComponents/EditSession.h>
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/SearchWidget.h>
+#include <UiComponents/Translations.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -16,6 +17,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QMessageBox>
 #include <QSettings>
 #include <QShortcut>
@@ -50,8 +52,7 @@ Editor::Editor(const QString& shareFolder, QWidget* parent)
 
     makeActions();
     makeSwitches();
-    QCoreApplication::installTranslator(&m_libraryTexts);
-    QCoreApplication::installTranslator(&m_ownTexts);
+    QCoreApplication::installTranslator(&m_texts);
     retranslate();
 }
 
@@ -75,17 +76,16 @@ void Editor::makeSwitches()
 {
     auto* bar = addToolBar(QString());
     bar->setObjectName(QStringLiteral("switches"));
-    const auto add = [this, bar](const QStringList& items, const auto& choose) {
+    const auto add = [this, bar](const QStringList& items, const QString& current, const auto& choose) {
         auto* box = new QComboBox(bar);
         box->addItems(items);
+        box->setCurrentText(current);
         connect(box, &QComboBox::currentTextChanged, this, choose);
         bar->addWidget(box);
     };
-    add({QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("none")}, &Editor::setStyle);
-    add({QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("ja")}, &Editor::setLanguage);
-    add({QStringLiteral("ltr"), QStringLiteral("rtl")}, [this](const QString& direction) {
-        setLayoutDirection(direction == QLatin1String("rtl") ? Qt::RightToLeft : Qt::LeftToRight);
-    });
+    const QString dark = QStringLiteral("dark");
+    add({dark, QStringLiteral("light"), QStringLiteral("none")}, dark, &Editor::setStyle);
+    add(Translations::languages(), QStringLiteral("en"), &Editor::setLanguage);
 }
 
 void Editor::addPresets(QBoxLayout* layout)
@@ -280,8 +280,11 @@ void Editor::setStyle(const QString& name)
 void Editor::setLanguage(const QString& code)
 {
     const EditSession::Refresh guard(m_inspector);
-    m_libraryTexts.load(m_shareFolder + QStringLiteral("/translations/uicomponents_") + code);
-    m_ownTexts.load(QCoreApplication::applicationDirPath() + QStringLiteral("/titlecard_") + code);
+    const QLocale locale(code);
+    QLocale::setDefault(locale);
+    setLocale(locale); // numbers
+    m_texts.load(QStringLiteral("titlecard_") + code, QCoreApplication::applicationDirPath());
+    Translations::load(locale); // and the direction
     retranslate();
 }
 

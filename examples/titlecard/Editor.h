@@ -50,7 +50,7 @@ class Editor : public QMainWindow
     Q_OBJECT
 
 public:
-    /// @p shareFolder has the library's style sheets and translations. The program's own files are beside it.
+    /// @p shareFolder has the library's style sheets. The program's own files are beside it.
     explicit Editor(const QString& shareFolder, QWidget* parent = nullptr);
 
     Document* document() { return &m_document; }
@@ -62,6 +62,8 @@ public:
 public Q_SLOTS:
     /// For the application: the name of a sheet, or any other for none.
     void setStyle(const QString& name);
+    /// For the application: the texts and the direction of the language @p code.
+    void setLanguage(const QString& code);
     void askForCard();
     void addCard(const QString& text);
     void undo();
@@ -82,14 +84,12 @@ private:
     void applyPreset(const QString& name);
     void showSpace(const QString& folder);
     void showStep(int step);
-    void setLanguage(const QString& code);
     void retranslate();
 
     const QString m_shareFolder;
     QUndoStack m_stack;
     Document m_document;
-    QTranslator m_libraryTexts;
-    QTranslator m_ownTexts;
+    QTranslator m_texts;
     Presets m_presets;
     Canvas* const m_canvas;
     Inspector* m_inspector = nullptr;

@@ -9,6 +9,7 @@ int main(int argc, char** argv)
     application.setApplicationName(QStringLiteral("TitleCard"));
     TitleCard::Editor editor(QStringLiteral(TITLECARD_SHARE));
     editor.setStyle(QStringLiteral("dark"));
+    editor.setLanguage(QStringLiteral("en"));
     editor.resize(1180, 760);
     editor.show();
     editor.startFirstTour();

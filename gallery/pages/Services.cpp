@@ -1,4 +1,5 @@
 #include "../Labels.h"
+#include "../LanguageController.h"
 #include "../Page.h"
 #include "../PageRegistry.h"
 #include "../ResultTable.h"
@@ -15,6 +16,7 @@
 #include <Settings/StandardFolderUrls.h>
 #include <UiComponents/ColorPickerButton.h>
 #include <UiComponents/CustomColors.h>
+#include <UiComponents/Translations.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -248,6 +250,14 @@ void addHeadings(Page* page, ResultTable* results)
                                 [show, name](const QString& text) { show(name, text); });
 }
 
+void addLanguages(Page*, ResultTable* results)
+{
+    const QStringList codes = Translations::languages();
+    for (const QString& code : codes) {
+        results->setResult(code, LanguageController::nativeName(code));
+    }
+}
+
 QString statusText(Orvane::Util::AccessStatus status)
 {
     switch (status) {
@@ -359,6 +369,10 @@ void PageRegistry::services(Page* page)
             "tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown "
             "as text."),
          &addHeadings},
+        {tr("Languages"),
+         tr("The languages that the library has its texts in. One call loads one of them, here by the switch "
+            "of the gallery, and every component changes at once."),
+         &addLanguages},
         {tr("Paths"),
          tr("What an editor asks about a path that a user typed: whether it could be a folder, where the "
             "nearest one is, and what the program may do there."),

@@ -15,7 +15,8 @@
  * current language, as plain text, upper case before lower case. Keep the mode, not the index, and ask
  * indexOf().
  *
- * **Language.** The names are translated in the context "blendingModes". A change of language names and sorts
+ * **Language.** The names are translated in the context "blendingModes": into English too, by
+ * Translations::load(), since those of the sources are the enumerators'. A change of language names and sorts
  * the list anew, also while its pop-up is open. The current mode stays, and blendingModeChanged() is not
  * emitted; QComboBox emits currentTextChanged() for the new text, and before that for an empty one while
  * SourceOver is current.
@@ -29,7 +30,7 @@
  * `[popupVisible="true"]`, the list `#tesselComboBoxView`, or alone as `ColorBlendingComboBox`.
  *
  * **Lifetime.** A slot of blendingModeChanged() deletes the box with deleteLater(), since QComboBox goes on.
- * @see BlendingMode, OvComboBox
+ * @see BlendingMode, OvComboBox, Translations
  */
 class UICOMPONENTS_EXPORT ColorBlendingComboBox : public OvComboBox
 {

@@ -273,7 +273,6 @@ int main(int argc, char** argv)
     TestEnvironment::prepareApplication();
     QGuiApplication::setQuitOnLastWindowClosed(false);
     Q_INIT_RESOURCE(styles);
-    Q_INIT_RESOURCE(translations);
 
     QCommandLineParser options;
     options.addOptions({{QStringLiteral("events"), QStringLiteral("How many events."), QStringLiteral("N"),

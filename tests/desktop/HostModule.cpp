@@ -2,6 +2,7 @@
 // function makes, it deletes.
 
 #include <UiComponents/Pipette.h>
+#include <UiComponents/Translations.h>
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
@@ -35,6 +36,12 @@ extern "C" Q_DECL_EXPORT void pickFromAWidget()
     picker.setTarget(&target);
     QTimer::singleShot(0, &target, [&target] { press(&target); });
     picker.pick();
+}
+
+/// Leaves texts for the application.
+extern "C" Q_DECL_EXPORT void loadALanguage()
+{
+    Translations::load(QLocale(QStringLiteral("ar")));
 }
 
 /// Ends in the middle of a drag, until whose end readers are not told of the colour.

@@ -18,6 +18,7 @@
 #include <UiComponents/QuickDialog.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
+#include <UiComponents/Translations.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
 #include <algorithm>
@@ -272,11 +273,7 @@ private Q_SLOTS:
     void transcript()
     {
         QFETCH(QString, language);
-        QTranslator translator;
-        if (language != QLatin1String("en")) {
-            QVERIFY(translator.load(QStringLiteral(":/translations/uicomponents_%1.qm").arg(language)));
-            QCoreApplication::installTranslator(&translator);
-        }
+        QVERIFY(Translations::load(QLocale(language)));
         Form form;
         form.setWindowTitle(QStringLiteral("Clip"));
         QVERIFY(RealInput::showAndActivate(&form));
@@ -357,7 +354,6 @@ private Q_SLOTS:
             RealInput::key(QStringLiteral("Return"));
         });
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-        QCoreApplication::removeTranslator(&translator);
 
         QFile file(QStringLiteral(UIC_TEST_DATA "/transcript-%1.txt").arg(language));
         QVERIFY(file.open(QIODevice::ReadOnly));

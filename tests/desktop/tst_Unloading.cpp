@@ -27,7 +27,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("use");
 
-        for (const char* use : {"pickFromTheScreen", "pickFromAWidget", "changeAColor"}) {
+        for (const char* use : {"pickFromTheScreen", "pickFromAWidget", "loadALanguage", "changeAColor"}) {
             QTest::newRow(use) << QByteArray(use);
         }
         // The same code once more, at another place perhaps.
@@ -57,6 +57,8 @@ private Q_SLOTS:
         QTest::mouseRelease(window.windowHandle(), Qt::LeftButton);
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton);
         QCoreApplication::processEvents();
+        QCOMPARE(QCoreApplication::translate("blendingModes", "SourceOver"), QStringLiteral("SourceOver"));
+        QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     }
 };
 

@@ -1,7 +1,8 @@
-// A program with two QApplications, one after the other: Qt forgets the factories of interfaces with the
-// first.
+// A program with two QApplications, one after the other: Qt forgets the factories of interfaces and the
+// translators with the first.
 
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/Translations.h>
 #include <WidgetToolkit/OvDoubleSlider.h>
 
 #include <QAccessible>
@@ -19,6 +20,7 @@ QString spokenValue(QWidget* widget)
 bool isSpoken(int argc, char** argv)
 {
     const QApplication application(argc, argv);
+    Translations::load(QLocale(QLocale::German));
     OvDoubleSlider slider;
     slider.setMultiplier(0.01);
     slider.setDoubleValue(0.4);
@@ -26,7 +28,7 @@ bool isSpoken(int argc, char** argv)
     button.setColor(QColor(Qt::red));
     const QString said = spokenValue(&slider) + QLatin1Char(' ') + spokenValue(&button);
     std::puts(qPrintable(said));
-    return said == QLatin1String("0.4 red, #ff0000");
+    return said == QLatin1String("0.4 Rot, #ff0000");
 }
 
 } // namespace

@@ -135,11 +135,7 @@ class tst_BadData : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        Q_INIT_RESOURCE(styles);
-        Q_INIT_RESOURCE(translations);
-    }
+    void initTestCase() { Q_INIT_RESOURCE(styles); }
 
     void survives_data()
     {
@@ -291,7 +287,7 @@ private Q_SLOTS:
     void translations()
     {
         QFETCH(bool, isCut);
-        QFile file(":/translations/uicomponents_de.qm");
+        QFile file(":/uicomponents/translations/uicomponents_de.qm");
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray good = file.readAll();
         Window window;

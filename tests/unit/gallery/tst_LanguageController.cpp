@@ -27,16 +27,26 @@ private Q_SLOTS:
         for (const QString& code : codes) {
             names.append(LanguageController::nativeName(code));
         }
-        QCOMPARE(names, (QStringList{"English", "Deutsch", QString::fromUtf8("日本語")}));
+        QCOMPARE(names,
+                 (QStringList{"العربية", "Deutsch", "English", "Español", "Français", "日本語", "简体中文"}));
     }
 
     void theGallerysTexts_data()
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("title");
+        QTest::newRow("Arabic") << "ar"
+                                << "اللون";
         QTest::newRow("German") << "de"
                                 << "Farbe";
-        QTest::newRow("Japanese") << "ja" << QString::fromUtf8("色");
+        QTest::newRow("Spanish") << "es"
+                                 << "Color";
+        QTest::newRow("French") << "fr"
+                                << "Couleur";
+        QTest::newRow("Japanese") << "ja"
+                                  << "色";
+        QTest::newRow("Chinese") << "zh_CN"
+                                 << "颜色";
     }
 
     void theGallerysTexts()
@@ -50,6 +60,7 @@ private Q_SLOTS:
         QCOMPARE(changed.first().first().toString(), code);
         QTEST(PageRegistry::groupTitle(PageGroup::Colour), "title");
         QCOMPARE(QLocale().language(), QLocale(code).language());
+        QCOMPARE(QGuiApplication::layoutDirection(), QLocale().textDirection());
     }
 
     void thereAndBack()
