@@ -210,7 +210,7 @@ QVector<PageInfo> PageRegistry::pages()
                "runs. The scene knows the dialog as \"callback\" and ends it. Change the source and open "
                "it."),
             {QStringLiteral("QML"), tr("dialog"), tr("confirmation"), tr("form"), tr("scene")},
-            "QuickDialog QuickContent", &qmlDialog),
+            "QuickDialog QuickContent SheetColors", &qmlDialog),
         row("services", PageGroup::Services, tr("Platform services"),
             tr("The functions and classes below the components, with their live results."),
             {tr("File sizes"),

@@ -6,9 +6,8 @@
 #include <QQmlComponent>
 #include <QQmlContext>
 
-SceneDialog::SceneDialog(bool isDark, QWidget* parent)
+SceneDialog::SceneDialog(QWidget* parent)
     : QuickDialog(parent)
-    , m_isDark(isDark)
 {
     setObjectName(QStringLiteral("sceneDialog"));
 }

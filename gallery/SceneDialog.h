@@ -9,15 +9,11 @@
 class SceneDialog : public Qml::QuickDialog
 {
     Q_OBJECT
-    Q_PROPERTY(bool isDark READ isDark CONSTANT)
     Q_PROPERTY(QVariantMap values READ values WRITE setValues NOTIFY valuesChanged)
 
 public:
-    SceneDialog(bool isDark, QWidget* parent);
+    explicit SceneDialog(QWidget* parent);
     ~SceneDialog() override;
-
-    /// Whether a scene is to be light on dark, as the gallery's style is.
-    bool isDark() const { return m_isDark; }
 
     /// The result of a form.
     QVariantMap values() const { return m_values; }
@@ -30,6 +26,5 @@ Q_SIGNALS:
     void valuesChanged(const QVariantMap& values);
 
 private:
-    const bool m_isDark;
     QVariantMap m_values;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <UiComponents/SheetColors.h>
+
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QTimer>
@@ -35,6 +37,8 @@ private:
     void reload();
     void apply(const QByteArray& contents);
 
+    // Links follow the sheet.
+    const SheetColors m_colors;
     QString m_style;
     QByteArray m_contents;
     QFileSystemWatcher m_watcher;

@@ -137,11 +137,9 @@ void SceneEditor::open()
         m_results->setResult(tr("Result of exec()"), tr("%1 cannot be written").arg(m_fileName));
         return;
     }
-    constexpr int brightHalf = 128;
     m_path = m_folder.filePath(m_fileName);
     delete m_dialog;
-    const bool isDark = palette().color(QPalette::Text).lightness() > brightHalf;
-    m_dialog = new SceneDialog(isDark, m_isCentred ? m_page : nullptr);
+    m_dialog = new SceneDialog(m_isCentred ? m_page : nullptr);
     m_dialog->setQmlPath(m_path);
     m_page->signalLog()->watch(m_dialog, "dialog");
     run();

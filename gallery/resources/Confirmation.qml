@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiComponents 0.1
 
 // What surrounds the paper is transparent: a QML dialog has no background of its own.
 Item {
@@ -12,9 +13,9 @@ Item {
         y: 12
         width: parent.width - 24
         height: content.height + 48
-        radius: 12
-        color: callback.isDark ? "#2b2b2b" : "#ffffff"
-        border.color: callback.isDark ? "#4b4b4b" : "#c4c4c4"
+        radius: 3 * SheetColors.radius
+        color: SheetColors.popup
+        border.color: SheetColors.border
 
         Column {
             id: content
@@ -29,18 +30,18 @@ Item {
                 font.pixelSize: 18
                 font.bold: true
                 wrapMode: Text.Wrap
-                color: callback.isDark ? "#f4f4f4" : "#101010"
+                color: SheetColors.textStrong
             }
             Text {
                 width: parent.width
                 text: qsTr("Its cuts and titles will be gone. The clips stay in the project.")
                 font.pixelSize: 13
                 wrapMode: Text.Wrap
-                color: callback.isDark ? "#dedede" : "#303030"
+                color: SheetColors.text
             }
             Row {
                 anchors.right: parent.right
-                spacing: 8
+                spacing: SheetColors.spacing
 
                 SceneButton {
                     text: qsTr("Keep")

@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiComponents 0.1
 
 Item {
     id: form
@@ -17,9 +18,9 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        radius: 12
-        color: callback.isDark ? "#2b2b2b" : "#ffffff"
-        border.color: callback.isDark ? "#4b4b4b" : "#c4c4c4"
+        radius: 3 * SheetColors.radius
+        color: SheetColors.popup
+        border.color: SheetColors.border
     }
 
     component Field: TextInput {
@@ -29,25 +30,26 @@ Item {
         font.pixelSize: 13
         selectByMouse: true
         activeFocusOnTab: true
-        color: callback.isDark ? "#f4f4f4" : "#101010"
-        selectionColor: "#28558f"
+        color: SheetColors.text
+        selectionColor: SheetColors.selection
+        selectedTextColor: SheetColors.selectionText
         onAccepted: form.submit()
 
         Rectangle {
             anchors.fill: parent
             z: -1
-            radius: 4
-            color: callback.isDark ? "#1a1a1a" : "#f6f6f6"
+            radius: SheetColors.radius
+            color: SheetColors.field
             border.width: parent.activeFocus ? 2 : 1
-            border.color: parent.activeFocus ? "#5a9cf5"
-                                             : !parent.acceptableInput ? "#e2574a"
-                                                                       : callback.isDark ? "#4b4b4b" : "#b4b4b4"
+            border.color: parent.activeFocus ? SheetColors.focus
+                                             : parent.acceptableInput ? SheetColors.border
+                                                                      : SheetColors.errorBorder
         }
     }
 
     component Caption: Text {
         font.pixelSize: 12
-        color: callback.isDark ? "#a8a8a8" : "#5a5a5a"
+        color: SheetColors.textSecondary
     }
 
     Column {
@@ -55,7 +57,7 @@ Item {
         x: 24
         y: 24
         width: parent.width - 48
-        spacing: 8
+        spacing: SheetColors.spacing
 
         Caption { text: qsTr("Title") }
         Field {
@@ -72,7 +74,7 @@ Item {
         Item { width: 1; height: 4 }
         Row {
             anchors.right: parent.right
-            spacing: 8
+            spacing: SheetColors.spacing
 
             SceneButton {
                 text: qsTr("Cancel")

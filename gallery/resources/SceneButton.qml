@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiComponents 0.1
 
 Rectangle {
     id: button
@@ -9,13 +10,12 @@ Rectangle {
 
     implicitWidth: Math.max(88, label.implicitWidth + 32)
     implicitHeight: 32
-    radius: 5
+    radius: SheetColors.radius
     activeFocusOnTab: true
-    color: isMain ? (mouse.pressed ? "#225bab" : "#2a6fd0")
-                  : callback.isDark ? (mouse.pressed ? "#2c2c2c" : "#464646")
-                                    : (mouse.pressed ? "#cfcfcf" : "#e6e6e6")
+    color: isMain ? (mouse.pressed ? SheetColors.accentPressed : SheetColors.accent)
+                  : (mouse.pressed ? SheetColors.buttonPressed : SheetColors.button)
     border.width: activeFocus ? 2 : 1
-    border.color: activeFocus ? "#5a9cf5" : isMain ? color : callback.isDark ? "#5a5a5a" : "#b4b4b4"
+    border.color: activeFocus ? SheetColors.focus : isMain ? color : SheetColors.border
 
     Accessible.role: Accessible.Button
     Accessible.name: text
@@ -29,7 +29,7 @@ Rectangle {
         anchors.centerIn: parent
         text: button.text
         font.pixelSize: 13
-        color: button.isMain || callback.isDark ? "white" : "#202020"
+        color: button.isMain ? SheetColors.accentText : SheetColors.text
     }
     MouseArea {
         id: mouse

@@ -1,13 +1,12 @@
 #include "GuideLabel.h"
 
+#include "RichText.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
-#include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
-#include <QVector>
 
 namespace {
 
@@ -25,33 +24,6 @@ QSizeF sizeOf(const QTextImageFormat& format, QTextDocument* document)
         size.scale(QWIDGETSIZE_MAX, format.height(), Qt::KeepAspectRatio);
     }
     return size;
-}
-
-/// Calls @p change with the format of each part of the text, which gets it where that returns true.
-template <typename Change>
-void reformat(QTextDocument* document, Change change)
-{
-    struct Part
-    {
-        int from;
-        int length;
-        QTextCharFormat format;
-    };
-    QVector<Part> changed; // by position, since a change invalidates the iterators
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            QTextCharFormat format = it.fragment().charFormat();
-            if (change(&format)) {
-                changed.append({it.fragment().position(), it.fragment().length(), format});
-            }
-        }
-    }
-    for (const Part& part : qAsConst(changed)) {
-        QTextCursor cursor(document);
-        cursor.setPosition(part.from);
-        cursor.setPosition(part.from + part.length, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(part.format);
-    }
 }
 
 void shrinkPictures(QTextDocument* document, int maxSide)

@@ -1,6 +1,7 @@
 #include "QuickContent.h"
 
 #include "AccessibleFactory.h"
+#include "SceneColors.h"
 #include "SceneView.h"
 
 #include <FileSystem/FS.h>
@@ -94,6 +95,7 @@ public:
 Qml::QuickContent::Private::Private()
 {
     AccessibleFactory::install();
+    SceneColors::registerType();
     view->engine()->setUrlInterceptor(interceptor.get());
     view->setAttribute(Qt::WA_AlwaysStackOnTop);
     view->setClearColor(Qt::transparent);

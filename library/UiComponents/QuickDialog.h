@@ -25,7 +25,7 @@ class QuickContent;
  *
  * **Scene.** There the dialog is called "callback". Its slots `accept()`, `reject()` and `done(int)` end it,
  * and `cursorPos()` is the mouse position. Properties, slots and `Q_INVOKABLE` functions of a subclass can be
- * used too; that is how a form returns its values.
+ * used too; that is how a form returns its values. `import UiComponents 0.1` adds the sheet's SheetColors.
  *
  *     MouseArea { anchors.fill: parent; onClicked: callback.accept() }
  *
@@ -41,7 +41,7 @@ class QuickContent;
  * (on the heap, as with every QDialog), its parent and the scene's container may be deleted. Handlers of the
  * scene and slots of accepted() and rejected(), behind which QDialog emits finished(), use deleteLater()
  * instead.
- * @see QuickContent
+ * @see QuickContent, SheetColors
  */
 class UICOMPONENTS_EXPORT QuickDialog : public QDialog
 {

@@ -1,61 +1,8 @@
-#include "TestMain.h"
+#include "StyledWidgets.h"
 
-#include <DesignElements/TesselComboBox.h>
-#include <DesignElements/TesselElegantSlider.h>
-#include <DesignElements/TesselLineEdit.h>
-#include <EditorWidgets/PointingWidget.h>
-#include <EditorWidgets/Workaround.h>
-#include <GuiHelper/HighlightFrame.h>
-#include <UiComponents/ColorBlendingComboBox.h>
-#include <UiComponents/ColorInputWidget.h>
-#include <UiComponents/ColorPickerButton.h>
-#include <UiComponents/ColorPickerWidget.h>
-#include <UiComponents/DialogGuideWidget.h>
-#include <UiComponents/DoubleSliderInputWidget.h>
-#include <UiComponents/GuideButton.h>
-#include <UiComponents/GuideWidget.h>
-#include <UiComponents/LoupeWidget.h>
-#include <UiComponents/PathSelectionWidget.h>
-#include <UiComponents/PointSelectionPlane.h>
-#include <UiComponents/PointSelectorWidget.h>
-#include <UiComponents/SearchWidget.h>
-#include <UiComponents/SliderInputWidget.h>
-#include <UiComponents/WidgetColorPickerButton.h>
-#include <WidgetToolkit/OvBoxLayout.h>
-#include <WidgetToolkit/OvComboBox.h>
-#include <WidgetToolkit/OvCustomSlider.h>
-#include <WidgetToolkit/OvDoubleSpinBox.h>
-#include <WidgetToolkit/OvFrame.h>
-#include <WidgetToolkit/OvPixmapWidget.h>
-#include <WidgetToolkit/OvSpinBox.h>
-#include <WidgetToolkit/Util.h>
-
-#include <cmath>
-#include <functional>
-#include <memory>
+#include <UiComponents/SheetColors.h>
 
 namespace {
-
-using Change = std::function<void(QWidget*)>;
-using Maker = std::function<QWidget*(QWidget*)>;
-
-const QStringList& styles()
-{
-    static const QStringList names = {QStringLiteral("dark"), QStringLiteral("light"),
-                                      QStringLiteral("high-contrast")};
-    return names;
-}
-
-QString resourceSheet(const QString& style)
-{
-    return QStringLiteral("file:///:/styles/%1.qss").arg(style);
-}
-
-QString textOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 /// The rules of a sheet: selectors, and whether anything is between the braces.
 QStringList selectorsOf(const QString& style)
@@ -74,236 +21,19 @@ QStringList selectorsOf(const QString& style)
     return selectors;
 }
 
-QHash<QString, QColor> paletteOf(const QString& style)
+/// Two names of a palette, and the contrast that their colours need.
+struct Pair
 {
-    QHash<QString, QColor> colors;
-    const QStringList lines =
-        textOf(QStringLiteral(UIC_STYLES_DIR "/%1.palette").arg(style)).split(QLatin1Char('\n'));
-    for (const QString& line : lines) {
-        const QStringList words = line.simplified().split(QLatin1Char(' '));
-        if (words.size() == 2) {
-            colors.insert(words.at(0), QColor(words.at(1)));
-        }
-    }
-    return colors;
-}
-
-/// Of WCAG 2, from 1 (the same) to 21 (black and white).
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double part) {
-            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-               0.0722 * linear(color.blueF());
-    };
-    const double lighter = qMax(luminance(one), luminance(other));
-    const double darker = qMin(luminance(one), luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-template <typename Widget>
-Widget* make(QWidget* parent)
-{
-    return new Widget(parent);
-}
-
-template <typename Button>
-Button* makeButton(QWidget* parent)
-{
-    auto* button = new Button(parent);
-    button->setText(QStringLiteral("Text"));
-    button->setFocusPolicy(Qt::StrongFocus);
-    return button;
-}
-
-QLineEdit* makeEdit(QWidget* parent)
-{
-    return new QLineEdit(QStringLiteral("Text"), parent);
-}
-
-template <typename Slider>
-Slider* makeSlider(QWidget* parent)
-{
-    auto* slider = new Slider(parent);
-    slider->setOrientation(Qt::Horizontal);
-    slider->setValue(40);
-    return slider;
-}
-
-template <typename ComboBox>
-ComboBox* makeCombo(QWidget* parent)
-{
-    auto* box = new ComboBox(parent);
-    box->addItem(QStringLiteral("Text"));
-    box->view(); // Made when it is first asked for, with the pop-up around it.
-    return box;
-}
-
-void convertToTessel(QWidget* widget)
-{
-    Orvane::Tessel::convertComboBoxToTessel(static_cast<OvComboBox*>(widget));
-}
-
-OvComboBox* makeTesselCombo(QWidget* parent)
-{
-    auto* box = makeCombo<OvComboBox>(parent);
-    convertToTessel(box);
-    return box;
-}
-
-OvFrame* makeFieldFrame(QWidget* parent)
-{
-    auto* frame = new OvFrame(parent);
-    auto* edit = makeEdit(frame);
-    Util::applyProperty(edit, "kitVersion", QStringLiteral("1.0"));
-    (new OvHBoxLayout(frame))->autoFill();
-    return frame;
-}
-
-ColorPickerButton* makeColorButton(QWidget* parent)
-{
-    auto* button = new ColorPickerButton(parent);
-    button->setColor(QColor(Qt::darkCyan));
-    button->setFocusPolicy(Qt::StrongFocus);
-    return button;
-}
-
-WidgetColorPickerButton* makePickingButton(QWidget* parent)
-{
-    auto* button = new WidgetColorPickerButton(parent);
-    button->setColor(QColor(Qt::darkCyan));
-    button->setTargetWidget(parent);
-    return button;
-}
-
-PathSelectionWidget* makePath(QWidget* parent)
-{
-    auto* field = new PathSelectionWidget(parent);
-    field->setPath(QStringLiteral("/path"));
-    field->setDefaultPath(QStringLiteral("/default"), QString());
-    return field;
-}
-
-/// Changes a part of the widget, by its object name.
-Change inPart(const char* name, const Change& change)
-{
-    return [name, change](QWidget* widget) { change(widget->findChild<QWidget*>(QLatin1String(name))); };
-}
-
-SearchWidget* makeSearch(QWidget* parent)
-{
-    auto* search = new SearchWidget(parent);
-    search->setTranslations(QString(), QString(), QString(), QStringLiteral("Search"));
-    return search;
-}
-
-/// With the selector that its add button opens.
-ColorPickerWidget* makeColorPanel(QWidget* parent)
-{
-    auto* panel = new ColorPickerWidget(parent, true);
-    panel->findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))->click();
-    panel->findChild<QDialog*>()->reject();
-    return panel;
-}
-
-/// A part of the colour panel, by its name.
-QWidget* partOf(const QWidget* panel, const char* name)
-{
-    return panel->findChild<QWidget*>(QString::fromLatin1(name));
-}
-
-QLabel* makeColorPreview(QWidget* parent)
-{
-    auto* preview = new QLabel(parent);
-    preview->setObjectName(QStringLiteral("currentColorDisplayLabel"));
-    preview->setStyleSheet(QStringLiteral("background-color: transparent;"));
-    return preview;
-}
-
-QLabel* makeFilledColorPreview(QWidget* parent)
-{
-    QLabel* const preview = makeColorPreview(parent);
-    preview->setStyleSheet(QStringLiteral("background-color: #ffc000;"));
-    return preview;
-}
-
-Maker makeNamedButton(const char* name)
-{
-    return [name](QWidget* parent) {
-        auto* button = new QToolButton(parent);
-        button->setObjectName(QString::fromLatin1(name));
-        button->setFocusPolicy(Qt::StrongFocus);
-        return button;
-    };
-}
-
-Orvane::Tessel::TesselElegantSlider* makeHueSlider(QWidget* parent)
-{
-    auto* slider = makeSlider<Orvane::Tessel::TesselElegantSlider>(parent);
-    slider->setObjectName(QStringLiteral("hueSlider"));
-    return slider;
-}
-
-LoupeWidget* makeLoupe(QWidget* parent)
-{
-    auto* loupe = new LoupeWidget(parent);
-    loupe->setWindowFlags(Qt::Widget);
-    QPixmap picture(13, 13);
-    picture.fill(Qt::darkCyan);
-    loupe->setPixmap(picture);
-    loupe->setColorName(Qt::darkCyan);
-    return loupe;
-}
-
-QDialog* makeDialog(QWidget* parent)
-{
-    auto* dialog = new QDialog(parent);
-    // Into its parent's picture.
-    dialog->setWindowFlags(Qt::Widget);
-    return dialog;
-}
-
-PointingWidget* makeBubble(QWidget* parent)
-{
-    auto* bubble = new PointingWidget(parent);
-    bubble->setWindowFlags(Qt::Widget);
-    (new OvVBoxLayout(bubble->contentFrame()))->addWidget(new QLabel(QStringLiteral("Text")));
-    return bubble;
-}
-
-GuideInfo guideInfo()
-{
-    return {QStringLiteral("Title"), QStringLiteral("Description"),
-            QStringLiteral("<a href=\"x:y\">Link</a>"), QString()};
-}
-
-DialogGuideWidget* makeDialogGuide(QWidget* parent)
-{
-    auto* guide = new DialogGuideWidget(parent);
-    guide->setWindowFlags(Qt::Widget);
-    guide->setInfo({QStringLiteral("Title"), QStringLiteral("Description"), QStringLiteral("Next"),
-                    QStringLiteral("Back"), QString()});
-    return guide;
-}
-
-/// A window for one child, without a layout and so without the size hints that the platform cannot take.
-class Host : public QWidget
-{
-public:
-    /// Shows @p child at its own size.
-    bool present(QWidget* child)
-    {
-        child->setParent(this, Qt::Widget);
-        child->ensurePolished();
-        child->resize(child->sizeHint().expandedTo(child->minimumSize()));
-        child->show();
-        resize(child->size());
-        show();
-        return QTest::qWaitForWindowExposed(this);
-    }
+    const char* upper;
+    const char* lower;
+    double least;
 };
+
+/// Of a full sheet and that of the components alone.
+QStringList allSelectors()
+{
+    return selectorsOf(styles().first()) + selectorsOf(styles().first() + QStringLiteral("-components"));
+}
 
 /// One of every widget that a rule may be about, in one widget.
 QMainWindow* makeEverything()
@@ -464,9 +194,6 @@ void press(QWidget* widget)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Maker)
-Q_DECLARE_METATYPE(Change)
-
 class tst_ReferenceStyles : public QObject
 {
     Q_OBJECT
@@ -548,7 +275,9 @@ private Q_SLOTS:
         }
         const QStringList files = QDir(QStringLiteral(":/styles/images")).entryList();
         for (const QString& file : files) {
-            const QString url = QStringLiteral("images/") + QString(file).remove(QLatin1String("@2x"));
+            // The black marks are for a light accent, which none of these sheets has.
+            const QString url = QStringLiteral("images/") +
+                                QString(file).remove(QLatin1String("@2x")).remove(QLatin1String("-black"));
             QVERIFY2(used.contains(url), qPrintable(file));
         }
     }
@@ -577,7 +306,7 @@ private Q_SLOTS:
     // Qt matches from the right, against every widget: at most one step up, and a class or name to index by.
     void selectorsAreCheap()
     {
-        const QStringList selectors = selectorsOf(styles().first());
+        const QStringList selectors = allSelectors();
         QVERIFY(selectors.size() > 100);
         const QRegularExpression indexed(QStringLiteral("^\\.?[A-Z#]"));
         for (const QString& selector : selectors) {
@@ -597,7 +326,8 @@ private Q_SLOTS:
         widgets << window.get() << &dialog << &menu;
         // These live only while they show.
         QSet<QString> known = {QStringLiteral("QToolTip"), QStringLiteral("#tesselContextMenu"),
-                               QStringLiteral("#colorPanelPopup"), QStringLiteral("#multiValueCover")};
+                               QStringLiteral("#colorPanelPopup"), QStringLiteral("#multiValueCover"),
+                               QStringLiteral("SheetColorsProvider")};
         for (const QWidget* widget : qAsConst(widgets)) {
             known.insert(QStringLiteral("#") + widget->objectName());
             for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass()) {
@@ -605,7 +335,7 @@ private Q_SLOTS:
                     QString::fromLatin1(meta->className()).replace(QLatin1String("::"), QLatin1String("--")));
             }
         }
-        const QStringList selectors = selectorsOf(styles().first());
+        const QStringList selectors = allSelectors();
         const QRegularExpression name(QStringLiteral("(?:^|[ .])(#?[A-Za-z][A-Za-z-]*)"));
         for (const QString& selector : selectors) {
             auto names = name.globalMatch(selector);
@@ -641,12 +371,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("lower");
         QTest::addColumn<double>("least");
 
-        struct Pair
-        {
-            const char* upper;
-            const char* lower;
-            double least;
-        };
         // Texts, then marks that carry a meaning, then what is switched off and only must be seen.
         constexpr Pair pairs[] = {
             {"text", "window", 7},
@@ -684,6 +408,8 @@ private Q_SLOTS:
             {"accent", "popup", 3},
             {"link", "popup", 4.5},
             {"link", "window", 4.5},
+            {"link", "card", 4.5},
+            {"link", "field", 4.5},
             {"scrollHandle", "window", 3},
             {"scrollHandle", "field", 3},
             {"focus", "window", 3},
@@ -720,6 +446,56 @@ private Q_SLOTS:
         QVERIFY(colors.contains(upper) && colors.contains(lower));
         const double actual = contrast(colors.value(upper), colors.value(lower));
         QVERIFY2(actual >= least, qPrintable(QString::number(actual)));
+    }
+
+    void variantsOfHostsAreLegible_data()
+    {
+        QTest::addColumn<QString>("file");
+        const QStringList files = QDir(QStringLiteral(UIC_VARIANTS_DIR)).entryList({QStringLiteral("*.qss")});
+        QVERIFY(!files.isEmpty());
+        for (const QString& file : files) {
+            QTest::newRow(qPrintable(file)) << file;
+        }
+    }
+
+    // Whatever its accent is.
+    void variantsOfHostsAreLegible()
+    {
+        QFETCH(QString, file);
+        const SheetColors colors;
+        qApp->setStyleSheet(QStringLiteral("file:///" UIC_VARIANTS_DIR "/") + file);
+        constexpr Pair pairs[] = {
+            {"accentText", "accent", 4.5},
+            {"accentText", "accentHover", 4.5},
+            {"accentText", "accentPressed", 4.5},
+            {"selectionText", "selection", 4.5},
+            {"link", "window", 4.5},
+            {"link", "popup", 4.5},
+            {"link", "field", 4.5},
+            {"focus", "window", 3},
+            {"focus", "field", 3},
+            {"selection", "field", 3},
+        };
+        for (const Pair& pair : pairs) {
+            const double actual = contrast(colors.color(QString::fromLatin1(pair.upper)),
+                                           colors.color(QString::fromLatin1(pair.lower)));
+            QVERIFY2(actual >= pair.least,
+                     qPrintable(QStringLiteral("%1 on %2: %3")
+                                    .arg(QLatin1String(pair.upper), QLatin1String(pair.lower))
+                                    .arg(actual)));
+        }
+        // The marks on the accent stand out too.
+        QCheckBox box;
+        box.setChecked(true);
+        const QImage picture = box.grab().toImage();
+        const QColor accent = colors.color(QStringLiteral("accent"));
+        double best = 0;
+        for (int x = 0; x < 12; ++x) {
+            for (int y = 0; y < picture.height(); ++y) {
+                best = qMax(best, contrast(picture.pixelColor(x, y), accent));
+            }
+        }
+        QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
     }
 
     void hookChangesThePicture_data()
@@ -927,6 +703,22 @@ private Q_SLOTS:
         QVERIFY(widget->hasFocus());
         QCOMPARE(widget->sizeHint(), sizeBefore);
         QCOMPARE(widget->grab(inside).toImage(), before);
+    }
+
+    // It has "focusHint" from its first focus on.
+    void searchFieldIsAfterTheFocusAsBefore()
+    {
+        qApp->setStyleSheet(resourceSheet(styles().first()));
+        Stage stage(makeSearch);
+        QVERIFY(stage.isActive());
+        const QSize size = stage.widget()->sizeHint();
+        const QImage before = stage.picture();
+        focus(editOf(stage.widget()));
+        QCOMPARE(stage.widget()->sizeHint(), size);
+        stage.widget()->window()->setFocus();
+        QCOMPARE(stage.widget()->property("focusHint"), QVariant(false));
+        QCOMPARE(stage.widget()->sizeHint(), size);
+        QCOMPARE(stage.picture(), before);
     }
 
     void sliderIsFilledFromItsLeastValue_data()

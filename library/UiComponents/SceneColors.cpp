@@ -1,0 +1,34 @@
+#include "SceneColors.h"
+
+#include <qqml.h>
+
+void SceneColors::registerType()
+{
+    static const int type = qmlRegisterSingletonType<SceneColors>(
+        "UiComponents", 0, 1, "SheetColors",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SceneColors; });
+    Q_UNUSED(type)
+}
+
+SceneColors::SceneColors(QObject* parent)
+    : QQmlPropertyMap(this, parent)
+{
+    take();
+    connect(&m_provider, &SheetColorsProvider::changed, this, &SceneColors::take);
+}
+
+SceneColors::~SceneColors() = default;
+
+QVariant SceneColors::updateValue(const QString& key, const QVariant& input)
+{
+    Q_UNUSED(input)
+    return value(key);
+}
+
+void SceneColors::take()
+{
+    const QStringList names = SheetColorsProvider::names();
+    for (const QString& name : names) {
+        insert(name, m_provider.value(name));
+    }
+}
