@@ -41,13 +41,16 @@ struct Options
     const QCommandLineOption stylingManual{
         QStringLiteral("styling-manual"),
         QStringLiteral("Print, in Markdown, what a style sheet can use of each component.")};
+    const QCommandLineOption code{
+        QStringLiteral("code"),
+        QStringLiteral("Print the C++ that builds what each page shows. With --page, only that page.")};
     const QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Print this text.")};
 
     void addTo(QCommandLineParser& parser) const
     {
         parser.setApplicationDescription(QStringLiteral("Shows every component of UiComponents live."));
-        parser.addOptions({page, style, language, direction, tour, list, stylingManual, help});
+        parser.addOptions({page, style, language, direction, tour, list, stylingManual, code, help});
     }
 };
 
@@ -107,6 +110,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         line.action = Action::List;
     } else if (parser.isSet(options.stylingManual)) {
         line.action = Action::StylingManual;
+    } else if (parser.isSet(options.code)) {
+        line.action = Action::Code;
     }
     line.error = valueError(line, direction);
     if (line.action == Action::Tour && line.tourFolder.isEmpty()) {

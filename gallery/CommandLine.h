@@ -13,6 +13,7 @@ struct CommandLine
         Tour,
         List,
         StylingManual,
+        Code,
         Help,
     };
 

@@ -47,6 +47,7 @@ QSplitter* makeSplitter(const char* name, Qt::Orientation orientation, QWidget* 
 
 Page::Page(const PageInfo& info, QWidget* parent)
     : QFrame(parent)
+    , m_id(info.id)
 {
     setObjectName(QStringLiteral("galleryPage"));
     setAccessibleName(info.title);
@@ -111,6 +112,11 @@ void Page::describeStyling(QWidget* widget, const QString& sentence, const QStri
                            const QStringList& hints)
 {
     m_styleSubjects.append({widget, sentence, title, hints});
+}
+
+void Page::describeCode(QWidget* widget, const std::function<QStringList()>& lines)
+{
+    m_codeNotes.append({widget, lines});
 }
 
 void Page::prepareForPicture()

@@ -85,9 +85,19 @@ public:
     explicit Page(const PageInfo& info, QWidget* parent = nullptr);
     ~Page() override;
 
+    /// Lines of code behind those that build a widget.
+    struct CodeNote
+    {
+        QPointer<QWidget> widget;
+        /// A '$' in a line stands for the name of the widget. Includes are lines of their own.
+        std::function<QStringList()> lines;
+    };
+
+    QString id() const { return m_id; }
     PropertyPanel* properties() const { return m_properties; }
     SignalLogView* signalLog() const { return m_signalLog; }
     QVector<StyleSubject> styleSubjects() const { return m_styleSubjects; }
+    QVector<CodeNote> codeNotes() const { return m_codeNotes; }
 
     /// Shows a component twice. @p make takes the parent and returns a new component.
     template <typename Make>
@@ -129,6 +139,9 @@ public:
     void describeStyling(QWidget* widget, const QString& sentence, const QString& title = {},
                          const QStringList& hints = {});
 
+    /// Adds what the C++ that is copied cannot read from @p widget: @p lines is called when it is made.
+    void describeCode(QWidget* widget, const std::function<QStringList()>& lines);
+
     /// Brings everything that moves or differs from run to run to a fixed state.
     void prepareForPicture();
 
@@ -145,6 +158,7 @@ private:
     QFrame* makeCard(const char* twin, const QString& title);
     static void addToCard(QFrame* card, const QString& caption, QWidget* widget);
 
+    const QString m_id;
     QFrame* m_enabledCard = nullptr;
     QFrame* m_disabledCard = nullptr;
     QFrame* m_demonstrationCard = nullptr;
@@ -154,6 +168,7 @@ private:
     PropertyPanel* m_properties = nullptr;
     SignalLogView* m_signalLog = nullptr;
     QVector<StyleSubject> m_styleSubjects;
+    QVector<CodeNote> m_codeNotes;
     double m_maxSpecimenShare = 0.6;
     bool m_isSplitByUser = false;
 };

@@ -1,7 +1,10 @@
+#include "CodeText.h"
 #include "CommandLine.h"
 #include "GalleryApplication.h"
 #include "MainWindow.h"
+#include "Page.h"
 #include "PageRegistry.h"
+#include "StyleController.h"
 #include "StylingManual.h"
 #include "Tour.h"
 
@@ -55,6 +58,21 @@ void printList()
     }
 }
 
+void printCode(const CommandLine& line)
+{
+    StyleController style;
+    style.setStyle(line.style);
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    const QVector<PageInfo> pages = PageRegistry::pages();
+    for (const PageInfo& info : pages) {
+        if (line.page.isEmpty() || line.page == info.id) {
+            const Page page(info);
+            out << codeText(&page) << '\n';
+        }
+    }
+}
+
 int run(const CommandLine& line, bool hasDisplay)
 {
     switch (line.action) {
@@ -66,6 +84,9 @@ int run(const CommandLine& line, bool hasDisplay)
         return EXIT_SUCCESS;
     case CommandLine::Action::StylingManual:
         QTextStream(stdout) << stylingManual();
+        return EXIT_SUCCESS;
+    case CommandLine::Action::Code:
+        printCode(line);
         return EXIT_SUCCESS;
     case CommandLine::Action::Tour:
         return makeTour(line);

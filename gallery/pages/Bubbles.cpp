@@ -130,6 +130,10 @@ void PageRegistry::roundedPopup(Page* page)
                                        [](QWidget* parent) { return makeRoundedPanel(parent, Qt::Widget); });
 
     PropertyPanel* const panel = page->properties();
+    page->describeCode(panels.enabled, [] {
+        return QStringList{QStringLiteral("#include <EditorWidgets/Workaround.h>"),
+                           QStringLiteral("Workaround::Ui::apply($);")};
+    });
     panel->addSwitch(QStringLiteral("roundedEdges"), true, panels.setter([](QWidget* widget, bool on) {
         Util::applyProperty(widget, "roundedEdges", on);
     }));
@@ -175,6 +179,12 @@ void PageRegistry::highlightFrame(Page* page)
     panel->addSwitch(tr("Highlighted"), true, [setHighlighted, panel](bool on) {
         setHighlighted(on);
         panel->refresh();
+    });
+    page->describeCode(targets.enabled, [overlays] {
+        return overlays()().isEmpty()
+                   ? QStringList()
+                   : QStringList{QStringLiteral("#include <GuiHelper/HighlightFrame.h>"),
+                                 QStringLiteral("(new Orvane::Gui::HighlightFrame($))->setParent(parent);")};
     });
     panel->addProperties([overlays] { return overlays()(); }, {"borderColor", "borderWidth"});
     panel->addNumber(tr("Height of the target"), minHeight, maxHeight, minHeight,

@@ -22,6 +22,10 @@ namespace {
 EditSession* makeSession(Page* page, QWidget* field, QUndoStack* stack)
 {
     auto* session = new EditSession(field);
+    page->describeCode(field, [] {
+        return QStringList{QStringLiteral("#include <UiComponents/EditSession.h>"),
+                           QStringLiteral("new EditSession($);")};
+    });
     const auto document = std::make_shared<QVariant>(session->value());
     EditCommand::record(
         session, stack, [] { return PageRegistry::tr("Edit"); },

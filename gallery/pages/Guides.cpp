@@ -1,4 +1,5 @@
 #include "../BubbleStage.h"
+#include "../CodeText.h"
 #include "../Page.h"
 #include "../PageRegistry.h"
 #include "../Walk.h"
@@ -7,6 +8,7 @@
 #include <UiComponents/GuideButton.h>
 #include <UiComponents/GuideInfo.h>
 #include <UiComponents/GuideWidget.h>
+#include <WidgetToolkit/OvComboBox.h>
 
 #include <QVBoxLayout>
 
@@ -49,10 +51,22 @@ GuideInfo trim()
             link(PageRegistry::tr("More about trimming")), moviePath(2)};
 }
 
-void setGuideInfo(GuideButton* button, int choice)
+/// The info of a choice of the control; null for none.
+std::unique_ptr<GuideInfo> guideInfo(int choice)
 {
     const auto info = choice == 0 ? &trim : &rippleDelete;
-    button->setGuideInfo(choice == 2 ? nullptr : std::make_unique<GuideInfo>(info()));
+    return choice == 2 ? nullptr : std::make_unique<GuideInfo>(info());
+}
+
+QStringList guideCode(const std::unique_ptr<GuideInfo>& info)
+{
+    if (!info) {
+        return {};
+    }
+    return {QStringLiteral("#include <UiComponents/GuideInfo.h>"), QStringLiteral("#include <memory>"),
+            QStringLiteral("$->setGuideInfo(std::make_unique<GuideInfo>(%1, %2, %3, %4));")
+                .arg(codeString(info->title), codeString(info->description), codeString(info->learnMore),
+                     codeString(info->moviePath))};
 }
 
 /// Adds a text control for each of @p fields of @p info, which calls @p apply.
@@ -128,9 +142,9 @@ void PageRegistry::guideButton(Page* page)
     };
     const auto buttons = addButtons(tr("With an animated picture"), [](GuideButton* button) {
         button->setToolTip(tr("Trim"));
-        setGuideInfo(button, 0);
+        button->setGuideInfo(guideInfo(0));
     });
-    addButtons(tr("A title alone"), [](GuideButton* button) {
+    const auto titled = addButtons(tr("A title alone"), [](GuideButton* button) {
         const GuideInfo info(tr("Nothing more to say"), QString(), QString(), QString());
         button->setToolTip(info.title);
         button->setGuideInfo(std::make_unique<GuideInfo>(info));
@@ -140,8 +154,14 @@ void PageRegistry::guideButton(Page* page)
     PropertyPanel* const panel = page->properties();
     panel->addProperties(buttons);
     panel->addHeading(QStringLiteral("setGuideInfo()"));
-    panel->addChoice(tr("Info"), {tr("Trim"), tr("Ripple delete"), tr("none")}, 0,
-                     buttons.setter(&setGuideInfo));
+    const auto* choice = panel->addChoice(
+        tr("Info"), {tr("Trim"), tr("Ripple delete"), tr("none")}, 0,
+        buttons.setter([](GuideButton* button, int chosen) { button->setGuideInfo(guideInfo(chosen)); }));
+    page->describeCode(buttons.enabled, [choice] { return guideCode(guideInfo(choice->currentIndex())); });
+    page->describeCode(titled.enabled, [] {
+        return guideCode(
+            std::make_unique<GuideInfo>(tr("Nothing more to say"), QString(), QString(), QString()));
+    });
     panel->addSwitch(tr("Visible"), true, buttons.setter(&QWidget::setVisible));
     panel->addAction(QStringLiteral("click()"), buttons.enabled.data(), &GuideButton::click);
     QObject::connect(page, &Page::pictureRequested, buttons.enabled.data(), &GuideButton::click);

@@ -1,3 +1,4 @@
+#include "../CodeText.h"
 #include "../FolderBrowser.h"
 #include "../Page.h"
 #include "../PageRegistry.h"
@@ -11,9 +12,12 @@
 #include <UiComponents/PointSelectorWidget.h>
 #include <UiComponents/SearchWidget.h>
 #include <WidgetToolkit/OvComboBox.h>
+#include <WidgetToolkit/OvSpinBox.h>
 #include <WidgetToolkit/PropertyProviderBase.h>
 
+#include <QCheckBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QListView>
 #include <QResizeEvent>
 #include <QSortFilterProxyModel>
@@ -105,6 +109,15 @@ QWidget* makeBin(QWidget* parent)
     return bin;
 }
 
+QString errorTypeCode(int type)
+{
+    const QString name = type == PathSelectionWidget::Label ? QStringLiteral("PathSelectionWidget::Label")
+                         : type == PathSelectionWidget::Tooltip
+                             ? QStringLiteral("PathSelectionWidget::Tooltip")
+                             : QStringLiteral("{}");
+    return QStringLiteral("$->setErrorDisplayType(%1);").arg(name);
+}
+
 QString refuseHiddenFolders(const QString& path)
 {
     return QDir(path).dirName().startsWith(QLatin1Char('.'))
@@ -126,9 +139,22 @@ void PageRegistry::pointPlane(Page* page)
     panel->addHeading(QStringLiteral("setPoint()"));
     addPoint(panel, planes.enabled, planes.setter(&PointSelectionPlane::setPoint));
     panel->addHeading(QStringLiteral("setLimits()"));
-    panel->addSwitch(tr("Upside down"), false, planes.setter([](PointSelectionPlane* plane, bool on) {
-        plane->setLimits(on ? QRectF(pointLimits.bottomRight(), pointLimits.topLeft()) : pointLimits);
-    }));
+    const auto limits = [](bool isUpsideDown) {
+        return isUpsideDown ? QRectF(pointLimits.bottomRight(), pointLimits.topLeft()) : pointLimits;
+    };
+    const auto* upsideDown = panel->addSwitch(
+        tr("Upside down"), false,
+        planes.setter([limits](PointSelectionPlane* plane, bool on) { plane->setLimits(limits(on)); }));
+    page->describeCode(planes.enabled, [plane = planes.enabled, upsideDown, limits] {
+        const QRectF now = limits(upsideDown->isChecked());
+        const QPointF point = plane->point();
+        return QStringList{QStringLiteral("$->setLimits(QRectF(%1, %2, %3, %4));")
+                               .arg(now.x())
+                               .arg(now.y())
+                               .arg(now.width())
+                               .arg(now.height()),
+                           QStringLiteral("$->setPoint(QPointF(%1, %2));").arg(point.x()).arg(point.y())};
+    });
     panel->addHeading(QStringLiteral("PointSelectionPlanePropertyHelper"));
     panel->addProperties(planes.children<PropertyProviderBase>());
     QObject::connect(panel, &PropertyPanel::edited, page, [planes] { planes.each(&showStyleValues); });
@@ -273,9 +299,14 @@ void PageRegistry::adjustingList(Page* page)
 
     PropertyPanel* const panel = page->properties();
     panel->addHeading(QStringLiteral("setLoadingFinished()"));
-    panel->addSwitch(tr("Loading is finished"), true, [lists, logHeight](bool finished) {
-        lists.setter (&AdjustingListView::setLoadingFinished)(finished);
-        logHeight();
+    const auto* finished =
+        panel->addSwitch(tr("Loading is finished"), true, [lists, logHeight](bool isFinished) {
+            lists.setter (&AdjustingListView::setLoadingFinished)(isFinished);
+            logHeight();
+        });
+    page->describeCode(lists.enabled, [finished] {
+        return finished->isChecked() ? QStringList()
+                                     : QStringList{QStringLiteral("$->setLoadingFinished(false);")};
     });
     panel->addHeading(tr("The model"));
     for (const int count : {1, 100, maxClips}) {
@@ -331,10 +362,11 @@ void PageRegistry::pathSelection(Page* page)
     panel->addHeading(QStringLiteral("checkPath()"));
     panel->addAction(tr("Check the upper field"), check(upper, tr("upper")));
     panel->addAction(tr("Check the lower field"), check(lower, tr("lower")));
-    panel->addChoice(tr("The upper field's error"), {tr("nowhere"), tr("tool tip"), tr("label")},
-                     PathSelectionWidget::Tooltip, upper.setter([](PathSelectionWidget* field, int type) {
-                         field->setErrorDisplayType(static_cast<PathSelectionWidget::ErrorDisplayType>(type));
-                     }));
+    const auto* errorType = panel->addChoice(
+        tr("The upper field's error"), {tr("nowhere"), tr("tool tip"), tr("label")},
+        PathSelectionWidget::Tooltip, upper.setter([](PathSelectionWidget* field, int type) {
+            field->setErrorDisplayType(static_cast<PathSelectionWidget::ErrorDisplayType>(type));
+        }));
     panel->addSwitch(tr("Refuse hidden folders instead"), false, [upper, lower](bool on) {
         for (const auto& fields : {upper, lower}) {
             fields.each([on](PathSelectionWidget* field) {
@@ -344,14 +376,23 @@ void PageRegistry::pathSelection(Page* page)
     });
     panel->addHeading(tr("The upper field"));
     panel->addText(tr("Path"), QString(), upper.setter(&PathSelectionWidget::setPath));
-    panel->addText(tr("Default path's text"), tr("Home folder"),
-                   upper.setter([](PathSelectionWidget* field, const QString& text) {
-                       field->setDefaultPath(QDir::homePath(), text);
-                   }));
-    panel->addNumber(tr("Required megabytes"), -1, maxMegabytes, requiredMegabytes,
-                     upper.setter([](PathSelectionWidget* field, int megabytes) {
-                         field->showRequiredSpace(true, megabytes * megabyte);
-                     }));
+    const auto* defaultText =
+        panel->addText(tr("Default path's text"), tr("Home folder"),
+                       upper.setter([](PathSelectionWidget* field, const QString& text) {
+                           field->setDefaultPath(QDir::homePath(), text);
+                       }));
+    const auto* required = panel->addNumber(tr("Required megabytes"), -1, maxMegabytes, requiredMegabytes,
+                                            upper.setter([](PathSelectionWidget* field, int megabytes) {
+                                                field->showRequiredSpace(true, megabytes * megabyte);
+                                            }));
+    page->describeCode(upper.enabled, [errorType, defaultText, required] {
+        return QStringList{
+            QStringLiteral("$->setDefaultPath(QDir::homePath(), %1);").arg(codeString(defaultText->text())),
+            QStringLiteral("#include <QDir>"),
+            QStringLiteral("$->showRequiredSpace(true, %1);").arg(required->value() * megabyte),
+            QStringLiteral("$->showAvailableSpace(true, -1);"), errorTypeCode(errorType->currentIndex())};
+    });
+    page->describeCode(lower.enabled, [] { return QStringList{errorTypeCode(PathSelectionWidget::Label)}; });
     page->signalLog()->watch(upper.enabled, "upper");
     page->signalLog()->watch(lower.enabled, "lower");
     page->describeStyling(upper.enabled,

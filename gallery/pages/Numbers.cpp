@@ -190,6 +190,16 @@ void PageRegistry::boundWidgets(Page* page)
     doubleSliders.setter (&OvDoubleSlider::setMultiplier)(0.01);
     doubleSliders.setter (&OvDoubleSlider::setDoubleValue)(0.5);
 
+    const auto describeBinding = [page](OvFrame* frame, const QString& slider, const QString& spinBox) {
+        page->describeCode(frame, [slider, spinBox] {
+            return QStringList{QStringLiteral("#include <WidgetToolkit/Util.h>"),
+                               QStringLiteral("Util::bindWidgets($->findChild<%1*>(), $->findChild<%2*>());")
+                                   .arg(slider, spinBox)};
+        });
+    };
+    describeBinding(numbers.enabled, QStringLiteral("OvCustomSlider"), QStringLiteral("OvSpinBox"));
+    describeBinding(fractions.enabled, QStringLiteral("OvDoubleSlider"), QStringLiteral("OvDoubleSpinBox"));
+
     PropertyPanel* const panel = page->properties();
     panel->addHeading(tr("Fractions"));
     panel->addNumber(QStringLiteral("decimals"), 0, 9, decimals,

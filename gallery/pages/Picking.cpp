@@ -109,6 +109,12 @@ void PageRegistry::pipette(Page* page)
     start->setObjectName(QStringLiteral("startPipette"));
     QObject::connect(start, &QPushButton::clicked, pipette, &Pipette::startPicking);
     followAvailability(start, pipette);
+    page->describeCode(start, [] {
+        return QStringList{
+            QStringLiteral("#include <UiComponents/Pipette.h>"),
+            QStringLiteral("auto* pipette = new Pipette(parent);"),
+            QStringLiteral("QObject::connect($, &QPushButton::clicked, pipette, &Pipette::startPicking);")};
+    });
     page->addDemonstration(QString(), start);
     page->addDemonstration(tr("What it picked, the latest first"), makePickedColors(pipette));
     const auto loupes = page->addTwins<LoupeWidget>(tr("The loupe by itself"), &setUpLoupe);

@@ -1,3 +1,4 @@
+#include "../CodeText.h"
 #include "../Page.h"
 #include "../PageRegistry.h"
 #include "../ResultTable.h"
@@ -80,6 +81,7 @@ public:
     void open();
     void openAgain();
     /// Without the folder, whose name differs from run to run.
+    QString fileName() const { return m_fileName; }
     void showFileName() { m_results->setResult(tr("File"), m_fileName); }
 
 private:
@@ -183,5 +185,11 @@ void PageRegistry::qmlDialog(Page* page)
     panel->addAction(tr("Open a new dialog"), editor, &SceneEditor::open);
     panel->addAction(tr("Open the last dialog again"), editor, &SceneEditor::openAgain);
     panel->addAction(tr("Original source"), editor, &SceneEditor::showOriginal);
+    page->describeCode(editor, [editor] {
+        return QStringList{QStringLiteral("#include <UiComponents/QuickDialog.h>"),
+                           QStringLiteral("auto* dialog = new Qml::QuickDialog(parent);"),
+                           QStringLiteral("dialog->setQmlPath(%1);").arg(codeString(editor->fileName())),
+                           QStringLiteral("// dialog->exec() shows it and returns how it was ended.")};
+    });
     QObject::connect(page, &Page::pictureRequested, editor, &SceneEditor::showFileName);
 }
