@@ -6,6 +6,7 @@
 #include "PageRegistry.h"
 #include "StyleController.h"
 #include "SwitchBar.h"
+#include "Workbench.h"
 
 #include <UiComponents/DialogGuideWidget.h>
 
@@ -16,6 +17,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QToolButton>
 
 namespace {
 
@@ -38,6 +40,7 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
     , m_switches(new SwitchBar(this))
     , m_list(new PageList(this))
     , m_pageHolder(new QFrame(this))
+    , m_workbench(new Workbench(m_style, this))
 {
     setObjectName(QStringLiteral("galleryWindow"));
     m_pageHolder->setObjectName(QStringLiteral("pageHolder"));
@@ -53,6 +56,7 @@ MainWindow::MainWindow(const CommandLine& start, QWidget* parent)
     layout->addWidget(m_pageHolder, 1);
     setCentralWidget(body);
     addToolBar(m_switches);
+    addWorkbench();
     // At a large scale the screen may be smaller than that.
     resize(startSize.boundedTo(screen()->availableSize()));
 
@@ -125,6 +129,17 @@ void MainWindow::setDirection(Qt::LayoutDirection direction)
     rebuildPage();
 }
 
+void MainWindow::addWorkbench()
+{
+    addDockWidget(Qt::BottomDockWidgetArea, m_workbench);
+    auto* toggle = new QToolButton(m_list);
+    toggle->setObjectName(QStringLiteral("workbenchToggle"));
+    toggle->setDefaultAction(m_workbench->toggleViewAction());
+    toggle->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    toggle->setFocusPolicy(Qt::StrongFocus);
+    m_list->layout()->addWidget(toggle);
+}
+
 void MainWindow::connectSwitches()
 {
     connect(m_list, &PageList::pageChosen, this, &MainWindow::showPage);
@@ -141,6 +156,7 @@ void MainWindow::connectSwitches()
         m_switches->setLanguage(code);
         m_list->retranslate();
         m_switches->setDirection(QApplication::layoutDirection());
+        m_workbench->retranslate();
         rebuildPage();
     });
 }
@@ -162,6 +178,7 @@ void MainWindow::addShortcuts()
             }
         }
     });
+    add(QKeySequence(Qt::Key_F12), [this] { m_workbench->point(); });
     add(QKeySequence::Quit, [this] { close(); });
 }
 
@@ -187,6 +204,7 @@ void MainWindow::rebuildPage()
     }
     m_page = new Page(*info, m_pageHolder);
     m_pageHolder->layout()->addWidget(m_page);
+    m_workbench->setPage(m_page);
     setWindowTitle(tr("%1 – UiComponents Gallery").arg(info->title));
     Q_EMIT pageShown(m_pageId);
 }

@@ -11,6 +11,7 @@ class PageList;
 class QFrame;
 class StyleController;
 class SwitchBar;
+class Workbench;
 
 /**
  * The gallery's window: the list of pages, the page that is shown and the switches.
@@ -33,6 +34,7 @@ public:
     Page* page() const;
 
     PageList* pageList() const { return m_list; }
+    Workbench* workbench() const { return m_workbench; }
 
     /// An unknown id does nothing.
     void showPage(const QString& id);
@@ -49,6 +51,7 @@ Q_SIGNALS:
     void restartRequested(double scale);
 
 private:
+    void addWorkbench();
     void connectSwitches();
     void addShortcuts();
     void askForStyleFile();
@@ -59,6 +62,7 @@ private:
     SwitchBar* const m_switches;
     PageList* const m_list;
     QFrame* const m_pageHolder;
+    Workbench* const m_workbench;
     QPointer<Page> m_page;
     QString m_pageId;
 };

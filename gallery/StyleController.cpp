@@ -99,13 +99,24 @@ bool StyleController::setStyle(const QString& style)
     return true;
 }
 
+bool StyleController::isFile() const
+{
+    return !m_style.isEmpty() && !builtInStyles().contains(m_style);
+}
+
+bool StyleController::save()
+{
+    QFile file(m_style);
+    return isFile() && file.open(QIODevice::WriteOnly) && file.write(m_contents) == m_contents.size();
+}
+
 void StyleController::watch()
 {
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     if (!watched.isEmpty()) {
         m_watcher.removePaths(watched);
     }
-    if (!builtInStyles().contains(m_style)) {
+    if (isFile()) {
         // The folder too: the watch ends when an editor replaces the file.
         m_watcher.addPath(QFileInfo(m_style).absolutePath());
         m_watcher.addPath(m_style);

@@ -28,6 +28,18 @@ public:
     /// cannot be read.
     bool setStyle(const QString& style);
 
+    /// Whether the style is a file.
+    bool isFile() const;
+
+    /// The text of the sheet, without the rules for the gallery's own window.
+    QString sheet() const { return QString::fromUtf8(m_contents); }
+
+    /// Applies @p text in the place of the sheet's, until the next style or the next change of the file.
+    void setSheet(const QString& text) { apply(text.toUtf8()); }
+
+    /// Writes sheet() into the file. Returns false when that fails.
+    bool save();
+
 Q_SIGNALS:
     /// The application has a new sheet, or the new contents of the file.
     void styleApplied(const QString& style);
