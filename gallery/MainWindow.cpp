@@ -138,6 +138,10 @@ void MainWindow::addWorkbench()
     toggle->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     toggle->setFocusPolicy(Qt::StrongFocus);
     m_list->layout()->addWidget(toggle);
+    auto* point = new QShortcut(QKeySequence(Qt::Key_F12), this);
+    // In pop-ups too.
+    point->setContext(Qt::ApplicationShortcut);
+    connect(point, &QShortcut::activated, m_workbench, &Workbench::point);
 }
 
 void MainWindow::connectSwitches()
@@ -178,7 +182,6 @@ void MainWindow::addShortcuts()
             }
         }
     });
-    add(QKeySequence(Qt::Key_F12), [this] { m_workbench->point(); });
     add(QKeySequence::Quit, [this] { close(); });
 }
 

@@ -125,6 +125,10 @@ private:
         m_parser.skipSpace();
         while (!m_parser.test(QCss::RBRACE)) {
             if (!readDeclaration(&rule, type)) {
+                fail();
+                skipDeclaration();
+            }
+            if (!m_parser.hasNext()) {
                 return false;
             }
         }
@@ -161,12 +165,36 @@ private:
         return true;
     }
 
+    /// Goes on as Qt does, behind the next semicolon or at the end of the rule.
+    void skipDeclaration()
+    {
+        const auto next = [this] {
+            return m_parser.hasNext() ? m_parser.symbols.at(m_parser.index).token : QCss::RBRACE;
+        };
+        while (next() != QCss::SEMICOLON && next() != QCss::RBRACE) {
+            m_parser.next();
+        }
+        while (m_parser.test(QCss::SEMICOLON) || m_parser.test(QCss::S)) {
+        }
+    }
+
     bool readAssignment(QCss::Declaration* declaration)
     {
         if (!m_parser.testProperty() || !m_parser.parseProperty(declaration) || !m_parser.test(QCss::COLON)) {
             return false;
         }
         m_parser.skipSpace();
+        // Qt logs a warning for a colour with too few digits.
+        for (int i = m_parser.index; i < m_parser.symbols.size(); ++i) {
+            const QCss::Symbol& symbol = m_parser.symbols.at(i);
+            if (symbol.token == QCss::SEMICOLON || symbol.token == QCss::RBRACE) {
+                break;
+            }
+            if (symbol.token == QCss::HASH && !QColor::isValidColor(symbol.lexem())) {
+                m_parser.index = i;
+                return false;
+            }
+        }
         return m_parser.parseNextExpr(&declaration->d->values) &&
                (!m_parser.testPrio() || m_parser.parsePrio(declaration));
     }
@@ -256,8 +284,15 @@ SheetText::SheetText(const QString& text)
     : m_text(text)
 {
     Reader(this).read();
-    auto sheet = std::make_shared<QCss::StyleSheet>();
-    QCss::Parser(text).parse(sheet.get());
-    sheet->origin = QCss::StyleSheetOrigin_Inline;
-    m_sheet = std::move(sheet);
+}
+
+const QCss::StyleSheet& SheetText::sheet() const
+{
+    if (!m_sheet) {
+        auto sheet = std::make_shared<QCss::StyleSheet>();
+        QCss::Parser(m_text).parse(sheet.get());
+        sheet->origin = QCss::StyleSheetOrigin_Inline;
+        m_sheet = std::move(sheet);
+    }
+    return *m_sheet;
 }

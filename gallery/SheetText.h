@@ -46,12 +46,12 @@ public:
     /// Says what is wrong there, in the present language.
     QString error() const { return m_error; }
 
-    /// All rules, or those before the first error. Rules below an at-rule are left out, as in widgets.
+    /// All rules; those before the first error that Qt would not pass over. Rules below an at-rule are left
+    /// out, as in widgets.
     QVector<Rule> rules() const { return m_rules; }
 
-    /// The sheet as Qt compares it with widgets. The order of a rule in it is its index in rules(), if there
-    /// is no error.
-    const QCss::StyleSheet& sheet() const { return *m_sheet; }
+    /// The sheet as Qt compares it with widgets. The order of a rule in it is its index in rules().
+    const QCss::StyleSheet& sheet() const;
 
 private:
     class Reader;
@@ -60,7 +60,8 @@ private:
     QVector<Rule> m_rules;
     int m_errorLine = 0;
     QString m_error;
-    std::shared_ptr<const QCss::StyleSheet> m_sheet;
+    /// Made when it is asked for: Qt logs warnings for some errors.
+    mutable std::shared_ptr<const QCss::StyleSheet> m_sheet;
 };
 
 /// The name by which a type selector selects a class: that of a class in a namespace has dashes for colons.

@@ -16,7 +16,6 @@ constexpr int lineRole = Qt::UserRole;
 /// The widget of a row, as a QPointer<QObject>.
 constexpr int widgetRole = Qt::UserRole + 1;
 constexpr int nameWidth = 250;
-constexpr double faintness = 0.6;
 
 QTreeWidgetItem* addRow(QTreeWidgetItem* group, const QString& name, const QString& value)
 {
@@ -26,11 +25,10 @@ QTreeWidgetItem* addRow(QTreeWidgetItem* group, const QString& name, const QStri
     return row;
 }
 
-void setLook(QTreeWidgetItem* row, const QFont& font, const QBrush& text)
+void setFont(QTreeWidgetItem* row, const QFont& font)
 {
     for (int column = 0; column < row->columnCount(); ++column) {
         row->setFont(column, font);
-        row->setForeground(column, text);
     }
 }
 
@@ -99,6 +97,11 @@ void WidgetFacts::show(QWidget* widget, const SheetText& sheet, int lines)
         addProperties(widget);
         addWidgets(widget);
     }
+    for (int i = topLevelItemCount() - 1; i >= 0; --i) {
+        if (topLevelItem(i)->childCount() == 0) {
+            delete topLevelItem(i);
+        }
+    }
     verticalScrollBar()->setValue(scrolled);
 }
 
@@ -120,24 +123,18 @@ void WidgetFacts::addNames(const QWidget* widget)
     addRow(group, tr("Base classes"), baseClasses(widget).join(QStringLiteral(", ")));
     addRow(group, tr("Object name"), widget->objectName());
     const QList<QByteArray> names = widget->dynamicPropertyNames();
-    QTreeWidgetItem* properties = nullptr;
+    QTreeWidgetItem* const properties = addGroup(tr("Dynamic properties"));
     for (const QByteArray& name : names) {
-        // Qt's own.
-        if (name.startsWith("_q_")) {
-            continue;
+        // Qt's own begin so.
+        if (!name.startsWith("_q_")) {
+            addRow(properties, QString::fromUtf8(name), valueText(widget->property(name.constData())));
         }
-        if (!properties) {
-            properties = addGroup(tr("Dynamic properties"));
-        }
-        addRow(properties, QString::fromUtf8(name), valueText(widget->property(name.constData())));
     }
 }
 
 void WidgetFacts::addRules(const QWidget* widget, const SheetText& sheet, int lines)
 {
     const QVector<AppliedRule> rules = appliedRules(widget, sheet);
-    QColor faint = palette().color(QPalette::Text);
-    faint.setAlphaF(faintness);
     QTreeWidgetItem* const group = addGroup(tr("Rules, the strongest first"));
     for (const AppliedRule& rule : rules) {
         const bool isOpen = !rule.owner && rule.line <= lines;
@@ -149,13 +146,13 @@ void WidgetFacts::addRules(const QWidget* widget, const SheetText& sheet, int li
         row->setData(0, lineRole, isOpen ? rule.line : 0);
         QFont usual = font();
         usual.setItalic(!rule.holdsNow);
-        setLook(row, usual, rule.holdsNow ? QBrush() : faint);
+        ::setFont(row, usual);
         for (const AppliedRule::Declaration& declaration : rule.declarations) {
             QTreeWidgetItem* const line = addRow(row, declaration.property, declaration.value);
             line->setData(0, lineRole, isOpen ? declaration.line : 0);
             QFont own = usual;
             own.setStrikeOut(declaration.isOverridden);
-            setLook(line, own, row->foreground(0));
+            ::setFont(line, own);
         }
         row->setExpanded(true);
     }

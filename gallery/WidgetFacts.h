@@ -13,8 +13,8 @@ class HighlightFrame;
 
 /**
  * What a style sheet can know of a widget: class, name and properties, the rules that select it, the
- * strongest first, and the widgets around it. Rules that need other states than the present ones are faint,
- * what a stronger rule overrides is struck out.
+ * strongest first, and the widgets around it. Rules that need other states than the present ones are in
+ * italics, what a stronger rule overrides is struck out.
  *
  * While the row of another widget is the current one, that is outlined.
  */

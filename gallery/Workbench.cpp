@@ -15,7 +15,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QSplitter>
-#include <QStyle>
 #include <QToolButton>
 
 Workbench::Workbench(StyleController* style, QWidget* parent)
@@ -43,9 +42,13 @@ Workbench::Workbench(StyleController* style, QWidget* parent)
     halves->setChildrenCollapsible(false);
     halves->addWidget(m_facts);
     halves->addWidget(m_editor);
-    const int margin = QWidget::style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
-    halves->setContentsMargins(margin, 0, margin, margin);
-    setWidget(halves);
+    auto* body = new QWidget;
+    auto* layout = new QHBoxLayout(body);
+    layout->addWidget(halves);
+    QMargins margins = layout->contentsMargins();
+    margins.setTop(0);
+    layout->setContentsMargins(margins);
+    setWidget(body);
     auto* header = new QFrame;
     header->setObjectName(QStringLiteral("workbenchHeader"));
     auto* buttons = new QHBoxLayout(header);
@@ -112,7 +115,8 @@ void Workbench::retranslate()
     setWindowTitle(tr("Workbench"));
     m_point->setText(tr("Point at a widget"));
     m_point->setToolTip(tr("Click any widget to see what a sheet can know of it (F12); Escape ends it"));
-    m_copy->setText(tr("Copy C++"));
+    // Without the mark its signs change sides where texts run from right to left.
+    m_copy->setText(tr("Copy C++") + QChar(0x200E));
     m_copy->setToolTip(tr("Copies the code that builds what the page shows, with its present values"));
     m_save->setText(tr("Save"));
     m_save->setToolTip(tr("Writes the sheet into its file; a built-in sheet has none"));

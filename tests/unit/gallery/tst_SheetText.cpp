@@ -29,6 +29,16 @@ private Q_SLOTS:
         QVERIFY(sheet.rules().last().declarations.isEmpty());
     }
 
+    // What Qt passes over is in the sheet, and the rules behind it are where they are.
+    void rulesAfterAnError()
+    {
+        const SheetText sheet("QLabel { a; color: red; x: 3 }\nQFrame { b: }\n QDial { margin: 3px }");
+        QCOMPARE(sheet.errorLine(), 1);
+        QCOMPARE(sheet.rules().size(), 3);
+        QCOMPARE(sheet.rules().first().declarations.size(), 2);
+        QCOMPARE(sheet.rules().last().line, 3);
+    }
+
     void errors_data()
     {
         QTest::addColumn<QString>("text");
@@ -58,6 +68,8 @@ private Q_SLOTS:
         QTest::newRow("comment without an end") << "QLabel {}\n/* QFrame {}" << 2 << "error near “}”";
         QTest::newRow("text without an end")
             << "QLabel {\n  qproperty-text: \"a;\n}" << 2 << "error near “\"a;”";
+        QTest::newRow("colour") << "QLabel {\n  border: 1px solid #12;\n}" << 2 << "error near “#12”";
+        QTest::newRow("two errors") << "QLabel {\n  a: 1;\n  b\n}\n}" << 2 << "there is no property “a”";
         QTest::newRow("property") << "QLabel {\n  color: red;\n  colour: red;\n}" << 3
                                   << "there is no property “colour”";
         QTest::newRow("property of the class")
