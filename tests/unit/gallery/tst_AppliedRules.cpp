@@ -105,6 +105,28 @@ private Q_SLOTS:
         QTEST(rules.join(", "), "expected");
     }
 
+    // For Qt, 256 rules weigh as much as one type in a selector.
+    void farBehind_data()
+    {
+        QTest::addColumn<int>("between");
+        QTest::addColumn<QString>("first");
+        QTest::newRow("254 rules between") << 254 << "near";
+        QTest::newRow("255 rules between") << 255 << "far";
+        QTest::newRow("256 rules between") << 256 << "far";
+    }
+
+    void farBehind()
+    {
+        QFETCH(int, between);
+        const QString sheet = "QFrame QPushButton { qproperty-accessibleName: near; }" +
+                              QString("QDial { }").repeated(between) +
+                              "QPushButton { qproperty-accessibleName: far; }";
+        QTEST(applied(sheet).first().declarations.first().value, "first");
+        qApp->setStyleSheet(sheet);
+        button()->ensurePolished();
+        QTEST(button()->accessibleName(), "first");
+    }
+
     void namespaces()
     {
         const SheetText sheet("Orvane--Tessel--TesselLineEdit { color: red; }");
