@@ -578,8 +578,9 @@ private:
 
     void addInclude(const QString& file) { m_includes.append(QStringLiteral("#include <%1>").arg(file)); }
 
-    /// Builds @p widget, and what is in it, as a child of the variable @p parent.
-    void build(QWidget* widget, const QString& parent)
+    /// Builds @p widget, and what is in it, as a child of the variable @p parent. Without @p isNeeded it has
+    /// a variable of its own only if lines follow that use it.
+    void build(QWidget* widget, const QString& parent, bool isNeeded = false)
     {
         const Kind& kind = kindOf(widget);
         const QString type = QString::fromLatin1(kind.name);
@@ -606,7 +607,7 @@ private:
                 addCalls(note.lines(), variableName);
             }
         }
-        if (m_lines.size() == place + 1) {
+        if (m_lines.size() == place + 1 && !isNeeded) {
             m_lines.last() = QStringLiteral("    ") + construction + QLatin1Char('\n');
         }
     }
@@ -766,13 +767,8 @@ private:
         QLayoutItem* const item = layout->itemAt(index);
         QString what;
         if (QWidget* const widget = item->widget()) {
-            build(widget, parent);
+            build(widget, parent, true);
             what = m_names.value(widget);
-            // Its own name, even where nothing else needs it.
-            const QString unnamed = QStringLiteral("    new ");
-            if (m_lines.last().startsWith(unnamed)) {
-                m_lines.last().replace(0, unnamed.size(), QStringLiteral("    auto* %1 = new ").arg(what));
-            }
         } else if (QLayout* const inner = item->layout()) {
             what = buildLayout(inner, QString(), parent);
         }

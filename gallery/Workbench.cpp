@@ -86,7 +86,7 @@ void Workbench::inspect(QWidget* widget)
     m_widget = widget;
     if (widget) {
         widget->installEventFilter(this);
-        connect(widget, &QObject::destroyed, this, [this] {
+        m_destroyed = connect(widget, &QObject::destroyed, this, [this] {
             // Not cleared yet.
             m_widget.clear();
             showFacts();
@@ -164,7 +164,7 @@ void Workbench::forget()
 {
     if (m_widget) {
         m_widget->removeEventFilter(this);
-        m_widget->disconnect(this);
+        disconnect(m_destroyed);
     }
 }
 

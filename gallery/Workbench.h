@@ -65,6 +65,7 @@ private:
     QLabel* const m_message;
     WidgetPointer* const m_pointer;
     QPointer<QWidget> m_widget;
+    QMetaObject::Connection m_destroyed;
     QPointer<Page> m_page;
     /// The open sheet as the editor last agreed with it.
     QString m_known;

@@ -180,6 +180,21 @@ private Q_SLOTS:
         QVERIFY(qApp->styleSheet().indexOf("#specimenCard") > qApp->styleSheet().indexOf("222px"));
     }
 
+    void pointingAtTheWorkbenchItself()
+    {
+        for (QWidget* part : {static_cast<QWidget*>(editor()), static_cast<QWidget*>(facts()),
+                              static_cast<QWidget*>(m_window->findChild<QLabel*>("workbenchMessage"))}) {
+            m_window->workbench()->inspect(part);
+            part->setFocus();
+            editor()->appendPlainText("{");
+            editor()->undo();
+        }
+        m_window->workbench()->inspect(button());
+        editor()->appendPlainText("#colorPicker { min-width: 222px; }");
+        QVERIFY(qApp->styleSheet().contains("222px"));
+        m_window->workbench()->inspect(editor());
+    }
+
     void aBrokenSheetKeepsTheLastGoodOne()
     {
         const QString good = qApp->styleSheet();
