@@ -1,14 +1,15 @@
 #include "TitleInspector.h"
 
 #include <UiComponents/EditSession.h>
+#include <UiComponents/Translations.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QListWidget>
+#include <QLocale>
 #include <QPainter>
 #include <QSplitter>
 #include <QStyleFactory>
-#include <QTranslator>
 #include <QUndoStack>
 
 /// Paints the titles one below the other.
@@ -53,10 +54,7 @@ int main(int argc, char** argv)
     //! [look]
 
     //! [language]
-    QTranslator texts;
-    if (texts.load(QLocale(), "uicomponents", "_", FIRST_HOUR_SHARE "/translations")) {
-        QApplication::installTranslator(&texts);
-    }
+    Translations::load(QLocale());
     //! [language]
 
     //! [window]

@@ -279,13 +279,15 @@ void Editor::setStyle(const QString& name)
 
 void Editor::setLanguage(const QString& code)
 {
-    const EditSession::Refresh guard(m_inspector);
+    //! [language]
+    const EditSession::Refresh guard(m_inspector); // no spin box that writes its number anew is an edit
     const QLocale locale(code);
     QLocale::setDefault(locale);
     setLocale(locale); // numbers
     m_texts.load(QStringLiteral("titlecard_") + code, QCoreApplication::applicationDirPath());
     Translations::load(locale); // and the direction
     retranslate();
+    //! [language]
 }
 
 void Editor::retranslate()
