@@ -1,6 +1,7 @@
 #include "TitleInspector.h"
 
 #include <UiComponents/EditSession.h>
+#include <UiComponents/SheetColors.h>
 #include <UiComponents/Translations.h>
 
 #include <QAction>
@@ -50,6 +51,7 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // before there is an application
     QApplication application(argc, argv);
     application.setStyle(QStyleFactory::create("Fusion"));
+    const SheetColors colors; // links in texts get the sheet's colour
     application.setStyleSheet("file:///" FIRST_HOUR_SHARE "/styles/dark.qss");
     //! [look]
 

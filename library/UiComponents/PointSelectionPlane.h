@@ -38,6 +38,7 @@
  * `PointSelectionPlanePropertyHelper[enabled="false"]` is for the disabled plane. Without a valid MarkerColor
  * there is no marker; other missing colours are those of the palette. A new sheet takes effect at once. Of
  * values that code sets, FillColor does so on the next resize, the others on the next paint.
+ * @see PointSelectorWidget
  */
 class UICOMPONENTS_EXPORT PointSelectionPlane : public OvFrame
 {

@@ -36,7 +36,7 @@
  *
  *     import UiComponents 0.1
  *     Rectangle { color: SheetColors.popup; border.color: SheetColors.border; radius: SheetColors.radius }
- * @see QuickDialog
+ * @see Qml::QuickDialog, Qml::QuickContent
  */
 class UICOMPONENTS_EXPORT SheetColors : public QObject
 {
