@@ -602,6 +602,7 @@ bool EditSession::Private::takeText()
     QLineEdit* const editor = self ? editorOf(part) : nullptr;
     if (editor) {
         forgetTyping(editor);
+        face->coverTexts();
     }
     return self;
 }
@@ -665,6 +666,7 @@ void EditSession::Private::cancel()
         --holds;
         refused.clear();
         last = access.read();
+        face->coverTexts();
         end(false);
     }
 }

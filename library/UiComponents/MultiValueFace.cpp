@@ -85,6 +85,15 @@ void MultiValueFace::setShown(bool shown)
     }
 }
 
+void MultiValueFace::coverTexts() const
+{
+    for (const QPointer<QWidget>& cover : m_covers) {
+        if (cover) {
+            cover->show();
+        }
+    }
+}
+
 bool MultiValueFace::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange && watched == m_field) {
@@ -115,7 +124,9 @@ void MultiValueFace::cover(QWidget* part)
     label->setForegroundRole(edit ? QPalette::Text : QPalette::ButtonText);
     label->setAlignment((edit ? edit->alignment() : Qt::AlignLeading) | Qt::AlignVCenter);
     QWidget* cover = label;
-    if (!edit) {
+    if (edit) {
+        connect(edit, &QLineEdit::textEdited, label, &QWidget::hide);
+    } else {
         // Qt keeps style sheets from a frame right in a combo box.
         cover = new QWidget(part);
         cover->setAttribute(Qt::WA_TransparentForMouseEvents);

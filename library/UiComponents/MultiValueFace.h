@@ -10,7 +10,7 @@ class QWidget;
 
 /**
  * Covers the texts of a field while it stands for several values, and says so to style sheets and to screen
- * readers. The field keeps its value below.
+ * readers. The field keeps its value below. What the user types is seen, also before it is a value.
  */
 class MultiValueFace : public QObject
 {
@@ -23,6 +23,8 @@ public:
 
     bool isShown() const { return m_isShown; }
     void setShown(bool shown);
+    /// What was typed is over, and was no value.
+    void coverTexts() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1162,6 +1162,12 @@ private Q_SLOTS:
         session.setMultiValue(true);
         field.show();
         QVERIFY(QTest::qWaitForWindowActive(&field));
+        const auto* const cover = field.findChild<QLabel*>("multiValueCover");
+        QVERIFY(cover->isVisible());
+        QTest::keyClick(&field, Qt::Key_7);
+        QVERIFY(!cover->isVisible());
+        QTest::keyClick(&field, Qt::Key_Escape);
+        QVERIFY(cover->isVisible());
         QTest::keyClicks(&field, "72");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(committed.count(), 1);
@@ -1190,6 +1196,7 @@ private Q_SLOTS:
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(started.count(), 0);
         QVERIFY(session.isMultiValue());
+        QVERIFY(field.findChild<QLabel*>("multiValueCover")->isVisible());
     }
 
     void hiddenTextIsReplaced_data()
