@@ -111,7 +111,7 @@ void SheetEditor::paintMargin()
             painter.fillRect(QRectF(0, row.top(), m_margin->width(), row.height()), errorMark);
         }
         painter.setPen(line == m_errorLine ? palette().color(QPalette::Text) : color);
-        painter.drawText(row, Qt::AlignRight | Qt::AlignVCenter, QString::number(line));
+        painter.drawText(row, Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute, QString::number(line));
         block = block.next();
         place = blockBoundingGeometry(block).translated(contentOffset());
     }

@@ -49,6 +49,7 @@ private Q_SLOTS:
         QTest::newRow("list") << QStringList{"--list"} << CommandLine::Action::List;
         QTest::newRow("styling manual")
             << QStringList{"--styling-manual"} << CommandLine::Action::StylingManual;
+        QTest::newRow("code") << QStringList{"--code"} << CommandLine::Action::Code;
         QTest::newRow("help") << QStringList{"--help"} << CommandLine::Action::Help;
         QTest::newRow("help, short") << QStringList{"-h"} << CommandLine::Action::Help;
     }
