@@ -135,6 +135,15 @@ private Q_SLOTS:
         QCOMPARE(m_window->workbench()->inspected(), face);
     }
 
+    void disabledWidgetsAreSeenToo()
+    {
+        field()->setEnabled(false);
+        pointButton()->click();
+        move(button());
+        QCOMPARE(m_window->workbench()->inspected(), button()->findChild<QWidget*>("color"));
+        pointButton()->click();
+    }
+
     void buttonEndsIt()
     {
         QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {}, inWindow(pointButton()));
@@ -218,7 +227,7 @@ private Q_SLOTS:
     {
         const QString good = qApp->styleSheet();
         editor()->moveCursor(QTextCursor::End);
-        QTest::keyClicks(editor(), "Q { qproperty-x: \"a\"; color: red; /* b */ }");
+        QTest::keyClicks(editor(), "QLabel { qproperty-indent: 3; color: #123456; /* b */ }");
         QCOMPARE(editor()->errorLine(), 0);
         QVERIFY(qApp->styleSheet() != good);
     }
