@@ -45,16 +45,22 @@ QSet<const QMetaObject*> classesInUse()
     return classes;
 }
 
-/// Whether a type selector @p type covers @p meta.
-bool covers(const QString& type, const QMetaObject* meta)
+/// Whether the type selector @p type selects widgets of @p meta.
+bool selects(const QString& type, const QMetaObject* meta)
 {
-    if (type.isEmpty() || type == QLatin1String("*")) {
-        return true;
-    }
     while (meta && selectorName(meta) != type) {
         meta = meta->superClass();
     }
     return meta;
+}
+
+/// The type that @p selector selects by and nothing else; empty for any other selector.
+QString onlyType(const QCss::Selector& selector)
+{
+    const QCss::BasicSelector& last = selector.basicSelectors.constLast();
+    const bool isAlone = selector.basicSelectors.size() == 1 && last.ids.isEmpty() &&
+                         last.pseudos.isEmpty() && last.attributeSelectors.isEmpty();
+    return isAlone ? last.elementName : QString();
 }
 
 } // namespace
@@ -109,14 +115,14 @@ private:
     {
         Rule rule;
         rule.line = lineOf(m_parser.index);
-        QString type;
+        QStringList types;
         do {
             m_parser.skipSpace();
             QCss::Selector selector;
             if (!m_parser.parseNextSelector(&selector)) {
                 return false;
             }
-            type = selector.basicSelectors.constLast().elementName;
+            types.append(onlyType(selector));
         } while (m_parser.test(QCss::COMMA));
         m_parser.skipSpace();
         if (!m_parser.test(QCss::LBRACE)) {
@@ -124,7 +130,7 @@ private:
         }
         m_parser.skipSpace();
         while (!m_parser.test(QCss::RBRACE)) {
-            if (!readDeclaration(&rule, type)) {
+            if (!readDeclaration(&rule, types)) {
                 fail();
                 skipDeclaration();
             }
@@ -136,7 +142,7 @@ private:
         return true;
     }
 
-    bool readDeclaration(Rule* rule, const QString& type)
+    bool readDeclaration(Rule* rule, const QStringList& types)
     {
         const int first = m_parser.index;
         QCss::Declaration declaration;
@@ -148,7 +154,7 @@ private:
         rule->declarations.append(
             {property, text.mid(text.indexOf(QLatin1Char(':')) + 1).trimmed(), lineOf(first)});
         const bool isOurs = property.startsWith(propertyPrefix, Qt::CaseInsensitive);
-        const bool isKnown = isOurs ? canExist(property.mid(propertyPrefix.size()), type)
+        const bool isKnown = isOurs ? !isMissing(property.mid(propertyPrefix.size()), types)
                                     : declaration.d->propertyId != QCss::UnknownProperty ||
                                           property.endsWith(QLatin1String("-icon")) ||
                                           styleHints().contains(property, Qt::CaseInsensitive);
@@ -199,31 +205,22 @@ private:
                (!m_parser.testPrio() || m_parser.parsePrio(declaration));
     }
 
-    /// Whether a class that is in use, and that the selector @p type covers, has @p property. Where no such
-    /// class is in use nobody knows.
-    bool canExist(const QString& property, const QString& type)
+    /// Whether a widget that one of @p types selects has no @p property, of which Qt logs a warning.
+    bool isMissing(const QString& property, const QStringList& types)
     {
         if (m_classes.isEmpty()) {
             m_classes = classesInUse();
         }
-        bool isUsed = false;
-        for (const QMetaObject* meta : qAsConst(m_classes)) {
-            if (covers(type, meta)) {
-                isUsed = true;
-                if (meta->indexOfProperty(property.toLatin1().constData()) >= 0) {
-                    return true;
-                }
-            }
-        }
-        return !isUsed;
+        return std::any_of(m_classes.cbegin(), m_classes.cend(), [&](const QMetaObject* meta) {
+            return meta->indexOfProperty(property.toLatin1().constData()) < 0 &&
+                   std::any_of(types.cbegin(), types.cend(),
+                               [meta](const QString& type) { return selects(type, meta); });
+        });
     }
 
-    /// Reports the token at which the parser stopped, unless it is known better.
+    /// Reports the token at which the parser stopped.
     void fail()
     {
-        if (m_sheet->m_errorLine) {
-            return;
-        }
         const auto isBlank = [this](int symbol) { return m_parser.symbols.at(symbol).token == QCss::S; };
         int at = m_parser.index;
         while (at < m_parser.symbols.size() && isBlank(at)) {
@@ -239,8 +236,12 @@ private:
         setError(at, SheetText::tr("the rule has no end"));
     }
 
+    /// The first one counts.
     void setError(int symbol, const QString& message)
     {
+        if (m_sheet->m_errorLine) {
+            return;
+        }
         m_sheet->m_errorLine = lineOf(symbol);
         m_sheet->m_error = message;
     }

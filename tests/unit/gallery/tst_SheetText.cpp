@@ -51,6 +51,8 @@ private Q_SLOTS:
         QTest::newRow("a hint of the style") << "QTableView { gridline-color: red; }" << 0 << "";
         QTest::newRow("an icon") << "* { dialog-ok-icon: url(a); }" << 0 << "";
         QTest::newRow("a property of a class not in use") << "QDial { qproperty-none: 3; }" << 0 << "";
+        QTest::newRow("a property of another class by its name")
+            << "#none { qproperty-none: 3; } QLabel#none { qproperty-none: 3; }" << 0 << "";
         QTest::newRow("at-rule") << "@import \"a\";\nQLabel {}" << 0 << "";
         QTest::newRow("no colon") << "QLabel {\n  color red;\n}" << 2 << "error near “red”";
         QTest::newRow("no value") << "QLabel {\n\n  color: ;\n}" << 3 << "error near “;”";
@@ -68,6 +70,10 @@ private Q_SLOTS:
         QTest::newRow("comment without an end") << "QLabel {}\n/* QFrame {}" << 2 << "error near “}”";
         QTest::newRow("text without an end")
             << "QLabel {\n  qproperty-text: \"a;\n}" << 2 << "error near “\"a;”";
+        QTest::newRow("property of one of two classes") << "QLabel, QDial {\n  qproperty-wrapping: true;\n}"
+                                                        << 2 << "there is no property “qproperty-wrapping”";
+        QTest::newRow("two errors, the other way round")
+            << "QLabel {\n  b;\n  a: 1;\n}" << 2 << "error near “;”";
         QTest::newRow("colour") << "QLabel {\n  border: 1px solid #12;\n}" << 2 << "error near “#12”";
         QTest::newRow("two errors") << "QLabel {\n  a: 1;\n  b\n}\n}" << 2 << "there is no property “a”";
         QTest::newRow("property") << "QLabel {\n  color: red;\n  colour: red;\n}" << 3
