@@ -276,11 +276,13 @@ QVector<AppliedRule> appliedRules(const QWidget* widget, const SheetText& sheet)
 {
     QVector<Match> matches;
     // The nearer, the stronger.
-    for (const QWidget* owner = widget; owner; owner = owner->parentWidget()) {
+    const QWidget* owner = widget;
+    do {
         if (!owner->styleSheet().isEmpty()) {
             appendMatches(matches, widget, ownSheet(owner), owner);
         }
-    }
+        owner = owner->parentWidget();
+    } while (owner);
     appendMatches(matches, widget, sheet, nullptr);
 
     QVector<AppliedRule> rules;

@@ -602,7 +602,8 @@ private:
         if (kind.isContainer) {
             buildContent(widget, variableName);
         }
-        for (const Page::CodeNote& note : m_page->codeNotes()) {
+        const QVector<Page::CodeNote> notes = m_page->codeNotes();
+        for (const Page::CodeNote& note : notes) {
             if (note.widget == widget) {
                 addCalls(note.lines(), variableName);
             }

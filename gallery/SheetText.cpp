@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <private/qcssparser_p.h>
+#include <utility>
 
 namespace {
 
@@ -281,8 +282,8 @@ QString selectorName(const QMetaObject* meta)
     return QString::fromLatin1(meta->className()).replace(QLatin1Char(':'), QLatin1Char('-'));
 }
 
-SheetText::SheetText(const QString& text)
-    : m_text(text)
+SheetText::SheetText(QString text)
+    : m_text(std::move(text))
 {
     Reader(this).read();
 }

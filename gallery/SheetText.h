@@ -36,7 +36,7 @@ public:
     };
 
     /// Empty @p text is a sheet without rules.
-    explicit SheetText(const QString& text = QString());
+    explicit SheetText(QString text = QString());
 
     QString text() const { return m_text; }
 

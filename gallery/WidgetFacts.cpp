@@ -90,6 +90,8 @@ void WidgetFacts::show(QWidget* widget, const SheetText& sheet, int lines)
     // It stays where it was scrolled to when the same widget is shown again.
     const int scrolled = widget == m_shown ? verticalScrollBar()->value() : 0;
     m_shown = widget;
+    // Its outline is a child of the widget that it is around.
+    m_frame.reset();
     clear();
     if (widget) {
         addNames(widget);
@@ -186,9 +188,7 @@ void WidgetFacts::addWidgets(QWidget* widget)
     QTreeWidgetItem* const children = addGroup(tr("Children"));
     const auto all = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* child : all) {
-        if (child->objectName() != QLatin1String("highlightFrame")) {
-            add(children, child);
-        }
+        add(children, child);
     }
 }
 

@@ -24,8 +24,8 @@ QWidget* windowOf(const QObject* object)
     return nullptr;
 }
 
-/// The innermost visible widget at @p position in @p widget. QWidget::childAt() passes over those that are
-/// transparent for the mouse.
+/// The innermost visible widget at @p position in @p widget, but no outline. QWidget::childAt() passes over
+/// all that are transparent for the mouse.
 QWidget* innermostAt(QWidget* widget, const QPoint& position)
 {
     const QObjectList& children = widget->children();
@@ -95,10 +95,11 @@ void WidgetPointer::setPointing(bool on)
 void WidgetPointer::pointAt(QWidget* widget)
 {
     if (widget != m_widget) {
+        // The outline is a child of the widget that it is around: whoever is told sees none.
+        m_frame.reset();
         m_widget = widget;
-        // The outline is a child of the widget before, and may not be found below the mouse.
-        m_frame = std::make_unique<Orvane::Gui::HighlightFrame>(widget);
         Q_EMIT pointedAt(widget);
+        m_frame = std::make_unique<Orvane::Gui::HighlightFrame>(m_widget);
     }
 }
 

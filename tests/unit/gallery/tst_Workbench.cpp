@@ -97,6 +97,21 @@ private Q_SLOTS:
         QVERIFY(!row("HighlightFrameOverlay#highlightFrame"));
     }
 
+    void outlineOfThePageIsOneOfTheChildren()
+    {
+        m_window->showPage("highlight-frame");
+        auto* target = m_window->page()->findChild<QFrame*>("highlightTarget");
+        pointButton()->click();
+        // The layout of a new page takes a few turns.
+        QTRY_COMPARE((move(target), m_window->workbench()->inspected()), target);
+        QCOMPARE(
+            facts()
+                ->findItems("HighlightFrameOverlay#highlightFrame", Qt::MatchExactly | Qt::MatchRecursive)
+                .size(),
+            1);
+        pointButton()->click();
+    }
+
     void pointing_data()
     {
         QTest::addColumn<int>("key");
