@@ -274,7 +274,6 @@ void Editor::setStyle(const QString& name)
     const QString sheet = m_shareFolder + QStringLiteral("/styles/%1.qss").arg(name);
     // Given as a file, it has its images beside it.
     qApp->setStyleSheet(QFile::exists(sheet) ? QStringLiteral("file:///") + sheet : QString());
-    retranslate(); // a point plane takes its fill when it gets its size
 }
 
 void Editor::setLanguage(const QString& code)
