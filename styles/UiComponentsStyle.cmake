@@ -138,7 +138,7 @@ function(uic_scope out file)
         string(REPLACE "]" "${close}" ${variable} "${${variable}}")
     endforeach()
     string(REPLACE "\n" ";" scopes "${scopes}")
-    list(FILTER scopes EXCLUDE REGEX "^(#.*)?$")
+    list(FILTER scopes EXCLUDE REGEX "^(# .*)?$")
     string(REPLACE "}" ";" rules "${text}")
 
     set(result "/* UiComponents reference style of the components alone. */\n")

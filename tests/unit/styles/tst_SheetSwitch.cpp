@@ -1,6 +1,7 @@
 #include "StyledWidgets.h"
 
 #include <UiComponents/AdjustingListView.h>
+#include <UiComponents/EditSession.h>
 #include <UiComponents/SheetColors.h>
 #include <WidgetToolkit/OvDoubleSlider.h>
 
@@ -97,6 +98,16 @@ QWidget* makeList(QWidget* parent)
     return list;
 }
 
+/// Of a field that stands for several values.
+Maker withSeveralValues(const Maker& maker)
+{
+    return [maker](QWidget* parent) {
+        QWidget* const field = maker(parent);
+        (new EditSession(field))->setMultiValue(true);
+        return field;
+    };
+}
+
 void addComponents()
 {
     QTest::addColumn<Maker>("maker");
@@ -120,6 +131,10 @@ void addComponents()
     QTest::newRow("PointSelectionPlane") << Maker(makePlane);
     QTest::newRow("PointSelectorWidget")
         << makeField<PointSelectorWidget>(QPointF(0.0, 0.0), QPointF(1.0, 1.0), 2, 2);
+    QTest::newRow("several numbers") << withSeveralValues(makeField<DoubleSliderInputWidget>(0.0, 1.0, 2));
+    QTest::newRow("several points") << withSeveralValues(
+        makeField<PointSelectorWidget>(QPointF(0.0, 0.0), QPointF(1.0, 1.0), 2, 2));
+    QTest::newRow("several modes") << withSeveralValues(make<ColorBlendingComboBox>);
     QTest::newRow("PathSelectionWidget") << Maker(makePath);
     QTest::newRow("SearchWidget") << Maker(makeSearch);
     QTest::newRow("GuideButton") << Maker(make<GuideButton>);
@@ -197,7 +212,8 @@ private Q_SLOTS:
             QWidget* const widget = maker(&host);
             widget->setEnabled(isEnabled);
             QVERIFY(host.present(widget));
-            for (const QString& sheet : sheets() + styles()) {
+            const QStringList following = {QStringLiteral("light-components"), QStringLiteral("dark")};
+            for (const QString& sheet : styles() + following) {
                 qApp->setStyleSheet(resourceSheet(sheet));
                 // The layout of a host would, and that of the component is done before the next paint.
                 QCoreApplication::sendPostedEvents();
@@ -240,6 +256,8 @@ private Q_SLOTS:
         QTest::newRow("QLineEdit") << Maker(makeEdit);
         QTest::newRow("QComboBox") << Maker(makeCombo<QComboBox>);
         QTest::newRow("QSpinBox") << withSize(60, 24, make<QSpinBox>);
+        QTest::newRow("QSpinBox of several values") << withSeveralValues(withSize(60, 24, make<QSpinBox>));
+        QTest::newRow("QSlider of several values") << withSeveralValues(makeSlider<QSlider>);
         QTest::newRow("QSlider") << Maker(makeSlider<QSlider>);
         QTest::newRow("QScrollBar") << Maker(makeSlider<QScrollBar>);
         QTest::newRow("QProgressBar") << Maker(make<QProgressBar>);
