@@ -14,7 +14,7 @@ uic_packages()
                 echo dbus-daemon fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 \
                     libqt5svg5 qml-module-qtquick-window2 ;;
             run | gallery)
-                echo fonts-dejavu-core libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
+                echo fonts-dejavu-core fonts-droid-fallback libgl1-mesa-dri qml-module-qtquick2 qml-module-qtquick-window2 ;;
             wayland)
                 echo qtwayland5 ;;
             desktop)

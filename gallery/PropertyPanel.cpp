@@ -27,6 +27,16 @@ constexpr int fractionDigits = 4;
 constexpr double maxFraction = 1e9;
 constexpr double fractionStep = 0.1;
 
+/// From the right to the left, a line edit goes by the direction of its text, and a number has none.
+template <typename SpinBox>
+SpinBox* aligned(SpinBox* box)
+{
+    if (box->isRightToLeft()) {
+        box->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
+    }
+    return box;
+}
+
 bool isQtClass(const QMetaObject* meta)
 {
     const char* const name = meta->className();
@@ -125,7 +135,7 @@ QCheckBox* PropertyPanel::addSwitch(const QString& label, bool value, const std:
 OvSpinBox* PropertyPanel::addNumber(const QString& label, int minimum, int maximum, int value,
                                     const std::function<void(int)>& apply)
 {
-    auto* box = addRow(label, new OvSpinBox(m_content));
+    auto* box = addRow(label, aligned(new OvSpinBox(m_content)));
     box->setRange(minimum, maximum);
     box->setValue(value);
     connect(box, QOverload<int>::of(&OvSpinBox::valueChanged), this, apply);
@@ -135,7 +145,7 @@ OvSpinBox* PropertyPanel::addNumber(const QString& label, int minimum, int maxim
 OvDoubleSpinBox* PropertyPanel::addFraction(const QString& label, double minimum, double maximum,
                                             double value, const std::function<void(double)>& apply)
 {
-    auto* box = addRow(label, new OvDoubleSpinBox(m_content));
+    auto* box = addRow(label, aligned(new OvDoubleSpinBox(m_content)));
     box->setRange(minimum, maximum);
     box->setValue(value);
     connect(box, QOverload<double>::of(&OvDoubleSpinBox::valueChanged), this, apply);

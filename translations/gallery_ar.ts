@@ -1489,11 +1489,11 @@
     </message>
     <message>
         <source>autoFill() and a stretch behind</source>
-        <translation>autoFill()‎ وتمدد بعده</translation>
+        <translation>‏autoFill()‎ وتمدد بعده</translation>
     </message>
     <message>
         <source>addItems() with a spacer</source>
-        <translation>addItems()‎ مع فاصل</translation>
+        <translation>‏addItems()‎ مع فاصل</translation>
     </message>
     <message>
         <source>A grid: one cell spans two, one is aligned right</source>
