@@ -120,6 +120,12 @@ void OvComboBox::paintEvent(QPaintEvent* event)
     if (option.fontMetrics.boundingRect(option.currentText).width() > room) {
         option.currentText = option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room);
     }
+    // From the right to the left a text ends where its advance does, and the style clips it at the field's
+    // end.
+    const int overhang = option.fontMetrics.horizontalAdvance(option.currentText) - room;
+    if (isRightToLeft() && overhang > 0) {
+        option.rect.setLeft(option.rect.left() - overhang);
+    }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

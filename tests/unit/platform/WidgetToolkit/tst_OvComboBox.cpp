@@ -283,9 +283,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("sheet");
         const QString sheet = QStringLiteral("QComboBox { border: 1px solid blue; padding: 2px 5px; }");
-        for (const char* const text : {"Deutsch", "English", "Off", "AV", "i", "Full HD, 1920 x 1080"}) {
-            QTest::addRow("%s", text) << QString::fromLatin1(text) << QString();
-            QTest::addRow("%s, with sheet", text) << QString::fromLatin1(text) << sheet;
+        for (const char* const text : {"Deutsch", "English", "Off", "AV", "i", "Full HD, 1920 x 1080",
+                                       "دقة كاملة، 1920 × 1080، 25 إطارًا"}) {
+            QTest::addRow("%s", text) << QString::fromUtf8(text) << QString();
+            QTest::addRow("%s, with sheet", text) << QString::fromUtf8(text) << sheet;
         }
     }
 
@@ -305,6 +306,37 @@ private Q_SLOTS:
         }
         QCOMPARE(box.sizeHint(), plain.sizeHint());
         QCOMPARE(box.grab().toImage(), plain.grab().toImage());
+    }
+
+    void nothingIsCutOffFromRightToLeft_data() { nothingIsElidedAtTheSizeHint_data(); }
+
+    // There a text begins at the right edge, and what it advances by is beyond the left one.
+    void nothingIsCutOffFromRightToLeft()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, sheet);
+        const auto ink = [&](int moreRoom) {
+            OvComboBox box;
+            box.setLayoutDirection(Qt::RightToLeft);
+            box.setStyleSheet(sheet);
+            QFont font = box.font();
+            font.setPixelSize(13);
+            box.setFont(font);
+            box.addItems({text, QString()});
+            box.resize(box.sizeHint() + QSize(moreRoom, 0));
+            const QImage with = box.grab().toImage();
+            box.setCurrentIndex(1);
+            const QImage without = box.grab().toImage();
+            int pixels = 0;
+            for (int y = 0; y < with.height(); ++y) {
+                for (int x = 0; x < with.width(); ++x) {
+                    pixels += with.pixel(x, y) != without.pixel(x, y);
+                }
+            }
+            return pixels;
+        };
+        QVERIFY(ink(40) > 0);
+        QCOMPARE(ink(0), ink(40));
     }
 
     void paintsAtAnySize()
