@@ -2166,6 +2166,21 @@
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>there is no property “%1”</source>
+        <translation>لا توجد خاصية &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>error near “%1”</source>
+        <translation>خطأ قرب &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the rule has no end</source>
+        <translation>القاعدة بلا نهاية</translation>
+    </message>
+</context>
+<context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
@@ -2248,6 +2263,108 @@
     <message>
         <source>Back</source>
         <translation>السابق</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetFacts</name>
+    <message>
+        <source>Class</source>
+        <translation>الصنف</translation>
+    </message>
+    <message>
+        <source>Base classes</source>
+        <translation>الأصناف الأساس</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>اسم الكائن</translation>
+    </message>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>الخصائص الديناميكية</translation>
+    </message>
+    <message>
+        <source>Rules, the strongest first</source>
+        <translation>القواعد، الأقوى أولًا</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>السطر %1</translation>
+    </message>
+    <message>
+        <source>sheet of %1</source>
+        <translation>ورقة %1</translation>
+    </message>
+    <message>
+        <source>the gallery&apos;s own</source>
+        <translation>ورقة المعرض نفسه</translation>
+    </message>
+    <message>
+        <source>Properties that a rule can set</source>
+        <translation>الخصائص التي تستطيع القاعدة ضبطها</translation>
+    </message>
+    <message>
+        <source>Parents</source>
+        <translation>الآباء</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>الأبناء</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Workbench</source>
+        <translation>الورشة</translation>
+    </message>
+    <message>
+        <source>Point at a widget</source>
+        <translation>أشر إلى عنصر</translation>
+    </message>
+    <message>
+        <source>Click any widget to see what a sheet can know of it (F12); Escape ends it</source>
+        <translation>انقر أي عنصر لترى ما يمكن أن تعرفه الورقة عنه (F12)؛ وينهيه Escape</translation>
+    </message>
+    <message>
+        <source>Copy C++</source>
+        <translation>نسخ C++‎</translation>
+    </message>
+    <message>
+        <source>Copies the code that builds what the page shows, with its present values</source>
+        <translation>ينسخ الشفرة التي تبني ما تعرضه الصفحة بقيمه الحالية</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Writes the sheet into its file; a built-in sheet has none</source>
+        <translation>يكتب الورقة في ملفها؛ وليس للورقة المدمجة ملف</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>العنصر</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>ورقة أنماط</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>السطر %1: %2</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>تم النسخ.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>تم الحفظ.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>تتعذر كتابة الملف.</translation>
     </message>
 </context>
 </TS>

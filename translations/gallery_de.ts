@@ -2166,6 +2166,21 @@
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>there is no property “%1”</source>
+        <translation>es gibt keine Eigenschaft „%1“</translation>
+    </message>
+    <message>
+        <source>error near “%1”</source>
+        <translation>Fehler bei „%1“</translation>
+    </message>
+    <message>
+        <source>the rule has no end</source>
+        <translation>die Regel hat kein Ende</translation>
+    </message>
+</context>
+<context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
@@ -2248,6 +2263,108 @@
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetFacts</name>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Base classes</source>
+        <translation>Basisklassen</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Objektname</translation>
+    </message>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>Dynamische Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Rules, the strongest first</source>
+        <translation>Regeln, die stärkste zuerst</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>sheet of %1</source>
+        <translation>Stylesheet von %1</translation>
+    </message>
+    <message>
+        <source>the gallery&apos;s own</source>
+        <translation>das der Galerie</translation>
+    </message>
+    <message>
+        <source>Properties that a rule can set</source>
+        <translation>Eigenschaften, die eine Regel setzen kann</translation>
+    </message>
+    <message>
+        <source>Parents</source>
+        <translation>Übergeordnete Widgets</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Untergeordnete Widgets</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Werkbank</translation>
+    </message>
+    <message>
+        <source>Point at a widget</source>
+        <translation>Auf ein Widget zeigen</translation>
+    </message>
+    <message>
+        <source>Click any widget to see what a sheet can know of it (F12); Escape ends it</source>
+        <translation>Ein beliebiges Widget anklicken und sehen, was ein Stylesheet von ihm wissen kann (F12); Escape beendet es</translation>
+    </message>
+    <message>
+        <source>Copy C++</source>
+        <translation>C++ kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the code that builds what the page shows, with its present values</source>
+        <translation>Kopiert den Code, der baut, was die Seite zeigt, mit den gegenwärtigen Werten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Writes the sheet into its file; a built-in sheet has none</source>
+        <translation>Schreibt das Stylesheet in seine Datei; ein eingebautes hat keine</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>Widget</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Stylesheet</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Kopiert.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Gespeichert.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Die Datei kann nicht geschrieben werden.</translation>
     </message>
 </context>
 </TS>

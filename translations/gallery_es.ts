@@ -2166,6 +2166,21 @@
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>there is no property “%1”</source>
+        <translation>no existe la propiedad «%1»</translation>
+    </message>
+    <message>
+        <source>error near “%1”</source>
+        <translation>error cerca de «%1»</translation>
+    </message>
+    <message>
+        <source>the rule has no end</source>
+        <translation>la regla no tiene fin</translation>
+    </message>
+</context>
+<context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
@@ -2248,6 +2263,108 @@
     <message>
         <source>Back</source>
         <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetFacts</name>
+    <message>
+        <source>Class</source>
+        <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Base classes</source>
+        <translation>Clases base</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Nombre de objeto</translation>
+    </message>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>Propiedades dinámicas</translation>
+    </message>
+    <message>
+        <source>Rules, the strongest first</source>
+        <translation>Reglas, la más fuerte primero</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>sheet of %1</source>
+        <translation>hoja de %1</translation>
+    </message>
+    <message>
+        <source>the gallery&apos;s own</source>
+        <translation>la de la galería</translation>
+    </message>
+    <message>
+        <source>Properties that a rule can set</source>
+        <translation>Propiedades que una regla puede fijar</translation>
+    </message>
+    <message>
+        <source>Parents</source>
+        <translation>Padres</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Hijos</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Banco de trabajo</translation>
+    </message>
+    <message>
+        <source>Point at a widget</source>
+        <translation>Señalar un widget</translation>
+    </message>
+    <message>
+        <source>Click any widget to see what a sheet can know of it (F12); Escape ends it</source>
+        <translation>Haga clic en cualquier widget para ver lo que una hoja puede saber de él (F12); Escape lo termina</translation>
+    </message>
+    <message>
+        <source>Copy C++</source>
+        <translation>Copiar C++</translation>
+    </message>
+    <message>
+        <source>Copies the code that builds what the page shows, with its present values</source>
+        <translation>Copia el código que construye lo que muestra la página, con sus valores actuales</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Writes the sheet into its file; a built-in sheet has none</source>
+        <translation>Escribe la hoja en su archivo; una hoja integrada no tiene ninguno</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>Widget</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Hoja de estilo</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Copiado.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Guardado.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>El archivo no se puede escribir.</translation>
     </message>
 </context>
 </TS>

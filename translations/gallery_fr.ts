@@ -2166,6 +2166,21 @@
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>there is no property “%1”</source>
+        <translation>il n’y a pas de propriété «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>error near “%1”</source>
+        <translation>erreur près de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the rule has no end</source>
+        <translation>la règle n’a pas de fin</translation>
+    </message>
+</context>
+<context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
@@ -2248,6 +2263,108 @@
     <message>
         <source>Back</source>
         <translation>Précédent</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetFacts</name>
+    <message>
+        <source>Class</source>
+        <translation>Classe</translation>
+    </message>
+    <message>
+        <source>Base classes</source>
+        <translation>Classes de base</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Nom d’objet</translation>
+    </message>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>Propriétés dynamiques</translation>
+    </message>
+    <message>
+        <source>Rules, the strongest first</source>
+        <translation>Règles, la plus forte d’abord</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>ligne %1</translation>
+    </message>
+    <message>
+        <source>sheet of %1</source>
+        <translation>feuille de %1</translation>
+    </message>
+    <message>
+        <source>the gallery&apos;s own</source>
+        <translation>celle de la galerie</translation>
+    </message>
+    <message>
+        <source>Properties that a rule can set</source>
+        <translation>Propriétés qu’une règle peut fixer</translation>
+    </message>
+    <message>
+        <source>Parents</source>
+        <translation>Parents</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Enfants</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Établi</translation>
+    </message>
+    <message>
+        <source>Point at a widget</source>
+        <translation>Montrer un widget</translation>
+    </message>
+    <message>
+        <source>Click any widget to see what a sheet can know of it (F12); Escape ends it</source>
+        <translation>Cliquez sur un widget pour voir ce qu’une feuille peut en savoir (F12)&#xa0;; Échap y met fin</translation>
+    </message>
+    <message>
+        <source>Copy C++</source>
+        <translation>Copier le C++</translation>
+    </message>
+    <message>
+        <source>Copies the code that builds what the page shows, with its present values</source>
+        <translation>Copie le code qui construit ce que montre la page, avec ses valeurs actuelles</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Writes the sheet into its file; a built-in sheet has none</source>
+        <translation>Écrit la feuille dans son fichier&#xa0;; une feuille intégrée n’en a pas</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>Widget</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Feuille de style</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Copié.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Enregistré.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Le fichier ne peut pas être écrit.</translation>
     </message>
 </context>
 </TS>

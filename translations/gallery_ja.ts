@@ -2166,6 +2166,21 @@
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>there is no property “%1”</source>
+        <translation>プロパティ「%1」はありません</translation>
+    </message>
+    <message>
+        <source>error near “%1”</source>
+        <translation>「%1」の付近にエラーがあります</translation>
+    </message>
+    <message>
+        <source>the rule has no end</source>
+        <translation>ルールに終わりがありません</translation>
+    </message>
+</context>
+<context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
@@ -2248,6 +2263,108 @@
     <message>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetFacts</name>
+    <message>
+        <source>Class</source>
+        <translation>クラス</translation>
+    </message>
+    <message>
+        <source>Base classes</source>
+        <translation>基底クラス</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>オブジェクト名</translation>
+    </message>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>動的プロパティ</translation>
+    </message>
+    <message>
+        <source>Rules, the strongest first</source>
+        <translation>ルール（強い順）</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>sheet of %1</source>
+        <translation>%1 のシート</translation>
+    </message>
+    <message>
+        <source>the gallery&apos;s own</source>
+        <translation>ギャラリー自身のもの</translation>
+    </message>
+    <message>
+        <source>Properties that a rule can set</source>
+        <translation>ルールで設定できるプロパティ</translation>
+    </message>
+    <message>
+        <source>Parents</source>
+        <translation>親</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>子</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Workbench</source>
+        <translation>ワークベンチ</translation>
+    </message>
+    <message>
+        <source>Point at a widget</source>
+        <translation>ウィジェットを指す</translation>
+    </message>
+    <message>
+        <source>Click any widget to see what a sheet can know of it (F12); Escape ends it</source>
+        <translation>任意のウィジェットをクリックすると、シートから分かることが表示されます (F12)。Esc で終了します</translation>
+    </message>
+    <message>
+        <source>Copy C++</source>
+        <translation>C++ をコピー</translation>
+    </message>
+    <message>
+        <source>Copies the code that builds what the page shows, with its present values</source>
+        <translation>ページに表示されているものを、現在の値で組み立てるコードをコピーします</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Writes the sheet into its file; a built-in sheet has none</source>
+        <translation>シートをファイルに書き込みます。組み込みのシートにはファイルがありません</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>ウィジェット</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>スタイルシート</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>コピーしました。</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>保存しました。</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>ファイルに書き込めません。</translation>
     </message>
 </context>
 </TS>

@@ -2166,6 +2166,21 @@
     </message>
 </context>
 <context>
+    <name>SheetText</name>
+    <message>
+        <source>there is no property “%1”</source>
+        <translation>没有属性“%1”</translation>
+    </message>
+    <message>
+        <source>error near “%1”</source>
+        <translation>“%1”附近有错误</translation>
+    </message>
+    <message>
+        <source>the rule has no end</source>
+        <translation>规则没有结尾</translation>
+    </message>
+</context>
+<context>
     <name>SignalLogView</name>
     <message>
         <source>Signals</source>
@@ -2248,6 +2263,108 @@
     <message>
         <source>Back</source>
         <translation>上一步</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetFacts</name>
+    <message>
+        <source>Class</source>
+        <translation>类</translation>
+    </message>
+    <message>
+        <source>Base classes</source>
+        <translation>基类</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>对象名</translation>
+    </message>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>动态属性</translation>
+    </message>
+    <message>
+        <source>Rules, the strongest first</source>
+        <translation>规则，最强的在前</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>sheet of %1</source>
+        <translation>%1 的样式表</translation>
+    </message>
+    <message>
+        <source>the gallery&apos;s own</source>
+        <translation>展示程序自己的</translation>
+    </message>
+    <message>
+        <source>Properties that a rule can set</source>
+        <translation>规则可以设置的属性</translation>
+    </message>
+    <message>
+        <source>Parents</source>
+        <translation>父控件</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>子控件</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Workbench</source>
+        <translation>工作台</translation>
+    </message>
+    <message>
+        <source>Point at a widget</source>
+        <translation>指向控件</translation>
+    </message>
+    <message>
+        <source>Click any widget to see what a sheet can know of it (F12); Escape ends it</source>
+        <translation>单击任意控件，查看样式表能了解的信息 (F12)；按 Esc 结束</translation>
+    </message>
+    <message>
+        <source>Copy C++</source>
+        <translation>复制 C++</translation>
+    </message>
+    <message>
+        <source>Copies the code that builds what the page shows, with its present values</source>
+        <translation>复制构建页面所示内容的代码，包含当前值</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Writes the sheet into its file; a built-in sheet has none</source>
+        <translation>将样式表写入其文件；内置样式表没有文件</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>控件</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>样式表</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>已复制。</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>已保存。</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>无法写入文件。</translation>
     </message>
 </context>
 </TS>

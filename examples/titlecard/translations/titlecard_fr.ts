@@ -152,7 +152,7 @@
     </message>
     <message>
         <source>Of the middle of the card: -1 is left and top, 1 right and bottom.</source>
-        <translation>Du milieu du carton : -1 est à gauche et en haut, 1 à droite et en bas.</translation>
+        <translation>Du milieu du carton&#xa0;: -1 est à gauche et en haut, 1 à droite et en bas.</translation>
     </message>
     <message>
         <source>Blending</source>
