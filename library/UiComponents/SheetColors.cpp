@@ -40,8 +40,8 @@ void SheetColors::Private::colorLinks() const
 {
     QPalette palette = QGuiApplication::palette();
     const QColor before = palette.color(QPalette::Link);
-    const QColor named = provider.property("link").value<QColor>();
-    const QColor surface = provider.property("window").value<QColor>();
+    const auto named = provider.property("link").value<QColor>();
+    const auto surface = provider.property("window").value<QColor>();
     // Under a sheet of the components alone, the host's texts lie on its own windows.
     const bool isOnSheet = !surface.isValid() || surface == provider.palette().color(QPalette::Window);
     const QColor now = named.isValid() && isOnSheet ? named : plainLink;

@@ -76,7 +76,7 @@ QVariant SheetColorsProvider::value(const QString& name) const
     }
     for (const Role& role : roles) {
         if (name == QLatin1String(role.name)) {
-            const QColor color = property(role.name).value<QColor>();
+            const auto color = property(role.name).value<QColor>();
             return color.isValid() ? color : QGuiApplication::palette().color(role.group, role.role);
         }
     }
@@ -86,13 +86,8 @@ QVariant SheetColorsProvider::value(const QString& name) const
 bool SheetColorsProvider::event(QEvent* event)
 {
     const bool result = QWidget::event(event);
-    switch (event->type()) {
-    case QEvent::StyleChange:
-    case QEvent::ApplicationPaletteChange:
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::ApplicationPaletteChange) {
         takeSheet();
-        break;
-    default:
-        break;
     }
     return result;
 }
