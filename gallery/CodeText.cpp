@@ -64,6 +64,9 @@ QString code(const QString& text)
     escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     escaped.replace(QLatin1Char('"'), QLatin1String("\\\""));
     escaped.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    escaped.replace(QLatin1Char('\r'), QLatin1String("\\r"));
+    // The name of the variable stands in its place in a line: see addCalls().
+    escaped.replace(QLatin1Char('$'), QLatin1String("\\044"));
     return text.isEmpty() ? QStringLiteral("QString()")
                           : QStringLiteral("QStringLiteral(\"%1\")").arg(escaped);
 }

@@ -11,6 +11,7 @@ static void initResources()
     Q_INIT_RESOURCE(gallery_styles);
     Q_INIT_RESOURCE(gallery_catalogues);
     Q_INIT_RESOURCE(gallery);
+    Q_INIT_RESOURCE(titlecard);
 }
 
 void GalleryApplication::prepare()

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSaveFile>
 
 #include <optional>
 
@@ -106,8 +107,9 @@ bool StyleController::isFile() const
 
 bool StyleController::save()
 {
-    QFile file(m_style);
-    return isFile() && file.open(QIODevice::WriteOnly) && file.write(m_contents) == m_contents.size();
+    QSaveFile file(m_style);
+    return isFile() && file.open(QIODevice::WriteOnly) && file.write(m_contents) == m_contents.size() &&
+           file.commit();
 }
 
 void StyleController::watch()

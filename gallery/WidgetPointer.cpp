@@ -67,6 +67,8 @@ bool WidgetPointer::eventFilter(QObject* watched, QEvent* event)
             return mouseEvent(window, event);
         }
         break;
+    case QEvent::Wheel:
+        return watched->isWindowType();
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         if (watched->isWindowType()) {

@@ -140,7 +140,7 @@ void Editor::changeCards(const QString& text, const QVector<Card>& cards)
 void Editor::askForCard()
 {
     NewCardDialog dialog(this);
-    dialog.setQmlPath(QCoreApplication::applicationDirPath() + QStringLiteral("/NewCard.qml"));
+    dialog.setQmlPath(QStringLiteral(":/titlecard/NewCard.qml"));
     if (dialog.exec() == QDialog::Accepted && !dialog.text().isEmpty()) {
         addCard(dialog.text());
     }

@@ -10,6 +10,8 @@
 #include <QPointer>
 #include <QTranslator>
 
+#include <algorithm>
+
 #ifdef UIC_CATALOGUES
 // Outside every namespace, as the macro demands: a static library's resources do not register themselves.
 static void initCatalogues()
@@ -62,6 +64,16 @@ bool loadComponents(const QLocale& locale, const QString& folder)
            texts()->components.load(locale, QStringLiteral("uicomponents"), QStringLiteral("_"), folder);
 }
 
+/// The first language of @p locale that @p folder or the library has.
+bool loadFirst(const QLocale& locale, const QString& folder)
+{
+    const QStringList wanted = locale.uiLanguages();
+    return std::any_of(wanted.begin(), wanted.end(), [&folder](const QString& language) {
+        const QLocale one(language);
+        return loadComponents(one, folder) || loadComponents(one, catalogues());
+    });
+}
+
 bool loadQt(const QString& code, const QString& folder)
 {
     return !folder.isEmpty() && texts()->qt.load(QStringLiteral("qtbase_") + code, folder);
@@ -88,7 +100,7 @@ QStringList Translations::languages(const QString& folder)
 
 bool Translations::load(const QLocale& locale, const QString& folder)
 {
-    const bool isFound = loadComponents(locale, folder) || loadComponents(locale, catalogues());
+    const bool isFound = loadFirst(locale, folder);
     if (!isFound) {
         loadComponents(QLocale(QLocale::English), catalogues());
     }

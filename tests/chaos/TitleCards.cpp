@@ -273,6 +273,7 @@ int main(int argc, char** argv)
     TestEnvironment::prepareApplication();
     QGuiApplication::setQuitOnLastWindowClosed(false);
     Q_INIT_RESOURCE(styles);
+    Q_INIT_RESOURCE(titlecard);
 
     QCommandLineParser options;
     options.addOptions({{QStringLiteral("events"), QStringLiteral("How many events."), QStringLiteral("N"),

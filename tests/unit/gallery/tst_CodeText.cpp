@@ -92,11 +92,12 @@ private Q_SLOTS:
         const Page page(*PageRegistry::find("slider-input"));
         auto* field = page.findChild<SliderInputWidget*>();
         field->setValue(-7);
-        field->setToolTip("a \"b\"\n\\");
+        field->setToolTip("a \"$b\"\r\n\\");
         Util::applyStyleHint(field, "error");
         const QStringList code = linesOf(page);
         QVERIFY(code.contains("sliderInputWidget->setValue(-7);"));
-        QVERIFY(code.contains("sliderInputWidget->setToolTip(QStringLiteral(\"a \\\"b\\\"\\n\\\\\"));"));
+        QVERIFY(
+            code.contains("sliderInputWidget->setToolTip(QStringLiteral(\"a \\\"\\044b\\\"\\r\\n\\\\\"));"));
         QVERIFY(code.contains("Util::applyStyleHint(sliderInputWidget, QStringLiteral(\"error\"));"));
     }
 

@@ -125,6 +125,15 @@ private Q_SLOTS:
         QCOMPARE(applied.count(), 1);
     }
 
+    void saveTellsWhetherItDid()
+    {
+        StyleController controller;
+        QVERIFY(controller.setStyle(path("own.qss")));
+        QVERIFY(controller.save());
+        QVERIFY(QDir(m_folder->path()).removeRecursively());
+        QVERIFY(!controller.save());
+    }
+
     void anotherFileOfTheFolder()
     {
         StyleController controller;

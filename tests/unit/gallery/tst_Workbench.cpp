@@ -284,8 +284,9 @@ private Q_SLOTS:
         editor()->moveCursor(QTextCursor::End);
         QTest::keyClicks(editor(), "}");
         save->click();
-        file.seek(0);
-        QCOMPARE(QString::fromUtf8(file.readAll()), editor()->toPlainText());
+        QFile saved(file.fileName());
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(saved.readAll()), editor()->toPlainText());
     }
 
     void languageAndDirection()
