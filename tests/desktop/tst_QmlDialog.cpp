@@ -335,10 +335,23 @@ private:
         const auto buttons = m_window->page()->properties()->findChildren<QPushButton*>();
         for (const QPushButton* button : buttons) {
             if (button->text() == action) {
-                return RealInput::click(button);
+                return isStill(button) && RealInput::click(button);
             }
         }
         return false;
+    }
+
+    /// The page makes room for a result that has just come, in several turns.
+    static bool isStill(const QPushButton* button)
+    {
+        constexpr int enough = 5;
+        QPoint place;
+        int turns = 0;
+        return QTest::qWaitFor([&] {
+            const QPoint before = std::exchange(place, button->mapToGlobal(QPoint()));
+            turns = before == place ? turns + 1 : 0;
+            return turns == enough;
+        });
     }
 
     /// Clicks a button of the page, does @p act with the dialog that is there then, and waits for its end.
