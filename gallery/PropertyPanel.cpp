@@ -17,6 +17,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -27,14 +28,12 @@ constexpr int fractionDigits = 4;
 constexpr double maxFraction = 1e9;
 constexpr double fractionStep = 0.1;
 
-/// From the right to the left, a line edit goes by the direction of its text, and a number has none.
-template <typename SpinBox>
-SpinBox* aligned(SpinBox* box)
+/// Sets the number at the leading edge. QSpinBox leaves it at the left in either direction of the layout: its
+/// line edit takes AlignLeft by the direction of the text, and a number has none.
+void alignNumber(QAbstractSpinBox* box)
 {
-    if (box->isRightToLeft()) {
-        box->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
-    }
-    return box;
+    const Qt::Alignment edge = box->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    box->setAlignment(edge | Qt::AlignAbsolute);
 }
 
 bool isQtClass(const QMetaObject* meta)
@@ -135,7 +134,8 @@ QCheckBox* PropertyPanel::addSwitch(const QString& label, bool value, const std:
 OvSpinBox* PropertyPanel::addNumber(const QString& label, int minimum, int maximum, int value,
                                     const std::function<void(int)>& apply)
 {
-    auto* box = addRow(label, aligned(new OvSpinBox(m_content)));
+    auto* box = addRow(label, new OvSpinBox(m_content));
+    alignNumber(box);
     box->setRange(minimum, maximum);
     box->setValue(value);
     connect(box, QOverload<int>::of(&OvSpinBox::valueChanged), this, apply);
@@ -145,7 +145,8 @@ OvSpinBox* PropertyPanel::addNumber(const QString& label, int minimum, int maxim
 OvDoubleSpinBox* PropertyPanel::addFraction(const QString& label, double minimum, double maximum,
                                             double value, const std::function<void(double)>& apply)
 {
-    auto* box = addRow(label, aligned(new OvDoubleSpinBox(m_content)));
+    auto* box = addRow(label, new OvDoubleSpinBox(m_content));
+    alignNumber(box);
     box->setRange(minimum, maximum);
     box->setValue(value);
     connect(box, QOverload<double>::of(&OvDoubleSpinBox::valueChanged), this, apply);
@@ -210,6 +211,10 @@ void PropertyPanel::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::StyleChange) {
         QMetaObject::invokeMethod(this, &PropertyPanel::refresh, Qt::QueuedConnection);
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        // Not those of a pop-up panel below a colour field.
+        const auto boxes = m_content->findChildren<QAbstractSpinBox*>(QString(), Qt::FindDirectChildrenOnly);
+        std::for_each(boxes.cbegin(), boxes.cend(), &alignNumber);
     }
 }
 

@@ -277,6 +277,38 @@ private Q_SLOTS:
         QCOMPARE(got, expected);
     }
 
+    void numbersStandAtTheLeadingEdge_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("built from left to right") << Qt::LeftToRight;
+        QTest::newRow("built from right to left") << Qt::RightToLeft;
+    }
+
+    void numbersStandAtTheLeadingEdge()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        PropertyPanel panel;
+        panel.resize(400, 200);
+        panel.setLayoutDirection(direction);
+        panel.addNumber(QStringLiteral("a"), -9, 9, -1, [](int) {});
+        panel.addFraction(QStringLiteral("b"), -9, 9, -1, [](double) {});
+        panel.show();
+        const auto boxes = panel.findChildren<QAbstractSpinBox*>();
+        QCOMPARE(boxes.size(), 2);
+        const int changes = 3;
+        for (int i = 0; i < changes; ++i) {
+            for (QAbstractSpinBox* box : boxes) {
+                auto* line = box->findChild<QLineEdit*>();
+                line->home(false);
+                line->grab(); // painting puts the text in its place
+                const QRect cursor = line->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+                QCOMPARE(cursor.center().x() > line->width() / 2, direction == Qt::RightToLeft);
+            }
+            direction = direction == Qt::LeftToRight ? Qt::RightToLeft : Qt::LeftToRight;
+            panel.setLayoutDirection(direction);
+        }
+    }
+
 private:
     template <typename Control>
     Control* edit(const char* property)
