@@ -744,7 +744,7 @@ private:
     QString buildLayout(QLayout* layout, const QString& owner, const QString& parent)
     {
         const QString type = QString::fromLatin1(layout->metaObject()->className());
-        const QString variableName = variable(type);
+        QString variableName = variable(type);
         addInclude(
             type.startsWith(QLatin1Char('Q'))
                 ? type

@@ -31,7 +31,7 @@ QString LanguageController::nativeName(const QString& code)
     }
     const QLocale locale(code);
     const QString name = locale.nativeLanguageName();
-    return locale.toUpper(name.left(1)) + name.mid(1);
+    return locale.toUpper(name.mid(0, 1)) + name.mid(1);
 }
 
 void LanguageController::setLanguage(const QString& code)
