@@ -2,12 +2,28 @@
 
 #include <qqml.h>
 
-void SceneColors::registerType()
+namespace {
+
+class Registration
 {
-    static const int type = qmlRegisterSingletonType<SceneColors>(
+public:
+    Registration() = default;
+    // Qt stays when the library is unloaded, and would call the functions of the type.
+    ~Registration() { QQmlPrivate::qmlunregister(QQmlPrivate::SingletonRegistration, quintptr(m_type)); }
+    Registration(const Registration&) = delete;
+    Registration& operator=(const Registration&) = delete;
+
+private:
+    const int m_type = qmlRegisterSingletonType<SceneColors>(
         "UiComponents", 0, 1, "SheetColors",
         [](QQmlEngine*, QJSEngine*) -> QObject* { return new SceneColors; });
-    Q_UNUSED(type)
+};
+
+} // namespace
+
+void SceneColors::registerType()
+{
+    static const Registration registration;
 }
 
 SceneColors::SceneColors(QObject* parent)

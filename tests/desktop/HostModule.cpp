@@ -2,6 +2,7 @@
 // function makes, it deletes.
 
 #include <UiComponents/Pipette.h>
+#include <UiComponents/QuickContent.h>
 #include <UiComponents/Translations.h>
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
@@ -53,4 +54,20 @@ extern "C" Q_DECL_EXPORT void changeAColor()
     window.show();
     press(&window);
     button.setColor(Qt::red);
+}
+
+/// Whose colours are the library's.
+extern "C" Q_DECL_EXPORT void showAScene()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("Scene.qml")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("import QtQuick 2.15\n"
+               "import UiComponents 0.1\n"
+               "Rectangle { width: 40; height: 20; color: SheetColors.popup }\n");
+    file.close();
+    Qml::QuickContent content;
+    content.load(file.fileName());
+    QVERIFY(content.isAvailable());
+    content.getUiContent()->show();
 }

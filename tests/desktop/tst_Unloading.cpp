@@ -27,11 +27,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("use");
 
-        for (const char* use : {"pickFromTheScreen", "pickFromAWidget", "loadALanguage", "changeAColor"}) {
+        for (const char* use :
+             {"pickFromTheScreen", "pickFromAWidget", "loadALanguage", "changeAColor", "showAScene"}) {
             QTest::newRow(use) << QByteArray(use);
         }
         // The same code once more, at another place perhaps.
         QTest::newRow("again") << QByteArray("changeAColor");
+        QTest::newRow("another scene") << QByteArray("showAScene");
     }
 
     void nothingIsLeft()
