@@ -5,18 +5,34 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QVector>
 #include <QWidget>
 
 namespace {
 
-void recolorLinks(QTextDocument* document, const QColor& before, const QColor& now)
+// Of all objects, which would else take each other's colours for the palette's own.
+struct Links
+{
+    QColor plain; // the palette's own, for a sheet that does not name one
+    QColor shown; // set last
+    bool isSetting = false;
+};
+
+Links& links()
+{
+    static Links links;
+    return links;
+}
+
+void recolorLinks(QTextDocument* document, const QVector<QColor>& before, const QColor& now)
 {
     // A text that can be edited is the user's, and so are its steps of undo.
     if (document->isUndoRedoEnabled()) {
         return;
     }
     reformat(document, [&](QTextCharFormat* format) {
-        if (!format->isAnchor() || format->foreground().color() != before) {
+        const QColor color = format->foreground().color();
+        if (!format->isAnchor() || color == now || !before.contains(color)) {
             return false;
         }
         format->setForeground(now);
@@ -29,27 +45,41 @@ void recolorLinks(QTextDocument* document, const QColor& before, const QColor& n
 class SheetColors::Private
 {
 public:
+    QColor linkOfTheSheet() const;
     void colorLinks() const;
 
     SheetColorsProvider provider;
-    // The palette's own, for a sheet that does not name one.
-    const QColor plainLink = QGuiApplication::palette().color(QPalette::Link);
 };
 
-void SheetColors::Private::colorLinks() const
+QColor SheetColors::Private::linkOfTheSheet() const
 {
-    QPalette palette = QGuiApplication::palette();
-    const QColor before = palette.color(QPalette::Link);
     const auto named = provider.property("link").value<QColor>();
     const auto surface = provider.property("window").value<QColor>();
     // Under a sheet of the components alone, the host's texts lie on its own windows.
     const bool isOnSheet = !surface.isValid() || surface == provider.palette().color(QPalette::Window);
-    const QColor now = named.isValid() && isOnSheet ? named : plainLink;
-    if (now == before) {
+    return isOnSheet ? named : QColor();
+}
+
+void SheetColors::Private::colorLinks() const
+{
+    QPalette palette = QGuiApplication::palette();
+    const QColor present = palette.color(QPalette::Link);
+    const QVector<QColor> before{links().shown, present};
+    if (present != links().shown) {
+        links().plain = present;
+    }
+    const QColor named = linkOfTheSheet();
+    const QColor now = named.isValid() ? named : links().plain;
+    links().shown = now;
+    if (now != present) {
+        palette.setColor(QPalette::Link, now);
+        links().isSetting = true;
+        QApplication::setPalette(palette);
+        links().isSetting = false;
+    }
+    if (before.count(now) == before.size()) {
         return;
     }
-    palette.setColor(QPalette::Link, now);
-    QApplication::setPalette(palette);
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget* window : windows) {
         const auto documents = window->findChildren<QTextDocument*>();
@@ -65,8 +95,11 @@ SheetColors::SheetColors(QObject* parent)
 {
     d->colorLinks();
     connect(&d->provider, &SheetColorsProvider::changed, this, [this] {
-        d->colorLinks();
-        Q_EMIT changed();
+        // Qt reports each palette at once, this one too.
+        if (!links().isSetting) {
+            d->colorLinks();
+            Q_EMIT changed();
+        }
     });
 }
 
