@@ -19,7 +19,8 @@
  * **Links.** Qt takes their colour from the application's palette, which style sheets cannot change. While
  * there is an object of this class, that palette's Link is the sheet's, and so are the links of the texts
  * that labels and text views show already: texts need no colours of their own. A link whose markup has one
- * keeps it, and so do all under a sheet of the components alone, which leaves the host's windows as they are.
+ * keeps it. The palette's own Link, also one that a host sets later, holds under a sheet that names none, and
+ * under one whose "window" is not the background that it gives to QWidget, as those of the components alone.
  *
  * **Names.** window, card, popup, field, fieldDisabled, button, buttonHover, buttonPressed, itemHover, line,
  * border, borderHover, text, textStrong, textSecondary, textDisabled, link, accent, accentHover,
@@ -43,7 +44,11 @@ class UICOMPONENTS_EXPORT SheetColors : public QObject
     Q_OBJECT
 
 public:
-    /// One is enough for a program, and belongs to the thread of its widgets. @p parent owns the object.
+    /// One is enough for a program, and belongs to the thread of its widgets. It needs the QApplication, and
+    /// may be deleted after it. @p parent owns the object.
+    ///
+    /// When the link changes, it calls QApplication::setPalette(), with which Qt drops the palettes of single
+    /// classes, such as that of setPalette(palette, "QMenu"). A host that has some sets them after the sheet.
     explicit SheetColors(QObject* parent = nullptr);
     /// Links keep the colour that they have.
     ~SheetColors() override;
@@ -62,6 +67,8 @@ public:
 
 Q_SIGNALS:
     /// The application has another style sheet or another palette. The values and the links are the new ones.
+    /// Once for each change, while Qt is telling all widgets of it: a slot deletes a widget, and this object,
+    /// with deleteLater().
     void changed();
 
 private:

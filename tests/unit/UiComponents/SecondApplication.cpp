@@ -1,14 +1,17 @@
 // A program with two QApplications, one after the other: Qt forgets the factories of interfaces and the
-// translators with the first.
+// translators with the first. Colours of the sheet may be deleted after it.
 
 #include <UiComponents/ColorPickerButton.h>
+#include <UiComponents/SheetColors.h>
 #include <UiComponents/Translations.h>
 #include <WidgetToolkit/OvDoubleSlider.h>
 
 #include <QAccessible>
 #include <QApplication>
+#include <QPalette>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -19,7 +22,10 @@ QString spokenValue(QWidget* widget)
 
 bool isSpoken(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
+    std::unique_ptr<SheetColors> colors;
+    QApplication application(argc, argv);
+    colors = std::make_unique<SheetColors>();
+    application.setStyleSheet(QStringLiteral("SheetColorsProvider { qproperty-link: #123456; }"));
     Translations::load(QLocale(QLocale::German));
     OvDoubleSlider slider;
     slider.setMultiplier(0.01);
@@ -28,7 +34,8 @@ bool isSpoken(int argc, char** argv)
     button.setColor(QColor(Qt::red));
     const QString said = spokenValue(&slider) + QLatin1Char(' ') + spokenValue(&button);
     std::puts(qPrintable(said));
-    return said == QLatin1String("0.4 Rot, #ff0000");
+    return said == QLatin1String("0.4 Rot, #ff0000") &&
+           QApplication::palette().color(QPalette::Link) == QColor(0x123456);
 }
 
 } // namespace
