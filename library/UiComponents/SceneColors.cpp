@@ -4,14 +4,14 @@
 
 namespace {
 
-class Registration
+class SceneType
 {
 public:
-    Registration() = default;
+    SceneType() = default;
     // Qt stays when the library is unloaded, and would call the functions of the type.
-    ~Registration() { QQmlPrivate::qmlunregister(QQmlPrivate::SingletonRegistration, quintptr(m_type)); }
-    Registration(const Registration&) = delete;
-    Registration& operator=(const Registration&) = delete;
+    ~SceneType() { QQmlPrivate::qmlunregister(QQmlPrivate::SingletonRegistration, quintptr(m_type)); }
+    SceneType(const SceneType&) = delete;
+    SceneType& operator=(const SceneType&) = delete;
 
 private:
     const int m_type = qmlRegisterSingletonType<SceneColors>(
@@ -23,7 +23,7 @@ private:
 
 void SceneColors::registerType()
 {
-    static const Registration registration;
+    static const SceneType registration;
 }
 
 SceneColors::SceneColors(QObject* parent)
