@@ -91,8 +91,11 @@ void press(World& world)
 
 void repaint(World& world)
 {
-    QWidget* const top = anyTop(world);
+    // One of its own: the others may have no size by now.
+    auto* const top = new QWidget;
+    world.addTop(top);
     (new Repainter(top))->show();
+    top->resize(100, 100);
     top->show();
 }
 
