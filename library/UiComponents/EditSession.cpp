@@ -18,6 +18,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QSpinBox>
 #include <QVector>
 
 #include <utility>
@@ -55,6 +56,24 @@ QLineEdit* editorOf(QObject* part)
 }
 
 /// An edit's own undo ends where the host's begins.
+/// Whether the text is a value, or becomes one that the user has asked for.
+bool isEntered(const QAbstractSpinBox& box)
+{
+    const bool isNearest = box.correctionMode() == QAbstractSpinBox::CorrectToNearestValue &&
+                           !box.property("cleanText").toString().isEmpty();
+    return box.hasAcceptableInput() || isNearest;
+}
+
+/// Shows the value that the box still has, where interpretText() could take another one.
+void takeBack(QAbstractSpinBox* box)
+{
+    if (auto* const whole = qobject_cast<QSpinBox*>(box)) {
+        whole->setValue(whole->value());
+    } else if (auto* const fraction = qobject_cast<QDoubleSpinBox*>(box)) {
+        fraction->setValue(fraction->value());
+    }
+}
+
 void forgetTyping(QLineEdit* editor)
 {
     if (editor->isUndoAvailable() || editor->isRedoAvailable()) {
@@ -346,6 +365,8 @@ void EditSession::Private::loseFocus(const QFocusEvent& event)
     if ((isText && event.reason() != Qt::PopupFocusReason) || gesture == Gesture::Key ||
         gesture == Gesture::Wheel) {
         finish();
+    } else if (event.reason() != Qt::PopupFocusReason) {
+        face->coverTexts(); // of what was pasted or inserted
     }
 }
 
@@ -463,7 +484,10 @@ void EditSession::Private::onChosen()
 /// The same for a text.
 void EditSession::Private::onTyped()
 {
-    if (gesture == Gesture::Text && editorOf(part) && editorOf(part)->hasAcceptableInput()) {
+    const QLineEdit* const editor = gesture == Gesture::Text ? editorOf(part) : nullptr;
+    if (editor && face->isShown() && !editor->isModified()) {
+        face->coverTexts(); // all that was typed is undone
+    } else if (editor && editor->hasAcceptableInput()) {
         onChosen();
     }
 }
@@ -591,12 +615,13 @@ bool EditSession::Private::takeText()
     const QPointer<EditSession> self(q);
     if (isTyped()) {
         auto* const box = qobject_cast<QAbstractSpinBox*>(part);
-        // A text that is no value brings back the hidden one, which nobody has entered.
-        const bool isEntered =
-            box->hasAcceptableInput() || box->correctionMode() == QAbstractSpinBox::CorrectToNearestValue;
-        box->interpretText();
-        if (self && isEntered && face->isShown()) {
-            reportShown();
+        if (face->isShown() && !isEntered(*box)) {
+            takeBack(box); // nobody has entered anything
+        } else {
+            box->interpretText();
+            if (self && face->isShown()) {
+                reportShown();
+            }
         }
     }
     QLineEdit* const editor = self ? editorOf(part) : nullptr;

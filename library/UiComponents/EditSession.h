@@ -32,8 +32,8 @@ class QWidget;
  * to its picker. A field that is deleted ends its session without a signal, and what was previewed stays.
  * What ends a session in a slot of started() or previewed() does so when all slots have heard of the value.
  * The keys of Undo and Redo belong to a text while it is typed, and else to the host's shortcuts.
- * Its slots may delete the session, and the field where a slot of the field's own signals may: with a text
- * field, a combo box and a spin box, and where hiding the field ends the session, they use deleteLater().
+ * Its slots may delete the session, and the field where slots of its own signals may. With a text field, a
+ * combo box and a spin box, and where hiding or disabling the field makes the report, use deleteLater().
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its

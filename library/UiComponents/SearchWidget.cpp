@@ -56,12 +56,14 @@ public:
     void showClearButton(bool isVisible);
     void reportFinished();
     void applyPlaceholderBrush() const;
+    void setFocusHint(bool isOn);
 
     SearchWidget* const q;
     QLabel* const searchIcon;
     TesselLineEdit* const searchLineEdit;
     QToolButton* const clearSearchButton;
     bool isClearButtonShown = false;
+    bool isHinting = false;
     QString reportedText;
     // The last brush of the placeholder.
     std::optional<QBrush> placeholderBrush;
@@ -118,6 +120,14 @@ void SearchWidget::Private::applyPlaceholderBrush() const
     searchLineEdit->setPalette(palette);
 }
 
+/// A change of style by the field itself brings no other sheet.
+void SearchWidget::Private::setFocusHint(bool isOn)
+{
+    isHinting = true;
+    Util::applyProperty(q, "focusHint", isOn);
+    isHinting = false;
+}
+
 SearchWidget::SearchWidget(QWidget* parent)
     : OvFrame(parent)
     , d(std::make_unique<Private>(this))
@@ -161,12 +171,12 @@ bool SearchWidget::eventFilter(QObject* watched, QEvent* event)
     if (watched == d->searchLineEdit) {
         switch (event->type()) {
         case QEvent::FocusIn:
-            Util::applyProperty(this, "focusHint", true);
+            d->setFocusHint(true);
             Util::repolishWidget(d->searchIcon);
             Util::repolishWidget(d->searchLineEdit);
             break;
         case QEvent::FocusOut:
-            Util::applyProperty(this, "focusHint", false);
+            d->setFocusHint(false);
             break;
         case QEvent::EnabledChange:
             updatePalette();
@@ -203,7 +213,7 @@ void SearchWidget::showEvent(QShowEvent* event)
 void SearchWidget::changeEvent(QEvent* event)
 {
     // A new sheet has colours of its own for what it shows already.
-    if (event->type() == QEvent::StyleChange && d->placeholderBrush) {
+    if (event->type() == QEvent::StyleChange && d->placeholderBrush && !d->isHinting) {
         updatePalette();
     }
     OvFrame::changeEvent(event);

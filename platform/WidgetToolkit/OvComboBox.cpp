@@ -122,9 +122,9 @@ void OvComboBox::paintEvent(QPaintEvent* event)
     }
     // From the right to the left a text ends where its advance does, and the style clips it at the field's
     // end.
-    const int overhang = option.fontMetrics.horizontalAdvance(option.currentText) - room;
-    if (isRightToLeft() && overhang > 0) {
-        option.rect.setLeft(option.rect.left() - overhang);
+    if (isRightToLeft()) {
+        const int overhang = option.fontMetrics.horizontalAdvance(option.currentText) - room;
+        option.rect.setLeft(option.rect.left() - qMax(0, overhang));
     }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

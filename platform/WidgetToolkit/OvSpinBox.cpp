@@ -2,7 +2,6 @@
 
 #include "SpinBoxInput.h"
 
-#include <QPointer>
 #include <QWheelEvent>
 
 OvSpinBox::OvSpinBox(QWidget* parent)

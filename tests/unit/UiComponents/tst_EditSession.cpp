@@ -286,6 +286,8 @@ using Act = std::function<void(Stage&, const Kind&)>;
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(std::function<void(FakeColorPicker&)>)
 Q_DECLARE_METATYPE(std::function<void(QWidget*)>)
+Q_DECLARE_METATYPE(std::function<void(QSpinBox&)>)
+Q_DECLARE_METATYPE(QAbstractSpinBox::CorrectionMode)
 Q_DECLARE_METATYPE(std::function<void(WidgetColorPickerButton*)>)
 
 enum class Needs { Nothing, Drag, Keys, Wheel, Text };
@@ -1176,17 +1178,24 @@ private Q_SLOTS:
 
     void hiddenNumberIsNotEntered_data()
     {
+        using Correction = QAbstractSpinBox::CorrectionMode;
         QTest::addColumn<int>("key");
-        QTest::newRow("not yet a value") << int(Qt::Key_7);
-        QTest::newRow("nothing") << int(Qt::Key_Backspace);
+        QTest::addColumn<Correction>("correction");
+        QTest::newRow("not yet a value") << int(Qt::Key_7) << QAbstractSpinBox::CorrectToPreviousValue;
+        QTest::newRow("nothing") << int(Qt::Key_Backspace) << QAbstractSpinBox::CorrectToPreviousValue;
+        QTest::newRow("nothing, the nearest of which is the minimum")
+            << int(Qt::Key_Backspace) << QAbstractSpinBox::CorrectToNearestValue;
     }
 
     // A spin box takes its own number again when the text is none.
     void hiddenNumberIsNotEntered()
     {
         QFETCH(int, key);
+        QFETCH(QAbstractSpinBox::CorrectionMode, correction);
         QSpinBox field;
         field.setRange(8, 200);
+        field.setValue(50);
+        field.setCorrectionMode(correction);
         EditSession session(&field);
         QSignalSpy started(&session, &EditSession::started);
         session.setMultiValue(true);
@@ -1194,6 +1203,38 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&field));
         QTest::keyClick(&field, Qt::Key(key));
         QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(started.count(), 0);
+        QVERIFY(session.isMultiValue());
+        QVERIFY(field.findChild<QLabel*>("multiValueCover")->isVisible());
+    }
+
+    void hiddenNumberIsCoveredAgain_data()
+    {
+        using Way = std::function<void(QSpinBox&)>;
+        QTest::addColumn<Way>("way");
+        QTest::newRow("all is undone") << Way([](QSpinBox& field) {
+            QTest::keyClick(&field, Qt::Key_7);
+            field.findChild<QLineEdit*>()->undo();
+        });
+        QTest::newRow("inserted without a key") << Way([](QSpinBox& field) {
+            field.findChild<QLineEdit*>()->insert("7");
+            field.clearFocus();
+        });
+    }
+
+    void hiddenNumberIsCoveredAgain()
+    {
+        using Way = std::function<void(QSpinBox&)>;
+        QFETCH(Way, way);
+        QSpinBox field;
+        field.setRange(8, 200);
+        field.setValue(50);
+        EditSession session(&field);
+        QSignalSpy started(&session, &EditSession::started);
+        session.setMultiValue(true);
+        field.show();
+        QVERIFY(QTest::qWaitForWindowActive(&field));
+        way(field);
         QCOMPARE(started.count(), 0);
         QVERIFY(session.isMultiValue());
         QVERIFY(field.findChild<QLabel*>("multiValueCover")->isVisible());
