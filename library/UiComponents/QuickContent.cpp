@@ -27,7 +27,7 @@ bool isLoadable(const QUrl& url)
     if (!url.isLocalFile()) {
         return url.scheme() == QLatin1String("qrc");
     }
-    constexpr qint64 maxSize = 64 * 1024 * 1024;
+    constexpr qint64 maxSize = qint64{64} * 1024 * 1024;
     const QFileInfo file(url.toLocalFile());
     return !file.exists() || file.isDir() || (file.isFile() && file.size() <= maxSize);
 }

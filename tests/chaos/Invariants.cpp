@@ -125,7 +125,8 @@ QVector<QObject*> leftovers()
     constexpr int few = 16;
     std::map<QByteArray, int> counts;
     QVector<QObject*> left;
-    for (QObject* object : newOnes(objects)) {
+    const auto present = newOnes(objects);
+    for (QObject* object : present) {
         // The last drag's picture stays as a hidden window, for the next one.
         const bool isSeen =
             object->isWidgetType() || (object->isWindowType() && !object->inherits("QShapedPixmapWindow"));
@@ -271,12 +272,14 @@ void Invariants::checkSettled()
           QStringLiteral("the keyboard is grabbed by %1").arg(World::nameOf(QWidget::keyboardGrabber())));
     check(!QApplication::overrideCursor(), QStringLiteral("an override cursor is left"));
     check(!QApplication::activePopupWidget(), QStringLiteral("a pop-up is left"));
-    for (QObject* filter : newOnes(filters())) {
+    const auto left = newOnes(filters());
+    for (QObject* filter : left) {
         // A tip of Qt's goes by itself, after a while.
         check(filter->inherits("QTipLabel"),
               QStringLiteral("filters the application still: ") + World::nameOf(filter));
     }
-    for (QObject* object : newOnes(objects)) {
+    const auto present = newOnes(objects);
+    for (QObject* object : present) {
         check(!object->inherits("HighlightFrameOverlay"), QStringLiteral("a highlight is left"));
         check(!isPressed(object) || Exceptions::mayStayPressed(object),
               QStringLiteral("stays pressed: ") + World::nameOf(object));

@@ -109,7 +109,8 @@ private:
             return above;
         }
         std::vector<QWidget*> windows;
-        for (QWidget* window : QApplication::topLevelWidgets()) {
+        const auto all = QApplication::topLevelWidgets();
+        for (QWidget* window : all) {
             if (window->isVisible() && window->windowHandle()) {
                 windows.push_back(window);
             }
@@ -121,7 +122,8 @@ private:
     {
         QWidget* const window = anyWindow();
         std::vector<QWidget*> parts = {window};
-        for (QWidget* part : window->findChildren<QWidget*>()) {
+        const auto inner = window->findChildren<QWidget*>();
+        for (QWidget* part : inner) {
             if (part->window() == window && part->isVisible()) {
                 parts.push_back(part);
             }

@@ -160,7 +160,8 @@ void World::endLoops()
             }
         }
         // Qt waits for ever for a menu that was closed while it was being opened.
-        for (QWidget* widget : QApplication::allWidgets()) {
+        const auto widgets = QApplication::allWidgets();
+        for (QWidget* widget : widgets) {
             if (widget->inherits("QMenu")) {
                 widget->show();
                 widget->close();

@@ -77,7 +77,8 @@ bool isKept(const QByteArray& before, const QString& folder)
 {
     const auto linesOf = [](const QByteArray& text) {
         QSet<QByteArray> lines;
-        for (const QByteArray& line : text.split('\n')) {
+        const auto all = text.split('\n');
+        for (const QByteArray& line : all) {
             lines += line.startsWith("userCustomColors=") ? QByteArray() : line;
         }
         return lines;

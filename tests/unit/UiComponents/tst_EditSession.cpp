@@ -673,8 +673,8 @@ private Q_SLOTS:
         QTest::addColumn<Color>("start");
         QTest::addColumn<Color>("result");
         QTest::addColumn<QString>("expected");
-        const Color red(QColor(Qt::red));
-        const Color blue(QColor(Qt::blue));
+        const Color red{QColor(Qt::red)};
+        const Color blue{QColor(Qt::blue)};
         const QString once("started previewed committed");
         const QString cancelled("started previewed cancelled");
         const Pick previews = [blue](FakeColorPicker& picker) {

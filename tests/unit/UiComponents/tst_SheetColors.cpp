@@ -84,7 +84,8 @@ private Q_SLOTS:
         QCOMPARE(colors.color(QStringLiteral("accent")), palette.color(QPalette::Highlight));
         QCOMPARE(colors.radius(), 4);
         QCOMPARE(colors.spacing(), 8);
-        for (const QString& name : SheetColors::names()) {
+        const auto names = SheetColors::names();
+        for (const QString& name : names) {
             QVERIFY2(colors.color(name).isValid(), qPrintable(name));
         }
         for (const char* name : {"", "radius", "Window", "nothing"}) {

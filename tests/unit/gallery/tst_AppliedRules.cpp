@@ -99,7 +99,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, sheet);
         QStringList rules;
-        for (const AppliedRule& rule : applied(sheet)) {
+        const auto applying = applied(sheet);
+        for (const AppliedRule& rule : applying) {
             rules.append(QString("%1 %2").arg(rule.selector).arg(rule.specificity));
         }
         QTEST(rules.join(", "), "expected");
@@ -121,7 +122,7 @@ private Q_SLOTS:
         const QString sheet = "QFrame QPushButton { qproperty-accessibleName: near; }" +
                               QString("QDial { }").repeated(between) +
                               "QPushButton { qproperty-accessibleName: far; }";
-        QTEST(applied(sheet).first().declarations.first().value, "first");
+        QTEST(applied(sheet).constFirst().declarations.constFirst().value, "first");
         qApp->setStyleSheet(sheet);
         button()->ensurePolished();
         QTEST(button()->accessibleName(), "first");
@@ -179,7 +180,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, selector);
         button()->setChecked(true);
-        QTEST(applied(selector + " { }").first().holdsNow, "holds");
+        QTEST(applied(selector + " { }").constFirst().holdsNow, "holds");
     }
 
     void overridden_data()
@@ -209,7 +210,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, sheet);
         QStringList valid;
-        for (const AppliedRule& rule : applied(sheet)) {
+        const auto rules = applied(sheet);
+        for (const AppliedRule& rule : rules) {
             for (const AppliedRule::Declaration& declaration : rule.declarations) {
                 if (!declaration.isOverridden) {
                     valid.append(declaration.value);

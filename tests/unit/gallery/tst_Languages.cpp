@@ -170,7 +170,8 @@ private:
     static void addPages(const QString& except)
     {
         QTest::addColumn<QString>("id");
-        for (const PageInfo& page : PageRegistry::pages()) {
+        const auto pages = PageRegistry::pages();
+        for (const PageInfo& page : pages) {
             if (page.id != except) {
                 QTest::newRow(qPrintable(page.id)) << page.id;
             }

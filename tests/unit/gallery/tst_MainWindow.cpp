@@ -235,8 +235,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("style");
         QTest::addColumn<QString>("language");
-        for (const QString& style : StyleController::builtInStyles()) {
-            for (const QString& language : LanguageController::languages()) {
+        const auto builtIn = StyleController::builtInStyles();
+        for (const QString& style : builtIn) {
+            const auto languages = LanguageController::languages();
+            for (const QString& language : languages) {
                 QTest::addRow("%s, %s", qPrintable(style), qPrintable(language)) << style << language;
             }
         }

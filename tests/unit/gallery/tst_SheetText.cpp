@@ -16,7 +16,7 @@ private Q_SLOTS:
         QCOMPARE(sheet.errorLine(), 0);
         QCOMPARE(sheet.error(), QString());
         QCOMPARE(sheet.rules().size(), 2);
-        const SheetText::Rule first = sheet.rules().first();
+        const SheetText::Rule first = sheet.rules().constFirst();
         QCOMPARE(first.line, 3);
         QStringList declarations;
         for (const SheetText::Declaration& declaration : first.declarations) {
@@ -25,8 +25,8 @@ private Q_SLOTS:
         }
         QCOMPARE(declarations, (QStringList{"5 color: rgb(1, 2, 3)", "7 qproperty-text: \"a: b;\"",
                                             "7 border: 1px solid red"}));
-        QCOMPARE(sheet.rules().last().line, 11);
-        QVERIFY(sheet.rules().last().declarations.isEmpty());
+        QCOMPARE(sheet.rules().constLast().line, 11);
+        QVERIFY(sheet.rules().constLast().declarations.isEmpty());
     }
 
     // What Qt passes over is in the sheet, and the rules behind it are where they are.
@@ -35,8 +35,8 @@ private Q_SLOTS:
         const SheetText sheet("QLabel { a; color: red; x: 3 }\nQFrame { b: }\n QDial { margin: 3px }");
         QCOMPARE(sheet.errorLine(), 1);
         QCOMPARE(sheet.rules().size(), 3);
-        QCOMPARE(sheet.rules().first().declarations.size(), 2);
-        QCOMPARE(sheet.rules().last().line, 3);
+        QCOMPARE(sheet.rules().constFirst().declarations.size(), 2);
+        QCOMPARE(sheet.rules().constLast().line, 3);
     }
 
     void errors_data()

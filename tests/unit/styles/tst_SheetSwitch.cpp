@@ -213,7 +213,8 @@ private Q_SLOTS:
             widget->setEnabled(isEnabled);
             QVERIFY(host.present(widget));
             const QStringList following = {QStringLiteral("light-components"), QStringLiteral("dark")};
-            for (const QString& sheet : styles() + following) {
+            const QStringList all = styles() + following;
+            for (const QString& sheet : all) {
                 qApp->setStyleSheet(resourceSheet(sheet));
                 // The layout of a host would, and that of the component is done before the next paint.
                 QCoreApplication::sendPostedEvents();
