@@ -258,6 +258,7 @@ private Q_SLOTS:
     {
         qApp->setStyleSheet(QString());
         Settings::setUserCustomColors({});
+        Translations::load(QLocale(QLocale::English));
     }
 
     void transcript_data()
