@@ -529,7 +529,8 @@ private Q_SLOTS:
         QVERIFY(window.present());
         SearchWidget& search = *window.search;
         // Without colours for the properties, which it would write again whenever it is applied.
-        search.setStyleSheet("QWidget { color: #dddddd; }");
+        search.setStyleSheet("QWidget { color: #dddddd; }"
+                             "SearchWidget[focusHint=\"true\"] { border: 1px solid blue; }");
         for (const char* name : {"PlaceholderColor", "PlaceholderHoverColor", "PlaceholderDisabledColor"}) {
             search.setProperty(name, QColor(Qt::cyan));
         }

@@ -126,6 +126,22 @@ private Q_SLOTS:
         QCOMPARE(translated("PathSelectionWidget", source), QString("Necesario: %1"));
     }
 
+    // The folder has another language of the user's, but not the first.
+    void languagesOfTheUserInTheirOrder()
+    {
+        const HostFolder folder;
+        QVERIFY(folder.add("uicomponents_fr.qm"));
+        const QByteArray before = qgetenv("LANGUAGE");
+        const auto restore = qScopeGuard([&before] { qputenv("LANGUAGE", before); });
+        qputenv("LANGUAGE", "ja:fr");
+        QVERIFY(QLocale::system().uiLanguages().constFirst().startsWith("ja"));
+        QVERIFY(Translations::load(QLocale::system(), folder.path()));
+        const QString japanese = translated("PathSelectionWidget", "Choose a folder");
+        QVERIFY(Translations::load(QLocale("ja")));
+        QCOMPARE(japanese, translated("PathSelectionWidget", "Choose a folder"));
+        QVERIFY(japanese != QString("Ordner wählen"));
+    }
+
     void direction()
     {
         QVERIFY(Translations::load(QLocale("ar")));
