@@ -3,11 +3,11 @@
 #pragma once
 
 #include <QPointer>
+#include <QVariant>
 #include <QWheelEvent>
 
 class QKeyEvent;
 class QLineEdit;
-class QVariant;
 
 namespace SpinBoxInput {
 

@@ -1217,7 +1217,9 @@ private Q_SLOTS:
             field.findChild<QLineEdit*>()->undo();
         });
         QTest::newRow("inserted without a key") << Way([](QSpinBox& field) {
-            field.findChild<QLineEdit*>()->insert("7");
+            auto* const editor = field.findChild<QLineEdit*>();
+            editor->selectAll();
+            editor->insert("7");
             field.clearFocus();
         });
     }
