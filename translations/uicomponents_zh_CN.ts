@@ -314,7 +314,7 @@
     </message>
 </context>
 <context>
-    <name>MultiValueFace</name>
+    <name>MultiValueCover</name>
     <message>
         <source>Several values</source>
         <translation>多个值</translation>

@@ -5,7 +5,7 @@
 #include "ColorPickerButton.h"
 #include "DyingWindow.h"
 #include "FieldAccess.h"
-#include "MultiValueFace.h"
+#include "MultiValueCover.h"
 #include "PointSelectionPlane.h"
 #include "WidgetColorPickerButton.h"
 
@@ -155,7 +155,7 @@ public:
     QWidget* const field;
     ColorPickerButton* const colorButton;
     const FieldAccess access;
-    MultiValueFace* const face;
+    MultiValueCover* const cover;
     const QMetaObject* const whole;
 
     Gesture gesture = Gesture::None;
@@ -183,7 +183,7 @@ EditSession::Private::Private(EditSession* session, QWidget* editedField)
     , field(editedField)
     , colorButton(colorButtonOf(editedField))
     , access(FieldAccess::of(editedField))
-    , face(new MultiValueFace(editedField, session))
+    , cover(new MultiValueCover(editedField, session))
     , whole(editedField->metaObject())
 {
 }
@@ -294,7 +294,7 @@ void EditSession::Private::beginText(QObject* onPart)
     QLineEdit* const editor = editorOf(onPart);
     // A number that is not there yet, such as the first digit below a minimum, is typed on.
     const bool isTyping = gesture == Gesture::Text && part == onPart && isTyped();
-    if (editor && begin(Gesture::Text, onPart) && face->isShown() && !isTyping) {
+    if (editor && begin(Gesture::Text, onPart) && cover->isShown() && !isTyping) {
         editor->selectAll();
     }
 }
@@ -303,7 +303,7 @@ void EditSession::Private::beginText(QObject* onPart)
 void EditSession::Private::replaceText(QObject* onPart)
 {
     auto* const editor = qobject_cast<QLineEdit*>(onPart);
-    if (!editor || !face->isShown()) {
+    if (!editor || !cover->isShown()) {
         return;
     }
     const bool isOfAnother = editorOf(editor->parent()) == editor;
@@ -366,7 +366,7 @@ void EditSession::Private::loseFocus(const QFocusEvent& event)
         gesture == Gesture::Wheel) {
         finish();
     } else if (event.reason() != Qt::PopupFocusReason) {
-        face->coverTexts(); // of what was pasted or inserted
+        cover->coverTexts(); // of what was pasted or inserted
     }
 }
 
@@ -471,7 +471,7 @@ void EditSession::Private::onChanged()
 /// The user has chosen what the field holds already.
 void EditSession::Private::onChosen()
 {
-    if (!isHeard() || !face->isShown()) {
+    if (!isHeard() || !cover->isShown()) {
         return;
     }
     const QPointer<EditSession> self(q);
@@ -485,8 +485,8 @@ void EditSession::Private::onChosen()
 void EditSession::Private::onTyped()
 {
     const QLineEdit* const editor = gesture == Gesture::Text ? editorOf(part) : nullptr;
-    if (editor && face->isShown() && !editor->isModified()) {
-        face->coverTexts(); // all that was typed is undone
+    if (editor && cover->isShown() && !editor->isModified()) {
+        cover->coverTexts(); // all that was typed is undone
     } else if (editor && editor->hasAcceptableInput()) {
         onChosen();
     }
@@ -495,7 +495,7 @@ void EditSession::Private::onTyped()
 /// The user has asked for more than there is, and so for what the field holds already.
 void EditSession::Private::chooseAtEnd(QObject* onPart, const QEvent* event)
 {
-    if (face->isShown() && !isTyped() && FieldAccess::isAtEnd(onPart, event)) {
+    if (cover->isShown() && !isTyped() && FieldAccess::isAtEnd(onPart, event)) {
         onChosen();
     }
 }
@@ -556,10 +556,10 @@ void EditSession::Private::report(const QVariant& value)
     if (!isActive) {
         isActive = true;
         start = before;
-        wasMulti = face->isShown();
+        wasMulti = cover->isShown();
         // Several colours are a value of their own.
         isNewInAnyCase = wasMulti && !colorButton;
-        face->setShown(false);
+        cover->setShown(false);
         Q_EMIT q->started();
     }
     if (self) {
@@ -615,11 +615,11 @@ bool EditSession::Private::takeText()
     const QPointer<EditSession> self(q);
     if (isTyped()) {
         auto* const box = qobject_cast<QAbstractSpinBox*>(part);
-        if (face->isShown() && !isEntered(*box)) {
+        if (cover->isShown() && !isEntered(*box)) {
             takeBack(box); // nobody has entered anything
         } else {
             box->interpretText();
-            if (self && face->isShown()) {
+            if (self && cover->isShown()) {
                 reportShown();
             }
         }
@@ -627,7 +627,7 @@ bool EditSession::Private::takeText()
     QLineEdit* const editor = self ? editorOf(part) : nullptr;
     if (editor) {
         forgetTyping(editor);
-        face->coverTexts();
+        cover->coverTexts();
     }
     return self;
 }
@@ -666,7 +666,7 @@ void EditSession::Private::end(bool isKept)
         const QVariant value = last;
         Q_EMIT q->committed(value);
     } else {
-        face->setShown(wasMulti);
+        cover->setShown(wasMulti);
         Q_EMIT q->cancelled();
     }
 }
@@ -691,7 +691,7 @@ void EditSession::Private::cancel()
         --holds;
         refused.clear();
         last = access.read();
-        face->coverTexts();
+        cover->coverTexts();
         end(false);
     }
 }
@@ -760,7 +760,7 @@ void EditSession::setValue(const QVariant& value)
         d->access.write(value);
     }
     if (self) {
-        d->face->setShown(false);
+        d->cover->setShown(false);
     }
 }
 
@@ -781,7 +781,7 @@ bool EditSession::isActive() const
 
 bool EditSession::isMultiValue() const
 {
-    return d->face->isShown();
+    return d->cover->isShown();
 }
 
 void EditSession::setMultiValue(bool isMulti)
@@ -791,7 +791,7 @@ void EditSession::setMultiValue(bool isMulti)
     if (!self || isMulti == isMultiValue()) {
         return;
     }
-    d->face->setShown(isMulti);
+    d->cover->setShown(isMulti);
     if (isMulti && d->colorButton) {
         d->colorButton->setColor(std::nullopt);
         d->last = d->access.read();
@@ -836,7 +836,7 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::ContextMenu:
         // It may paste.
-        if (d->face->isShown()) {
+        if (d->cover->isShown()) {
             d->beginText(watched);
         }
         break;

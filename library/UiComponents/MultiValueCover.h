@@ -12,14 +12,14 @@ class QWidget;
  * Covers the texts of a field while it stands for several values, and says so to style sheets and to screen
  * readers. The field keeps its value below. What the user types is seen, also before it is a value.
  */
-class MultiValueFace : public QObject
+class MultiValueCover : public QObject
 {
     Q_OBJECT
 
 public:
     /// @p field outlives @p parent.
-    MultiValueFace(QWidget* field, QObject* parent);
-    ~MultiValueFace() override;
+    MultiValueCover(QWidget* field, QObject* parent);
+    ~MultiValueCover() override;
 
     bool isShown() const { return m_isShown; }
     void setShown(bool shown);

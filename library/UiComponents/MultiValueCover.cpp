@@ -1,4 +1,4 @@
-#include "MultiValueFace.h"
+#include "MultiValueCover.h"
 
 #include <WidgetToolkit/Util.h>
 
@@ -38,15 +38,15 @@ QRect textRect(const QWidget* part)
 
 } // namespace
 
-MultiValueFace::MultiValueFace(QWidget* field, QObject* parent)
+MultiValueCover::MultiValueCover(QWidget* field, QObject* parent)
     : QObject(parent)
     , m_field(field)
 {
 }
 
-MultiValueFace::~MultiValueFace() = default;
+MultiValueCover::~MultiValueCover() = default;
 
-void MultiValueFace::setShown(bool shown)
+void MultiValueCover::setShown(bool shown)
 {
     if (m_isShown == shown) {
         return;
@@ -85,7 +85,7 @@ void MultiValueFace::setShown(bool shown)
     }
 }
 
-void MultiValueFace::coverTexts() const
+void MultiValueCover::coverTexts() const
 {
     for (const QPointer<QWidget>& cover : m_covers) {
         if (cover) {
@@ -94,7 +94,7 @@ void MultiValueFace::coverTexts() const
     }
 }
 
-bool MultiValueFace::eventFilter(QObject* watched, QEvent* event)
+bool MultiValueCover::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange && watched == m_field) {
         setTexts();
@@ -108,7 +108,7 @@ bool MultiValueFace::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void MultiValueFace::cover(QWidget* part)
+void MultiValueCover::cover(QWidget* part)
 {
     if (!m_isShown) {
         part->removeEventFilter(this);
@@ -139,7 +139,7 @@ void MultiValueFace::cover(QWidget* part)
     m_covers.append(cover);
 }
 
-void MultiValueFace::setTexts() const
+void MultiValueCover::setTexts() const
 {
     for (const Description& description : m_descriptions) {
         if (description.part) {
