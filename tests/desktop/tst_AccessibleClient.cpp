@@ -167,7 +167,7 @@ public:
 private:
     bool hears(const QString& text)
     {
-        return QTest::qWaitFor([&] { return (m_heard += m_client->heard()).contains(text); }, 5000);
+        return QTest::qWaitFor([&] { return (m_heard += m_client->heard()).contains(text); }, answerLimitMs);
     }
 
     Client* const m_client;
@@ -461,7 +461,7 @@ private Q_SLOTS:
         QVERIFY(client.isListening());
         QStringList heard;
         const auto hears = [&](const QString& text) {
-            return QTest::qWaitFor([&] { return (heard += client.heard()).contains(text); }, 5000);
+            return QTest::qWaitFor([&] { return (heard += client.heard()).contains(text); }, answerLimitMs);
         };
         const auto goTo = [&](const char* chord, const char* name) {
             heard.clear();
