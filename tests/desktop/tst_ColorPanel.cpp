@@ -89,8 +89,7 @@ private Q_SLOTS:
     void hexValueIsTyped()
     {
         auto* edit = child<QLineEdit>("currentColorValueEdit");
-        QVERIFY(RealInput::click(edit));
-        QTRY_VERIFY(edit->hasFocus());
+        QVERIFY(RealInput::clickInto(edit));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(QStringLiteral("12ab34")));
         QTRY_COMPARE(edit->text(), QStringLiteral("#12ab34"));
@@ -124,8 +123,7 @@ private Q_SLOTS:
         // All but the suffix is selected, as a user leaves it.
         m_reported->clear();
         auto* edit = box->findChild<QLineEdit*>();
-        QVERIFY(RealInput::click(edit));
-        QTRY_VERIFY(edit->hasFocus());
+        QVERIFY(RealInput::clickInto(edit));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(QStringLiteral("25\n")));
         QTRY_COMPARE(slider->value(), 25);
@@ -348,7 +346,7 @@ private Q_SLOTS:
         QVERIFY(openField());
         QVERIFY(RealInput::click(facesOf("colorMatrixPanel").at(30)));
         QTRY_COMPARE(m_reported->count(), 1);
-        QVERIFY(RealInput::click(child<QLineEdit>("currentColorValueEdit")));
+        QVERIFY(RealInput::clickInto(child<QLineEdit>("currentColorValueEdit")));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(QStringLiteral("345678")));
         QTRY_COMPARE(centerOf(m_field), QColor(0x34, 0x56, 0x78));

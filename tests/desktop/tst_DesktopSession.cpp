@@ -77,8 +77,7 @@ private Q_SLOTS:
 
         QVERIFY(RealInput::click(&button));
         QTRY_COMPARE(clicked.count(), 1);
-        QVERIFY(RealInput::click(&edit));
-        QTRY_VERIFY(edit.hasFocus());
+        QVERIFY(RealInput::clickInto(&edit));
         QVERIFY(RealInput::type(QStringLiteral("Cut 12, take 3")));
         QTRY_COMPARE(edit.text(), QStringLiteral("Cut 12, take 3"));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));

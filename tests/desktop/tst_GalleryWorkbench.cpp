@@ -62,8 +62,7 @@ private Q_SLOTS:
                 m_box->isAncestorOf(m_window->workbench()->inspected()));
         QVERIFY(!row(QStringLiteral("Class"))->text(1).isEmpty());
 
-        QVERIFY(RealInput::click(m_editor->viewport()));
-        QTRY_VERIFY(m_editor->hasFocus());
+        QVERIFY(RealInput::clickInto(m_editor->viewport()));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+End")));
         QVERIFY(RealInput::type(QStringLiteral("OvSpinBox { background: #123456")));
         QTRY_COMPARE(m_editor->errorLine(), m_editor->blockCount());
@@ -86,8 +85,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_point->isChecked());
         QVERIFY(!outlined());
         // The mouse is the widgets' again.
-        QVERIFY(RealInput::click(m_box));
-        QTRY_VERIFY(m_box->hasFocus());
+        QVERIFY(RealInput::clickInto(m_box));
     }
 
     void popupIsPointedAt()

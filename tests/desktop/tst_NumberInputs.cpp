@@ -72,8 +72,7 @@ private Q_SLOTS:
     void numberIsTyped()
     {
         auto* spinBox = partOf<QSpinBox>(m_number, "spinbox");
-        QVERIFY(RealInput::click(spinBox));
-        QTRY_VERIFY(spinBox->hasFocus());
+        QVERIFY(RealInput::clickInto(spinBox));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(QStringLiteral("73")));
         QTRY_COMPARE(m_numbers, QVector<int>({7, 7, 73, 73}));
@@ -118,8 +117,7 @@ private Q_SLOTS:
         QCOMPARE(m_positions.last(), QPointF(0, 100));
         // The next click is for the widget that is below it.
         const int reports = m_positions.size();
-        QVERIFY(RealInput::click(m_before));
-        QTRY_VERIFY(m_before->hasFocus());
+        QVERIFY(RealInput::clickInto(m_before));
         QCOMPARE(m_positions.size(), reports);
     }
 

@@ -27,7 +27,7 @@ private Q_SLOTS:
 
     void typedPathIsReported()
     {
-        open(QStringLiteral("path-selection"));
+        QVERIFY(open(QStringLiteral("path-selection")));
         QTRY_VERIFY(!m_field->findChild<QLabel*>(QStringLiteral("availableLabel"))
                          ->text()
                          .endsWith(QLatin1String("...")));
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void browsedFolderIsTaken()
     {
         const QTemporaryDir folder;
-        open(QStringLiteral("path-selection"));
+        QVERIFY(open(QStringLiteral("path-selection")));
         QVERIFY(RealInput::click(m_field->findChild<QToolButton*>(QStringLiteral("pathBrowseButton"))));
         QFileDialog* dialog = nullptr;
         QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeWindow())) != nullptr);
@@ -71,8 +71,8 @@ private Q_SLOTS:
 
     void toolTipIsAtTheLineEdit()
     {
-        open(QStringLiteral("path-selection"));
-        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(open(QStringLiteral("path-selection")));
+        QVERIFY(RealInput::clickInto(m_edit));
         QVERIFY(RealInput::type(QStringLiteral("relative")));
         QTRY_COMPARE(m_field->path(), QStringLiteral("relative"));
         QVERIFY(!m_field->checkPath());
@@ -97,12 +97,12 @@ private Q_SLOTS:
 
     void errorIsMarkedUntilTheNextReport()
     {
-        open(QStringLiteral("path-selection"));
+        QVERIFY(open(QStringLiteral("path-selection")));
         const auto* frame = m_field->findChild<QWidget*>(QStringLiteral("pathSelectionFrame"));
         const QPoint border(frame->width() / 2, 0);
         const QColor usual = RealInput::pixel(frame, border);
         m_field->setErrorDisplayType(PathSelectionWidget::Label);
-        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::clickInto(m_edit));
         QVERIFY(RealInput::type(QStringLiteral("relative")));
         QSignalSpy changed(m_field, &PathSelectionWidget::pathChanged);
         QTRY_VERIFY(!changed.isEmpty() && changed.last().first().toString() == QLatin1String("relative"));
@@ -123,7 +123,7 @@ private Q_SLOTS:
 
     void wheelOverThePathScrollsThePanel()
     {
-        open(QStringLiteral("path-selection"));
+        QVERIFY(open(QStringLiteral("path-selection")));
         m_window->resize(1100, 420);
         auto* area = m_window->page()->findChild<QScrollArea*>(QStringLiteral("specimenArea"));
         QVERIFY(area);
@@ -137,10 +137,10 @@ private Q_SLOTS:
 
     void searchIsClearedByMouse()
     {
-        open(QStringLiteral("search"));
+        QVERIFY(open(QStringLiteral("search")));
         auto* button = m_search->findChild<QToolButton*>();
         QVERIFY(!button->isVisible());
-        QVERIFY(RealInput::click(m_edit));
+        QVERIFY(RealInput::clickInto(m_edit));
         QVERIFY(RealInput::type(QStringLiteral("beach")));
         QTRY_VERIFY(button->isVisible());
         QVERIFY(RealInput::moveTo(m_edit, m_edit->rect().center()));
@@ -153,7 +153,7 @@ private Q_SLOTS:
 
     void placeholderFollowsTheMouse()
     {
-        open(QStringLiteral("search"));
+        QVERIFY(open(QStringLiteral("search")));
         const auto placeholder = [this] { return m_edit->palette().color(QPalette::PlaceholderText); };
         QVERIFY(RealInput::moveTo(m_window.get(), QPoint(5, 5)));
         QTRY_COMPARE(placeholder(), m_search->GetPlaceholderColor());
@@ -170,18 +170,18 @@ private Q_SLOTS:
     }
 
 private:
-    void open(const QString& page)
+    bool open(const QString& page)
     {
         CommandLine start;
         start.page = page;
         m_window = std::make_unique<MainWindow>(start);
         m_window->setGeometry(40, 40, 1100, 700);
-        QVERIFY(RealInput::showAndActivate(m_window.get()));
+        const bool isActive = RealInput::showAndActivate(m_window.get());
         m_field = find<PathSelectionWidget>();
         m_search = find<SearchWidget>();
         m_edit = m_field ? m_field->findChild<QLineEdit*>()
                          : (m_search ? m_search->findChild<QLineEdit*>() : nullptr);
-        QVERIFY(m_edit);
+        return isActive && m_edit;
     }
 
     /// The first part of that kind and name that can be used.

@@ -61,7 +61,7 @@ private Q_SLOTS:
 
         // Each property by keyboard, and by mouse where there is a way.
         auto* text = field<QLineEdit>(Text);
-        QVERIFY(clickInto(text));
+        QVERIFY(RealInput::clickInto(text));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(QStringLiteral("second")));
         QVERIFY(RealInput::key(QStringLiteral("Return")));
@@ -140,7 +140,7 @@ private Q_SLOTS:
         // What is exported is what is seen.
         const QTemporaryDir folder;
         auto* path = m_editor->findChild<PathSelectionWidget*>();
-        QVERIFY(clickInto(path->findChild<QLineEdit*>()));
+        QVERIFY(RealInput::clickInto(path->findChild<QLineEdit*>()));
         QVERIFY(RealInput::key(QStringLiteral("ctrl+a")));
         QVERIFY(RealInput::type(folder.path()));
         QTRY_COMPARE(path->path(), folder.path());
@@ -191,7 +191,7 @@ private Q_SLOTS:
         QVERIFY(RealInput::key(QStringLiteral("ctrl+s")));
         auto* list = m_editor->findChild<AdjustingListView*>();
         QTRY_COMPARE(list->model()->rowCount(), 2);
-        QVERIFY(clickInto(m_editor->findChild<SearchWidget*>()->findChild<QLineEdit*>()));
+        QVERIFY(RealInput::clickInto(m_editor->findChild<SearchWidget*>()->findChild<QLineEdit*>()));
         QVERIFY(RealInput::type(QStringLiteral("BRI")));
         QTRY_COMPARE(list->model()->rowCount(), 1);
         const int before = steps();
@@ -293,12 +293,6 @@ private:
         return field<QWidget>(property)->findChild<Part*>();
     }
 
-    /// The window manager sees a click first, and may hand it on later than a key.
-    static bool clickInto(const QWidget* part)
-    {
-        return RealInput::click(part) && QTest::qWaitFor([part] { return part->hasFocus(); });
-    }
-
     bool makeCard(const QString& text, const QString& end = QStringLiteral("Return"))
     {
         bool isOver = false;
@@ -353,8 +347,8 @@ private:
     {
         const QWidget* const panel = openPanel(property);
         auto* const box = panel ? panel->findChild<QSpinBox*>(QStringLiteral("opacitySpinbox")) : nullptr;
-        return box && clickInto(box->findChild<QLineEdit*>()) && RealInput::key(QStringLiteral("ctrl+a")) &&
-               RealInput::type(percent + QLatin1Char('\n')) &&
+        return box && RealInput::clickInto(box->findChild<QLineEdit*>()) &&
+               RealInput::key(QStringLiteral("ctrl+a")) && RealInput::type(percent + QLatin1Char('\n')) &&
                QTest::qWaitFor([&] { return box->value() == percent.toInt(); }) && closePanel(property);
     }
 
@@ -448,8 +442,9 @@ private:
     {
         auto* box = part<QAbstractSpinBox>(property);
         const int before = steps();
-        return clickInto(box->findChild<QLineEdit*>()) && RealInput::key(QStringLiteral("ctrl+a")) &&
-               RealInput::type(number) && RealInput::key(QStringLiteral("Return")) &&
+        return RealInput::clickInto(box->findChild<QLineEdit*>()) &&
+               RealInput::key(QStringLiteral("ctrl+a")) && RealInput::type(number) &&
+               RealInput::key(QStringLiteral("Return")) &&
                QTest::qWaitFor([&] { return steps() == before + 1; });
     }
 

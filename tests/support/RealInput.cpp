@@ -17,6 +17,8 @@
 namespace {
 
 constexpr int dragSteps = 8;
+/// For what a busy machine does late, in ms.
+constexpr int patience = 30000;
 
 bool xdotool(const QStringList& arguments)
 {
@@ -29,13 +31,13 @@ bool moveAndWait(const QPoint& place, const QPoint& target)
     if (WaylandInput::isRunning()) {
         // Again until Qt has asked for the pointer, which comes with its first use.
         return QTest::qWaitFor(
-            [place, target] { return WaylandInput::moveTo(place) && QCursor::pos() == target; });
+            [place, target] { return WaylandInput::moveTo(place) && QCursor::pos() == target; }, patience);
     }
     // Qt asks the server for the position. The events that are on their way by then are handled before
     // the next move, or Qt would make one of the two.
     const bool hasArrived =
         xdotool({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())}) &&
-        QTest::qWaitFor([target] { return QCursor::pos() == target; });
+        QTest::qWaitFor([target] { return QCursor::pos() == target; }, patience);
     QCoreApplication::processEvents();
     return hasArrived;
 }
@@ -56,10 +58,10 @@ bool RealInput::showAndActivate(QWidget* window)
     window->activateWindow();
     if (WaylandInput::isRunning()) {
         // The compositor activates new windows; programs cannot.
-        return QTest::qWaitForWindowExposed(window) &&
-               QTest::qWaitFor([window] { return window->isActiveWindow(); });
+        return QTest::qWaitForWindowExposed(window, patience) &&
+               QTest::qWaitFor([window] { return window->isActiveWindow(); }, patience);
     }
-    return QTest::qWaitForWindowExposed(window) && QTest::qWaitForWindowActive(window);
+    return QTest::qWaitForWindowExposed(window, patience) && QTest::qWaitForWindowActive(window, patience);
 }
 
 bool RealInput::moveTo(const QWidget* widget, const QPoint& point)
@@ -83,6 +85,11 @@ bool RealInput::click(const QWidget* widget, const QPoint& point)
 bool RealInput::click(const QWidget* widget)
 {
     return click(widget, widget->rect().center());
+}
+
+bool RealInput::clickInto(const QWidget* widget)
+{
+    return click(widget) && QTest::qWaitFor([widget] { return widget->hasFocus(); }, patience);
 }
 
 bool RealInput::drag(const QWidget* widget, const QPoint& from, const QPoint& to)
