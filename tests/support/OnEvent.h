@@ -1,20 +1,20 @@
 #pragma once
 
 #include <QEvent>
-#include <QWidget>
+#include <QObject>
 
 #include <functional>
 #include <utility>
 
-/// Calls a function before a widget sees an event of a type.
+/// Calls a function before an object sees an event of a type; before any object does, for the application.
 class OnEvent : public QObject
 {
 public:
-    OnEvent(QEvent::Type type, QWidget* widget, std::function<void()> call)
+    OnEvent(QEvent::Type type, QObject* object, std::function<void()> call)
         : m_type(type)
         , m_call(std::move(call))
     {
-        widget->installEventFilter(this);
+        object->installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override

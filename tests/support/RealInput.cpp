@@ -1,6 +1,7 @@
 #include "RealInput.h"
 
 #include "NativeScreens.h"
+#include "OnEvent.h"
 #include "WaylandInput.h"
 
 #include <QCursor>
@@ -89,7 +90,10 @@ bool RealInput::click(const QWidget* widget)
 
 bool RealInput::clickInto(const QWidget* widget)
 {
-    return click(widget) && QTest::qWaitFor([widget] { return widget->hasFocus(); }, patience);
+    bool isReleased = false;
+    const OnEvent release(QEvent::MouseButtonRelease, QCoreApplication::instance(),
+                          [&] { isReleased = true; });
+    return click(widget) && QTest::qWaitFor([&] { return isReleased && widget->hasFocus(); }, patience);
 }
 
 bool RealInput::drag(const QWidget* widget, const QPoint& from, const QPoint& to)

@@ -27,8 +27,7 @@ bool moveTo(const QWidget* widget, const QPoint& point);
 bool click(const QWidget* widget, const QPoint& point);
 bool click(const QWidget* widget);
 
-/// Clicks and waits for the keyboard: the window manager sees a click first, and may hand it on later than a
-/// key.
+/// Clicks, and waits for the click and the keyboard: the window manager may hand a click on later than a key.
 bool clickInto(const QWidget* widget);
 
 /// Presses the left button at @p from, moves to @p to in small steps, and lets go.
