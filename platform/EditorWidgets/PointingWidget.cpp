@@ -45,6 +45,7 @@ public:
     void place();
     void placeLater();
     void appearAnew();
+    void resized(bool byWindowManager);
     void moved(bool byWindowManager);
     void followWindow();
     void watchAncestors();
@@ -80,9 +81,12 @@ public:
     /// since the position of a window that has just appeared is not reliable. More would never end.
     std::optional<QPoint> sentTo;
     bool askedAgain = false;
-    /// The size that a window manager has replaced by its own, as of a maximised window. The arrow may be on
-    /// another side then, which asks for a layout, and that would never end either.
-    QSize refused;
+    /// The size last asked for. A window manager that gives another one may be late with one asked for
+    /// before, and is asked again; or it has its own, as for a maximised window. The arrow may be on another
+    /// side then, which asks for a layout, and that would never end either.
+    QSize askedSize;
+    int refusals = 0;
+    static constexpr int maxRefusals = 3;
     /// Whether the host has shown the bubble; whether it is visible depends on the parent.
     bool wanted = false;
     bool willAppearAnew = false;
@@ -229,8 +233,11 @@ void PointingWidget::Private::fit()
     if (q->isWindow() && !room.isEmpty()) {
         size = size.boundedTo(room);
     }
-    if (size != refused) {
-        refused = QSize();
+    if (size != askedSize) {
+        askedSize = size;
+        refusals = 0;
+    }
+    if (refusals < maxRefusals) {
         q->resize(size);
     }
     place();
@@ -301,6 +308,16 @@ void PointingWidget::Private::appearAnew()
             }
         },
         Qt::QueuedConnection);
+}
+
+void PointingWidget::Private::resized(bool byWindowManager)
+{
+    if (byWindowManager && q->size() != askedSize && ++refusals < maxRefusals) {
+        // To place the bubble would ask for its present size.
+        fit();
+    } else {
+        place();
+    }
 }
 
 void PointingWidget::Private::moved(bool byWindowManager)
@@ -597,10 +614,7 @@ bool PointingWidget::event(QEvent* event)
     const bool result = QWidget::event(event);
     switch (event->type()) {
     case QEvent::Resize:
-        if (event->spontaneous()) {
-            d->refused = static_cast<QResizeEvent*>(event)->oldSize();
-        }
-        d->place();
+        d->resized(event->spontaneous());
         break;
     case QEvent::LayoutRequest:
         d->fit();
@@ -661,7 +675,7 @@ void PointingWidget::showEvent(QShowEvent* event)
     // Right before the window appears: its content is polished and its position up to date.
     d->sentTo.reset();
     d->askedAgain = false;
-    d->refused = QSize();
+    d->refusals = 0;
     d->followWindow();
     d->fit();
     if (d->maskIsDue) {
