@@ -40,11 +40,12 @@ public:
     explicit OvCustomSlider(Qt::Orientation orientation, QWidget* parent = nullptr);
     ~OvCustomSlider() override;
 
+    bool event(QEvent* event) override;
+
 protected:
     /// Hides QSlider's function: numbers that a style cannot paint with are moved and divided until it can.
     void initStyleOption(QStyleOptionSlider* option) const;
 
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

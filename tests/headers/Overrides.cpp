@@ -55,6 +55,7 @@ UIC_PROTECTED_OVERRIDE(OvSpinBox, wheelEvent);
 UIC_PUBLIC_OVERRIDE(OvDoubleSpinBox, validate);
 UIC_PROTECTED_OVERRIDE(OvDoubleSpinBox, keyPressEvent);
 UIC_PROTECTED_OVERRIDE(OvDoubleSpinBox, wheelEvent);
+UIC_PUBLIC_OVERRIDE(OvCustomSlider, event);
 UIC_PROTECTED_OVERRIDE(OvCustomSlider, wheelEvent);
 
 UIC_PROTECTED_OVERRIDE(OvPixmapWidget, paintEvent);
