@@ -272,12 +272,18 @@ void PopupColorPicker::Private::show(QWidget* field)
     focusColor(popup->panel);
     // A panel that is shown may find the colour among the user's own, and report its button.
     isShowingColor = true;
-    popup->show();
+    const QPointer<Popup> shown = popup;
+    shown->show();
+    if (shown && shown->isHidden()) {
+        // A slot of that has closed it. Qt has gone on, and would never close it again.
+        shown->show();
+        shown->hide();
+    }
     if (!self) {
         return;
     }
     isShowingColor = false;
-    if (popup) {
+    if (state == State::Picking && popup) {
         AccessibleEvents::alert(popup);
     }
 }

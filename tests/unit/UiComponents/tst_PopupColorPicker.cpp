@@ -1,5 +1,7 @@
 #include "FakeColorPicker.h"
+#include "FakePrivacy.h"
 #include "FakeScreenColors.h"
+#include "FreedMemory.h"
 #include "PipetteWindows.h"
 #include "TestMain.h"
 
@@ -22,6 +24,7 @@ const QColor Amber(0xff, 0xc0, 0x00);
 const QColor Green(0x03, 0xc7, 0x05);
 
 using Color = std::optional<QColor>;
+using Orvane::Util::AccessStatus;
 using Action = std::function<void()>;
 Q_DECLARE_METATYPE(Action)
 Q_DECLARE_METATYPE(std::function<void(FakeColorPicker*)>)
@@ -279,6 +282,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(popup()));
         // Red is of the palette.
         QVERIFY(paletteButton("#ff0000")->hasFocus());
+        // Keys of others pass through.
+        QKeyEvent other(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier);
+        QCoreApplication::sendEvent(popup(), &other);
+        QVERIFY(!other.isAccepted());
+        QVERIFY(popup()->isVisible());
         QTest::keyClick(popup()->windowHandle(), Qt::Key_Right);
         QCOMPARE(m_button->color(), Color(QColor(0xff, 0x5d, 0x00)));
         QTest::keyClick(popup()->windowHandle(), Qt::Key_Return);
@@ -378,6 +386,37 @@ private Q_SLOTS:
         QVERIFY(popup()->isVisible());
     }
 
+    void meanwhileInATakeover_data()
+    {
+        QTest::addColumn<Action>("act");
+        const auto second = [this] { return m_window->findChild<ColorPickerButton*>("second"); };
+        QTest::newRow("stopped") << Action([second] { second()->stopPicking(); });
+        QTest::newRow("deleted") << Action([second] { delete second(); });
+        QTest::newRow("without its pop-up") << Action([this] { delete popup(); });
+        QTest::newRow("without its panel") << Action([this] { delete panel(); });
+    }
+
+    /// In a slot of the end of the first pick.
+    void meanwhileInATakeover()
+    {
+        QFETCH(Action, act);
+        const QPointer<ColorPickerButton> second = new ColorPickerButton(m_window.get());
+        second->setObjectName("second");
+        second->setPicker(new PopupColorPicker);
+        m_button->startPicking();
+        Trigger trigger(act);
+        connect(m_picker, SIGNAL(pickingStopped()), &trigger, SLOT(run()));
+        {
+            const FreedMemoryWatch memory;
+            second->startPicking();
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        QCOMPARE(trigger.count, 1);
+        QVERIFY(!second || !second->isPickingInProgress());
+        QVERIFY(!second || !second->isDown());
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
     void aFieldInAnotherWindow()
     {
         m_button->startPicking();
@@ -455,6 +494,17 @@ private Q_SLOTS:
         }
     }
 
+    void pipetteWithoutThePermission()
+    {
+        FakePrivacy::screenAccess = AccessStatus::Denied;
+        const auto reset = qScopeGuard(&FakePrivacy::reset);
+        m_button->startPicking();
+        Q_EMIT panel()->pipetteRequested();
+        QVERIFY(PipetteWindows::views().isEmpty());
+        QTRY_VERIFY(popup()->isVisible());
+        QVERIFY(m_button->isPickingInProgress());
+    }
+
     void pipetteThatCanDoNothing()
     {
         FakeScreenColors screen;
@@ -503,13 +553,16 @@ private Q_SLOTS:
     void stopEndsThePipetteToo_data()
     {
         QTest::addColumn<bool>("isHosts");
-        QTest::newRow("the host's") << true;
-        QTest::newRow("the screen's") << false;
+        QTest::addColumn<bool>("isOver");
+        QTest::newRow("the host's") << true << false;
+        QTest::newRow("the host's, which has just ended") << true << true;
+        QTest::newRow("the screen's") << false << false;
     }
 
     void stopEndsThePipetteToo()
     {
         QFETCH(bool, isHosts);
+        QFETCH(bool, isOver);
         FakeColorPicker pipette;
         m_picker->setPipette(isHosts ? &pipette : nullptr);
         m_button->startPicking();
@@ -519,6 +572,9 @@ private Q_SLOTS:
         QVERIFY(m_picker->isInProgress());
         QCOMPARE(PipetteWindows::views().isEmpty(), isHosts);
         QCOMPARE(pipette.isInProgress(), isHosts);
+        if (isOver) {
+            pipette.finish({});
+        }
         m_button->hide();
         QCOMPARE(stopped.count(), 1);
         QVERIFY(!m_picker->isInProgress());
@@ -526,6 +582,8 @@ private Q_SLOTS:
         QVERIFY(!pipette.isInProgress());
         QVERIFY(PipetteWindows::views().isEmpty());
         QCOMPARE(m_button->color(), Color(QColor(Qt::red)));
+        QCoreApplication::processEvents();
+        QVERIFY(!popup()->isVisible());
     }
 
     void withoutAField()
@@ -705,26 +763,43 @@ private Q_SLOTS:
         QVERIFY(!QApplication::activePopupWidget());
     }
 
-    void deletedBeforeThePanelIsShown_data()
+    void endedBeforeThePanelIsShown_data()
     {
-        QTest::addColumn<Action>("remove");
-        QTest::newRow("panel") << Action([this] { delete panel(); });
-        QTest::newRow("pop-up") << Action([this] { delete popup(); });
-        QTest::newRow("field") << Action([this] { delete m_button; });
-        QTest::newRow("window") << Action([this] { m_window.reset(); });
+        QTest::addColumn<Action>("end");
+        QTest::addColumn<Color>("color");
+        QTest::addColumn<QStringList>("ownColors");
+        // The panel's slider has no such step.
+        const Color between(QColor::fromRgbF(0.1, 0.2, 0.3, 0.12345));
+        const Action stop = [this] { m_button->stopPicking(); };
+        const Action deleteField = [this] { delete m_button; };
+        QTest::newRow("pick") << stop << between << QStringList();
+        QTest::newRow("panel") << Action([this] { delete panel(); }) << between << QStringList();
+        QTest::newRow("pop-up") << Action([this] { delete popup(); }) << between << QStringList();
+        QTest::newRow("field") << deleteField << between << QStringList();
+        QTest::newRow("window") << Action([this] { m_window.reset(); }) << between << QStringList();
+        // Which the panel finds when it is about to be seen.
+        const Color own(QColor(0x12, 0x34, 0x56));
+        QTest::newRow("pick, new own colour") << stop << own << QStringList{own->name()};
+        QTest::newRow("field, new own colour") << deleteField << own << QStringList{own->name()};
     }
 
     /// In a host's slot of the panel, which gets the field's colour then.
-    void deletedBeforeThePanelIsShown()
+    void endedBeforeThePanelIsShown()
     {
-        QFETCH(Action, remove);
+        QFETCH(Action, end);
+        QFETCH(Color, color);
+        QFETCH(QStringList, ownColors);
         m_button->startPicking();
         m_picker->stop();
-        // The panel's slider has no such step.
-        m_button->setColor(QColor::fromRgbF(0.1, 0.2, 0.3, 0.12345));
-        Trigger trigger(remove);
+        m_button->setColor(color);
+        Settings::setUserCustomColors(ownColors);
+        Trigger trigger(end);
         connect(panel(), SIGNAL(colorChanged(QColor)), &trigger, SLOT(run()));
-        m_button->startPicking();
+        {
+            const FreedMemoryWatch memory;
+            m_button->startPicking();
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
         QCOMPARE(trigger.count, 1);
         QVERIFY(!m_button || !m_button->isPickingInProgress());
         QVERIFY(!m_button || !m_button->isDown());
