@@ -111,7 +111,6 @@ public:
         });
     }
     bool isDefaultPathShownByText(const QString& newPath) const;
-    bool writeText(const QString& text);
     void handleFocus(bool hasFocus);
     PathError findError() const;
     void showError(const PathError& error);
@@ -180,19 +179,11 @@ bool PathSelectionWidget::Private::isDefaultPathShownByText(const QString& newPa
     return !defaultPath.isEmpty() && !defaultDisplayText.isEmpty() && newPath == defaultPath;
 }
 
-/// Returns false if a slot has deleted the widget.
-bool PathSelectionWidget::Private::writeText(const QString& text)
-{
-    const QPointer<PathSelectionWidget> self = q;
-    const auto writing = markOwnWriting();
-    pathLineEdit->setText(text);
-    return self;
-}
-
 void PathSelectionWidget::Private::handleFocus(bool hasFocus)
 {
-    if (path == defaultPath && !writeText(hasFocus ? QString() : defaultDisplayText)) {
-        return;
+    if (path == defaultPath) {
+        const auto writing = markOwnWriting();
+        pathLineEdit->setText(hasFocus ? QString() : defaultDisplayText);
     }
     Util::applyProperty(pathSelectionFrame, "focusHint", hasFocus);
 }
@@ -327,14 +318,14 @@ void PathSelectionWidget::setPath(const QString& path)
     if (d->isDefaultPathShownByText(newPath)) {
         // The user may go on typing another path.
         const bool isBeingTyped = d->pathLineEdit->hasFocus() && d->pathLineEdit->text() == newPath;
-        if (!isBeingTyped && !d->writeText(d->defaultDisplayText)) {
-            return;
+        if (!isBeingTyped) {
+            d->pathLineEdit->setText(d->defaultDisplayText);
         }
         d->scheduler.schedule();
         isResettable = false;
     } else if (newPath != d->path) {
-        if (d->pathLineEdit->text() != newPath && !d->writeText(newPath)) {
-            return;
+        if (d->pathLineEdit->text() != newPath) {
+            d->pathLineEdit->setText(newPath);
         }
         d->scheduler.schedule();
     }
