@@ -55,7 +55,6 @@ QLineEdit* editorOf(QObject* part)
     return qobject_cast<QAbstractSpinBox*>(part) ? part->findChild<QLineEdit*>() : nullptr;
 }
 
-/// An edit's own undo ends where the host's begins.
 /// Whether the text is a value, or becomes one that the user has asked for.
 bool isEntered(const QAbstractSpinBox& box)
 {
@@ -74,6 +73,7 @@ void takeBack(QAbstractSpinBox* box)
     }
 }
 
+/// An edit's own undo ends where the host's begins.
 void forgetTyping(QLineEdit* editor)
 {
     if (editor->isUndoAvailable() || editor->isRedoAvailable()) {
@@ -320,12 +320,11 @@ bool EditSession::Private::pressKey(QObject* onPart, const QKeyEvent& event)
         cancel();
         return true;
     }
-    const bool isStepping = !editorOf(onPart) || (!qobject_cast<QLineEdit*>(onPart) && isStep(event.key()));
     if (isModifier(event.key())) {
-        if (gesture == Gesture::Wheel) {
-            finish();
-        }
-    } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+        return false;
+    }
+    const bool isStepping = !editorOf(onPart) || (!qobject_cast<QLineEdit*>(onPart) && isStep(event.key()));
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
         finish();
     } else if (!isStepping) {
         beginText(onPart);

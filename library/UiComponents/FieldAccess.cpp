@@ -81,10 +81,7 @@ FieldAccess selectorAccess(PointSelectorWidget* selector)
     FieldAccess point = access<QPointF>(selector, &PointSelectorWidget::value, &PointSelectorWidget::setValue,
                                         &PointSelectorWidget::valueChanged);
     const auto boxes = selector->findChildren<QDoubleSpinBox*>();
-    auto* plane = selector->findChild<PointSelectionPlane*>();
-    if (!plane) {
-        return point;
-    }
+    auto* const plane = selector->findChild<PointSelectionPlane*>();
     const auto watchField = point.watch;
     point.watchChoice = planeAccess(plane).watch;
     point.watch = [selector, plane, boxes, watchField,

@@ -1,6 +1,7 @@
 #include "AccessibleEars.h"
 #include "FakeColorPicker.h"
 #include "FreedMemory.h"
+#include "MarkingTranslator.h"
 #include "MouseEvents.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -507,6 +508,17 @@ const QVector<Story>& stories()
              QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
              QCoreApplication::sendEvent(s.turned, &shortcut);
          }},
+        {"wheel, then another button", Needs::Wheel, once,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             press(*s.turned, s.turned->rect().center(), Qt::RightButton);
+         }},
+        {"fingers leave the touchpad", Needs::Wheel, once,
+         [](Stage& s, const Kind&) {
+             turnOn(s);
+             QWheelEvent end({}, {}, {}, {}, Qt::NoButton, Qt::NoModifier, Qt::ScrollEnd, false);
+             QCoreApplication::sendEvent(s.turned, &end);
+         }},
         {"wheel, Escape", Needs::Wheel, cancelled,
          [](Stage& s, const Kind& k) {
              turnOn(s);
@@ -719,6 +731,10 @@ private Q_SLOTS:
             picker.preview(QColor(Qt::cyan));
             picker.finish(QColor(Qt::blue));
         }) << red << blue << QString("started previewed committed started previewed committed");
+        QTest::newRow("its end while the host shows its document") << Pick([](FakeColorPicker& picker) {
+            const EditSession::Refresh refresh(qobject_cast<QWidget*>(picker.parent())->window());
+            picker.finish(QColor(Qt::blue));
+        }) << red << blue << QString();
         QTest::newRow("no end is told") << Pick([](FakeColorPicker& picker) {
             picker.preview(QColor(Qt::green));
             picker.finishInSilence();
@@ -1037,6 +1053,12 @@ private Q_SLOTS:
             }();
         };
         QVERIFY(described().contains("Several values"));
+        MarkingTranslator translator("MultiValueFace");
+        QCoreApplication::installTranslator(&translator);
+        QCoreApplication::processEvents();
+        QVERIFY(described().contains("<Several values>"));
+        QCoreApplication::removeTranslator(&translator);
+        QCoreApplication::processEvents();
         // Whatever of it gets the keyboard.
         const auto parts = stage.field->findChildren<QWidget*>() << stage.field;
         for (QWidget* part : parts) {
@@ -1154,11 +1176,22 @@ private Q_SLOTS:
         QVERIFY(!stage.session->isMultiValue());
     }
 
+    void hiddenNumberIsTypedOn_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("value");
+        QTest::newRow("another") << "72" << 72;
+        QTest::newRow("the hidden one, by the nearest") << "7" << 8;
+    }
+
     // Its first digit is no value of the range yet.
     void hiddenNumberIsTypedOn()
     {
+        QFETCH(QString, typed);
+        QFETCH(int, value);
         QSpinBox field;
         field.setRange(8, 200);
+        field.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
         EditSession session(&field);
         QSignalSpy committed(&session, &EditSession::committed);
         session.setMultiValue(true);
@@ -1170,10 +1203,10 @@ private Q_SLOTS:
         QVERIFY(!cover->isVisible());
         QTest::keyClick(&field, Qt::Key_Escape);
         QVERIFY(cover->isVisible());
-        QTest::keyClicks(&field, "72");
+        QTest::keyClicks(&field, typed);
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(committed.count(), 1);
-        QCOMPARE(committed.constFirst().constFirst().toInt(), 72);
+        QCOMPARE(committed.constFirst().constFirst().toInt(), value);
     }
 
     void hiddenNumberIsNotEntered_data()
@@ -1245,27 +1278,33 @@ private Q_SLOTS:
     void hiddenTextIsReplaced_data()
     {
         QTest::addColumn<QString>("how");
+        QTest::addColumn<bool>("isHidden");
+        QTest::addColumn<QString>("text");
         for (const char* const how : {"input method", "context menu", "drop"}) {
-            QTest::newRow(how) << QString(how);
+            QTest::newRow(how) << QString(how) << true << "after";
         }
+        QTest::newRow("one that is seen") << "drop" << false << "afterbefore";
     }
 
     void hiddenTextIsReplaced()
     {
         QFETCH(QString, how);
+        QFETCH(bool, isHidden);
+        QFETCH(QString, text);
         QLineEdit field("before");
         EditSession session(&field);
         QSignalSpy committed(&session, &EditSession::committed);
-        session.setMultiValue(true);
+        session.setMultiValue(isHidden);
         field.show();
         QVERIFY(QTest::qWaitForWindowActive(&field));
         field.end(false);
         if (how == QLatin1String("drop")) {
             QMimeData dragged;
             dragged.setText("after");
-            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+            const QPoint start(0, 5);
+            QDragEnterEvent enter(start, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
             QCoreApplication::sendEvent(&field, &enter);
-            QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+            QDropEvent drop(start, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
             QCoreApplication::sendEvent(&field, &drop);
             QCOMPARE(committed.count(), 1);
         } else if (how == QLatin1String("context menu")) {
@@ -1284,10 +1323,10 @@ private Q_SLOTS:
             composed.setCommitString("after");
             QCoreApplication::sendEvent(&field, &composed);
         }
-        QCOMPARE(field.text(), QString("after"));
+        QCOMPARE(field.text(), text);
         session.commit();
         QCOMPARE(committed.count(), 1);
-        QCOMPARE(committed.constFirst().constFirst().toString(), QString("after"));
+        QCOMPARE(committed.constFirst().constFirst().toString(), text);
     }
 
     void multiColor()
@@ -1581,6 +1620,8 @@ private Q_SLOTS:
         QTest::newRow("hidden") << Way(&QWidget::hide);
         QTest::newRow("minimised") << Way(&QWidget::showMinimized);
         QTest::newRow("disabled") << Way([](QWidget* window) { window->setEnabled(false); });
+        QTest::newRow("used by the keyboard") << Way(
+            [](QWidget* window) { QTest::keyPress(window->findChild<OvCustomSlider*>(), Qt::Key_Left); });
     }
 
     // Qt goes through the children of the field, of which the session is one. Seen by the sanitizer, which
@@ -1600,20 +1641,35 @@ private Q_SLOTS:
         const FreedMemoryWatch watch;
         way(&window);
         QVERIFY(!session);
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
 
-    // Seen by the sanitizer alone.
+    void fieldDeletedByItsPickersColor_data()
+    {
+        QTest::addColumn<bool>("isTaken");
+        QTest::newRow("asked for") << false;
+        QTest::newRow("taken") << true;
+    }
+
+    // Reading what is gone is seen by the sanitizer alone.
     void fieldDeletedByItsPickersColor()
     {
+        QFETCH(bool, isTaken);
         const QPointer<ColorPickerButton> button = new ColorPickerButton;
         auto* const picker = new FakeColorPicker;
-        picker->onColor = [button] { delete button; };
+        if (isTaken) {
+            connect(button, &ColorPickerButton::colorChanged, this, [button] { delete button; });
+        } else {
+            picker->onColor = [button] { delete button; };
+        }
         button->setPicker(picker);
         const QPointer<EditSession> session = new EditSession(button);
         button->startPicking();
+        const FreedMemoryWatch watch;
         picker->finish(QColor(Qt::red));
         QVERIFY(!button);
         QVERIFY(!session);
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
 
     void windowDestroyedWhileTyping()
