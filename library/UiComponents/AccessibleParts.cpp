@@ -512,9 +512,7 @@ AccessibleLineEdit::relations(QAccessible::Relation match) const
 
 void AccessibleLineEdit::setText(QAccessible::Text kind, const QString& text)
 {
-    if (kind != QAccessible::Value) {
-        AccessiblePart::setText(kind, text);
-    } else if (isEditable()) {
+    if (kind == QAccessible::Value && isEditable()) {
         enter(text);
     }
 }
@@ -603,10 +601,10 @@ int AccessibleLineEdit::offsetAtPoint(const QPoint& point) const
     return edit()->rect().contains(local) ? edit()->cursorPositionAt(local) : -1;
 }
 
+/// By the caret: a line edit scrolls no further than to show that.
 void AccessibleLineEdit::scrollToSubstring(int startIndex, int endIndex)
 {
-    edit()->setCursorPosition(endIndex);
-    edit()->setCursorPosition(startIndex);
+    edit()->setCursorPosition(startIndex > cursorPosition() ? endIndex : startIndex);
 }
 
 QString AccessibleLineEdit::attributes(int offset, int* startOffset, int* endOffset) const

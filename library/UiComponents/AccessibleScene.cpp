@@ -24,11 +24,6 @@ int AccessibleScene::indexOfChild(const QAccessibleInterface* child) const
     return scene() ? scene()->indexOfChild(child) : -1;
 }
 
-QAccessibleInterface* AccessibleScene::childAt(int x, int y) const
-{
-    return scene() ? scene()->childAt(x, y) : nullptr;
-}
-
 QAccessibleInterface* AccessibleScene::scene() const
 {
     return QAccessible::queryAccessibleInterface(qobject_cast<QQuickWidget*>(object())->quickWindow());

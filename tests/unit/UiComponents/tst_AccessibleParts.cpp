@@ -22,7 +22,9 @@
 #include <private/qguiapplication_p.h>
 
 using Make = std::function<QWidget*(QWidget*)>;
+using End = std::function<void(ColorPickerButton*)>;
 Q_DECLARE_METATYPE(Make)
+Q_DECLARE_METATYPE(End)
 Q_DECLARE_METATYPE(PathSelectionWidget::ErrorDisplayType)
 
 namespace {
@@ -142,13 +144,21 @@ private Q_SLOTS:
         for (QWidget* part : parts) {
             const int count = spokenName(part) == QLatin1String("Fill") ? 1 : 0;
             QCOMPARE(reader(part).relations(QAccessible::Label).size(), count);
+            if (part->focusPolicy() != Qt::NoFocus && part->isVisible()) {
+                other->setFocus();
+                reader(part).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+                QVERIFY2(part->hasFocus(), qPrintable(part->objectName()));
+            }
         }
     }
 
     void ownNamesWin()
     {
-        SliderInputWidget field(nullptr, {0, 10});
+        QWidget window;
+        const QLabel ofNobody(QStringLiteral("Fill"), &window);
+        SliderInputWidget field(&window, {0, 10});
         QCOMPARE(spokenName(partOf(&field, "slider")), QString());
+        QVERIFY(reader(partOf(&field, "slider")).relations(QAccessible::Label).isEmpty());
         QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("number"));
         field.setAccessibleName(QStringLiteral("Opacity"));
         QCOMPARE(spokenName(&field), QStringLiteral("Opacity"));
@@ -189,6 +199,26 @@ private Q_SLOTS:
             reader(&picking).text(QAccessible::Description),
             QStringLiteral("<blue, #0000ff. Needs a mouse; without one, type the value in a colour panel>"));
         QCoreApplication::removeTranslator(&translator);
+    }
+
+    void descriptionsAreSentences_data()
+    {
+        QTest::addColumn<QString>("own");
+        QTest::addColumn<QString>("before"); // the hint
+        const QString chinese = QStringLiteral("\u952e\u3002");
+        QTest::newRow("with a stop") << QStringLiteral("Key?") << QStringLiteral("Key? ");
+        QTest::newRow("in Chinese") << chinese << chinese;
+    }
+
+    void descriptionsAreSentences()
+    {
+        QFETCH(QString, own);
+        QFETCH(QString, before);
+        WidgetColorPickerButton button;
+        button.setAccessibleDescription(own);
+        QCOMPARE(description(&button),
+                 QStringLiteral("no colour. ") + before +
+                     QStringLiteral("Needs a mouse; without one, type the value in a colour panel"));
     }
 
     void colorsAreAnnouncedOnce()
@@ -233,14 +263,28 @@ private Q_SLOTS:
     // The release of a button over a window that has died comes to nobody.
     void dragThatNobodyEnds_data()
     {
-        QTest::addColumn<bool>("isKnown");
-        QTest::newRow("the window of the press has died") << true;
-        QTest::newRow("released beside all windows") << false;
+        QTest::addColumn<End>("end");
+        QTest::newRow("the window of the press has died") << End([](ColorPickerButton* button) {
+            QGuiApplicationPrivate::mouse_buttons = Qt::NoButton;
+            QEvent any(QEvent::User);
+            QCoreApplication::sendEvent(button, &any);
+            QCoreApplication::processEvents();
+        });
+        QTest::newRow("released beside all windows") << End([](ColorPickerButton* button) {
+            QMouseEvent move(QEvent::MouseMove, {}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(button, &move);
+            QCoreApplication::processEvents();
+        });
+        QTest::newRow("another change before any event") << End([](ColorPickerButton* button) {
+            button->setColor(QColor(Qt::blue));
+            QGuiApplicationPrivate::mouse_buttons = Qt::NoButton;
+            button->setColor(QColor(Qt::red));
+        });
     }
 
     void dragThatNobodyEnds()
     {
-        QFETCH(const bool, isKnown);
+        QFETCH(End, end);
         ColorPickerButton button;
         button.setAccessibleName(QStringLiteral("Fill"));
         const AccessibleEars ears;
@@ -249,15 +293,7 @@ private Q_SLOTS:
         button.setColor(QColor(Qt::red));
         QCoreApplication::processEvents();
         QCOMPARE(AccessibleEars::take(), QStringList());
-        if (isKnown) {
-            QGuiApplicationPrivate::mouse_buttons = Qt::NoButton;
-            QEvent any(QEvent::User);
-            QCoreApplication::sendEvent(&button, &any);
-        } else {
-            QMouseEvent move(QEvent::MouseMove, {}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(&button, &move);
-        }
-        QCoreApplication::processEvents();
+        end(&button);
         QCOMPARE(AccessibleEars::take(), QStringList{QStringLiteral("Fill: red, #ff0000")});
     }
 
@@ -554,14 +590,27 @@ private Q_SLOTS:
         QCOMPARE(end, 3);
         text->removeSelection(0);
         QCOMPARE(text->selectionCount(), 0);
+        text->addSelection(0, 2);
+        QCOMPARE(edit->selectedText(), QStringLiteral("bl"));
         text->setCursorPosition(2);
         QCOMPARE(text->cursorPosition(), 2);
         interface.setText(QAccessible::Value, QStringLiteral("green"));
+        interface.setText(QAccessible::Name, QStringLiteral("Colour"));
         QCOMPARE(field.text(), QStringLiteral("green"));
+        edit->setWhatsThis(QStringLiteral("Finds clips"));
+        QCOMPARE(interface.text(QAccessible::Help), QStringLiteral("Finds clips"));
         field.show();
         const QRect second = text->characterRect(1);
         QVERIFY(second.left() > text->characterRect(0).left());
         QCOMPARE(text->offsetAtPoint(second.center() - QPoint(1, 0)), 1);
+        QVERIFY(text->characterRect(5).isNull());
+        // All of it looks the same.
+        QCOMPARE(text->attributes(5, &start, &end), QString());
+        QCOMPARE(start, 0);
+        QCOMPARE(end, 5);
+        text->attributes(6, &start, &end);
+        QCOMPARE(start, -1);
+        QCOMPARE(end, -1);
         edit->setReadOnly(true);
         QVERIFY(!interface.editableTextInterface());
         QVERIFY(interface.state().readOnly);
@@ -573,6 +622,34 @@ private Q_SLOTS:
         editable->deleteText(0, 5);
         QVERIFY(!interface.editableTextInterface());
         QCOMPARE(field.text(), QStringLiteral("green"));
+    }
+
+    void longTextsAreScrolled_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::newRow("to the left") << 300;
+        QTest::newRow("to the right") << 0;
+    }
+
+    void longTextsAreScrolled()
+    {
+        QFETCH(const int, from);
+        SearchWidget field;
+        auto* const edit = field.findChild<QLineEdit*>();
+        edit->setText(QString(300, QLatin1Char('m')));
+        field.resize(150, field.sizeHint().height());
+        field.show();
+        QAccessibleTextInterface* const text = reader(edit).textInterface();
+        const auto isSeen = [edit, text](int offset) {
+            edit->grab(); // it scrolls when it paints
+            return edit->rect().contains(edit->mapFromGlobal(text->characterRect(offset).center()));
+        };
+        text->setCursorPosition(from);
+        QVERIFY(!isSeen(100));
+        text->scrollToSubstring(100, 103);
+        for (const int offset : {100, 101, 102}) {
+            QVERIFY(isSeen(offset));
+        }
     }
 
     void spinBoxesCanBeRead()
@@ -610,6 +687,9 @@ private Q_SLOTS:
             QCOMPARE(interface.valueInterface()->currentValue().toDouble(), 0.2);
         }
         QVERIFY(changes.isEmpty());
+        SliderInputWidget whole(nullptr, {0, 10});
+        reader(partOf(&whole, "slider")).valueInterface()->setCurrentValue(6.6);
+        QCOMPARE(whole.value(), 7);
     }
 
     void planesAreTwoSliders()
@@ -627,7 +707,22 @@ private Q_SLOTS:
         QAccessibleInterface* const x = reader(plane).child(0);
         QCOMPARE(x->parent(), &reader(plane));
         QCOMPARE(reader(plane).indexOfChild(x), 0);
+        QCOMPARE(reader(plane).indexOfChild(&reader(plane)), -1);
         QVERIFY(!reader(plane).child(2));
+        // Both are all of the plane, which has the keyboard.
+        QCOMPARE(x->rect(), reader(plane).rect());
+        const QPoint middle = x->rect().center();
+        QVERIFY(!reader(plane).childAt(middle.x(), middle.y()));
+        QVERIFY(reader(plane).state().focusable);
+        QVERIFY(!x->state().focusable);
+        QVERIFY(!x->state().disabled);
+        QVERIFY(x->isValid());
+        // They have no parts, and a name that cannot be changed alone.
+        QVERIFY(!x->child(0) && !x->childAt(middle.x(), middle.y()));
+        QCOMPARE(x->indexOfChild(x), -1);
+        x->setText(QAccessible::Name, QStringLiteral("Width"));
+        QCOMPARE(x->text(QAccessible::Name), QStringLiteral("Position, x"));
+        QCOMPARE(x->text(QAccessible::Description), QString());
         QAccessibleValueInterface* const value = x->valueInterface();
         QCOMPARE(value->minimumValue().toDouble(), -1.0);
         QCOMPARE(value->maximumValue().toDouble(), 1.0);
@@ -646,6 +741,7 @@ private Q_SLOTS:
         value->setCurrentValue(7.0);
         QCOMPARE(plane->point(), QPointF(1.0, 1.0));
         plane->setEnabled(false);
+        QVERIFY(x->state().disabled);
         value->setCurrentValue(0.0);
         QCOMPARE(plane->point(), QPointF(1.0, 1.0));
     }

@@ -96,10 +96,16 @@ private Q_SLOTS:
         QCOMPARE(interface.text(QAccessible::Description), QStringLiteral("Playing; Space pauses it"));
         QVERIFY(interface.state().animated);
         const AccessibleEars ears;
-        interface.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QAccessibleActionInterface* const actions = interface.actionInterface();
+        QCOMPARE(actions->actionNames(), QStringList({QAccessibleActionInterface::pressAction(),
+                                                      QAccessibleActionInterface::setFocusAction()}));
+        actions->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(picture->movie()->state(), QMovie::Paused);
         QCOMPARE(AccessibleEars::take(),
                  QStringList{QStringLiteral("Animated picture: Paused; Space plays it")});
+        QApplication::setActiveWindow(&guide);
+        actions->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(picture->hasFocus());
     }
 
     void firstPictureOnly_data()

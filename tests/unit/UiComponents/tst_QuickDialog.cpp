@@ -93,9 +93,13 @@ private Q_SLOTS:
             QCOMPARE(accessibleTree(view),
                      QStringList({QStringLiteral("Client"), QStringLiteral("  Pane Discard the clip?"),
                                   QStringLiteral("    Button Discard")}));
+            QAccessibleInterface* const button = view.child(0)->child(0);
+            QCOMPARE(view.indexOfChild(view.child(0)), 0);
+            const QPoint middle = button->rect().center();
+            QCOMPARE(view.childAt(middle.x(), middle.y()), view.child(0));
             dialog.setWindowTitle(QStringLiteral("Clip"));
             QCOMPARE(spokenName(&dialog), QStringLiteral("Clip"));
-            view.child(0)->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         });
         QCOMPARE(result, int(QDialog::Accepted));
     }
@@ -395,8 +399,18 @@ private Q_SLOTS:
         }
     }
 
+    void withoutAParentInTheMiddleOfTheScreen_data()
+    {
+        QTest::addColumn<QPoint>("cursor");
+        QTest::newRow("with the cursor") << QPoint(5, 5);
+        QTest::newRow("the primary one, with the cursor on none") << QPoint(-5000, -5000);
+    }
+
     void withoutAParentInTheMiddleOfTheScreen()
     {
+        QFETCH(QPoint, cursor);
+        QCursor::setPos(cursor);
+        QCOMPARE(QGuiApplication::screenAt(QCursor::pos()) != nullptr, cursor.x() > 0);
         FormDialog dialog;
         dialog.setQmlPath(scene());
         const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
