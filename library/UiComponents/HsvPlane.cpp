@@ -395,22 +395,27 @@ QRgb HsvPlane::pixel(double hue, const QSize& size, const QPoint& at)
 #ifdef HSV_PLANE_X86
 namespace {
 
+// Those that the system keeps when it switches tasks.
+unsigned keptRegisters()
+{
+    unsigned low = 0;
+    unsigned high = 0;
+    asm volatile("xgetbv" : "=a"(low), "=d"(high) : "c"(0));
+    return low;
+}
+
 // Not __builtin_cpu_supports(), which runs CPUID many times when the library is loaded: on a virtual machine
 // that takes longer than the rest of loading.
 bool hasAvx2()
 {
-    constexpr unsigned wideRegisters = 0x06; // the system keeps both halves of them
+    constexpr unsigned wideRegisters = 0x06; // both halves of them
     unsigned a = 0;
     unsigned b = 0;
     unsigned c = 0;
     unsigned d = 0;
-    if (!__get_cpuid(1, &a, &b, &c, &d) || (c & bit_OSXSAVE) == 0 || (c & bit_FMA) == 0) {
-        return false;
-    }
-    unsigned kept = 0;
-    asm("xgetbv" : "=a"(kept), "=d"(d) : "c"(0));
-    return (kept & wideRegisters) == wideRegisters && __get_cpuid_count(7, 0, &a, &b, &c, &d) &&
-           (b & bit_AVX2) != 0;
+    const bool canKeep = __get_cpuid(1, &a, &b, &c, &d) && (c & bit_OSXSAVE) != 0 && (c & bit_FMA) != 0;
+    return canKeep && (keptRegisters() & wideRegisters) == wideRegisters &&
+           __get_cpuid_count(7, 0, &a, &b, &c, &d) && (b & bit_AVX2) != 0;
 }
 
 } // namespace

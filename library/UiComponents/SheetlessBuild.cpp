@@ -17,11 +17,10 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override
     {
-        if (hint != SH_CustomBase) {
-            return QCommonStyle::styleHint(hint, option, widget, result);
+        if (hint == SH_CustomBase) {
+            m_function();
         }
-        m_function();
-        return 0;
+        return QCommonStyle::styleHint(hint, option, widget, result);
     }
 
 private:
