@@ -3,7 +3,22 @@
 
 #include <UiComponents/AbstractColorPicker.h>
 
+#include <QtCore/private/qobject_p.h>
+
 using OptionalColor = std::optional<QColor>;
+
+namespace {
+
+class PickerWithPrivate : public FakeColorPicker
+{
+public:
+    PickerWithPrivate(QObjectPrivate& dd, QObject* parent)
+        : FakeColorPicker(dd, parent)
+    {
+    }
+};
+
+} // namespace
 
 class tst_AbstractColorPicker : public QObject
 {
@@ -13,6 +28,7 @@ private Q_SLOTS:
     void colorIsAMetaType(); // first, for a connection elsewhere would register the type as well
     void slotCallsTheVirtual();
     void parentOwns();
+    void takesAPrivateClass();
     void queuedConnectionCarriesTheColor();
 };
 
@@ -45,6 +61,15 @@ void tst_AbstractColorPicker::parentOwns()
 
     const FakeColorPicker orphan;
     QVERIFY(!orphan.parent());
+}
+
+void tst_AbstractColorPicker::takesAPrivateClass()
+{
+    QObject parent;
+    auto* const dd = new QObjectPrivate; // the picker's
+    const PickerWithPrivate picker(*dd, &parent);
+    QCOMPARE(QObjectPrivate::get(&picker), dd);
+    QCOMPARE(picker.parent(), &parent);
 }
 
 void tst_AbstractColorPicker::queuedConnectionCarriesTheColor()

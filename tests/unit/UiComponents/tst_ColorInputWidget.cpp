@@ -29,6 +29,14 @@ private Q_SLOTS:
         QCOMPARE(buttonOf(field)->property("nullColor"), QVariant(false));
     }
 
+    void startsBlackInAForm()
+    {
+        QWidget form;
+        const ColorInputWidget field(&form);
+        QCOMPARE(field.parentWidget(), &form);
+        QVERIFY(field.color() == OptionalColor(QColor(Qt::black)));
+    }
+
     // A spy can only be attached after construction; a queued emission would still reach it.
     void startsWithAColorInSilence()
     {

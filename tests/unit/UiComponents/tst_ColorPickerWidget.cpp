@@ -394,6 +394,15 @@ private Q_SLOTS:
         }
     }
 
+    void formsOfferColorsOnly()
+    {
+        QWidget form;
+        const ColorPickerWidget panel(&form);
+        QCOMPARE(panel.parentWidget(), &form);
+        const auto* const matrix = panel.findChild<OvFrame*>(QStringLiteral("colorMatrixPanel"));
+        QVERIFY(!matrix->findChildren<QToolButton*>().constFirst()->property("nullColor").isValid());
+    }
+
     void colorButtonsAreOfOneGroup()
     {
         const Panel panel;

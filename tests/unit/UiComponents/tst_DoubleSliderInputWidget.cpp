@@ -63,6 +63,18 @@ private Q_SLOTS:
         QVERIFY(field.spinBox->bothDecimalMarksAccepted());
     }
 
+    void constructionInAForm()
+    {
+        QWidget form;
+        const DoubleSliderInputWidget field(&form);
+        QCOMPARE(field.parentWidget(), &form);
+        const auto* const box = field.findChild<QDoubleSpinBox*>();
+        QCOMPARE(box->minimum(), 0.0);
+        QCOMPARE(box->maximum(), 1.0);
+        QCOMPARE(box->decimals(), 2);
+        QCOMPARE(field.value(), 0.0);
+    }
+
     void decimals_data()
     {
         QTest::addColumn<int>("decimals");

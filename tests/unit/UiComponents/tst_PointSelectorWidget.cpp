@@ -170,6 +170,20 @@ private Q_SLOTS:
         QCOMPARE(other.plane->point(), QPointF(10, -20));
     }
 
+    void startsInAForm()
+    {
+        QWidget form;
+        const PointSelectorWidget field(&form);
+        QCOMPARE(field.parentWidget(), &form);
+        const auto boxes = field.findChildren<QDoubleSpinBox*>();
+        QCOMPARE(boxes.size(), 2);
+        for (const QDoubleSpinBox* box : boxes) {
+            QCOMPARE(box->minimum(), 0.0);
+            QCOMPARE(box->maximum(), 1.0);
+            QCOMPARE(box->decimals(), 2);
+        }
+    }
+
     // What is done, each with what is reported: for the plane, and for each coordinate that changes.
     void story_data()
     {
