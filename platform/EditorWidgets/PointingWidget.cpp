@@ -15,7 +15,6 @@
 #include <QWindow>
 
 #include <optional>
-#include <utility>
 
 namespace {
 
@@ -89,7 +88,6 @@ public:
     static constexpr int maxRefusals = 3;
     /// Whether the host has shown the bubble; whether it is visible depends on the parent.
     bool wanted = false;
-    bool willAppearAnew = false;
     QPoint appearedAt;
     /// The parent and its ancestors up to their window.
     QVector<QPointer<QWidget>> ancestors;
@@ -289,14 +287,10 @@ void PointingWidget::Private::place()
 /// Has the compositor look at the place again.
 void PointingWidget::Private::appearAnew()
 {
-    if (std::exchange(willAppearAnew, true)) {
-        return;
-    }
     // Not amid a paint or a resize of the bubble, which may lead here.
     QMetaObject::invokeMethod(
         this,
         [this] {
-            willAppearAnew = false;
             if (!q->isVisible() || q->pos() == appearedAt) {
                 return;
             }

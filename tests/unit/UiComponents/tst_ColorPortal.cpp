@@ -1,3 +1,4 @@
+#include "FakePlatform.h"
 #include "PortalStage.h"
 #include "TestMain.h"
 
@@ -7,6 +8,7 @@
 #include <QDBusServiceWatcher>
 #include <QDBusVirtualObject>
 
+#include <array>
 #include <limits>
 #include <memory>
 
@@ -379,13 +381,34 @@ private Q_SLOTS:
         QTRY_COMPARE(answers.results.size(), 1);
     }
 
-    void parentOffScreen()
+    void parent_data()
     {
-        // X11 alone names windows; tst_Xwayland sees to that.
-        QWidget window;
-        window.winId();
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<bool>("hasHandle"); // the window
+        QTest::addColumn<bool>("isNamed");
+        QTest::newRow("X11") << QStringLiteral("xcb") << true << true;
+        QTest::newRow("X11, before there is a native window") << QStringLiteral("xcb") << false << false;
+        QTest::newRow("off screen") << QStringLiteral("offscreen") << true << false;
+        QTest::newRow("Wayland") << QStringLiteral("wayland") << true << false;
+    }
+
+    void parent()
+    {
+        QFETCH(const QString, platform);
+        QFETCH(const bool, hasHandle);
+        QFETCH(const bool, isNamed);
+        const PlatformName name(platform);
+        // Off screen they have small numbers, and a sixteenth is the first that tells.
+        std::array<QWindow, 16> windows;
+        if (hasHandle) {
+            for (QWindow& each : windows) {
+                each.create();
+            }
+        }
+        QWindow& window = windows.back();
+        const QString named = QStringLiteral("x11:%1").arg(hasHandle ? window.winId() : 0, 0, 16);
+        QCOMPARE(portalHandle(&window), isNamed ? named : QString());
         QCOMPARE(portalHandle(nullptr), QString());
-        QCOMPARE(portalHandle(window.windowHandle()), QString());
     }
 
 private:

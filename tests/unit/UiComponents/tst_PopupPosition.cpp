@@ -1,3 +1,4 @@
+#include "FakePlatform.h"
 #include "TestMain.h"
 
 #include <UiComponents/PopupPosition.h>
@@ -55,6 +56,41 @@ private Q_SLOTS:
         QCOMPARE(popupPosition(&field, QSize(200, 100)), corner + QPoint(0, 24 + 6));
         window.setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(popupPosition(&field, QSize(100, 100)), corner + QPoint(40 - 100, 24 + 6));
+    }
+
+    void area_data()
+    {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<QPoint>("corner");
+        QTest::addColumn<int>("popups"); // between the window and the field
+        QTest::addColumn<bool>("isOfWindow");
+        const QPoint onScreen(100, 50);
+        QTest::newRow("the screen's") << QStringLiteral("xcb") << onScreen << 0 << false;
+        QTest::newRow("the screen's, on no screen")
+            << QStringLiteral("xcb") << QPoint(-5000, -5000) << 0 << false;
+        const QString wayland = QStringLiteral("wayland");
+        QTest::newRow("the window's on Wayland") << wayland << onScreen << 0 << true;
+        QTest::newRow("in a pop-up there") << wayland << onScreen << 1 << true;
+        QTest::newRow("in a pop-up of a pop-up") << wayland << onScreen << 2 << true;
+    }
+
+    void area()
+    {
+        QFETCH(const QString, platform);
+        QFETCH(const QPoint, corner);
+        QFETCH(const int, popups);
+        QFETCH(const bool, isOfWindow);
+        const PlatformName name(platform);
+        QWidget window;
+        window.setGeometry(QRect(corner, QSize(300, 200)));
+        QWidget* parent = &window;
+        for (int i = 0; i < popups; ++i) {
+            parent = new QWidget(parent, Qt::Popup);
+            parent->setGeometry(10, 20, 400, 500);
+        }
+        const QWidget field(parent);
+        QCOMPARE(popupArea(field),
+                 isOfWindow ? window.geometry() : QGuiApplication::primaryScreen()->availableGeometry());
     }
 
     void ofTheSelector_data()

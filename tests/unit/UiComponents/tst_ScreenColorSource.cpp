@@ -1,8 +1,10 @@
+#include "FakePlatform.h"
 #include "FakePrivacy.h"
 #include "FakeScreenColors.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/ColorPortal.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/ScreenColorSource.h>
 
@@ -62,14 +64,38 @@ private Q_SLOTS:
         FakePrivacy::reset();
     }
 
-    // Wayland has the portal. Elsewhere the user may be asked for what is missing.
-    void missingPermissionIsNoReason()
+    void portal_data()
     {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<AccessStatus>("status");
+        QTest::addColumn<bool>("isUsed");
+
+        const QString wayland = QStringLiteral("wayland");
+        QTest::newRow("Wayland") << wayland << AccessStatus::Unavailable << true;
+        QTest::newRow("another Wayland")
+            << QStringLiteral("wayland-egl") << AccessStatus::Unavailable << true;
+        QTest::newRow("Wayland, denied by the host") << wayland << AccessStatus::Denied << true;
+        QTest::newRow("Wayland, granted by the host") << wayland << AccessStatus::Granted << false;
+        // The user may be asked for what is missing.
         for (const auto status : {AccessStatus::Granted, AccessStatus::Denied, AccessStatus::Unavailable}) {
-            FakePrivacy::screenAccess = status;
-            QVERIFY(!ScreenColorSource::current());
-            QCOMPARE(Pipette::unavailableReason(), QString());
+            QTest::addRow("elsewhere, status %d", int(status)) << QStringLiteral("xcb") << status << false;
         }
+    }
+
+    void portal()
+    {
+        QFETCH(const QString, platform);
+        QFETCH(const AccessStatus, status);
+        QFETCH(const bool, isUsed);
+        const PlatformName name(platform);
+        FakePrivacy::screenAccess = status;
+        ScreenColorSource* const source = ScreenColorSource::current();
+        QCOMPARE(qobject_cast<ColorPortal*>(source) != nullptr, isUsed);
+        QCOMPARE(source != nullptr, isUsed);
+        // One for all.
+        QCOMPARE(ScreenColorSource::current(), source);
+        // Off screen there is no bus, so that nothing is to be waited for.
+        QCOMPARE(Pipette::unavailableReason().isEmpty(), !isUsed);
         QCOMPARE(FakePrivacy::requests.size(), 0);
     }
 

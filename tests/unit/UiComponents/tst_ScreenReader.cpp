@@ -1,6 +1,9 @@
+#include "FakePlatform.h"
 #include "TestMain.h"
 
 #include <UiComponents/ScreenReader.h>
+
+Q_DECLARE_METATYPE(ScreenSource::Grabs)
 
 namespace {
 
@@ -391,6 +394,24 @@ private Q_SLOTS:
         const QPoint point(200, 300);
         QCOMPARE(reader.colorAt(point), corrected(Screen::below(point)));
         QVERIFY(reader.picture(*QGuiApplication::primaryScreen()).isNull());
+    }
+
+    void grabsOfThePlatform_data()
+    {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<ScreenSource::Grabs>("grabs");
+        QTest::newRow("off screen") << QStringLiteral("offscreen") << ScreenSource::Grabs::Always;
+        // As off screen, where nobody says that there is any.
+        QTest::newRow("X11 without a compositor") << QStringLiteral("xcb") << ScreenSource::Grabs::Never;
+        QTest::newRow("Wayland") << QStringLiteral("wayland") << ScreenSource::Grabs::OnceComposed;
+        QTest::newRow("macOS") << QStringLiteral("cocoa") << ScreenSource::Grabs::OnceComposed;
+    }
+
+    void grabsOfThePlatform()
+    {
+        QFETCH(const QString, platform);
+        const PlatformName name(platform);
+        QTEST(ScreenSource::platform().grabs(), "grabs");
     }
 
     void withoutAnyPicture()

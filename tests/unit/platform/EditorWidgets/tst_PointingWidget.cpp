@@ -1,3 +1,5 @@
+#include "FakePlatform.h"
+#include "OnEvent.h"
 #include "TestMain.h"
 
 #include <EditorWidgets/PointingWidget.h>
@@ -277,6 +279,128 @@ private Q_SLOTS:
         // A target on no screen is not touched, and the bubble is still seen.
         bubble.pointTo(target + (target - middle()) * 3);
         QVERIFY(screenArea().contains(bubble.geometry()));
+    }
+
+    void screenComesAndGoes()
+    {
+        const QRect beside(screenArea().topRight() + QPoint(1, 0), screenArea().size());
+        PointingWidget bubble;
+        fill(bubble);
+        bubble.pointTo(beside.center());
+        bubble.show();
+        settle();
+        QVERIFY(screenArea().contains(bubble.geometry()));
+        {
+            SecondScreen screen(beside);
+            QTRY_VERIFY(touchesTarget(bubble));
+            const QRect smaller(beside.topLeft(), beside.size() / 2);
+            screen.setGeometry(smaller);
+            QTRY_VERIFY(smaller.contains(bubble.geometry()));
+        }
+        QTRY_VERIFY(screenArea().contains(bubble.geometry()));
+    }
+
+    void staysAroundItsWindowOnWayland_data()
+    {
+        QTest::addColumn<QRect>("window");
+        QTest::addColumn<int>("popups"); // between it and the bubble
+        QTest::addColumn<QRect>("area");
+        const QRect large(200, 150, 300, 200);
+        const auto aroundIt = [](const QRect& window) {
+            QRect area(QPoint(), screenArea().size());
+            area.moveCenter(window.center());
+            return area;
+        };
+        const QRect narrow(600, 100, 125, 200);
+        const QRect low(100, 600, 300, 73);
+        QTest::newRow("a window") << large << 0 << large;
+        QTest::newRow("a pop-up of the window") << large << 1 << large;
+        QTest::newRow("a pop-up of a pop-up") << large << 2 << large;
+        QTest::newRow("narrower than the bubble") << narrow << 0 << aroundIt(narrow);
+        QTest::newRow("lower than the bubble") << low << 0 << aroundIt(low);
+    }
+
+    /// Where the screen is, no program knows there; the window is on it.
+    void staysAroundItsWindowOnWayland()
+    {
+        QFETCH(const QRect, window);
+        QFETCH(const int, popups);
+        QFETCH(const QRect, area);
+        const PlatformName wayland(QStringLiteral("wayland"));
+        QWidget below;
+        below.setGeometry(window);
+        QWidget* parent = &below;
+        for (int i = 0; i < popups; ++i) {
+            parent = new QWidget(parent, Qt::Popup);
+            parent->setGeometry(10, 20, 400, 500);
+        }
+        PointingWidget bubble(parent);
+        QCOMPARE(bubble.windowType(), Qt::ToolTip);
+        fill(bubble);
+        for (const QPoint& corner :
+             {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()}) {
+            bubble.pointTo(corner);
+            bubble.adjustSize();
+            QVERIFY(touchesTarget(bubble));
+            QVERIFY(area.contains(bubble.geometry()));
+        }
+    }
+
+    void appearsAnewOnWayland_data()
+    {
+        using Act = std::function<void(PointingWidget*)>;
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<int>("times");
+        const auto by = [](const QVector<QPoint>& steps) -> Act {
+            return [steps](PointingWidget* bubble) {
+                for (const QPoint& step : steps) {
+                    bubble->pointTo(bubble->targetPoint() + step);
+                }
+            };
+        };
+        const QString wayland = QStringLiteral("wayland");
+        QTest::newRow("another target") << wayland << by({{30, 40}}) << 1;
+        QTest::newRow("other targets in one turn") << wayland << by({{30, 40}, {5, 5}}) << 1;
+        QTest::newRow("the same target") << wayland << by({{0, 0}}) << 0;
+        QTest::newRow("there and back") << wayland << by({{30, 40}, {-30, -40}}) << 0;
+        QTest::newRow("window moved")
+            << wayland << Act([](PointingWidget* bubble) { bubble->parentWidget()->move(150, 160); }) << 1;
+        QTest::newRow("hidden at once") << wayland << Act([](PointingWidget* bubble) {
+            bubble->pointTo(bubble->targetPoint() + QPoint(30, 40));
+            bubble->hide();
+        }) << 0;
+        QTest::newRow("elsewhere") << QStringLiteral("xcb") << by({{30, 40}}) << 0;
+    }
+
+    /// A compositor looks at the place of a window once, when it appears.
+    void appearsAnewOnWayland()
+    {
+        QFETCH(const QString, platform);
+        QFETCH(const std::function<void(PointingWidget*)>, act);
+        QFETCH(const int, times);
+        const PlatformName name(platform);
+        QWidget window;
+        window.setGeometry(100, 100, 600, 600);
+        window.show();
+        ShownBubble bubble(&window);
+        settle();
+        QStringList log;
+        const OnEvent hidden(QEvent::Hide, &bubble, [&] { log += QStringLiteral("hidden"); });
+        const OnEvent shown(QEvent::Show, &bubble, [&] { log += QStringLiteral("shown"); });
+        act(&bubble);
+        const bool isHiddenByHost = !bubble.isVisible();
+        // Not amid what has moved it.
+        QCOMPARE(log.count(QStringLiteral("shown")), 0);
+        settle();
+        QCOMPARE(log.count(QStringLiteral("shown")), times);
+        QCOMPARE(log.count(QStringLiteral("hidden")), times + (isHiddenByHost ? 1 : 0));
+        QCOMPARE(bubble.isVisible(), !isHiddenByHost);
+        QVERIFY(touchesTarget(bubble));
+        // It is hidden for the user alone.
+        window.hide();
+        window.show();
+        QCOMPARE(bubble.isVisible(), !isHiddenByHost);
     }
 
     void flippedArrowTakesContentAlong()
