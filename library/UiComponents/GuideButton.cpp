@@ -67,14 +67,10 @@ void GuideButton::showHelp()
     if (!info) {
         return;
     }
-    const QPointer<GuideButton> self = this;
     if (d->pointingWidget && d->pointingWidget == d->appearing) {
         d->pointingWidget->hide();
     } else {
         delete d->pointingWidget.data();
-    }
-    if (!self) {
-        return;
     }
 
     d->pointingWidget = new PointingWidget(this);
@@ -94,6 +90,7 @@ void GuideButton::showHelp()
 
     d->pointingWidget->setArrowOffset(m_popupOffset);
     d->pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));
+    const QPointer<GuideButton> self = this;
     const QPointer<PointingWidget> popup = d->pointingWidget;
     const QPointer<PointingWidget> outer = d->appearing;
     d->appearing = popup;

@@ -64,9 +64,6 @@ QColor edgeColor(const QPalette& palette)
 void drawHandle(QPainter& painter, const QStyleOptionSlider& option, const QRectF& room)
 {
     const qreal diameter = qMin(handleDiameter, qMin(room.width(), room.height()) - 1);
-    if (diameter <= 0) {
-        return;
-    }
     const bool focused = option.state.testFlag(QStyle::State_HasFocus);
     const bool pressed = option.state.testFlag(QStyle::State_Sunken);
     const bool hovered = option.state.testFlag(QStyle::State_MouseOver);

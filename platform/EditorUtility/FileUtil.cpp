@@ -18,11 +18,10 @@ class Messages
     Q_DECLARE_TR_FUNCTIONS(FileUtil)
 
 public:
-    static QString of(PathWalk::Form form)
+    /// What is wrong with @p path, in whose place is a "%1"; empty where nothing is.
+    static QString about(const QString& path)
     {
-        switch (form) {
-        case PathWalk::Form::Good:
-            break;
+        switch (PathWalk::form(path)) {
         case PathWalk::Form::Empty:
             return tr("No path is given");
         case PathWalk::Form::Resource:
@@ -33,29 +32,24 @@ public:
             return tr("The path is too long: %1");
         case PathWalk::Form::NameTooLong:
             return tr("A name in the path is too long: %1");
+        case PathWalk::Form::Good:
+            break;
         }
-        return {};
+        return PathWalk::walk(path).isBlocked ? tr("There is something else in the place of a folder: %1")
+                                              : QString();
     }
-    static QString blocked() { return tr("There is something else in the place of a folder: %1"); }
 };
 
 } // namespace
 
 bool FileUtil::isPathValid(const QString& path, QString* error)
 {
-    const PathWalk::Form form = PathWalk::form(path);
-    QString message;
-    if (form != PathWalk::Form::Good) {
-        message = Messages::of(form);
-    } else if (PathWalk::walk(path).isBlocked) {
-        message = Messages::blocked();
-    } else {
-        return true;
-    }
-    if (error) {
+    QString message = Messages::about(path);
+    const bool isValid = message.isEmpty();
+    if (error && !isValid) {
         *error = message.replace(QLatin1String("%1"), path);
     }
-    return false;
+    return isValid;
 }
 
 QString FileUtil::closestPath(const QString& path)

@@ -6,13 +6,11 @@
 
 #ifdef Q_OS_MACOS
 #include <CoreGraphics/CoreGraphics.h>
-#endif
 
 namespace {
 
 using Orvane::Util::PrivacyType;
 
-#ifdef Q_OS_MACOS
 bool systemAllows(PrivacyType type)
 {
     if (__builtin_available(macOS 10.15, *)) {
@@ -44,34 +42,27 @@ void askSystem(PrivacyType type)
         }
     }
 }
-#else
-bool systemAllows(PrivacyType type)
-{
-    Q_UNUSED(type)
-    return true;
-}
-
-void askSystem(PrivacyType type)
-{
-    Q_UNUSED(type)
-}
-#endif
 
 } // namespace
+#endif
 
 Orvane::Util::AccessStatus Orvane::Util::IsPrivacyAccessGranted(PrivacyType type)
 {
     const AccessStatus onPlatform = platformAccess(QGuiApplication::platformName(), type);
-    if (onPlatform != AccessStatus::Granted) {
-        return onPlatform;
+#ifdef Q_OS_MACOS
+    if (onPlatform == AccessStatus::Granted && !systemAllows(type)) {
+        return AccessStatus::Denied;
     }
-    return systemAllows(type) ? AccessStatus::Granted : AccessStatus::Denied;
+#endif
+    return onPlatform;
 }
 
 bool Orvane::Util::RequestPrivacyAccess(PrivacyType type)
 {
+#ifdef Q_OS_MACOS
     if (IsPrivacyAccessGranted(type) == AccessStatus::Denied) {
         askSystem(type);
     }
+#endif
     return IsPrivacyAccessGranted(type) == AccessStatus::Granted;
 }

@@ -147,10 +147,8 @@ int positionAfter(QAbstractSlider::SliderAction action, const QSlider& slider)
         return bounded(slider, position - slider.pageStep());
     case QAbstractSlider::SliderToMinimum:
         return slider.minimum();
-    case QAbstractSlider::SliderToMaximum:
+    default: // SliderToMaximum
         return slider.maximum();
-    default:
-        return slider.sliderPosition();
     }
 }
 

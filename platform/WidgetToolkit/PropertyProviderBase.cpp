@@ -40,9 +40,8 @@ bool PropertyProviderBase::eventFilter(QObject* watched, QEvent* event)
 
 bool PropertyProviderBase::event(QEvent* event)
 {
-    if (event->type() == QEvent::ParentAboutToChange && parent()) {
-        parent()->removeEventFilter(this);
-    } else if (event->type() == QEvent::ParentChange && parent()) {
+    if (event->type() == QEvent::ParentChange && parent()) {
+        // The former one keeps its filter, which does nothing there.
         parent()->installEventFilter(this);
     }
     return QWidget::event(event);

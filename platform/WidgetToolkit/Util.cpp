@@ -62,9 +62,6 @@ void repolish(QWidget* widget, Unpolish unpolish)
         style->unpolish(widget);
     }
     style->polish(widget);
-    if (!self) {
-        return;
-    }
     if (before && *before != Box(widget)) {
         // Widgets cache frame width and size hint until a StyleChange. It is sent only where the box differs,
         // because it lays out the whole window.
