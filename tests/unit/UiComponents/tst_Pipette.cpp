@@ -1,5 +1,7 @@
+#include "FakePlatform.h"
 #include "FakePrivacy.h"
 #include "FreedMemory.h"
+#include "OnEvent.h"
 #include "PaintCount.h"
 #include "PipetteWindows.h"
 #include "TestMain.h"
@@ -8,6 +10,7 @@
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
 
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -486,6 +489,88 @@ private Q_SLOTS:
         QVERIFY(!m_pipette->currentColor().isValid());
         QVERIFY(shownViews().isEmpty());
         QVERIFY(nothingIsLeft());
+    }
+
+    void newsOfAWindowManager_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<int>("kind"); // of an X event
+        QTest::addColumn<Qt::ApplicationState>("state");
+        QTest::addColumn<bool>("ends");
+        const QByteArray ofX("xcb_generic_event_t");
+        constexpr int property = 28;
+        constexpr int sent = 0x80;
+        QTest::newRow("a property") << ofX << property << Qt::ApplicationInactive << true;
+        QTest::newRow("a property, sent") << ofX << (property | sent) << Qt::ApplicationInactive << true;
+        QTest::newRow("another event") << ofX << property + 1 << Qt::ApplicationInactive << false;
+        QTest::newRow("another system")
+            << QByteArray("windows_generic_MSG") << property << Qt::ApplicationInactive << false;
+        QTest::newRow("in the active application") << ofX << property << Qt::ApplicationActive << false;
+    }
+
+    // An inactive application, of which Qt says nothing, has lost the keyboard.
+    void newsOfAWindowManager()
+    {
+        QFETCH(const QByteArray, type);
+        QFETCH(const int, kind);
+        QFETCH(const Qt::ApplicationState, state);
+        QFETCH(const bool, ends);
+        start();
+        const UntoldState untold(state);
+        QCOMPARE(m_protocol.lines, QStringList{started});
+        std::array<uchar, 32> event = {static_cast<uchar>(kind)};
+        long result = 0;
+        QVERIFY(!QAbstractEventDispatcher::instance()->filterNativeEvent(type, event.data(), &result));
+        QCOMPARE(m_protocol.lines, ends ? (QStringList{started, stopped}) : QStringList{started});
+        QCOMPARE(shownViews().isEmpty(), ends);
+    }
+
+    void viewThatTheCursorComesTo_data()
+    {
+        QTest::addColumn<bool>("isCovered"); // the other screen
+        QTest::addColumn<bool>("isThere");   // the cursor
+        QTest::addColumn<bool>("isPressed");
+        QTest::addColumn<int>("raises");
+        QTest::newRow("below another application's window") << true << true << false << 1;
+        QTest::newRow("on top") << false << true << false << 0;
+        QTest::newRow("elsewhere") << true << false << false << 0;
+        QTest::newRow("during a drag") << true << true << true << 0;
+    }
+
+    // A view on top is told by Qt that the cursor enters it, and comes to the front by itself.
+    void viewThatTheCursorComesTo()
+    {
+        QFETCH(const bool, isCovered);
+        QFETCH(const bool, isThere);
+        QFETCH(const bool, isPressed);
+        QFETCH(const int, raises);
+        const QRect first = QGuiApplication::primaryScreen()->geometry();
+        const QRect second = first.translated(first.width(), 0);
+        SecondScreen screen(second);
+        m_pipette->startPicking();
+        PipetteScreenView* left = nullptr;
+        PipetteScreenView* entered = nullptr;
+        const auto views = shownViews();
+        for (PipetteScreenView* const view : views) {
+            (view->geometry() == second ? entered : left) = view;
+        }
+        QVERIFY(left && entered);
+        QVERIFY(QTest::qWaitForWindowActive(left));
+        QCoreApplication::processEvents();
+        if (isPressed) {
+            QTest::mousePress(left->windowHandle(), Qt::LeftButton, {}, QPoint(600, 500));
+        }
+        int raised = 0;
+        const OnEvent watch(QEvent::ZOrderChange, entered, [&raised] { ++raised; });
+        screen.setCovered(isCovered);
+        QCursor::setPos(isThere ? second.center() : first.center());
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(left, &leave);
+        QCOMPARE(raised, raises);
+        if (isPressed) {
+            QTest::mouseRelease(left->windowHandle(), Qt::LeftButton, {}, QPoint(600, 500));
+        }
+        m_pipette->stopPicking();
     }
 
     // An application that shows nothing else goes on after a pick.

@@ -96,11 +96,13 @@ public:
     {
         if (event->type() == m_type && seen) {
             seen(object);
+            return isTaken;
         }
         return false;
     }
 
     std::function<void(QObject*)> seen;
+    bool isTaken = false; // and nobody else gets it
 
 private:
     QEvent::Type m_type;
@@ -514,6 +516,13 @@ private Q_SLOTS:
         QTest::newRow("FocusIn") << send(QEvent::FocusIn);
         QTest::newRow("Enter") << send(QEvent::Enter);
         QTest::newRow("WindowActivate") << send(QEvent::WindowActivate);
+        QTest::newRow("Enter, raised") << Act([](PipetteScreenView* view) {
+            EventWatch watch(QEvent::ZOrderChange);
+            watch.isTaken = true;
+            watch.seen = [view](QObject*) { Q_EMIT view->loupePosChanged(QPoint()); };
+            QEvent enter(QEvent::Enter);
+            QVERIFY(QCoreApplication::sendEvent(view, &enter));
+        });
         QTest::newRow("ShortcutOverride") << Act([](PipetteScreenView* view) {
             QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_A, Qt::NoModifier);
             QCoreApplication::sendEvent(view, &event);
@@ -543,6 +552,23 @@ private Q_SLOTS:
         connect(stage.view.get(), &PipetteScreenView::pickingFinished, this, die);
         act(stage.view.get());
         QVERIFY(!stage.view);
+    }
+
+    // One that puts a frame around the window is asked once for the right place, and then gets its way.
+    void windowManagersPlace()
+    {
+        Stage stage;
+        QVERIFY(stage.present());
+        QWindow* const window = stage.view->windowHandle();
+        const QSignalSpy moves(window, &QWindow::yChanged);
+        window->setPosition(screenArea.topLeft() + QPoint(0, 24));
+        QTRY_COMPARE(moves.count(), 2);
+        QCOMPARE(stage.view->geometry(), screenArea);
+        window->setPosition(screenArea.topLeft() + QPoint(0, 24));
+        QTRY_COMPARE(stage.view->y(), screenArea.y() + 24);
+        QCoreApplication::processEvents();
+        QCOMPARE(moves.count(), 3);
+        QCOMPARE(stage.view->size(), screenArea.size());
     }
 
     void overlayCoversEverything()
