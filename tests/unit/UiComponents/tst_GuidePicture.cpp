@@ -77,6 +77,12 @@ private Q_SLOTS:
         QCOMPARE(movie->state(), QMovie::Paused);
         QTest::keyClick(picture, Qt::Key_A);
         QCOMPARE(movie->state(), QMovie::Paused);
+        // From the start, at once, when the host has stopped it.
+        QVERIFY(movie->jumpToFrame(1));
+        movie->stop();
+        QTest::mouseClick(picture, Qt::LeftButton);
+        QCOMPARE(movie->state(), QMovie::Running);
+        QCOMPARE(movie->currentFrameNumber(), 0);
         // Each show plays from the start.
         guide.hide();
         guide.show();
@@ -168,8 +174,12 @@ private Q_SLOTS:
             const QString picturePath = path.isEmpty() ? file.fileName() : path;
             const std::unique_ptr<QWidget> guide = makeGuide(isBubble, picturePath, &window);
             guide->show();
-            const OvPixmapWidget* const picture = pictureOf(*guide);
+            OvPixmapWidget* const picture = pictureOf(*guide);
             QVERIFY(!picture->movie());
+            // And nothing of it is said.
+            const AccessibleEars ears;
+            QTest::keyClick(picture, Qt::Key_Space);
+            QCOMPARE(AccessibleEars::take(), QStringList());
             QCOMPARE(picture->moviePath(), picturePath);
             // A file that exists has its place, which is empty.
             QCOMPARE(picture->isVisible(), path.isEmpty());

@@ -137,8 +137,11 @@ private Q_SLOTS:
 
     void emptyInfoHidesAllParts()
     {
-        GuideWidget guide(GuideInfo(), nullptr);
+        QWidget parent;
+        GuideWidget guide(&parent);
+        QCOMPARE(guide.parentWidget(), &parent);
         guide.show();
+        parent.show();
         QCOMPARE(visibleParts(guide), QStringList());
         QCOMPARE(guide.sizeHint(), QSize(0, 0));
         QVERIFY(!movie(guide));
@@ -416,6 +419,7 @@ private Q_SLOTS:
         QTest::newRow("too high and wide") << QStringLiteral("width=99999 height=99999") << QSize(-1, -1);
         QTest::newRow("too high") << QStringLiteral("width=20 height=99999") << QSize(0, 0);
         QTest::newRow("wide in its shape") << QStringLiteral("width=99999") << QSize(-1, -1);
+        QTest::newRow("high in its shape") << QStringLiteral("height=99999") << QSize(-1, -1);
     }
 
     void picturesInTheText()

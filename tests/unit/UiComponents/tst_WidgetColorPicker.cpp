@@ -891,9 +891,17 @@ private Q_SLOTS:
         QCOMPARE(protocol.lines, QStringList());
     }
 
-    // The outline goes by painting the target, inside the filter that sees the press.
-    void pickerDeletedByTheTargetsPainting()
+    void deletedByTheTargetsPainting_data()
     {
+        QTest::addColumn<bool>("isNext");
+        QTest::newRow("the picker, inside the filter that sees the press") << false;
+        QTest::newRow("the next target, as it is set") << true;
+    }
+
+    // The outline goes by painting the target.
+    void deletedByTheTargetsPainting()
+    {
+        QFETCH(const bool, isNext);
         class Deadly : public PatternWidget
         {
         public:
@@ -917,13 +925,21 @@ private Q_SLOTS:
         m_picker->setTarget(target);
         const Protocol protocol(m_picker);
         const FreedMemoryWatch memory;
-        QVERIFY(pickWith([this, target] {
+        QVERIFY(pickWith([this, target, isNext] {
             QCoreApplication::processEvents();
-            target->act = [this] { delete m_picker; };
-            m_stage->press();
-            QVERIFY(!m_picker);
+            if (isNext) {
+                auto* const next = new QWidget;
+                target->act = [next] { delete next; };
+                m_picker->setTarget(next);
+                QVERIFY(!m_picker->target());
+            } else {
+                target->act = [this] { delete m_picker; };
+                m_stage->press();
+                QVERIFY(!m_picker);
+            }
         }));
-        QVERIFY(!m_picker);
+        QVERIFY(isNext ? !m_picker->isInProgress() : !m_picker);
+        QVERIFY(!m_stage->outline());
         QCOMPARE(target->presses, 0);
         QCOMPARE(target->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(protocol.lines, QStringList());

@@ -471,6 +471,8 @@ private Q_SLOTS:
         QCOMPARE(bubblePenWidth(bubble.shape, 2), 0.0);
         // A border is never so thin that it vanishes.
         QCOMPARE(bubblePenWidth({1, 0, 0, 0}, 0.25), 4.0);
+        // Nor is a bubble there before it has a place.
+        QCOMPARE(bubbleRegion(BubblePlacement(), request().shape), QRegion());
     }
 
     void nearest_data()

@@ -14,6 +14,15 @@ protected:
     void changeEvent(QEvent* event) override { Q_UNUSED(event) }
 };
 
+/// Keeps the Hide events of a widget for itself.
+class HideTaker : public QObject
+{
+public:
+    explicit HideTaker(QWidget* widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override { return event->type() == QEvent::Hide; }
+};
+
 void fill(QComboBox& box)
 {
     box.addItems({QStringLiteral("a"), QStringLiteral("an item with a rather long name that is wide"),
@@ -58,21 +67,25 @@ private Q_SLOTS:
     {
         QTest::addColumn<Qt::LayoutDirection>("direction");
         QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QPoint>("corner"); // of the window
+        const QPoint there(0, 0);
         const QString sheet =
             QStringLiteral("QComboBox { combobox-popup: 0; border: 1px solid red; padding: 3px; }"
                            "QComboBox QAbstractItemView::item { padding: 0 20px; }");
-        QTest::newRow("left to right") << Qt::LeftToRight << QString();
-        QTest::newRow("right to left") << Qt::RightToLeft << QString();
-        QTest::newRow("with sheet") << Qt::LeftToRight << sheet;
-        QTest::newRow("with sheet, right to left") << Qt::RightToLeft << sheet;
+        QTest::newRow("left to right") << Qt::LeftToRight << QString() << there;
+        QTest::newRow("right to left") << Qt::RightToLeft << QString() << there;
+        QTest::newRow("with sheet") << Qt::LeftToRight << sheet << there;
+        QTest::newRow("with sheet, right to left") << Qt::RightToLeft << sheet << there;
+        QTest::newRow("with sheet, on no screen") << Qt::LeftToRight << sheet << QPoint(3000, 100);
     }
 
     void popupIsWideEnough()
     {
+        QFETCH(QPoint, corner);
         QFETCH(Qt::LayoutDirection, direction);
         QFETCH(QString, sheet);
         QWidget window;
-        window.resize(700, 300);
+        window.setGeometry(QRect(corner, QSize(700, 300)));
         OvComboBox box;
         box.setParent(&window);
         box.setStyleSheet(sheet);
@@ -134,6 +147,11 @@ private Q_SLOTS:
         box.showPopup();
         QCOMPARE(box.property("popupVisible"), QVariant(true));
         QTest::keyClick(box.view(), Qt::Key_Escape);
+        QCOMPARE(box.property("popupVisible"), QVariant(false));
+        // The box asks for it, and does not hear of it.
+        box.showPopup();
+        const HideTaker taker(box.view()->window());
+        box.hidePopup();
         QCOMPARE(box.property("popupVisible"), QVariant(false));
     }
 
@@ -205,6 +223,22 @@ private Q_SLOTS:
         OvComboBox box;
         box.addItems({QStringLiteral("1"), QStringLiteral("2")});
         QVERIFY(box.minimumSizeHint().width() <= box.sizeHint().width());
+    }
+
+    void minimumWithAnIcon()
+    {
+        OvComboBox box;
+        fill(box);
+        const QSize before = box.minimumSizeHint();
+        QPixmap icon(40, 40);
+        icon.fill(Qt::red);
+        box.setIconSize(icon.size());
+        QCOMPARE(box.minimumSizeHint(), before);
+        // Of any item, and as much as the box itself leaves for it.
+        box.setItemIcon(1, icon);
+        QCOMPARE(box.minimumSizeHint().width(), before.width() + 40 + 4);
+        QCOMPARE(box.minimumSizeHint().height(), box.sizeHint().height());
+        QVERIFY(box.minimumSizeHint().height() > 40);
     }
 
     void minimumFollowsTheFont()

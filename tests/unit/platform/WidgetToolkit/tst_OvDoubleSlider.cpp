@@ -127,6 +127,23 @@ private Q_SLOTS:
                  QStringList{QStringLiteral("Gain: 0.99")});
     }
 
+    void handlerOfASlotStays()
+    {
+        const auto own = [](QAccessibleEvent* /*event*/) {};
+        OvDoubleSlider slider;
+        slider.setOrientation(Qt::Horizontal);
+        slider.resize(200, 30);
+        slider.setRange(0, 100);
+        connect(&slider, &QAbstractSlider::valueChanged, this,
+                [own] { QAccessible::installUpdateHandler(own); });
+        const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(nullptr);
+        QTest::mousePress(&slider, Qt::LeftButton, {}, QPoint(150, 15));
+        QVERIFY(slider.value() > 50);
+        const QAccessible::UpdateHandler after = QAccessible::installUpdateHandler(before);
+        QCOMPARE(reinterpret_cast<quintptr>(after),
+                 reinterpret_cast<quintptr>(static_cast<QAccessible::UpdateHandler>(own)));
+    }
+
     void metaObject()
     {
         OvDoubleSlider slider;

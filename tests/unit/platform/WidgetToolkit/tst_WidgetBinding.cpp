@@ -429,6 +429,79 @@ private Q_SLOTS:
         }
     }
 
+    void oneDiesAtANewRange_data()
+    {
+        QTest::addColumn<bool>("fractions");
+        QTest::addColumn<bool>("boxMoved"); // the range of the spin box, away from the value; or the slider's
+        QTest::addColumn<bool>("atRange");  // before the value
+        QTest::addColumn<bool>("sliderDies");
+        for (const bool fractions : {false, true}) {
+            const char* const kind = fractions ? "fraction" : "integer";
+            // QAbstractSlider itself does not survive a slot of its rangeChanged() that deletes it.
+            QTest::addRow("%s: spin box deleted at the slider's range", kind)
+                << fractions << true << true << false;
+            QTest::addRow("%s: slider deleted at its value", kind) << fractions << true << false << true;
+            QTest::addRow("%s: spin box deleted at its value", kind) << fractions << false << false << false;
+        }
+    }
+
+    void oneDiesAtANewRange()
+    {
+        QFETCH(const bool, fractions);
+        QFETCH(const bool, boxMoved);
+        QFETCH(const bool, atRange);
+        QFETCH(const bool, sliderDies);
+        const Either either(fractions);
+        either.bind();
+        const QPointer<QAbstractSpinBox> box = either.spinBox();
+        const auto die = [&] { delete (sliderDies ? static_cast<QWidget*>(either.slider) : box.data()); };
+        if (atRange) {
+            connect(either.slider, &QAbstractSlider::rangeChanged, this, die);
+        } else {
+            either.listen(boxMoved, this, die);
+        }
+        if (boxMoved) {
+            {
+                // Counts from the next value.
+                const QSignalBlocker quiet(box);
+                either.box->setRange(200, 300);
+                either.doubleBox->setRange(200, 300);
+            }
+            either.set(false, 250);
+        } else {
+            either.slider->setRange(200, 300);
+        }
+        disconnect(this);
+        QCOMPARE(either.slider.isNull(), sliderDies);
+        QCOMPARE(box.isNull(), !sliderDies);
+        // Nothing is done to the survivor any more.
+        if (either.slider) {
+            QCOMPARE(either.slider->value(), boxMoved ? 0 : 200);
+        }
+    }
+
+    void listenerMovesTheRange_data()
+    {
+        QTest::addColumn<bool>("fractions");
+        QTest::newRow("integer") << false;
+        QTest::newRow("fraction") << true;
+    }
+
+    /// While the box's value is being copied.
+    void listenerMovesTheRange()
+    {
+        QFETCH(const bool, fractions);
+        const Either either(fractions);
+        either.bind();
+        either.listen(true, this, [&either] { either.slider->setRange(10, 20); });
+        either.set(false, 15);
+        QCOMPARE(either.slider->value(), 15);
+        QCOMPARE(either.boxValue(), 15.0);
+        QCOMPARE(either.spinBox()->property("minimum").toDouble(), 10.0);
+        QCOMPARE(either.spinBox()->property("maximum").toDouble(), 20.0);
+        disconnect(this);
+    }
+
     void listenerMovesEitherSide_data()
     {
         QTest::addColumn<bool>("fractions");
