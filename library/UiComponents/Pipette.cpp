@@ -32,8 +32,7 @@ namespace {
 std::optional<quint32> managersValue([[maybe_unused]] const char* name)
 {
 #ifdef QT_X11EXTRAS_LIB
-    if (QX11Info::isPlatformX11()) {
-        xcb_connection_t* const connection = QX11Info::connection();
+    if (xcb_connection_t* const connection = QX11Info::connection()) {
         const auto nameCookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(qstrlen(name)), name);
         const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
             xcb_intern_atom_reply(connection, nameCookie, nullptr), &std::free);

@@ -98,9 +98,8 @@ void copy(const ScreenReader::Picture& from, ScreenReader::Picture& to, const QR
 #ifdef QT_X11EXTRAS_LIB
 /// Asks the server once, where QScreen::grabWindow() does so several times. Null where its pixels are not
 /// RGB32.
-QImage grabRoot(const QRect& pixels)
+QImage grabRoot(xcb_connection_t* connection, const QRect& pixels)
 {
-    xcb_connection_t* const connection = QX11Info::connection();
     const auto cookie = xcb_get_image(
         connection, XCB_IMAGE_FORMAT_Z_PIXMAP, static_cast<xcb_drawable_t>(QX11Info::appRootWindow()),
         static_cast<int16_t>(pixels.x()), static_cast<int16_t>(pixels.y()),
@@ -137,8 +136,8 @@ public:
     QImage grab(QScreen& screen, const QRect& pixels) override
     {
 #ifdef QT_X11EXTRAS_LIB
-        if (QX11Info::isPlatformX11()) {
-            const QImage image = grabRoot(pixels);
+        if (xcb_connection_t* const connection = QX11Info::connection()) {
+            const QImage image = grabRoot(connection, pixels);
             if (!image.isNull()) {
                 return image;
             }

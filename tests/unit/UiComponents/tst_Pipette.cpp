@@ -421,6 +421,27 @@ private Q_SLOTS:
         QCOMPARE(m_pipette->currentColor(), QColor(Qt::black));
     }
 
+    // What has no compositor shows no window through another: the screens stand still as they were.
+    void withoutCompositorThePictureStands()
+    {
+        const PlatformName name(QStringLiteral("xcb"));
+        const QPoint point(200, 230);
+        const QColor color = PixelWindow::pixelAt(point);
+        QVERIFY(color.red() > 128 && color.green() > 128);
+        start();
+        PipetteScreenView* const first = shownViews().first();
+        QImage seen(first->size(), QImage::Format_ARGB32_Premultiplied);
+        first->QWidget::render(&seen, QPoint(), QRegion(), QWidget::DrawChildren);
+        QCOMPARE(seen.pixelColor(point), QColor(color.red() - 1, color.green() - 1, color.blue()));
+        // Another set finds the screen below the first, not the first.
+        m_window.reset();
+        m_pipette->startPicking();
+        QList<PipetteScreenView*> views = shownViews();
+        views.removeOne(first);
+        Q_EMIT views.first()->pickingFinished(point, true);
+        QCOMPARE(m_protocol.lines, (QStringList{started, started, color.name(), stopped}));
+    }
+
     // The views ask for it at the start and when the cursor enters, and at no other time.
     void hostsWindowKeepsTheActivation()
     {
