@@ -1053,7 +1053,7 @@ private Q_SLOTS:
             }();
         };
         QVERIFY(described().contains("Several values"));
-        MarkingTranslator translator("MultiValueFace");
+        MarkingTranslator translator("MultiValueCover");
         QCoreApplication::installTranslator(&translator);
         QCoreApplication::processEvents();
         QVERIFY(described().contains("<Several values>"));
