@@ -402,7 +402,8 @@ private Q_SLOTS:
         QFETCH(Action, act);
         const QPointer<ColorPickerButton> second = new ColorPickerButton(m_window.get());
         second->setObjectName("second");
-        second->setPicker(new PopupColorPicker);
+        const QPointer<PopupColorPicker> picker = new PopupColorPicker;
+        second->setPicker(picker);
         m_button->startPicking();
         Trigger trigger(act);
         connect(m_picker, SIGNAL(pickingStopped()), &trigger, SLOT(run()));
@@ -414,6 +415,7 @@ private Q_SLOTS:
         QCOMPARE(trigger.count, 1);
         QVERIFY(!second || !second->isPickingInProgress());
         QVERIFY(!second || !second->isDown());
+        QVERIFY(!picker || !picker->panel());
         QVERIFY(!QApplication::activePopupWidget());
     }
 
