@@ -1214,10 +1214,15 @@ private Q_SLOTS:
         using Correction = QAbstractSpinBox::CorrectionMode;
         QTest::addColumn<int>("key");
         QTest::addColumn<Correction>("correction");
-        QTest::newRow("not yet a value") << int(Qt::Key_7) << QAbstractSpinBox::CorrectToPreviousValue;
-        QTest::newRow("nothing") << int(Qt::Key_Backspace) << QAbstractSpinBox::CorrectToPreviousValue;
-        QTest::newRow("nothing, the nearest of which is the minimum")
-            << int(Qt::Key_Backspace) << QAbstractSpinBox::CorrectToNearestValue;
+        QTest::addColumn<bool>("isFraction");
+        QTest::newRow("not yet a value")
+            << int(Qt::Key_7) << QAbstractSpinBox::CorrectToPreviousValue << false;
+        QTest::newRow("nothing") << int(Qt::Key_Backspace) << QAbstractSpinBox::CorrectToPreviousValue
+                                 << false;
+        for (const bool isFraction : {false, true}) {
+            QTest::addRow("nothing, the nearest of which is the minimum%s", isFraction ? ", fraction" : "")
+                << int(Qt::Key_Backspace) << QAbstractSpinBox::CorrectToNearestValue << isFraction;
+        }
     }
 
     // A spin box takes its own number again when the text is none.
@@ -1225,20 +1230,23 @@ private Q_SLOTS:
     {
         QFETCH(int, key);
         QFETCH(QAbstractSpinBox::CorrectionMode, correction);
-        QSpinBox field;
-        field.setRange(8, 200);
-        field.setValue(50);
-        field.setCorrectionMode(correction);
-        EditSession session(&field);
+        QFETCH(bool, isFraction);
+        const std::unique_ptr<QWidget> field(isFraction ? makeRanged<QDoubleSpinBox>(nullptr)
+                                                        : makeRanged<QSpinBox>(nullptr));
+        field->setProperty("minimum", 8);
+        field->setProperty("value", 50);
+        qobject_cast<QAbstractSpinBox*>(field.get())->setCorrectionMode(correction);
+        EditSession session(field.get());
         QSignalSpy started(&session, &EditSession::started);
         session.setMultiValue(true);
-        field.show();
-        QVERIFY(QTest::qWaitForWindowActive(&field));
-        QTest::keyClick(&field, Qt::Key(key));
-        QTest::keyClick(&field, Qt::Key_Return);
+        field->show();
+        QVERIFY(QTest::qWaitForWindowActive(field.get()));
+        QTest::keyClick(field.get(), Qt::Key(key));
+        QTest::keyClick(field.get(), Qt::Key_Return);
         QCOMPARE(started.count(), 0);
+        QCOMPARE(session.value().toInt(), 50);
         QVERIFY(session.isMultiValue());
-        QVERIFY(field.findChild<QLabel*>("multiValueCover")->isVisible());
+        QVERIFY(field->findChild<QLabel*>("multiValueCover")->isVisible());
     }
 
     void hiddenNumberIsCoveredAgain_data()
