@@ -9,8 +9,8 @@
  * using a widget that a slot has deleted passes unnoticed. While a watch is alive, every block that its
  * thread deletes with operator delete, in whatever library, is filled with a pattern and kept.
  *
- * A test that uses it lists FreedMemory.cpp among its SOURCES, which replaces operator new and delete of
- * its whole program. One watch at a time, and only briefly: the memory is not reused until its end.
+ * A program that uses it has FreedMemory.cpp among its sources, which replaces its operator new and delete.
+ * One watch at a time, and only briefly: the memory is not reused until its end.
  */
 class FreedMemoryWatch
 {
