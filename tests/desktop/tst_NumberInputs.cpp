@@ -1,3 +1,4 @@
+#include "Part.h"
 #include "RealInput.h"
 #include "TestMain.h"
 
@@ -131,12 +132,6 @@ private Q_SLOTS:
     }
 
 private:
-    template <typename Part>
-    static Part* partOf(const QWidget* field, const char* name)
-    {
-        return field->findChild<Part*>(QString::fromLatin1(name));
-    }
-
     std::unique_ptr<QScrollArea> m_window;
     QLineEdit* m_before = nullptr;
     SliderInputWidget* m_number = nullptr;

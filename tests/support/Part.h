@@ -3,8 +3,20 @@
 #include <QString>
 #include <QWidget>
 
-/// A child of a widget that hosts know by its name: editOf(field), with Part<QLineEdit>
-/// editOf("pathLineEdit").
+/// A child of a widget that hosts know by its name.
+template <typename Widget = QWidget>
+Widget* partOf(const QObject& owner, const char* name)
+{
+    return owner.findChild<Widget*>(QLatin1String(name));
+}
+
+template <typename Widget = QWidget>
+Widget* partOf(const QObject* owner, const char* name)
+{
+    return partOf<Widget>(*owner, name);
+}
+
+/// partOf() for one name: editOf(field), with Part<QLineEdit> editOf("pathLineEdit").
 template <typename Widget>
 class Part
 {
@@ -14,7 +26,7 @@ public:
     {
     }
 
-    Widget* operator()(const QObject& owner) const { return owner.findChild<Widget*>(QLatin1String(m_name)); }
+    Widget* operator()(const QObject& owner) const { return partOf<Widget>(owner, m_name); }
     Widget* operator()(const QObject* owner) const { return (*this)(*owner); }
 
 private:

@@ -1,6 +1,7 @@
 #include "DecimalNumber.h"
 #include "MarkingTranslator.h"
 #include "MouseEvents.h"
+#include "Part.h"
 #include "SpinBoxTyping.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -33,12 +34,6 @@ using Story = QVector<Step>;
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double largest = std::numeric_limits<double>::max();
-
-template <typename Part>
-Part* partOf(const QWidget& field, const char* name)
-{
-    return field.findChild<Part*>(QString::fromLatin1(name));
-}
 
 const PointSelectorWidget::Initializer hundreds = {{0.0, 0.0}, {100.0, 100.0}, 1, 1};
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "Part.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselComboBox.h>
@@ -193,12 +194,6 @@ inline ColorPickerWidget* makeColorPanel(QWidget* parent)
     panel->findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))->click();
     panel->findChild<QDialog*>()->reject();
     return panel;
-}
-
-/// A part of the colour panel, by its name.
-inline QWidget* partOf(const QWidget* panel, const char* name)
-{
-    return panel->findChild<QWidget*>(QString::fromLatin1(name));
 }
 
 inline QLabel* makeColorPreview(QWidget* parent)
