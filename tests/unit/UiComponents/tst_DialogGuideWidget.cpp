@@ -1,4 +1,5 @@
 #include "AccessibleEars.h"
+#include "GuideStage.h"
 #include "MarkingTranslator.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
@@ -7,27 +8,16 @@
 #include <UiComponents/DialogGuideWidget.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
-#include <WidgetToolkit/OvPixmapWidget.h>
 
 #include <functional>
 #include <memory>
 
 namespace {
 
-QString animation()
-{
-    return QStringLiteral(UIC_TEST_DATA "/guide.gif");
-}
-
 DialogGuideInfo fullInfo()
 {
     return {QStringLiteral("The timeline"), QStringLiteral("Clips lie here, one after the other."),
             QStringLiteral("Next"), QStringLiteral("Back"), animation()};
-}
-
-QString words(int count)
-{
-    return QStringLiteral("frame ").repeated(count).trimmed();
 }
 
 /// Shows what is protected, and counts.
@@ -81,12 +71,6 @@ protected:
 private:
     bool m_painting = false;
 };
-
-template <typename Widget>
-Widget* part(const QWidget& bubble, const char* name)
-{
-    return bubble.findChild<Widget*>(QLatin1String(name));
-}
 
 /// Lets what is due happen, until nothing is.
 void settle()
@@ -146,9 +130,9 @@ private Q_SLOTS:
     {
         const DialogGuideWidget bubble(nullptr);
 
-        QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->property("styleHint").toString(),
+        QCOMPARE(partOf<QPushButton>(bubble, "secondaryButton")->property("styleHint").toString(),
                  QStringLiteral("guideButton"));
-        QCOMPARE(part<QPushButton>(bubble, "mainButton")->property("styleHint").toString(),
+        QCOMPARE(partOf<QPushButton>(bubble, "mainButton")->property("styleHint").toString(),
                  QStringLiteral("guideMainButton"));
     }
 
@@ -158,14 +142,14 @@ private Q_SLOTS:
         const DialogGuideInfo info = fullInfo();
         bubble.setInfo(info);
         // Texts and visibility at once, sizes later.
-        QCOMPARE(part<QLabel>(bubble, "headerLabel")->text(),
+        QCOMPARE(partOf<QLabel>(bubble, "headerLabel")->text(),
                  Customization::localeDependedBoldText(info.title));
-        QCOMPARE(part<QLabel>(bubble, "descriptionLabel")->text(), info.description);
-        QCOMPARE(part<QPushButton>(bubble, "mainButton")->text(), info.mainButtonText);
-        QCOMPARE(part<QPushButton>(bubble, "secondaryButton")->text(), info.secondaryButtonText);
-        QCOMPARE(part<OvPixmapWidget>(bubble, "gifPixmapWidget")->moviePath(), info.moviePath);
-        QVERIFY(!part<QLabel>(bubble, "headerLabel")->isHidden());
-        QVERIFY(!part<OvPixmapWidget>(bubble, "gifPixmapWidget")->isHidden());
+        QCOMPARE(partOf<QLabel>(bubble, "descriptionLabel")->text(), info.description);
+        QCOMPARE(partOf<QPushButton>(bubble, "mainButton")->text(), info.mainButtonText);
+        QCOMPARE(partOf<QPushButton>(bubble, "secondaryButton")->text(), info.secondaryButtonText);
+        QCOMPARE(pixmapOf(bubble)->moviePath(), info.moviePath);
+        QVERIFY(!partOf<QLabel>(bubble, "headerLabel")->isHidden());
+        QVERIFY(!pixmapOf(bubble)->isHidden());
         settle();
     }
 
@@ -174,21 +158,21 @@ private Q_SLOTS:
         Stage stage;
         stage.bubble->setInfo(DialogGuideInfo());
         settle();
-        QVERIFY(part<QLabel>(*stage.bubble, "headerLabel")->isHidden());
-        QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->isHidden());
+        QVERIFY(partOf<QLabel>(*stage.bubble, "headerLabel")->isHidden());
+        QVERIFY(pixmapOf(*stage.bubble)->isHidden());
         // Empty buttons stay: it is the host who hides the secondary one.
-        QVERIFY(part<QPushButton>(*stage.bubble, "mainButton")->isVisible());
-        QVERIFY(part<QPushButton>(*stage.bubble, "secondaryButton")->isVisible());
-        QVERIFY(part<QToolButton>(*stage.bubble, "closeButton")->isVisible());
-        QVERIFY(part<QPushButton>(*stage.bubble, "mainButton")->text().isEmpty());
+        QVERIFY(partOf<QPushButton>(*stage.bubble, "mainButton")->isVisible());
+        QVERIFY(partOf<QPushButton>(*stage.bubble, "secondaryButton")->isVisible());
+        QVERIFY(partOf<QToolButton>(*stage.bubble, "closeButton")->isVisible());
+        QVERIFY(partOf<QPushButton>(*stage.bubble, "mainButton")->text().isEmpty());
         QCOMPARE(stage.bubble->targetPoint(), stage.window.mapToGlobal(stage.spot));
     }
 
     void closeAndSecondaryButtonVisible()
     {
         Stage stage;
-        const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
-        const auto* const secondary = part<QPushButton>(*stage.bubble, "secondaryButton");
+        const auto* const close = partOf<QToolButton>(*stage.bubble, "closeButton");
+        const auto* const secondary = partOf<QPushButton>(*stage.bubble, "secondaryButton");
         QVERIFY(close->isVisible());
         QVERIFY(secondary->isVisible());
         stage.bubble->setCloseButtonVisible(false);
@@ -205,10 +189,10 @@ private Q_SLOTS:
         QVERIFY(close->isVisible());
         QVERIFY(secondary->isVisible());
         settle();
-        const QRect buttons = part<OvFrame>(*stage.bubble, "buttonsFrame")->rect();
-        QCOMPARE(part<QPushButton>(*stage.bubble, "mainButton")->geometry().right(), buttons.right());
+        const QRect buttons = partOf<OvFrame>(*stage.bubble, "buttonsFrame")->rect();
+        QCOMPARE(partOf<QPushButton>(*stage.bubble, "mainButton")->geometry().right(), buttons.right());
         QVERIFY(secondary->geometry().right() <
-                part<QPushButton>(*stage.bubble, "mainButton")->geometry().left());
+                partOf<QPushButton>(*stage.bubble, "mainButton")->geometry().left());
     }
 
     void closeButtonStaysInItsCorner_data()
@@ -225,9 +209,9 @@ private Q_SLOTS:
         Stage stage;
         stage.bubble->setFixedWidth(300);
         stage.set(&DialogGuideInfo::title, title);
-        const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
+        const auto* const close = partOf<QToolButton>(*stage.bubble, "closeButton");
         QCOMPARE(close->geometry().topRight(),
-                 part<OvFrame>(*stage.bubble, "headerFrame")->rect().topRight());
+                 partOf<OvFrame>(*stage.bubble, "headerFrame")->rect().topRight());
         QCOMPARE(close->size(), close->sizeHint());
     }
 
@@ -260,12 +244,12 @@ private Q_SLOTS:
             info.description = words(80);
             stage.bubble->setInfo(info);
             settle();
-            const auto* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
-            const auto* const header = part<QLabel>(*stage.bubble, "headerLabel");
-            const auto* const close = part<QToolButton>(*stage.bubble, "closeButton");
-            const int descriptionWidth = part<OvFrame>(*stage.bubble, "descriptionFrame")->width() - 17;
+            const auto* const description = partOf<QLabel>(*stage.bubble, "descriptionLabel");
+            const auto* const header = partOf<QLabel>(*stage.bubble, "headerLabel");
+            const auto* const close = partOf<QToolButton>(*stage.bubble, "closeButton");
+            const int descriptionWidth = partOf<OvFrame>(*stage.bubble, "descriptionFrame")->width() - 17;
             const int headerWidth =
-                part<OvFrame>(*stage.bubble, "headerFrame")->width() - 5 - 9 - close->width();
+                partOf<OvFrame>(*stage.bubble, "headerFrame")->width() - 5 - 9 - close->width();
             QCOMPARE(description->width(), descriptionWidth);
             QCOMPARE(header->width(), headerWidth);
             QCOMPARE(description->minimumHeight(), neededHeight(description, descriptionWidth));
@@ -287,9 +271,9 @@ private Q_SLOTS:
             info.title = words(40);
             stage.bubble->setInfo(info);
             settle();
-            const auto* const header = part<QLabel>(*stage.bubble, "headerLabel");
-            const auto* const frame = part<OvFrame>(*stage.bubble, "headerFrame");
-            const int closeWidth = part<QToolButton>(*stage.bubble, "closeButton")->width();
+            const auto* const header = partOf<QLabel>(*stage.bubble, "headerLabel");
+            const auto* const frame = partOf<OvFrame>(*stage.bubble, "headerFrame");
+            const int closeWidth = partOf<QToolButton>(*stage.bubble, "closeButton")->width();
             QVERIFY(closeWidth >= 60);
             const int narrow = header->minimumHeight();
             QCOMPARE(narrow, neededHeight(header, frame->width() - closeWidth - 40));
@@ -413,7 +397,7 @@ private Q_SLOTS:
             QCOMPARE(stage.bubble->targetPoint(), target);
             const QPoint tip = stage.bubble->mapFromGlobal(target);
             QVERIFY(stage.bubble->mask().contains(tip));
-            const auto* const description = part<QLabel>(*stage.bubble, "descriptionLabel");
+            const auto* const description = partOf<QLabel>(*stage.bubble, "descriptionLabel");
             QVERIFY(description->height() >= description->heightForWidth(description->width()));
             heights += stage.bubble->height();
         }
@@ -430,7 +414,7 @@ private Q_SLOTS:
         stage.bubble->setInfo(info);
         stage.bubble->setInfo(fullInfo());
         settle();
-        QCOMPARE(part<QLabel>(*stage.bubble, "descriptionLabel")->text(), fullInfo().description);
+        QCOMPARE(partOf<QLabel>(*stage.bubble, "descriptionLabel")->text(), fullInfo().description);
         Stage reference;
         QCOMPARE(stage.bubble->size(), reference.bubble->size());
     }
@@ -482,7 +466,7 @@ private Q_SLOTS:
                 [&] { reported += QStringLiteral("secondary"); });
         connect(stage.bubble.data(), &DialogGuideWidget::closeClicked, this,
                 [&] { reported += QStringLiteral("close"); });
-        part<QToolButton>(*stage.bubble, "closeButton")->setFocus();
+        partOf<QToolButton>(*stage.bubble, "closeButton")->setFocus();
         for (int i = 0; i < 3; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -694,14 +678,14 @@ private Q_SLOTS:
         stage.bubble->setInfo(fullInfo());
         settle();
         QCOMPARE(timers.countDuring(50), 0);
-        QVERIFY(part<OvPixmapWidget>(*stage.bubble, "gifPixmapWidget")->movie()->state() != QMovie::Running);
+        QVERIFY(movie(*stage.bubble)->state() != QMovie::Running);
     }
 
     void accessibleNames()
     {
         Stage stage;
         const auto closeName = [&stage] {
-            return spokenName(part<QToolButton>(*stage.bubble, "closeButton"));
+            return spokenName(partOf<QToolButton>(*stage.bubble, "closeButton"));
         };
         QCOMPARE(spokenName(stage.bubble), QStringLiteral("The timeline"));
         QCOMPARE(closeName(), QStringLiteral("Close"));
@@ -724,8 +708,8 @@ private Q_SLOTS:
         {
             Stage stage;
             QCOMPARE(stage.bubble->width(), 300);
-            const auto* const main = part<QPushButton>(*stage.bubble, "mainButton");
-            const auto* const secondary = part<QPushButton>(*stage.bubble, "secondaryButton");
+            const auto* const main = partOf<QPushButton>(*stage.bubble, "mainButton");
+            const auto* const secondary = partOf<QPushButton>(*stage.bubble, "secondaryButton");
             QVERIFY(main->minimumWidth() >= 88 && main->minimumWidth() < 99);
             QVERIFY(secondary->minimumWidth() >= 77 && secondary->minimumWidth() < 88);
             QCOMPARE(main->geometry().left() - secondary->geometry().right() - 1, 17);

@@ -1,4 +1,5 @@
 #include "FreedMemory.h"
+#include "GuideStage.h"
 #include "OnEvent.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
@@ -16,13 +17,11 @@
 
 namespace {
 
-const QString scheme = QStringLiteral("uic-guide-button-test");
-
 std::unique_ptr<GuideInfo> info(const QString& title)
 {
-    return std::make_unique<GuideInfo>(title, QStringLiteral("What it is for."),
-                                       QStringLiteral("<a href=\"%1:x\">Learn more</a>").arg(scheme),
-                                       QStringLiteral(UIC_TEST_DATA "/guide.gif"));
+    return std::make_unique<GuideInfo>(
+        title, QStringLiteral("What it is for."),
+        QStringLiteral("<a href=\"%1:x\">Learn more</a>").arg(UrlHandler::scheme()), animation());
 }
 
 /// In a window of its own, big enough to be clicked.
@@ -65,35 +64,10 @@ QString shownTitle(const GuideButton& button)
     return text.toPlainText();
 }
 
-QMovie* movie(const GuideButton& button)
-{
-    return guide(button)->findChild<OvPixmapWidget*>()->movie();
-}
-
 QPoint middleOfLowerEdge(const GuideButton& button)
 {
     return button.mapToGlobal(QPoint(button.width() / 2, button.height()));
 }
-
-void clickLink(const GuideButton& button)
-{
-    auto* const label = guide(button)->findChild<QLabel*>(QStringLiteral("learnMoreLabel"));
-    QTest::mouseClick(label, Qt::LeftButton, {}, QPoint(12, label->height() / 2));
-}
-
-/// Does nothing with the URLs of the tests.
-class UrlHandler : public QObject
-{
-    Q_OBJECT
-
-public:
-    UrlHandler() { QDesktopServices::setUrlHandler(scheme, this, "open"); }
-    ~UrlHandler() override { QDesktopServices::unsetUrlHandler(scheme); }
-
-    Q_INVOKABLE void open(const QUrl& url) { opened += url; }
-
-    QList<QUrl> opened;
-};
 
 } // namespace
 
@@ -519,7 +493,7 @@ private Q_SLOTS:
         button->click();
         clickLink(*button);
         QCOMPARE(clicked.size(), 1);
-        QCOMPARE(handler.opened, QList<QUrl>({QUrl(scheme + QStringLiteral(":x"))}));
+        QCOMPARE(handler.opened, QList<QUrl>({QUrl(UrlHandler::scheme() + QStringLiteral(":x"))}));
         QVERIFY(popup(*button)->isVisible());
         // The next pop-up is heard once, too.
         button->click();

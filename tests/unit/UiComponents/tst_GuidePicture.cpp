@@ -1,19 +1,17 @@
 #include "AccessibleEars.h"
+#include "GuideStage.h"
 #include "TestMain.h"
 
 #include <UiComponents/DialogGuideWidget.h>
 #include <UiComponents/GuideButton.h>
 #include <UiComponents/GuideWidget.h>
-#include <WidgetToolkit/OvPixmapWidget.h>
 
 namespace {
-
-const QString film = QStringLiteral(UIC_TEST_DATA "/guide.gif");
 
 GuideInfo info()
 {
     return {QStringLiteral("Trim"), QStringLiteral("Drag the <i>edge</i> of a clip"),
-            QStringLiteral("<a href='https://example.org'>More</a>"), film};
+            QStringLiteral("<a href='https://example.org'>More</a>"), animation()};
 }
 
 /// A guide, or a bubble of @p window.
@@ -44,11 +42,6 @@ public:
     }
 };
 
-OvPixmapWidget* pictureOf(const QWidget& guide)
-{
-    return guide.findChild<OvPixmapWidget*>(QStringLiteral("gifPixmapWidget"));
-}
-
 } // namespace
 
 class tst_GuidePicture : public QObject
@@ -61,7 +54,7 @@ private Q_SLOTS:
         GuideWidget guide(info(), nullptr);
         guide.show();
         QApplication::setActiveWindow(&guide);
-        OvPixmapWidget* const picture = pictureOf(guide);
+        OvPixmapWidget* const picture = pixmapOf(guide);
         QMovie* const movie = picture->movie();
         QCOMPARE(movie->state(), QMovie::Running);
         QTest::mouseClick(picture, Qt::LeftButton);
@@ -95,7 +88,7 @@ private Q_SLOTS:
     {
         GuideWidget guide(info(), nullptr);
         guide.show();
-        OvPixmapWidget* const picture = pictureOf(guide);
+        OvPixmapWidget* const picture = pixmapOf(guide);
         QAccessibleInterface& interface = reader(picture);
         QCOMPARE(interface.role(), QAccessible::Animation);
         QCOMPARE(interface.text(QAccessible::Name), QStringLiteral("Animated picture"));
@@ -130,15 +123,15 @@ private Q_SLOTS:
         QFETCH(bool, isBubble);
         QWidget window;
         window.show();
-        const std::unique_ptr<QWidget> guide = makeGuide(isBubble, film, &window);
+        const std::unique_ptr<QWidget> guide = makeGuide(isBubble, animation(), &window);
         QObject* const wisher = ofGuide ? static_cast<QObject*>(guide.get()) : qApp;
         wisher->setProperty("firstPictureOnly", true);
         guide->show();
-        QMovie* const movie = pictureOf(*guide)->movie();
+        QMovie* const movie = pixmapOf(*guide)->movie();
         QCOMPARE(movie->state(), QMovie::Paused);
         QCOMPARE(movie->currentFrameNumber(), 0);
         // The user may see the rest.
-        QTest::mouseClick(pictureOf(*guide), Qt::LeftButton);
+        QTest::mouseClick(pixmapOf(*guide), Qt::LeftButton);
         QCOMPARE(movie->state(), QMovie::Running);
         guide->hide();
         wisher->setProperty("firstPictureOnly", QVariant());
@@ -154,7 +147,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("missing file") << QStringLiteral("/no/such/guide.gif") << QByteArray();
         QTest::newRow("missing resource") << QStringLiteral(":/no/such/guide.gif") << QByteArray();
-        QTest::newRow("URL") << QUrl::fromLocalFile(film).toString() << QByteArray();
+        QTest::newRow("URL") << QUrl::fromLocalFile(animation()).toString() << QByteArray();
         QTest::newRow("empty file") << QString() << QByteArray();
         QTest::newRow("no image") << QString() << QByteArray("no image at all");
         QTest::newRow("header alone") << QString() << QByteArray("GIF89a\x08\x00\x08\x00", 10);
@@ -174,7 +167,7 @@ private Q_SLOTS:
             const QString picturePath = path.isEmpty() ? file.fileName() : path;
             const std::unique_ptr<QWidget> guide = makeGuide(isBubble, picturePath, &window);
             guide->show();
-            OvPixmapWidget* const picture = pictureOf(*guide);
+            OvPixmapWidget* const picture = pixmapOf(*guide);
             QVERIFY(!picture->movie());
             // And nothing of it is said.
             const AccessibleEars ears;
@@ -191,9 +184,9 @@ private Q_SLOTS:
     {
         StillStyle style(QStringLiteral("fusion"));
         GuideWidget guide(info(), nullptr);
-        pictureOf(guide)->setStyle(&style);
+        pixmapOf(guide)->setStyle(&style);
         guide.show();
-        QCOMPARE(pictureOf(guide)->movie()->state(), QMovie::Running);
+        QCOMPARE(pixmapOf(guide)->movie()->state(), QMovie::Running);
     }
 
     void focusIsAnOutline_data()
@@ -211,7 +204,7 @@ private Q_SLOTS:
         QFETCH(Qt::FocusReason, reason);
         const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
         GuideWidget guide(info(), nullptr);
-        OvPixmapWidget* const picture = pictureOf(guide);
+        OvPixmapWidget* const picture = pixmapOf(guide);
         picture->setStyle(fusion.get());
         guide.setProperty("firstPictureOnly", true);
         guide.show();

@@ -1,4 +1,5 @@
 #include "FreedMemory.h"
+#include "GuideStage.h"
 #include "PaintCount.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
@@ -6,20 +7,10 @@
 #include <ApplicationUtility/Customization.h>
 #include <UiComponents/GuideWidget.h>
 #include <WidgetToolkit/OvBoxLayout.h>
-#include <WidgetToolkit/OvPixmapWidget.h>
 
-#include <functional>
 #include <memory>
 
 namespace {
-
-const QString scheme = QStringLiteral("uic-guide-test");
-
-/// 120 x 60 pixels, three frames of 30 ms each, for ever.
-QString animation()
-{
-    return QStringLiteral(UIC_TEST_DATA "/guide.gif");
-}
 
 QString link(const QString& target)
 {
@@ -29,7 +20,7 @@ QString link(const QString& target)
 GuideInfo fullInfo()
 {
     return {QStringLiteral("Ripple delete"), QStringLiteral("Closes the gap that a clip leaves."),
-            link(scheme + QStringLiteral(":ripple")), animation()};
+            link(UrlHandler::scheme() + QStringLiteral(":ripple")), animation()};
 }
 
 GuideInfo described(const QString& description)
@@ -37,24 +28,9 @@ GuideInfo described(const QString& description)
     return {QString(), description, QString(), QString()};
 }
 
-QString words(int count)
-{
-    return QStringLiteral("frame ").repeated(count).trimmed();
-}
-
 QLabel* label(const QWidget& guide, const char* name)
 {
     return guide.findChild<QLabel*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
-}
-
-OvPixmapWidget* picture(const QWidget& guide)
-{
-    return guide.findChild<OvPixmapWidget*>(QStringLiteral("gifPixmapWidget"), Qt::FindDirectChildrenOnly);
-}
-
-QMovie* movie(const QWidget& guide)
-{
-    return picture(guide)->movie();
 }
 
 /// The names of the parts that a guide shows, or would show if it were shown itself.
@@ -68,33 +44,6 @@ QStringList visibleParts(const QWidget& guide)
         }
     }
     return names;
-}
-
-/// What is asked to open URLs while it lives.
-class UrlHandler : public QObject
-{
-    Q_OBJECT
-
-public:
-    UrlHandler() { QDesktopServices::setUrlHandler(scheme, this, "open"); }
-    ~UrlHandler() override { QDesktopServices::unsetUrlHandler(scheme); }
-
-    Q_INVOKABLE void open(const QUrl& url)
-    {
-        opened += url;
-        if (onOpen) {
-            onOpen();
-        }
-    }
-
-    QList<QUrl> opened;
-    std::function<void()> onOpen;
-};
-
-void clickLink(const QWidget& guide)
-{
-    QLabel* const learnMore = label(guide, "learnMoreLabel");
-    QTest::mouseClick(learnMore, Qt::LeftButton, {}, QPoint(12, learnMore->height() / 2));
 }
 
 } // namespace
@@ -111,7 +60,7 @@ private Q_SLOTS:
         const GuideInfo info = fullInfo();
         const GuideWidget guide(info, nullptr);
         QCOMPARE(label(guide, "headerLabel")->text(), Customization::localeDependedBoldText(info.title));
-        QCOMPARE(picture(guide)->moviePath(), info.moviePath);
+        QCOMPARE(pixmapOf(guide)->moviePath(), info.moviePath);
         QVERIFY(movie(guide));
         QCOMPARE(label(guide, "descriptionLabel")->text(), info.description);
         QCOMPARE(label(guide, "learnMoreLabel")->text(), info.learnMore);
@@ -244,7 +193,7 @@ private Q_SLOTS:
         QTRY_VERIFY(guide->height() > before);
         const QLabel* const description = label(*guide, "descriptionLabel");
         QTRY_VERIFY(description->height() >= description->heightForWidth(description->width()));
-        QVERIFY(!picture(*guide)->isVisible());
+        QVERIFY(!pixmapOf(*guide)->isVisible());
     }
 
     void linksHaveTheColorOfTheirLabel_data()
@@ -500,7 +449,7 @@ private Q_SLOTS:
         guide.show();
         QVERIFY(!movie(guide));
         guide.setInfo(fullInfo());
-        QVERIFY(picture(guide)->isVisible());
+        QVERIFY(pixmapOf(guide)->isVisible());
         QCOMPARE(movie(guide)->state(), QMovie::Running);
         QTRY_COMPARE(movie(guide)->currentFrameNumber(), 2);
 
@@ -585,9 +534,9 @@ private Q_SLOTS:
         window.show();
         QCOMPARE(movie(*guide)->state(), QMovie::Running);
         QVERIFY(window.width() <= 300);
-        const QSize shown = picture(*guide)->size();
+        const QSize shown = pixmapOf(*guide)->size();
         QVERIFY(shown.width() <= 300);
-        QCOMPARE(shown.height(), picture(*guide)->heightForWidth(shown.width()));
+        QCOMPARE(shown.height(), pixmapOf(*guide)->heightForWidth(shown.width()));
         QVERIFY(!guide->grab().isNull());
     }
 
@@ -617,7 +566,7 @@ private Q_SLOTS:
                 [&order] { order += QStringLiteral("reported"); });
         clickLink(guide);
         QCOMPARE(order, QStringList({QStringLiteral("opened"), QStringLiteral("reported")}));
-        QCOMPARE(handler.opened, QList<QUrl>({QUrl(scheme + QStringLiteral(":ripple"))}));
+        QCOMPARE(handler.opened, QList<QUrl>({QUrl(UrlHandler::scheme() + QStringLiteral(":ripple"))}));
         clickLink(guide);
         QCOMPARE(order.size(), 4);
     }
@@ -694,7 +643,7 @@ private Q_SLOTS:
     void linkInTheDescriptionIsNotFollowed()
     {
         UrlHandler handler;
-        GuideWidget guide(described(link(scheme + QStringLiteral(":x"))), nullptr);
+        GuideWidget guide(described(link(UrlHandler::scheme() + QStringLiteral(":x"))), nullptr);
         guide.show();
         QSignalSpy clicked(&guide, &GuideWidget::learnMoreClicked);
         QLabel* const description = label(guide, "descriptionLabel");
@@ -760,4 +709,5 @@ private Q_SLOTS:
 };
 
 UIC_TEST_MAIN(tst_GuideWidget)
+#include "moc_GuideStage.cpp"
 #include "tst_GuideWidget.moc"
