@@ -1,7 +1,6 @@
-#include "GlogCapture.h"
 #include "MetaObject.h"
 #include "NormalUser.h"
-#include "QmlFiles.h"
+#include "QmlTest.h"
 #include "TestMain.h"
 
 #include <UiComponents/QuickContent.h>
@@ -33,25 +32,11 @@ QQuickWidget* viewOf(QuickContent& content)
 
 } // namespace
 
-class tst_QuickContent : public QObject
+class tst_QuickContent : public QmlTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_files = std::make_unique<QmlFiles>();
-        m_log = std::make_unique<GlogCapture>();
-    }
-
-    void cleanup()
-    {
-        // What a test expected to be logged it took.
-        QCOMPARE(m_log->take(), QStringList());
-        m_log.reset();
-        m_files.reset();
-    }
-
     void fresh()
     {
         QuickContent content;
@@ -591,11 +576,8 @@ private Q_SLOTS:
         QVERIFY(!content.isAvailable());
         QVERIFY(!content.isUndefined());
     }
-
-private:
-    std::unique_ptr<QmlFiles> m_files;
-    std::unique_ptr<GlogCapture> m_log;
 };
 
 UIC_TEST_MAIN(tst_QuickContent)
+#include "moc_QmlTest.cpp"
 #include "tst_QuickContent.moc"

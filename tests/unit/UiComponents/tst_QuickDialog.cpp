@@ -1,7 +1,6 @@
 #include "AccessibleEars.h"
-#include "GlogCapture.h"
 #include "OnEvent.h"
-#include "QmlFiles.h"
+#include "QmlTest.h"
 #include "TestMain.h"
 
 #include <UiComponents/QuickContent.h>
@@ -74,7 +73,7 @@ using Act = std::function<void(FormDialog*)>;
 
 Q_DECLARE_METATYPE(Act)
 
-class tst_QuickDialog : public QObject
+class tst_QuickDialog : public QmlTest
 {
     Q_OBJECT
 
@@ -102,20 +101,6 @@ private Q_SLOTS:
             button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         });
         QCOMPARE(result, int(QDialog::Accepted));
-    }
-
-    void init()
-    {
-        m_files = std::make_unique<QmlFiles>();
-        m_log = std::make_unique<GlogCapture>();
-    }
-
-    void cleanup()
-    {
-        // What a test expected to be logged it took.
-        QCOMPARE(m_log->take(), QStringList());
-        m_log.reset();
-        m_files.reset();
     }
 
     void fresh()
@@ -939,9 +924,6 @@ private:
         return m_files->file(QStringLiteral("main.qml"),
                              QStringLiteral("import QtQuick 2.15\nRectangle { %1 }\n").arg(body));
     }
-
-    std::unique_ptr<QmlFiles> m_files;
-    std::unique_ptr<GlogCapture> m_log;
 };
 
 UIC_TEST_MAIN(tst_QuickDialog)
