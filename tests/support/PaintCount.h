@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QImage>
 #include <QWidget>
 
 /// Counts the pictures that a widget paints.
@@ -18,6 +19,11 @@ public:
 
     int count = 0;
 };
+
+inline QImage pictureOf(QWidget& widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
 
 /// How many pictures of @p widget a change takes, once everything before it is painted.
 template <typename Change>

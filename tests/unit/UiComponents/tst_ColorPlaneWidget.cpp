@@ -37,11 +37,6 @@ void drawRing(QPainter& painter, const QPoint& centre, const QColor& color, int 
     painter.drawEllipse(centre, radius, radius);
 }
 
-QImage pictureOf(QWidget& widget)
-{
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 // The plane of a hue with a ring upon it.
 QImage picture(double hue, const QSize& size, const QPoint& marker, const QColor& ring, int radius = 8,
                int width = 2)

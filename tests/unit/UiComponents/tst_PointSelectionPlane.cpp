@@ -30,11 +30,6 @@ PointSelectionPlanePropertyHelper* styleOf(const QWidget& plane)
     return plane.findChild<PointSelectionPlanePropertyHelper*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-QImage pictureOf(QWidget& widget)
-{
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 /// What a plane of this size looks like with the marker at a pixel, in the colours above.
 QImage picture(const QSize& size, const std::optional<QPointF>& at)
 {
@@ -85,11 +80,6 @@ private:
 QPointF at(int x, int y)
 {
     return {x - 50.0, y * 0.5 + 100.0};
-}
-
-bool isSame(double one, double other)
-{
-    return one == other || (std::isnan(one) && std::isnan(other));
 }
 
 } // namespace
@@ -199,8 +189,8 @@ private Q_SLOTS:
         QFETCH(QPointF, point);
         Plane plane;
         plane.setPoint(point);
-        QVERIFY(isSame(plane.point().x(), point.x()));
-        QVERIFY(isSame(plane.point().y(), point.y()));
+        QCOMPARE(plane.point().x(), point.x());
+        QCOMPARE(plane.point().y(), point.y());
         QCOMPARE(pictureOf(plane), picture(plane.size(), {}));
         press(plane, {30, 20});
         drag(plane, {31, 20});
