@@ -53,6 +53,15 @@ public:
     }
     Q_DISABLE_COPY(SliderField)
 
+    void setRange(int minimum, int maximum)
+    {
+        if (auto* field = qobject_cast<SliderInputWidget*>(widget)) {
+            field->setRange({minimum, maximum});
+        } else if (auto* fractions = qobject_cast<DoubleSliderInputWidget*>(widget)) {
+            fractions->setRange({number(minimum), number(maximum), m_decimals});
+        }
+    }
+
     void setValue(int steps)
     {
         if (auto* field = qobject_cast<SliderInputWidget*>(widget)) {
@@ -72,13 +81,15 @@ public:
         }
     }
 
-    /// Whether both parts have exactly this value.
+    /// Whether the field and both parts have exactly this value.
     bool shows(int steps) const
     {
-        if (const auto* box = qobject_cast<OvSpinBox*>(spinBox)) {
-            return slider->value() == steps && box->value() == steps;
+        if (const auto* field = qobject_cast<SliderInputWidget*>(widget)) {
+            return field->value() == steps && slider->value() == steps &&
+                   qobject_cast<OvSpinBox*>(spinBox)->value() == steps;
         }
         return slider->value() == steps &&
+               qobject_cast<DoubleSliderInputWidget*>(widget)->value() == number(steps) &&
                qobject_cast<OvDoubleSlider*>(slider)->doubleValue() == number(steps) &&
                qobject_cast<OvDoubleSpinBox*>(spinBox)->value() == number(steps);
     }

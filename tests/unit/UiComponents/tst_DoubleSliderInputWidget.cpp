@@ -55,14 +55,6 @@ class tst_DoubleSliderInputWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void construction()
-    {
-        const Field field(-1.0, 1.0, 2);
-        QCOMPARE(field.slider->multiplier(), 0.01);
-        QCOMPARE(field.spinBox->decimals(), 2);
-        QVERIFY(field.spinBox->bothDecimalMarksAccepted());
-    }
-
     void constructionInAForm()
     {
         QWidget form;
@@ -192,28 +184,22 @@ private Q_SLOTS:
         field.grab();
     }
 
-    void setRange_data()
+    void setDecimals_data()
     {
         using Range = DoubleSliderInputWidget::Initializer;
         QTest::addColumn<Range>("range");
         QTest::addColumn<double>("expected");
-        QTest::newRow("the same") << Range{0.0, 1.0, 2} << 0.75;
-        QTest::newRow("wider") << Range{-10.0, 10.0, 2} << 0.75;
         QTest::newRow("more decimals") << Range{0.0, 1.0, 4} << 0.75;
         QTest::newRow("fewer decimals") << Range{0.0, 1.0, 1} << 0.8;
         QTest::newRow("no decimals") << Range{0.0, 5.0, 0} << 1.0;
-        QTest::newRow("below the value") << Range{0.0, 0.5, 2} << 0.5;
-        QTest::newRow("above the value") << Range{2.0, 3.0, 2} << 2.0;
-        QTest::newRow("maximum below minimum") << Range{0.9, 0.1, 2} << 0.9;
     }
 
-    void setRange()
+    void setDecimals()
     {
         QFETCH(DoubleSliderInputWidget::Initializer, range);
         QFETCH(double, expected);
         Field field(0.0, 1.0, 2);
         field.setValue(0.75);
-        QCOMPARE(field.value(), 0.75);
         field.reports();
         field.setRange(range);
         const Field made(range.minimum, range.maximum, range.decimals);
