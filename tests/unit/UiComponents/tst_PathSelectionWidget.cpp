@@ -601,26 +601,6 @@ private Q_SLOTS:
         QCOMPARE(field.path(), "/other");
     }
 
-    void checkFunctionDeletesTheWidget_data()
-    {
-        QTest::addColumn<QString>("error");
-        QTest::newRow("good") << QString();
-        QTest::newRow("wrong") << "wrong";
-    }
-
-    void checkFunctionDeletesTheWidget()
-    {
-        QFETCH(QString, error);
-        QPointer<PathSelectionWidget> field = new PathSelectionWidget(nullptr);
-        field->setPath(m_root);
-        field->setCheckPathFunc([&field, error](const QString& path) {
-            delete field;
-            return path.isEmpty() ? "lost" : error;
-        });
-        QCOMPARE(field->checkPath(), error.isEmpty());
-        QVERIFY(!field);
-    }
-
     void errorIsShown_data()
     {
         QTest::addColumn<int>("type");

@@ -629,19 +629,6 @@ private Q_SLOTS:
         QCOMPARE(partOf<QLabel>(field, "xLabel")->text(), QString());
         QCOMPARE(partOf<QLabel>(field, "yLabel")->text(), QString());
     }
-
-    void disabled()
-    {
-        Field field;
-        press(*field.plane, {30, 40});
-        field.setEnabled(false);
-        QVERIFY(!QWidget::mouseGrabber());
-        field.reports();
-        press(*field.plane, {50, 50});
-        QCOMPARE(field.reports(), Points());
-        field.setValue({1, 2});
-        QCOMPARE(field.plane->point(), QPointF(1, 2));
-    }
 };
 
 UIC_TEST_MAIN(tst_PointSelectorWidget)

@@ -457,16 +457,6 @@ private Q_SLOTS:
         }
     }
 
-    void disabled()
-    {
-        const auto field = makeField(0, 100);
-        field->widget->setEnabled(false);
-        QVERIFY(!field->slider->isEnabled());
-        QVERIFY(!field->spinBox->isEnabled());
-        field->setValue(5);
-        QCOMPARE(field->reports(), Values({5, 5}));
-    }
-
     void sheetSetsMetrics()
     {
         const auto field = makeField(0, 100);
