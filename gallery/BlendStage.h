@@ -20,7 +20,6 @@ public:
     explicit BlendCanvas(QWidget* parent = nullptr);
     ~BlendCanvas() override;
 
-    BlendingMode mode() const { return m_mode; }
     void setMode(BlendingMode mode);
 
     /// The opacity of the layer, 0 to 1.
@@ -46,9 +45,6 @@ class BlendStage : public QWidget
 public:
     explicit BlendStage(QWidget* parent = nullptr);
     ~BlendStage() override;
-
-    ColorBlendingComboBox* comboBox() const { return m_comboBox; }
-    BlendCanvas* canvas() const { return m_canvas; }
 
     /// Sets the mode of both parts.
     void setMode(BlendingMode mode);

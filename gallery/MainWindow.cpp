@@ -209,5 +209,4 @@ void MainWindow::rebuildPage()
     m_pageHolder->layout()->addWidget(m_page);
     m_workbench->setPage(m_page);
     setWindowTitle(tr("%1 – UiComponents Gallery").arg(info->title));
-    Q_EMIT pageShown(m_pageId);
 }

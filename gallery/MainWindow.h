@@ -33,9 +33,6 @@ public:
     /// The present page. A change of page, language or direction deletes it and builds a new one.
     Page* page() const;
 
-    PageList* pageList() const { return m_list; }
-    Workbench* workbench() const { return m_workbench; }
-
     /// An unknown id does nothing.
     void showPage(const QString& id);
 
@@ -45,8 +42,6 @@ public:
     void setDirection(Qt::LayoutDirection direction);
 
 Q_SIGNALS:
-    void pageShown(const QString& id);
-
     /// The user wants the gallery at another scale factor, which Qt reads only when it starts.
     void restartRequested(double scale);
 

@@ -28,7 +28,6 @@ public:
     PickerChoice(const QVector<ColorPickerButton*>& fields, Page* page);
     ~PickerChoice() override;
 
-    Kind kind() const { return m_kind; }
     /// Ends a pick in progress.
     void setKind(Kind kind);
 

@@ -15,7 +15,6 @@ public:
 
     /// Marks the line @p line, from 1, as wrong; 0 takes the mark away.
     void setErrorLine(int line);
-    int errorLine() const { return m_errorLine; }
 
     /// Some lines of code.
     QSize sizeHint() const override;

@@ -61,15 +61,9 @@ void SignalLogView::watch(const QObject* object, const char* name)
 void SignalLogView::addLine(const QString& line)
 {
     m_text->appendPlainText(line);
-    Q_EMIT lineAdded(line);
 }
 
 void SignalLogView::clear()
 {
     m_text->clear();
-}
-
-QStringList SignalLogView::lines() const
-{
-    return m_text->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

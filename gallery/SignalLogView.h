@@ -24,11 +24,6 @@ public:
 
     void clear();
 
-    QStringList lines() const;
-
-Q_SIGNALS:
-    void lineAdded(const QString& line);
-
 private:
     QPlainTextEdit* const m_text;
     SignalLogger* const m_logger;

@@ -11,6 +11,7 @@ public:
     explicit StepBubble(QWidget* target)
         : DialogGuideWidget(target)
     {
+        setObjectName(QStringLiteral("walkBubble"));
         setAttribute(Qt::WA_DeleteOnClose);
     }
 

@@ -34,9 +34,6 @@ public:
     static Walk* start(QWidget* window, const QVector<WalkStep>& steps);
     ~Walk() override;
 
-    /// The bubble of the present step.
-    DialogGuideWidget* bubble() const { return m_bubble; }
-
 private:
     Walk(QWidget* window, QVector<WalkStep> steps);
     QWidget* target(int step) const;

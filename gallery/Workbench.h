@@ -29,9 +29,6 @@ public:
     /// Shows @p widget, or nothing.
     void inspect(QWidget* widget);
 
-    /// The widget that is shown; null when there is none.
-    QWidget* inspected() const { return m_widget; }
-
     /// Becomes visible with the widget that has the keyboard, unless that is one of its own, and has the user
     /// point at another. While the user does, it ends that.
     void point();

@@ -6,7 +6,6 @@
 #include <gallery/GalleryApplication.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Page.h>
-#include <gallery/SignalLogView.h>
 
 namespace {
 
@@ -128,7 +127,9 @@ private:
     QStringList said() const
     {
         QStringList found;
-        const QStringList lines = m_window->page()->signalLog()->lines().filter(QStringLiteral("pipette."));
+        const auto* log = m_window->findChild<QPlainTextEdit*>(QStringLiteral("signalLogText"));
+        const QStringList lines =
+            log->toPlainText().split(QLatin1Char('\n')).filter(QStringLiteral("pipette."));
         for (const QString& line : lines) {
             found.append(line.mid(line.indexOf(QStringLiteral("pipette."))));
         }

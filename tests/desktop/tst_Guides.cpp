@@ -318,8 +318,8 @@ private:
 
     DialogGuideWidget* walkBubble() const
     {
-        const Walk* const walk = m_window->findChild<Walk*>();
-        return walk && walk->bubble() && walk->bubble()->isVisible() ? walk->bubble() : nullptr;
+        auto* bubble = m_window->findChild<DialogGuideWidget*>(QStringLiteral("walkBubble"));
+        return bubble && bubble->isVisible() ? bubble : nullptr;
     }
 
     bool clickOn(const QWidget* parent, const char* name) const

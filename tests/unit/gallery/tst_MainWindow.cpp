@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->state().page, first.id);
         QCOMPARE(m_window->state().style, QStringLiteral("dark"));
         QCOMPARE(shownTitle(), first.title);
-        QCOMPARE(m_window->pageList()->currentPage(), first.id);
+        QCOMPARE(pageList()->currentPage(), first.id);
         QVERIFY(m_window->windowTitle().contains(first.title));
     }
 
@@ -75,16 +75,15 @@ private Q_SLOTS:
     void choosingAPage()
     {
         open();
-        QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
         const QPointer<Page> before = m_window->page();
-        m_window->pageList()->step(1);
-        QCOMPARE(shown.count(), 1);
+        pageList()->step(1);
         QCOMPARE(m_window->state().page, PageRegistry::pages().at(1).id);
         QVERIFY(!before);
         QCOMPARE(m_window->findChildren<Page*>().size(), 1);
 
+        const QPointer<Page> after = m_window->page();
         m_window->showPage(m_window->state().page);
-        QCOMPARE(shown.count(), 1);
+        QVERIFY(after);
     }
 
     void unknownPage()
@@ -128,15 +127,15 @@ private Q_SLOTS:
     {
         open();
         QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
-        QLineEdit* const search = m_window->pageList()->searchField();
+        QLineEdit* const search = pageList()->searchField();
         QCOMPARE(QApplication::focusWidget(), search);
         QTest::keyClicks(search, "ovframe");
-        QCOMPARE(m_window->pageList()->listedPages(), QStringList{"frame"});
+        QCOMPARE(pageList()->listedPages(), QStringList{"frame"});
         QTest::keyClick(search, Qt::Key_Return);
         QCOMPARE(m_window->state().page, QStringLiteral("frame"));
         QTest::keyClick(search, Qt::Key_Escape);
-        QCOMPARE(m_window->pageList()->listedPages().size(), PageRegistry::pages().size());
-        QCOMPARE(m_window->pageList()->currentPage(), QStringLiteral("frame"));
+        QCOMPARE(pageList()->listedPages().size(), PageRegistry::pages().size());
+        QCOMPARE(pageList()->currentPage(), QStringLiteral("frame"));
         QTest::keyClick(search, Qt::Key_Down);
         QVERIFY(m_window->state().page != "frame");
     }
@@ -144,16 +143,16 @@ private Q_SLOTS:
     void searchThatHidesTheCurrentPage()
     {
         open();
-        QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
+        const QPointer<Page> page = m_window->page();
         const QString before = m_window->state().page;
-        m_window->pageList()->searchField()->setText("zebra");
-        QCOMPARE(m_window->pageList()->listedPages(), QStringList());
-        QCOMPARE(m_window->pageList()->currentPage(), QString());
-        QTest::keyClick(m_window->pageList()->searchField(), Qt::Key_Down);
+        pageList()->searchField()->setText("zebra");
+        QCOMPARE(pageList()->listedPages(), QStringList());
+        QCOMPARE(pageList()->currentPage(), QString());
+        QTest::keyClick(pageList()->searchField(), Qt::Key_Down);
         QCOMPARE(m_window->state().page, before);
-        m_window->pageList()->searchField()->clear();
-        QCOMPARE(m_window->pageList()->currentPage(), before);
-        QCOMPARE(shown.count(), 0);
+        pageList()->searchField()->clear();
+        QCOMPARE(pageList()->currentPage(), before);
+        QVERIFY(page);
     }
 
     void languageRebuildsThePage()
@@ -175,13 +174,12 @@ private Q_SLOTS:
     void directionRebuildsThePage()
     {
         open();
-        QSignalSpy shown(m_window.get(), &MainWindow::pageShown);
         button("directionSwitch", "RTL")->click();
         QCOMPARE(m_window->state().direction, Qt::RightToLeft);
         QCOMPARE(m_window->page()->layoutDirection(), Qt::RightToLeft);
-        QCOMPARE(shown.count(), 1);
+        const QPointer<Page> page = m_window->page();
         m_window->setDirection(Qt::RightToLeft);
-        QCOMPARE(shown.count(), 1);
+        QVERIFY(page);
         button("directionSwitch", "LTR")->click();
         QCOMPARE(m_window->state().direction, Qt::LeftToRight);
     }
@@ -254,9 +252,9 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         const auto* list = m_window->findChild<QListWidget*>("pageList");
         QVERIFY(list->sizeHintForColumn(0) <= list->viewport()->width());
-        m_window->pageList()->searchField()->setText("slider");
+        pageList()->searchField()->setText("slider");
         const int width = list->width();
-        m_window->pageList()->searchField()->clear();
+        pageList()->searchField()->clear();
         QCOMPARE(list->width(), width);
     }
 
@@ -323,7 +321,7 @@ private Q_SLOTS:
         start.page = "dialog-guide";
         open(start);
         m_window->page()->properties()->findChild<QPushButton*>()->click();
-        QVERIFY(m_window->pageList()->searchField()->findChild<DialogGuideWidget*>());
+        QVERIFY(pageList()->searchField()->findChild<DialogGuideWidget*>());
         m_window.reset();
     }
 
@@ -334,6 +332,8 @@ private:
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
+
+    PageList* pageList() const { return m_window->findChild<PageList*>(); }
 
     QAbstractButton* button(const QString& group, const QString& text) const
     {

@@ -159,18 +159,17 @@ private Q_SLOTS:
     void viewShowsAndClears()
     {
         SignalLogView view;
-        QSignalSpy added(&view, &SignalLogView::lineAdded);
+        const auto* text = view.findChild<QPlainTextEdit*>();
         Sender sender;
         view.watch(&sender, "s");
         Q_EMIT sender.numbers(1, 2);
         view.addLine(QStringLiteral("own"));
-        QCOMPARE(view.lines(), (QStringList{"s.numbers(1, 2)", "own"}));
-        QCOMPARE(added.count(), 2);
+        QCOMPARE(text->toPlainText(), QStringLiteral("s.numbers(1, 2)\nown"));
 
         view.findChild<QToolButton*>(QStringLiteral("clearSignals"))->click();
-        QCOMPARE(view.lines(), QStringList());
+        QCOMPARE(text->toPlainText(), QString());
         Q_EMIT sender.nothing();
-        QCOMPARE(view.lines(), QStringList{"s.nothing()"});
+        QCOMPARE(text->toPlainText(), QStringLiteral("s.nothing()"));
     }
 
     void aChildOfTheViewThatEmitsWhileItDies()
