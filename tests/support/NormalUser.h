@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QByteArray>
+#include <QFile>
+
 #include <functional>
 #include <grp.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,6 +36,22 @@ inline Answer askInChild(const std::function<bool()>& setUp, const std::function
     default:
         return Answer::Unknown;
     }
+}
+
+/// Mounts an empty file system for this process alone, so that nothing is left when it dies. False where a
+/// user may not.
+inline bool mountEmpty(const QByteArray& folder, unsigned long flags = 0)
+{
+    const uid_t user = getuid();
+    if (unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0) {
+        return false;
+    }
+    QFile map(QStringLiteral("/proc/self/uid_map"));
+    const bool isMapped = user == 0 || (map.open(QIODevice::WriteOnly) &&
+                                        map.write("0 " + QByteArray::number(user) + " 1") > 0);
+    map.close();
+    return isMapped && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           mount("none", folder.constData(), "tmpfs", flags, "mode=0777") == 0;
 }
 
 /// Runs @p question as a user without privileges: directly where the tests run as one, and otherwise in a

@@ -4,8 +4,6 @@
 
 #include <EditorUtility/FileUtil.h>
 
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 
 using FileUtil::Read;
@@ -435,22 +433,10 @@ private Q_SLOTS:
         QVERIFY(FileUtil::isOperationAllowed(folder, Read));
     }
 
-    // Mounted for a child process alone, so that nothing is left when the test dies.
     void readOnlyFileSystem()
     {
         const QByteArray folder = QFile::encodeName(at(QStringLiteral("folder")));
-        const auto mountReadOnly = [&folder, user = getuid()] {
-            const bool isRoot = user == 0;
-            if (unshare(isRoot ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0) {
-                return false;
-            }
-            QFile map(QStringLiteral("/proc/self/uid_map"));
-            const bool isMapped = isRoot || (map.open(QIODevice::WriteOnly) &&
-                                             map.write("0 " + QByteArray::number(user) + " 1") > 0);
-            map.close();
-            return isMapped && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                   mount("none", folder.constData(), "tmpfs", MS_RDONLY, "mode=0777") == 0;
-        };
+        const auto mountReadOnly = [&folder] { return mountEmpty(folder, MS_RDONLY); };
         const auto ask = [&](FileUtil::Operations operations) {
             return askInChild(mountReadOnly, [&] {
                 return FileUtil::isOperationAllowed(QFile::decodeName(folder), operations);
