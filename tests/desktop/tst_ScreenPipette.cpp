@@ -563,8 +563,7 @@ private Q_SLOTS:
     void anotherVirtualDesktopEndsThePick()
     {
         const auto goTo = [](const QString& desktop) {
-            return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("set_desktop"), desktop}) ==
-                   0;
+            return RealInput::xdotool(QStringLiteral("set_desktop ") + desktop);
         };
         QVERIFY(start());
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());

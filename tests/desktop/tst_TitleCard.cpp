@@ -409,9 +409,7 @@ private:
     static bool clickWithControl(const QWidget* widget, const QPoint& point)
     {
         return RealInput::moveTo(widget, point) &&
-               QProcess::execute(QStringLiteral("xdotool"),
-                                 {QStringLiteral("keydown"), QStringLiteral("ctrl"), QStringLiteral("click"),
-                                  QStringLiteral("1"), QStringLiteral("keyup"), QStringLiteral("ctrl")}) == 0;
+               RealInput::xdotool(QStringLiteral("keydown ctrl click 1 keyup ctrl"));
     }
 
     /// By the keyboard alone.

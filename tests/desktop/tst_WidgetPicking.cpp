@@ -233,11 +233,10 @@ private Q_SLOTS:
         const QPoint before = nativeCorner(&window);
         for (int shift = 1; shift <= 3; ++shift) {
             const QPoint place = before + QPoint(shift, shift);
-            QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
-                                       {QStringLiteral("windowmove"), QStringLiteral("--sync"),
-                                        QString::number(window.winId()), QString::number(place.x()),
-                                        QString::number(place.y())}),
-                     0);
+            QVERIFY(RealInput::xdotool(QStringLiteral("windowmove --sync %1 %2 %3")
+                                           .arg(window.winId())
+                                           .arg(place.x())
+                                           .arg(place.y())));
             // Qt gets no event of the move: what the pickers remember of the last outline is to be over.
             QTest::qWait(1100);
             const QPoint corner = place + inWindow;
@@ -347,10 +346,7 @@ private Q_SLOTS:
         QSignalSpy started(m_button.data(), &WidgetColorPickerButton::pickingStarted);
         QSignalSpy finished(m_button.data(), &WidgetColorPickerButton::pickingFinished);
         QVERIFY(RealInput::moveTo(m_button, m_button->rect().center()));
-        QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
-                                   {QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
-                                    QStringLiteral("--delay"), QStringLiteral("30"), QStringLiteral("1")}),
-                 0);
+        QVERIFY(RealInput::xdotool(QStringLiteral("click --repeat 2 --delay 30 1")));
         QTRY_COMPARE(finished.size(), 1);
         QVERIFY(!m_button->isDown());
         QSignalSpy otherClicked(m_other, &QAbstractButton::clicked);
@@ -525,12 +521,9 @@ private:
     QColor pickAtNative(const QPoint& place, bool isByKey)
     {
         return pickWith([isByKey, place] {
-            QStringList input = {QStringLiteral("mousemove"), QString::number(place.x()),
-                                 QString::number(place.y())};
-            input += isByKey ? QStringList({QStringLiteral("key"), QStringLiteral("Escape")})
-                             : QStringList({QStringLiteral("click"), QStringLiteral("--delay"),
-                                            QStringLiteral("0"), QStringLiteral("1")});
-            QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), input), 0);
+            const auto end = isByKey ? QStringLiteral("key Escape") : QStringLiteral("click --delay 0 1");
+            QVERIFY(RealInput::xdotool(
+                QStringLiteral("mousemove %1 %2 %3").arg(place.x()).arg(place.y()).arg(end)));
         });
     }
 

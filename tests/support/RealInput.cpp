@@ -21,11 +21,6 @@ constexpr int dragSteps = 8;
 /// For what a busy machine does late, in ms.
 constexpr int patience = 30000;
 
-bool xdotool(const QStringList& arguments)
-{
-    return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
-}
-
 /// Moves to @p place of the screen, where the point @p target of the desktop is.
 bool moveAndWait(const QPoint& place, const QPoint& target)
 {
@@ -37,7 +32,7 @@ bool moveAndWait(const QPoint& place, const QPoint& target)
     // Qt asks the server for the position. The events that are on their way by then are handled before
     // the next move, or Qt would make one of the two.
     const bool hasArrived =
-        xdotool({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())}) &&
+        RealInput::xdotool(QStringLiteral("mousemove %1 %2").arg(place.x()).arg(place.y())) &&
         QTest::qWaitFor([target] { return QCursor::pos() == target; }, patience);
     QCoreApplication::processEvents();
     return hasArrived;
@@ -47,8 +42,7 @@ bool pressButton(bool down)
 {
     return WaylandInput::isRunning()
                ? WaylandInput::pressButton(down)
-               : xdotool(
-                     {down ? QStringLiteral("mousedown") : QStringLiteral("mouseup"), QStringLiteral("1")});
+               : RealInput::xdotool(down ? QStringLiteral("mousedown 1") : QStringLiteral("mouseup 1"));
 }
 
 } // namespace
@@ -79,8 +73,7 @@ bool RealInput::click(const QWidget* widget, const QPoint& point)
         return false;
     }
     return WaylandInput::isRunning() ? pressButton(true) && pressButton(false)
-                                     : xdotool({QStringLiteral("click"), QStringLiteral("--delay"),
-                                                QStringLiteral("0"), QStringLiteral("1")});
+                                     : xdotool(QStringLiteral("click --delay 0 1"));
 }
 
 bool RealInput::click(const QWidget* widget)
@@ -123,10 +116,9 @@ bool RealInput::wheel(const QWidget* widget, const QPoint& point, int notches)
         return moveTo(widget, point) && WaylandInput::turnWheel(notches);
     }
     // X has no wheel: buttons 4 and 5 are its two directions.
-    const QString button = notches > 0 ? QStringLiteral("4") : QStringLiteral("5");
+    const int button = notches > 0 ? 4 : 5;
     return moveTo(widget, point) &&
-           xdotool({QStringLiteral("click"), QStringLiteral("--delay"), QStringLiteral("0"),
-                    QStringLiteral("--repeat"), QString::number(qAbs(notches)), button});
+           xdotool(QStringLiteral("click --delay 0 --repeat %1 %2").arg(qAbs(notches)).arg(button));
 }
 
 bool RealInput::type(const QString& text)
@@ -134,12 +126,18 @@ bool RealInput::type(const QString& text)
     if (WaylandInput::isRunning()) {
         return WaylandInput::type(text);
     }
-    return xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+    return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("type"), QStringLiteral("--delay"),
+                                                         QStringLiteral("5"), text}) == 0;
 }
 
 bool RealInput::key(const QString& name)
 {
-    return WaylandInput::isRunning() ? WaylandInput::key(name) : xdotool({QStringLiteral("key"), name});
+    return WaylandInput::isRunning() ? WaylandInput::key(name) : xdotool(QStringLiteral("key ") + name);
+}
+
+bool RealInput::xdotool(const QString& commands)
+{
+    return QProcess::execute(QStringLiteral("xdotool"), commands.split(QLatin1Char(' '))) == 0;
 }
 
 QColor RealInput::pixel(const QWidget* widget, const QPoint& point)

@@ -42,6 +42,9 @@ bool type(const QString& text);
 /// Presses and releases a key or a chord under its X name: "Escape", "ctrl+a".
 bool key(const QString& name);
 
+/// Has X's tool for input run @p commands, with a space between any two words. Not on Wayland.
+bool xdotool(const QString& commands);
+
 /// What the screen shows at @p point, after all windows were composed. Invalid outside of all screens.
 QColor pixel(const QWidget* widget, const QPoint& point);
 
