@@ -1,4 +1,5 @@
 #include "MouseEvents.h"
+#include "Part.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselElegantSlider.h>
@@ -11,20 +12,14 @@ using Colors = QVector<QColor>;
 
 namespace {
 
-template <typename Child>
-Child* childOf(const QWidget& parent, const char* name)
-{
-    return parent.findChild<Child*>(QLatin1String(name));
-}
-
 /// A selector that records what it reports, with a plane of at least 101 × 51 pixels.
 class Selector : public CustomColorSelectWidget
 {
 public:
     explicit Selector(QWidget* parent = nullptr)
         : CustomColorSelectWidget(parent)
-        , plane(childOf<ColorPlaneWidget>(*this, "colorPlane"))
-        , slider(childOf<QSlider>(*this, "hueSlider"))
+        , plane(partOf<ColorPlaneWidget>(*this, "colorPlane"))
+        , slider(partOf<QSlider>(*this, "hueSlider"))
     {
         plane->setFixedSize(101, 51);
         adjustSize();
@@ -84,24 +79,24 @@ private Q_SLOTS:
     void construction()
     {
         const CustomColorSelectWidget selector;
-        const auto* slider = childOf<Orvane::Tessel::TesselElegantSlider>(selector, "hueSlider");
+        const auto* slider = partOf<Orvane::Tessel::TesselElegantSlider>(selector, "hueSlider");
         QCOMPARE(slider->orientation(), Qt::Horizontal);
         QCOMPARE(slider->minimum(), 0);
         QCOMPARE(slider->maximum(), 359);
         QCOMPARE(slider->value(), 0);
-        QCOMPARE(childOf<QLabel>(selector, "hueLabel")->text(), QStringLiteral("Hue"));
+        QCOMPARE(partOf<QLabel>(selector, "hueLabel")->text(), QStringLiteral("Hue"));
     }
 
     void languageChanges()
     {
         const CustomColorSelectWidget selector;
-        const auto* label = childOf<QLabel>(selector, "hueLabel");
+        const auto* label = partOf<QLabel>(selector, "hueLabel");
         {
             HueTranslator translator;
             QCoreApplication::installTranslator(&translator);
             QCoreApplication::processEvents();
             QCOMPARE(label->text(), QStringLiteral("Farbton"));
-            QCOMPARE(childOf<QLabel>(CustomColorSelectWidget(), "hueLabel")->text(),
+            QCOMPARE(partOf<QLabel>(CustomColorSelectWidget(), "hueLabel")->text(),
                      QStringLiteral("Farbton"));
             QCoreApplication::removeTranslator(&translator);
         }
@@ -112,7 +107,7 @@ private Q_SLOTS:
     void labelBelongsToTheSlider()
     {
         const Selector selector;
-        QCOMPARE(childOf<QLabel>(selector, "hueLabel")->buddy(), selector.slider);
+        QCOMPARE(partOf<QLabel>(selector, "hueLabel")->buddy(), selector.slider);
     }
 
     void startsWithoutAPlane()
