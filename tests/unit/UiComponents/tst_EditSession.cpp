@@ -1023,7 +1023,6 @@ private Q_SLOTS:
         Stage stage(kinds().at(kind));
         QVERIFY(!stage.session->isMultiValue());
         stage.session->setMultiValue(true);
-        const auto edits = stage.field->findChildren<QLineEdit*>();
         const auto isShown = [&stage] {
             const auto parts = stage.field->findChildren<QWidget*>() << stage.field;
             bool isCovered = true;
