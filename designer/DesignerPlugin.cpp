@@ -125,7 +125,7 @@ const ComponentInfo components[] = {
      "The blending modes of a layer, sorted by their names in the user's language.",
      make<ColorBlendingComboBox>},
     {product, "WidgetColorPickerButton", colours, QSize(24, 24), "Button that picks a colour from a widget",
-     "Picks a colour from its target and wears it. Name the target in code with setTargetWidget().",
+     "Picks a colour from its target and shows it. Name the target in code with setTargetWidget().",
      make<WidgetColorPickerButton>},
 
     {product, "SliderInputWidget", inputs, field, "Slider and spin box for a whole number",

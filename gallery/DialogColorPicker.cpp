@@ -20,8 +20,8 @@ void DialogColorPicker::pick()
     if (m_isPicking || !m_field) {
         return;
     }
-    // The field tells its picker of definite colours only: a mixed one has to be asked for, or a
-    // cancelled pick would turn it into the colour before.
+    // The field does not pass a mixed colour, which has to be read, or a cancelled pick would turn it into
+    // the colour before.
     if (const auto* button = qobject_cast<ColorPickerButton*>(m_field.data())) {
         m_color = button->color();
     }

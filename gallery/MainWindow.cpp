@@ -173,7 +173,7 @@ void MainWindow::addShortcuts()
     add(QKeySequence::Find, [this] { m_list->searchField()->setFocus(Qt::ShortcutFocusReason); });
     add(QKeySequence(Qt::CTRL + Qt::Key_PageDown), [this] { m_list->step(1); });
     add(QKeySequence(Qt::CTRL + Qt::Key_PageUp), [this] { m_list->step(-1); });
-    // A bubble takes the keyboard from nobody by itself.
+    // A bubble does not take the focus by itself.
     add(QKeySequence(Qt::Key_F6), [this] {
         const auto bubbles = findChildren<DialogGuideWidget*>();
         for (DialogGuideWidget* bubble : bubbles) {

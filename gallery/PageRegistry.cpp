@@ -142,14 +142,14 @@ QVector<PageInfo> PageRegistry::pages()
             &clipProperties),
         row("edit-session", PageGroup::Inputs, tr("One edit, one step"),
             tr("A session tells what a user does to a field as one story, from the first change to the end "
-               "of "
-               "the drag, the text or the pick. Here each becomes one step of undo. Escape takes it back."),
+               "of the drag, the text or the pick. Here each becomes one step of undo. Escape takes it "
+               "back."),
             {tr("undo"), tr("redo"), tr("several values"), tr("drag"), tr("typing")},
             "EditSession EditCommand", &editSession),
         row("title-card", PageGroup::Inputs, tr("Title cards"),
             tr("An application in miniature, to be read in examples/titlecard: an inspector of several "
-               "cards, "
-               "undo and redo of everything, presets, a tour, a QML dialog, and pictures of the canvas."),
+               "cards, undo and redo of everything, presets, a tour, a QML dialog, and pictures of the "
+               "canvas."),
             {tr("undo"), tr("several values"), tr("application"), tr("tour"), tr("export")},
             "EditSession EditCommand", &titleCard),
         row("frame", PageGroup::Layout, tr("Frame and layout controller"),
@@ -188,8 +188,8 @@ QVector<PageInfo> PageRegistry::pages()
             tr("Outlines a widget without its notice: it follows the target through moves, resizes and "
                "hiding, lies over all its children and takes neither mouse nor focus."),
             {tr("outline"), tr("overlay")}, "HighlightFrame", &highlightFrame),
-        row("pixmap-widget", PageGroup::Bubbles, tr("Animated image"),
-            tr("Plays an animated image in the size of the widget, keeps its proportions, stays sharp on "
+        row("pixmap-widget", PageGroup::Bubbles, tr("Animated picture"),
+            tr("Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on "
                "scaled screens and rests while it is hidden."),
             {tr("movie"), QStringLiteral("GIF"), tr("animation")}, "OvPixmapWidget", &pixmapWidget),
         row("guide", PageGroup::Guides, tr("Guide"),
@@ -206,9 +206,9 @@ QVector<PageInfo> PageRegistry::pages()
             {tr("help"), tr("bubble"), tr("tour"), tr("animation")}, "DialogGuideWidget DialogGuideInfo",
             &dialogGuide),
         row("qml-dialog", PageGroup::Guides, tr("QML dialog"),
-            tr("A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first "
-               "runs. The scene knows the dialog as \"callback\" and ends it. Change the source and open "
-               "it."),
+            tr("A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog "
+               "first runs. The scene knows the dialog as \"callback\" and ends it. Change the source and "
+               "open it."),
             {QStringLiteral("QML"), tr("dialog"), tr("confirmation"), tr("form"), tr("scene")},
             "QuickDialog QuickContent SheetColors", &qmlDialog),
         row("services", PageGroup::Services, tr("Platform services"),

@@ -59,7 +59,7 @@ void PickerChoice::installPickers()
             picker = panelPicker;
         } else {
             picker = new DialogColorPicker(field);
-            // The field tells its picker only of changes.
+            // The field only passes changes to its picker.
             picker->setColor(field->color());
         }
         field->setPicker(picker);

@@ -15,7 +15,7 @@ struct StyleSheet;
 /**
  * The text of a style sheet, read with Qt's own parser, and the lines of what is in it. Lines count from 1.
  *
- * It is stricter than Qt, which leaves out in silence what it cannot read inside a rule.
+ * It is stricter than Qt, which silently ignores what it cannot read inside a rule.
  */
 class SheetText
 {

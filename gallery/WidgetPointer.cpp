@@ -97,7 +97,7 @@ void WidgetPointer::setPointing(bool on)
 void WidgetPointer::pointAt(QWidget* widget)
 {
     if (widget != m_widget) {
-        // The outline is a child of the widget that it is around: whoever is told sees none.
+        // Removed before the signal: the outline is a child of the widget.
         m_frame.reset();
         m_widget = widget;
         Q_EMIT pointedAt(widget);

@@ -688,11 +688,11 @@
         <translation>تراكب</translation>
     </message>
     <message>
-        <source>Animated image</source>
+        <source>Animated picture</source>
         <translation>صورة متحركة</translation>
     </message>
     <message>
-        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <source>Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
         <translation>يشغّل صورة متحركة بحجم العنصر، ويحفظ تناسبها، ويبقى حادًا على الشاشات المكبّرة، ويستريح وهو مخفي.</translation>
     </message>
     <message>
@@ -744,7 +744,7 @@
         <translation>مربع حوار QML</translation>
     </message>
     <message>
-        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <source>A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
         <translation>مربع حوار مشروط وجهه كله مشهد QML: ملف يُحمَّل عند أول تشغيل للمربع. يعرف المشهد المربع باسم &quot;callback&quot; وينهيه. غيّر المصدر وافتحه.</translation>
     </message>
     <message>
@@ -1680,7 +1680,7 @@
         <translation>عدسة القطارة، وتحمل الخاصية roundedEdges. يُرسم حدها فوق الصورة؛ ويجب أن تكون خلفيتها شفافة. النوافذ التي تغطي الشاشات أثناء ذلك من الصنف PipetteScreenView: وخصائصه cursorPixmap وcursorSize وcursorHotSpot هي مؤشر الالتقاط.</translation>
     </message>
     <message>
-        <source>A button that wears its colour</source>
+        <source>A button that shows its colour</source>
         <translation>زر يرتدي لونه</translation>
     </message>
     <message>

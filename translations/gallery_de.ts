@@ -688,11 +688,11 @@
         <translation>Überlagerung</translation>
     </message>
     <message>
-        <source>Animated image</source>
+        <source>Animated picture</source>
         <translation>Animiertes Bild</translation>
     </message>
     <message>
-        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <source>Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
         <translation>Spielt ein animiertes Bild in der Größe des Widgets, wahrt die Proportionen, bleibt auf skalierten Bildschirmen scharf und ruht, solange es verborgen ist.</translation>
     </message>
     <message>
@@ -744,7 +744,7 @@
         <translation>QML-Dialog</translation>
     </message>
     <message>
-        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <source>A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
         <translation>Ein modaler Dialog, dessen ganze Fläche eine QML-Szene ist: eine Datei, die geladen wird, wenn der Dialog zum ersten Mal läuft. Die Szene kennt den Dialog als „callback“ und beendet ihn. Ändern Sie die Quelle und öffnen Sie ihn.</translation>
     </message>
     <message>
@@ -1680,7 +1680,7 @@
         <translation>Die Lupe der Pipette, mit der Eigenschaft roundedEdges. Ihr Rand wird über das Bild gezeichnet; ihr Hintergrund muss durchsichtig sein. Die Fenster, die währenddessen die Bildschirme bedecken, sind von der Klasse PipetteScreenView: Deren cursorPixmap, cursorSize und cursorHotSpot sind der Mauszeiger beim Aufnehmen.</translation>
     </message>
     <message>
-        <source>A button that wears its colour</source>
+        <source>A button that shows its colour</source>
         <translation>Ein Knopf, der seine Farbe trägt</translation>
     </message>
     <message>

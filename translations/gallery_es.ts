@@ -688,11 +688,11 @@
         <translation>superposición</translation>
     </message>
     <message>
-        <source>Animated image</source>
+        <source>Animated picture</source>
         <translation>Imagen animada</translation>
     </message>
     <message>
-        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <source>Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
         <translation>Reproduce una imagen animada al tamaño del widget, conserva sus proporciones, es nítida en pantallas escaladas y descansa mientras está oculta.</translation>
     </message>
     <message>
@@ -744,7 +744,7 @@
         <translation>Diálogo QML</translation>
     </message>
     <message>
-        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <source>A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
         <translation>Un diálogo modal cuya cara entera es una escena QML: un archivo que se carga cuando el diálogo se ejecuta por primera vez. La escena conoce el diálogo como «callback» y lo termina. Cambie la fuente y ábralo.</translation>
     </message>
     <message>
@@ -1680,7 +1680,7 @@
         <translation>La lupa del cuentagotas, que lleva la propiedad roundedEdges. Su borde se dibuja sobre la imagen; su fondo debe ser transparente. Las ventanas que cubren entretanto las pantallas son de la clase PipetteScreenView: sus cursorPixmap, cursorSize y cursorHotSpot son el puntero de la toma.</translation>
     </message>
     <message>
-        <source>A button that wears its colour</source>
+        <source>A button that shows its colour</source>
         <translation>Un botón que lleva su color</translation>
     </message>
     <message>

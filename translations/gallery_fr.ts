@@ -688,11 +688,11 @@
         <translation>superposition</translation>
     </message>
     <message>
-        <source>Animated image</source>
+        <source>Animated picture</source>
         <translation>Image animée</translation>
     </message>
     <message>
-        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <source>Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
         <translation>Joue une image animée à la taille du widget, garde ses proportions, reste nette sur les écrans à l’échelle et se repose quand elle est cachée.</translation>
     </message>
     <message>
@@ -744,7 +744,7 @@
         <translation>Dialogue QML</translation>
     </message>
     <message>
-        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <source>A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
         <translation>Un dialogue modal dont toute la face est une scène QML&#xa0;: un fichier chargé à la première exécution. La scène connaît le dialogue sous le nom de «&#xa0;callback&#xa0;» et y met fin. Modifiez la source et ouvrez-le.</translation>
     </message>
     <message>
@@ -1680,7 +1680,7 @@
         <translation>La loupe de la pipette, qui porte la propriété roundedEdges. Sa bordure est dessinée par-dessus l’image&#xa0;; son fond doit être transparent. Les fenêtres qui couvrent alors les écrans sont de la classe PipetteScreenView&#xa0;: ses cursorPixmap, cursorSize et cursorHotSpot sont le pointeur du prélèvement.</translation>
     </message>
     <message>
-        <source>A button that wears its colour</source>
+        <source>A button that shows its colour</source>
         <translation>Un bouton qui porte sa couleur</translation>
     </message>
     <message>

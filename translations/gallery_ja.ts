@@ -688,11 +688,11 @@
         <translation>重ね表示</translation>
     </message>
     <message>
-        <source>Animated image</source>
+        <source>Animated picture</source>
         <translation>アニメーション画像</translation>
     </message>
     <message>
-        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <source>Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
         <translation>アニメーション画像をウィジェットの大きさで再生します。縦横比を保ち、拡大された画面でも鮮明で、隠れている間は休みます。</translation>
     </message>
     <message>
@@ -744,7 +744,7 @@
         <translation>QML ダイアログ</translation>
     </message>
     <message>
-        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <source>A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
         <translation>全面が QML シーンのモーダルダイアログです。シーンはダイアログの初回実行時に読み込まれるファイルで、ダイアログを「callback」として参照し、終了させます。ソースを変えて開いてみてください。</translation>
     </message>
     <message>
@@ -1680,7 +1680,7 @@
         <translation>スポイトのルーペで、プロパティ roundedEdges を持ちます。境界線は画像の上に描画され、背景は透明でなければなりません。その間画面を覆うウィンドウのクラスは PipetteScreenView で、cursorPixmap、cursorSize、cursorHotSpot が取得中のカーソルを決めます。</translation>
     </message>
     <message>
-        <source>A button that wears its colour</source>
+        <source>A button that shows its colour</source>
         <translation>取得した色になるボタン</translation>
     </message>
     <message>

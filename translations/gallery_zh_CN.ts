@@ -688,11 +688,11 @@
         <translation>覆盖层</translation>
     </message>
     <message>
-        <source>Animated image</source>
+        <source>Animated picture</source>
         <translation>动画图像</translation>
     </message>
     <message>
-        <source>Plays an animated image in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
+        <source>Plays an animated picture in the size of the widget, keeps its proportions, stays sharp on scaled screens and rests while it is hidden.</source>
         <translation>以控件的大小播放动画图像，保持比例，在缩放屏幕上保持清晰，隐藏时停止。</translation>
     </message>
     <message>
@@ -744,7 +744,7 @@
         <translation>QML 对话框</translation>
     </message>
     <message>
-        <source>A modal dialog whose whole face is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
+        <source>A modal dialog whose whole content is a QML scene: a file that is loaded when the dialog first runs. The scene knows the dialog as &quot;callback&quot; and ends it. Change the source and open it.</source>
         <translation>整个界面都是 QML 场景的模态对话框：对话框首次运行时加载文件。场景以“callback”之名认识对话框并结束它。可更改源并打开。</translation>
     </message>
     <message>
@@ -1680,7 +1680,7 @@
         <translation>取色器的放大镜，带有 roundedEdges 属性。其边框绘制在图片之上；背景必须透明。其间覆盖屏幕的窗口属于 PipetteScreenView 类：其 cursorPixmap、cursorSize 和 cursorHotSpot 是拾取光标。</translation>
     </message>
     <message>
-        <source>A button that wears its colour</source>
+        <source>A button that shows its colour</source>
         <translation>显示自身颜色的按钮</translation>
     </message>
     <message>

@@ -148,7 +148,7 @@ void PageRegistry::widgetColorPicker(Page* page)
     auto* film = new PreviewScreen(page);
     page->addDemonstration(tr("The target"), film);
     const auto buttons = page->addTwins<WidgetColorPickerButton>(
-        tr("A button that wears its colour"), [film, sample](WidgetColorPickerButton* button) {
+        tr("A button that shows its colour"), [film, sample](WidgetColorPickerButton* button) {
             button->setAccessibleName(tr("Pick a colour from the film"));
             button->setTargetWidget(film);
             button->setPickerStylingObject(look());

@@ -32,7 +32,7 @@ void send(QWidget* widget, int index)
 #if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
     QAccessibleValueChangeEvent event(interface, interface->text(QAccessible::Value));
 #else
-    // AT-SPI has no values in text, and Qt's bridge complains of one. The description says it too.
+    // AT-SPI has no values in text, and Qt's bridge warns about one. The description has it too.
     QAccessibleEvent event(interface, QAccessible::DescriptionChanged);
 #endif
     QAccessible::updateAccessibility(&event);
@@ -51,7 +51,7 @@ public:
         return running;
     }
 
-    /// At once, if there is no drag.
+    /// At once without a drag.
     void say(QWidget* widget, int index)
     {
         const bool isDragging = QGuiApplication::mouseButtons() != Qt::NoButton;
@@ -88,8 +88,8 @@ private:
     {
     }
 
-    /// With any event: the release of a button over a window that has died comes to nobody. Qt then takes the
-    /// button for pressed until the next press, but not in the moves before it.
+    /// Checked on any event: a release over a destroyed window is not delivered. Qt then considers the button
+    /// pressed until the next press, but not in the moves before it.
     static bool isUp(const QEvent& event)
     {
         return QGuiApplication::mouseButtons() == Qt::NoButton ||

@@ -6,12 +6,12 @@ class QWidget;
 
 namespace AccessibleEvents {
 
-/// Says that @p widget shows another value, or the child @p index of its accessible interface, if it is not
-/// negative. Nothing is done while nobody listens. While a mouse button is down, as in a drag, it is said
-/// once when the button is up again, however often the value changed.
+/// Sends an event for the new value of @p widget, or of the child @p index of its accessible interface, if it
+/// is not negative. Does nothing while accessibility is inactive. While a mouse button is down, as in a drag,
+/// the event is held back and sent once, on release.
 void valueChanged(QWidget* widget, int index = -1);
 
-/// Says that the description of @p widget, or its state, is another one, and that it should be read now.
+/// Sends DescriptionChanged and Alert for @p widget, so that its new state is read now.
 void alert(QWidget* widget);
 
 } // namespace AccessibleEvents

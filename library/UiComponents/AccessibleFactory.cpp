@@ -33,7 +33,7 @@ public:
 
     void renew()
     {
-        // Qt forgets all factories with the application.
+        // Qt drops all factories with the application.
         if (m_application != QCoreApplication::instance()) {
             m_application = QCoreApplication::instance();
             // The toolkit's, which its first slider installs, has to be there before.
@@ -133,7 +133,7 @@ QAccessibleInterface* AccessibleFactory::interfaceFor(const QString& className, 
     if (className == QLatin1String("PointingWidget") || isSelector || isColorPopup) {
         return new AccessiblePopup(widget);
     }
-    // Qt comes again for each class above, also while nobody listens.
+    // Qt calls this for each base class too, even while accessibility is inactive.
     const bool isAsked = className == QLatin1String(widget->metaObject()->className());
     const bool isPart = isAsked && (dynamic_cast<ColorButton*>(widget) || AccessibleNames::hasEntry(widget));
     return isPart ? partFor(className, widget) : nullptr;

@@ -15,9 +15,9 @@ struct PartName
 {
     const char* component;
     const char* part;
-    // Null for the part that the component is there for, and is called the same.
+    // Null for the main part, which has the component's name.
     const char* name;
-    // Whether it says nothing without the component's name.
+    // Whether it is meaningless without the component's name.
     bool isJoined = false;
     const char* hint = nullptr;
 };

@@ -74,7 +74,7 @@ QLabel* messageOf(const QWidget* field)
     return label && !label->isHidden() ? label : nullptr;
 }
 
-/// What @p field says to be wrong, below itself or in the tool tip of @p edit.
+/// The error message of @p field, below it or in the tool tip of @p edit.
 QString errorOf(const QWidget* field, const QWidget* edit)
 {
     if (const QLabel* const label = messageOf(field)) {
@@ -101,7 +101,7 @@ AccessiblePart::relations(QAccessible::Relation match) const
 {
     auto found = QAccessibleWidget::relations(match);
     if (match.testFlag(QAccessible::Label) && AccessibleNames::isNamedByComponent(widget())) {
-        // The label leads to the component, and that hands its focus on.
+        // The label's buddy is the component, which passes its focus on.
         const QWidget* const component = AccessibleNames::componentOf(widget());
         if (QAccessibleInterface* const label = interfaceOf(labelOf(component))) {
             found.append({label, QAccessible::Label});
@@ -245,7 +245,7 @@ void AccessibleButton::doAction(const QString& actionName)
     } else if (button()->isCheckable()) {
         button()->click();
     } else {
-        // A pick may run an event loop of its own, and who asks is not to wait for it.
+        // Clicks later: a pick may run an event loop, which would block the caller.
         button()->animateClick();
     }
 }
@@ -579,7 +579,7 @@ int AccessibleLineEdit::characterCount() const
     return edit()->text().size();
 }
 
-/// By the place of the caret there, which is all that a line edit tells.
+/// From the cursor's rectangle, the only position that QLineEdit provides.
 QRect AccessibleLineEdit::characterRect(int offset) const
 {
     if (offset < 0 || offset >= characterCount()) {

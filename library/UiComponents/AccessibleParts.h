@@ -1,5 +1,5 @@
-// Internal: the accessible interfaces of the components and their parts. All of them ask their widget when
-// they are asked, and keep nothing.
+// Internal: the accessible interfaces of the components and their parts. Stateless: each query reads the
+// widget.
 
 #pragma once
 
@@ -35,7 +35,7 @@ private:
     QVector<QWidget*> popups() const;
 };
 
-/// What shows a colour: it says the colour as its value, and first in its description.
+/// A widget that shows a colour, which is its value and comes first in its description.
 class AccessibleColor : public AccessiblePart
 {
 public:
@@ -47,7 +47,7 @@ protected:
     virtual QString spokenColor() const;
 };
 
-/// What is wrong: readers speak it when it appears.
+/// An error message, announced when it appears.
 class AccessibleMessage : public AccessiblePart
 {
 public:
@@ -75,9 +75,8 @@ private:
     QAbstractButton* button() const;
 };
 
-/// Help that appears beside something, a selector, or the panel of a colour field: its text, or the colour,
-/// is its description. A pop-up is below what has
-/// opened it, where Qt leaves it out of everything.
+/// A bubble, a selector, or the panel of a colour field: its text, or the colour, is its description. A
+/// pop-up is a child of what has opened it, where Qt leaves it out of the tree.
 class AccessiblePopup : public AccessiblePart
 {
 public:
@@ -90,7 +89,7 @@ private:
     ColorPickerWidget* colorPanel() const;
 };
 
-/// An animated image, which can be paused.
+/// An animated picture, which can be paused.
 class AccessiblePicture : public AccessiblePart
 {
 public:
@@ -105,7 +104,7 @@ private:
     GuidePicture* picture() const;
 };
 
-/// In units.
+/// The value of a slider in its units.
 class AccessibleSlider : public AccessiblePart, public QAccessibleValueInterface
 {
 public:

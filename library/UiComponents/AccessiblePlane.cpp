@@ -35,7 +35,7 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state = m_plane->state();
-        // The plane has it, with the keys for both.
+        // The plane has the focus, and the keys for both axes.
         state.focusable = false;
         state.focused = false;
         return state;
@@ -129,7 +129,7 @@ QAccessibleInterface* AccessiblePlane::child(int index) const
     return QAccessible::accessibleInterface(id);
 }
 
-/// They lie upon each other.
+/// Null: both children cover the whole plane.
 QAccessibleInterface* AccessiblePlane::childAt(int x, int y) const
 {
     Q_UNUSED(x)

@@ -6,7 +6,7 @@
 
 class QQuickWidget;
 
-/// A view whose children are the items of its scene. Qt has them below a window that nobody sees.
+/// A view whose children are the items of its scene. Qt has them below a window that is never shown.
 class AccessibleScene : public AccessiblePart
 {
 public:

@@ -18,7 +18,7 @@
  *
  * **Sum.** QAbstractItemView::sizeHintForRow() over the top-level rows of the model, in pixels, hidden rows
  * included; without frame, margins and spacing; at most 16,777,214 pixels, the largest minimum that Qt takes.
- * Every row is asked: a resize of a loading list costs as much. A view without a model has no rows.
+ * Every row is measured: a resize of a loading list costs as much. A view without a model has no rows.
  *
  * **When.** setLoadingFinished() and each resize compute the height and overwrite a minimum height of the
  * host. The view does not watch its model: rows that come, go or change their height, another model and

@@ -29,7 +29,8 @@
  * **Style sheet.** As an OvComboBox in the look of the design system: `OvComboBox[tessel="true"]`,
  * `[popupVisible="true"]`, the list `#tesselComboBoxView`, or alone as `ColorBlendingComboBox`.
  *
- * **Lifetime.** A slot of blendingModeChanged() deletes the box with deleteLater(), since QComboBox goes on.
+ * **Lifetime.** A slot of blendingModeChanged() deletes the box with deleteLater(): QComboBox still uses it
+ * after the signal.
  * @see BlendingMode, OvComboBox, Translations
  */
 class UICOMPONENTS_EXPORT ColorBlendingComboBox : public OvComboBox

@@ -23,7 +23,7 @@ Perceived perceived(const QColor& color);
 /// A translated name that people use for such a colour, as "dark red". Empty for an invalid one.
 QString inWords(const QColor& color);
 
-/// What is said of a value: "orange, #ff8040", with ", 50 %" behind it if it is not opaque, or that there is
+/// The text for a value: "orange, #ff8040", with ", 50 %" behind it if it is not opaque, or that there is
 /// no colour or that there are several.
 QString valueText(const std::optional<QColor>& color);
 

@@ -27,7 +27,7 @@ class AbstractColorPicker;
  * the loss of the focus releases it, as any button with focus.
  *
  * **Readers** find a button with the name of its label, its accessible name or its tool tip. Its value and,
- * on X11 and Wayland, its description is the colour in words, and each change is said. Space picks.
+ * on X11 and Wayland, its description is the colour in words, and each change is announced. Space picks.
  *
  * **Style sheet.** The face is a child QWidget named "color". The button writes its background, opaque
  * whatever the alpha, and at opacity 0.4 while disabled; size, border and the look of the two states without
@@ -38,8 +38,8 @@ class AbstractColorPicker;
  *     ColorPickerButton #color { min-width: 40px; min-height: 16px; border-radius: 3px; }
  *     ColorPickerButton[multiColor="true"] { background-image: url(:/mixed.png); }
  *
- * **Lifetime.** A slot of a pickingStopped() that hiding the button causes must use deleteLater(), since
- * QWidget::hide() goes on.
+ * **Lifetime.** A slot of a pickingStopped() that hiding the button causes must use deleteLater():
+ * QWidget::hide() still uses it after the signal.
  * @see ColorInputWidget, AbstractColorPicker, PopupColorPicker, WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT ColorPickerButton : public ClickButton

@@ -156,7 +156,7 @@ public:
         void focusInEvent(QFocusEvent* event) override
         {
             TesselLineEdit::focusInEvent(event);
-            // The first press would take the selection off again.
+            // The first press would clear the selection.
             m_isEntered = event->reason() == Qt::MouseFocusReason;
             selectWords();
         }
@@ -824,7 +824,7 @@ void ColorPickerWidget::hideEvent(QHideEvent* event)
 
 void ColorPickerWidget::focusInEvent(QFocusEvent* event)
 {
-    // Not by a focus proxy: Qt goes on using the panel then, which a slot may delete when a part loses the
+    // Not by a focus proxy: Qt still uses the panel then, which a slot may delete when a part loses the
     // focus.
     d->currentColorValueEdit->setFocus(event->reason());
 }

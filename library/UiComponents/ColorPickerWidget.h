@@ -10,7 +10,7 @@
 
 /**
  * The colour panel of a colour field: a palette of 72 colours, an edit for a hexadecimal value, the user's
- * eight own colours, a selector of any colour, an opacity slider, and a button that asks for a pipette.
+ * eight own colours, a selector of any colour, an opacity slider, and a button that requests a pipette.
  *
  *     auto* panel = new ColorPickerWidget(popup, false);
  *     panel->setCurrentColor(shape->fillColor());
@@ -35,8 +35,8 @@
  * QDialog with the property "roundedEdges" (see Workaround::Ui::apply()).
  *
  * **Readers** find a group of the panel's name. In it, "Current colour" is a picture with the colour in words
- * as its value, which says each change; "Colour value" is the edit; "Palette" and "Own colours" are groups of
- * radio buttons, which are called by their colours, as their tool tips are; the opacity is a slider and a
+ * as its value, announced when it changes; "Colour value" is the edit; "Palette" and "Own colours" are groups
+ * of radio buttons, which are called by their colours, as their tool tips are; the opacity is a slider and a
  * spin box. Tab goes from group to group. The pipette needs a mouse; the edit takes every colour.
  * @see PopupColorPicker, ColorPickerButton, Pipette, Settings::userCustomColors(), Util::appendCustomColor()
  */

@@ -44,8 +44,8 @@ QString nextToken()
     return QStringLiteral("uicomponents%1").arg(++count);
 }
 
-/// Where the portal has the request of @p token, by its convention. So the answer can be listened to before
-/// there is any.
+/// The path of the request with @p token, by the portal's convention. So its signal can be connected before
+/// the portal replies.
 QString requestPath(const QDBusConnection& bus, const QString& token)
 {
     const QString sender = bus.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
@@ -100,7 +100,7 @@ ColorPortal::ColorPortal(const QDBusConnection& bus, QObject* parent, int timeLi
 QString ColorPortal::unavailableReason() const
 {
     if (m_trouble != Trouble::None && !isLasting(m_trouble) && !m_question) {
-        // The answer comes from the event loop: nothing changes here and now.
+        // The answer comes from the event loop: nothing changes in this call.
         const_cast<ColorPortal*>(this)->askForVersion();
     }
     return text(m_trouble);
@@ -175,7 +175,7 @@ PortalRequest::PortalRequest(ColorPortal* portal, const QString& parentHandle,
                   SLOT(takeResponse(uint, QVariantMap)));
     auto* const life =
         new QDBusServiceWatcher(serviceName(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    // Queued: the answer may delete the watcher, which has more to say after this.
+    // Queued: the answer may delete the watcher, which is still emitting.
     connect(
         life, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString& /*service*/, const QString& before) {
@@ -205,7 +205,7 @@ PortalRequest::PortalRequest(ColorPortal* portal, const QString& parentHandle,
 
 PortalRequest::~PortalRequest()
 {
-    // The portal may not know it by its path before it has answered the call: that answer closes it then.
+    // The portal may not know the path before it has replied: the handler of the reply closes it then.
     if (m_isTaken) {
         close(m_bus, m_path);
     }
@@ -247,7 +247,7 @@ void PortalRequest::finish(const ScreenColorSource::Result& result)
     }
 }
 
-/// Has the portal take its dialog away.
+/// Closes the portal's dialog.
 void PortalRequest::close(const QDBusConnection& bus, const QString& path)
 {
     QDBusMessage call =

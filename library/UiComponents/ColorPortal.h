@@ -15,12 +15,12 @@ class QDBusMessage;
 /**
  * Picks colours through org.freedesktop.portal.Screenshot.
  *
- * The portal may be started by the first message to it. It is asked for its version when this is made: from 2
- * on it can pick colours. Then, and whenever it starts again, unavailableReason() follows what it says; and
- * until its first answer colours count as available, which a request would find out as well. While it has not
- * answered in time, or has refused, each look at unavailableReason() asks anew.
+ * The first message to the portal may start it. Its version is queried at construction: from 2 on it can pick
+ * colours. Then, and whenever it starts again, unavailableReason() follows its answer; until the first one
+ * colours count as available, and a request finds out otherwise. While it has not answered in time, or has
+ * refused, each call of unavailableReason() queries it anew.
  *
- * Nothing waits for the portal. It has to take a request within the time limit; the user has all the time.
+ * Nothing blocks. The time limit applies to the portal's replies, not to the user.
  */
 class ColorPortal : public ScreenColorSource
 {
@@ -55,11 +55,11 @@ private:
     const QDBusConnection m_bus;
     const int m_timeLimit;
     Trouble m_trouble = Trouble::None;
-    /// The latest, until everybody has heard what came of it.
+    /// The pending question, deleted after its answer is handled.
     QPointer<QObject> m_question;
 };
 
-/// One request to the portal. Its death withdraws it.
+/// One request to the portal. Deleting it withdraws it.
 class PortalRequest : public QObject
 {
     Q_OBJECT
@@ -78,16 +78,16 @@ private:
 
     const QPointer<ColorPortal> m_portal;
     QDBusConnection m_bus;
-    /// What stands for the request in the portal, as long as the user picks.
+    /// The D-Bus path of the request in the portal, valid while the user picks.
     QString m_path;
     bool m_isTaken = false;
-    /// Empty when it has been given.
+    /// Empty after it has been called.
     ScreenColorSource::Answer m_answer;
 };
 
-/// How the portal is told which window its dialog belongs to: "x11:" and the window's number on X11. Empty
-/// without a native window and on Wayland, where a program names its windows with the protocol xdg-foreign,
-/// which Qt 5.15 does not speak: the desktop then places its picker by itself.
+/// The identifier of @p window for the portal: "x11:" and the window's number on X11. Empty without a native
+/// window and on Wayland, where the protocol xdg-foreign names windows, which Qt 5.15 does not support: the
+/// desktop then places its dialog by itself.
 QString portalHandle(const QWindow* window);
 
 /// The colour of a portal's @p value, three numbers from 0 to 1. Others are moved to the nearest end; what is

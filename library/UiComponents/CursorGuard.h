@@ -11,7 +11,8 @@
 #include <optional>
 
 /// Replaces the cursor of a widget for as long as it exists, and brings back the former one, or none. The
-/// widget may die first. Several on one widget may go in any order: it has the cursor of the latest one left.
+/// widget may be deleted first. Several on one widget may be destroyed in any order: it has the cursor of the
+/// latest one left.
 class CursorGuard
 {
 public:

@@ -20,6 +20,6 @@ struct DialogGuideInfo
     /// The texts of the two buttons; "&" marks a mnemonic. An empty one leaves an empty button.
     QString mainButtonText;
     QString secondaryButtonText;
-    /// The path of an animated image: a file, or a resource (":/..."). Hidden when it does not exist.
+    /// The path of an animated picture: a file, or a resource (":/..."). Hidden when it does not exist.
     QString moviePath;
 };

@@ -177,7 +177,7 @@ void DialogGuideWidget::setInfo(const DialogGuideInfo& info)
     d->headerLabel->setText(Customization::localeDependedBoldText(info.title));
     d->descriptionLabel->setText(info.description);
     d->gifPixmapWidget->setPicture(info.moviePath);
-    // What most come for is first.
+    // Tab reaches the button that most users need first.
     setTabOrder(d->mainButton, d->gifPixmapWidget);
     d->gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
     d->headerLabel->setVisible(!info.title.isEmpty());

@@ -7,7 +7,7 @@
 #include <memory>
 
 /**
- * A bubble that walks the user through a step: a heading with a close button, an animated image, a
+ * A bubble that walks the user through a step: a heading with a close button, an animated picture, a
  * description, and two buttons. The host hides or deletes it; no click does.
  *
  *     auto* guide = new DialogGuideWidget(timeline);
@@ -25,7 +25,7 @@
  * screen: a word or image in a text takes at most half of the screen's width, a button a quarter, with an
  * ellipsis in its text.
  *
- * **Readers** hear of a dialog with title and description when it appears; in it are the buttons and the
+ * **Readers** announce a dialog with title and description when it appears; in it are the buttons and the
  * picture, as in GuideWidget. enter() leads in by keyboard.
  *
  * **Style sheet.** In "contentFrame" are "headerFrame" with "headerLabel" and "closeButton",
@@ -48,10 +48,10 @@ public:
     ~DialogGuideWidget() override;
 
     /// Shows @p info. The heading is plain text in a weight that suits the language (see
-    /// Customization::localeDependedBoldText()) and hidden when empty; the image is hidden when its file does
-    /// not exist, and plays while the bubble is shown (GuideWidget says how to pause it, or to show its first
-    /// picture only). The size follows one turn of the event loop later, when layouts and style sheet have
-    /// settled, and when the bubble is shown.
+    /// Customization::localeDependedBoldText()) and hidden when empty; the picture is hidden when its file
+    /// does not exist, and plays while the bubble is shown (GuideWidget says how to pause it, or to show its
+    /// first frame only). The size follows one turn of the event loop later, when layouts and style sheet
+    /// have settled, and when the bubble is shown.
     void setInfo(const DialogGuideInfo& info);
 
     /// Gives the bubble the keyboard, at the main button: for a shortcut of the host's. Nothing of itself

@@ -6,8 +6,8 @@
 
 namespace DyingWindow {
 
-/// A window takes the keyboard from its widgets when it is destroyed, while they are intact but their
-/// listeners may not be. It has left the focus chain by then.
+/// A window that is destroyed takes the focus from its widgets, which are intact then, while the receivers of
+/// their signals may not be. It has left the focus chain by then.
 inline bool is(const QWidget* window)
 {
     return !window->nextInFocusChain();

@@ -39,8 +39,8 @@ class QUndoStack;
 class UICOMPONENTS_EXPORT EditCommand : public QUndoCommand
 {
 public:
-    /// What is edited. Both functions are kept as long as the command: they hold on to what cannot die before
-    /// the stack, such as a document and the number of a card.
+    /// What is edited. Both functions are kept as long as the command: they may only use what outlives the
+    /// stack, such as a document and the number of a card.
     struct Target
     {
         std::function<QVariant()> read;
@@ -48,8 +48,8 @@ public:
     };
     using Targets = QVector<Target>;
 
-    /// Makes a command on @p stack of each session of @p session, until one of the two dies. @p text is asked
-    /// for the name of each command, @p targets at the start of each session for what is selected then.
+    /// Makes a command on @p stack of each session of @p session, until one of the two is deleted. @p text
+    /// returns the name of each command; @p targets, called at the start of each session, what is selected.
     static void record(EditSession* session, QUndoStack* stack, const std::function<QString()>& text,
                        const std::function<Targets()>& targets);
 

@@ -103,7 +103,7 @@ public:
         Text,
         Pick,
     };
-    /// What a slot asks for while a value is reported: done when all slots have heard of that.
+    /// What a slot requests while a value is reported; carried out when all slots have been called.
     enum class Request {
         None,
         Commit,
@@ -132,14 +132,14 @@ public:
     bool isTyped() const;
     bool isGone(const QObject* watched, const QEvent& event) const;
     void letGo();
-    void writeInSilence(const QVariant& value);
+    void writeUnreported(const QVariant& value);
 
     void onChanged();
     void onChosen();
     void onTyped();
-    void onPicked(const QVariant& result, bool isNewInAnyCase);
+    void onPicked(const QVariant& result, bool isNew);
     void chooseAtEnd(QObject* onPart, const QEvent* event);
-    bool isHeard() const { return access.read && holds == 0 && !isReporting && isAlive(); }
+    bool isReportable() const { return access.read && holds == 0 && !isReporting && isAlive(); }
     void reportShown();
     void report(const QVariant& value);
     void ask(Request what);
@@ -171,9 +171,9 @@ public:
     bool isReleasing = false;
     bool isReporting = false;
     Request request = Request::None;
-    /// The pick was cancelled, and its end is still to be told.
+    /// The pick was cancelled, and has not reported its end yet.
     bool isGivenUp = false;
-    /// What the button is about to take from such a pick.
+    /// The result of such a pick, which the button is about to take.
     QVariant refused;
     int holds = 0;
 };
@@ -194,7 +194,7 @@ void EditSession::Private::watchParts()
     for (QWidget* watched : parts) {
         watched->installEventFilter(q);
         if (const auto* edit = qobject_cast<QLineEdit*>(watched)) {
-            // Behind the field, which has taken the text then.
+            // Connected after the field, which has taken the text then.
             connect(edit, &QLineEdit::textChanged, q, [this] { onTyped(); });
         }
     }
@@ -229,8 +229,8 @@ void EditSession::Private::watchPicks()
     }
 }
 
-/// False while the field is destroyed, which takes the keyboard from its parts, and while its window is,
-/// whose slots are then called in vain.
+/// False while the field or its window is being destroyed. Its parts lose the focus then, and the slots of a
+/// half-destroyed window must not be called.
 bool EditSession::Private::isAlive() const
 {
     return field->metaObject() == whole && !DyingWindow::is(field->window());
@@ -247,7 +247,7 @@ bool EditSession::Private::begin(Gesture next, QObject* onPart)
         }
     }
     if (!isActive) {
-        // What was set in silence is not the user's.
+        // A value set without an edit is not the user's.
         last = access.read();
     }
     gesture = next;
@@ -273,7 +273,7 @@ void EditSession::Private::releaseMouse(const QMouseEvent& event)
     if (event.button() != Qt::LeftButton || gesture != Gesture::Mouse) {
         return;
     }
-    // A plane takes the point where it is let go, and always tells. Nothing else changes then.
+    // A plane takes the point on release, and always reports it. No other part changes its value then.
     isReleasing = qobject_cast<PointSelectionPlane*>(part);
     if (isReleasing) {
         return;
@@ -281,7 +281,7 @@ void EditSession::Private::releaseMouse(const QMouseEvent& event)
     const QPointer<EditSession> self(q);
     const auto* const box = qobject_cast<QAbstractSpinBox*>(part);
     if (!box || box->buttonSymbols() != QAbstractSpinBox::NoButtons) {
-        onChosen(); // where it stands already
+        onChosen(); // takes the current value
     }
     if (self) {
         finish();
@@ -292,14 +292,14 @@ void EditSession::Private::releaseMouse(const QMouseEvent& event)
 void EditSession::Private::beginText(QObject* onPart)
 {
     QLineEdit* const editor = editorOf(onPart);
-    // A number that is not there yet, such as the first digit below a minimum, is typed on.
+    // Text that is no value yet, such as the first digit below a minimum, is still being typed.
     const bool isTyping = gesture == Gesture::Text && part == onPart && isTyped();
     if (editor && begin(Gesture::Text, onPart) && cover->isShown() && !isTyping) {
         editor->selectAll();
     }
 }
 
-/// What is dropped goes to where the mouse is, and not to the cursor.
+/// Dropped text is inserted at the mouse position, not at the cursor.
 void EditSession::Private::replaceText(QObject* onPart)
 {
     auto* const editor = qobject_cast<QLineEdit*>(onPart);
@@ -313,7 +313,7 @@ void EditSession::Private::replaceText(QObject* onPart)
     editor->clear();
 }
 
-/// Returns whether the key goes no further.
+/// Returns whether the key event is filtered out.
 bool EditSession::Private::pressKey(QObject* onPart, const QKeyEvent& event)
 {
     if (isCancelKey(event)) {
@@ -392,8 +392,8 @@ bool EditSession::Private::isCancelKey(const QKeyEvent& event) const
     return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier && canCancel;
 }
 
-/// Whether Undo and Redo are the host's. An edit would keep them in any case, and undo what has been
-/// committed.
+/// Whether Undo and Redo are the host's. A line edit would accept them in any case, and undo what has
+/// been committed.
 bool EditSession::Private::overridesUndo(QObject* onPart, const QKeyEvent& event) const
 {
     const QLineEdit* const editor = editorOf(onPart);
@@ -410,15 +410,15 @@ bool EditSession::Private::isTyped() const
     return qobject_cast<QAbstractSpinBox*>(part) && editorOf(part)->isModified();
 }
 
-/// Parts come and go with the value, so only that of the session counts, unless it goes with the field: then
-/// Qt is about to go on with the next child of the field, which may be this session.
+/// Parts appear and hide with the value, so only that of the session counts, unless it hides with the field:
+/// then Qt continues with the field's next child, which may be this session.
 bool EditSession::Private::isGone(const QObject* watched, const QEvent& event) const
 {
     const bool isWithField = event.spontaneous() || !field->isVisible() || !field->isEnabled();
     return watched == field || (watched == part && !isWithField);
 }
 
-/// A drag or a pick that is cancelled is over for the part too.
+/// Ends a cancelled drag or pick for the part too.
 void EditSession::Private::letGo()
 {
     const Gesture ended = std::exchange(gesture, Gesture::None);
@@ -437,7 +437,7 @@ void EditSession::Private::letGo()
     }
 }
 
-void EditSession::Private::writeInSilence(const QVariant& value)
+void EditSession::Private::writeUnreported(const QVariant& value)
 {
     const QPointer<EditSession> self(q);
     ++holds;
@@ -449,13 +449,13 @@ void EditSession::Private::writeInSilence(const QVariant& value)
 
 void EditSession::Private::onChanged()
 {
-    if (!isHeard()) {
+    if (!isReportable()) {
         return;
     }
     const bool isRefused = refused.isValid() && FieldAccess::isSame(access.read(), refused);
     refused.clear();
     if (isRefused) {
-        writeInSilence(last);
+        writeUnreported(last);
         return;
     }
     const QPointer<EditSession> self(q);
@@ -470,7 +470,7 @@ void EditSession::Private::onChanged()
 /// The user has chosen what the field holds already.
 void EditSession::Private::onChosen()
 {
-    if (!isHeard() || !cover->isShown()) {
+    if (!isReportable() || !cover->isShown()) {
         return;
     }
     const QPointer<EditSession> self(q);
@@ -491,7 +491,7 @@ void EditSession::Private::onTyped()
     }
 }
 
-/// The user has asked for more than there is, and so for what the field holds already.
+/// A step beyond the end chooses the value that the field has already.
 void EditSession::Private::chooseAtEnd(QObject* onPart, const QEvent* event)
 {
     if (cover->isShown() && !isTyped() && FieldAccess::isAtEnd(onPart, event)) {
@@ -509,12 +509,12 @@ void EditSession::Private::onPicked(const QVariant& result, bool isNew)
         refuse();
         return;
     }
-    if (gesture != Gesture::Pick || !isHeard()) {
+    if (gesture != Gesture::Pick || !isReportable()) {
         return;
     }
     const QPointer<EditSession> self(q);
-    // The button takes it after this, and is to show what is committed.
-    writeInSilence(result);
+    // The button takes it only after this, but has to show what is committed.
+    writeUnreported(result);
     if (!self) {
         return;
     }
@@ -594,7 +594,7 @@ void EditSession::Private::answer()
     }
 }
 
-/// Ends the session where nothing is held down that would.
+/// Ends the session, unless a held button or key, or a pick, will.
 void EditSession::Private::finishIfAlone()
 {
     const bool isPickOver = gesture == Gesture::Pick && colorButton &&
@@ -615,7 +615,7 @@ bool EditSession::Private::takeText()
     if (isTyped()) {
         auto* const box = qobject_cast<QAbstractSpinBox*>(part);
         if (cover->isShown() && !isEntered(*box)) {
-            takeBack(box); // nobody has entered anything
+            takeBack(box); // the text is no value
         } else {
             box->interpretText();
             if (self && cover->isShown()) {
@@ -638,17 +638,17 @@ void EditSession::Private::finish()
         ask(Request::Finish);
     } else if (holds > 0) {
         gesture = Gesture::None;
-    } else if (isHeard() && takeText()) {
+    } else if (isReportable() && takeText()) {
         gesture = Gesture::None;
         isReleasing = false;
         end(isNewInAnyCase || !FieldAccess::isSame(last, start));
     }
 }
 
-/// The gesture goes on, and may begin another session.
+/// Ends the session; the gesture continues and may start another one.
 void EditSession::Private::commit()
 {
-    if (isHeard() && takeText()) {
+    if (isReportable() && takeText()) {
         end(isNewInAnyCase || !FieldAccess::isSame(last, start));
     }
 }
@@ -661,7 +661,7 @@ void EditSession::Private::end(bool isKept)
     isActive = false;
     isNewInAnyCase = false;
     if (isKept) {
-        // A slot may delete the session, and goes on with the value.
+        // A copy: a slot may delete the session.
         const QVariant value = last;
         Q_EMIT q->committed(value);
     } else {
@@ -676,7 +676,7 @@ void EditSession::Private::cancel()
         ask(Request::Cancel);
         return;
     }
-    if (!isHeard()) {
+    if (!isReportable()) {
         return;
     }
     const QPointer<EditSession> self(q);
@@ -803,7 +803,7 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
         d->mousePosition = static_cast<QMouseEvent*>(event)->pos();
         return false;
     }
-    // A pick is the picker's to end.
+    // Only the picker ends a pick.
     if (d->gesture == Private::Gesture::Pick || !d->isAlive()) {
         return false;
     }

@@ -23,22 +23,22 @@ class QWidget;
  * key is let go; a text gets Enter, or loses the focus for anything but a pop-up; after turns of the wheel
  * the cursor leaves the part, or it loses the focus or gets another input; a pick stops. A change that none
  * of these makes is a session of its own: an item of a combo box, a click on a field's button, a screen
- * reader, and a host that sets the field without Refresh or setValue(). Nothing waits: all is told in the
- * call that changes the field.
+ * reader, and a host that sets the field without Refresh or setValue(). Signals are emitted synchronously, in
+ * the call that changes the field.
  *
- * Escape cancels a session, except a pick, which is its picker's, and goes no further. One that ends where it
- * began is cancelled too, unless the field showed several values, or is a WidgetColorPickerButton, whose new
- * pick may be for another selection. Hiding or disabling the field commits what it shows, but leaves a pick
- * to its picker. A field that is deleted ends its session without a signal, and what was previewed stays.
- * What ends a session in a slot of started() or previewed() does so when all slots have heard of the value.
- * The keys of Undo and Redo belong to a text while it is typed, and else to the host's shortcuts.
- * Its slots may delete the session, and the field where slots of its own signals may. With a text field, a
- * combo box and a spin box, and where hiding or disabling the field makes the report, use deleteLater().
+ * Escape cancels a session and is filtered out then, except in a pick, which is its picker's. One that ends
+ * where it began is cancelled too, unless the field showed several values, or is a WidgetColorPickerButton,
+ * whose new pick may be for another selection. Hiding or disabling the field commits what it shows, but
+ * leaves a pick to its picker. A field that is deleted ends its session without a signal, and what was
+ * previewed stays. Where a slot of started() or previewed() ends the session, it ends after all slots have
+ * been called. The keys of Undo and Redo belong to a text while it is typed, else to the host's shortcuts.
+ * Slots may delete the session, and the field where slots of its own signals may. For a text field, a combo
+ * box and a spin box, and where hiding or disabling the field reports, use deleteLater().
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its
- * texts are covered by a dash, the QLabel "multiValueCover", a colour field shows several colours, and screen
- * readers say it. The field has the property "multiValue" (bool).
+ * texts are covered by a dash, the QLabel "multiValueCover", a colour field shows several colours, and
+ * readers announce it. The field has the property "multiValue" (bool).
  * @see EditCommand, ColorInputWidget, SliderInputWidget, PointSelectorWidget, PathSelectionWidget
  */
 class UICOMPONENTS_EXPORT EditSession : public QObject
@@ -46,13 +46,13 @@ class UICOMPONENTS_EXPORT EditSession : public QObject
     Q_OBJECT
 
 public:
-    /// While it lives, changes of the fields in a widget are the host's, and no edit is told. Nests.
+    /// While it exists, changes of the fields in a widget are the host's, and no edit is reported. Nests.
     ///
     ///     const EditSession::Refresh refresh(inspector);
     ///     size->setValue(card->size());
     ///     color->setColor(card->color());
     ///
-    /// A field that stood for several values goes on to, until setValue() of its session or
+    /// A field that stood for several values still does, until setValue() of its session or
     /// setMultiValue(false).
     class UICOMPONENTS_EXPORT Refresh
     {

@@ -45,14 +45,14 @@ FieldAccess access(Field* field, Getter getter, Setter setter, Signal changed)
     return access;
 }
 
-/// For a field that has a slider, which tells of each step, also of one that leads nowhere.
+/// For a field with a slider, which emits for each step, even one without effect.
 template <typename Value, typename Field, typename Getter, typename Setter, typename Signal>
 FieldAccess sliderAccess(Field* field, QAbstractSlider* slider, Getter getter, Setter setter, Signal changed)
 {
     FieldAccess number = access<Value>(field, getter, setter, changed);
     number.watchChoice = [slider](QObject* context, const std::function<void()>& chosen) {
         QObject::connect(slider, &QAbstractSlider::actionTriggered, context, [slider, chosen](int action) {
-            // Else the value follows.
+            // Otherwise the value changes next.
             const bool isThere = slider->sliderPosition() == slider->value();
             if (isThere && action != QAbstractSlider::SliderNoAction) {
                 chosen();
@@ -86,8 +86,8 @@ FieldAccess selectorAccess(PointSelectorWidget* selector)
     point.watchChoice = planeAccess(plane).watch;
     point.watch = [selector, plane, boxes, watchField,
                    watchPlane = point.watchChoice](QObject* context, const std::function<void()>& changed) {
-        // The parts follow each other one after the other, and each report is of half a point until they
-        // agree. They are heard after the field, which has them do that.
+        // The parts follow one another and report mixed points until they agree. Connected after the field,
+        // which synchronises them.
         const auto report = [selector, plane, changed] {
             if (PointMapping::isSame(plane->point(), selector->value()) && !selector->signalsBlocked()) {
                 changed();
@@ -97,7 +97,7 @@ FieldAccess selectorAccess(PointSelectorWidget* selector)
         for (QDoubleSpinBox* box : boxes) {
             watcher(box, qOverload<double>(&QDoubleSpinBox::valueChanged))(context, report);
         }
-        // It is finer than the boxes, and not made to agree.
+        // The plane is finer than the boxes, and may differ.
         watchPlane(context, changed);
     };
     return point;
@@ -108,7 +108,7 @@ FieldAccess pathAccess(PathSelectionWidget* field)
     FieldAccess path = access<QString>(field, &PathSelectionWidget::path, &PathSelectionWidget::setPath,
                                        &PathSelectionWidget::pathChanged);
     if (const auto* edit = field->findChild<QLineEdit*>()) {
-        // The field's own signal waits for the end of a burst.
+        // The field's own signal is delayed.
         const auto watchField = path.watch;
         const auto watchEdit = watcher(edit, &QLineEdit::textChanged);
         path.watch = [watchField, watchEdit](QObject* context, const std::function<void()>& changed) {

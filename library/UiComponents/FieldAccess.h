@@ -18,16 +18,16 @@ struct FieldAccess
     /// The value that the field shows.
     std::function<QVariant()> read;
     std::function<void(const QVariant&)> write;
-    /// Connects what tells of a new value to a function, as long as the context lives. Some fields tell
-    /// before they show it, or twice.
+    /// Calls a function when the value changes, until the context is destroyed. Some fields emit before they
+    /// show the value, or twice.
     std::function<void(QObject* context, const std::function<void()>& changed)> watch;
     /// The same for signals that a user's choice alone emits, also a choice of the present value.
     std::function<void(QObject* context, const std::function<void()>& chosen)> watchChoice;
 
     static FieldAccess of(QWidget* field);
 
-    /// Whether a key or a turn of the wheel asks @p part for more than there is, such as a step beyond its
-    /// end, of which it tells nobody. Sliders tell.
+    /// Whether a key or wheel event asks @p part to step beyond its range, or to delete from an empty text,
+    /// which it does not report. Sliders do.
     static bool isAtEnd(QObject* part, const QEvent* event);
 
     /// Exact, also where QVariant compares with a tolerance or not at all.

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-// The property is written by style sheets and hosts, and nobody waits for it to change.
+// Style sheets and hosts write the property; no notification is needed.
 // clazy:excludeall=qproperty-without-notify
 
 /**

@@ -31,7 +31,7 @@ struct UICOMPONENTS_EXPORT GuideInfo
 
     /// The heading, as plain text.
     QString title;
-    /// The path of an animated image: a file, or a resource (":/...").
+    /// The path of an animated picture: a file, or a resource (":/...").
     QString moviePath;
     /// The description, as plain or rich text as in QLabel.
     QString description;

@@ -93,7 +93,7 @@ void GuidePicture::keyPressEvent(QKeyEvent* event)
 
 void GuidePicture::mousePressEvent(QMouseEvent* event)
 {
-    // Accepted, or the release would not come here.
+    // Accepted, or the release would not be sent here.
     event->setAccepted(event->button() == Qt::LeftButton && movie());
 }
 
@@ -104,7 +104,7 @@ void GuidePicture::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
-/// A style that animates nothing is no wish for less motion: some never do, whatever the desktop says.
+/// A style without animations does not stand for a wish for less motion: some never animate.
 bool GuidePicture::isToBeStill() const
 {
     for (const QWidget* guide = this; guide; guide = guide->isWindow() ? nullptr : guide->parentWidget()) {
@@ -121,7 +121,7 @@ void GuidePicture::holdIfStill()
     if (!shown || !isToBeStill() || !isVisible()) {
         return;
     }
-    // Only a start shows the first picture again and goes on from there later.
+    // Only a start shows the first frame again and continues from there later.
     shown->stop();
     if (shown) {
         shown->start();

@@ -1,4 +1,4 @@
-// Internal: the animated image of GuideWidget and DialogGuideWidget.
+// Internal: the animated picture of GuideWidget and DialogGuideWidget.
 
 #pragma once
 
@@ -6,17 +6,17 @@
 
 #include <WidgetToolkit/OvPixmapWidget.h>
 
-/// An image that the user pauses and resumes, by a click or by Space while it has the focus. It calls itself
-/// an OvPixmapWidget, to style sheets too.
+/// A picture that the user pauses and resumes, by a click or by Space while it has the focus. Its class name
+/// is OvPixmapWidget's, for style sheets too.
 class GuidePicture : public OvPixmapWidget // clazy:exclude=missing-qobject-macro
 {
 public:
     using OvPixmapWidget::OvPixmapWidget;
 
-    /// As setMoviePath(), and stops at the first picture where that is wanted.
+    /// As setMoviePath(), and stops at the first frame where that is wanted.
     void setPicture(const QString& path);
 
-    /// Plays from the first picture, or shows that one alone.
+    /// Plays from the first frame, or shows that one alone.
     void restart();
 
     bool isPlaying() const;

@@ -95,8 +95,8 @@ GuideWidget::Private::Private(GuideWidget* guide, GuideInfo guideInfo)
     (new OvVBoxLayout(q))->autoFill();
 }
 
-/// The picture follows the link, which most come for. Qt leaves alone what takes no focus, and two widgets
-/// that follow each other in the circle, whichever is first.
+/// Tab reaches the link, which most users need, before the picture. setTabOrder() ignores widgets that take
+/// no focus, and two that already follow each other in the circle, whichever is first.
 void GuideWidget::Private::putLinkFirst() const
 {
     for (const Qt::FocusPolicy policy : {Qt::TabFocus, Qt::NoFocus}) {

@@ -7,7 +7,7 @@
 #include <memory>
 
 /**
- * A short piece of help: a heading, an animated image, a description and a link, from top to bottom.
+ * A short piece of help: a heading, an animated picture, a description and a link, from top to bottom.
  *
  *     auto* guide = new GuideWidget(info, panel);
  *     connect(guide, &GuideWidget::learnMoreClicked, this, &Panel::countReaders);
@@ -15,10 +15,10 @@
  * **Texts.** The heading is plain text, in a weight that suits the language (see
  * Customization::localeDependedBoldText()). Description and link are plain or rich text, as in QLabel.
  *
- * **Image.** It plays from its first frame whenever the guide is shown, and costs nothing while it is hidden.
- * A click on it, or Space while it has the focus, pauses and resumes it. Where the dynamic property
+ * **Picture.** It plays from its first frame whenever the guide is shown, and costs nothing while it is
+ * hidden. A click on it, or Space while it has the focus, pauses and resumes it. Where the dynamic property
  * "firstPictureOnly" of the guide, of a widget around it in its window or of the application is true, it
- * shows its first picture until the user plays it:
+ * shows its first frame until the user plays it:
  *
  *     qApp->setProperty("firstPictureOnly", true);           // takes effect when a guide is next shown
  *
@@ -27,7 +27,7 @@
  *
  * **Size.** Heading and description get room for all their lines at the polished guide's width when its info
  * is set. Set the width first, in the style sheet or by code; a guide that becomes wider later keeps the
- * height. The image follows the width and shrinks where there is no room.
+ * height. The picture follows the width and shrinks where there is no room.
  *
  * **Style sheet.** The labels are "headerLabel", "descriptionLabel" and "learnMoreLabel", the OvPixmapWidget
  * is "gifPixmapWidget". The frame's metrics are OvFrame's properties, 0 by default:
@@ -42,17 +42,17 @@ class UICOMPONENTS_EXPORT GuideWidget : public OvFrame
     Q_OBJECT
 
 public:
-    /// Shows a copy of @p info: a part whose text is empty is hidden, and so is the image when its file does
-    /// not exist; a file that is no image leaves an empty one. Nothing is reported. @p parent owns the guide;
-    /// null makes it a window.
+    /// Shows a copy of @p info: a part whose text is empty is hidden, and so is the picture when its file
+    /// does not exist; a file that is no picture leaves an empty one. Nothing is reported. @p parent owns the
+    /// guide; null makes it a window.
     GuideWidget(const GuideInfo& info, QWidget* parent);
     /// Of no texts yet, for forms.
     explicit GuideWidget(QWidget* parent);
     ~GuideWidget() override;
 
     /// Shows @p info instead, and resizes the guide to its size hint, which a layout around it overrules.
-    /// Equal info does nothing. In a shown guide a new image plays at once; one that stays the same plays on.
-    /// A word that takes more than half of the screen's width is broken, and an image in a text is scaled
+    /// Equal info does nothing. In a shown guide a new picture plays at once; one that stays the same plays
+    /// on. A word that takes more than half of the screen's width is broken, and an image in a text is scaled
     /// down to that.
     void setInfo(const GuideInfo& info);
 
@@ -62,7 +62,7 @@ Q_SIGNALS:
     void learnMoreClicked();
 
 protected:
-    /// Plays the image, or shows its first picture. Qt 5 does not know whether the desktop wants less motion:
+    /// Plays the picture, or shows its first frame. Qt 5 does not know whether the desktop wants less motion:
     /// the host asks its platform, or its user, and sets "firstPictureOnly".
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -6,8 +6,8 @@
 
 namespace LabelFocus {
 
-/// A label asks its buddy's own policy whether there is anything to focus. With this one only labels and
-/// setFocus() lead to the component: Tab goes to its parts, and a click or wheel beside them nowhere.
+/// A label focuses its buddy only if the buddy's own policy takes the focus. With this one only labels and
+/// setFocus() reach the component: Tab goes to its parts, and a click or wheel beside them gives no focus.
 constexpr auto policy = static_cast<Qt::FocusPolicy>(Qt::WheelFocus & ~Qt::StrongFocus);
 
 inline void lead(QWidget* component, QWidget* part, Qt::FocusPolicy componentPolicy = policy)

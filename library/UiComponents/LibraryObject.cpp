@@ -15,7 +15,7 @@ public:
 
     QObject* object()
     {
-        // It may have died with an application before the present one.
+        // It may have been deleted with an earlier application.
         if (!m_object) {
             m_object = new QObject(QCoreApplication::instance());
         }

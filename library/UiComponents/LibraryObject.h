@@ -5,7 +5,7 @@
 class QObject;
 
 /// The parent, or the context, of what belongs to no component: a child of the application that is deleted
-/// when the library is unloaded, before its code goes.
+/// when the library is unloaded, before its code is gone.
 ///
-/// Not the context of QTimer::singleShot(), whose timer keeps a function beyond the death of its context.
+/// Not the context of QTimer::singleShot(), whose timer keeps a function after its context is deleted.
 QObject* libraryObject();

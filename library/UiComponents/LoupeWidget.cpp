@@ -87,7 +87,7 @@ void LoupeWidget::setPixmap(const QPixmap& pixmap)
 void LoupeWidget::setColorName(const QColor& color)
 {
     QLabel* const label = d->colorNameLabel;
-    // updatePicture() stands in for the label's own update, which would come too late as well.
+    // updatePicture() replaces the label's own update, which would be too late as well.
     const bool wasDisabled = label->testAttribute(Qt::WA_UpdatesDisabled);
     label->setAttribute(Qt::WA_UpdatesDisabled);
     label->setText(color.name());

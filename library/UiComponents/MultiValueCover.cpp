@@ -127,7 +127,7 @@ void MultiValueCover::cover(QWidget* part)
     if (edit) {
         connect(edit, &QLineEdit::textEdited, label, &QWidget::hide);
     } else {
-        // Qt keeps style sheets from a frame right in a combo box.
+        // Qt applies no style sheet to a QFrame that is a child of a combo box.
         cover = new QWidget(part);
         cover->setAttribute(Qt::WA_TransparentForMouseEvents);
         auto* layout = new QHBoxLayout(cover);

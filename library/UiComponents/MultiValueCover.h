@@ -9,8 +9,9 @@
 class QWidget;
 
 /**
- * Covers the texts of a field while it stands for several values, and says so to style sheets and to screen
- * readers. The field keeps its value below. What the user types is seen, also before it is a value.
+ * Covers the texts of a field while it stands for several values, and sets the property "multiValue" for
+ * style sheets and a description for readers. The field keeps its value. What the user types is visible, also
+ * before it is a value.
  */
 class MultiValueCover : public QObject
 {
@@ -23,7 +24,7 @@ public:
 
     bool isShown() const { return m_isShown; }
     void setShown(bool shown);
-    /// What was typed is over, and was no value.
+    /// Shows the covers again, after text that became no value.
     void coverTexts() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -316,7 +316,7 @@ void PathSelectionWidget::setPath(const QString& path)
     const auto writing = d->markOwnWriting();
     bool isResettable = true;
     if (d->isDefaultPathShownByText(newPath)) {
-        // The user may go on typing another path.
+        // The user may still be typing another path.
         const bool isBeingTyped = d->pathLineEdit->hasFocus() && d->pathLineEdit->text() == newPath;
         if (!isBeingTyped) {
             d->pathLineEdit->setText(d->defaultDisplayText);

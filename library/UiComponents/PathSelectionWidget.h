@@ -79,7 +79,7 @@ public:
      * writable for this process; a relative path never is.
      *
      * On an error the line edit gets the focus with all its text selected, the field is marked, and the
-     * message is shown as plain text, and readers hear it. The next key hides a tool tip; the next
+     * message is shown as plain text and announced by readers. The next key hides a tool tip; the next
      * pathChanged() removes mark and label. Success removes no earlier mark. A handler of the widget that
      * loses the focus must not delete the field.
      */

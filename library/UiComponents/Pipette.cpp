@@ -87,7 +87,7 @@ public:
     explicit Run(Pipette* pipette);
     ~Run() override;
 
-    /// Covers the screens. False when that has ended the run.
+    /// Covers the screens. Returns false if that has ended the run.
     bool show();
     void end();
 
@@ -135,7 +135,7 @@ Pipette::Impl::Run::Run(Pipette* pipette)
 
 Pipette::Impl::Run::~Run()
 {
-    // Qt goes on with a view that it activates, or whose native window hands a key to a pop-up.
+    // Qt still uses a view that it activates, or whose native window hands a key to a pop-up.
     const bool isInUse = (m_context && m_isActivated) || QApplication::activePopupWidget();
     end();
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
@@ -169,7 +169,7 @@ void Pipette::Impl::Run::addView(QScreen* screen)
 bool Pipette::Impl::Run::show()
 {
     const int active = qMax(0, QGuiApplication::screens().indexOf(QGuiApplication::screenAt(QCursor::pos())));
-    // A window that is shown or activated may call back into the host, where everything can happen.
+    // A window that is shown or activated may call back into the host, which may do anything.
     const QPointer<Run> self = this;
     const auto goesOn = [&self] { return self && self->m_context; };
     for (int i = 0; goesOn() && i < m_views.size(); ++i) {
@@ -209,8 +209,8 @@ void Pipette::Impl::Run::watchApplication()
 }
 
 /// Whether an application that Qt reports inactive has lost the keyboard to another program or virtual
-/// desktop, and not only for as long as a slow window manager needs between two windows. True where nothing
-/// tells.
+/// desktop, and not only for as long as a slow window manager needs between two windows. True where that is
+/// unknown.
 bool Pipette::Impl::Run::isLeft() const
 {
     const std::optional<quint32> active = managersValue("_NET_ACTIVE_WINDOW");
@@ -230,7 +230,7 @@ void Pipette::Impl::Run::stop() const
     }
 }
 
-/// Qt does not say again that the application is inactive when the window manager has handed on the focus.
+/// Qt does not report the application inactive again when the window manager passes the focus on.
 bool Pipette::Impl::Run::nativeEventFilter([[maybe_unused]] const QByteArray& type,
                                            [[maybe_unused]] void* message, long* /*result*/)
 {
@@ -246,13 +246,13 @@ bool Pipette::Impl::Run::nativeEventFilter([[maybe_unused]] const QByteArray& ty
     return false;
 }
 
-/// Takes everything off the screens, which show it a little longer.
+/// Closes all windows, which the screens show a little longer.
 void Pipette::Impl::Run::end()
 {
     if (!m_context) {
         return;
     }
-    // First: windows that vanish may change what is active, and nobody is to hear of it from here.
+    // First: closing windows may change the active one, which must not be reported.
     m_context.reset();
     if (qApp) {
         // The next pick may begin at once.
@@ -265,7 +265,7 @@ void Pipette::Impl::Run::end()
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {
             m_reader.remove(view, view->geometry());
-            view->blockSignals(true); // for it sees the rest of what has ended the pick
+            view->blockSignals(true); // it still gets the event that ended the pick
             view->close();
         }
     }
@@ -285,7 +285,7 @@ bool Pipette::Impl::Run::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-/// The loupe is seen where it stands now, from now on.
+/// Records where the loupe is painted from now on.
 void Pipette::Impl::Run::noteLoupe(const PipetteScreenView& view)
 {
     const QGraphicsItem* const item = m_loupe ? m_loupe->graphicsProxyWidget() : nullptr;
@@ -343,17 +343,17 @@ void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)
                      [this, pipette](const ScreenColorSource::Result& result) { finish(pipette, result); }));
 }
 
-/// Not a part of the functions that call it: neither a run nor a request may be there when a slot returns.
+/// Separate from its callers, whose run or request may be deleted in a slot.
 void Pipette::Impl::finish(Pipette* pipette, const ScreenColorSource::Result& result)
 {
     failureReason = result.color.isValid() ? QString() : result.reason;
     if (result.color.isValid()) {
-        // A copy: a slot may start another pick, which resets the color.
+        // A copy: a slot may start another pick, which resets the colour.
         const QColor selected = currentColor = result.color;
         const QPointer<Pipette> self = pipette;
         const int endsBefore = ends;
         Q_EMIT pipette->colorSelected(selected);
-        // A slot may have made it one more.
+        // A slot may have ended the pick.
         if (!self || ends != endsBefore) {
             return;
         }

@@ -56,7 +56,7 @@ public:
     static QString unavailableReason();
 
     /// Why the last startPicking() brought no colour although the user did not give up, in a sentence for the
-    /// user, such as a tool tip: what the ScreenColorSource said, or unavailableReason() where no pick began.
+    /// user, such as a tool tip: that of the ScreenColorSource, or unavailableReason() where no pick began.
     /// Empty otherwise, and during a pick; set before pickingStopped().
     QString failureReason() const;
 

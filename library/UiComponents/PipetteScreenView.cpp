@@ -49,8 +49,8 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
 
-    // The native window is made where the corner is: a pixel inside, so that no rounding takes it to the
-    // screen next to it.
+    // The native window is created where the corner is: a pixel inside, so that rounding cannot move it to
+    // the next screen.
     resize(10, 10);
     move(screenGeometry.topLeft() + QPoint(1, 1));
 
@@ -66,8 +66,8 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
 
     setViewportMargins(0, 0, 0, 0);
     // A native window that is mapped, unmapped and mapped again within one turn may stay unmapped: some
-    // window managers take the answer to the second step for one to the third. So the first two stay inside
-    // of Qt.
+    // window managers take the answer to the second step for one to the third. So the first two stay within
+    // Qt.
     setAttribute(Qt::WA_DontShowOnScreen);
     show();
     setAttribute(Qt::WA_DontShowOnScreen, false); // or the native window would not get its geometry
@@ -202,7 +202,7 @@ void PipetteScreenView::closeEvent(QCloseEvent*)
 void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
 {
     painter->drawPixmap(sceneRect().topLeft(), d->stillPicture);
-    // Over nothing, blending takes time for nothing.
+    // Blending with nothing would only take time.
     painter->setCompositionMode(d->stillPicture.isNull() ? QPainter::CompositionMode_Source
                                                          : QPainter::CompositionMode_SourceOver);
     QGraphicsView::drawBackground(painter, rect);
@@ -211,7 +211,7 @@ void PipetteScreenView::drawBackground(QPainter* painter, const QRectF& rect)
 
 void PipetteScreenView::setLoupeVisible(bool visible)
 {
-    // It dies with its widget and with its scene.
+    // It is deleted with its widget, and with its scene.
     const QGraphicsScene* const shown = scene();
     if (shown && shown->items().contains(d->loupeItem)) {
         d->loupeItem->setVisible(visible);
@@ -230,7 +230,7 @@ void PipetteScreenView::rebuildCursor()
     setCursor(d->cursor);
 }
 
-/// False when that has deleted it.
+/// Returns false if that has deleted it.
 bool PipetteScreenView::comeToFront()
 {
     const QPointer<PipetteScreenView> self = this;
@@ -260,8 +260,9 @@ void PipetteScreenView::showAtCursor(QEvent* event)
     }
 }
 
-/// A window manager that puts a frame around the window may leave Qt with the place within the frame, until
-/// it asks for the right one. A window manager that wants the window elsewhere gets its way.
+/// Where a window manager puts a frame around the window, Qt may take the place within the frame for its
+/// position, until the view sets the right one. A window manager that moves the window again is not
+/// overruled.
 void PipetteScreenView::returnOnce()
 {
     const QRect area = sceneRect().toRect();

@@ -12,7 +12,7 @@
  * into two signals.
  *
  * All views of one pick show the same scene, in coordinates of the desktop, with the loupe as its only item,
- * and each hides it when the cursor leaves or another window becomes active. A view is made hidden, on the
+ * and each hides it when the cursor leaves or another window becomes active. A view is created hidden, on the
  * right screen already. A style sheet can give it the cursor of the pick with all three
  * properties; without them, or with an empty size, it is the arrow.
  */
@@ -26,7 +26,7 @@ class PipetteScreenView : public QGraphicsView
     Q_PROPERTY(QSize cursorHotSpot READ cursorHotSpot WRITE setCursorHotSpot)
 
 public:
-    /// @p scene is not owned, may be null, and may die first; its bottom item is the loupe.
+    /// @p scene is not owned, may be null, and may be deleted first; its bottom item is the loupe.
     /// @p screenGeometry is that of the screen, in coordinates of the desktop.
     PipetteScreenView(QGraphicsScene* scene, const QRect& screenGeometry);
     ~PipetteScreenView() override;
@@ -38,7 +38,7 @@ public:
     /// What the view shows below the overlay where no compositor lets the screen show through.
     void setStillPicture(const QPixmap& picture);
 
-    /// Raises and activates it. False when that has deleted it.
+    /// Raises and activates it. Returns false if that has deleted it.
     bool comeToFront();
 
 Q_SIGNALS:

@@ -36,7 +36,7 @@ public:
     bool move(const QMouseEvent& event);
     bool release(const QMouseEvent& event);
     bool pressKey(const QKeyEvent& event);
-    /// Whether a key asks for a step beyond the edge, which leaves the marker in its place.
+    /// Whether a key would move the marker beyond the edge, which leaves it in its place.
     bool isAtEdge(const QKeyEvent& event) const;
 
     /// Releases the mouse without a report. A hidden or disabled widget would keep the grab, and with it

@@ -188,7 +188,7 @@ void PointSelectionPlane::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    // What no sheet colours is the palette's.
+    // The palette's colours, where no sheet sets others.
     const auto colorOr = [this](const QColor& color, QPalette::ColorRole role) {
         return color.isValid() ? color : palette().color(role);
     };

@@ -23,7 +23,7 @@
  * window, while the point stays on the edge. Hiding or disabling the plane ends the grab without a report.
  *
  * **Readers** find a group of two sliders, x and y, in the host's units, which they may set while the plane
- * is enabled; the keys are those of the plane. A step is said once, and a drag when it is over.
+ * is enabled; the keys are those of the plane. A step is announced once, and a drag when it is over.
  *
  * **Painting.** A flat background, two fixed axes through the middle, a round marker at the point, and, for
  * users who come by keyboard, the edge of the style's focus rectangle. Size and frame are the sheet's;

@@ -81,7 +81,7 @@ Q_SIGNALS:
     ///
     /// A slot may set another value: the three parts then agree on it, and pending reports of the earlier one
     /// come last. While the user types or steps in a spin box, or leaves it, a slot must delete the field
-    /// with deleteLater(), since QAbstractSpinBox goes on.
+    /// with deleteLater(), since QAbstractSpinBox still uses it after the signal.
     void valueChanged(QPointF value);
 
 protected:

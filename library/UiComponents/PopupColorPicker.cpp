@@ -36,8 +36,7 @@ bool isChildOf(const QWidget* widget, const QWidget* ancestor)
     return widget;
 }
 
-/// Closes what @p window has open above itself. To hide it would do that amid its own hiding, when nobody
-/// may delete it.
+/// Closes the pop-ups above @p window. Hiding it would close them on the way, where no slot may delete it.
 void closePopupsOf(const QPointer<QWidget>& window)
 {
     QWidget* top = QApplication::activePopupWidget();
@@ -122,7 +121,7 @@ public:
     bool isShowingColor = false;
 };
 
-/// The panel in its window, for whichever picker uses it. To everybody else it is an OvFrame.
+/// The panel in its window, for whichever picker uses it. Its class name is OvFrame's.
 class PopupColorPicker::Popup : public OvFrame // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -380,7 +379,7 @@ void PopupColorPicker::Private::takeSample(const std::optional<QColor>& color)
     }
 }
 
-/// A key that ends a pipette is still on its way, and would reach the pop-up.
+/// Queued: a key that ends a pipette is still being delivered, and would reach the pop-up.
 void PopupColorPicker::Private::endSampling()
 {
     pipetteListener.reset();
@@ -439,7 +438,7 @@ void PopupColorPicker::Private::closePopup() const
     }
 }
 
-/// The pop-up has closed, or dies: what makes it do so, perhaps a press, goes on after this.
+/// Called while the pop-up is hidden or destroyed. The caller, perhaps a mouse press, still uses it.
 void PopupColorPicker::Private::onHidden()
 {
     if (state == State::Picking) {
@@ -532,7 +531,7 @@ void PopupColorPicker::stop()
 std::optional<QColor> PopupColorPicker::color()
 {
     if (!isInProgress()) {
-        // It has taken each preview, and has what the host has set since.
+        // The field has taken each preview, and what the host has set since.
         d->askField();
     }
     return d->current;

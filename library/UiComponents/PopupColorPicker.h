@@ -20,7 +20,7 @@ class ColorPickerWidget;
  * the pop-up.
  * While the panel has its selector open, these close that one first, except stop().
  *
- * The panel's pipette button puts the pop-up aside and picks from the screen with a Pipette, or with the
+ * The panel's pipette button hides the pop-up and picks from the screen with a Pipette, or with the
  * picker that setPipette() names, and then shows the pop-up again. A colour from there takes the alpha of
  * the present colour while opacity can be adjusted. Enter and Space begin a pick on the field; the focus is
  * then on the button of the present colour, or in the edit for its value.
@@ -33,8 +33,8 @@ class ColorPickerWidget;
  * **Style sheet.** The pop-up is an OvFrame, "colorPanelPopup", with the property "roundedEdges" (see
  * Workaround::Ui::apply()): `#colorPanelPopup { qproperty-layoutMargin: 12; }`.
  *
- * **Lifetime.** When the user closes the pop-up, pickingStopped() is emitted from the event loop: Qt goes on
- * using a pop-up that a press has closed.
+ * **Lifetime.** When the user closes the pop-up, pickingStopped() is emitted from the event loop: Qt still
+ * uses a pop-up that a press has closed.
  * @see ColorPickerButton, ColorInputWidget, ColorPickerWidget, Pipette
  */
 class UICOMPONENTS_EXPORT PopupColorPicker : public AbstractColorPicker

@@ -21,7 +21,7 @@
 
 namespace {
 
-// Qt would wait for ever for what a pipe never says, and not survive a file that is too large for it.
+// Qt would block on a pipe, and crash on a file that is too large.
 bool isLoadable(const QUrl& url)
 {
     if (!url.isLocalFile()) {
@@ -87,7 +87,7 @@ public:
     const std::unique_ptr<QQmlAbstractUrlInterceptor> interceptor = std::make_unique<LocalFilesOnly>();
     // Owned, but a parent may delete them first.
     const QPointer<QWidget> container = new QWidget;
-    // A scene may change its size while the view dies, and is no SceneView any more.
+    // A scene may change its size while the view is being destroyed and is no SceneView any more.
     const QPointer<QQuickWidget> view = new SceneView;
     int state = Undefined;
 };

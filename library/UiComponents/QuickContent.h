@@ -40,9 +40,9 @@ namespace Qml {
  * is not valid changes nothing, nor does one that is empty while the container is visible.
  *
  * **Lifetime.** This object deletes container and view, in whichever window they are: take the container out
- * of a window (`setParent(nullptr)`) before using it elsewhere. A window that dies first takes the container
- * with it, and nothing can be loaded or shown any more. Handlers of the scene must neither delete this object
- * nor load it again; deleteLater() is safe.
+ * of a window (`setParent(nullptr)`) before using it elsewhere. A window that is deleted first takes the
+ * container with it, and nothing can be loaded or shown any more. Handlers of the scene must neither delete
+ * this object nor load it again; deleteLater() is safe.
  * @see QuickDialog
  */
 class UICOMPONENTS_EXPORT QuickContent : public QObject
@@ -56,7 +56,7 @@ public:
     ~QuickContent() override;
 
     /// Loads the file @p path, as QFile takes it, and returns when its scene is complete. isAvailable() then
-    /// tells the outcome.
+    /// returns the outcome.
     ///
     /// It fails when there is no such file, when the file makes no item (it cannot be read, has errors,
     /// imports what is not there, or its root is a window or no item at all), and when the root item's
@@ -74,13 +74,12 @@ public:
     /// Whether load() was never called. A content that failed is not undefined.
     bool isUndefined() const;
 
-    /// The container, which this object owns: a widget without a parent by default, null when it died with a
-    /// window that it was put into.
-    /// Readers find the scene's items below it, as below a QuickDialog.
+    /// The container, which this object owns: a widget without a parent by default, null after it was deleted
+    /// with a window that it was put into. Readers find the scene's items below it, as below a QuickDialog.
     QPointer<QWidget> getUiContent();
 
     /// The root context of the view's own engine, which owns it. The scene sees properties set on it before
-    /// loading. Null when the container died. Only hosts that use it link `Qt5::Qml`.
+    /// loading. Null after the container is deleted. Only hosts that use it link `Qt5::Qml`.
     QPointer<QQmlContext> qmlContext();
 
 private:

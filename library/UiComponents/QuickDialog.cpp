@@ -77,7 +77,7 @@ void awaitSize(const QPointer<QWidget>& container, const QDialog* dialog)
     QObject::connect(root, &QObject::destroyed, &loop, &QEventLoop::quit);
     QObject::connect(dialog, &QDialog::finished, &loop, &QEventLoop::quit);
     QTimer::singleShot(sizeGraceMs, &loop, &QEventLoop::quit);
-    // User input waits for the dialog.
+    // User input stays queued for the dialog.
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 

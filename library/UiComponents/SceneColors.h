@@ -14,8 +14,8 @@ class SceneColors : public QQmlPropertyMap
     Q_OBJECT
 
 public:
-    /// Makes `import UiComponents 0.1` known to all engines, with one object for each. The application's
-    /// thread calls it, any number of times.
+    /// Registers `import UiComponents 0.1` for all engines, with one object for each. Call it in the
+    /// application's thread, any number of times.
     static void registerType();
 
     explicit SceneColors(QObject* parent = nullptr);

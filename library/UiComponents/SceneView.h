@@ -1,10 +1,10 @@
-// Internal: the view of QuickContent, which AccessibleFactory tells from a host's own.
+// Internal: the view of QuickContent, which AccessibleFactory distinguishes from a host's own.
 
 #pragma once
 
 #include <QQuickWidget>
 
-/// It calls itself a QQuickWidget.
+/// Its class name is QQuickWidget's.
 class SceneView : public QQuickWidget // clazy:exclude=missing-qobject-macro
 {
 public:

@@ -12,11 +12,12 @@
 class QWindow;
 
 /**
- * What asks the user for a colour of the screen in the place of Pipette's own windows.
+ * Picks a colour of the screen in the place of Pipette's own windows.
  *
  * Pipette covers the screens itself where the program may read them. On Wayland no program may: there the
- * desktop's portal shows a picker of its own (org.freedesktop.portal.Screenshot). A host that knows better,
- * and a test, implement this class and install() an object of it, which all pipettes use from then on.
+ * desktop's portal shows a picker of its own (org.freedesktop.portal.Screenshot). A host with another
+ * source, and a test, implement this class and install() an object of it, which all pipettes use from then
+ * on.
  *
  * Everything is asynchronous: pick() only sends the request, and the answer comes from the event loop. One
  * for the tests of a host, whose user always picks red:
@@ -54,8 +55,8 @@ public:
     /// are no portals, as on macOS. The portal is looked for at the first call.
     static ScreenColorSource* current();
 
-    /// Has all pipettes use @p source from their next pick on, whether the program may read the screen or
-    /// not; null, or its death, gives them back the platform's. It is not owned. Install it before there are
+    /// Makes all pipettes use @p source from their next pick on, whether the program may read the screen or
+    /// not; null, or deleting it, restores the platform's. It is not owned. Install it before there are
     /// colour panels, whose buttons listen to the source that they find.
     static void install(ScreenColorSource* source);
 

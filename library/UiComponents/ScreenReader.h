@@ -46,12 +46,12 @@ public:
 /**
  * Reads the screens below what a picker paints over them, at once.
  *
- * A compositor shows a painting some frames later: a grab may still hold what a picker painted before. So the
- * reader takes a picture of the screens when it is made, and is told what the picker paints. Pixels that hold
- * such a painting, or held one lately, come from the picture, and so does all below a cover that has just
- * come. All others are grabbed, which refreshes the picture. All readers share what they know: settle() after
- * a pick, or the next picker takes what is left of it on the screens for what is to be picked. What a reader
- * is given is in points of the desktop; inside, everything is in device pixels.
+ * A compositor shows a painting some frames later: a grab may still hold what a picker painted before. So
+ * this grabs the screens when it is constructed, and records what the picker paints. Pixels that the picker
+ * has painted, now or in the last second, are read from that picture, and so are all below a cover that has
+ * just appeared. All others are grabbed, which updates the picture. All instances share the pictures and
+ * records: call settle() after a pick, or the next picker picks what is left of it on the screens. Arguments
+ * are in points of the desktop; inside, everything is in device pixels.
  */
 class ScreenReader
 {
@@ -62,7 +62,7 @@ public:
         Overlay, ///< overlayColor(), since a while after the last window was first painted
     };
 
-    /// A picture, and the color of its middle.
+    /// A picture, and the colour of its middle.
     struct Detail
     {
         QPixmap picture;
@@ -72,8 +72,8 @@ public:
     /// Longer than any compositor takes to show a painting, in milliseconds.
     static constexpr int settleTime = 1000;
 
-    /// The color with which the pipette covers the screens: black, as thin as it can be. A window without any
-    /// would let the mouse through.
+    /// The colour with which the pipette covers the screens: black, as transparent as it can be. A window
+    /// without any would let the mouse through.
     static QColor overlayColor();
 
     /// Takes the picture of @p area.
@@ -88,18 +88,18 @@ public:
     /// @p painter has gone, with its cover on @p area.
     void remove(const void* painter, const QRegion& area = {});
 
-    /// Looks at the part @p area of a screen before something is painted there.
+    /// Grabs the part @p area of a screen before something is painted there.
     void refresh(const QRect& area, QScreen& screen);
 
-    /// Keeps what is known for settleTime more.
+    /// Keeps pictures and records for settleTime more.
     void settle() const;
 
-    /// The opaque color at @p position, which lies between two points where the mouse is on a scaled screen.
+    /// The opaque colour at @p position, which lies between two points where the mouse is on a scaled screen.
     /// Where there is no picture it is black below an overlay and invalid otherwise; invalid on no screen.
     QColor colorAt(const QPointF& position);
 
     /// The @p size by @p size points around @p point, which is on @p screen, as they are grabbed, with an
-    /// overlay on them; transparent where there is no picture. The color is as colorAt() gives it.
+    /// overlay on them; transparent where there is no picture. The colour is as colorAt() gives it.
     Detail around(const QPoint& point, int size, QScreen& screen);
 
     /// An image and where it is.
@@ -123,7 +123,7 @@ private:
 
     ScreenSource* m_source;
     Cover m_cover;
-    /// When the cover is surely there.
+    /// When the cover is certainly visible.
     qint64 m_settledAt = std::numeric_limits<qint64>::max();
     std::shared_ptr<Memory> m_memory;
 };

@@ -120,7 +120,7 @@ void SearchWidget::Private::applyPlaceholderBrush() const
     searchLineEdit->setPalette(palette);
 }
 
-/// A change of style by the field itself brings no other sheet.
+/// Setting the property sends StyleChange without a new sheet.
 void SearchWidget::Private::setFocusHint(bool isOn)
 {
     isHinting = true;
@@ -212,7 +212,7 @@ void SearchWidget::showEvent(QShowEvent* event)
 
 void SearchWidget::changeEvent(QEvent* event)
 {
-    // A new sheet has colours of its own for what it shows already.
+    // A new sheet may have other placeholder colours.
     if (event->type() == QEvent::StyleChange && d->placeholderBrush && !d->isHinting) {
         updatePalette();
     }

@@ -35,8 +35,8 @@
  * **Readers** find a group of an edit for searches, with the name of the field or the placeholder and with
  * the text as its value, and the button. Tab goes from one to the other, Enter ends the edit.
  *
- * **Lifetime.** Slots of both signals delete the field with deleteLater(), since QLineEdit goes on after
- * reporting. A field that is destroyed, or whose window is, reports nothing.
+ * **Lifetime.** Slots of both signals delete the field with deleteLater(), since QLineEdit is still in
+ * use after the signal. A field that is destroyed, or whose window is, reports nothing.
  * @see Orvane::Tessel::TesselLineEdit, EditSession
  */
 class UICOMPONENTS_EXPORT SearchWidget : public OvFrame

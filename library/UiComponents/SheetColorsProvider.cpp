@@ -15,7 +15,7 @@ struct Role
     QPalette::ColorGroup group;
 };
 
-// What stands for a colour that no sheet names.
+// The value of a colour that no sheet names.
 constexpr Role roles[] = {
     {"window", QPalette::Window, QPalette::Active},
     {"card", QPalette::Window, QPalette::Active},

@@ -23,7 +23,7 @@
  * slider.
  *
  * **Readers** find a group of a slider with the name of the field and a spin box called "name, number", both
- * in the field's units, which they may set while the field is enabled. A drag is said when it is over.
+ * in the field's units, which they may set while the field is enabled. A drag is announced when it is over.
  * Arrows, Page Up and Page Down, Home and End work on the slider.
  *
  * **Style sheet.** The object names are "slider" and "spinbox"; the frame's metrics are OvFrame's properties:
@@ -62,7 +62,8 @@ Q_SIGNALS:
     /// The value became @p value, by the user or through setValue(). Emitted twice for each change, since
     /// both parts report it; both then show it already. A slot may set another value: after the first of the
     /// two reports, the second follows those of the other value. While the user types or steps in the spin
-    /// box, or leaves it, a slot must delete the field with deleteLater(), since QAbstractSpinBox goes on.
+    /// box, or leaves it, a slot must delete the field with deleteLater(), since QAbstractSpinBox still
+    /// uses it after the signal.
     void valueChanged(int value);
 
 private:

@@ -33,7 +33,7 @@ QString catalogues()
 // By its translation Qt takes the direction of a new language, with or without a catalogue of its own.
 [[maybe_unused]] const char* const textOfQt = QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION");
 
-// Installed once, and filled with one language after the other: their places among the host's stay.
+// Installed once, and filled with one language after the other, to keep their places among the host's.
 class Texts : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:

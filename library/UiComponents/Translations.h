@@ -8,7 +8,7 @@
 class QLocale;
 
 /**
- * The language of the texts that the components show, and of what readers say of them.
+ * The language of the texts that the components show, and of those for readers.
  *
  *     QApplication application(argc, argv);
  *     Translations::load(QLocale());

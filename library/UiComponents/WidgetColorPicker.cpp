@@ -31,16 +31,15 @@ QRect onDesktop(const QWidget& widget)
 /// Where a widget at @p area may have its outline.
 QRegion outlineOf(const QRect& area)
 {
-    // A window manager may place a window between two points, which Qt knows nothing of.
+    // A window manager may place a window at fractional positions, which Qt does not report.
     constexpr int displacement = 2;
-    constexpr int widest = 8;
+    constexpr int maxOutlineWidth = 8;
     return QRegion(area.adjusted(-displacement, -displacement, displacement, displacement)) -
-           area.adjusted(widest, widest, -widest, -widest);
+           area.adjusted(maxOutlineWidth, maxOutlineWidth, -maxOutlineWidth, -maxOutlineWidth);
 }
 
-/// Keeps from all widgets the double click that Qt makes of a press which was kept from them: a button takes
-/// it for a press and stays down, as it is not told of the release. Deletes itself with the next press or
-/// release.
+/// Swallows the double click that Qt makes of a swallowed press: a button would stay down, since it gets no
+/// release. Deletes itself with the next press or release.
 class SwallowedPress : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -63,7 +62,7 @@ public:
 
 } // namespace
 
-/// Belongs to the picker, and to each pick() on the stack, which returns into it after the picker has died.
+/// Shared by the picker and each pick() on the stack, which still uses it after the picker is deleted.
 class WidgetColorPicker::Private
 {
 public:
@@ -71,12 +70,12 @@ public:
     struct Run
     {
         QEventLoop loop;
-        /// Where the target had its outline put, and the screen as it was before.
+        /// Where the target got its outline, and the screen before that.
         QRect place;
         std::optional<ScreenReader> reader;
         /// Where the cursor was when stop() ended it; empty until then.
         std::optional<QPointF> end;
-        /// The color there; invalid beside the target.
+        /// The colour there; invalid beside the target.
         QColor color;
     };
 
@@ -92,7 +91,7 @@ public:
     bool isOverTarget(const QPointF& position) const;
     QColor colorAt(const QPointF& position, Run& of) const;
 
-    /// Null when the picker has died.
+    /// Null after the picker is deleted.
     WidgetColorPicker* owner = nullptr;
     QVector<QPointer<QWidget>> widgets;
     /// The one that began last.
@@ -107,8 +106,7 @@ public:
 
     /// Where the mouse was in its last event, in global coordinates.
     QPointF mouse;
-    /// From where Qt says that the window below it is to where it is: on a scaled screen that may be between
-    /// two points, which a widget's own conversions know nothing of.
+    /// The offset from Qt's position of the window to its real one, fractional on scaled screens.
     QPointF windowShift;
 };
 
@@ -121,7 +119,7 @@ void WidgetColorPicker::Private::applyTarget()
 {
     cursorGuard = std::make_unique<CursorGuard>(target, cursor);
     removeOutline(*run);
-    // The former target has painted itself, in which the host's code runs.
+    // The former target may have painted itself, which runs the host's code.
     if (!target) {
         return;
     }
@@ -168,7 +166,7 @@ void WidgetColorPicker::Private::pick()
     if (!thisRun.end || !owner || !target || !isOverTarget(position)) {
         return;
     }
-    // The target may have come to the cursor since.
+    // The target may have moved to the cursor since.
     const bool isKnown = thisRun.end == position && thisRun.color.isValid();
     const QColor picked = isKnown ? thisRun.color : colorAt(position, thisRun);
     const QPointer<WidgetColorPicker> picker = owner;
@@ -190,8 +188,8 @@ void WidgetColorPicker::Private::stop()
     ending.loop.quit();
     removeOutline(ending);
     cursorGuard.reset();
-    // Now: what ends the pick may close or change the target before the loop returns. Not with the picker:
-    // the target may be dying around it.
+    // Now: what ends the pick may close or change the target before the loop returns. Not while the
+    // picker is deleted: the target may be half-destroyed.
     ending.end = cursorPosition();
     ending.color = owner && target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
 }
@@ -202,7 +200,7 @@ void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseE
     if (const auto* window = qobject_cast<const QWindow*>(watched)) {
         const QPointF shift = mouse - event.windowPos() - window->mapToGlobal(QPoint(0, 0));
         const bool isOfRounding = qAbs(shift.x()) < 1 && qAbs(shift.y()) < 1;
-        // More than that is a move that Qt has not heard of yet.
+        // A larger offset is a move that Qt has not processed yet.
         windowShift = isOfRounding ? shift : QPointF();
     }
 }
@@ -220,10 +218,10 @@ bool WidgetColorPicker::Private::isActiveAt(const QPointF& position) const
 /// Not rounded, when the mouse is where its last event was.
 QPointF WidgetColorPicker::Private::cursorPosition() const
 {
-    constexpr double most = 0.501;
+    constexpr double maxRounding = 0.501;
     const QPoint rounded = QCursor::pos();
     const QPointF distance = mouse - rounded;
-    return qAbs(distance.x()) < most && qAbs(distance.y()) < most ? mouse : rounded;
+    return qAbs(distance.x()) < maxRounding && qAbs(distance.y()) < maxRounding ? mouse : rounded;
 }
 
 bool WidgetColorPicker::Private::isOverTarget(const QPointF& position) const
@@ -231,8 +229,8 @@ bool WidgetColorPicker::Private::isOverTarget(const QPointF& position) const
     return onDesktop(*target).contains(pointAt(position - windowShift));
 }
 
-/// What the screen shows there, or what the target paints where the screen does not tell: the target has
-/// taken its outline along, or the platform gives no picture.
+/// The colour that the screen shows there; or the one that the target paints, where the target has moved with
+/// its outline or the platform gives no picture.
 QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) const
 {
     const QPoint point = pointAt(position - windowShift);
@@ -297,7 +295,7 @@ QWidget* WidgetColorPicker::target() const
 
 void WidgetColorPicker::setStylingObject(WidgetColorPickerStylingObject* object)
 {
-    // The object may do anything when it is asked.
+    // The object's functions may do anything.
     const std::shared_ptr<Private> state = d;
     state->stylingObject = object;
     if (!state->cursorGuard) {
@@ -321,7 +319,7 @@ void WidgetColorPicker::pick()
     if (isInProgress() || !d->target) {
         return;
     }
-    // Kept alive here: the picker may die before the loop returns.
+    // Kept here: the picker may be deleted before the loop returns.
     const std::shared_ptr<Private> state = d;
     state->pick();
 }
@@ -344,7 +342,7 @@ void WidgetColorPicker::setColor(const std::optional<QColor>& color)
 
 bool WidgetColorPicker::eventFilter(QObject* watched, QEvent* event)
 {
-    // Painting the target without its outline is in the hands of the host, and may end in any way.
+    // The target's paint event may run any code of the host, which may delete the picker.
     const std::shared_ptr<Private> state = d;
     const QEvent::Type type = event->type();
     const bool isPress = type == QEvent::MouseButtonPress;

@@ -18,11 +18,11 @@ class WidgetColorPickerStylingObject;
  *
  * While picking, an Orvane::Gui::HighlightFrame outlines the target, which shows a picking cursor. The next
  * mouse press, or key that is no shortcut, ends it. A press over the target or over one of the constructor's
- * widgets is swallowed, with the double click that may come of it; all else goes on to its receiver.
+ * widgets is swallowed, with the double click that may follow; all else reaches its receiver.
  *
  * If the cursor is over the target as pick() returns, the pixel below it is picked: colorChanged() and then
  * pickingStopped() are emitted. Otherwise nothing is, and color() is invalid: a ColorPickerButton stays
- * pressed until a pick brings a colour. The target's death and the end of the application pick nothing.
+ * pressed until a pick brings a colour. Deleting the target or ending the application picks nothing.
  * Picks nest: one that is begun by what ended another is over first, and the cursor decides for both.
  *
  * The colour is opaque, and that of the screen when the pick ends, with whatever lies over the target, even
@@ -42,23 +42,23 @@ class UICOMPONENTS_EXPORT WidgetColorPicker : public AbstractColorPicker
 
 public:
     /// @p widgets get no presses while picking: name the button that starts it, and a click on it ends the
-    /// pick instead of starting the next one. They are not owned and may die; null is ignored. The picker
-    /// has no parent.
+    /// pick instead of starting the next one. They are not owned and may be deleted; null is ignored. The
+    /// picker has no parent.
     explicit WidgetColorPicker(const QSet<QWidget*>& widgets);
     /// Ends a running pick without a signal.
     ~WidgetColorPicker() override;
 
-    /// The widget to pick from, null at first. It is not owned; when it dies the target is null, and a
+    /// The widget to pick from, null at first. It is not owned; when it is deleted the target is null, and a
     /// running pick ends without a colour. Changed while picking, outline and cursor go over to the new
     /// target at once, and null ends the pick without a colour.
     void setTarget(QWidget* target);
     QWidget* target() const;
 
-    /// Who chooses the picking cursor. Without one, which is the default, or with null, it is a cross. The
-    /// object is borrowed: keep it until the picker has another, or dies. Set while picking, its cursor
-    /// shows at once; a running pick does not come back to it later. It may delete the picker or the target
-    /// when it is asked. If it calls pick(), that pick is the one that runs, and the one that asked it ends
-    /// in silence.
+    /// Sets what chooses the picking cursor. Without one, which is the default, or with null, it is a cross.
+    /// The object is borrowed: keep it until the picker has another, or is deleted. Set while picking, its
+    /// cursor shows at once; a running pick does not query it again later. Its functions may delete the
+    /// picker or the target. If one calls pick(), that pick runs, and the one that queried the cursor ends
+    /// without a signal.
     void setStylingObject(WidgetColorPickerStylingObject* object);
 
     /// True while pick() waits for the press or key that ends it.

@@ -18,7 +18,7 @@ public:
     {
     }
 
-    /// It has no parent, so that it dies while the button still is one.
+    /// Without a parent, so that it is deleted while the button still is one.
     const std::unique_ptr<WidgetColorPicker> picker;
     QColor color;
     bool changeSelfColor = true;

@@ -11,7 +11,7 @@ class WidgetColorPickerStylingObject;
 
 /**
  * A tool button that picks a colour from a widget, its target, with a WidgetColorPicker of its own. It keeps
- * the last colour and wears it on its face.
+ * the last colour and shows it.
  *
  *     auto* button = new WidgetColorPickerButton(this);
  *     button->setTargetWidget(preview);
@@ -22,9 +22,9 @@ class WidgetColorPickerStylingObject;
  * A click on the button itself ends it, and so does Space while it has the focus; neither begins the next
  * one. The button is disabled while it has no target. A new one has none.
  *
- * While changeSelfColor() is on, which is the default, the button paints nothing but the face of a push
- * button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into the
- * button's own style sheet, in the place of what was there. Border, size and padding are those that the
+ * While changeSelfColor() is on, which is the default, the button paints nothing but the background of a
+ * push button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into
+ * the button's own style sheet, in the place of what was there. Border, size and padding are those that the
  * application's sheet gives to WidgetColorPickerButton or QToolButton. Before the first colour, and for an
  * invalid one, the property "nullColor" (bool) is true, and a sheet may give it a picture:
  *
@@ -47,7 +47,7 @@ public:
     /// Ends a running pick without a signal.
     ~WidgetColorPickerButton() override;
 
-    /// The widget to pick from. It enables the button, and null disables it, as does the death of the
+    /// The widget to pick from. It enables the button, and null disables it, as does deleting the
     /// target, which is not owned. See WidgetColorPicker::setTarget() for a change while picking.
     void setTargetWidget(QWidget* widget);
     const QWidget* targetWidget() const;
@@ -68,8 +68,8 @@ public:
     /// The colour that was picked or set last; invalid at first.
     const QColor& color() const;
 
-    /// What the last pick brought, also if the button wore that colour already; invalid while it runs and if
-    /// it brought none.
+    /// What the last pick brought, also if the button showed that colour already; invalid while it runs and
+    /// if it brought none.
     QColor pickedColor() const;
 
     /// True while a pick waits for the press or key that ends it.

@@ -32,7 +32,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(Operations)
  * - the empty path and resources;
  * - a path with a NUL in it, or with characters that the file system's encoding cannot store;
  * - a path longer than 4,095 bytes in that encoding, or a name in it longer than 255;
- * - a path with a file, a device, a link that leads nowhere or the like in place of a folder, at its end
+ * - a path with a file, a device, a dangling link or the like in place of a folder, at its end
  *   or on the way.
  *
  * The same holds for a relative path. @p error, unless null, receives a translated message for the user

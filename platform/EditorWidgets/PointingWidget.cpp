@@ -284,10 +284,10 @@ void PointingWidget::Private::place()
     }
 }
 
-/// Has the compositor look at the place again.
+/// Hides and shows the bubble, so that the compositor places it again.
 void PointingWidget::Private::appearAnew()
 {
-    // Not amid a paint or a resize of the bubble, which may lead here.
+    // Queued: this may be called in a paint or resize event of the bubble.
     QMetaObject::invokeMethod(
         this,
         [this] {

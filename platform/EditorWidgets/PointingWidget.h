@@ -9,7 +9,7 @@
 
 class OvFrame;
 
-// The properties are written by style sheets, and nobody waits for them to change.
+// Style sheets write the properties; no notification is needed.
 // clazy:excludeall=qproperty-without-notify
 
 /**

@@ -101,7 +101,7 @@ bool HighlightFrame::targetChildEvent(const QChildEvent* event)
     return false;
 }
 
-/// Only the raised widget itself is told of QWidget::raise(). Overlays are not watched: two of them on one
+/// Only the raised widget gets the event of raise(). Overlays are not watched: two of them on one
 /// target would raise each other endlessly.
 void HighlightFrame::watchSibling(QObject* child)
 {

@@ -1,5 +1,5 @@
 // Internal: the outline that HighlightFrame lays over its target.
-// Style sheets write the properties; nobody needs to be notified.
+// Style sheets write the properties; no notification is needed.
 // clazy:excludeall=qproperty-without-notify
 
 #pragma once

@@ -16,8 +16,8 @@ namespace {
 // QSettings takes a larger one for an empty one, which it then writes over, or for all of the memory.
 constexpr qint64 maxFileSize = 64 * 1024 * 1024;
 
-/// The files of the application and of its organisation, the user's own first. QSettings is not opened to ask
-/// it: it would wait for ever for what a pipe never says. It is asked for those of an organisation that does
+/// The files of the application and of its organisation, the user's own first. Found without opening
+/// them: a QSettings would block on a pipe. Their paths are derived from those of an organisation that does
 /// not exist.
 QStringList filesOf(const QString& organization, const QString& application, QSettings::Format format)
 {
@@ -51,7 +51,7 @@ bool isReadable(const QString& path)
 }
 
 // Opened for each call: the host may construct widgets before it sets its organisation and name. Null where
-// there is something else than a file of settings.
+// something else than a file of settings exists.
 std::unique_ptr<QSettings> open()
 {
     const QString name = QCoreApplication::organizationName();

@@ -180,7 +180,7 @@ public:
     double grip = 0.0;           // during a drag: distance of cursor and handle's middle, in pixels
     double wheelRemainder = 0.0; // the wheel's turn that is less than a step yet
     QStyle::SubControl hovered = QStyle::SC_None;
-    bool isUnsaid = false; // during a drag: readers do not know the value yet
+    bool isUnsaid = false; // during a drag: no event has been sent for the value yet
 };
 
 OvCustomSlider::OvCustomSlider(QWidget* parent)

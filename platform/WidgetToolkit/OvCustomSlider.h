@@ -9,7 +9,7 @@
 /**
  * A QSlider that goes where it is clicked and is safe to scroll past.
  *
- * - A left click beside the handle moves the handle's centre there at once, and a drag goes on from there.
+ * - A left click beside the handle moves the handle's centre there at once, and a drag continues from there.
  *   The signals are those of a drag from the handle: sliderPressed(), then sliderMoved() and, with tracking,
  *   valueChanged(). A press on the handle moves nothing. This holds in both orientations, inverted, from
  *   right to left, and with a handle and groove that a style sheet moves. The middle button does the same
@@ -19,15 +19,15 @@
  *   not give focus: the focus policy is Qt::StrongFocus.
  * - Every range of 32 bits is painted and clicked correctly, where QSlider loses its handle, or divides by
  *   zero, from 2^31 steps on. There is at most one tick for each pixel, where QSlider draws billions.
- * - Readers are told of a drag once, when it is over, and of each step by a key or the wheel.
+ * - Readers get one event for a drag, when it is over, and one for each step by a key or the wheel.
  *
  * A style sheet selects the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page` and
  * `::sub-page`.
  *
  * **Lifetime.** Slots of signals that mouse, wheel or keys cause may delete the slider, and so may those of a
- * valueChanged() that setValue() causes. Behind the signals of setRange(), setMinimum(), setMaximum(),
- * setSliderDown(), setSliderPosition(), triggerAction() and setEnabled(), and behind sliderMoved() of a
- * setValue() during a drag, QAbstractSlider goes on: use deleteLater() there.
+ * valueChanged() that setValue() causes. After the signals of setRange(), setMinimum(), setMaximum(),
+ * setSliderDown(), setSliderPosition(), triggerAction() and setEnabled(), and after sliderMoved() of a
+ * setValue() during a drag, QAbstractSlider still uses the slider: use deleteLater() there.
  * @see OvDoubleSlider, Util::bindWidgets()
  */
 class WIDGETTOOLKIT_EXPORT OvCustomSlider : public QSlider

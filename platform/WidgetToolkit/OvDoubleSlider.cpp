@@ -66,7 +66,7 @@ void OvDoubleSlider::Private::deriveValue()
 
 void OvDoubleSlider::Private::announce()
 {
-    // QAbstractSlider tells readers of another step.
+    // QAbstractSlider sends the event for another step.
     const bool isWithinStep = std::exchange(announcedStep, q->value()) == q->value();
     if (value == announced) {
         return;
@@ -93,7 +93,7 @@ OvDoubleSlider::OvDoubleSlider(QWidget* parent)
     , d(std::make_unique<Private>(this))
 {
     SliderAccess::install();
-    // Not in sliderChange(), after which QAbstractSlider goes on using the slider.
+    // Not in sliderChange(), after which QAbstractSlider still uses the slider.
     connect(this, &QAbstractSlider::valueChanged, this, [this] { d->announce(); });
 }
 
@@ -120,7 +120,7 @@ void OvDoubleSlider::setMultiplier(double multiplier)
 
 double OvDoubleSlider::doubleValue() const
 {
-    // Readers ask while QAbstractSlider has another step, and has not told of it yet.
+    // Queried after QAbstractSlider has changed its value and before it emits.
     return d->step == value() ? d->value : d->scale.valueOf(value());
 }
 

@@ -9,7 +9,7 @@
 class QMovie;
 
 /**
- * Plays an animated image, scaled to the widget.
+ * Plays an animated picture, scaled to the widget.
  *
  * The image keeps its aspect ratio and is centred in the contents rectangle, inside a style sheet's border
  * and padding. It is scaled smoothly in device pixels; a disabled widget shows it as the style shows disabled

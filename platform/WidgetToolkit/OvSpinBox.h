@@ -16,8 +16,8 @@
  * All else is as in QSpinBox.
  *
  * **Lifetime.** Slots of signals that Enter causes may delete the spin box, and so may those of a
- * valueChanged() that setValue() causes. Behind all others, above all while the user types or steps,
- * QAbstractSpinBox goes on: use deleteLater() there.
+ * valueChanged() that setValue() causes. After all others, above all while the user types or steps,
+ * QAbstractSpinBox still uses the spin box: use deleteLater() there.
  * @see OvDoubleSpinBox, Util::bindWidgets()
  */
 class WIDGETTOOLKIT_EXPORT OvSpinBox : public QSpinBox

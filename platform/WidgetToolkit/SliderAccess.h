@@ -1,4 +1,4 @@
-// Internal: what sliders tell those who do not see them.
+// Internal: accessibility of sliders.
 
 #pragma once
 
@@ -9,17 +9,17 @@ class QAbstractSlider;
 
 namespace SliderAccess {
 
-/// Makes readers hear units of an OvDoubleSlider, where Qt would tell them its steps. Called by constructors:
-/// Qt forgets factories with each application.
+/// Installs the factory that reports an OvDoubleSlider's value in units. Called by each constructor, since Qt
+/// drops factories with the application.
 void install();
 
-/// Says that @p slider has another value.
+/// Sends a ValueChanged event for @p slider.
 void announce(QAbstractSlider* slider);
 
 /**
- * Keeps back what Qt says about the value of one slider, as long as it lives. QAbstractSlider says each step
- * of a drag, and only a handler in the place of the desktop's bridge can keep it from that. Everything else
- * is passed on.
+ * Suppresses the value events of one slider while it exists. QAbstractSlider sends one for each step of a
+ * drag, and only a handler in the place of the desktop's bridge can suppress it. All other events are passed
+ * on.
  */
 class Silence
 {
@@ -29,7 +29,7 @@ public:
     Silence(const Silence&) = delete;
     Silence& operator=(const Silence&) = delete;
 
-    /// Whether there was something to say.
+    /// Whether an event was suppressed.
     bool hasHeld() const { return m_hasHeld; }
 
 private:

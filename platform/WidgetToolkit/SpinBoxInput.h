@@ -18,11 +18,11 @@ bool isCommit(const QKeyEvent* event);
 template <typename SpinBox>
 void announceValue(SpinBox* box);
 
-/// Tells readers of the value, as Qt does after a key or a click.
+/// Sends a ValueChanged event, as Qt does after a key or a click.
 void tellReaders(QObject* box, const QVariant& value);
 
-/// Calls @p turn, Qt's handler of the wheel, for a @p box with the focus, and tells readers what it changes.
-/// Slots may delete @p box.
+/// Calls @p turn, Qt's handler of the wheel, for a @p box with the focus, and sends a ValueChanged event for
+/// a change. Slots may delete @p box.
 template <typename SpinBox, typename Turn>
 void turnWheel(SpinBox* box, QWheelEvent* event, Turn turn)
 {

@@ -44,8 +44,8 @@ WIDGETTOOLKIT_EXPORT LayoutController* installLayoutController(QWidget* widget);
 /// owned. The spin box takes the slider's range and value, and follows both at once from then on; the slider
 /// follows the spin box's value, and its range, which a spin box does not announce, at the next value. Each
 /// side emits once for a change. A slot must use deleteLater() for a spin box while the user types or steps
-/// in it, and for a slider in setRange(), since their own code goes on. Binding a pair again, or a null
-/// argument, does nothing.
+/// in it, and for a slider in setRange(), since Qt still uses them after the signal. Binding a pair again, or
+/// a null argument, does nothing.
 WIDGETTOOLKIT_EXPORT void bindWidgets(QAbstractSlider* slider, QSpinBox* spinBox);
 
 /// The same for fractions, through the slider's multiplier. A typed value reads back digit for digit: the
