@@ -29,8 +29,8 @@
  * picks instead, with the same signals. Xwayland shows nothing of other applications: run on Wayland itself.
  * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
  *
- * A style sheet gives the loupe its size, its rim, which is painted over the picture, and what is seen beyond
- * the desktop's edge; the cursor's hot spot is a point of the scaled picture:
+ * **Style sheet.** It gives the loupe its size, its rim, which is painted over the picture, and what is seen
+ * beyond the desktop's edge; the cursor's hot spot is a point of the scaled picture:
  *
  *     LoupeWidget { background: transparent; border: 2px solid white; border-radius: 58px; min-width: 113px;
  *                   min-height: 113px; qproperty-emptyPixelsColor: #202020; }

@@ -22,11 +22,11 @@ class WidgetColorPickerStylingObject;
  * A click on the button itself ends it, and so does Space while it has the focus; neither begins the next
  * one. The button is disabled while it has no target. A new one has none.
  *
- * While changeSelfColor() is on, which is the default, the button paints nothing but the background of a
- * push button, without text and icon, and each colour writes `QToolButton { background-color: #rrggbb }` into
- * the button's own style sheet, in the place of what was there. Border, size and padding are those that the
- * application's sheet gives to WidgetColorPickerButton or QToolButton. Before the first colour, and for an
- * invalid one, the property "nullColor" (bool) is true, and a sheet may give it a picture:
+ * **Style sheet.** While changeSelfColor() is on, which is the default, the button paints nothing but the
+ * background of a push button, without text and icon. Each colour replaces the button's own style sheet by
+ * `QToolButton { background-color: #rrggbb }`. Border, size and padding are those that the application's
+ * sheet gives to WidgetColorPickerButton or QToolButton. Before the first colour, and for an invalid one, the
+ * property "nullColor" (bool) is true, and a sheet may give it a picture:
  *
  *     WidgetColorPickerButton[changeSelfColor="true"][nullColor="true"] { background-image: url(d.png); }
  *

@@ -9,7 +9,9 @@ namespace Orvane::Tessel {
  * A slider with the design system's look: a slim groove and a round handle.
  *
  * A click on the groove goes to that place, the wheel moves it only with focus, and it is vertical by default
- * (see OvCustomSlider). A style sheet sets the look by QSlider's sub-controls:
+ * (see OvCustomSlider).
+ *
+ * **Style sheet.** QSlider's sub-controls set the look:
  *
  *     Orvane--Tessel--TesselElegantSlider::groove:horizontal { height: 4px; background: #444444; }
  *     Orvane--Tessel--TesselElegantSlider::handle:horizontal { width: 14px; margin: -5px 0; }

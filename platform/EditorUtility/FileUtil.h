@@ -14,6 +14,7 @@
  * allowed to see is missing for it.
  *
  * Every call reads the disk, which may be slow or asleep: do not call them for every key press.
+ * @see FS::exists()
  */
 namespace FileUtil {
 

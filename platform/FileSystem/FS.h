@@ -6,6 +6,7 @@
 
 /**
  * Queries to the file system.
+ * @see FileUtil
  */
 namespace FS {
 

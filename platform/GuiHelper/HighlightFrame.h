@@ -20,8 +20,8 @@ namespace Orvane::Gui {
  * as QSplitter, do not adopt this one. (Only what reads all children without a layout sees it, such as
  * QWidget::childrenRect().)
  *
- * A style sheet selects the overlay by its class `HighlightFrameOverlay` or its object name "highlightFrame"
- * and sets
+ * **Style sheet.** Select the overlay by its class `HighlightFrameOverlay` or its object name
+ * "highlightFrame", and set
  *
  *     qproperty-borderColor   the outline's colour; by default the palette's highlight colour
  *     qproperty-borderWidth   its width in pixels, inwards from the target's edge; 2 by default

@@ -17,10 +17,11 @@
  *   left edge, or the right one from right to left. It widens when the items are translated while it is open,
  *   on QEvent::LanguageChange.
  *
- * The dynamic property "popupVisible" is true while the pop-up is open, and false otherwise: a style sheet
- * selects `OvComboBox[popupVisible="true"]`. All else is as in QComboBox.
+ * **Style sheet.** The dynamic property "popupVisible" is true while the pop-up is open, and false otherwise:
+ * select `OvComboBox[popupVisible="true"]`. All else is as in QComboBox.
  *
  * None of this relies on changeEvent(): a subclass may swallow those events.
+ * @see Orvane::Tessel::convertComboBoxToTessel()
  */
 class WIDGETTOOLKIT_EXPORT OvComboBox : public QComboBox
 {

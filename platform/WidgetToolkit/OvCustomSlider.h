@@ -21,7 +21,7 @@
  *   zero, from 2^31 steps on. There is at most one tick for each pixel, where QSlider draws billions.
  * - Readers get one event for a drag, when it is over, and one for each step by a key or the wheel.
  *
- * A style sheet selects the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page` and
+ * **Style sheet.** Select the class name and QSlider's sub-controls `::groove`, `::handle`, `::add-page` and
  * `::sub-page`.
  *
  * **Lifetime.** Slots of signals that mouse, wheel or keys cause may delete the slider, and so may those of a

@@ -15,6 +15,7 @@ class QWidget;
 
 /**
  * Functions that set what a style sheet selects, and that bind controls to each other.
+ * @see LayoutController, ColorHint, OvDoubleSlider, OvSpinBox
  */
 namespace Util {
 
