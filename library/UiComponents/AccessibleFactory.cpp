@@ -20,31 +20,9 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPointer>
+#include <QScopeGuard>
 
 namespace {
-
-class Registration
-{
-public:
-    Registration() = default;
-    ~Registration() { QAccessible::removeFactory(AccessibleFactory::interfaceFor); }
-    Registration(const Registration&) = delete;
-    Registration& operator=(const Registration&) = delete;
-
-    void renew()
-    {
-        // Qt drops all factories with the application.
-        if (m_application != QCoreApplication::instance()) {
-            m_application = QCoreApplication::instance();
-            // The toolkit's, which its first slider installs, has to be there before.
-            const OvDoubleSlider slider;
-            QAccessible::installFactory(AccessibleFactory::interfaceFor);
-        }
-    }
-
-private:
-    QPointer<QCoreApplication> m_application;
-};
 
 constexpr std::array<const char*, 2> pointAxes{QT_TRANSLATE_NOOP("PointSelectorWidget", "x"),
                                                QT_TRANSLATE_NOOP("PointSelectorWidget", "y")};
@@ -98,8 +76,15 @@ QAccessibleInterface* partFor(const QString& className, QWidget* widget)
 
 void AccessibleFactory::install()
 {
-    static Registration registration;
-    registration.renew();
+    static const auto undo = qScopeGuard([] { QAccessible::removeFactory(interfaceFor); });
+    static QPointer<QCoreApplication> application;
+    // Qt drops all factories with the application.
+    if (application != QCoreApplication::instance()) {
+        application = QCoreApplication::instance();
+        // The toolkit's, which its first slider installs, has to be there before.
+        const OvDoubleSlider slider;
+        QAccessible::installFactory(interfaceFor);
+    }
 }
 
 QAccessibleInterface* AccessibleFactory::interfaceFor(const QString& className, QObject* object)

@@ -347,7 +347,7 @@ void* AccessibleSlider::interface_cast(QAccessible::InterfaceType type)
 
 QString AccessibleSlider::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Value ? QLocale().toString(currentValue().toDouble(), 'g', 6)
+    return kind == QAccessible::Value ? QLocale().toString(currentValue().toDouble())
                                       : AccessiblePart::text(kind);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ColorPickerButton.h"
 #include "LabelFocus.h"
+#include "NamedPart.h"
 
 #include <WidgetToolkit/OvBoxLayout.h>
 
@@ -16,10 +17,8 @@ public:
 
 ColorInputWidget::Private::Private(ColorInputWidget* field)
     : q(field)
-    , button(new ColorPickerButton(field))
+    , button(named("colorPicker", new ColorPickerButton(field)))
 {
-    button->setObjectName(QStringLiteral("colorPicker"));
-
     (new OvHBoxLayout(q))->autoFill();
 }
 

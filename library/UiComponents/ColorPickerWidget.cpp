@@ -30,7 +30,6 @@
 #include <QDialog>
 #include <QEvent>
 #include <QFocusEvent>
-#include <QGuiApplication>
 #include <QHash>
 #include <QKeyEvent>
 #include <QLabel>

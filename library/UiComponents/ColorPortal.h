@@ -39,7 +39,7 @@ public:
     /// In a sentence for the user; empty for none.
     static QString text(Trouble trouble);
 
-    /// @p timeLimit is for each message, in milliseconds; -1 is D-Bus's own of 25 seconds.
+    /// @p timeLimit is for each message, in milliseconds; -1, D-Bus's own of 25 seconds, for all but tests.
     ColorPortal(const QDBusConnection& bus, QObject* parent, int timeLimit = -1);
 
     QString unavailableReason() const override;

@@ -1,6 +1,7 @@
 #include "CustomColorSelectWidget.h"
 
 #include "ColorPlaneWidget.h"
+#include "NamedPart.h"
 
 #include <DesignElements/TesselElegantSlider.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -35,15 +36,11 @@ public:
 
 CustomColorSelectWidget::Private::Private(CustomColorSelectWidget* selector)
     : q(selector)
-    , colorPlane(new ColorPlaneWidget(selector))
-    , huePanel(new OvFrame(selector))
-    , hueLabel(new QLabel(huePanel))
-    , hueSlider(new Orvane::Tessel::TesselElegantSlider(huePanel))
+    , colorPlane(named("colorPlane", new ColorPlaneWidget(selector)))
+    , huePanel(named("huePanel", new OvFrame(selector)))
+    , hueLabel(named("hueLabel", new QLabel(huePanel)))
+    , hueSlider(named("hueSlider", new Orvane::Tessel::TesselElegantSlider(huePanel)))
 {
-    colorPlane->setObjectName(QStringLiteral("colorPlane"));
-    huePanel->setObjectName(QStringLiteral("huePanel"));
-    hueLabel->setObjectName(QStringLiteral("hueLabel"));
-    hueSlider->setObjectName(QStringLiteral("hueSlider"));
     (new OvVBoxLayout(huePanel))->autoFill();
     (new OvVBoxLayout(q))->autoFill();
 

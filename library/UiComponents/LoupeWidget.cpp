@@ -1,5 +1,7 @@
 #include "LoupeWidget.h"
 
+#include "NamedPart.h"
+
 #include <EditorWidgets/Workaround.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
@@ -28,8 +30,7 @@ LoupeWidget::LoupeWidget(QWidget* parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    d->colorNameLabel = new QLabel(this);
-    d->colorNameLabel->setObjectName(QStringLiteral("colorNameLabel"));
+    d->colorNameLabel = named("colorNameLabel", new QLabel(this));
     d->colorNameLabel->setTextFormat(Qt::PlainText);
     (new OvVBoxLayout(this))->autoFill();
     Util::installLayoutController(this);

@@ -1,10 +1,10 @@
 #include "MultiValueCover.h"
 
+#include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/Util.h>
 
 #include <QComboBox>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyleOptionComboBox>
@@ -130,9 +130,7 @@ void MultiValueCover::cover(QWidget* part)
         // Qt applies no style sheet to a QFrame that is a child of a combo box.
         cover = new QWidget(part);
         cover->setAttribute(Qt::WA_TransparentForMouseEvents);
-        auto* layout = new QHBoxLayout(cover);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(label);
+        (new OvHBoxLayout(cover))->addWidget(label);
     }
     cover->setGeometry(textRect(part));
     cover->show();

@@ -144,7 +144,7 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     , requiredLabel(named("requiredLabel", new QLabel(spaceInfoFrame)))
     , availableLabel(named("availableLabel", new QLabel(spaceInfoFrame)))
     , pathSelectionFrame(named("pathSelectionFrame", new OvFrame(widget)))
-    , pathLineEdit(new TesselLineEdit(pathSelectionFrame))
+    , pathLineEdit(named("pathLineEdit", new TesselLineEdit(pathSelectionFrame)))
     , pathBrowseButton(named("pathBrowseButton", new ClickButton(pathSelectionFrame)))
     , pathResetButton(named("pathResetButton", new ClickButton(pathSelectionFrame)))
     , errorLabel(named("errorLabel", new QLabel(widget)))
@@ -152,7 +152,6 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     , requiredSpace(requiredLabel, required)
     , availableSpace(availableLabel, available)
 {
-    pathLineEdit->setObjectName(QStringLiteral("pathLineEdit"));
     LabelFocus::lead(q, pathLineEdit);
     (new OvVBoxLayout(q))->autoFill();
     (new OvHBoxLayout(spaceInfoFrame))->autoFill()->addStretch(0);

@@ -15,7 +15,6 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QTimer>
-#include <QWindow>
 
 #include <glog/logging.h>
 #include <optional>

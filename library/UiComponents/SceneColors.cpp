@@ -1,29 +1,16 @@
 #include "SceneColors.h"
 
+#include <QScopeGuard>
 #include <qqml.h>
-
-namespace {
-
-class SceneType
-{
-public:
-    SceneType() = default;
-    // Qt stays when the library is unloaded, and would call the functions of the type.
-    ~SceneType() { QQmlPrivate::qmlunregister(QQmlPrivate::SingletonRegistration, quintptr(m_type)); }
-    SceneType(const SceneType&) = delete;
-    SceneType& operator=(const SceneType&) = delete;
-
-private:
-    const int m_type = qmlRegisterSingletonType<SceneColors>(
-        "UiComponents", 0, 1, "SheetColors",
-        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SceneColors; });
-};
-
-} // namespace
 
 void SceneColors::registerType()
 {
-    static const SceneType registration;
+    static const int type = qmlRegisterSingletonType<SceneColors>(
+        "UiComponents", 0, 1, "SheetColors",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SceneColors; });
+    // Qt stays when the library is unloaded, and would call the functions of the type.
+    static const auto undo =
+        qScopeGuard([] { QQmlPrivate::qmlunregister(QQmlPrivate::SingletonRegistration, quintptr(type)); });
 }
 
 SceneColors::SceneColors(QObject* parent)

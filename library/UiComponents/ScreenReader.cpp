@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
-#include <QWidget>
 #include <QtMath>
 #ifdef QT_X11EXTRAS_LIB
 #include <QX11Info>

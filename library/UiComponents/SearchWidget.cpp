@@ -4,6 +4,7 @@
 #include "ClickButton.h"
 #include "DyingWindow.h"
 #include "LabelFocus.h"
+#include "NamedPart.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <WidgetToolkit/OvBoxLayout.h>
@@ -13,6 +14,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QRegExpValidator>
+#include <QScopedValueRollback>
 
 #include <optional>
 
@@ -71,14 +73,10 @@ public:
 
 SearchWidget::Private::Private(SearchWidget* search)
     : q(search)
-    , searchIcon(new QLabel(search))
-    , searchLineEdit(new TesselLineEdit(search))
-    , clearSearchButton(new ClickButton(search))
+    , searchIcon(named("searchIcon", new QLabel(search)))
+    , searchLineEdit(named("searchLineEdit", new TesselLineEdit(search)))
+    , clearSearchButton(named("clearSearchButton", new ClickButton(search)))
 {
-    searchIcon->setObjectName(QStringLiteral("searchIcon"));
-    searchLineEdit->setObjectName(QStringLiteral("searchLineEdit"));
-    clearSearchButton->setObjectName(QStringLiteral("clearSearchButton"));
-
     (new OvHBoxLayout(q))->autoFill();
 
     LabelFocus::lead(q, searchLineEdit);
@@ -123,9 +121,8 @@ void SearchWidget::Private::applyPlaceholderBrush() const
 /// Setting the property sends StyleChange without a new sheet.
 void SearchWidget::Private::setFocusHint(bool isOn)
 {
-    isHinting = true;
+    const QScopedValueRollback<bool> hinting(isHinting, true);
     Util::applyProperty(q, "focusHint", isOn);
-    isHinting = false;
 }
 
 SearchWidget::SearchWidget(QWidget* parent)

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QScopedValueRollback>
 #include <QVector>
 #include <QWidget>
 
@@ -73,9 +74,8 @@ void SheetColors::Private::colorLinks() const
     links().shown = now;
     if (now != present) {
         palette.setColor(QPalette::Link, now);
-        links().isSetting = true;
+        const QScopedValueRollback<bool> setting(links().isSetting, true);
         QApplication::setPalette(palette);
-        links().isSetting = false;
     }
     if (before.count(now) == before.size()) {
         return;

@@ -7,9 +7,6 @@
 
 #include <WidgetToolkit/OvBoxLayout.h>
 
-#include <QAbstractSpinBox>
-#include <QSlider>
-
 /**
  * A slider and a spin box side by side in a field, with their object names.
  */
@@ -18,12 +15,9 @@ class SliderFieldParts
 {
 public:
     explicit SliderFieldParts(QWidget* field)
-        : slider(new Slider(field))
-        , spinBox(new SpinBox(field))
+        : slider(named("slider", new Slider(field)))
+        , spinBox(named("spinbox", new SpinBox(field)))
     {
-        slider->setObjectName(QStringLiteral("slider"));
-        spinBox->setObjectName(QStringLiteral("spinbox"));
-
         (new OvHBoxLayout(field))->autoFill();
         LabelFocus::lead(field, slider, slider->focusPolicy());
     }

@@ -40,11 +40,6 @@ struct BubblePlacement
     QPoint tip; ///< the pixel at the arrow's tip, in the bubble's coordinates
     int base =
         0; ///< the pixel in the middle of the arrow's foot, along its side, in the bubble's coordinates
-
-    bool operator==(const BubblePlacement& other) const
-    {
-        return geometry == other.geometry && side == other.side && tip == other.tip && base == other.base;
-    }
 };
 
 BubblePlacement placeBubble(const BubbleRequest& request);

@@ -4,6 +4,7 @@
 
 #include <QAccessibleWidget>
 #include <QLocale>
+#include <QScopeGuard>
 
 #include <utility>
 
@@ -51,22 +52,14 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object)
                                                                   : nullptr;
 }
 
-/// Until the library is unloaded.
-struct Registration
-{
-    Registration() = default;
-    ~Registration() { QAccessible::removeFactory(interfaceFor); }
-    Registration(const Registration&) = delete;
-    Registration& operator=(const Registration&) = delete;
-};
-
 SliderAccess::Silence* innermost = nullptr;
 
 } // namespace
 
 void SliderAccess::install()
 {
-    static const Registration registration;
+    // When the library is unloaded.
+    static const auto undo = qScopeGuard([] { QAccessible::removeFactory(interfaceFor); });
     QAccessible::installFactory(interfaceFor);
 }
 

@@ -9,6 +9,7 @@
 #include <QSpinBox>
 
 #include <cmath>
+#include <type_traits>
 
 namespace {
 
@@ -104,41 +105,33 @@ IntegerBinding::IntegerBinding(QAbstractSlider* slider, QSpinBox* spinBox)
 
 IntegerBinding::~IntegerBinding() = default;
 
+template <typename To, typename From>
+int IntegerBinding::copyTo(To* to, const From& from, const bool& gone)
+{
+    const int minimum = from.minimum();
+    const int maximum = from.maximum();
+    // A slider emits rangeChanged() before it clamps its value.
+    const int value = qBound(minimum, from.value(), maximum);
+    const auto setValue = [to, value] {
+        // The same value would rewrite the text of a spin box.
+        if (std::is_same_v<To, QAbstractSlider> || to->value() != value) {
+            to->setValue(value);
+        }
+    };
+    if (minimum != m_minimum || maximum != m_maximum) {
+        m_minimum = minimum;
+        m_maximum = maximum;
+        setRangeAndValue(to, minimum, maximum, isWithin(to->value(), minimum, maximum), gone, setValue);
+    } else {
+        setValue();
+    }
+    return value;
+}
+
 std::optional<WidgetBinding::Side> IntegerBinding::copy(Side side, const bool& gone)
 {
-    int value = 0;
-    if (side == Side::Slider) {
-        const int minimum = m_slider->minimum();
-        const int maximum = m_slider->maximum();
-        // A slider emits rangeChanged() before it clamps its value.
-        value = qBound(minimum, m_slider->value(), maximum);
-        const auto setValue = [this, value] {
-            if (m_spinBox->value() != value) {
-                m_spinBox->setValue(value);
-            }
-        };
-        if (minimum != m_minimum || maximum != m_maximum) {
-            m_minimum = minimum;
-            m_maximum = maximum;
-            const bool fits = isWithin(m_spinBox->value(), minimum, maximum);
-            setRangeAndValue(m_spinBox, minimum, maximum, fits, gone, setValue);
-        } else {
-            setValue();
-        }
-    } else {
-        const int minimum = m_spinBox->minimum();
-        const int maximum = m_spinBox->maximum();
-        value = m_spinBox->value();
-        const auto setValue = [this, value] { m_slider->setValue(value); };
-        if (minimum != m_minimum || maximum != m_maximum) {
-            m_minimum = minimum;
-            m_maximum = maximum;
-            const bool fits = isWithin(m_slider->value(), minimum, maximum);
-            setRangeAndValue(m_slider, minimum, maximum, fits, gone, setValue);
-        } else {
-            setValue();
-        }
-    }
+    const int value =
+        side == Side::Slider ? copyTo(m_spinBox, *m_slider, gone) : copyTo(m_slider, *m_spinBox, gone);
     if (gone) {
         return {};
     }

@@ -57,6 +57,10 @@ public:
 private:
     std::optional<Side> copy(Side side, const bool& gone) override;
 
+    /// Copies range and value, and returns the value.
+    template <typename To, typename From>
+    int copyTo(To* to, const From& from, const bool& gone);
+
     QAbstractSlider* const m_slider;
     QSpinBox* const m_spinBox;
     // The last range copied; none at first.
