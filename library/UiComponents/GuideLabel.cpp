@@ -103,11 +103,11 @@ void GuideLabel::paintEvent(QPaintEvent* event)
 /// Makes the document that QLabel has for rich text break words too. QLabel resets it at each layout.
 bool GuideLabel::breaksWords() const
 {
-    const QSize least = QLabel::minimumSizeHint();
+    const QSize minSize = QLabel::minimumSizeHint();
     QTextDocument* const rich = document();
     const QScreen* const shownOn = screen();
-    const bool isTooHigh = rich && shownOn && least.height() > shownOn->availableSize().height();
-    if (least.width() <= maxWidth(this) && !isTooHigh) {
+    const bool isTooHigh = rich && shownOn && minSize.height() > shownOn->availableSize().height();
+    if (minSize.width() <= maxWidth(this) && !isTooHigh) {
         return false;
     }
     if (rich) {

@@ -66,8 +66,8 @@ class Pipette::Impl
 public:
     class Run;
 
-    void request(Pipette* pipette, ScreenColorSource* source);
-    void finish(Pipette* pipette, const ScreenColorSource::Result& result);
+    void request(Pipette* q, ScreenColorSource* source);
+    void finish(Pipette* q, const ScreenColorSource::Result& result);
 
     QColor currentColor;
     QString failureReason;
@@ -335,30 +335,30 @@ void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
     }
 }
 
-void Pipette::Impl::request(Pipette* pipette, ScreenColorSource* source)
+void Pipette::Impl::request(Pipette* q, ScreenColorSource* source)
 {
     const QWidget* const window = QApplication::activeWindow();
     requests.push_back(
         source->pick(window ? window->windowHandle() : nullptr,
-                     [this, pipette](const ScreenColorSource::Result& result) { finish(pipette, result); }));
+                     [this, q](const ScreenColorSource::Result& result) { finish(q, result); }));
 }
 
 /// Separate from its callers, whose run or request may be deleted in a slot.
-void Pipette::Impl::finish(Pipette* pipette, const ScreenColorSource::Result& result)
+void Pipette::Impl::finish(Pipette* q, const ScreenColorSource::Result& result)
 {
     failureReason = result.color.isValid() ? QString() : result.reason;
     if (result.color.isValid()) {
         // A copy: a slot may start another pick, which resets the colour.
         const QColor selected = currentColor = result.color;
-        const QPointer<Pipette> self = pipette;
+        const QPointer<Pipette> self = q;
         const int endsBefore = ends;
-        Q_EMIT pipette->colorSelected(selected);
+        Q_EMIT q->colorSelected(selected);
         // A slot may have ended the pick.
         if (!self || ends != endsBefore) {
             return;
         }
     }
-    pipette->stopPicking();
+    q->stopPicking();
 }
 
 Pipette::Pipette(QObject* parent)

@@ -92,7 +92,7 @@ public:
     QColor colorAt(const QPointF& position, Run& of) const;
 
     /// Null after the picker is deleted.
-    WidgetColorPicker* owner = nullptr;
+    WidgetColorPicker* q = nullptr;
     QVector<QPointer<QWidget>> widgets;
     /// The one that began last.
     Run* run = nullptr;
@@ -143,9 +143,9 @@ void WidgetColorPicker::Private::pick()
 {
     Run thisRun;
     run = &thisRun;
-    qGuiApp->installEventFilter(owner);
+    qGuiApp->installEventFilter(q);
     // The host's code runs in both of these.
-    const auto mayGoOn = [this, &thisRun] { return run == &thisRun && owner && target; };
+    const auto mayGoOn = [this, &thisRun] { return run == &thisRun && q && target; };
     takeCursor();
     if (mayGoOn()) {
         applyTarget();
@@ -158,24 +158,24 @@ void WidgetColorPicker::Private::pick()
     // These two are still there when the application quits, which ends all loops.
     removeOutline(thisRun);
     cursorGuard.reset();
-    if (owner) {
-        qGuiApp->removeEventFilter(owner);
+    if (q) {
+        qGuiApp->removeEventFilter(q);
     }
     const QPointF position = cursorPosition();
     // Without a stop() the user has chosen nothing, as when the application quits.
-    if (!thisRun.end || !owner || !target || !isOverTarget(position)) {
+    if (!thisRun.end || !q || !target || !isOverTarget(position)) {
         return;
     }
     // The target may have moved to the cursor since.
     const bool isKnown = thisRun.end == position && thisRun.color.isValid();
     const QColor picked = isKnown ? thisRun.color : colorAt(position, thisRun);
-    const QPointer<WidgetColorPicker> picker = owner;
-    if (picker) {
+    const QPointer<WidgetColorPicker> self = q;
+    if (self) {
         color = picked;
-        Q_EMIT picker->colorChanged(color);
+        Q_EMIT self->colorChanged(color);
     }
-    if (picker) {
-        Q_EMIT picker->pickingStopped();
+    if (self) {
+        Q_EMIT self->pickingStopped();
     }
 }
 
@@ -191,7 +191,7 @@ void WidgetColorPicker::Private::stop()
     // Now: what ends the pick may close or change the target before the loop returns. Not while the
     // picker is deleted: the target may be half-destroyed.
     ending.end = cursorPosition();
-    ending.color = owner && target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
+    ending.color = q && target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
 }
 
 void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseEvent& event)
@@ -253,7 +253,7 @@ QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) con
 WidgetColorPicker::WidgetColorPicker(const QSet<QWidget*>& widgets)
     : d(std::make_shared<Private>())
 {
-    d->owner = this;
+    d->q = this;
     d->widgets = {widgets.begin(), widgets.end()};
     connect(qGuiApp, &QGuiApplication::lastWindowClosed, this, &WidgetColorPicker::stop);
 }
@@ -263,7 +263,7 @@ WidgetColorPicker::~WidgetColorPicker()
     const std::shared_ptr<Private> state = d;
     // A slot of destroyed(), which comes after this, may delete the target.
     QObject::disconnect(state->targetWatch);
-    state->owner = nullptr;
+    state->q = nullptr;
     state->stop();
 }
 
@@ -303,7 +303,7 @@ void WidgetColorPicker::setStylingObject(WidgetColorPickerStylingObject* object)
     }
     state->cursorGuard.reset();
     state->takeCursor();
-    if (state->isInProgress() && state->owner && state->target) {
+    if (state->isInProgress() && state->q && state->target) {
         state->cursorGuard = std::make_unique<CursorGuard>(state->target, state->cursor);
     }
 }

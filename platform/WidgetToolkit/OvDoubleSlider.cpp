@@ -20,7 +20,7 @@ public:
     void takeStep();
     void deriveValue();
     void announce();
-    bool isHeard() const;
+    bool hasReceivers() const;
 
     OvDoubleSlider* const q;
     double multiplier = 1.0;
@@ -75,13 +75,13 @@ void OvDoubleSlider::Private::announce()
     if (isWithinStep) {
         SliderAccess::announce(q);
     }
-    if (requested && isHeard()) {
+    if (requested && hasReceivers()) {
         requested = value;
     }
     Q_EMIT q->doubleValueChanged(value);
 }
 
-bool OvDoubleSlider::Private::isHeard() const
+bool OvDoubleSlider::Private::hasReceivers() const
 {
     // The slider's own connection is one receiver of valueChanged().
     return !q->signalsBlocked() && (q->receivers(SIGNAL(doubleValueChanged(double))) > 0 ||
