@@ -5,7 +5,7 @@
 #include <UiComponents/LoupeWidget.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/PipetteScreenView.h>
-#include <UiComponents/ScreenReader.h>
+#include <UiComponents/ScreenGrabber.h>
 
 #include <QApplication>
 #include <QCursor>
@@ -226,7 +226,7 @@ public:
         QElapsedTimer settling;
         settling.start();
         waitUntil("the pipette reads the screen itself",
-                  [&settling] { return settling.hasExpired(ScreenReader::settleTime); });
+                  [&settling] { return settling.hasExpired(ScreenGrabber::settleTime); });
         waitUntilAtRest();
     }
 
@@ -451,7 +451,7 @@ private:
     protected:
         void paintEvent(QPaintEvent*) override
         {
-            QPainter(this).fillRect(rect(), ScreenReader::overlayColor());
+            QPainter(this).fillRect(rect(), ScreenGrabber::overlayColor());
             isPainted = true;
         }
     };

@@ -3,7 +3,7 @@
 #include "LoupeWidget.h"
 #include "PipetteScreenView.h"
 #include "ScreenColorSource.h"
-#include "ScreenReader.h"
+#include "ScreenGrabber.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
@@ -105,7 +105,7 @@ private:
     void finish(const QPoint& cursorPos, bool isSucceeded);
 
     const QPointer<Pipette> m_pipette;
-    ScreenReader m_reader;
+    ScreenGrabber m_grabber;
     QGraphicsScene* const m_scene;
     const QPointer<LoupeWidget> m_loupe;
     /// Whether the views show pictures, since nothing would be seen through them.
@@ -121,7 +121,7 @@ private:
 
 Pipette::Impl::Run::Run(Pipette* pipette)
     : m_pipette(pipette)
-    , m_reader(desktop(), ScreenReader::Cover::Overlay)
+    , m_grabber(desktop(), ScreenGrabber::Cover::Overlay)
     , m_scene(new QGraphicsScene(QRectF(desktop()), this))
     , m_loupe(new LoupeWidget)
 {
@@ -151,15 +151,15 @@ void Pipette::Impl::Run::addView(QScreen* screen)
 {
     auto* view = new PipetteScreenView(m_scene, screen->geometry());
     if (m_isStill) {
-        view->setStillPicture(m_reader.picture(*screen));
-        m_reader.paint(view, screen->geometry());
+        view->setStillPicture(m_grabber.picture(*screen));
+        m_grabber.paint(view, screen->geometry());
     }
     // Or a modal dialog that is open would keep mouse and keyboard from it.
     view->windowHandle()->setTransientParent(QGuiApplication::modalWindow());
     view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
     m_views.append(view);
-    connect(view, &QObject::destroyed, m_context.get(), [this, view] { m_reader.remove(view, desktop()); });
+    connect(view, &QObject::destroyed, m_context.get(), [this, view] { m_grabber.remove(view, desktop()); });
     connect(view, &PipetteScreenView::loupePosChanged, m_context.get(),
             [this](const QPoint& pos) { update(pos); });
     connect(view, &PipetteScreenView::pickingFinished, m_context.get(),
@@ -258,13 +258,13 @@ void Pipette::Impl::Run::end()
         // The next pick may begin at once.
         const auto screens = QGuiApplication::screens();
         for (QScreen* screen : screens) {
-            m_reader.refresh(screen->geometry(), *screen);
+            m_grabber.refresh(screen->geometry(), *screen);
         }
-        m_reader.settle();
+        m_grabber.settle();
     }
     for (const QPointer<PipetteScreenView>& view : qAsConst(m_views)) {
         if (view) {
-            m_reader.remove(view, view->geometry());
+            m_grabber.remove(view, view->geometry());
             view->blockSignals(true); // it still gets the event that ended the pick
             view->close();
         }
@@ -290,7 +290,7 @@ void Pipette::Impl::Run::noteLoupe(const PipetteScreenView& view)
 {
     const QGraphicsItem* const item = m_loupe ? m_loupe->graphicsProxyWidget() : nullptr;
     const QRectF place = item && item->isVisible() ? item->sceneBoundingRect() : QRectF();
-    m_reader.paint(&view, place.toAlignedRect() & view.geometry());
+    m_grabber.paint(&view, place.toAlignedRect() & view.geometry());
 }
 
 /// Brings the view that the cursor has come to from @p last to the front when another application's window,
@@ -319,9 +319,9 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
     m_loupe->setPlacement(LoupeWidget::placementAt(cursorPos, screen->geometry(), m_loupe->size()));
     const QSize offset = m_loupe->offset();
     const QPoint place = cursorPos + QPoint(offset.width(), offset.height());
-    m_reader.refresh(QRect(place, m_loupe->size()), *screen);
+    m_grabber.refresh(QRect(place, m_loupe->size()), *screen);
     m_loupe->graphicsProxyWidget()->setPos(place);
-    const ScreenReader::Detail detail = m_reader.around(cursorPos, LoupeWidget::pixels, *screen);
+    const ScreenGrabber::Detail detail = m_grabber.around(cursorPos, LoupeWidget::pixels, *screen);
     m_loupe->setPixmap(detail.picture);
     m_loupe->setColorName(detail.color);
 }
@@ -329,7 +329,7 @@ void Pipette::Impl::Run::update(const QPoint& cursorPos)
 void Pipette::Impl::Run::finish(const QPoint& cursorPos, bool isSucceeded)
 {
     const bool isPicked = isSucceeded && QGuiApplication::screenAt(cursorPos);
-    const QColor color = isPicked ? m_reader.colorAt(cursorPos) : QColor();
+    const QColor color = isPicked ? m_grabber.colorAt(cursorPos) : QColor();
     if (m_pipette) {
         m_pipette->d->finish(m_pipette, {color, {}});
     }

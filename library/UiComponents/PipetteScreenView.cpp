@@ -1,6 +1,6 @@
 #include "PipetteScreenView.h"
 
-#include "ScreenReader.h"
+#include "ScreenGrabber.h"
 
 #include <QCursor>
 #include <QEvent>
@@ -75,7 +75,7 @@ PipetteScreenView::PipetteScreenView(QGraphicsScene* scene, const QRect& screenG
     setFixedSize(size());
     hide();
 
-    const QBrush overlay(ScreenReader::overlayColor(), Qt::SolidPattern);
+    const QBrush overlay(ScreenGrabber::overlayColor(), Qt::SolidPattern);
     setBackgroundBrush(overlay);
     if (scene) {
         scene->setBackgroundBrush(overlay);

@@ -4,7 +4,7 @@
 #include "ColorPortal.h"
 #endif
 #include "LibraryObject.h"
-#include "ScreenReader.h"
+#include "ScreenGrabber.h"
 
 #include <QGuiApplication>
 #include <QPointer>

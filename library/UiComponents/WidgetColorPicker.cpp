@@ -2,7 +2,7 @@
 
 #include "CursorGuard.h"
 #include "LibraryObject.h"
-#include "ScreenReader.h"
+#include "ScreenGrabber.h"
 #include "WidgetColorPickerStylingObject.h"
 
 #include <GuiHelper/HighlightFrame.h>
@@ -72,7 +72,7 @@ public:
         QEventLoop loop;
         /// Where the target got its outline, and the screen before that.
         QRect place;
-        std::optional<ScreenReader> reader;
+        std::optional<ScreenGrabber> grabber;
         /// Where the cursor was when stop() ended it; empty until then.
         std::optional<QPointF> end;
         /// The colour there; invalid beside the target.
@@ -125,8 +125,8 @@ void WidgetColorPicker::Private::applyTarget()
     }
     run->place = onDesktop(*target);
     const QRegion outline = outlineOf(run->place);
-    run->reader.emplace(outline, ScreenReader::Cover::Nothing);
-    run->reader->paint(this, outline);
+    run->grabber.emplace(outline, ScreenGrabber::Cover::Nothing);
+    run->grabber->paint(this, outline);
     highlightFrame = std::make_unique<HighlightFrame>(target);
 }
 
@@ -134,8 +134,8 @@ void WidgetColorPicker::Private::removeOutline(Run& of)
 {
     if (highlightFrame) {
         highlightFrame.reset();
-        of.reader->remove(this);
-        of.reader->settle();
+        of.grabber->remove(this);
+        of.grabber->settle();
     }
 }
 
@@ -237,9 +237,9 @@ QColor WidgetColorPicker::Private::colorAt(const QPointF& position, Run& of) con
     const QRect area = onDesktop(*target);
     QColor seen;
     if (area == of.place) {
-        seen = of.reader->colorAt(position);
+        seen = of.grabber->colorAt(position);
     } else if (!outlineOf(area).contains(point)) {
-        seen = ScreenReader(QRegion(), ScreenReader::Cover::Nothing).colorAt(position);
+        seen = ScreenGrabber(QRegion(), ScreenGrabber::Cover::Nothing).colorAt(position);
     }
     if (seen.isValid()) {
         return seen;

@@ -5,7 +5,7 @@
 #include "TestMain.h"
 
 #include <UiComponents/Pipette.h>
-#include <UiComponents/ScreenReader.h>
+#include <UiComponents/ScreenGrabber.h>
 
 #include <algorithm>
 #include <csignal>
@@ -707,7 +707,7 @@ private:
     }
 
     /// Until the pipette reads the screen itself.
-    void settle() { QTest::qWait(ScreenReader::settleTime + 100); }
+    void settle() { QTest::qWait(ScreenGrabber::settleTime + 100); }
 
     bool clickAt(const QPoint& point)
     {

@@ -1,4 +1,4 @@
-#include "ScreenReader.h"
+#include "ScreenGrabber.h"
 
 #include "LibraryObject.h"
 
@@ -74,7 +74,7 @@ QRgb darkened(QRgb color)
 
 /// Calls @p function with each pixel of @p area that both have.
 template <typename Function>
-void combine(const ScreenReader::Picture& from, ScreenReader::Picture& to, const QRect& area,
+void combine(const ScreenGrabber::Picture& from, ScreenGrabber::Picture& to, const QRect& area,
              Function function)
 {
     const QRect shared = area & from.area() & to.area();
@@ -87,7 +87,7 @@ void combine(const ScreenReader::Picture& from, ScreenReader::Picture& to, const
     }
 }
 
-void copy(const ScreenReader::Picture& from, ScreenReader::Picture& to, const QRegion& area)
+void copy(const ScreenGrabber::Picture& from, ScreenGrabber::Picture& to, const QRegion& area)
 {
     for (const QRect& part : area) {
         combine(from, to, part, [](QRgb source, QRgb& target) { target = opaque(source); });
@@ -180,12 +180,12 @@ ScreenSource& ScreenSource::platform()
 
 ScreenSource::~ScreenSource() = default;
 
-QColor ScreenReader::overlayColor()
+QColor ScreenGrabber::overlayColor()
 {
     return {0, 0, 0, 1};
 }
 
-struct ScreenReader::Memory
+struct ScreenGrabber::Memory
 {
     /// What was painted and is no longer.
     struct Trace
@@ -203,7 +203,7 @@ struct ScreenReader::Memory
     QVector<Trace> traces;
 };
 
-ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& source)
+ScreenGrabber::ScreenGrabber(const QRegion& area, Cover cover, ScreenSource& source)
     : m_source(&source)
     , m_cover(cover)
 {
@@ -241,7 +241,7 @@ ScreenReader::ScreenReader(const QRegion& area, Cover cover, ScreenSource& sourc
     }
 }
 
-QPixmap ScreenReader::picture(QScreen& screen) const
+QPixmap ScreenGrabber::picture(QScreen& screen) const
 {
     const QRect area = toDevice(screen);
     const Picture* const found = pictureOf(area);
@@ -251,7 +251,7 @@ QPixmap ScreenReader::picture(QScreen& screen) const
     return pixmap;
 }
 
-void ScreenReader::paint(const void* painter, const QRegion& painted)
+void ScreenGrabber::paint(const void* painter, const QRegion& painted)
 {
     QHash<const void*, QRegion>& places = m_memory->painted;
     if (!places.contains(painter)) {
@@ -262,12 +262,12 @@ void ScreenReader::paint(const void* painter, const QRegion& painted)
     places.insert(painter, place);
 }
 
-void ScreenReader::remove(const void* painter, const QRegion& area)
+void ScreenGrabber::remove(const void* painter, const QRegion& area)
 {
     noteTrace(m_memory->painted.take(painter) + toDevice(area));
 }
 
-void ScreenReader::refresh(const QRect& area, QScreen& screen)
+void ScreenGrabber::refresh(const QRect& area, QScreen& screen)
 {
     if (!m_memory->pictures.isEmpty()) {
         const QRect pixels = toDevice(area, screen);
@@ -275,14 +275,14 @@ void ScreenReader::refresh(const QRect& area, QScreen& screen)
     }
 }
 
-void ScreenReader::settle() const
+void ScreenGrabber::settle() const
 {
     auto* const timer = new QTimer(libraryObject());
     QObject::connect(timer, &QTimer::timeout, timer, [timer, kept = *this] { timer->deleteLater(); });
     timer->start(settleTime);
 }
 
-QColor ScreenReader::colorAt(const QPointF& position)
+QColor ScreenGrabber::colorAt(const QPointF& position)
 {
     QScreen* const screen = QGuiApplication::screenAt(pointAt(position));
     if (!screen) {
@@ -300,7 +300,7 @@ QColor ScreenReader::colorAt(const QPointF& position)
     return belowCover(live.pixel(0, 0));
 }
 
-ScreenReader::Detail ScreenReader::around(const QPoint& point, int size, QScreen& screen)
+ScreenGrabber::Detail ScreenGrabber::around(const QPoint& point, int size, QScreen& screen)
 {
     const qreal ratio = screen.devicePixelRatio();
     const QRect pixels(toDevice(point - QPoint(size / 2, size / 2), screen),
@@ -326,7 +326,7 @@ ScreenReader::Detail ScreenReader::around(const QPoint& point, int size, QScreen
 }
 
 /// Traces of a short while are one: a hand makes a thousand in a second.
-void ScreenReader::noteTrace(const QRegion& area)
+void ScreenGrabber::noteTrace(const QRegion& area)
 {
     constexpr qint64 shortWhile = 50;
     const qint64 now = m_source->now();
@@ -346,7 +346,7 @@ void ScreenReader::noteTrace(const QRegion& area)
 }
 
 /// The part of @p area where a grab may show something else than the screen with the cover over it.
-QRegion ScreenReader::hidden(const QRect& area) const
+QRegion ScreenGrabber::hidden(const QRect& area) const
 {
     const bool isCoverHere = m_cover == Cover::Nothing || m_source->now() >= m_settledAt ||
                              m_source->grabs() == ScreenSource::Grabs::Always;
@@ -354,7 +354,7 @@ QRegion ScreenReader::hidden(const QRect& area) const
 }
 
 /// The part of @p area where a grab may show what pickers have painted.
-QRegion ScreenReader::touched(const QRect& area) const
+QRegion ScreenGrabber::touched(const QRect& area) const
 {
     QRegion result;
     if (m_source->grabs() == ScreenSource::Grabs::Always) {
@@ -376,7 +376,7 @@ QRegion ScreenReader::touched(const QRect& area) const
 
 /// Grabs @p area, in which nothing is hidden, and keeps what is new. What may be the same stays: 127 and 128
 /// are one value below the overlay.
-ScreenReader::Picture ScreenReader::grab(QScreen& screen, const QRegion& area)
+ScreenGrabber::Picture ScreenGrabber::grab(QScreen& screen, const QRegion& area)
 {
     const QRect bounds = area.boundingRect();
     const Picture live = {bounds.topLeft(), bounds.isEmpty() ? QImage() : m_source->grab(screen, bounds)};
@@ -394,7 +394,7 @@ ScreenReader::Picture ScreenReader::grab(QScreen& screen, const QRegion& area)
 }
 
 /// The picture that has all of @p area, or null.
-const ScreenReader::Picture* ScreenReader::pictureOf(const QRect& area) const
+const ScreenGrabber::Picture* ScreenGrabber::pictureOf(const QRect& area) const
 {
     const QVector<Picture>& pictures = m_memory->pictures;
     const auto found = std::find_if(pictures.crbegin(), pictures.crend(), [&area](const Picture& picture) {
@@ -403,7 +403,7 @@ const ScreenReader::Picture* ScreenReader::pictureOf(const QRect& area) const
     return found == pictures.crend() ? nullptr : &*found;
 }
 
-QColor ScreenReader::belowCover(QRgb seen) const
+QColor ScreenGrabber::belowCover(QRgb seen) const
 {
     const QColor color(seen);
     if (m_cover == Cover::Nothing) {

@@ -1,7 +1,7 @@
 #include "FakePlatform.h"
 #include "TestMain.h"
 
-#include <UiComponents/ScreenReader.h>
+#include <UiComponents/ScreenGrabber.h>
 
 Q_DECLARE_METATYPE(ScreenSource::Grabs)
 
@@ -67,16 +67,16 @@ public:
 
 const QRect everything(0, 0, 800, 600);
 
-/// A reader below a window that has covered the screen for long.
+/// A grabber below a window that has covered the screen for long.
 struct Settled
 {
-    explicit Settled(ScreenReader::Cover cover = ScreenReader::Cover::Overlay,
+    explicit Settled(ScreenGrabber::Cover cover = ScreenGrabber::Cover::Overlay,
                      ScreenSource::Grabs kind = ScreenSource::Grabs::OnceComposed)
         : screen(kind)
-        , reader(everything, cover, screen)
+        , grabber(everything, cover, screen)
     {
-        reader.paint(this, QRegion());
-        screen.hasOverlay = cover == ScreenReader::Cover::Overlay;
+        grabber.paint(this, QRegion());
+        screen.hasOverlay = cover == ScreenGrabber::Cover::Overlay;
         wait();
         screen.grabbed.clear();
     }
@@ -84,7 +84,7 @@ struct Settled
     void wait() { screen.time += 10000; }
 
     Screen screen;
-    ScreenReader reader;
+    ScreenGrabber grabber;
 };
 
 int difference(const QColor& one, const QColor& other)
@@ -102,14 +102,14 @@ QColor corrected(QRgb seen)
 
 constexpr int size = 13;
 
-QRgb pixelOf(const ScreenReader::Detail& detail, const QPoint& point)
+QRgb pixelOf(const ScreenGrabber::Detail& detail, const QPoint& point)
 {
     return detail.picture.toImage().pixel(point);
 }
 
 } // namespace
 
-class tst_ScreenReader : public QObject
+class tst_ScreenGrabber : public QObject
 {
     Q_OBJECT
 
@@ -122,17 +122,17 @@ private Q_SLOTS:
     void picturesAreTakenOnce()
     {
         Screen screen;
-        const ScreenReader part(QRect(10, 20, 30, 40), ScreenReader::Cover::Nothing, screen);
+        const ScreenGrabber part(QRect(10, 20, 30, 40), ScreenGrabber::Cover::Nothing, screen);
         QCOMPARE(screen.grabbed, QVector<QRect>({QRect(10, 20, 30, 40)}));
         QVERIFY(part.picture(*QGuiApplication::primaryScreen()).isNull());
         screen.grabbed.clear();
-        const ScreenReader all(QGuiApplication::primaryScreen()->geometry(), ScreenReader::Cover::Nothing,
-                               screen);
+        const ScreenGrabber all(QGuiApplication::primaryScreen()->geometry(), ScreenGrabber::Cover::Nothing,
+                                screen);
         const QImage picture = all.picture(*QGuiApplication::primaryScreen()).toImage();
         QCOMPARE(picture.size(), QGuiApplication::primaryScreen()->size());
         QCOMPARE(picture.pixel(11, 22), Screen::below({11, 22}));
         screen.grabbed.clear();
-        const ScreenReader elsewhere(QRect(-50, -50, 20, 20), ScreenReader::Cover::Nothing, screen);
+        const ScreenGrabber elsewhere(QRect(-50, -50, 20, 20), ScreenGrabber::Cover::Nothing, screen);
         QCOMPARE(screen.grabbed, QVector<QRect>());
     }
 
@@ -140,24 +140,24 @@ private Q_SLOTS:
     void uncoveredPixelsComeFromThePicture()
     {
         Screen screen;
-        ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
+        ScreenGrabber grabber(everything, ScreenGrabber::Cover::Overlay, screen);
         screen.hasChanged = true;
         const QPoint point(200, 300);
-        for (const int elapsed : {0, 10, ScreenReader::settleTime - 100}) {
+        for (const int elapsed : {0, 10, ScreenGrabber::settleTime - 100}) {
             screen.time += elapsed;
-            QCOMPARE(reader.colorAt(point), QColor(Screen::below(point)));
-            QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
+            QCOMPARE(grabber.colorAt(point), QColor(Screen::below(point)));
+            QCOMPARE(grabber.around(point, size, *QGuiApplication::primaryScreen()).color,
                      QColor(Screen::below(point)));
             // Only the first painting of a window covers the screen.
-            reader.paint(this, QRegion());
+            grabber.paint(this, QRegion());
         }
         screen.hasOverlay = true;
-        screen.time += ScreenReader::settleTime;
-        QCOMPARE(reader.colorAt(point), corrected(screen.shownAt(point)));
+        screen.time += ScreenGrabber::settleTime;
+        QCOMPARE(grabber.colorAt(point), corrected(screen.shownAt(point)));
         // Of a second one as well.
-        reader.paint(&screen, QRegion());
+        grabber.paint(&screen, QRegion());
         const QPoint other(400, 300);
-        QCOMPARE(reader.colorAt(other), QColor(Screen::below(other)));
+        QCOMPARE(grabber.colorAt(other), QColor(Screen::below(other)));
     }
 
     void coveredPixelsAreCorrected()
@@ -165,8 +165,8 @@ private Q_SLOTS:
         Settled settled;
         for (const QPoint& point : {QPoint(0, 0), QPoint(36, 51), QPoint(799, 599)}) {
             const QColor expected = corrected(settled.screen.shownAt(point));
-            QCOMPARE(settled.reader.colorAt(point), expected);
-            QCOMPARE(settled.reader.around(point, size, *QGuiApplication::primaryScreen()).color, expected);
+            QCOMPARE(settled.grabber.colorAt(point), expected);
+            QCOMPARE(settled.grabber.around(point, size, *QGuiApplication::primaryScreen()).color, expected);
             QCOMPARE(expected.alpha(), 255);
         }
         // A pixel needs no more than itself.
@@ -177,7 +177,7 @@ private Q_SLOTS:
     {
         Settled settled;
         for (int x = 0; x < 256; ++x) {
-            const QColor color = settled.reader.colorAt(QPoint(x, 300));
+            const QColor color = settled.grabber.colorAt(QPoint(x, 300));
             const QColor below(Screen::below({x, 300}));
             // It makes 127 and 128 one.
             QCOMPARE(color.red(), below.red() == 127 ? 128 : below.red());
@@ -188,8 +188,8 @@ private Q_SLOTS:
     void nothingOverTheScreenIsNotCorrected()
     {
         Screen screen;
-        ScreenReader reader(QRegion(), ScreenReader::Cover::Nothing, screen);
-        QCOMPARE(reader.colorAt(QPoint(36, 51)), QColor(Screen::below({36, 51})));
+        ScreenGrabber grabber(QRegion(), ScreenGrabber::Cover::Nothing, screen);
+        QCOMPARE(grabber.colorAt(QPoint(36, 51)), QColor(Screen::below({36, 51})));
     }
 
     void paintedPixelsComeFromThePicture_data()
@@ -199,8 +199,8 @@ private Q_SLOTS:
         QTest::newRow("there") << -1 << false;
         QTest::newRow("just gone") << 0 << false;
         QTest::newRow("gone two frames ago") << 33 << false;
-        QTest::newRow("gone on a slow machine") << ScreenReader::settleTime - 1 << false;
-        QTest::newRow("long gone") << ScreenReader::settleTime << true;
+        QTest::newRow("gone on a slow machine") << ScreenGrabber::settleTime - 1 << false;
+        QTest::newRow("long gone") << ScreenGrabber::settleTime << true;
     }
 
     void paintedPixelsComeFromThePicture()
@@ -209,22 +209,22 @@ private Q_SLOTS:
         QFETCH(bool, isLive);
         Settled settled;
         const QRect loupe(100, 100, 40, 40);
-        settled.reader.paint(&settled, loupe);
+        settled.grabber.paint(&settled, loupe);
         settled.screen.loupe = loupe;
         settled.wait();
         if (sinceGone >= 0) {
-            settled.reader.paint(&settled, QRect(500, 400, 40, 40));
+            settled.grabber.paint(&settled, QRect(500, 400, 40, 40));
             settled.screen.time += sinceGone;
             settled.screen.loupe = sinceGone < 40 ? loupe : QRect(500, 400, 40, 40);
         }
         for (const QPoint& point : {loupe.topLeft(), loupe.center(), loupe.bottomRight()}) {
             const QRgb below = Screen::below(point);
-            QCOMPARE(settled.reader.colorAt(point),
+            QCOMPARE(settled.grabber.colorAt(point),
                      isLive ? corrected(Screen::covered(below)) : QColor(below));
         }
         // What it has not touched is grabbed all along.
         for (const QPoint& beside : {loupe.bottomLeft() + QPoint(0, 1), loupe.topRight() + QPoint(1, 0)}) {
-            QCOMPARE(settled.reader.colorAt(beside), corrected(settled.screen.shownAt(beside)));
+            QCOMPARE(settled.grabber.colorAt(beside), corrected(settled.screen.shownAt(beside)));
         }
     }
 
@@ -234,17 +234,17 @@ private Q_SLOTS:
         const QRect loupe(100, 100, 40, 40);
         const int first = 0;
         const int second = 0;
-        settled.reader.paint(&first, loupe);
-        settled.reader.paint(&second, QRegion());
+        settled.grabber.paint(&first, loupe);
+        settled.grabber.paint(&second, QRegion());
         settled.wait();
         settled.screen.loupe = loupe;
-        QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
+        QCOMPARE(settled.grabber.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
         // What a painter that has gone has painted goes with it.
-        settled.reader.remove(&first);
-        QCOMPARE(settled.reader.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
+        settled.grabber.remove(&first);
+        QCOMPARE(settled.grabber.colorAt(loupe.center()), QColor(Screen::below(loupe.center())));
         settled.screen.loupe = QRegion();
         settled.wait();
-        QCOMPARE(settled.reader.colorAt(loupe.center()), corrected(settled.screen.shownAt(loupe.center())));
+        QCOMPARE(settled.grabber.colorAt(loupe.center()), corrected(settled.screen.shownAt(loupe.center())));
     }
 
     // A pick may begin while the last one can still be seen, of another picker and of another area.
@@ -252,12 +252,12 @@ private Q_SLOTS:
     {
         Settled last;
         const QRect loupe(100, 100, 40, 40);
-        last.reader.paint(&last, loupe);
+        last.grabber.paint(&last, loupe);
         last.screen.loupe = loupe;
         last.wait();
-        last.reader.remove(&last, QRect(0, 0, 200, 200));
+        last.grabber.remove(&last, QRect(0, 0, 200, 200));
         last.screen.hasChanged = true;
-        ScreenReader next(QRect(90, 90, 200, 200), ScreenReader::Cover::Nothing, last.screen);
+        ScreenGrabber next(QRect(90, 90, 200, 200), ScreenGrabber::Cover::Nothing, last.screen);
         for (const QPoint& point : {loupe.center(), QPoint(190, 190)}) {
             QCOMPARE(next.colorAt(point), QColor(Screen::below(point)));
         }
@@ -271,12 +271,12 @@ private Q_SLOTS:
         }
     }
 
-    // The pictures are those of the new reader where nothing is in its way.
+    // The pictures are those of the new grabber where nothing is in its way.
     void nextReaderTakesItsOwnPicture()
     {
-        Settled last(ScreenReader::Cover::Nothing);
+        Settled last(ScreenGrabber::Cover::Nothing);
         last.screen.hasChanged = true;
-        ScreenReader next(everything, ScreenReader::Cover::Overlay, last.screen);
+        ScreenGrabber next(everything, ScreenGrabber::Cover::Overlay, last.screen);
         const QPoint point(200, 300);
         QCOMPARE(next.colorAt(point), QColor(last.screen.bare(point)));
     }
@@ -287,16 +287,16 @@ private Q_SLOTS:
         Settled settled;
         const QRect loupe(100, 100, 40, 40);
         const QRect part(100, 100, 40, 10);
-        settled.reader.paint(&settled, part);
+        settled.grabber.paint(&settled, part);
         settled.screen.loupe = part;
         settled.screen.hasChanged = true;
-        settled.reader.refresh(loupe, *QGuiApplication::primaryScreen());
+        settled.grabber.refresh(loupe, *QGuiApplication::primaryScreen());
         QCOMPARE(settled.screen.grabbed, QVector<QRect>({QRect(100, 110, 40, 30)}));
-        settled.reader.paint(&settled, loupe);
+        settled.grabber.paint(&settled, loupe);
         settled.screen.loupe = loupe;
-        QVERIFY(difference(settled.reader.colorAt(QPoint(110, 130)),
+        QVERIFY(difference(settled.grabber.colorAt(QPoint(110, 130)),
                            QColor(settled.screen.bare({110, 130}))) <= 1);
-        QCOMPARE(settled.reader.colorAt(QPoint(110, 105)), QColor(Screen::below({110, 105})));
+        QCOMPARE(settled.grabber.colorAt(QPoint(110, 105)), QColor(Screen::below({110, 105})));
     }
 
     void grabsRefreshThePicture()
@@ -307,17 +307,17 @@ private Q_SLOTS:
         // 127 below the overlay is as good as 128: the picture keeps what it knows.
         const QPoint same(18, 300);
         QCOMPARE(qRed(Screen::below(same)), 127);
-        settled.reader.around(same, size, screen);
+        settled.grabber.around(same, size, screen);
         settled.screen.hasChanged = true;
-        settled.reader.around(point, size, screen);
-        settled.reader.paint(&settled, everything);
-        QCOMPARE(settled.reader.colorAt(same).red(), 127);
+        settled.grabber.around(point, size, screen);
+        settled.grabber.paint(&settled, everything);
+        QCOMPARE(settled.grabber.colorAt(same).red(), 127);
         const QColor changed(~Screen::below(point) | 0xff000000U);
-        const QColor kept = settled.reader.colorAt(point);
+        const QColor kept = settled.grabber.colorAt(point);
         QVERIFY(qAbs(kept.red() - changed.red()) <= 1);
         QVERIFY(qAbs(kept.green() - changed.green()) <= 1);
         // As far as it was grabbed.
-        QCOMPARE(settled.reader.colorAt(point + QPoint(7, 0)), QColor(Screen::below(point + QPoint(7, 0))));
+        QCOMPARE(settled.grabber.colorAt(point + QPoint(7, 0)), QColor(Screen::below(point + QPoint(7, 0))));
     }
 
     void detailIsPutTogether()
@@ -326,10 +326,10 @@ private Q_SLOTS:
         const QPoint point(200, 300);
         // Over the upper right quarter of what is asked for.
         const QRect loupe(201, 250, 50, 50);
-        settled.reader.paint(&settled, loupe);
+        settled.grabber.paint(&settled, loupe);
         settled.screen.loupe = loupe;
         settled.wait();
-        const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+        const auto detail = settled.grabber.around(point, size, *QGuiApplication::primaryScreen());
         QCOMPARE(detail.picture.size(), QSize(size, size));
         for (int y = 0; y < size; ++y) {
             for (int x = 0; x < size; ++x) {
@@ -356,7 +356,7 @@ private Q_SLOTS:
         QFETCH(QPoint, point);
         Settled settled;
         const QRect screen = QGuiApplication::primaryScreen()->geometry();
-        const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+        const auto detail = settled.grabber.around(point, size, *QGuiApplication::primaryScreen());
         for (int y = 0; y < size; ++y) {
             for (int x = 0; x < size; ++x) {
                 const QPoint at = point + QPoint(x - 6, y - 6);
@@ -370,30 +370,30 @@ private Q_SLOTS:
 
     void opaqueWindowsAreNotRead()
     {
-        Settled settled(ScreenReader::Cover::Overlay, ScreenSource::Grabs::Never);
-        settled.reader.paint(&settled, everything);
+        Settled settled(ScreenGrabber::Cover::Overlay, ScreenSource::Grabs::Never);
+        settled.grabber.paint(&settled, everything);
         const QPoint point(200, 300);
-        QCOMPARE(settled.reader.colorAt(point), QColor(Screen::below(point)));
-        const auto detail = settled.reader.around(point, size, *QGuiApplication::primaryScreen());
+        QCOMPARE(settled.grabber.colorAt(point), QColor(Screen::below(point)));
+        const auto detail = settled.grabber.around(point, size, *QGuiApplication::primaryScreen());
         QCOMPARE(detail.color, QColor(Screen::below(point)));
         QCOMPARE(pixelOf(detail, {6, 6}), Screen::below(point));
         QCOMPARE(settled.screen.grabbed, QVector<QRect>());
 
         // Without a cover there are none.
-        Settled bare(ScreenReader::Cover::Nothing, ScreenSource::Grabs::Never);
+        Settled bare(ScreenGrabber::Cover::Nothing, ScreenSource::Grabs::Never);
         bare.screen.hasChanged = true;
-        QCOMPARE(bare.reader.colorAt(point), QColor(bare.screen.shownAt(point)));
+        QCOMPARE(bare.grabber.colorAt(point), QColor(bare.screen.shownAt(point)));
     }
 
     void windowsOfTheirOwnAreAlwaysRead()
     {
         Screen screen;
         screen.kind = ScreenSource::Grabs::Always;
-        ScreenReader reader(everything, ScreenReader::Cover::Overlay, screen);
+        ScreenGrabber grabber(everything, ScreenGrabber::Cover::Overlay, screen);
         QCOMPARE(screen.grabbed, QVector<QRect>());
         const QPoint point(200, 300);
-        QCOMPARE(reader.colorAt(point), corrected(Screen::below(point)));
-        QVERIFY(reader.picture(*QGuiApplication::primaryScreen()).isNull());
+        QCOMPARE(grabber.colorAt(point), corrected(Screen::below(point)));
+        QVERIFY(grabber.picture(*QGuiApplication::primaryScreen()).isNull());
     }
 
     void grabsOfThePlatform_data()
@@ -419,12 +419,12 @@ private Q_SLOTS:
         Screen screen;
         screen.isBlind = true;
         const QPoint point(200, 300);
-        ScreenReader covered(everything, ScreenReader::Cover::Overlay, screen);
+        ScreenGrabber covered(everything, ScreenGrabber::Cover::Overlay, screen);
         QCOMPARE(covered.colorAt(point), QColor(Qt::black));
         const auto detail = covered.around(point, size, *QGuiApplication::primaryScreen());
         QCOMPARE(pixelOf(detail, {6, 6}), 0U);
         QCOMPARE(detail.color, QColor(Qt::black));
-        ScreenReader bare(everything, ScreenReader::Cover::Nothing, screen);
+        ScreenGrabber bare(everything, ScreenGrabber::Cover::Nothing, screen);
         QVERIFY(!bare.colorAt(point).isValid());
 
         // A large area without a picture says nothing of a single pixel.
@@ -436,15 +436,15 @@ private Q_SLOTS:
             }
         } onePixel;
         onePixel.kind = ScreenSource::Grabs::Always;
-        ScreenReader reader(everything, ScreenReader::Cover::Overlay, onePixel);
-        QCOMPARE(reader.around(point, size, *QGuiApplication::primaryScreen()).color,
+        ScreenGrabber grabber(everything, ScreenGrabber::Cover::Overlay, onePixel);
+        QCOMPARE(grabber.around(point, size, *QGuiApplication::primaryScreen()).color,
                  corrected(Screen::below(point)));
     }
 
     void pointOnNoScreen()
     {
         Settled settled;
-        QVERIFY(!settled.reader.colorAt(QPoint(-100, 5000)).isValid());
+        QVERIFY(!settled.grabber.colorAt(QPoint(-100, 5000)).isValid());
     }
 
     void pointOfADevicePixel()
@@ -456,5 +456,5 @@ private Q_SLOTS:
     }
 };
 
-UIC_TEST_MAIN(tst_ScreenReader)
-#include "tst_ScreenReader.moc"
+UIC_TEST_MAIN(tst_ScreenGrabber)
+#include "tst_ScreenGrabber.moc"

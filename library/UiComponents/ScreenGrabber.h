@@ -53,7 +53,7 @@ public:
  * records: call settle() after a pick, or the next picker picks what is left of it on the screens. Arguments
  * are in points of the desktop; inside, everything is in device pixels.
  */
-class ScreenReader
+class ScreenGrabber
 {
 public:
     /// What lies over the pixels that are grabbed.
@@ -77,7 +77,7 @@ public:
     static QColor overlayColor();
 
     /// Takes the picture of @p area.
-    ScreenReader(const QRegion& area, Cover cover, ScreenSource& source = ScreenSource::platform());
+    ScreenGrabber(const QRegion& area, Cover cover, ScreenSource& source = ScreenSource::platform());
 
     /// What the screen showed at the start; null when there is no picture of it.
     QPixmap picture(QScreen& screen) const;
