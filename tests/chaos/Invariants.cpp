@@ -25,8 +25,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <typeinfo>
-#include <unordered_set>
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/asan_interface.h>
@@ -42,7 +42,7 @@ constexpr int removeObjectHook = 4;
 constexpr qint64 longestStep = 1000; // ms
 constexpr qint64 longestWait = 3000;
 
-using Objects = std::unordered_set<QObject*>;
+using Objects = std::set<QObject*>; // in an order that has nothing to do with those of other threads
 // Never destroyed: objects die after main(), too.
 Objects& objects = *new Objects;
 Objects& before = *new Objects;

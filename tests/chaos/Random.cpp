@@ -10,7 +10,9 @@
 #include <QModelIndex>
 #include <QPalette>
 #include <QPixmap>
+#include <QRandomGenerator>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <limits>
@@ -91,8 +93,7 @@ QString Random::text()
 
 QString Random::path()
 {
-    static const std::vector<QString> paths{QDir::homePath(),
-                                            QDir::tempPath(),
+    static const std::vector<QString> paths{QDir::tempPath(),
                                             QStringLiteral("/"),
                                             QStringLiteral("."),
                                             QStringLiteral("~"),
@@ -195,4 +196,11 @@ QVariant Random::value(int type)
     default:
         return {};
     }
+}
+
+/// The program's own, which Qt's painting finds before Qt Core's: by chance it forgets one of its gradients,
+/// with the objects in that. The names of temporary files stay random.
+void QRandomGenerator::_fillRange(void* buffer, void* bufferEnd)
+{
+    std::fill(static_cast<quint32*>(buffer), static_cast<quint32*>(bufferEnd), 0);
 }

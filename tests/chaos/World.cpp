@@ -17,6 +17,7 @@
 #include <QDialog>
 #include <QDrag>
 #include <QMouseEvent>
+#include <QSplitter>
 #include <QThread>
 #include <QTimer>
 #include <QToolTip>
@@ -53,6 +54,14 @@ void endModal(QWidget* widget)
     } else if (widget) {
         widget->close();
     }
+}
+
+/// Whether no user comes to it. Qt hides the handle before the first widget of a splitter, and moves it to a
+/// place that it has not worked out.
+bool isOutOfReach(const QObject* object)
+{
+    const auto* const splitter = qobject_cast<const QSplitter*>(object->parent());
+    return object->inherits("HighlightFrameOverlay") || (splitter && splitter->handle(0) == object);
 }
 
 void release(QObject* object)
@@ -257,7 +266,7 @@ QWidget* World::anyWidget()
     while (widget) {
         QVector<QWidget*> children;
         for (QObject* child : widget->children()) {
-            if (child->isWidgetType() && !child->inherits("HighlightFrameOverlay")) {
+            if (child->isWidgetType() && !isOutOfReach(child)) {
                 children.append(static_cast<QWidget*>(child));
             }
         }

@@ -20,15 +20,20 @@
 
 namespace {
 
-/// Starts the program anew at the addresses that it always has: Qt orders widgets by theirs.
-void fixAddresses(char** argv)
+/// Starts the program anew, with the addresses and the hashes that it always has: Qt orders widgets by both.
+void fixOrder(char** argv)
 {
+    const char* const hashSeed = "QT_HASH_SEED";
+    if (qgetenv(hashSeed) == "0") {
+        return;
+    }
+    qputenv(hashSeed, "0"); // libraries of Qt's take it before main()
     constexpr unsigned long question = 0xffffffff;
     const int present = personality(question);
-    if (present >= 0 && !(present & ADDR_NO_RANDOMIZE) &&
-        personality(static_cast<unsigned long>(present) | ADDR_NO_RANDOMIZE) >= 0) {
-        execv("/proc/self/exe", argv);
+    if (present >= 0) {
+        personality(static_cast<unsigned long>(present) | ADDR_NO_RANDOMIZE);
     }
+    execv("/proc/self/exe", argv);
 }
 
 /// One window after the other, each step a turn of the event loop, as events are.
@@ -175,10 +180,9 @@ extern "C" Q_DECL_EXPORT const char* __ubsan_default_options()
 
 int main(int argc, char** argv)
 {
-    fixAddresses(argv);
+    fixOrder(argv);
     Invariants::begin();
     qputenv("QT_NO_GLIB", "1");
-    qputenv("QT_HASH_SEED", "0");
     const TestEnvironment environment;
     Application application(argc, argv);
     TestEnvironment::prepareApplication();
