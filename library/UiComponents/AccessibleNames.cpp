@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QVector>
 
 #include <algorithm>
@@ -142,9 +143,8 @@ QString AccessibleNames::plainText(const QLabel* label)
 {
     QString text = label->text();
     if (label->textFormat() != Qt::PlainText && Qt::mightBeRichText(text)) {
-        QTextDocument document;
-        document.setHtml(text);
-        text = document.toPlainText();
+        // Without the files that a document would load.
+        text = QTextDocumentFragment::fromHtml(text).toPlainText();
     }
     text.replace(QRegularExpression(QStringLiteral("&(.)")), QStringLiteral("\\1"));
     text = text.trimmed();

@@ -3,12 +3,45 @@
 #include "RichText.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
 #include <QTextDocument>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace {
+
+/// The parent of a document, which asks it before it opens a file: Qt would wait for ever for what a pipe or
+/// a device has to say. These count as missing.
+class TextFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Called by name. A null answer leaves the file to Qt.
+    Q_INVOKABLE QVariant loadResource(int type, const QUrl& url) const
+    {
+        QUrl local = url;
+        if (local.scheme().isEmpty()) {
+            local.setScheme(QStringLiteral("file"));
+        }
+        // Qt tries both, for a name may have characters that mean something in a URL.
+        const auto paths = {local.toLocalFile(), url.toString()};
+        const bool isSpecial = std::any_of(paths.begin(), paths.end(), [](const QString& path) {
+            const QFileInfo file(path);
+            return file.exists() && !file.isFile() && !file.isDir();
+        });
+        if (isSpecial && type == QTextDocument::ImageResource) {
+            return QPixmap(QStringLiteral(":/qt-project.org/styles/commonstyle/images/file-16.png"));
+        }
+        return isSpecial ? QVariant(QLatin1String("")) : QVariant();
+    }
+};
 
 /// The size of a picture in a text, which may give width, height or neither.
 QSizeF sizeOf(const QTextImageFormat& format, QTextDocument* document)
@@ -103,8 +136,8 @@ void GuideLabel::paintEvent(QPaintEvent* event)
 /// Makes the document that QLabel has for rich text break words too. QLabel resets it at each layout.
 bool GuideLabel::breaksWords() const
 {
+    QTextDocument* const rich = document(); // before Qt fills it
     const QSize minSize = QLabel::minimumSizeHint();
-    QTextDocument* const rich = document();
     const QScreen* const shownOn = screen();
     const bool isTooHigh = rich && shownOn && minSize.height() > shownOn->availableSize().height();
     if (minSize.width() <= maxWidth(this) && !isTooHigh) {
@@ -149,13 +182,19 @@ void GuideLabel::colorLinks()
     m_linkColor = wanted;
 }
 
-/// Null for plain text.
+/// Null for plain text. Qt makes it anew now and then; it asks its parent before it loads anything.
 QTextDocument* GuideLabel::document() const
 {
-    return findChild<QTextDocument*>();
+    auto* const rich = findChild<QTextDocument*>();
+    if (rich && !qobject_cast<TextFiles*>(rich->parent())) {
+        rich->setParent(new TextFiles(rich->parent()));
+    }
+    return rich;
 }
 
 QRect GuideLabel::textRect() const
 {
     return contentsRect().adjusted(margin(), margin(), -margin(), -margin());
 }
+
+#include "GuideLabel.moc"

@@ -10,6 +10,7 @@ class QTextDocument;
 /**
  * A label that wraps its text between words. Where a word or a picture would make it wider than half of its
  * screen, it breaks words anywhere and shrinks pictures. Links have its colour, where a sheet gives it one.
+ * Pipes and devices in place of its pictures and sheets are missing files.
  */
 // Without Q_OBJECT, since style sheets know it as a QLabel.
 class GuideLabel : public QLabel // clazy:exclude=missing-qobject-macro

@@ -65,11 +65,24 @@ bool loadScene(const QString& path)
     return content.isAvailable() && content.getUiContent()->size() == QSize(5, 4);
 }
 
-/// No file is needed for the guide's texts.
-bool showGuide(const QString& path)
+/// No file is needed for the title.
+bool showGuide(const QString& description, const QString& moviePath)
 {
-    GuideWidget guide(GuideInfo("title", "description", {}, path), nullptr);
+    GuideWidget guide(GuideInfo("title", description, {}, moviePath), nullptr);
     return !guide.grab().isNull() && guide.findChild<QLabel*>("headerLabel")->isVisibleTo(&guide);
+}
+
+bool showMovie(const QString& path)
+{
+    return showGuide("description", path);
+}
+
+/// All that Qt loads for rich text.
+bool showRichText(const QString& path)
+{
+    const QString files =
+        "<link rel='stylesheet' href='%1'><p style='background-image: url(%1)'><img src='%1'>";
+    return showGuide(files.arg(path), {});
 }
 
 /// Whether all that @p before says about the host is in a file of @p folder.
@@ -161,6 +174,8 @@ private Q_SLOTS:
              [](const QString& path, const QByteArray&) { return writePicture(path, 20000); }},
             {"a pipe", [](const QString& path,
                           const QByteArray&) { return mkfifo(QFile::encodeName(path), 0600) == 0; }},
+            {"a device",
+             [](const QString& path, const QByteArray&) { return QFile::link("/dev/zero", path); }},
             {"a folder", [](const QString& path, const QByteArray&) { return QDir().mkdir(path); }},
             {"a link to itself",
              [](const QString& path, const QByteArray&) { return QFile::link(path, path); }},
@@ -169,11 +184,13 @@ private Q_SLOTS:
                  return write(path, good) && QFile::setPermissions(path, {});
              }},
         };
+        const QByteArray picture = beginOf(UIC_TEST_DATA "/../../../../gallery/resources/guides/search.gif");
         const std::tuple<const char*, QByteArray, Use> users[] = {
             {"settings",
              "[General]\nhost=5\nuserCustomColors=#112233, #445566\n\n[window]\nsize=@Size(3 4)\n", addColor},
             {"scene", "import QtQuick 2.15\nItem { width: 5; height: 4 }\n", loadScene},
-            {"guide", beginOf(UIC_TEST_DATA "/../../../../gallery/resources/guides/search.gif"), showGuide},
+            {"guide", picture, showMovie},
+            {"guide's text", picture, showRichText},
         };
         QTest::addColumn<Make>("make");
         QTest::addColumn<QByteArray>("good");
