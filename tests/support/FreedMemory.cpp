@@ -24,13 +24,14 @@ bool isMainThread()
     return pthread_equal(first, pthread_self());
 }
 
-// The main thread's small objects lie one after the other, and nothing lies there again: only what has been
-// made before decides where the next one is. In the C library's memory other threads do, too, and the length
-// of each text, and Qt orders widgets by their addresses.
-#ifdef __SANITIZE_ADDRESS__
-constexpr std::size_t poolSize = 1; // it knows its own memory only
-#else
+// For a program that asks for it, the main thread's small objects lie one after the other, and nothing lies
+// there again: only what has been made before decides where the next one is. In the C library's memory other
+// threads do, too, and the length of each text, and Qt orders widgets by their addresses. The sanitizer knows
+// its own memory only.
+#if defined(UIC_FIXED_ADDRESSES) && !defined(__SANITIZE_ADDRESS__)
 constexpr std::size_t poolSize = 1024 * 1024 * 1024; // of addresses
+#else
+constexpr std::size_t poolSize = 1;
 #endif
 constexpr std::size_t unit = alignof(std::max_align_t);
 constexpr std::size_t largest = 4096;
