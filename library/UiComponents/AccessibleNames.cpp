@@ -120,23 +120,29 @@ QWidget* AccessibleNames::componentOf(const QWidget* widget)
     return nullptr;
 }
 
-QString AccessibleNames::ownName(const QWidget* widget)
+QLabel* AccessibleNames::labelOf(const QWidget* widget)
 {
-    if (!widget->accessibleName().isEmpty()) {
-        return widget->accessibleName();
-    }
     for (const QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
         const auto labels = outer->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QLabel* label : labels) {
+        for (QLabel* label : labels) {
             if (label->buddy() == widget) {
-                return plainText(label);
+                return label;
             }
         }
         if (outer->isWindow()) {
             break;
         }
     }
-    return {};
+    return nullptr;
+}
+
+QString AccessibleNames::ownName(const QWidget* widget)
+{
+    if (!widget->accessibleName().isEmpty()) {
+        return widget->accessibleName();
+    }
+    const QLabel* const label = labelOf(widget);
+    return label ? plainText(label) : QString();
 }
 
 QString AccessibleNames::plainText(const QLabel* label)

@@ -12,7 +12,10 @@ namespace AccessibleNames {
 /// The component that @p widget is a part of; null where there is none in its window.
 QWidget* componentOf(const QWidget* widget);
 
-/// The name that the host gave @p widget: its accessible name, or the text of the label whose buddy it is.
+/// The label whose buddy @p widget is, beside it or further up in its window.
+QLabel* labelOf(const QWidget* widget);
+
+/// The name that the host gave @p widget: its accessible name, or the text of its label.
 QString ownName(const QWidget* widget);
 
 /// The text of @p label without the mark of its mnemonic, the colon at its end and rich text's tags.

@@ -32,19 +32,6 @@ QAccessibleInterface* interfaceOf(QWidget* widget)
     return widget ? QAccessible::queryAccessibleInterface(widget) : nullptr;
 }
 
-QLabel* labelOf(const QWidget* widget)
-{
-    const QWidget* const outer = widget->parentWidget();
-    const auto labels =
-        outer ? outer->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly) : QList<QLabel*>();
-    for (QLabel* label : labels) {
-        if (label->buddy() == widget) {
-            return label;
-        }
-    }
-    return nullptr;
-}
-
 /// What has opened @p popup. That of a colour field belongs to the window, where others use it too.
 QWidget* openerOf(const QWidget* popup)
 {
@@ -103,7 +90,7 @@ AccessiblePart::relations(QAccessible::Relation match) const
     if (match.testFlag(QAccessible::Label) && AccessibleNames::isNamedByComponent(widget())) {
         // The label's buddy is the component, which passes its focus on.
         const QWidget* const component = AccessibleNames::componentOf(widget());
-        if (QAccessibleInterface* const label = interfaceOf(labelOf(component))) {
+        if (QAccessibleInterface* const label = interfaceOf(AccessibleNames::labelOf(component))) {
             found.append({label, QAccessible::Label});
         }
     }

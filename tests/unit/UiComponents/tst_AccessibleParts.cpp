@@ -152,6 +152,20 @@ private Q_SLOTS:
         }
     }
 
+    void labelFurtherUp()
+    {
+        QWidget window;
+        QLabel label(QStringLiteral("&Level:"), &window);
+        QWidget group(&window);
+        SliderInputWidget field(&group, {0, 10});
+        label.setBuddy(&field);
+        QWidget* const slider = partOf(&field, "slider");
+        QCOMPARE(spokenName(slider), QStringLiteral("Level"));
+        const auto labels = reader(slider).relations(QAccessible::Label);
+        QCOMPARE(labels.size(), 1);
+        QCOMPARE(labels.constFirst().first->object(), &label);
+    }
+
     void ownNamesWin()
     {
         QWidget window;
