@@ -2,6 +2,8 @@
 #include "FakeColorPicker.h"
 #include "FreedMemory.h"
 #include "MouseEvents.h"
+#include "PickingStage.h"
+#include "PipetteWindows.h"
 #include "QmlFiles.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -13,11 +15,15 @@
 #include <UiComponents/GuideButton.h>
 #include <UiComponents/GuideWidget.h>
 #include <UiComponents/PathSelectionWidget.h>
+#include <UiComponents/Pipette.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
+#include <UiComponents/PopupColorPicker.h>
 #include <UiComponents/QuickDialog.h>
 #include <UiComponents/SearchWidget.h>
 #include <UiComponents/SliderInputWidget.h>
+#include <UiComponents/WidgetColorPicker.h>
+#include <UiComponents/WidgetColorPickerButton.h>
 
 #include <functional>
 
@@ -31,7 +37,7 @@ const QString scheme = QStringLiteral("uic-deletion-test");
 /// A component in a window, and what makes it report.
 struct Scene
 {
-    QWidget* component;
+    QObject* component;
     Action act;
 };
 
@@ -109,6 +115,86 @@ PathSelectionWidget* makeFolderField(QWidget* window)
     return field;
 }
 
+/// Something to pick from.
+QWidget* makeTarget(QWidget* window)
+{
+    auto* const target = new PatternWidget(window);
+    target->setFixedSize(100, 80);
+    window->layout()->addWidget(target);
+    return target;
+}
+
+WidgetColorPicker* makeWidgetPicker(QWidget* window)
+{
+    auto* const picker = new WidgetColorPicker({});
+    picker->setParent(window);
+    picker->setTarget(makeTarget(window));
+    return picker;
+}
+
+WidgetColorPickerButton* makeWidgetPickerButton(QWidget* window)
+{
+    auto* const button = new WidgetColorPickerButton(window);
+    button->setTargetWidget(makeTarget(window));
+    return button;
+}
+
+/// Once a pick waits for it.
+void pressOn(const QWidget* target)
+{
+    PickingStage::moveCursor(target);
+    QTimer::singleShot(0, target, [target] {
+        const QWidget* const window = target->window();
+        QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, target->geometry().center());
+    });
+}
+
+ColorPickerButton* makePanelButton(QWidget* window)
+{
+    auto* const button = new ColorPickerButton(window);
+    button->setPicker(new PopupColorPicker);
+    button->setColor(QColor(Qt::blue));
+    window->layout()->addWidget(button);
+    return button;
+}
+
+PopupColorPicker* makePopupPicker(QWidget* window)
+{
+    return static_cast<PopupColorPicker*>(makePanelButton(window)->picker());
+}
+
+ColorInputWidget* makePanelField(QWidget* window)
+{
+    auto* const field = new ColorInputWidget(window, Qt::blue);
+    field->setPicker(new PopupColorPicker);
+    return field;
+}
+
+QWidget* windowOf(QObject* component)
+{
+    auto* const widget = qobject_cast<QWidget*>(component);
+    return (widget ? widget : qobject_cast<QWidget*>(component->parent()))->window();
+}
+
+ColorPickerButton* buttonIn(const QWidget* window)
+{
+    return window->findChild<ColorPickerButton*>();
+}
+
+/// Chooses a colour in the panel, which is a preview of the field's.
+void chooseInPanel(const QWidget* window)
+{
+    buttonIn(window)->startPicking();
+    auto* const edit = part<QLineEdit>(window, "currentColorValueEdit");
+    edit->selectAll();
+    QTest::keyClicks(edit, QStringLiteral("#123456"));
+}
+
+void pressEscapeInPanel(const QWidget* window)
+{
+    QTest::keyPress(part<QWidget>(window, "colorPanelPopup")->windowHandle(), Qt::Key_Escape);
+}
+
 GuideInfo guideInfo()
 {
     return {QStringLiteral("Trim"), QString(), QStringLiteral("<a href=\"%1:x\">Learn more</a>").arg(scheme),
@@ -157,6 +243,8 @@ private Q_SLOTS:
         QTest::addColumn<Make>("make");
         QTest::addColumn<int>("report"); // the index of the report that deletes
         addColorFields();
+        addPickers();
+        addPanels();
         addSliderFields();
         addPointFields();
         addTextFields();
@@ -173,15 +261,16 @@ private Q_SLOTS:
                 int reports = 0;
                 const QPointer<QWidget> window = new QWidget;
                 auto* const layout = new QVBoxLayout(window);
-                QPointer<QWidget> component;
+                QPointer<QObject> component;
                 const Scene scene = make(window, [&] {
                     if (++reports == report) {
                         destroy(isWindowDeleted ? window.data() : component.data(), deletion);
                     }
                 });
                 component = scene.component;
-                if (!component->isWindow()) {
-                    layout->addWidget(component);
+                auto* const widget = qobject_cast<QWidget*>(component);
+                if (widget && !widget->isWindow()) {
+                    layout->addWidget(widget);
                 }
                 window->show();
                 QVERIFY(QTest::qWaitForWindowActive(window));
@@ -227,6 +316,98 @@ private:
         ::add<ColorInputWidget>(
             "colour field", makeColorField, &ColorInputWidget::colorChanged,
             [](auto* field) { QTest::mouseClick(field->anchorWidget(), Qt::LeftButton); });
+    }
+
+    static void addPickers()
+    {
+        const auto make = [](QWidget* window) { return new Pipette(window); };
+        const Act<Pipette> start = [](auto* pipette) { pipette->startPicking(); };
+        ::add<Pipette>("pipette, started", make, &Pipette::pickingStarted, start);
+        const auto add = [=](const char* name, auto signal, const Act<Pipette>& act) {
+            ::add<Pipette>(QByteArray("pipette, ") + name, make, signal, act, 1, [=](auto* pipette) {
+                start(pipette);
+                QVERIFY(QTest::qWaitForWindowActive(PipetteWindows::views().first()));
+            });
+        };
+        const auto click = [](auto*) {
+            PipetteWindows::release(QGuiApplication::primaryScreen(), {600, 500});
+        };
+        const auto key = [](Qt::Key code) {
+            return [code](auto*) { QTest::keyPress(PipetteWindows::views().first()->windowHandle(), code); };
+        };
+        add("colour", &Pipette::colorSelected, click);
+        add("click", &Pipette::pickingStopped, click);
+        add("Escape", &Pipette::pickingStopped, key(Qt::Key_Escape));
+        add("another key", &Pipette::pickingStopped, key(Qt::Key_A));
+        add("another application", &Pipette::pickingStopped,
+            [](auto*) { Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive); });
+        add("stopped", &Pipette::pickingStopped, [](auto* pipette) { pipette->stopPicking(); });
+
+        const auto pick = [](auto* picker) {
+            pressOn(picker->target());
+            picker->pick();
+        };
+        ::add<WidgetColorPicker>("widget picker, colour", makeWidgetPicker,
+                                 &AbstractColorPicker::colorChanged, pick);
+        ::add<WidgetColorPicker>("widget picker, stopped", makeWidgetPicker,
+                                 &AbstractColorPicker::pickingStopped, pick);
+        const auto addButton = [](const char* name, auto signal) {
+            for (const bool isByKey : {false, true}) {
+                ::add<WidgetColorPickerButton>(QByteArray("widget picker button, ") + name +
+                                                   (isByKey ? " by Space" : " by a click"),
+                                               makeWidgetPickerButton, signal, [isByKey](auto* button) {
+                                                   pressOn(button->targetWidget());
+                                                   if (isByKey) {
+                                                       QTest::keyClick(button, Qt::Key_Space);
+                                                   } else {
+                                                       QTest::mouseClick(button, Qt::LeftButton);
+                                                   }
+                                               });
+            }
+        };
+        addButton("started", &WidgetColorPickerButton::pickingStarted);
+        addButton("finished", &WidgetColorPickerButton::pickingFinished);
+        addButton("colour", &WidgetColorPickerButton::colorChanged);
+    }
+
+    static void addPanels()
+    {
+        const auto add = [](const QByteArray& name, auto make, auto changed, auto stopped) {
+            using Component = std::remove_pointer_t<decltype(make(nullptr))>;
+            const auto choose = [](Component* made) { chooseInPanel(windowOf(made)); };
+            ::add<Component>(
+                name + ", Escape", make, changed, [=](auto* made) { pressEscapeInPanel(windowOf(made)); }, 1,
+                choose);
+            ::add<Component>(
+                name + ", sample", make, changed,
+                [=](auto* made) {
+                    QWidget* const window = windowOf(made);
+                    FakeColorPicker sampler;
+                    sampler.onPick = [&sampler] { sampler.preview(QColor(Qt::green)); };
+                    static_cast<PopupColorPicker*>(buttonIn(window)->picker())->setPipette(&sampler);
+                    QTest::mouseClick(part<QWidget>(window, "pipetteButton"), Qt::LeftButton);
+                },
+                1, choose);
+            ::add<Component>(
+                name + ", closed", make, stopped,
+                [=](auto* made) {
+                    const QPointer<QObject> alive = made;
+                    pressEscapeInPanel(windowOf(made));
+                    QTRY_VERIFY(!alive);
+                },
+                1, choose);
+            ::add<Component>(
+                name + ", stopped", make, stopped,
+                [=](auto* made) { buttonIn(windowOf(made))->stopPicking(); }, 1, choose);
+        };
+        add("pop-up picker", makePopupPicker, &AbstractColorPicker::colorChanged,
+            &AbstractColorPicker::pickingStopped);
+        add("button with a panel", makePanelButton, &ColorPickerButton::colorChanged,
+            &ColorPickerButton::pickingStopped);
+        ::add<ColorInputWidget>(
+            "colour field with a panel, Escape", makePanelField, &ColorInputWidget::colorChanged,
+            [](auto* field) { pressEscapeInPanel(field->window()); }, 1,
+            [](auto* field) { chooseInPanel(field->window()); });
     }
 
     static void addSliderFields()

@@ -844,63 +844,6 @@ private Q_SLOTS:
         QCOMPARE(m_protocol.lines, (QStringList{started, stopped, started, stopped, started, stopped}));
     }
 
-    void pipetteMayDieInItsSlots_data()
-    {
-        QTest::addColumn<QString>("signal");
-        QTest::addColumn<Act>("act");
-        const auto key = [](int code) {
-            return Act(
-                [code](PipetteScreenView* view) { QTest::keyPress(view->windowHandle(), Qt::Key(code)); });
-        };
-        const Act click = [](PipetteScreenView* view) { release(view, QPoint(600, 500)); };
-        const Act leave = [](PipetteScreenView*) {
-            Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-        };
-        QTest::newRow("colorSelected, click") << QStringLiteral("selected") << click;
-        QTest::newRow("pickingStopped, click") << QStringLiteral("stopped") << click;
-        QTest::newRow("pickingStopped, Escape") << QStringLiteral("stopped") << key(Qt::Key_Escape);
-        QTest::newRow("pickingStopped, other key") << QStringLiteral("stopped") << key(Qt::Key_A);
-        QTest::newRow("pickingStopped, other application") << QStringLiteral("stopped") << leave;
-    }
-
-    void pipetteMayDieInItsSlots()
-    {
-        QFETCH(QString, signal);
-        QFETCH(Act, act);
-        for (const bool withParent : {false, true}) {
-            auto parent = std::make_unique<QObject>();
-            QPointer<Pipette> pipette = new Pipette(parent.get());
-            const auto die = [&parent, pipette, withParent] {
-                if (withParent) {
-                    parent.reset();
-                } else {
-                    delete pipette;
-                }
-            };
-            if (signal == QLatin1String("selected")) {
-                connect(pipette, &Pipette::colorSelected, this, die);
-            } else {
-                connect(pipette, &Pipette::pickingStopped, this, die);
-            }
-            pipette->startPicking();
-            PipetteScreenView* const view = shownViews().first();
-            QVERIFY(QTest::qWaitForWindowActive(view));
-            QCoreApplication::processEvents();
-            const FreedMemoryWatch watch;
-            act(view);
-            QTRY_VERIFY(!pipette);
-            QVERIFY(shownViews().isEmpty());
-            QVERIFY(nothingIsLeft());
-            QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
-        }
-
-        // In the first signal of all.
-        auto* pipette = new Pipette;
-        connect(pipette, &Pipette::pickingStarted, this, [pipette] { delete pipette; });
-        pipette->startPicking();
-        QVERIFY(nothingIsLeft());
-    }
-
     void pipetteMayDieWhilePicking()
     {
         start();

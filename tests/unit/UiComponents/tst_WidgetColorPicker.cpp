@@ -946,37 +946,6 @@ private Q_SLOTS:
         QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
     }
 
-    void deletedInASlot_data()
-    {
-        QTest::addColumn<bool>("isInFirst");
-        QTest::addColumn<bool>("isWindowToo");
-        QTest::newRow("colorChanged") << true << false;
-        QTest::newRow("pickingStopped") << false << false;
-        QTest::newRow("colorChanged, with the window") << true << true;
-        QTest::newRow("pickingStopped, with the window") << false << true;
-    }
-
-    void deletedInASlot()
-    {
-        QFETCH(bool, isInFirst);
-        QFETCH(bool, isWindowToo);
-        const auto destroy = [this, isWindowToo] {
-            delete m_picker;
-            if (isWindowToo) {
-                delete m_stage->window;
-            }
-        };
-        QSignalSpy stopped(m_picker.data(), &AbstractColorPicker::pickingStopped);
-        if (isInFirst) {
-            connect(m_picker.data(), &AbstractColorPicker::colorChanged, this, destroy);
-        } else {
-            connect(m_picker.data(), &AbstractColorPicker::pickingStopped, this, destroy);
-        }
-        QVERIFY(pickWith([this] { m_stage->press(); }));
-        QVERIFY(!m_picker);
-        QCOMPARE(stopped.size(), isInFirst ? 0 : 1);
-    }
-
     void stopInASlot()
     {
         const Protocol protocol(m_picker);

@@ -494,39 +494,6 @@ private Q_SLOTS:
         QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
     }
 
-    void deletedInASlot_data()
-    {
-        QTest::addColumn<QString>("signal");
-        QTest::addColumn<QStringList>("said");
-        QTest::newRow("pickingStarted")
-            << QStringLiteral("started") << QStringList(QStringLiteral("started"));
-        QTest::newRow("pickingFinished") << QStringLiteral("finished") << cancelled;
-        QTest::newRow("colorChanged") << QStringLiteral("color") << picked;
-    }
-
-    void deletedInASlot()
-    {
-        QFETCH(QString, signal);
-        const Protocol protocol(m_button);
-        const auto destroy = [this] { delete m_stage->window; };
-        if (signal == QLatin1String("started")) {
-            connect(m_button.data(), &WidgetColorPickerButton::pickingStarted, this, destroy);
-        } else if (signal == QLatin1String("finished")) {
-            connect(m_button.data(), &WidgetColorPickerButton::pickingFinished, this, destroy);
-        } else {
-            connect(m_button.data(), &WidgetColorPickerButton::colorChanged, this, destroy);
-        }
-        PickingStage::moveCursor(m_stage->target, spot);
-        QTimer::singleShot(0, this, [this] {
-            if (m_stage->window) {
-                m_stage->press();
-            }
-        });
-        m_button->click();
-        QVERIFY(!m_button);
-        QTEST(protocol.lines, "said");
-    }
-
     void targetGoneWhenStarted()
     {
         const Protocol protocol(m_button);
