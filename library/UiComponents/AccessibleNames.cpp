@@ -164,8 +164,8 @@ QString AccessibleNames::nameOf(const QWidget* widget)
 {
     const QWidget* const component = componentOf(widget);
     const PartName* const entry = component ? entryOf(widget, component) : nullptr;
-    const QString part = entry && entry->name ? translated(*entry, entry->name) : QString();
-    if (!part.isEmpty() && !entry->isJoined && widget->accessibleName().isEmpty()) {
+    QString part = entry && entry->name ? translated(*entry, entry->name) : QString();
+    if (entry && !entry->isJoined && !part.isEmpty() && widget->accessibleName().isEmpty()) {
         return part;
     }
     const QString own = ownName(widget);

@@ -136,7 +136,7 @@ public:
     {
 #ifdef QT_X11EXTRAS_LIB
         if (xcb_connection_t* const connection = QX11Info::connection()) {
-            const QImage image = grabRoot(connection, pixels);
+            QImage image = grabRoot(connection, pixels);
             if (!image.isNull()) {
                 return image;
             }
@@ -291,7 +291,7 @@ QColor ScreenGrabber::colorAt(const QPointF& position)
     const QRect pixel(toDevice(position, *screen), QSize(1, 1));
     const Picture* const known = hidden(pixel).isEmpty() ? nullptr : pictureOf(pixel);
     if (known) {
-        return QColor(known->image.pixel(pixel.topLeft() - known->corner));
+        return known->image.pixel(pixel.topLeft() - known->corner);
     }
     const QImage live = grab(*screen, pixel).image;
     if (live.isNull()) {
@@ -379,7 +379,7 @@ QRegion ScreenGrabber::touched(const QRect& area) const
 ScreenGrabber::Picture ScreenGrabber::grab(QScreen& screen, const QRegion& area)
 {
     const QRect bounds = area.boundingRect();
-    const Picture live = {bounds.topLeft(), bounds.isEmpty() ? QImage() : m_source->grab(screen, bounds)};
+    Picture live = {bounds.topLeft(), bounds.isEmpty() ? QImage() : m_source->grab(screen, bounds)};
     const auto keep = [this](QRgb seen, QRgb& kept) {
         if (opaque(seen) != (m_cover == Cover::Overlay ? darkened(kept) : opaque(kept))) {
             kept = belowCover(seen).rgb();
@@ -405,7 +405,7 @@ const ScreenGrabber::Picture* ScreenGrabber::pictureOf(const QRect& area) const
 
 QColor ScreenGrabber::belowCover(QRgb seen) const
 {
-    const QColor color(seen);
+    QColor color(seen);
     if (m_cover == Cover::Nothing) {
         return color;
     }
