@@ -131,7 +131,7 @@ QVector<QWidget*> AccessiblePart::popups() const
 
 QString AccessibleColor::text(QAccessible::Text kind) const
 {
-    const QString color = spokenColor();
+    QString color = spokenColor();
     if (kind == QAccessible::Value) {
         return color;
     }

@@ -82,9 +82,9 @@ bool isLasting(ColorPortal::Trouble trouble)
 
 } // namespace
 
-ColorPortal::ColorPortal(const QDBusConnection& bus, QObject* parent, int timeLimit)
+ColorPortal::ColorPortal(QDBusConnection bus, QObject* parent, int timeLimit)
     : ScreenColorSource(parent)
-    , m_bus(bus)
+    , m_bus(std::move(bus))
     , m_timeLimit(timeLimit)
 {
     if (!m_bus.isConnected()) {

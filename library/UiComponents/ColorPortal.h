@@ -40,7 +40,7 @@ public:
     static QString text(Trouble trouble);
 
     /// @p timeLimit is for each message, in milliseconds; -1, D-Bus's own of 25 seconds, for all but tests.
-    ColorPortal(const QDBusConnection& bus, QObject* parent, int timeLimit = -1);
+    ColorPortal(QDBusConnection bus, QObject* parent, int timeLimit = -1);
 
     QString unavailableReason() const override;
     std::unique_ptr<QObject> pick(QWindow* parent, Answer answer) override;

@@ -14,7 +14,7 @@
 namespace {
 
 // QSettings takes a larger one for an empty one, which it then writes over, or for all of the memory.
-constexpr qint64 maxFileSize = 64 * 1024 * 1024;
+constexpr qint64 maxFileSize = qint64(64) * 1024 * 1024;
 
 /// The files of the application and of its organisation, the user's own first. Found without opening
 /// them: a QSettings would block on a pipe. Their paths are derived from those of an organisation that does

@@ -93,15 +93,18 @@ SliderAccess::Silence::~Silence()
 
 void SliderAccess::Silence::filter(QAccessibleEvent* event)
 {
-    Silence* outermost = innermost;
-    for (Silence* one = innermost; one; one = one->m_outer) {
-        if (event->type() == QAccessible::ValueChanged && event->object() == one->m_slider) {
-            one->m_hasHeld = true;
-            return;
-        }
-        outermost = one;
+    const auto isHeldBy = [event](const Silence* one) {
+        return event->type() == QAccessible::ValueChanged && event->object() == one->m_slider;
+    };
+    Silence* one = innermost;
+    while (!isHeldBy(one) && one->m_outer) {
+        one = one->m_outer;
     }
-    QAccessible::installUpdateHandler(outermost->m_handler);
+    if (isHeldBy(one)) {
+        one->m_hasHeld = true;
+        return;
+    }
+    QAccessible::installUpdateHandler(one->m_handler);
     QAccessible::updateAccessibility(event);
     QAccessible::installUpdateHandler(filter);
 }

@@ -190,9 +190,9 @@ QVariant Random::value(int type)
         return QIcon(pixmap);
     }
     case QMetaType::QKeySequence:
-        return QKeySequence(oneOf<int>({0, Qt::Key_A, Qt::CTRL | Qt::Key_Z, Qt::Key_Space}));
+        return QKeySequence(oneOf<int>({0, Qt::Key_A, int(Qt::CTRL) + int(Qt::Key_Z), Qt::Key_Space}));
     case QMetaType::QModelIndex:
-        return QVariant(QModelIndex());
+        return QModelIndex();
     default:
         return {};
     }

@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <sys/personality.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -40,11 +41,11 @@ void fixOrder(char** argv)
 class Driver : public QObject
 {
 public:
-    Driver(Application& application, quint64 seed, quint64 window, const QString& fault, int events)
+    Driver(Application& application, quint64 seed, quint64 window, QString fault, int events)
         : m_application(application)
         , m_seeds(seed)
         , m_window(window)
-        , m_fault(fault)
+        , m_fault(std::move(fault))
         , m_left(events)
     {
         connect(&m_timer, &QTimer::timeout, this, &Driver::turn);
