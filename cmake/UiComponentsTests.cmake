@@ -80,9 +80,7 @@ function(uic_desktop_variant class name)
         get_test_property(desktop.${class} ${property} value)
         set_tests_properties(${test} PROPERTIES ${property} "${value}")
     endforeach()
-    # A QT_SCREEN_SCALE_FACTORS has several values: its semicolons stay.
-    set(environment ${UIC_DESKTOP_ENVIRONMENT} ${arg_ENVIRONMENT})
-    set_property(TEST ${test} PROPERTY ENVIRONMENT "${environment}")
+    set_property(TEST ${test} PROPERTY ENVIRONMENT ${UIC_DESKTOP_ENVIRONMENT} ${arg_ENVIRONMENT})
 endfunction()
 
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
