@@ -37,6 +37,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <gallery/GalleryApplication.h>
@@ -58,11 +59,15 @@ constexpr QSize leastTarget(24, 24);
 /// Of WCAG 2, from 1 (the same) to 21 (black and white).
 double luminance(QRgb color)
 {
-    const auto linear = [](int part) {
-        const double share = part / 255.0;
-        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+    static const QVector<double> linear = [] {
+        QVector<double> values;
+        for (int part = 0; part < 256; ++part) {
+            const double share = part / 255.0;
+            values.append(share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4));
+        }
+        return values;
+    }();
+    return 0.2126 * linear[qRed(color)] + 0.7152 * linear[qGreen(color)] + 0.0722 * linear[qBlue(color)];
 }
 
 double contrast(QRgb one, QRgb other)
@@ -72,43 +77,38 @@ double contrast(QRgb one, QRgb other)
     return qMax(first, second) / qMin(first, second);
 }
 
-QVector<QRgb> pixelsOf(const QImage& picture, const QRect& area)
+/// The colours in the area, and how many pixels have each.
+QHash<QRgb, int> colorsOf(const QImage& picture, const QRect& area)
 {
-    QVector<QRgb> pixels;
+    QHash<QRgb, int> counts;
     const QRect inside = area & picture.rect();
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        for (int x = inside.left(); x <= inside.right(); ++x) {
-            pixels.append(picture.pixel(x, y));
+        const auto* const line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = inside.left(), next = x; x <= inside.right(); x = next) {
+            while (next <= inside.right() && line[next] == line[x]) {
+                ++next;
+            }
+            counts[line[x]] += next - x;
         }
     }
-    return pixels;
+    return counts;
 }
 
 /// The colour that most of the area has.
 QRgb surfaceOf(const QImage& picture, const QRect& area)
 {
-    QHash<QRgb, int> counts;
-    QRgb most = 0;
-    const auto pixels = pixelsOf(picture, area);
-    for (const QRgb pixel : pixels) {
-        if (++counts[pixel] > counts.value(most)) {
-            most = pixel;
-        }
-    }
-    return most;
+    const QHash<QRgb, int> counts = colorsOf(picture, area);
+    const auto most = std::max_element(counts.cbegin(), counts.cend());
+    return most == counts.cend() ? 0 : most.key();
 }
 
 /// Of whatever stands out most in the area, against @p surface.
 double strongest(const QImage& picture, const QRect& area, QRgb surface)
 {
     double most = 1.0;
-    QSet<QRgb> seen;
-    const auto pixels = pixelsOf(picture, area);
-    for (const QRgb pixel : pixels) {
-        if (!seen.contains(pixel)) {
-            seen.insert(pixel);
-            most = qMax(most, contrast(pixel, surface));
-        }
+    const auto colors = colorsOf(picture, area).keys();
+    for (const QRgb color : colors) {
+        most = qMax(most, contrast(color, surface));
     }
     return most;
 }
@@ -282,7 +282,10 @@ public:
     }
 
 private:
-    QImage pictureOf(const QRect& area) const { return m_window->grab(area).toImage(); }
+    QImage pictureOf(const QRect& area) const
+    {
+        return m_window->grab(area).toImage().convertToFormat(QImage::Format_RGB32);
+    }
 
     QRect areaOf(const QWidget* widget) const { return {widget->mapTo(m_window, QPoint()), widget->size()}; }
 
@@ -413,9 +416,10 @@ private:
         const QImage after = pictureOf(area);
         int changed = 0;
         for (int y = 0; y < after.height(); ++y) {
+            const auto* const old = reinterpret_cast<const QRgb*>(before.constScanLine(y));
+            const auto* const line = reinterpret_cast<const QRgb*>(after.constScanLine(y));
             for (int x = 0; x < after.width(); ++x) {
-                changed += before.pixel(x, y) != after.pixel(x, y) &&
-                           contrast(before.pixel(x, y), after.pixel(x, y)) >= leastOfMarks;
+                changed += old[x] != line[x] && contrast(old[x], line[x]) >= leastOfMarks;
             }
         }
         if (changed < minPixels) {
