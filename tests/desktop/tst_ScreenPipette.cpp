@@ -529,6 +529,7 @@ private Q_SLOTS:
         QVERIFY(manager > 0);
         QVERIFY(start());
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
+        QVERIFY(managerHasCaughtUp());
         QCOMPARE(kill(manager, SIGSTOP), 0);
         const auto goOn = qScopeGuard([manager] { kill(manager, SIGCONT); });
         const QString root = QStringLiteral(
@@ -552,6 +553,7 @@ private Q_SLOTS:
         QVERIFY(RealInput::showAndActivate(m_host.get()));
         QVERIFY(start());
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
+        QVERIFY(managerHasCaughtUp());
         QCOMPARE(kill(manager, SIGSTOP), 0);
         const auto goOn = qScopeGuard([manager] { kill(manager, SIGCONT); });
         QVERIFY(PixelPattern::focus());
@@ -707,6 +709,21 @@ private:
                 return view && view->windowHandle()->isExposed() &&
                        view->windowHandle()->geometry() == screen->geometry();
             });
+        });
+    }
+
+    /// Waits until the window manager has done what it was asked to, such as to activate a view: it takes the
+    /// host's new title after that.
+    bool managerHasCaughtUp()
+    {
+        static int count = 0;
+        const QString title = QStringLiteral("title %1").arg(++count);
+        m_host->setWindowTitle(title);
+        return QTest::qWaitFor([&] {
+            QProcess xprop;
+            xprop.start(QStringLiteral("xprop"), {QStringLiteral("-id"), QString::number(m_host->winId()),
+                                                  QStringLiteral("_NET_WM_VISIBLE_NAME")});
+            return xprop.waitForFinished() && xprop.readAll().contains(title.toUtf8());
         });
     }
 
