@@ -599,6 +599,7 @@ private Q_SLOTS:
         QVERIFY(moveMouse(QGuiApplication::screens().last()->geometry().center()));
         QVERIFY(start());
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
+        QVERIFY(managerHasCaughtUp());
         m_host->activateWindow();
         QTRY_VERIFY(m_host->isActiveWindow());
         QVERIFY(!QTest::qWaitFor([this] { return !m_host->isActiveWindow(); }, 400));

@@ -155,9 +155,11 @@ private Q_SLOTS:
         TitleCard::Editor editor((QString()));
         editor.addCard("card");
         show(&editor);
+        const auto* const undo = editor.findChild<QAction*>("Undo");
         for (const char* code : tour) {
             editor.setLanguage(code);
             settle();
+            QCOMPARE(undo->text() == "Undo", qstrcmp(code, "en") == 0);
             TitleCard::Editor built((QString()));
             built.setLanguage(code);
             built.addCard("card");
