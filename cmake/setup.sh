@@ -119,8 +119,8 @@ uic_configure()
     cmake --preset "$1" "${fresh[@]}" >&2 && touch "$build/build.ninja"
 }
 
-# uic_build <preset> [target]: builds it, all of it without a target.
+# uic_build <preset> [target...]: builds it, all of it without a target.
 uic_build()
 {
-    cmake --build --preset "$1" ${2:+--target "$2"} >&2
+    cmake --build --preset "$1" ${2:+--target "${@:2}"} >&2
 }
