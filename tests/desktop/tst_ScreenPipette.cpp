@@ -226,7 +226,7 @@ private Q_SLOTS:
         constexpr int moves = 30;
         constexpr int frame = 16;
         qApp->setStyleSheet(sheet);
-        const QScreen* const screen = QGuiApplication::screens().last();
+        const QScreen* const screen = QGuiApplication::screens().constLast();
         const QRect area = screen->geometry();
         // The loupe has the scale of the screen that the cursor is on.
         QVERIFY(moveMouse(area.center()));
@@ -378,7 +378,7 @@ private Q_SLOTS:
 
     void nextPickReadsNothingOfTheLast()
     {
-        const QScreen* const screen = QGuiApplication::screens().last();
+        const QScreen* const screen = QGuiApplication::screens().constLast();
         const QPoint center = screen->geometry().center();
         QVERIFY(moveMouse(center));
         for (int i = 0; i < 20; ++i) {
@@ -507,7 +507,7 @@ private Q_SLOTS:
     void keysEndWithoutAColor()
     {
         QFETCH(QString, key);
-        QVERIFY(moveMouse(QGuiApplication::screens().last()->geometry().center()));
+        QVERIFY(moveMouse(QGuiApplication::screens().constLast()->geometry().center()));
         QVERIFY(start());
         QTRY_VERIFY(QApplication::focusWidget() && QApplication::focusWidget()->window() != m_host.get());
         QVERIFY(RealInput::key(key));
@@ -539,7 +539,7 @@ private Q_SLOTS:
         QCOMPARE(m_stopped->count(), 0);
         kill(manager, SIGCONT);
         QTRY_COMPARE(QGuiApplication::applicationState(), Qt::ApplicationActive);
-        QVERIFY(clickAt(QGuiApplication::screens().last()->geometry().center()));
+        QVERIFY(clickAt(QGuiApplication::screens().constLast()->geometry().center()));
     }
 
     // Qt has long said that the application is inactive by then.
@@ -588,7 +588,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_stopped->count(), 1);
         goBack.dismiss();
         QVERIFY(goTo(QStringLiteral("0")));
-        const QPoint middle = QGuiApplication::screens().last()->geometry().center();
+        const QPoint middle = QGuiApplication::screens().constLast()->geometry().center();
         QTRY_COMPARE(screenAtPoint(middle), patternAt(middle));
         QVERIFY(views().isEmpty());
         QCOMPARE(m_selected->count(), 0);
@@ -596,7 +596,7 @@ private Q_SLOTS:
 
     void activatedWindowOfTheHostStaysActive()
     {
-        QVERIFY(moveMouse(QGuiApplication::screens().last()->geometry().center()));
+        QVERIFY(moveMouse(QGuiApplication::screens().constLast()->geometry().center()));
         QVERIFY(start());
         QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != m_host.get());
         QVERIFY(managerHasCaughtUp());
@@ -691,7 +691,7 @@ private Q_SLOTS:
         m_pattern.reset();
         m_pattern = std::make_unique<PixelPattern>();
         QVERIFY(m_pattern->show(NativeScreens::desktop()));
-        const QPoint point = QGuiApplication::screens().last()->geometry().center();
+        const QPoint point = QGuiApplication::screens().constLast()->geometry().center();
         QVERIFY(start());
         QVERIFY(moveMouseAndClick(point));
         QTRY_COMPARE(m_selected->count(), 1);

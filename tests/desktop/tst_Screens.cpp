@@ -63,7 +63,7 @@ private Q_SLOTS:
 
     void patternCoversAScreen()
     {
-        QScreen* screen = QGuiApplication::screens().last();
+        QScreen* screen = QGuiApplication::screens().constLast();
         const QPoint corner = screen->geometry().topLeft();
         PixelPattern pattern;
         QVERIFY(

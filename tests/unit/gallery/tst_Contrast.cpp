@@ -458,7 +458,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("page");
         QTest::addColumn<QString>("style");
         const QVector<PageInfo> pages = PageRegistry::pages();
-        for (const QString& style : StyleController::builtInStyles()) {
+        const QStringList styles = StyleController::builtInStyles();
+        for (const QString& style : styles) {
             for (const PageInfo& page : pages) {
                 if (style != QLatin1String("none")) {
                     QTest::addRow("%s, %s", qPrintable(page.id), qPrintable(style)) << page.id << style;
