@@ -244,18 +244,22 @@ private Q_SLOTS:
         const auto switches =
             m_editor->findChild<QToolBar*>(QStringLiteral("switches"))->findChildren<QComboBox*>();
         QCOMPARE(switches.size(), 2);
+        const auto choose = [&switches](int index, const char* key) {
+            // Without its pop-up, where the resting mouse would choose too.
+            switches.at(index)->setFocus();
+            return RealInput::key(QLatin1String(key));
+        };
         const auto ground = [this] { return RealInput::pixel(m_editor->centralWidget(), QPoint(2, 2)); };
         const QColor dark = ground();
-        switches.at(0)->setCurrentText(QStringLiteral("light"));
+        QVERIFY(choose(0, "Down"));
         QTRY_VERIFY(ground().lightness() > dark.lightness() + 100);
 
         const auto* const undo = m_editor->findChild<QAction*>(QStringLiteral("Undo"));
         const QString english = field<QWidget>(Size)->accessibleName();
-        const QVector<QPair<QString, QString>> languages{
-            {"es", "Deshacer"}, {"fr", "Annuler"}, {"ja", "元に戻す"}};
-        for (const auto& [code, text] : languages) {
-            switches.at(1)->setCurrentText(code);
-            QCOMPARE(undo->text(), text);
+        for (const auto& text :
+             {QStringLiteral("Deshacer"), QStringLiteral("Annuler"), QStringLiteral("元に戻す")}) {
+            QVERIFY(choose(1, "Down"));
+            QTRY_COMPARE(undo->text(), text);
             QVERIFY(field<QWidget>(Size)->accessibleName() != english);
         }
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("title-cards-ja")));
@@ -265,7 +269,7 @@ private Q_SLOTS:
                    m_editor->inspector()->mapToGlobal(QPoint()).x();
         };
         QTRY_VERIFY(isLeading());
-        switches.at(1)->setCurrentText(QStringLiteral("ar"));
+        QVERIFY(choose(1, "Home"));
         QTRY_VERIFY(!isLeading());
         QCOMPARE(undo->text(), QStringLiteral("تراجع"));
         // The new inspector gets its place.
