@@ -3,10 +3,6 @@
 #include "RealInput.h"
 #include "TestMain.h"
 
-namespace {
-
-} // namespace
-
 /**
  * Several screens, of several sizes, places and scales: what the tests that pick from them take for granted.
  * Each run is on other screens.
@@ -18,12 +14,25 @@ class tst_Screens : public QObject
 private Q_SLOTS:
     void screensAreThere()
     {
-        QVERIFY(QGuiApplication::screens().size() > 1);
-        for (const QScreen* screen : QGuiApplication::screens()) {
+        // WIDTHxHEIGHT+X+Y@SCALE, the last only where the screen has one of its own.
+        const QStringList layout = qEnvironmentVariable("UIC_SCREENS").split(QLatin1Char(' '));
+        const auto screens = QGuiApplication::screens();
+        QVERIFY(screens.size() > 1);
+        QCOMPARE(screens.size(), layout.size());
+        const bool isScaledByAll = qEnvironmentVariableIsSet("QT_SCALE_FACTOR");
+        for (const QScreen* screen : screens) {
+            const QRect place = NativeScreens::geometry(screen);
+            const qreal ratio = screen->devicePixelRatio();
+            const QString own = isScaledByAll || ratio == 1.0 ? QString() : QStringLiteral("@%1").arg(ratio);
+            const QString seen = QStringLiteral("%1x%2+%3+%4")
+                                     .arg(place.width())
+                                     .arg(place.height())
+                                     .arg(place.x())
+                                     .arg(place.y());
+            QVERIFY2(layout.contains(seen + own), qPrintable(seen + own));
             QCOMPARE(screen->depth(), 24);
             // Qt divides it by a scale that a screen has by itself.
-            const bool hasOwnScale = qEnvironmentVariableIsSet("QT_SCREEN_SCALE_FACTORS");
-            QCOMPARE(screen->logicalDotsPerInch() * (hasOwnScale ? screen->devicePixelRatio() : 1.0), 96.0);
+            QCOMPARE(screen->logicalDotsPerInch() * (own.isEmpty() ? 1.0 : ratio), 96.0);
         }
     }
 
