@@ -38,7 +38,8 @@ private Q_SLOTS:
 
     void mouseReachesEveryCorner()
     {
-        for (const QScreen* screen : QGuiApplication::screens()) {
+        const auto screens = QGuiApplication::screens();
+        for (const QScreen* screen : screens) {
             QWidget window(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
             window.setGeometry(screen->geometry());
             window.show();
@@ -53,7 +54,8 @@ private Q_SLOTS:
     {
         PixelPattern pattern;
         QVERIFY(pattern.show(NativeScreens::desktop()));
-        for (QScreen* screen : QGuiApplication::screens()) {
+        const auto screens = QGuiApplication::screens();
+        for (QScreen* screen : screens) {
             const QPoint middle(screen->size().width() / 2, screen->size().height() / 2);
             const QPoint pixel = NativeScreens::pixelAt(screen->geometry().topLeft() + middle);
             const QRgb expected = PixelPattern::colorAt(pixel.x(), pixel.y());
