@@ -865,7 +865,12 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
     default:
         break;
     }
-    return isTaken || !receiver;
+    if (!receiver) {
+        // What ignores a wheel event, as all do at first, is asked for its parent next.
+        event->accept();
+        return true;
+    }
+    return isTaken;
 }
 
 void EditSession::commit()

@@ -33,7 +33,8 @@ class QWidget;
  * previewed stays. Where a slot of started() or previewed() ends the session, it ends after all slots have
  * been called. The keys of Undo and Redo belong to a text while it is typed, else to the host's shortcuts.
  * Slots may delete the session, and the field where slots of its own signals may. For a text field, a combo
- * box and a spin box, and where hiding or disabling the field reports, use deleteLater().
+ * box and a spin box, and where hiding or disabling the field, a right click, or the cursor that leaves it
+ * reports, use deleteLater().
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its

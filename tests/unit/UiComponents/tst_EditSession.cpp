@@ -1620,6 +1620,41 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    void deletedByAWheel_data()
+    {
+        QTest::addColumn<Qt::ScrollPhase>("phase");
+        QTest::newRow("turned while a key is held") << Qt::NoScrollPhase;
+        QTest::newRow("fingers leave the touchpad") << Qt::ScrollEnd;
+    }
+
+    // Qt asks whoever ignored the event for its parent. Seen by the sanitizer.
+    void deletedByAWheel()
+    {
+        QFETCH(Qt::ScrollPhase, phase);
+        auto* const window = new QWidget;
+        auto* const slider = new OvCustomSlider(window);
+        auto* const session = new EditSession(slider);
+        const auto turn = [slider](Qt::ScrollPhase now) {
+            QWheelEvent wheel({1.0, 1.0}, slider->mapToGlobal(QPoint(1, 1)), {}, {0, 120}, Qt::NoButton,
+                              Qt::NoModifier, now, false);
+            QSpontaneKeyEvent::setSpontaneous(&wheel);
+            qApp->notify(slider, &wheel);
+        };
+        window->show();
+        QApplication::setActiveWindow(window);
+        slider->setFocus();
+        if (phase == Qt::NoScrollPhase) {
+            QTest::keyPress(slider, Qt::Key_Up);
+        } else {
+            turn(Qt::ScrollUpdate);
+        }
+        QVERIFY(session->isActive());
+        const QPointer<QWidget> alive = window;
+        connect(session, &EditSession::committed, this, [window] { delete window; });
+        turn(phase);
+        QVERIFY(!alive);
+    }
+
     void deletedAsItsWindowGoes_data()
     {
         using Way = std::function<void(QWidget*)>;
