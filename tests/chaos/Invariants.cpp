@@ -168,6 +168,12 @@ bool isFurtherPress(const QEvent& event)
     return press.buttons() != press.button();
 }
 
+bool isRightPress(const QEvent& event)
+{
+    return event.type() == QEvent::MouseButtonPress &&
+           static_cast<const QMouseEvent&>(event).button() == Qt::RightButton;
+}
+
 void check(bool isGood, const QString& problem)
 {
     if (!isGood) {
@@ -206,9 +212,11 @@ bool Application::notify(QObject* receiver, QEvent* event)
         }
     } else if (world && event->type() == QEvent::ShortcutOverride) {
         under.emplace(*world, Doing::Typing, receiver, "override");
+    } else if (world && event->type() == QEvent::Leave && receiver->isWidgetType()) {
+        under.emplace(*world, Doing::Other, receiver, "cursor leaves");
     } else if (const auto doing = RealUser::hear(receiver, *event); world && doing) {
         Journal::note(QStringLiteral("input %1 to %2").arg(event->type()).arg(World::nameOf(receiver)));
-        under.emplace(*world, *doing, receiver, "input");
+        under.emplace(*world, *doing, receiver, isRightPress(*event) ? "right press" : "input");
     }
     return QApplication::notify(receiver, event);
 }

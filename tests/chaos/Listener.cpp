@@ -137,7 +137,7 @@ QObject* Listener::victim(Deed deed) const
     case Deed::DeleteSender:
         return m_sender;
     case Deed::DeleteParent:
-        return widget ? widget->parentWidget() : m_sender->parent();
+        return m_world.partAround(widget ? widget->parentWidget() : m_sender->parent());
     case Deed::DeleteWindow:
         widget = widget ? widget : qobject_cast<QWidget*>(m_sender->parent());
         return widget ? widget->window() : nullptr;

@@ -105,6 +105,63 @@ bool changedSiblingIsDeleted()
     return false;
 }
 
+/// Deletes a widget that gets an event of @p type.
+class Remover : public QObject
+{
+public:
+    explicit Remover(QEvent::Type type)
+        : m_type(type)
+    {
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != m_type) {
+            return false;
+        }
+        watched->removeEventFilter(this);
+        delete watched;
+        return true;
+    }
+
+private:
+    const QEvent::Type m_type;
+};
+
+/// A window with a part in its corner.
+struct Corner : QWidget
+{
+    explicit Corner(QEvent::Type deadly)
+        : remover(deadly)
+    {
+        part->installEventFilter(&remover);
+        resize(300, 300);
+        bring(*this);
+    }
+
+    Remover remover;
+    QWidget* const part = new QWidget(this);
+};
+
+bool widgetIsDeletedAsTheCursorLeaves()
+{
+    Corner window(QEvent::Leave);
+    for (const QPoint& point : {QPoint(9, 9), QPoint(200, 200)}) {
+        QTest::mouseMove(window.windowHandle(), point);
+        QCoreApplication::processEvents();
+    }
+    return false;
+}
+
+/// It is sent a context menu event next.
+bool widgetIsDeletedInARightPress()
+{
+    Corner window(QEvent::MouseButtonPress);
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::NoModifier, QPoint(9, 9));
+    return false;
+}
+
 bool movedWidgetStaysTheFocus()
 {
     QWidget window;
@@ -614,6 +671,8 @@ int main(int argc, char** argv)
         {"focusTakerIsDeleted", focusTakerIsDeleted},
         {"hiddenWidgetIsDeleted", hiddenWidgetIsDeleted},
         {"changedSiblingIsDeleted", changedSiblingIsDeleted},
+        {"widgetIsDeletedAsTheCursorLeaves", widgetIsDeletedAsTheCursorLeaves},
+        {"widgetIsDeletedInARightPress", widgetIsDeletedInARightPress},
         {"movedWidgetStaysTheFocus", movedWidgetStaysTheFocus},
         {"activatedWindowBecomesAPart", activatedWindowBecomesAPart},
         {"dyingWindowGetsAChild", dyingWindowGetsAChild},

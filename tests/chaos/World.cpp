@@ -47,6 +47,16 @@ void stopPick(QObject* object)
     }
 }
 
+void closePopups()
+{
+    while (QWidget* const popup = QApplication::activePopupWidget()) {
+        popup->close();
+        if (popup == QApplication::activePopupWidget()) {
+            Journal::fail(QStringLiteral("a pop-up does not close: %1").arg(World::nameOf(popup)));
+        }
+    }
+}
+
 void endModal(QWidget* widget)
 {
     if (auto* dialog = qobject_cast<QDialog*>(widget)) {
@@ -194,13 +204,12 @@ void World::settle()
         }
         QToolTip::hideText();
         endLoops();
-        while (QWidget* const popup = QApplication::activePopupWidget()) {
-            popup->close();
-            if (popup == QApplication::activePopupWidget()) {
-                Journal::fail(QStringLiteral("a pop-up does not close: %1").arg(nameOf(popup)));
-            }
+        closePopups();
+        if (RealUser::isThere()) {
+            RealUser::comeBack();
+            closePopups(); // of a button that the mouse has let go only now
+            noteLeft();
         }
-        RealUser::comeBack();
         Actions::letGo(*this);
         for (const auto& object : qAsConst(others)) {
             if (object && object->inherits("Orvane::Gui::HighlightFrame")) {
@@ -242,6 +251,15 @@ bool World::isPart(const QObject* object) const
 {
     return std::any_of(parts.begin(), parts.end(),
                        [object](const Part& part) { return part.object == object; });
+}
+
+QObject* World::partAround(QObject* object) const
+{
+    QObject* part = object;
+    while (part && !isPart(part)) {
+        part = part->parent();
+    }
+    return part ? part : object;
 }
 
 void World::addTop(QWidget* widget)
