@@ -62,9 +62,10 @@ public:
 
     /// Covers the screens, makes currentColor() invalid, and emits pickingStarted(). Where the permission to
     /// read the screen is missing (see PrivacyAccess.h) it asks for it and does nothing else. A call while
-    /// the pipette picks puts a second set of windows and a second loupe over the first; the trace of one set
-    /// only is taken out of the colour; the next end of the pick ends both. What closes right before, as a
-    /// menu in the same turn, may still be picked from in the first second.
+    /// the pipette picks puts a second set of windows and a second loupe over the first, and the two may take
+    /// turns in front; the trace of one set only is taken out of the colour; the next end of the pick ends
+    /// both. What closes right before, as a menu in the same turn, may still be picked from in the first
+    /// second.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.

@@ -158,6 +158,9 @@ const std::vector<Row>& rows()
         // Scroll bars, and the arrows of a box's list, that each other's room makes come and go.
         {Kind::Rest, "QScrollArea", qt, "tinyScrollAreaGoesOn"},
         {Kind::Rest, "QComboBoxListView", qt, "smallListOfABoxGoesOn"},
+        {Kind::Rest, "PipetteScreenView", "library/UiComponents/Pipette.h",
+         "puts a second set of windows and a second loupe over the first, and the two may take turns in "
+         "front"},
 
         {Kind::Press, "ColorPickerButton", "library/UiComponents/ColorPickerButton.h",
          "A picker that ends without a signal leaves the button pressed until one reports its end"},
