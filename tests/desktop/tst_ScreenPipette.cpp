@@ -223,7 +223,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, sheet);
         QFETCH(bool, isSettled);
-        constexpr int moves = 30;
+        constexpr int moves = 15;
         constexpr int frame = 16;
         qApp->setStyleSheet(sheet);
         const QScreen* const screen = QGuiApplication::screens().constLast();
