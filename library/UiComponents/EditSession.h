@@ -32,9 +32,8 @@ class QWidget;
  * leaves a pick to its picker. A field that is deleted ends its session without a signal, and what was
  * previewed stays. Where a slot of started() or previewed() ends the session, it ends after all slots have
  * been called. The keys of Undo and Redo belong to a text while it is typed, else to the host's shortcuts.
- * Slots may delete the session, and the field where slots of its own signals may. For a text field, a combo
- * box and a spin box, and where hiding or disabling the field, a right click, or the cursor that leaves it
- * reports, use deleteLater().
+ * Slots may delete the session, and the field where slots of its own signals may; use deleteLater() for one
+ * with a text or a list, and where hiding or disabling it, a right click, or the cursor that leaves reports.
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its

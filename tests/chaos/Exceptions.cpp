@@ -113,10 +113,10 @@ const std::vector<Row>& rows()
          ""},
         {Kind::Deletion, "SearchWidget", session, "Slots may delete the session", nullptr, any, any, ""},
         {Kind::Deletion, "QLineEdit", session, "Slots may delete the session", nullptr, any, any, ""},
-        {Kind::Deletion, "EditSession", session, "and where hiding or disabling the field", "committed",
+        {Kind::Deletion, "EditSession", session, "and where hiding or disabling it", "committed",
          Doing::Signal, Doing::Showing},
-        {Kind::Deletion, "QWidget", session, "and where hiding or disabling the field", "callback",
-         Doing::Signal, Doing::Showing},
+        {Kind::Deletion, "QWidget", session, "and where hiding or disabling it", "callback", Doing::Signal,
+         Doing::Showing},
 
         {Kind::Deletion, focus, qt, "focusTakerIsDeleted", "leave", Doing::Leaving, any, ""},
         {Kind::Deletion, focus, qt, "deactivatedWindowIsDeleted", "deactivate", Doing::Leaving, any, ""},
