@@ -629,7 +629,13 @@ std::vector<Component> makeTable()
                          auto* content = new Qml::QuickContent;
                          world.others.append(content);
                          content->load(scene(world));
-                         content->getUiContent()->setParent(parent);
+                         // A splitter shows at once what is set its child, and Qt then takes the scene's
+                         // OpenGL context and goes on using it.
+                         if (auto* const splitter = qobject_cast<QSplitter*>(parent)) {
+                             splitter->addWidget(content->getUiContent());
+                         } else {
+                             content->getUiContent()->setParent(parent);
+                         }
                          return content;
                      },
                      {call<Qml::QuickContent>("load", [](auto& t, World& w) { t.load(scene(w)); })}});

@@ -304,7 +304,7 @@ bool Exceptions::maySet(const QByteArray& property, const QVariant& value)
 bool Exceptions::mayGrab(const QWidget* widget)
 {
     return !RealUser::isThere() || widget->window()->windowHandle() ||
-           !isListed(Kind::Grab, [&](const Row& row) { return hasPart(widget, row.type); });
+           !isListed(Kind::Grab, [&](const Row& row) { return hasPart(widget->window(), row.type); });
 }
 
 bool Exceptions::isExpected(const QString& message)
