@@ -1627,7 +1627,7 @@ private Q_SLOTS:
         QTest::newRow("fingers leave the touchpad") << Qt::ScrollEnd;
     }
 
-    // Qt asks whoever ignored the event for its parent. Seen by the sanitizer.
+    // Qt asks whoever ignored the event for its parent.
     void deletedByAWheel()
     {
         QFETCH(Qt::ScrollPhase, phase);
@@ -1651,6 +1651,7 @@ private Q_SLOTS:
         QVERIFY(session->isActive());
         const QPointer<QWidget> alive = window;
         connect(session, &EditSession::committed, this, [window] { delete window; });
+        const FreedMemoryWatch watch;
         turn(phase);
         QVERIFY(!alive);
     }
