@@ -6,9 +6,9 @@
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorWidgets/ColorHint.h>
 #include <Settings/Settings.h>
-#include <UiComponents/ColorFaces.h>
 #include <UiComponents/ColorPalette.h>
 #include <UiComponents/ColorPickerWidget.h>
+#include <UiComponents/ColorPickerWidgetFaces.h>
 #include <UiComponents/SheetlessBuild.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvDoubleSlider.h>
@@ -95,7 +95,7 @@ void makeOurFaces(QWidget* parent, QGridLayout* grid)
         for (int i = 0; i < ColorPalette::rowCount * ColorPalette::columnCount; ++i) {
             auto* button = new QToolButton(parent);
             button->setCheckable(true);
-            ColorFaces::paint(button, paletteColor(i));
+            ColorPickerWidgetFaces::paint(button, paletteColor(i));
             grid->addWidget(button, i / ColorPalette::columnCount, i % ColorPalette::columnCount);
         }
     });

@@ -2,8 +2,8 @@
 
 #include "Compare.h"
 
+#include <UiComponents/ColorPlaneImage.h>
 #include <UiComponents/ColorPlaneWidget.h>
-#include <UiComponents/HsvPlane.h>
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -51,19 +51,19 @@ std::shared_ptr<QImage> square(int size)
 // The image as the widget makes it.
 std::shared_ptr<QImage> planeImage(int size)
 {
-    auto image = std::make_shared<QImage>(HsvPlane::makeImage({size, size}));
+    auto image = std::make_shared<QImage>(ColorPlaneImage::makeImage({size, size}));
     image->fill(Qt::black);
     return image;
 }
 
-Side rendering(int size, HsvPlane::Path path)
+Side rendering(int size, ColorPlaneImage::Path path)
 {
     return {[image = planeImage(size), hues = Hues(), path]() mutable {
-        HsvPlane::render(*image, hues.next(), path);
+        ColorPlaneImage::render(*image, hues.next(), path);
     }};
 }
 
-Pair againstPlainLoop(int size, HsvPlane::Path path)
+Pair againstPlainLoop(int size, ColorPlaneImage::Path path)
 {
     return {rendering(size, path),
             {[image = square(size), hues = Hues()]() mutable { renderPlainly(*image, hues.next()); }}};
@@ -71,7 +71,7 @@ Pair againstPlainLoop(int size, HsvPlane::Path path)
 
 Pair againstMemset(int size)
 {
-    return {rendering(size, HsvPlane::fastestPath()), {[image = square(size), value = 0]() mutable {
+    return {rendering(size, ColorPlaneImage::fastestPath()), {[image = square(size), value = 0]() mutable {
                 std::memset(image->bits(), ++value & 0xFF, static_cast<std::size_t>(image->sizeInBytes()));
             }}};
 }
@@ -116,21 +116,21 @@ Side hueStep(int size)
 template <int size>
 Pair avx2()
 {
-    return againstPlainLoop(size, HsvPlane::Path::Avx2);
+    return againstPlainLoop(size, ColorPlaneImage::Path::Avx2);
 }
 template <int size>
 Pair baseline()
 {
-    return againstPlainLoop(size, HsvPlane::Path::Sse2);
+    return againstPlainLoop(size, ColorPlaneImage::Path::Sse2);
 }
 
 // A processor without a path has no row of it.
-bool addRowOf(HsvPlane::Path path, const char* name, Goal goal, Pair (*make)())
+bool addRowOf(ColorPlaneImage::Path path, const char* name, Goal goal, Pair (*make)())
 {
-    return HsvPlane::isSupported(path) && addRow(name, goal, make);
+    return ColorPlaneImage::isSupported(path) && addRow(name, goal, make);
 }
 
-using HsvPlane::Path;
+using ColorPlaneImage::Path;
 
 [[maybe_unused]] const bool rows[] = {
     addRowOf(Path::Avx2, "ColorPlane/render 256 x 256 with AVX2, against the plain loop", atMost(1.0 / 45),

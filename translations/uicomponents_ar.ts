@@ -192,25 +192,6 @@
     </message>
 </context>
 <context>
-    <name>ColorPortal</name>
-    <message>
-        <source>This desktop has no service for colours of the screen.</source>
-        <translation>ليس في سطح المكتب هذا خدمة لألوان الشاشة.</translation>
-    </message>
-    <message>
-        <source>This desktop cannot pick colours from the screen for programs.</source>
-        <translation>لا يستطيع سطح المكتب هذا التقاط ألوان من الشاشة للبرامج.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
-        <translation>خدمة ألوان الشاشة في سطح المكتب لا تستجيب.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen has refused.</source>
-        <translation>رفضت خدمة ألوان الشاشة في سطح المكتب الطلب.</translation>
-    </message>
-</context>
-<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
@@ -238,6 +219,13 @@
     <message>
         <source>Animated picture</source>
         <translation>صورة متحركة</translation>
+    </message>
+</context>
+<context>
+    <name>EditSessionCover</name>
+    <message>
+        <source>Several values</source>
+        <translation>عدة قيم</translation>
     </message>
 </context>
 <context>
@@ -311,13 +299,6 @@
     <message>
         <source>Paused; Space plays it</source>
         <translation>متوقف مؤقتًا؛ مفتاح المسافة يشغّله</translation>
-    </message>
-</context>
-<context>
-    <name>MultiValueCover</name>
-    <message>
-        <source>Several values</source>
-        <translation>عدة قيم</translation>
     </message>
 </context>
 <context>
@@ -402,6 +383,25 @@
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
         <translation>RTL</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>ليس في سطح المكتب هذا خدمة لألوان الشاشة.</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>لا يستطيع سطح المكتب هذا التقاط ألوان من الشاشة للبرامج.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>خدمة ألوان الشاشة في سطح المكتب لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>رفضت خدمة ألوان الشاشة في سطح المكتب الطلب.</translation>
     </message>
 </context>
 <context>

@@ -192,25 +192,6 @@
     </message>
 </context>
 <context>
-    <name>ColorPortal</name>
-    <message>
-        <source>This desktop has no service for colours of the screen.</source>
-        <translation>Dieser Desktop hat keinen Dienst für Farben vom Bildschirm.</translation>
-    </message>
-    <message>
-        <source>This desktop cannot pick colours from the screen for programs.</source>
-        <translation>Dieser Desktop kann für Programme keine Farben vom Bildschirm aufnehmen.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
-        <translation>Der Dienst des Desktops für Farben vom Bildschirm antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen has refused.</source>
-        <translation>Der Dienst des Desktops für Farben vom Bildschirm hat abgelehnt.</translation>
-    </message>
-</context>
-<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
@@ -238,6 +219,13 @@
     <message>
         <source>Animated picture</source>
         <translation>Animiertes Bild</translation>
+    </message>
+</context>
+<context>
+    <name>EditSessionCover</name>
+    <message>
+        <source>Several values</source>
+        <translation>Mehrere Werte</translation>
     </message>
 </context>
 <context>
@@ -311,13 +299,6 @@
     <message>
         <source>Paused; Space plays it</source>
         <translation>Angehalten; Leertaste spielt ab</translation>
-    </message>
-</context>
-<context>
-    <name>MultiValueCover</name>
-    <message>
-        <source>Several values</source>
-        <translation>Mehrere Werte</translation>
     </message>
 </context>
 <context>
@@ -402,6 +383,25 @@
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>Dieser Desktop hat keinen Dienst für Farben vom Bildschirm.</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>Dieser Desktop kann für Programme keine Farben vom Bildschirm aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>Der Dienst des Desktops für Farben vom Bildschirm antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>Der Dienst des Desktops für Farben vom Bildschirm hat abgelehnt.</translation>
     </message>
 </context>
 <context>

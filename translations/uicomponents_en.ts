@@ -192,25 +192,6 @@
     </message>
 </context>
 <context>
-    <name>ColorPortal</name>
-    <message>
-        <source>This desktop has no service for colours of the screen.</source>
-        <translation>This desktop has no service for colours of the screen.</translation>
-    </message>
-    <message>
-        <source>This desktop cannot pick colours from the screen for programs.</source>
-        <translation>This desktop cannot pick colours from the screen for programs.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
-        <translation>The desktop&apos;s service for colours of the screen does not answer.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen has refused.</source>
-        <translation>The desktop&apos;s service for colours of the screen has refused.</translation>
-    </message>
-</context>
-<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
@@ -238,6 +219,13 @@
     <message>
         <source>Animated picture</source>
         <translation>Animated picture</translation>
+    </message>
+</context>
+<context>
+    <name>EditSessionCover</name>
+    <message>
+        <source>Several values</source>
+        <translation>Several values</translation>
     </message>
 </context>
 <context>
@@ -311,13 +299,6 @@
     <message>
         <source>Paused; Space plays it</source>
         <translation>Paused; Space plays it</translation>
-    </message>
-</context>
-<context>
-    <name>MultiValueCover</name>
-    <message>
-        <source>Several values</source>
-        <translation>Several values</translation>
     </message>
 </context>
 <context>
@@ -402,6 +383,25 @@
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>This desktop has no service for colours of the screen.</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>This desktop cannot pick colours from the screen for programs.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>The desktop&apos;s service for colours of the screen does not answer.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>The desktop&apos;s service for colours of the screen has refused.</translation>
     </message>
 </context>
 <context>

@@ -192,25 +192,6 @@
     </message>
 </context>
 <context>
-    <name>ColorPortal</name>
-    <message>
-        <source>This desktop has no service for colours of the screen.</source>
-        <translation>Este escritorio no tiene un servicio de colores de la pantalla.</translation>
-    </message>
-    <message>
-        <source>This desktop cannot pick colours from the screen for programs.</source>
-        <translation>Este escritorio no puede tomar colores de la pantalla para los programas.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
-        <translation>El servicio de colores de la pantalla del escritorio no responde.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen has refused.</source>
-        <translation>El servicio de colores de la pantalla del escritorio se ha negado.</translation>
-    </message>
-</context>
-<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
@@ -238,6 +219,13 @@
     <message>
         <source>Animated picture</source>
         <translation>Imagen animada</translation>
+    </message>
+</context>
+<context>
+    <name>EditSessionCover</name>
+    <message>
+        <source>Several values</source>
+        <translation>Varios valores</translation>
     </message>
 </context>
 <context>
@@ -311,13 +299,6 @@
     <message>
         <source>Paused; Space plays it</source>
         <translation>En pausa; Espacio lo reproduce</translation>
-    </message>
-</context>
-<context>
-    <name>MultiValueCover</name>
-    <message>
-        <source>Several values</source>
-        <translation>Varios valores</translation>
     </message>
 </context>
 <context>
@@ -402,6 +383,25 @@
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>Este escritorio no tiene un servicio de colores de la pantalla.</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>Este escritorio no puede tomar colores de la pantalla para los programas.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>El servicio de colores de la pantalla del escritorio no responde.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>El servicio de colores de la pantalla del escritorio se ha negado.</translation>
     </message>
 </context>
 <context>

@@ -192,25 +192,6 @@
     </message>
 </context>
 <context>
-    <name>ColorPortal</name>
-    <message>
-        <source>This desktop has no service for colours of the screen.</source>
-        <translation>Ce bureau n’a pas de service pour les couleurs de l’écran.</translation>
-    </message>
-    <message>
-        <source>This desktop cannot pick colours from the screen for programs.</source>
-        <translation>Ce bureau ne peut pas prélever de couleurs à l’écran pour les programmes.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
-        <translation>Le service du bureau pour les couleurs de l’écran ne répond pas.</translation>
-    </message>
-    <message>
-        <source>The desktop&apos;s service for colours of the screen has refused.</source>
-        <translation>Le service du bureau pour les couleurs de l’écran a refusé.</translation>
-    </message>
-</context>
-<context>
     <name>CustomColorSelectWidget</name>
     <message>
         <source>Hue</source>
@@ -238,6 +219,13 @@
     <message>
         <source>Animated picture</source>
         <translation>Image animée</translation>
+    </message>
+</context>
+<context>
+    <name>EditSessionCover</name>
+    <message>
+        <source>Several values</source>
+        <translation>Plusieurs valeurs</translation>
     </message>
 </context>
 <context>
@@ -311,13 +299,6 @@
     <message>
         <source>Paused; Space plays it</source>
         <translation>En pause&#xa0;; la barre d’espace lance la lecture</translation>
-    </message>
-</context>
-<context>
-    <name>MultiValueCover</name>
-    <message>
-        <source>Several values</source>
-        <translation>Plusieurs valeurs</translation>
     </message>
 </context>
 <context>
@@ -402,6 +383,25 @@
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
         <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenColorPortal</name>
+    <message>
+        <source>This desktop has no service for colours of the screen.</source>
+        <translation>Ce bureau n’a pas de service pour les couleurs de l’écran.</translation>
+    </message>
+    <message>
+        <source>This desktop cannot pick colours from the screen for programs.</source>
+        <translation>Ce bureau ne peut pas prélever de couleurs à l’écran pour les programmes.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen does not answer.</source>
+        <translation>Le service du bureau pour les couleurs de l’écran ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s service for colours of the screen has refused.</source>
+        <translation>Le service du bureau pour les couleurs de l’écran a refusé.</translation>
     </message>
 </context>
 <context>

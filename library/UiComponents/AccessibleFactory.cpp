@@ -4,8 +4,8 @@
 #include "AccessibleParts.h"
 #include "AccessiblePlane.h"
 #include "AccessibleScene.h"
-#include "ColorButton.h"
 #include "ColorPickerWidget.h"
+#include "ColorPickerWidgetButton.h"
 #include "ColorPlaneWidget.h"
 #include "GuidePicture.h"
 #include "PlaneDrag.h"
@@ -47,7 +47,7 @@ bool isGroup(const QString& className)
 QAccessibleInterface* partFor(const QString& className, QWidget* widget)
 {
     if (auto* const button = qobject_cast<QAbstractButton*>(widget)) {
-        const bool isChoice = dynamic_cast<ColorButton*>(widget) != nullptr;
+        const bool isChoice = dynamic_cast<ColorPickerWidgetButton*>(widget) != nullptr;
         return new AccessibleButton(button, isChoice ? QAccessible::RadioButton : QAccessible::Button);
     }
     if (auto* const slider = qobject_cast<QAbstractSlider*>(widget)) {
@@ -120,6 +120,7 @@ QAccessibleInterface* AccessibleFactory::interfaceFor(const QString& className, 
     }
     // Qt calls this for each base class too, even while accessibility is inactive.
     const bool isAsked = className == QLatin1String(widget->metaObject()->className());
-    const bool isPart = isAsked && (dynamic_cast<ColorButton*>(widget) || AccessibleNames::hasEntry(widget));
+    const bool isPart =
+        isAsked && (dynamic_cast<ColorPickerWidgetButton*>(widget) || AccessibleNames::hasEntry(widget));
     return isPart ? partFor(className, widget) : nullptr;
 }

@@ -1,10 +1,10 @@
 #include "AccessibleParts.h"
 
 #include "AccessibleNames.h"
-#include "ColorButton.h"
 #include "ColorNames.h"
 #include "ColorPickerButton.h"
 #include "ColorPickerWidget.h"
+#include "ColorPickerWidgetButton.h"
 #include "ColorPlaneWidget.h"
 #include "GuidePicture.h"
 #include "PopupColorPicker.h"
@@ -175,7 +175,7 @@ AccessibleButton::AccessibleButton(QAbstractButton* button, QAccessible::Role ro
 QString AccessibleButton::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name) {
-        const auto* const choice = dynamic_cast<const ColorButton*>(widget());
+        const auto* const choice = dynamic_cast<const ColorPickerWidgetButton*>(widget());
         // The tool tip of a host says more than a part's general name, and less than a label.
         const QString general = AccessibleNames::nameOf(widget());
         const bool isLabelled = !spokenColor().isEmpty() || !AccessibleNames::hintOf(widget()).isEmpty();

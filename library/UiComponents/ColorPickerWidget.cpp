@@ -2,9 +2,9 @@
 
 #include "AccessibleEvents.h"
 #include "AccessibleFactory.h"
-#include "ColorButton.h"
-#include "ColorFaces.h"
 #include "ColorPalette.h"
+#include "ColorPickerWidgetButton.h"
+#include "ColorPickerWidgetFaces.h"
 #include "ColorPlaneWidget.h"
 #include "CustomColorSelectWidget.h"
 #include "CustomColors.h"
@@ -68,7 +68,7 @@ bool looksTheSame(const std::optional<QColor>& first, const std::optional<QColor
 }
 
 /// Buttons by keyOf() their colour.
-using ColorIndex = QHash<QRgb, ColorButton*>;
+using ColorIndex = QHash<QRgb, ColorPickerWidgetButton*>;
 
 /// The opaque colour; 0, which is translucent, for an invalid one.
 QRgb keyOf(const QColor& color)
@@ -195,7 +195,7 @@ public:
 
     void layOut();
     void buildPalette(bool nullColorAllowed);
-    ColorButton* makeColorButton(QWidget* parent);
+    ColorPickerWidgetButton* makeColorButton(QWidget* parent);
     void addPaletteButton(int row, int column, const QColor& color);
     void buildQueue();
     void configureInputs() const;
@@ -206,8 +206,8 @@ public:
 
     void fillQueue(const QStringList& names);
     void reinitializeCustomColors();
-    ColorButton* queueButton(int index) const;
-    ColorButton* buttonFor(const QColor& color) const;
+    ColorPickerWidgetButton* queueButton(int index) const;
+    ColorPickerWidgetButton* buttonFor(const QColor& color) const;
 
     void setColor(const std::optional<QColor>& color);
     void setSliderToAlpha() const;
@@ -341,9 +341,9 @@ void ColorPickerWidget::Private::buildPalette(bool nullColorAllowed)
     }
 }
 
-ColorButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
+ColorPickerWidgetButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
 {
-    auto* button = new ColorButton(parent);
+    auto* button = new ColorPickerWidgetButton(parent);
     button->setCheckable(true);
     // The id that the group would assign, after a search through all others.
     buttons->addButton(button, nextButtonId--);
@@ -352,7 +352,7 @@ ColorButton* ColorPickerWidget::Private::makeColorButton(QWidget* parent)
 
 void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QColor& color)
 {
-    ColorButton* const button = makeColorButton(colorMatrixPanel);
+    ColorPickerWidgetButton* const button = makeColorButton(colorMatrixPanel);
     if (!color.isValid()) {
         button->setProperty("nullColor", true);
     }
@@ -449,7 +449,7 @@ void ColorPickerWidget::Private::fillQueue(const QStringList& names)
     for (int i = 0; i < qMin(names.size(), queueLength); ++i) {
         if (QColor::isValidColor(names.at(i))) {
             const QColor color = opaque(QColor(names.at(i)));
-            ColorButton* const button = queueButton(i);
+            ColorPickerWidgetButton* const button = queueButton(i);
             button->setEnabled(true);
             button->setColor(color);
             queueButtons.insert(keyOf(color), button);
@@ -465,19 +465,19 @@ void ColorPickerWidget::Private::reinitializeCustomColors()
 }
 
 /// In the order on the screen, not of creation.
-ColorButton* ColorPickerWidget::Private::queueButton(int index) const
+ColorPickerWidgetButton* ColorPickerWidget::Private::queueButton(int index) const
 {
-    return static_cast<ColorButton*>(queueLayout->itemAt(index)->widget());
+    return static_cast<ColorPickerWidgetButton*>(queueLayout->itemAt(index)->widget());
 }
 
-ColorButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
+ColorPickerWidgetButton* ColorPickerWidget::Private::buttonFor(const QColor& color) const
 {
     // Of several buttons of the colour, the one that the user has checked stays.
-    auto* const checked = static_cast<ColorButton*>(buttons->checkedButton());
+    auto* const checked = static_cast<ColorPickerWidgetButton*>(buttons->checkedButton());
     if (checked && checked->color() == opaque(color)) {
         return checked;
     }
-    ColorButton* const own = queueButtons.value(keyOf(color));
+    ColorPickerWidgetButton* const own = queueButtons.value(keyOf(color));
     return own ? own : paletteButtons.value(keyOf(color));
 }
 
@@ -534,7 +534,7 @@ void ColorPickerWidget::Private::clearCheckedColorButton() const
 void ColorPickerWidget::Private::updateColorButtonsCheckState()
 {
     if (currentColor) {
-        if (ColorButton* const button = buttonFor(*currentColor)) {
+        if (ColorPickerWidgetButton* const button = buttonFor(*currentColor)) {
             button->setChecked(true);
             return;
         }
@@ -566,7 +566,7 @@ void ColorPickerWidget::Private::updatePreview() const
     Util::applyProperty(currentColorDisplayLabel, "multiColor", !currentColor.has_value());
     Util::applyProperty(currentColorDisplayLabel, "nullColor",
                         currentColor.has_value() && !currentColor->isValid());
-    ColorFaces::paint(currentColorDisplayLabel, currentColor.value_or(QColor()));
+    ColorPickerWidgetFaces::paint(currentColorDisplayLabel, currentColor.value_or(QColor()));
 }
 
 void ColorPickerWidget::Private::onButtonToggled(QAbstractButton* button, bool checked)
@@ -574,7 +574,7 @@ void ColorPickerWidget::Private::onButtonToggled(QAbstractButton* button, bool c
     if (!checked || isFollowing) {
         return;
     }
-    hold(withSliderAlpha(static_cast<ColorButton*>(button)->color().value_or(QColor())));
+    hold(withSliderAlpha(static_cast<ColorPickerWidgetButton*>(button)->color().value_or(QColor())));
     updateColorValueWidgets();
     reportColor();
 }
@@ -604,7 +604,7 @@ void ColorPickerWidget::Private::onTextEdited(const QString& text)
         return;
     }
     hold(withSliderAlpha(QColor(text)));
-    if (ColorButton* const button = buttonFor(*currentColor)) {
+    if (ColorPickerWidgetButton* const button = buttonFor(*currentColor)) {
         const QPointer<ColorPickerWidget> self = q;
         button->setChecked(true);
         // A slot may have set several colours.
@@ -713,7 +713,7 @@ void ColorPickerWidget::Private::onSelectorFinished()
     if (!self || !storeCurrentColor() || !self) {
         return;
     }
-    ColorButton* const button = queueButton(queueLength - 1);
+    ColorPickerWidgetButton* const button = queueButton(queueLength - 1);
     const QRgb oldKey = keyOf(button->color().value_or(QColor()));
     if (button->isEnabled() && queueButtons.value(oldKey) == button) {
         queueButtons.remove(oldKey);

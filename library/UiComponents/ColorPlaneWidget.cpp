@@ -1,6 +1,6 @@
 #include "ColorPlaneWidget.h"
 
-#include "HsvPlane.h"
+#include "ColorPlaneImage.h"
 #include "PlaneDrag.h"
 
 #include <QEvent>
@@ -74,7 +74,7 @@ QColor ColorPlaneWidget::Private::colorAt(const QPoint& point) const
     if (!QRect(QPoint(), planeSize).contains(point)) {
         return {};
     }
-    return HsvPlane::pixel(hue, planeSize, point);
+    return ColorPlaneImage::pixel(hue, planeSize, point);
 }
 
 void ColorPlaneWidget::Private::placeMarker(const QPointF& pixel)
@@ -112,10 +112,10 @@ const QImage& ColorPlaneWidget::Private::upToDateImage()
     const bool fits = image.size() == planeSize;
     if (!fits) {
         image = QImage();
-        image = HsvPlane::makeImage(planeSize);
+        image = ColorPlaneImage::makeImage(planeSize);
     }
     if (!image.isNull() && (!fits || hue != imageHue)) {
-        HsvPlane::render(image, hue);
+        ColorPlaneImage::render(image, hue);
         imageHue = hue;
     }
     return image;

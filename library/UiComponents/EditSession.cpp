@@ -4,8 +4,8 @@
 #include "ColorInputWidget.h"
 #include "ColorPickerButton.h"
 #include "DyingWindow.h"
-#include "FieldAccess.h"
-#include "MultiValueCover.h"
+#include "EditSessionCover.h"
+#include "EditSessionField.h"
 #include "PointSelectionPlane.h"
 #include "WidgetColorPickerButton.h"
 
@@ -154,8 +154,8 @@ public:
     EditSession* const q;
     QWidget* const field;
     ColorPickerButton* const colorButton;
-    const FieldAccess access;
-    MultiValueCover* const cover;
+    const EditSessionField access;
+    EditSessionCover* const cover;
     const QMetaObject* const whole;
 
     Gesture gesture = Gesture::None;
@@ -182,8 +182,8 @@ EditSession::Private::Private(EditSession* session, QWidget* editedField)
     : q(session)
     , field(editedField)
     , colorButton(colorButtonOf(editedField))
-    , access(FieldAccess::of(editedField))
-    , cover(new MultiValueCover(editedField, session))
+    , access(EditSessionField::of(editedField))
+    , cover(new EditSessionCover(editedField, session))
     , whole(editedField->metaObject())
 {
 }
@@ -452,14 +452,14 @@ void EditSession::Private::onChanged()
     if (!isReportable()) {
         return;
     }
-    const bool isRefused = refused.isValid() && FieldAccess::isSame(access.read(), refused);
+    const bool isRefused = refused.isValid() && EditSessionField::isSame(access.read(), refused);
     refused.clear();
     if (isRefused) {
         writeUnreported(last);
         return;
     }
     const QPointer<EditSession> self(q);
-    if (!FieldAccess::isSame(access.read(), last)) {
+    if (!EditSessionField::isSame(access.read(), last)) {
         reportShown();
     }
     if (self) {
@@ -494,7 +494,7 @@ void EditSession::Private::onTyped()
 /// A step beyond the end chooses the value that the field has already.
 void EditSession::Private::chooseAtEnd(QObject* onPart, const QEvent* event)
 {
-    if (cover->isShown() && !isTyped() && FieldAccess::isAtEnd(onPart, event)) {
+    if (cover->isShown() && !isTyped() && EditSessionField::isAtEnd(onPart, event)) {
         onChosen();
     }
 }
@@ -503,7 +503,7 @@ void EditSession::Private::onPicked(const QVariant& result, bool isNew)
 {
     const auto refuse = [this, &result] {
         isGivenUp = false;
-        refused = FieldAccess::isSame(result, last) ? QVariant() : result;
+        refused = EditSessionField::isSame(result, last) ? QVariant() : result;
     };
     if (isGivenUp) {
         refuse();
@@ -518,8 +518,8 @@ void EditSession::Private::onPicked(const QVariant& result, bool isNew)
     if (!self) {
         return;
     }
-    const bool isTakenBack = isActive && !isNew && FieldAccess::isSame(result, start);
-    if (isNew || (!isTakenBack && !FieldAccess::isSame(result, last))) {
+    const bool isTakenBack = isActive && !isNew && EditSessionField::isSame(result, start);
+    if (isNew || (!isTakenBack && !EditSessionField::isSame(result, last))) {
         report(result);
     }
     if (self && request == Request::Cancel) {
@@ -641,7 +641,7 @@ void EditSession::Private::finish()
     } else if (isReportable() && takeText()) {
         gesture = Gesture::None;
         isReleasing = false;
-        end(isNewInAnyCase || !FieldAccess::isSame(last, start));
+        end(isNewInAnyCase || !EditSessionField::isSame(last, start));
     }
 }
 
@@ -649,7 +649,7 @@ void EditSession::Private::finish()
 void EditSession::Private::commit()
 {
     if (isReportable() && takeText()) {
-        end(isNewInAnyCase || !FieldAccess::isSame(last, start));
+        end(isNewInAnyCase || !EditSessionField::isSame(last, start));
     }
 }
 
@@ -765,7 +765,7 @@ void EditSession::setValue(const QVariant& value)
 
 bool EditSession::isSame(const QVariant& one, const QVariant& other)
 {
-    return FieldAccess::isSame(one, other);
+    return EditSessionField::isSame(one, other);
 }
 
 QVariant EditSession::startValue() const

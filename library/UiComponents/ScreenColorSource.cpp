@@ -1,7 +1,7 @@
 #include "ScreenColorSource.h"
 
 #ifdef QT_DBUS_LIB
-#include "ColorPortal.h"
+#include "ScreenColorPortal.h"
 #endif
 #include "LibraryObject.h"
 #include "ScreenGrabber.h"
@@ -20,9 +20,9 @@ QPointer<ScreenColorSource>& installed()
 ScreenColorSource* portal()
 {
 #ifdef QT_DBUS_LIB
-    static QPointer<ColorPortal> portal;
+    static QPointer<ScreenColorPortal> portal;
     if (!portal) {
-        portal = new ColorPortal(QDBusConnection::sessionBus(), libraryObject());
+        portal = new ScreenColorPortal(QDBusConnection::sessionBus(), libraryObject());
     }
     return portal;
 #else

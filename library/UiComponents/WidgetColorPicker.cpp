@@ -1,8 +1,8 @@
 #include "WidgetColorPicker.h"
 
-#include "CursorGuard.h"
 #include "LibraryObject.h"
 #include "ScreenGrabber.h"
+#include "WidgetColorPickerCursor.h"
 #include "WidgetColorPickerStylingObject.h"
 
 #include <GuiHelper/HighlightFrame.h>
@@ -98,7 +98,7 @@ public:
     Run* run = nullptr;
     QPointer<QWidget> target;
     QMetaObject::Connection targetWatch;
-    std::unique_ptr<CursorGuard> cursorGuard;
+    std::unique_ptr<WidgetColorPickerCursor> cursorGuard;
     QCursor cursor;
     WidgetColorPickerStylingObject* stylingObject = nullptr;
     std::unique_ptr<HighlightFrame> highlightFrame;
@@ -117,7 +117,7 @@ void WidgetColorPicker::Private::takeCursor()
 
 void WidgetColorPicker::Private::applyTarget()
 {
-    cursorGuard = std::make_unique<CursorGuard>(target, cursor);
+    cursorGuard = std::make_unique<WidgetColorPickerCursor>(target, cursor);
     removeOutline(*run);
     // The former target may have painted itself, which runs the host's code.
     if (!target) {
@@ -304,7 +304,7 @@ void WidgetColorPicker::setStylingObject(WidgetColorPickerStylingObject* object)
     state->cursorGuard.reset();
     state->takeCursor();
     if (state->isInProgress() && state->q && state->target) {
-        state->cursorGuard = std::make_unique<CursorGuard>(state->target, state->cursor);
+        state->cursorGuard = std::make_unique<WidgetColorPickerCursor>(state->target, state->cursor);
     }
 }
 

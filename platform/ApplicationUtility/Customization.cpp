@@ -1,10 +1,11 @@
 #include "Customization.h"
 
-#include "BoldText.h"
+#include "CustomizationText.h"
 
 #include <QLocale>
 
 QString Customization::localeDependedBoldText(const QString& title)
 {
-    return BoldText::label(title, BoldText::suits(QLocale().script()) && BoldText::suits(title));
+    return CustomizationText::label(title, CustomizationText::suits(QLocale().script()) &&
+                                               CustomizationText::suits(title));
 }

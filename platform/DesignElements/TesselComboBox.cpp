@@ -1,6 +1,6 @@
 #include "TesselComboBox.h"
 
-#include "TesselItemDelegate.h"
+#include "TesselComboBoxDelegate.h"
 
 #include <WidgetToolkit/OvComboBox.h>
 #include <WidgetToolkit/Util.h>
@@ -20,7 +20,7 @@ void Orvane::Tessel::convertComboBoxToTessel(OvComboBox* comboBox)
     // Qt's own delegates ignore ::item rules.
     const QAbstractItemDelegate* const delegate = comboBox->itemDelegate();
     if (!delegate || delegate->inherits("QComboBoxDelegate") || delegate->inherits("QComboMenuDelegate")) {
-        comboBox->setItemDelegate(new TesselItemDelegate(comboBox));
+        comboBox->setItemDelegate(new TesselComboBoxDelegate(comboBox));
     }
     ::Util::applyProperty(comboBox, "tessel", true);
 }

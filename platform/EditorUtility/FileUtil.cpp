@@ -1,6 +1,6 @@
 #include "FileUtil.h"
 
-#include "PathWalk.h"
+#include "FileUtilWalk.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -21,22 +21,22 @@ public:
     /// What is wrong with @p path, in whose place is a "%1"; empty where nothing is.
     static QString about(const QString& path)
     {
-        switch (PathWalk::form(path)) {
-        case PathWalk::Form::Empty:
+        switch (FileUtilWalk::form(path)) {
+        case FileUtilWalk::Form::Empty:
             return tr("No path is given");
-        case PathWalk::Form::Resource:
+        case FileUtilWalk::Form::Resource:
             return tr("Not a path on a disk: %1");
-        case PathWalk::Form::NotStorable:
+        case FileUtilWalk::Form::NotStorable:
             return tr("The path has characters that names on this disk cannot have: %1");
-        case PathWalk::Form::PathTooLong:
+        case FileUtilWalk::Form::PathTooLong:
             return tr("The path is too long: %1");
-        case PathWalk::Form::NameTooLong:
+        case FileUtilWalk::Form::NameTooLong:
             return tr("A name in the path is too long: %1");
-        case PathWalk::Form::Good:
+        case FileUtilWalk::Form::Good:
             break;
         }
-        return PathWalk::walk(path).isBlocked ? tr("There is something else in the place of a folder: %1")
-                                              : QString();
+        return FileUtilWalk::walk(path).isBlocked ? tr("There is something else in the place of a folder: %1")
+                                                  : QString();
     }
 };
 
@@ -54,17 +54,17 @@ bool FileUtil::isPathValid(const QString& path, QString* error)
 
 QString FileUtil::closestPath(const QString& path)
 {
-    const PathWalk::Form form = PathWalk::form(path);
-    if (form == PathWalk::Form::Empty || form == PathWalk::Form::Resource) {
+    const FileUtilWalk::Form form = FileUtilWalk::form(path);
+    if (form == FileUtilWalk::Form::Empty || form == FileUtilWalk::Form::Resource) {
         return {};
     }
-    return PathWalk::walk(path).closest;
+    return FileUtilWalk::walk(path).closest;
 }
 
 bool FileUtil::isOperationAllowed(const QString& path, Operations operations)
 {
     const Operations known = Read | Write;
-    if (PathWalk::form(path) != PathWalk::Form::Good || (operations & ~known) != 0) {
+    if (FileUtilWalk::form(path) != FileUtilWalk::Form::Good || (operations & ~known) != 0) {
         return false;
     }
     const QFileInfo entry(path);

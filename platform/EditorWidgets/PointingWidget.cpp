@@ -1,6 +1,6 @@
 #include "PointingWidget.h"
 
-#include "BubblePlacement.h"
+#include "PointingWidgetPlacement.h"
 
 #include <WidgetToolkit/OvFrame.h>
 
@@ -73,7 +73,7 @@ public:
     /// The last known target, for a change of parent.
     QPoint lastGlobalTarget;
 
-    BubblePlacement placement;
+    PointingWidgetPlacement placement;
     /// The shape has changed while the bubble was hidden, so the mask is due.
     bool maskIsDue = false;
     /// The position last asked for. Where a window manager puts the bubble elsewhere, it is asked once more,
@@ -260,7 +260,7 @@ void PointingWidget::Private::place()
         request.area = QRect(-room, -room, 2 * room + 1, 2 * room + 1);
     }
 
-    const BubblePlacement old = placement;
+    const PointingWidgetPlacement old = placement;
     placement = placeBubble(request);
     if (placement.side != old.side) {
         applyMargins();

@@ -1,6 +1,6 @@
 #include "PrivacyAccess.h"
 
-#include "PlatformPrivacy.h"
+#include "PrivacyAccessPlatform.h"
 
 #include <QGuiApplication>
 

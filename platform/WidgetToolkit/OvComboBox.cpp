@@ -1,6 +1,6 @@
 #include "OvComboBox.h"
 
-#include "PopupPlacement.h"
+#include "OvComboBoxPopup.h"
 #include "Util.h"
 
 #include <QAbstractItemView>
@@ -158,8 +158,8 @@ void OvComboBox::placePopup()
     const int items = list->sizeHintForColumn(modelColumn());
     const bool scrolls = count() > maxVisibleItems();
     const int wanted = items + around + (scrolls ? scrollBar : 0);
-    window->setGeometry(PopupPlacement::widened(window->geometry(), wanted, box, layoutDirection(),
-                                                screen->availableGeometry()));
+    window->setGeometry(OvComboBoxPopup::widened(window->geometry(), wanted, box, layoutDirection(),
+                                                 screen->availableGeometry()));
 }
 
 void OvComboBox::publishPopupVisible(bool visible)

@@ -3,8 +3,8 @@
 #include "TestMain.h"
 #include "WaylandInput.h"
 
-#include <UiComponents/ColorPortal.h>
 #include <UiComponents/Pipette.h>
+#include <UiComponents/ScreenColorPortal.h>
 
 /**
  * A program of X11 on a desktop of Wayland: the pipette may cover the screen, but sees nothing of what

@@ -13,7 +13,7 @@
 #include <UiComponents/DoubleSliderInputWidget.h>
 #include <UiComponents/EditCommand.h>
 #include <UiComponents/EditSession.h>
-#include <UiComponents/FieldAccess.h>
+#include <UiComponents/EditSessionField.h>
 #include <UiComponents/PathSelectionWidget.h>
 #include <UiComponents/PointSelectionPlane.h>
 #include <UiComponents/PointSelectorWidget.h>
@@ -205,7 +205,7 @@ public:
         auto* edit = qobject_cast<QLineEdit*>(typed.data());
         return edit ? edit : typed->findChild<QLineEdit*>();
     }
-    void write(const QVariant& value) const { FieldAccess::of(field).write(value); }
+    void write(const QVariant& value) const { EditSessionField::of(field).write(value); }
 
     QWidget window;
     QPointer<QWidget> field;
@@ -238,7 +238,7 @@ private:
     {
         QObject::connect(session, &EditSession::started, &window, [this] { lines += "started"; });
         QObject::connect(session, &EditSession::previewed, &window, [this](const QVariant& value) {
-            QVERIFY2(!FieldAccess::isSame(value, previewed), "the same again");
+            QVERIFY2(!EditSessionField::isSame(value, previewed), "the same again");
             previewed = value;
             if (lines.constLast() != "previewed") {
                 lines += "previewed";
@@ -248,14 +248,14 @@ private:
         QObject::connect(session, &EditSession::committed, &window, [this](const QVariant& value) {
             lines += "committed";
             committed = value;
-            QVERIFY(FieldAccess::isSame(value, session->value()));
-            QVERIFY(FieldAccess::isSame(value, previewed));
+            QVERIFY(EditSessionField::isSame(value, session->value()));
+            QVERIFY(EditSessionField::isSame(value, previewed));
             QVERIFY(!session->isActive());
             previewed.clear();
         });
         QObject::connect(session, &EditSession::cancelled, &window, [this] {
             lines += "cancelled";
-            QVERIFY(FieldAccess::isSame(session->startValue(), session->value()));
+            QVERIFY(EditSessionField::isSame(session->startValue(), session->value()));
             previewed.clear();
         });
     }
@@ -404,7 +404,7 @@ const QVector<Story>& stories()
          [](Stage& s, const Kind& k) {
              dragOn(s);
              s.pressKey(s.dragged, Qt::Key_Escape);
-             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+             QVERIFY(EditSessionField::isSame(s.session->value(), k.start));
              // The mouse is still down, but moves nothing.
              drag(*s.dragged, QPoint(5, 5));
              dropAt(s, -20);
@@ -457,7 +457,7 @@ const QVector<Story>& stories()
          [](Stage& s, const Kind& k) {
              hold(s, s.stepKey());
              s.pressKey(s.keyed, Qt::Key_Escape);
-             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+             QVERIFY(EditSessionField::isSame(s.session->value(), k.start));
          }},
         {"held key, focus loss", Needs::Keys, once,
          [](Stage& s, const Kind&) {
@@ -523,7 +523,7 @@ const QVector<Story>& stories()
          [](Stage& s, const Kind& k) {
              turnOn(s);
              s.pressKey(s.turned, Qt::Key_Escape);
-             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+             QVERIFY(EditSessionField::isSame(s.session->value(), k.start));
          }},
         {"wheel, hidden", Needs::Wheel, once,
          [](Stage& s, const Kind&) {
@@ -553,7 +553,7 @@ const QVector<Story>& stories()
          [](Stage& s, const Kind& k) {
              s.type(k.text);
              s.pressKey(s.typed, Qt::Key_Escape);
-             QVERIFY(FieldAccess::isSame(s.session->value(), k.start));
+             QVERIFY(EditSessionField::isSame(s.session->value(), k.start));
          }},
         {"text, hidden", Needs::Text, once,
          [](Stage& s, const Kind& k) {
@@ -667,7 +667,7 @@ private Q_SLOTS:
         const Kind& k = kinds().at(kind);
         const Story& s = stories().at(told);
         Stage stage(k);
-        QVERIFY(FieldAccess::isSame(stage.session->value(), k.start));
+        QVERIFY(EditSessionField::isSame(stage.session->value(), k.start));
         s.act(stage, k);
         QCOMPARE(stage.story(), expected);
         if (stage.session) {
@@ -1052,7 +1052,7 @@ private Q_SLOTS:
             }();
         };
         QVERIFY(described().contains("Several values"));
-        MarkingTranslator translator("MultiValueCover");
+        MarkingTranslator translator("EditSessionCover");
         QCoreApplication::installTranslator(&translator);
         QCoreApplication::processEvents();
         QVERIFY(described().contains("<Several values>"));
@@ -1112,7 +1112,7 @@ private Q_SLOTS:
             QVERIFY(stage.session->isMultiValue());
         } else {
             QCOMPARE(stage.story(), QString("started previewed committed"));
-            QVERIFY(FieldAccess::isSame(stage.committed, kinds().at(kind).start));
+            QVERIFY(EditSessionField::isSame(stage.committed, kinds().at(kind).start));
         }
     }
 
@@ -1171,7 +1171,7 @@ private Q_SLOTS:
         stage.turned = on == QLatin1String("typed") ? stage.typed : stage.keyed;
         enter(stage, k);
         QCOMPARE(stage.story(), QString("started previewed committed"));
-        QVERIFY(FieldAccess::isSame(stage.committed, k.first));
+        QVERIFY(EditSessionField::isSame(stage.committed, k.first));
         QVERIFY(!stage.session->isMultiValue());
     }
 
@@ -1473,7 +1473,7 @@ private Q_SLOTS:
             const EditSession::Refresh refresh(&inspector);
             for (int i = 0; i < sessions.size(); ++i) {
                 // By the field's own setter, as a host has it.
-                FieldAccess::of(sessions.at(i)->field()).write(kindOf.at(i)->*value);
+                EditSessionField::of(sessions.at(i)->field()).write(kindOf.at(i)->*value);
                 sessions.at(i)->setMultiValue(i % 7 == 0);
             }
         };
@@ -1482,7 +1482,7 @@ private Q_SLOTS:
             // A folder field's report is late.
             QTest::qWait(150);
             for (int i = 0; i < sessions.size(); ++i) {
-                QVERIFY2(FieldAccess::isSame(sessions.at(i)->value(), kindOf.at(i)->*value),
+                QVERIFY2(EditSessionField::isSame(sessions.at(i)->value(), kindOf.at(i)->*value),
                          kindOf.at(i)->name);
                 QVERIFY(!sessions.at(i)->isActive());
             }
@@ -1558,7 +1558,7 @@ private Q_SLOTS:
         QCOMPARE(stage.story(), expected);
         QVERIFY(!stage.session || !stage.session->isActive());
         QVERIFY(!stage.field ||
-                FieldAccess::isSame(stage.session->value(), expected.endsWith("cancelled") ? 50 : 51));
+                EditSessionField::isSame(stage.session->value(), expected.endsWith("cancelled") ? 50 : 51));
         if (stage.field) {
             // The next one is told as ever.
             stage.field->show();

@@ -4,8 +4,8 @@
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerWidget.h>
-#include <UiComponents/ColorPortal.h>
 #include <UiComponents/Pipette.h>
+#include <UiComponents/ScreenColorPortal.h>
 #include <UiComponents/ScreenColorSource.h>
 
 #include <memory>
@@ -90,7 +90,7 @@ private Q_SLOTS:
         const PlatformName name(platform);
         FakePrivacy::screenAccess = status;
         ScreenColorSource* const source = ScreenColorSource::current();
-        QCOMPARE(qobject_cast<ColorPortal*>(source) != nullptr, isUsed);
+        QCOMPARE(qobject_cast<ScreenColorPortal*>(source) != nullptr, isUsed);
         QCOMPARE(source != nullptr, isUsed);
         // One for all.
         QCOMPARE(ScreenColorSource::current(), source);
