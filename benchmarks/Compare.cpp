@@ -22,8 +22,8 @@ namespace {
 
 constexpr double secondsOfASample = 1e-3;
 constexpr double secondsOfARow = 3.0;
-constexpr int fewestPairs = 25;
-constexpr int mostPairs = 601;
+constexpr int minPairs = 25;
+constexpr int maxPairs = 601;
 constexpr int measurementsOfAnAmount = 5;
 
 std::optional<Clock::time_point> stoppedAt;
@@ -144,8 +144,8 @@ void runRow(benchmark::State& state, const std::string& path, Goal goal, const s
     const Clock::time_point start = Clock::now();
     const auto goesOn = [&] {
         const auto taken = static_cast<int>(ours.size());
-        return taken < fewestPairs ||
-               (taken < mostPairs &&
+        return taken < minPairs ||
+               (taken < maxPairs &&
                 std::chrono::duration<double>(Clock::now() - start).count() < secondsOfARow);
     };
     while (goesOn()) {

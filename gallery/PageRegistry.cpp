@@ -215,7 +215,7 @@ QVector<PageInfo> PageRegistry::pages()
             tr("The functions and classes below the components, with their live results."),
             {tr("File sizes"),
              tr("Paths"),
-             tr("Custom colours and folders"),
+             tr("Own colours and folders"),
              tr("Scheduler"),
              tr("Headings"),
              tr("Languages"),

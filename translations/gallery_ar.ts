@@ -772,7 +772,7 @@
         <translation>المسارات</translation>
     </message>
     <message>
-        <source>Custom colours and folders</source>
+        <source>Own colours and folders</source>
         <translation>الألوان الخاصة والمجلدات</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>اختر أي لون</translation>
     </message>
     <message>
-        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <source>What the colour panel opens beside its own colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
         <translation>ما تفتحه لوحة الألوان بجانب ألوانها الخاصة؛ داخلي في المكتبة. هوامش الإطارين وفجواتهما تعود إلى الورقة.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>لا شيء</translation>
     </message>
     <message>
-        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <source>The loupe of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
         <translation>عدسة القطارة، وتحمل الخاصية roundedEdges. يُرسم حدها فوق الصورة؛ ويجب أن تكون خلفيتها شفافة. النوافذ التي تغطي الشاشات أثناء ذلك من الصنف PipetteScreenView: وخصائصه cursorPixmap وcursorSize وcursorHotSpot هي مؤشر الالتقاط.</translation>
     </message>
     <message>
@@ -1836,7 +1836,7 @@
         <translation>مسار فارغ</translation>
     </message>
     <message>
-        <source>Custom colours</source>
+        <source>Own colours</source>
         <translation>الألوان الخاصة</translation>
     </message>
     <message>

@@ -772,7 +772,7 @@
         <translation>Pfade</translation>
     </message>
     <message>
-        <source>Custom colours and folders</source>
+        <source>Own colours and folders</source>
         <translation>Eigene Farben und Ordner</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Eine beliebige Farbe wählen</translation>
     </message>
     <message>
-        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <source>What the colour panel opens beside its own colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
         <translation>Was die Farbtafel neben den eigenen Farben öffnet; intern in der Bibliothek. Ränder und Abstände beider Rahmen gehören dem Stylesheet.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Keines</translation>
     </message>
     <message>
-        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <source>The loupe of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
         <translation>Die Lupe der Pipette, mit der Eigenschaft roundedEdges. Ihr Rand wird über das Bild gezeichnet; ihr Hintergrund muss durchsichtig sein. Die Fenster, die währenddessen die Bildschirme bedecken, sind von der Klasse PipetteScreenView: Deren cursorPixmap, cursorSize und cursorHotSpot sind der Mauszeiger beim Aufnehmen.</translation>
     </message>
     <message>
@@ -1836,7 +1836,7 @@
         <translation>Leerer Pfad</translation>
     </message>
     <message>
-        <source>Custom colours</source>
+        <source>Own colours</source>
         <translation>Eigene Farben</translation>
     </message>
     <message>

@@ -772,7 +772,7 @@
         <translation>Rutas</translation>
     </message>
     <message>
-        <source>Custom colours and folders</source>
+        <source>Own colours and folders</source>
         <translation>Colores propios y carpetas</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Elija cualquier color</translation>
     </message>
     <message>
-        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <source>What the colour panel opens beside its own colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
         <translation>Lo que el panel de colores abre junto a sus colores propios; interno de la biblioteca. Los márgenes y huecos de ambos marcos son de la hoja.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Ninguna</translation>
     </message>
     <message>
-        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <source>The loupe of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
         <translation>La lupa del cuentagotas, que lleva la propiedad roundedEdges. Su borde se dibuja sobre la imagen; su fondo debe ser transparente. Las ventanas que cubren entretanto las pantallas son de la clase PipetteScreenView: sus cursorPixmap, cursorSize y cursorHotSpot son el puntero de la toma.</translation>
     </message>
     <message>
@@ -1836,7 +1836,7 @@
         <translation>Ruta vacía</translation>
     </message>
     <message>
-        <source>Custom colours</source>
+        <source>Own colours</source>
         <translation>Colores propios</translation>
     </message>
     <message>

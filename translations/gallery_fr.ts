@@ -772,7 +772,7 @@
         <translation>Chemins</translation>
     </message>
     <message>
-        <source>Custom colours and folders</source>
+        <source>Own colours and folders</source>
         <translation>Couleurs personnelles et dossiers</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>Choisissez n’importe quelle couleur</translation>
     </message>
     <message>
-        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <source>What the colour panel opens beside its own colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
         <translation>Ce que le panneau de couleurs ouvre à côté de ses couleurs personnelles&#xa0;; interne à la bibliothèque. Les marges et les écarts des deux cadres reviennent à la feuille.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Aucune</translation>
     </message>
     <message>
-        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <source>The loupe of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
         <translation>La loupe de la pipette, qui porte la propriété roundedEdges. Sa bordure est dessinée par-dessus l’image&#xa0;; son fond doit être transparent. Les fenêtres qui couvrent alors les écrans sont de la classe PipetteScreenView&#xa0;: ses cursorPixmap, cursorSize et cursorHotSpot sont le pointeur du prélèvement.</translation>
     </message>
     <message>
@@ -1836,7 +1836,7 @@
         <translation>Chemin vide</translation>
     </message>
     <message>
-        <source>Custom colours</source>
+        <source>Own colours</source>
         <translation>Couleurs personnelles</translation>
     </message>
     <message>

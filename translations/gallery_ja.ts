@@ -772,7 +772,7 @@
         <translation>パス</translation>
     </message>
     <message>
-        <source>Custom colours and folders</source>
+        <source>Own colours and folders</source>
         <translation>マイカラーとフォルダー</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>任意の色を選択</translation>
     </message>
     <message>
-        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <source>What the colour panel opens beside its own colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
         <translation>カラーパネルがマイカラーの横で開くもので、ライブラリ内部のものです。二つの枠の余白と間隔はスタイルシートが決めます。</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>なし</translation>
     </message>
     <message>
-        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <source>The loupe of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
         <translation>スポイトのルーペで、プロパティ roundedEdges を持ちます。境界線は画像の上に描画され、背景は透明でなければなりません。その間画面を覆うウィンドウのクラスは PipetteScreenView で、cursorPixmap、cursorSize、cursorHotSpot が取得中のカーソルを決めます。</translation>
     </message>
     <message>
@@ -1836,7 +1836,7 @@
         <translation>空のパス</translation>
     </message>
     <message>
-        <source>Custom colours</source>
+        <source>Own colours</source>
         <translation>マイカラー</translation>
     </message>
     <message>

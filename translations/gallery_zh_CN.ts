@@ -772,7 +772,7 @@
         <translation>路径</translation>
     </message>
     <message>
-        <source>Custom colours and folders</source>
+        <source>Own colours and folders</source>
         <translation>自定义颜色与文件夹</translation>
     </message>
     <message>
@@ -1052,7 +1052,7 @@
         <translation>选择任意颜色</translation>
     </message>
     <message>
-        <source>What the colour panel opens beside its custom colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
+        <source>What the colour panel opens beside its own colours; internal to the library. The margins and gaps of both frames are the sheet&apos;s.</source>
         <translation>颜色面板在自定义颜色旁打开的部分；属于库的内部。两个框架的边距和间隙由样式表决定。</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>The magnifier of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
+        <source>The loupe of the pipette, which carries the property roundedEdges. Its border is painted over the picture; its background must be transparent. The windows that cover the screens meanwhile are of the class PipetteScreenView: its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick.</source>
         <translation>取色器的放大镜，带有 roundedEdges 属性。其边框绘制在图片之上；背景必须透明。其间覆盖屏幕的窗口属于 PipetteScreenView 类：其 cursorPixmap、cursorSize 和 cursorHotSpot 是拾取光标。</translation>
     </message>
     <message>
@@ -1836,7 +1836,7 @@
         <translation>空路径</translation>
     </message>
     <message>
-        <source>Custom colours</source>
+        <source>Own colours</source>
         <translation>自定义颜色</translation>
     </message>
     <message>

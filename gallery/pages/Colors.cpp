@@ -154,7 +154,7 @@ void PageRegistry::colorSelector(Page* page)
     panel->addProperties(selectors);
     page->signalLog()->watch(selectors.enabled, "selector");
     page->describeStyling(selectors.enabled,
-                          tr("What the colour panel opens beside its custom colours; internal to the "
+                          tr("What the colour panel opens beside its own colours; internal to the "
                              "library. The margins and gaps of both frames are the sheet's."));
     setWhenLaidOut(page, [setColor, sample] { setColor(sample); });
 }

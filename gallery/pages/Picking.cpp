@@ -135,7 +135,7 @@ void PageRegistry::pipette(Page* page)
     panel->addProperties(loupes);
     page->signalLog()->watch(pipette, "pipette");
     page->describeStyling(loupes.enabled,
-                          tr("The magnifier of the pipette, which carries the property roundedEdges. Its "
+                          tr("The loupe of the pipette, which carries the property roundedEdges. Its "
                              "border is painted over the picture; its background must be transparent. The "
                              "windows that cover the screens meanwhile are of the class PipetteScreenView: "
                              "its cursorPixmap, cursorSize and cursorHotSpot are the cursor of the pick."));

@@ -129,7 +129,7 @@ void addColors(Page* page, ResultTable* results)
         }
     };
     const auto showAll = [show] { show(Settings::userCustomColors()); };
-    static_cast<QFormLayout*>(results->layout())->addRow(PageRegistry::tr("Custom colours"), colors);
+    static_cast<QFormLayout*>(results->layout())->addRow(PageRegistry::tr("Own colours"), colors);
     results->setResult(QStringLiteral("StandardFolderUrls::myComputerUrl()"),
                        StandardFolderUrls::myComputerUrl().toString());
     showAll();
@@ -381,7 +381,7 @@ void PageRegistry::services(Page* page)
          tr("Whether the system lets the program read the screen and the input of other programs, asked "
             "without troubling the user."),
          &addPrivacy},
-        {tr("Custom colours and folders"),
+        {tr("Own colours and folders"),
          tr("The user's own colours outlive the program, also when it is killed right after the write. They "
             "are kept under the host's organisation and application name, or in a store that the host hands "
             "over. A colour is added at the front, eight are kept, and neither a colour of the fixed palette "

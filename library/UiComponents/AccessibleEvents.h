@@ -1,4 +1,4 @@
-// Internal: notifies assistive technologies of changed values.
+// Internal: notifies readers of changed values.
 
 #pragma once
 

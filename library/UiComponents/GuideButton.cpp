@@ -94,7 +94,7 @@ void GuideButton::showHelp()
     const QPointer<PointingWidget> popup = d->pointingWidget;
     const QPointer<PointingWidget> outer = d->appearing;
     d->appearing = popup;
-    // The pop-up takes the focus, so that screen readers announce it.
+    // The pop-up takes the focus, so that readers announce it.
     popup->setFocus(Qt::PopupFocusReason);
     popup->show();
     if (self) {

@@ -9,8 +9,8 @@
 #include <memory>
 
 /**
- * A round magnifier: a picture of the pixels around the cursor, enlarged to the widget's size, and the name
- * of their middle's colour in a QLabel "colorNameLabel" that lies over all of it.
+ * The loupe, which is round: a picture of the pixels around the cursor, enlarged to the widget's size, and
+ * the name of their middle's colour in a QLabel "colorNameLabel" that lies over all of it.
  *
  * The size, the label's look and the rim come from the style sheet. The picture is clipped to the ellipse of
  * the first showing; the sheet's background and border are painted over it: make the background transparent.

@@ -52,7 +52,7 @@ public:
     QSizeF step() const;
     /// As if a key had moved the marker to @p value, bounded, along the axis 0 or 1.
     void setValue(int axis, double value);
-    /// Notifies assistive technologies of each coordinate that differs from @p before.
+    /// Notifies readers of each coordinate that differs from @p before.
     void announce(const QPointF& before) const;
 
     FocusOutline focus;

@@ -47,8 +47,8 @@ private:
 std::unique_ptr<QTranslator> translator;
 
 /// Of a margin or a side by code. Qt itself paints windows that are much larger for seconds.
-constexpr int mostPixels = 300;
-constexpr int mostLetters = 60;
+constexpr int maxPixels = 300;
+constexpr int maxLetters = 60;
 
 /// Of a host that does anything while it is asked. Good ones have a few colours, and keep what they are
 /// given.
@@ -522,11 +522,11 @@ void setProperty(World& world, QObject* object)
         value = world.random.styleSheet();
     }
     const bool isMetric = name.startsWith("layout") || name.endsWith("Width") || name.endsWith("Height");
-    if (isMetric && value.toInt() > mostPixels) {
-        value = mostPixels;
+    if (isMetric && value.toInt() > maxPixels) {
+        value = maxPixels;
     }
     if (name.endsWith("fix") || name == "specialValueText") {
-        value = value.toString().left(mostLetters); // a spin box gets as wide as these
+        value = value.toString().left(maxLetters); // a spin box gets as wide as these
     }
     if (!value.isValid() || !Exceptions::maySet(name, value)) {
         return;
@@ -557,7 +557,7 @@ void invokeSlot(World& world, QObject* object)
             return;
         }
         if (name == "animateClick") {
-            values[place] = world.random.below(Actions::longestClick);
+            values[place] = world.random.below(Actions::maxClick);
         }
         arguments[place] = QGenericArgument(values[place].typeName(), values[place].constData());
     }
@@ -634,7 +634,7 @@ void changeApplication(World& world)
         QApplication::setStyle(random.oneOf<QString>({QStringLiteral("Fusion"), QStringLiteral("Windows")}));
         break;
     case 2:
-        translator = std::make_unique<SillyTranslator>(random.text().left(mostLetters));
+        translator = std::make_unique<SillyTranslator>(random.text().left(maxLetters));
         QCoreApplication::installTranslator(translator.get());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
         break;
@@ -806,9 +806,9 @@ void Actions::enable(World& world, QWidget* widget, bool on)
 
 void Actions::make(World& world)
 {
-    constexpr int most = 30;
+    constexpr int maxParts = 30;
     QWidget* const top = world.anyTop();
-    if (!top || world.parts.size() > most || Exceptions::forbidsLoop(world)) {
+    if (!top || world.parts.size() > maxParts || Exceptions::forbidsLoop(world)) {
         return;
     }
     const Under under(world, Doing::Showing, top, "make");

@@ -8,7 +8,7 @@
 namespace Actions {
 
 /// How long a button is shown pressed that is clicked without a mouse, in ms.
-constexpr int longestClick = 200;
+constexpr int maxClick = 200;
 
 /// Takes one action, by chance.
 void act(World& world);

@@ -39,8 +39,8 @@ namespace {
 
 constexpr int addObjectHook = 3;
 constexpr int removeObjectHook = 4;
-constexpr qint64 longestStep = 1000; // ms
-constexpr qint64 longestWait = 3000;
+constexpr qint64 maxStep = 1000; // ms
+constexpr qint64 maxWait = 3000;
 
 using Objects = std::set<QObject*>; // in an order that has nothing to do with those of other threads
 // Never destroyed: objects die after main(), too.
@@ -185,8 +185,8 @@ void check(bool isGood, const QString& problem)
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
-    constexpr int mostLetters = 200;
-    if (delivered.size() < mostLetters && event->type() != QEvent::Timer) {
+    constexpr int maxLetters = 200;
+    if (delivered.size() < maxLetters && event->type() != QEvent::Timer) {
         delivered += QStringLiteral("%1 to %2; ").arg(event->type()).arg(World::nameOf(receiver));
     }
     const bool isHidden = event->type() == QEvent::Hide || event->type() == QEvent::WindowBlocked;
@@ -318,7 +318,7 @@ void Invariants::checkEmpty()
 void Invariants::noteStep()
 {
     const qint64 now = Clock::cpuMilliseconds();
-    check(now - stepBegan < longestStep, QStringLiteral("a step took %1 ms").arg(now - stepBegan));
+    check(now - stepBegan < maxStep, QStringLiteral("a step took %1 ms").arg(now - stepBegan));
     check(!isWaiting(),
           QStringLiteral("a step waited for %1 ms").arg(Clock::waitedMilliseconds() - waitedBefore));
     stepBegan = now;
@@ -329,5 +329,5 @@ void Invariants::noteStep()
 bool Invariants::isWaiting()
 {
     // A slow disk is nobody's fault, nor is somebody who stops the program.
-    return wasStopped == 0 && Clock::waitedMilliseconds() - waitedBefore > longestWait;
+    return wasStopped == 0 && Clock::waitedMilliseconds() - waitedBefore > maxWait;
 }

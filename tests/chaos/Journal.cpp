@@ -23,8 +23,8 @@ namespace {
 
 constexpr std::size_t keptLines = 60;
 constexpr unsigned secondsPerWindow = 60;
-constexpr qint64 mostPerWindow = 30000; // ms of the processor's
-constexpr int mostRests = 5;
+constexpr qint64 maxPerWindow = 30000; // ms of the processor's
+constexpr int maxRests = 5;
 
 // Plain text and plain calls: it is read when the process is broken.
 std::array<std::array<char, 240>, keptLines> lines;
@@ -62,7 +62,7 @@ void printAll()
 void onSignal(int signal)
 {
     if (signal == SIGALRM && !Invariants::isWaiting() &&
-        Clock::cpuMilliseconds() - windowBegan < mostPerWindow && ++rests < mostRests) {
+        Clock::cpuMilliseconds() - windowBegan < maxPerWindow && ++rests < maxRests) {
         // The machine is busy, or was stopped.
         alarm(secondsPerWindow);
         return;

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int mostIds = 100;
+constexpr int maxIds = 100;
 
 /// What was met, and may be gone by now.
 QVector<QAccessible::Id> ids;
@@ -37,7 +37,7 @@ void read(QAccessibleInterface& reader)
             child->text(QAccessible::Name);
         }
     }
-    if (ids.size() < mostIds) {
+    if (ids.size() < maxIds) {
         ids.append(QAccessible::uniqueId(&reader));
     }
 }

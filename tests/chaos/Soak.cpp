@@ -67,11 +67,11 @@ bool isShown(const char* type)
 
 void letEventsRun()
 {
-    constexpr int longestDelay = 20000; // of anything that is put off
+    constexpr int maxDelay = 20000; // of anything that is put off
     for (int i = 0; i < 3; ++i) {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        Clock::advance(longestDelay);
+        Clock::advance(maxDelay);
     }
 }
 

@@ -29,7 +29,7 @@ namespace {
 
 constexpr int deepest = 4;
 constexpr int patience = 100;
-constexpr int mostEndings = 3000;
+constexpr int maxEndings = 3000;
 
 int loopLevel()
 {
@@ -144,7 +144,7 @@ void World::stepInLoop(int& budget)
 
 void World::endLoops()
 {
-    if (++m_endings > mostEndings) {
+    if (++m_endings > maxEndings) {
         Journal::fail(QStringLiteral("an event loop does not end"));
     }
     Journal::note(QStringLiteral("end of the loops"));
@@ -264,8 +264,8 @@ QObject* World::partAround(QObject* object) const
 
 void World::addTop(QWidget* widget)
 {
-    constexpr int most = 5000;
-    widget->setMaximumSize(most, most);
+    constexpr int maxSide = 5000;
+    widget->setMaximumSize(maxSide, maxSide);
     tops.append(widget);
 }
 

@@ -117,11 +117,11 @@ private:
     /// Turn by turn, so that what was put off comes to pass.
     void end(int turn)
     {
-        constexpr int longestDelay = 20000;
+        constexpr int maxDelay = 20000;
         switch (turn) {
         case 1:
             plant();
-            Clock::advance(Actions::longestClick);
+            Clock::advance(Actions::maxClick);
             break;
         case 3:
             m_world->settle();
@@ -133,7 +133,7 @@ private:
             break;
         case 7:
             Actions::resetApplication();
-            Clock::advance(longestDelay);
+            Clock::advance(maxDelay);
             break;
         case 9:
             // Qt deletes what was put off outside of any loop when the outermost one ends.

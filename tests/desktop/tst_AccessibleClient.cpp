@@ -32,7 +32,7 @@ namespace {
 
 constexpr int answerLimitMs = 60000;
 
-/// An assistive technology, which knows of this program what the message bus tells it.
+/// A reader, which knows of this program what the message bus tells it.
 class Client
 {
 public:

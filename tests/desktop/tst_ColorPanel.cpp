@@ -135,11 +135,11 @@ private Q_SLOTS:
         QVERIFY(openSelector());
         const auto* add = child<QToolButton>("addCustomColorButton");
         const QPoint corner = add->mapToGlobal(QPoint(add->width(), add->height()));
-        QCOMPARE(selectorDialog()->geometry().left(), corner.x());
-        QCOMPARE(selectorDialog()->geometry().bottom() + 1, corner.y());
+        QCOMPARE(selector()->geometry().left(), corner.x());
+        QCOMPARE(selector()->geometry().bottom() + 1, corner.y());
 
         // What is under the mouse is reported, shown in the preview and becomes the own colour.
-        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        const auto* plane = selector()->findChild<QWidget*>(QStringLiteral("colorPlane"));
         QVERIFY(RealInput::click(plane, QPoint(plane->width() / 3, plane->height() / 4)));
         QTRY_VERIFY(m_reported->count() >= 2);
         const QColor chosen = lastReported();
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(RealInput::saveScreenshot(QStringLiteral("colour-panel-selector")));
 
         QVERIFY(clickElsewhere());
-        QTRY_VERIFY(!selectorDialog());
+        QTRY_VERIFY(!selector());
         QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
         QTRY_VERIFY(ownColor(0)->isChecked());
         QTRY_COMPARE(centerOf(ownColor(0)), chosen);
@@ -166,14 +166,14 @@ private Q_SLOTS:
         m_panel->setCurrentColor(QColor(0x12, 0xab, 0x34));
         QVERIFY(openSelector());
         QVERIFY(RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(!selectorDialog());
+        QTRY_VERIFY(!selector());
         QVERIFY(m_window->isVisible());
         QTRY_VERIFY(child<QToolButton>("addCustomColorButton")->hasFocus());
         // From there it opens again.
         QVERIFY(RealInput::key(QStringLiteral("space")));
-        QTRY_VERIFY(selectorDialog());
+        QTRY_VERIFY(selector());
         QVERIFY(RealInput::key(QStringLiteral("Return")));
-        QTRY_VERIFY(!selectorDialog());
+        QTRY_VERIFY(!selector());
         QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#12ab34")});
     }
 
@@ -198,10 +198,10 @@ private Q_SLOTS:
         // the window manager has moved the window.
         QTRY_VERIFY(m_window->pos() == place && isPanelOnScreen());
         QVERIFY(openSelector());
-        QVERIFY2(screen.contains(selectorDialog()->geometry()),
-                 qPrintable(QStringLiteral("%1 %2").arg(selectorDialog()->x()).arg(selectorDialog()->y())));
+        QVERIFY2(screen.contains(selector()->geometry()),
+                 qPrintable(QStringLiteral("%1 %2").arg(selector()->x()).arg(selector()->y())));
         QVERIFY(RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(!selectorDialog());
+        QTRY_VERIFY(!selector());
     }
 
     void dragLeavesTheWindow_data()
@@ -218,13 +218,13 @@ private Q_SLOTS:
         QFETCH(QPoint, way);
         QFETCH(QColor, expected);
         QVERIFY(openSelector());
-        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        const auto* plane = selector()->findChild<QWidget*>(QStringLiteral("colorPlane"));
         QTRY_COMPARE(RealInput::pixel(plane, QPoint(plane->width() - 1, 0)), QColor(Qt::red));
         const QPoint start = plane->rect().center();
         QVERIFY(RealInput::drag(plane, start, start + way));
         QTRY_VERIFY(!QWidget::mouseGrabber());
         QCOMPARE(lastReported(), expected);
-        QVERIFY(selectorDialog());
+        QVERIFY(selector());
         // The drag is over: the mouse moves nothing any more.
         const int count = m_reported->count();
         QVERIFY(RealInput::moveTo(plane, start));
@@ -295,7 +295,7 @@ private Q_SLOTS:
         const QWidget* const popup = m_panel->window();
         QVERIFY(openSelector());
         QVERIFY(popup->isVisible());
-        const auto* plane = selectorDialog()->findChild<QWidget*>(QStringLiteral("colorPlane"));
+        const auto* plane = selector()->findChild<QWidget*>(QStringLiteral("colorPlane"));
         QVERIFY(RealInput::click(plane, QPoint(plane->width() / 2, plane->height() / 2)));
         QTRY_VERIFY(m_reported->count() > 0);
         const QColor chosen = lastReported();
@@ -306,7 +306,7 @@ private Q_SLOTS:
         // chooses.
         QToolButton* const face = facesOf("colorMatrixPanel").at(3 * 9);
         QVERIFY(RealInput::click(face));
-        QTRY_VERIFY(!selectorDialog());
+        QTRY_VERIFY(!selector());
         QVERIFY(popup->isVisible());
         QVERIFY(m_picker->isInProgress());
         QCOMPARE(Settings::userCustomColors(), QStringList{chosen.name()});
@@ -318,7 +318,7 @@ private Q_SLOTS:
         // Escape closes them one by one.
         QVERIFY(openSelector());
         QVERIFY(RealInput::key(QStringLiteral("Escape")));
-        QTRY_VERIFY(!selectorDialog());
+        QTRY_VERIFY(!selector());
         QVERIFY(popup->isVisible());
         QVERIFY(RealInput::key(QStringLiteral("Escape")));
         QTRY_VERIFY(!popup->isVisible());
@@ -405,7 +405,7 @@ private:
         return faces.at(place);
     }
 
-    QDialog* selectorDialog() const
+    QDialog* selector() const
     {
         auto* dialog = m_panel->findChild<QDialog*>();
         return dialog && dialog->isVisible() ? dialog : nullptr;
@@ -414,8 +414,7 @@ private:
     bool openSelector() const
     {
         return RealInput::click(child<QToolButton>("addCustomColorButton")) &&
-               QTest::qWaitFor([this] { return selectorDialog(); }) &&
-               QTest::qWaitForWindowExposed(selectorDialog());
+               QTest::qWaitFor([this] { return selector(); }) && QTest::qWaitForWindowExposed(selector());
     }
 
     /// From now on m_panel is the field's.

@@ -24,7 +24,7 @@
 namespace {
 
 constexpr int patience = 60000; // ms, for another program to start
-const QColor Green(0, 128, 0);
+const QColor green(0, 128, 0);
 
 /// A portal on the session's bus, with a connection of its own.
 struct Desktop
@@ -136,13 +136,13 @@ private Q_SLOTS:
 
         PointingWidget bubble(&window);
         bubble.contentFrame()->setFixedSize(150, 60);
-        bubble.contentFrame()->setStyleSheet(QStringLiteral("background: %1;").arg(Green.name()));
+        bubble.contentFrame()->setStyleSheet(QStringLiteral("background: %1;").arg(green.name()));
         bubble.pointTo(window.mapToGlobal(QPoint(100, window.height() - 20)));
         bubble.show();
         QVERIFY(QTest::qWaitForWindowExposed(&bubble));
         QCOMPARE(bubble.effectiveArrowSide(), PointingWidget::ArrowSide::Bottom);
         QVERIFY(placeOf(window).contains(placeOf(bubble)));
-        QTRY_COMPARE(RealInput::pixel(bubble.contentFrame(), QPoint(75, 30)), Green);
+        QTRY_COMPARE(RealInput::pixel(bubble.contentFrame(), QPoint(75, 30)), green);
         bubble.hide();
 
         QVERIFY(RealInput::click(panel.findChild<QToolButton*>(QStringLiteral("addCustomColorButton"))));

@@ -52,9 +52,9 @@ Q_DECLARE_METATYPE(Make)
 
 namespace {
 
-constexpr double leastOfText = 4.5;
-constexpr double leastOfMarks = 3.0;
-constexpr QSize leastTarget(24, 24);
+constexpr double minOfText = 4.5;
+constexpr double minOfMarks = 3.0;
+constexpr QSize minTarget(24, 24);
 
 /// Of WCAG 2, from 1 (the same) to 21 (black and white).
 double luminance(QRgb color)
@@ -105,12 +105,12 @@ QRgb surfaceOf(const QImage& picture, const QRect& area)
 /// Of whatever stands out most in the area, against @p surface.
 double strongest(const QImage& picture, const QRect& area, QRgb surface)
 {
-    double most = 1.0;
+    double max = 1.0;
     const auto colors = colorsOf(picture, area).keys();
     for (const QRgb color : colors) {
-        most = qMax(most, contrast(color, surface));
+        max = qMax(max, contrast(color, surface));
     }
-    return most;
+    return max;
 }
 
 double strongest(const QImage& picture, const QRect& area)
@@ -301,9 +301,9 @@ private:
             .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(), textOf(widget));
     }
 
-    static void expect(double actual, double least, const QString& what, QStringList* all)
+    static void expect(double actual, double min, const QString& what, QStringList* all)
     {
-        if (actual < least) {
+        if (actual < min) {
             all->append(QStringLiteral("%1: %2").arg(what).arg(actual, 0, 'f', 2));
         }
     }
@@ -312,8 +312,7 @@ private:
     {
         const QRect area = textAreaOf(widget).translated(areaOf(widget).topLeft());
         if (!textOf(widget).trimmed().isEmpty() && !area.isEmpty() && !isPartOfAnother(widget)) {
-            expect(strongest(m_picture, area), leastOfText, QStringLiteral("text of ") + describe(widget),
-                   all);
+            expect(strongest(m_picture, area), minOfText, QStringLiteral("text of ") + describe(widget), all);
         }
     }
 
@@ -326,7 +325,7 @@ private:
         const QRect area = areaOf(widget);
         const QPoint middle(area.left(), area.center().y());
         const QRgb outside = m_picture.pixel(middle - QPoint(2, 0));
-        expect(strongest(m_picture, QRect(middle, QSize(3, 1)), outside), leastOfMarks,
+        expect(strongest(m_picture, QRect(middle, QSize(3, 1)), outside), minOfMarks,
                QStringLiteral("border of ") + describe(widget), all);
     }
 
@@ -334,7 +333,7 @@ private:
     {
         const QPoint corner = areaOf(widget).topLeft();
         const auto check = [&](const QRect& area, const char* what) {
-            expect(strongest(m_picture, area.translated(corner)), leastOfMarks,
+            expect(strongest(m_picture, area.translated(corner)), minOfMarks,
                    QLatin1String(what) + describe(widget), all);
         };
         if (const auto* const combo = qobject_cast<const QComboBox*>(widget)) {
@@ -343,19 +342,19 @@ private:
         } else if (const auto* const slider = qobject_cast<const QSlider*>(widget)) {
             const QRect handle =
                 subControl<QStyleOptionSlider>(slider, QStyle::CC_Slider, QStyle::SC_SliderHandle);
-            expect(strongest(m_picture, handle.translated(corner), m_picture.pixel(corner)), leastOfMarks,
+            expect(strongest(m_picture, handle.translated(corner), m_picture.pixel(corner)), minOfMarks,
                    QStringLiteral("handle of ") + describe(widget), all);
         } else if (qobject_cast<const QToolButton*>(widget) && textOf(widget).isEmpty()) {
-            expect(strongest(m_picture, areaOf(widget), m_picture.pixel(corner)), leastOfMarks,
+            expect(strongest(m_picture, areaOf(widget), m_picture.pixel(corner)), minOfMarks,
                    QStringLiteral("mark of ") + describe(widget), all);
         } else if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
             const int side = widget->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget);
             QRect box(0, (widget->height() - side) / 2, side, side);
             box = QStyle::visualRect(widget->layoutDirection(), widget->rect(), box).translated(corner);
-            expect(strongest(m_picture, box, m_picture.pixel(corner)), leastOfMarks,
+            expect(strongest(m_picture, box, m_picture.pixel(corner)), minOfMarks,
                    QStringLiteral("box of ") + describe(widget), all);
             if (qobject_cast<const QAbstractButton*>(widget)->isChecked()) {
-                expect(strongest(m_picture, box.adjusted(3, 3, -3, -3)), leastOfMarks,
+                expect(strongest(m_picture, box.adjusted(3, 3, -3, -3)), minOfMarks,
                        QStringLiteral("tick of ") + describe(widget), all);
             }
         } else if (qobject_cast<const PointSelectionPlane*>(widget)) {
@@ -365,7 +364,7 @@ private:
 
     static void checkTarget(const QWidget* widget, QStringList* all)
     {
-        if (isTarget(widget) && widget->size().expandedTo(leastTarget) != widget->size()) {
+        if (isTarget(widget) && widget->size().expandedTo(minTarget) != widget->size()) {
             all->append(QStringLiteral("size of %1: %2 x %3")
                             .arg(describe(widget))
                             .arg(widget->width())
@@ -387,13 +386,13 @@ private:
             const QString name = QStringLiteral("row %1 of ").arg(index.data().toString()) + describe(view);
             const QRect area = seen.translated(corner);
             if (isText) {
-                expect(strongest(m_picture, area), leastOfText, QStringLiteral("text of ") + name, all);
+                expect(strongest(m_picture, area), minOfText, QStringLiteral("text of ") + name, all);
             }
-            if (seen.height() < leastTarget.height() && index.flags() & Qt::ItemIsSelectable) {
+            if (seen.height() < minTarget.height() && index.flags() & Qt::ItemIsSelectable) {
                 all->append(QStringLiteral("height of %1: %2").arg(name).arg(seen.height()));
             }
             if (view->selectionModel() && view->selectionModel()->isSelected(index)) {
-                expect(contrast(surfaceOf(m_picture, area), surface), leastOfMarks,
+                expect(contrast(surfaceOf(m_picture, area), surface), minOfMarks,
                        QStringLiteral("selection of ") + name, all);
             }
         }
@@ -419,7 +418,7 @@ private:
             const auto* const old = reinterpret_cast<const QRgb*>(before.constScanLine(y));
             const auto* const line = reinterpret_cast<const QRgb*>(after.constScanLine(y));
             for (int x = 0; x < after.width(); ++x) {
-                changed += old[x] != line[x] && contrast(old[x], line[x]) >= leastOfMarks;
+                changed += old[x] != line[x] && contrast(old[x], line[x]) >= minOfMarks;
             }
         }
         if (changed < minPixels) {

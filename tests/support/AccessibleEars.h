@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QStringList>
 
-/// Hears what widgets tell assistive technologies, as long as it lives. Off screen nobody else does.
+/// Hears what widgets tell readers, as long as it lives. Off screen nobody else does.
 class AccessibleEars
 {
 public:
@@ -19,7 +19,7 @@ public:
 /// What @p widget, which must have one, says for itself.
 QAccessibleInterface& reader(QObject* widget);
 
-/// The name of @p widget to assistive technologies.
+/// The name of @p widget to readers.
 QString spokenName(QObject* widget);
 
 /// @p root and all below it, each as "role name = value", indented.

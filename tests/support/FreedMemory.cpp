@@ -11,12 +11,12 @@
 namespace {
 
 constexpr unsigned char pattern = 0xff;
-constexpr std::size_t mostBlocks = 65536;
+constexpr std::size_t maxBlocks = 65536;
 
 // Plain data: it is used before any constructor has run.
 thread_local bool isWatching = false;
 std::size_t blockCount = 0;
-void* blocks[mostBlocks];
+void* blocks[maxBlocks];
 
 bool isMainThread()
 {
@@ -81,7 +81,7 @@ bool isUntouched(void* block)
 
 void release(void* block) noexcept
 {
-    if (!block || !isWatching || blockCount == mostBlocks) {
+    if (!block || !isWatching || blockCount == maxBlocks) {
         giveBack(block);
         return;
     }

@@ -170,15 +170,15 @@ QMap<QString, Works> sliderKeys(const char* name)
 
 QMap<QString, Works> planeKeys()
 {
-    const auto moves = [](const QVector<Qt::Key>& all, Qt::KeyboardModifiers modifiers, double least) {
+    const auto moves = [](const QVector<Qt::Key>& all, Qt::KeyboardModifiers modifiers, double min) {
         return [=](QWidget& widget) {
             auto& plane = *qobject_cast<PointSelectionPlane*>(&widget);
             plane.resize(101, 101);
             plane.setFocus();
-            return std::all_of(all.cbegin(), all.cend(), [&plane, modifiers, least](Qt::Key key) {
+            return std::all_of(all.cbegin(), all.cend(), [&plane, modifiers, min](Qt::Key key) {
                 const QPointF before = plane.point();
                 press(key, modifiers);
-                return (plane.point() - before).manhattanLength() >= least;
+                return (plane.point() - before).manhattanLength() >= min;
             });
         };
     };

@@ -133,16 +133,16 @@ public:
         QCoreApplication::processEvents();
     }
 
-    QDialog* popup() const { return findChild<QDialog*>(); }
-    QWidget* plane() const { return popup()->findChild<QWidget*>(QStringLiteral("colorPlane")); }
-    QSlider* hueSlider() const { return popup()->findChild<QSlider*>(QStringLiteral("hueSlider")); }
+    QDialog* selector() const { return findChild<QDialog*>(); }
+    QWidget* plane() const { return selector()->findChild<QWidget*>(QStringLiteral("colorPlane")); }
+    QSlider* hueSlider() const { return selector()->findChild<QSlider*>(QStringLiteral("hueSlider")); }
 
-    /// Opens the pop-up as the user does.
-    void openPopup()
+    /// Opens the selector as the user does.
+    void openSelector()
     {
         QTest::mouseClick(addButton, Qt::LeftButton);
-        QVERIFY(popup());
-        QVERIFY(QTest::qWaitForWindowExposed(popup()));
+        QVERIFY(selector());
+        QVERIFY(QTest::qWaitForWindowExposed(selector()));
         QCoreApplication::processEvents();
     }
 
@@ -310,7 +310,7 @@ private Q_SLOTS:
         static_assert(std::is_same_v<decltype(panel.currentColor()), const OptionalColor&>);
         QCOMPARE(panel.property("colorDialogOffset").toInt(), 0);
         QCOMPARE(panel.GetcolorDialogOffset(), 0);
-        QVERIFY(!panel.popup());
+        QVERIFY(!panel.selector());
         check();
         panel.show();
         QVERIFY(panel.part<OvFrame>("opacityPanel")->isVisible());
@@ -869,7 +869,7 @@ private Q_SLOTS:
         };
         row("loses the focus", [](Panel* panel) { panel->slider->setFocus(); });
         row("is hidden", [](Panel* panel) { panel->hide(); });
-        row("the selector opens", [](Panel* panel) { panel->openPopup(); });
+        row("the selector opens", [](Panel* panel) { panel->openSelector(); });
     }
 
     void emptiedOpacity()
@@ -1085,73 +1085,73 @@ private Q_SLOTS:
         QCOMPARE(m_record->writes, 0);
     }
 
-    void popup()
+    void selector()
     {
         Panel panel;
         panel.show();
-        panel.openPopup();
-        QDialog* const dialog = panel.popup();
-        QCOMPARE(QByteArray(dialog->metaObject()->className()), QByteArray("QDialog"));
-        QCOMPARE(dialog->parentWidget(), &panel);
-        QCOMPARE(dialog->windowType(), Qt::Popup);
-        QCOMPARE(dialog->property("roundedEdges"), QVariant(true));
-        QVERIFY(dialog->testAttribute(Qt::WA_TranslucentBackground));
-        QCOMPARE(dialog->layout()->contentsMargins(), QMargins());
-        QCOMPARE(dialog->layout()->spacing(), 0);
-        const auto children = dialog->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        panel.openSelector();
+        QDialog* const selector = panel.selector();
+        QCOMPARE(QByteArray(selector->metaObject()->className()), QByteArray("QDialog"));
+        QCOMPARE(selector->parentWidget(), &panel);
+        QCOMPARE(selector->windowType(), Qt::Popup);
+        QCOMPARE(selector->property("roundedEdges"), QVariant(true));
+        QVERIFY(selector->testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(selector->layout()->contentsMargins(), QMargins());
+        QCOMPARE(selector->layout()->spacing(), 0);
+        const auto children = selector->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
         QCOMPARE(children.size(), 1);
         QCOMPARE(QByteArray(children.front()->metaObject()->className()),
                  QByteArray("CustomColorSelectWidget"));
-        QCOMPARE(dialog->size(), children.front()->size());
+        QCOMPARE(selector->size(), children.front()->size());
         // There is something to see without any sheet.
         QCOMPARE(panel.plane()->size(), QSize(200, 160));
         QCOMPARE(panel.log(), QStringList());
         // It is made once.
-        QTest::keyClick(dialog, Qt::Key_Escape);
-        panel.openPopup();
-        QCOMPARE(panel.findChildren<QDialog*>(), QList<QDialog*>{dialog});
-        dialog->close();
+        QTest::keyClick(selector, Qt::Key_Escape);
+        panel.openSelector();
+        QCOMPARE(panel.findChildren<QDialog*>(), QList<QDialog*>{selector});
+        selector->close();
     }
 
-    void popupPlace()
+    void selectorPlace()
     {
         Panel panel;
         const QPoint middle = panel.screen()->availableGeometry().center();
         panel.move(middle);
         panel.show();
-        panel.openPopup();
+        panel.openSelector();
         const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
-        const QDialog* const dialog = panel.popup();
-        QCOMPARE(dialog->x(), button.x() + button.width());
-        QCOMPARE(dialog->y() + dialog->height(), button.y() + button.height());
-        panel.popup()->close();
+        const QDialog* const selector = panel.selector();
+        QCOMPARE(selector->x(), button.x() + button.width());
+        QCOMPARE(selector->y() + selector->height(), button.y() + button.height());
+        panel.selector()->close();
         // Each time anew, with the size that it needs then.
         panel.move(middle - QPoint(50, 30));
         panel.hueSlider()->setMinimumHeight(60);
-        panel.openPopup();
-        QCOMPARE(dialog->x(), button.x() + button.width() - 50);
-        QCOMPARE(dialog->y() + dialog->height(), button.y() + button.height() - 30);
-        QCOMPARE(dialog->size(), dialog->sizeHint());
-        panel.popup()->close();
+        panel.openSelector();
+        QCOMPARE(selector->x(), button.x() + button.width() - 50);
+        QCOMPARE(selector->y() + selector->height(), button.y() + button.height() - 30);
+        QCOMPARE(selector->size(), selector->sizeHint());
+        panel.selector()->close();
     }
 
-    void popupStaysOnTheScreen()
+    void selectorStaysOnTheScreen()
     {
         Panel panel;
         const QRect area = panel.screen()->availableGeometry();
         panel.show();
         for (const QPoint& corner : {area.topLeft(), area.bottomRight()}) {
             panel.move(corner - panel.addButton->mapTo(&panel, panel.addButton->rect().center()));
-            panel.openPopup();
-            QVERIFY(area.contains(panel.popup()->geometry()));
+            panel.openSelector();
+            QVERIFY(area.contains(panel.selector()->geometry()));
             // It leaves the button to be seen, and clicked again.
             const QRect button(panel.addButton->mapToGlobal(QPoint()), panel.addButton->size());
-            QVERIFY(!button.intersects(panel.popup()->geometry()));
-            panel.popup()->close();
+            QVERIFY(!button.intersects(panel.selector()->geometry()));
+            panel.selector()->close();
         }
     }
 
-    void popupBeginsAtTheColor_data()
+    void selectorBeginsAtTheColor_data()
     {
         QTest::addColumn<bool>("isAgain");
         QTest::addColumn<OptionalColor>("color");
@@ -1164,7 +1164,7 @@ private Q_SLOTS:
         QTest::newRow("translucent") << false << OptionalColor(QColor(0, 255, 0, 10)) << 120 << true;
     }
 
-    void popupBeginsAtTheColor()
+    void selectorBeginsAtTheColor()
     {
         QFETCH(bool, isAgain);
         QFETCH(OptionalColor, color);
@@ -1174,12 +1174,12 @@ private Q_SLOTS:
         panel.show();
         if (isAgain) {
             panel.setCurrentColor(QColor(0, 255, 255));
-            panel.openPopup();
-            panel.popup()->close();
+            panel.openSelector();
+            panel.selector()->close();
         }
         panel.setCurrentColor(color);
         panel.log();
-        panel.openPopup();
+        panel.openSelector();
         QTRY_COMPARE(panel.hueSlider()->value(), hue);
         QCoreApplication::processEvents();
         QCOMPARE(panel.log(), QStringList());
@@ -1192,26 +1192,26 @@ private Q_SLOTS:
         QColor expected = panel.planeColor(hue, place);
         expected.setAlphaF(panel.slider->doubleValue());
         QCOMPARE(panel.log(), QStringList{text(expected)});
-        panel.popup()->close();
+        panel.selector()->close();
     }
 
-    void popupKeepsTheHueOfAGrey()
+    void selectorKeepsTheHueOfAGrey()
     {
         Panel panel;
         panel.show();
         panel.setCurrentColor(QColor(Qt::blue));
-        panel.openPopup();
+        panel.openSelector();
         const QPoint left(0, panel.plane()->height() / 2);
         panel.clickPlane(left);
         QCOMPARE(panel.currentColor()->hue(), -1);
-        panel.popup()->close();
-        panel.openPopup();
+        panel.selector()->close();
+        panel.openSelector();
         QCoreApplication::processEvents();
         QCOMPARE(panel.hueSlider()->value(), 240);
-        panel.popup()->close();
+        panel.selector()->close();
     }
 
-    void colorFollowsThePopup_data()
+    void colorFollowsTheSelector_data()
     {
         QTest::addColumn<bool>("adjustable");
         QTest::addColumn<bool>("fedBack");
@@ -1221,7 +1221,7 @@ private Q_SLOTS:
         QTest::newRow("opacity fixed, fed back by the host") << false << true;
     }
 
-    void colorFollowsThePopup()
+    void colorFollowsTheSelector()
     {
         QFETCH(bool, adjustable);
         QFETCH(bool, fedBack);
@@ -1234,7 +1234,7 @@ private Q_SLOTS:
         if (fedBack) {
             connect(&panel, &ColorPickerWidget::colorChanged, &panel, &ColorPickerWidget::setCurrentColor);
         }
-        panel.openPopup();
+        panel.openSelector();
         panel.log();
         const auto chosen = [&panel, adjustable](int hue, const QPoint& point) {
             QColor color = panel.planeColor(hue, point);
@@ -1260,19 +1260,19 @@ private Q_SLOTS:
         panel.hueSlider()->setValue(0);
         const QString third = chosen(0, {60, 30});
         QCOMPARE(panel.log(), QStringList{third});
-        panel.popup()->close();
+        panel.selector()->close();
         const QString added = QLatin1Char('#') + third.mid(3);
         QCOMPARE(Settings::userCustomColors(), QStringList{added});
         QCOMPARE(panel.queue(), padded({added}));
         QCOMPARE(panel.log(), QStringList{third});
     }
 
-    void popupMeetsAPaletteColor()
+    void selectorMeetsAPaletteColor()
     {
         Panel panel(true);
         panel.show();
         panel.setCurrentColor(QColor(0x12, 0x34, 0x56, 128));
-        panel.openPopup();
+        panel.openSelector();
         panel.log();
         panel.hueSlider()->setValue(0);
         panel.log();
@@ -1288,10 +1288,10 @@ private Q_SLOTS:
         panel.clickPlane({40, 40});
         QCOMPARE(panel.checked(), QString());
         QVERIFY(panel.group->exclusive());
-        panel.popup()->close();
+        panel.selector()->close();
     }
 
-    void popupByKeyboard()
+    void selectorByKeyboard()
     {
         Panel panel;
         panel.show();
@@ -1300,19 +1300,19 @@ private Q_SLOTS:
         panel.log();
         panel.addButton->setFocus();
         QTest::keyClick(panel.addButton, Qt::Key_Space);
-        QDialog* const dialog = panel.popup();
-        QVERIFY(dialog && dialog->isVisible());
-        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        QDialog* const selector = panel.selector();
+        QVERIFY(selector && selector->isVisible());
+        QVERIFY(QTest::qWaitForWindowExposed(selector));
         QCoreApplication::processEvents();
-        QCOMPARE(dialog->focusWidget(), panel.plane());
-        QTest::keyClick(dialog->windowHandle(), Qt::Key_Left);
+        QCOMPARE(selector->focusWidget(), panel.plane());
+        QTest::keyClick(selector->windowHandle(), Qt::Key_Left);
         QCOMPARE(panel.log(), QStringList{text(panel.planeColor(240, {panel.plane()->width() - 2, 0}))});
-        QTest::keyClick(dialog->windowHandle(), Qt::Key_Tab);
-        QCOMPARE(dialog->focusWidget(), panel.hueSlider());
-        QTest::keyClick(dialog->windowHandle(), Qt::Key_Home);
+        QTest::keyClick(selector->windowHandle(), Qt::Key_Tab);
+        QCOMPARE(selector->focusWidget(), panel.hueSlider());
+        QTest::keyClick(selector->windowHandle(), Qt::Key_Home);
         QCOMPARE(panel.log(), QStringList{text(panel.planeColor(0, {panel.plane()->width() - 2, 0}))});
-        QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
-        QVERIFY(!dialog->isVisible());
+        QTest::keyClick(selector->windowHandle(), Qt::Key_Escape);
+        QVERIFY(!selector->isVisible());
         QTRY_COMPARE(QApplication::focusWidget(), panel.addButton);
     }
 
@@ -1332,8 +1332,8 @@ private Q_SLOTS:
         QApplication::setActiveWindow(&panel);
         panel.edit->setFocus();
         panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-        panel.openPopup();
-        QWindow* const window = panel.popup()->windowHandle();
+        panel.openSelector();
+        QWindow* const window = panel.selector()->windowHandle();
         QCOMPARE(panel.log(), QStringList());
         if (way == QStringLiteral("Escape")) {
             QTest::keyClick(window, Qt::Key_Escape);
@@ -1346,7 +1346,7 @@ private Q_SLOTS:
         } else {
             panel.hide();
         }
-        QVERIFY(!panel.popup()->isVisible());
+        QVERIFY(!panel.selector()->isVisible());
         QCOMPARE(panel.isVisible(), way != QStringLiteral("hiding the panel"));
         QCOMPARE(panel.currentColor(), OptionalColor(QColor(0x12, 0x34, 0x56)));
         QCOMPARE(Settings::userCustomColors(), QStringList{QStringLiteral("#123456")});
@@ -1405,9 +1405,9 @@ private Q_SLOTS:
         panel.setOpacityAdjustmentAvailable(adjustable);
         panel.show();
         panel.setCurrentColor(color);
-        panel.openPopup();
+        panel.openSelector();
         panel.log();
-        panel.popup()->close();
+        panel.selector()->close();
         QCOMPARE(panel.log(), reported);
         QCOMPARE(m_record->writes, queue == stored ? 0 : 1);
         QCOMPARE(Settings::userCustomColors(), queue);
@@ -1425,9 +1425,9 @@ private Q_SLOTS:
             layout->addWidget(panel);
             host.show();
             QVERIFY(QTest::qWaitForWindowExposed(&host));
-            panel->openPopup();
-            QTest::keyClick(panel->popup()->windowHandle(), Qt::Key_Escape);
-            QVERIFY(!panel->popup()->isVisible());
+            panel->openSelector();
+            QTest::keyClick(panel->selector()->windowHandle(), Qt::Key_Escape);
+            QVERIFY(!panel->selector()->isVisible());
             QVERIFY(host.isVisible());
             QCOMPARE(finished.count(), 0);
             QTRY_COMPARE(host.focusWidget(), panel->addButton);
@@ -1450,8 +1450,8 @@ private Q_SLOTS:
             expected.prepend(color);
             panel.setCurrentColor(QColor(color));
             panel.log();
-            panel.openPopup();
-            panel.popup()->close();
+            panel.openSelector();
+            panel.selector()->close();
             QCOMPARE(panel.queue(), expected);
             QCOMPARE(Settings::userCustomColors(), expected);
             QCOMPARE(panel.queueButton(0), reused);
@@ -1481,8 +1481,8 @@ private Q_SLOTS:
         Panel panel;
         panel.show();
         panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-        panel.openPopup();
-        panel.popup()->close();
+        panel.openSelector();
+        panel.selector()->close();
         const QStringList expected = QStringList{QStringLiteral("#123456")} + names(7);
         QCOMPARE(panel.queue(), expected);
         QCOMPARE(m_record->value.toStringList(), names(8));
@@ -1498,8 +1498,8 @@ private Q_SLOTS:
         other.show();
         const auto add = [](Panel& panel, const QColor& color) {
             panel.setCurrentColor(color);
-            panel.openPopup();
-            panel.popup()->close();
+            panel.openSelector();
+            panel.selector()->close();
         };
         const QString first = QStringLiteral("#111213");
         const QString second = QStringLiteral("#212223");
@@ -1542,7 +1542,7 @@ private Q_SLOTS:
         const Action setOwn = [](Panel* panel) { panel->setCurrentColor(QColor(0x12, 0x34, 0x56)); };
         const Action open = [](Panel* panel) {
             panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
-            panel->openPopup();
+            panel->openSelector();
         };
         const auto click = [](auto part) -> Action {
             return [part](Panel* panel) { QTest::mouseClick(part(panel), Qt::LeftButton); };
@@ -1557,7 +1557,7 @@ private Q_SLOTS:
             return [part, code](Panel* panel) { QTest::keyClick(part(panel), code); };
         };
         const auto closeBy = [](Qt::Key code) -> Action {
-            return [code](Panel* panel) { QTest::keyPress(panel->popup()->windowHandle(), code); };
+            return [code](Panel* panel) { QTest::keyPress(panel->selector()->windowHandle(), code); };
         };
         const auto textOf = [](const char* text) -> Action {
             return [text](Panel* panel) { panel->edit->setText(QString::fromLatin1(text)); };
@@ -1615,15 +1615,15 @@ private Q_SLOTS:
         row("pipette", nothing, click(pipette));
         row("pipette by space", nothing, key(pipette, Qt::Key_Space));
         row("close", nothing, click(pipette), 2);
-        row("pressed in the pop-up", open, [](Panel* panel) { panel->pressPlane({40, 40}); });
-        row("dragged in the pop-up", pressed, [](Panel* panel) { panel->dragOverPlane({60, 30}); });
-        row("released in the pop-up", pressed, [](Panel* panel) { panel->releasePlane({40, 40}); });
+        row("pressed in the selector", open, [](Panel* panel) { panel->pressPlane({40, 40}); });
+        row("dragged in the selector", pressed, [](Panel* panel) { panel->dragOverPlane({60, 30}); });
+        row("released in the selector", pressed, [](Panel* panel) { panel->releasePlane({40, 40}); });
         row("hue by key", open, key(hueSlider, Qt::Key_Home));
         row("hue by mouse", open, clickAtTheLeft(hueSlider));
         row("added by Escape", open, closeBy(Qt::Key_Escape));
         row("added by Return", open, closeBy(Qt::Key_Return));
         row("added by a click elsewhere", open, [](Panel* panel) {
-            QTest::mouseClick(panel->popup()->windowHandle(), Qt::LeftButton, {}, QPoint(-3, -3));
+            QTest::mouseClick(panel->selector()->windowHandle(), Qt::LeftButton, {}, QPoint(-3, -3));
         });
     }
 
@@ -1670,19 +1670,19 @@ private Q_SLOTS:
         }
     }
 
-    void popupDeletedByASlot()
+    void selectorDeletedByASlot()
     {
         Panel panel;
         panel.show();
         panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
-        connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel] { delete panel.popup(); });
-        panel.openPopup();
+        connect(&panel, &ColorPickerWidget::colorChanged, this, [&panel] { delete panel.selector(); });
+        panel.openSelector();
         panel.pressPlane({40, 40});
-        QVERIFY(!panel.popup());
+        QVERIFY(!panel.selector());
         // The next one begins at the colour.
-        panel.openPopup();
+        panel.openSelector();
         panel.pressPlane({50, 40});
-        QVERIFY(!panel.popup());
+        QVERIFY(!panel.selector());
         QVERIFY(panel.currentColor().has_value());
     }
 
@@ -1703,7 +1703,7 @@ private Q_SLOTS:
         panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
         panel->edit->setFocus();
         if (isOpen) {
-            panel->openPopup();
+            panel->openSelector();
         }
         bool isFirst = true;
         const OnEvent watch(QEvent::FocusOut, panel->edit, [&] {
@@ -1720,7 +1720,7 @@ private Q_SLOTS:
         {
             const FreedMemoryWatch memory;
             if (isOpen) {
-                QTest::keyClick(panel->popup(), Qt::Key_Return);
+                QTest::keyClick(panel->selector(), Qt::Key_Return);
             } else {
                 panel->addButton->click();
             }
@@ -1746,14 +1746,14 @@ private Q_SLOTS:
         QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
     }
 
-    void deletedWhileThePopupIsOpen_data()
+    void deletedWhileTheSelectorIsOpen_data()
     {
         QTest::addColumn<bool>("turn");
         QTest::newRow("at once") << false;
         QTest::newRow("after a turn of the event loop") << true;
     }
 
-    void deletedWhileThePopupIsOpen()
+    void deletedWhileTheSelectorIsOpen()
     {
         QFETCH(bool, turn);
         const int before = QApplication::allWidgets().size();
@@ -1777,7 +1777,7 @@ private Q_SLOTS:
         auto panel = std::make_unique<Panel>();
         panel->show();
         panel->setCurrentColor(QColor(0x12, 0x34, 0x56));
-        panel->openPopup();
+        panel->openSelector();
         panel->pressPlane({40, 40});
         QCOMPARE(QWidget::mouseGrabber(), panel->plane());
         panel.reset();
@@ -1796,7 +1796,7 @@ private Q_SLOTS:
         QTest::mouseClick(panel.pipette, Qt::LeftButton);
         QTest::mouseClick(panel.addButton, Qt::LeftButton);
         QCOMPARE(panel.log(), QStringList());
-        QVERIFY(!panel.popup());
+        QVERIFY(!panel.selector());
         // The host may go on setting colours.
         panel.setCurrentColor(QColor(orange));
         QCOMPARE(panel.log(), QStringList{opaque(orange)});
@@ -1815,10 +1815,10 @@ private Q_SLOTS:
         panel.show();
         QVERIFY(panel.paletteButton(0, 0)->x() > panel.paletteButton(0, 8)->x());
         QVERIFY(panel.queueButton(0)->x() > panel.queueButton(1)->x());
-        panel.openPopup();
+        panel.openSelector();
         const QPoint corner = panel.addButton->mapToGlobal(QPoint(panel.addButton->width(), 0));
-        QCOMPARE(panel.popup()->x(), corner.x());
-        panel.popup()->close();
+        QCOMPARE(panel.selector()->x(), corner.x());
+        panel.selector()->close();
     }
 
 private:

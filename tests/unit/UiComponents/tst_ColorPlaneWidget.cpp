@@ -265,12 +265,12 @@ private Q_SLOTS:
         QTest::addColumn<int>("degrees");
         QTest::addColumn<double>("hue");
         QTest::newRow("-1") << -1 << 0.0;
-        QTest::newRow("least int") << std::numeric_limits<int>::min() << 0.0;
+        QTest::newRow("min int") << std::numeric_limits<int>::min() << 0.0;
         QTest::newRow("1") << 1 << 1 / 360.0;
         QTest::newRow("359") << 359 << 359 / 360.0;
         QTest::newRow("360") << 360 << 1.0;
         QTest::newRow("361") << 361 << 1.0;
-        QTest::newRow("greatest int") << std::numeric_limits<int>::max() << 1.0;
+        QTest::newRow("max int") << std::numeric_limits<int>::max() << 1.0;
     }
 
     void hueIsClamped()

@@ -106,11 +106,11 @@ private Q_SLOTS:
         for (const double limit : {1.0, 0.0, 1e300, Doubles::max(), Doubles::infinity()}) {
             QTest::addRow("-1, to %g", limit) << -1 << 0 << -limit << limit;
             QTest::addRow("-400, to %g", limit) << -400 << 0 << -limit << limit;
-            QTest::addRow("least, to %g", limit) << Ints::min() << 0 << -limit << limit;
+            QTest::addRow("min, to %g", limit) << Ints::min() << 0 << -limit << limit;
             QTest::addRow("10, to %g", limit) << 10 << 10 << -limit << limit;
             QTest::addRow("20, to %g", limit) << 20 << 20 << -limit << limit;
             QTest::addRow("400, to %g", limit) << 400 << 323 << -limit << limit;
-            QTest::addRow("largest, to %g", limit) << Ints::max() << 323 << -limit << limit;
+            QTest::addRow("max, to %g", limit) << Ints::max() << 323 << -limit << limit;
         }
     }
 
@@ -234,8 +234,8 @@ private Q_SLOTS:
         QTest::newRow("negative up") << -0.124 << -0.12;
         QTest::newRow("negative down") << -0.126 << -0.13;
         QTest::newRow("into the range") << 1.004 << 1.0;
-        QTest::newRow("largest") << Doubles::max() << 1.0;
-        QTest::newRow("least") << Doubles::lowest() << -1.0;
+        QTest::newRow("max") << Doubles::max() << 1.0;
+        QTest::newRow("min") << Doubles::lowest() << -1.0;
         QTest::newRow("infinite") << Doubles::infinity() << 1.0;
         QTest::newRow("negative infinite") << -Doubles::infinity() << -1.0;
     }

@@ -271,10 +271,10 @@ private Q_SLOTS:
     void extremeOffsets_data()
     {
         QTest::addColumn<int>("offset");
-        QTest::newRow("least") << std::numeric_limits<int>::min();
+        QTest::newRow("min") << std::numeric_limits<int>::min();
         QTest::newRow("far left") << -10000;
         QTest::newRow("far right") << 10000;
-        QTest::newRow("greatest") << std::numeric_limits<int>::max();
+        QTest::newRow("max") << std::numeric_limits<int>::max();
     }
 
     void extremeOffsets()

@@ -766,7 +766,7 @@ private Q_SLOTS:
         QTest::addColumn<qint64>("bytes");
         QTest::addColumn<QString>("size");
         QTest::newRow("not known") << qint64(-1) << "...";
-        QTest::newRow("least") << std::numeric_limits<qint64>::min() << "...";
+        QTest::newRow("min") << std::numeric_limits<qint64>::min() << "...";
         for (const qint64 bytes : {qint64(0), qint64(1), qint64(1023), qint64(1024), qint64(1536),
                                    qint64(1) << 40, std::numeric_limits<qint64>::max()}) {
             QTest::addRow("%lld", static_cast<long long>(bytes))

@@ -410,9 +410,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("decimals");
         QTest::addColumn<int>("shown");
         QTest::newRow("-1") << -1 << 0;
-        QTest::newRow("least") << std::numeric_limits<int>::min() << 0;
+        QTest::newRow("min") << std::numeric_limits<int>::min() << 0;
         QTest::newRow("400") << 400 << 323;
-        QTest::newRow("largest") << std::numeric_limits<int>::max() << 323;
+        QTest::newRow("max") << std::numeric_limits<int>::max() << 323;
     }
 
     void oddDecimals()

@@ -18,10 +18,10 @@
 constexpr QPoint offscreenFrame(2, 2);
 
 // Of the palette; its buttons are found by these names.
-const char* const AmberName = "#ffc000";
-const char* const GreenName = "#03c705";
-const QColor Amber(0xff, 0xc0, 0x00);
-const QColor Green(0x03, 0xc7, 0x05);
+const char* const amberName = "#ffc000";
+const char* const greenName = "#03c705";
+const QColor amber(0xff, 0xc0, 0x00);
+const QColor green(0x03, 0xc7, 0x05);
 
 using Color = std::optional<QColor>;
 using Orvane::Util::AccessStatus;
@@ -115,8 +115,8 @@ private Q_SLOTS:
     {
         m_button->startPicking();
         QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
-        paletteButton(AmberName)->click();
-        QCOMPARE(m_button->color(), Color(Amber));
+        paletteButton(amberName)->click();
+        QCOMPARE(m_button->color(), Color(amber));
         QCOMPARE(changed.count(), 1);
         QVERIFY(m_button->isPickingInProgress());
         QVERIFY(popup()->isVisible());
@@ -155,9 +155,9 @@ private Q_SLOTS:
             m_button->startPicking();
             QVERIFY(QTest::qWaitForWindowExposed(popup()));
             QCOMPARE(panel()->currentColor(), before);
-            paletteButton(AmberName)->click();
+            paletteButton(amberName)->click();
             const QColor chosen = *m_button->color();
-            QCOMPARE(chosen.name(), QString(AmberName));
+            QCOMPARE(chosen.name(), QString(amberName));
 
             const Color expected = isKept ? Color(chosen) : before;
             QObject scope;
@@ -230,12 +230,12 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isTold");
         QTest::addColumn<Action>("end");
         const Action stop = [this] { m_button->stopPicking(); };
-        QTest::newRow("green") << Color(Green) << true << stop;
+        QTest::newRow("green") << Color(green) << true << stop;
         QTest::newRow("no colour") << Color(QColor()) << true << stop;
         QTest::newRow("several colours") << Color() << true << stop;
-        QTest::newRow("in silence") << Color(Green) << false << stop;
+        QTest::newRow("in silence") << Color(green) << false << stop;
         QTest::newRow("green, Escape")
-            << Color(Green) << true
+            << Color(green) << true
             << Action([this] { QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape); });
     }
 
@@ -245,7 +245,7 @@ private Q_SLOTS:
         QFETCH(bool, isTold);
         QFETCH(Action, end);
         m_button->startPicking();
-        paletteButton(AmberName)->click();
+        paletteButton(amberName)->click();
         QSignalSpy changed(m_picker, &AbstractColorPicker::colorChanged);
         {
             const QSignalBlocker blocker(isTold ? nullptr : m_button);
@@ -265,11 +265,11 @@ private Q_SLOTS:
     {
         m_button->setColor(std::nullopt);
         connect(m_button, &ColorPickerButton::pickingStopped, this, [this] {
-            m_button->setColor(Green);
+            m_button->setColor(green);
             m_button->setColor(std::nullopt);
         });
         m_button->startPicking();
-        paletteButton(AmberName)->click();
+        paletteButton(amberName)->click();
         QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape);
         QTRY_VERIFY(!m_picker->isInProgress());
         QCOMPARE(m_button->color(), Color());
@@ -344,7 +344,7 @@ private Q_SLOTS:
         ColorPickerButton second(m_window.get());
         auto* const picker = new PopupColorPicker;
         second.setPicker(picker);
-        second.setColor(Green);
+        second.setColor(green);
         QVERIFY(!m_picker->panel());
 
         m_button->startPicking();
@@ -355,10 +355,10 @@ private Q_SLOTS:
         QVERIFY(!m_picker->panel());
         second.startPicking();
         QCOMPARE(picker->panel(), shared);
-        QVERIFY(paletteButton(GreenName)->isChecked());
+        QVERIFY(paletteButton(greenName)->isChecked());
         QSignalSpy changed(m_button, &ColorPickerButton::colorChanged);
-        paletteButton(AmberName)->click();
-        QCOMPARE(second.color(), Color(Amber));
+        paletteButton(amberName)->click();
+        QCOMPARE(second.color(), Color(amber));
         QCOMPARE(changed.count(), 0);
         second.stopPicking();
 
@@ -374,12 +374,12 @@ private Q_SLOTS:
         ColorPickerButton second(m_window.get());
         second.setPicker(new PopupColorPicker);
         m_button->startPicking();
-        paletteButton(AmberName)->click();
+        paletteButton(amberName)->click();
         QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
         second.startPicking();
         QCOMPARE(stopped.count(), 1);
         QVERIFY(!m_button->isDown());
-        QCOMPARE(m_button->color(), Color(Amber));
+        QCOMPARE(m_button->color(), Color(amber));
         QVERIFY(popup()->isVisible());
         QCoreApplication::processEvents();
         QVERIFY(second.isPickingInProgress());
@@ -685,10 +685,10 @@ private Q_SLOTS:
         QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
         connect(m_picker, &AbstractColorPicker::colorChanged, this, [this] { m_picker->stop(); });
         connect(m_picker, &AbstractColorPicker::pickingStopped, this, [this] { m_picker->stop(); });
-        paletteButton(AmberName)->click();
+        paletteButton(amberName)->click();
         QCOMPARE(stopped.count(), 1);
         QVERIFY(!popup()->isVisible());
-        QCOMPARE(m_button->color(), Color(Amber));
+        QCOMPARE(m_button->color(), Color(amber));
     }
 
     void deletedInTheMiddle_data()
@@ -717,7 +717,7 @@ private Q_SLOTS:
             QTest::addRow("%s, when Escape brings the colour back", victim) << changed << Action([this] {
                 {
                     const QSignalBlocker blocker(m_picker);
-                    paletteButton(AmberName)->click();
+                    paletteButton(amberName)->click();
                 }
                 QTest::keyPress(popup()->windowHandle(), Qt::Key_Escape);
             }) << remove;
@@ -830,7 +830,7 @@ private Q_SLOTS:
         QFETCH(bool, onlyThePanel);
         m_button->startPicking();
         const QPointer<QWidget> open = popup();
-        paletteButton(AmberName)->click();
+        paletteButton(amberName)->click();
         QSignalSpy stopped(m_button, &ColorPickerButton::pickingStopped);
         if (onlyThePanel) {
             delete panel();
@@ -839,12 +839,12 @@ private Q_SLOTS:
         }
         QTRY_COMPARE(stopped.count(), 1);
         QVERIFY(!open || !open->isVisible());
-        QCOMPARE(m_button->color(), Color(Amber));
+        QCOMPARE(m_button->color(), Color(amber));
         QVERIFY(!m_button->isDown());
 
         m_button->startPicking();
         QVERIFY(popup()->isVisible());
-        QCOMPARE(panel()->currentColor(), Color(Amber));
+        QCOMPARE(panel()->currentColor(), Color(amber));
     }
 
 private:

@@ -35,9 +35,9 @@ private Q_SLOTS:
         const auto [minimum, maximum] = SliderInputWidget::Initializer{-3, 8};
         QCOMPARE(minimum, -3);
         QCOMPARE(maximum, 8);
-        const auto [least, most, decimals] = DoubleSliderInputWidget::Initializer{-0.5, 8.0, 3};
-        QCOMPARE(least, -0.5);
-        QCOMPARE(most, 8.0);
+        const auto [min, max, decimals] = DoubleSliderInputWidget::Initializer{-0.5, 8.0, 3};
+        QCOMPARE(min, -0.5);
+        QCOMPARE(max, 8.0);
         QCOMPARE(decimals, 3);
     }
 
@@ -154,8 +154,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("reported");
         QTest::newRow("one above") << 101 << 100;
         QTest::newRow("one below") << -51 << -50;
-        QTest::newRow("largest") << Limits::max() << 100;
-        QTest::newRow("least") << Limits::min() << -50;
+        QTest::newRow("max") << Limits::max() << 100;
+        QTest::newRow("min") << Limits::min() << -50;
     }
 
     void setValueIsClamped()

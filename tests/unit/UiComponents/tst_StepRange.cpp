@@ -28,8 +28,8 @@ private Q_SLOTS:
         QTest::newRow("9") << 9 << 1e-9;
         QTest::newRow("-2") << -2 << 100.0;
         QTest::newRow("too many") << 400 << 0.0;
-        QTest::newRow("largest") << Steps::max() << 0.0;
-        QTest::newRow("least") << Steps::min() << Doubles::infinity();
+        QTest::newRow("max") << Steps::max() << 0.0;
+        QTest::newRow("min") << Steps::min() << Doubles::infinity();
     }
 
     void step()
@@ -56,20 +56,20 @@ private Q_SLOTS:
         QTest::newRow("negative product a little off") << -0.29 << 2 << -29;
         QTest::newRow("9 decimals") << 1.123456789 << 9 << 1123456789;
         QTest::newRow("negative decimals") << 1250.0 << -2 << 13;
-        QTest::newRow("largest step") << 21474836.47 << 2 << Steps::max();
-        QTest::newRow("least step") << -21474836.48 << 2 << Steps::min();
-        QTest::newRow("beyond the largest step") << 21474836.48 << 2 << Steps::max();
-        QTest::newRow("beyond the least step") << -21474836.49 << 2 << Steps::min();
-        QTest::newRow("largest double") << Doubles::max() << 2 << Steps::max();
-        QTest::newRow("least double") << Doubles::lowest() << 0 << Steps::min();
+        QTest::newRow("max step") << 21474836.47 << 2 << Steps::max();
+        QTest::newRow("min step") << -21474836.48 << 2 << Steps::min();
+        QTest::newRow("beyond the max step") << 21474836.48 << 2 << Steps::max();
+        QTest::newRow("beyond the min step") << -21474836.49 << 2 << Steps::min();
+        QTest::newRow("max double") << Doubles::max() << 2 << Steps::max();
+        QTest::newRow("min double") << Doubles::lowest() << 0 << Steps::min();
         QTest::newRow("smallest double") << Doubles::denorm_min() << 9 << 0;
         QTest::newRow("infinity") << Doubles::infinity() << 2 << Steps::max();
         QTest::newRow("negative infinity") << -Doubles::infinity() << 2 << Steps::min();
         QTest::newRow("NaN") << Doubles::quiet_NaN() << 2 << 0;
         QTest::newRow("0 and infinite power") << 0.0 << 400 << 0;
         QTest::newRow("infinity and power 0") << Doubles::infinity() << -400 << 0;
-        QTest::newRow("largest decimals") << 1.0 << Steps::max() << Steps::max();
-        QTest::newRow("least decimals") << 1.0 << Steps::min() << 0;
+        QTest::newRow("max decimals") << 1.0 << Steps::max() << Steps::max();
+        QTest::newRow("min decimals") << 1.0 << Steps::min() << 0;
     }
 
     void nearestStep()

@@ -84,7 +84,7 @@ QColor colorIn(const QPoint& point)
     return {PatternWidget::colorAt(point)};
 }
 
-const QPoint Spot(37, 21);
+const QPoint spot(37, 21);
 
 enum class Victim { Picker, Target, Window, Button, Other };
 enum class Moment { Timer, PressElsewhere, AfterPressElsewhere };
@@ -103,7 +103,7 @@ private Q_SLOTS:
         // Null is no widget.
         m_picker = new WidgetColorPicker({nullptr, m_stage->button});
         m_picker->setTarget(m_stage->target);
-        PickingStage::moveCursor(m_stage->target, Spot);
+        PickingStage::moveCursor(m_stage->target, spot);
     }
 
     void cleanup()
@@ -166,8 +166,8 @@ private Q_SLOTS:
             QVERIFY(!m_picker->color()->isValid());
             m_stage->release();
         }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
-        QCOMPARE(m_picker->color(), std::optional<QColor>(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
+        QCOMPARE(m_picker->color(), std::optional<QColor>(colorIn(spot)));
         QCOMPARE(m_stage->target->presses, 0);
         QVERIFY(!m_picker->isInProgress());
 
@@ -190,7 +190,7 @@ private Q_SLOTS:
                 stage->press();
             });
         };
-        const QColor spot = colorIn(Spot);
+        const QColor spotColor = colorIn(spot);
         // The outline lies over the outer two pixels.
         for (const QPoint& point : {QPoint(0, 0), QPoint(50, 1), QPoint(2, 2), QPoint(99, 79)}) {
             pressAt(qPrintable(QStringLiteral("pressed at %1, %2").arg(point.x()).arg(point.y())), point,
@@ -201,10 +201,10 @@ private Q_SLOTS:
         pressAt("pressed right of it", {100, 40}, {});
         pressAt("pressed below it", {50, 80}, {});
         for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
-            row(qPrintable(QStringLiteral("mouse button %1").arg(button)), spot,
+            row(qPrintable(QStringLiteral("mouse button %1").arg(button)), spotColor,
                 [button](PickingStage* stage, WidgetColorPicker*) { stage->press(button); });
         }
-        row("stopped, twice", spot, [](PickingStage*, WidgetColorPicker* picker) {
+        row("stopped, twice", spotColor, [](PickingStage*, WidgetColorPicker* picker) {
             picker->stop();
             QVERIFY(!picker->isInProgress());
             picker->stop();
@@ -218,11 +218,12 @@ private Q_SLOTS:
             QTest::keyPress(stage->window->windowHandle(), Qt::Key_Escape);
         });
         // The cursor decides about the colour, not the press.
-        row("another widget pressed below the cursor", spot, [](PickingStage* stage, WidgetColorPicker*) {
-            QTest::mousePress(stage->window->windowHandle(), Qt::LeftButton, {},
-                              stage->other->geometry().center());
-            QVERIFY(stage->other->isDown());
-        });
+        row("another widget pressed below the cursor", spotColor,
+            [](PickingStage* stage, WidgetColorPicker*) {
+                QTest::mousePress(stage->window->windowHandle(), Qt::LeftButton, {},
+                                  stage->other->geometry().center());
+                QVERIFY(stage->other->isDown());
+            });
         row("another widget clicked", {}, [](PickingStage* stage, WidgetColorPicker* picker) {
             stage->pressOn(stage->other);
             QVERIFY(stage->other->isDown());
@@ -233,22 +234,23 @@ private Q_SLOTS:
             picker->setTarget(nullptr);
             QVERIFY(!picker->isInProgress());
         });
-        row("target moved", colorIn(Spot - QPoint(1, 2)), [](PickingStage* stage, WidgetColorPicker*) {
+        row("target moved", colorIn(spot - QPoint(1, 2)), [](PickingStage* stage, WidgetColorPicker*) {
             stage->target->move(11, 12);
             stage->press();
         });
         // A key ends the pick, goes on to the dialog around the target, and closes it.
-        row("window hidden at once", spot, [](PickingStage* stage, WidgetColorPicker* picker) {
+        row("window hidden at once", spotColor, [](PickingStage* stage, WidgetColorPicker* picker) {
             picker->stop();
             stage->window->hide();
         });
         // These do not end it.
-        const auto passing = [row, spot](const char* name, const std::function<void(PickingStage*)>& act) {
-            row(name, spot, [act](PickingStage* stage, WidgetColorPicker* picker) {
+        const auto passing = [row, spotColor](const char* name,
+                                              const std::function<void(PickingStage*)>& act) {
+            row(name, spotColor, [act](PickingStage* stage, WidgetColorPicker* picker) {
                 act(stage);
                 QCoreApplication::processEvents();
                 QVERIFY(picker->isInProgress());
-                PickingStage::moveCursor(stage->target, Spot);
+                PickingStage::moveCursor(stage->target, spot);
                 picker->stop();
                 QVERIFY(!picker->isInProgress());
             });
@@ -335,7 +337,7 @@ private Q_SLOTS:
             QCoreApplication::sendEvent(window, &move);
             QTest::keyPress(window, Qt::Key_Escape);
         }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void pressOnAConstructorWidgetIsSwallowed()
@@ -448,12 +450,12 @@ private Q_SLOTS:
             QVERIFY(!m_picker->isInProgress());
         }));
         QCOMPARE(keys.seen, int(key));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void idlePickerFiltersNothing()
     {
-        QMouseEvent press(QEvent::MouseButtonPress, Spot, m_stage->target->mapToGlobal(Spot), Qt::LeftButton,
+        QMouseEvent press(QEvent::MouseButtonPress, spot, m_stage->target->mapToGlobal(spot), Qt::LeftButton,
                           Qt::LeftButton, Qt::NoModifier);
         QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
         QVERIFY(!m_picker->eventFilter(m_stage->target, &press));
@@ -472,7 +474,7 @@ private Q_SLOTS:
             QCOMPARE(m_stage->target->findChildren<QWidget*>(QStringLiteral("highlightFrame")).size(), 1);
             m_stage->press();
         }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void lastWindowClosedEndsThePick()
@@ -489,7 +491,7 @@ private Q_SLOTS:
         QCoreApplication::exec();
         QGuiApplication::setQuitOnLastWindowClosed(true);
         // The cursor decides, as for any other end.
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void quittingEndsThePick()
@@ -512,7 +514,7 @@ private Q_SLOTS:
 
         // It is as good as new.
         QVERIFY(pickWith([this] { m_stage->press(); }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     // The last window that closes ends the pick, and then posts what makes the application quit.
@@ -525,7 +527,7 @@ private Q_SLOTS:
         tool.show();
         QVERIFY(QTest::qWaitForWindowExposed(&tool));
         m_picker->setTarget(&target);
-        PickingStage::moveCursor(&target, Spot);
+        PickingStage::moveCursor(&target, spot);
         const Protocol protocol(m_picker);
         QTimer::singleShot(0, this, [this] {
             QVERIFY(pickWith([this] {
@@ -542,7 +544,7 @@ private Q_SLOTS:
         watchdog.start(5000);
         QCoreApplication::exec();
         QVERIFY(!isRescued);
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void cursorOfTheStylingObject()
@@ -615,7 +617,7 @@ private Q_SLOTS:
                         },
                         [] { QCoreApplication::exit(); }));
         m_picker->setStylingObject(nullptr);
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
         QVERIFY(!m_stage->outline());
         QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
         m_stage->press();
@@ -711,7 +713,7 @@ private Q_SLOTS:
             m_stage->press();
         }));
         m_picker->setStylingObject(nullptr);
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void overrideCursorOfTheHostStays()
@@ -755,12 +757,12 @@ private Q_SLOTS:
             m_stage->target->setParent(&second);
             m_stage->target->show();
             QVERIFY(QTest::qWaitForWindowExposed(&second));
-            PickingStage::moveCursor(m_stage->target, Spot);
+            PickingStage::moveCursor(m_stage->target, spot);
             QTest::mousePress(second.windowHandle(), Qt::LeftButton, {},
                               second.mapFromGlobal(QCursor::pos()));
         }));
         QCOMPARE(m_stage->target->presses, 0);
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void targetThatDiedIsNull()
@@ -843,7 +845,7 @@ private Q_SLOTS:
                 break;
             }
         }));
-        QCOMPARE(protocol.lines, endsThePick ? QStringList() : picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, endsThePick ? QStringList() : picked(colorIn(spot)));
         QVERIFY(!m_stage->outline());
         if (m_stage->target) {
             QCOMPARE(m_stage->target->cursor().shape(), Qt::ArrowCursor);
@@ -954,7 +956,7 @@ private Q_SLOTS:
         connect(m_picker.data(), &AbstractColorPicker::pickingStopped, m_picker.data(),
                 &AbstractColorPicker::stop);
         QVERIFY(pickWith([this] { m_stage->press(); }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     void pickInASlot()
@@ -963,7 +965,7 @@ private Q_SLOTS:
         QSignalSpy changed(m_picker.data(), &AbstractColorPicker::colorChanged);
         QSignalSpy stopped(m_picker.data(), &AbstractColorPicker::pickingStopped);
         connect(m_picker.data(), &AbstractColorPicker::colorChanged, this, [this, second] {
-            if (m_stage->target->mapFromGlobal(QCursor::pos()) == Spot) {
+            if (m_stage->target->mapFromGlobal(QCursor::pos()) == spot) {
                 PickingStage::moveCursor(m_stage->target, second);
                 QVERIFY(pickWith([this] { m_stage->press(); }));
             }
@@ -973,7 +975,7 @@ private Q_SLOTS:
             m_stage->release();
         }));
         QCOMPARE(changed.size(), 2);
-        QCOMPARE(changed.at(0).front().value<std::optional<QColor>>(), std::optional<QColor>(colorIn(Spot)));
+        QCOMPARE(changed.at(0).front().value<std::optional<QColor>>(), std::optional<QColor>(colorIn(spot)));
         QCOMPARE(changed.at(1).front().value<std::optional<QColor>>(),
                  std::optional<QColor>(colorIn(second)));
         QCOMPARE(stopped.size(), 2);
@@ -990,14 +992,14 @@ private Q_SLOTS:
             ++begun;
             QVERIFY(pickWith([this] {
                 QVERIFY(m_picker->isInProgress());
-                PickingStage::moveCursor(m_stage->target, Spot);
+                PickingStage::moveCursor(m_stage->target, spot);
                 m_stage->press();
             }));
-            QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+            QCOMPARE(protocol.lines, picked(colorIn(spot)));
         });
         QVERIFY(pickWith([this] { m_stage->pressOn(m_stage->other); }));
         QCOMPARE(begun, 1);
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)) + picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)) + picked(colorIn(spot)));
         QVERIFY(!m_stage->outline());
         QVERIFY(!m_picker->isInProgress());
     }
@@ -1025,7 +1027,7 @@ private Q_SLOTS:
         connect(
             &second, &ColorPickerButton::pickingStarted, this,
             [this] {
-                PickingStage::moveCursor(m_stage->target, Spot);
+                PickingStage::moveCursor(m_stage->target, spot);
                 m_stage->press();
             },
             Qt::QueuedConnection);
@@ -1035,7 +1037,7 @@ private Q_SLOTS:
                             first.stopPicking();
                         }));
         for (const ColorPickerButton* field : {&first, &second}) {
-            QCOMPARE(field->color(), std::optional<QColor>(colorIn(Spot)));
+            QCOMPARE(field->color(), std::optional<QColor>(colorIn(spot)));
             QVERIFY(!field->isDown());
             QVERIFY(!field->isPickingInProgress());
         }
@@ -1056,10 +1058,10 @@ private Q_SLOTS:
         unseen.setGeometry(QRect(place, QSize(100, 100)));
         unseen.show();
         m_picker->setTarget(&unseen);
-        PickingStage::moveCursor(&unseen, Spot);
+        PickingStage::moveCursor(&unseen, spot);
         const Protocol protocol(m_picker);
         QVERIFY(pickWith([this] { m_picker->stop(); }));
-        QCOMPARE(protocol.lines, picked(colorIn(Spot)));
+        QCOMPARE(protocol.lines, picked(colorIn(spot)));
     }
 
     // Closing the window ends the pick of a button in it, while Qt goes through the children of the target.
@@ -1117,9 +1119,9 @@ private Q_SLOTS:
         QVERIFY(!field->isPickingInProgress());
         QCOMPARE(field->color(), std::optional<QColor>());
 
-        PickingStage::moveCursor(m_stage->target, Spot);
+        PickingStage::moveCursor(m_stage->target, spot);
         QVERIFY(clickWith([&] { m_stage->press(); }));
-        QCOMPARE(field->color(), std::optional<QColor>(colorIn(Spot)));
+        QCOMPARE(field->color(), std::optional<QColor>(colorIn(spot)));
         QCOMPARE(changed.size(), 1);
         QCOMPARE(stopped.size(), 1);
         QVERIFY(!field->isDown());
@@ -1173,7 +1175,7 @@ private Q_SLOTS:
         QVERIFY(field.isDown());
 
         // The next one is a click as any other.
-        PickingStage::moveCursor(m_stage->target, Spot);
+        PickingStage::moveCursor(m_stage->target, spot);
         QVERIFY(runWith(
             click,
             [&] {
@@ -1183,7 +1185,7 @@ private Q_SLOTS:
             },
             [&] { field.stopPicking(); }));
         QCOMPARE(started.size(), 2);
-        QCOMPARE(field.color(), std::optional<QColor>(colorIn(Spot)));
+        QCOMPARE(field.color(), std::optional<QColor>(colorIn(spot)));
         QVERIFY(!field.isDown());
     }
 

@@ -26,7 +26,7 @@ struct Pair
 {
     const char* upper;
     const char* lower;
-    double least;
+    double min;
 };
 
 /// Of a full sheet and that of the components alone.
@@ -369,7 +369,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("style");
         QTest::addColumn<QString>("upper");
         QTest::addColumn<QString>("lower");
-        QTest::addColumn<double>("least");
+        QTest::addColumn<double>("min");
 
         // Texts, then marks that carry a meaning, then what is switched off and only must be seen.
         constexpr Pair pairs[] = {
@@ -431,7 +431,7 @@ private Q_SLOTS:
             for (const Pair& pair : pairs) {
                 QTest::addRow("%s: %s on %s", qPrintable(style), pair.upper, pair.lower)
                     << style << QString::fromLatin1(pair.upper) << QString::fromLatin1(pair.lower)
-                    << pair.least;
+                    << pair.min;
             }
         }
     }
@@ -441,11 +441,11 @@ private Q_SLOTS:
         QFETCH(QString, style);
         QFETCH(QString, upper);
         QFETCH(QString, lower);
-        QFETCH(double, least);
+        QFETCH(double, min);
         const QHash<QString, QColor> colors = paletteOf(style);
         QVERIFY(colors.contains(upper) && colors.contains(lower));
         const double actual = contrast(colors.value(upper), colors.value(lower));
-        QVERIFY2(actual >= least, qPrintable(QString::number(actual)));
+        QVERIFY2(actual >= min, qPrintable(QString::number(actual)));
     }
 
     void variantsOfHostsAreLegible_data()
@@ -479,7 +479,7 @@ private Q_SLOTS:
         for (const Pair& pair : pairs) {
             const double actual = contrast(colors.color(QString::fromLatin1(pair.upper)),
                                            colors.color(QString::fromLatin1(pair.lower)));
-            QVERIFY2(actual >= pair.least,
+            QVERIFY2(actual >= pair.min,
                      qPrintable(QStringLiteral("%1 on %2: %3")
                                     .arg(QLatin1String(pair.upper), QLatin1String(pair.lower))
                                     .arg(actual)));
@@ -721,7 +721,7 @@ private Q_SLOTS:
         QCOMPARE(stage.picture(), before);
     }
 
-    void sliderIsFilledFromItsLeastValue_data()
+    void sliderIsFilledFromItsMinimum_data()
     {
         QTest::addColumn<Qt::Orientation>("orientation");
         QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -737,7 +737,7 @@ private Q_SLOTS:
         QTest::newRow("upright, inverted") << Qt::Vertical << Qt::LeftToRight << true << true;
     }
 
-    void sliderIsFilledFromItsLeastValue()
+    void sliderIsFilledFromItsMinimum()
     {
         QFETCH(Qt::Orientation, orientation);
         QFETCH(Qt::LayoutDirection, direction);

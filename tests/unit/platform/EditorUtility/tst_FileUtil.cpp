@@ -83,7 +83,7 @@ private Q_SLOTS:
         QTest::newRow("pipe") << QStringLiteral("pipe") << false;
         QTest::newRow("NUL") << QStringLiteral("folder") + QChar(QChar::Null) << false;
         QTest::newRow("half a surrogate pair") << QStringLiteral("a") + QChar(0xdc00) << false;
-        QTest::newRow("longest name") << QString(255, QLatin1Char('x')) << true;
+        QTest::newRow("name of max length") << QString(255, QLatin1Char('x')) << true;
         QTest::newRow("name too long") << QString(256, QLatin1Char('x')) << false;
         QTest::newRow("path too long") << QStringLiteral("x/").repeated(2048) << false;
     }

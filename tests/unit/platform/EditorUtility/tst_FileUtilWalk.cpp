@@ -40,14 +40,14 @@ private Q_SLOTS:
         QTest::newRow("NUL") << QString(QChar(QChar::Null)) << Form::NotStorable;
         QTest::newRow("NUL at the end") << QStringLiteral("/a") + QChar(QChar::Null) << Form::NotStorable;
         QTest::newRow("half a surrogate pair") << QStringLiteral("/a") + QChar(0xd800) << Form::NotStorable;
-        QTest::newRow("longest name") << QString(255, QLatin1Char('x')) << Form::Good;
+        QTest::newRow("name of max length") << QString(255, QLatin1Char('x')) << Form::Good;
         QTest::newRow("name too long") << QString(256, QLatin1Char('x')) << Form::NameTooLong;
         QTest::newRow("name inside too long")
             << QStringLiteral("/a/") + QString(256, QLatin1Char('x')) + QStringLiteral("/b")
             << Form::NameTooLong;
-        QTest::newRow("longest name in bytes") << twoByteLetter.repeated(127) << Form::Good;
+        QTest::newRow("name of max length in bytes") << twoByteLetter.repeated(127) << Form::Good;
         QTest::newRow("name too long in bytes") << twoByteLetter.repeated(128) << Form::NameTooLong;
-        QTest::newRow("longest path") << names(4095) << Form::Good;
+        QTest::newRow("path of max length") << names(4095) << Form::Good;
         QTest::newRow("path too long") << names(4096) << Form::PathTooLong;
         QTest::newRow("path too long in bytes")
             << (QStringLiteral("/") + twoByteLetter.repeated(127)).repeated(17) << Form::PathTooLong;

@@ -1067,7 +1067,7 @@ private Q_SLOTS:
     void propertiesNormalise_data()
     {
         QTest::addColumn<QByteArray>("property");
-        QTest::addColumn<int>("most");
+        QTest::addColumn<int>("max");
         QTest::newRow("border width") << QByteArray("borderWidth") << 100;
         QTest::newRow("radius") << QByteArray("radius") << 1000;
         QTest::newRow("arrow width") << QByteArray("arrowWidth") << 1000;
@@ -1077,11 +1077,11 @@ private Q_SLOTS:
     void propertiesNormalise()
     {
         QFETCH(const QByteArray, property);
-        QFETCH(const int, most);
+        QFETCH(const int, max);
         ShownBubble bubble;
-        for (const int value : {-1, 0, 1, 5, most, most + 1, INT_MAX, INT_MIN}) {
+        for (const int value : {-1, 0, 1, 5, max, max + 1, INT_MAX, INT_MIN}) {
             bubble.setProperty(property, value);
-            QCOMPARE(bubble.property(property).toInt(), qBound(0, value, most));
+            QCOMPARE(bubble.property(property).toInt(), qBound(0, value, max));
             QCoreApplication::sendPostedEvents();
             bubble.grab();
         }

@@ -274,14 +274,14 @@ private Q_SLOTS:
 
     void extremeNumbers()
     {
-        const int most = std::numeric_limits<int>::max();
-        const int least = std::numeric_limits<int>::min();
+        const int max = std::numeric_limits<int>::max();
+        const int min = std::numeric_limits<int>::min();
         for (const ArrowSide side : allSides) {
-            for (const QPoint& target : {QPoint(most, most), QPoint(least, least), QPoint(least, most)}) {
+            for (const QPoint& target : {QPoint(max, max), QPoint(min, min), QPoint(min, max)}) {
                 BubbleRequest bubble = request();
                 bubble.side = side;
                 bubble.target = target;
-                bubble.offset = most;
+                bubble.offset = max;
                 QVERIFY(bubble.area.contains(placeBubble(bubble).geometry));
             }
         }

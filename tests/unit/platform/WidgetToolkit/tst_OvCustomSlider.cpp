@@ -301,7 +301,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("minimum");
         QTest::addColumn<int>("maximum");
         QTest::addColumn<int>("interval");
-        QTest::addColumn<int>("mostTicks");
+        QTest::addColumn<int>("maxTicks");
         QTest::newRow("by hand") << 0 << 100 << 25 << 4;
         QTest::newRow("one a pixel") << 0 << 300 << 1 << 300;
         QTest::newRow("millions") << 0 << 100000000 << 1 << 300;
@@ -317,7 +317,7 @@ private Q_SLOTS:
         QFETCH(int, minimum);
         QFETCH(int, maximum);
         QFETCH(int, interval);
-        QFETCH(int, mostTicks);
+        QFETCH(int, maxTicks);
         NotingStyle style;
         Slider slider(Qt::Horizontal);
         slider.setStyle(&style);
@@ -331,8 +331,8 @@ private Q_SLOTS:
             option.tickInterval > 0 ? option.tickInterval : qMax(option.singleStep, option.pageStep);
         QVERIFY(distance > 0);
         const qint64 ticks = (qint64(option.maximum) - option.minimum) / distance;
-        QVERIFY2(ticks <= mostTicks + 1, qPrintable(QString::number(ticks)));
-        QVERIFY(ticks >= mostTicks - 1);
+        QVERIFY2(ticks <= maxTicks + 1, qPrintable(QString::number(ticks)));
+        QVERIFY(ticks >= maxTicks - 1);
         // Where a style stops counting.
         QVERIFY(option.minimum + (ticks + 1) * distance < std::numeric_limits<int>::max());
         QVERIFY(option.maximum + distance < std::numeric_limits<int>::max());

@@ -488,16 +488,16 @@ private Q_SLOTS:
         const QColor color = widget.movie()->currentImage().pixelColor(1, 1);
         widget.resize(50, 50);
         QImage image = picture(widget);
-        const auto mostMemory = [] {
+        const auto maxMemory = [] {
             rusage usage = {};
             getrusage(RUSAGE_SELF, &usage);
             return usage.ru_maxrss;
         };
-        const long before = mostMemory();
+        const long before = maxMemory();
         // A picture of that size takes 512 MB.
         widget.resize(16000, 16000);
         widget.render(&image, QPoint(), QRegion(7975, 7975, 50, 50), QWidget::DrawChildren);
-        QVERIFY2(mostMemory() - before < 100 * 1024, qPrintable(QString::number(mostMemory() - before)));
+        QVERIFY2(maxMemory() - before < 100 * 1024, qPrintable(QString::number(maxMemory() - before)));
         QCOMPARE(image.pixelColor(25, 25), color);
     }
 
