@@ -28,8 +28,8 @@
  * follows the viewport's: do not set a gridSize() without a width, or QListView, which goes from cell to cell
  * of it, never comes to the end of a row.
  *
- * **Readers** find a list, as any other of Qt: with its accessible name, since Qt asks no label for it, and
- * its rows. The keys are those of any list.
+ * **Readers.** They find a list, as any other of Qt: with its accessible name, since Qt asks no label for it,
+ * and its rows. The keys are those of any list.
  *
  * **Style sheet.** Qt's meta-object knows no class of this name: a sheet selects it as `QListView`, or by an
  * object name. A `min-height` of the sheet is overwritten.

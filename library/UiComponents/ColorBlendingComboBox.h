@@ -24,7 +24,7 @@
  * **Events.** Change events do not reach QComboBox. Set font and style sheet before the box is laid out,
  * because its size hint stays; a box that is disabled while its pop-up is open keeps it open.
  *
- * **Readers** find a combo box with the name of the mode as its value; keys are those of any combo box.
+ * **Readers.** They find a combo box with the name of the mode as its value; keys are those of any combo box.
  *
  * **Style sheet.** As an OvComboBox in the look of the design system: `OvComboBox[tessel="true"]`,
  * `[popupVisible="true"]`, the list `#tesselComboBoxView`, or alone as `ColorBlendingComboBox`.

@@ -20,7 +20,7 @@ class AbstractColorPicker;
  * Interaction and colours are those of ColorPickerButton. The button is the focus proxy: a label whose buddy
  * is the field gives it the focus, and Tab stops there once.
  *
- * **Readers** find a group with the button in it, both of the field's name. The button's value is the
+ * **Readers.** They find a group with the button in it, both of the field's name. The button's value is the
  * colour in words, and Space picks (see ColorPickerButton).
  *
  * **Style sheet.** The button's object name is "colorPicker"; the frame's metrics are OvFrame's properties:

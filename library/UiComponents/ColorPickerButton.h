@@ -26,8 +26,8 @@ class AbstractColorPicker;
  * picker that ends without a signal leaves the button pressed until one reports its end, or until Escape or
  * the loss of the focus releases it, as any button with focus.
  *
- * **Readers** find a button with the name of its label, its accessible name or its tool tip. Its value and,
- * on X11 and Wayland, its description is the colour in words, and each change is announced. Space picks.
+ * **Readers.** They find a button with the name of its label, its accessible name or its tool tip. Its value
+ * and, on X11 and Wayland, its description is the colour in words, and each change is announced. Space picks.
  *
  * **Style sheet.** The face is a child QWidget named "color". The button writes its background, opaque
  * whatever the alpha, and at opacity 0.4 while disabled; size, border and the look of the two states without

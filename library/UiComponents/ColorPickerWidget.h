@@ -34,10 +34,10 @@
  * the properties "nullColor" and "multiColor" (bool), the no-colour button "nullColor". The selector is a
  * QDialog with the property "roundedEdges" (see Workaround::Ui::apply()).
  *
- * **Readers** find a group of the panel's name. In it, "Current colour" is a picture with the colour in words
- * as its value, announced when it changes; "Colour value" is the edit; "Palette" and "Own colours" are groups
- * of radio buttons, which are called by their colours, as their tool tips are; the opacity is a slider and a
- * spin box. Tab goes from group to group. The pipette needs a mouse; the edit takes every colour.
+ * **Readers.** They find a group of the panel's name. In it, "Current colour" is a picture with the colour in
+ * words as its value, announced when it changes; "Colour value" is the edit; "Palette" and "Own colours" are
+ * groups of radio buttons, which are called by their colours, as their tool tips are; the opacity is a slider
+ * and a spin box. Tab goes from group to group. The pipette needs a mouse; the edit takes every colour.
  * @see PopupColorPicker, ColorPickerButton, Pipette, Settings::userCustomColors(), Util::appendCustomColor()
  */
 class UICOMPONENTS_EXPORT ColorPickerWidget : public OvFrame

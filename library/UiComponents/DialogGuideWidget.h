@@ -25,8 +25,8 @@
  * screen: a word or image in a text takes at most half of the screen's width, a button a quarter, with an
  * ellipsis in its text.
  *
- * **Readers** announce a dialog with title and description when it appears; in it are the buttons and the
- * picture, as in GuideWidget. enter() leads in by keyboard.
+ * **Readers.** They announce a dialog with title and description when it appears; in it are the buttons and
+ * the picture, as in GuideWidget. enter() leads in by keyboard.
  *
  * **Style sheet.** In "contentFrame" are "headerFrame" with "headerLabel" and "closeButton",
  * "descriptionFrame" with "gifPixmapWidget" and "descriptionLabel", and "buttonsFrame" with "secondaryButton"

@@ -19,12 +19,12 @@ class QWidget;
  *     connect(session, &EditSession::committed, this, &Editor::addUndoStep);
  *     connect(session, &EditSession::cancelled, this, &Editor::bringOldValuesBack);
  *
- * **One session** lasts from the first change to the end of what makes it: a drag, a held button or a held
- * key is let go; a text gets Enter, or loses the focus for anything but a pop-up; after turns of the wheel
- * the cursor leaves the part, or it loses the focus or gets another input; a pick stops. A change that none
- * of these makes is a session of its own: an item of a combo box, a click on a field's button, a reader, and
- * a host that sets the field without Refresh or setValue(). Signals are emitted synchronously, in the call
- * that changes the field.
+ * **One session.** It lasts from the first change to the end of what makes it: a drag, a held button or a
+ * held key is let go; a text gets Enter, or loses the focus for anything but a pop-up; after turns of the
+ * wheel the cursor leaves the part, or it loses the focus or gets another input; a pick stops. A change that
+ * none of these makes is a session of its own: an item of a combo box, a click on a field's button, a reader,
+ * and a host that sets the field without Refresh or setValue(). Signals are emitted synchronously, in the
+ * call that changes the field.
  *
  * Escape cancels a session and is filtered out then, except in a pick, which is its picker's. One that ends
  * where it began is cancelled too, unless the field showed several values, or is a WidgetColorPickerButton,

@@ -24,7 +24,7 @@
  * a click elsewhere and when the button hides; the focus is then where it was before. A closed pop-up lives
  * on until the next click or the end of the button.
  *
- * **Readers** find a button with its accessible name or tool tip, and below it, while that is open, the
+ * **Readers.** They find a button with its accessible name or tool tip, and below it, while that is open, the
  * pop-up: a dialog with the guide's title as its name and the text as its description. Space opens it.
  *
  * On X11 a click on the button while its pop-up is open only closes it, since the press belongs to the

@@ -22,8 +22,8 @@
  *
  *     qApp->setProperty("firstPictureOnly", true);           // takes effect when a guide is next shown
  *
- * **Readers** find a group of the guide's texts and of the picture, which says whether it plays and what
- * Space does.
+ * **Readers.** They find a group of the guide's texts and of the picture, which says whether it plays and
+ * what Space does.
  *
  * **Size.** Heading and description get room for all their lines at the polished guide's width when its info
  * is set. Set the width first, in the style sheet or by code; a guide that becomes wider later keeps the

@@ -25,9 +25,9 @@ class QUrl;
  * is typed stays as typed until the focus leaves. The reset button shows only with a default path, and is
  * disabled while the path is shown by its text.
  *
- * **Readers** find a group of the line edit, which has the field's name and the path as its value, and of the
- * two buttons. Tab goes from one to the next. While the field is marked, the line edit is invalid and has the
- * message as its description.
+ * **Readers.** They find a group of the line edit, which has the field's name and the path as its value, and
+ * of the two buttons. Tab goes from one to the next. While the field is marked, the line edit is invalid and
+ * has the message as its description.
  *
  * **Style sheet.** "spaceInfoFrame" (OvFrame) holds "requiredLabel" and "availableLabel";
  * "pathSelectionFrame" (OvFrame) holds "pathLineEdit" (Orvane::Tessel::TesselLineEdit, property "kitVersion",

@@ -19,15 +19,15 @@
  * A key gives up; so does anything else that ends the pick: another application or virtual desktop comes to
  * the front, the screens change, one of the windows is closed, the application quits.
  *
- * The colour is opaque and that of the pixel without the pipette's windows: a black of alpha 1 of 255 is
- * taken out again, below which 127 and 128 are one; where none lies over it, as on a window that stays above
- * all others, a 255 becomes 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's). What may show the
- * pipette's own painting, which is everything in the first second and then the last second's places of the
- * loupe, is as it could last be seen. Without a compositor the screens stand still meanwhile.
+ * The colour is opaque, and the pixel's without the pipette's windows: a black of alpha 1 of 255 is taken
+ * out, below which 127 and 128 are one; where there is none, as on a window above all others, 255 becomes
+ * 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's). What may show the pipette, all in the first
+ * second and then the loupe's places of the last one, is as last seen. Without a compositor all stands still.
  *
  * Where no program may read the screen, as on Wayland, the desktop's portal or a host's own ScreenColorSource
  * picks instead, with the same signals. Xwayland shows nothing of other applications: run on Wayland itself.
- * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
+ *
+ * **Without a mouse.** Nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too.
  *
  * **Style sheet.** It gives the loupe its size, its rim, which is painted over the picture, and what is seen
  * beyond the desktop's edge; the cursor's hot spot is a point of the scaled picture:

@@ -22,8 +22,8 @@
  * **Input.** The left button takes the point under it and grabs the mouse: a drag may leave the plane and the
  * window, while the point stays on the edge. Hiding or disabling the plane ends the grab without a report.
  *
- * **Readers** find a group of two sliders, x and y, in the host's units, which they may set while the plane
- * is enabled; the keys are those of the plane. A step is announced once, and a drag when it is over.
+ * **Readers.** They find a group of two sliders, x and y, in the host's units, which they may set while the
+ * plane is enabled; the keys are those of the plane. A step is announced once, and a drag when it is over.
  *
  * **Painting.** A flat background, two fixed axes through the middle, a round marker at the point, and, for
  * users who come by keyboard, the edge of the style's focus rectangle. Size and frame are the sheet's;

@@ -24,8 +24,8 @@
  * Tab stops at the plane, at x and at y; a label whose buddy is the field gives the focus to the plane. From
  * right to left the plane stands on the right, and is not mirrored itself.
  *
- * **Readers** find a group of two spin boxes, "name, x" and "name, y", and of the plane, whose two sliders
- * are called the same, with the keys of PointSelectionPlane.
+ * **Readers.** They find a group of two spin boxes, "name, x" and "name, y", and of the plane, whose two
+ * sliders are called the same, with the keys of PointSelectionPlane.
  *
  * **Style sheet.** The object names are "pointSelectorFrame" with "pointSelector", and "spinBoxFrame" with
  * "xSpinboxFrame" ("xLabel", "xSpinbox") and "ySpinboxFrame" ("yLabel", "ySpinbox"). The labels have no text:

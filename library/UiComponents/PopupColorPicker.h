@@ -27,8 +27,8 @@ class ColorPickerWidget;
  *
  * Fields of one window whose pickers have equal options share one panel.
  *
- * **Readers** find the pop-up below its field: a dialog of the same name, with the colour as its description
- * and the panel in it.
+ * **Readers.** They find the pop-up below its field: a dialog of the same name, with the colour as its
+ * description and the panel in it.
  *
  * **Style sheet.** The pop-up is an OvFrame, "colorPanelPopup", with the property "roundedEdges" (see
  * Workaround::Ui::apply()): `#colorPanelPopup { qproperty-layoutMargin: 12; }`.

@@ -33,9 +33,9 @@ class QuickContent;
  * items with `activeFocusOnTab`. Escape rejects the dialog unless the scene accepts the key. Enter does
  * nothing unless the scene handles it.
  *
- * **Readers** find the scene's items below the dialog, as far as the scene describes them by the attached
- * properties of Accessible, and call the dialog by the name of its root item, unless it has a window title.
- * Keys are the scene's; Escape rejects.
+ * **Readers.** They find the scene's items below the dialog, as far as the scene describes them by the
+ * attached properties of Accessible, and call the dialog by the name of its root item, unless it has a window
+ * title. Keys are the scene's; Escape rejects.
  *
  * **Lifetime.** The scene is loaded once, by the first exec(), and keeps its state. During exec() the dialog
  * (on the heap, as with every QDialog), its parent and the scene's container may be deleted. Handlers of the

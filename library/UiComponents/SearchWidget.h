@@ -32,8 +32,8 @@
  *     SearchWidget[focusHint="true"] { border: 1px solid blue; }
  *     SearchWidget > #searchIcon[hovered="true"] { image: url(:/search-hovered.png); }
  *
- * **Readers** find a group of an edit for searches, with the name of the field or the placeholder and with
- * the text as its value, and the button. Tab goes from one to the other, Enter ends the edit.
+ * **Readers.** They find a group of an edit for searches, with the name of the field or the placeholder and
+ * with the text as its value, and the button. Tab goes from one to the other, Enter ends the edit.
  *
  * **Lifetime.** Slots of both signals delete the field with deleteLater(), since QLineEdit is still in
  * use after the signal. A field that is destroyed, or whose window is, reports nothing.

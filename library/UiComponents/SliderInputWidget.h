@@ -22,9 +22,9 @@
  * Tab stops at the slider, then at the spin box; a label whose buddy is the field gives the focus to the
  * slider.
  *
- * **Readers** find a group of a slider with the name of the field and a spin box called "name, number", both
- * in the field's units, which they may set while the field is enabled. A drag is announced when it is over.
- * Arrows, Page Up and Page Down, Home and End work on the slider.
+ * **Readers.** They find a group of a slider with the name of the field and a spin box called "name, number",
+ * both in the field's units, which they may set while the field is enabled. A drag is announced when it is
+ * over. Arrows, Page Up and Page Down, Home and End work on the slider.
  *
  * **Style sheet.** The object names are "slider" and "spinbox"; the frame's metrics are OvFrame's properties:
  * `SliderInputWidget { qproperty-layoutSpacing: 8; }`.

@@ -32,7 +32,7 @@ class WidgetColorPickerStylingObject;
  * (as plain Wayland; Xwayland may give a black one). A mouse event tells the pixel, also where the screen has
  * several for a point; a key before the first one takes that of the whole point next to the cursor.
  *
- * **Without a mouse** nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
+ * **Without a mouse.** Nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
  * edit takes every colour by its digits, and whose selector's plane takes keys.
  * @see WidgetColorPickerButton, WidgetColorPickerStylingObject, Orvane::Gui::HighlightFrame, Pipette
  */

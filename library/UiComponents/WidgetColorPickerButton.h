@@ -32,8 +32,8 @@ class WidgetColorPickerStylingObject;
  *
  * Off, it is a QToolButton as any other, and no colour changes its sheet, its property or its face.
  *
- * **Readers** find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and any key
- * ends it: offer a colour field with a PopupColorPicker too, for the keyboard.
+ * **Readers.** They find a button with its colour in words, as ColorPickerButton. A pick needs a mouse, and
+ * any key ends it: offer a colour field with a PopupColorPicker too, for the keyboard.
  * @see WidgetColorPicker, PopupColorPicker, ColorPickerButton
  */
 class UICOMPONENTS_EXPORT WidgetColorPickerButton : public ClickButton

@@ -22,7 +22,7 @@
  * Click, wheel, style sheet and lifetime are as in OvCustomSlider. Slots of the signals added here may always
  * delete the slider, except in setRange(), setMinimum() and setMaximum().
  *
- * **Readers** find a slider with its value in units, which they may set while it is enabled.
+ * **Readers.** They find a slider with its value in units, which they may set while it is enabled.
  * @see Util::bindWidgets(), OvDoubleSpinBox
  */
 class WIDGETTOOLKIT_EXPORT OvDoubleSlider : public OvCustomSlider
