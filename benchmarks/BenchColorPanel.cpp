@@ -31,7 +31,7 @@
 
 using namespace Bench;
 
-// The macro works in the global namespace only.
+/// The macro works in the global namespace only.
 static void initStyles()
 {
     Q_INIT_RESOURCE(styles);

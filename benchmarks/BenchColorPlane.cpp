@@ -16,7 +16,7 @@ using namespace Bench;
 
 namespace {
 
-// Each rendering takes another of the whole hues, whose planes do not all cost the same.
+/// Each rendering takes another of the whole hues, whose planes do not all cost the same.
 class Hues
 {
 public:
@@ -48,7 +48,7 @@ std::shared_ptr<QImage> square(int size)
     return image;
 }
 
-// The image as the widget makes it.
+/// The image as the widget makes it.
 std::shared_ptr<QImage> planeImage(int size)
 {
     auto image = std::make_shared<QImage>(ColorPlaneImage::makeImage({size, size}));
@@ -124,7 +124,7 @@ Pair baseline()
     return againstPlainLoop(size, ColorPlaneImage::Path::Sse2);
 }
 
-// A processor without a path has no row of it.
+/// A processor without a path has no row of it.
 bool addRowOf(ColorPlaneImage::Path path, const char* name, Goal goal, Pair (*make)())
 {
     return ColorPlaneImage::isSupported(path) && addRow(name, goal, make);

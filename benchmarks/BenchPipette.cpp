@@ -29,7 +29,7 @@
 
 using namespace Bench;
 
-// The macro works in the global namespace only.
+/// The macro works in the global namespace only.
 static void initStyles()
 {
     Q_INIT_RESOURCE(styles);
@@ -50,7 +50,7 @@ struct Place
     QString name = QColor(color).name();
 };
 
-// Far enough from each other that no loupe is in the other's picture: the pipette never waits.
+/// Far enough from each other that no loupe is in the other's picture: the pipette never waits.
 /// Of all other pixels: each has another color than those around it.
 QRgb patternAt(const QPoint& point)
 {

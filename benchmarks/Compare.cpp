@@ -28,8 +28,8 @@ constexpr int measurementsOfAnAmount = 5;
 
 std::optional<Clock::time_point> stoppedAt;
 
-// Library code that leaves the upper halves of the AVX registers dirty makes the plain SSE code after it
-// several times slower, which would be counted against whichever side comes next.
+/// Library code that leaves the upper halves of the AVX registers dirty makes the plain SSE code after it
+/// several times slower, which would be counted against whichever side comes next.
 void cleanVectorRegisters()
 {
 #if defined(__x86_64__) && defined(__GNUC__)
@@ -82,7 +82,7 @@ struct Estimate
     double high = 0.0;
 };
 
-// The median and its 95 % interval, from the order of the samples alone.
+/// The median and its 95 % interval, from the order of the samples alone.
 Estimate estimate(std::vector<double> samples)
 {
     std::sort(samples.begin(), samples.end());
@@ -96,7 +96,7 @@ Estimate estimate(std::vector<double> samples)
     return {at(middle), at(middle - halfWidth), at(middle + halfWidth)};
 }
 
-// The names are those that the run script reads.
+/// The names are those that the run script reads.
 void report(benchmark::State& state, const std::string& path, Goal goal, const char* unit,
             const std::vector<double>& ours, const std::vector<double>& references)
 {

@@ -4,7 +4,7 @@
 #include <QProcess>
 #include <QStyleFactory>
 
-// Outside every namespace, as the macro demands: a static library's resources do not register themselves.
+/// Outside every namespace, as the macro demands: a static library's resources do not register themselves.
 static void initResources()
 {
     Q_INIT_RESOURCE(styles);

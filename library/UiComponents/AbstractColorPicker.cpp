@@ -2,7 +2,7 @@
 
 namespace {
 
-// Queued and string-based connections look the type up by name. Once for each process.
+/// Queued and string-based connections look the type up by name. Once for each process.
 void registerColorType()
 {
     static const int id = qRegisterMetaType<std::optional<QColor>>("std::optional<QColor>");

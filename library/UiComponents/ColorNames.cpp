@@ -108,8 +108,8 @@ QString shade(const ColorNames::Perceived& seen, const HueName& hue, const QStri
 
 } // namespace
 
-// The formula and its numbers are Björn Ottosson's: "A perceptual color space for image processing", 2020,
-// https://bottosson.github.io/posts/oklab/.
+/// The formula and its numbers are Björn Ottosson's: "A perceptual color space for image processing", 2020,
+/// https://bottosson.github.io/posts/oklab/.
 ColorNames::Perceived ColorNames::perceived(const QColor& color)
 {
     const double red = linear(color.redF());

@@ -1,4 +1,6 @@
-// Internal: the fixed palette of ColorPickerWidget, whose colours CustomColors does not add.
+// Internal: the fixed palette of ColorPickerWidget, whose colours CustomColors does not add, and how many own
+// colours stand below it.
+
 #pragma once
 
 #include <QColor>
@@ -9,6 +11,9 @@ namespace ColorPalette {
 
 constexpr int rowCount = 8;
 constexpr int columnCount = 9;
+
+/// With so many own colours, each one that is added replaces the oldest; the panel has as many buttons.
+constexpr int maxOwnColors = 8;
 
 using Row = std::array<QColor, columnCount>;
 

@@ -112,7 +112,7 @@ void ColorPickerButton::Private::adoptResult(AbstractColorPicker* from)
     }
 }
 
-// Without the picker, nothing reports the end of the pick that pressed the button.
+/// Without the picker, nothing reports the end of the pick that pressed the button.
 void ColorPickerButton::Private::release()
 {
     if (isPressedByPick) {
@@ -159,6 +159,7 @@ ColorPickerButton::~ColorPickerButton()
 
 void ColorPickerButton::setPicker(AbstractColorPicker* picker)
 {
+    // Null crashes in there even before the first picker, where it would pass for the same one.
     if (picker != d->picker || !picker) {
         d->setPicker(picker);
     }

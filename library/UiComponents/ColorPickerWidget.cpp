@@ -46,7 +46,6 @@
 
 namespace {
 
-constexpr int queueLength = 8;
 constexpr int opacitySteps = 100;
 
 // Of preview and plane, where no sheet gives them a size, in pixels.
@@ -363,7 +362,7 @@ void ColorPickerWidget::Private::addPaletteButton(int row, int column, const QCo
 
 void ColorPickerWidget::Private::buildQueue()
 {
-    for (int i = 0; i < queueLength; ++i) {
+    for (int i = 0; i < ColorPalette::maxOwnColors; ++i) {
         QToolButton* const button = makeColorButton(otherColorsQueuePanel);
         button->setEnabled(false);
         queueLayout->addWidget(button, 0, {});
@@ -396,12 +395,12 @@ void ColorPickerWidget::Private::configureInputs() const
     opacityTitleLabel->setBuddy(opacitySlider);
 }
 
-// From top to bottom. In order of creation the colour buttons would be last.
+/// From top to bottom. In order of creation the colour buttons would be last.
 void ColorPickerWidget::Private::orderTabs() const
 {
     QWidget* const lastOfPalette = paletteLayout->itemAt(paletteLayout->count() - 1)->widget();
     QWidget::setTabOrder(lastOfPalette, addCustomColorButton);
-    QWidget::setTabOrder(queueButton(queueLength - 1), opacitySlider);
+    QWidget::setTabOrder(queueButton(ColorPalette::maxOwnColors - 1), opacitySlider);
     QWidget::setTabOrder(opacitySlider, opacitySpinbox);
 }
 
@@ -446,7 +445,7 @@ void ColorPickerWidget::Private::connectInputs()
 
 void ColorPickerWidget::Private::fillQueue(const QStringList& names)
 {
-    for (int i = 0; i < qMin(names.size(), queueLength); ++i) {
+    for (int i = 0; i < qMin(names.size(), ColorPalette::maxOwnColors); ++i) {
         if (QColor::isValidColor(names.at(i))) {
             const QColor color = opaque(QColor(names.at(i)));
             ColorPickerWidgetButton* const button = queueButton(i);
@@ -713,7 +712,7 @@ void ColorPickerWidget::Private::onSelectorFinished()
     if (!self || !storeCurrentColor() || !self) {
         return;
     }
-    ColorPickerWidgetButton* const button = queueButton(queueLength - 1);
+    ColorPickerWidgetButton* const button = queueButton(ColorPalette::maxOwnColors - 1);
     const QRgb oldKey = keyOf(button->color().value_or(QColor()));
     if (button->isEnabled() && queueButtons.value(oldKey) == button) {
         queueButtons.remove(oldKey);

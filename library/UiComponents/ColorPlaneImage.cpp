@@ -29,8 +29,8 @@
 // (15). The roundings of column, product and sum put it off by at most 2^-16, 2^-17 and 2^-16, which is less
 // than 1.5 units of the last bit. Where the fraction is further than that from the next byte, the byte is
 // right: QColor's own double arithmetic is a thousand times finer than the distance that is left. The other
-// pixels, about one in 4,000, are asked of QColor. Among them are all whose exact value lies right between
-// two bytes.
+// pixels, about one in 4,000, are computed with QColor. Among them are all whose exact value lies right
+// between two bytes.
 
 namespace {
 
@@ -82,7 +82,7 @@ struct Plane
 
     QRgb exact(int x, int y) const { return ColorPlaneImage::pixel(hue, {width, height}, {x, y}); }
 
-    // A row's pixels without the channels that differ in it.
+    /// A row's pixels without the channels that differ in it.
     std::uint32_t rowBits(int y) const
     {
         return 0xFF000000U | static_cast<std::uint32_t>((values[std::size_t(y)] + 128) / 257) << sector.value;
@@ -99,8 +99,8 @@ double valueAt(int y, int height)
     return 1.0 - static_cast<double>(y) / (height - 1);
 }
 
-// The integer that QColor stores for a fraction. QColor is asked where the result depends on whether Qt was
-// compiled to fuse the multiplication and the addition of this rounding.
+/// The integer that QColor stores for a fraction. A QColor is made where the result depends on whether Qt was
+/// compiled to fuse the multiplication and the addition of this rounding.
 int sixteenBits(double fraction)
 {
     const double sum = fraction * maxChannel + 0.5;
@@ -196,7 +196,7 @@ struct Vectors256
     using Shorts [[gnu::vector_size(32)]] = std::int16_t;
     using Longs [[gnu::vector_size(32)]] = std::uint64_t;
 
-    // The instruction itself, since GCC accepts the intrinsic only in a function for its processor.
+    /// The instruction itself, since GCC accepts the intrinsic only in a function for its processor.
     template <bool isStreamed>
     [[gnu::always_inline]] static void store(const Words& pixels, QRgb* at)
     {
@@ -212,14 +212,14 @@ struct Vectors256
     }
 };
 
-// The number of pixels before the first aligned vector of @p lanes.
+/// The number of pixels before the first aligned vector of @p lanes.
 int pixelsToAlignment(const QRgb* line, int lanes)
 {
     const auto pixel = reinterpret_cast<std::uintptr_t>(line) / sizeof(QRgb);
     return static_cast<int>(-pixel % static_cast<std::uintptr_t>(lanes));
 }
 
-// The byte of a sum at its position, with the exponent's bits above it and nothing below.
+/// The byte of a sum at its position, with the exponent's bits above it and nothing below.
 template <Position at, typename Words>
 [[gnu::always_inline]] inline void moveByte(Words& sum)
 {
@@ -232,9 +232,9 @@ template <Position at, typename Words>
     }
 }
 
-// One vector of pixels. Lowers @p nearest to how far their sums are from a boundary. Everything is inlined
-// into functions that are compiled for one processor each, and hands vectors over by reference only: how they
-// are passed depends on the processor too.
+/// One vector of pixels. Lowers @p nearest to how far their sums are from a boundary. Everything is inlined
+/// into functions that are compiled for one processor each, and hands vectors over by reference only: how
+/// they are passed depends on the processor too.
 template <typename Vectors, Position lowAt, Position highAt>
 [[gnu::always_inline]] inline void renderVector(const Plane& plane, int x, float row, std::uint32_t rowBits,
                                                 typename Vectors::Words& pixels,
@@ -259,7 +259,7 @@ template <typename Vectors, Position lowAt, Position highAt>
     pixels = lowSum ^ highSum ^ rowBits;
 }
 
-// Whether a sum is near. The upper half of each word is zero throughout.
+/// Whether a sum is near. The upper half of each word is zero throughout.
 template <typename Vectors>
 [[gnu::always_inline]] inline bool hasNear(const typename Vectors::Shorts& nearest)
 {
@@ -273,7 +273,7 @@ template <typename Vectors>
     return any != 0;
 }
 
-// Corrects pixels before it writes them, since streamed ones would have to be fetched again.
+/// Corrects pixels before it writes them, since streamed ones would have to be fetched again.
 template <typename Vectors, int vectors, Position lowAt, Position highAt, bool isStreamed = false>
 [[gnu::always_inline]] inline void renderBlock(const Plane& plane, int x, int y, float row,
                                                std::uint32_t rowBits, QRgb* line)
@@ -395,7 +395,7 @@ QRgb ColorPlaneImage::pixel(double hue, const QSize& size, const QPoint& at)
 #ifdef HSV_PLANE_X86
 namespace {
 
-// Those that the system keeps when it switches tasks.
+/// Those that the system keeps when it switches tasks.
 unsigned keptRegisters()
 {
     unsigned low = 0;
@@ -404,8 +404,8 @@ unsigned keptRegisters()
     return low;
 }
 
-// Not __builtin_cpu_supports(), which runs CPUID many times when the library is loaded: on a virtual machine
-// that takes longer than the rest of loading.
+/// Not __builtin_cpu_supports(), which runs CPUID many times when the library is loaded: on a virtual machine
+/// that takes longer than the rest of loading.
 bool hasAvx2()
 {
     constexpr unsigned wideRegisters = 0x06; // both halves of them

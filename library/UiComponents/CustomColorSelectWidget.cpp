@@ -23,7 +23,7 @@ public:
     explicit Private(CustomColorSelectWidget* selector);
 
     void setTexts() const;
-    void synchronize();
+    void synchronise();
 
     CustomColorSelectWidget* const q;
     ColorPlaneWidget* const colorPlane;
@@ -55,7 +55,7 @@ void CustomColorSelectWidget::Private::setTexts() const
     hueLabel->setText(tr("Hue"));
 }
 
-void CustomColorSelectWidget::Private::synchronize()
+void CustomColorSelectWidget::Private::synchronise()
 {
     const QPointer<CustomColorSelectWidget> self = q;
     // May emit: a slot may change the colour or delete the selector.
@@ -86,7 +86,7 @@ CustomColorSelectWidget::~CustomColorSelectWidget() = default;
 void CustomColorSelectWidget::setColor(const QColor& color)
 {
     d->color = color.isValid() ? color.toHsv() : QColor(Qt::black);
-    QTimer::singleShot(0, this, [this] { d->synchronize(); });
+    QTimer::singleShot(0, this, [this] { d->synchronise(); });
 }
 
 void CustomColorSelectWidget::startFrom(const QColor& color)

@@ -4,12 +4,6 @@
 
 #include <Settings/Settings.h>
 
-namespace {
-
-constexpr int capacity = 8;
-
-} // namespace
-
 bool Util::appendCustomColor(const QString& colorName)
 {
     if (ColorPalette::contains(QColor(colorName))) {
@@ -19,7 +13,7 @@ bool Util::appendCustomColor(const QString& colorName)
     if (names.contains(colorName, Qt::CaseSensitive)) {
         return false;
     }
-    if (names.size() >= capacity) {
+    if (names.size() >= ColorPalette::maxOwnColors) {
         names.removeLast();
     }
     names.prepend(colorName);

@@ -17,7 +17,6 @@ class GuideButton::Private
 public:
     std::shared_ptr<GuideInfo> guideInfo;
     QPointer<PointingWidget> pointingWidget;
-    QPointer<GuideWidget> guideWidget;
     QPointer<PointingWidget> appearing; // while its show() runs
 };
 
@@ -83,10 +82,11 @@ void GuideButton::showHelp()
     // Constructed with its name and parent: setting either later would polish it again, at the cost of all
     // the rest.
     OvFrame* const frame = d->pointingWidget->contentFrame();
-    d->guideWidget = new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
-    connect(d->guideWidget.data(), &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
+    auto* guideWidget =
+        new GuideWidget(*info, frame, Util::Details::removeClassMemberPrefix("m_guideWidget"));
+    connect(guideWidget, &GuideWidget::learnMoreClicked, this, &GuideButton::learnMoreClicked);
     auto* layout = new OvVBoxLayout(frame);
-    layout->addWidget(d->guideWidget);
+    layout->addWidget(guideWidget);
 
     d->pointingWidget->setArrowOffset(m_popupOffset);
     d->pointingWidget->pointTo(mapToGlobal(QPoint(width() / 2, height())));

@@ -35,6 +35,6 @@ private:
     QTextDocument* document() const;
     QRect textRect() const;
 
-    // What links that Qt has coloured have now.
+    // The colour that this label gave its links last.
     QColor m_linkColor;
 };

@@ -21,7 +21,7 @@
 
 namespace {
 
-// Qt would block on a pipe, and crash on a file that is too large.
+/// Qt would block on a pipe, and crash on a file that is too large.
 bool isLoadable(const QUrl& url)
 {
     if (!url.isLocalFile()) {
@@ -32,7 +32,7 @@ bool isLoadable(const QUrl& url)
     return !file.exists() || file.isDir() || (file.isFile() && file.size() <= maxSize);
 }
 
-// Refuses code from other machines as well. Called in the engine's loading thread too.
+/// Refuses code from other machines as well. Called in the engine's loading thread too.
 class LocalFilesOnly : public QQmlAbstractUrlInterceptor
 {
 public:
@@ -53,7 +53,7 @@ QSize containerSize(const QSizeF& size)
     return size.boundedTo(maxSize).toSize();
 }
 
-// The view refuses a window as root item, but does not delete it.
+/// The view refuses a window as root item, but does not delete it.
 void deleteStrayWindows(const QQuickWidget* view)
 {
     const QWindowList found = QGuiApplication::topLevelWindows();
@@ -108,8 +108,8 @@ Qml::QuickContent::Private::Private()
     container->setAttribute(Qt::WA_NoSystemBackground);
 }
 
-// The view before the container, which would delete it too, and before the interceptor, which its engine
-// uses.
+/// The view before the container, which would delete it too, and before the interceptor, which its engine
+/// uses.
 Qml::QuickContent::Private::~Private()
 {
     delete view;

@@ -24,8 +24,8 @@ namespace {
 // The time for bindings of the scene to give it a size.
 constexpr int sizeGraceMs = 200;
 
-// With some window managers Qt now and then takes the window to be at (0, 0) though it is in its place, and
-// maps global coordinates wrongly. Moving it once more, when it becomes active, corrects that.
+/// With some window managers Qt now and then takes the window to be at (0, 0) though it is in its place, and
+/// maps global coordinates wrongly. Moving it once more, when it becomes active, corrects that.
 class PlaceKeeper : public QObject
 {
 public:
@@ -56,8 +56,8 @@ private:
     bool m_isMovedByOthers = false;
 };
 
-// Waits until an empty container gets a size. Meanwhile the scene may end the dialog, and slots may delete
-// anything.
+/// Waits until an empty container gets a size. Meanwhile the scene may end the dialog, and slots may delete
+/// anything.
 void awaitSize(const QPointer<QWidget>& container, const QDialog* dialog)
 {
     const auto* const view = container->findChild<QQuickWidget*>();

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Of all objects, which would else take each other's colours for the palette's own.
+/// Of all objects, which would else take each other's colours for the palette's own.
 struct Links
 {
     QColor plain; // the palette's own, for a sheet that does not name one

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Calls a function when it is asked for the hint SH_CustomBase.
+/// Calls a function from styleHint() for the hint SH_CustomBase.
 class CallingStyle : public QCommonStyle // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -29,9 +29,9 @@ private:
 
 } // namespace
 
-// With style sheets, Qt wraps the style of each widget in a QStyleSheetStyle. While one of these calls its
-// base style, here for a hidden widget, Qt's guard against recursion makes all others pass questions on to
-// theirs.
+/// With style sheets, Qt wraps the style of each widget in a QStyleSheetStyle. While one of these calls its
+/// base style, here for a hidden widget, Qt's guard against recursion makes all others pass questions on to
+/// theirs.
 void SheetlessBuild::run(const std::function<void()>& build)
 {
     CallingStyle style(build);

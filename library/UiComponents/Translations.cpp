@@ -13,7 +13,7 @@
 #include <algorithm>
 
 #ifdef UIC_CATALOGUES
-// Outside every namespace, as the macro demands: a static library's resources do not register themselves.
+/// Outside every namespace, as the macro demands: a static library's resources do not register themselves.
 static void initCatalogues()
 {
     Q_INIT_RESOURCE(uicomponents_catalogues);
@@ -33,7 +33,7 @@ QString catalogues()
 // By its translation Qt takes the direction of a new language, with or without a catalogue of its own.
 [[maybe_unused]] const char* const textOfQt = QT_TRANSLATE_NOOP("QGuiApplication", "QT_LAYOUT_DIRECTION");
 
-// Installed once, and filled with one language after the other, to keep their places among the host's.
+/// Installed once, and filled with one language after the other, to keep their places among the host's.
 class Texts : public QObject // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -57,7 +57,7 @@ Texts* texts()
     return shared;
 }
 
-// QTranslator takes no folder for the current one.
+/// QTranslator takes no folder for the current one.
 bool loadComponents(const QLocale& locale, const QString& folder)
 {
     return !folder.isEmpty() &&

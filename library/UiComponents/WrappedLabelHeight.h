@@ -1,4 +1,5 @@
 // Internal: room for all lines of the wrapped labels of GuideWidget and DialogGuideWidget.
+
 #pragma once
 
 class QLabel;

@@ -1,4 +1,5 @@
 // Internal: scripts and rich text, for Customization.
+
 #pragma once
 
 #include <QLocale>

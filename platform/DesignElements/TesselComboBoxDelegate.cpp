@@ -4,7 +4,7 @@
 
 namespace {
 
-// How QComboBox::insertSeparator() marks its items.
+/// How QComboBox::insertSeparator() marks its items.
 bool isSeparator(const QModelIndex& index)
 {
     return index.data(Qt::AccessibleDescriptionRole).toString() == QLatin1String("separator");

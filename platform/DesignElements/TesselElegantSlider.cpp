@@ -10,9 +10,9 @@ constexpr qreal grooveThickness = 4.0;
 constexpr qreal handleDiameter = 14.0;
 constexpr qreal ringWidth = 2.0;
 
-// A sheet may style the slider's parts, or only its background and font, as a rule for all widgets does. The
-// style does not tell which, but lets the sheet place the parts only where it has a rule for the groove. In a
-// large rectangle the two placements differ.
+/// A sheet may style the slider's parts, or only its background and font, as a rule for all widgets does. The
+/// style does not tell which, but lets the sheet place the parts only where it has a rule for the groove. In
+/// a large rectangle the two placements differ.
 bool hasPartsFromSheet(const QSlider* slider, QStyleOptionSlider option)
 {
     option.rect = QRect(0, 0, 1000, 1000);

@@ -10,7 +10,7 @@ namespace {
 constexpr int maxPathBytes = 4095; // PATH_MAX without the closing zero
 constexpr int maxNameBytes = 255;
 
-// Compared in one normal form: some systems store names in another one.
+/// Compared in one normal form: some systems store names in another one.
 bool isStorable(const QString& text)
 {
     return !text.contains(QChar::Null) &&
@@ -37,7 +37,7 @@ QString below(const QString& folder, const QString& name)
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
 }
 
-// The parent of a folder that exists.
+/// The parent of a folder that exists.
 QString above(const QString& folder)
 {
     const QString name = folder.section(QLatin1Char('/'), -1);

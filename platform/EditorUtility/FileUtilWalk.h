@@ -1,4 +1,5 @@
 // Internal: how FileUtil follows a path.
+
 #pragma once
 
 #include <QString>

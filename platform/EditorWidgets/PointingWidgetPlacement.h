@@ -38,8 +38,8 @@ struct PointingWidgetPlacement
     QRect geometry;
     PointingWidget::ArrowSide side = PointingWidget::ArrowSide::Top;
     QPoint tip; ///< the pixel at the arrow's tip, in the bubble's coordinates
-    int base =
-        0; ///< the pixel in the middle of the arrow's foot, along its side, in the bubble's coordinates
+    /// The pixel in the middle of the arrow's foot, along its side, in the bubble's coordinates.
+    int base = 0;
 };
 
 PointingWidgetPlacement placeBubble(const BubbleRequest& request);

@@ -52,8 +52,8 @@ void HighlightFrameOverlay::coverParent()
     }
 }
 
-// Repainting the parent is not enough: Qt composes a QQuickWidget or QOpenGLWidget into the window, and what
-// was painted over it stays until something else is painted there.
+/// Repainting the parent is not enough: Qt composes a QQuickWidget or QOpenGLWidget into the window, and what
+/// was painted over it stays until something else is painted there.
 void HighlightFrameOverlay::erase()
 {
     if (!isVisible()) {

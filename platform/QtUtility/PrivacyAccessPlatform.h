@@ -1,4 +1,5 @@
 // Internal: what PrivacyAccess knows about Qt's platforms.
+
 #pragma once
 
 #include <QtUtility/PrivacyAccess.h>

@@ -16,7 +16,7 @@ bool contains(const QWidget* ancestor, const QWidget* widget)
     return widget && (widget == ancestor || ancestor->isAncestorOf(widget));
 }
 
-// The dialog owns it.
+/// The dialog owns it.
 class FocusKeeper : public QObject
 {
     Q_OBJECT

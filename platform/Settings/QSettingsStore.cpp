@@ -50,8 +50,8 @@ bool isReadable(const QString& path)
     return isGood;
 }
 
-// Opened for each call: the host may construct widgets before it sets its organisation and name. Null where
-// something else than a file of settings exists.
+/// Opened for each call: the host may construct widgets before it sets its organisation and name. Null where
+/// something else than a file of settings exists.
 std::unique_ptr<QSettings> open()
 {
     const QString name = QCoreApplication::organizationName();

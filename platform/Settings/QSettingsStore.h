@@ -1,4 +1,5 @@
 // Internal: the store that Settings uses until the host brings another one.
+
 #pragma once
 
 #include <Settings/SettingsStore.h>

@@ -25,7 +25,7 @@ QString customColorsKey()
     return QStringLiteral("userCustomColors");
 }
 
-// The store may return the list in another type, or a value of another program.
+/// The store may return the list in another type, or a value of another program.
 QStringList texts(const QVariant& value)
 {
     const bool isList =

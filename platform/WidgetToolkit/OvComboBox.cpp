@@ -26,8 +26,8 @@ int roomForIcon(const QComboBox* box)
     return 0;
 }
 
-// Stops at a text of width @p enough, since a list may be long. Measures bounding rectangles, as sizeHint()
-// does.
+/// Stops at a text of width @p enough, since a list may be long. Measures bounding rectangles, as sizeHint()
+/// does.
 int widestText(const QComboBox* box, const QFontMetrics& metrics, int enough)
 {
     int widest = metrics.boundingRect(box->placeholderText()).width();

@@ -38,8 +38,8 @@ double placeOf(const QSlider* slider, const QPoint& point)
     return (slider->orientation() == Qt::Horizontal ? point.x() : point.y()) + 0.5;
 }
 
-// The path of the handle's centre from minimum to maximum. It is measured at both ends of the range, because
-// QSlider's own mapping does not know how far a style sheet keeps the handle off the groove's ends.
+/// The path of the handle's centre from minimum to maximum. It is measured at both ends of the range, because
+/// QSlider's own mapping does not know how far a style sheet keeps the handle off the groove's ends.
 class Track
 {
 public:
@@ -59,7 +59,7 @@ public:
         return static_cast<int>(std::floor(m_minimum + fraction * (m_maximum - m_minimum) + 0.5));
     }
 
-    // The point of the track nearest to @p place.
+    /// The point of the track nearest to @p place.
     double bounded(double place) const
     {
         return qBound(qMin(m_start, m_start + m_travel), place, qMax(m_start, m_start + m_travel));
@@ -72,8 +72,8 @@ private:
     double m_travel;
 };
 
-// QStyle divides by the number of steps, which has to fit into an int. And styles count ticks from the
-// minimum to the first one behind the maximum, which has to as well, and draw every one of them.
+/// QStyle divides by the number of steps, which has to fit into an int. And styles count ticks from the
+/// minimum to the first one behind the maximum, which has to as well, and draw every one of them.
 void makePaintable(QStyleOptionSlider& option)
 {
     constexpr int maxSteps = 1 << 30;
@@ -152,8 +152,8 @@ int positionAfter(QAbstractSlider::SliderAction action, const QSlider& slider)
     }
 }
 
-// The steps of a wheel event; with Ctrl or Shift a notch is a page. As in QAbstractSlider, whose own
-// calculation cannot be called without emitting.
+/// The steps of a wheel event; with Ctrl or Shift a notch is a page. As in QAbstractSlider, whose own
+/// calculation cannot be called without emitting.
 qint64 wheelSteps(const QWheelEvent& event, const QSlider& slider, double& remainder)
 {
     const QPoint turned = event.angleDelta();

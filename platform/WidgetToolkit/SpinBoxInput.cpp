@@ -12,7 +12,7 @@ bool SpinBoxInput::isCommit(const QKeyEvent* event)
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
-// Emits in the order of QSpinBox, which would use the box after each signal.
+/// Emits in the order of QSpinBox, which would use the box after each signal.
 template <typename SpinBox>
 void SpinBoxInput::announceValue(SpinBox* box)
 {

@@ -15,7 +15,7 @@ constexpr double maxExactNumerator = 4194304.0;
 // Multipliers with more decimals are not taken for decimal fractions.
 constexpr int maxDecimals = 12;
 
-// pow(10, -3) may differ from 0.001 by a few units in the last place.
+/// pow(10, -3) may differ from 0.001 by a few units in the last place.
 bool isNearly(double number, double meant)
 {
     return std::abs(number - meant) <= 4 * Limits::epsilon() * std::abs(meant);

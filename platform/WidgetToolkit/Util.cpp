@@ -14,7 +14,7 @@
 
 namespace {
 
-// Style sheets compare values as text, which differs for true and 1, though QVariant calls them equal.
+/// Style sheets compare values as text, which differs for true and 1, though QVariant calls them equal.
 bool isSame(const QVariant& one, const QVariant& other)
 {
     return one.userType() == other.userType() && one == other;

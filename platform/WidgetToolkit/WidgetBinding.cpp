@@ -16,8 +16,8 @@ namespace {
 // Ends an endless loop of slots that change the two sides in turn.
 constexpr int maxCopies = 16;
 
-// Sets range and value with one valueChanged(). Setting the range first would clamp the old value and emit
-// that too.
+/// Sets range and value with one valueChanged(). Setting the range first would clamp the old value and emit
+/// that too.
 template <typename Widget, typename Number, typename SetValue>
 void setRangeAndValue(Widget* widget, Number minimum, Number maximum, bool oldValueFits, const bool& gone,
                       SetValue setValue)
@@ -295,13 +295,13 @@ void FractionBinding::rememberSliderRange(int minimum, int maximum)
     m_sliderMaximum = scale.valueOf(maximum);
 }
 
-// A slider emits rangeChanged() before it clamps its value.
+/// A slider emits rangeChanged() before it clamps its value.
 double FractionBinding::sliderValue() const
 {
     return qBound(m_sliderMinimum, m_slider->doubleValue(), m_sliderMaximum);
 }
 
-// With other decimals the same range is rounded differently.
+/// With other decimals the same range is rounded differently.
 bool FractionBinding::noteDecimals()
 {
     if (m_spinBox->decimals() == m_decimals) {

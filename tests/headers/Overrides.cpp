@@ -26,7 +26,7 @@
 
 namespace {
 
-// A member that is only inherited is one of the base's, and does not match.
+/// A member that is only inherited is one of the base's, and does not match.
 template <typename Class, typename Function>
 constexpr bool isOwn(Function Class::*)
 {

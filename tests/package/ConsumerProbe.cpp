@@ -19,7 +19,7 @@ QColor middleOf(QWidget* widget)
     return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
 }
 
-// Opens the field's panel, types a colour into it, and ends the pick.
+/// Opens the field's panel, types a colour into it, and ends the pick.
 bool type(const QWidget* window, QToolButton* button, const char* name, Qt::Key end)
 {
     QTest::mouseClick(button, Qt::LeftButton);
@@ -35,7 +35,7 @@ bool type(const QWidget* window, QToolButton* button, const char* name, Qt::Key 
     return isFollowing && QTest::qWaitFor([button] { return !button->isDown(); });
 }
 
-// The name of what went wrong; null when nothing did.
+/// The name of what went wrong; null when nothing did.
 const char* examine()
 {
     QWidget* window = nullptr;

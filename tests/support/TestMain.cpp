@@ -20,7 +20,7 @@ bool addTestClass(const char* name, TestFactory make)
     return classes().emplace(name, make).second;
 }
 
-// The first argument names the class, the others are Qt Test's.
+/// The first argument names the class, the others are Qt Test's.
 int main(int argc, char** argv)
 {
     const auto found = argc > 1 ? classes().find(QByteArray("tst_").append(argv[1])) : classes().end();

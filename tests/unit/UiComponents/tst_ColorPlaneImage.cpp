@@ -12,7 +12,7 @@ using ColorPlaneImage::Path;
 
 namespace {
 
-// Not a function of the tested unit: this loop is what it promises to equal.
+/// Not a function of the tested unit: this loop is what it promises to equal.
 QImage plainPlane(double hue, int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);
@@ -58,7 +58,7 @@ QString where(const QImage& got, const QImage& expected)
     return QStringLiteral("another format or size");
 }
 
-// Empty if every path that this processor has gives the plain loop's plane.
+/// Empty if every path that this processor has gives the plain loop's plane.
 QString difference(double hue, int width, int height)
 {
     const QImage expected = plainPlane(hue, width, height);

@@ -37,7 +37,7 @@ void drawRing(QPainter& painter, const QPoint& centre, const QColor& color, int 
     painter.drawEllipse(centre, radius, radius);
 }
 
-// The plane of a hue with a ring upon it.
+/// The plane of a hue with a ring upon it.
 QImage picture(double hue, const QSize& size, const QPoint& marker, const QColor& ring, int radius = 8,
                int width = 2)
 {

@@ -31,7 +31,7 @@ public:
 
     Colors reports() { return std::exchange(m_reports, {}); }
 
-    // Sets a colour and waits for it to appear.
+    /// Sets a colour and waits for it to appear.
     void show(const QColor& color)
     {
         setColor(color);

@@ -62,7 +62,7 @@ private Q_SLOTS:
         QCOMPARE(m_stack->count(), 0);
     }
 
-    /// A selection that changes in the middle is the next session's.
+    // A selection that changes in the middle is the next session's.
     void targetsOfTheStart()
     {
         drag();

@@ -894,7 +894,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The colour of a picked widget is that of another selection, also when the button wears it already.
+    // The colour of a picked widget is that of another selection, also when the button wears it already.
     void widgetColor()
     {
         QWidget window;
@@ -1350,7 +1350,7 @@ private Q_SLOTS:
         QCOMPARE(field.color(), Color(QColor(Qt::blue)));
     }
 
-    /// A plane is finer than the boxes beside it.
+    // A plane is finer than the boxes beside it.
     void shownValueIsCommitted()
     {
         Stage stage(kinds().at(3));
@@ -1394,7 +1394,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What is not entered yet is the edit's to undo, and all else the host's.
+    // What is not entered yet is the edit's to undo, and all else the host's.
     void undoKey()
     {
         QFETCH(int, kind);
@@ -1491,7 +1491,7 @@ private Q_SLOTS:
         QCOMPARE(stack.count(), 0);
     }
 
-    /// A host that writes each value into its document, and shows the document again.
+    // A host that writes each value into its document, and shows the document again.
     void refreshInAReport()
     {
         Stage stage(kinds().at(0));

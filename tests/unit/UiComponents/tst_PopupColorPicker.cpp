@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 0);
     }
 
-    /// A host that shows its selection again when a pick is over: the first one's colour, then several.
+    // A host that shows its selection again when a pick is over: the first one's colour, then several.
     void aColorSetAtTheEndIsKept()
     {
         m_button->setColor(std::nullopt);
@@ -396,7 +396,7 @@ private Q_SLOTS:
         QTest::newRow("without its panel") << Action([this] { delete panel(); });
     }
 
-    /// In a slot of the end of the first pick.
+    // In a slot of the end of the first pick.
     void meanwhileInATakeover()
     {
         QFETCH(Action, act);
@@ -785,7 +785,7 @@ private Q_SLOTS:
         QTest::newRow("field, new own colour") << deleteField << own << QStringList{own->name()};
     }
 
-    /// In a host's slot of the panel, which gets the field's colour then.
+    // In a host's slot of the panel, which gets the field's colour then.
     void endedBeforeThePanelIsShown()
     {
         QFETCH(Action, end);

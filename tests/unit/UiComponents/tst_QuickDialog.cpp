@@ -22,7 +22,7 @@ constexpr int rounds = 3;
 
 const QString lit = QStringLiteral("width: 120; height: 80; color: '#206040'");
 
-// What a host derives to give values to a scene and take them back.
+/// What a host derives to give values to a scene and take them back.
 class FormDialog : public QuickDialog
 {
     Q_OBJECT

@@ -427,7 +427,7 @@ private Q_SLOTS:
         ScreenGrabber bare(everything, ScreenGrabber::Cover::Nothing, screen);
         QVERIFY(!bare.colorAt(point).isValid());
 
-        // A large area without a picture says nothing of a single pixel.
+        /// A large area without a picture says nothing of a single pixel.
         class OnePixel : public Screen
         {
             QImage grab(QScreen& of, const QRect& area) override

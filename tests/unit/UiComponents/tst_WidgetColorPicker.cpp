@@ -431,7 +431,7 @@ private Q_SLOTS:
     {
         QFETCH(Qt::Key, key);
         const Protocol protocol(m_picker);
-        // Sees what reaches the widget with the focus.
+        /// Sees what reaches the widget with the focus.
         class Keys : public QObject
         {
         public:

@@ -320,7 +320,7 @@ private Q_SLOTS:
         QTest::newRow("lower than the bubble") << low << 0 << aroundIt(low);
     }
 
-    /// Where the screen is, no program knows there; the window is on it.
+    // Where the screen is, no program knows there; the window is on it.
     void staysAroundItsWindowOnWayland()
     {
         QFETCH(const QRect, window);
@@ -373,7 +373,7 @@ private Q_SLOTS:
         QTest::newRow("elsewhere") << QStringLiteral("xcb") << by({{30, 40}}) << 0;
     }
 
-    /// A compositor looks at the place of a window once, when it appears.
+    // A compositor looks at the place of a window once, when it appears.
     void appearsAnewOnWayland()
     {
         QFETCH(const QString, platform);
@@ -709,8 +709,8 @@ private Q_SLOTS:
         QVERIFY(!bubble.isVisible()); // closed before its parent shows
     }
 
-    /// The window manager takes the bubble along with its window. One that hid itself and came back with the
-    /// window's children would send the window away again.
+    // The window manager takes the bubble along with its window. One that hid itself and came back with the
+    // window's children would send the window away again.
     void staysWhenWindowIsMinimised()
     {
         QWidget window;
@@ -872,7 +872,7 @@ private Q_SLOTS:
         QTRY_VERIFY(touchesTarget(*bubble));
     }
 
-    /// A subclass that aims again in its own paintEvent() must come to rest.
+    // A subclass that aims again in its own paintEvent() must come to rest.
     void reaimingComesToRest()
     {
         QWidget parent;
@@ -933,7 +933,7 @@ private Q_SLOTS:
         QCOMPARE(bubble.pos(), place);
     }
 
-    /// A window manager that puts the bubble elsewhere is asked once more, and not again by every aiming.
+    // A window manager that puts the bubble elsewhere is asked once more, and not again by every aiming.
     void windowManagersPlaceIsAccepted()
     {
         ReaimingBubble bubble(nullptr);
@@ -963,8 +963,8 @@ private Q_SLOTS:
         QVERIFY(touchesTarget(bubble));
     }
 
-    /// One that keeps a bubble as large as the screen would else be asked for ever: the arrow goes to another
-    /// side each time, which asks for a layout.
+    // One that keeps a bubble as large as the screen would else be asked for ever: the arrow goes to another
+    // side each time, which asks for a layout.
     void windowManagersSizeIsAccepted()
     {
         const QRect screen = QGuiApplication::primaryScreen()->geometry();

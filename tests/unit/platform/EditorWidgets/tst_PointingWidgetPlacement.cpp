@@ -177,7 +177,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Every target of an area that has room for the bubble, corners included.
+    // Every target of an area that has room for the bubble, corners included.
     void insideAndTouching()
     {
         QFETCH(const int, side);
@@ -331,7 +331,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Away from the arrow and the corners, the border is black up to its inner edge and white from there on.
+    // Away from the arrow and the corners, the border is black up to its inner edge and white from there on.
     void pathIsCrisp()
     {
         QFETCH(const qreal, scale);
@@ -370,7 +370,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Every painted pixel is in the region, and neither leaves the bubble; the tip may lean to a corner.
+    // Every painted pixel is in the region, and neither leaves the bubble; the tip may lean to a corner.
     void pathStaysInside()
     {
         QFETCH(const int, side);

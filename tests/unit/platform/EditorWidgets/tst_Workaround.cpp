@@ -177,7 +177,7 @@ private Q_SLOTS:
         QVERIFY(!dialog.testAttribute(Qt::WA_TranslucentBackground));
     }
 
-    /// setWindowFlags() would hide the window and make its native window anew.
+    // setWindowFlags() would hide the window and make its native window anew.
     void visibleWindowStaysAsItIs()
     {
         QDialog dialog(nullptr, Qt::Window | Qt::FramelessWindowHint);

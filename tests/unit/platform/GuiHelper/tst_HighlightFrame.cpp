@@ -308,7 +308,7 @@ private Q_SLOTS:
         QVERIFY(target.childEvents > 1);
     }
 
-    /// QSplitter adopts every child widget in its child event.
+    // QSplitter adopts every child widget in its child event.
     void splitterAdoptsNothing()
     {
         QSplitter splitter;
@@ -362,7 +362,7 @@ private Q_SLOTS:
         QCOMPARE(overlayOf(area.viewport())->geometry(), area.viewport()->rect());
     }
 
-    /// QWidget::scroll() moves all children and copies what is painted, the outline too.
+    // QWidget::scroll() moves all children and copies what is painted, the outline too.
     void survivesScrolling()
     {
         QTableWidget table(100, 1);
@@ -405,7 +405,7 @@ private Q_SLOTS:
         }
     }
 
-    /// A frame that is dropped while its target paints must not paint it once more inside.
+    // A frame that is dropped while its target paints must not paint it once more inside.
     void removedFromInsidePaint()
     {
         struct Dropper : QWidget
@@ -456,7 +456,7 @@ private Q_SLOTS:
         QVERIFY(overlaysOf(&target).isEmpty());
     }
 
-    /// A child is raised while another one dies, and then the target with the rest.
+    // A child is raised while another one dies, and then the target with the rest.
     void childrenDieAndAreRaised()
     {
         auto target = std::make_unique<WhiteWidget>();

@@ -6,7 +6,7 @@ using Orvane::Util::ApplyQmlWindowFocusWorkaround;
 
 namespace {
 
-// A dialog with a field of its own before the host of the view in tab order.
+/// A dialog with a field of its own before the host of the view in tab order.
 struct Scene
 {
     Scene()

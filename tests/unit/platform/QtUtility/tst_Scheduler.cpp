@@ -33,7 +33,7 @@ private:
     }
 };
 
-// Counts what reaches a scheduler, and can hold back its timer.
+/// Counts what reaches a scheduler, and can hold back its timer.
 class Probe : public QObject
 {
     Q_OBJECT

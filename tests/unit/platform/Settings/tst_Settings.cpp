@@ -18,7 +18,7 @@ QString storeFile()
     return QSettings().fileName();
 }
 
-// Runs the code in another process, which is killed at its end before any clean-up of its own.
+/// Runs the code in another process, which is killed at its end before any clean-up of its own.
 template <typename Code>
 bool inKilledProcess(Code code)
 {

@@ -7,7 +7,7 @@
 
 namespace {
 
-// A subclass that keeps its change events from the base.
+/// A subclass that keeps its change events from the base.
 class Swallowing : public OvComboBox
 {
 protected:

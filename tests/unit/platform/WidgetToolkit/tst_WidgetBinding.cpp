@@ -487,7 +487,7 @@ private Q_SLOTS:
         QTest::newRow("fraction") << true;
     }
 
-    /// While the box's value is being copied.
+    // While the box's value is being copied.
     void listenerMovesTheRange()
     {
         QFETCH(const bool, fractions);
