@@ -865,12 +865,11 @@ bool EditSession::eventFilter(QObject* watched, QEvent* event)
     default:
         break;
     }
-    if (!receiver) {
-        // What ignores a wheel event, as all do at first, is asked for its parent next.
+    if (!receiver && event->type() == QEvent::Wheel) {
+        // Qt sends it ignored, and asks a receiver that has not accepted it for its parent.
         event->accept();
-        return true;
     }
-    return isTaken;
+    return isTaken || !receiver;
 }
 
 void EditSession::commit()

@@ -33,7 +33,7 @@ class QWidget;
  * previewed stays. Where a slot of started() or previewed() ends the session, it ends after all slots have
  * been called. The keys of Undo and Redo belong to a text while it is typed, else to the host's shortcuts.
  * Slots may delete the session, and the field where slots of its own signals may; use deleteLater() for one
- * with a text or a list, and where hiding or disabling it, a right click, or the cursor that leaves reports.
+ * with a text or a list, and where hiding or disabling it, a right click, touchpad or Leave event reports.
  *
  * **Several values.** A field with setMultiValue() keeps that look until the user enters a value, also when
  * he tabs through; that value is reported even if the field still held it, as by a step beyond its end. Its

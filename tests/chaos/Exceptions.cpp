@@ -124,7 +124,7 @@ const std::vector<Row>& rows()
         {Kind::Deletion, nullptr, qt, "changedSiblingIsDeleted", "application", Doing::Other, any, ""},
         {Kind::Deletion, nullptr, qt, "changedSiblingIsDeleted", "event", Doing::Other, any, ""},
         {Kind::Deletion, nullptr, qt, "widgetIsDeletedAsTheCursorLeaves", "cursor leaves", Doing::Other},
-        {Kind::Deletion, nullptr, qt, "widgetIsDeletedInARightPress", "right press", Doing::Mouse},
+        {Kind::Deletion, "QWidget", qt, "widgetIsDeletedInARightPress", "right press", Doing::Mouse},
         {Kind::Deletion, nullptr, qt, "hiddenWidgetIsDeleted", "delete", Doing::Deleting, any, ""},
         {Kind::Deletion, "QWidget", qt, "hiddenWidgetIsDeleted", nullptr, Doing::Showing},
         {Kind::Deletion, "QAbstractButton", qt, "animatedButtonIsDeleted", "pressed", any, Doing::Forcing},

@@ -122,6 +122,7 @@ protected:
         }
         watched->removeEventFilter(this);
         delete watched;
+        event->accept();
         return true;
     }
 
@@ -159,6 +160,17 @@ bool widgetIsDeletedInARightPress()
 {
     Corner window(QEvent::MouseButtonPress);
     QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::NoModifier, QPoint(9, 9));
+    return false;
+}
+
+/// It is remembered as the one that is scrolled.
+bool widgetIsDeletedByATouchpad()
+{
+    const Corner window(QEvent::Wheel);
+    QWheelEvent event({9.0, 9.0}, {9.0, 9.0}, {0, 9}, {0, 9}, Qt::NoButton, Qt::NoModifier, Qt::ScrollBegin,
+                      false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window.part, &event);
     return false;
 }
 
@@ -673,6 +685,7 @@ int main(int argc, char** argv)
         {"changedSiblingIsDeleted", changedSiblingIsDeleted},
         {"widgetIsDeletedAsTheCursorLeaves", widgetIsDeletedAsTheCursorLeaves},
         {"widgetIsDeletedInARightPress", widgetIsDeletedInARightPress},
+        {"widgetIsDeletedByATouchpad", widgetIsDeletedByATouchpad},
         {"movedWidgetStaysTheFocus", movedWidgetStaysTheFocus},
         {"activatedWindowBecomesAPart", activatedWindowBecomesAPart},
         {"dyingWindowGetsAChild", dyingWindowGetsAChild},

@@ -27,7 +27,7 @@ void strike(const char* name, Qt::KeyboardModifiers modifiers);
 /// Lets go of the buttons, and returns when all that was done has arrived.
 void finish();
 
-/// Moves the mouse over a window if Qt takes a button for pressed that was released over none.
+/// Moves the mouse over a window if Qt takes a button for pressed that was released over none. After begin().
 void comeBack();
 
 /// What goes on while @p receiver gets @p event: nothing, unless it comes from the window system.

@@ -77,7 +77,7 @@ public:
     /// Takes @p object in as a part of the window: hears its signals and acts on it.
     void add(QObject* object, const Component* component);
     bool isPart(const QObject* object) const;
-    /// The part that @p object is one of inside, which is what hosts delete; or itself.
+    /// The innermost part that @p object is or lies in, which is what hosts delete; or itself.
     QObject* partAround(QObject* object) const;
 
     void addTop(QWidget* widget);

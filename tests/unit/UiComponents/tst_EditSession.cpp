@@ -1620,7 +1620,8 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    // Qt asks whoever ignored the event for its parent.
+    // Qt asks whoever has not accepted the event for its parent. What is deleted is overwritten: a use
+    // crashes.
     void deletedByAWheelWhileAKeyIsHeld()
     {
         const QPointer<QWidget> window = new QWidget;
@@ -1639,6 +1640,30 @@ private Q_SLOTS:
         const FreedMemoryWatch watch;
         qApp->notify(slider, &wheel);
         QVERIFY(!window);
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
+    }
+
+    // The key still reaches the host's shortcut.
+    void deletedByAKeyAfterTheWheel()
+    {
+        QWidget window;
+        QAction action;
+        action.setShortcut(Qt::Key_F5);
+        window.addAction(&action);
+        const QSignalSpy triggered(&action, &QAction::triggered);
+        auto* const slider = new OvCustomSlider(&window);
+        auto* const session = new EditSession(slider);
+        connect(session, &EditSession::committed, this, [slider] { delete slider; });
+        window.show();
+        QApplication::setActiveWindow(&window);
+        slider->setFocus();
+        turnWheel(*slider, 120);
+        QVERIFY(session->isActive());
+        const FreedMemoryWatch watch;
+        QTest::keyPress(window.windowHandle(), Qt::Key_F5);
+        QVERIFY(window.children().isEmpty());
+        QCOMPARE(triggered.count(), 1);
+        QCOMPARE(watch.writtenAfterwards(), std::size_t(0));
     }
 
     void deletedAsItsWindowGoes_data()
