@@ -30,6 +30,7 @@ public:
     int step = 0; // nearest to the value
     double announced = 0.0;
     int announcedStep = 0;
+    bool isReported = false; // what was announced, to a slot
 };
 
 void OvDoubleSlider::Private::takeStep()
@@ -44,6 +45,7 @@ void OvDoubleSlider::Private::takeStep()
     if (q->signalsBlocked()) {
         announced = value;
         announcedStep = step;
+        isReported = false;
     }
 }
 
@@ -68,15 +70,16 @@ void OvDoubleSlider::Private::announce()
 {
     // QAbstractSlider sends the event for another step.
     const bool isWithinStep = std::exchange(announcedStep, q->value()) == q->value();
-    if (value == announced) {
+    const bool isNew = std::exchange(announced, value) != value;
+    isReported = isNew ? hasReceivers() : isReported;
+    if (requested && isReported) {
+        requested = value;
+    }
+    if (!isNew) {
         return;
     }
-    announced = value;
     if (isWithinStep) {
         SliderAccess::announce(q);
-    }
-    if (requested && hasReceivers()) {
-        requested = value;
     }
     Q_EMIT q->doubleValueChanged(value);
 }

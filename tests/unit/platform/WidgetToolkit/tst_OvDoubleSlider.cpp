@@ -377,6 +377,9 @@ private Q_SLOTS:
         slider.blockSignals(false);
         QCOMPARE(slider.doubleValue(), 5.0);
         QCOMPARE(spy.count(), isBlocked ? 0 : 1);
+        // Nor does it say the same value twice.
+        slider.setDoubleValue(7.25);
+        QCOMPARE(spy.count(), isBlocked ? 0 : 1);
         spy.clear();
         slider.setRange(0, 100);
         QCOMPARE(slider.doubleValue(), isBlocked ? 7.25 : 5.0);
