@@ -1936,8 +1936,8 @@
         <translation>فتح مربع الحوار</translation>
     </message>
     <message>
-        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
-        <translation>يكتب عدد البايتات كما يقرؤه المستخدمون، بوحدات اللغة الحالية وأرقامها، بدقة لكل قيمة من 64 بتًا.</translation>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits.</source>
+        <translation>يكتب عدد البايتات كما يقرؤه المستخدمون، بوحدات اللغة الحالية وأرقامها.</translation>
     </message>
     <message>
         <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>

@@ -1936,8 +1936,8 @@
         <translation>Dialog öffnen</translation>
     </message>
     <message>
-        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
-        <translation>Schreibt eine Anzahl Bytes so, wie man sie liest, in Einheiten und Ziffern der gegenwärtigen Sprache, genau für jeden 64-Bit-Wert.</translation>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits.</source>
+        <translation>Schreibt eine Anzahl Bytes so, wie man sie liest, in Einheiten und Ziffern der gegenwärtigen Sprache.</translation>
     </message>
     <message>
         <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>

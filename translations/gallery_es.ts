@@ -1936,8 +1936,8 @@
         <translation>Abrir el diálogo</translation>
     </message>
     <message>
-        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
-        <translation>Escribe un número de bytes como lo leen los usuarios, con las unidades y cifras del idioma actual, exacto para cualquier valor de 64 bits.</translation>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits.</source>
+        <translation>Escribe un número de bytes como lo leen los usuarios, con las unidades y cifras del idioma actual.</translation>
     </message>
     <message>
         <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>

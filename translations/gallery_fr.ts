@@ -1936,8 +1936,8 @@
         <translation>Ouvrir le dialogue</translation>
     </message>
     <message>
-        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
-        <translation>Écrit un nombre d’octets comme l’utilisateur le lit, avec les unités et les chiffres de la langue actuelle, exact pour toute valeur de 64 bits.</translation>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits.</source>
+        <translation>Écrit un nombre d’octets comme l’utilisateur le lit, avec les unités et les chiffres de la langue actuelle.</translation>
     </message>
     <message>
         <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>

@@ -1936,8 +1936,8 @@
         <translation>ダイアログを開く</translation>
     </message>
     <message>
-        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
-        <translation>バイト数を、現在の言語の単位と数字で読みやすく表します。64 ビットのどの値でも正確です。</translation>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits.</source>
+        <translation>バイト数を、現在の言語の単位と数字で読みやすく表します。</translation>
     </message>
     <message>
         <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>

@@ -1936,8 +1936,8 @@
         <translation>打开对话框</translation>
     </message>
     <message>
-        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits, exact for every 64-bit value.</source>
-        <translation>以用户的阅读习惯书写字节数，使用当前语言的单位和数字，对每个 64 位值都精确。</translation>
+        <source>Writes a number of bytes as users read it, in the current language&apos;s units and digits.</source>
+        <translation>以用户的阅读习惯书写字节数，使用当前语言的单位和数字。</translation>
     </message>
     <message>
         <source>Headings are bold where both the language and the title are written in a script that has a tradition of bold type, and plain where bold would hurt legibility. Markup in a title is shown as text.</source>

@@ -361,8 +361,7 @@ void PageRegistry::services(Page* page)
     };
     const Service services[] = {
         {tr("File sizes"),
-         tr("Writes a number of bytes as users read it, in the current language's units and digits, exact "
-            "for every 64-bit value."),
+         tr("Writes a number of bytes as users read it, in the current language's units and digits."),
          &addFileSizes},
         {tr("Headings"),
          tr("Headings are bold where both the language and the title are written in a script that has a "

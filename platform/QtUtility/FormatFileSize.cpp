@@ -19,10 +19,11 @@ constexpr const char* unitTexts[] = {
 };
 constexpr int maxPower = 6;
 
-double rounded(double number, int decimals)
+/// The decimals before the division: a half in thousands is no half as a double, such as 1.005.
+double rounded(double number, double unit, int decimals)
 {
     const double scale = std::pow(10.0, decimals);
-    return std::round(number * scale) / scale + 0.0; // no negative zero
+    return std::round(number * scale / unit) / scale + 0.0; // no negative zero
 }
 
 } // namespace
@@ -39,11 +40,13 @@ QString FormatFileSize(qint64 bytes, int precision, FileSizeUnit unit, int kiloS
     int power = 0;
     int decimals = 0;
     while (isFixed ? power < fixedPower : power < maxPower && std::abs(number) >= kilo) {
-        const double exact = static_cast<double>(bytes) / std::pow(kilo, ++power);
-        decimals = precision >= 0 ? qMin(precision, maxPrecision) : std::abs(exact) < 10 ? 2 : 1;
-        number = rounded(exact, decimals);
+        const double inUnit = std::pow(kilo, ++power);
+        decimals = precision >= 0                                       ? qMin(precision, maxPrecision)
+                   : std::abs(static_cast<double>(bytes)) < 10 * inUnit ? 2
+                                                                        : 1;
+        number = rounded(static_cast<double>(bytes), inUnit, decimals);
     }
-    while (precision < 0 && decimals > 0 && rounded(number, decimals - 1) == number) {
+    while (precision < 0 && decimals > 0 && rounded(number, 1.0, decimals - 1) == number) {
         --decimals;
     }
     const QLocale locale;

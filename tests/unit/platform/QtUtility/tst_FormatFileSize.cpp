@@ -141,6 +141,8 @@ private Q_SLOTS:
         row("decimal", 1500, 1000, "1.5 KB");
         row("decimal bytes", 999, 1000, "999 B");
         row("decimal next unit", 999999, 1000, "1 MB");
+        row("decimal half", 1005, 1000, "1.01 KB");
+        row("decimal half below zero", -8575, 1000, "-8.58 KB");
         row("decimal largest", largest, 1000, "9.22 EB");
         row("decimal smallest", smallest, 1000, "-9.22 EB");
         row("two", 6, 2, "1.5 MB");
