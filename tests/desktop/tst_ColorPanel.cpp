@@ -434,7 +434,7 @@ private:
         return RealInput::pixel(widget, widget->rect().center());
     }
 
-    /// Painted, after the window was exposed. By its last colour.
+    /// Whether the palette's last colour is on the screen: a window is exposed before it is painted.
     bool isPanelOnScreen() const
     {
         return centerOf(facesOf("colorMatrixPanel").constLast()) == QColor(0x39, 0x00, 0x23);

@@ -234,7 +234,7 @@ private Q_SLOTS:
         if (isSettled) {
             settle();
         }
-        for (const int speed : {1, 10, 40}) {
+        for (const int speed : {1, 10, 80}) {
             for (const QPoint& direction : {QPoint(1, 0), QPoint(1, 1), QPoint(0, 1), QPoint(-1, 1),
                                             QPoint(-1, 0), QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1)}) {
                 if (!isSettled) {
