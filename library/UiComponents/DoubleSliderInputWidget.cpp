@@ -6,7 +6,6 @@
 
 #include <WidgetToolkit/OvDoubleSlider.h>
 #include <WidgetToolkit/OvDoubleSpinBox.h>
-#include <WidgetToolkit/Util.h>
 
 #include <QPointer>
 #include <QSignalBlocker>
@@ -29,27 +28,14 @@ DoubleSliderInputWidget::DoubleSliderInputWidget(QWidget* parent, const Initiali
     , d(std::make_unique<Private>(this))
 {
     AccessibleFactory::install();
-    Util::bindWidgets(d->slider, d->spinBox);
-    d->slider->setOrientation(Qt::Horizontal);
     d->spinBox->setBothDecimalMarksAccepted(true);
-    d->spinBox->setAlignment(Qt::AlignCenter);
-    d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     setRange(init);
-
-    // After the binding, whose slots are called first: when the host is notified, both parts show the value.
     connect(d->slider, &OvDoubleSlider::doubleValueChanged, this, &DoubleSliderInputWidget::valueChanged);
     connect(d->spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
             &DoubleSliderInputWidget::valueChanged);
 }
 
-DoubleSliderInputWidget::~DoubleSliderInputWidget()
-{
-    // ~QWidget() hides a window: its spin box loses the focus, commits the typed text and emits, when the
-    // field is only a QWidget.
-    d->slider->disconnect(this);
-    d->spinBox->disconnect(this);
-}
+DoubleSliderInputWidget::~DoubleSliderInputWidget() = default;
 
 double DoubleSliderInputWidget::value() const
 {

@@ -5,7 +5,6 @@
 
 #include <WidgetToolkit/OvCustomSlider.h>
 #include <WidgetToolkit/OvSpinBox.h>
-#include <WidgetToolkit/Util.h>
 
 #include <QPointer>
 #include <QSignalBlocker>
@@ -26,25 +25,12 @@ SliderInputWidget::SliderInputWidget(QWidget* parent, const Initializer& init)
     , d(std::make_unique<Private>(this))
 {
     AccessibleFactory::install();
-    Util::bindWidgets(d->slider, d->spinBox);
     setRange(init);
-    d->slider->setOrientation(Qt::Horizontal);
-    d->spinBox->setAlignment(Qt::AlignCenter);
-    d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    d->spinBox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-
-    // After the binding, whose slots are called first: when the host is notified, both parts show the value.
     connect(d->slider, &QAbstractSlider::valueChanged, this, &SliderInputWidget::valueChanged);
     connect(d->spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &SliderInputWidget::valueChanged);
 }
 
-SliderInputWidget::~SliderInputWidget()
-{
-    // ~QWidget() hides a window: its spin box loses the focus, commits the typed text and emits, when the
-    // field is only a QWidget.
-    d->slider->disconnect(this);
-    d->spinBox->disconnect(this);
-}
+SliderInputWidget::~SliderInputWidget() = default;
 
 int SliderInputWidget::value() const
 {
