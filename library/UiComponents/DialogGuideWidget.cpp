@@ -9,7 +9,6 @@
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
-#include <FileSystem/FS.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 #include <WidgetToolkit/OvFrame.h>
 #include <WidgetToolkit/Util.h>
@@ -179,7 +178,6 @@ void DialogGuideWidget::setInfo(const DialogGuideInfo& info)
     d->gifPixmapWidget->setPicture(info.moviePath);
     // Tab reaches the button that most users need first.
     setTabOrder(d->mainButton, d->gifPixmapWidget);
-    d->gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
     d->headerLabel->setVisible(!info.title.isEmpty());
     setWindowTitle(info.title);
     QTimer::singleShot(0, this, [this] { d->settle(); });

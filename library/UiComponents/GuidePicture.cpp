@@ -2,6 +2,8 @@
 
 #include "AccessibleEvents.h"
 
+#include <FileSystem/FS.h>
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,6 +23,7 @@ void GuidePicture::setPicture(const QString& path)
     setMoviePath(path);
     setFocusPolicy(movie() ? Qt::TabFocus : Qt::NoFocus);
     holdIfStill();
+    setVisible(!path.isEmpty() && FS::exists(path));
 }
 
 void GuidePicture::restart()

@@ -13,7 +13,7 @@ class GuidePicture : public OvPixmapWidget // clazy:exclude=missing-qobject-macr
 public:
     using OvPixmapWidget::OvPixmapWidget;
 
-    /// As setMoviePath(), and stops at the first frame where that is wanted.
+    /// As setMoviePath(), and stops at the first frame where that is wanted. Hidden without a file.
     void setPicture(const QString& path);
 
     /// Plays from the first frame, or shows that one alone.

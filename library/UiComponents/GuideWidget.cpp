@@ -7,7 +7,6 @@
 #include "WrappedLabelHeight.h"
 
 #include <ApplicationUtility/Customization.h>
-#include <FileSystem/FS.h>
 #include <WidgetToolkit/OvBoxLayout.h>
 
 #include <QDesktopServices>
@@ -112,7 +111,6 @@ void GuideWidget::Private::update()
 {
     headerLabel->setVisible(!info.title.isEmpty());
     headerLabel->setText(Customization::localeDependedBoldText(info.title));
-    gifPixmapWidget->setVisible(!info.moviePath.isEmpty() && FS::exists(info.moviePath));
     gifPixmapWidget->setPicture(info.moviePath);
     descriptionLabel->setVisible(!info.description.isEmpty());
     descriptionLabel->setText(info.description);
