@@ -1,6 +1,7 @@
 #include "ClickButton.h"
 
 #include "AbstractColorPicker.h"
+#include "ScopedChange.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -33,13 +34,9 @@ ClickButton::~ClickButton() = default;
 
 void ClickButton::pick(AbstractColorPicker* picker)
 {
-    const QPointer<ClickButton> self = this;
     d->picker = picker;
-    ++d->picksOnStack;
+    const auto picking = scopedChange(d->picksOnStack, d->picksOnStack + 1, this);
     picker->pick();
-    if (self) {
-        --d->picksOnStack;
-    }
 }
 
 void ClickButton::keyPressEvent(QKeyEvent* event)

@@ -5,6 +5,7 @@
 #include "ClickButton.h"
 #include "LabelFocus.h"
 #include "NamedPart.h"
+#include "ScopedChange.h"
 
 #include <DesignElements/TesselLineEdit.h>
 #include <EditorUtility/FileUtil.h>
@@ -18,13 +19,11 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPointer>
-#include <QScopeGuard>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QUrl>
 
 #include <optional>
-#include <utility>
 
 using Orvane::Tessel::TesselLineEdit;
 
@@ -99,17 +98,6 @@ public:
 
     explicit Private(PathSelectionWidget* widget);
 
-    /// While the result lives, changes of the line edit are the widget's own. Slots may delete the widget
-    /// meanwhile.
-    auto markOwnWriting()
-    {
-        const QPointer<PathSelectionWidget> self = q;
-        return qScopeGuard([this, self, before = std::exchange(settingPath, true)] {
-            if (self) {
-                settingPath = before;
-            }
-        });
-    }
     bool isDefaultPathShownByText(const QString& newPath) const;
     void handleFocus(bool hasFocus);
     PathError findError() const;
@@ -132,7 +120,7 @@ public:
     QString defaultPath;
     QString defaultDisplayText;
     std::function<QString(const QString&)> checkFunction;
-    bool settingPath = false;
+    bool settingPath = false; // changes of the line edit are the widget's own
     SpaceFigure requiredSpace;
     SpaceFigure availableSpace;
     PathError shownError;
@@ -181,7 +169,7 @@ bool PathSelectionWidget::Private::isDefaultPathShownByText(const QString& newPa
 void PathSelectionWidget::Private::handleFocus(bool hasFocus)
 {
     if (path == defaultPath) {
-        const auto writing = markOwnWriting();
+        const auto writing = scopedChange(settingPath, true, q);
         pathLineEdit->setText(hasFocus ? QString() : defaultDisplayText);
     }
     Util::applyProperty(pathSelectionFrame, "focusHint", hasFocus);
@@ -312,7 +300,7 @@ void PathSelectionWidget::setPath(const QString& path)
     // @p path may be a reference to d->path.
     const QString newPath = path; // NOLINT(performance-unnecessary-copy-initialization)
     const QPointer<PathSelectionWidget> self = this;
-    const auto writing = d->markOwnWriting();
+    const auto writing = scopedChange(d->settingPath, true, this);
     bool isResettable = true;
     if (d->isDefaultPathShownByText(newPath)) {
         // The user may still be typing another path.

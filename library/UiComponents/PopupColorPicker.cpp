@@ -5,6 +5,7 @@
 #include "ColorPickerWidget.h"
 #include "Pipette.h"
 #include "PopupPosition.h"
+#include "ScopedChange.h"
 #include "ScreenColorSource.h"
 
 #include <EditorWidgets/Workaround.h>
@@ -270,7 +271,7 @@ void PopupColorPicker::Private::show(QWidget* field)
     popup->move(popupPosition(field, popup->size()));
     focusColor(popup->panel);
     // A panel that is shown may find the colour among the user's own, and report its button.
-    isShowingColor = true;
+    const auto showing = scopedChange(isShowingColor, true, q);
     const QPointer<Popup> shown = popup;
     shown->show();
     if (shown && shown->isHidden()) {
@@ -278,11 +279,7 @@ void PopupColorPicker::Private::show(QWidget* field)
         shown->show();
         shown->hide();
     }
-    if (!self) {
-        return;
-    }
-    isShowingColor = false;
-    if (state == State::Picking && popup) {
+    if (self && state == State::Picking && popup) {
         AccessibleEvents::alert(popup);
     }
 }
@@ -291,12 +288,8 @@ void PopupColorPicker::Private::show(QWidget* field)
 void PopupColorPicker::Private::showColor()
 {
     if (popup && popup->panel) {
-        const QPointer<PopupColorPicker> self(q);
-        isShowingColor = true;
+        const auto showing = scopedChange(isShowingColor, true, q);
         popup->panel->setCurrentColor(current);
-        if (self) {
-            isShowingColor = false;
-        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "QuickDialog.h"
 
 #include "QuickContent.h"
+#include "ScopedChange.h"
 
 #include <QtUtility/QmlWindowFocusWorkaround.h>
 
@@ -167,12 +168,7 @@ int Qml::QuickDialog::exec()
         return Rejected;
     }
     const QPointer<QuickDialog> self = this;
-    d->isRunning = true;
-    const auto stopRunning = qScopeGuard([this, self] {
-        if (self) {
-            d->isRunning = false;
-        }
-    });
+    const auto running = scopedChange(d->isRunning, true, this);
     // The result with which the dialog ends, if it does.
     std::optional<int> ending;
     const QObject watch;
