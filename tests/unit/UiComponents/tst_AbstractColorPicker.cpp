@@ -1,11 +1,10 @@
 #include "FakeColorPicker.h"
+#include "OptionalColor.h"
 #include "TestMain.h"
 
 #include <UiComponents/AbstractColorPicker.h>
 
 #include <QtCore/private/qobject_p.h>
-
-using OptionalColor = std::optional<QColor>;
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "AccessibleEars.h"
+#include "Part.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
 
@@ -109,14 +110,6 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
-template <typename Part>
-Part& partOf(const QWidget& widget, const char* name = nullptr)
-{
-    auto* const part = widget.findChild<Part*>(QString::fromLatin1(name));
-    Q_ASSERT(part);
-    return *part;
-}
-
 /// Whether each of @p pressed makes another value of what @p read returns.
 template <typename Read>
 bool changes(Read read, std::initializer_list<Qt::Key> pressed)
@@ -134,7 +127,7 @@ Works emits(Signal signal, Qt::Key key, const char* part)
 {
     return [=](QWidget& widget) {
         QSignalSpy spy(qobject_cast<Widget*>(&widget), signal);
-        partOf<QWidget>(widget, part).setFocus();
+        partOf(widget, part)->setFocus();
         press(key);
         return spy.size() == 1;
     };
@@ -156,11 +149,11 @@ QMap<QString, Works> sliderKeys(const char* name)
         const QVector<Qt::Key> all(pressed);
         return [name, all](QWidget& widget) {
             QWidget* const popup = QApplication::activePopupWidget();
-            auto& slider = partOf<QAbstractSlider>(popup ? *popup : widget, name);
-            slider.setValue((slider.minimum() + slider.maximum()) / 2);
-            slider.setFocus();
-            return std::all_of(all.cbegin(), all.cend(), [&slider](Qt::Key key) {
-                return changes([&slider] { return slider.value(); }, {key});
+            auto* const slider = partOf<QAbstractSlider>(popup ? *popup : widget, name);
+            slider->setValue((slider->minimum() + slider->maximum()) / 2);
+            slider->setFocus();
+            return std::all_of(all.cbegin(), all.cend(), [slider](Qt::Key key) {
+                return changes([slider] { return slider->value(); }, {key});
             });
         };
     };
@@ -203,7 +196,7 @@ QMap<QString, Works> panelKeys()
         const QVector<Qt::Key> all(pressed);
         return [all](QWidget& widget) {
             // In the middle of the palette.
-            const auto buttons = partOf<QWidget>(widget, "colorMatrixPanel").findChildren<QToolButton*>();
+            const auto buttons = partOf(widget, "colorMatrixPanel")->findChildren<QToolButton*>();
             buttons.at(buttons.size() / 2 + 4)->setFocus();
             return std::all_of(all.cbegin(), all.cend(),
                                [](Qt::Key key) { return changes(QApplication::focusWidget, {key}); });
@@ -276,11 +269,11 @@ bool followsLink(QWidget& widget)
     auto& guide = *qobject_cast<GuideWidget*>(&widget);
     guide.setInfo({QStringLiteral("Trim"), QString(), QStringLiteral("<a href='manual:trim'>More</a>"), {}});
     QSignalSpy followed(&guide, &GuideWidget::learnMoreClicked);
-    QWidget& link = partOf<QLabel>(guide, "learnMoreLabel");
-    for (int i = 0; i < 5 && QApplication::focusWidget() != &link; ++i) {
+    QWidget* const link = partOf(guide, "learnMoreLabel");
+    for (int i = 0; i < 5 && QApplication::focusWidget() != link; ++i) {
         QTest::keyClick(&guide, Qt::Key_Tab);
     }
-    QTest::keyClick(&link, Qt::Key_Enter);
+    QTest::keyClick(link, Qt::Key_Enter);
     return followed.size() == 1;
 }
 
@@ -288,10 +281,10 @@ bool pausesPicture(QWidget& widget)
 {
     auto& guide = *qobject_cast<GuideWidget*>(&widget);
     guide.setInfo({QStringLiteral("Trim"), {}, {}, QStringLiteral(UIC_TEST_DATA "/guide.gif")});
-    auto& picture = partOf<OvPixmapWidget>(guide, "gifPixmapWidget");
-    picture.setFocus(Qt::TabFocusReason);
+    auto* const picture = partOf<OvPixmapWidget>(guide, "gifPixmapWidget");
+    picture->setFocus(Qt::TabFocusReason);
     press(Qt::Key_Space);
-    return picture.movie()->state() == QMovie::Paused;
+    return picture->movie()->state() == QMovie::Paused;
 }
 
 QMap<QString, Component> components()
@@ -312,7 +305,7 @@ QMap<QString, Component> components()
     };
     add("ColorInputWidget",
         {[orange] { return new ColorInputWidget(nullptr, orange); },
-         {{space, [](QWidget& widget) { return picks(partOf<ColorPickerButton>(widget)); }}}});
+         {{space, [](QWidget& widget) { return picks(*widget.findChild<ColorPickerButton*>()); }}}});
     add("ColorPickerButton",
         {makeButton,
          {{space, [](QWidget& widget) { return picks(*qobject_cast<ColorPickerButton*>(&widget)); }}}});
@@ -346,7 +339,7 @@ QMap<QString, Component> components()
                                         panel->setCurrentColor(QColor(Qt::red));
                                         panel->show();
                                         QApplication::setActiveWindow(panel);
-                                        partOf<QToolButton>(*panel, "addCustomColorButton").click();
+                                        partOf<QToolButton>(panel, "addCustomColorButton")->click();
                                         QCoreApplication::processEvents();
                                         return panel;
                                     },
@@ -389,12 +382,12 @@ QMap<QString, Component> components()
                                     return field;
                                 },
                                 {{tab, [](QWidget& widget) {
-                                      partOf<QLineEdit>(widget).setFocus();
+                                      widget.findChild<QLineEdit*>()->setFocus();
                                       return changes(QApplication::focusWidget, {Qt::Key_Tab});
                                   }}}});
     add("SearchWidget", {[] { return new SearchWidget; },
                          {{enter, [](QWidget& widget) {
-                               partOf<QLineEdit>(widget).setText(QStringLiteral("blur"));
+                               widget.findChild<QLineEdit*>()->setText(QStringLiteral("blur"));
                                return emits<SearchWidget>(&SearchWidget::editingFinished, Qt::Key_Enter,
                                                           "searchLineEdit")(widget);
                            }}}});

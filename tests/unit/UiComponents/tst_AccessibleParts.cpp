@@ -1,5 +1,6 @@
 #include "AccessibleEars.h"
 #include "MarkingTranslator.h"
+#include "Part.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
 
@@ -28,11 +29,6 @@ Q_DECLARE_METATYPE(End)
 Q_DECLARE_METATYPE(PathSelectionWidget::ErrorDisplayType)
 
 namespace {
-
-QWidget* partOf(const QWidget* widget, const char* name)
-{
-    return widget->findChild<QWidget*>(QLatin1String(name));
-}
 
 QToolButton* paletteButton(const ColorPickerWidget& panel, const char* color)
 {

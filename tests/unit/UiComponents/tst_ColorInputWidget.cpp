@@ -1,10 +1,9 @@
 #include "FakeColorPicker.h"
+#include "OptionalColor.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorInputWidget.h>
 #include <UiComponents/ColorPickerButton.h>
-
-using OptionalColor = std::optional<QColor>;
 
 namespace {
 

@@ -1,12 +1,11 @@
 #include "FakeColorPicker.h"
 #include "FreedMemory.h"
+#include "OptionalColor.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerButton.h>
 
 #include <memory>
-
-using OptionalColor = std::optional<QColor>;
 
 namespace {
 
@@ -20,14 +19,6 @@ FakeColorPicker* installPicker(ColorPickerButton& button)
     auto* picker = new FakeColorPicker;
     button.setPicker(picker);
     return picker;
-}
-
-QString text(const OptionalColor& color)
-{
-    if (!color) {
-        return "several";
-    }
-    return color->isValid() ? color->name(QColor::HexArgb) : "none";
 }
 
 /// Everything that a button and its picker say, in order.

@@ -3,6 +3,7 @@
 #include "MarkingTranslator.h"
 #include "MouseEvents.h"
 #include "OnEvent.h"
+#include "OptionalColor.h"
 #include "RecordingStore.h"
 #include "TestMain.h"
 
@@ -16,7 +17,6 @@
 #include <functional>
 #include <utility>
 
-using OptionalColor = std::optional<QColor>;
 using Orvane::Tessel::TesselLineEdit;
 
 Q_DECLARE_METATYPE(OptionalColor)
@@ -36,14 +36,6 @@ const char* const palette[8][9] = {
 };
 
 const QString orange = QStringLiteral("#ff5d00");
-
-QString text(const OptionalColor& color)
-{
-    if (!color) {
-        return QStringLiteral("multiple");
-    }
-    return color->isValid() ? color->name(QColor::HexArgb) : QStringLiteral("none");
-}
 
 QString sheetOf(const QString& color)
 {
@@ -718,10 +710,10 @@ private Q_SLOTS:
             << QStringLiteral("none");
         QTest::newRow("several colours")
             << true << true << halfRed << several << nothing << QStringLiteral("#multiple") << QString() << 50
-            << QStringLiteral("multiple");
+            << QStringLiteral("several");
         QTest::newRow("several colours after no colour")
             << true << false << none << several << nothing << QStringLiteral("#multiple") << QString() << 100
-            << QStringLiteral("multiple");
+            << QStringLiteral("several");
     }
 
     void setCurrentColor()

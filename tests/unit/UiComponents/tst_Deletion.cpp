@@ -2,6 +2,7 @@
 #include "FakeColorPicker.h"
 #include "FreedMemory.h"
 #include "MouseEvents.h"
+#include "Part.h"
 #include "PickingStage.h"
 #include "PipetteWindows.h"
 #include "QmlFiles.h"
@@ -42,12 +43,6 @@ struct Scene
 };
 
 using Make = std::function<Scene(QWidget* window, const Report& report)>;
-
-template <typename Part>
-Part* part(const QWidget* of, const char* name)
-{
-    return of->findChild<Part*>(QLatin1String(name));
-}
 
 QPoint middle(const QWidget* widget)
 {
@@ -185,14 +180,14 @@ ColorPickerButton* buttonIn(const QWidget* window)
 void chooseInPanel(const QWidget* window)
 {
     buttonIn(window)->startPicking();
-    auto* const edit = part<QLineEdit>(window, "currentColorValueEdit");
+    auto* const edit = partOf<QLineEdit>(window, "currentColorValueEdit");
     edit->selectAll();
     QTest::keyClicks(edit, QStringLiteral("#123456"));
 }
 
 void pressEscapeInPanel(const QWidget* window)
 {
-    QTest::keyPress(part<QWidget>(window, "colorPanelPopup")->windowHandle(), Qt::Key_Escape);
+    QTest::keyPress(partOf(window, "colorPanelPopup")->windowHandle(), Qt::Key_Escape);
 }
 
 GuideInfo guideInfo()
@@ -210,14 +205,14 @@ GuideButton* makeGuideButton(QWidget* window)
 
 void clickLink(QWidget* guide)
 {
-    auto* const label = part<QLabel>(guide, "learnMoreLabel");
+    auto* const label = partOf<QLabel>(guide, "learnMoreLabel");
     QTest::mouseClick(label, Qt::LeftButton, {}, {5, middle(label).y()});
 }
 
 /// As typed, and to be reported by Enter.
 void typeUnreported(QWidget* field, const char* name)
 {
-    auto* const spinBox = part<QAbstractSpinBox>(field, name);
+    auto* const spinBox = partOf<QAbstractSpinBox>(field, name);
     spinBox->setKeyboardTracking(false);
     spinBox->selectAll();
     QTest::keyClick(spinBox, Qt::Key_1);
@@ -385,7 +380,7 @@ private:
                     FakeColorPicker sampler;
                     sampler.onPick = [&sampler] { sampler.preview(QColor(Qt::green)); };
                     static_cast<PopupColorPicker*>(buttonIn(window)->picker())->setPipette(&sampler);
-                    QTest::mouseClick(part<QWidget>(window, "pipetteButton"), Qt::LeftButton);
+                    QTest::mouseClick(partOf(window, "pipetteButton"), Qt::LeftButton);
                 },
                 1, choose);
             ::add<Component>(
@@ -414,7 +409,7 @@ private:
     {
         using Slide = Act<QAbstractSlider>;
         const auto add = [](const char* name, const Slide& act) {
-            const auto slide = [act](QWidget* field) { act(part<QAbstractSlider>(field, "slider")); };
+            const auto slide = [act](QWidget* field) { act(partOf<QAbstractSlider>(field, "slider")); };
             ::add<SliderInputWidget>(
                 QByteArray("slider field, ") + name,
                 [](QWidget* window) {
@@ -446,11 +441,11 @@ private:
         });
         add("value", [](auto* slider) { slider->setValue(7); });
         add("spin box", [](auto* slider) {
-            part<QAbstractSpinBox>(slider->parentWidget(), "spinbox")->setProperty("value", 1);
+            partOf<QAbstractSpinBox>(slider->parentWidget(), "spinbox")->setProperty("value", 1);
         });
         add("Enter", [](auto* slider) {
             typeUnreported(slider->parentWidget(), "spinbox");
-            pressKey(part<QAbstractSpinBox>(slider->parentWidget(), "spinbox"), Qt::Key_Return);
+            pressKey(partOf<QAbstractSpinBox>(slider->parentWidget(), "spinbox"), Qt::Key_Return);
         });
         add("setValue", [](auto* slider) {
             auto* const whole = qobject_cast<SliderInputWidget*>(slider->parentWidget());
@@ -496,10 +491,10 @@ private:
                   [](auto* made) { made->setValue(QPointF(7, 7)); });
         }
         field("spin box", 1,
-              [](auto* made) { part<QAbstractSpinBox>(made, "xSpinbox")->setProperty("value", 7.0); });
+              [](auto* made) { partOf<QAbstractSpinBox>(made, "xSpinbox")->setProperty("value", 7.0); });
         field("Enter", 1, [](auto* made) {
             typeUnreported(made, "xSpinbox");
-            pressKey(part<QAbstractSpinBox>(made, "xSpinbox"), Qt::Key_Return);
+            pressKey(partOf<QAbstractSpinBox>(made, "xSpinbox"), Qt::Key_Return);
         });
     }
 
@@ -509,9 +504,9 @@ private:
             ::add(QByteArray("folder field, ") + name, makeFolderField, signal, act);
         };
         add("browse", &PathSelectionWidget::browseDirectoryRequested,
-            [](auto* field) { QTest::mouseClick(part<QWidget>(field, "pathBrowseButton"), Qt::LeftButton); });
+            [](auto* field) { QTest::mouseClick(partOf(field, "pathBrowseButton"), Qt::LeftButton); });
         add("browse by Space", &PathSelectionWidget::browseDirectoryRequested,
-            [](auto* field) { QTest::keyClick(part<QWidget>(field, "pathBrowseButton"), Qt::Key_Space); });
+            [](auto* field) { QTest::keyClick(partOf(field, "pathBrowseButton"), Qt::Key_Space); });
         add("changed", &PathSelectionWidget::pathChanged, [](auto* field) {
             const QPointer<QWidget> self = field;
             field->setPath(QStringLiteral("/another"));
@@ -521,7 +516,7 @@ private:
         const auto addClick = [](const char* name, const char* button, auto make) {
             QTest::newRow(name) << Make([=](QWidget* window, const Report& report) {
                 auto* const field = make(window);
-                auto* const clicked = part<QAbstractButton>(field, button);
+                auto* const clicked = partOf<QAbstractButton>(field, button);
                 connect(clicked, &QAbstractButton::clicked, field, report);
                 return Scene{field, [=] { QTest::mouseClick(clicked, Qt::LeftButton); }};
             }) << 1;
@@ -529,7 +524,7 @@ private:
         addClick("folder field, reset", "pathResetButton", makeFolderField);
         addClick("search field, clear", "clearSearchButton", [](QWidget* window) {
             auto* const field = new SearchWidget(window);
-            part<QLineEdit>(field, "searchLineEdit")->setText(QStringLiteral("a"));
+            partOf<QLineEdit>(field, "searchLineEdit")->setText(QStringLiteral("a"));
             return field;
         });
         QTest::newRow("folder field, check function") << Make([](QWidget* window, const Report& report) {
@@ -554,7 +549,7 @@ private:
         add("link", clickLink);
         // Qt's text control is in the middle of its own key event.
         add("link by keyboard", [](auto* guide) {
-            auto* const label = part<QLabel>(guide, "learnMoreLabel");
+            auto* const label = partOf<QLabel>(guide, "learnMoreLabel");
             label->setFocus();
             QTest::keyClick(label, Qt::Key_Tab);
             QTest::keyClick(label, Qt::Key_Return);
@@ -578,7 +573,7 @@ private:
                 signal,
                 [name](auto* guide) {
                     guide->show();
-                    QTest::mouseClick(part<QWidget>(guide, name), Qt::LeftButton);
+                    QTest::mouseClick(partOf(guide, name), Qt::LeftButton);
                 });
         };
         bubble("closeButton", &DialogGuideWidget::closeClicked);

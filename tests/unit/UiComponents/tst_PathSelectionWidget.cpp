@@ -1,4 +1,5 @@
 #include "DiskQuestions.h"
+#include "FieldWindow.h"
 #include "MarkingTranslator.h"
 #include "NormalUser.h"
 #include "Part.h"
@@ -98,34 +99,7 @@ private:
     bool m_isOver = false;
 };
 
-/// A field and another one, in an active window.
-class Window : public QWidget
-{
-public:
-    Window()
-        : field(new PathSelectionWidget(this))
-        , other(new QLineEdit(this))
-    {
-        auto* layout = new QVBoxLayout(this);
-        layout->addWidget(field);
-        layout->addWidget(other);
-        resize(400, 120);
-        move(100, 100);
-    }
-
-    bool present()
-    {
-        show();
-        activateWindow();
-        other->setFocus();
-        return QTest::qWaitForWindowActive(this);
-    }
-
-    QLineEdit* edit() const { return editOf(*field); }
-
-    PathSelectionWidget* const field;
-    QLineEdit* const other;
-};
+using Window = FieldWindow<PathSelectionWidget>;
 
 QWidget* toolTipWindow()
 {

@@ -1,3 +1,4 @@
+#include "FieldWindow.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselLineEdit.h>
@@ -63,33 +64,7 @@ private:
     QObject m_context;
 };
 
-/// A search field and another one, in an active window.
-class Window : public QWidget
-{
-public:
-    Window()
-        : search(new SearchWidget(this))
-        , other(new QLineEdit(this))
-    {
-        auto* layout = new QVBoxLayout(this);
-        layout->addWidget(search);
-        layout->addWidget(other);
-        resize(300, 100);
-    }
-
-    bool present()
-    {
-        show();
-        activateWindow();
-        other->setFocus();
-        return QTest::qWaitForWindowActive(this);
-    }
-
-    QLineEdit* edit() const { return editOf(*search); }
-
-    SearchWidget* const search;
-    QLineEdit* const other;
-};
+using Window = FieldWindow<SearchWidget>;
 
 /// Puts the mouse over the middle of @p widget, or far away from all windows, as far as Qt knows.
 void putCursor(const QWidget* widget)
@@ -231,7 +206,7 @@ private Q_SLOTS:
         QVERIFY(window.present());
         QLineEdit* const edit = window.edit();
         edit->setFocus();
-        Protocol protocol(window.search);
+        Protocol protocol(window.field);
         const QStringList steps = story.split("; ");
         for (const QString& step : steps) {
             const QString verb = step.section(' ', 0, 0);
@@ -252,14 +227,14 @@ private Q_SLOTS:
                 QInputMethodEvent composing(object, {});
                 QCoreApplication::sendEvent(edit, &composing);
             } else if (verb == "clear") {
-                window.search->clear();
+                window.field->clear();
             } else if (verb == "click") {
-                QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
+                QTest::mouseClick(buttonOf(*window.field), Qt::LeftButton);
             } else {
                 (verb == "leave" ? window.other : edit)->setFocus();
             }
         }
-        protocol.lines += '\'' + window.search->text() + '\'' + (edit->hasFocus() ? "" : " left");
+        protocol.lines += '\'' + window.field->text() + '\'' + (edit->hasFocus() ? "" : " left");
         QCOMPARE(protocol.lines, lines);
     }
 
@@ -350,11 +325,11 @@ private Q_SLOTS:
         window.edit()->setFocus();
         QTest::keyClicks(window.edit(), "a");
         QTest::keyClick(window.edit(), Qt::Key_Return);
-        QTest::mouseClick(buttonOf(*window.search), Qt::LeftButton);
-        Protocol protocol(window.search);
+        QTest::mouseClick(buttonOf(*window.field), Qt::LeftButton);
+        Protocol protocol(window.field);
         QStringList hints;
-        connect(window.search, &SearchWidget::editingFinished, this,
-                [&] { hints += window.search->property("focusHint").toString(); });
+        connect(window.field, &SearchWidget::editingFinished, this,
+                [&] { hints += window.field->property("focusHint").toString(); });
         window.other->setFocus();
         QCOMPARE(protocol.lines, QStringList({"finished ''"}));
         QCOMPARE(hints, QStringList({"false"}));
@@ -379,7 +354,7 @@ private Q_SLOTS:
         QVERIFY(window.present());
         window.edit()->setFocus();
         QTest::keyClicks(window.edit(), "a");
-        Protocol protocol(window.search);
+        Protocol protocol(window.field);
         QWidget another;
         another.show();
         another.activateWindow();
@@ -527,7 +502,7 @@ private Q_SLOTS:
         QFETCH(QString, occasion);
         Window window;
         QVERIFY(window.present());
-        SearchWidget& search = *window.search;
+        SearchWidget& search = *window.field;
         // Without colours for the properties, which it would write again whenever it is applied.
         search.setStyleSheet("QWidget { color: #dddddd; }"
                              "SearchWidget[focusHint=\"true\"] { border: 1px solid blue; }");
@@ -541,7 +516,7 @@ private Q_SLOTS:
         QTest::keyClicks(window.edit(), "a");
         search.clear();
         window.other->setFocus();
-        window.resize(400, 120);
+        window.resize(300, 100);
         QVERIFY(hasPlaceholderColor(search, before));
 
         if (occasion == "show") {
@@ -604,7 +579,7 @@ private Q_SLOTS:
         window.setStyleSheet(QString::fromLatin1(sheet));
         QVERIFY(window.present());
         QLineEdit* const edit = window.edit();
-        QVERIFY(hasPlaceholderColor(*window.search, expected));
+        QVERIFY(hasPlaceholderColor(*window.field, expected));
         if (how == "focus") {
             edit->setFocus();
             window.other->setFocus();
@@ -626,9 +601,9 @@ private Q_SLOTS:
             window.setEnabled(false);
             expected = Qt::red;
         }
-        QVERIFY(hasPlaceholderColor(*window.search, expected));
+        QVERIFY(hasPlaceholderColor(*window.field, expected));
         QCoreApplication::processEvents();
-        QVERIFY(hasPlaceholderColor(*window.search, expected));
+        QVERIFY(hasPlaceholderColor(*window.field, expected));
     }
 
     // The line edit takes a placeholder of exactly that colour for one that no one chose.
@@ -640,12 +615,12 @@ private Q_SLOTS:
         QVERIFY(window.present());
         const QColor text(0xdd, 0xdd, 0xdd);
         QCOMPARE(window.edit()->palette().color(QPalette::Text), text);
-        QVERIFY(hasPlaceholderColor(*window.search, text));
+        QVERIFY(hasPlaceholderColor(*window.field, text));
         window.edit()->setFocus();
-        QVERIFY(hasPlaceholderColor(*window.search, text));
+        QVERIFY(hasPlaceholderColor(*window.field, text));
         window.other->setFocus();
         window.setStyleSheet(window.styleSheet() + "QWidget { background-color: black; }");
-        QVERIFY(hasPlaceholderColor(*window.search, text));
+        QVERIFY(hasPlaceholderColor(*window.field, text));
     }
 
     void nothingIsSetBeforeTheFirstShow()
@@ -681,15 +656,15 @@ private Q_SLOTS:
     {
         Window window;
         QVERIFY(window.present());
-        QVERIFY(!window.search->property("focusHint").isValid());
+        QVERIFY(!window.field->property("focusHint").isValid());
         window.edit()->setFocus();
-        QCOMPARE(window.search->property("focusHint"), QVariant(true));
+        QCOMPARE(window.field->property("focusHint"), QVariant(true));
         window.other->setFocus();
-        QCOMPARE(window.search->property("focusHint"), QVariant(false));
+        QCOMPARE(window.field->property("focusHint"), QVariant(false));
         // The button is not the field.
         window.edit()->setText("a");
-        buttonOf(*window.search)->setFocus();
-        QCOMPARE(window.search->property("focusHint"), QVariant(false));
+        buttonOf(*window.field)->setFocus();
+        QCOMPARE(window.field->property("focusHint"), QVariant(false));
     }
 
     void focusInPolishesIconAndEdit()
@@ -702,13 +677,13 @@ private Q_SLOTS:
         const auto color = [](const QWidget* widget) {
             return widget->palette().color(QPalette::WindowText);
         };
-        QCOMPARE(color(iconOf(*window.search)), QColor(Qt::blue));
+        QCOMPARE(color(iconOf(*window.field)), QColor(Qt::blue));
         window.edit()->setFocus();
-        QCOMPARE(color(iconOf(*window.search)), QColor(Qt::red));
+        QCOMPARE(color(iconOf(*window.field)), QColor(Qt::red));
         QCOMPARE(color(window.edit()), QColor(Qt::green));
         // Polished when the keyboard comes, not when it goes.
         window.other->setFocus();
-        QCOMPARE(color(iconOf(*window.search)), QColor(Qt::red));
+        QCOMPARE(color(iconOf(*window.field)), QColor(Qt::red));
     }
 
     void eventsAreNotConsumed()
