@@ -35,7 +35,6 @@
 #include <WidgetToolkit/OvSpinBox.h>
 #include <WidgetToolkit/Util.h>
 
-#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -74,21 +73,6 @@ inline QHash<QString, QColor> paletteOf(const QString& style)
         }
     }
     return colors;
-}
-
-/// Of WCAG 2, from 1 (the same) to 21 (black and white).
-inline double contrast(const QColor& one, const QColor& other)
-{
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double part) {
-            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-               0.0722 * linear(color.blueF());
-    };
-    const double lighter = qMax(luminance(one), luminance(other));
-    const double darker = qMin(luminance(one), luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
 }
 
 template <typename Widget>
@@ -177,7 +161,7 @@ inline PathSelectionWidget* makePath(QWidget* parent)
 /// Changes a part of the widget, by its object name.
 inline Change inPart(const char* name, const Change& change)
 {
-    return [name, change](QWidget* widget) { change(widget->findChild<QWidget*>(QLatin1String(name))); };
+    return [name, change](QWidget* widget) { change(partOf(widget, name)); };
 }
 
 inline SearchWidget* makeSearch(QWidget* parent)

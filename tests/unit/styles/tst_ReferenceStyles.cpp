@@ -1,3 +1,4 @@
+#include "Legibility.h"
 #include "StyledWidgets.h"
 
 #include <UiComponents/SheetColors.h>
@@ -444,7 +445,7 @@ private Q_SLOTS:
         QFETCH(double, min);
         const QHash<QString, QColor> colors = paletteOf(style);
         QVERIFY(colors.contains(upper) && colors.contains(lower));
-        const double actual = contrast(colors.value(upper), colors.value(lower));
+        const double actual = Legibility::contrast(colors.value(upper).rgb(), colors.value(lower).rgb());
         QVERIFY2(actual >= min, qPrintable(QString::number(actual)));
     }
 
@@ -477,8 +478,8 @@ private Q_SLOTS:
             {"selection", "field", 3},
         };
         for (const Pair& pair : pairs) {
-            const double actual = contrast(colors.color(QString::fromLatin1(pair.upper)),
-                                           colors.color(QString::fromLatin1(pair.lower)));
+            const double actual = Legibility::contrast(colors.color(QString::fromLatin1(pair.upper)).rgb(),
+                                                       colors.color(QString::fromLatin1(pair.lower)).rgb());
             QVERIFY2(actual >= pair.min,
                      qPrintable(QStringLiteral("%1 on %2: %3")
                                     .arg(QLatin1String(pair.upper), QLatin1String(pair.lower))
@@ -488,11 +489,11 @@ private Q_SLOTS:
         QCheckBox box;
         box.setChecked(true);
         const QImage picture = box.grab().toImage();
-        const QColor accent = colors.color(QStringLiteral("accent"));
+        const QRgb accent = colors.color(QStringLiteral("accent")).rgb();
         double best = 0;
         for (int x = 0; x < 12; ++x) {
             for (int y = 0; y < picture.height(); ++y) {
-                best = qMax(best, contrast(picture.pixelColor(x, y), accent));
+                best = qMax(best, Legibility::contrast(picture.pixel(x, y), accent));
             }
         }
         QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
