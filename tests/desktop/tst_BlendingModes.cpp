@@ -20,8 +20,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         GalleryApplication::prepare();
-        m_style = std::make_unique<StyleController>();
-        QVERIFY(m_style->setStyle(QStringLiteral("dark")));
+        QVERIFY(StyleController().setStyle(QStringLiteral("dark")));
     }
 
     void init()
@@ -85,7 +84,6 @@ private:
                widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
 
-    std::unique_ptr<StyleController> m_style;
     std::unique_ptr<LanguageController> m_language;
     std::unique_ptr<BlendStage> m_window;
     ColorBlendingComboBox* m_box = nullptr;

@@ -21,8 +21,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         GalleryApplication::prepare();
-        m_style = std::make_unique<StyleController>();
-        QVERIFY(m_style->setStyle(QStringLiteral("dark")));
+        QVERIFY(StyleController().setStyle(QStringLiteral("dark")));
     }
 
     void init()
@@ -444,7 +443,6 @@ private:
     static QString nameOf(const QToolButton* face) { return face->styleSheet().mid(18, 7); }
     QColor lastReported() const { return m_reported->constLast().constFirst().value<QColor>(); }
 
-    std::unique_ptr<StyleController> m_style;
     std::unique_ptr<QWidget> m_window;
     QPointer<ColorPickerWidget> m_panel;
     QPointer<ColorPickerButton> m_field;

@@ -1,4 +1,5 @@
 #include "Legibility.h"
+#include "Settle.h"
 #include "TestMain.h"
 
 #include <gallery/GalleryApplication.h>
@@ -54,9 +55,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         window.page()->prepareForPicture();
-        for (int round = 0; round < 4; ++round) {
-            QCoreApplication::processEvents();
-        }
+        settle();
         QStringList all;
         const auto others = QApplication::topLevelWidgets();
         for (QWidget* other : others) {

@@ -1,3 +1,4 @@
+#include "Settle.h"
 #include "TestMain.h"
 
 #include <UiComponents/Translations.h>
@@ -15,13 +16,6 @@
 #include <memory>
 
 namespace {
-
-void settle()
-{
-    for (int i = 0; i < 4; ++i) {
-        QCoreApplication::processEvents();
-    }
-}
 
 void show(QWidget* window)
 {

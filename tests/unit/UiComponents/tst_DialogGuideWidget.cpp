@@ -1,6 +1,7 @@
 #include "AccessibleEars.h"
 #include "GuideStage.h"
 #include "MarkingTranslator.h"
+#include "Settle.h"
 #include "TestMain.h"
 #include "TimerCounter.h"
 
@@ -71,14 +72,6 @@ protected:
 private:
     bool m_painting = false;
 };
-
-/// Lets what is due happen, until nothing is.
-void settle()
-{
-    for (int i = 0; i < 10; ++i) {
-        QCoreApplication::processEvents();
-    }
-}
 
 /// A window with a bubble that points at a spot of it, both shown and settled.
 struct Stage

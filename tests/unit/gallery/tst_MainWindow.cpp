@@ -1,3 +1,4 @@
+#include "Settle.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerButton.h>
@@ -13,18 +14,6 @@
 #include <gallery/StyleController.h>
 #include <gallery/ValueText.h>
 #include <memory>
-
-namespace {
-
-/// A page reads the values of a sheet after it is polished, which it is when it is laid out.
-void settle()
-{
-    for (int i = 0; i < 4; ++i) {
-        QCoreApplication::processEvents();
-    }
-}
-
-} // namespace
 
 class tst_MainWindow : public QObject
 {
@@ -197,7 +186,8 @@ private Q_SLOTS:
         QVERIFY(button("styleSwitch", QString::fromUtf8("File…"))->isChecked());
     }
 
-    // The sheets set properties: after a switch the rows are those of a page that was built in that style.
+    // The sheets set properties, which a page reads after it is laid out: after a switch the rows are those of
+    // a page that was built in that style.
     void propertyRowsFollowTheStyle()
     {
         open();

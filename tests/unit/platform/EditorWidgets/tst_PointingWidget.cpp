@@ -1,5 +1,6 @@
 #include "FakePlatform.h"
 #include "OnEvent.h"
+#include "Settle.h"
 #include "TestMain.h"
 
 #include <EditorWidgets/PointingWidget.h>
@@ -51,14 +52,6 @@ public:
         show();
     }
 };
-
-/// Lets what is due happen, until nothing is.
-void settle()
-{
-    for (int turn = 0; turn < 20; ++turn) {
-        QCoreApplication::processEvents();
-    }
-}
 
 /// The pixel of the bubble that is on the target.
 QPoint tipOf(const PointingWidget& bubble)
