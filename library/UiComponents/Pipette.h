@@ -21,8 +21,8 @@
  *
  * The colour is opaque, and the pixel's without the pipette's windows: a black of alpha 1 of 255 is taken
  * out, below which 127 and 128 are one; where there is none, as on a window above all others, 255 becomes
- * 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's). What may show the pipette, all in the first
- * second and then the loupe's places of the last one, is as last seen. Without a compositor all stands still.
+ * 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's). What may show the pipette is as it was last
+ * seen: all in the first second, then where the loupe was in the last. Without a compositor all stands still.
  *
  * Where no program may read the screen, as on Wayland, the desktop's portal or a host's own ScreenColorSource
  * picks instead, with the same signals. Xwayland shows nothing of other applications: run on Wayland itself.

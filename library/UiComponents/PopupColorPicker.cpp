@@ -271,13 +271,15 @@ void PopupColorPicker::Private::show(QWidget* field)
     popup->move(popupPosition(field, popup->size()));
     focusColor(popup->panel);
     // A panel that is shown may find the colour among the user's own, and report its button.
-    const auto showing = scopedChange(isShowingColor, true, q);
-    const QPointer<Popup> shown = popup;
-    shown->show();
-    if (shown && shown->isHidden()) {
-        // A slot of that has closed it. Qt has gone on, and would never close it again.
+    {
+        const auto showing = scopedChange(isShowingColor, true, q);
+        const QPointer<Popup> shown = popup;
         shown->show();
-        shown->hide();
+        if (shown && shown->isHidden()) {
+            // A slot of that has closed it. Qt has gone on, and would never close it again.
+            shown->show();
+            shown->hide();
+        }
     }
     if (self && state == State::Picking && popup) {
         AccessibleEvents::alert(popup);
