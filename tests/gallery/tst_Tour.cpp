@@ -7,6 +7,7 @@
 #include <gallery/PageRegistry.h>
 #include <gallery/StyleController.h>
 #include <gallery/Tour.h>
+#include <utility>
 
 class tst_Tour : public QObject
 {
@@ -29,14 +30,15 @@ private Q_SLOTS:
         QVERIFY(dark != light);
     }
 
+    // By the program without a display, as ./run starts it, and here.
     void everyPageAlikeEachTime()
     {
         const QTemporaryDir one;
         const QTemporaryDir other;
-        for (const QTemporaryDir* folder : {&one, &other}) {
-            Tour tour(request(folder->path(), QString()));
-            QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
-        }
+        const auto [status, errors] = runGallery({"--tour", one.path()});
+        QVERIFY2(status == 0, errors.constData());
+        Tour tour(request(other.path(), QString()));
+        QVERIFY2(tour.run(), qPrintable(tour.failures().join('\n')));
         const QStringList pictures = QDir(one.path()).entryList(QDir::Files);
         QCOMPARE(pictures.size(), StyleController::builtInStyles().size() * PageRegistry::pages().size());
         for (const QString& name : pictures) {
@@ -46,6 +48,15 @@ private Q_SLOTS:
             QVERIFY2(difference(QImage(one.filePath(name)), QImage(other.filePath(name))) <= tolerance,
                      qPrintable(name));
         }
+    }
+
+    void aPageThatDoesNotExist()
+    {
+        const QTemporaryDir folder;
+        const auto [status, errors] = runGallery({"--tour", folder.path(), "--page", "no-such-page"});
+        QVERIFY(status != 0);
+        QVERIFY2(errors.contains("no-such-page"), errors.constData());
+        QVERIFY(QDir(folder.path()).isEmpty());
     }
 
     void aFolderThatCannotBeMade()
@@ -79,6 +90,21 @@ private Q_SLOTS:
     }
 
 private:
+    /// Exit status and errors.
+    static std::pair<int, QByteArray> runGallery(const QStringList& arguments)
+    {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            environment.remove(name);
+        }
+        QProcess gallery;
+        gallery.setProcessEnvironment(environment);
+        gallery.start(UIC_GALLERY, arguments);
+        gallery.waitForFinished(-1);
+        return {gallery.exitStatus() == QProcess::NormalExit ? gallery.exitCode() : -1,
+                gallery.readAllStandardError()};
+    }
+
     /// The largest between the channels of two pixels in one place.
     static int difference(const QImage& one, const QImage& other)
     {

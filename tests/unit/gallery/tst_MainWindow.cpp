@@ -186,8 +186,8 @@ private Q_SLOTS:
         QVERIFY(button("styleSwitch", QString::fromUtf8("File…"))->isChecked());
     }
 
-    // The sheets set properties, which a page reads after it is laid out: after a switch the rows are those of
-    // a page that was built in that style.
+    // The sheets set properties, which a page reads after it is laid out: after a switch the rows are those
+    // of a page that was built in that style.
     void propertyRowsFollowTheStyle()
     {
         open();
