@@ -32,15 +32,15 @@ constexpr std::array<const char*, 2> colorAxes{QT_TRANSLATE_NOOP("CustomColorSel
 /// Components that are groups of their parts.
 bool isGroup(const QString& className)
 {
-    static const QStringList groups{QStringLiteral("ColorInputWidget"),
-                                    QStringLiteral("ColorPickerWidget"),
-                                    QStringLiteral("CustomColorSelectWidget"),
-                                    QStringLiteral("SliderInputWidget"),
-                                    QStringLiteral("DoubleSliderInputWidget"),
-                                    QStringLiteral("PointSelectorWidget"),
-                                    QStringLiteral("PathSelectionWidget"),
-                                    QStringLiteral("SearchWidget"),
-                                    QStringLiteral("GuideWidget")};
+    static const QStringList groups{QString::fromLatin1("ColorInputWidget"),
+                                    QString::fromLatin1("ColorPickerWidget"),
+                                    QString::fromLatin1("CustomColorSelectWidget"),
+                                    QString::fromLatin1("SliderInputWidget"),
+                                    QString::fromLatin1("DoubleSliderInputWidget"),
+                                    QString::fromLatin1("PointSelectorWidget"),
+                                    QString::fromLatin1("PathSelectionWidget"),
+                                    QString::fromLatin1("SearchWidget"),
+                                    QString::fromLatin1("GuideWidget")};
     return groups.contains(className);
 }
 

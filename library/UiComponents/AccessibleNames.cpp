@@ -152,7 +152,7 @@ QString AccessibleNames::plainText(const QLabel* label)
         // Without the files that a document would load.
         text = QTextDocumentFragment::fromHtml(text).toPlainText();
     }
-    text.replace(QRegularExpression(QStringLiteral("&(.)")), QStringLiteral("\\1"));
+    text.replace(QRegularExpression(QString::fromLatin1("&(.)")), QString::fromLatin1("\\1"));
     text = text.trimmed();
     if (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xff1a))) {
         text.chop(1);
@@ -185,10 +185,10 @@ QString AccessibleNames::sentences(const QString& first, const QString& second)
     if (first.isEmpty() || second.isEmpty()) {
         return first + second;
     }
-    if (QStringLiteral("\u3002\uff01\uff1f").contains(first.back())) {
+    if (QString::fromUtf8("\u3002\uff01\uff1f").contains(first.back())) {
         return first + second;
     }
-    if (QStringLiteral(".!?").contains(first.back())) {
+    if (QString::fromLatin1(".!?").contains(first.back())) {
         return first + QLatin1Char(' ') + second;
     }
     return QCoreApplication::translate("AccessibleNames", "%1. %2", "Two sentences").arg(first, second);

@@ -57,7 +57,7 @@ const QWidget* markedField(const QWidget* edit)
 /// The message below @p field, while it shows one.
 QLabel* messageOf(const QWidget* field)
 {
-    auto* const label = field ? field->findChild<QLabel*>(QStringLiteral("errorLabel")) : nullptr;
+    auto* const label = field ? field->findChild<QLabel*>(QString::fromLatin1("errorLabel")) : nullptr;
     return label && !label->isHidden() ? label : nullptr;
 }
 
@@ -161,7 +161,7 @@ AccessibleMessage::relations(QAccessible::Relation match) const
     QVector<QPair<QAccessibleInterface*, QAccessible::Relation>> found;
     const QWidget* const field = AccessibleNames::componentOf(widget());
     if (match.testFlag(QAccessible::Controller) && messageOf(field)) {
-        auto* const edit = field->findChild<QLineEdit*>(QStringLiteral("pathLineEdit"));
+        auto* const edit = field->findChild<QLineEdit*>(QString::fromLatin1("pathLineEdit"));
         found.append({interfaceOf(edit), QAccessible::Controller});
     }
     return found;

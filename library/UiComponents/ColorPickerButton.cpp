@@ -22,9 +22,9 @@ constexpr int minFaceSize = 16;
 QString faceStyleSheet(const QColor& color, bool enabled)
 {
     if (!color.isValid()) {
-        return QStringLiteral("background: transparent;");
+        return QString::fromLatin1("background: transparent;");
     }
-    return QStringLiteral("background: rgba(%1, %2, %3, %4)")
+    return QString::fromLatin1("background: rgba(%1, %2, %3, %4)")
         .arg(color.red())
         .arg(color.green())
         .arg(color.blue())
@@ -55,7 +55,7 @@ ColorPickerButton::Private::Private(ColorPickerButton* button)
     : q(button)
     , face(new QWidget(button))
 {
-    face->setObjectName(QStringLiteral("color"));
+    face->setObjectName(QString::fromLatin1("color"));
     face->setAttribute(Qt::WA_TransparentForMouseEvents);
     face->setMinimumSize(minFaceSize, minFaceSize);
 

@@ -371,7 +371,7 @@ void ColorPickerWidget::Private::buildQueue()
 
 void ColorPickerWidget::Private::configureInputs() const
 {
-    const QRegExp sixDigits(QStringLiteral("^(#?)[a-fA-F0-9]{6}$"), Qt::CaseSensitive);
+    const QRegExp sixDigits(QString::fromLatin1("^(#?)[a-fA-F0-9]{6}$"), Qt::CaseSensitive);
     currentColorValueEdit->setValidator(new QRegExpValidator(sixDigits, currentColorValueEdit));
     currentColorDisplayLabel->setMinimumSize(barePreviewSize, barePreviewSize);
 
@@ -380,7 +380,7 @@ void ColorPickerWidget::Private::configureInputs() const
     opacitySlider->setMultiplier(1.0 / opacitySteps);
     opacitySlider->setValue(opacitySlider->maximum());
     opacitySpinbox->setRange(0, opacitySteps);
-    opacitySpinbox->setSuffix(QStringLiteral("%"));
+    opacitySpinbox->setSuffix(QString::fromLatin1("%"));
     opacitySpinbox->setButtonSymbols(QAbstractSpinBox::NoButtons);
     opacitySpinbox->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     Util::bindWidgets(opacitySlider, opacitySpinbox);
@@ -545,9 +545,9 @@ void ColorPickerWidget::Private::updateColorButtonsCheckState()
 void ColorPickerWidget::Private::updateColorValueWidgets() const
 {
     updatePreview();
-    QString text = QStringLiteral("#multiple");
+    QString text = QString::fromLatin1("#multiple");
     if (currentColor) {
-        text = currentColor->isValid() ? currentColor->name() : QStringLiteral("#null");
+        text = currentColor->isValid() ? currentColor->name() : QString::fromLatin1("#null");
     }
     if (currentColorValueEdit->text() == text) {
         return;

@@ -5,8 +5,8 @@
 
 QString ColorPickerWidgetFaces::styleSheet(const QColor& color)
 {
-    return QStringLiteral("background-color: %1;")
-        .arg(color.isValid() ? color.name() : QStringLiteral("transparent"));
+    return QString::fromLatin1("background-color: %1;")
+        .arg(color.isValid() ? color.name() : QString::fromLatin1("transparent"));
 }
 
 void ColorPickerWidgetFaces::paint(QWidget* widget, const QColor& color)

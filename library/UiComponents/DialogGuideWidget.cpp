@@ -115,8 +115,8 @@ DialogGuideWidget::Private::Private(DialogGuideWidget* bubble)
     (new OvHBoxLayout(buttonsFrame))
         ->addItems({{LayoutHelpers::SpacerPolicy::Stretch, 1}, {secondaryButton, 0}, {mainButton, 0}});
 
-    Util::applyStyleHint(secondaryButton, QStringLiteral("guideButton"));
-    Util::applyStyleHint(mainButton, QStringLiteral("guideMainButton"));
+    Util::applyStyleHint(secondaryButton, QString::fromLatin1("guideButton"));
+    Util::applyStyleHint(mainButton, QString::fromLatin1("guideMainButton"));
 }
 
 void DialogGuideWidget::Private::watchParent()

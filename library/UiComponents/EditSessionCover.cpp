@@ -116,8 +116,8 @@ void EditSessionCover::cover(QWidget* part)
     }
     part->installEventFilter(this);
     const auto* const edit = qobject_cast<QLineEdit*>(part);
-    auto* label = new QLabel(QStringLiteral("\u2013"), part);
-    label->setObjectName(QStringLiteral("multiValueCover"));
+    auto* label = new QLabel(QString::fromUtf8("\u2013"), part);
+    label->setObjectName(QString::fromLatin1("multiValueCover"));
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->setAutoFillBackground(true);
     label->setBackgroundRole(edit ? QPalette::Base : QPalette::Button);

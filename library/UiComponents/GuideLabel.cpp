@@ -28,7 +28,7 @@ public:
     {
         QUrl local = url;
         if (local.scheme().isEmpty()) {
-            local.setScheme(QStringLiteral("file"));
+            local.setScheme(QString::fromLatin1("file"));
         }
         // Qt tries both, for a name may have characters that mean something in a URL.
         const auto paths = {local.toLocalFile(), url.toString()};
@@ -37,7 +37,7 @@ public:
             return file.exists() && !file.isFile() && !file.isDir();
         });
         if (isSpecial && type == QTextDocument::ImageResource) {
-            return QPixmap(QStringLiteral(":/qt-project.org/styles/commonstyle/images/file-16.png"));
+            return QPixmap(QString::fromLatin1(":/qt-project.org/styles/commonstyle/images/file-16.png"));
         }
         return isSpecial ? QVariant(QLatin1String("")) : QVariant();
     }

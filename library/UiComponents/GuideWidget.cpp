@@ -51,7 +51,7 @@ protected:
 /// Whether the text has a link for Tab to stop at.
 bool hasLink(const QString& text)
 {
-    static const QRegularExpression anchor(QStringLiteral("<a\\s[^>]*href\\s*="),
+    static const QRegularExpression anchor(QString::fromLatin1("<a\\s[^>]*href\\s*="),
                                            QRegularExpression::CaseInsensitiveOption);
     return Qt::mightBeRichText(text) && text.contains(anchor);
 }

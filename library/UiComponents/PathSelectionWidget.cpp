@@ -42,8 +42,8 @@ QString literalToolTip(const QString& text)
     if (!Qt::mightBeRichText(text)) {
         return text;
     }
-    return QStringLiteral("<span style=\"white-space: pre-wrap\">") + text.toHtmlEscaped() +
-           QStringLiteral("</span>");
+    return QString::fromLatin1("<span style=\"white-space: pre-wrap\">") + text.toHtmlEscaped() +
+           QString::fromLatin1("</span>");
 }
 
 } // namespace
@@ -79,8 +79,8 @@ public:
         void write()
         {
             using namespace Orvane::Util;
-            const QString size =
-                *m_bytes < 0 ? QStringLiteral("...") : FormatFileSize(*m_bytes, -1, FileSizeUnit::Auto, 1024);
+            const QString size = *m_bytes < 0 ? QString::fromLatin1("...")
+                                              : FormatFileSize(*m_bytes, -1, FileSizeUnit::Auto, 1024);
             m_label->setText(PathSelectionWidget::tr(m_text).arg(size));
         }
 
@@ -145,8 +145,8 @@ PathSelectionWidget::Private::Private(PathSelectionWidget* widget)
     (new OvHBoxLayout(spaceInfoFrame))->autoFill()->addStretch(0);
     (new OvHBoxLayout(pathSelectionFrame))->autoFill()->setStretch(0, 1);
 
-    Util::applyProperty(pathLineEdit, "kitVersion", QStringLiteral("1.0"));
-    Util::applyStyleHint(errorLabel, QStringLiteral("error"));
+    Util::applyProperty(pathLineEdit, "kitVersion", QString::fromLatin1("1.0"));
+    Util::applyStyleHint(errorLabel, QString::fromLatin1("error"));
     errorLabel->setTextFormat(Qt::PlainText);
     // A message quotes paths, which must not widen the panel.
     errorLabel->setWordWrap(true);
@@ -210,7 +210,7 @@ void PathSelectionWidget::Private::showError(const PathError& error)
 {
     pathLineEdit->setFocus(Qt::OtherFocusReason);
     pathLineEdit->selectAll();
-    Util::applyStyleHint(pathSelectionFrame, QStringLiteral("error"));
+    Util::applyStyleHint(pathSelectionFrame, QString::fromLatin1("error"));
     shownError = error;
     if (errorDisplayType == Tooltip) {
         const QString tip = literalToolTip(error.message);

@@ -17,8 +17,8 @@ namespace {
 
 void makeBare(QWidget* widget)
 {
-    widget->setStyleSheet(QStringLiteral("border: none; background: transparent; "
-                                         "margin: 0px 0px 0px 0px; padding: 0px 0px 0px 0px;"));
+    widget->setStyleSheet(QString::fromLatin1("border: none; background: transparent; "
+                                              "margin: 0px 0px 0px 0px; padding: 0px 0px 0px 0px;"));
     widget->ensurePolished();
 }
 

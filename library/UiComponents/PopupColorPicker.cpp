@@ -56,7 +56,7 @@ void focusColor(const ColorPickerWidget* panel)
             return;
         }
     }
-    if (auto* edit = panel->findChild<QLineEdit*>(QStringLiteral("currentColorValueEdit"))) {
+    if (auto* edit = panel->findChild<QLineEdit*>(QString::fromLatin1("currentColorValueEdit"))) {
         edit->setFocus(Qt::PopupFocusReason);
         edit->selectAll();
     }
@@ -146,14 +146,14 @@ PopupColorPicker::Popup::Popup(QWidget* window, const Options& panelOptions)
     , options(panelOptions)
     , panel(new ColorPickerWidget(this, panelOptions.nullColor))
 {
-    setObjectName(QStringLiteral("colorPanelPopup"));
+    setObjectName(QString::fromLatin1("colorPanelPopup"));
     setFrameShape(QFrame::StyledPanel);
     setProperty("roundedEdges", true);
     Workaround::Ui::apply(this);
     (new OvVBoxLayout(this))->autoFill()->setSizeConstraint(QLayout::SetFixedSize);
 
     panel->setOpacityAdjustmentAvailable(options.opacity);
-    if (auto* ownColors = panel->findChild<QWidget*>(QStringLiteral("otherColorsPanel"))) {
+    if (auto* ownColors = panel->findChild<QWidget*>(QString::fromLatin1("otherColorsPanel"))) {
         ownColors->setVisible(options.customColors);
     }
     // An empty pop-up is of no use.
@@ -300,7 +300,7 @@ void PopupColorPicker::Private::showPipetteState() const
 {
     QString reason = hostsPipette ? QString() : Pipette::unavailableReason();
     auto* const button = popup && popup->panel
-                             ? popup->panel->findChild<QToolButton*>(QStringLiteral("pipetteButton"))
+                             ? popup->panel->findChild<QToolButton*>(QString::fromLatin1("pipetteButton"))
                              : nullptr;
     if (button) {
         button->setEnabled(reason.isEmpty());

@@ -115,7 +115,7 @@ Qml::QuickDialog::Private::Private(QuickDialog* dialog)
     : q(dialog)
 {
     q->setAttribute(Qt::WA_TranslucentBackground);
-    content->qmlContext()->setContextProperty(QStringLiteral("callback"), q);
+    content->qmlContext()->setContextProperty(QString::fromLatin1("callback"), q);
     Orvane::Util::ApplyQmlWindowFocusWorkaround(q, content->getUiContent());
 }
 

@@ -16,24 +16,24 @@ namespace {
 
 QString serviceName()
 {
-    return QStringLiteral("org.freedesktop.portal.Desktop");
+    return QString::fromLatin1("org.freedesktop.portal.Desktop");
 }
 
 QString screenshotInterface()
 {
-    return QStringLiteral("org.freedesktop.portal.Screenshot");
+    return QString::fromLatin1("org.freedesktop.portal.Screenshot");
 }
 
 QString requestInterface()
 {
-    return QStringLiteral("org.freedesktop.portal.Request");
+    return QString::fromLatin1("org.freedesktop.portal.Request");
 }
 
 /// A call of the object that has all of the portal's methods.
 QDBusMessage portalCall(const QString& interface, const QString& method, const QVariantList& arguments)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        serviceName(), QStringLiteral("/org/freedesktop/portal/desktop"), interface, method);
+        serviceName(), QString::fromLatin1("/org/freedesktop/portal/desktop"), interface, method);
     call.setArguments(arguments);
     return call;
 }
@@ -41,7 +41,7 @@ QDBusMessage portalCall(const QString& interface, const QString& method, const Q
 QString nextToken()
 {
     static uint count = 0;
-    return QStringLiteral("uicomponents%1").arg(++count);
+    return QString::fromLatin1("uicomponents%1").arg(++count);
 }
 
 /// The path of the request with @p token, by the portal's convention. So its signal can be connected before
@@ -49,7 +49,7 @@ QString nextToken()
 QString requestPath(const QDBusConnection& bus, const QString& token)
 {
     const QString sender = bus.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
-    return QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token);
+    return QString::fromLatin1("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token);
 }
 
 ScreenColorPortal::Trouble troubleOf(const QDBusError& error)
@@ -132,8 +132,8 @@ std::unique_ptr<QObject> ScreenColorPortal::pick(QWindow* parent, Answer answer)
 void ScreenColorPortal::askForVersion()
 {
     const QDBusMessage question =
-        portalCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
-                   {screenshotInterface(), QStringLiteral("version")});
+        portalCall(QString::fromLatin1("org.freedesktop.DBus.Properties"), QString::fromLatin1("Get"),
+                   {screenshotInterface(), QString::fromLatin1("version")});
     auto* const watcher = new QDBusPendingCallWatcher(send(question), this);
     m_question = watcher;
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -172,7 +172,7 @@ PortalRequest::PortalRequest(ScreenColorPortal* portal, const QString& parentHan
 {
     const QString token = nextToken();
     m_path = requestPath(m_bus, token);
-    m_bus.connect(serviceName(), m_path, requestInterface(), QStringLiteral("Response"), this,
+    m_bus.connect(serviceName(), m_path, requestInterface(), QString::fromLatin1("Response"), this,
                   SLOT(takeResponse(uint, QVariantMap)));
     auto* const life =
         new QDBusServiceWatcher(serviceName(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
@@ -187,9 +187,10 @@ PortalRequest::PortalRequest(ScreenColorPortal* portal, const QString& parentHan
         },
         Qt::QueuedConnection);
 
-    const QVariantMap options = {{QStringLiteral("handle_token"), token}};
+    const QVariantMap options = {{QString::fromLatin1("handle_token"), token}};
     auto* const call = new QDBusPendingCallWatcher(
-        portal->send(portalCall(screenshotInterface(), QStringLiteral("PickColor"), {parentHandle, options})),
+        portal->send(
+            portalCall(screenshotInterface(), QString::fromLatin1("PickColor"), {parentHandle, options})),
         portal);
     const QPointer<PortalRequest> self = this;
     connect(call, &QDBusPendingCallWatcher::finished, call, [self, call, bus = m_bus, path = m_path] {
@@ -216,7 +217,7 @@ void PortalRequest::takeResponse(uint code, const QVariantMap& results)
 {
     enum Code : uint { Done, GivenUp };
     m_isTaken = false;
-    const QColor color = portalColor(results.value(QStringLiteral("color")));
+    const QColor color = portalColor(results.value(QString::fromLatin1("color")));
     if (code == GivenUp) {
         finish({});
     } else if (code == Done && color.isValid()) {
@@ -252,7 +253,7 @@ void PortalRequest::finish(const ScreenColorSource::Result& result)
 void PortalRequest::close(const QDBusConnection& bus, const QString& path)
 {
     QDBusMessage call =
-        QDBusMessage::createMethodCall(serviceName(), path, requestInterface(), QStringLiteral("Close"));
+        QDBusMessage::createMethodCall(serviceName(), path, requestInterface(), QString::fromLatin1("Close"));
     call.setAutoStartService(false);
     bus.send(call);
 }
@@ -263,7 +264,7 @@ QString portalHandle(const QWindow* window)
     if (!window || !window->handle() || QGuiApplication::platformName() != QLatin1String("xcb")) {
         return {};
     }
-    return QStringLiteral("x11:") + QString::number(window->winId(), hexadecimal);
+    return QString::fromLatin1("x11:") + QString::number(window->winId(), hexadecimal);
 }
 
 QColor portalColor(const QVariant& value)

@@ -28,7 +28,7 @@ class NoLeadingBlank : public QRegExpValidator // clazy:exclude=missing-qobject-
 {
 public:
     explicit NoLeadingBlank(QObject* parent)
-        : QRegExpValidator(QRegExp(QStringLiteral("^\\S.*")), parent)
+        : QRegExpValidator(QRegExp(QString::fromLatin1("^\\S.*")), parent)
     {
     }
 

@@ -108,8 +108,8 @@ SheetColors::~SheetColors() = default;
 QStringList SheetColors::names()
 {
     QStringList names = SheetColorsProvider::names();
-    names.removeOne(QStringLiteral("radius"));
-    names.removeOne(QStringLiteral("spacing"));
+    names.removeOne(QString::fromLatin1("radius"));
+    names.removeOne(QString::fromLatin1("spacing"));
     return names;
 }
 
@@ -120,10 +120,10 @@ QColor SheetColors::color(const QString& name) const
 
 int SheetColors::radius() const
 {
-    return d->provider.value(QStringLiteral("radius")).toInt();
+    return d->provider.value(QString::fromLatin1("radius")).toInt();
 }
 
 int SheetColors::spacing() const
 {
-    return d->provider.value(QStringLiteral("spacing")).toInt();
+    return d->provider.value(QString::fromLatin1("spacing")).toInt();
 }

@@ -27,7 +27,7 @@ namespace {
 QString catalogues()
 {
     initCatalogues();
-    return QStringLiteral(":/uicomponents/translations");
+    return QString::fromLatin1(":/uicomponents/translations");
 }
 
 // By its translation Qt takes the direction of a new language, with or without a catalogue of its own.
@@ -60,8 +60,8 @@ Texts* texts()
 /// QTranslator takes no folder for the current one.
 bool loadComponents(const QLocale& locale, const QString& folder)
 {
-    return !folder.isEmpty() &&
-           texts()->components.load(locale, QStringLiteral("uicomponents"), QStringLiteral("_"), folder);
+    return !folder.isEmpty() && texts()->components.load(locale, QString::fromLatin1("uicomponents"),
+                                                         QString::fromLatin1("_"), folder);
 }
 
 /// The first language of @p locale that @p folder or the library has.
@@ -76,15 +76,15 @@ bool loadFirst(const QLocale& locale, const QString& folder)
 
 bool loadQt(const QString& code, const QString& folder)
 {
-    return !folder.isEmpty() && texts()->qt.load(QStringLiteral("qtbase_") + code, folder);
+    return !folder.isEmpty() && texts()->qt.load(QString::fromLatin1("qtbase_") + code, folder);
 }
 
 } // namespace
 
 QStringList Translations::languages(const QString& folder)
 {
-    const QString prefix = QStringLiteral("uicomponents_");
-    const QString suffix = QStringLiteral(".qm");
+    const QString prefix = QString::fromLatin1("uicomponents_");
+    const QString suffix = QString::fromLatin1(".qm");
     QStringList codes;
     for (const QString& place : {catalogues(), folder}) {
         const QStringList names =

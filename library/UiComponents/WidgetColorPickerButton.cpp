@@ -75,7 +75,7 @@ void WidgetColorPickerButton::setColor(const QColor& color)
     d->color = color;
     if (d->changeSelfColor) {
         Util::applyProperty(this, "nullColor", !color.isValid());
-        setStyleSheet(QStringLiteral("QToolButton { background-color: %1 }").arg(color.name()));
+        setStyleSheet(QString::fromLatin1("QToolButton { background-color: %1 }").arg(color.name()));
         update();
     }
     AccessibleEvents::valueChanged(this);

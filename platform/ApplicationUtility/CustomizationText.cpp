@@ -57,7 +57,7 @@ QString CustomizationText::label(const QString& title, bool bold)
     for (const QChar mark : {QChar(0xfdd0), QChar(0xfdd1)}) {
         text.replace(mark, QChar(QChar::ReplacementCharacter));
     }
-    const QString element = bold ? QStringLiteral("b") : QStringLiteral("span");
+    const QString element = bold ? QString::fromLatin1("b") : QString::fromLatin1("span");
     return QLatin1Char('<') + element + QLatin1String(" style=\"white-space: pre-wrap\">") + text +
            QLatin1String("</") + element + QLatin1Char('>');
 }

@@ -15,7 +15,7 @@ void Orvane::Tessel::convertComboBoxToTessel(OvComboBox* comboBox)
     }
     QAbstractItemView* const view = comboBox->view();
     if (view->objectName().isEmpty()) {
-        view->setObjectName(QStringLiteral("tesselComboBoxView"));
+        view->setObjectName(QString::fromLatin1("tesselComboBoxView"));
     }
     // Qt's own delegates ignore ::item rules.
     const QAbstractItemDelegate* const delegate = comboBox->itemDelegate();

@@ -74,7 +74,7 @@ void TesselLineEdit::dimPlaceholder()
 
 void TesselLineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
-    const QString menuName = QStringLiteral("tesselContextMenu");
+    const QString menuName = QString::fromLatin1("tesselContextMenu");
     // Code may open a menu while one is open, which would stay behind it.
     const auto openMenus = findChildren<QMenu*>(menuName, Qt::FindDirectChildrenOnly);
     for (QMenu* open : openMenus) {

@@ -21,7 +21,7 @@ bool isStorable(const QString& text)
 QString rootOf(const QString& path)
 {
     if (path.startsWith(QLatin1Char('/'))) {
-        return QStringLiteral("/");
+        return QString::fromLatin1("/");
     }
     // A path without a slash is absolute only where paths begin with a drive.
     return QDir::isAbsolutePath(path) ? path.left(path.indexOf(QLatin1Char(':')) + 1) + QLatin1Char('/')
@@ -47,7 +47,7 @@ QString above(const QString& folder)
     }
     // The parent of a link's target is not the parent of the link.
     if (folder.isEmpty() || name == QLatin1String("..") || QFileInfo(folder).isSymLink()) {
-        return below(folder, QStringLiteral(".."));
+        return below(folder, QString::fromLatin1(".."));
     }
     const int slash = folder.size() - name.size() - 1;
     return slash < 0 ? QString() : folder.left(qMax(slash, rootOf(folder).size()));
@@ -108,7 +108,7 @@ FileUtilWalk::Result FileUtilWalk::walk(const QString& path)
         ++missing;
     }
     if (result.closest.isEmpty()) {
-        result.closest = QStringLiteral(".");
+        result.closest = QString::fromLatin1(".");
     }
     return result;
 }

@@ -98,7 +98,7 @@ PointingWidget::Private::Private(PointingWidget* bubble)
     , contentFrame(new OvFrame(bubble))
     , layout(new QVBoxLayout(bubble))
 {
-    contentFrame->setObjectName(QStringLiteral("contentFrame"));
+    contentFrame->setObjectName(QString::fromLatin1("contentFrame"));
     layout->setSpacing(0);
     // fit() keeps the minimum size. The layout would set it in a resize of its own, and window managers lose
     // the second of two.

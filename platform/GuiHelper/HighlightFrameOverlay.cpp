@@ -8,7 +8,7 @@
 
 HighlightFrameOverlay::HighlightFrameOverlay()
 {
-    setObjectName(QStringLiteral("highlightFrame"));
+    setObjectName(QString::fromLatin1("highlightFrame"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
 }

@@ -21,7 +21,7 @@ constexpr qint64 maxFileSize = qint64(64) * 1024 * 1024;
 /// not exist.
 QStringList filesOf(const QString& organization, const QString& application, QSettings::Format format)
 {
-    const QString nobody = QStringLiteral("no-organization");
+    const QString nobody = QString::fromLatin1("no-organization");
     QStringList folders;
     QString own;
     QString shared;
@@ -95,7 +95,7 @@ void keepWhatIsLost(const QByteArray& before, const QString& path, const QString
     if (linesOf(contentsOf(path), key).contains(linesOf(before, key))) {
         return;
     }
-    QTemporaryFile copy(path + QStringLiteral(".before-XXXXXX"));
+    QTemporaryFile copy(path + QString::fromLatin1(".before-XXXXXX"));
     copy.setAutoRemove(false);
     const bool isKept = copy.open() && copy.write(before) == before.size();
     qWarning("QSettings dropped lines of %s, now in %s", qUtf8Printable(path),

@@ -22,7 +22,7 @@ State& state()
 
 QString customColorsKey()
 {
-    return QStringLiteral("userCustomColors");
+    return QString::fromLatin1("userCustomColors");
 }
 
 /// The store may return the list in another type, or a value of another program.

@@ -3,8 +3,8 @@
 QUrl StandardFolderUrls::myComputerUrl()
 {
 #ifdef Q_OS_WIN
-    return QUrl(QStringLiteral("file:"));
+    return QUrl(QString::fromLatin1("file:"));
 #else
-    return QUrl(QStringLiteral("file:///"));
+    return QUrl(QString::fromLatin1("file:///"));
 #endif
 }

@@ -14,14 +14,14 @@
  */
 // clazy:excludeall=non-pod-global-static
 
-inline const QString LIGHT_GREY_ONE = QStringLiteral("LIGHT_GREY_ONE");
-inline const QString LIGHT_GREY_TWO = QStringLiteral("LIGHT_GREY_TWO");
-inline const QString WITHOUT_BG1 = QStringLiteral("WITHOUT_BG1");
-inline const QString WITHOUT_BG2 = QStringLiteral("WITHOUT_BG2");
-inline const QString WITHOUT_BG3 = QStringLiteral("WITHOUT_BG3");
-inline const QString SELECT_LIGHT = QStringLiteral("SELECT_LIGHT");
-inline const QString INPUT_LIGHT = QStringLiteral("INPUT_LIGHT");
-inline const QString SLIDER_LIGHT = QStringLiteral("SLIDER_LIGHT");
+inline const QString LIGHT_GREY_ONE = QString::fromLatin1("LIGHT_GREY_ONE");
+inline const QString LIGHT_GREY_TWO = QString::fromLatin1("LIGHT_GREY_TWO");
+inline const QString WITHOUT_BG1 = QString::fromLatin1("WITHOUT_BG1");
+inline const QString WITHOUT_BG2 = QString::fromLatin1("WITHOUT_BG2");
+inline const QString WITHOUT_BG3 = QString::fromLatin1("WITHOUT_BG3");
+inline const QString SELECT_LIGHT = QString::fromLatin1("SELECT_LIGHT");
+inline const QString INPUT_LIGHT = QString::fromLatin1("INPUT_LIGHT");
+inline const QString SLIDER_LIGHT = QString::fromLatin1("SLIDER_LIGHT");
 
 /// The name of the toolkit's empty resource stream, for hosts; nothing in this repository reads it.
-inline const QString RESOURCE_EMPTY_STREAM = QStringLiteral("RESOURCE##EMPTY_STREAM");
+inline const QString RESOURCE_EMPTY_STREAM = QString::fromLatin1("RESOURCE##EMPTY_STREAM");

@@ -1,12 +1,15 @@
 // A part of a host that is loaded and unloaded while the program runs, and the libraries with it. What each
 // function makes, it deletes.
 
+#include <UiComponents/CustomColors.h>
 #include <UiComponents/Pipette.h>
 #include <UiComponents/QuickContent.h>
+#include <UiComponents/SearchWidget.h>
 #include <UiComponents/Translations.h>
 #include <UiComponents/WidgetColorPicker.h>
 #include <UiComponents/WidgetColorPickerButton.h>
 
+#include <QLineEdit>
 #include <QTimer>
 #include <QtTest>
 
@@ -54,6 +57,21 @@ extern "C" Q_DECL_EXPORT void changeAColor()
     window.show();
     press(&window);
     button.setColor(Qt::red);
+}
+
+/// With a regular expression, which Qt caches.
+extern "C" Q_DECL_EXPORT void typeASearch()
+{
+    SearchWidget search;
+    search.show();
+    QTest::keyClicks(search.findChild<QLineEdit*>(), QStringLiteral("ab"));
+    QCOMPARE(search.text(), QStringLiteral("ab"));
+}
+
+/// In the settings, whose file Qt keeps in its memory.
+extern "C" Q_DECL_EXPORT void keepAColor()
+{
+    QVERIFY(Util::appendCustomColor(QStringLiteral("#123456")));
 }
 
 /// Whose colours are the library's.

@@ -27,8 +27,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("use");
 
-        for (const char* use :
-             {"pickFromTheScreen", "pickFromAWidget", "loadALanguage", "changeAColor", "showAScene"}) {
+        for (const char* use : {"pickFromTheScreen", "pickFromAWidget", "loadALanguage", "changeAColor",
+                                "typeASearch", "keepAColor", "showAScene"}) {
             QTest::newRow(use) << QByteArray(use);
         }
         // The same code once more, at another place perhaps.
@@ -60,6 +60,10 @@ private Q_SLOTS:
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton);
         QCoreApplication::processEvents();
         QCOMPARE(QCoreApplication::translate("blendingModes", "SourceOver"), QStringLiteral("SourceOver"));
+        // What Qt has cached is looked up by its text.
+        QVERIFY(QRegExp(QStringLiteral("^\\S.*")).exactMatch(QStringLiteral("a")));
+        QSettings settings;
+        QVERIFY(settings.value(QStringLiteral("userCustomColors")).toStringList().size() <= 1);
         QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     }
 };
