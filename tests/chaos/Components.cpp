@@ -629,8 +629,8 @@ std::vector<Component> makeTable()
                          auto* content = new Qml::QuickContent;
                          world.others.append(content);
                          content->load(scene(world));
-                         // A splitter shows at once what is set its child, and Qt then takes the scene's
-                         // OpenGL context and goes on using it.
+                         // A splitter shows at once what becomes its child by setParent(), and Qt then takes
+                         // the scene's OpenGL context and goes on using it.
                          if (auto* const splitter = qobject_cast<QSplitter*>(parent)) {
                              splitter->addWidget(content->getUiContent());
                          } else {
