@@ -233,7 +233,7 @@ void EditSession::Private::watchPicks()
 /// half-destroyed window must not be called.
 bool EditSession::Private::isAlive() const
 {
-    return field->metaObject() == whole && !DyingWindow::is(field->window());
+    return field->metaObject()->inherits(whole) && !DyingWindow::is(field->window());
 }
 
 /// Returns whether the session is still there.
@@ -676,7 +676,7 @@ void EditSession::Private::cancel()
         ask(Request::Cancel);
         return;
     }
-    if (!isReportable()) {
+    if (!isReportable() || (!isActive && gesture == Gesture::None)) {
         return;
     }
     const QPointer<EditSession> self(q);
@@ -739,7 +739,12 @@ EditSession::EditSession(QWidget* field)
     }
 }
 
-EditSession::~EditSession() = default;
+EditSession::~EditSession()
+{
+    if (d->isAlive()) {
+        d->cover->setShown(false);
+    }
+}
 
 QWidget* EditSession::field() const
 {

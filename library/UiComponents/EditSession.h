@@ -117,7 +117,8 @@ Q_SIGNALS:
     /// The field shows @p value, which the user may not keep.
     void previewed(const QVariant& value);
 
-    /// The session has ended with @p value, the last that was previewed.
+    /// The session has ended with @p value, the last that was previewed, or what a slot of previewed() has
+    /// made of it.
     void committed(const QVariant& value);
 
     /// The session has ended as if it had not been; the field shows startValue() again.

@@ -278,6 +278,24 @@ public:
     void stop() override {}
 };
 
+/// Makes its session itself, and is derived from again.
+class FieldWithASession : public SliderInputWidget
+{
+    Q_OBJECT
+
+public:
+    FieldWithASession()
+        : SliderInputWidget(nullptr)
+    {
+    }
+    EditSession* const session = new EditSession(this);
+};
+
+class DerivedField : public FieldWithASession
+{
+    Q_OBJECT
+};
+
 ColorPickerButton* buttonOf(const Stage& stage)
 {
     return qobject_cast<ColorPickerButton*>(stage.field);
@@ -1072,12 +1090,18 @@ private Q_SLOTS:
         }
         QVERIFY(isShown());
         QCOMPARE(stage.story(), QString());
+        const auto isUncovered = [&stage, &described] {
+            return !stage.field->property("multiValue").toBool() &&
+                   !stage.field->findChild<QLabel*>("multiValueCover") && described().isEmpty();
+        };
         stage.session->setValue(kinds().at(kind).other);
         QVERIFY(!stage.session->isMultiValue());
-        QVERIFY(!stage.field->property("multiValue").toBool());
-        QVERIFY(!stage.field->findChild<QLabel*>("multiValueCover"));
-        QCOMPARE(described(), QString());
+        QVERIFY(isUncovered());
         QCOMPARE(stage.story(), QString());
+        stage.session->setMultiValue(true);
+        QVERIFY(isShown());
+        delete stage.session;
+        QVERIFY(isUncovered());
     }
 
     void multiValueTakesTheHiddenValue_data()
@@ -1735,6 +1759,26 @@ private Q_SLOTS:
             connect(stage.session, &EditSession::cancelled, this, [&lines] { lines += "cancelled"; });
         }
         QCOMPARE(lines, QStringList());
+    }
+
+    // The button reports several colours to nobody.
+    void cancelWithoutASession()
+    {
+        ColorPickerButton button;
+        button.setColor(Qt::red);
+        EditSession session(&button);
+        button.setColor(std::nullopt);
+        session.cancel();
+        QCOMPARE(button.color(), Color());
+    }
+
+    void fieldWithItsOwnSession()
+    {
+        DerivedField field;
+        QSignalSpy previews(field.session, &EditSession::previewed);
+        field.findChild<QAbstractSlider*>()->setFocus();
+        QTest::keyClick(field.findChild<QAbstractSlider*>(), Qt::Key_Right);
+        QCOMPARE(previews.size(), 1);
     }
 
     void otherWidgets()
