@@ -53,7 +53,7 @@ void DoubleSliderInputWidget::setRange(const Initializer& range)
                             StepRange::nearestStep(range.maximum, range.decimals));
         d->spinBox->setSingleStep(step);
         d->spinBox->setDecimals(range.decimals);
-        // The range was narrower while the steps were those of the other decimals.
+        // Until now the range was rounded to the former decimals.
         setValue(before);
     }
     if (value() != before) {

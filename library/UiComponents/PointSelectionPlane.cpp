@@ -223,6 +223,7 @@ void PointSelectionPlane::changeEvent(QEvent* event)
         }
         // Qt does not apply qproperty values of other states by itself.
         Util::repolishWidget(d->style);
+        d->background = d->style->fillColor();
     } else if (event->type() == QEvent::StyleChange) {
         // Qt may polish the plane under a new sheet before its children.
         Util::repolishWidget(d->style);

@@ -64,7 +64,7 @@ public:
 
 Q_SIGNALS:
     /// The user chose @p point. Emitted for each press, for a move that changes the pixel, for a key that
-    /// moves the marker, and for each release of the button.
+    /// moves the marker or a reader that does, and for each release of the button.
     void pointChanged(QPointF point);
 
 protected:

@@ -63,7 +63,7 @@ public:
     OvFrame* const ySpinboxFrame;
     QLabel* const yLabel;
     OvDoubleSpinBox* const ySpinbox;
-    // A slot has set a value while the spin boxes followed the plane.
+    // A slot has set a value or a range while the spin boxes followed the plane.
     bool isOverruled = false;
 };
 
@@ -170,11 +170,15 @@ QPointF PointSelectorWidget::value() const
 
 void PointSelectorWidget::setRange(const Initializer& range)
 {
+    d->isOverruled = true;
     const QPointF before = value();
     {
         const QSignalBlocker blocker(this);
         configure(d->xSpinbox, range.minimum.x(), range.maximum.x(), range.xDecimals);
         configure(d->ySpinbox, range.minimum.y(), range.maximum.y(), range.yDecimals);
+        // Until now the ends were rounded to the former decimals.
+        setNumber(d->xSpinbox, before.x());
+        setNumber(d->ySpinbox, before.y());
         d->pointSelector->setLimits(QRectF(range.minimum, range.maximum));
         d->pointSelector->setPoint(value());
     }

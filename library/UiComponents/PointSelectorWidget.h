@@ -79,9 +79,10 @@ Q_SIGNALS:
     /// picked point arrives up to three times: as picked, then with x as the spin box rounded it and the old
     /// y, then in full.
     ///
-    /// A slot may set another value: the three parts then agree on it, and pending reports of the earlier one
-    /// come last. While the user types or steps in a spin box, or leaves it, a slot must delete the field
-    /// with deleteLater(), since QAbstractSpinBox still uses it after the signal.
+    /// A slot may set another value: the three parts then agree, and pending reports of the earlier one come
+    /// last. The earlier y is still set after a slot of the report of x. While the user types or steps in a
+    /// spin box, or leaves it, a slot must delete the field with deleteLater(), since QAbstractSpinBox still
+    /// uses it after the signal.
     void valueChanged(QPointF value);
 
 protected:

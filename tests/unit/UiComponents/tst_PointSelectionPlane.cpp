@@ -589,16 +589,21 @@ private Q_SLOTS:
     {
         QWidget window;
         window.setStyleSheet(QStringLiteral(
-            "PointSelectionPlanePropertyHelper { qproperty-MarkerColor: red; }"
-            "PointSelectionPlanePropertyHelper[enabled=\"false\"] { qproperty-MarkerColor: blue; }"));
+            "PointSelectionPlanePropertyHelper { qproperty-MarkerColor: red; qproperty-FillColor: white; }"
+            "PointSelectionPlanePropertyHelper[enabled=\"false\"] { qproperty-MarkerColor: blue;"
+            " qproperty-FillColor: yellow; }"));
         Plane plane(&window);
         plane.setPoint({10, 110});
         window.show();
-        QCOMPARE(pictureOf(plane).pixelColor(60, 20), QColor(Qt::red));
+        const auto shows = [&plane](Qt::GlobalColor marker, Qt::GlobalColor fill) {
+            const QImage picture = pictureOf(plane);
+            return picture.pixelColor(60, 20) == QColor(marker) && picture.pixelColor(2, 2) == QColor(fill);
+        };
+        QVERIFY(shows(Qt::red, Qt::white));
         window.setEnabled(false);
-        QCOMPARE(pictureOf(plane).pixelColor(60, 20), QColor(Qt::blue));
+        QVERIFY(shows(Qt::blue, Qt::yellow));
         window.setEnabled(true);
-        QCOMPARE(pictureOf(plane).pixelColor(60, 20), QColor(Qt::red));
+        QVERIFY(shows(Qt::red, Qt::white));
     }
 
     void twiceTheScale()

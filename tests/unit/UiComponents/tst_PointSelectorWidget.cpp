@@ -163,6 +163,10 @@ private Q_SLOTS:
         const Field other({{10.0, -40.0}, {30.0, -20.0}, 1, 1});
         QCOMPARE(other.numbers(), QPointF(10, -20));
         QCOMPARE(other.plane->point(), QPointF(10, -20));
+        // A new spin box would round the ends to two decimals.
+        const Field fine({{0.006, 1.006}, {0.009, 2.0}, 3, 3});
+        QCOMPARE(fine.numbers(), QPointF(0.006, 1.006));
+        QCOMPARE(fine.plane->point(), QPointF(0.006, 1.006));
     }
 
     void startsInAForm()
@@ -558,6 +562,19 @@ private Q_SLOTS:
         if (action == QLatin1String("click")) {
             release(*field.plane, {30, 40});
         }
+    }
+
+    void slotSetsAnotherRange()
+    {
+        Field field;
+        connect(&field, &PointSelectorWidget::valueChanged, this, [&field](const QPointF& value) {
+            if (value == QPointF(30, 0)) { // the report of x
+                field.setRange({{0, 0}, {10, 10}, 1, 1});
+            }
+        });
+        press(*field.plane, {30, 40});
+        QCOMPARE(field.numbers(), QPointF(10, 10));
+        QCOMPARE(field.plane->point(), QPointF(10, 10));
     }
 
     // Such as a host that snaps to a grid.
