@@ -205,6 +205,15 @@ int Qml::QuickDialog::exec()
     });
     d->moveToMiddle(container);
     const PlaceKeeper place(this);
+    // Queued, since the dialog's destructor deletes the container as well.
+    connect(
+        container, &QObject::destroyed, &watch,
+        [self] {
+            if (self) {
+                self->reject();
+            }
+        },
+        Qt::QueuedConnection);
     // The scene may end the dialog while it is being shown, before QDialog's event loop runs, which would
     // then never return.
     show();
