@@ -68,6 +68,8 @@ void GuideButton::showHelp()
     }
     if (d->pointingWidget && d->pointingWidget == d->appearing) {
         d->pointingWidget->hide();
+        // Deleted by the outer showHelp(), not by the button.
+        d->pointingWidget->setParent(nullptr);
     } else {
         delete d->pointingWidget.data();
     }

@@ -20,9 +20,12 @@ constexpr const char* stillProperty = "firstPictureOnly";
 
 void GuidePicture::setPicture(const QString& path)
 {
+    const QMovie* const before = movie();
     setMoviePath(path);
     setFocusPolicy(movie() ? Qt::TabFocus : Qt::NoFocus);
-    holdIfStill();
+    if (movie() != before) {
+        holdIfStill();
+    }
     setVisible(!path.isEmpty() && FS::exists(path));
 }
 

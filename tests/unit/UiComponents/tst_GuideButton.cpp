@@ -187,13 +187,16 @@ private Q_SLOTS:
 
     void whileThePopupAppears_data()
     {
+        QTest::addColumn<bool>("isClicked");
         QTest::addColumn<bool>("isDeleted");
-        QTest::newRow("clicked again") << false;
-        QTest::newRow("deleted") << true;
+        QTest::newRow("clicked again") << true << false;
+        QTest::newRow("deleted") << false << true;
+        QTest::newRow("clicked again, and deleted then") << true << true;
     }
 
     void whileThePopupAppears()
     {
+        QFETCH(bool, isClicked);
         QFETCH(bool, isDeleted);
         QWidget window;
         QLineEdit edit(&window);
@@ -208,15 +211,17 @@ private Q_SLOTS:
             if (++losses == 1) {
                 QEventLoop loop;
                 QTimer::singleShot(0, &loop, [&] {
-                    if (isDeleted) {
-                        button.reset();
-                    } else {
+                    if (isClicked) {
                         button->setGuideInfo(info(QStringLiteral("Second")));
                         button->click();
+                    } else {
+                        button.reset();
                     }
                     loop.quit();
                 });
                 loop.exec();
+            } else if (isDeleted) {
+                button.reset();
             }
         });
         const FreedMemoryWatch memory;

@@ -489,6 +489,8 @@ private Q_SLOTS:
         connect(playing.data(), &QMovie::stateChanged, this, [&changes] { ++changes; });
         GuideInfo info = fullInfo();
         info.title = QStringLiteral("Another heading");
+        // As when the user has begun to play the picture.
+        guide.setProperty("firstPictureOnly", true);
         guide.setInfo(info);
         QCOMPARE(movie(guide), playing.data());
         QCOMPARE(changes, 0);
