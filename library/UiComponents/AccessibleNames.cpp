@@ -152,7 +152,9 @@ QString AccessibleNames::plainText(const QLabel* label)
         // Without the files that a document would load.
         text = QTextDocumentFragment::fromHtml(text).toPlainText();
     }
-    text.replace(QRegularExpression(QString::fromLatin1("&(.)")), QString::fromLatin1("\\1"));
+    if (label->buddy()) { // others show it as it is
+        text.replace(QRegularExpression(QString::fromLatin1("&(.)")), QString::fromLatin1("\\1"));
+    }
     text = text.trimmed();
     if (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xff1a))) {
         text.chop(1);

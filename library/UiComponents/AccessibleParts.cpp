@@ -256,6 +256,9 @@ QAccessibleInterface* AccessiblePopup::parent() const
 QString AccessiblePopup::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name) {
+        if (!widget()->accessibleName().isEmpty()) {
+            return widget()->accessibleName();
+        }
         if (colorPanel()) {
             return parent()->text(kind);
         }
@@ -263,7 +266,7 @@ QString AccessiblePopup::text(QAccessible::Text kind) const
         return isSelector ? QCoreApplication::translate("ColorPickerWidget", "Choose another colour")
                           : widget()->windowTitle();
     }
-    if (kind != QAccessible::Description) {
+    if (kind != QAccessible::Description || !widget()->accessibleDescription().isEmpty()) {
         return AccessiblePart::text(kind);
     }
     QString said = colorPanel() ? ColorNames::valueText(colorPanel()->currentColor()) : QString();
@@ -334,8 +337,9 @@ void* AccessibleSlider::interface_cast(QAccessible::InterfaceType type)
 
 QString AccessibleSlider::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Value ? QLocale().toString(currentValue().toDouble())
-                                      : AccessiblePart::text(kind);
+    return kind == QAccessible::Value
+               ? QLocale().toString(currentValue().toDouble(), 'f', QLocale::FloatingPointShortest)
+               : AccessiblePart::text(kind);
 }
 
 QVariant AccessibleSlider::currentValue() const

@@ -26,8 +26,9 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Value ? QLocale().toString(slider()->doubleValue())
-                                          : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Value
+                   ? QLocale().toString(slider()->doubleValue(), 'f', QLocale::FloatingPointShortest)
+                   : QAccessibleWidget::text(kind);
     }
 
     QVariant currentValue() const override { return slider()->doubleValue(); }

@@ -697,9 +697,11 @@ private Q_SLOTS:
             QCOMPARE(interface.valueInterface()->currentValue().toDouble(), 0.2);
         }
         QVERIFY(changes.isEmpty());
-        SliderInputWidget whole(nullptr, {0, 10});
-        reader(partOf(&whole, "slider")).valueInterface()->setCurrentValue(6.6);
-        QCOMPARE(whole.value(), 7);
+        SliderInputWidget whole(nullptr, {0, 10000000});
+        QAccessibleInterface& slider = reader(partOf(&whole, "slider"));
+        slider.valueInterface()->setCurrentValue(1234566.6);
+        QCOMPARE(whole.value(), 1234567);
+        QCOMPARE(slider.text(QAccessible::Value), QLocale().toString(1234567));
     }
 
     void planesAreTwoSliders()

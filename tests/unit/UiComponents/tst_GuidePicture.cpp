@@ -10,7 +10,7 @@ namespace {
 
 GuideInfo info()
 {
-    return {QStringLiteral("Trim"), QStringLiteral("Drag the <i>edge</i> of a clip"),
+    return {QStringLiteral("Trim"), QStringLiteral("Drag the <i>edge</i> &amp; go"),
             QStringLiteral("<a href='https://example.org'>More</a>"), animation()};
 }
 
@@ -240,7 +240,11 @@ private Q_SLOTS:
         QCOMPARE(dialog.parent(), &reader(button));
         QCOMPARE(dialog.role(), QAccessible::Dialog);
         QCOMPARE(dialog.text(QAccessible::Name), QStringLiteral("Trim"));
-        QCOMPARE(dialog.text(QAccessible::Description), QStringLiteral("Drag the edge of a clip. More"));
+        QCOMPARE(dialog.text(QAccessible::Description), QStringLiteral("Drag the edge & go. More"));
+        popup->setAccessibleName(QStringLiteral("Step 2"));
+        popup->setAccessibleDescription(QStringLiteral("Of 5"));
+        QCOMPARE(dialog.text(QAccessible::Name), QStringLiteral("Step 2"));
+        QCOMPARE(dialog.text(QAccessible::Description), QStringLiteral("Of 5"));
         QCOMPARE(QApplication::focusWidget(), popup);
         QTest::keyClick(popup, Qt::Key_Escape);
         QVERIFY(!popup->isVisible());

@@ -44,6 +44,9 @@ private Q_SLOTS:
         slider.setEnabled(false);
         value->setCurrentValue(0.1);
         QCOMPARE(slider.doubleValue(), 0.7);
+        slider.setRange(0, 2000000000);
+        slider.setDoubleValue(1234567.25);
+        QCOMPARE(interface.text(QAccessible::Value), QLocale().toString(1234567.25, 'f', 2));
     }
 
     void changesAreAnnouncedOnce_data()
