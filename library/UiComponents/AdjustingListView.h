@@ -18,11 +18,12 @@
  *
  * **Sum.** QAbstractItemView::sizeHintForRow() over the top-level rows of the model, in pixels, hidden rows
  * included; without frame, margins and spacing; at most 16,777,214 pixels, the largest minimum that Qt takes.
- * Every row is measured: a resize of a loading list costs as much. A view without a model has no rows.
+ * Each resize of a loading list measures all of them. A view without a model has no rows, and a root
+ * index is not supported.
  *
  * **When.** setLoadingFinished() and each resize compute the height and overwrite a minimum height of the
- * host. The view does not watch its model: rows that come, go or change their height, another model and
- * another root count from the next of these on.
+ * host. The view does not watch its model: rows that come, go or change their height and another model
+ * count from the next of these on.
  *
  * **Layout.** The size-adjust policy is QAbstractScrollArea::AdjustToContents. The width of the contents
  * follows the viewport's: do not set a gridSize() without a width, or QListView, which goes from cell to cell

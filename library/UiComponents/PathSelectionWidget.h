@@ -21,8 +21,8 @@ class QUrl;
  *     if (field->checkPath()) { startExport(field->path()); }
  *
  * **Default path.** A path that equals the default path, also two empty ones, is shown by the display text.
- * While the line edit has the focus, it is empty instead, and the path stays until something is typed; what
- * is typed stays as typed until the focus leaves. The reset button shows only with a default path, and is
+ * When the line edit gets the focus, it becomes empty, and the path stays until something is typed; what is
+ * typed stays as typed until the focus leaves. The reset button shows only with a default path, and is
  * disabled while the path is shown by its text.
  *
  * **Readers.** They find a group of the line edit, which has the field's name and the path as its value, and
@@ -71,8 +71,8 @@ public:
 
     /**
      * Returns whether the path can be used. Reads the disk, as nothing else does. Call it when the path is
-     * about to be used, not in a slot of pathChanged(), after which the mark goes again: the user would never
-     * see it.
+     * about to be used, not in a slot of pathChanged() or within 100 ms of setPath(): the pathChanged() of
+     * that change removes the mark before the user sees it.
      *
      * First FileUtil::isPathValid() must agree. Then, if there is one, the check function alone decides.
      * Without one the folder, or the nearest folder above it if it does not exist yet, must be readable and

@@ -14,8 +14,8 @@
  *
  * The parts are an OvCustomSlider and an OvSpinBox, bound to each other: each follows the other at once, and
  * text is never rewritten while it is typed. The spin box has no buttons; the arrow keys step it, and so does
- * the wheel while it has focus. A value typed beyond the range becomes the nearest end when the text is
- * committed.
+ * the wheel while it has focus. Text that cannot become a value of the range is not
+ * taken; text that is none yet when it is committed, also an empty one, becomes the value nearest to 0.
  *
  * A new field is at the value of its range that is nearest to 0.
  *
@@ -52,7 +52,8 @@ public:
     /// The value that both parts show.
     int value() const;
 
-    /// Sets another range. Emits valueChanged() once if the value has to move into it, and nothing else.
+    /// Sets another range. Emits valueChanged() once if the value has to move into it, and nothing else. In a
+    /// slot of valueChanged() the value moves, and both parts report, after the slot.
     void setRange(const Initializer& range);
 
     /// Sets the value, clamped to the range. Reports a change as the user's; the current value is not one.

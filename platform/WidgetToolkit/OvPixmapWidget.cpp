@@ -101,8 +101,7 @@ void OvPixmapWidget::Private::onStateChanged(QMovie::MovieState state)
     }
     playWhenShown = state == QMovie::Running;
     if (playWhenShown && !shown) {
-        // Queued: other slots must see the start before the pause, and a parent that starts the movie in its
-        // showEvent() does so just before this widget is shown.
+        // Queued: other slots must see the start before the pause.
         QMetaObject::invokeMethod(
             q, [this] { pauseWhileHidden(); }, Qt::QueuedConnection);
     }

@@ -13,7 +13,7 @@
  *   can be typed over it. Unlike in QSpinBox, valueChanged() is emitted only if that changes the value. The
  *   key event is ignored, as in QSpinBox: a dialog's default button gets it. Escape is left to the dialog.
  *
- * All else is as in QSpinBox.
+ * Typing can still be undone after Enter. All else is as in QSpinBox.
  *
  * **Lifetime.** Slots of signals that Enter causes may delete the spin box, and so may those of a
  * valueChanged() that setValue() causes. After all others, above all while the user types or steps,

@@ -22,7 +22,7 @@ void announceValue(SpinBox* box);
 void tellReaders(QObject* box, const QVariant& value);
 
 /// Calls @p turn, Qt's handler of the wheel, for a @p box with the focus, and sends a ValueChanged event for
-/// a change. Slots may delete @p box.
+/// a change. Slots may delete an OvDoubleSpinBox.
 template <typename SpinBox, typename Turn>
 void turnWheel(SpinBox* box, QWheelEvent* event, Turn turn)
 {

@@ -361,7 +361,7 @@ private Q_SLOTS:
         QCOMPARE(content.getUiContent()->size(), QSize(64, 8));
     }
 
-    // Also what the test before the last relies on: a request does arrive.
+    // Also what codeFromTheNetworkIsRefused() relies on: a request does arrive.
     void picturesAreTheScenesAffair()
     {
         QTcpServer server;
