@@ -100,10 +100,12 @@ public:
     void finish();
 
     QWidget* field() const { return qobject_cast<QWidget*>(q->parent()); }
+    /// Takes over what the host has set meanwhile, which the button does not report if it is several colours.
     void askField()
     {
-        if (const auto* button = qobject_cast<ColorPickerButton*>(q->parent())) {
-            current = button->color();
+        const auto* const button = qobject_cast<ColorPickerButton*>(q->parent());
+        if (button && current != button->color()) {
+            start = current = button->color();
         }
     }
 
@@ -313,7 +315,11 @@ void PopupColorPicker::Private::showPipetteState() const
 
 void PopupColorPicker::Private::preview(const QColor& color)
 {
-    if (!isShowingColor && !isCancelled && current != color) {
+    if (isShowingColor || isCancelled) {
+        return;
+    }
+    askField();
+    if (current != color) {
         current = color;
         Q_EMIT q->colorChanged(color);
     }
@@ -321,8 +327,13 @@ void PopupColorPicker::Private::preview(const QColor& color)
 
 void PopupColorPicker::Private::sample()
 {
+    const QPointer<PopupColorPicker> self(q);
     state = State::Sampling;
+    // The panel may report a last colour, and a slot of that end the pick.
     closePopup();
+    if (!self || state != State::Sampling) {
+        return;
+    }
     pipetteListener = std::make_unique<QObject>();
     if (hostsPipette) {
         sampleWithHostsPipette();
@@ -364,6 +375,7 @@ void PopupColorPicker::Private::sampleFromScreen()
 
 void PopupColorPicker::Private::takeSample(const std::optional<QColor>& color)
 {
+    askField();
     std::optional<QColor> taken = color;
     if (taken && taken->isValid() && options.opacity && current && current->isValid()) {
         taken->setAlpha(current->alpha());
@@ -413,6 +425,7 @@ void PopupColorPicker::Private::cancel()
 {
     const QPointer<PopupColorPicker> self(q);
     isCancelled = true;
+    askField();
     if (current != start) {
         current = start;
         Q_EMIT q->colorChanged(start);
@@ -526,7 +539,6 @@ void PopupColorPicker::stop()
 std::optional<QColor> PopupColorPicker::color()
 {
     if (!isInProgress()) {
-        // The field has taken each preview, and what the host has set since.
         d->askField();
     }
     return d->current;

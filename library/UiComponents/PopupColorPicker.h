@@ -15,15 +15,15 @@ class ColorPickerWidget;
  * room, and stays on the field's screen (on Wayland, in its window). Each colour that the user chooses is the
  * field's at once. A click elsewhere, Enter and stop() keep it; Escape brings back the value from before,
  * several colours and no colour included. A pick without a choice ends with exactly that value too: the
- * picker asks the ColorPickerButton, its parent, for it when the pick begins, and again at the end for what
- * the host has set meanwhile, which then is the value that Escape brings back. A click on the field closes
- * the pop-up.
+ * picker asks the ColorPickerButton, its parent, for it when the pick begins, and again with each choice and
+ * at the end for what the host has set meanwhile, which then is the value that Escape brings back. A click on
+ * the field closes the pop-up.
  * While the panel has its selector open, these close that one first, except stop().
  *
  * The panel's pipette button hides the pop-up and picks from the screen with a Pipette, or with the
  * picker that setPipette() names, and then shows the pop-up again. A colour from there takes the alpha of
- * the present colour while opacity can be adjusted. Enter and Space begin a pick on the field; the focus is
- * then on the button of the present colour, or in the edit for its value.
+ * the present colour while opacity can be adjusted. Space on the field begins a pick; the focus is then on
+ * the button of the present colour, or in the edit for its value.
  *
  * Fields of one window whose pickers have equal options share one panel.
  *

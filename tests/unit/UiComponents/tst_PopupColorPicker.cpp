@@ -230,13 +230,14 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isTold");
         QTest::addColumn<Action>("end");
         const Action stop = [this] { m_button->stopPicking(); };
+        const Action escape = [this] { QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape); };
         QTest::newRow("green") << Color(green) << true << stop;
         QTest::newRow("no colour") << Color(QColor()) << true << stop;
         QTest::newRow("several colours") << Color() << true << stop;
         QTest::newRow("in silence") << Color(green) << false << stop;
-        QTest::newRow("green, Escape")
-            << Color(green) << true
-            << Action([this] { QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape); });
+        QTest::newRow("green, Escape") << Color(green) << true << escape;
+        QTest::newRow("several colours, Escape") << Color() << true << escape;
+        QTest::newRow("in silence, Escape") << Color(green) << false << escape;
     }
 
     void aColorSetMeanwhileIsKept()
@@ -258,6 +259,36 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_picker->isInProgress());
         QCOMPARE(m_button->color(), color);
         QCOMPARE(changed.count(), 0);
+    }
+
+    void escapeBringsBackWhatWasSetMeanwhile_data()
+    {
+        QTest::addColumn<Action>("choose");
+        QTest::newRow("after a choice in the panel") << Action([this] { paletteButton(greenName)->click(); });
+        QTest::newRow("after one with the pipette") << Action([this] {
+            auto* const pipette = new FakeColorPicker(m_button);
+            pipette->onPick = [pipette] {
+                pipette->preview(green);
+                pipette->finish(green);
+            };
+            m_picker->setPipette(pipette);
+            child<QToolButton>("pipetteButton")->click();
+            QTRY_VERIFY(popup()->isVisible());
+        });
+    }
+
+    // Several colours, as when the user selects more: the button does not report them.
+    void escapeBringsBackWhatWasSetMeanwhile()
+    {
+        QFETCH(Action, choose);
+        m_button->startPicking();
+        paletteButton(amberName)->click();
+        m_button->setColor(std::nullopt);
+        choose();
+        QCOMPARE(m_button->color(), Color(green));
+        QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape);
+        QTRY_VERIFY(!m_picker->isInProgress());
+        QCOMPARE(m_button->color(), Color());
     }
 
     // A host that shows its selection again when a pick is over: the first one's colour, then several.
@@ -496,6 +527,42 @@ private Q_SLOTS:
         }
     }
 
+    void endedAsThePipetteBegins_data()
+    {
+        QTest::addColumn<Action>("end");
+        QTest::newRow("stopped") << Action([this] { m_button->stopPicking(); });
+        QTest::newRow("field hidden") << Action([this] { m_button->hide(); });
+        QTest::newRow("field deleted") << Action([this] { delete m_button; });
+        QTest::newRow("picker replaced") << Action([this] { m_button->setPicker(new PopupColorPicker); });
+    }
+
+    // The panel goes first, and an emptied box for the opacity becomes 0 %: in a slot of that colour.
+    void endedAsThePipetteBegins()
+    {
+        QFETCH(Action, end);
+        FakeColorPicker pipette;
+        m_picker->setPipette(&pipette);
+        m_button->startPicking();
+        auto* const opacity = child<QSpinBox>("opacitySpinbox");
+        opacity->selectAll();
+        QTest::keyClick(opacity, Qt::Key_Backspace);
+        QSignalSpy stopped(m_picker, &AbstractColorPicker::pickingStopped);
+        Trigger trigger(end);
+        connect(m_button, SIGNAL(colorChanged(QColor)), &trigger, SLOT(run()));
+        {
+            const FreedMemoryWatch memory;
+            child<QToolButton>("pipetteButton")->click();
+            QCOMPARE(memory.writtenAfterwards(), std::size_t(0));
+        }
+        QCOMPARE(trigger.count, 1);
+        QCOMPARE(pipette.calls.count(QStringLiteral("pick")), 0);
+        QCoreApplication::processEvents();
+        QVERIFY(!popup()->isVisible());
+        QVERIFY(!m_button || !m_button->isDown());
+        QVERIFY(!m_button || !m_button->isPickingInProgress());
+        QCOMPARE(stopped.count(), m_picker ? 1 : 0);
+    }
+
     void pipetteWithoutThePermission()
     {
         FakePrivacy::screenAccess = AccessStatus::Denied;
@@ -717,7 +784,9 @@ private Q_SLOTS:
             QTest::addRow("%s, when Escape brings the colour back", victim) << changed << Action([this] {
                 {
                     const QSignalBlocker blocker(m_picker);
+                    const QSignalBlocker buttonBlocker(m_button);
                     paletteButton(amberName)->click();
+                    m_button->setColor(m_picker->color());
                 }
                 QTest::keyPress(popup()->windowHandle(), Qt::Key_Escape);
             }) << remove;
