@@ -73,7 +73,7 @@ public:
         /// Where the target got its outline, and the screen before that.
         QRect place;
         std::optional<ScreenGrabber> grabber;
-        /// Where the cursor was when stop() ended it; empty until then.
+        /// Where the cursor was when stop() ended it; empty until then, and without a target.
         std::optional<QPointF> end;
         /// The colour there; invalid beside the target.
         QColor color;
@@ -142,6 +142,11 @@ void WidgetColorPicker::Private::removeOutline(Run& of)
 void WidgetColorPicker::Private::pick()
 {
     Run thisRun;
+    if (!run) {
+        // Of an earlier pick. What has just ended the one around this knows the place.
+        mouse = QCursor::pos();
+        windowShift = QPointF();
+    }
     run = &thisRun;
     qGuiApp->installEventFilter(q);
     // The host's code runs in both of these.
@@ -189,9 +194,12 @@ void WidgetColorPicker::Private::stop()
     removeOutline(ending);
     cursorGuard.reset();
     // Now: what ends the pick may close or change the target before the loop returns. Not while the
-    // picker is deleted: the target may be half-destroyed.
-    ending.end = cursorPosition();
-    ending.color = q && target && isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
+    // picker is deleted: the target may be half-destroyed. Without a target the pick brings no colour, also
+    // if it has one again when the loop returns.
+    if (q && target) {
+        ending.end = cursorPosition();
+        ending.color = isOverTarget(*ending.end) ? colorAt(*ending.end, ending) : QColor();
+    }
 }
 
 void WidgetColorPicker::Private::noteMouse(const QObject* watched, const QMouseEvent& event)

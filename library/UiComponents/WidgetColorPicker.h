@@ -22,15 +22,16 @@ class WidgetColorPickerStylingObject;
  *
  * If the cursor is over the target as pick() returns, the pixel below it is picked: colorChanged() and then
  * pickingStopped() are emitted. Otherwise nothing is, and color() is invalid: a ColorPickerButton stays
- * pressed until a pick brings a colour. Deleting the target or ending the application picks nothing.
+ * pressed; see there for what releases it. Deleting the target or ending the application picks nothing.
  * Picks nest: one that is begun by what ended another is over first, and the cursor decides for both.
  *
  * The colour is opaque, and that of the screen when the pick ends, with whatever lies over the target, even
- * if what ended it then closes or moves the target. The outermost 8 points, which the outline may cover, are
- * those from before the pick (and before the one that ended less than a second earlier), or as the target
- * paints itself when it has moved since, as all of it does where the platform gives no picture of the screen
- * (as plain Wayland; Xwayland may give a black one). A mouse event tells the pixel, also where the screen has
- * several for a point; a key before the first one takes that of the whole point next to the cursor.
+ * if what ended it then closes or moves the target. The outermost 8 points are read from a picture taken
+ * before the outline covered them; a sheet's wider outline may be picked itself. Where the target has moved
+ * since, they are the colours that the target itself paints, and so is all of it where the platform gives no
+ * picture of the screen (as plain Wayland; Xwayland may give a black one). A mouse event tells the pixel
+ * where the screen has several for a point; a key before it picks the first one of the point next to the
+ * cursor.
  *
  * **Without a mouse.** Nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
  * edit takes every colour by its digits, and whose selector's plane takes keys.
