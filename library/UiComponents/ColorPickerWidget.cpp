@@ -165,7 +165,7 @@ public:
             TesselLineEdit::focusOutEvent(event);
             const bool isBack =
                 event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-            if (self && !isBack && !hasAcceptableInput()) {
+            if (self && !isBack) {
                 showValue();
             }
         }
@@ -218,7 +218,7 @@ public:
     void updatePreview() const;
 
     void onButtonToggled(QAbstractButton* button, bool checked);
-    void onOpacityChanged(double opacity);
+    void onOpacityChanged();
     void onTextEdited(const QString& text);
     void onCustomColorButtonClicked();
     void onSelectorReport(const QColor& color);
@@ -267,7 +267,7 @@ public:
     bool opacityAdjustmentAvailable = true;
 
     int nextButtonId = -2;
-    // True while the panel changes buttons and slider itself, whose handlers then do nothing.
+    // True while the panel checks the button of the selector's colour, whose handler then does nothing.
     bool isFollowing = false;
     QString shownReason; // of the pipette button
     const std::shared_ptr<Remains> remains = std::make_shared<Remains>();
@@ -440,7 +440,7 @@ void ColorPickerWidget::Private::connectInputs()
     connect(addCustomColorButton, &QAbstractButton::clicked, listener.get(),
             [this] { onCustomColorButtonClicked(); });
     connect(opacitySlider, &OvDoubleSlider::doubleValueChanged, listener.get(),
-            [this](double opacity) { onOpacityChanged(opacity); });
+            [this] { onOpacityChanged(); });
 }
 
 void ColorPickerWidget::Private::fillQueue(const QStringList& names)
@@ -578,14 +578,12 @@ void ColorPickerWidget::Private::onButtonToggled(QAbstractButton* button, bool c
     reportColor();
 }
 
-void ColorPickerWidget::Private::onOpacityChanged(double opacity)
+void ColorPickerWidget::Private::onOpacityChanged()
 {
-    Q_UNUSED(opacity)
-    if (!opacityAdjustmentAvailable || !currentColor || isFollowing) {
-        return;
+    if (opacityAdjustmentAvailable && currentColor) {
+        hold(withSliderAlpha(*currentColor));
+        reportColor();
     }
-    hold(withSliderAlpha(*currentColor));
-    reportColor();
 }
 
 void ColorPickerWidget::Private::onTextEdited(const QString& text)

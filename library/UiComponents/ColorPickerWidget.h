@@ -20,8 +20,8 @@
  *
  * The value is a `std::optional<QColor>` with the three meanings that AbstractColorPicker gives it. Keys move
  * between the buttons of colours, and choose as they go once one is checked: arrows, Home and End within the
- * row, Page Up and Page Down within the column. The edit takes six hexadecimal digits, adds a missing "#",
- * and ignores anything else, which goes when it is left.
+ * row, Page Up and Page Down within the column. The edit takes six hexadecimal digits, adds a missing "#"
+ * (digits pasted without it wait for the next edit), ignores all else, and shows the value when it is left.
  *
  * **Style sheet.** All margins and gaps are 0 until a sheet sets OvFrame's properties. The parts:
  * - "topPanel": the preview "currentColorDisplayLabel", "currentColorValueEdit" (style hint "INPUT_LIGHT")
@@ -92,8 +92,8 @@ Q_SIGNALS:
     ///   selector opens;
     /// - once for each report of the selector, whose colour becomes the current one;
     /// - once for a colour that is added to the user's own, by its new button, but not while the panel hides;
-    /// - by setCurrentColor(), setOpacityAdjustmentAvailable() and, where another panel has added the current
-    ///   colour, by showing the panel, as far as they move the slider or check a button.
+    /// - by setCurrentColor(), setOpacityAdjustmentAvailable() and, where another button has the current
+    ///   colour now, by showing the panel, as far as they move the slider or check a button.
     ///
     /// A slot that runs because the panel is being shown or hidden must delete the panel with deleteLater().
     void colorChanged(const QColor& color);
@@ -108,9 +108,10 @@ Q_SIGNALS:
 
 protected:
     /// Reads Settings::userCustomColors() again, as the constructor does, and offers the first eight, the
-    /// newest at the left. An entry that is no colour leaves a gap; only a colour that is added is written.
+    /// newest at the left. A place without a colour stays as it was, at first a gap; only a colour that is
+    /// added is written.
     void showEvent(QShowEvent* event) override;
-    /// Closes the selector, and adds the current colour to the user's own without reporting it.
+    /// Closes an open selector, and then adds the current colour to the user's own without reporting it.
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
     /// Hands the focus on to the edit of the value, as for a label whose buddy the panel is.

@@ -385,22 +385,29 @@ private Q_SLOTS:
     {
         QTest::addColumn<std::optional<QColor>>("color");
         QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("isPasted");
         QTest::addColumn<QString>("left");
-        QTest::newRow("several") << std::optional<QColor>() << QStringLiteral("ff0000")
+        QTest::newRow("several") << std::optional<QColor>() << QStringLiteral("ff0000") << false
                                  << QStringLiteral("#ff0000");
-        QTest::newRow("none") << std::optional<QColor>(QColor()) << QStringLiteral("00ff00")
+        QTest::newRow("none") << std::optional<QColor>(QColor()) << QStringLiteral("00ff00") << false
                               << QStringLiteral("#00ff00");
         QTest::newRow("none, not a colour")
-            << std::optional<QColor>(QColor()) << QStringLiteral("00f") << QStringLiteral("#null");
+            << std::optional<QColor>(QColor()) << QStringLiteral("00f") << false << QStringLiteral("#null");
         QTest::newRow("several, nothing typed")
-            << std::optional<QColor>() << QString() << QStringLiteral("#multiple");
+            << std::optional<QColor>() << QString() << false << QStringLiteral("#multiple");
+        // Which are taken with the next edit only.
+        QTest::newRow("several, digits pasted")
+            << std::optional<QColor>() << QStringLiteral("ff0000") << true << QStringLiteral("#multiple");
+        QTest::newRow("several, a colour pasted in upper case")
+            << std::optional<QColor>() << QStringLiteral("#ABCDEF") << true << QStringLiteral("#abcdef");
     }
 
-    // What is shown for no colour is not added to, and what is no colour does not stay.
+    // What is shown for no colour is not added to, and what is not the value does not stay.
     void valueEditHelps()
     {
         QFETCH(std::optional<QColor>, color);
         QFETCH(QString, typed);
+        QFETCH(bool, isPasted);
         for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::MouseFocusReason}) {
             ColorPickerWidget panel(nullptr, true);
             panel.setCurrentColor(color);
@@ -414,7 +421,12 @@ private Q_SLOTS:
                 edit->setFocus(reason);
             }
             QCOMPARE(edit->selectedText(), edit->text());
-            QTest::keyClicks(edit, typed);
+            if (isPasted) {
+                QGuiApplication::clipboard()->setText(typed);
+                edit->paste();
+            } else {
+                QTest::keyClicks(edit, typed);
+            }
             partOf(&panel, "opacitySlider")->setFocus();
             QTEST(edit->text(), "left");
         }
