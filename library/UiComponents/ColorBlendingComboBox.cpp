@@ -3,6 +3,7 @@
 #include <DesignElements/TesselComboBox.h>
 
 #include <QAbstractItemModel>
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QEvent>
 
@@ -68,11 +69,16 @@ int ColorBlendingComboBox::indexOf(BlendingMode mode) const
 
 void ColorBlendingComboBox::changeEvent(QEvent* event)
 {
-    // The base classes are not called, on purpose; update() is what QWidget would do.
-    if (event->type() == QEvent::LanguageChange) {
+    // The base classes are not called, on purpose; this and what readers hear is what QWidget would do.
+    update();
+    if (event->type() == QEvent::EnabledChange) {
+        QAccessible::State changed;
+        changed.disabled = true;
+        QAccessibleStateChangeEvent stateChange(this, changed);
+        QAccessible::updateAccessibility(&stateChange);
+    } else if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }
-    update();
 }
 
 void ColorBlendingComboBox::retranslate()

@@ -22,7 +22,8 @@
  * SourceOver is current.
  *
  * **Events.** Change events do not reach QComboBox. Set font and style sheet before the box is laid out,
- * because its size hint stays; a box that is disabled while its pop-up is open keeps it open.
+ * because its size hint stays; a palette of the box's own does not reach its list; a box that is disabled
+ * while its pop-up is open keeps it open.
  *
  * **Readers.** They find a combo box with the name of the mode as its value; keys are those of any combo box.
  *

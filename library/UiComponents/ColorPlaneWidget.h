@@ -51,7 +51,7 @@ public:
     /// Emits hsvColorChanged() if the hue differs and the marker is inside the widget.
     void setHue(int degrees);
 
-    /// Removes the marker until a colour is set or the mouse is pressed. Emits nothing.
+    /// Removes the marker until a colour is set or the user places it. Emits nothing.
     void removeMarker();
 
 Q_SIGNALS:

@@ -147,7 +147,11 @@ void PlaneDrag::setValue(int axis, double value)
     if (!m_plane->isEnabled() || PointMapping::isSame(wanted, before) || std::isnan(value)) {
         return;
     }
+    const QPointF place = pixel();
     takeValues(wanted);
+    if (PointMapping::isSame(pixel(), place) && PointMapping::isSame(values(), before)) {
+        return; // a fraction of a pixel
+    }
     m_plane->update();
     announce(before);
     report();

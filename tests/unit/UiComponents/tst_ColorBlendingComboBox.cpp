@@ -1,3 +1,4 @@
+#include "AccessibleEars.h"
 #include "PaintCount.h"
 #include "TestMain.h"
 #include "Wheel.h"
@@ -507,6 +508,26 @@ private Q_SLOTS:
             QCOMPARE(each->view()->isVisible(), isOurs);
         }
         box.hidePopup();
+    }
+
+    // QWidget would say it, which gets no change event.
+    void readersHearOfADisabledBox()
+    {
+        ColorBlendingComboBox box;
+        const AccessibleEars ears;
+        static QVector<bool> heard;
+        heard.clear();
+        QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            if (event->type() == QAccessible::StateChanged &&
+                qobject_cast<ColorBlendingComboBox*>(event->object()) &&
+                static_cast<QAccessibleStateChangeEvent*>(event)->changedStates().disabled) {
+                heard += !event->accessibleInterface()->state().disabled;
+            }
+        });
+        box.setEnabled(false);
+        QCOMPARE(heard, QVector<bool>{false});
+        box.setEnabled(true);
+        QCOMPARE(heard, QVector<bool>({false, true}));
     }
 
     void disabledBoxIsPaintedAnew()

@@ -3,6 +3,7 @@
 #include "TestMain.h"
 
 #include <UiComponents/ColorPlaneWidget.h>
+#include <UiComponents/PlaneDrag.h>
 
 #include <random>
 #include <utility>
@@ -329,6 +330,22 @@ private Q_SLOTS:
         QCOMPARE(plane.reports(), Colors());
         plane.setHsvColor(QColor::fromHsvF(0.5, 1.0, 1.0));
         QCOMPARE(plane.hsvColor(), plane.at(0.5, 100, 0));
+    }
+
+    // In numbers, as readers do.
+    void movedByLessThanAPixel()
+    {
+        Plane plane;
+        plane.setHsvColor(QColor::fromHsvF(0.5, 0.5, 0.5));
+        PlaneDrag* const drag = PlaneDrag::of(&plane);
+        drag->setValue(0, 50.3);
+        QCOMPARE(plane.reports(), Colors());
+        drag->setValue(0, 50.6);
+        QCOMPARE(plane.reports(), Colors{plane.at(0.5, 51, 25)});
+        // Without a marker both numbers are 0, which is a place, too.
+        plane.removeMarker();
+        drag->setValue(0, 0.3);
+        QCOMPARE(plane.reports(), Colors{plane.at(0.5, 0, 50)});
     }
 
     void markerProperties()
