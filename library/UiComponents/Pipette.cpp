@@ -387,8 +387,11 @@ void Pipette::startPicking()
 {
     ScreenColorSource* const source = ScreenColorSource::current();
     d->failureReason = source ? source->unavailableReason() : QString();
-    if (source ? !d->failureReason.isEmpty() : !mayReadScreen()) {
-        askForScreen();
+    const bool mayRead = mayReadScreen();
+    if (source ? !d->failureReason.isEmpty() : !mayRead) {
+        if (!mayRead) {
+            askForScreen();
+        }
         return;
     }
     d->currentColor = QColor();

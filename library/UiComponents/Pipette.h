@@ -19,10 +19,9 @@
  * A key gives up; so does anything else that ends the pick: another application or virtual desktop comes to
  * the front, the screens change, one of the windows is closed, the application quits.
  *
- * The colour is opaque, and the pixel's without the pipette's windows: a black of alpha 1 of 255 is taken
- * out, below which 127 and 128 are one; where there is none, as on a window above all others, 255 becomes
- * 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's). What may show the pipette is as it was last
- * seen: all in the first second, then where the loupe was in the last. Without a compositor all stands still.
+ * The colour is opaque, and the pixel's without the pipette's windows: their black of alpha 1 of 255 is taken
+ * out, below which 127 and 128 look the same. Where they do not cover it, as on a window above all others,
+ * 255 becomes 255 * 255 / 254 (ExtendedRgb; rgb() and name() are white's).
  *
  * Where no program may read the screen, as on Wayland, the desktop's portal or a host's own ScreenColorSource
  * picks instead, with the same signals. Xwayland shows nothing of other applications: run on Wayland itself.
@@ -64,8 +63,11 @@ public:
     /// read the screen is missing (see PrivacyAccess.h) it asks for it and does nothing else. A call while
     /// the pipette picks puts a second set of windows and a second loupe over the first, and the two may take
     /// turns in front; the trace of one set only is taken out of the colour; the next end of the pick ends
-    /// both. What closes right before, as a menu in the same turn, may still be picked from in the first
-    /// second.
+    /// both.
+    ///
+    /// For the first second the whole screen, and after that what the loupe has covered within the last one,
+    /// is read from a picture taken before it was covered; without a compositor the whole screen always is.
+    /// So what closes right before, as a menu in the same turn, may still be picked from in the first second.
     void startPicking();
 
     /// Ends the pick without a colour and emits pickingStopped(), also when nothing was being picked.

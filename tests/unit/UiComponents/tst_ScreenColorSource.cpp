@@ -186,8 +186,19 @@ private Q_SLOTS:
         QCOMPARE(stage.source.requests.at(1).parent.data(), window.windowHandle());
     }
 
+    void unavailableSourceIsNotAsked_data()
+    {
+        QTest::addColumn<AccessStatus>("status");
+        QTest::addColumn<int>("requests");
+        QTest::newRow("permission given") << AccessStatus::Granted << 0;
+        QTest::newRow("permission missing") << AccessStatus::Denied << 1;
+    }
+
     void unavailableSourceIsNotAsked()
     {
+        QFETCH(const AccessStatus, status);
+        QFETCH(const int, requests);
+        FakePrivacy::screenAccess = status;
         Stage stage;
         const QString reason = QStringLiteral("broken");
         stage.source.setReason(reason);
@@ -196,13 +207,13 @@ private Q_SLOTS:
         QCOMPARE(stage.log, QStringList());
         QCOMPARE(stage.pipette->failureReason(), reason);
         QVERIFY(stage.source.requests.isEmpty());
-        QCOMPARE(FakePrivacy::requests.size(), 1);
+        QCOMPARE(FakePrivacy::requests.size(), requests);
 
         stage.source.setReason({});
         stage.pipette->startPicking();
         QCOMPARE(stage.pipette->failureReason(), QString());
         QCOMPARE(stage.source.requests.size(), 1);
-        QCOMPARE(FakePrivacy::requests.size(), 1);
+        QCOMPARE(FakePrivacy::requests.size(), requests);
     }
 
     void stoppedPickIsWithdrawn()
