@@ -17,8 +17,8 @@ class AbstractColorPicker;
  *     field->setPicker(new MyPicker);
  *     connect(field, &ColorInputWidget::colorChanged, this, &Panel::applyColor);
  *
- * Interaction and colours are those of ColorPickerButton. The button is the focus proxy: a label whose buddy
- * is the field gives it the focus, and Tab stops there once.
+ * Interaction, colours and lifetime are those of ColorPickerButton. The button is the focus proxy: a label
+ * whose buddy is the field gives it the focus, and Tab stops there once.
  *
  * **Readers.** They find a group with the button in it, both of the field's name. The button's value is the
  * colour in words, and Space picks (see ColorPickerButton).

@@ -38,8 +38,8 @@ class AbstractColorPicker;
  *     ColorPickerButton #color { min-width: 40px; min-height: 16px; border-radius: 3px; }
  *     ColorPickerButton[multiColor="true"] { background-image: url(:/mixed.png); }
  *
- * **Lifetime.** A slot of a pickingStopped() that hiding the button causes must use deleteLater():
- * QWidget::hide() still uses it after the signal.
+ * **Lifetime.** A slot of any signal that hiding the button causes must use deleteLater(): QWidget::hide()
+ * still uses it after the signal.
  * @see ColorInputWidget, AbstractColorPicker, PopupColorPicker, WidgetColorPicker
  */
 class UICOMPONENTS_EXPORT ColorPickerButton : public ClickButton
@@ -52,11 +52,11 @@ public:
     /// Deletes the picker too, without any signal.
     ~ColorPickerButton() override;
 
-    /// Installs @p picker, which must not be null, takes ownership of it whatever its parent is, and deletes
-    /// the one before, also while that one is picking: the button is then released without a signal.
-    /// Installing the same picker again does nothing. A picker that is deleted elsewhere leaves a button
-    /// without one. The picker learns each colour from now on, but not the current one: install it first and
-    /// set the colour then, or give it the colour too.
+    /// Installs @p picker, which must not be null or another button's, takes ownership of it whatever its
+    /// parent is, and deletes the one before, also while that one is picking: the button is then released
+    /// without a signal. Installing the same picker again does nothing. A picker that is deleted elsewhere
+    /// leaves a button without one. The picker learns each colour from now on, but not the current one:
+    /// install it first and set the colour then, or give it the colour too.
     void setPicker(AbstractColorPicker* picker);
 
     /// The picker in use, or null.

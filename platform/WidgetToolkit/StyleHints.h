@@ -9,8 +9,8 @@
  * Each constant's text is its own name. Pass one to Util::applyStyleHint() or ColorHint::applyColorHint(); a
  * sheet then selects, say, `QLineEdit[styleHint="INPUT_LIGHT"]`. The toolkit gives the names no meaning.
  *
- * The constants are created, without allocating, when a library is loaded, and destroyed when it is unloaded.
- * Do not use them in the constructor of another object with static storage duration.
+ * The constants are created when a library is loaded, and destroyed when it is unloaded. Do not use them in
+ * the constructor of another object with static storage duration.
  */
 // clazy:excludeall=non-pod-global-static
 

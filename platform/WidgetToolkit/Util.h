@@ -53,8 +53,9 @@ WIDGETTOOLKIT_EXPORT void bindWidgets(QAbstractSlider* slider, QSpinBox* spinBox
 /// slider never rewrites the spin box, and its handle goes to the nearest step, halves away from zero. Both
 /// may be set up in any order: a spin box with too few decimals leaves the slider's value alone, and takes it
 /// in full once it has them: an OvDoubleSpinBox at once, a plain QDoubleSpinBox, which does not announce its
-/// decimals, when it is next shown, painted, focused or given a value. Ranges that the slider's 32-bit steps
-/// cannot count are clamped on the slider only.
+/// decimals, when it is next shown, painted, focused or given a value; where that is by showing or focusing
+/// it, a slot must use deleteLater() for it, too. Ranges that the slider's 32-bit steps cannot count are
+/// clamped on the slider only.
 WIDGETTOOLKIT_EXPORT void bindWidgets(OvDoubleSlider* slider, QDoubleSpinBox* spinBox);
 
 namespace Details {

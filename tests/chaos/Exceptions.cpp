@@ -63,8 +63,8 @@ const std::vector<Row>& rows()
         {Kind::Deletion, "ColorBlendingComboBox", "library/UiComponents/ColorBlendingComboBox.h",
          "A slot of blendingModeChanged() deletes the box with deleteLater()", "blendingModeChanged"},
         {Kind::Deletion, "ColorPickerButton", "library/UiComponents/ColorPickerButton.h",
-         "A slot of a pickingStopped() that hiding the button causes must use deleteLater()",
-         "pickingStopped", any, Doing::Showing},
+         "A slot of any signal that hiding the button causes must use deleteLater()", nullptr, Doing::Signal,
+         Doing::Showing},
         {Kind::Deletion, "ColorPickerWidget", "library/UiComponents/ColorPickerWidget.h",
          "A slot that runs because the panel is being shown or hidden must delete the panel with "
          "deleteLater()",
