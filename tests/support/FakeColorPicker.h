@@ -43,7 +43,7 @@ public:
     std::optional<QColor> color() override
     {
         // A copy: the call may delete this picker.
-        const std::optional<QColor> color = m_color;
+        std::optional<QColor> color = m_color;
         if (onColor) {
             const auto call = onColor;
             call();
