@@ -75,6 +75,12 @@ inline QHash<QString, QColor> paletteOf(const QString& style)
     return colors;
 }
 
+template <typename... Widgets>
+QVector<QWidget*> listOf(Widgets*... widgets)
+{
+    return {widgets...};
+}
+
 template <typename Widget>
 Widget* make(QWidget* parent)
 {

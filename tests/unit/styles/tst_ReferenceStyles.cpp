@@ -22,13 +22,18 @@ QStringList selectorsOf(const QString& style)
     return selectors;
 }
 
-/// Two names of a palette, and the contrast that their colours need.
-struct Pair
+/// A name of a palette, and the contrast that its colour needs on those of the other names.
+struct Contrast
 {
     const char* upper;
-    const char* lower;
     double min;
+    const char* lowers;
 };
+
+QStringList namesIn(const char* names)
+{
+    return QString::fromLatin1(names).split(QLatin1Char(' '));
+}
 
 /// Of a full sheet and that of the components alone.
 QStringList allSelectors()
@@ -44,52 +49,22 @@ QMainWindow* makeEverything()
     window->setCentralWidget(body);
     auto* layout = new QVBoxLayout(body);
 
-    const QVector<QWidget*> plain = {makeButton<QPushButton>(body),
-                                     makeButton<QToolButton>(body),
-                                     makeButton<QCheckBox>(body),
-                                     makeButton<QRadioButton>(body),
-                                     makeEdit(body),
-                                     makeSlider<QSlider>(body),
-                                     makeCombo<QComboBox>(body),
-                                     makeTesselCombo(body),
-                                     make<ColorBlendingComboBox>(body),
-                                     make<OvSpinBox>(body),
-                                     make<OvDoubleSpinBox>(body),
-                                     makeSlider<OvCustomSlider>(body),
-                                     makeSlider<Orvane::Tessel::TesselElegantSlider>(body),
-                                     make<QSpinBox>(body),
-                                     make<QDoubleSpinBox>(body),
-                                     make<QTextEdit>(body),
-                                     make<QPlainTextEdit>(body),
-                                     make<QProgressBar>(body),
-                                     make<QScrollBar>(body),
-                                     make<QLabel>(body),
-                                     make<QGroupBox>(body),
-                                     make<QListWidget>(body),
-                                     make<QTreeWidget>(body),
-                                     make<QTabWidget>(body),
-                                     make<QSizeGrip>(body),
-                                     makeFieldFrame(body),
-                                     makeColorButton(body),
-                                     makePickingButton(body),
-                                     new ColorInputWidget(body, QColor()),
-                                     makeColorPanel(body),
-                                     new SliderInputWidget(body, {0, 100}),
-                                     new DoubleSliderInputWidget(body, {0.0, 1.0, 2}),
-                                     make<PointSelectionPlane>(body),
-                                     new PointSelectorWidget(body, {{0.0, 0.0}, {1.0, 1.0}, 2, 2}),
-                                     make<QDialogButtonBox>(body),
-                                     new QTableWidget(2, 2, body),
-                                     makeDialog(body),
-                                     make<Orvane::Tessel::TesselLineEdit>(body),
-                                     make<SearchWidget>(body),
-                                     makePath(body),
-                                     make<OvPixmapWidget>(body),
-                                     makeLoupe(body),
-                                     makeBubble(body),
-                                     make<GuideButton>(body),
-                                     new GuideWidget(guideInfo(), body),
-                                     makeDialogGuide(body)};
+    const QVector<QWidget*> plain = listOf(
+        makeButton<QPushButton>(body), makeButton<QToolButton>(body), makeButton<QCheckBox>(body),
+        makeButton<QRadioButton>(body), makeEdit(body), makeSlider<QSlider>(body), makeCombo<QComboBox>(body),
+        makeTesselCombo(body), make<ColorBlendingComboBox>(body), make<OvSpinBox>(body),
+        make<OvDoubleSpinBox>(body), makeSlider<OvCustomSlider>(body),
+        makeSlider<Orvane::Tessel::TesselElegantSlider>(body), make<QSpinBox>(body),
+        make<QDoubleSpinBox>(body), make<QTextEdit>(body), make<QPlainTextEdit>(body),
+        make<QProgressBar>(body), make<QScrollBar>(body), make<QLabel>(body), make<QGroupBox>(body),
+        make<QListWidget>(body), make<QTreeWidget>(body), make<QTabWidget>(body), make<QSizeGrip>(body),
+        makeFieldFrame(body), makeColorButton(body), makePickingButton(body),
+        new ColorInputWidget(body, QColor()), makeColorPanel(body), new SliderInputWidget(body, {0, 100}),
+        new DoubleSliderInputWidget(body, {0.0, 1.0, 2}), make<PointSelectionPlane>(body),
+        new PointSelectorWidget(body, {{0.0, 0.0}, {1.0, 1.0}, 2, 2}), make<QDialogButtonBox>(body),
+        new QTableWidget(2, 2, body), makeDialog(body), make<Orvane::Tessel::TesselLineEdit>(body),
+        make<SearchWidget>(body), makePath(body), make<OvPixmapWidget>(body), makeLoupe(body),
+        makeBubble(body), make<GuideButton>(body), new GuideWidget(guideInfo(), body), makeDialogGuide(body));
     for (QWidget* widget : plain) {
         layout->addWidget(widget);
     }
@@ -373,66 +348,35 @@ private Q_SLOTS:
         QTest::addColumn<double>("min");
 
         // Texts, then marks that carry a meaning, then what is switched off and only must be seen.
-        constexpr Pair pairs[] = {
-            {"text", "window", 7},
-            {"text", "card", 7},
-            {"text", "popup", 7},
-            {"text", "field", 7},
-            {"text", "fieldLight", 7},
-            {"text", "button", 7},
-            {"text", "buttonHover", 7},
-            {"text", "buttonPressed", 7},
-            {"text", "greyOne", 4.5},
-            {"text", "greyOneHover", 4.5},
-            {"text", "greyTwo", 4.5},
-            {"text", "greyTwoHover", 4.5},
-            {"text", "greyPressed", 4.5},
-            {"text", "alternate", 7},
-            {"text", "tip", 7},
-            {"text", "itemHover", 7},
-            {"text", "errorField", 7},
-            {"textSecondary", "window", 4.5},
-            {"textSecondary", "card", 4.5},
-            {"accentText", "accent", 4.5},
-            {"accentText", "accentPressed", 4.5},
-            {"selectionText", "selection", 4.5},
-            {"error", "window", 4.5},
-            {"error", "card", 4.5},
-            {"border", "window", 3},
-            {"border", "card", 3},
-            {"border", "popup", 3},
-            {"border", "field", 3},
-            {"selection", "field", 3},
-            {"selection", "alternate", 3},
-            {"selection", "popup", 3},
-            {"accent", "card", 3},
-            {"accent", "popup", 3},
-            {"link", "popup", 4.5},
-            {"link", "window", 4.5},
-            {"link", "card", 4.5},
-            {"link", "field", 4.5},
-            {"scrollHandle", "window", 3},
-            {"scrollHandle", "field", 3},
-            {"focus", "window", 3},
-            {"focus", "card", 3},
-            {"focus", "field", 3},
-            {"focus", "popup", 3},
-            {"borderHover", "card", 3},
-            {"borderHover", "popup", 3},
-            {"errorBorder", "window", 3},
-            {"errorBorder", "field", 3},
-            {"focusOnAccent", "accent", 3},
-            {"swatchNone", "swatchEmpty", 3},
-            {"accentText", "accentHover", 4.5},
-            {"textDisabled", "window", 2},
-            {"textDisabled", "fieldDisabled", 2},
-            {"textDisabled", "buttonDisabled", 2},
+        constexpr Contrast pairs[] = {
+            {"text", 7,
+             "window card popup field fieldLight button buttonHover buttonPressed alternate tip itemHover"
+             " errorField"},
+            {"text", 4.5, "greyOne greyOneHover greyTwo greyTwoHover greyPressed"},
+            {"textSecondary", 4.5, "window card"},
+            {"accentText", 4.5, "accent accentPressed accentHover"},
+            {"selectionText", 4.5, "selection"},
+            {"error", 4.5, "window card"},
+            {"link", 4.5, "popup window card field"},
+            {"border", 3, "window card popup field"},
+            {"selection", 3, "field alternate popup"},
+            {"accent", 3, "card popup"},
+            {"scrollHandle", 3, "window field"},
+            {"focus", 3, "window card field popup"},
+            {"borderHover", 3, "card popup"},
+            {"errorBorder", 3, "window field"},
+            {"focusOnAccent", 3, "accent"},
+            {"swatchNone", 3, "swatchEmpty"},
+            {"textDisabled", 2, "window fieldDisabled buttonDisabled"},
         };
         for (const QString& style : styles()) {
-            for (const Pair& pair : pairs) {
-                QTest::addRow("%s: %s on %s", qPrintable(style), pair.upper, pair.lower)
-                    << style << QString::fromLatin1(pair.upper) << QString::fromLatin1(pair.lower)
-                    << pair.min;
+            for (const Contrast& each : pairs) {
+                const QString upper = QString::fromLatin1(each.upper);
+                const QStringList lowers = namesIn(each.lowers);
+                for (const QString& lower : lowers) {
+                    QTest::addRow("%s: %s on %s", qPrintable(style), each.upper, qPrintable(lower))
+                        << style << upper << lower << each.min;
+                }
             }
         }
     }
@@ -465,25 +409,22 @@ private Q_SLOTS:
         QFETCH(QString, file);
         const SheetColors colors;
         qApp->setStyleSheet(QStringLiteral("file:///" UIC_VARIANTS_DIR "/") + file);
-        constexpr Pair pairs[] = {
-            {"accentText", "accent", 4.5},
-            {"accentText", "accentHover", 4.5},
-            {"accentText", "accentPressed", 4.5},
-            {"selectionText", "selection", 4.5},
-            {"link", "window", 4.5},
-            {"link", "popup", 4.5},
-            {"link", "field", 4.5},
-            {"focus", "window", 3},
-            {"focus", "field", 3},
-            {"selection", "field", 3},
+        constexpr Contrast pairs[] = {
+            {"accentText", 4.5, "accent accentHover accentPressed"},
+            {"selectionText", 4.5, "selection"},
+            {"link", 4.5, "window popup field"},
+            {"focus", 3, "window field"},
+            {"selection", 3, "field"},
         };
-        for (const Pair& pair : pairs) {
-            const double actual = Legibility::contrast(colors.color(QString::fromLatin1(pair.upper)).rgb(),
-                                                       colors.color(QString::fromLatin1(pair.lower)).rgb());
-            QVERIFY2(actual >= pair.min,
-                     qPrintable(QStringLiteral("%1 on %2: %3")
-                                    .arg(QLatin1String(pair.upper), QLatin1String(pair.lower))
-                                    .arg(actual)));
+        for (const Contrast& each : pairs) {
+            const QString upper = QString::fromLatin1(each.upper);
+            const QStringList lowers = namesIn(each.lowers);
+            for (const QString& lower : lowers) {
+                const double actual =
+                    Legibility::contrast(colors.color(upper).rgb(), colors.color(lower).rgb());
+                QVERIFY2(actual >= each.min,
+                         qPrintable(QStringLiteral("%1 on %2: %3").arg(upper, lower).arg(actual)));
+            }
         }
         // The marks on the accent stand out too.
         QCheckBox box;
@@ -513,21 +454,25 @@ private Q_SLOTS:
             {"OvDoubleSpinBox", make<OvDoubleSpinBox>},
             {"OvComboBox", makeCombo<OvComboBox>},
             {"ColorBlendingComboBox", make<ColorBlendingComboBox>}};
+        const QVector<QPair<const char*, Change>> buttonStates = {
+            {"hover", hover}, {"pressed", press}, {"focus", focus}, {"disabled", disable}};
 
         for (const QString& style : styles()) {
             const auto row = [&style](const char* widget, const char* hook, const Maker& maker,
                                       const Change& change) {
                 QTest::addRow("%s: %s %s", qPrintable(style), widget, hook) << style << maker << change;
             };
+            const auto states = [&](const char* widget, const Maker& maker) {
+                for (const auto& state : buttonStates) {
+                    row(widget, state.first, maker, state.second);
+                }
+            };
             for (const auto& button : buttons) {
                 for (const char* name :
                      {"LIGHT_GREY_ONE", "LIGHT_GREY_TWO", "WITHOUT_BG1", "WITHOUT_BG2", "WITHOUT_BG3"}) {
                     row(button.first, name, button.second, withHint(name));
                 }
-                row(button.first, "hover", button.second, hover);
-                row(button.first, "pressed", button.second, press);
-                row(button.first, "focus", button.second, focus);
-                row(button.first, "disabled", button.second, disable);
+                states(button.first, button.second);
             }
             for (const auto& field : fields) {
                 row(field.first, "error", field.second, withHint("error"));
@@ -571,10 +516,9 @@ private Q_SLOTS:
             row("PathSelectionWidget", "focusHint", makePath, inPart(frame, withProperty("focusHint", true)));
             row("PathSelectionWidget", "disabled", makePath, disable);
             for (const char* button : {"pathBrowseButton", "pathResetButton"}) {
-                row(button, "hover", makePath, inPart(button, hover));
-                row(button, "pressed", makePath, inPart(button, press));
-                row(button, "focus", makePath, inPart(button, focus));
-                row(button, "disabled", makePath, inPart(button, disable));
+                for (const auto& state : buttonStates) {
+                    row(button, state.first, makePath, inPart(button, state.second));
+                }
             }
             row("ColorPickerButton", "nullColor", makeColorButton,
                 [](QWidget* widget) { static_cast<ColorPickerButton*>(widget)->setColor(QColor()); });
@@ -584,21 +528,12 @@ private Q_SLOTS:
             row("colour preview", "multiColor", makeColorPreview, withProperty("multiColor", true));
             row("colour preview", "disabled", makeFilledColorPreview, disable);
             for (const char* name : {"pipetteButton", "addCustomColorButton"}) {
-                row(name, "hover", makeNamedButton(name), hover);
-                row(name, "pressed", makeNamedButton(name), press);
-                row(name, "focus", makeNamedButton(name), focus);
-                row(name, "disabled", makeNamedButton(name), disable);
+                states(name, makeNamedButton(name));
             }
             row("hue slider", "focus", makeHueSlider, focus);
             row("hue slider", "disabled", makeHueSlider, disable);
-            row("ColorPickerButton", "hover", makeColorButton, hover);
-            row("ColorPickerButton", "pressed", makeColorButton, press);
-            row("ColorPickerButton", "focus", makeColorButton, focus);
-            row("ColorPickerButton", "disabled", makeColorButton, disable);
-            row("WidgetColorPickerButton", "hover", makePickingButton, hover);
-            row("WidgetColorPickerButton", "pressed", makePickingButton, press);
-            row("WidgetColorPickerButton", "focus", makePickingButton, focus);
-            row("WidgetColorPickerButton", "disabled", makePickingButton, disable);
+            states("ColorPickerButton", makeColorButton);
+            states("WidgetColorPickerButton", makePickingButton);
         }
     }
 
@@ -628,22 +563,13 @@ private Q_SLOTS:
         font.setPixelSize(12);
         QApplication::setFont(font);
         QWidget window;
-        const QVector<QWidget*> controls = {makeButton<QPushButton>(&window),
-                                            makeButton<QToolButton>(&window),
-                                            makeEdit(&window),
-                                            make<QSpinBox>(&window),
-                                            make<QDoubleSpinBox>(&window),
-                                            makeCombo<OvComboBox>(&window),
-                                            makeTesselCombo(&window),
-                                            make<ColorBlendingComboBox>(&window),
-                                            make<OvSpinBox>(&window),
-                                            make<OvDoubleSpinBox>(&window),
-                                            make<Orvane::Tessel::TesselLineEdit>(&window),
-                                            makeCombo<QComboBox>(&window),
-                                            makeColorButton(&window),
-                                            new ColorInputWidget(&window, QColor()),
-                                            makePath(&window),
-                                            makeSearch(&window)};
+        const QVector<QWidget*> controls =
+            listOf(makeButton<QPushButton>(&window), makeButton<QToolButton>(&window), makeEdit(&window),
+                   make<QSpinBox>(&window), make<QDoubleSpinBox>(&window), makeCombo<OvComboBox>(&window),
+                   makeTesselCombo(&window), make<ColorBlendingComboBox>(&window), make<OvSpinBox>(&window),
+                   make<OvDoubleSpinBox>(&window), make<Orvane::Tessel::TesselLineEdit>(&window),
+                   makeCombo<QComboBox>(&window), makeColorButton(&window),
+                   new ColorInputWidget(&window, QColor()), makePath(&window), makeSearch(&window));
         QStringList others;
         for (QWidget* control : controls) {
             control->ensurePolished();
@@ -1065,12 +991,9 @@ private Q_SLOTS:
         Util::applyProperty(surface, "roundedEdges", true);
         auto* layout = new QVBoxLayout(surface);
         layout->setContentsMargins(0, 0, 0, 0);
-        const QVector<QWidget*> children = {new QLabel(surface),
-                                            make<OvFrame>(surface),
-                                            make<QWidget>(surface),
-                                            makeButton<QCheckBox>(surface),
-                                            makeButton<QRadioButton>(surface),
-                                            makeSlider<QSlider>(surface)};
+        const QVector<QWidget*> children = listOf(
+            new QLabel(surface), make<OvFrame>(surface), make<QWidget>(surface),
+            makeButton<QCheckBox>(surface), makeButton<QRadioButton>(surface), makeSlider<QSlider>(surface));
         for (QWidget* child : children) {
             child->setMinimumSize(120, 20);
             layout->addWidget(child);
