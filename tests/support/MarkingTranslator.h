@@ -1,14 +1,23 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTranslator>
 
-/// Puts every text of one context into angle brackets, so that texts that were translated are seen.
+/// Puts every text of one context into angle brackets while it lives, so that texts that are translated are
+/// seen. Whatever hears of a new language has heard of it when the constructor or the destructor returns.
 class MarkingTranslator : public QTranslator
 {
 public:
     explicit MarkingTranslator(const char* context)
         : m_context(context)
     {
+        QCoreApplication::installTranslator(this);
+        QCoreApplication::processEvents();
+    }
+    ~MarkingTranslator() override
+    {
+        QCoreApplication::removeTranslator(this);
+        QCoreApplication::processEvents();
     }
 
     bool isEmpty() const override { return false; }

@@ -176,10 +176,8 @@ private Q_SLOTS:
         partOf(&field, "spinbox")->setAccessibleName(QStringLiteral("Percent"));
         QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Percent"));
         partOf(&field, "spinbox")->setAccessibleName(QString());
-        MarkingTranslator translator("SliderInputWidget");
-        QCoreApplication::installTranslator(&translator);
+        const MarkingTranslator translator("SliderInputWidget");
         QCOMPARE(spokenName(partOf(&field, "spinbox")), QStringLiteral("Opacity, <number>"));
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void colorButtonSpeaks()
@@ -203,12 +201,10 @@ private Q_SLOTS:
             reader(&picking).text(QAccessible::Description),
             QStringLiteral("blue, #0000ff. Needs a mouse; without one, type the value in a colour panel"));
         // One sentence after the other as the language has it.
-        MarkingTranslator translator("AccessibleNames");
-        QCoreApplication::installTranslator(&translator);
+        const MarkingTranslator translator("AccessibleNames");
         QCOMPARE(
             reader(&picking).text(QAccessible::Description),
             QStringLiteral("<blue, #0000ff. Needs a mouse; without one, type the value in a colour panel>"));
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void descriptionsAreSentences_data()
@@ -331,11 +327,9 @@ private Q_SLOTS:
         QCOMPARE(description(partOf(&panel, "pipetteButton")),
                  QStringLiteral("Needs a mouse; without one, type the colour value"));
 
-        MarkingTranslator translator("ColorPickerWidget");
-        QCoreApplication::installTranslator(&translator);
+        const MarkingTranslator translator("ColorPickerWidget");
         QCOMPARE(spokenName(partOf(&panel, "pipetteButton")),
                  QStringLiteral("<Pick a colour from the screen>"));
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void panelAnnouncesItsColor()

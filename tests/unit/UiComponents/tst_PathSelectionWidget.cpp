@@ -777,24 +777,17 @@ private Q_SLOTS:
     {
         PathSelectionWidget field(nullptr);
         field.showRequiredSpace(true, 2048);
-        MarkingTranslator widgetTexts("PathSelectionWidget");
-        MarkingTranslator units("FormatFileSize");
-        QCoreApplication::installTranslator(&widgetTexts);
-        QCoreApplication::installTranslator(&units);
-        QCoreApplication::sendPostedEvents();
-        const QString size = Orvane::Util::FormatFileSize(2048);
-        const QString shown = requiredOf(field)->text();
-        // A figure that was never given stays without a text.
-        const QString notShown = availableOf(field)->text();
-        field.showAvailableSpace(false, -1);
-        const QString unknown = availableOf(field)->text();
-        QCoreApplication::removeTranslator(&widgetTexts);
-        QCoreApplication::removeTranslator(&units);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(shown, QString("<Required: %1>").arg(size));
-        QVERIFY(size.contains(QLatin1Char('<')));
-        QCOMPARE(notShown, QString());
-        QCOMPARE(unknown, "<Available: ...>");
+        {
+            const MarkingTranslator widgetTexts("PathSelectionWidget");
+            const MarkingTranslator units("FormatFileSize");
+            const QString size = Orvane::Util::FormatFileSize(2048);
+            QCOMPARE(requiredOf(field)->text(), QString("<Required: %1>").arg(size));
+            QVERIFY(size.contains(QLatin1Char('<')));
+            // A figure that was never given stays without a text.
+            QCOMPARE(availableOf(field)->text(), QString());
+            field.showAvailableSpace(false, -1);
+            QCOMPARE(availableOf(field)->text(), "<Available: ...>");
+        }
         QCOMPARE(requiredOf(field)->text(), "Required: 2 KB");
         QCOMPARE(availableOf(field)->text(), "Available: ...");
         QVERIFY(availableOf(field)->isHidden());
@@ -830,22 +823,16 @@ private Q_SLOTS:
             }
             return editOf(field)->toolTip();
         };
-        MarkingTranslator translator("PathSelectionWidget");
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
-        const QString translated = shown();
-        QCoreApplication::removeTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(translated, isOwn ? QString("<%1>").arg(notWritable) : notWritable);
+        {
+            const MarkingTranslator translator("PathSelectionWidget");
+            QCOMPARE(shown(), isOwn ? QString("<%1>").arg(notWritable) : notWritable);
+        }
         QCOMPARE(shown(), notWritable);
 
         // What is gone does not come back.
         QTest::keyClicks(editOf(field), "x");
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
-        const QString gone = editOf(field)->toolTip();
-        QCoreApplication::removeTranslator(&translator);
-        QCOMPARE(gone, QString());
+        const MarkingTranslator translator("PathSelectionWidget");
+        QCOMPARE(editOf(field)->toolTip(), QString());
     }
 
     void pathSetByASlot()

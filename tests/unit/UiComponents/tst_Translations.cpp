@@ -183,12 +183,12 @@ private Q_SLOTS:
     void wordsOfTheHostStay()
     {
         QVERIFY(Translations::load(QLocale("en")));
-        MarkingTranslator host("SearchWidget");
-        QCoreApplication::installTranslator(&host);
-        QVERIFY(Translations::load(QLocale("de")));
-        QCOMPARE(translated("SearchWidget", "Clear the search"), QString("<Clear the search>"));
-        QCOMPARE(translated("PathSelectionWidget", "Choose a folder"), QString("Ordner wählen"));
-        QCoreApplication::removeTranslator(&host);
+        {
+            const MarkingTranslator host("SearchWidget");
+            QVERIFY(Translations::load(QLocale("de")));
+            QCOMPARE(translated("SearchWidget", "Clear the search"), QString("<Clear the search>"));
+            QCOMPARE(translated("PathSelectionWidget", "Choose a folder"), QString("Ordner wählen"));
+        }
         QCOMPARE(translated("SearchWidget", "Clear the search"), QString("Suche leeren"));
     }
 };

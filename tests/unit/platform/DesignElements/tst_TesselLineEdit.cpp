@@ -95,11 +95,9 @@ private Q_SLOTS:
 
     void entriesAreTranslated()
     {
-        MarkingTranslator translator("Orvane::Tessel::TesselLineEdit");
-        QCoreApplication::installTranslator(&translator);
+        const MarkingTranslator translator("Orvane::Tessel::TesselLineEdit");
         TesselLineEdit edit;
         const QStringList texts = textsOf(*openMenu(edit));
-        QCoreApplication::removeTranslator(&translator);
         for (const QString& text : texts) {
             QVERIFY2(text == QLatin1String("|") || text.startsWith(QLatin1Char('<')), qPrintable(text));
         }
