@@ -38,9 +38,9 @@ struct Kind
     const char* keyed;
     const char* typed;
     QVariant start;
-    QVariant other;
-    QVariant first;
-    QString text;
+    QVariant other = {};
+    QVariant first = {};
+    QString text = {};
 };
 
 template <typename Field, typename... Init>
@@ -95,18 +95,11 @@ const QVector<Kind>& kinds()
          slider, spin, 50, 80, 0, "37"},
         {"DoubleSliderInputWidget", maker<DoubleSliderInputWidget>(Double{0.0, 1.0, 2}), slider, slider, spin,
          0.5, 0.8, 0.0, "0.37"},
-        {"PointSelectionPlane",
-         makePlane,
-         "PointSelectionPlane",
-         "PointSelectionPlane",
-         nullptr,
-         QPointF(50, 50),
-         QPointF(80, 20),
-         QPointF(0, 0),
-         {}},
+        {"PointSelectionPlane", makePlane, "PointSelectionPlane", "PointSelectionPlane", nullptr,
+         QPointF(50, 50), QPointF(80, 20), QPointF(0, 0)},
         {"PointSelectorWidget", makeSelector, "PointSelectionPlane", "PointSelectionPlane", spin,
          QPointF(5, 5), QPointF(8, 2), QPointF(0, 0), "3.7"},
-        {"QSlider", makeRanged<QSlider>, slider, slider, nullptr, 50, 80, 0, {}},
+        {"QSlider", makeRanged<QSlider>, slider, slider, nullptr, 50, 80, 0},
         {"OvDoubleSlider",
          [](QWidget* parent) {
              auto* field = new OvDoubleSlider(parent);
@@ -114,41 +107,27 @@ const QVector<Kind>& kinds()
              field->setRange(0, 100);
              return field;
          },
-         slider,
-         slider,
-         nullptr,
-         0.5,
-         0.8,
-         0.0,
-         {}},
+         slider, slider, nullptr, 0.5, 0.8, 0.0},
         {"QSpinBox", makeRanged<QSpinBox>, nullptr, spin, spin, 50, 80, 0, "37"},
         {"QDoubleSpinBox", makeRanged<QDoubleSpinBox>, nullptr, spin, spin, 50.0, 80.0, 0.0, "3.7"},
         {"QLineEdit", maker<QLineEdit>(), nullptr, nullptr, edit, "before", "other", "", "typed"},
         {"SearchWidget", maker<SearchWidget>(), nullptr, nullptr, edit, "before", "other", "", "typed"},
         {"PathSelectionWidget", maker<PathSelectionWidget>(), nullptr, nullptr, edit, "/before", "/other", "",
          "/typed"},
-        {"QComboBox",
-         [](QWidget* parent) { return makeCombo(parent, false); },
-         nullptr,
-         "QComboBox",
-         nullptr,
-         2,
-         4,
-         0,
-         {}},
+        {"QComboBox", [](QWidget* parent) { return makeCombo(parent, false); }, nullptr, "QComboBox", nullptr,
+         2, 4, 0},
         {"editable QComboBox", [](QWidget* parent) { return makeCombo(parent, true); }, nullptr, "QComboBox",
          "QComboBox", "three", "five", "one", "typed"},
-        {"ColorBlendingComboBox",
-         maker<ColorBlendingComboBox>(),
-         nullptr,
-         "QComboBox",
-         nullptr,
-         int(BlendingMode::Multiply),
-         int(BlendingMode::Screen),
-         int(BlendingMode::SourceOver),
-         {}},
+        {"ColorBlendingComboBox", maker<ColorBlendingComboBox>(), nullptr, "QComboBox", nullptr,
+         int(BlendingMode::Multiply), int(BlendingMode::Screen), int(BlendingMode::SourceOver)},
     };
     return all;
+}
+
+template <typename Field, typename... Init>
+Kind ofColor(const Color& start, Init... init)
+{
+    return {"colour", maker<Field>(init...), nullptr, nullptr, nullptr, QVariant::fromValue(start)};
 }
 
 /// A field in a window, with a session, and what the session has told.
@@ -767,16 +746,7 @@ private Q_SLOTS:
         QFETCH(Color, start);
         QFETCH(Color, result);
         QFETCH(QString, expected);
-        const Kind kind = {"ColorInputWidget",
-                           [](QWidget* parent) { return new ColorInputWidget(parent, Qt::white); },
-                           nullptr,
-                           nullptr,
-                           nullptr,
-                           QVariant::fromValue(start),
-                           QVariant::fromValue(result),
-                           {},
-                           {}};
-        Stage stage(kind);
+        Stage stage(ofColor<ColorInputWidget>(start, QColor(Qt::white)));
         auto* const button = stage.field->findChild<ColorPickerButton*>();
         auto* const picker = new FakeColorPicker;
         button->setPicker(picker);
@@ -862,15 +832,7 @@ private Q_SLOTS:
         QFETCH(Act, pick);
         QFETCH(Color, start);
         QFETCH(QString, expected);
-        const Kind kind = {"ColorPickerButton",
-                           [](QWidget* parent) { return new ColorPickerButton(parent); },
-                           nullptr,
-                           nullptr,
-                           nullptr,
-                           QVariant::fromValue(start),
-                           {},
-                           {},
-                           {}};
+        const Kind kind = ofColor<ColorPickerButton>(start);
         Stage stage(kind);
         pick(stage, kind);
         QVERIFY(!buttonOf(stage)->isPickingInProgress());
@@ -883,16 +845,7 @@ private Q_SLOTS:
 
     void colorPickWithThePanel()
     {
-        const Kind kind = {"ColorPickerButton",
-                           [](QWidget* parent) { return new ColorPickerButton(parent); },
-                           nullptr,
-                           nullptr,
-                           nullptr,
-                           QVariant::fromValue(Color()),
-                           QVariant::fromValue(Color(QColor(Qt::red))),
-                           {},
-                           {}};
-        Stage stage(kind);
+        Stage stage(ofColor<ColorPickerButton>(Color()));
         auto* const button = qobject_cast<ColorPickerButton*>(stage.field);
         button->setPicker(new PopupColorPicker);
         for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
