@@ -1,3 +1,4 @@
+#include "OnEvent.h"
 #include "TestMain.h"
 
 #include <UiComponents/ColorPickerWidgetFaces.h>
@@ -42,25 +43,15 @@ private Q_SLOTS:
 
     void paintOfTheSameColorDoesNothing()
     {
-        class Face : public QWidget
-        {
-        public:
-            int changes = 0;
-
-        protected:
-            void changeEvent(QEvent* event) override
-            {
-                changes += event->type() == QEvent::StyleChange ? 1 : 0;
-                QWidget::changeEvent(event);
-            }
-        };
-        Face face;
+        QWidget face;
+        int changes = 0;
+        const OnEvent onChange(QEvent::StyleChange, &face, [&changes] { ++changes; });
         face.ensurePolished();
         ColorPickerWidgetFaces::paint(&face, Qt::red);
-        QVERIFY(face.changes > 0);
-        face.changes = 0;
+        QVERIFY(changes > 0);
+        changes = 0;
         ColorPickerWidgetFaces::paint(&face, QColor(255, 0, 0, 9));
-        QCOMPARE(face.changes, 0);
+        QCOMPARE(changes, 0);
     }
 };
 

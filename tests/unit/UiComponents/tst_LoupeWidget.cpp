@@ -1,3 +1,4 @@
+#include "OnEvent.h"
 #include "PaintCount.h"
 #include "TestMain.h"
 
@@ -52,22 +53,6 @@ constexpr double rim = 0.03;
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(LoupeWidget*)>)
-
-namespace {
-
-class UpdateCounter : public QObject
-{
-public:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
-
-} // namespace
 
 class tst_LoupeWidget : public QObject
 {
@@ -180,19 +165,20 @@ private Q_SLOTS:
         loupe.resize(side, side);
         loupe.show();
         QVERIFY(QTest::qWaitForWindowExposed(&loupe));
-        UpdateCounter counter;
-        loupe.installEventFilter(&counter);
+        int updates = 0;
+        const OnEvent onRequest(QEvent::UpdateRequest, &loupe, [&updates] { ++updates; });
+        const OnEvent onPaint(QEvent::Paint, &loupe, [&updates] { ++updates; });
         loupe.setEmptyPixelsColor(Qt::darkGreen);
         QCOMPARE(loupe.emptyPixelsColor(), QColor(Qt::darkGreen));
-        QTRY_VERIFY(counter.count > 0);
+        QTRY_VERIFY(updates > 0);
         QCoreApplication::processEvents();
-        counter.count = 0;
+        updates = 0;
         loupe.setEmptyPixelsColor(Qt::darkGreen);
         QCoreApplication::processEvents();
-        QCOMPARE(counter.count, 0);
+        QCOMPARE(updates, 0);
         loupe.setPlacement(1);
         QCoreApplication::processEvents();
-        QCOMPARE(counter.count, 0);
+        QCOMPARE(updates, 0);
         QVERIFY(loupe.setProperty("emptyPixelsColor", QColor(Qt::red)));
         QCOMPARE(loupe.emptyPixelsColor(), QColor(Qt::red));
     }

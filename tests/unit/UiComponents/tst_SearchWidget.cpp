@@ -1,4 +1,6 @@
 #include "FieldWindow.h"
+#include "OnEvent.h"
+#include "Part.h"
 #include "TestMain.h"
 
 #include <DesignElements/TesselLineEdit.h>
@@ -15,18 +17,9 @@ const char* const sheet = "QWidget { color: #dddddd; background-color: #222222; 
                           "  qproperty-PlaceholderHoverColor: #00ff00;"
                           "  qproperty-PlaceholderDisabledColor: #ff0000; }";
 
-QLabel* iconOf(const SearchWidget& search)
-{
-    return search.findChild<QLabel*>("searchIcon");
-}
-QLineEdit* editOf(const SearchWidget& search)
-{
-    return search.findChild<QLineEdit*>("searchLineEdit");
-}
-QToolButton* buttonOf(const SearchWidget& search)
-{
-    return search.findChild<QToolButton*>("clearSearchButton");
-}
+constexpr Part<QLabel> iconOf("searchIcon");
+constexpr Part<QLineEdit> editOf("searchLineEdit");
+constexpr Part<QToolButton> buttonOf("clearSearchButton");
 
 bool hasPlaceholderColor(const SearchWidget& search, const QColor& color)
 {
@@ -78,29 +71,6 @@ void commit(QLineEdit* edit, const QString& text)
     event.setCommitString(text);
     QCoreApplication::sendEvent(edit, &event);
 }
-
-/// Counts the events of one type that reach a widget.
-class EventCounter : public QObject
-{
-public:
-    EventCounter(QObject* watched, QEvent::Type type)
-        : m_type(type)
-    {
-        watched->installEventFilter(this);
-    }
-
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == m_type ? 1 : 0;
-        return false;
-    }
-
-private:
-    const QEvent::Type m_type;
-};
 
 } // namespace
 
@@ -294,16 +264,18 @@ private Q_SLOTS:
     void clearButtonShowsWithTheText()
     {
         SearchWidget search;
-        EventCounter shows(buttonOf(search), QEvent::ShowToParent);
-        EventCounter hides(buttonOf(search), QEvent::HideToParent);
+        int shows = 0;
+        int hides = 0;
+        const OnEvent onShow(QEvent::ShowToParent, buttonOf(search), [&shows] { ++shows; });
+        const OnEvent onHide(QEvent::HideToParent, buttonOf(search), [&hides] { ++hides; });
         QTest::keyClicks(editOf(search), "abc");
         QVERIFY(!buttonOf(search)->isHidden());
         for (int i = 0; i < 3; ++i) {
             QTest::keyClick(editOf(search), Qt::Key_Backspace);
         }
         QVERIFY(buttonOf(search)->isHidden());
-        QCOMPARE(shows.count, 1);
-        QCOMPARE(hides.count, 1);
+        QCOMPARE(shows, 1);
+        QCOMPARE(hides, 1);
     }
 
     void changesThatKeepATextTouchNothing()
