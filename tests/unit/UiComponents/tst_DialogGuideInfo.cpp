@@ -31,17 +31,6 @@ private Q_SLOTS:
         QCOMPARE(info.secondaryButtonText, QStringLiteral("secondary"));
         QCOMPARE(info.moviePath, QStringLiteral("movie"));
     }
-
-    void copiesAreIndependent()
-    {
-        DialogGuideInfo info;
-        info.title = QStringLiteral("one");
-        DialogGuideInfo copy = info;
-        copy.title = QStringLiteral("two");
-        QCOMPARE(info.title, QStringLiteral("one"));
-        copy = info;
-        QCOMPARE(copy.title, QStringLiteral("one"));
-    }
 };
 
 UIC_TEST_MAIN(tst_DialogGuideInfo)

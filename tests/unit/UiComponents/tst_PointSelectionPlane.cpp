@@ -585,6 +585,36 @@ private Q_SLOTS:
         QCOMPARE(plane->minimumSize(), QSize(101, 51));
     }
 
+    void helperStartsWithoutALook()
+    {
+        QWidget plane;
+        const auto* helper = new PointSelectionPlanePropertyHelper(&plane);
+        QCOMPARE(helper->parentWidget(), &plane);
+        QVERIFY(!helper->isVisible());
+        QCOMPARE(helper->markerRadius(), 0.0);
+        QVERIFY(!helper->markerColor().isValid());
+        QVERIFY(!helper->fillColor().isValid());
+        QCOMPARE(helper->coordLinesWidth(), 0);
+        QVERIFY(!helper->coordLinesColor().isValid());
+    }
+
+    // In another order than Plane above: whatever writes more than its own value is seen here or there.
+    void sheetWritesTheHelper()
+    {
+        QWidget plane;
+        auto* helper = new PointSelectionPlanePropertyHelper(&plane);
+        plane.setStyleSheet(
+            QStringLiteral("PointSelectionPlanePropertyHelper { qproperty-MarkerRadius: 5.5;"
+                           "qproperty-MarkerColor: rgba(1, 2, 3, 4); qproperty-CoordLinesWidth: 2;"
+                           "qproperty-CoordLinesColor: red; qproperty-FillColor: #0a0b0c; }"));
+        plane.show();
+        QCOMPARE(helper->property("MarkerRadius"), QVariant(5.5));
+        QCOMPARE(helper->property("MarkerColor"), QVariant(QColor(1, 2, 3, 4)));
+        QCOMPARE(helper->property("FillColor"), QVariant(QColor(10, 11, 12)));
+        QCOMPARE(helper->property("CoordLinesWidth"), QVariant(2));
+        QCOMPARE(helper->property("CoordLinesColor"), QVariant(QColor(Qt::red)));
+    }
+
     void sheetOfTheDisabledPlane()
     {
         QWidget window;
