@@ -2,7 +2,19 @@
 
 #include <Settings/SettingsStore.h>
 
+#include <QColor>
+
 #include <memory>
+
+/// That many own colours, all different and none of the palette.
+inline QStringList ownColors(int count)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i) {
+        names += QColor(1, i / 256, i % 256).name();
+    }
+    return names;
+}
 
 /// What a RecordingStore keeps, and how often it was asked.
 struct Record

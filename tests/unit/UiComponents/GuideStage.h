@@ -23,6 +23,14 @@ inline QString words(int count)
     return QStringLiteral("frame ").repeated(count).trimmed();
 }
 
+/// The height of the label's text in lines of @p width.
+inline int neededHeight(const QLabel* label, int width)
+{
+    QLabel fresh(label->text());
+    fresh.setWordWrap(true);
+    return fresh.heightForWidth(width);
+}
+
 inline OvPixmapWidget* pixmapOf(const QWidget& guide)
 {
     return partOf<OvPixmapWidget>(guide, "gifPixmapWidget");

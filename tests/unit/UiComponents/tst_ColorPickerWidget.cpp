@@ -200,15 +200,6 @@ void emptySpinBox(Panel* panel)
     QTest::keyClick(panel->spinBox, Qt::Key_Backspace);
 }
 
-QStringList names(int count)
-{
-    QStringList result;
-    for (int i = 0; i < count; ++i) {
-        result += QColor(1, i / 256, i % 256).name();
-    }
-    return result;
-}
-
 QStringList padded(QStringList colors)
 {
     while (colors.size() < 8) {
@@ -334,7 +325,7 @@ private Q_SLOTS:
 
     void tabOrder()
     {
-        m_record->value = names(3);
+        m_record->value = ownColors(3);
         Panel panel;
         panel.show();
         QApplication::setActiveWindow(&panel);
@@ -408,7 +399,7 @@ private Q_SLOTS:
 
     void facesAreSeen()
     {
-        m_record->value = names(1);
+        m_record->value = ownColors(1);
         Panel panel;
         panel.setStyleSheet(QStringLiteral("QToolButton { border: none; width: 16px; height: 16px; }"));
         panel.setCurrentColor(QColor(0, 0, 255, 100));
@@ -418,7 +409,7 @@ private Q_SLOTS:
         };
         QCOMPARE(middle(panel.paletteButton(1, 1)), orange);
         QCOMPARE(middle(panel.paletteButton(7, 8)), QStringLiteral("#390023"));
-        QCOMPARE(middle(panel.queueButton(0)), names(1).constFirst());
+        QCOMPARE(middle(panel.queueButton(0)), ownColors(1).constFirst());
         QCOMPARE(middle(panel.face), QStringLiteral("#0000ff"));
         QTest::mouseClick(panel.paletteButton(1, 1), Qt::LeftButton);
         QCOMPARE(middle(panel.face), orange);
@@ -474,7 +465,7 @@ private Q_SLOTS:
 
     void arrowKeysChoose()
     {
-        m_record->value = names(8);
+        m_record->value = ownColors(8);
         Panel panel;
         panel.show();
         QApplication::setActiveWindow(&panel);
@@ -582,9 +573,9 @@ private Q_SLOTS:
         QTest::newRow("another, over no colour")
             << true << OptionalColor(QColor()) << own << QStringList{half(own)} << own << QString();
         QTest::newRow("one of the user's own")
-            << true << several << names(1).constFirst()
-            << QStringList({half(names(1).constFirst()), half(names(1).constFirst())})
-            << names(1).constFirst() << names(1).constFirst();
+            << true << several << ownColors(1).constFirst()
+            << QStringList({half(ownColors(1).constFirst()), half(ownColors(1).constFirst())})
+            << ownColors(1).constFirst() << ownColors(1).constFirst();
     }
 
     void colorsThatAreTyped()
@@ -595,7 +586,7 @@ private Q_SLOTS:
         QFETCH(QStringList, reported);
         QFETCH(QString, shown);
         QFETCH(QString, checked);
-        m_record->value = names(1);
+        m_record->value = ownColors(1);
         Panel panel(before == OptionalColor(QColor()));
         panel.slider->setDoubleValue(QColor(0, 0, 0, 128).alphaF());
         panel.setOpacityAdjustmentAvailable(adjustable);
@@ -692,9 +683,9 @@ private Q_SLOTS:
             << QStringList({QStringLiteral("#00000000"), QStringLiteral("#00000000")})
             << QStringLiteral("#000000") << QStringLiteral("#000000") << 0 << QStringLiteral("#00000000");
         QTest::newRow("one of the user's own")
-            << false << true << several << OptionalColor(QColor(names(1).constFirst()))
-            << QStringList{opaque(names(1).constFirst())} << names(1).constFirst() << names(1).constFirst()
-            << 100 << opaque(names(1).constFirst());
+            << false << true << several << OptionalColor(QColor(ownColors(1).constFirst()))
+            << QStringList{opaque(ownColors(1).constFirst())} << ownColors(1).constFirst()
+            << ownColors(1).constFirst() << 100 << opaque(ownColors(1).constFirst());
         QTest::newRow("no colour, with its button")
             << true << true << halfRed << none << QStringList{QStringLiteral("none")}
             << QStringLiteral("#null") << QStringLiteral("transparent") << 50 << QStringLiteral("none");
@@ -723,7 +714,7 @@ private Q_SLOTS:
         QFETCH(QString, checked);
         QFETCH(int, opacity);
         QFETCH(QString, current);
-        m_record->value = names(1);
+        m_record->value = ownColors(1);
         Panel panel(nullColorAllowed);
         panel.setOpacityAdjustmentAvailable(adjustable);
         panel.setCurrentColor(before);
@@ -935,18 +926,18 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("offered");
         const QString none = QStringLiteral("-");
         QTest::newRow("nothing") << QStringList() << padded({});
-        QTest::newRow("one") << names(1) << padded(names(1));
-        QTest::newRow("eight") << names(8) << names(8);
-        QTest::newRow("nine") << names(9) << names(8);
-        QTest::newRow("a thousand") << names(1000) << names(8);
+        QTest::newRow("one") << ownColors(1) << padded(ownColors(1));
+        QTest::newRow("eight") << ownColors(8) << ownColors(8);
+        QTest::newRow("nine") << ownColors(9) << ownColors(8);
+        QTest::newRow("a thousand") << ownColors(1000) << ownColors(8);
         QTest::newRow("no colours") << QStringList{QStringLiteral("junk"), QString(), QStringLiteral("#12"),
                                                    QStringLiteral("rgb(1,2,3)")}
                                     << padded({});
         QTest::newRow("gaps keep their place")
-            << QStringList{QStringLiteral("junk"), names(1).constFirst(), QStringLiteral("junk")}
-            << padded({none, names(1).constFirst()});
+            << QStringList{QStringLiteral("junk"), ownColors(1).constFirst(), QStringLiteral("junk")}
+            << padded({none, ownColors(1).constFirst()});
         QTest::newRow("colours after the eighth entry stay out")
-            << QStringList{none, none, none, none, none, none, none, none, names(1).constFirst()}
+            << QStringList{none, none, none, none, none, none, none, none, ownColors(1).constFirst()}
             << padded({});
         QTest::newRow("in other words")
             << QStringList{QStringLiteral("steelblue"), QStringLiteral("#FA0"), QStringLiteral("#ABCDEF")}
@@ -984,20 +975,20 @@ private Q_SLOTS:
 
     void queueFollowsTheSettingsWhenShown()
     {
-        m_record->value = names(2);
+        m_record->value = ownColors(2);
         Panel panel;
         panel.show();
         QTest::mouseClick(panel.queueButton(0), Qt::LeftButton);
-        QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
+        QCOMPARE(panel.log(), QStringList{opaque(ownColors(1).constFirst())});
         panel.hide();
-        m_record->value = QStringList{QStringLiteral("#123456")} + names(2);
-        QCOMPARE(panel.queue(), padded(names(2)));
+        m_record->value = QStringList{QStringLiteral("#123456")} + ownColors(2);
+        QCOMPARE(panel.queue(), padded(ownColors(2)));
         panel.show();
-        QCOMPARE(panel.queue(), padded(QStringList{QStringLiteral("#123456")} + names(2)));
+        QCOMPARE(panel.queue(), padded(QStringList{QStringLiteral("#123456")} + ownColors(2)));
         // The colour is at another button now.
-        QCOMPARE(panel.checked(), names(1).constFirst());
+        QCOMPARE(panel.checked(), ownColors(1).constFirst());
         QVERIFY(panel.queueButton(1)->isChecked());
-        QCOMPARE(panel.log(), QStringList{opaque(names(1).constFirst())});
+        QCOMPARE(panel.log(), QStringList{opaque(ownColors(1).constFirst())});
         panel.hide();
         panel.show();
         QCOMPARE(panel.log(), QStringList());
@@ -1005,17 +996,17 @@ private Q_SLOTS:
 
     void shorterListLeavesButtons()
     {
-        m_record->value = names(3);
+        m_record->value = ownColors(3);
         Panel panel;
-        m_record->value = names(1);
+        m_record->value = ownColors(1);
         panel.show();
-        QCOMPARE(panel.queue(), padded(names(3)));
+        QCOMPARE(panel.queue(), padded(ownColors(3)));
         // They are not found by their colour any more, but give what they show.
-        panel.setCurrentColor(QColor(names(3).constLast()));
+        panel.setCurrentColor(QColor(ownColors(3).constLast()));
         QCOMPARE(panel.checked(), QString());
         QCOMPARE(panel.log(), QStringList());
         QTest::mouseClick(panel.queueButton(1), Qt::LeftButton);
-        QCOMPARE(panel.log(), QStringList{opaque(names(2).constLast())});
+        QCOMPARE(panel.log(), QStringList{opaque(ownColors(2).constLast())});
     }
 
     void ownColorIsChosen()
@@ -1357,7 +1348,7 @@ private Q_SLOTS:
         QTest::addColumn<OptionalColor>("color");
         QTest::addColumn<QStringList>("reported");
         QTest::addColumn<QStringList>("queue");
-        const QStringList stored = names(3);
+        const QStringList stored = ownColors(3);
         const auto addsNothing = [&stored](const char* name, const OptionalColor& color) {
             QTest::newRow(name) << stored << true << color << QStringList() << stored;
         };
@@ -1377,8 +1368,8 @@ private Q_SLOTS:
         // Stored by somebody else, which makes two entries of one colour.
         const QString upperCase = QStringLiteral("#ABCDEF");
         QTest::newRow("a colour that is there in upper case")
-            << names(7) + QStringList{upperCase} << true << OptionalColor(QColor(upperCase)) << QStringList()
-            << QStringList{upperCase.toLower()} + names(7);
+            << ownColors(7) + QStringList{upperCase} << true << OptionalColor(QColor(upperCase))
+            << QStringList() << QStringList{upperCase.toLower()} + ownColors(7);
     }
 
     void closingWith()
@@ -1426,12 +1417,12 @@ private Q_SLOTS:
 
     void ninthColor()
     {
-        m_record->value = names(8);
+        m_record->value = ownColors(8);
         Panel panel;
         panel.show();
         QToolButton* const last = panel.queueButton(7);
         const QStringList added = {QStringLiteral("#123456"), QStringLiteral("#654321")};
-        QStringList expected = names(8);
+        QStringList expected = ownColors(8);
         for (const QString& color : added) {
             QToolButton* const reused = panel.queueButton(7);
             const QString dropped = expected.takeLast();
@@ -1464,16 +1455,16 @@ private Q_SLOTS:
 
     void unwritableSettings()
     {
-        m_record->value = names(8);
+        m_record->value = ownColors(8);
         m_record->isWritable = false;
         Panel panel;
         panel.show();
         panel.setCurrentColor(QColor(0x12, 0x34, 0x56));
         panel.openSelector();
         panel.selector()->close();
-        const QStringList expected = QStringList{QStringLiteral("#123456")} + names(7);
+        const QStringList expected = QStringList{QStringLiteral("#123456")} + ownColors(7);
         QCOMPARE(panel.queue(), expected);
-        QCOMPARE(m_record->value.toStringList(), names(8));
+        QCOMPARE(m_record->value.toStringList(), ownColors(8));
         // Kept until the end of the program, for the next panel too.
         QCOMPARE(Panel().queue(), expected);
     }
@@ -1796,7 +1787,7 @@ private Q_SLOTS:
 
     void rightToLeft()
     {
-        m_record->value = names(2);
+        m_record->value = ownColors(2);
         Panel panel;
         panel.setLayoutDirection(Qt::RightToLeft);
         panel.move(panel.screen()->availableGeometry().center() - QPoint(300, 0));

@@ -8,15 +8,6 @@ using Util::appendCustomColor;
 
 namespace {
 
-QStringList manyColors(int count)
-{
-    QStringList names;
-    for (int i = 0; i < count; ++i) {
-        names += QColor(1, i / 256, i % 256).name();
-    }
-    return names;
-}
-
 const QString fresh = QStringLiteral("#123456");
 
 } // namespace
@@ -85,7 +76,7 @@ private Q_SLOTS:
     void newestIsFirst()
     {
         QStringList expected;
-        const QStringList colors = manyColors(8);
+        const QStringList colors = ownColors(8);
         for (const QString& color : colors) {
             QVERIFY(appendCustomColor(color));
             expected.prepend(color);
@@ -95,7 +86,7 @@ private Q_SLOTS:
 
     void ninthDropsTheOldest()
     {
-        const QStringList full = manyColors(8);
+        const QStringList full = ownColors(8);
         m_record->value = full;
         QVERIFY(appendCustomColor(fresh));
         QCOMPARE(m_record->value.toStringList(), QStringList(fresh) + full.mid(0, 7));
@@ -116,7 +107,7 @@ private Q_SLOTS:
     void knownColorStaysWhereItIs()
     {
         QFETCH(int, index);
-        const QStringList full = manyColors(8);
+        const QStringList full = ownColors(8);
         m_record->value = full;
         QVERIFY(!appendCustomColor(full.at(index)));
         QCOMPARE(m_record->writes, 0);
@@ -161,9 +152,9 @@ private Q_SLOTS:
     void keepsTheTextAsItIsWritten()
     {
         QFETCH(QString, name);
-        m_record->value = manyColors(2);
+        m_record->value = ownColors(2);
         QVERIFY(appendCustomColor(name));
-        QCOMPARE(Settings::userCustomColors(), QStringList(name) + manyColors(2));
+        QCOMPARE(Settings::userCustomColors(), QStringList(name) + ownColors(2));
         QVERIFY(!appendCustomColor(name));
     }
 
@@ -179,7 +170,7 @@ private Q_SLOTS:
     void longListLosesOneEntry()
     {
         QFETCH(int, length);
-        const QStringList list = manyColors(length);
+        const QStringList list = ownColors(length);
         m_record->value = list;
         QVERIFY(appendCustomColor(fresh));
         QCOMPARE(m_record->value.toStringList(), QStringList(fresh) + list.mid(0, length - 1));
@@ -190,8 +181,8 @@ private Q_SLOTS:
     // The list counts as a whole, not only the eight that a panel shows.
     void longListWithTheColor()
     {
-        m_record->value = manyColors(1000);
-        QVERIFY(!appendCustomColor(manyColors(1000).at(998)));
+        m_record->value = ownColors(1000);
+        QVERIFY(!appendCustomColor(ownColors(1000).at(998)));
         QCOMPARE(m_record->writes, 0);
     }
 
@@ -231,12 +222,12 @@ private Q_SLOTS:
 
     void unwritableStore()
     {
-        m_record->value = manyColors(8);
+        m_record->value = ownColors(8);
         m_record->isWritable = false;
         QVERIFY(appendCustomColor(fresh));
         // The user's list goes on in memory, and what is stored stays whole.
-        QCOMPARE(Settings::userCustomColors(), QStringList(fresh) + manyColors(7));
-        QCOMPARE(m_record->value.toStringList(), manyColors(8));
+        QCOMPARE(Settings::userCustomColors(), QStringList(fresh) + ownColors(7));
+        QCOMPARE(m_record->value.toStringList(), ownColors(8));
         QVERIFY(!appendCustomColor(fresh));
         QVERIFY(appendCustomColor(QStringLiteral("#654321")));
         QCOMPARE(Settings::userCustomColors().mid(0, 2), (QStringList{QStringLiteral("#654321"), fresh}));
@@ -255,9 +246,9 @@ private Q_SLOTS:
     {
         Settings::setStore(nullptr);
         for (int i = 0; i < 9; ++i) {
-            QVERIFY(appendCustomColor(manyColors(9).at(i)));
+            QVERIFY(appendCustomColor(ownColors(9).at(i)));
         }
-        QStringList expected = manyColors(9).mid(1);
+        QStringList expected = ownColors(9).mid(1);
         std::reverse(expected.begin(), expected.end());
         // As another program reads the file.
         QFile::copy(QSettings().fileName(), QSettings().fileName() + QStringLiteral(".copy"));

@@ -103,13 +103,6 @@ struct Stage
 };
 
 /// The height that a text of @p label needs at @p width by itself.
-int neededHeight(const QLabel* label, int width)
-{
-    QLabel fresh(label->text());
-    fresh.setWordWrap(true);
-    return fresh.heightForWidth(width);
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(DialogGuideInfo)
