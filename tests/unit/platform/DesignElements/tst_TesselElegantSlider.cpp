@@ -1,5 +1,4 @@
 #include "TestMain.h"
-#include "Wheel.h"
 
 #include <DesignElements/TesselElegantSlider.h>
 
@@ -56,6 +55,7 @@ private Q_SLOTS:
         const TesselElegantSlider slider(&parent);
         QCOMPARE(slider.parentWidget(), &parent);
         QVERIFY(slider.inherits("OvCustomSlider"));
+        QCOMPARE(slider.focusPolicy(), Qt::StrongFocus);
         QCOMPARE(slider.metaObject()->className(), "Orvane::Tessel::TesselElegantSlider");
     }
 
@@ -182,20 +182,6 @@ private Q_SLOTS:
         slider.show();
         QTest::mouseClick(&slider, Qt::LeftButton, {}, QPoint(150, 12));
         QVERIFY(slider.value() > 70 && slider.value() < 80);
-    }
-
-    void wheelNeedsFocus()
-    {
-        Slider slider;
-        slider.show();
-        QVERIFY(QTest::qWaitForWindowActive(&slider));
-        slider.clearFocus();
-        QVERIFY(!turnWheel(slider, 120));
-        QCOMPARE(slider.value(), 50);
-        slider.setFocus();
-        QTRY_VERIFY(slider.hasFocus());
-        QVERIFY(turnWheel(slider, 120));
-        QVERIFY(slider.value() != 50);
     }
 };
 

@@ -304,74 +304,55 @@ private Q_SLOTS:
         QVERIFY(FileUtil::isOperationAllowed(QStringLiteral("/"), Read));
     }
 
-    void folderPermissionsOfANormalUser_data()
+    void permissionsOfANormalUser_data()
     {
+        QTest::addColumn<QString>("name");
         QTest::addColumn<int>("mode");
         QTest::addColumn<bool>("read");
         QTest::addColumn<bool>("write");
 
-        QTest::newRow("all") << 7 << true << true;
-        QTest::newRow("no write") << 5 << true << false;
-        QTest::newRow("no read") << 3 << false << true;
-        QTest::newRow("no search") << 6 << false << false;
-        QTest::newRow("search only") << 1 << false << false;
-        QTest::newRow("write only") << 2 << false << false;
-        QTest::newRow("read only") << 4 << false << false;
-        QTest::newRow("nothing") << 0 << false << false;
+        const QString folder = QStringLiteral("folder");
+        QTest::newRow("folder: all") << folder << 7 << true << true;
+        QTest::newRow("folder: no write") << folder << 5 << true << false;
+        QTest::newRow("folder: no read") << folder << 3 << false << true;
+        QTest::newRow("folder: no search") << folder << 6 << false << false;
+        QTest::newRow("folder: search only") << folder << 1 << false << false;
+        QTest::newRow("folder: write only") << folder << 2 << false << false;
+        QTest::newRow("folder: read only") << folder << 4 << false << false;
+        QTest::newRow("folder: nothing") << folder << 0 << false << false;
+        const QString file = QStringLiteral("file");
+        QTest::newRow("file: both") << file << 6 << true << true;
+        QTest::newRow("file: read") << file << 4 << true << false;
+        QTest::newRow("file: write") << file << 2 << false << true;
+        QTest::newRow("file: execute") << file << 1 << false << false;
+        QTest::newRow("file: nothing") << file << 0 << false << false;
     }
 
-    void folderPermissionsOfANormalUser()
+    void permissionsOfANormalUser()
     {
+        QFETCH(QString, name);
         QFETCH(int, mode);
         QFETCH(bool, read);
         QFETCH(bool, write);
-        const QString folder = at(QStringLiteral("folder"));
+        const QString path = at(name);
         // For the owner, as whom a normal user runs these tests, and for the others, as whom root asks.
-        QVERIFY(setMode(folder, static_cast<mode_t>(mode << 6 | mode)));
+        QVERIFY(setMode(path, static_cast<mode_t>(mode << 6 | mode)));
         const auto ask = [&](FileUtil::Operations operations) {
-            return askAsNormalUser([&] { return FileUtil::isOperationAllowed(folder, operations); });
+            return askAsNormalUser([&] { return FileUtil::isOperationAllowed(path, operations); });
         };
         const Answer canRead = ask(Read);
         const Answer canWrite = ask(Write);
         const Answer canDoBoth = ask(Read | Write);
         const Answer isThere = ask({});
         const bool isRoot = geteuid() == 0;
-        const bool rootCan = FileUtil::isOperationAllowed(folder, Read | Write);
-        QVERIFY(setMode(folder, 0755));
+        const bool rootCan = FileUtil::isOperationAllowed(path, Read | Write);
+        QVERIFY(setMode(path, 0755));
 
         QCOMPARE(canRead, read ? Answer::Yes : Answer::No);
         QCOMPARE(canWrite, write ? Answer::Yes : Answer::No);
         QCOMPARE(canDoBoth, read && write ? Answer::Yes : Answer::No);
         QCOMPARE(isThere, Answer::Yes);
         QVERIFY(!isRoot || rootCan);
-    }
-
-    void filePermissionsOfANormalUser_data()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<bool>("read");
-        QTest::addColumn<bool>("write");
-
-        QTest::newRow("both") << 6 << true << true;
-        QTest::newRow("read") << 4 << true << false;
-        QTest::newRow("write") << 2 << false << true;
-        QTest::newRow("execute") << 1 << false << false;
-        QTest::newRow("nothing") << 0 << false << false;
-    }
-
-    void filePermissionsOfANormalUser()
-    {
-        QFETCH(int, mode);
-        QFETCH(bool, read);
-        QFETCH(bool, write);
-        const QString file = at(QStringLiteral("file"));
-        QVERIFY(setMode(file, static_cast<mode_t>(mode << 6 | mode)));
-        const auto ask = [&](FileUtil::Operations operations) {
-            return askAsNormalUser([&] { return FileUtil::isOperationAllowed(file, operations); });
-        };
-        QCOMPARE(ask(Read), read ? Answer::Yes : Answer::No);
-        QCOMPARE(ask(Write), write ? Answer::Yes : Answer::No);
-        QCOMPARE(ask(Read | Write), read && write ? Answer::Yes : Answer::No);
     }
 
     void belowALockedFolder()

@@ -42,10 +42,6 @@ const Property properties[] = {
      &LayoutController::setLayoutVerticalSpacing},
 };
 
-} // namespace
-
-namespace {
-
 class CountingLayout : public QHBoxLayout
 {
 public:
@@ -127,20 +123,13 @@ private Q_SLOTS:
         QCOMPARE(layout.contentsMargins(), QMargins(1, 2, 3, 4));
     }
 
-    void generalMarginReachesAllSides()
+    void laterMarginWins()
     {
         QHBoxLayout layout;
         PlainController controller(&layout);
         controller.setLayoutMargin(7);
         QCOMPARE(layout.contentsMargins(), QMargins(7, 7, 7, 7));
         QCOMPARE(controller.layoutMargin(), 7);
-    }
-
-    void laterMarginWins()
-    {
-        QHBoxLayout layout;
-        PlainController controller(&layout);
-        controller.setLayoutMargin(7);
         controller.setLayoutMarginTop(1);
         QCOMPARE(layout.contentsMargins(), QMargins(7, 1, 7, 7));
         controller.setLayoutMargin(3);
@@ -178,20 +167,14 @@ private Q_SLOTS:
     {
         OvGridLayout layout(nullptr);
         PlainController controller(&layout);
-        controller.setLayoutSpacing(6);
-        QCOMPARE(layout.horizontalSpacing(), 6);
-        QCOMPARE(layout.verticalSpacing(), 6);
-    }
-
-    void spacingOfAGridIsKeptApart()
-    {
-        OvGridLayout layout(nullptr);
-        PlainController controller(&layout);
         controller.setLayoutHorizontalSpacing(2);
         controller.setLayoutVerticalSpacing(3);
         QCOMPARE(layout.horizontalSpacing(), 2);
         QCOMPARE(layout.verticalSpacing(), 3);
         QCOMPARE(controller.layoutSpacing(), 2);
+        controller.setLayoutSpacing(6);
+        QCOMPARE(layout.horizontalSpacing(), 6);
+        QCOMPARE(layout.verticalSpacing(), 6);
     }
 
     void negativeValuesAreIgnored()
@@ -206,18 +189,6 @@ private Q_SLOTS:
         }
         QCOMPARE(layout.contentsMargins(), QMargins(5, 5, 5, 5));
         QCOMPARE(layout.spacing(), 5);
-    }
-
-    void zeroIsAValue()
-    {
-        QHBoxLayout layout;
-        layout.setContentsMargins(3, 3, 3, 3);
-        PlainController controller(&layout);
-        controller.setLayoutMargin(0);
-        QCOMPARE(layout.contentsMargins(), QMargins());
-        layout.setContentsMargins(3, 3, 3, 3);
-        controller.applyLayoutMetrics();
-        QCOMPARE(layout.contentsMargins(), QMargins());
     }
 
     void valuesSetBeforeTheLayoutAreApplied()
@@ -238,22 +209,19 @@ private Q_SLOTS:
     {
         QHBoxLayout layout;
         PlainController controller(&layout);
-        controller.setLayoutMargin(8);
-        layout.setContentsMargins(0, 0, 0, 0);
-        QCOMPARE(controller.layoutMargin(), 8);
-        controller.applyLayoutMetrics();
-        QCOMPARE(layout.contentsMargins(), QMargins(8, 8, 8, 8));
-    }
-
-    void sameValueAgainIsWritten()
-    {
-        // A sheet writes its values again whenever the widget is polished.
-        QHBoxLayout layout;
-        PlainController controller(&layout);
-        controller.setLayoutMargin(8);
-        layout.setContentsMargins(0, 0, 0, 0);
-        controller.setLayoutMargin(8);
-        QCOMPARE(layout.contentsMargins(), QMargins(8, 8, 8, 8));
+        for (const int margin : {8, 0}) {
+            const QMargins margins(margin, margin, margin, margin);
+            controller.setLayoutMargin(margin);
+            QCOMPARE(layout.contentsMargins(), margins);
+            layout.setContentsMargins(3, 3, 3, 3);
+            QCOMPARE(controller.layoutMargin(), margin);
+            controller.applyLayoutMetrics();
+            QCOMPARE(layout.contentsMargins(), margins);
+            // A sheet writes its values again whenever the widget is polished.
+            layout.setContentsMargins(3, 3, 3, 3);
+            controller.setLayoutMargin(margin);
+            QCOMPARE(layout.contentsMargins(), margins);
+        }
     }
 
     void nothingIsWrittenWhereNothingDiffers()

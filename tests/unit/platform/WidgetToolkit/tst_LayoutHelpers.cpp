@@ -17,57 +17,38 @@ private Q_SLOTS:
         QCOMPARE(int(CellModifier::Empty), 0);
     }
 
-    void boxItemWithWidget()
+    void boxItems()
     {
         QWidget widget;
         const BoxItem item(&widget, 3);
         QVERIFY(!item.isSpacer());
         QCOMPARE(item.widget(), &widget);
         QCOMPARE(item.number(), 3);
+        QCOMPARE(BoxItem(&widget, -1).number(), 0);
         QVERIFY(!BoxItem(nullptr, 0).isSpacer());
         QVERIFY(!BoxItem(nullptr, 0).widget());
+        for (const SpacerPolicy policy : {SpacerPolicy::Stretch, SpacerPolicy::Fixed}) {
+            const BoxItem spacer(policy, 7);
+            QVERIFY(spacer.isSpacer());
+            QVERIFY(!spacer.widget());
+            QCOMPARE(int(spacer.policy()), int(policy));
+            QCOMPARE(spacer.number(), 7);
+            QCOMPARE(BoxItem(policy, -5).number(), 0);
+            QCOMPARE(BoxItem(policy, std::numeric_limits<int>::min()).number(), 0);
+        }
     }
 
-    void boxItemWithSpacer_data()
-    {
-        QTest::addColumn<int>("policy");
-        QTest::newRow("stretch") << int(SpacerPolicy::Stretch);
-        QTest::newRow("fixed") << int(SpacerPolicy::Fixed);
-    }
-
-    void boxItemWithSpacer()
-    {
-        QFETCH(int, policy);
-        const BoxItem item(SpacerPolicy(policy), 7);
-        QVERIFY(item.isSpacer());
-        QVERIFY(!item.widget());
-        QCOMPARE(int(item.policy()), policy);
-        QCOMPARE(item.number(), 7);
-    }
-
-    void negativeNumbersCountAsZero()
-    {
-        QWidget widget;
-        QCOMPARE(BoxItem(&widget, -1).number(), 0);
-        QCOMPARE(BoxItem(SpacerPolicy::Fixed, std::numeric_limits<int>::min()).number(), 0);
-        QCOMPARE(BoxItem(SpacerPolicy::Stretch, -5).number(), 0);
-    }
-
-    void gridItemWithWidget()
+    void gridItems()
     {
         QWidget widget;
         const GridItem item(&widget, Alignment::Right);
         QCOMPARE(item.widget(), &widget);
         QCOMPARE(int(item.alignment()), int(Alignment::Right));
         QCOMPARE(int(item.modifier()), int(CellModifier::Empty));
-    }
-
-    void gridItemWithModifier()
-    {
-        const GridItem item = CellModifier::SpanPrevious;
-        QVERIFY(!item.widget());
-        QCOMPARE(int(item.modifier()), int(CellModifier::SpanPrevious));
-        QCOMPARE(int(item.alignment()), int(Alignment::Default));
+        const GridItem spanning = CellModifier::SpanPrevious;
+        QVERIFY(!spanning.widget());
+        QCOMPARE(int(spanning.modifier()), int(CellModifier::SpanPrevious));
+        QCOMPARE(int(spanning.alignment()), int(Alignment::Default));
     }
 };
 

@@ -15,6 +15,19 @@ namespace {
 
 const double infinity = std::numeric_limits<double>::infinity();
 
+/// From 0 to 1 in hundredths, from left to right.
+class Hundredths : public OvDoubleSlider
+{
+public:
+    Hundredths()
+    {
+        setOrientation(Qt::Horizontal);
+        resize(200, 30);
+        setRange(0, 100);
+        setMultiplier(0.01);
+    }
+};
+
 } // namespace
 
 class tst_OvDoubleSlider : public QObject
@@ -24,9 +37,7 @@ class tst_OvDoubleSlider : public QObject
 private Q_SLOTS:
     void speaksUnits()
     {
-        OvDoubleSlider slider;
-        slider.setRange(0, 100);
-        slider.setMultiplier(0.01);
+        Hundredths slider;
         slider.setDoubleValue(0.4);
         QAccessibleInterface& interface = reader(&slider);
         QCOMPARE(interface.role(), QAccessible::Slider);
@@ -84,10 +95,8 @@ private Q_SLOTS:
     void changesAreAnnouncedOnce()
     {
         QFETCH(Change, change);
-        OvDoubleSlider slider;
+        Hundredths slider;
         slider.setAccessibleName(QStringLiteral("Gain"));
-        slider.setRange(0, 100);
-        slider.setMultiplier(0.01);
         slider.setDoubleValue(0.4);
         const AccessibleEars ears;
         change(slider);
@@ -96,12 +105,8 @@ private Q_SLOTS:
 
     void dragsAreAnnouncedOnce()
     {
-        OvDoubleSlider slider;
+        Hundredths slider;
         slider.setAccessibleName(QStringLiteral("Gain"));
-        slider.setOrientation(Qt::Horizontal);
-        slider.setRange(0, 100);
-        slider.setMultiplier(0.01);
-        slider.resize(200, 30);
         QSignalSpy changes(&slider, &OvDoubleSlider::doubleValueChanged);
         // Others are heard meanwhile.
         QSlider other;
@@ -133,10 +138,7 @@ private Q_SLOTS:
     void handlerOfASlotStays()
     {
         const auto own = [](QAccessibleEvent* /*event*/) {};
-        OvDoubleSlider slider;
-        slider.setOrientation(Qt::Horizontal);
-        slider.resize(200, 30);
-        slider.setRange(0, 100);
+        Hundredths slider;
         connect(&slider, &QAbstractSlider::valueChanged, this,
                 [own] { QAccessible::installUpdateHandler(own); });
         const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(nullptr);
@@ -256,39 +258,43 @@ private Q_SLOTS:
         QVERIFY(!std::signbit(slider.doubleValue()));
     }
 
+    // m: the multiplier, n: the minimum, x: the maximum, v: the value, s: the step.
     void anyOrder_data()
     {
+        QTest::addColumn<QByteArray>("order");
         QTest::addColumn<double>("multiplier");
         QTest::addColumn<int>("minimum");
         QTest::addColumn<int>("maximum");
         QTest::addColumn<double>("asked");
         QTest::addColumn<double>("value");
         QTest::addColumn<int>("step");
-        QTest::newRow("opacity") << 0.01 << 0 << 100 << 0.5 << 0.5 << 50;
-        QTest::newRow("opacity at its maximum") << 0.01 << 0 << 100 << 1.0 << 1.0 << 100;
-        QTest::newRow("between steps") << 0.01 << 0 << 100 << 0.505 << 0.505 << 51;
-        QTest::newRow("negative") << 0.001 << -2000 << -1000 << -1.2345 << -1.2345 << -1235;
-        QTest::newRow("range without zero") << 0.1 << 50 << 90 << 7.77 << 7.77 << 78;
-        QTest::newRow("large multiplier") << 10.0 << 0 << 1000 << 4321.0 << 4321.0 << 432;
-        QTest::newRow("outside") << 0.1 << 50 << 90 << 100.0 << 9.0 << 90;
-        QTest::newRow("infinite") << 0.1 << 50 << 90 << -infinity << 5.0 << 50;
+        const QByteArray valued("mnxv");
+        QTest::newRow("opacity") << valued << 0.01 << 0 << 100 << 0.5 << 0.5 << 50;
+        QTest::newRow("opacity at its maximum") << valued << 0.01 << 0 << 100 << 1.0 << 1.0 << 100;
+        QTest::newRow("between steps") << valued << 0.01 << 0 << 100 << 0.505 << 0.505 << 51;
+        QTest::newRow("negative") << valued << 0.001 << -2000 << -1000 << -1.2345 << -1.2345 << -1235;
+        QTest::newRow("range without zero") << valued << 0.1 << 50 << 90 << 7.77 << 7.77 << 78;
+        QTest::newRow("large multiplier") << valued << 10.0 << 0 << 1000 << 4321.0 << 4321.0 << 432;
+        QTest::newRow("outside") << valued << 0.1 << 50 << 90 << 100.0 << 9.0 << 90;
+        QTest::newRow("infinite") << valued << 0.1 << 50 << 90 << -infinity << 5.0 << 50;
         QTest::newRow("nine decimals")
-            << 1e-9 << -2000000000 << 2000000000 << 1.234567891 << 1.234567891 << 1234567891;
+            << valued << 1e-9 << -2000000000 << 2000000000 << 1.234567891 << 1.234567891 << 1234567891;
+        QTest::newRow("a step") << QByteArray("mnxs") << 0.01 << 0 << 100 << 0.0 << 0.5 << 50;
     }
 
     void anyOrder()
     {
+        QFETCH(QByteArray, order);
         QFETCH(double, multiplier);
         QFETCH(int, minimum);
         QFETCH(int, maximum);
         QFETCH(double, asked);
         QFETCH(double, value);
         QFETCH(int, step);
-        std::string order = "mnxv";
         std::sort(order.begin(), order.end());
         do {
             OvDoubleSlider slider;
-            for (const char what : order) {
+            for (const char what : qAsConst(order)) {
                 switch (what) {
                 case 'm':
                     slider.setMultiplier(multiplier);
@@ -299,37 +305,17 @@ private Q_SLOTS:
                 case 'x':
                     slider.setMaximum(maximum);
                     break;
+                case 's':
+                    slider.setValue(step);
+                    break;
                 default:
                     slider.setDoubleValue(asked);
                 }
             }
             // Qt itself lets the bound that is set last win over the other.
             slider.setRange(minimum, maximum);
-            QVERIFY2(slider.doubleValue() == value, order.c_str());
-            QVERIFY2(slider.value() == step, order.c_str());
-        } while (std::next_permutation(order.begin(), order.end()));
-    }
-
-    void anyOrderOfSteps()
-    {
-        std::string order = "mrv";
-        std::sort(order.begin(), order.end());
-        do {
-            OvDoubleSlider slider;
-            for (const char what : order) {
-                switch (what) {
-                case 'm':
-                    slider.setMultiplier(0.01);
-                    break;
-                case 'r':
-                    slider.setRange(0, 100);
-                    break;
-                default:
-                    slider.setValue(50);
-                }
-            }
-            QVERIFY2(slider.value() == 50, order.c_str());
-            QVERIFY2(slider.doubleValue() == 0.5, order.c_str());
+            QVERIFY2(slider.doubleValue() == value, order.constData());
+            QVERIFY2(slider.value() == step, order.constData());
         } while (std::next_permutation(order.begin(), order.end()));
     }
 
@@ -433,11 +419,7 @@ private Q_SLOTS:
 
     void keysAndDragMoveByWholeSteps()
     {
-        OvDoubleSlider slider;
-        slider.setOrientation(Qt::Horizontal);
-        slider.resize(200, 30);
-        slider.setMultiplier(0.01);
-        slider.setRange(0, 100);
+        Hundredths slider;
         slider.setDoubleValue(0.304);
         QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
         QTest::keyClick(&slider, Qt::Key_Right);
@@ -449,11 +431,7 @@ private Q_SLOTS:
 
     void withoutTracking()
     {
-        OvDoubleSlider slider;
-        slider.setOrientation(Qt::Horizontal);
-        slider.resize(200, 30);
-        slider.setMultiplier(0.01);
-        slider.setRange(0, 100);
+        Hundredths slider;
         slider.setTracking(false);
         slider.setDoubleValue(0.304);
         QSignalSpy spy(&slider, &OvDoubleSlider::doubleValueChanged);
@@ -466,53 +444,42 @@ private Q_SLOTS:
 
     void deletedByAListener_data()
     {
-        QTest::addColumn<int>("signal");
-        QTest::addColumn<int>("action");
-        const char* const signalNames[] = {"valueChanged", "doubleValueChanged", "multiplierChanged"};
-        const char* const actionNames[] = {"setDoubleValue", "setValue", "setMultiplier", "click"};
-        for (int signal = 0; signal < 3; ++signal) {
-            for (int action = 0; action < 4; ++action) {
-                if (signal != 2 || action == 2) {
-                    QTest::addRow("%s by %s", signalNames[signal], actionNames[action]) << signal << action;
-                }
-            }
+        QTest::addColumn<Change>("listen");
+        QTest::addColumn<Change>("act");
+        const auto deletedBy = [](auto signal) {
+            return Change([signal](OvDoubleSlider& slider) {
+                connect(&slider, signal, &slider, [target = &slider] { delete target; });
+            });
+        };
+        const Change multiply = [](OvDoubleSlider& slider) { slider.setMultiplier(0.01); };
+        const QVector<QPair<const char*, Change>> acts = {
+            {"setDoubleValue", [](OvDoubleSlider& slider) { slider.setDoubleValue(7.25); }},
+            {"setValue", [](OvDoubleSlider& slider) { slider.setValue(7); }},
+            {"setMultiplier", multiply},
+            {"click", [](OvDoubleSlider& slider) {
+                 QMouseEvent press(QEvent::MouseButtonPress, QPoint(15, 2), QPoint(15, 2), Qt::LeftButton,
+                                   Qt::LeftButton, Qt::NoModifier);
+                 QApplication::sendEvent(&slider, &press);
+             }}};
+        for (const auto& act : acts) {
+            QTest::addRow("valueChanged by %s", act.first)
+                << deletedBy(&QAbstractSlider::valueChanged) << act.second;
+            QTest::addRow("doubleValueChanged by %s", act.first)
+                << deletedBy(&OvDoubleSlider::doubleValueChanged) << act.second;
         }
+        QTest::newRow("multiplierChanged by setMultiplier")
+            << deletedBy(&OvDoubleSlider::multiplierChanged) << multiply;
     }
 
     void deletedByAListener()
     {
-        QFETCH(int, signal);
-        QFETCH(int, action);
+        QFETCH(Change, listen);
+        QFETCH(Change, act);
         const QPointer<OvDoubleSlider> slider(new OvDoubleSlider);
         slider->resize(30, 200);
         slider->setDoubleValue(5.0);
-        const auto destroy = [target = slider.data()] { delete target; };
-        switch (signal) {
-        case 0:
-            connect(slider, &QAbstractSlider::valueChanged, this, destroy);
-            break;
-        case 1:
-            connect(slider, &OvDoubleSlider::doubleValueChanged, this, destroy);
-            break;
-        default:
-            connect(slider, &OvDoubleSlider::multiplierChanged, this, destroy);
-        }
-        switch (action) {
-        case 0:
-            slider->setDoubleValue(7.25);
-            break;
-        case 1:
-            slider->setValue(7);
-            break;
-        case 2:
-            slider->setMultiplier(0.01);
-            break;
-        default: {
-            QMouseEvent press(QEvent::MouseButtonPress, QPoint(15, 2), QPoint(15, 2), Qt::LeftButton,
-                              Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(slider, &press);
-        }
-        }
+        listen(*slider);
+        act(*slider);
         QVERIFY(slider.isNull());
     }
 

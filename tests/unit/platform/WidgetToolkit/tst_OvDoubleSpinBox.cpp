@@ -8,10 +8,6 @@ namespace {
 
 QStringList texts;
 
-} // namespace
-
-namespace {
-
 QLineEdit* lineEdit(const QWidget& box)
 {
     return box.findChild<QLineEdit*>();

@@ -83,25 +83,6 @@ private Q_SLOTS:
         QVERIFY(frame.children().isEmpty());
     }
 
-    void sheetBeforeLayout()
-    {
-        OvFrame frame;
-        frame.setStyleSheet(oneSheet);
-        auto* layout = new OvVBoxLayout(&frame);
-        frame.ensurePolished();
-        QCOMPARE(layout->contentsMargins(), oneMargins);
-        QCOMPARE(layout->spacing(), 7);
-    }
-
-    void layoutBeforeSheet()
-    {
-        Component component;
-        component.setStyleSheet(oneSheet);
-        component.ensurePolished();
-        QCOMPARE(component.box->contentsMargins(), oneMargins);
-        QCOMPARE(component.box->spacing(), 7);
-    }
-
     void layoutAfterPolish()
     {
         OvFrame frame;

@@ -543,36 +543,46 @@ private Q_SLOTS:
 
     void installedBeforeAndAfter_data()
     {
+        QTest::addColumn<bool>("isOvFrame");
         QTest::addColumn<QString>("order");
         // l: the layout, c: its controller, s: the sheet, p: the owner's polish.
         for (const char* order : {"lcs", "lsc", "cls", "csl", "slc", "scl", "lcsp", "lspc", "splc"}) {
-            QTest::newRow(order) << QString::fromLatin1(order);
+            QTest::newRow(order) << false << QString::fromLatin1(order);
+        }
+        // An OvFrame is its own controller.
+        for (const char* order : {"lsp", "slp"}) {
+            QTest::addRow("OvFrame: %s", order) << true << QString::fromLatin1(order);
         }
     }
 
     void installedBeforeAndAfter()
     {
+        QFETCH(bool, isOvFrame);
         QFETCH(QString, order);
         QToolButton button;
+        OvFrame frame;
+        QWidget* const owner = isOvFrame ? static_cast<QWidget*>(&frame) : &button;
         QPointer<OvHBoxLayout> layout;
-        auto* child = new QLabel(&button);
+        auto* child = new QLabel(owner);
         child->setFixedSize(20, 10);
         for (const QChar step : qAsConst(order)) {
             if (step == QLatin1Char('l')) {
-                layout = new OvHBoxLayout(&button);
+                layout = new OvHBoxLayout(owner);
                 layout->setContentsMargins(0, 0, 0, 0);
                 layout->autoFill();
             } else if (step == QLatin1Char('c')) {
-                Util::installLayoutController(&button);
+                Util::installLayoutController(owner);
             } else if (step == QLatin1Char('s')) {
                 qApp->setStyleSheet(
-                    QStringLiteral("InstalledLayoutController { qproperty-layoutMarginLeft: 6; }"));
+                    QStringLiteral("InstalledLayoutController, OvFrame { qproperty-layoutMarginLeft: 6;"
+                                   " qproperty-layoutSpacing: 7; }"));
             } else {
-                button.ensurePolished();
+                owner->ensurePolished();
             }
         }
-        button.show();
+        owner->show();
         // No event loop has run.
+        QCOMPARE(layout->spacing(), 7);
         QCOMPARE(layout->contentsMargins(), QMargins(6, 0, 0, 0));
         QCOMPARE(child->x(), 6);
     }
