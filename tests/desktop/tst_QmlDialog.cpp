@@ -215,37 +215,31 @@ private Q_SLOTS:
         }
     }
 
-    void parentOnAnotherScreen()
+    void isOnTheUsersScreen_data()
     {
-        const auto screens = QGuiApplication::screens();
-        QCOMPARE(screens.size(), 2);
-        for (QScreen* const screen : screens) {
-            openPage(QStringLiteral("dark"), screen->geometry().topLeft() + QPoint(40, 40));
-            write(QStringLiteral(
-                "import QtQuick 2.15\nRectangle { width: 201; height: 101; color: '#00a0a0' }"));
-            QVERIFY(runs([this, screen](SceneDialog* dialog) {
-                const QWidget* const page = m_window->page();
-                QCOMPARE(dialog->pos(), page->mapToGlobal(page->rect().center()) - QPoint(100, 50));
-                QCOMPARE(dialog->screen(), screen);
-                QTRY_COMPARE(RealInput::pixel(page, page->rect().center()), QColor(0, 0xa0, 0xa0));
-                QVERIFY(RealInput::key(QStringLiteral("Escape")));
-            }));
-        }
+        QTest::addColumn<bool>("hasParent");
+        QTest::newRow("with a parent") << true;
+        QTest::newRow("without a parent") << false;
     }
 
     // On the screen of the window that the user was in.
-    void withoutAParent()
+    void isOnTheUsersScreen()
     {
+        QFETCH(bool, hasParent);
         const auto screens = QGuiApplication::screens();
         QCOMPARE(screens.size(), 2);
         for (QScreen* const screen : screens) {
             openPage(QStringLiteral("dark"), screen->geometry().topLeft() + QPoint(40, 40));
             write(QStringLiteral(
                 "import QtQuick 2.15\nRectangle { width: 201; height: 101; color: '#00a0a0' }"));
-            m_window->page()->properties()->findChild<QCheckBox*>()->setChecked(false);
-            QVERIFY(runs([screen](SceneDialog* dialog) {
-                QVERIFY(!dialog->parentWidget());
-                QCOMPARE(dialog->pos(), screen->availableGeometry().center() - QPoint(100, 50));
+            m_window->page()->properties()->findChild<QCheckBox*>()->setChecked(hasParent);
+            QVERIFY(runs([this, screen, hasParent](SceneDialog* dialog) {
+                const QWidget* const page = m_window->page();
+                QCOMPARE(dialog->parentWidget() != nullptr, hasParent);
+                QVERIFY(!hasParent || dialog->screen() == screen);
+                QCOMPARE(dialog->pos(), (hasParent ? page->mapToGlobal(page->rect().center())
+                                                   : screen->availableGeometry().center()) -
+                                            QPoint(100, 50));
                 QTRY_COMPARE(RealInput::pixel(dialog, QPoint(100, 50)), QColor(0, 0xa0, 0xa0));
                 QVERIFY(RealInput::key(QStringLiteral("Escape")));
             }));
