@@ -476,45 +476,18 @@ const Kind& kindOf(const QWidget* widget)
 }
 
 // What follows from other properties, from the layout and the sheet, or is the state of the moment.
-const char* const leftOut[] = {
-    "geometry",
-    "pos",
-    "size",
-    "minimumWidth",
-    "minimumHeight",
-    "maximumWidth",
-    "maximumHeight",
-    "font",
-    "locale",
-    "visible",
-    "palette",
-    "layoutDirection",
-    "styleSheet",
-    "sliderPosition",
-    "currentText",
-    "cursorPosition",
-    "modified",
-    "down",
-    "modelColumn",
-    "windowTitle",
-    "accessibleDescription",
-    "enabled",
-    "windowModified",
-};
+const char* const leftOut =
+    "geometry pos size minimumWidth minimumHeight maximumWidth maximumHeight font locale visible "
+    "palette layoutDirection styleSheet sliderPosition currentText cursorPosition modified down "
+    "modelColumn windowTitle accessibleDescription enabled windowModified";
 
 // Properties without a setter of their own.
-const char* const withoutSetter[] = {
-    "PlaceholderColor",
-    "PlaceholderHoverColor",
-    "PlaceholderDisabledColor",
-    "popupOffset",
-};
+const char* const withoutSetter =
+    "PlaceholderColor PlaceholderHoverColor PlaceholderDisabledColor popupOffset";
 
-template <std::size_t size>
-bool contains(const char* const (&names)[size], const char* name)
+bool contains(const char* names, const char* name)
 {
-    return std::any_of(std::begin(names), std::end(names),
-                       [name](const char* other) { return qstrcmp(name, other) == 0; });
+    return QByteArray(names).split(' ').contains(name);
 }
 
 // ---- The text ----

@@ -213,39 +213,15 @@ QVector<PageInfo> PageRegistry::pages()
             "QuickDialog QuickContent SheetColors", &qmlDialog),
         row("services", PageGroup::Services, tr("Platform services"),
             tr("The functions and classes below the components, with their live results."),
-            {tr("File sizes"),
-             tr("Paths"),
-             tr("Own colours and folders"),
-             tr("Scheduler"),
-             tr("Headings"),
-             tr("Languages"),
-             tr("Privacy access"),
-             tr("Focus of hosted QML"),
-             tr("bytes"),
-             tr("unit"),
-             QStringLiteral("KB"),
-             QStringLiteral("MB"),
-             QStringLiteral("GB"),
-             tr("folder"),
-             tr("file"),
-             tr("permission"),
-             tr("validity"),
-             tr("colour"),
-             tr("store"),
-             tr("computer"),
-             tr("timer"),
-             tr("delay"),
-             tr("merge"),
-             tr("burst"),
-             tr("bold"),
-             tr("language"),
-             tr("script"),
-             QStringLiteral("localeDependedBoldText"),
-             tr("screen"),
-             tr("capture"),
-             tr("keyboard"),
-             tr("dialog"),
-             QStringLiteral("QML")},
+            QStringList() << tr("File sizes") << tr("Paths") << tr("Own colours and folders")
+                          << tr("Scheduler") << tr("Headings") << tr("Languages") << tr("Privacy access")
+                          << tr("Focus of hosted QML") << tr("bytes") << tr("unit") << QStringLiteral("KB")
+                          << QStringLiteral("MB") << QStringLiteral("GB") << tr("folder") << tr("file")
+                          << tr("permission") << tr("validity") << tr("colour") << tr("store")
+                          << tr("computer") << tr("timer") << tr("delay") << tr("merge") << tr("burst")
+                          << tr("bold") << tr("language") << tr("script")
+                          << QStringLiteral("localeDependedBoldText") << tr("screen") << tr("capture")
+                          << tr("keyboard") << tr("dialog") << QStringLiteral("QML"),
             "FormatFileSize FileUtil FS Settings SettingsStore StandardFolderUrls CustomColors Scheduler "
             "Customization PrivacyAccess QmlWindowFocusWorkaround Translations",
             &services),

@@ -161,55 +161,24 @@ private:
 
     void pressKey()
     {
-        struct Key
-        {
-            int key;
-            Qt::KeyboardModifiers modifiers;
-        };
-        static const std::vector<Key> keys = {{Qt::Key_Tab, {}},
-                                              {Qt::Key_Backtab, Qt::ShiftModifier},
-                                              {Qt::Key_Return, {}},
-                                              {Qt::Key_Escape, {}},
-                                              {Qt::Key_Space, {}},
-                                              {Qt::Key_Up, {}},
-                                              {Qt::Key_Down, {}},
-                                              {Qt::Key_Left, {}},
-                                              {Qt::Key_Right, {}},
-                                              {Qt::Key_PageUp, {}},
-                                              {Qt::Key_Home, {}},
-                                              {Qt::Key_End, {}},
-                                              {Qt::Key_Delete, {}},
-                                              {Qt::Key_Backspace, {}},
-                                              {Qt::Key_F1, {}},
-                                              {Qt::Key_F4, {}},
-                                              {Qt::Key_0, {}},
-                                              {Qt::Key_7, {}},
-                                              {Qt::Key_Minus, {}},
-                                              {Qt::Key_Period, {}},
-                                              {Qt::Key_A, {}},
-                                              {Qt::Key_F, {}},
-                                              {Qt::Key_A, Qt::ControlModifier},
-                                              {Qt::Key_C, Qt::ControlModifier},
-                                              {Qt::Key_V, Qt::ControlModifier},
-                                              {Qt::Key_X, Qt::ControlModifier},
-                                              {Qt::Key_N, Qt::ControlModifier},
-                                              {Qt::Key_S, Qt::ControlModifier},
-                                              {Qt::Key_Z, Qt::ControlModifier},
-                                              {Qt::Key_Z, Qt::ControlModifier},
-                                              {Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier},
-                                              {Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier}};
-        const Key key = m_random.oneOf(keys);
+        const auto keys = QString::fromLatin1(
+                              "Tab Shift+Backtab Return Esc Space Up Down Left Right PgUp Home End Del "
+                              "Backspace F1 F4 0 7 - . A F Ctrl+A Ctrl+C Ctrl+V Ctrl+X Ctrl+N Ctrl+S Ctrl+Z "
+                              "Ctrl+Z Ctrl+Shift+Z Ctrl+Shift+E")
+                              .split(QLatin1Char(' '));
+        const int combination =
+            QKeySequence(keys.at(m_random.below(keys.size())), QKeySequence::PortableText)[0];
+        const Qt::KeyboardModifiers modifiers(combination & Qt::KeyboardModifierMask);
+        const int key = combination & ~Qt::KeyboardModifierMask;
         const QPointer<QWindow> window = QGuiApplication::focusWindow();
-        const QString text =
-            key.key <= Qt::Key_Z && !key.modifiers ? QString(QChar(key.key)).toLower() : QString();
+        const QString text = key <= Qt::Key_Z && !modifiers ? QString(QChar(key)).toLower() : QString();
         if (window &&
-            !qt_sendShortcutOverrideEvent(window, ulong(m_time += 200), key.key, key.modifiers, text, false,
-                                          1) &&
+            !qt_sendShortcutOverrideEvent(window, ulong(m_time += 200), key, modifiers, text, false, 1) &&
             window) {
-            qt_handleKeyEvent(window, QEvent::KeyPress, Qt::Key(key.key), key.modifiers, text);
+            qt_handleKeyEvent(window, QEvent::KeyPress, Qt::Key(key), modifiers, text);
         }
         if (window) {
-            qt_handleKeyEvent(window, QEvent::KeyRelease, Qt::Key(key.key), key.modifiers, text);
+            qt_handleKeyEvent(window, QEvent::KeyRelease, Qt::Key(key), modifiers, text);
         }
     }
 
