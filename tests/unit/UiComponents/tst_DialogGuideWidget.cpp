@@ -102,7 +102,6 @@ struct Stage
     QPointer<Bubble> bubble;
 };
 
-/// The height that a text of @p label needs at @p width by itself.
 } // namespace
 
 Q_DECLARE_METATYPE(DialogGuideInfo)
