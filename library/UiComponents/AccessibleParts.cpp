@@ -337,9 +337,12 @@ void* AccessibleSlider::interface_cast(QAccessible::InterfaceType type)
 
 QString AccessibleSlider::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Value
-               ? QLocale().toString(currentValue().toDouble(), 'f', QLocale::FloatingPointShortest)
-               : AccessiblePart::text(kind);
+    if (kind != QAccessible::Value) {
+        return AccessiblePart::text(kind);
+    }
+    const double value = currentValue().toDouble();
+    // Six digits, and never an exponent.
+    return qAbs(value) < 1e6 ? QLocale().toString(value) : QLocale().toString(qRound64(value));
 }
 
 QVariant AccessibleSlider::currentValue() const

@@ -26,9 +26,12 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Value
-                   ? QLocale().toString(slider()->doubleValue(), 'f', QLocale::FloatingPointShortest)
-                   : QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Value) {
+            return QAccessibleWidget::text(kind);
+        }
+        const double value = slider()->doubleValue();
+        // Six digits, and never an exponent.
+        return qAbs(value) < 1e6 ? QLocale().toString(value) : QLocale().toString(qRound64(value));
     }
 
     QVariant currentValue() const override { return slider()->doubleValue(); }

@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(slider.doubleValue(), 0.7);
         slider.setRange(0, 2000000000);
         slider.setDoubleValue(1234567.25);
-        QCOMPARE(interface.text(QAccessible::Value), QLocale().toString(1234567.25, 'f', 2));
+        QCOMPARE(interface.text(QAccessible::Value), QLocale().toString(1234567));
     }
 
     void changesAreAnnouncedOnce_data()
