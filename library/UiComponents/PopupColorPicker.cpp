@@ -100,14 +100,20 @@ public:
     void finish();
 
     QWidget* field() const { return qobject_cast<QWidget*>(q->parent()); }
+    /// The value of the button that has this picker.
+    std::optional<QColor> fieldColor() const
+    {
+        const auto* const button = qobject_cast<ColorPickerButton*>(q->parent());
+        return button && button->picker() == q ? button->color() : current;
+    }
     /// Takes over what the host has set meanwhile, which the button does not report if it is several colours.
     void askField()
     {
-        const auto* const button = qobject_cast<ColorPickerButton*>(q->parent());
-        if (button && current != button->color()) {
-            start = current = button->color();
+        if (current != fieldColor()) {
+            start = current = fieldColor();
         }
     }
+    void report(std::optional<QColor> color);
 
     PopupColorPicker* const q;
     Options options;
@@ -122,6 +128,7 @@ public:
     State state = State::Idle;
     bool isCancelled = false;
     bool isShowingColor = false;
+    bool isReporting = false;
 };
 
 /// The panel in its window, for whichever picker uses it. Its class name is OvFrame's.
@@ -313,6 +320,20 @@ void PopupColorPicker::Private::showPipetteState() const
     }
 }
 
+/// What a slot answers is no value of the host's own: Escape brings back the one from before.
+void PopupColorPicker::Private::report(std::optional<QColor> color)
+{
+    const QPointer<PopupColorPicker> self(q);
+    current = color;
+    {
+        const auto reporting = scopedChange(isReporting, true, q);
+        Q_EMIT q->colorChanged(color);
+    }
+    if (self) {
+        current = fieldColor();
+    }
+}
+
 void PopupColorPicker::Private::preview(const QColor& color)
 {
     if (isShowingColor || isCancelled) {
@@ -320,8 +341,7 @@ void PopupColorPicker::Private::preview(const QColor& color)
     }
     askField();
     if (current != color) {
-        current = color;
-        Q_EMIT q->colorChanged(color);
+        report(color);
     }
 }
 
@@ -381,8 +401,7 @@ void PopupColorPicker::Private::takeSample(const std::optional<QColor>& color)
         taken->setAlpha(current->alpha());
     }
     if (taken != current) {
-        current = taken;
-        Q_EMIT q->colorChanged(taken);
+        report(taken);
     }
 }
 
@@ -427,8 +446,7 @@ void PopupColorPicker::Private::cancel()
     isCancelled = true;
     askField();
     if (current != start) {
-        current = start;
-        Q_EMIT q->colorChanged(start);
+        report(start);
     }
     if (self) {
         closePopup();
@@ -551,7 +569,9 @@ void PopupColorPicker::setColor(const std::optional<QColor>& color)
     }
     d->current = color;
     if (isInProgress() && !d->isCancelled) {
-        d->start = color;
+        if (!d->isReporting) {
+            d->start = color;
+        }
         d->showColor();
     }
 }

@@ -16,8 +16,8 @@ class ColorPickerWidget;
  * field's at once. A click elsewhere, Enter and stop() keep it; Escape brings back the value from before,
  * several colours and no colour included. A pick without a choice ends with exactly that value too: the
  * picker asks the ColorPickerButton, its parent, for it when the pick begins, and again with each choice and
- * at the end for what the host has set meanwhile, which then is the value that Escape brings back. A click on
- * the field closes the pop-up.
+ * at the end for what the host has set in between, which then is the value that Escape brings back; what a
+ * slot answers to a choice is not. A click on the field closes the pop-up.
  * While the panel has its selector open, these close that one first, except stop().
  *
  * The panel's pipette button hides the pop-up and picks from the screen with a Pipette, or with the

@@ -291,6 +291,36 @@ private Q_SLOTS:
         QCOMPARE(m_button->color(), Color());
     }
 
+    void escapeBringsBackWhatWasBeforeAnswers_data()
+    {
+        QTest::addColumn<Color>("answer");
+        QTest::addColumn<bool>("isTold");
+        QTest::newRow("another colour") << Color(QColor(1, 2, 3)) << true;
+        QTest::newRow("another colour, in silence") << Color(QColor(1, 2, 3)) << false;
+        QTest::newRow("several colours") << Color() << true;
+    }
+
+    // Such as a host that takes the nearest colour that it can use.
+    void escapeBringsBackWhatWasBeforeAnswers()
+    {
+        QFETCH(Color, answer);
+        QFETCH(bool, isTold);
+        const Color before = m_button->color();
+        const auto answering = connect(m_button, &ColorPickerButton::colorChanged, this, [&] {
+            const QSignalBlocker blocker(isTold ? nullptr : m_button);
+            m_button->setColor(answer);
+        });
+        m_button->startPicking();
+        for (const char* const chosen : {amberName, greenName}) {
+            paletteButton(chosen)->click();
+            QCOMPARE(m_button->color(), answer);
+        }
+        disconnect(answering);
+        QTest::keyClick(popup()->windowHandle(), Qt::Key_Escape);
+        QTRY_VERIFY(!m_picker->isInProgress());
+        QCOMPARE(m_button->color(), before);
+    }
+
     // A host that shows its selection again when a pick is over: the first one's colour, then several.
     void aColorSetAtTheEndIsKept()
     {
@@ -763,6 +793,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("signal");
         QTest::addColumn<Action>("cause");
         QTest::addColumn<Action>("remove");
+        QTest::addColumn<bool>("isChosen"); // another colour, before
         const QVector<QPair<const char*, Action>> victims = {
             {"field", [this] { delete m_button; }},
             {"picker", [this] { m_button->setPicker(new PopupColorPicker); }},
@@ -775,21 +806,15 @@ private Q_SLOTS:
             // A checked button that is deleted in its own signal crashes inside Qt, hence the edit.
             QTest::addRow("%s, in a preview", victim) << changed << Action([this] {
                 QTest::keyClicks(child<QLineEdit>("currentColorValueEdit"), "#123456");
-            }) << remove;
+            }) << remove << false;
             QTest::addRow("%s, at the end by Escape", victim)
                 << stopped << Action([this] { QTest::keyPress(popup()->windowHandle(), Qt::Key_Escape); })
-                << remove;
+                << remove << false;
             QTest::addRow("%s, at the end by a click", victim)
-                << stopped << Action([this] { clickElsewhere(); }) << remove;
-            QTest::addRow("%s, when Escape brings the colour back", victim) << changed << Action([this] {
-                {
-                    const QSignalBlocker blocker(m_picker);
-                    const QSignalBlocker buttonBlocker(m_button);
-                    paletteButton(amberName)->click();
-                    m_button->setColor(m_picker->color());
-                }
-                QTest::keyPress(popup()->windowHandle(), Qt::Key_Escape);
-            }) << remove;
+                << stopped << Action([this] { clickElsewhere(); }) << remove << false;
+            QTest::addRow("%s, when Escape brings the colour back", victim)
+                << changed << Action([this] { QTest::keyPress(popup()->windowHandle(), Qt::Key_Escape); })
+                << remove << true;
             QTest::addRow("%s, by a colour of the pipette", victim) << changed << Action([this] {
                 const QPointer<FakeColorPicker> pipette = new FakeColorPicker(m_button);
                 pipette->onPick = [pipette] {
@@ -800,11 +825,11 @@ private Q_SLOTS:
                 };
                 m_picker->setPipette(pipette);
                 QTest::mouseClick(child<QToolButton>("pipetteButton"), Qt::LeftButton);
-            }) << remove;
+            }) << remove << false;
             QTest::addRow("%s, by the colour that closing adds", victim) << changed << Action([this] {
                 child<QToolButton>("addCustomColorButton")->click();
                 m_picker->stop();
-            }) << remove;
+            }) << remove << false;
         }
     }
 
@@ -813,12 +838,16 @@ private Q_SLOTS:
         QFETCH(QByteArray, signal);
         QFETCH(Action, cause);
         QFETCH(Action, remove);
+        QFETCH(bool, isChosen);
         m_button->setColor(QColor(12, 34, 56, 100));
         // Without opacity the button of a colour that closing adds reports it opaque.
         m_picker->setOptions({false, false, true});
         m_button->startPicking();
         QVERIFY(QTest::qWaitForWindowExposed(popup()));
         child<QLineEdit>("currentColorValueEdit")->clear();
+        if (isChosen) {
+            paletteButton(amberName)->click();
+        }
         const QPointer<QWidget> open = popup();
         Trigger trigger(remove);
         QVERIFY(connect(m_picker, signal.constData(), &trigger, SLOT(run())));
