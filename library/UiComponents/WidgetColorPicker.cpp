@@ -142,11 +142,6 @@ void WidgetColorPicker::Private::removeOutline(Run& of)
 void WidgetColorPicker::Private::pick()
 {
     Run thisRun;
-    if (!run) {
-        // Of an earlier pick. What has just ended the one around this knows the place.
-        mouse = QCursor::pos();
-        windowShift = QPointF();
-    }
     run = &thisRun;
     qGuiApp->installEventFilter(q);
     // The host's code runs in both of these.

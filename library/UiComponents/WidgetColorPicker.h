@@ -29,9 +29,9 @@ class WidgetColorPickerStylingObject;
  * if what ended it then closes or moves the target. The outermost 8 points are read from a picture taken
  * before the outline covered them; a sheet's wider outline may be picked itself. Where the target has moved
  * since, they are the colours that the target itself paints, and so is all of it where the platform gives no
- * picture of the screen (as plain Wayland; Xwayland may give a black one). A mouse event tells the pixel
- * where the screen has several for a point; a key before it picks the first one of the point next to the
- * cursor.
+ * picture of the screen (as plain Wayland; Xwayland may give a black one). A mouse event, of an earlier
+ * pick too, tells the pixel where the screen has several for a point; a key before it picks the first one of
+ * the point next to the cursor.
  *
  * **Without a mouse.** Nothing can be picked, as any key ends a pick: offer a ColorPickerWidget too, whose
  * edit takes every colour by its digits, and whose selector's plane takes keys.
