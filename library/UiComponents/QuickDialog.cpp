@@ -205,11 +205,12 @@ int Qml::QuickDialog::exec()
     });
     d->moveToMiddle(container);
     const PlaceKeeper place(this);
-    // Queued, since the dialog's destructor deletes the container as well.
+    // Queued, since the dialog's destructor deletes the container as well. What else ends the dialog hides
+    // it.
     connect(
         container, &QObject::destroyed, &watch,
         [self] {
-            if (self) {
+            if (self && self->isVisible()) {
                 self->reject();
             }
         },

@@ -715,6 +715,15 @@ private Q_SLOTS:
             QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
         });
         row("container deleted", 0, [](FormDialog* dialog) { delete dialog->container(); });
+        row("container deleted, and done", 3, [](FormDialog* dialog) {
+            connect(dialog, &QDialog::finished, dialog, [dialog](int result) {
+                QCOMPARE(result, 3);
+                QCoreApplication::processEvents();
+                QCOMPARE(dialog->result(), 3);
+            });
+            delete dialog->container();
+            dialog->done(3);
+        });
         row("container taken away", 1, [](FormDialog* dialog) {
             dialog->container()->setParent(dialog->parentWidget());
             dialog->accept();
