@@ -680,7 +680,7 @@ void EditSession::Private::cancel()
         return;
     }
     const QPointer<EditSession> self(q);
-    const QVariant old = isActive ? start : last;
+    const QVariant old = isActive ? start : access.read();
     ++holds;
     letGo();
     if (self) {

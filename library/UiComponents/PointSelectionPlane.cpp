@@ -222,8 +222,11 @@ void PointSelectionPlane::changeEvent(QEvent* event)
             d->stop();
         }
         // Qt does not apply qproperty values of other states by itself.
+        const QColor before = d->style->fillColor();
         Util::repolishWidget(d->style);
-        d->background = d->style->fillColor();
+        if (d->style->fillColor() != before) {
+            d->background = d->style->fillColor();
+        }
     } else if (event->type() == QEvent::StyleChange) {
         // Qt may polish the plane under a new sheet before its children.
         Util::repolishWidget(d->style);

@@ -1712,14 +1712,27 @@ private Q_SLOTS:
         QCOMPARE(lines, QStringList());
     }
 
-    // The button reports several colours to nobody.
-    void cancelWithoutASession()
+    void cancelWithoutAnEdit_data()
     {
+        QTest::addColumn<bool>("isPicking");
+        QTest::newRow("at rest") << false;
+        QTest::newRow("while a colour is picked") << true;
+    }
+
+    // The button reports several colours to nobody.
+    void cancelWithoutAnEdit()
+    {
+        QFETCH(bool, isPicking);
         ColorPickerButton button;
+        button.setPicker(new FakeColorPicker);
         button.setColor(Qt::red);
         EditSession session(&button);
+        if (isPicking) {
+            button.startPicking();
+        }
         button.setColor(std::nullopt);
         session.cancel();
+        QVERIFY(!button.isPickingInProgress());
         QCOMPARE(button.color(), Color());
     }
 

@@ -547,6 +547,8 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&plane));
         QCOMPARE(paintsOf(plane, [&] { plane.style->setFillColor(Qt::red); }), 0);
         QCOMPARE(pictureOf(plane), before);
+        plane.setEnabled(false);
+        QCOMPARE(pictureOf(plane), before);
         plane.resize(120, 60);
         QCOMPARE(pictureOf(plane).pixelColor(3, 3), QColor(Qt::red));
         plane.style->setFillColor(Qt::green);
