@@ -21,6 +21,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 using AccessibleNames::sentences;
@@ -341,8 +342,9 @@ QString AccessibleSlider::text(QAccessible::Text kind) const
         return AccessiblePart::text(kind);
     }
     const double value = currentValue().toDouble();
-    // Six digits, and never an exponent.
-    return qAbs(value) < 1e6 ? QLocale().toString(value) : QLocale().toString(qRound64(value));
+    // Six digits, those of whole numbers all, and never an exponent.
+    const double said = qAbs(value) < 1e6 ? QString::number(value).toDouble() : std::round(value);
+    return QLocale().toString(said, 'f', QLocale::FloatingPointShortest);
 }
 
 QVariant AccessibleSlider::currentValue() const

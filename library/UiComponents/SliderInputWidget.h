@@ -53,7 +53,7 @@ public:
     int value() const;
 
     /// Sets another range. Emits valueChanged() once if the value has to move into it, and nothing else. In a
-    /// slot of valueChanged() the value moves, and both parts report, after the slot.
+    /// slot of the first of two reports the value moves after the slot.
     void setRange(const Initializer& range);
 
     /// Sets the value, clamped to the range. Reports a change as the user's; the current value is not one.

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QScopeGuard>
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -30,8 +31,9 @@ public:
             return QAccessibleWidget::text(kind);
         }
         const double value = slider()->doubleValue();
-        // Six digits, and never an exponent.
-        return qAbs(value) < 1e6 ? QLocale().toString(value) : QLocale().toString(qRound64(value));
+        // Six digits, those of whole numbers all, and never an exponent.
+        const double said = qAbs(value) < 1e6 ? QString::number(value).toDouble() : std::round(value);
+        return QLocale().toString(said, 'f', QLocale::FloatingPointShortest);
     }
 
     QVariant currentValue() const override { return slider()->doubleValue(); }

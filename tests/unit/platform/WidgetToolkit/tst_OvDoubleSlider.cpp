@@ -56,8 +56,15 @@ private Q_SLOTS:
         value->setCurrentValue(0.1);
         QCOMPARE(slider.doubleValue(), 0.7);
         slider.setRange(0, 2000000000);
-        slider.setDoubleValue(1234567.25);
-        QCOMPARE(interface.text(QAccessible::Value), QLocale().toString(1234567));
+        for (const auto& [number, text] :
+             {std::pair(1234567.25, "1,234,567"), std::pair(999999.75, "1,000,000"),
+              std::pair(2.0 / 3, "0.666667")}) {
+            slider.setDoubleValue(number);
+            QCOMPARE(interface.text(QAccessible::Value), QString::fromLatin1(text));
+        }
+        slider.setMultiplier(1e-6);
+        slider.setDoubleValue(0.00005);
+        QCOMPARE(interface.text(QAccessible::Value), QStringLiteral("0.00005"));
     }
 
     void changesAreAnnouncedOnce_data()
